@@ -1,0 +1,64 @@
+# One function to add a library, one to add a test; both link the common warnings.
+
+add_library(skyquill_warnings INTERFACE)
+target_compile_options(skyquill_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef
+    $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override -Wduplicated-cond -Wlogical-op>
+    $<$<BOOL:${SKYQUILL_WERROR}>:-Werror>)
+target_compile_features(skyquill_warnings INTERFACE cxx_std_20)
+target_compile_definitions(skyquill_warnings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
+    QT_DEPRECATED_WARNINGS QT_STRICT_ITERATORS)
+if(SKYQUILL_SANITIZE)
+    target_compile_options(skyquill_warnings INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(skyquill_warnings INTERFACE -fsanitize=address,undefined)
+endif()
+if(SKYQUILL_FUZZ)
+    target_compile_options(skyquill_warnings INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+    target_link_options(skyquill_warnings INTERFACE -fsanitize=address,undefined)
+endif()
+
+# skyquill_add_library(NAME SOURCES a.cpp ... LINKS lib ... [PRIVATE_LINKS lib ...])
+# Includes are written from the repository root ("app/protocol/Events.h") or, for the platform,
+# from platform/ ("lum_sdk/Transform.h").
+function(skyquill_add_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}" "${CMAKE_SOURCE_DIR}/platform")
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS} skyquill_warnings)
+    skyquill_qt_defaults(${name})
+endfunction()
+
+# skyquill_add_test(NAME SOURCES a.cpp ... LINKS lib ...): GoogleTest without an application.
+function(skyquill_add_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    find_package(GTest REQUIRED)
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest_main skyquill_warnings)
+    skyquill_qt_defaults(${name})
+    include(GoogleTest)
+    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
+        PROPERTIES ENVIRONMENT "${SKYQUILL_TEST_ENVIRONMENT}" TIMEOUT 120)
+endfunction()
+
+# skyquill_add_qt_test(NAME SOURCES a.cpp ... LINKS lib ...): one Qt Test class, offscreen.
+function(skyquill_add_qt_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test skyquill_warnings)
+    skyquill_qt_defaults(${name})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "${SKYQUILL_TEST_ENVIRONMENT}" TIMEOUT 300)
+endfunction()
+
+function(skyquill_qt_defaults name)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
+    get_target_property(links ${name} LINK_LIBRARIES)
+    if(SKYQUILL_PCH AND "${links}" MATCHES "Qt5::(Widgets|Test)|lum_desktop_sdkx")
+        target_precompile_headers(${name} PRIVATE <QtWidgets> <memory> <string> <vector>)
+    endif()
+endfunction()
