@@ -1,0 +1,127 @@
+#include "basalt_utilities/ILogger.h"
+#include "basalt_utilities/Paths.h"
+
+#include <spdlog/sinks/dup_filter_sink.h>
+#include <spdlog/sinks/rotating_file_sink.h>
+#include <spdlog/sinks/stdout_sinks.h>
+#include <spdlog/spdlog.h>
+
+#include <cstdio>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t kFileBytes = 2U * 1024U * 1024U;
+constexpr std::size_t kOldFiles = 4;
+constexpr std::chrono::seconds kRepeatWindow{5};
+
+spdlog::level::level_enum toSpdlog(ILogger::Level level)
+{
+    switch (level) {
+    case ILogger::Level::Debug:
+        return spdlog::level::debug;
+    case ILogger::Level::Info:
+        return spdlog::level::info;
+    case ILogger::Level::Warning:
+        return spdlog::level::warn;
+    case ILogger::Level::Error:
+        break;
+    }
+    return spdlog::level::err;
+}
+
+class Logger final : public ILogger
+{
+public:
+    Logger()
+    {
+        const auto sinks = std::make_shared<spdlog::sinks::dup_filter_sink_mt>(kRepeatWindow);
+        const auto console = std::make_shared<spdlog::sinks::stderr_sink_mt>();
+        console->set_level(spdlog::level::warn);
+        console->set_pattern("%l: %v");
+        sinks->add_sink(console);
+        std::string problem;
+        try {
+            const std::string path = basalt::stateFolder() + "/skyquill.log";
+            const auto file =
+                std::make_shared<spdlog::sinks::rotating_file_sink_mt>(path, kFileBytes, kOldFiles);
+            file->set_pattern("%Y-%m-%d %H:%M:%S.%e %l %v");
+            sinks->add_sink(file);
+        } catch (const std::exception& fault) { // a library's exception ends here
+            problem = fault.what();
+        }
+        m_logger = std::make_unique<spdlog::logger>("skyquill", sinks);
+        m_logger->set_level(spdlog::level::debug);
+        m_logger->flush_on(spdlog::level::warn);
+        m_logger->set_error_handler([](const std::string&) {}); // a full disk must not spam
+        if (!problem.empty())
+            write(Level::Warning, "No log file, writing to standard error only: " + problem);
+    }
+
+    void write(Level level, std::string_view line) override
+    {
+        m_logger->log(toSpdlog(level), spdlog::string_view_t(line.data(), line.size()));
+        const std::lock_guard lock(m_listenerMutex);
+        if (m_listener != nullptr)
+            m_listener(m_listenerContext, level, line);
+    }
+
+    void flush() override { m_logger->flush(); }
+
+    void setListener(basalt::LogListener listener, void* context)
+    {
+        const std::lock_guard lock(m_listenerMutex);
+        m_listener = listener;
+        m_listenerContext = context;
+    }
+
+private:
+    std::unique_ptr<spdlog::logger> m_logger;
+    std::mutex m_listenerMutex;
+    basalt::LogListener m_listener = nullptr;
+    void* m_listenerContext = nullptr;
+};
+
+Logger& logger()
+{
+    static Logger instance;
+    return instance;
+}
+
+} // namespace
+
+ILogger* rism_logger_get_instance()
+{
+    return &logger();
+}
+
+namespace basalt {
+
+void logDebug(std::string_view line)
+{
+    logger().write(ILogger::Level::Debug, line);
+}
+
+void logInfo(std::string_view line)
+{
+    logger().write(ILogger::Level::Info, line);
+}
+
+void logWarning(std::string_view line)
+{
+    logger().write(ILogger::Level::Warning, line);
+}
+
+void logError(std::string_view line)
+{
+    logger().write(ILogger::Level::Error, line);
+}
+
+void setLogListener(LogListener listener, void* context)
+{
+    logger().setListener(listener, context);
+}
+
+} // namespace basalt

@@ -1,0 +1,70 @@
+#include "basalt_utilities/Paths.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+constexpr std::string_view kAppDir = "$(APP_DIR)";
+
+std::string executableFolder()
+{
+    std::error_code fault;
+    const auto self = std::filesystem::read_symlink("/proc/self/exe", fault);
+    return fault ? std::string(".") : self.parent_path().string();
+}
+
+std::string userFolder(const char* variable, const char* below)
+{
+    const char* folder = std::getenv(variable);
+    std::filesystem::path base;
+    if (folder != nullptr && folder[0] == '/') { // relative ones are invalid by the XDG rules
+        base = folder;
+    } else {
+        const char* home = std::getenv("HOME");
+        base = std::filesystem::path(home != nullptr ? home : "/tmp") / below;
+    }
+    return (base / "Tarvona" / "Skyquill").string();
+}
+
+} // namespace
+
+bool process_resolve_path(std::string_view path, char* buffer, std::size_t size)
+{
+    const std::string resolved = basalt::resolvedPath(path);
+    if (size == 0)
+        return false;
+    buffer[0] = '\0';
+    if (resolved.size() >= size)
+        return false;
+    std::memcpy(buffer, resolved.c_str(), resolved.size() + 1);
+    return true;
+}
+
+namespace basalt {
+
+std::string resolvedPath(std::string_view path)
+{
+    std::string text(path);
+    for (std::size_t at = text.find(kAppDir); at != std::string::npos;
+         at = text.find(kAppDir, at)) {
+        const std::string folder = executableFolder();
+        text.replace(at, kAppDir.size(), folder);
+        at += folder.size();
+    }
+    return std::filesystem::path(text).lexically_normal().string();
+}
+
+std::string stateFolder()
+{
+    return userFolder("XDG_STATE_HOME", ".local/state");
+}
+
+std::string settingsFolder()
+{
+    return userFolder("XDG_CONFIG_HOME", ".config");
+}
+
+} // namespace basalt
