@@ -1,0 +1,14 @@
+#pragma once
+
+class IEventManager;
+
+/// What the platform offers to every component, window or not. It outlives them all.
+class IHost
+{
+public:
+    virtual ~IHost() = default;
+    [[nodiscard]] virtual IEventManager& eventManager() = 0;
+};
+
+/// The event manager of the GUI thread.
+[[nodiscard]] IEventManager* controller_event_manager_onqt_get_instance(IHost* host);
