@@ -1,0 +1,55 @@
+#include "app/protocol/Payloads.h"
+
+#include "basalt_utilities/KeyList.h"
+#include "basalt_utilities/Numbers.h"
+
+#include <QString>
+
+namespace {
+
+QByteArray quoted(const QString& text)
+{
+    return QByteArray::fromStdString(basalt::quotedValue(text.toStdString()));
+}
+
+} // namespace
+
+namespace payload {
+
+std::string progress(std::string_view caption, double percent)
+{
+    return "text=" + basalt::quotedValue(caption) + ",value=" + basalt::formatGeneral(percent) +
+           ",is_exec=0";
+}
+
+std::string busy(std::string_view caption)
+{
+    return "text=" + basalt::quotedValue(caption) + ",scroll=1";
+}
+
+std::string position(double north, double east)
+{
+    return "N=" + basalt::formatShortest(north) + " E=" + basalt::formatShortest(east);
+}
+
+QByteArray line(const QString& lineNumber)
+{
+    return "line_num=" + quoted(lineNumber);
+}
+
+QByteArray linePoint(const QString& lineNumber, const QString& pointNumber)
+{
+    return line(lineNumber) + ",point_num=" + quoted(pointNumber);
+}
+
+QByteArray selectedPoint(const QString& pointNumber, const QString& lineNumber)
+{
+    return "pointName=" + quoted(pointNumber) + ",lineName=" + quoted(lineNumber);
+}
+
+QByteArray station(int index)
+{
+    return "stationId=" + QByteArray::number(index);
+}
+
+} // namespace payload

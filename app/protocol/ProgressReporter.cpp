@@ -1,0 +1,43 @@
+#include "app/protocol/ProgressReporter.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/Payloads.h"
+#include "lum_sdk/IEventManager.h"
+
+ProgressReporter::ProgressReporter(IEventManager* manager) : m_manager(manager) {}
+
+ProgressReporter::~ProgressReporter()
+{
+    finish();
+}
+
+void ProgressReporter::report(const QString& caption, double percent)
+{
+    publish(payload::progress(caption.toStdString(), percent));
+}
+
+void ProgressReporter::report(const QString& caption, std::size_t done, std::size_t total)
+{
+    const double percent =
+        total == 0 ? 100.0 : static_cast<double>(done) * 100.0 / static_cast<double>(total);
+    report(caption, percent);
+}
+
+void ProgressReporter::busy(const QString& caption)
+{
+    publish(payload::busy(caption.toStdString()));
+}
+
+void ProgressReporter::finish()
+{
+    if (m_isShown && m_manager != nullptr)
+        m_manager->publish(events::kProgress, payload::kProgressEnd, 0);
+    m_isShown = false;
+}
+
+void ProgressReporter::publish(const std::string& text)
+{
+    m_isShown = true;
+    if (m_manager != nullptr)
+        m_manager->publish(events::kProgress, text.c_str(), 0);
+}
