@@ -1,0 +1,28 @@
+#pragma once
+
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/ICommandExecuterx.h"
+
+class IDesktopHost;
+
+/// A command with the answers that most commands give: always enabled, never checked, the
+/// configured caption.
+class CommandExecuterxBase : public ICommandExecuterx
+{
+public:
+    /// \param config key list, the attributes of the entry in the frame's layout; may be null
+    CommandExecuterxBase(const char* config, IDesktopHost* host);
+
+    [[nodiscard]] bool isEnabled() const override { return true; }
+    [[nodiscard]] bool isChecked() const override { return false; }
+    [[nodiscard]] bool isCheckable() const override { return false; }
+    [[nodiscard]] QString caption() const override { return {}; }
+
+protected:
+    [[nodiscard]] IDesktopHost& host() const { return m_host; }
+    [[nodiscard]] const IDictionary& parameters() const { return m_parameters; }
+
+private:
+    IDesktopHost& m_host; // outlives every command
+    basalt::Dictionary m_parameters;
+};

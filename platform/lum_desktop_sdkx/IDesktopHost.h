@@ -1,0 +1,28 @@
+#pragma once
+
+#include "lum_sdk/IHost.h"
+
+#include <memory>
+#include <vector>
+
+class ICommandList;
+class ICoordTransformHelper;
+class IDictionary;
+class IGuiAssistant;
+class IWindowRegistry;
+class QWidget;
+
+/// What the desktop offers to windows, layers, commands and assistants.
+class IDesktopHost : public IHost
+{
+public:
+    [[nodiscard]] virtual IWindowRegistry& windows() = 0;
+    [[nodiscard]] virtual ICommandList& commands() = 0;
+    [[nodiscard]] virtual ICoordTransformHelper& coordTransformHelper() = 0;
+
+    /// The widget that dialogs stand over; null while there is no main frame.
+    [[nodiscard]] virtual QWidget* dialogParent() = 0;
+};
+
+/// Project plane coordinates to map coordinates and back.
+[[nodiscard]] ICoordTransformHelper* get_instance_ICoordTransformHelper(IDesktopHost* host);

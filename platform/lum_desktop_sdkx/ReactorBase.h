@@ -1,0 +1,31 @@
+#pragma once
+
+#include "lum_desktop_sdkx/IReactor.h"
+
+class IMapWindow;
+
+/// A mouse handler that leaves everything alone, but for one thing: a right click ends the tool.
+class ReactorBase : public IReactor
+{
+public:
+    explicit ReactorBase(IMapWindow* map) : m_map(*map) {}
+
+    int lButtonDown(const MouseKeyEventParameters& event) override;
+    int lButtonUp(const MouseKeyEventParameters& event) override;
+    int rButtonDown(const MouseKeyEventParameters& event) override;
+    /// Puts the map's default reactors back and announces the change of status.
+    int rButtonUp(const MouseKeyEventParameters& event) override;
+    int mButtonDown(const MouseKeyEventParameters& event) override;
+    int mButtonUp(const MouseKeyEventParameters& event) override;
+    int dblClick(const MouseKeyEventParameters& event) override;
+    int mouseMove(const MouseKeyEventParameters& event) override;
+    int mouseWheel(const MouseKeyEventParameters& event) override;
+    int keyPress(const MouseKeyEventParameters& event) override;
+    int keyRelease(const MouseKeyEventParameters& event) override;
+
+protected:
+    [[nodiscard]] IMapWindow& map() const { return m_map; }
+
+private:
+    IMapWindow& m_map; // owns the reactor
+};
