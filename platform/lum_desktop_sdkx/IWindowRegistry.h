@@ -27,6 +27,9 @@ public:
     /// \returns null, and a line in the log, when the class is not registered
     virtual IWindow* open(const QString& className, const IDictionary& parameters) = 0;
 
+    /// Puts every window back to where the layout places it.
+    virtual void resetLayout() = 0;
+
     /// The window as another face of it, such as `IMapWindow`; null when it has none.
     template <class Face>
     [[nodiscard]] Face* findAs(const QString& name) const

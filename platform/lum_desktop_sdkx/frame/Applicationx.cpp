@@ -1,0 +1,139 @@
+#include "lum_desktop_sdkx/frame/Applicationx.h"
+
+#include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/ILogger.h"
+#include "basalt_utilities/Paths.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/frame/Appearance.h"
+#include "lum_desktop_sdkx/frame/FrameComponents.h"
+#include "lum_desktop_sdkx/frame/MainFrame.h"
+#include "lum_desktop_sdkx/map/MapComponents.h"
+#include "lum_sdk/DpiScale.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <QFileInfo>
+#include <QScreen>
+#include <QTimer>
+
+#include <cstdio>
+#include <ctime>
+
+namespace {
+
+/// Attributes that Qt reads when the application object is made.
+int& prepared(int& argc)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    return argc;
+}
+
+FrameLayout loadLayout(const QString& path)
+{
+    FrameLayout layout;
+    QFile file(path);
+    const QString fault = file.open(QIODevice::ReadOnly)
+                              ? desktop::readFrameLayout(file.readAll(), layout)
+                              : file.errorString();
+    if (fault.isEmpty())
+        return layout;
+    basalt::logError("Cannot read \"" + path.toStdString() + "\": " + fault.toStdString());
+    LumMessageBox::warning(nullptr, Applicationx::tr("Skyquill"),
+                           Applicationx::tr("The window layout \"%1\" cannot be read (%2). "
+                                            "The program starts with the map alone.")
+                               .arg(path, fault));
+    return FrameLayout::minimal();
+}
+
+} // namespace
+
+Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, const char* toolPath)
+    : QApplication(prepared(argc), argv)
+{
+    setOrganizationName(QStringLiteral("Tarvona"));
+    setApplicationName(QString::fromUtf8(applicationId));
+    m_configFolder = QString::fromStdString(
+        basalt::resolvedPath(std::string("$(APP_DIR)/../etc/Tarvona/config/") + applicationId));
+    const QString tool = m_configFolder + QString::fromUtf8(toolPath);
+    m_toolFolder = QFileInfo(tool).path();
+    get_system_config_parameter().load((tool + QStringLiteral(".xml")).toStdString());
+    const std::string_view version = get_system_config_parameter().dictionary().text("version");
+    setApplicationVersion(QString::fromUtf8(version.data(), static_cast<int>(version.size())));
+    lum::setDpiScale(primaryScreen()->logicalDotsPerInch() / 96.0);
+    registerMapComponents();
+    registerFrameComponents();
+    readOptions();
+}
+
+Applicationx::~Applicationx() = default;
+
+Applicationx& Applicationx::instance()
+{
+    return *qobject_cast<Applicationx*>(QCoreApplication::instance());
+}
+
+MainFrame& Applicationx::mainFrame()
+{
+    if (!m_mainFrame) {
+        const auto setting = [](const char* key) {
+            const std::string_view text = get_system_ini_parameter().dictionary().text(key);
+            return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+        };
+        desktop::loadTranslations(setting(settings::kLanguage),
+                                  m_configFolder + QStringLiteral("/Language"));
+        desktop::applyAppearance(setting(settings::kTheme));
+        m_mainFrame = std::make_unique<MainFrame>(
+            m_host, loadLayout(m_toolFolder + QStringLiteral("/main_frame.xml")));
+        connect(m_mainFrame.get(), &MainFrame::firstShown, this, &Applicationx::reportShown);
+    }
+    return *m_mainFrame;
+}
+
+bool Applicationx::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& fault) {
+        basalt::logError(std::string("An event handler failed: ") + fault.what());
+        return false;
+    }
+}
+
+void Applicationx::readOptions()
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Stake-out data of land seismic surveys"));
+    const QCommandLineOption startupTime(QStringLiteral("startup-time"),
+                                         tr("Print the CPU time to the shown window, and leave."));
+    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
+                                        tr("Write a picture of the window to <file>, and leave."),
+                                        QStringLiteral("file"));
+    parser.addOptions({startupTime, screenshot});
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(*this);
+    m_printsStartupTime = parser.isSet(startupTime);
+    m_screenshotFile = parser.value(screenshot);
+}
+
+void Applicationx::reportShown()
+{
+    const int cpuMs = static_cast<int>(std::clock() * 1000 / CLOCKS_PER_SEC);
+    basalt::logInfo("Window shown after " + std::to_string(cpuMs) + " ms of CPU time");
+    if (m_printsStartupTime) {
+        std::printf("%d ms of CPU time to the shown window\n", cpuMs);
+        exit(0);
+    }
+    if (!m_screenshotFile.isEmpty()) {
+        QTimer::singleShot(500, this, [this] { // the map's worker has painted by then
+            const bool done = m_mainFrame->grab().save(m_screenshotFile);
+            if (!done)
+                basalt::logError("Cannot write \"" + m_screenshotFile.toStdString() + "\"");
+            exit(done ? 0 : 1);
+        });
+    }
+}

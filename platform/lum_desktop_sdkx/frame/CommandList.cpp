@@ -1,0 +1,95 @@
+#include "lum_desktop_sdkx/frame/CommandList.h"
+
+#include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/frame/LayoutText.h"
+#include "lum_desktop_sdkx/ICommandExecuterx.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeySequence>
+
+#include <algorithm>
+
+ICommandExecuterx* CommandList::find(const QString& name) const
+{
+    const Entry* found = entry(name);
+    return found != nullptr ? found->command.get() : nullptr;
+}
+
+bool CommandList::execute(const QString& name)
+{
+    ICommandExecuterx* command = find(name);
+    if (command == nullptr || !command->isEnabled())
+        return false;
+    run(*command);
+    return true;
+}
+
+QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
+                          QObject* actionParent)
+{
+    auto command = extensible_factory_ICommandExecuterx().make(entry.className.toStdString(),
+                                                               entry.config.constData(), host);
+    if (!command) {
+        basalt::logInfo("Left out of the menus: " + entry.name.toStdString());
+        return nullptr;
+    }
+    if (find(entry.name) != nullptr)
+        basalt::logWarning("Two commands are named \"" + entry.name.toStdString() +
+                           "\"; the first is found");
+    auto* const action = new QAction(actionParent);
+    action->setObjectName(entry.name);
+    if (!entry.icon.isEmpty())
+        action->setIcon(QIcon::fromTheme(entry.icon));
+    action->setShortcut(QKeySequence::fromString(entry.shortcut, QKeySequence::PortableText));
+    const QString tip = desktop::layoutText(entry.tip);
+    action->setStatusTip(tip);
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    if (!tip.isEmpty())
+        action->setToolTip(keys.isEmpty() ? tip : tip + QStringLiteral(" (%1)").arg(keys));
+    ICommandExecuterx* const target = command.get();
+    QObject::connect(action, &QAction::triggered, action, [this, target] { run(*target); });
+    m_entries.push_back({entry.name, entry.caption, std::move(command), action});
+    return action;
+}
+
+QAction* CommandList::action(const QString& name) const
+{
+    const Entry* found = entry(name);
+    return found != nullptr ? found->action : nullptr;
+}
+
+void CommandList::refresh()
+{
+    for (const Entry& each : m_entries) {
+        const QString caption = each.command->caption();
+        each.action->setText(caption.isEmpty() ? desktop::layoutText(each.caption) : caption);
+        each.action->setEnabled(each.command->isEnabled());
+        each.action->setCheckable(each.command->isCheckable());
+        each.action->setChecked(each.command->isCheckable() && each.command->isChecked());
+    }
+}
+
+void CommandList::clear()
+{
+    for (const Entry& each : m_entries)
+        each.action->disconnect();
+    m_entries.clear();
+}
+
+const CommandList::Entry* CommandList::entry(const QString& name) const
+{
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&](const Entry& each) { return each.name == name; });
+    return found == m_entries.end() ? nullptr : &*found;
+}
+
+void CommandList::run(ICommandExecuterx& command)
+{
+    try {
+        command.execute();
+    } catch (const std::exception& fault) {
+        basalt::logError(std::string("A command failed: ") + fault.what());
+    }
+    refresh();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ComponentKinds.h"
+#include "lum_desktop_sdkx/frame/FrameLayout.h"
+#include "lum_desktop_sdkx/ICommandList.h"
+
+#include <vector>
+
+class QAction;
+class QObject;
+
+/// The commands of the frame with the actions that show them in menus and tool bars.
+class CommandList final : public ICommandList
+{
+public:
+    [[nodiscard]] ICommandExecuterx* find(const QString& name) const override;
+    bool execute(const QString& name) override;
+
+    /// Makes the entry's command and its action.
+    /// \returns null, and a line in the log, when the command's class is not registered
+    QAction* add(const FrameLayout::Command& entry, IDesktopHost* host, QObject* actionParent);
+
+    /// The action of a command; null when there is none of that name.
+    [[nodiscard]] QAction* action(const QString& name) const;
+
+    /// Reads every command's state and caption anew.
+    void refresh();
+
+    /// Ends the commands; their actions belong to their parents.
+    void clear();
+
+private:
+    struct Entry
+    {
+        QString name;
+        QString caption; ///< as configured, in English
+        ICommandExecuterxFactory::Pointer command;
+        QAction* action; ///< owned by the frame
+    };
+
+    [[nodiscard]] const Entry* entry(const QString& name) const;
+    void run(ICommandExecuterx& command);
+
+    std::vector<Entry> m_entries;
+};

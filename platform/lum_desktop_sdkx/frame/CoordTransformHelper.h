@@ -1,0 +1,16 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ICoordTransformHelper.h"
+
+/// The map shows the project grid itself: x is easting, y is northing. The geodetic operations
+/// answer false as long as the project has no coordinate system.
+class CoordTransformHelper final : public ICoordTransformHelper
+{
+public:
+    [[nodiscard]] QPointF projectToMap(double north, double east) const override;
+    [[nodiscard]] bool geodeticToMap(double latitudeDeg, double longitudeDeg,
+                                     QPointF& map) const override;
+    [[nodiscard]] bool mapToGeodetic(const QPointF& map, double& latitudeDeg,
+                                     double& longitudeDeg) const override;
+    void mapToProject(const QPointF& map, double& north, double& east) const override;
+};

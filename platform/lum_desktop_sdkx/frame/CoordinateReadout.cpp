@@ -1,0 +1,23 @@
+#include "lum_desktop_sdkx/frame/CoordinateReadout.h"
+
+#include "app/protocol/Events.h"
+#include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/IEventManager.h"
+
+CoordinateReadout::CoordinateReadout(const char* config, IDesktopHost* host)
+    : m_subscription(*this, events::kXyChangedText, host->eventManager())
+{
+    csa_to_dictionary(m_parameters, config);
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setContentsMargins(8, 0, 8, 0);
+    // Wide enough for any grid coordinate, so that the status bar stands still.
+    setMinimumWidth(
+        fontMetrics().horizontalAdvance(QStringLiteral("N=00000000.000    E=00000000.000")) + 16);
+}
+
+void CoordinateReadout::handleEvent(const char* /*eventName*/, const char* payload,
+                                    int /*reserved*/)
+{
+    setText(QString::fromUtf8(payload));
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/protocol/EventSubscription.h"
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/IWindow.h"
+#include "lum_sdk/IEventManager.h"
+
+#include <QLabel>
+
+class IDesktopHost;
+
+/// Where the cursor is: the status bar shows the text of "ON_XY_CHANGED_X" as it comes.
+class CoordinateReadout final : public QLabel, public IWindowx, public IEventHandler
+{
+public:
+    CoordinateReadout(const char* config, IDesktopHost* host);
+
+    [[nodiscard]] QWidget* widget() override { return this; }
+    [[nodiscard]] IDictionary& parameters() override { return m_parameters; }
+    void handleEvent(const char* eventName, const char* payload, int reserved) override;
+
+private:
+    basalt::Dictionary m_parameters;
+    EventSubscription m_subscription;
+};

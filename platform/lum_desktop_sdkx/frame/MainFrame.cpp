@@ -1,0 +1,204 @@
+#include "lum_desktop_sdkx/frame/MainFrame.h"
+
+#include "app/protocol/Events.h"
+#include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/frame/DesktopHost.h"
+#include "lum_desktop_sdkx/frame/FrameState.h"
+#include "lum_desktop_sdkx/frame/LayoutText.h"
+#include "lum_desktop_sdkx/IGuiAssistant.h"
+#include "lum_sdk/DpiScale.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <qtadvanceddocking/DockManager.h>
+#include <QTimer>
+#include <QToolBar>
+
+#include <cstring>
+
+namespace {
+
+ads::CDockManager* makeDockManager(QMainWindow* frame)
+{
+    using ads::CDockManager;
+    CDockManager::setConfigFlags(CDockManager::DefaultOpaqueConfig);
+    CDockManager::setConfigFlag(CDockManager::AlwaysShowTabs, true);
+    CDockManager::setConfigFlag(CDockManager::DockAreaHasUndockButton, false);
+    CDockManager::setConfigFlag(CDockManager::DockAreaHasTabsMenuButton, false);
+    CDockManager::setConfigFlag(CDockManager::DockAreaHideDisabledButtons, true);
+    CDockManager::setConfigFlag(CDockManager::FocusHighlighting, false);
+    return new CDockManager(frame);
+}
+
+} // namespace
+
+MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
+    : m_host(host), m_docks(makeDockManager(this)),
+      m_subscription(*this,
+                     std::string(events::kUpdateSystemStatus) + "," + events::kProjectChanged,
+                     host.eventManager())
+{
+    setObjectName(QStringLiteral("MainFrame"));
+    m_host.setDialogParent(this);
+    m_host.windows().attach(m_docks, statusBar());
+    makeAssistants(layout);
+    for (const FrameLayout::Menu& menu : layout.menus) {
+        auto* const top = menuBar()->addMenu(desktop::layoutText(menu.caption));
+        fillMenu(*top, menu.items);
+        top->menuAction()->setVisible(!top->isEmpty() || m_dockMenus.size() > 0);
+    }
+    for (const FrameLayout::ToolBar& bar : layout.toolBars)
+        addToolBar(bar);
+    for (const FrameLayout::Window& window : layout.windows)
+        m_host.windows().openWindow(window);
+    for (QMenu* menu : m_dockMenus) {
+        for (QAction* toggle : m_host.windows().toggleActions())
+            menu->addAction(toggle);
+    }
+    for (const auto& assistant : m_assistants)
+        assistant->onMapViewCreated();
+    for (const auto& assistant : m_assistants)
+        assistant->openMainWindows();
+    m_host.commands().refresh();
+    restoreArrangement();
+}
+
+MainFrame::~MainFrame()
+{
+    m_assistants.clear();
+    m_host.commands().clear();
+    m_host.windows().clear();
+    m_host.setDialogParent(nullptr);
+}
+
+void MainFrame::setTitle(const QString& title)
+{
+    setWindowTitle(title);
+}
+
+void MainFrame::show()
+{
+    WindowRegistry& windows = m_host.windows();
+    windows.rememberDefaultLayout();
+    const bool wasRestored = windows.restoreState(FrameState::load().docks);
+    QMainWindow::show();
+    if (!wasRestored)
+        windows.applySizes(); // only now the docks have a size to share out
+}
+
+void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
+{
+    m_host.commands().refresh();
+}
+
+void MainFrame::closeEvent(QCloseEvent* event)
+{
+    for (const auto& assistant : m_assistants) {
+        if (assistant->queryClose() == 0) {
+            event->ignore();
+            return;
+        }
+    }
+    saveArrangement();
+    event->accept();
+}
+
+bool MainFrame::event(QEvent* event)
+{
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::Paint && !m_wasPainted) {
+        m_wasPainted = true;
+        QTimer::singleShot(0, this, &MainFrame::firstShown); // children are painted after this
+    }
+    return handled;
+}
+
+void MainFrame::makeAssistants(const FrameLayout& layout)
+{
+    for (const QString& name : layout.assistants) {
+        auto assistant = extensible_factory_IGuiAssistant().make(name.toStdString(), "", &m_host);
+        if (assistant)
+            m_assistants.push_back(std::move(assistant));
+    }
+}
+
+void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items)
+{
+    using Kind = FrameLayout::MenuItem::Kind;
+    bool separatorDue = false; // none at the ends, and never two, whatever was left out
+    const auto add = [&](QAction* action) {
+        if (separatorDue && !menu.isEmpty())
+            menu.insertSeparator(action);
+        separatorDue = false;
+    };
+    for (const FrameLayout::MenuItem& item : items) {
+        switch (item.kind) {
+        case Kind::Separator:
+            separatorDue = true;
+            break;
+        case Kind::Docks:
+            m_dockMenus.push_back(&menu);
+            break;
+        case Kind::Command:
+            if (QAction* action = m_host.commands().add(item.command, &m_host, this)) {
+                menu.addAction(action);
+                add(action);
+            }
+            break;
+        case Kind::Submenu: {
+            auto* const submenu =
+                new QMenu(desktop::layoutText(item.submenu.front().caption), &menu);
+            fillMenu(*submenu, item.submenu.front().items);
+            const bool listsDocks = !m_dockMenus.empty() && m_dockMenus.back() == submenu;
+            if (!submenu->isEmpty() || listsDocks) {
+                menu.addMenu(submenu);
+                add(submenu->menuAction());
+            }
+            break;
+        }
+        }
+    }
+}
+
+void MainFrame::addToolBar(const FrameLayout::ToolBar& bar)
+{
+    std::vector<QAction*> actions; // null for a separator
+    for (const QString& name : bar.commands) {
+        QAction* const action = name.isEmpty() ? nullptr : m_host.commands().action(name);
+        const bool isDouble = actions.empty() || actions.back() == nullptr;
+        if (action != nullptr || (name.isEmpty() && !isDouble))
+            actions.push_back(action); // an unknown command is in the log already
+    }
+    if (!actions.empty() && actions.back() == nullptr)
+        actions.pop_back();
+    if (actions.empty())
+        return;
+    QToolBar* const toolBar = QMainWindow::addToolBar(desktop::layoutText(bar.caption));
+    toolBar->setObjectName(bar.name);
+    for (QAction* action : actions) {
+        if (action != nullptr)
+            toolBar->addAction(action);
+        else
+            toolBar->addSeparator();
+    }
+}
+
+void MainFrame::restoreArrangement()
+{
+    const FrameState state = FrameState::load();
+    if (state.geometry.isEmpty() || !restoreGeometry(state.geometry)) {
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        resize(screen.size().boundedTo(QSize(dpi_scaled(1360), dpi_scaled(860))));
+    }
+    if (!state.toolBars.isEmpty())
+        restoreState(state.toolBars);
+}
+
+void MainFrame::saveArrangement()
+{
+    FrameState{saveGeometry(), saveState(), m_host.windows().saveState()}.save();
+}

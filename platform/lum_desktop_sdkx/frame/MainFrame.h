@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/protocol/EventSubscription.h"
+#include "lum_desktop_sdkx/ComponentKinds.h"
+#include "lum_desktop_sdkx/frame/FrameLayout.h"
+#include "lum_desktop_sdkx/IMainFrame.h"
+#include "lum_sdk/IEventManager.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <vector>
+
+class DesktopHost;
+class QMenu;
+
+namespace ads {
+class CDockManager;
+} // namespace ads
+
+/// The main window: menus, tool bars, docks and status bar from a layout, and the assistants that
+/// go with it. It remembers how the user left it.
+class MainFrame final : public QMainWindow, public IMainFrame, public IEventHandler
+{
+    Q_OBJECT
+
+public:
+    MainFrame(DesktopHost& host, const FrameLayout& layout);
+    ~MainFrame() override;
+
+    void setTitle(const QString& title) override;
+    void show() override;
+
+    void handleEvent(const char* eventName, const char* payload, int reserved) override;
+
+Q_SIGNALS:
+    /// Once, when the window has been painted for the first time.
+    void firstShown();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void makeAssistants(const FrameLayout& layout);
+    void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
+    void addToolBar(const FrameLayout::ToolBar& bar);
+    void restoreArrangement();
+    void saveArrangement();
+
+    DesktopHost& m_host; // outlives the frame
+    ads::CDockManager* m_docks;
+    std::vector<IGuiAssistantFactory::Pointer> m_assistants;
+    std::vector<QMenu*> m_dockMenus; ///< filled when the windows stand
+    EventSubscription m_subscription;
+    bool m_wasPainted = false;
+};

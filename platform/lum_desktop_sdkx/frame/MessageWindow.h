@@ -1,0 +1,28 @@
+#pragma once
+
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/frame/MessageLog.h"
+#include "lum_desktop_sdkx/IWindow.h"
+
+#include <QPlainTextEdit>
+
+class IDesktopHost;
+
+/// What the program has to say besides its questions: the lines of the log, warnings and errors
+/// in colour.
+class MessageWindow final : public QPlainTextEdit, public IWindowx
+{
+    Q_OBJECT
+
+public:
+    MessageWindow(const char* config, IDesktopHost* host);
+
+    [[nodiscard]] QWidget* widget() override { return this; }
+    [[nodiscard]] IDictionary& parameters() override { return m_parameters; }
+
+private:
+    void showLines();
+
+    basalt::Dictionary m_parameters;
+    MessageLog m_log;
+};

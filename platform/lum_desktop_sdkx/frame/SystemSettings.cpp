@@ -1,0 +1,17 @@
+#include "lum_desktop_sdkx/frame/SystemSettings.h"
+
+#include "lum_desktop_sdkx/frame/Applicationx.h"
+#include "lum_desktop_sdkx/frame/MainFrame.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+SystemSettings::SystemSettings(const char* /*config*/) {}
+
+SystemParameter* SystemSettings::getSystemParameter()
+{
+    return &get_system_ini_parameter();
+}
+
+IMainFrame* SystemSettings::getMainFrame()
+{
+    return &Applicationx::instance().mainFrame();
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ISystemSettings.h"
+
+/// The settings object of a desktop program; the frame is the application object's.
+class SystemSettings final : public ISystemSettings
+{
+public:
+    explicit SystemSettings(const char* config);
+
+    [[nodiscard]] SystemParameter* getSystemParameter() override;
+    [[nodiscard]] IMainFrame* getMainFrame() override;
+};

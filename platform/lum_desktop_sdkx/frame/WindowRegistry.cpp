@@ -1,0 +1,242 @@
+#include "lum_desktop_sdkx/frame/WindowRegistry.h"
+
+#include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/ILogger.h"
+#include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/frame/LayoutText.h"
+#include "lum_desktop_sdkx/IWindow.h"
+#include "lum_sdk/DpiScale.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QSplitter>
+#include <QStatusBar>
+#include <qtadvanceddocking/DockAreaWidget.h>
+#include <qtadvanceddocking/DockManager.h>
+#include <qtadvanceddocking/DockWidget.h>
+
+#include <algorithm>
+
+using Area = FrameLayout::Area;
+
+IWindow* WindowRegistry::find(const QString& name) const
+{
+    const Entry* found = entry(name);
+    return found != nullptr ? found->window.get() : nullptr;
+}
+
+bool WindowRegistry::activate(const QString& name)
+{
+    const Entry* found = entry(name);
+    if (found == nullptr)
+        return false;
+    if (found->dock != nullptr) {
+        found->dock->toggleView(true);
+        found->dock->raise();
+    }
+    found->window->onActivated();
+    return true;
+}
+
+IWindow* WindowRegistry::open(const QString& className, const IDictionary& parameters)
+{
+    IWindow* window = find(className);
+    if (window == nullptr) {
+        basalt::Dictionary config(parameters);
+        config.set("class", className.toStdString());
+        FrameLayout::Window layout;
+        const auto text = [&](const char* key, const QString& fallback) {
+            return QString::fromStdString(
+                std::string(parameters.text(key, fallback.toStdString())));
+        };
+        layout.className = className;
+        layout.name = text("caption", className);
+        layout.caption = text("title", layout.name);
+        layout.config = QByteArray::fromStdString(dictionary_to_csa(config));
+        window = openWindow(layout);
+    } else {
+        dictionary_copy(parameters, window->parameters());
+    }
+    if (window != nullptr && parameters.integer("isSetActive") != 0)
+        activate(className);
+    return window;
+}
+
+void WindowRegistry::attach(ads::CDockManager* docks, QStatusBar* statusBar)
+{
+    m_docks = docks;
+    m_statusBar = statusBar;
+}
+
+IWindow* WindowRegistry::openWindow(const FrameLayout::Window& layout)
+{
+    auto window = extensible_factory_IWindow().make(layout.className.toStdString(),
+                                                    layout.config.constData(), m_host);
+    if (!window) {
+        basalt::logInfo("Window left out: " + layout.name.toStdString());
+        return nullptr;
+    }
+    IWindow* const opened = window.get();
+    ads::CDockWidget* dock = nullptr;
+    if (layout.area == Area::Status)
+        m_statusBar->addPermanentWidget(opened->widget());
+    else
+        dock = makeDock(layout, *opened);
+    m_entries.push_back({layout, std::move(window), dock});
+    return opened;
+}
+
+ads::CDockWidget* WindowRegistry::makeDock(const FrameLayout::Window& layout, IWindow& window)
+{
+    auto* const dock = new ads::CDockWidget(desktop::layoutText(layout.caption), m_docks);
+    dock->setObjectName(layout.name);
+    dock->setWidget(window.widget(), ads::CDockWidget::ForceNoScrollArea);
+    dock->setMinimumSizeHintMode(ads::CDockWidget::MinimumSizeHintFromDockWidget);
+    dock->setFeature(ads::CDockWidget::DockWidgetClosable, layout.isClosable);
+    if (!layout.icon.isEmpty())
+        dock->setIcon(QIcon::fromTheme(layout.icon));
+    placeDock(dock, layout);
+    return dock;
+}
+
+void WindowRegistry::placeDock(ads::CDockWidget* dock, const FrameLayout::Window& layout)
+{
+    const Entry* neighbour = lastIn(layout.area);
+    if (neighbour != nullptr) {
+        m_docks->addDockWidget(layout.isBelow ? ads::BottomDockWidgetArea
+                                              : ads::CenterDockWidgetArea,
+                               dock, neighbour->dock->dockAreaWidget());
+        if (!layout.isBelow)
+            neighbour->dock->setAsCurrentTab(); // the first of an area stays in front
+        return;
+    }
+    const Entry* center = lastIn(Area::Center);
+    ads::CDockAreaWidget* const centerArea =
+        center != nullptr ? center->dock->dockAreaWidget() : nullptr;
+    switch (layout.area) {
+    case Area::Left:
+        m_docks->addDockWidget(ads::LeftDockWidgetArea, dock);
+        break;
+    case Area::Right:
+        m_docks->addDockWidget(ads::RightDockWidgetArea, dock);
+        break;
+    case Area::Bottom:
+        m_docks->addDockWidget(ads::BottomDockWidgetArea, dock, centerArea);
+        break;
+    case Area::Center:
+    case Area::Status:
+        m_docks->addDockWidget(ads::CenterDockWidgetArea, dock);
+        break;
+    }
+}
+
+const WindowRegistry::Entry* WindowRegistry::lastIn(Area area) const
+{
+    const auto found =
+        std::find_if(m_entries.rbegin(), m_entries.rend(), [area](const Entry& each) {
+            return each.dock != nullptr && each.layout.area == area &&
+                   each.dock->dockAreaWidget() != nullptr;
+        });
+    return found == m_entries.rend() ? nullptr : &*found;
+}
+
+void WindowRegistry::resetLayout()
+{
+    if (m_defaultState.isEmpty())
+        return;
+    m_docks->restoreState(m_defaultState, stateVersion());
+    applySizes();
+}
+
+void WindowRegistry::rememberDefaultLayout()
+{
+    m_defaultState = m_docks->saveState(stateVersion());
+}
+
+void WindowRegistry::applySizes()
+{
+    for (const Entry& each : m_entries) {
+        if (each.dock == nullptr || each.layout.size <= 0 || each.dock->dockAreaWidget() == nullptr)
+            continue;
+        ads::CDockAreaWidget* const area = each.dock->dockAreaWidget();
+        QWidget* child = area;
+        auto* splitter = qobject_cast<QSplitter*>(area->parentWidget());
+        const auto wanted = each.layout.area == Area::Bottom ? Qt::Vertical : Qt::Horizontal;
+        while (splitter != nullptr &&
+               splitter->orientation() != wanted) { // stacked ones sit deeper
+            child = splitter;
+            splitter = qobject_cast<QSplitter*>(splitter->parentWidget());
+        }
+        if (splitter == nullptr || splitter->count() < 2)
+            continue;
+        QList<int> sizes = splitter->sizes();
+        const int index = splitter->indexOf(child);
+        const int center = index == 0 ? 1 : index - 1;
+        const int missing = dpi_scaled(each.layout.size) - sizes[index];
+        sizes[index] += missing;
+        sizes[center] = std::max(sizes[center] - missing, 1);
+        splitter->setSizes(sizes);
+    }
+}
+
+QByteArray WindowRegistry::saveState() const
+{
+    return m_docks->saveState(stateVersion());
+}
+
+bool WindowRegistry::restoreState(const QByteArray& state)
+{
+    return !state.isEmpty() && m_docks->restoreState(state, stateVersion());
+}
+
+int WindowRegistry::stateVersion() const
+{
+    // The docking library hides what a saved state does not know; a state of other windows than
+    // today's is refused by its version instead.
+    QStringList names;
+    for (const Entry& each : m_entries) {
+        if (each.dock != nullptr)
+            names << each.layout.name;
+    }
+    names.sort();
+    const QByteArray text = names.join(QLatin1Char(',')).toUtf8();
+    return qChecksum(text.constData(), static_cast<uint>(text.size()));
+}
+
+std::vector<QAction*> WindowRegistry::toggleActions() const
+{
+    std::vector<QAction*> actions;
+    for (const Entry& each : m_entries) {
+        if (each.dock != nullptr && each.layout.isClosable)
+            actions.push_back(each.dock->toggleViewAction());
+    }
+    return actions;
+}
+
+void WindowRegistry::clear()
+{
+    while (!m_entries.empty()) { // the last one first: it may use those that were there before
+        Entry& last = m_entries.back();
+        if (last.dock != nullptr)
+            last.dock->takeWidget();
+        else
+            m_statusBar->removeWidget(last.window->widget());
+        last.window->widget()->setParent(nullptr);
+        m_entries.pop_back();
+    }
+}
+
+const WindowRegistry::Entry* WindowRegistry::entry(const QString& name) const
+{
+    const auto findBy = [this](auto matches) {
+        const auto found = std::find_if(m_entries.begin(), m_entries.end(), matches);
+        return found == m_entries.end() ? nullptr : &*found;
+    };
+    if (const Entry* found = findBy([&](const Entry& e) { return e.layout.className == name; }))
+        return found;
+    if (const Entry* found = findBy([&](const Entry& e) { return e.layout.name == name; }))
+        return found;
+    return findBy([&](const Entry& e) {
+        return e.layout.caption == name || desktop::layoutText(e.layout.caption) == name;
+    });
+}
