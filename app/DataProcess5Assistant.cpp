@@ -1,0 +1,106 @@
+#include "app/DataProcess5Assistant.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/KeyList.h"
+#include "basalt_utilities/Numbers.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/ICommandList.h"
+#include "lum_desktop_sdkx/ICoordTransformHelper.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+#include <QPointF>
+
+#include <cstring>
+
+namespace {
+
+constexpr double kFootM = 0.3048;
+
+void openTable(IWindowRegistry& windows, const char* className, const char* title)
+{
+    basalt::Dictionary parameters;
+    parameters.set("caption", className);
+    parameters.set("isSetActive", "1");
+    parameters.set("title", title);
+    windows.open(QString::fromLatin1(className), parameters);
+}
+
+} // namespace
+
+DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHost* host)
+    : m_host(*host), m_subscription(*this, events::kXyChanged, host->eventManager()),
+      m_dataManager(std::make_unique<DataProcessDataManager>(host))
+{
+}
+
+int DataProcess5Assistant::onMapViewCreated()
+{
+    addLayer("OnlineMap", "RasterLayerImp");
+    addLayer("TifLayer", "TifLayer");
+    addLayer("BoundaryLayer", "BoundaryLayer");
+    m_host.eventManager().publish(events::kSettingViewFinished, nullptr, 0);
+    addLayer("DataProcessLayer", "DataProcessLayer");
+    return 1;
+}
+
+int DataProcess5Assistant::openMainWindows()
+{
+    IWindowRegistry& windows = m_host.windows();
+    windows.activate(QStringLiteral("DataProcessView")); // an arrangement that has such a view
+    openTable(windows, "DesignLineTable", "Design Line Table");
+    openTable(windows, "SurveyDataTable", "Survey Data Table");
+    return 1;
+}
+
+int DataProcess5Assistant::queryClose()
+{
+    if (get_system_status_dictionary().integer(status::kProjectOpen) != 0)
+        m_host.commands().execute(QStringLiteral("Save Project"));
+    const auto answer = LumMessageBox::information(m_host.dialogParent(), QStringLiteral("提示"),
+                                                   QStringLiteral("是否退出程序？"),
+                                                   LumMessageBox::Yes | LumMessageBox::No);
+    if (answer != LumMessageBox::Yes)
+        return 0;
+    m_dataManager.reset();
+    return 1;
+}
+
+void DataProcess5Assistant::handleEvent(const char* eventName, const char* payload,
+                                        int /*reserved*/)
+{
+    if (std::strcmp(eventName, events::kXyChanged) == 0)
+        announcePosition(payload);
+}
+
+void DataProcess5Assistant::addLayer(const char* name, const char* className)
+{
+    auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+    if (map == nullptr)
+        return; // the frame has logged why there is no map
+    basalt::Dictionary properties;
+    properties.set("layer_name", name);
+    map->addLayer(QString::fromLatin1(className), properties);
+}
+
+void DataProcess5Assistant::announcePosition(const char* payload)
+{
+    basalt::Dictionary values;
+    if (payload != nullptr)
+        csa_to_dictionary(values, payload, '=', ' ');
+    double north = 0;
+    double east = 0;
+    get_instance_ICoordTransformHelper(&m_host)->mapToProject(
+        {values.number("E"), values.number("N")}, north, east);
+    if (get_system_ini_parameter().dictionary().integer(settings::kCoordUnit) != 0) {
+        north = north * 1.0 / kFootM;
+        east = east * 1.0 / kFootM;
+    }
+    const std::string text =
+        "N=" + basalt::formatFixed(north, 3) + "    E=" + basalt::formatFixed(east, 3);
+    m_host.eventManager().publish(events::kXyChangedText, text.c_str(), 0);
+}

@@ -1,0 +1,64 @@
+#include "basalt_utilities/FatalReport.h"
+#include "basalt_utilities/Paths.h"
+#include "lum_desktop_sdkx/ComponentKinds.h"
+#include "lum_desktop_sdkx/frame/Applicationx.h"
+#include "lum_desktop_sdkx/IMainFrame.h"
+#include "lum_desktop_sdkx/ISystemSettings.h"
+#include "lum_sdk/ICountly.h"
+#include "lum_sdk/SingleInstance.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+#include <array>
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+constexpr const char* kSystemFile =
+    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5/data_process_5.sys";
+constexpr const char* kNoServer = ""; // without one in the configuration nothing is ever sent
+
+void beginSession(const IDictionary& config)
+{
+    const std::string appKey(config.text("countlyAppKey"));
+    const std::string version(config.text("version", "2.10.190508.MARLOKTE"));
+    const std::string server(config.text("countlyIP", kNoServer));
+    const int port = config.integer("countlyPort", 8081);
+    s_get_instance_ICountly()->begin(appKey.c_str(), version.c_str(), server.c_str(), port);
+}
+
+void showMainFrame(const IDictionary& config)
+{
+    ISystemSettings* const settings = extensible_factory_get_ISystemSettings("SystemSettings", "");
+    std::array<char, 1000> path{};
+    if (!process_resolve_path(kSystemFile, path.data(), path.size()) ||
+        !settings->getSystemParameter()->load(path.data()))
+        fatal_report("sys->getSystemParameter()->load(%s) fail!", path.data());
+    IMainFrame* const frame = settings->getMainFrame();
+    const std::string name(config.text("name"));
+    frame->setTitle(name.empty() ? QString() : QObject::tr(name.c_str()));
+    frame->show();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    auto application =
+        std::make_unique<Applicationx>(argc, argv, "Skyquill", "/Tool/DataProcess5/data_process_5");
+    const IDictionary& config = get_system_config_parameter().dictionary();
+    if (instance_is_run(QString::fromLocal8Bit(argv[0]), 1)) {
+        application.reset();
+        return 0;
+    }
+    try {
+        beginSession(config);
+        showMainFrame(config);
+    } catch (...) {
+        s_release_instance_ICountly();
+        throw;
+    }
+    const int result = QApplication::exec();
+    application.reset();
+    std::exit(result);
+}
