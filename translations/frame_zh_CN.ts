@@ -1,0 +1,479 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>FrameLayout</name>
+    <message>
+        <source>&amp;Project</source>
+        <translation>工程(&amp;P)</translation>
+    </message>
+    <message>
+        <source>New Project...</source>
+        <translation>新建工程...</translation>
+    </message>
+    <message>
+        <source>Create a project: its folder, database and coordinate system</source>
+        <translation>新建工程：建立工程文件夹、数据库和坐标系统</translation>
+    </message>
+    <message>
+        <source>Open Project...</source>
+        <translation>打开工程...</translation>
+    </message>
+    <message>
+        <source>Open a project file</source>
+        <translation>打开工程文件</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>保存工程</translation>
+    </message>
+    <message>
+        <source>Save design, survey results and limits to the project database</source>
+        <translation>把设计数据、勘察成果和质量限差保存到工程数据库</translation>
+    </message>
+    <message>
+        <source>Close Project</source>
+        <translation>关闭工程</translation>
+    </message>
+    <message>
+        <source>Close the project, saving it first if you wish</source>
+        <translation>关闭工程，关闭前可先保存</translation>
+    </message>
+    <message>
+        <source>Project Settings...</source>
+        <translation>工程设置...</translation>
+    </message>
+    <message>
+        <source>General information and coordinate system of the project</source>
+        <translation>工程的基本信息和坐标系统</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Leave the program</source>
+        <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Design View</source>
+        <translation>设计视图</translation>
+    </message>
+    <message>
+        <source>Show the design lines and points on the map</source>
+        <translation>在地图上显示设计测线和设计点</translation>
+    </message>
+    <message>
+        <source>Survey View</source>
+        <translation>勘察视图</translation>
+    </message>
+    <message>
+        <source>Show the survey results, base stations and offsets on the map</source>
+        <translation>在地图上显示勘察成果、基准站和偏移</translation>
+    </message>
+    <message>
+        <source>Receiver Lines</source>
+        <translation>接收线</translation>
+    </message>
+    <message>
+        <source>Show or hide the receiver lines of the design</source>
+        <translation>显示或隐藏设计的接收线</translation>
+    </message>
+    <message>
+        <source>Source Lines</source>
+        <translation>激发线</translation>
+    </message>
+    <message>
+        <source>Show or hide the source lines of the design</source>
+        <translation>显示或隐藏设计的激发线</translation>
+    </message>
+    <message>
+        <source>Survey Boundary</source>
+        <translation>工区边界</translation>
+    </message>
+    <message>
+        <source>Show or hide the rectangle around the survey</source>
+        <translation>显示或隐藏工区的外接矩形</translation>
+    </message>
+    <message>
+        <source>Coordinate Format</source>
+        <translation>坐标格式</translation>
+    </message>
+    <message>
+        <source>Degree Format</source>
+        <translation>十进制度</translation>
+    </message>
+    <message>
+        <source>Latitudes and longitudes in decimal degrees</source>
+        <translation>经纬度以十进制度显示</translation>
+    </message>
+    <message>
+        <source>Degree-minute-second Format</source>
+        <translation>度分秒</translation>
+    </message>
+    <message>
+        <source>Latitudes and longitudes in degrees, minutes and seconds</source>
+        <translation>经纬度以度、分、秒显示</translation>
+    </message>
+    <message>
+        <source>Survey Columns...</source>
+        <translation>勘察列表列...</translation>
+    </message>
+    <message>
+        <source>Choose the columns of the survey table and of exported files</source>
+        <translation>选择勘察列表和导出文件的列</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
+        <source>Reset Layout</source>
+        <translation>恢复默认布局</translation>
+    </message>
+    <message>
+        <source>Put every window back to its first place</source>
+        <translation>把所有窗口恢复到默认位置</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>Give the program the whole screen</source>
+        <translation>程序占满整个屏幕</translation>
+    </message>
+    <message>
+        <source>&amp;Checks</source>
+        <translation>检查(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Quality Limits...</source>
+        <translation>质量规范...</translation>
+    </message>
+    <message>
+        <source>Set the limits that every survey result is judged by</source>
+        <translation>设置检查勘察成果所用的限差</translation>
+    </message>
+    <message>
+        <source>Quality Check</source>
+        <translation>数据检查</translation>
+    </message>
+    <message>
+        <source>Judge every survey result by the limits and list the failures</source>
+        <translation>按限差检查全部勘察成果并列出不合格项</translation>
+    </message>
+    <message>
+        <source>Empty Point Check</source>
+        <translation>空点检查</translation>
+    </message>
+    <message>
+        <source>Find the design points that were never surveyed</source>
+        <translation>查找没有勘察成果的设计点</translation>
+    </message>
+    <message>
+        <source>Resurvey Check</source>
+        <translation>复测点检查</translation>
+    </message>
+    <message>
+        <source>Compare resurveyed points with their first measurement</source>
+        <translation>比较复测点与首次测量的差值</translation>
+    </message>
+    <message>
+        <source>Repeat Point Check</source>
+        <translation>重复点检查</translation>
+    </message>
+    <message>
+        <source>Find points that were measured more than once</source>
+        <translation>查找重复测量的点</translation>
+    </message>
+    <message>
+        <source>&amp;Design</source>
+        <translation>设计(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Generate Lines...</source>
+        <translation>设计测线...</translation>
+    </message>
+    <message>
+        <source>Generate receiver and source lines from a few parameters</source>
+        <translation>由少量参数生成接收线和激发线</translation>
+    </message>
+    <message>
+        <source>&amp;Exchange</source>
+        <translation>数据交换(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Export Report...</source>
+        <translation>导出报告...</translation>
+    </message>
+    <message>
+        <source>Write the quality, statistics, rover and result reports as workbooks</source>
+        <translation>把质量、统计、流动站和成果报告写成工作簿</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>地图(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Move Map</source>
+        <translation>地图移动</translation>
+    </message>
+    <message>
+        <source>Drag the map; right click ends it</source>
+        <translation>拖动地图；单击右键结束</translation>
+    </message>
+    <message>
+        <source>Zoom to Rectangle</source>
+        <translation>局部矩形放大</translation>
+    </message>
+    <message>
+        <source>Draw a rectangle to zoom to; right click ends it</source>
+        <translation>画矩形放大到该范围；单击右键结束</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Come nearer</source>
+        <translation>放大地图</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Step back</source>
+        <translation>缩小地图</translation>
+    </message>
+    <message>
+        <source>Zoom to All</source>
+        <translation>全图</translation>
+    </message>
+    <message>
+        <source>Show the whole survey</source>
+        <translation>显示整个工区</translation>
+    </message>
+    <message>
+        <source>Online Map</source>
+        <translation>在线地图</translation>
+    </message>
+    <message>
+        <source>Show or hide the online base map</source>
+        <translation>显示或隐藏在线底图</translation>
+    </message>
+    <message>
+        <source>Base Map</source>
+        <translation>底图</translation>
+    </message>
+    <message>
+        <source>Road Map</source>
+        <translation>平面地图</translation>
+    </message>
+    <message>
+        <source>Roads and places</source>
+        <translation>道路和地名</translation>
+    </message>
+    <message>
+        <source>Satellite Map</source>
+        <translation>卫星地图</translation>
+    </message>
+    <message>
+        <source>Satellite pictures</source>
+        <translation>卫星影像</translation>
+    </message>
+    <message>
+        <source>Terrain Map</source>
+        <translation>山地地图</translation>
+    </message>
+    <message>
+        <source>Terrain with contour lines</source>
+        <translation>带等高线的地形</translation>
+    </message>
+    <message>
+        <source>Overlay Image...</source>
+        <translation>TIF 图叠加...</translation>
+    </message>
+    <message>
+        <source>Lay a georeferenced TIFF picture under the survey</source>
+        <translation>在工区下叠加带地理坐标的 TIFF 图像</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>工具(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Azimuth Calculator...</source>
+        <translation>方位角计算...</translation>
+    </message>
+    <message>
+        <source>Azimuth and distance between two points</source>
+        <translation>计算两点间的方位角和距离</translation>
+    </message>
+    <message>
+        <source>Time Zone...</source>
+        <translation>时区...</translation>
+    </message>
+    <message>
+        <source>The time zone in which survey times are shown</source>
+        <translation>显示勘察时间所用的时区</translation>
+    </message>
+    <message>
+        <source>Coordinate Unit</source>
+        <translation>坐标单位</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>米</translation>
+    </message>
+    <message>
+        <source>Show the cursor position in metres</source>
+        <translation>以米显示光标位置</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>英尺</translation>
+    </message>
+    <message>
+        <source>Show the cursor position in feet</source>
+        <translation>以英尺显示光标位置</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Language of the System</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>简体中文</source>
+        <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>As the Desktop</source>
+        <translation>跟随桌面</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Version of the program</source>
+        <translation>程序版本</translation>
+    </message>
+    <message>
+        <source>Project Tools</source>
+        <translation>工程工具</translation>
+    </message>
+    <message>
+        <source>View Tools</source>
+        <translation>视图工具</translation>
+    </message>
+    <message>
+        <source>Map Tools</source>
+        <translation>地图工具</translation>
+    </message>
+    <message>
+        <source>Check Tools</source>
+        <translation>检查工具</translation>
+    </message>
+    <message>
+        <source>Design and Tools</source>
+        <translation>设计与工具</translation>
+    </message>
+    <message>
+        <source>Window Tools</source>
+        <translation>窗口工具</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Design Data List</source>
+        <translation>设计测线列表</translation>
+    </message>
+    <message>
+        <source>Survey Data List</source>
+        <translation>勘察数据列表</translation>
+    </message>
+    <message>
+        <source>Design Lines</source>
+        <translation>设计测线</translation>
+    </message>
+    <message>
+        <source>Survey Lines</source>
+        <translation>勘察测线</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>坐标</translation>
+    </message>
+    <message>
+        <source>OnlineMap</source>
+        <translation>在线地图</translation>
+    </message>
+    <message>
+        <source>TifLayer</source>
+        <translation>TIF 图层</translation>
+    </message>
+    <message>
+        <source>BoundaryLayer</source>
+        <translation>边界图层</translation>
+    </message>
+    <message>
+        <source>DataProcessLayer</source>
+        <translation>矢量图层</translation>
+    </message>
+    <message>
+        <source>Design Line Table</source>
+        <translation>设计测线列表</translation>
+    </message>
+    <message>
+        <source>Survey Data Table</source>
+        <translation>勘察数据列表</translation>
+    </message>
+</context>
+</TS>
