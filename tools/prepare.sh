@@ -1,0 +1,47 @@
+# Sourced by run, test and tools/lint: installs the packages that are missing, and builds.
+# Sets `root`, the project's folder.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+build_packages=(
+    g++ cmake ninja-build ccache
+    qtbase5-dev qttools5-dev qttools5-dev-tools libqt-advanced-docking-system-dev
+    libspdlog-dev libgtest-dev libbenchmark-dev
+)
+run_packages=(
+    libqt5svg5 qttranslations5-l10n breeze-icon-theme fonts-dejavu-core fonts-noto-cjk
+)
+test_packages=(locales)
+lint_packages=(clang-format clang-tidy)
+
+# install_packages NAME...: does nothing, and quickly, when all are there.
+install_packages() {
+    if ! command -v dpkg-query >/dev/null; then
+        echo "Not a Debian system: make sure that the counterparts of these are there: $*" >&2
+        return
+    fi
+    local missing=() name
+    for name in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=("$name")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    local sudo=()
+    [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+    echo "Installing packages: ${missing[*]}"
+    "${sudo[@]}" apt-get update -qq
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET [TARGET...]: configures when needed, and builds.
+build() {
+    local preset=$1
+    shift
+    cd "$root"
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" --log-level=WARNING
+    if [ $# -gt 0 ]; then
+        cmake --build "build/$preset" --target "$@"
+    else
+        cmake --build "build/$preset"
+    fi
+}
