@@ -40,8 +40,15 @@ function(skyquill_add_test name)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest_main skyquill_warnings)
     skyquill_qt_defaults(${name})
     include(GoogleTest)
-    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
-        PROPERTIES ENVIRONMENT "${SKYQUILL_TEST_ENVIRONMENT}" TIMEOUT 120)
+    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+    # A list cannot be passed through the call above; ctest reads this script after the tests.
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
+    file(WRITE "${script}"
+        "if(DEFINED ${name}_TESTS)\n"
+        "  set_tests_properties(\${${name}_TESTS} PROPERTIES\n"
+        "    ENVIRONMENT \"${SKYQUILL_TEST_ENVIRONMENT}\")\n"
+        "endif()\n")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
 endfunction()
 
 # skyquill_add_qt_test(NAME SOURCES a.cpp ... LINKS lib ...): one Qt Test class, offscreen.
@@ -57,8 +64,11 @@ endfunction()
 
 function(skyquill_qt_defaults name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
+    # Precompiling pays from a handful of sources on.
+    get_target_property(sources ${name} SOURCES)
+    list(LENGTH sources count)
     get_target_property(links ${name} LINK_LIBRARIES)
-    if(SKYQUILL_PCH AND "${links}" MATCHES "Qt5::(Widgets|Test)|lum_desktop_sdkx")
+    if(SKYQUILL_PCH AND count GREATER 4 AND "${links}" MATCHES "Qt5::Widgets|lum_desktop")
         target_precompile_headers(${name} PRIVATE <QtWidgets> <memory> <string> <vector>)
     endif()
 endfunction()

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <optional>
 
 namespace basalt {
 
@@ -31,7 +32,7 @@ double outOfRange(std::string_view number)
     return tiny ? 0.0 : std::numeric_limits<double>::infinity();
 }
 
-double parseUnsigned(std::string_view text)
+std::optional<double> parseUnsigned(std::string_view text)
 {
     auto format = std::chars_format::general;
     if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
@@ -39,13 +40,13 @@ double parseUnsigned(std::string_view text)
         text.remove_prefix(2);
     }
     if (text.empty() || text.front() == '-' || text.front() == '+')
-        return 0;
+        return std::nullopt;
     double value = 0;
     const auto [end, fault] =
         std::from_chars(text.data(), text.data() + text.size(), value, format);
     if (fault == std::errc::result_out_of_range)
         return outOfRange({text.data(), static_cast<std::size_t>(end - text.data())});
-    return fault == std::errc() ? value : 0;
+    return fault == std::errc() ? std::optional<double>(value) : std::nullopt;
 }
 
 template <class... Format>
@@ -62,8 +63,10 @@ std::string format(double value, Format... how)
 double parseNumber(std::string_view text)
 {
     const bool negative = cutSign(text);
-    const double value = parseUnsigned(text);
-    return negative ? -value : value;
+    const auto value = parseUnsigned(text);
+    if (!value)
+        return 0; // without the sign
+    return negative ? -*value : *value;
 }
 
 int parseInteger(std::string_view text)

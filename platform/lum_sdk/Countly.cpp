@@ -3,6 +3,7 @@
 #include "basalt_utilities/Files.h"
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/Paths.h"
+#include "lum_sdk/WholeFile.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -11,7 +12,6 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QSaveFile>
 #include <QSysInfo>
 #include <QUrl>
 #include <QUrlQuery>
@@ -39,9 +39,7 @@ QString deviceId()
             return stored.toString(QUuid::WithoutBraces);
     }
     const QString fresh = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    QSaveFile target(path);
-    if (!file_system_create_dir(folder) || !target.open(QIODevice::WriteOnly) ||
-        target.write(fresh.toLatin1()) < 0 || !target.commit())
+    if (!file_system_create_dir(folder) || !lum::writeWholeFile(path, fresh.toLatin1()).isEmpty())
         basalt::logWarning("Cannot keep the device identifier: " + path.toStdString());
     return fresh;
 }

@@ -2,12 +2,11 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/ILogger.h"
+#include "lum_sdk/WholeFile.h"
 
 #include <QByteArray>
 #include <QFile>
-#include <QSaveFile>
 #include <QString>
-#include <QTextCodec>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -98,12 +97,11 @@ bool xml_to_dictionary(const std::string& path, IDictionary& dictionary)
 
 bool dictionary_to_xml(const IDictionary& dictionary, const std::string& path)
 {
-    QSaveFile file(QString::fromStdString(path));
-    const bool done = file.open(QIODevice::WriteOnly) &&
-                      file.write(lum::writeDictionary(dictionary)) >= 0 && file.commit();
-    if (!done)
-        basalt::logError("Cannot write \"" + path + "\": " + file.errorString().toStdString());
-    return done;
+    const QString fault =
+        lum::writeWholeFile(QString::fromStdString(path), lum::writeDictionary(dictionary));
+    if (!fault.isEmpty())
+        basalt::logError("Cannot write \"" + path + "\": " + fault.toStdString());
+    return fault.isEmpty();
 }
 
 namespace lum {

@@ -1,0 +1,105 @@
+#include "basalt_utilities/Dictionary.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <string>
+
+namespace {
+
+std::string keysOf(const IDictionary& dictionary)
+{
+    std::string keys;
+    for (std::size_t i = 0; i < dictionary.size(); ++i)
+        keys.append(dictionary.keyAt(i)).append(" ");
+    return keys;
+}
+
+} // namespace
+
+TEST(Dictionary, AReplacedKeyKeepsItsPlace)
+{
+    basalt::Dictionary dictionary;
+    for (const char* key : {"zulu", "alpha", "mike"})
+        dictionary.set(key, "1");
+    dictionary.set("alpha", "a much longer value than before, beyond any small-text buffer");
+
+    EXPECT_EQ(keysOf(dictionary), "zulu alpha mike ");
+    EXPECT_EQ(dictionary.text("alpha").size(), 61U);
+    EXPECT_EQ(dictionary.text("ALPHA", "none"), "none");
+}
+
+TEST(Dictionary, ReadsLeadingNumbersAndFallsBackOnlyForMissingKeys)
+{
+    basalt::Dictionary dictionary;
+    dictionary.set("percent", "45.5 %");
+    dictionary.set("word", "many");
+    dictionary.set("empty", "");
+
+    EXPECT_EQ(dictionary.integer("percent", -1), 45);
+    EXPECT_DOUBLE_EQ(dictionary.number("percent", -1), 45.5);
+    EXPECT_EQ(dictionary.integer("word", -1), 0);
+    EXPECT_EQ(dictionary.text("empty", "fallback"), "");
+    EXPECT_EQ(dictionary.integer("missing", -1), -1);
+    EXPECT_DOUBLE_EQ(dictionary.number("missing", 2.5), 2.5);
+}
+
+TEST(Dictionary, CopiesAllOrNamedEntriesOverWhatStandsThere)
+{
+    basalt::Dictionary from;
+    from.set("a", "1");
+    from.set("b", "2");
+    from.set("c", "3");
+    basalt::Dictionary to;
+    to.set("b", "old");
+    to.set("x", "kept");
+
+    dictionary_copy(from, to, "c,b,missing");
+    EXPECT_EQ(keysOf(to), "b x c ");
+    EXPECT_EQ(to.text("b"), "2");
+
+    dictionary_copy(from, to);
+    EXPECT_EQ(keysOf(to), "b x c a ");
+    dictionary_copy(to, to);
+    EXPECT_EQ(to.size(), 4U);
+}
+
+TEST(Dictionary, NumbersAreWrittenWithoutTheLocale)
+{
+    const auto dictionary = dictionary_get_instance();
+    dic_set_value(*dictionary, "factor", 0.9996);
+    dic_set_value(*dictionary, "zone", -50);
+    EXPECT_EQ(dictionary->text("factor"), "0.9996");
+    EXPECT_EQ(dictionary->text("zone"), "-50");
+}
+
+// Small and large dictionaries find their keys in different ways: both against std::map.
+TEST(Dictionary, AgreesWithAMapThroughGrowthRemovalAndClearing)
+{
+    std::mt19937 random(7);
+    basalt::Dictionary dictionary;
+    std::map<std::string, std::string> expected;
+    for (int step = 0; step < 20000; ++step) {
+        const std::string key = "key" + std::to_string(random() % 60);
+        const std::string value = std::to_string(random());
+        switch (random() % 8) {
+        case 0:
+            EXPECT_EQ(dictionary.remove(key), expected.erase(key) == 1);
+            break;
+        case 1:
+            if (random() % 200 == 0) {
+                dictionary.clear();
+                expected.clear();
+            }
+            break;
+        default:
+            dictionary.set(key, value);
+            expected[key] = value;
+        }
+        const auto found = expected.find(key);
+        ASSERT_EQ(dictionary.contains(key), found != expected.end()) << "step " << step;
+        ASSERT_EQ(dictionary.text(key), found != expected.end() ? found->second : "");
+        ASSERT_EQ(dictionary.size(), expected.size());
+    }
+}

@@ -1,0 +1,92 @@
+#include "basalt_utilities/Files.h"
+
+#include "basalt_utilities/Paths.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class Files : public testing::Test
+{
+protected:
+    Files()
+    {
+        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+        m_folder = fs::temp_directory_path() / (std::string("野外 data ") + test->name());
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+    }
+    ~Files() override { fs::remove_all(m_folder); }
+
+    [[nodiscard]] std::string path(const char* name) const { return (m_folder / name).string(); }
+
+    static void write(const std::string& path, const std::string& text)
+    {
+        std::ofstream(path) << text;
+    }
+    static std::string read(const std::string& path)
+    {
+        std::stringstream text;
+        text << std::ifstream(path).rdbuf();
+        return text.str();
+    }
+
+    fs::path m_folder;
+};
+
+} // namespace
+
+TEST_F(Files, CopyReplacesWholeFilesAndLeavesNothingAside)
+{
+    write(path("模板.db"), "new content");
+    write(path("target.db"), "old and longer content");
+
+    EXPECT_TRUE(file_system_copy_file(path("模板.db"), path("target.db")));
+    EXPECT_EQ(read(path("target.db")), "new content");
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), {}), 2);
+}
+
+TEST_F(Files, AFailedCopyLeavesTheTargetAsItWas)
+{
+    write(path("target.db"), "old");
+    EXPECT_FALSE(file_system_copy_file(path("missing.db"), path("target.db")));
+    EXPECT_EQ(read(path("target.db")), "old");
+    EXPECT_FALSE(file_system_copy_file(path("target.db"), path("no/such/folder/x.db")));
+}
+
+TEST_F(Files, FoldersAreMadeWithThoseAboveAndDeletingTwiceIsFine)
+{
+    EXPECT_TRUE(file_system_create_dir(path("项目/one two/三")));
+    EXPECT_TRUE(file_system_create_dir(path("项目/one two/三")));
+    EXPECT_TRUE(file_system_check_file(path("项目/one two/三")));
+    write(path("file"), "");
+    EXPECT_FALSE(file_system_create_dir(path("file/below")));
+    EXPECT_TRUE(file_system_delete_file(path("file")));
+    EXPECT_TRUE(file_system_delete_file(path("file")));
+    EXPECT_FALSE(file_system_check_file(path("file")));
+}
+
+TEST(Paths, AppDirIsTheFolderOfTheExecutable)
+{
+    const fs::path executable = fs::read_symlink("/proc/self/exe");
+    EXPECT_EQ(basalt::resolvedPath("$(APP_DIR)/../etc/x.sys"),
+              (executable.parent_path().parent_path() / "etc/x.sys").string());
+    EXPECT_EQ(basalt::resolvedPath("/plain/path"), "/plain/path");
+}
+
+TEST(Paths, ATextThatDoesNotFitIsRefusedWhole)
+{
+    std::array<char, 8> buffer{'?', '?', '?'};
+    EXPECT_FALSE(process_resolve_path("/a/much/too/long", buffer.data(), buffer.size()));
+    EXPECT_STREQ(buffer.data(), "");
+    EXPECT_TRUE(process_resolve_path("/seven7", buffer.data(), buffer.size()));
+    EXPECT_STREQ(buffer.data(), "/seven7");
+    EXPECT_FALSE(process_resolve_path("/eight88", buffer.data(), buffer.size()));
+}

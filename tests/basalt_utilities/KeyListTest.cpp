@@ -1,0 +1,106 @@
+#include "basalt_utilities/KeyList.h"
+
+#include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/ILogger.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+struct KeyListCase
+{
+    const char* name;
+    const char* text;
+    char separator;
+    const char* entries; ///< "key|value;" in order
+    bool wellFormed;
+};
+
+class KeyList : public testing::TestWithParam<KeyListCase>
+{
+protected:
+    KeyList()
+    {
+        basalt::setLogListener([](void* self, ILogger::Level,
+                                  std::string_view) { ++static_cast<KeyList*>(self)->m_logLines; },
+                               this);
+    }
+    ~KeyList() override { basalt::setLogListener(nullptr, nullptr); }
+
+    int m_logLines = 0;
+};
+
+std::string entriesOf(const IDictionary& dictionary)
+{
+    std::string entries;
+    for (std::size_t i = 0; i < dictionary.size(); ++i) {
+        entries.append(dictionary.keyAt(i)).append("|");
+        entries.append(dictionary.valueAt(i)).append(";");
+    }
+    return entries;
+}
+
+} // namespace
+
+TEST_P(KeyList, ReadsWhatIsSoundAndReportsTheRest)
+{
+    const auto& [name, text, separator, entries, wellFormed] = GetParam();
+    basalt::Dictionary dictionary;
+
+    EXPECT_EQ(csa_to_dictionary(dictionary, text, '=', separator), wellFormed);
+
+    EXPECT_EQ(entriesOf(dictionary), entries);
+    EXPECT_EQ(m_logLines == 0, wellFormed);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, KeyList,
+    testing::Values(
+        KeyListCase{"Empty", "", ',', "", true},
+        KeyListCase{"Progress", "text=Loading Database,value=12.5,is_exec=0", ',',
+                    "text|Loading Database;value|12.5;is_exec|0;", true},
+        KeyListCase{"BlankSeparated", "N=100.5  E=-7", ' ', "N|100.5;E|-7;", true},
+        KeyListCase{"QuotedSeparator", "text=\"a,b=c\",value=1", ',', "text|a,b=c;value|1;", true},
+        KeyListCase{"DoubledQuotes", "text=\"say \"\"hi\"\", now\",v=2", ',',
+                    "text|say \"hi\", now;v|2;", true},
+        KeyListCase{"QuoteInTheMiddleIsText", "height=5\" antenna,v=2", ',',
+                    "height|5\" antenna;v|2;", true},
+        KeyListCase{"EmptyValueAndItems", "a=,,b=2,", ',', "a|;b|2;", true},
+        KeyListCase{"LastPairWins", "a=1,a=2", ',', "a|2;", true},
+        KeyListCase{"SecondMarkIsValue", "path=x=y", ',', "path|x=y;", true},
+        KeyListCase{"BlanksAroundKeys", " a =1, b= 2", ',', "a|1;b| 2;", true},
+        KeyListCase{"MissingMark", "show,value=3", ',', "value|3;", false},
+        KeyListCase{"MissingMarkAtTheEnd", "value=3,show", ',', "value|3;", false},
+        KeyListCase{"EmptyKey", "=1,b=2", ',', "b|2;", false},
+        KeyListCase{"UnclosedQuote", "a=1,text=\"never, ends", ',', "a|1;text|never, ends;", false},
+        KeyListCase{"LoneQuote", "text=\"", ',', "text|;", false},
+        KeyListCase{"TextBehindQuote", "text=\"a\"b,c=1", ',', "text|a;c|1;", false},
+        KeyListCase{"Chinese", "text=正在加载数据库,value=5", ',', "text|正在加载数据库;value|5;",
+                    true}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(KeyListWriting, WhatIsWrittenReadsBack)
+{
+    basalt::Dictionary written;
+    written.set("plain", "Line 12");
+    written.set("comma", "houses, fence");
+    written.set("quote", "\"quoted\"");
+    written.set("both", "a \"b\", c");
+    written.set("empty", "");
+
+    basalt::Dictionary read;
+    EXPECT_TRUE(csa_to_dictionary(read, dictionary_to_csa(written)));
+    EXPECT_EQ(entriesOf(read), entriesOf(written));
+}
+
+TEST(NextWord, WalksAListWithEmptyWords)
+{
+    std::string_view rest = "ON_A,,ON_B";
+    std::vector<std::string_view> words;
+    while (!rest.empty())
+        words.push_back(next_word3(rest, ','));
+    EXPECT_EQ(words, (std::vector<std::string_view>{"ON_A", "", "ON_B"}));
+}

@@ -1,0 +1,83 @@
+#include "lum_sdk/ComponentFactory.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+struct Tool
+{
+    virtual ~Tool() = default;
+    std::string config;
+};
+
+int alive = 0;
+
+template <int N>
+struct NumberedTool final : Tool
+{
+    NumberedTool() { ++alive; }
+    ~NumberedTool() override { --alive; }
+};
+
+template <int N>
+Tool* create(const char* config)
+{
+    auto tool = std::make_unique<NumberedTool<N>>();
+    tool->config = std::string(config) + std::to_string(N);
+    return tool.release();
+}
+
+void destroy(Tool* tool)
+{
+    std::default_delete<Tool>()(tool);
+}
+
+class Factory : public testing::Test
+{
+protected:
+    Factory()
+    {
+        basalt::setLogListener(
+            [](void* log, ILogger::Level, std::string_view line) {
+                static_cast<std::string*>(log)->append(line);
+            },
+            &m_log);
+    }
+    ~Factory() override { basalt::setLogListener(nullptr, nullptr); }
+
+    ComponentFactory<Tool, const char*> m_factory{"ITool"};
+    std::string m_log;
+};
+
+} // namespace
+
+TEST_F(Factory, TheFirstClassKeepsATakenName)
+{
+    EXPECT_TRUE(m_factory.add("Pan", "平移", create<1>, destroy));
+    EXPECT_FALSE(m_factory.add("Pan", "other", create<2>, destroy));
+
+    EXPECT_EQ(m_factory.make("Pan", "n")->config, "n1");
+    EXPECT_NE(m_log.find("\"Pan\""), std::string::npos);
+    EXPECT_EQ(m_factory.captions(),
+              (std::vector<std::pair<std::string, std::string>>{{"Pan", "平移"}}));
+}
+
+TEST_F(Factory, AnUnknownNameIsNullAndLoggedWithTheName)
+{
+    EXPECT_EQ(m_factory.make("pan", ""), nullptr);
+    EXPECT_NE(m_log.find("No ITool is registered as \"pan\""), std::string::npos);
+}
+
+TEST_F(Factory, WhatIsLentIsEndedOnceByItsOwnClass)
+{
+    m_factory.add("Pan", "", create<1>, destroy);
+    Tool* const tool = m_factory.get("Pan", "");
+    EXPECT_EQ(alive, 1);
+    m_factory.release(tool);
+    EXPECT_EQ(alive, 0);
+    m_factory.release(tool); // a second time, and null, are left alone
+    m_factory.release(nullptr);
+    EXPECT_EQ(alive, 0);
+}

@@ -1,0 +1,139 @@
+#include "lum_sdk/DictionaryXml.h"
+
+#include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/ILogger.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <string>
+
+using namespace std::string_literals;
+
+namespace {
+
+/// Runs `write` while no file may grow beyond 1000 bytes.
+template <class Write>
+bool onAFullDisk(Write write)
+{
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit tight{1000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+    const bool result = write();
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    return result;
+}
+
+} // namespace
+
+TEST(DictionaryXml, EveryKeyAndValueComesBackByteForByte)
+{
+    basalt::Dictionary written;
+    written.set("re_code", "F");
+    written.set("blanks", "  two  blanks\tand a tab \n and a line\r\n");
+    written.set("markup", "<a href=\"x\">&amp; ]]> '</a>");
+    written.set("中文键", "复测代码");
+    written.set("control\x01", "\x02\x1b[0m");
+    written.set("gb18030", "\xb2\xe2\xcf\xdf"); // not UTF-8
+    written.set("zero", "a\0b"s);
+    written.set("noncharacter", "\xef\xbf\xbf");
+    written.set("", "a value without a key");
+    written.set("empty", "");
+
+    basalt::Dictionary read;
+    EXPECT_EQ(lum::readDictionary(lum::writeDictionary(written), read).toStdString(), "");
+
+    ASSERT_EQ(read.size(), written.size());
+    for (std::size_t i = 0; i < read.size(); ++i) {
+        EXPECT_EQ(read.keyAt(i), written.keyAt(i));
+        EXPECT_EQ(read.valueAt(i), written.valueAt(i)) << "key " << read.keyAt(i);
+    }
+}
+
+struct BadXml
+{
+    const char* name;
+    const char* xml;
+    const char* fault; ///< must stand in the message
+};
+
+class BadDictionaryXml : public testing::TestWithParam<BadXml>
+{
+};
+
+TEST_P(BadDictionaryXml, IsRefusedWholeWithItsLine)
+{
+    basalt::Dictionary dictionary;
+    dictionary.set("old", "kept");
+
+    const std::string fault = lum::readDictionary(GetParam().xml, dictionary).toStdString();
+
+    EXPECT_NE(fault.find(GetParam().fault), std::string::npos) << fault;
+    EXPECT_EQ(dictionary.size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, BadDictionaryXml,
+    testing::Values(
+        BadXml{"Empty", "", "line 1"},
+        BadXml{"CutOff", "<dictionary>\n<entry key=\"a\" value=\"1\"/>\n<entry key=", "line 3"},
+        BadXml{"OtherRoot", "<settings/>", "<dictionary>"},
+        BadXml{"OtherElement", "<dictionary>\n\n<item/></dictionary>",
+               "line 3: unknown element <item>"},
+        BadXml{"NoValue", "<dictionary><entry key=\"a\"/></dictionary>", "without key or value"},
+        BadXml{"NotBase64",
+               "<dictionary><entry key=\"?\" value=\"!\" encoding=\"base64\"/></dictionary>",
+               "not base64"},
+        BadXml{"OtherEncoding",
+               "<dictionary><entry key=\"a\" value=\"b\" encoding=\"hex\"/></dictionary>",
+               "\"hex\""},
+        BadXml{"TextBehind", "<dictionary/>\nmore", "line 2"},
+        BadXml{"EntityBomb",
+               "<!DOCTYPE d [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;\">"
+               "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
+               "<dictionary><entry key=\"a\" value=\"&d;&d;\"/></dictionary>",
+               "line 1"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(DictionaryXmlFile, AFailedWriteKeepsTheOldFile)
+{
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath(QStringLiteral("质量 参数.ini")).toStdString();
+    basalt::Dictionary values;
+    values.set("pdop_max", "3");
+    ASSERT_TRUE(dictionary_to_xml(values, path));
+
+    EXPECT_FALSE(
+        dictionary_to_xml(values, folder.filePath(QStringLiteral("no/x.xml")).toStdString()));
+    EXPECT_FALSE(dictionary_to_xml(values, folder.path().toStdString())); // a folder
+    values.set("pdop_max", std::string(100000, '9'));
+    EXPECT_FALSE(onAFullDisk([&] { return dictionary_to_xml(values, path); }));
+
+    basalt::Dictionary read;
+    EXPECT_TRUE(xml_to_dictionary(path, read));
+    EXPECT_EQ(read.text("pdop_max"), "3");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+}
+
+TEST(DictionaryXmlFile, AMissingFileIsLoggedWithItsPath)
+{
+    std::string log;
+    basalt::setLogListener([](void* text, ILogger::Level,
+                              std::string_view line) { *static_cast<std::string*>(text) = line; },
+                           &log);
+    basalt::Dictionary read;
+    EXPECT_FALSE(xml_to_dictionary("/no/such/qc_param.ini", read));
+    EXPECT_FALSE(xml_to_dictionary("/tmp", read));
+    basalt::setLogListener(nullptr, nullptr);
+    EXPECT_NE(log.find("\"/tmp\""), std::string::npos) << log;
+}

@@ -1,0 +1,82 @@
+#include "lum_sdk/SystemParameter.h"
+
+#include "basalt_utilities/Files.h"
+#include "lum_sdk/DictionaryXml.h"
+
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Settings : public testing::Test
+{
+protected:
+    Settings()
+    {
+        basalt::Dictionary installed;
+        installed.set("un_coordUnit", "0");
+        installed.set("time_zone", "8");
+        dictionary_to_xml(installed, m_installed);
+    }
+
+    [[nodiscard]] std::string path(const char* name) const
+    {
+        return m_folder.filePath(QString::fromUtf8(name)).toStdString();
+    }
+
+    QTemporaryDir m_folder;
+    std::string m_installed = path("tool.sys");
+    std::string m_user = path("用户/settings.xml");
+};
+
+} // namespace
+
+TEST_F(Settings, OnlyWhatTheUserChangedIsKeptOverTheInstalledValues)
+{
+    SystemParameter first(m_user);
+    ASSERT_TRUE(first.load(m_installed));
+    first.dictionary().set("time_zone", "-3");
+    ASSERT_TRUE(first.save());
+
+    basalt::Dictionary stored;
+    ASSERT_TRUE(xml_to_dictionary(m_user, stored));
+    EXPECT_EQ(stored.size(), 1U);
+
+    SystemParameter second(m_user);
+    ASSERT_TRUE(second.load(m_installed));
+    EXPECT_EQ(second.dictionary().integer("time_zone"), -3);
+    EXPECT_EQ(second.dictionary().integer("un_coordUnit", -1), 0);
+}
+
+TEST_F(Settings, ABrokenUserFileIsPassedOver)
+{
+    file_system_create_dir(path("用户"));
+    QFile broken(QString::fromStdString(m_user));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("<dictionary><entry");
+    broken.close();
+
+    SystemParameter parameter(m_user);
+    EXPECT_TRUE(parameter.load(m_installed));
+    EXPECT_EQ(parameter.dictionary().integer("time_zone"), 8);
+}
+
+TEST_F(Settings, WithoutTheInstalledFileNothingIsLoaded)
+{
+    SystemParameter parameter(m_user);
+    parameter.dictionary().set("kept", "1");
+    EXPECT_FALSE(parameter.load(path("missing.sys")));
+    EXPECT_EQ(parameter.dictionary().size(), 1U);
+}
+
+TEST_F(Settings, AFolderThatCannotBeMadeFailsTheSaveAndKeepsTheChoice)
+{
+    SystemParameter parameter(m_installed + "/below a file/settings.xml");
+    ASSERT_TRUE(parameter.load(m_installed));
+    parameter.dictionary().set("time_zone", "0");
+    EXPECT_FALSE(parameter.save());
+    EXPECT_EQ(parameter.dictionary().integer("time_zone"), 0);
+}
