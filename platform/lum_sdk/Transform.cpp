@@ -50,9 +50,10 @@ void Transform::panBy(const QPointF& pixels)
 
 void Transform::zoomAbout(const QPointF& screen, double factor)
 {
-    if (!std::isfinite(factor) || factor <= 0)
-        return;
     const QPointF fixed = ScreenToSurvey(screen);
+    if (!std::isfinite(factor) || factor <= 0 || !std::isfinite(fixed.x()) ||
+        !std::isfinite(fixed.y()))
+        return;
     setView(m_center, m_scale / factor);
     const QPointF moved = ScreenToSurvey(screen);
     setView(m_center + (fixed - moved), m_scale);

@@ -41,7 +41,8 @@ public:
     /// Moves the picture by so many screen pixels.
     void panBy(const QPointF& pixels);
 
-    /// Zooms by `factor` (above 1 comes nearer); the map point under `screen` stays there.
+    /// Zooms by `factor` (above 1 comes nearer); the map point under `screen` stays there. A factor
+    /// that is not above 0, or anything not finite, changes nothing.
     void zoomAbout(const QPointF& screen, double factor);
 
     /// Shows all of `extent` (normalised or not) with `margin` of the screen free on each side.

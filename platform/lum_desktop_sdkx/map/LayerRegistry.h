@@ -1,0 +1,30 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ComponentKinds.h"
+#include "lum_desktop_sdkx/ILayerRegistry.h"
+
+#include <vector>
+
+class QRectF;
+
+/// The layers of a map, which it owns. Whoever paints them elsewhere has ended before this does.
+class LayerRegistry final : public ILayerRegistry
+{
+public:
+    /// Puts a layer on top.
+    /// \returns false, and a line in the log, when its name is taken; the layer is gone then
+    bool add(ILayerViewerFactory::Pointer layer);
+
+    [[nodiscard]] ILayerViewer* find(const QString& layerName) const override;
+    [[nodiscard]] std::size_t count() const override { return m_layers.size(); }
+    /// Null when there is no layer of that index.
+    [[nodiscard]] ILayerViewer* at(std::size_t index) const override;
+
+    /// The layers to paint, bottom to top.
+    [[nodiscard]] std::vector<ILayerViewer*> visibleLayers() const;
+    /// The extent of all visible layers together; null when none has a finite one.
+    [[nodiscard]] QRectF visibleExtent() const;
+
+private:
+    std::vector<ILayerViewerFactory::Pointer> m_layers;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QLineF>
+
+#include <optional>
+
+class QRectF;
+
+/// The part of `line` inside `area`, in the line's direction; nothing when it lies outside or is
+/// not finite.
+///
+/// At high zoom a line ends millions of pixels away, which is too far for the paint engine: it
+/// would walk every dash on the way.
+[[nodiscard]] std::optional<QLineF> clippedLine(const QLineF& line, const QRectF& area);

@@ -1,0 +1,351 @@
+#include "lum_desktop_sdkx/map/MapWindow.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/Payloads.h"
+#include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/ILogger.h"
+#include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/map/ReactorEvents.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace {
+
+constexpr double kZoomStep = 1.5;
+constexpr double kMargin = 0.05; // share of the screen
+constexpr int kMoveDelayMs = 30; // moves that follow one another within it make one paint
+
+bool isFinite(const QRectF& area)
+{
+    return std::isfinite(area.left()) && std::isfinite(area.top()) && std::isfinite(area.width()) &&
+           std::isfinite(area.height());
+}
+
+/// Edges count, and an area without width or height is one too.
+bool doTouch(const QRectF& a, const QRectF& b)
+{
+    return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() &&
+           b.top() <= a.bottom();
+}
+
+/// Whether the picture of the view `made` will fill at least half of each side of `live`.
+bool isWorthFinishing(const Transform& made, const Transform& live)
+{
+    if (made.size() != live.size() || !qFuzzyCompare(made.GetScale(), live.GetScale()))
+        return false;
+    const QPointF shift = (made.center() - live.center()) / live.GetScale();
+    return std::abs(shift.x()) <= live.size().width() / 2.0 &&
+           std::abs(shift.y()) <= live.size().height() / 2.0;
+}
+
+} // namespace
+
+MapWindow::MapWindow(const char* config, IDesktopHost* host)
+    : m_host(*host), m_reactors(*this),
+      m_subscription(*this,
+                     std::string(events::kUpdateSystemStatus) + "," + events::kInitBoundaryRect,
+                     host->eventManager())
+{
+    csa_to_dictionary(m_parameters, config != nullptr ? config : "");
+    m_transform.setSize(size());
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu); // or the frame would show its own
+    m_paintTimer.setSingleShot(true);
+    connect(&m_paintTimer, &QTimer::timeout, this, &MapWindow::startPaint);
+    connect(&m_painter, &MapPainter::painted, this, &MapWindow::showPicture);
+    installDefaultReactors();
+}
+
+MapWindow::~MapWindow() = default;
+
+IHost& MapWindow::host()
+{
+    return m_host;
+}
+
+// --- view ---
+
+void MapWindow::pan(int fromX, int fromY, int toX, int toY)
+{
+    m_transform.panBy(QPointF(toX, toY) - QPointF(fromX, fromY));
+    m_fitUntilSeen.reset();
+    onViewMoved();
+}
+
+void MapWindow::zoomIn()
+{
+    zoomAbout(width() / 2.0, height() / 2.0, kZoomStep);
+}
+
+void MapWindow::zoomOut()
+{
+    zoomAbout(width() / 2.0, height() / 2.0, 1 / kZoomStep);
+}
+
+void MapWindow::zoomAbout(double screenX, double screenY, double factor)
+{
+    m_transform.zoomAbout({screenX, screenY}, factor);
+    m_fitUntilSeen.reset();
+    onViewMoved();
+}
+
+void MapWindow::zoomAll()
+{
+    const QRectF all = m_extent.isNull() ? m_layers.visibleExtent() : m_extent;
+    if (all.isNull())
+        m_transform.setView({0, 0}, 1);
+    else
+        fitTo(all, kMargin);
+    update();
+    redraw(); // whoever asks for it may have changed what the layers show
+}
+
+void MapWindow::zoomRect(double left, double top, double right, double bottom)
+{
+    const QRectF area(QPointF(left, top), QPointF(right, bottom));
+    if (!isFinite(area)) {
+        basalt::logWarning("The map cannot zoom to a rectangle that is not finite");
+        return;
+    }
+    if (area.isNull()) {
+        const QPointF place = m_transform.SurveyToScreen(area.topLeft());
+        zoomAbout(place.x(), place.y(), kZoomStep);
+        return;
+    }
+    fitTo(area.normalized(), 0);
+    onViewMoved();
+}
+
+void MapWindow::setExtent(double left, double top, double right, double bottom)
+{
+    const QRectF area = QRectF(QPointF(left, top), QPointF(right, bottom)).normalized();
+    if (!isFinite(area)) {
+        basalt::logError("The map refuses an extent that is not finite");
+        return;
+    }
+    const bool isFirst = m_extent.isNull();
+    m_extent = area;
+    if (!area.isNull() &&
+        (isFirst || m_fitUntilSeen || !doTouch(m_transform.visibleExtent(), area)))
+        fitTo(area, kMargin);
+    update();
+    redraw();
+}
+
+void MapWindow::fitTo(const QRectF& extent, double margin)
+{
+    m_transform.fit(extent, margin);
+    if (!m_isSeen)
+        m_fitUntilSeen = Fit{extent, margin};
+}
+
+// --- painting ---
+
+void MapWindow::onViewMoved()
+{
+    update();
+    if (!m_paintTimer.isActive())
+        m_paintTimer.start(kMoveDelayMs);
+}
+
+void MapWindow::redraw()
+{
+    m_isContentStale = true;
+    m_paintTimer.start(0);
+}
+
+void MapWindow::startPaint()
+{
+    if (!isVisible())
+        return; // painted when it is shown
+    const auto& inWork = m_painter.viewInWork();
+    if (inWork && !m_isContentStale && isWorthFinishing(*inWork, m_transform))
+        return; // or a long drag would never let a picture be finished; its arrival goes on
+    m_isContentStale = false;
+    m_painter.request(makeJob());
+}
+
+MapPaintJob MapWindow::makeJob()
+{
+    MapPaintJob job;
+    job.target.transform = m_transform;
+    job.target.mapExtent = m_extent;
+    job.target.status = basalt::Dictionary(get_system_status_dictionary());
+    job.layers = m_layers.visibleLayers();
+    job.background = palette().color(QPalette::Base);
+    job.foreground = palette().color(QPalette::Text);
+    job.font = fontForWorker(font());
+    job.pixelRatio = m_pixelRatio = devicePixelRatioF();
+    m_boundaryState = job.target.status.integer(status::kDrawBoundaryRect);
+    return job;
+}
+
+void MapWindow::showPicture(const QImage& picture, const Transform& view)
+{
+    m_picture.set(picture, view);
+    update();
+    if (!m_painter.viewInWork() && view != m_transform && !m_paintTimer.isActive())
+        m_paintTimer.start(0);
+    Q_EMIT pictureChanged();
+}
+
+void MapWindow::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
+{
+    if (get_system_status_dictionary().integer(status::kDrawBoundaryRect) != m_boundaryState)
+        redraw();
+}
+
+void MapWindow::refreshOverlay()
+{
+    for (Overlay& overlay : m_overlays)
+        overlay.refresh();
+    update();
+}
+
+void MapWindow::paintEvent(QPaintEvent* /*event*/)
+{
+    m_isSeen = true;
+    m_fitUntilSeen.reset();
+    if (!qFuzzyCompare(m_pixelRatio, devicePixelRatioF())) // moved to another screen
+        redraw();
+    QPainter painter(this);
+    m_picture.draw(painter, m_transform, palette().color(QPalette::Base));
+    m_overlays[1].draw(painter, m_transform);
+    m_overlays[0].draw(painter, m_transform);
+}
+
+void MapWindow::resizeEvent(QResizeEvent* /*event*/)
+{
+    m_transform.setSize(size());
+    if (m_fitUntilSeen)
+        m_transform.fit(m_fitUntilSeen->extent, m_fitUntilSeen->margin);
+    onViewMoved();
+}
+
+void MapWindow::showEvent(QShowEvent* /*event*/)
+{
+    redraw();
+}
+
+void MapWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        redraw();
+    QWidget::changeEvent(event);
+}
+
+// --- layers, overlays, reactors ---
+
+ILayerViewer* MapWindow::addLayer(const QString& className, const IDictionary& properties)
+{
+    auto layer = extensible_factory_ILayerViewer().make(
+        className.toStdString(), dictionary_to_csa(properties).c_str(), &m_host);
+    ILayerViewer* const added = layer.get();
+    if (added == nullptr || !m_layers.add(std::move(layer)))
+        return nullptr;
+    added->SetTransform(&m_transform);
+    redraw();
+    return added;
+}
+
+IOverlay& MapWindow::overlay(int number)
+{
+    Q_ASSERT(number == 0 || number == 1);
+    return m_overlays[number == 1 ? 1 : 0];
+}
+
+bool MapWindow::installReactor(const QString& name)
+{
+    if (!m_reactors.install(name))
+        return false;
+    setCursor(Qt::ArrowCursor);
+    return true;
+}
+
+void MapWindow::installDefaultReactors()
+{
+    const std::string_view names = m_parameters.text("reactors", "ReactorDefault");
+    static const QRegularExpression kBetween(QStringLiteral("[;\\s]+"));
+    const QString list = QString::fromUtf8(names.data(), static_cast<int>(names.size()));
+    installReactor(QStringLiteral("ReactorDefault")); // none of the old ones stays
+    for (const QString& name : list.split(kBetween, Qt::SkipEmptyParts))
+        installReactor(name);
+}
+
+void MapWindow::setMapCursor(const QCursor& cursor)
+{
+    setCursor(cursor);
+}
+
+// --- mouse and keyboard ---
+
+void MapWindow::announcePosition(const QPointF& screen)
+{
+    const QPointF map = m_transform.ScreenToSurvey(screen);
+    m_host.eventManager().publish(events::kXyChanged, payload::position(map.y(), map.x()).c_str(),
+                                  0);
+}
+
+void MapWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (const ButtonOperations* operations = operationsOf(event->button()))
+        m_reactors.dispatch(operations->down, parametersOf(*event));
+    else
+        QWidget::mousePressEvent(event);
+}
+
+void MapWindow::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (const ButtonOperations* operations = operationsOf(event->button()))
+        m_reactors.dispatch(operations->up, parametersOf(*event));
+    else
+        QWidget::mouseReleaseEvent(event);
+}
+
+void MapWindow::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    // The second press of two quick ones, and nothing else, comes as a double click: when nobody
+    // wants it as such it is a press, or every second quick drag would be lost.
+    const bool isHandled = event->button() == Qt::LeftButton &&
+                           m_reactors.dispatch(&IReactor::dblClick, parametersOf(*event));
+    if (!isHandled)
+        mousePressEvent(event);
+}
+
+void MapWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    // The middle button pans also under a tool that keeps every move for itself.
+    const auto first = event->buttons().testFlag(Qt::MiddleButton) ? ReactorStack::First::Standing
+                                                                   : ReactorStack::First::Tool;
+    m_reactors.dispatch(&IReactor::mouseMove, parametersOf(*event), first);
+    announcePosition(event->localPos()); // after a pan, which moves the map under the cursor
+}
+
+void MapWindow::wheelEvent(QWheelEvent* event)
+{
+    event->setAccepted(m_reactors.dispatch(&IReactor::mouseWheel, parametersOf(*event)));
+}
+
+void MapWindow::keyPressEvent(QKeyEvent* event)
+{
+    const QPointF cursor = mapFromGlobal(QCursor::pos());
+    if (!m_reactors.dispatch(&IReactor::keyPress, parametersOf(*event, cursor)))
+        QWidget::keyPressEvent(event);
+}
+
+void MapWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    const QPointF cursor = mapFromGlobal(QCursor::pos());
+    if (!m_reactors.dispatch(&IReactor::keyRelease, parametersOf(*event, cursor)))
+        QWidget::keyReleaseEvent(event);
+}

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "app/protocol/EventSubscription.h"
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/IWindow.h"
+#include "lum_desktop_sdkx/map/LayerRegistry.h"
+#include "lum_desktop_sdkx/map/MapPainter.h"
+#include "lum_desktop_sdkx/map/MapPicture.h"
+#include "lum_desktop_sdkx/map/Overlay.h"
+#include "lum_desktop_sdkx/map/ReactorStack.h"
+#include "lum_sdk/IEventManager.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+
+class IDesktopHost;
+
+/// The map: the last picture, moved at once with the view, under the overlays, while a worker
+/// paints the next one.
+class MapWindow final : public QWidget, public IWindowx, public IMapWindow, private IEventHandler
+{
+    Q_OBJECT
+
+public:
+    /// \param config a key list: "reactors", the default reactors' names between semicolons or
+    ///        blanks (default "ReactorDefault")
+    MapWindow(const char* config, IDesktopHost* host);
+    ~MapWindow() override;
+
+    [[nodiscard]] QWidget* widget() override { return this; }
+    [[nodiscard]] IDictionary& parameters() override { return m_parameters; }
+
+    void pan(int fromX, int fromY, int toX, int toY) override;
+    void zoomIn() override;
+    void zoomOut() override;
+    /// The data's extent; without one that of the visible layers; else the place (0, 0) at 1 m a
+    /// pixel.
+    void zoomAll() override;
+    void zoomRect(double left, double top, double right, double bottom) override;
+    void zoomAbout(double screenX, double screenY, double factor) override;
+    /// An extent without width and height says that there is no data.
+    void setExtent(double left, double top, double right, double bottom) override;
+    [[nodiscard]] QRectF extent() const override { return m_extent; }
+    /// Sets the cursor back to the arrow, too.
+    bool installReactor(const QString& name) override;
+    void installDefaultReactors() override;
+    void setMapCursor(const QCursor& cursor) override;
+    void redraw() override;
+    void refreshOverlay() override;
+    [[nodiscard]] const Transform& transform() const override { return m_transform; }
+    [[nodiscard]] ILayerRegistry& layers() override { return m_layers; }
+    ILayerViewer* addLayer(const QString& className, const IDictionary& properties) override;
+    [[nodiscard]] IOverlay& overlay(int number) override;
+    [[nodiscard]] IHost& host() override;
+
+Q_SIGNALS:
+    /// A new picture shows.
+    void pictureChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    void handleEvent(const char* eventName, const char* payload, int reserved) override;
+    void announcePosition(const QPointF& screen);
+    /// Shows `extent`; until the user first sees the map, again after each change of its size.
+    void fitTo(const QRectF& extent, double margin);
+    void onViewMoved();
+    void startPaint();
+    [[nodiscard]] MapPaintJob makeJob();
+    void showPicture(const QImage& picture, const Transform& view);
+
+    struct Fit
+    {
+        QRectF extent;
+        double margin;
+    };
+
+    IDesktopHost& m_host;
+    basalt::Dictionary m_parameters;
+    Transform m_transform; // layers hold on to it
+    QRectF m_extent;       // normalised; null while there is no data
+    bool m_isSeen = false;
+    std::optional<Fit> m_fitUntilSeen;
+
+    LayerRegistry m_layers;
+    std::array<Overlay, 2> m_overlays;
+    MapPicture m_picture;
+    MapPainter m_painter; // ends before the layers do
+    QTimer m_paintTimer;
+    bool m_isContentStale = true; ///< the picture shows old data, not just an old view
+    int m_boundaryState = 0;      ///< status of the boundary in the picture in work
+    double m_pixelRatio = 1;      ///< of the picture in work
+
+    ReactorStack m_reactors;
+    EventSubscription m_subscription;
+};

@@ -1,0 +1,126 @@
+#include "lum_desktop_sdkx/map/Overlay.h"
+
+#include "basalt_utilities/IDictionary.h"
+#include "lum_desktop_sdkx/map/LineClip.h"
+#include "lum_sdk/Transform.h"
+
+#include <QPainter>
+#include <QPen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kMaxRadius = 200;
+constexpr int kMaxWidth = 32;
+constexpr int kBandAlpha = 28; // lets the map show through a rubber band
+
+} // namespace
+
+void Overlay::clear()
+{
+    m_next = Drawing();
+}
+
+void Overlay::setProperties(const IDictionary& properties)
+{
+    const double radius = properties.number("point_radius", Drawing().pointRadius);
+    m_next.pointRadius = radius > 0 ? std::min(radius, kMaxRadius) : Drawing().pointRadius;
+}
+
+void Overlay::setLineStyle(int style)
+{
+    const bool isKnown = style >= Qt::NoPen && style <= Qt::DashDotDotLine;
+    m_next.lineStyle = isKnown ? static_cast<Qt::PenStyle>(style) : Qt::SolidLine;
+}
+
+void Overlay::setLineWidth(int width)
+{
+    m_next.lineWidth = std::clamp(width, 1, kMaxWidth);
+}
+
+void Overlay::setColor(const QColor& color)
+{
+    m_next.color = color;
+}
+
+void Overlay::setPoint(const QPointF& map)
+{
+    m_next.point = map;
+}
+
+void Overlay::setLine(const QPolygonF& map)
+{
+    m_next.line = map;
+}
+
+void Overlay::setVertices(const QPolygonF& map)
+{
+    m_next.vertices = map;
+}
+
+void Overlay::setRectangle(const QRectF& screen)
+{
+    m_next.rectangle = screen;
+}
+
+void Overlay::refresh()
+{
+    m_shown = m_next;
+}
+
+void Overlay::draw(QPainter& painter, const Transform& view) const
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double reach = kMaxRadius; // no shape is seen from farther outside
+    const QRectF area =
+        QRectF(QPointF(0, 0), QSizeF(view.size())).adjusted(-reach, -reach, reach, reach);
+    painter.setPen(QPen(m_shown.color, m_shown.lineWidth, m_shown.lineStyle));
+    drawLine(painter, view, area);
+    drawRectangle(painter, area);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_shown.color);
+    drawPoints(painter, view, area);
+    painter.restore();
+}
+
+void Overlay::drawLine(QPainter& painter, const Transform& view, const QRectF& area) const
+{
+    for (int i = 1; i < m_shown.line.size(); ++i) {
+        const QLineF piece(view.SurveyToScreen(m_shown.line[i - 1]),
+                           view.SurveyToScreen(m_shown.line[i]));
+        if (const auto seen = clippedLine(piece, area))
+            painter.drawLine(*seen);
+    }
+}
+
+void Overlay::drawRectangle(QPainter& painter, const QRectF& area) const
+{
+    if (!m_shown.rectangle)
+        return;
+    QColor inside = m_shown.color;
+    inside.setAlpha(kBandAlpha);
+    painter.setBrush(inside);
+    // In this order of arguments what is no number stays so, and leaves nothing below.
+    const QRectF band = m_shown.rectangle->normalized();
+    const QPointF topLeft(std::max(band.left(), area.left()), std::max(band.top(), area.top()));
+    const QPointF bottomRight(std::min(band.right(), area.right()),
+                              std::min(band.bottom(), area.bottom()));
+    if (topLeft.x() <= bottomRight.x() && topLeft.y() <= bottomRight.y())
+        painter.drawRect(QRectF(topLeft, bottomRight));
+}
+
+void Overlay::drawPoints(QPainter& painter, const Transform& view, const QRectF& area) const
+{
+    const auto drawPoint = [&](const QPointF& map) {
+        const QPointF screen = view.SurveyToScreen(map);
+        if (area.contains(screen)) // false for what is not a number, too
+            painter.drawEllipse(screen, m_shown.pointRadius, m_shown.pointRadius);
+    };
+    for (const QPointF& vertex : m_shown.vertices)
+        drawPoint(vertex);
+    if (m_shown.point)
+        drawPoint(*m_shown.point);
+}
