@@ -1,0 +1,148 @@
+#include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
+
+#include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/controls/PropertyGridDelegate.h"
+#include "lum_desktop_sdkx/controls/PropertyGridModel.h"
+#include "lum_desktop_sdkx/controls/PropertyGridView.h"
+#include "lum_sdk/DpiScale.h"
+
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kDescriptionLines = 3;
+
+/// What is wrong, or an empty text with the file's content in `xml`.
+QString readFile(const QString& path, QByteArray& xml)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    xml = file.readAll();
+    return {};
+}
+
+} // namespace
+
+PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
+    : QWidget(parent), m_model(new PropertyGridModel(this)), m_view(new PropertyGridView(this)),
+      m_description(new QLabel(this))
+{
+    m_view->setModel(m_model);
+    m_view->setItemDelegate(new PropertyGridDelegate(*m_model, this));
+    setResizeMode(ResizeMode::Interactive);
+    setFocusProxy(m_view);
+
+    m_description->setWordWrap(true);
+    m_description->setTextFormat(Qt::RichText);
+    m_description->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_description->setFrameShape(QFrame::StyledPanel);
+    m_description->setMargin(dpi_scaled(5));
+    m_description->setMinimumHeight(m_description->fontMetrics().height() * kDescriptionLines +
+                                    dpi_scaled(14));
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(dpi_scaled(4));
+    layout->addWidget(m_view, 1);
+    layout->addWidget(m_description);
+
+    connect(m_model, &PropertyGridModel::valueEdited, this, &PropertyGridCtrl::valueChanged);
+    connect(m_model, &PropertyGridModel::dataChanged, this,
+            [this] { describe(m_view->currentIndex()); });
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) { describe(current); });
+}
+
+bool PropertyGridCtrl::init(const QString& controlXmlPath, const IDictionary& values)
+{
+    QByteArray xml;
+    PropertyGridLayout layout;
+    QString fault = readFile(controlXmlPath, xml);
+    const bool isShown = fault.isEmpty() && !xml.isEmpty() && xml == m_controlXml;
+    if (fault.isEmpty() && !isShown)
+        fault = readPropertyGridLayout(xml, layout);
+    if (!fault.isEmpty()) {
+        const QString line =
+            QStringLiteral("Cannot read the control file \"%1\": %2").arg(controlXmlPath, fault);
+        basalt::logError(line.toStdString());
+        return false;
+    }
+    if (!isShown) {
+        m_model->setLayout(std::move(layout));
+        m_controlXml = xml;
+        m_view->spanGroups();
+    }
+    m_model->setValues(values);
+    describe(m_view->currentIndex());
+    return true;
+}
+
+void PropertyGridCtrl::setValue(const QString& key, const QString& text)
+{
+    m_model->setValue(key, text);
+}
+
+basalt::Dictionary PropertyGridCtrl::getData()
+{
+    m_view->commitEditor();
+    return m_model->values();
+}
+
+bool PropertyGridCtrl::hasFaults()
+{
+    m_view->commitEditor();
+    return m_model->hasFaults();
+}
+
+void PropertyGridCtrl::setResizeMode(ResizeMode mode)
+{
+    QHeaderView* const header = m_view->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(PropertyGridModel::Value, QHeaderView::Stretch);
+    header->setSectionResizeMode(PropertyGridModel::Caption,
+                                 static_cast<QHeaderView::ResizeMode>(mode));
+}
+
+void PropertyGridCtrl::setHeaderVisible(bool visible)
+{
+    m_view->setHeaderHidden(!visible);
+}
+
+void PropertyGridCtrl::setDescriptionVisible(bool visible)
+{
+    m_description->setVisible(visible);
+}
+
+void PropertyGridCtrl::setRowVisible(const QString& key, bool visible)
+{
+    const QModelIndex cell = m_model->indexOfKey(key);
+    if (!cell.isValid())
+        return;
+    const QModelIndex group = cell.parent();
+    m_view->setRowHidden(cell.row(), group, !visible);
+    if (!visible)
+        m_model->dropFault(key);
+    bool isAnyVisible = false;
+    for (int i = 0; i < m_model->rowCount(group); ++i)
+        isAnyVisible = isAnyVisible || !m_view->isRowHidden(i, group);
+    m_view->setRowHidden(group.row(), {}, !isAnyVisible);
+}
+
+void PropertyGridCtrl::describe(const QModelIndex& index)
+{
+    const PropertyGridRow* const row = m_model->row(index);
+    if (row == nullptr) {
+        m_description->clear();
+        return;
+    }
+    QString text = QStringLiteral("<b>%1</b><br>%2")
+                       .arg(row->caption.toHtmlEscaped(), row->description.toHtmlEscaped());
+    if (const QString fault = m_model->fault(index); !fault.isEmpty())
+        text = QStringLiteral("<b>%1</b><br>%2")
+                   .arg(row->caption.toHtmlEscaped(), fault.toHtmlEscaped());
+    m_description->setText(text);
+}

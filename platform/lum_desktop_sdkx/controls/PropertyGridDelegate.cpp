@@ -1,0 +1,131 @@
+#include "lum_desktop_sdkx/controls/PropertyGridDelegate.h"
+
+#include "lum_desktop_sdkx/controls/PropertyGridModel.h"
+#include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "lum_sdk/DpiScale.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPointer>
+#include <QStyle>
+
+namespace {
+
+constexpr int kRowPadding = 11;  ///< above and below the text of a row, together
+constexpr int kCellPadding = 14; ///< to the right of a caption, before the dividing line
+
+} // namespace
+
+PropertyGridDelegate::PropertyGridDelegate(PropertyGridModel& model, QObject* parent)
+    : QStyledItemDelegate(parent), m_model(model)
+{
+}
+
+QWidget* PropertyGridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                                            const QModelIndex& index) const
+{
+    const PropertyGridRow* const row = m_model.row(index);
+    if (row == nullptr)
+        return nullptr;
+    return row->editor == PropertyGridRow::Editor::Choice ? makeChoiceEditor(parent, index)
+                                                          : makeLineEditor(parent, index);
+}
+
+QWidget* PropertyGridDelegate::makeChoiceEditor(QWidget* parent, const QModelIndex& index) const
+{
+    auto* const editor = new QComboBox(parent);
+    editor->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    for (const PropertyGridChoice& choice : m_model.row(index)->choices)
+        editor->addItem(choice.caption, choice.value);
+    // The base class offers its signals to no const member; the delegate itself is not const.
+    auto* const self = const_cast<PropertyGridDelegate*>(this);
+    connect(editor, QOverload<int>::of(&QComboBox::activated), self,
+            [self, editor] { self->finish(editor); });
+    return editor;
+}
+
+QWidget* PropertyGridDelegate::makeLineEditor(QWidget* parent, const QModelIndex& index) const
+{
+    auto* const editor = new QLineEdit(parent);
+    const PropertyGridRow& row = *m_model.row(index);
+    if (row.editor != PropertyGridRow::Editor::File)
+        return editor;
+    const QIcon icon = QIcon::fromTheme(QStringLiteral("document-open"),
+                                        editor->style()->standardIcon(QStyle::SP_DirOpenIcon));
+    QAction* const action = editor->addAction(icon, QLineEdit::TrailingPosition);
+    action->setToolTip(tr("Browse"));
+    auto* const self = const_cast<PropertyGridDelegate*>(this);
+    connect(action, &QAction::triggered, self,
+            [self, editor, title = row.caption, filter = row.filter] {
+                self->browse(editor, title, filter);
+            });
+    return editor;
+}
+
+void PropertyGridDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    const QString text = index.data(Qt::EditRole).toString();
+    if (auto* const line = qobject_cast<QLineEdit*>(editor)) {
+        if (line->text() != text)
+            line->setText(text);
+    } else if (auto* const combo = qobject_cast<QComboBox*>(editor)) {
+        combo->setCurrentIndex(combo->findData(text));
+    }
+}
+
+void PropertyGridDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                        const QModelIndex& index) const
+{
+    if (const auto* const line = qobject_cast<QLineEdit*>(editor))
+        model->setData(index, line->text(), Qt::EditRole);
+    else if (const auto* const combo = qobject_cast<QComboBox*>(editor);
+             combo != nullptr && combo->currentIndex() >= 0)
+        model->setData(index, combo->currentData(), Qt::EditRole);
+}
+
+QSize PropertyGridDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                     const QModelIndex& index) const
+{
+    const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+    return {hint.width() + dpi_scaled(kCellPadding),
+            option.fontMetrics.height() + dpi_scaled(kRowPadding)};
+}
+
+void PropertyGridDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                           const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->backgroundBrush.style() != Qt::NoBrush)
+        option->state &= ~QStyle::State_Selected; // a selected row must not hide its fault
+}
+
+bool PropertyGridDelegate::eventFilter(QObject* editor, QEvent* event)
+{
+    if (m_isBrowsing && event->type() == QEvent::FocusOut)
+        return false; // the file dialog takes the focus, and the editor takes its answer
+    return QStyledItemDelegate::eventFilter(editor, event);
+}
+
+void PropertyGridDelegate::finish(QWidget* editor)
+{
+    Q_EMIT commitData(editor);
+    Q_EMIT closeEditor(editor);
+}
+
+void PropertyGridDelegate::browse(QWidget* editor, const QString& title, const QString& filter)
+{
+    const QPointer<PropertyGridDelegate> alive(this);
+    const QPointer<QWidget> open(editor); // its grid may be filled anew while the dialog stands
+    m_isBrowsing = true;
+    const QString path = FileDialog::getOpenFileName(editor->window(), title, filter);
+    if (alive.isNull())
+        return;
+    m_isBrowsing = false;
+    auto* const line = qobject_cast<QLineEdit*>(open.data());
+    if (line == nullptr || path.isEmpty())
+        return;
+    line->setText(path);
+    finish(line);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class PropertyGridModel;
+
+/// Makes the editors of a property grid and lays out its cells.
+class PropertyGridDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit PropertyGridDelegate(PropertyGridModel& model, QObject* parent = nullptr);
+
+    [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+    bool eventFilter(QObject* editor, QEvent* event) override;
+
+private:
+    [[nodiscard]] QWidget* makeChoiceEditor(QWidget* parent, const QModelIndex& index) const;
+    [[nodiscard]] QWidget* makeLineEditor(QWidget* parent, const QModelIndex& index) const;
+    void finish(QWidget* editor);
+    void browse(QWidget* editor, const QString& title, const QString& filter);
+
+    PropertyGridModel& m_model; // belongs to the grid, as this does
+    bool m_isBrowsing = false;
+};

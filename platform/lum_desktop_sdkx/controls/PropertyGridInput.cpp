@@ -1,0 +1,121 @@
+#include "lum_desktop_sdkx/controls/PropertyGridInput.h"
+
+#include "basalt_utilities/Numbers.h"
+#include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using Editor = PropertyGridRow::Editor;
+
+struct PropertyGrid
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertyGrid)
+};
+
+bool isNumeric(const PropertyGridRow& row)
+{
+    return row.editor == Editor::Number || row.editor == Editor::Integer ||
+           row.editor == Editor::Angle;
+}
+
+QString withUnit(const QString& number, const PropertyGridRow& row)
+{
+    if (row.unit.isEmpty() || number.isEmpty())
+        return number;
+    const bool isSticking = row.unit == QLatin1String("\xb0") || row.unit == QLatin1String("%");
+    return isSticking ? number + row.unit : number + QLatin1Char(' ') + row.unit;
+}
+
+QString limit(double value, const PropertyGridRow& row)
+{
+    return withUnit(QString::fromStdString(basalt::formatShortest(value)), row);
+}
+
+/// Whole sentences, since no language builds them from the same parts.
+QString wantedNumber(const PropertyGridRow& row)
+{
+    const bool whole = row.editor == Editor::Integer;
+    if (row.minimum && row.maximum)
+        return (whole ? PropertyGrid::tr("Enter a whole number from %1 to %2.")
+                      : PropertyGrid::tr("Enter a number from %1 to %2."))
+            .arg(limit(*row.minimum, row), limit(*row.maximum, row));
+    if (row.minimum)
+        return (whole ? PropertyGrid::tr("Enter a whole number of at least %1.")
+                      : PropertyGrid::tr("Enter a number of at least %1."))
+            .arg(limit(*row.minimum, row));
+    if (row.maximum)
+        return (whole ? PropertyGrid::tr("Enter a whole number of at most %1.")
+                      : PropertyGrid::tr("Enter a number of at most %1."))
+            .arg(limit(*row.maximum, row));
+    if (!row.unit.isEmpty())
+        return (whole ? PropertyGrid::tr("Enter a whole number (%1).")
+                      : PropertyGrid::tr("Enter a number (%1)."))
+            .arg(row.unit);
+    return whole ? PropertyGrid::tr("Enter a whole number.") : PropertyGrid::tr("Enter a number.");
+}
+
+bool isInRange(const PropertyGridRow& row, const QString& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber); // C locale, whatever the desktop's
+    if (isNumber && row.editor == Editor::Integer)
+        (void)value.toLongLong(&isNumber);
+    return isNumber && std::isfinite(number) && !(row.minimum && number < *row.minimum) &&
+           !(row.maximum && number > *row.maximum);
+}
+
+int decimalsOf(const QString& number)
+{
+    const int point = number.indexOf(QLatin1Char('.'));
+    if (point < 0)
+        return 0;
+    const auto* const first = number.cbegin() + point + 1;
+    const auto* const last =
+        std::find_if_not(first, number.cend(), [](QChar c) { return c.isDigit(); });
+    return static_cast<int>(last - first);
+}
+
+QString withPoint(const QString& typed)
+{
+    QString number = typed.trimmed();
+    const QChar comma = QLatin1Char(',');
+    if (QLocale().decimalPoint() == comma && number.count(comma) == 1 &&
+        !number.contains(QLatin1Char('.')))
+        number.replace(comma, QLatin1Char('.'));
+    return number;
+}
+
+} // namespace
+
+PropertyGridInput readPropertyGridInput(const PropertyGridRow& row, const QString& typed)
+{
+    if (!isNumeric(row))
+        return {typed, {}};
+    const QString number = withPoint(typed);
+    QString fault = isInRange(row, number) ? QString() : wantedNumber(row);
+    if (fault.isEmpty() && row.decimals && decimalsOf(number) > *row.decimals)
+        fault = PropertyGrid::tr("Enter at most %n decimal(s).", nullptr, *row.decimals);
+    return {number, fault};
+}
+
+QString propertyGridFault(const PropertyGridRow& row, const QString& value)
+{
+    return !isNumeric(row) || isInRange(row, value) ? QString() : wantedNumber(row);
+}
+
+QString shownPropertyGridValue(const PropertyGridRow& row, const QString& value)
+{
+    if (row.editor == Editor::Flag)
+        return {};
+    for (const PropertyGridChoice& choice : row.choices) {
+        if (choice.value == value)
+            return choice.caption;
+    }
+    return withUnit(value, row);
+}

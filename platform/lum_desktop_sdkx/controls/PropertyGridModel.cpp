@@ -1,0 +1,242 @@
+#include "lum_desktop_sdkx/controls/PropertyGridModel.h"
+
+#include "lum_desktop_sdkx/controls/PropertyGridInput.h"
+
+#include <QColor>
+
+namespace {
+
+using Editor = PropertyGridRow::Editor;
+
+/// Lies on light and on dark rows alike.
+constexpr QRgb kFaultColor = qRgba(0xe0, 0x30, 0x30, 0x60);
+
+constexpr quintptr kGroup = 0; ///< internal id of a group; a row's is the number of its group + 1
+
+std::string toStd(const QString& text)
+{
+    return text.toStdString();
+}
+
+bool isOn(const QString& value)
+{
+    return value.toInt() != 0;
+}
+
+} // namespace
+
+void PropertyGridModel::setLayout(PropertyGridLayout layout)
+{
+    beginResetModel();
+    m_layout = std::move(layout);
+    m_faults.clear();
+    endResetModel();
+}
+
+void PropertyGridModel::setValues(const IDictionary& values)
+{
+    m_values = basalt::Dictionary(values);
+    m_faults.clear();
+    for (int g = 0; g < rowCount(); ++g) {
+        const QModelIndex group = index(g, 0);
+        for (const PropertyGridRow& row : m_layout.groups[static_cast<std::size_t>(g)].rows)
+            judge(row);
+        if (const int count = rowCount(group); count > 0)
+            Q_EMIT dataChanged(index(0, Caption, group), index(count - 1, Value, group));
+    }
+}
+
+void PropertyGridModel::setValue(const QString& key, const QString& value)
+{
+    m_values.set(toStd(key), toStd(value));
+    const QModelIndex cell = indexOfKey(key);
+    if (!cell.isValid())
+        return;
+    judge(*row(cell));
+    tellChanged(cell);
+}
+
+void PropertyGridModel::dropFault(const QString& key)
+{
+    if (m_faults.remove(key) > 0)
+        tellChanged(indexOfKey(key));
+}
+
+QModelIndex PropertyGridModel::indexOfKey(const QString& key) const
+{
+    for (int g = 0; g < rowCount(); ++g) {
+        const QModelIndex group = index(g, 0);
+        for (int r = 0; r < rowCount(group); ++r) {
+            const QModelIndex cell = index(r, Value, group);
+            if (row(cell)->key == key)
+                return cell;
+        }
+    }
+    return {};
+}
+
+const PropertyGridRow* PropertyGridModel::row(const QModelIndex& index) const
+{
+    if (!index.isValid() || index.internalId() == kGroup)
+        return nullptr;
+    const auto& group = m_layout.groups[static_cast<std::size_t>(index.internalId() - 1)];
+    return &group.rows[static_cast<std::size_t>(index.row())];
+}
+
+QString PropertyGridModel::fault(const QModelIndex& index) const
+{
+    const PropertyGridRow* const at = row(index);
+    return at == nullptr ? QString() : m_faults.value(at->key).message;
+}
+
+QModelIndex PropertyGridModel::index(int row, int column, const QModelIndex& parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column,
+                       parent.isValid() ? static_cast<quintptr>(parent.row()) + 1 : kGroup);
+}
+
+QModelIndex PropertyGridModel::parent(const QModelIndex& index) const
+{
+    if (!index.isValid() || index.internalId() == kGroup)
+        return {};
+    return createIndex(static_cast<int>(index.internalId()) - 1, 0, kGroup);
+}
+
+int PropertyGridModel::rowCount(const QModelIndex& parent) const
+{
+    if (!parent.isValid())
+        return static_cast<int>(m_layout.groups.size());
+    if (parent.internalId() != kGroup || parent.column() != 0)
+        return 0;
+    return static_cast<int>(m_layout.groups[static_cast<std::size_t>(parent.row())].rows.size());
+}
+
+int PropertyGridModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return 2;
+}
+
+Qt::ItemFlags PropertyGridModel::flags(const QModelIndex& index) const
+{
+    const PropertyGridRow* const at = row(index);
+    if (at == nullptr)
+        return index.isValid() ? Qt::ItemIsEnabled : Qt::NoItemFlags;
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (index.column() == Value && !at->readOnly)
+        flags |= at->editor == Editor::Flag ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
+    return flags;
+}
+
+QVariant PropertyGridModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const PropertyGridRow* const at = row(index);
+    if (at == nullptr) {
+        const bool isCaption = role == Qt::DisplayRole && index.column() == Caption;
+        return isCaption ? m_layout.groups[static_cast<std::size_t>(index.row())].caption
+                         : QVariant();
+    }
+    if (index.column() == Value)
+        return valueData(*at, role);
+    switch (role) {
+    case Qt::DisplayRole:
+        return at->caption;
+    case Qt::ToolTipRole:
+        return at->description;
+    default:
+        return {};
+    }
+}
+
+QVariant PropertyGridModel::valueData(const PropertyGridRow& row, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return shownOrTyped(row, true);
+    case Qt::EditRole:
+        return shownOrTyped(row, false);
+    case Qt::ToolTipRole:
+        return m_faults.contains(row.key) ? m_faults.value(row.key).message : row.description;
+    case Qt::BackgroundRole:
+        return m_faults.contains(row.key) ? QColor::fromRgba(kFaultColor) : QVariant();
+    case Qt::CheckStateRole:
+        if (row.editor != Editor::Flag)
+            return {};
+        return isOn(value(row)) ? Qt::Checked : Qt::Unchecked;
+    default:
+        return {};
+    }
+}
+
+bool PropertyGridModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const PropertyGridRow* const at = row(index);
+    if (at == nullptr || index.column() != Value || at->readOnly)
+        return false;
+    if (role == Qt::CheckStateRole && at->editor == Editor::Flag)
+        return enter(index,
+                     value.toInt() == Qt::Checked ? QStringLiteral("1") : QStringLiteral("0"));
+    return role == Qt::EditRole && enter(index, value.toString());
+}
+
+QVariant PropertyGridModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == Caption ? tr("Property") : tr("Value");
+}
+
+QString PropertyGridModel::value(const PropertyGridRow& row) const
+{
+    const auto found = m_values.find(toStd(row.key));
+    return found ? QString::fromUtf8(found->data(), static_cast<int>(found->size())) : row.fallback;
+}
+
+QString PropertyGridModel::shownOrTyped(const PropertyGridRow& row, bool shown) const
+{
+    if (const auto fault = m_faults.constFind(row.key); fault != m_faults.constEnd())
+        return fault->typed;
+    return shown ? shownPropertyGridValue(row, value(row)) : value(row);
+}
+
+/// Marks a stored value that a user could not have entered. An empty one was never filled in.
+void PropertyGridModel::judge(const PropertyGridRow& row)
+{
+    m_faults.remove(row.key);
+    const QString stored = value(row);
+    if (row.readOnly || stored.isEmpty())
+        return;
+    const QString message = propertyGridFault(row, stored);
+    if (!message.isEmpty())
+        m_faults.insert(row.key, {stored, message});
+}
+
+bool PropertyGridModel::enter(const QModelIndex& index, const QString& typed)
+{
+    const PropertyGridRow& at = *row(index);
+    if (typed == shownOrTyped(at, false))
+        return false; // an editor that was opened and left must not store anything
+    const auto [entered, message] = readPropertyGridInput(at, typed);
+    if (!message.isEmpty()) {
+        m_faults.insert(at.key, {typed, message});
+        tellChanged(index);
+        return true;
+    }
+    m_faults.remove(at.key);
+    const bool isNew = entered != value(at);
+    if (isNew)
+        m_values.set(toStd(at.key), toStd(entered));
+    tellChanged(index);
+    if (isNew)
+        Q_EMIT valueEdited(QString(at.key), entered); // a copy: a listener may change the layout
+    return true;
+}
+
+void PropertyGridModel::tellChanged(const QModelIndex& index)
+{
+    if (index.isValid())
+        Q_EMIT dataChanged(index.siblingAtColumn(Caption), index.siblingAtColumn(Value));
+}

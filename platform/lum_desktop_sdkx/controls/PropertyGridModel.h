@@ -1,0 +1,80 @@
+#pragma once
+
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
+
+#include <QAbstractItemModel>
+#include <QHash>
+
+/// Groups at the top, their rows below; caption and value side by side.
+///
+/// The values are those of a dictionary, kept with every key and byte that came in. What was typed
+/// wrongly stands beside it, marked, until it is corrected or dropped.
+class PropertyGridModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column
+    {
+        Caption,
+        Value
+    };
+
+    using QAbstractItemModel::QAbstractItemModel;
+
+    void setLayout(PropertyGridLayout layout);
+
+    /// Replaces the whole dictionary. A value that is no number or out of range is marked, and
+    /// stays as it came until it is edited.
+    void setValues(const IDictionary& values);
+    [[nodiscard]] const basalt::Dictionary& values() const { return m_values; }
+
+    /// Sets one value without telling that it was edited; a key without a row is kept in the
+    /// values all the same.
+    void setValue(const QString& key, const QString& value);
+
+    [[nodiscard]] bool hasFaults() const { return !m_faults.isEmpty(); }
+    void dropFault(const QString& key);
+
+    /// The value cell of a row; invalid when no row has this key.
+    [[nodiscard]] QModelIndex indexOfKey(const QString& key) const;
+
+    /// Null for a group. Valid until the next `setLayout`.
+    [[nodiscard]] const PropertyGridRow* row(const QModelIndex& index) const;
+    /// What is wrong with what stands in the row; empty when nothing is.
+    [[nodiscard]] QString fault(const QModelIndex& index) const;
+
+    [[nodiscard]] QModelIndex index(int row, int column,
+                                    const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role) const override;
+
+Q_SIGNALS:
+    /// A good value was entered that differs from the one before.
+    void valueEdited(const QString& key, const QString& value);
+
+private:
+    struct Fault
+    {
+        QString typed;
+        QString message;
+    };
+
+    [[nodiscard]] QString value(const PropertyGridRow& row) const;
+    [[nodiscard]] QString shownOrTyped(const PropertyGridRow& row, bool shown) const;
+    [[nodiscard]] QVariant valueData(const PropertyGridRow& row, int role) const;
+    void judge(const PropertyGridRow& row);
+    bool enter(const QModelIndex& index, const QString& typed);
+    void tellChanged(const QModelIndex& index);
+
+    PropertyGridLayout m_layout;
+    basalt::Dictionary m_values;
+    QHash<QString, Fault> m_faults; ///< by row key
+};

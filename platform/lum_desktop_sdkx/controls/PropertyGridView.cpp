@@ -1,0 +1,162 @@
+#include "lum_desktop_sdkx/controls/PropertyGridView.h"
+
+#include "lum_desktop_sdkx/controls/PropertyGridModel.h"
+#include "lum_sdk/DpiScale.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace {
+
+constexpr int kIndent = 14;
+
+bool isGroup(const QModelIndex& index)
+{
+    return index.isValid() && !index.parent().isValid();
+}
+
+bool isEnterable(const QModelIndex& index)
+{
+    return (index.flags() & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable)) != 0;
+}
+
+QColor blend(const QColor& base, const QColor& ink, double share)
+{
+    const auto mix = [share](int from, int to) { return from + qRound((to - from) * share); };
+    return {mix(base.red(), ink.red()), mix(base.green(), ink.green()),
+            mix(base.blue(), ink.blue())};
+}
+
+} // namespace
+
+PropertyGridView::PropertyGridView(QWidget* parent) : QTreeView(parent)
+{
+    setAlternatingRowColors(true);
+    setUniformRowHeights(true);
+    setRootIsDecorated(false);
+    setIndentation(dpi_scaled(kIndent));
+    setExpandsOnDoubleClick(false);
+    setVerticalScrollMode(ScrollPerPixel); // brings the whole of a clicked row into view
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(EditKeyPressed | AnyKeyPressed);
+    header()->setSectionsMovable(false);
+    header()->setHighlightSections(false);
+    connect(this, &QTreeView::clicked, this, &PropertyGridView::handleClick);
+}
+
+void PropertyGridView::commitEditor()
+{
+    auto* const delegate = qobject_cast<QStyledItemDelegate*>(itemDelegate());
+    QWidget* const editor = indexWidget(currentIndex());
+    if (delegate != nullptr && editor != nullptr)
+        Q_EMIT delegate->commitData(editor);
+}
+
+void PropertyGridView::spanGroups()
+{
+    for (int i = 0; i < model()->rowCount(); ++i)
+        setFirstColumnSpanned(i, {}, true);
+    expandAll();
+}
+
+void PropertyGridView::handleClick(const QModelIndex& index)
+{
+    if (isGroup(index)) {
+        setExpanded(index, !isExpanded(index));
+        return;
+    }
+    const QModelIndex value = index.siblingAtColumn(PropertyGridModel::Value);
+    if (currentIndex() != value)
+        setCurrentIndex(value);
+    if (value.flags().testFlag(Qt::ItemIsEditable))
+        edit(value);
+}
+
+void PropertyGridView::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const
+{
+    if (isGroup(index)) {
+        drawGroup(painter, option, index);
+        return;
+    }
+    QTreeView::drawRow(painter, option, index);
+    const QRect& rect = option.rect;
+    painter->save();
+    painter->setPen(blend(palette().color(QPalette::Base), palette().color(QPalette::Text), 0.14));
+    const int middle = columnViewportPosition(PropertyGridModel::Value) - 1;
+    painter->drawLine(middle, rect.top(), middle, rect.bottom());
+    painter->drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
+    painter->restore();
+}
+
+void PropertyGridView::drawGroup(QPainter* painter, const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const
+{
+    const QColor base = palette().color(QPalette::Base);
+    const QColor ink = palette().color(QPalette::Text);
+    painter->save();
+    painter->fillRect(option.rect, blend(base, ink, 0.11));
+
+    QStyleOptionViewItem arrow(option);
+    arrow.rect = QRect(option.rect.left() + dpi_scaled(3), option.rect.top(), dpi_scaled(kIndent),
+                       option.rect.height());
+    const bool isOpen = isExpanded(index);
+    style()->drawPrimitive(isOpen ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight,
+                           &arrow, painter, this);
+
+    QFont font = option.font;
+    font.setBold(true);
+    painter->setFont(font);
+    painter->setPen(ink);
+    const QRect place = option.rect.adjusted(dpi_scaled(kIndent) + dpi_scaled(8), 0, 0, 0);
+    const QString text =
+        QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, place.width());
+    painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeft, text);
+    if (index == currentIndex() && hasFocus()) {
+        painter->setPen(palette().color(QPalette::Highlight));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+    painter->restore();
+}
+
+/// A row stands out by its indent alone; styles would paint dotted lines here.
+void PropertyGridView::drawBranches(QPainter* painter, const QRect& rect,
+                                    const QModelIndex& index) const
+{
+    if (selectionModel()->isSelected(index))
+        painter->fillRect(rect, palette().brush(QPalette::Highlight));
+}
+
+QModelIndex PropertyGridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (action == MoveNext || action == MovePrevious) // Tab and Shift+Tab in an editor
+        return neighbourValue(action == MoveNext);
+    const QModelIndex target = QTreeView::moveCursor(action, modifiers);
+    return isGroup(target) ? target : target.siblingAtColumn(PropertyGridModel::Value);
+}
+
+QModelIndex PropertyGridView::neighbourValue(bool next) const
+{
+    QModelIndex at = currentIndex();
+    if (!at.isValid() && next)
+        at = model()->index(0, 0);
+    while (at.isValid()) {
+        at = next ? indexBelow(at) : indexAbove(at);
+        const QModelIndex value = at.siblingAtColumn(PropertyGridModel::Value);
+        if (!isGroup(at) && isEnterable(value))
+            return value;
+    }
+    return {};
+}
+
+bool PropertyGridView::focusNextPrevChild(bool next)
+{
+    const QModelIndex target = neighbourValue(next);
+    if (!target.isValid())
+        return QTreeView::focusNextPrevChild(next);
+    setCurrentIndex(target);
+    if (target.flags().testFlag(Qt::ItemIsEditable))
+        edit(target);
+    return true;
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "lum_desktop_sdkx/dialogs/Responder.h"
+
+#include <QFlags>
+#include <QString>
+
+class QWidget;
+
+/// Tells the user something, or asks.
+///
+/// Stands modally until a button is pressed; Escape and the close button give the safe answer
+/// (Cancel, else No, else Ok). Without a display nobody is asked: the text is logged and the safe
+/// answer given. Texts are plain, never markup.
+class LumMessageBox
+{
+public:
+    enum class Button
+    {
+        Ok = 1,
+        Yes = 2,
+        No = 4,
+        Cancel = 8
+    };
+    Q_DECLARE_FLAGS(Buttons, Button)
+
+    enum class Kind
+    {
+        Information,
+        Warning,
+        Question
+    };
+
+    /// What a responder is asked.
+    struct Message
+    {
+        using Answer = Button;
+
+        Kind kind = Kind::Information;
+        QString title;
+        QString text;
+        Buttons buttons;
+    };
+    using Responder = ::Responder<Message>;
+
+    /// Each returns the button that was pressed, one of `buttons`.
+    static Button information(QWidget* parent, const QString& title, const QString& text,
+                              Buttons buttons = Button::Ok);
+    static Button warning(QWidget* parent, const QString& title, const QString& text,
+                          Buttons buttons = Button::Ok);
+    static Button question(QWidget* parent, const QString& title, const QString& text,
+                           Buttons buttons = Buttons(Button::Yes) | Button::No);
+};
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(LumMessageBox::Buttons)
