@@ -120,8 +120,10 @@ void CustomTableWidget::showRow(int row)
     if (model() == nullptr || row < 0 || row >= model()->rowCount(rootIndex()))
         return;
     const int left = horizontalScrollBar()->value();
-    selectRow(row);
-    scrollTo(model()->index(row, 0, rootIndex()));
+    const QModelIndex index = model()->index(row, 0, rootIndex());
+    selectionModel()->setCurrentIndex( // selectRow() would extend while a modifier key is held
+        index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index);
     horizontalScrollBar()->setValue(left); // the user looks at some column, leave it in view
 }
 
