@@ -71,6 +71,7 @@ CustomTableWidget::CustomTableWidget(QWidget* parent) : QTableView(parent)
 void CustomTableWidget::setModel(QAbstractItemModel* model)
 {
     if (QAbstractItemModel* const old = QTableView::model()) {
+        disconnect(old, &QAbstractItemModel::modelReset, this, &CustomTableWidget::hideColumns);
         disconnect(old, &QAbstractItemModel::modelReset, this, &CustomTableWidget::fitColumnsOnce);
         disconnect(old, &QAbstractItemModel::rowsInserted, this,
                    &CustomTableWidget::fitColumnsOnce);
@@ -79,6 +80,7 @@ void CustomTableWidget::setModel(QAbstractItemModel* model)
     m_fittedColumns = 0;
     if (model == nullptr)
         return;
+    connect(model, &QAbstractItemModel::modelReset, this, &CustomTableWidget::hideColumns);
     connect(model, &QAbstractItemModel::modelReset, this, &CustomTableWidget::fitColumnsOnce);
     connect(model, &QAbstractItemModel::rowsInserted, this, &CustomTableWidget::fitColumnsOnce);
     fitColumnsOnce();
@@ -120,8 +122,10 @@ void CustomTableWidget::showRow(int row)
     if (model() == nullptr || row < 0 || row >= model()->rowCount(rootIndex()))
         return;
     const int left = horizontalScrollBar()->value();
-    selectRow(row);
-    scrollTo(model()->index(row, 0, rootIndex()));
+    const QModelIndex index = model()->index(row, 0, rootIndex());
+    selectionModel()->setCurrentIndex( // selectRow() would extend while a modifier key is held
+        index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index);
     horizontalScrollBar()->setValue(left); // the user looks at some column, leave it in view
 }
 
@@ -144,6 +148,7 @@ void CustomTableWidget::contextMenuEvent(QContextMenuEvent* event)
     QPoint place = event->globalPos();
     if (event->reason() == QContextMenuEvent::Keyboard) {
         index = currentIndex();
+        scrollTo(index);
         place = viewport()->mapToGlobal(visualRect(index).center());
     }
     if (index.isValid())
@@ -167,14 +172,13 @@ void CustomTableWidget::fitRowHeight()
 
 void CustomTableWidget::fitColumnsOnce()
 {
-    hideColumns();
     const int columns = model()->columnCount(rootIndex());
     if (columns == m_fittedColumns)
         return;
+    hideColumns();
     for (int column = 0; column < columns; ++column)
         setColumnWidth(column, wantedWidth(column));
-    if (model()->rowCount(rootIndex()) > 0)
-        m_fittedColumns = columns;
+    m_fittedColumns = model()->rowCount(rootIndex()) > 0 ? columns : 0;
 }
 
 void CustomTableWidget::hideColumns()

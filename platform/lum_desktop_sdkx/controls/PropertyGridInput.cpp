@@ -100,7 +100,7 @@ PropertyGridInput readPropertyGridInput(const PropertyGridRow& row, const QStrin
     const QString number = withPoint(typed);
     QString fault = isInRange(row, number) ? QString() : wantedNumber(row);
     if (fault.isEmpty() && row.decimals && decimalsOf(number) > *row.decimals)
-        fault = PropertyGrid::tr("Enter at most %n decimal(s).", nullptr, *row.decimals);
+        fault = PropertyGrid::tr("Digits allowed after the point: %n.", nullptr, *row.decimals);
     return {number, fault};
 }
 

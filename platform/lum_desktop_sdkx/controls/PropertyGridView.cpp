@@ -37,7 +37,7 @@ PropertyGridView::PropertyGridView(QWidget* parent) : QTreeView(parent)
     setRootIsDecorated(false);
     setIndentation(dpi_scaled(kIndent));
     setExpandsOnDoubleClick(false);
-    setVerticalScrollMode(ScrollPerPixel); // brings the whole of a clicked row into view
+    setVerticalScrollMode(ScrollPerPixel); // the last row can be brought into view whole
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(EditKeyPressed | AnyKeyPressed);
     header()->setSectionsMovable(false);
@@ -69,6 +69,7 @@ void PropertyGridView::handleClick(const QModelIndex& index)
     const QModelIndex value = index.siblingAtColumn(PropertyGridModel::Value);
     if (currentIndex() != value)
         setCurrentIndex(value);
+    scrollTo(value); // the base never scrolls while a mouse button is down
     if (value.flags().testFlag(Qt::ItemIsEditable))
         edit(value);
 }

@@ -1,0 +1,73 @@
+#include "lum_desktop_sdkx/dialogs/DlgAbout.h"
+#include "lum_sdk/DpiScale.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace {
+
+class SizedDialog : public Dialog
+{
+public:
+    explicit SizedDialog(const QString& key)
+    {
+        setMinimumSizeScaled(200, 100);
+        rememberSize(key);
+    }
+};
+
+} // namespace
+
+class DialogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { lum::setDpiScale(1); }
+
+    void remembersItsSizeUnderItsKey();
+    void aboutBoxShowsAllOfItsText();
+};
+
+void DialogTest::remembersItsSizeUnderItsKey()
+{
+    lum::setDpiScale(1.5);
+    const QString key = QStringLiteral("results");
+    {
+        SizedDialog dialog(key);
+        QCOMPARE(dialog.minimumSize(), QSize(300, 150));
+        dialog.show();
+        dialog.resize(654, 321);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    }
+    QCOMPARE(SizedDialog(key).size(), QSize(654, 321));
+    QVERIFY(SizedDialog(QStringLiteral("other")).size() != QSize(654, 321));
+}
+
+void DialogTest::aboutBoxShowsAllOfItsText()
+{
+    get_system_config_parameter().dictionary().set("name", "Skyquill");
+    get_system_config_parameter().dictionary().set("version", "12.34.5678");
+    DlgAbout dialog(nullptr, {QStringLiteral("SQLite 3.40.1"), QStringLiteral("PROJ 9.1.1"),
+                              QStringLiteral("GDAL 3.6.2"), QStringLiteral("spdlog 1.10.0")});
+    dialog.show();
+    QCOMPARE(dialog.size(), QSize(480, 250));
+    QVERIFY(dialog.isModal());
+
+    QString text;
+    for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
+        text += label->text() + QLatin1Char('\n');
+        QVERIFY(label->height() >= label->heightForWidth(label->width()));
+        QVERIFY(dialog.rect().contains(label->geometry()));
+    }
+    for (const char* const part : {"Skyquill", "12.34.5678", qVersion(), "spdlog"})
+        QVERIFY2(text.contains(QLatin1String(part)), part);
+
+    QTest::keyClick(&dialog, Qt::Key_Return);
+    QVERIFY(!dialog.isVisible());
+}
+
+QTEST_MAIN(DialogTest)
+#include "DialogTest.moc"
