@@ -40,11 +40,11 @@ DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHos
 
 int DataProcess5Assistant::onMapViewCreated()
 {
-    addLayer("OnlineMap", "RasterLayerImp");
-    addLayer("TifLayer", "TifLayer");
-    addLayer("BoundaryLayer", "BoundaryLayer");
+    addLayer("OnlineMap", "RasterLayerImp", "Online Map");
+    addLayer("TifLayer", "TifLayer", "Overlay Image");
+    addLayer("BoundaryLayer", "BoundaryLayer", "Survey Boundary");
     m_host.eventManager().publish(events::kSettingViewFinished, nullptr, 0);
-    addLayer("DataProcessLayer", "DataProcessLayer");
+    addLayer("DataProcessLayer", "DataProcessLayer", "Design and Survey");
     return 1;
 }
 
@@ -61,10 +61,11 @@ int DataProcess5Assistant::queryClose()
 {
     if (get_system_status_dictionary().integer(status::kProjectOpen) != 0)
         m_host.commands().execute(QStringLiteral("Save Project"));
-    const auto answer = LumMessageBox::information(m_host.dialogParent(), QStringLiteral("提示"),
-                                                   QStringLiteral("是否退出程序？"),
-                                                   LumMessageBox::Yes | LumMessageBox::No);
-    if (answer != LumMessageBox::Yes)
+    using Button = LumMessageBox::Button;
+    const Button answer = LumMessageBox::information(
+        m_host.dialogParent(), QStringLiteral("提示"), QStringLiteral("是否退出程序？"),
+        LumMessageBox::Buttons(Button::Yes) | Button::No);
+    if (answer != Button::Yes)
         return 0;
     m_dataManager.reset();
     return 1;
@@ -77,13 +78,14 @@ void DataProcess5Assistant::handleEvent(const char* eventName, const char* paylo
         announcePosition(payload);
 }
 
-void DataProcess5Assistant::addLayer(const char* name, const char* className)
+void DataProcess5Assistant::addLayer(const char* name, const char* className, const char* caption)
 {
     auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
     if (map == nullptr)
         return; // the frame has logged why there is no map
     basalt::Dictionary properties;
     properties.set("layer_name", name);
+    properties.set("caption", caption);
     map->addLayer(QString::fromLatin1(className), properties);
 }
 

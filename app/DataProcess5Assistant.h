@@ -25,7 +25,7 @@ public:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 private:
-    void addLayer(const char* name, const char* className);
+    void addLayer(const char* name, const char* className, const char* caption);
     void announcePosition(const char* payload);
 
     IDesktopHost& m_host; // outlives the assistant

@@ -452,20 +452,12 @@
         <translation>坐标</translation>
     </message>
     <message>
-        <source>OnlineMap</source>
-        <translation>在线地图</translation>
+        <source>Overlay Image</source>
+        <translation>TIF 图叠加</translation>
     </message>
     <message>
-        <source>TifLayer</source>
-        <translation>TIF 图层</translation>
-    </message>
-    <message>
-        <source>BoundaryLayer</source>
-        <translation>边界图层</translation>
-    </message>
-    <message>
-        <source>DataProcessLayer</source>
-        <translation>矢量图层</translation>
+        <source>Design and Survey</source>
+        <translation>设计与勘察</translation>
     </message>
     <message>
         <source>Design Line Table</source>

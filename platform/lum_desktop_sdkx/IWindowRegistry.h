@@ -1,9 +1,10 @@
 #pragma once
 
+#include "lum_desktop_sdkx/IWindow.h"
+
 #include <QString>
 
 class IDictionary;
-class IWindow;
 
 /// The open windows of the frame.
 ///

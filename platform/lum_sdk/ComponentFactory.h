@@ -41,7 +41,7 @@ public:
     {
         const auto found = m_entries.find(name);
         if (found == m_entries.end()) {
-            basalt::logError("No " + m_kind + " is registered as \"" + std::string(name) + "\"");
+            basalt::logWarning("No " + m_kind + " is registered as \"" + std::string(name) + "\"");
             return Pointer(nullptr, nullptr);
         }
         return Pointer(found->second.create(arguments...), found->second.destroy);

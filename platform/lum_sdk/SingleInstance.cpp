@@ -5,7 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QStandardPaths>
+
+#include <unistd.h>
 
 #include <memory>
 
@@ -13,10 +14,12 @@ namespace {
 
 QString lockPath(const QString& program)
 {
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (folder.isEmpty())
-        folder = QDir::tempPath();
-    return folder + QStringLiteral("/") + QFileInfo(program).fileName() + QStringLiteral(".lock");
+    // Not QStandardPaths, which makes and warns about folders of its own where none is set.
+    const QString name = QFileInfo(program).fileName();
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!folder.isEmpty())
+        return folder + QStringLiteral("/%1.lock").arg(name);
+    return QDir::tempPath() + QStringLiteral("/%1-%2.lock").arg(name).arg(::getuid());
 }
 
 } // namespace

@@ -22,9 +22,20 @@
 
 namespace {
 
-/// Attributes that Qt reads when the application object is made.
+/// What Qt has to say goes into the log, which everybody knows to look at.
+void logQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
+{
+    const std::string line = "Qt: " + message.toStdString();
+    if (type == QtDebugMsg || type == QtInfoMsg)
+        basalt::logDebug(line);
+    else
+        basalt::logWarning(line);
+}
+
+/// What must be set before Qt makes the application object.
 int& prepared(int& argc)
 {
+    qInstallMessageHandler(logQtMessage);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(

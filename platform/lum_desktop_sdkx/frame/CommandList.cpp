@@ -28,12 +28,13 @@ bool CommandList::execute(const QString& name)
 QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
                           QObject* actionParent)
 {
-    auto command = extensible_factory_ICommandExecuterx().make(entry.className.toStdString(),
-                                                               entry.config.constData(), host);
-    if (!command) {
-        basalt::logInfo("Left out of the menus: " + entry.name.toStdString());
+    const std::string className = entry.className.toStdString();
+    if (!extensible_factory_ICommandExecuterx().knows(className)) {
+        basalt::logInfo("Left out of the menus, no such command: " + className);
         return nullptr;
     }
+    auto command =
+        extensible_factory_ICommandExecuterx().make(className, entry.config.constData(), host);
     if (find(entry.name) != nullptr)
         basalt::logWarning("Two commands are named \"" + entry.name.toStdString() +
                            "\"; the first is found");

@@ -42,9 +42,11 @@ void LayerWindow::rebuild()
     if (window == nullptr)
         return;
     for (std::size_t i = window->layers().count(); i-- > 0;) {
-        const ILayerViewer& layer = *window->layers().at(i);
+        ILayerViewer& layer = *window->layers().at(i);
         const QString name = QString::fromStdString(layer.GetName());
-        auto* const item = new QListWidgetItem(desktop::layoutText(name), this);
+        const std::string caption(layer.GetProperties().text("caption", layer.GetName()));
+        auto* const item =
+            new QListWidgetItem(desktop::layoutText(QString::fromStdString(caption)), this);
         item->setData(Qt::UserRole, name);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
         item->setCheckState(layer.IsVisible() ? Qt::Checked : Qt::Unchecked);

@@ -3,6 +3,7 @@
 #include "app/protocol/Events.h"
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
+#include "lum_desktop_sdkx/frame/DockStyle.h"
 #include "lum_desktop_sdkx/frame/FrameState.h"
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/IGuiAssistant.h"
@@ -10,15 +11,17 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 #include <qtadvanceddocking/DockManager.h>
+#include <qtadvanceddocking/IconProvider.h>
 #include <QTimer>
 #include <QToolBar>
 
-#include <cstring>
+#include <algorithm>
 
 namespace {
 
@@ -27,11 +30,17 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     using ads::CDockManager;
     CDockManager::setConfigFlags(CDockManager::DefaultOpaqueConfig);
     CDockManager::setConfigFlag(CDockManager::AlwaysShowTabs, true);
+    CDockManager::setConfigFlag(CDockManager::DockAreaHasCloseButton, false); // tabs have theirs
     CDockManager::setConfigFlag(CDockManager::DockAreaHasUndockButton, false);
     CDockManager::setConfigFlag(CDockManager::DockAreaHasTabsMenuButton, false);
     CDockManager::setConfigFlag(CDockManager::DockAreaHideDisabledButtons, true);
     CDockManager::setConfigFlag(CDockManager::FocusHighlighting, false);
-    return new CDockManager(frame);
+    auto* const docks = new CDockManager(frame);
+    docks->setStyleSheet(QString()); // or rules of the library's own sheet stay in force
+    docks->setStyleSheet(desktop::dockStyle());
+    const QIcon close = QIcon::fromTheme(QStringLiteral("tab-close"));
+    CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon, close);
+    return docks;
 }
 
 } // namespace
@@ -49,7 +58,7 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
     for (const FrameLayout::Menu& menu : layout.menus) {
         auto* const top = menuBar()->addMenu(desktop::layoutText(menu.caption));
         fillMenu(*top, menu.items);
-        top->menuAction()->setVisible(!top->isEmpty() || m_dockMenus.size() > 0);
+        top->menuAction()->setVisible(!isDispensable(*top));
     }
     for (const FrameLayout::ToolBar& bar : layout.toolBars)
         addToolBar(bar);
@@ -153,8 +162,7 @@ void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& 
             auto* const submenu =
                 new QMenu(desktop::layoutText(item.submenu.front().caption), &menu);
             fillMenu(*submenu, item.submenu.front().items);
-            const bool listsDocks = !m_dockMenus.empty() && m_dockMenus.back() == submenu;
-            if (!submenu->isEmpty() || listsDocks) {
+            if (!isDispensable(*submenu)) {
                 menu.addMenu(submenu);
                 add(submenu->menuAction());
             }
@@ -162,6 +170,12 @@ void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& 
         }
         }
     }
+}
+
+bool MainFrame::isDispensable(const QMenu& menu) const
+{
+    return menu.isEmpty() &&
+           std::find(m_dockMenus.begin(), m_dockMenus.end(), &menu) == m_dockMenus.end();
 }
 
 void MainFrame::addToolBar(const FrameLayout::ToolBar& bar)

@@ -44,6 +44,8 @@ protected:
 private:
     void makeAssistants(const FrameLayout& layout);
     void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
+    /// True for a menu from which everything was left out.
+    [[nodiscard]] bool isDispensable(const QMenu& menu) const;
     void addToolBar(const FrameLayout::ToolBar& bar);
     void restoreArrangement();
     void saveArrangement();

@@ -70,12 +70,12 @@ void WindowRegistry::attach(ads::CDockManager* docks, QStatusBar* statusBar)
 
 IWindow* WindowRegistry::openWindow(const FrameLayout::Window& layout)
 {
-    auto window = extensible_factory_IWindow().make(layout.className.toStdString(),
-                                                    layout.config.constData(), m_host);
-    if (!window) {
-        basalt::logInfo("Window left out: " + layout.name.toStdString());
+    const std::string className = layout.className.toStdString();
+    if (!extensible_factory_IWindow().knows(className)) {
+        basalt::logInfo("Left out, no such window: " + className);
         return nullptr;
     }
+    auto window = extensible_factory_IWindow().make(className, layout.config.constData(), m_host);
     IWindow* const opened = window.get();
     ads::CDockWidget* dock = nullptr;
     if (layout.area == Area::Status)
