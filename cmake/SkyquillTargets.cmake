@@ -41,12 +41,13 @@ function(skyquill_add_test name)
     skyquill_qt_defaults(${name})
     include(GoogleTest)
     gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+    skyquill_test_environment(${name} environment)
     # A list cannot be passed through the call above; ctest reads this script after the tests.
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
     file(WRITE "${script}"
         "if(DEFINED ${name}_TESTS)\n"
         "  set_tests_properties(\${${name}_TESTS} PROPERTIES\n"
-        "    ENVIRONMENT \"${SKYQUILL_TEST_ENVIRONMENT}\")\n"
+        "    ENVIRONMENT \"${environment}\")\n"
         "endif()\n")
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
 endfunction()
@@ -58,8 +59,8 @@ function(skyquill_add_qt_test name)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test skyquill_warnings)
     skyquill_qt_defaults(${name})
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "${SKYQUILL_TEST_ENVIRONMENT}" TIMEOUT 300)
+    skyquill_test_environment(${name} environment)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
 endfunction()
 
 function(skyquill_qt_defaults name)

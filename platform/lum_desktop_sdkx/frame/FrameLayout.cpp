@@ -168,7 +168,8 @@ private:
             if (name == QLatin1String(areaName))
                 return area;
         }
-        fail(QStringLiteral("unknown area \"%1\"").arg(name));
+        if (!name.isEmpty())
+            fail(QStringLiteral("unknown area \"%1\"").arg(name));
         return Area::Center;
     }
 

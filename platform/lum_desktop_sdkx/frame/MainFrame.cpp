@@ -38,7 +38,7 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     auto* const docks = new CDockManager(frame);
     docks->setStyleSheet(QString()); // or rules of the library's own sheet stay in force
     docks->setStyleSheet(desktop::dockStyle());
-    const QIcon close = QIcon::fromTheme(QStringLiteral("tab-close"));
+    const QIcon close = QIcon::fromTheme(QStringLiteral("window-close-symbolic"));
     CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon, close);
     return docks;
 }
@@ -140,7 +140,7 @@ void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& 
     using Kind = FrameLayout::MenuItem::Kind;
     bool separatorDue = false; // none at the ends, and never two, whatever was left out
     const auto add = [&](QAction* action) {
-        if (separatorDue && !menu.isEmpty())
+        if (separatorDue && menu.actions().size() > 1)
             menu.insertSeparator(action);
         separatorDue = false;
     };
