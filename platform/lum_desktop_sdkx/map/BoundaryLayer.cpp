@@ -62,6 +62,18 @@ void drawLabel(QPainter& painter, const QPointF& corner, const QString& text, bo
     painter.drawText(QRectF(place, size), Qt::AlignCenter | Qt::TextSingleLine, text);
 }
 
+/// Labels the corners, south-west first and on against the clock, while two fit side by side.
+void drawLabels(QPainter& painter, const QPolygonF& corners, const QPointF (&map)[4],
+                const QRectF& screen)
+{
+    const double labelWidth = painter.fontMetrics().horizontalAdvance(cornerText(map[0]));
+    if (corners[1].x() - corners[0].x() < std::max(kRoomForLabels, 2.2 * labelWidth))
+        return;
+    painter.setPen(QColor(kColor));
+    for (int i = 0; i < 4; ++i)
+        drawLabel(painter, corners[i], cornerText(map[i]), i == 0 || i == 3, i >= 2, screen);
+}
+
 } // namespace
 
 BoundaryLayer::BoundaryLayer(const char* config, IDesktopHost* /*host*/)
@@ -86,6 +98,7 @@ void BoundaryLayer::Paint(const PaintTarget& target, const QRectF& /*view*/, QPa
     if (target.status.integer(status::kDrawBoundaryRect) != 1 || target.mapExtent.isNull())
         return;
     const QRectF extent = target.mapExtent.normalized();
+    // south-west first: a map rectangle's "top" is its smallest northing
     const QPointF ends[] = {extent.topLeft(), extent.topRight(), extent.bottomRight(),
                             extent.bottomLeft()};
     QPolygonF corners;
@@ -96,12 +109,5 @@ void BoundaryLayer::Paint(const PaintTarget& target, const QRectF& /*view*/, QPa
     const QRectF screen(QPointF(0, 0), QSizeF(target.transform.size()));
     painter.setRenderHint(QPainter::Antialiasing);
     drawEdges(painter, corners, screen.adjusted(-1, -1, 1, 1));
-
-    if (corners[1].x() - corners[0].x() <= kRoomForLabels)
-        return;
-    painter.setPen(QColor(kColor));
-    for (int i = 0; i < 4; ++i) {
-        // the first two ends are the southern ones: on the screen they are at the bottom
-        drawLabel(painter, corners[i], cornerText(ends[i]), i == 0 || i == 3, i >= 2, screen);
-    }
+    drawLabels(painter, corners, ends, screen);
 }

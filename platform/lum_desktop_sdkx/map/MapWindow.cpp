@@ -175,6 +175,11 @@ void MapWindow::startPaint()
     m_painter.request(makeJob());
 }
 
+bool MapWindow::isUpToDate() const
+{
+    return !m_isContentStale && !m_paintTimer.isActive() && !m_painter.viewInWork();
+}
+
 MapPaintJob MapWindow::makeJob()
 {
     MapPaintJob job;

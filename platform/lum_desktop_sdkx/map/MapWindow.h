@@ -56,6 +56,9 @@ public:
     [[nodiscard]] IOverlay& overlay(int number) override;
     [[nodiscard]] IHost& host() override;
 
+    /// No paint is wanted or in work: what shows is what there is.
+    [[nodiscard]] bool isUpToDate() const;
+
 Q_SIGNALS:
     /// A new picture shows.
     void pictureChanged();

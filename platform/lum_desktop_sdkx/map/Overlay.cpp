@@ -116,7 +116,8 @@ void Overlay::drawPoints(QPainter& painter, const Transform& view, const QRectF&
 {
     const auto drawPoint = [&](const QPointF& map) {
         const QPointF screen = view.SurveyToScreen(map);
-        if (area.contains(screen)) // false for what is not a number, too
+        // `contains` says yes to what is not a number
+        if (std::isfinite(screen.x()) && std::isfinite(screen.y()) && area.contains(screen))
             painter.drawEllipse(screen, m_shown.pointRadius, m_shown.pointRadius);
     };
     for (const QPointF& vertex : m_shown.vertices)

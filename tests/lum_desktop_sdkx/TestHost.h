@@ -1,0 +1,100 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ICommandList.h"
+#include "lum_desktop_sdkx/ICoordTransformHelper.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/EventManager.h"
+
+#include <QHash>
+#include <QPointF>
+#include <QStringList>
+
+/// Windows that a test put there by name.
+class TestWindowRegistry final : public IWindowRegistry
+{
+public:
+    [[nodiscard]] IWindow* find(const QString& name) const override { return windows.value(name); }
+    bool activate(const QString& name) override
+    {
+        activated.append(name);
+        return windows.contains(name);
+    }
+    IWindow* open(const QString& className, const IDictionary& /*parameters*/) override
+    {
+        opened.append(className);
+        return find(className);
+    }
+
+    QHash<QString, IWindow*> windows;
+    QStringList activated;
+    QStringList opened;
+};
+
+/// Commands that a test put there by name; notes what is executed and runs nothing.
+class TestCommandList final : public ICommandList
+{
+public:
+    [[nodiscard]] ICommandExecuterx* find(const QString& name) const override
+    {
+        return commands.value(name);
+    }
+    bool execute(const QString& name) override
+    {
+        executed.append(name);
+        return commands.contains(name);
+    }
+
+    QHash<QString, ICommandExecuterx*> commands;
+    QStringList executed;
+};
+
+/// Turns the axes; has no coordinate system.
+class TestCoordHelper final : public ICoordTransformHelper
+{
+public:
+    [[nodiscard]] QPointF projectToMap(double north, double east) const override
+    {
+        return {east, north};
+    }
+    [[nodiscard]] bool geodeticToMap(double, double, QPointF&) const override { return false; }
+    [[nodiscard]] bool mapToGeodetic(const QPointF&, double&, double&) const override
+    {
+        return false;
+    }
+    void mapToProject(const QPointF& map, double& north, double& east) const override
+    {
+        north = map.y();
+        east = map.x();
+    }
+};
+
+/// A desktop without a frame, for the tests of its components.
+class TestHost final : public IDesktopHost
+{
+public:
+    [[nodiscard]] IEventManager& eventManager() override { return events; }
+    [[nodiscard]] IWindowRegistry& windows() override { return windowRegistry; }
+    [[nodiscard]] ICommandList& commands() override { return commandList; }
+    [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return coordHelper; }
+    [[nodiscard]] QWidget* dialogParent() override { return nullptr; }
+
+    EventManager events;
+    TestWindowRegistry windowRegistry;
+    TestCommandList commandList;
+    TestCoordHelper coordHelper;
+};
+
+/// Keeps what was published under the names that it subscribed.
+class TestListener final : public IEventHandler
+{
+public:
+    void handleEvent(const char* eventName, const char* payload, int /*reserved*/) override
+    {
+        names.append(QString::fromUtf8(eventName));
+        payloads.append(QString::fromUtf8(payload));
+    }
+
+    QStringList names;
+    QStringList payloads; ///< null where an event carried none
+};
