@@ -184,7 +184,7 @@ QString LayoutReader::text(const char* attribute) const
 
 QString LayoutReader::wantedText(const char* attribute)
 {
-    const QString value = text(attribute);
+    QString value = text(attribute);
     if (value.isEmpty())
         fail(QStringLiteral("<%1> without %2")
                  .arg(m_xml.name().toString(), QLatin1String(attribute)));

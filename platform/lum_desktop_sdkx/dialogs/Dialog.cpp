@@ -3,6 +3,7 @@
 #include "lum_sdk/DpiScale.h"
 
 #include <QHash>
+#include <QHideEvent>
 #include <QVBoxLayout>
 
 namespace {

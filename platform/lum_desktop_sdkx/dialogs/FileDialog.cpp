@@ -119,7 +119,7 @@ QString FileDialog::getSaveFileName(QWidget* parent, const QString& title, const
         const Choice choice = ask(parent, {Kind::Save, title, filter});
         if (choice.path.isEmpty())
             return {};
-        const QString path = withSuffix(choice.path, choice.filter);
+        QString path = withSuffix(choice.path, choice.filter);
         if (mayWrite(parent, title, path))
             return path;
         if (!choice.byUser)

@@ -220,7 +220,7 @@ void PropertyGridCtrlTest::asksForAFile()
     const FileDialog::Responder responder([&](const FileDialog::Request& request) {
         QApplication::focusWidget()->clearFocus(); // as a dialog in front of the editor does
         filter = request.filter;
-        return picked;
+        return QString(picked);
     });
     click(cell(1, 2));
     auto* const browse = m_view->indexWidget(cell(1, 2))->findChild<QToolButton*>();

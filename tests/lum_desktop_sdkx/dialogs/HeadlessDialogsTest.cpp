@@ -13,7 +13,7 @@ using Button = LumMessageBox::Button;
 /// A process with an event loop and no windows, as the command-line tool is.
 class HeadlessDialogs : public testing::Test
 {
-protected:
+public:
     HeadlessDialogs()
     {
         basalt::setLogListener(
@@ -24,6 +24,7 @@ protected:
     }
     ~HeadlessDialogs() override { basalt::setLogListener(nullptr, nullptr); }
 
+protected:
     std::string m_log;
 
 private:
