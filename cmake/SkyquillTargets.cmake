@@ -6,6 +6,8 @@ target_compile_options(skyquill_warnings INTERFACE
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef
     $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override -Wduplicated-cond -Wlogical-op>
     $<$<BOOL:${SKYQUILL_WERROR}>:-Werror>)
+# Qt wants position-independent code; calls between our own functions may be inlined all the same.
+target_compile_options(skyquill_warnings INTERFACE -fno-semantic-interposition)
 target_compile_features(skyquill_warnings INTERFACE cxx_std_20)
 target_compile_definitions(skyquill_warnings INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS

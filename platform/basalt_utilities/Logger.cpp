@@ -54,7 +54,7 @@ public:
         }
         m_logger = std::make_unique<spdlog::logger>("skyquill", sinks);
         m_logger->set_level(spdlog::level::debug);
-        m_logger->flush_on(spdlog::level::warn);
+        m_logger->flush_on(spdlog::level::info); // a crash must not take the last lines with it
         m_logger->set_error_handler([](const std::string&) {}); // a full disk must not spam
         if (!problem.empty())
             write(Level::Warning, "No log file, writing to standard error only: " + problem);

@@ -12,14 +12,32 @@
 std::size_t EventManager::NameHash::operator()(std::string_view name) const noexcept
 {
     // Length, head and tail tell event names apart, and cost less than walking the whole name.
+    constexpr std::size_t kWord = sizeof(std::uint64_t);
     std::uint64_t head = 0;
     std::uint64_t tail = 0;
-    const std::size_t count = std::min(name.size(), sizeof head);
-    std::memcpy(&head, name.data(), count);
-    std::memcpy(&tail, name.data() + (name.size() - count), count);
-    std::uint64_t hash = (head ^ (tail * 0x9E3779B97F4A7C15ULL)) + name.size();
-    hash *= 0xBF58476D1CE4E5B9ULL;
-    return static_cast<std::size_t>(hash ^ (hash >> 32U));
+    if (name.size() >= kWord) {
+        std::memcpy(&head, name.data(), kWord);
+        std::memcpy(&tail, name.data() + (name.size() - kWord), kWord);
+    } else {
+        std::memcpy(&head, name.data(), name.size());
+    }
+    const std::uint64_t mixed = head ^ ((tail << 29U) | (tail >> 35U)) ^ name.size();
+    return (mixed * 0x9E3779B97F4A7C15ULL) >> 20U; // the upper bits are the well mixed ones
+}
+
+bool EventManager::mayBeHeard(std::string_view name) const
+{
+    const std::size_t hash = NameHash()(name);
+    const std::uint64_t word =
+        m_heard[(hash >> 6U) % m_heard.size()].load(std::memory_order_relaxed);
+    return ((word >> (hash % 64)) & 1U) != 0;
+}
+
+void EventManager::rememberHeard(std::string_view name)
+{
+    const std::size_t hash = NameHash()(name);
+    m_heard[(hash >> 6U) % m_heard.size()].fetch_or(std::uint64_t{1} << (hash % 64),
+                                                    std::memory_order_relaxed);
 }
 
 void EventManager::subscribe(const char* eventName, IEventHandler* handler)
@@ -28,6 +46,7 @@ void EventManager::subscribe(const char* eventName, IEventHandler* handler)
     auto& handlers = m_listeners[eventName].handlers;
     if (std::find(handlers.begin(), handlers.end(), handler) == handlers.end())
         handlers.push_back(handler);
+    rememberHeard(eventName);
 }
 
 void EventManager::unsubscribe(const char* eventName, IEventHandler* handler)
@@ -50,13 +69,20 @@ void EventManager::unsubscribe(const char* eventName, IEventHandler* handler)
 
 void EventManager::publish(const char* eventName, const char* payload, int reserved)
 {
+    const std::string_view name(eventName);
+    if (mayBeHeard(name))
+        publishHeard(name, payload, reserved);
+}
+
+void EventManager::publishHeard(std::string_view name, const char* payload, int reserved)
+{
     if (QThread::currentThread() != thread()) {
-        publishLater(eventName, payload, reserved);
+        publishLater(name.data(), payload, reserved);
         return;
     }
-    const auto found = m_listeners.find(std::string_view(eventName));
+    const auto found = m_listeners.find(name);
     if (found != m_listeners.end())
-        deliver(found->second, eventName, payload, reserved);
+        deliver(found->second, name.data(), payload, reserved);
 }
 
 void EventManager::publishLater(const char* eventName, const char* payload, int reserved)

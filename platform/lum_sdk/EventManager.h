@@ -4,7 +4,10 @@
 
 #include <QObject>
 
+#include <array>
+#include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -37,9 +40,17 @@ private:
         std::size_t operator()(std::string_view name) const noexcept;
     };
 
+    /// False only when nobody has ever subscribed to the name: told without a look-up, by any
+    /// thread, since most events of a long operation have no listener.
+    [[nodiscard]] bool mayBeHeard(std::string_view name) const;
+    void rememberHeard(std::string_view name);
+
+    /// Not part of `publish`, which returns the quicker for it when nobody listens.
+    void publishHeard(std::string_view name, const char* payload, int reserved);
     void publishLater(const char* eventName, const char* payload, int reserved);
     static void deliver(Listeners& listeners, const char* eventName, const char* payload,
                         int reserved);
 
     std::unordered_map<std::string, Listeners, NameHash, std::equal_to<>> m_listeners;
+    std::array<std::atomic<std::uint64_t>, 16> m_heard{}; ///< a bit for each name, by its hash
 };

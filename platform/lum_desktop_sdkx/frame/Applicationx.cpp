@@ -4,6 +4,7 @@
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/Paths.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/dialogs/ProgramIcon.h"
 #include "lum_desktop_sdkx/frame/Appearance.h"
 #include "lum_desktop_sdkx/frame/FrameComponents.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
@@ -74,6 +75,7 @@ Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, co
     get_system_config_parameter().load((tool + QStringLiteral(".xml")).toStdString());
     const std::string_view version = get_system_config_parameter().dictionary().text("version");
     setApplicationVersion(QString::fromUtf8(version.data(), static_cast<int>(version.size())));
+    setWindowIcon(programIcon());
     lum::setDpiScale(primaryScreen()->logicalDotsPerInch() / 96.0);
     registerMapComponents();
     registerFrameComponents();
