@@ -468,4 +468,58 @@
         <translation>勘察数据列表</translation>
     </message>
 </context>
+<context>
+    <name>ads::CDockWidgetTab</name>
+    <message>
+        <source>Detach</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close Others</source>
+        <translation>关闭其他</translation>
+    </message>
+    <message>
+        <source>Close Tab</source>
+        <translation>关闭标签页</translation>
+    </message>
+</context>
+<context>
+    <name>ads::CDockAreaTitleBar</name>
+    <message>
+        <source>List All Tabs</source>
+        <translation>列出所有标签页</translation>
+    </message>
+    <message>
+        <source>Detach Group</source>
+        <translation>浮动整组</translation>
+    </message>
+    <message>
+        <source>Close Active Tab</source>
+        <translation>关闭当前标签页</translation>
+    </message>
+    <message>
+        <source>Close Group</source>
+        <translation>关闭整组</translation>
+    </message>
+    <message>
+        <source>Close Other Groups</source>
+        <translation>关闭其他组</translation>
+    </message>
+    <message>
+        <source>Close Tab</source>
+        <translation>关闭标签页</translation>
+    </message>
+    <message>
+        <source>Detach</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
 </TS>

@@ -71,6 +71,13 @@ TEST(InstalledLayout, IsReadWholeAndTranslatedToChinese)
     EXPECT_EQ(QStringList(texts.values()).join(QLatin1Char(';')).toStdString(), "");
 }
 
+TEST(InstalledTexts, NoneIsLeftUnfinished)
+{
+    const QByteArray ts = contentOf(QStringLiteral("/translations/skyquill_zh_CN.ts"));
+    EXPECT_GT(ts.count("<source>"), 20);
+    EXPECT_EQ(ts.count("unfinished"), 0);
+}
+
 TEST(InstalledLayout, EveryToolBarButtonIsACommandOfTheMenus)
 {
     FrameLayout layout;
