@@ -48,6 +48,8 @@ void ProgramTest::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir().mkpath(path("程序 dir/bin")));
     QVERIFY(QDir().mkpath(path("run")));
+    QVERIFY(
+        QFile::setPermissions(path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FILE), path("程序 dir/bin/skyquill")));
     const QDir from(QStringLiteral(CONFIGURATION_FOLDER));
     QDirIterator files(from.path(), QDir::Files, QDirIterator::Subdirectories);

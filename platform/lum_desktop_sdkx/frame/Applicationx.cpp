@@ -27,10 +27,10 @@ namespace {
 void logQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
     const std::string line = "Qt: " + message.toStdString();
-    if (type == QtDebugMsg || type == QtInfoMsg)
-        basalt::logDebug(line);
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        basalt::logError(line);
     else
-        basalt::logWarning(line);
+        basalt::logDebug(line); // of no use to the user
 }
 
 /// What must be set before Qt makes the application object.

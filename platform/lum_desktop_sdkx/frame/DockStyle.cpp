@@ -1,5 +1,27 @@
 #include "lum_desktop_sdkx/frame/DockStyle.h"
 
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+
+namespace {
+
+QPixmap cross(int side)
+{
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QGuiApplication::palette().color(QPalette::WindowText), side / 12.0,
+                        Qt::SolidLine, Qt::RoundCap));
+    const double margin = side * 0.28;
+    painter.drawLine(QPointF(margin, margin), QPointF(side - margin, side - margin));
+    painter.drawLine(QPointF(margin, side - margin), QPointF(side - margin, margin));
+    return pixmap;
+}
+
+} // namespace
+
 namespace desktop {
 
 QString dockStyle()
@@ -38,6 +60,14 @@ ads--CTitleBarButton:hover, #tabCloseButton:hover { background: palette(midlight
     qproperty-iconSize: 14px;
 }
 )");
+}
+
+QIcon dockCloseIcon()
+{
+    QIcon icon;
+    for (const int side : {14, 16, 28, 32, 48})
+        icon.addPixmap(cross(side));
+    return icon;
 }
 
 } // namespace desktop

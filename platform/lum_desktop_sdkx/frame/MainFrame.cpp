@@ -11,7 +11,6 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -38,8 +37,7 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     auto* const docks = new CDockManager(frame);
     docks->setStyleSheet(QString()); // or rules of the library's own sheet stay in force
     docks->setStyleSheet(desktop::dockStyle());
-    const QIcon close = QIcon::fromTheme(QStringLiteral("window-close-symbolic"));
-    CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon, close);
+    CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon, desktop::dockCloseIcon());
     return docks;
 }
 
