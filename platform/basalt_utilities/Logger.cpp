@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::size_t kFileBytes = 2U * 1024U * 1024U;
+constexpr std::size_t kFileBytes = std::size_t{2} * 1024 * 1024;
 constexpr std::size_t kOldFiles = 4;
 constexpr std::chrono::seconds kRepeatWindow{5};
 

@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/ISystemSettings.h"
 #include "lum_desktop_sdkx/IWindow.h"
 
+// NOLINTBEGIN(bugprone-macro-parentheses): a type cannot stand in parentheses
 #define LUM_COMPONENT_KIND(Kind)                                                                   \
     Kind##Factory& extensible_factory_##Kind()                                                     \
     {                                                                                              \
@@ -23,6 +24,8 @@
     {                                                                                              \
         extensible_factory_##Kind().release(component);                                            \
     }
+
+// NOLINTEND(bugprone-macro-parentheses)
 
 LUM_COMPONENT_KIND(IWindow)
 LUM_COMPONENT_KIND(ILayerViewer)

@@ -38,7 +38,7 @@ QString deviceId()
         if (!stored.isNull())
             return stored.toString(QUuid::WithoutBraces);
     }
-    const QString fresh = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    QString fresh = QUuid::createUuid().toString(QUuid::WithoutBraces);
     if (!file_system_create_dir(folder) || !lum::writeWholeFile(path, fresh.toLatin1()).isEmpty())
         basalt::logWarning("Cannot keep the device identifier: " + path.toStdString());
     return fresh;

@@ -41,7 +41,7 @@ private:
 
     QString required(const char* name)
     {
-        const QString value = attribute(name);
+        QString value = attribute(name);
         if (value.isEmpty())
             fail(QStringLiteral("<%1> without %2").arg(m_xml.name()).arg(QLatin1String(name)));
         return value;
@@ -195,7 +195,7 @@ namespace desktop {
 QString readFrameLayout(const QByteArray& xml, FrameLayout& layout)
 {
     FrameLayout read;
-    const QString fault = FrameLayoutReader(xml).read(read);
+    QString fault = FrameLayoutReader(xml).read(read);
     if (fault.isEmpty())
         layout = std::move(read);
     return fault;
