@@ -20,7 +20,7 @@ class IWindow;
 // A name that is taken is refused and logged; an unknown one comes back as null and is logged.
 
 #define LUM_COMPONENT_KIND(Kind, ...)                                                              \
-    using Kind##Factory = ComponentFactory<Kind, const char*, ##__VA_ARGS__>;                      \
+    using Kind##Factory = ComponentFactory<Kind, const char * __VA_OPT__(, ) __VA_ARGS__>;         \
     [[nodiscard]] Kind##Factory& extensible_factory_##Kind();                                      \
     bool extensible_factory_register_##Kind(const char* name, const char* caption,                 \
                                             Kind##Factory::Create create,                          \
