@@ -3,6 +3,7 @@
 #include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 
 #include <QByteArray>
+#include <QLocale>
 #include <QSet>
 
 #include <cmath>
@@ -39,6 +40,13 @@ void takesItsDefault(const PropertyGridRow& row)
 }
 
 } // namespace
+
+/// With the decimal comma of a German desktop there is more to misread.
+extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
