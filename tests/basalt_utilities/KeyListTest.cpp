@@ -21,7 +21,7 @@ struct KeyListCase
 
 class FaultyKeyList : public testing::Test
 {
-protected:
+public:
     FaultyKeyList()
     {
         basalt::setLogListener(
@@ -30,6 +30,7 @@ protected:
     }
     ~FaultyKeyList() override { basalt::setLogListener(nullptr, nullptr); }
 
+protected:
     int m_logLines = 0;
 };
 
