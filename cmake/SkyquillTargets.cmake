@@ -20,6 +20,7 @@ endif()
 if(SKYQUILL_FUZZ)
     target_compile_options(skyquill_warnings INTERFACE
         -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+    target_compile_definitions(skyquill_warnings INTERFACE QT_FORCE_ASSERTS)
     target_link_options(skyquill_warnings INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -25,8 +25,8 @@ private:
     void readItem()
     {
         const std::size_t end = m_rest.find(m_separator);
-        const std::size_t mark = m_rest.find(m_mark);
-        if (mark == std::string_view::npos || mark > end) {
+        const std::size_t mark = m_rest.substr(0, end).find(m_mark);
+        if (mark == std::string_view::npos) {
             if (!basalt::trimmed(next_word3(m_rest, m_separator)).empty())
                 report("an item without a mark between key and value");
             return;
@@ -82,6 +82,8 @@ private:
 
     void report(std::string_view fault)
     {
+        if (!m_wellFormed) // a file read as a key list would fill the log
+            return;
         m_wellFormed = false;
         constexpr std::size_t kShown = 200;
         std::string line = "Key list with ";

@@ -9,9 +9,10 @@
 ///
 /// A value that begins with `quote` runs to the closing one and may hold the separator; a doubled
 /// quote inside stands for one. Blanks around a key are dropped, a value is taken as it stands,
-/// empty items are passed over, and a later pair replaces an earlier one of the same key. A faulty
-/// item (no mark, an empty key, an unclosed quote, text behind a closing quote) is reported in the
-/// log with the whole list; the rest is read all the same: an unclosed value runs to the end.
+/// empty items are passed over, and a later pair replaces an earlier one of the same key. The first
+/// faulty item (no mark, an empty key, an unclosed quote, text behind a closing quote) is reported
+/// in the log with the list's beginning; the rest is read all the same: an unclosed value runs to
+/// the end.
 /// What the dictionary held before stays.
 /// \returns whether every item was well formed
 bool csa_to_dictionary(IDictionary& dictionary, std::string_view text, char mark = '=',

@@ -19,18 +19,23 @@ struct KeyListCase
     bool wellFormed;
 };
 
-class KeyList : public testing::TestWithParam<KeyListCase>
+class FaultyKeyList : public testing::Test
 {
-protected:
-    KeyList()
+public:
+    FaultyKeyList()
     {
-        basalt::setLogListener([](void* self, ILogger::Level,
-                                  std::string_view) { ++static_cast<KeyList*>(self)->m_logLines; },
-                               this);
+        basalt::setLogListener(
+            [](void* lines, ILogger::Level, std::string_view) { ++*static_cast<int*>(lines); },
+            &m_logLines);
     }
-    ~KeyList() override { basalt::setLogListener(nullptr, nullptr); }
+    ~FaultyKeyList() override { basalt::setLogListener(nullptr, nullptr); }
 
+protected:
     int m_logLines = 0;
+};
+
+class KeyList : public FaultyKeyList, public testing::WithParamInterface<KeyListCase>
+{
 };
 
 std::string entriesOf(const IDictionary& dictionary)
@@ -54,6 +59,20 @@ TEST_P(KeyList, ReadsWhatIsSoundAndReportsTheRest)
 
     EXPECT_EQ(entriesOf(dictionary), entries);
     EXPECT_EQ(m_logLines == 0, wellFormed);
+}
+
+TEST_F(FaultyKeyList, IsReportedOnceHoweverLong)
+{
+    std::string text;
+    for (int i = 0; i < 1'000'000; ++i)
+        text += "x,";
+    text += "a=1";
+    basalt::Dictionary dictionary;
+
+    EXPECT_FALSE(csa_to_dictionary(dictionary, text));
+
+    EXPECT_EQ(entriesOf(dictionary), "a|1;");
+    EXPECT_EQ(m_logLines, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(

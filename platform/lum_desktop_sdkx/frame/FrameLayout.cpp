@@ -47,12 +47,13 @@ private:
         return value;
     }
 
-    /// All attributes as a component's configuration text.
+    /// All attributes as a component's configuration text, a prefixed one under its whole name: it
+    /// is not the one that the frame itself reads.
     [[nodiscard]] QByteArray config() const
     {
         basalt::Dictionary values;
         for (const QXmlStreamAttribute& entry : m_xml.attributes())
-            values.set(entry.name().toString().toStdString(),
+            values.set(entry.qualifiedName().toString().toStdString(),
                        entry.value().toString().toStdString());
         return QByteArray::fromStdString(dictionary_to_csa(values));
     }

@@ -105,8 +105,8 @@ TEST(InstalledLayout, EveryToolBarButtonIsACommandOfTheMenus)
 TEST(FrameLayoutXml, AttributesReachTheComponentWhole)
 {
     FrameLayout layout;
-    ASSERT_TRUE(desktop::readFrameLayout(R"(<main_frame><menu caption="M">
-        <command class="C" name="N, with comma" reactor="R" tip="say &quot;hi&quot;"/>
+    ASSERT_TRUE(desktop::readFrameLayout(R"(<main_frame xmlns:x="other"><menu caption="M">
+        <command class="C" name="N, with comma" reactor="R" tip="say &quot;hi&quot;" x:name="X"/>
         </menu></main_frame>)",
                                          layout)
                     .isEmpty());

@@ -1,0 +1,46 @@
+#include "basalt_utilities/Dictionary.h"
+#include "Hold.h"
+#include "lum_sdk/DictionaryXml.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+
+namespace {
+
+void comesBackByteForByte(const IDictionary& written)
+{
+    const QByteArray xml = lum::writeDictionary(written);
+    basalt::Dictionary read;
+    hold(lum::readDictionary(xml, read).isEmpty(), "what was written is well formed");
+    holdSame(read, written, "what was written reads back byte for byte");
+    hold(lum::writeDictionary(read) == xml, "writing again gives the same file");
+}
+
+void isReadWholeOrNotAtAll(const QByteArray& xml)
+{
+    basalt::Dictionary before;
+    before.set("old", "kept");
+    basalt::Dictionary after(before);
+    if (lum::readDictionary(xml, after).isEmpty())
+        comesBackByteForByte(after);
+    else
+        holdSame(after, before, "a refused text leaves the dictionary as it was");
+}
+
+} // namespace
+
+/// The bytes as a file to read, and again as key and value to write.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    isReadWholeOrNotAtAll(bytes);
+
+    const std::string_view text(bytes.constData(), size);
+    basalt::Dictionary entries;
+    entries.set(text.substr(0, size / 2), text.substr(size / 2));
+    entries.set(text.substr(size / 2), text.substr(0, size / 2));
+    comesBackByteForByte(entries);
+    return 0;
+}
