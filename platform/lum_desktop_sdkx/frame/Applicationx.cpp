@@ -142,6 +142,7 @@ void Applicationx::reportShown()
         exit(0);
     }
     if (!m_screenshotFile.isEmpty()) {
+        m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // whatever the screen has
         QTimer::singleShot(500, this, [this] { // the map's worker has painted by then
             const bool done = m_mainFrame->grab().save(m_screenshotFile);
             if (!done)

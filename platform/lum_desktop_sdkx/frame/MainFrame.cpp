@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/frame/FrameState.h"
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/IGuiAssistant.h"
+#include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
 
 #include <QCloseEvent>
@@ -95,6 +96,8 @@ void MainFrame::show()
     QMainWindow::show();
     if (!wasRestored)
         windows.applySizes(); // only now the docks have a size to share out
+    if (IWindow* const map = windows.find(QStringLiteral("DataMap")))
+        map->widget()->setFocus();
 }
 
 void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)

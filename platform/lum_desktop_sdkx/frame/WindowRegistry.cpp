@@ -66,6 +66,10 @@ void WindowRegistry::attach(ads::CDockManager* docks, QStatusBar* statusBar)
 {
     m_docks = docks;
     m_statusBar = statusBar;
+    const auto favour = [this] { favourCenter(); }; // splitters come anew with every change
+    QObject::connect(docks, &ads::CDockManager::dockAreasAdded, docks, favour);
+    QObject::connect(docks, &ads::CDockManager::dockAreasRemoved, docks, favour);
+    QObject::connect(docks, &ads::CDockManager::stateRestored, docks, favour);
 }
 
 IWindow* WindowRegistry::openWindow(const FrameLayout::Window& layout)
@@ -150,6 +154,7 @@ void WindowRegistry::resetLayout()
 
 void WindowRegistry::rememberDefaultLayout()
 {
+    favourCenter();
     m_defaultState = m_docks->saveState(stateVersion());
 }
 
@@ -176,6 +181,18 @@ void WindowRegistry::applySizes()
         sizes[index] += missing;
         sizes[center] = std::max(sizes[center] - missing, 1);
         splitter->setSizes(sizes);
+    }
+}
+
+void WindowRegistry::favourCenter()
+{
+    const Entry* center = lastIn(Area::Center);
+    QWidget* child = center != nullptr ? center->dock->dockAreaWidget() : nullptr;
+    while (child != nullptr) {
+        auto* const splitter = qobject_cast<QSplitter*>(child->parentWidget());
+        for (int i = 0; splitter != nullptr && i < splitter->count(); ++i)
+            splitter->setStretchFactor(i, splitter->widget(i) == child ? 1 : 0);
+        child = splitter;
     }
 }
 

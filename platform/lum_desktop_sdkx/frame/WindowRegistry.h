@@ -63,6 +63,8 @@ private:
     void placeDock(ads::CDockWidget* dock, const FrameLayout::Window& layout);
     [[nodiscard]] const Entry* lastIn(FrameLayout::Area area) const;
     [[nodiscard]] int stateVersion() const;
+    /// Lets the central windows take what the frame gains or loses; the others keep their sizes.
+    void favourCenter();
 
     IDesktopHost* m_host; // owns the registry
     ads::CDockManager* m_docks = nullptr;

@@ -173,6 +173,7 @@ private Q_SLOTS:
     void restoresTheDocksOfTheLastSession();
     void refusesDocksOfAnotherSetOfWindows();
     void resetsTheLayout();
+    void theMapTakesWhatTheFrameGains();
     void staysOpenWhenTheAssistantRefuses();
     void goesOnWithoutASettingsFolder();
     void keepsSettingChoices();
@@ -351,6 +352,24 @@ void MainFrameTest::resetsTheLayout()
     for (const char* name : {"Messages", "Layers", "Survey Data List"})
         QVERIFY2(!shown.dock(name)->isClosed(), name);
     QVERIFY(qAbs(shown.dock("Layers")->width() - before.width()) <= 2);
+}
+
+void MainFrameTest::theMapTakesWhatTheFrameGains()
+{
+    ShownFrame shown;
+    const auto widths = [&] {
+        QCoreApplication::processEvents();
+        return std::pair(shown.dock("Layers")->width(), shown.dock("DataMap")->width());
+    };
+    const auto [layers, map] = widths();
+    shown.frame.resize(shown.frame.width() + 300, shown.frame.height() + 100);
+    QCOMPARE(widths(), std::pair(layers, map + 300));
+
+    auto* const manager = shown.frame.findChild<ads::CDockManager*>();
+    manager->addDockWidget(ads::RightDockWidgetArea, shown.dock("Messages"));
+    const auto [layersThen, mapThen] = widths();
+    shown.frame.resize(shown.frame.width() - 200, shown.frame.height());
+    QCOMPARE(widths(), std::pair(layersThen, mapThen - 200));
 }
 
 void MainFrameTest::staysOpenWhenTheAssistantRefuses()
