@@ -150,7 +150,8 @@ private:
         window.area = readArea();
         window.isBelow = attribute("place") == QLatin1String("below");
         window.isClosable = attribute("closable") != QLatin1String("0");
-        window.size = attribute("size").toInt();
+        window.width = attribute("width").toInt();
+        window.height = attribute("height").toInt();
         window.config = config();
         m_xml.skipCurrentElement();
         return window;

@@ -78,8 +78,9 @@ struct FrameLayout
         Area area = Area::Center;
         bool isBelow = false;   ///< stacked under the area's last window, not tabbed with it
         bool isClosable = true; ///< "closable", 1 or 0
-        int size = 0;           ///< preferred width (left, right) or height (bottom); 0 leaves it
-        QByteArray config;      ///< key list of all attributes
+        int width = 0;          ///< preferred, logical pixels; 0 leaves it to the frame
+        int height = 0;
+        QByteArray config; ///< key list of all attributes
     };
 
     std::vector<QString> assistants;

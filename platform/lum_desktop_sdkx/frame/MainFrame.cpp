@@ -91,13 +91,15 @@ void MainFrame::setTitle(const QString& title)
 void MainFrame::show()
 {
     WindowRegistry& windows = m_host.windows();
+    const QString map = QStringLiteral("DataMap");
+    windows.activate(map); // in front of what the assistants have opened beside it
     windows.rememberDefaultLayout();
     const bool wasRestored = windows.restoreState(FrameState::load().docks);
     QMainWindow::show();
     if (!wasRestored)
         windows.applySizes(); // only now the docks have a size to share out
-    if (IWindow* const map = windows.find(QStringLiteral("DataMap")))
-        map->widget()->setFocus();
+    if (IWindow* const window = windows.find(map))
+        window->widget()->setFocus();
 }
 
 void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)

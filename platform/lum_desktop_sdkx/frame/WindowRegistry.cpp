@@ -19,6 +19,30 @@
 
 using Area = FrameLayout::Area;
 
+namespace {
+
+/// Widens or narrows a dock area at its neighbour's expense.
+void giveSize(ads::CDockAreaWidget& area, Qt::Orientation orientation, int size)
+{
+    QWidget* child = &area;
+    auto* splitter = qobject_cast<QSplitter*>(area.parentWidget());
+    while (splitter != nullptr && splitter->orientation() != orientation) { // stacked: deeper down
+        child = splitter;
+        splitter = qobject_cast<QSplitter*>(splitter->parentWidget());
+    }
+    if (splitter == nullptr || splitter->count() < 2)
+        return;
+    QList<int> sizes = splitter->sizes();
+    const int index = splitter->indexOf(child);
+    const int neighbour = index == 0 ? 1 : index - 1;
+    const int missing = size - sizes[index];
+    sizes[index] += missing;
+    sizes[neighbour] = std::max(sizes[neighbour] - missing, 1);
+    splitter->setSizes(sizes);
+}
+
+} // namespace
+
 IWindow* WindowRegistry::find(const QString& name) const
 {
     const Entry* found = entry(name);
@@ -161,26 +185,14 @@ void WindowRegistry::rememberDefaultLayout()
 void WindowRegistry::applySizes()
 {
     for (const Entry& each : m_entries) {
-        if (each.dock == nullptr || each.layout.size <= 0 || each.dock->dockAreaWidget() == nullptr)
+        ads::CDockAreaWidget* const area =
+            each.dock != nullptr ? each.dock->dockAreaWidget() : nullptr;
+        if (area == nullptr)
             continue;
-        ads::CDockAreaWidget* const area = each.dock->dockAreaWidget();
-        QWidget* child = area;
-        auto* splitter = qobject_cast<QSplitter*>(area->parentWidget());
-        const auto wanted = each.layout.area == Area::Bottom ? Qt::Vertical : Qt::Horizontal;
-        while (splitter != nullptr &&
-               splitter->orientation() != wanted) { // stacked ones sit deeper
-            child = splitter;
-            splitter = qobject_cast<QSplitter*>(splitter->parentWidget());
-        }
-        if (splitter == nullptr || splitter->count() < 2)
-            continue;
-        QList<int> sizes = splitter->sizes();
-        const int index = splitter->indexOf(child);
-        const int center = index == 0 ? 1 : index - 1;
-        const int missing = dpi_scaled(each.layout.size) - sizes[index];
-        sizes[index] += missing;
-        sizes[center] = std::max(sizes[center] - missing, 1);
-        splitter->setSizes(sizes);
+        if (each.layout.width > 0)
+            giveSize(*area, Qt::Horizontal, dpi_scaled(each.layout.width));
+        if (each.layout.height > 0)
+            giveSize(*area, Qt::Vertical, dpi_scaled(each.layout.height));
     }
 }
 

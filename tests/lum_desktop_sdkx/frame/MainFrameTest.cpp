@@ -122,12 +122,21 @@ constexpr const char* kLayout = R"(<main_frame>
   </toolbar>
   <toolbar name="none" caption="None"><command name="Unknown"/></toolbar>
   <window class="MapWindow" name="DataMap" caption="Map" area="center" closable="0"/>
-  <window class="TestWindow" name="Survey Data List" caption="Survey" area="left" size="200"/>
+  <window class="TestWindow" name="Survey Data List" caption="Survey" area="left" width="200"/>
   <window class="UnknownWindow" name="Unknown" area="left"/>
-  <window class="MessageWindow" name="Messages" area="bottom" size="100"/>
-  <window class="LayerWindow" name="Layers" area="left" place="below" size="200"/>
+  <window class="MessageWindow" name="Messages" area="bottom" height="100"/>
+  <window class="LayerWindow" name="Layers" area="left" place="below" width="200"/>
   <window class="CoordinateReadout" name="Coordinates" area="status"/>
 </main_frame>)";
+
+QByteArray installedLayout()
+{
+    QFile file(QStringLiteral(SOURCE_FOLDER
+                              "/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no main_frame.xml");
+    return file.readAll();
+}
 
 FrameLayout layoutOf(const QByteArray& xml)
 {
@@ -178,6 +187,7 @@ private Q_SLOTS:
     void goesOnWithoutASettingsFolder();
     void keepsSettingChoices();
     void endsItsWindowsOnce();
+    void theInstalledLayoutPlacesItsWindows();
     void everyIconOfTheInstalledLayoutIsThere();
 };
 
@@ -444,12 +454,40 @@ void MainFrameTest::endsItsWindowsOnce()
     QCOMPARE(windowsAlive, 0);
 }
 
+// Every window of the finished program, here as an empty one of its name.
+void MainFrameTest::theInstalledLayoutPlacesItsWindows()
+{
+    using Make = desktop::Maker<IWindow, OtherWindow, IDesktopHost*>;
+    for (const char* name : {"DesignLineTable", "SurveyDataTable", "DesignLineControl",
+                             "SurveyDataControl", "AttributeControl"})
+        extensible_factory_register_IWindow(name, "", Make::create, Make::destroy);
+    ShownFrame shown(installedLayout());
+    shown.frame.resize(1400, 900);
+    QCoreApplication::processEvents();
+
+    const auto area = [&](const char* name) { return shown.dock(name)->dockAreaWidget(); };
+    QCOMPARE(area("Design Data List"), area("DataMap"));
+    QCOMPARE(area("Survey Data List"), area("DataMap"));
+    QVERIFY(shown.dock("DataMap")->isCurrentTab());
+
+    const auto placeOf = [&](const char* name) {
+        return QRect(area(name)->mapTo(&shown.frame, QPoint(0, 0)), area(name)->size());
+    };
+    const QRect map = placeOf("DataMap");
+    for (const char* name : {"Design Lines", "Survey Lines"})
+        QVERIFY2(placeOf(name).right() < map.left() && placeOf(name).width() < map.width(), name);
+    for (const char* name : {"Attributes", "Layers"})
+        QVERIFY2(placeOf(name).left() > map.right() && placeOf(name).width() < map.width(), name);
+    QVERIFY(placeOf("Design Lines").bottom() < placeOf("Survey Lines").top());
+    QVERIFY(placeOf("Attributes").bottom() < placeOf("Layers").top());
+    QVERIFY(placeOf("Attributes").height() > placeOf("Layers").height());
+    QVERIFY(placeOf("Messages").top() > map.bottom());
+    QCOMPARE(placeOf("Messages").left(), map.left());
+}
+
 void MainFrameTest::everyIconOfTheInstalledLayoutIsThere()
 {
-    QFile file(QStringLiteral(SOURCE_FOLDER
-                              "/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString xml = QString::fromUtf8(file.readAll());
+    const QString xml = QString::fromUtf8(installedLayout());
     for (const QString& theme : {QStringLiteral("light"), QStringLiteral("dark")}) {
         desktop::applyAppearance(theme);
         static const QRegularExpression icon(QStringLiteral("icon=\"([^\"]+)\""));
