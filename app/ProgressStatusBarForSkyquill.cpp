@@ -2,7 +2,9 @@
 
 #include "app/protocol/Events.h"
 #include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/Text.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -14,13 +16,15 @@
 
 namespace {
 constexpr int kFrameMs = 33;
+constexpr int kWidestLabel = 420; // pixels; the rest of the status bar needs its place
 } // namespace
 
 ProgressStatusBarForSkyquill::ProgressStatusBarForSkyquill(const char* config, IDesktopHost* host)
-    : m_subscription(*this, events::kProgress, host->eventManager()), m_bar(new QProgressBar(this)),
+    : m_parameters(desktop::componentParameters(config)),
+      m_subscription(*this, events::kProgress, host->eventManager()), m_bar(new QProgressBar(this)),
       m_label(new QLabel(this))
 {
-    csa_to_dictionary(m_parameters, config);
+    m_label->setTextFormat(Qt::PlainText);
     m_label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_bar->setFixedSize(200, 15);
     auto* const row = new QHBoxLayout(this);
@@ -66,7 +70,8 @@ void ProgressStatusBarForSkyquill::showPayload(const char* payload)
     m_values.clear();
     csa_to_dictionary(m_values, payload);
     const std::string_view text = m_values.text("text");
-    m_label->setText(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
+    m_label->setText(
+        m_label->fontMetrics().elidedText(lum::toQString(text), Qt::ElideMiddle, kWidestLabel));
     if (m_values.integer("scroll", 0) != 0) {
         m_bar->setMaximum(0);
     } else {

@@ -55,15 +55,17 @@ function(skyquill_add_test name)
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
 endfunction()
 
-# skyquill_add_qt_test(NAME SOURCES a.cpp ... LINKS lib ...): one Qt Test class, offscreen.
+# skyquill_add_qt_test(NAME SOURCES a.cpp ... LINKS lib ... [ENVIRONMENT A=b ...]): one Qt Test class,
+# offscreen.
 function(skyquill_add_qt_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test skyquill_warnings)
     skyquill_qt_defaults(${name})
     add_test(NAME ${name} COMMAND ${name})
     skyquill_test_environment(${name} environment)
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "${environment};${ARG_ENVIRONMENT}" TIMEOUT 300)
 endfunction()
 
 function(skyquill_qt_defaults name)

@@ -19,7 +19,8 @@ public:
     DataProcessDataManager(const DataProcessDataManager&) = delete;
     DataProcessDataManager& operator=(const DataProcessDataManager&) = delete;
 
-    /// The manager of this process; null before it is made and after it is ended.
+    /// The manager of this process; null before it is made and after it is ended. For the GUI
+    /// thread only: what paints on a worker works on a copy that was made here.
     [[nodiscard]] static DataProcessDataManager* instance();
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;

@@ -8,10 +8,6 @@
         <translation>Skyquill</translation>
     </message>
     <message>
-        <source>The window layout &quot;%1&quot; cannot be read (%2). The program starts with the map alone.</source>
-        <translation>无法读取窗口布局“%1”（%2）。程序启动后只有地图窗口。</translation>
-    </message>
-    <message>
         <source>Stake-out data of land seismic surveys</source>
         <translation>陆地地震勘探放样数据处理</translation>
     </message>
@@ -22,6 +18,25 @@
     <message>
         <source>Write a picture of the window to &lt;file&gt;, and leave.</source>
         <translation>把窗口图像写入 &lt;file&gt;，然后退出。</translation>
+    </message>
+    <message>
+        <source>The window layout &quot;%1&quot; cannot be read (%2). The program has started with the map alone.</source>
+        <translation>无法读取窗口布局“%1”（%2）。程序已启动，只有地图窗口。</translation>
+    </message>
+    <message>
+        <source>List the components that a window layout can name, and leave.</source>
+        <translation>列出窗口布局可用的组件，然后退出。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandList</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>The command failed: %1</source>
+        <translation>命令执行失败：%1</translation>
     </message>
 </context>
 <context>
@@ -55,17 +70,6 @@
     <message>
         <source>The file &quot;%1&quot; exists already. Replace it?</source>
         <translation>文件“%1”已经存在，是否替换？</translation>
-    </message>
-</context>
-<context>
-    <name>FrameCommands</name>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>The change takes effect at the next start.</source>
-        <translation>更改将在下次启动时生效。</translation>
     </message>
 </context>
 <context>
@@ -133,6 +137,17 @@
     <message>
         <source>Value</source>
         <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>SettingChoiceCommand</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>The change takes effect at the next start.</source>
+        <translation>更改将在下次启动时生效。</translation>
     </message>
 </context>
 </TS>

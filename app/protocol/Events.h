@@ -1,7 +1,7 @@
 #pragma once
 
 /// The named events by which components talk. Each comment says who publishes, who listens and
-/// what rides along; `Payloads.h` builds and reads the payloads.
+/// what rides along; `Payloads.h` builds the payloads, `csa_to_dictionary` reads them.
 namespace events {
 
 // --- frame ---

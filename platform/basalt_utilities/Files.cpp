@@ -30,6 +30,9 @@ bool file_system_copy_file(const std::string& from, const std::string& to)
     std::error_code fault;
     std::filesystem::copy_file(from, aside, std::filesystem::copy_options::overwrite_existing,
                                fault);
+    if (!fault) // a template of a read-only installation makes a file that can be written
+        std::filesystem::permissions(aside, std::filesystem::perms::owner_write,
+                                     std::filesystem::perm_options::add, fault);
     if (!fault)
         std::filesystem::rename(aside, to, fault);
     if (fault) {

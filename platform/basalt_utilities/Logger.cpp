@@ -86,7 +86,8 @@ private:
 
 Logger& logger()
 {
-    static Logger instance;
+    // Never ended: what is ended at exit may still have something to say.
+    static Logger& instance = *std::make_unique<Logger>().release();
     return instance;
 }
 

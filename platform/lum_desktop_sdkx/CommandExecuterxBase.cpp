@@ -1,9 +1,8 @@
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 
-#include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/ComponentParameters.h"
 
-CommandExecuterxBase::CommandExecuterxBase(const char* config, IDesktopHost* host) : m_host(*host)
+CommandExecuterxBase::CommandExecuterxBase(const char* config, IDesktopHost* host)
+    : m_host(*host), m_parameters(desktop::componentParameters(config))
 {
-    if (config != nullptr)
-        csa_to_dictionary(m_parameters, config);
 }

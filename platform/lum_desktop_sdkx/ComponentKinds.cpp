@@ -7,6 +7,20 @@
 #include "lum_desktop_sdkx/ISystemSettings.h"
 #include "lum_desktop_sdkx/IWindow.h"
 
+namespace {
+
+ISystemSettings* settingsInUse = nullptr;
+
+void forget(const void* /*component*/) {}
+
+void forget(const ISystemSettings* settings)
+{
+    if (settings == settingsInUse)
+        settingsInUse = nullptr;
+}
+
+} // namespace
+
 // NOLINTBEGIN(bugprone-macro-parentheses): a type cannot stand in parentheses
 #define LUM_COMPONENT_KIND(Kind)                                                                   \
     Kind##Factory& extensible_factory_##Kind()                                                     \
@@ -22,6 +36,7 @@
     }                                                                                              \
     void extensible_factory_release_##Kind(Kind* component)                                        \
     {                                                                                              \
+        forget(component);                                                                         \
         extensible_factory_##Kind().release(component);                                            \
     }
 
@@ -61,10 +76,6 @@ IGuiAssistant* extensible_factory_get_IGuiAssistant(const char* name, const char
 {
     return extensible_factory_IGuiAssistant().get(name, config, host);
 }
-
-namespace {
-ISystemSettings* settingsInUse = nullptr;
-} // namespace
 
 ISystemSettings* extensible_factory_get_ISystemSettings(const char* name, const char* config)
 {

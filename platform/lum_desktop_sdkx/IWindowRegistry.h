@@ -23,13 +23,11 @@ public:
     virtual bool activate(const QString& name) = 0;
 
     /// Opens a window of a registered class, or finds the open one.
-    /// \param parameters "caption" (the configured name), "title" (what its tab shows) and
-    ///        "isSetActive" ("1" brings it to the front) are read here, all are passed on
+    /// \param parameters "caption" (the name that a new window is found by), "title" (what its tab
+    ///        shows) and "isSetActive" ("1" brings it to the front) are read here, all are passed
+    ///        on to a new window
     /// \returns null, and a line in the log, when the class is not registered
     virtual IWindow* open(const QString& className, const IDictionary& parameters) = 0;
-
-    /// Puts every window back to where the layout places it.
-    virtual void resetLayout() = 0;
 
     /// The window as another face of it, such as `IMapWindow`; null when it has none.
     template <class Face>

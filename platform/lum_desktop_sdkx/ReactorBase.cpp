@@ -2,6 +2,7 @@
 
 #include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/MouseKeyEventParameters.h"
 #include "lum_sdk/IEventManager.h"
 #include "lum_sdk/IHost.h"
 
@@ -53,9 +54,9 @@ int ReactorBase::mouseWheel(const MouseKeyEventParameters& /*event*/)
     return 0;
 }
 
-int ReactorBase::keyPress(const MouseKeyEventParameters& /*event*/)
+int ReactorBase::keyPress(const MouseKeyEventParameters& event)
 {
-    return 0;
+    return event.key == Qt::Key_Escape ? rButtonUp(event) : 0;
 }
 
 int ReactorBase::keyRelease(const MouseKeyEventParameters& /*event*/)

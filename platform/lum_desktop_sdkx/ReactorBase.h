@@ -4,7 +4,8 @@
 
 class IMapWindow;
 
-/// A mouse handler that leaves everything alone, but for one thing: a right click ends the tool.
+/// A mouse handler that leaves everything alone, but for one thing: a right click or Escape ends
+/// the tool.
 class ReactorBase : public IReactor
 {
 public:
@@ -20,6 +21,7 @@ public:
     int dblClick(const MouseKeyEventParameters& event) override;
     int mouseMove(const MouseKeyEventParameters& event) override;
     int mouseWheel(const MouseKeyEventParameters& event) override;
+    /// Escape does what the right button does.
     int keyPress(const MouseKeyEventParameters& event) override;
     int keyRelease(const MouseKeyEventParameters& event) override;
 

@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/ILogger.h"
 
+#include <exception>
 #include <functional>
 #include <map>
 #include <memory>
@@ -36,7 +37,8 @@ public:
 
     [[nodiscard]] bool knows(std::string_view name) const { return m_entries.contains(name); }
 
-    /// A new component; null, and a line in the log, when nobody registered `name`.
+    /// A new component; null, and a line in the log, when nobody registered `name` or its making
+    /// throws.
     [[nodiscard]] Pointer make(std::string_view name, Arguments... arguments) const
     {
         const auto found = m_entries.find(name);
@@ -44,7 +46,12 @@ public:
             basalt::logWarning("No " + m_kind + " is registered as \"" + std::string(name) + "\"");
             return Pointer(nullptr, nullptr);
         }
-        return Pointer(found->second.create(arguments...), found->second.destroy);
+        try {
+            return Pointer(found->second.create(arguments...), found->second.destroy);
+        } catch (const std::exception& fault) {
+            basalt::logError(m_kind + " \"" + found->first + "\" cannot be made: " + fault.what());
+            return Pointer(nullptr, nullptr);
+        }
     }
 
     /// As `make`, for callers that give the component back with `release`.

@@ -5,6 +5,7 @@
 #include "basalt_utilities/Paths.h"
 #include "lum_sdk/WholeFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -90,6 +91,9 @@ void Countly::begin(const char* appKey, const char* version, const char* server,
     }
     m_network = std::make_unique<QNetworkAccessManager>();
     m_network->setTransferTimeout(kTimeoutMs);
+    // The network cannot outlive the application object.
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, m_network.get(),
+                     [this] { m_network.reset(); });
     QNetworkReply* reply = m_network->get(QNetworkRequest(url));
     QObject::connect(reply, &QNetworkReply::finished, reply, [reply] {
         if (reply->error() != QNetworkReply::NoError)

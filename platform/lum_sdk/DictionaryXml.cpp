@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/ILogger.h"
+#include "lum_sdk/Text.h"
 #include "lum_sdk/WholeFile.h"
 
 #include <QByteArray>
@@ -11,11 +12,6 @@
 #include <QXmlStreamWriter>
 
 namespace {
-
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 /// XML 1.0 has no way to write most control characters, and Qt replaces broken UTF-8 silently.
 bool fitsXml(std::string_view text)
@@ -28,7 +24,7 @@ bool fitsXml(std::string_view text)
         if (isControl(c))
             return false;
     }
-    const QString decoded = toQString(text);
+    const QString decoded = lum::toQString(text);
     const QByteArray again = decoded.toUtf8();
     return !decoded.contains(QChar(0xFFFE)) && !decoded.contains(QChar(0xFFFF)) &&
            std::string_view(again.constData(), static_cast<std::size_t>(again.size())) == text;
@@ -43,8 +39,8 @@ void writeEntry(QXmlStreamWriter& writer, std::string_view key, std::string_view
     };
     const bool plain = fitsXml(key) && fitsXml(value);
     writer.writeEmptyElement(QStringLiteral("entry"));
-    writer.writeAttribute(QStringLiteral("key"), plain ? toQString(key) : encoded(key));
-    writer.writeAttribute(QStringLiteral("value"), plain ? toQString(value) : encoded(value));
+    writer.writeAttribute(QStringLiteral("key"), plain ? lum::toQString(key) : encoded(key));
+    writer.writeAttribute(QStringLiteral("value"), plain ? lum::toQString(value) : encoded(value));
     if (!plain)
         writer.writeAttribute(QStringLiteral("encoding"), base64);
 }

@@ -111,6 +111,8 @@ void EventManager::deliver(Listeners& listeners, const char* eventName, const ch
             handler->handleEvent(eventName, payload, reserved);
         } catch (const std::exception& fault) {
             basalt::logError(std::string("A handler of ") + eventName + " failed: " + fault.what());
+        } catch (...) {
+            basalt::logError(std::string("A handler of ") + eventName + " failed");
         }
     }
     if (--listeners.deliveries == 0 && listeners.hasGaps) {

@@ -3,6 +3,16 @@
 #include <algorithm>
 #include <cmath>
 
+namespace lum {
+
+bool isFinite(const QRectF& area)
+{
+    return std::isfinite(area.left()) && std::isfinite(area.top()) && std::isfinite(area.right()) &&
+           std::isfinite(area.bottom());
+}
+
+} // namespace lum
+
 QPointF Transform::SurveyToScreen(const QPointF& map) const
 {
     return SurveyToScreen(map.x(), map.y());

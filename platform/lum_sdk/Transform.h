@@ -4,6 +4,13 @@
 #include <QRectF>
 #include <QSize>
 
+namespace lum {
+
+/// Whether all four edges are numbers.
+[[nodiscard]] bool isFinite(const QRectF& area);
+
+} // namespace lum
+
 /// Map coordinates (metres, x to the east, y to the north) to screen pixels (y downwards) and back.
 ///
 /// The one place of this arithmetic. A view is a centre, a scale and a size; it is a value, so a

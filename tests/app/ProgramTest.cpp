@@ -24,6 +24,8 @@ private Q_SLOTS:
     void aMissingSystemFileIsFatalAndReported();
     void aBrokenLayoutLeavesTheMap();
     void beginsASessionWhereAServerIsConfigured();
+    void worksInThePlainLocale();
+    void listsItsComponents();
     void refusesUnknownOptions();
 
 private:
@@ -160,11 +162,13 @@ void ProgramTest::aBrokenLayoutLeavesTheMap()
     replace(toolFile("main_frame.xml"), "<main_frame>\n<menu caption=\"x\">\n<oops/>");
     QProcess process;
     prepare(process);
+    process.setArguments({QStringLiteral("--screenshot"), path("broken.png")});
     process.start();
-    QTRY_VERIFY(log().contains("line 3: unknown element <oops>"));
-    QTRY_VERIFY(log().contains("main_frame.xml"));
-    process.kill();
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished()); // nobody is asked where nobody can answer
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(QFileInfo::exists(path("broken.png")));
+    QVERIFY2(log().contains("line 3: unknown element <oops>"), log().constData());
+    QVERIFY(log().contains("main_frame.xml"));
 }
 
 void ProgramTest::beginsASessionWhereAServerIsConfigured()
@@ -187,6 +191,46 @@ void ProgramTest::beginsASessionWhereAServerIsConfigured()
     QVERIFY(request.contains("2.10.190508.MARLOKTE")); // the version's default
     process.kill();
     QVERIFY(process.waitForFinished());
+
+    QProcess orderly; // leaves with the request under way
+    prepare(orderly);
+    orderly.setArguments({QStringLiteral("--startup-time")});
+    orderly.start();
+    QTRY_COMPARE(orderly.state(), QProcess::NotRunning);
+    QCOMPARE(orderly.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(orderly.exitCode(), 0);
+    QVERIFY(server.hasPendingConnections());
+}
+
+void ProgramTest::worksInThePlainLocale()
+{
+    QProcess process;
+    prepare(process);
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    process.setProcessEnvironment(environment);
+    process.setArguments({QStringLiteral("--screenshot"), path("图 C.png")});
+    process.start();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(QFileInfo::exists(path("图 C.png")));
+    QVERIFY2(!log().contains("error"), log().constData());
+}
+
+void ProgramTest::listsItsComponents()
+{
+    QProcess process;
+    prepare(process);
+    process.setArguments({QStringLiteral("--components")});
+    process.start();
+    QVERIFY(process.waitForFinished());
+    const QString list = QString::fromUtf8(process.readAllStandardOutput());
+    const auto has = [&](const char* pattern) {
+        return list.contains(QRegularExpression(QString::fromUtf8(pattern)));
+    };
+    QVERIFY(has("IGuiAssistant +DataProcess5 +助手\n"));
+    QVERIFY(has("IWindow +ProgressStatusBarForSkyquill +Progress\n"));
+    QVERIFY(has("ICommandExecuterx +AboutCommand +关于\n"));
 }
 
 void ProgramTest::refusesUnknownOptions()

@@ -53,6 +53,15 @@ TEST_F(Files, CopyReplacesWholeFilesAndLeavesNothingAside)
     EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), {}), 2);
 }
 
+TEST_F(Files, ACopyOfAReadOnlyFileCanBeWritten)
+{
+    write(path("template.db"), "x");
+    fs::permissions(path("template.db"), fs::perms::owner_read);
+    ASSERT_TRUE(file_system_copy_file(path("template.db"), path("project.db")));
+    EXPECT_EQ(fs::status(path("project.db")).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+}
+
 TEST_F(Files, AFailedCopyLeavesTheTargetAsItWas)
 {
     write(path("target.db"), "old");

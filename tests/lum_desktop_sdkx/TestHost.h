@@ -20,7 +20,6 @@ public:
         activated.append(name);
         return windows.contains(name);
     }
-    void resetLayout() override {}
     IWindow* open(const QString& className, const IDictionary& /*parameters*/) override
     {
         opened.append(className);

@@ -3,6 +3,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QNetworkProxy>
 #include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -70,14 +71,19 @@ void SessionTest::beginsWithOneRequest()
 
 void SessionTest::sendsNothingWithoutAServer()
 {
-    QTcpServer server;
+    QTcpServer server; // as the proxy of this process, it would see a request to anywhere
     QVERIFY(server.listen(QHostAddress::LocalHost));
+    QNetworkProxy::setApplicationProxy(
+        {QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), server.serverPort()});
     Countly session;
     session.begin("key", "1.0", "", server.serverPort());
     session.begin("key", "1.0", nullptr, server.serverPort());
     session.begin("key", "1.0", "not a host:", server.serverPort());
     QTest::qWait(100);
     QVERIFY(!server.hasPendingConnections());
+    session.begin("key", "1.0", "analytics.invalid", 8081);
+    QTRY_VERIFY(server.hasPendingConnections());
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
 }
 
 void SessionTest::survivesAServerThatDoesNotAnswer()

@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 
 #include "lum_desktop_sdkx/controls/PropertyGridInput.h"
+#include "lum_sdk/Text.h"
 
 #include <QColor>
 
@@ -192,7 +193,7 @@ QVariant PropertyGridModel::headerData(int section, Qt::Orientation orientation,
 QString PropertyGridModel::value(const PropertyGridRow& row) const
 {
     const auto found = m_values.find(toStd(row.key));
-    return found ? QString::fromUtf8(found->data(), static_cast<int>(found->size())) : row.fallback;
+    return found ? lum::toQString(*found) : row.fallback;
 }
 
 QString PropertyGridModel::shownOrTyped(const PropertyGridRow& row, bool shown) const

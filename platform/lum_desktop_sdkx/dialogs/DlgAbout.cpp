@@ -3,6 +3,7 @@
 #include "lum_desktop_sdkx/dialogs/ProgramIcon.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
 
 #include <QDialogButtonBox>
 #include <QFontInfo>
@@ -18,7 +19,7 @@ constexpr int kIconSize = 96;
 QString configured(std::string_view key, std::string_view fallback)
 {
     const std::string_view text = get_system_config_parameter().dictionary().text(key, fallback);
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+    return lum::toQString(text);
 }
 
 void scaleFont(QLabel& label, double factor)

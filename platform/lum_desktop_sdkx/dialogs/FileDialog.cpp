@@ -86,7 +86,9 @@ QString withSuffix(const QString& path, const QString& filter)
     static const QRegularExpression pattern(QStringLiteral("\\*\\.(\\w[\\w.]*)"),
                                             QRegularExpression::UseUnicodePropertiesOption);
     const QString suffix = pattern.match(filter).captured(1);
-    if (suffix.isEmpty() || !QFileInfo(path).suffix().isEmpty())
+    const QString typed = QFileInfo(path).suffix();
+    const bool isSuffix = !typed.isEmpty() && typed.at(0).isLetter(); // "lines 2024.05" has none
+    if (suffix.isEmpty() || isSuffix)
         return path;
     return path.endsWith(QLatin1Char('.')) ? path + suffix : path + QLatin1Char('.') + suffix;
 }

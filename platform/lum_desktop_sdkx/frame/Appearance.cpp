@@ -20,7 +20,7 @@ struct Colors
 constexpr Colors kLight = {0xFFF3F4F6, 0xFFFFFFFF, 0xFFF6F8FA, 0xFF1F2328, 0xFFF3F4F6,
                            0xFFC4C9CF, 0xFF9AA1A9, 0xFF2F74C0, 0xFF1F5FA8};
 constexpr Colors kDark = {0xFF2A2D31, 0xFF1E2023, 0xFF25282C, 0xFFE3E6EA, 0xFF33373C,
-                          0xFF17191B, 0xFF7C838B, 0xFF3F83CF, 0xFF7DB2EE};
+                          0xFF565C63, 0xFF7C838B, 0xFF3F83CF, 0xFF7DB2EE};
 
 QPalette makePalette(const Colors& colors)
 {

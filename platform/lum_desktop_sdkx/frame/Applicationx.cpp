@@ -8,17 +8,21 @@
 #include "lum_desktop_sdkx/frame/Appearance.h"
 #include "lum_desktop_sdkx/frame/FrameComponents.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
+#include "lum_desktop_sdkx/frame/MessageLog.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
 
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
 #include <QScreen>
+#include <QTextCodec>
 #include <QTimer>
 
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 
 namespace {
@@ -33,10 +37,28 @@ void logQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const Q
         basalt::logDebug(line); // of no use to the user
 }
 
+template <class Factory>
+void printKind(const char* kind, const Factory& factory)
+{
+    for (const auto& [name, caption] : factory.captions())
+        std::printf("%-17s %-30s %s\n", kind, name.c_str(), caption.c_str());
+}
+
+void printComponents()
+{
+    printKind("IWindow", extensible_factory_IWindow());
+    printKind("ILayerViewer", extensible_factory_ILayerViewer());
+    printKind("IReactor", extensible_factory_IReactor());
+    printKind("ICommandExecuterx", extensible_factory_ICommandExecuterx());
+    printKind("IGuiAssistant", extensible_factory_IGuiAssistant());
+}
+
 /// What must be set before Qt makes the application object.
 int& prepared(int& argc)
 {
     qInstallMessageHandler(logQtMessage);
+    // 8-bit text is UTF-8, file names included, also where the locale is "C".
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -44,7 +66,8 @@ int& prepared(int& argc)
     return argc;
 }
 
-FrameLayout loadLayout(const QString& path)
+/// The layout in the file, or the minimal one and what is wrong with the file.
+FrameLayout loadLayout(const QString& path, QString& problem)
 {
     FrameLayout layout;
     QFile file(path);
@@ -54,10 +77,9 @@ FrameLayout loadLayout(const QString& path)
     if (fault.isEmpty())
         return layout;
     basalt::logError("Cannot read \"" + path.toStdString() + "\": " + fault.toStdString());
-    LumMessageBox::warning(nullptr, Applicationx::tr("Skyquill"),
-                           Applicationx::tr("The window layout \"%1\" cannot be read (%2). "
-                                            "The program starts with the map alone.")
-                               .arg(path, fault));
+    problem = Applicationx::tr("The window layout \"%1\" cannot be read (%2). "
+                               "The program has started with the map alone.")
+                  .arg(path, fault);
     return FrameLayout::minimal();
 }
 
@@ -66,6 +88,7 @@ FrameLayout loadLayout(const QString& path)
 Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, const char* toolPath)
     : QApplication(prepared(argc), argv)
 {
+    static_cast<void>(MessageLog::instance()); // hears the log from here on
     setOrganizationName(QStringLiteral("Tarvona"));
     setApplicationName(QString::fromUtf8(applicationId));
     m_configFolder = QString::fromStdString(
@@ -74,7 +97,7 @@ Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, co
     m_toolFolder = QFileInfo(tool).path();
     get_system_config_parameter().load((tool + QStringLiteral(".xml")).toStdString());
     const std::string_view version = get_system_config_parameter().dictionary().text("version");
-    setApplicationVersion(QString::fromUtf8(version.data(), static_cast<int>(version.size())));
+    setApplicationVersion(lum::toQString(version));
     setWindowIcon(programIcon());
     lum::setDpiScale(primaryScreen()->logicalDotsPerInch() / 96.0);
     registerMapComponents();
@@ -82,7 +105,11 @@ Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, co
     readOptions();
 }
 
-Applicationx::~Applicationx() = default;
+Applicationx::~Applicationx()
+{
+    m_mainFrame.reset();
+    qInstallMessageHandler(nullptr);
+}
 
 Applicationx& Applicationx::instance()
 {
@@ -94,13 +121,13 @@ MainFrame& Applicationx::mainFrame()
     if (!m_mainFrame) {
         const auto setting = [](const char* key) {
             const std::string_view text = get_system_ini_parameter().dictionary().text(key);
-            return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+            return lum::toQString(text);
         };
         desktop::loadTranslations(setting(settings::kLanguage),
                                   m_configFolder + QStringLiteral("/Language"));
         desktop::applyAppearance(setting(settings::kTheme));
         m_mainFrame = std::make_unique<MainFrame>(
-            m_host, loadLayout(m_toolFolder + QStringLiteral("/main_frame.xml")));
+            m_host, loadLayout(m_toolFolder + QStringLiteral("/main_frame.xml"), m_layoutProblem));
         connect(m_mainFrame.get(), &MainFrame::firstShown, this, &Applicationx::reportShown);
     }
     return *m_mainFrame;
@@ -125,10 +152,17 @@ void Applicationx::readOptions()
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
                                         tr("Write a picture of the window to <file>, and leave."),
                                         QStringLiteral("file"));
-    parser.addOptions({startupTime, screenshot});
+    const QCommandLineOption components(
+        QStringLiteral("components"),
+        tr("List the components that a window layout can name, and leave."));
+    parser.addOptions({startupTime, screenshot, components});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(*this);
+    if (parser.isSet(components)) {
+        printComponents();
+        std::exit(0);
+    }
     m_printsStartupTime = parser.isSet(startupTime);
     m_screenshotFile = parser.value(screenshot);
 }
@@ -140,6 +174,7 @@ void Applicationx::reportShown()
     if (m_printsStartupTime) {
         std::printf("%d ms of CPU time to the shown window\n", cpuMs);
         exit(0);
+        return;
     }
     if (!m_screenshotFile.isEmpty()) {
         m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // whatever the screen has
@@ -149,5 +184,8 @@ void Applicationx::reportShown()
                 basalt::logError("Cannot write \"" + m_screenshotFile.toStdString() + "\"");
             exit(done ? 0 : 1);
         });
+        return;
     }
+    if (!m_layoutProblem.isEmpty())
+        LumMessageBox::warning(m_mainFrame.get(), tr("Skyquill"), m_layoutProblem);
 }

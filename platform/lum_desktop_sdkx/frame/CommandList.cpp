@@ -1,10 +1,12 @@
 #include "lum_desktop_sdkx/frame/CommandList.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/ICommandExecuterx.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QIcon>
 #include <QKeySequence>
 
@@ -35,6 +37,8 @@ QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
     }
     auto command =
         extensible_factory_ICommandExecuterx().make(className, entry.config.constData(), host);
+    if (!command)
+        return nullptr; // has logged why
     if (find(entry.name) != nullptr)
         basalt::logWarning("Two commands are named \"" + entry.name.toStdString() +
                            "\"; the first is found");
@@ -42,7 +46,7 @@ QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
     action->setObjectName(entry.name);
     if (!entry.icon.isEmpty())
         action->setIcon(QIcon::fromTheme(entry.icon));
-    action->setShortcut(QKeySequence::fromString(entry.shortcut, QKeySequence::PortableText));
+    action->setShortcuts(QKeySequence::listFromString(entry.shortcut, QKeySequence::PortableText));
     const QString tip = desktop::layoutText(entry.tip);
     action->setStatusTip(tip);
     const QString keys = action->shortcut().toString(QKeySequence::NativeText);
@@ -91,6 +95,10 @@ void CommandList::run(ICommandExecuterx& command)
         command.execute();
     } catch (const std::exception& fault) {
         basalt::logError(std::string("A command failed: ") + fault.what());
+        LumMessageBox::warning(QApplication::activeWindow(),
+                               QCoreApplication::translate("CommandList", "Error"),
+                               QCoreApplication::translate("CommandList", "The command failed: %1")
+                                   .arg(QString::fromUtf8(fault.what())));
     }
     refresh();
 }

@@ -1,14 +1,15 @@
 #include "lum_desktop_sdkx/frame/CoordinateReadout.h"
 
 #include "app/protocol/Events.h"
-#include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/IEventManager.h"
 
 CoordinateReadout::CoordinateReadout(const char* config, IDesktopHost* host)
-    : m_subscription(*this, events::kXyChangedText, host->eventManager())
+    : m_parameters(desktop::componentParameters(config)),
+      m_subscription(*this, events::kXyChangedText, host->eventManager())
 {
-    csa_to_dictionary(m_parameters, config);
+    setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setContentsMargins(8, 0, 8, 0);
     // Wide enough for any grid coordinate, so that the status bar stands still.

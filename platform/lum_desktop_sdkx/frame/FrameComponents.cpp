@@ -2,9 +2,12 @@
 
 #include "lum_desktop_sdkx/ComponentKinds.h"
 #include "lum_desktop_sdkx/frame/CoordinateReadout.h"
-#include "lum_desktop_sdkx/frame/FrameCommands.h"
+#include "lum_desktop_sdkx/frame/ExitCommand.h"
+#include "lum_desktop_sdkx/frame/FullScreenCommand.h"
 #include "lum_desktop_sdkx/frame/LayerWindow.h"
 #include "lum_desktop_sdkx/frame/MessageWindow.h"
+#include "lum_desktop_sdkx/frame/ResetLayoutCommand.h"
+#include "lum_desktop_sdkx/frame/SettingChoiceCommand.h"
 #include "lum_desktop_sdkx/frame/SystemSettings.h"
 
 namespace {

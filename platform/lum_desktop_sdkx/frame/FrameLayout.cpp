@@ -47,14 +47,14 @@ private:
         return value;
     }
 
-    /// All attributes as a component's configuration text, a prefixed one under its whole name: it
-    /// is not the one that the frame itself reads.
-    [[nodiscard]] QByteArray config() const
+    /// All attributes as a component's configuration text, with the caption that they stand for.
+    [[nodiscard]] QByteArray config(const QString& caption) const
     {
         basalt::Dictionary values;
         for (const QXmlStreamAttribute& entry : m_xml.attributes())
             values.set(entry.qualifiedName().toString().toStdString(),
                        entry.value().toString().toStdString());
+        values.set("caption", caption.toStdString());
         return QByteArray::fromStdString(dictionary_to_csa(values));
     }
 
@@ -117,7 +117,7 @@ private:
         command.icon = attribute("icon");
         command.shortcut = attribute("shortcut");
         command.tip = attribute("tip");
-        command.config = config();
+        command.config = config(command.caption);
         return command;
     }
 
@@ -152,7 +152,7 @@ private:
         window.isClosable = attribute("closable") != QLatin1String("0");
         window.width = attribute("width").toInt();
         window.height = attribute("height").toInt();
-        window.config = config();
+        window.config = config(window.caption);
         m_xml.skipCurrentElement();
         return window;
     }

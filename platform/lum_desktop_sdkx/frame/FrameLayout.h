@@ -14,13 +14,15 @@
 ///         <separator/>  <docks/>  <menu caption="...">...</menu>
 ///       </menu>
 ///       <toolbar name="..." caption="..."> <command name="..."/> <separator/> </toolbar>
-///       <window class="..." name="..." caption="..." icon="..." area="..." place="..."
-///       size="..."/>
+///       <window class="..." name="..." caption="..." icon="..." area="..." place="below"
+///               width="..." height="..." closable="0"/>
 ///     </main_frame>
 ///
 /// "name" is what other components ask for; "caption" is shown, in English, translated, and the
-/// same as the name when it is missing. `<docks/>` stands for the list of dockable windows. All
-/// attributes of a command or window are passed on to its component as its configuration.
+/// same as the name when it is missing. "area" is center, left, right, bottom or status; a window
+/// is tabbed with the last one of its area, or stacked under it with "place" below. `<docks/>`
+/// stands for the list of dockable windows. All attributes of a command or window are passed on to
+/// its component as its configuration.
 struct FrameLayout
 {
     struct Command
@@ -29,7 +31,7 @@ struct FrameLayout
         QString name;
         QString caption;
         QString icon;
-        QString shortcut; ///< portable key sequence, such as "Ctrl+N"
+        QString shortcut; ///< portable key sequences, such as "Ctrl+N" or "Ctrl++; Ctrl+="
         QString tip;
         QByteArray config; ///< key list of all attributes
     };

@@ -1,7 +1,7 @@
 #include "lum_desktop_sdkx/frame/LayerWindow.h"
 
 #include "app/protocol/Events.h"
-#include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
@@ -12,9 +12,9 @@
 #include <QSignalBlocker>
 
 LayerWindow::LayerWindow(const char* config, IDesktopHost* host)
-    : m_host(*host), m_subscription(*this, events::kSettingViewFinished, host->eventManager())
+    : m_host(*host), m_parameters(desktop::componentParameters(config)),
+      m_subscription(*this, events::kSettingViewFinished, host->eventManager())
 {
-    csa_to_dictionary(m_parameters, config);
     setFrameStyle(QFrame::NoFrame);
     setSelectionMode(QAbstractItemView::NoSelection);
     setFocusPolicy(Qt::StrongFocus);
@@ -43,6 +43,8 @@ void LayerWindow::rebuild()
         return;
     for (std::size_t i = window->layers().count(); i-- > 0;) {
         ILayerViewer& layer = *window->layers().at(i);
+        if (layer.GetProperties().integer("listed", 1) == 0)
+            continue; // shown and hidden by a command of its own
         const QString name = QString::fromStdString(layer.GetName());
         const std::string caption(layer.GetProperties().text("caption", layer.GetName()));
         auto* const item =

@@ -42,6 +42,17 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     return docks;
 }
 
+/// An assistant that fails keeps the frame open: it may not have saved.
+bool mayClose(IGuiAssistant& assistant)
+{
+    try {
+        return assistant.queryClose() != 0;
+    } catch (const std::exception& fault) {
+        basalt::logError(std::string("The program stays open: ") + fault.what());
+        return false;
+    }
+}
+
 } // namespace
 
 MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
@@ -63,16 +74,11 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
         addToolBar(bar);
     for (const FrameLayout::Window& window : layout.windows)
         m_host.windows().openWindow(window);
-    for (QMenu* menu : m_dockMenus) {
-        for (QAction* toggle : m_host.windows().toggleActions())
-            menu->addAction(toggle);
-    }
     for (const auto& assistant : m_assistants)
         assistant->onMapViewCreated();
     for (const auto& assistant : m_assistants)
         assistant->openMainWindows();
     m_host.commands().refresh();
-    restoreArrangement();
 }
 
 MainFrame::~MainFrame()
@@ -94,12 +100,21 @@ void MainFrame::show()
     const QString map = QStringLiteral("DataMap");
     windows.activate(map); // in front of what the assistants have opened beside it
     windows.rememberDefaultLayout();
-    const bool wasRestored = windows.restoreState(FrameState::load().docks);
+    m_defaultToolBars = saveState();
+    const FrameState state = FrameState::load();
+    restoreFrame(state);
+    const bool wasRestored = windows.restoreState(state.docks);
     QMainWindow::show();
     if (!wasRestored)
         windows.applySizes(); // only now the docks have a size to share out
     if (IWindow* const window = windows.find(map))
         window->widget()->setFocus();
+}
+
+void MainFrame::resetArrangement()
+{
+    restoreState(m_defaultToolBars);
+    m_host.windows().resetLayout();
 }
 
 void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
@@ -109,14 +124,14 @@ void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
 
 void MainFrame::closeEvent(QCloseEvent* event)
 {
-    for (const auto& assistant : m_assistants) {
-        if (assistant->queryClose() == 0) {
-            event->ignore();
-            return;
-        }
+    if (!std::all_of(m_assistants.begin(), m_assistants.end(),
+                     [](const auto& assistant) { return mayClose(*assistant); })) {
+        event->ignore();
+        return;
     }
     saveArrangement();
     event->accept();
+    QCoreApplication::quit(); // a window that floats on its own must not keep the program
 }
 
 bool MainFrame::event(QEvent* event)
@@ -154,6 +169,7 @@ void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& 
             break;
         case Kind::Docks:
             m_dockMenus.push_back(&menu);
+            connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { listDocks(menu); });
             break;
         case Kind::Command:
             if (QAction* action = m_host.commands().add(item.command, &m_host, this)) {
@@ -172,6 +188,15 @@ void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& 
             break;
         }
         }
+    }
+}
+
+void MainFrame::listDocks(QMenu& menu)
+{
+    const QList<QAction*> listed = menu.actions();
+    for (QAction* toggle : m_host.windows().toggleActions()) {
+        if (!listed.contains(toggle)) // opened since the menu was last shown
+            menu.addAction(toggle);
     }
 }
 
@@ -204,9 +229,8 @@ void MainFrame::addToolBar(const FrameLayout::ToolBar& bar)
     }
 }
 
-void MainFrame::restoreArrangement()
+void MainFrame::restoreFrame(const FrameState& state)
 {
-    const FrameState state = FrameState::load();
     if (state.geometry.isEmpty() || !restoreGeometry(state.geometry)) {
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         resize(screen.size().boundedTo(QSize(dpi_scaled(1360), dpi_scaled(860))));

@@ -13,6 +13,7 @@
 
 class DesktopHost;
 class QMenu;
+struct FrameState;
 
 namespace ads {
 class CDockManager;
@@ -29,7 +30,11 @@ public:
     ~MainFrame() override;
 
     void setTitle(const QString& title) override;
+    /// Shows the frame as the user left it.
     void show() override;
+
+    /// Puts tool bars and windows back to where the layout places them.
+    void resetArrangement();
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
@@ -44,16 +49,18 @@ protected:
 private:
     void makeAssistants(const FrameLayout& layout);
     void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
+    void listDocks(QMenu& menu);
     /// True for a menu from which everything was left out.
     [[nodiscard]] bool isDispensable(const QMenu& menu) const;
     void addToolBar(const FrameLayout::ToolBar& bar);
-    void restoreArrangement();
+    void restoreFrame(const FrameState& state);
     void saveArrangement();
 
     DesktopHost& m_host; // outlives the frame
     ads::CDockManager* m_docks;
     std::vector<IGuiAssistantFactory::Pointer> m_assistants;
-    std::vector<QMenu*> m_dockMenus; ///< filled when the windows stand
+    std::vector<QMenu*> m_dockMenus; ///< list the windows, anew each time they are shown
+    QByteArray m_defaultToolBars;
     EventSubscription m_subscription;
     bool m_wasPainted = false;
 };

@@ -1,10 +1,18 @@
 #include "lum_desktop_sdkx/frame/MessageLog.h"
 
+#include "lum_sdk/Text.h"
+
 #include <QTime>
 
 namespace {
 constexpr std::size_t kMostLines = 2000;
 } // namespace
+
+MessageLog& MessageLog::instance()
+{
+    static MessageLog log;
+    return log;
+}
 
 MessageLog::MessageLog()
 {
@@ -37,7 +45,7 @@ void MessageLog::add(ILogger::Level level, std::string_view text)
         if (m_lines.size() == kMostLines)
             m_lines.pop_front();
         m_lines.push_back({QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), level,
-                           QString::fromUtf8(text.data(), static_cast<int>(text.size()))});
+                           lum::toQString(text)});
     }
     if (first) // any thread may write
         QMetaObject::invokeMethod(this, &MessageLog::linesWaiting, Qt::QueuedConnection);

@@ -21,7 +21,9 @@ public:
         QString text;
     };
 
-    MessageLog();
+    /// The one log of the process; it listens from the first call on.
+    [[nodiscard]] static MessageLog& instance();
+
     ~MessageLog() override;
 
     /// Lines that have come since the last call, debug lines left out; 2000 are kept at most.
@@ -32,6 +34,7 @@ Q_SIGNALS:
     void linesWaiting();
 
 private:
+    MessageLog();
     void add(ILogger::Level level, std::string_view text);
 
     std::mutex m_mutex;

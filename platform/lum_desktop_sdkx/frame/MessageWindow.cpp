@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/MessageWindow.h"
 
-#include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/ComponentParameters.h"
+#include "lum_desktop_sdkx/frame/MessageLog.h"
 
 namespace {
 
@@ -18,18 +19,18 @@ QString html(const MessageLog::Line& line)
 } // namespace
 
 MessageWindow::MessageWindow(const char* config, IDesktopHost* /*host*/)
+    : m_parameters(desktop::componentParameters(config))
 {
-    csa_to_dictionary(m_parameters, config);
     setReadOnly(true);
     setFrameStyle(QFrame::NoFrame);
     setMaximumBlockCount(2000);
     document()->setDocumentMargin(6);
-    connect(&m_log, &MessageLog::linesWaiting, this, &MessageWindow::showLines);
+    connect(&MessageLog::instance(), &MessageLog::linesWaiting, this, &MessageWindow::showLines);
     showLines();
 }
 
 void MessageWindow::showLines()
 {
-    for (const MessageLog::Line& line : m_log.takeLines())
+    for (const MessageLog::Line& line : MessageLog::instance().takeLines())
         appendHtml(html(line));
 }

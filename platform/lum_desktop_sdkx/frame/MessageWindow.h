@@ -1,7 +1,6 @@
 #pragma once
 
 #include "basalt_utilities/Dictionary.h"
-#include "lum_desktop_sdkx/frame/MessageLog.h"
 #include "lum_desktop_sdkx/IWindow.h"
 
 #include <QPlainTextEdit>
@@ -24,5 +23,4 @@ private:
     void showLines();
 
     basalt::Dictionary m_parameters;
-    MessageLog m_log;
 };

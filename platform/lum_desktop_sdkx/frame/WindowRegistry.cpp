@@ -6,6 +6,7 @@
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/Text.h"
 
 #include <QAction>
 #include <QIcon>
@@ -64,26 +65,27 @@ bool WindowRegistry::activate(const QString& name)
 
 IWindow* WindowRegistry::open(const QString& className, const IDictionary& parameters)
 {
-    IWindow* window = find(className);
-    if (window == nullptr) {
+    const auto text = [&](const char* key, const QString& fallback) {
+        const auto value = parameters.find(key);
+        return value ? lum::toQString(*value) : fallback;
+    };
+    if (const Entry* found = entry(className)) {
+        const QString title = desktop::layoutText(text("title", found->layout.caption));
+        if (found->dock != nullptr)
+            found->dock->setWindowTitle(title);
+    } else {
         basalt::Dictionary config(parameters);
         config.set("class", className.toStdString());
         FrameLayout::Window layout;
-        const auto text = [&](const char* key, const QString& fallback) {
-            return QString::fromStdString(
-                std::string(parameters.text(key, fallback.toStdString())));
-        };
         layout.className = className;
         layout.name = text("caption", className);
         layout.caption = text("title", layout.name);
         layout.config = QByteArray::fromStdString(dictionary_to_csa(config));
-        window = openWindow(layout);
-    } else {
-        dictionary_copy(parameters, window->parameters());
+        openWindow(layout);
     }
-    if (window != nullptr && parameters.integer("isSetActive") != 0)
+    if (parameters.integer("isSetActive") != 0)
         activate(className);
-    return window;
+    return find(className);
 }
 
 void WindowRegistry::attach(ads::CDockManager* docks, QStatusBar* statusBar)
@@ -104,6 +106,8 @@ IWindow* WindowRegistry::openWindow(const FrameLayout::Window& layout)
         return nullptr;
     }
     auto window = extensible_factory_IWindow().make(className, layout.config.constData(), m_host);
+    if (!window)
+        return nullptr; // has logged why
     IWindow* const opened = window.get();
     ads::CDockWidget* dock = nullptr;
     if (layout.area == Area::Status)
@@ -131,11 +135,12 @@ void WindowRegistry::placeDock(ads::CDockWidget* dock, const FrameLayout::Window
 {
     const Entry* neighbour = lastIn(layout.area);
     if (neighbour != nullptr) {
-        m_docks->addDockWidget(layout.isBelow ? ads::BottomDockWidgetArea
-                                              : ads::CenterDockWidgetArea,
-                               dock, neighbour->dock->dockAreaWidget());
+        ads::CDockAreaWidget* const area = neighbour->dock->dockAreaWidget();
+        ads::CDockWidget* const inFront = area->currentDockWidget();
+        m_docks->addDockWidget(
+            layout.isBelow ? ads::BottomDockWidgetArea : ads::CenterDockWidgetArea, dock, area);
         if (!layout.isBelow)
-            neighbour->dock->setAsCurrentTab(); // the first of an area stays in front
+            inFront->setAsCurrentTab(); // a new tab does not cover what the user looks at
         return;
     }
     const Entry* center = lastIn(Area::Center);
@@ -172,14 +177,24 @@ void WindowRegistry::resetLayout()
 {
     if (m_defaultState.isEmpty())
         return;
-    m_docks->restoreState(m_defaultState, stateVersion());
+    m_docks->restoreState(m_defaultState, m_stateVersion);
     applySizes();
 }
 
 void WindowRegistry::rememberDefaultLayout()
 {
     favourCenter();
-    m_defaultState = m_docks->saveState(stateVersion());
+    // The docking library hides what a saved state does not know; a state of another set of windows
+    // is refused by its version instead. Windows that are opened later do not count.
+    QStringList names;
+    for (const Entry& each : m_entries) {
+        if (each.dock != nullptr)
+            names << each.layout.name;
+    }
+    names.sort();
+    const QByteArray text = names.join(QLatin1Char(',')).toUtf8();
+    m_stateVersion = qChecksum(text.constData(), static_cast<uint>(text.size()));
+    m_defaultState = m_docks->saveState(m_stateVersion);
 }
 
 void WindowRegistry::applySizes()
@@ -210,26 +225,12 @@ void WindowRegistry::favourCenter()
 
 QByteArray WindowRegistry::saveState() const
 {
-    return m_docks->saveState(stateVersion());
+    return m_docks->saveState(m_stateVersion);
 }
 
 bool WindowRegistry::restoreState(const QByteArray& state)
 {
-    return !state.isEmpty() && m_docks->restoreState(state, stateVersion());
-}
-
-int WindowRegistry::stateVersion() const
-{
-    // The docking library hides what a saved state does not know; a state of other windows than
-    // today's is refused by its version instead.
-    QStringList names;
-    for (const Entry& each : m_entries) {
-        if (each.dock != nullptr)
-            names << each.layout.name;
-    }
-    names.sort();
-    const QByteArray text = names.join(QLatin1Char(',')).toUtf8();
-    return qChecksum(text.constData(), static_cast<uint>(text.size()));
+    return !state.isEmpty() && m_docks->restoreState(state, m_stateVersion);
 }
 
 std::vector<QAction*> WindowRegistry::toggleActions() const

@@ -25,7 +25,6 @@ public:
     [[nodiscard]] IWindow* find(const QString& name) const override;
     bool activate(const QString& name) override;
     IWindow* open(const QString& className, const IDictionary& parameters) override;
-    void resetLayout() override;
 
     /// The frame's docks and status bar; they outlive `clear`.
     void attach(ads::CDockManager* docks, QStatusBar* statusBar);
@@ -34,13 +33,15 @@ public:
     /// \returns null, and a line in the log, when its class is not registered
     IWindow* openWindow(const FrameLayout::Window& entry);
 
-    /// Remembers the present arrangement as the one that `resetLayout` brings back.
+    /// Remembers the present windows and their arrangement as the default.
     void rememberDefaultLayout();
+    /// Puts the windows back to that arrangement.
+    void resetLayout();
     /// Gives the docks the widths and heights of the layout.
     void applySizes();
 
     /// The arrangement of the docks, and whether it could be brought back: one that was saved with
-    /// other windows is refused.
+    /// another set of default windows is refused.
     [[nodiscard]] QByteArray saveState() const;
     bool restoreState(const QByteArray& state);
 
@@ -62,7 +63,6 @@ private:
     ads::CDockWidget* makeDock(const FrameLayout::Window& layout, IWindow& window);
     void placeDock(ads::CDockWidget* dock, const FrameLayout::Window& layout);
     [[nodiscard]] const Entry* lastIn(FrameLayout::Area area) const;
-    [[nodiscard]] int stateVersion() const;
     /// Lets the central windows take what the frame gains or loses; the others keep their sizes.
     void favourCenter();
 
@@ -71,4 +71,5 @@ private:
     QStatusBar* m_statusBar = nullptr;
     std::vector<Entry> m_entries;
     QByteArray m_defaultState;
+    int m_stateVersion = 0; ///< tells one set of default windows from another
 };

@@ -2,16 +2,11 @@
 
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/ILayerViewer.h"
+#include "lum_sdk/Transform.h"
 
-#include <cmath>
+#include <algorithm>
 
 namespace {
-
-bool isFinite(const QRectF& area)
-{
-    return std::isfinite(area.left()) && std::isfinite(area.top()) && std::isfinite(area.right()) &&
-           std::isfinite(area.bottom());
-}
 
 /// Unlike `QRectF::united`, keeps a rectangle that has no width or no height.
 QRectF unitedArea(const QRectF& a, const QRectF& b)
@@ -63,7 +58,7 @@ QRectF LayerRegistry::visibleExtent() const
     QRectF all;
     for (const ILayerViewer* layer : visibleLayers()) {
         const QRectF extent = layer->GetExtent().normalized();
-        if (extent.isNull() || !isFinite(extent))
+        if (extent.isNull() || !lum::isFinite(extent))
             continue;
         all = all.isNull() ? extent : unitedArea(all, extent);
     }

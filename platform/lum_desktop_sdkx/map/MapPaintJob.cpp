@@ -14,9 +14,10 @@ void paintLayer(ILayerViewer& layer, const MapPaintJob& job, QImage& picture)
     layer.Paint(job.target, job.target.transform.visibleExtent(), painter);
 }
 
-void logFault(const ILayerViewer& layer, const std::string& reason)
+void logFault(const MapPaintJob& job, std::size_t layer, const std::string& reason)
 {
-    basalt::logError("Layer \"" + layer.GetName() + "\" could not be painted: " + reason);
+    const std::string name = layer < job.layerNames.size() ? job.layerNames[layer] : "";
+    basalt::logError("Layer \"" + name + "\" could not be painted: " + reason);
 }
 
 } // namespace
@@ -31,15 +32,15 @@ QImage paintPicture(const MapPaintJob& job)
     }
     picture.setDevicePixelRatio(job.pixelRatio);
     picture.fill(job.background);
-    for (ILayerViewer* layer : job.layers) {
+    for (std::size_t i = 0; i < job.layers.size(); ++i) {
         if (job.target.isCancelled())
             break;
         try {
-            paintLayer(*layer, job, picture);
+            paintLayer(*job.layers[i], job, picture);
         } catch (const std::exception& fault) {
-            logFault(*layer, fault.what());
+            logFault(job, i, fault.what());
         } catch (...) {
-            logFault(*layer, "unknown fault");
+            logFault(job, i, "unknown fault");
         }
     }
     return picture;

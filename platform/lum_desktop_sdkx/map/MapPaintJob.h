@@ -6,13 +6,15 @@
 #include <QFont>
 #include <QImage>
 
+#include <string>
 #include <vector>
 
 /// All that one picture of the map is made of.
 struct MapPaintJob
 {
     PaintTarget target;
-    std::vector<ILayerViewer*> layers; ///< bottom to top
+    std::vector<ILayerViewer*> layers;   ///< bottom to top
+    std::vector<std::string> layerNames; ///< beside them, for the log: no worker asks a layer
     QColor background = Qt::white;
     QColor foreground = Qt::black; ///< the pen that a layer finds set
     QFont font;                    ///< see `fontForWorker`

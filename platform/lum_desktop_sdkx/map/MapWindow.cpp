@@ -8,6 +8,7 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -22,12 +23,6 @@ namespace {
 constexpr double kZoomStep = 1.5;
 constexpr double kMargin = 0.05; // share of the screen
 constexpr int kMoveDelayMs = 30; // moves that follow one another within it make one paint
-
-bool isFinite(const QRectF& area)
-{
-    return std::isfinite(area.left()) && std::isfinite(area.top()) && std::isfinite(area.width()) &&
-           std::isfinite(area.height());
-}
 
 /// Edges count, and an area without width or height is one too.
 bool doTouch(const QRectF& a, const QRectF& b)
@@ -56,6 +51,10 @@ MapWindow::MapWindow(const char* config, IDesktopHost* host)
 {
     csa_to_dictionary(m_parameters, config != nullptr ? config : "");
     m_transform.setSize(size());
+    QPalette paper = palette(); // a map is drawn on white, dark theme or not: so are its colours
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    setPalette(paper);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -113,7 +112,7 @@ void MapWindow::zoomAll()
 void MapWindow::zoomRect(double left, double top, double right, double bottom)
 {
     const QRectF area(QPointF(left, top), QPointF(right, bottom));
-    if (!isFinite(area)) {
+    if (!lum::isFinite(area)) {
         basalt::logWarning("The map cannot zoom to a rectangle that is not finite");
         return;
     }
@@ -129,7 +128,7 @@ void MapWindow::zoomRect(double left, double top, double right, double bottom)
 void MapWindow::setExtent(double left, double top, double right, double bottom)
 {
     const QRectF area = QRectF(QPointF(left, top), QPointF(right, bottom)).normalized();
-    if (!isFinite(area)) {
+    if (!lum::isFinite(area)) {
         basalt::logError("The map refuses an extent that is not finite");
         return;
     }
@@ -187,6 +186,8 @@ MapPaintJob MapWindow::makeJob()
     job.target.mapExtent = m_extent;
     job.target.status = basalt::Dictionary(get_system_status_dictionary());
     job.layers = m_layers.visibleLayers();
+    for (const ILayerViewer* layer : job.layers)
+        job.layerNames.push_back(layer->GetName());
     job.background = palette().color(QPalette::Base);
     job.foreground = palette().color(QPalette::Text);
     job.font = fontForWorker(font());
@@ -281,7 +282,7 @@ void MapWindow::installDefaultReactors()
 {
     const std::string_view names = m_parameters.text("reactors", "ReactorDefault");
     static const QRegularExpression kBetween(QStringLiteral("[;\\s]+"));
-    const QString list = QString::fromUtf8(names.data(), static_cast<int>(names.size()));
+    const QString list = lum::toQString(names);
     installReactor(QStringLiteral("ReactorDefault")); // none of the old ones stays
     for (const QString& name : list.split(kBetween, Qt::SkipEmptyParts))
         installReactor(name);

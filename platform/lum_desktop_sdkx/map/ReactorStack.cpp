@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/map/ReactorStack.h"
 
+#include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/map/ReactorDefault.h"
 
 #include <QString>
@@ -36,9 +37,13 @@ void ReactorStack::replaceTool(IReactorFactory::Pointer tool)
 bool ReactorStack::dispatch(Operation operation, const MouseKeyEventParameters& event, First first)
 {
     ++m_eventsUnderWay;
-    const bool isHandled = first == First::Tool
-                               ? toTool(operation, event) || toStanding(operation, event)
-                               : toStanding(operation, event) || toTool(operation, event);
+    bool isHandled = true;
+    try {
+        isHandled = first == First::Tool ? toTool(operation, event) || toStanding(operation, event)
+                                         : toStanding(operation, event) || toTool(operation, event);
+    } catch (const std::exception& fault) {
+        basalt::logError(std::string("A mouse handler failed: ") + fault.what());
+    }
     if (--m_eventsUnderWay == 0)
         std::exchange(m_retired, {}).clear();
     return isHandled;

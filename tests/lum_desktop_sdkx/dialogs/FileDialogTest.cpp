@@ -55,6 +55,7 @@ void FileDialogTest::appendsTheSuffixOfTheFilter_data()
     row("none typed", "csv file(*.csv)", "测线 1", "测线 1.csv");
     row("typed", "csv file(*.csv)", "a.csv", "a.csv");
     row("typed in capitals", "csv file(*.csv)", "a.CSV", "a.CSV");
+    row("a number behind a point", "csv file(*.csv)", "lines 2024.05", "lines 2024.05.csv");
     row("another one typed", "csv file(*.csv)", "a.txt", "a.txt");
     row("only the dot typed", "Kml file(*.kml)", "a.", "a.kml");
     row("dot in the folder", "db file(*.db)", "v1.2/a", "v1.2/a.db");

@@ -33,6 +33,7 @@ namespace {
 int windowsAlive = 0;
 int executions = 0;
 bool mayClose = true;
+bool closeThrows = false;
 
 class TestWindow final : public QLabel, public IWindowx
 {
@@ -97,7 +98,12 @@ class TestAssistant final : public GuiAssistantBase
 {
 public:
     TestAssistant(const char* /*config*/, IDesktopHost* /*host*/) {}
-    int queryClose() override { return mayClose ? 1 : 0; }
+    int queryClose() override
+    {
+        if (closeThrows)
+            throw std::runtime_error("broken assistant");
+        return mayClose ? 1 : 0;
+    }
 };
 
 constexpr const char* kLayout = R"(<main_frame>
@@ -201,6 +207,7 @@ void MainFrameTest::initTestCase()
     };
     window("TestWindow", static_cast<TestWindow*>(nullptr));
     window("OtherWindow", static_cast<OtherWindow*>(nullptr));
+    window("ThirdWindow", static_cast<OtherWindow*>(nullptr));
     using Status = desktop::Maker<ICommandExecuterx, StatusCommand, IDesktopHost*>;
     extensible_factory_register_ICommandExecuterx("StatusCommand", "", Status::create,
                                                   Status::destroy);
@@ -240,6 +247,7 @@ void MainFrameTest::leavesOutWhatIsNotRegistered()
     QCOMPARE(bars.size(), 1);
     QCOMPARE(bars.at(0)->actions().size(), 1);
 
+    Q_EMIT shown.frame.menuBar()->actions().last()->menu()->aboutToShow();
     QStringList docks;
     for (const QAction* action : shown.frame.menuBar()->actions().last()->menu()->actions())
         docks << action->text();
@@ -273,9 +281,15 @@ void MainFrameTest::readsCommandStatesOnTheStatusEvent()
 void MainFrameTest::survivesACommandThatThrows()
 {
     ShownFrame shown;
+    QStringList told;
+    const LumMessageBox::Responder responder([&](const LumMessageBox::Message& message) {
+        told << message.text;
+        return LumMessageBox::Button::Ok;
+    });
     shown.host.commands().action(QStringLiteral("Throw"))->trigger();
     QVERIFY(shown.host.commands().execute(QStringLiteral("Throw")));
-    QVERIFY(shown.frame.isVisible());
+    QCOMPARE(told, QStringList({QStringLiteral("The command failed: no such column"),
+                                QStringLiteral("The command failed: no such column")}));
 }
 
 void MainFrameTest::findsWindowsByClassNameAndCaption()
@@ -312,7 +326,18 @@ void MainFrameTest::opensAWindowOnceAndPassesItsParametersOn()
     QCOMPARE(windows.open(QStringLiteral("OtherWindow"), parameters), other);
 
     IWindow* const survey = windows.open(QStringLiteral("TestWindow"), parameters);
-    QCOMPARE(survey->parameters().text("title"), std::string_view("Other, Title"));
+    QCOMPARE(survey, windows.find(QStringLiteral("Survey Data List")));
+    QCOMPARE(shown.dock("Survey Data List")->windowTitle(), QStringLiteral("Other, Title"));
+    QCOMPARE(survey->parameters().text("name"), std::string_view("Survey Data List"));
+
+    // A third tab that does not ask for it leaves the one in front alone.
+    parameters.set("isSetActive", "0");
+    parameters.set("caption", "Third");
+    QVERIFY(windows.open(QStringLiteral("ThirdWindow"), parameters) != nullptr);
+    QVERIFY(shown.dock("OtherName")->isCurrentTab());
+    QMenu* const menu = shown.frame.menuBar()->actions().last()->menu();
+    Q_EMIT menu->aboutToShow();
+    QVERIFY(menu->actions().contains(shown.dock("Third")->toggleViewAction()));
     QCOMPARE(windows.open(QStringLiteral("UnknownWindow"), parameters), nullptr);
 }
 
@@ -357,8 +382,13 @@ void MainFrameTest::resetsTheLayout()
     const QRect before = shown.dock("Layers")->geometry();
     for (const char* name : {"Messages", "Layers", "Survey Data List"})
         shown.dock(name)->toggleView(false);
-    shown.host.windows().resetLayout();
+    basalt::Dictionary parameters; // a window that came later does not stand in the way
+    QVERIFY(shown.host.windows().open(QStringLiteral("OtherWindow"), parameters) != nullptr);
+    auto* const bar = shown.frame.findChild<QToolBar*>(QStringLiteral("bar"));
+    bar->hide();
+    shown.frame.resetArrangement();
     QCoreApplication::processEvents();
+    QVERIFY(bar->isVisible());
     for (const char* name : {"Messages", "Layers", "Survey Data List"})
         QVERIFY2(!shown.dock(name)->isClosed(), name);
     QVERIFY(qAbs(shown.dock("Layers")->width() - before.width()) <= 2);
@@ -389,6 +419,10 @@ void MainFrameTest::staysOpenWhenTheAssistantRefuses()
     QVERIFY(!shown.frame.close());
     QVERIFY(shown.frame.isVisible());
     QVERIFY(!file_system_check_file(basalt::settingsFolder() + "/frame.xml"));
+    closeThrows = true;
+    QVERIFY(!shown.frame.close());
+    closeThrows = false;
+    QVERIFY(shown.frame.isVisible());
     mayClose = true;
     QVERIFY(shown.frame.close());
     QVERIFY(file_system_check_file(basalt::settingsFolder() + "/frame.xml"));

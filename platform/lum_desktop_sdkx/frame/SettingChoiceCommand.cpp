@@ -1,37 +1,12 @@
-#include "lum_desktop_sdkx/frame/FrameCommands.h"
+#include "lum_desktop_sdkx/frame/SettingChoiceCommand.h"
 
 #include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/IEventManager.h"
 #include "lum_sdk/SystemDictionaries.h"
 
 #include <QCoreApplication>
-#include <QTimer>
-#include <QWidget>
-
-void ExitCommand::execute()
-{
-    // Later: closing may end this command, whose action is still being triggered.
-    QTimer::singleShot(0, host().dialogParent(), &QWidget::close);
-}
-
-void FullScreenCommand::execute()
-{
-    QWidget& frame = *host().dialogParent();
-    frame.setWindowState(frame.windowState() ^ Qt::WindowFullScreen);
-}
-
-bool FullScreenCommand::isChecked() const
-{
-    return host().dialogParent()->isFullScreen();
-}
-
-void ResetLayoutCommand::execute()
-{
-    host().windows().resetLayout();
-}
 
 void SettingChoiceCommand::execute()
 {
@@ -43,8 +18,8 @@ void SettingChoiceCommand::execute()
     host().eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
     if (parameters().integer("restart") != 0)
         LumMessageBox::information(
-            host().dialogParent(), QCoreApplication::translate("FrameCommands", "Settings"),
-            QCoreApplication::translate("FrameCommands",
+            host().dialogParent(), QCoreApplication::translate("SettingChoiceCommand", "Settings"),
+            QCoreApplication::translate("SettingChoiceCommand",
                                         "The change takes effect at the next start."));
 }
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "lum_desktop_sdkx/CommandExecuterxBase.h"
+
+/// Gives one system setting one value: the entry's attributes "setting" and "value". Checked while
+/// it has that value. With "restart" 1 the user is told that it takes effect at the next start.
+class SettingChoiceCommand final : public CommandExecuterxBase
+{
+public:
+    using CommandExecuterxBase::CommandExecuterxBase;
+    void execute() override;
+    [[nodiscard]] bool isCheckable() const override { return true; }
+    [[nodiscard]] bool isChecked() const override;
+};
