@@ -45,8 +45,11 @@ std::vector<std::string> keysOf(const IDictionary& record)
 std::string joinedNames(const std::vector<std::string>& names, const char* behind = "")
 {
     std::string text;
-    for (const std::string& name : names)
-        text += (text.empty() ? "" : ",") + quotedName(name) + behind;
+    for (const std::string& name : names) {
+        text += text.empty() ? "" : ",";
+        text += quotedName(name);
+        text += behind;
+    }
     return text;
 }
 

@@ -58,8 +58,10 @@ std::string columns()
 {
     std::string list;
     for (const SurveyColumn& column : surveyColumns()) {
-        if (isStored(column))
-            list += (list.empty() ? "" : ",") + std::string(column.key);
+        if (!isStored(column))
+            continue;
+        list += list.empty() ? "" : ",";
+        list += column.key;
     }
     return list;
 }
