@@ -166,8 +166,10 @@ bool SqliteAdapter::openFile(const std::string& path, const IDictionary& options
         return fail(database == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(database));
     sqlite3_extended_result_codes(database, 1);
     sqlite3_busy_timeout(database, options.integer("busyTimeout", kBusyTimeoutMs));
-    // Opening alone reads nothing: any file would do.
-    if (!execute("select count(*) from sqlite_master; pragma cache_size=-32768", 0))
+    // Opening alone reads nothing: any file would do. Some distributions overwrite deleted rows.
+    if (!execute("select count(*) from sqlite_master;"
+                 "pragma cache_size=-32768; pragma secure_delete=off",
+                 0))
         return false;
     if (options.integer("exclusive") == 0)
         return true;
