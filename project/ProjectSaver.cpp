@@ -8,6 +8,7 @@
 #include "project/model/CoordinateRecord.h"
 #include "project/model/DesignRecord.h"
 #include "project/model/SurveyRecord.h"
+#include "project/RowFormatter.h"
 #include "project/SafetyCopy.h"
 
 #include <QCoreApplication>
@@ -42,15 +43,20 @@ template <class Points, class Write>
 bool insertPoints(IBulkInsert& rows, const Points& points, Write write, ProgressReporter& progress,
                   const QString& caption)
 {
-    const auto texts = std::make_unique<RecordTexts>();
+    RowFormatter formatter(points, write);
+    std::array<std::string_view, RecordTexts::kMostColumns> values;
     std::size_t linesDone = 0;
-    for (const auto& [lineNumber, line] : points) {
-        for (const auto& point : line) {
-            write(point, *texts);
-            if (!rows.add(texts->values()))
+    for (RowBatch batch = formatter.next(); batch.size() != 0; batch = formatter.next()) {
+        auto lineEnd = batch.lineEnds().begin();
+        for (std::size_t row = 0; row < batch.size(); ++row) {
+            batch.copyRow(row, values.data());
+            if (!rows.add(values.data()))
                 return false;
+            if (lineEnd == batch.lineEnds().end() || *lineEnd != row + 1)
+                continue;
+            progress.report(caption, ++linesDone, points.lineCount());
+            ++lineEnd;
         }
-        progress.report(caption, ++linesDone, points.lineCount());
     }
     return true;
 }
