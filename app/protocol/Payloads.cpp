@@ -22,6 +22,11 @@ std::string progress(std::string_view caption, double percent)
            ",is_exec=0";
 }
 
+std::string started(std::string_view caption)
+{
+    return "text=" + basalt::quotedValue(caption) + ",value=0";
+}
+
 std::string busy(std::string_view caption)
 {
     return "text=" + basalt::quotedValue(caption) + ",scroll=1";

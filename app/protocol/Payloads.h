@@ -12,6 +12,8 @@ namespace payload {
 
 /// "text=CAPTION,value=PERCENT,is_exec=0"; the percent in general notation, six digits.
 [[nodiscard]] std::string progress(std::string_view caption, double percent);
+/// "text=CAPTION,value=0": work that begins.
+[[nodiscard]] std::string started(std::string_view caption);
 /// "text=CAPTION,scroll=1": work of unknown length.
 [[nodiscard]] std::string busy(std::string_view caption);
 inline constexpr const char* kProgressEnd = "show=0";

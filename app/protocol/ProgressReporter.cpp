@@ -11,6 +11,11 @@ ProgressReporter::~ProgressReporter()
     finish();
 }
 
+void ProgressReporter::start(const QString& caption)
+{
+    publish(payload::started(caption.toStdString()));
+}
+
 void ProgressReporter::report(const QString& caption, double percent)
 {
     publish(payload::progress(caption.toStdString(), percent));

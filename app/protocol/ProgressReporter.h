@@ -19,7 +19,9 @@ public:
     ProgressReporter(const ProgressReporter&) = delete;
     ProgressReporter& operator=(const ProgressReporter&) = delete;
 
+    /// Shows the bar at its beginning, before the first step.
     /// \param caption translated, such as "Loading Database"
+    void start(const QString& caption);
     /// \param percent 0 to 100
     void report(const QString& caption, double percent);
     /// The same for `done` of `total` steps; no steps count as finished.

@@ -1,0 +1,231 @@
+#include "project/ProjectLoader.h"
+
+#include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/ILogger.h"
+#include "lum_sdk/RecordSet.h"
+#include "project/DBAdapter.h"
+#include "project/model/CoordinateRecord.h"
+#include "project/model/DesignRecord.h"
+#include "project/model/PointNumber.h"
+#include "project/model/SurveyRecord.h"
+#include "project/SafetyCopy.h"
+
+#include <QCoreApplication>
+
+#include <atomic>
+#include <future>
+
+namespace {
+
+QString caption(const char* text)
+{
+    return QCoreApplication::translate("DataProcessDataManager", text);
+}
+
+/// Reports after every so many rows, whoever read them.
+class RowProgress
+{
+public:
+    RowProgress(ProgressReporter& reporter, QString caption, std::size_t rows, std::size_t reports)
+        : m_reporter(reporter), m_caption(std::move(caption)), m_rows(rows),
+          m_step(std::max<std::size_t>(1, rows / reports)), m_next(m_step)
+    {
+    }
+
+    void reach(std::size_t rowsRead)
+    {
+        for (; m_next <= rowsRead; m_next += m_step)
+            m_reporter.report(m_caption, m_next, m_rows);
+    }
+
+private:
+    ProgressReporter& m_reporter;
+    QString m_caption;
+    std::size_t m_rows;
+    std::size_t m_step;
+    std::size_t m_next;
+};
+
+struct DesignPart
+{
+    void add(const IDictionary& row) { points.set(reader.read(row)); }
+
+    DesignRecord::Reader reader;
+    DesignPoints points;
+};
+
+struct SurveyPart
+{
+    void add(const IDictionary& row)
+    {
+        SurveyPoint point = reader.read(row);
+        if (isCheckPoint(point.pointNumber))
+            checkPoints.push_back(std::move(point));
+        else
+            fileSurveyPoint(points, std::move(point));
+    }
+
+    SurveyRecord::Reader reader;
+    SurveyPoints points;
+    std::vector<SurveyPoint> checkPoints; ///< counted when both halves are together
+};
+
+/// The upper half of a table, read on a thread and a connection of its own.
+class OtherHalf
+{
+public:
+    explicit OtherHalf(const std::string& path) : m_path(path) {}
+
+    template <class Part>
+    void start(const std::string& statement, Part& part)
+    {
+        m_job = std::async(std::launch::async, [this, statement, &part] {
+            return m_database.open(lum::databaseConnection(m_path).c_str()) &&
+                   m_database.forEachRow(statement.c_str(), [&](const IDictionary& row) {
+                       part.add(row);
+                       m_rowsRead.fetch_add(1, std::memory_order_relaxed);
+                       return true;
+                   });
+        });
+    }
+
+    [[nodiscard]] std::size_t rowsRead() const
+    {
+        return m_rowsRead.load(std::memory_order_relaxed);
+    }
+    /// Waits for the end; true also when nothing was started.
+    bool finish() { return !m_job.valid() || m_job.get(); }
+    [[nodiscard]] std::string lastError() const { return m_database.lastError(); }
+
+private:
+    std::string m_path;
+    DBAdapter m_database;
+    std::atomic<std::size_t> m_rowsRead{0};
+    std::future<bool> m_job; // ends first
+};
+
+} // namespace
+
+ProjectLoader::ProjectLoader(IDBAdapter& database, ProgressReporter& progress)
+    : m_database(database), m_progress(progress)
+{
+}
+
+StoreResult ProjectLoader::load(const std::string& path, DesignPoints& design, SurveyPoints& survey,
+                                IDictionary& coordParameters)
+{
+    m_database.close();
+    design.clear();
+    survey.clear();
+    m_path = path;
+    StoreResult result = SafetyCopy(path).recover(m_database);
+    if (!result.isDone)
+        return result;
+    bool isRead =
+        m_database.open(lum::databaseConnection(path).c_str()) || fail(m_database.lastError());
+    if (isRead) {
+        m_progress.start(caption("Loading Database"));
+        // Read inside one transaction: while it lasts nobody else can commit, so that both
+        // connections see the same rows.
+        isRead = m_database.execute("begin") || fail(m_database.lastError());
+        isRead = isRead && readDesign(design) && readSurvey(survey) &&
+                 readCoordinateSystem(coordParameters);
+        m_database.rollback();
+        m_progress.finish();
+    }
+    if (isRead)
+        return result;
+    basalt::logError("Cannot load \"" + path + "\": " + m_reason);
+    return {false, QCoreApplication::translate("ProjectStore",
+                                               "The project database \"%1\" cannot be read: %2.")
+                       .arg(QString::fromStdString(path), databaseReason(m_reason))};
+}
+
+bool ProjectLoader::readDesign(DesignPoints& design)
+{
+    std::array<DesignPart, 2> parts;
+    const bool isRead = readTable(DesignRecord::kTable, caption("Import Design Data"), 100, parts);
+    design = std::move(parts[0].points);
+    design.merge(std::move(parts[1].points));
+    return isRead;
+}
+
+bool ProjectLoader::readSurvey(SurveyPoints& survey)
+{
+    std::array<SurveyPart, 2> parts;
+    const bool isRead = readTable(SurveyRecord::kTable, caption("Import Survey Data"), 50, parts);
+    survey = std::move(parts[0].points);
+    survey.merge(std::move(parts[1].points));
+    for (SurveyPart& part : parts) {
+        for (SurveyPoint& point : part.checkPoints)
+            fileSurveyPoint(survey, std::move(point));
+    }
+    return isRead;
+}
+
+bool ProjectLoader::readCoordinateSystem(IDictionary& coordParameters)
+{
+    RecordSet records;
+    if (!m_database.select(CoordinateRecord::kTable, nullptr, nullptr, records))
+        return fail(m_database.lastError());
+    if (records.isEmpty())
+        return true;
+    const RecordSet::Row row = records[records.size() - 1];
+    coordParameters.clear();
+    for (const std::string& column : records.columns()) {
+        if (const auto value = row.find(column))
+            coordParameters.set(column, *value);
+    }
+    return true;
+}
+
+bool ProjectLoader::plan(const char* table, Plan& plan)
+{
+    const std::int64_t count = m_database.rowCount(table, nullptr);
+    if (count < 0)
+        return fail(m_database.lastError());
+    plan.count = static_cast<std::size_t>(count);
+    const std::string all = std::string("select * from ") + table;
+    RecordSet range;
+    const std::string middle = std::string("select (min(rowid) + max(rowid)) / 2 from ") + table;
+    if (m_database.query(middle.c_str(), range) && range[0].find(range.columns()[0])) {
+        const std::string border(range[0].valueAt(0));
+        plan.statements = {all + " where rowid <= " + border, all + " where rowid > " + border};
+    } else {
+        plan.statements = {all, {}}; // no rows, or rows without a number
+    }
+    return true;
+}
+
+template <class Part>
+bool ProjectLoader::readTable(const char* table, const QString& caption, std::size_t reports,
+                              std::array<Part, 2>& parts)
+{
+    Plan plan;
+    if (!this->plan(table, plan))
+        return false;
+    RowProgress progress(m_progress, caption, plan.count, reports);
+    OtherHalf other(m_path);
+    if (!plan.statements[1].empty())
+        other.start(plan.statements[1], parts[1]);
+    std::size_t rowsRead = 0;
+    const bool isRead =
+        m_database.forEachRow(plan.statements[0].c_str(), [&](const IDictionary& row) {
+            parts[0].add(row);
+            progress.reach(++rowsRead + other.rowsRead());
+            return true;
+        });
+    const bool isOtherRead = other.finish();
+    if (!isRead) {
+        parts[1] = {}; // its rows come behind the failure
+        return fail(m_database.lastError());
+    }
+    progress.reach(rowsRead + other.rowsRead());
+    return isOtherRead || fail(other.lastError());
+}
+
+bool ProjectLoader::fail(const std::string& reason)
+{
+    m_reason = reason;
+    return false;
+}

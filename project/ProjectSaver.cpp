@@ -1,0 +1,158 @@
+#include "project/ProjectSaver.h"
+
+#include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/ILogger.h"
+#include "lum_sdk/IDBAdapter.h"
+#include "lum_sdk/RecordSet.h"
+#include "project/model/CoordinateRecord.h"
+#include "project/model/DesignRecord.h"
+#include "project/model/SurveyRecord.h"
+#include "project/RowFormatter.h"
+#include "project/SafetyCopy.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace {
+
+struct LaterColumn
+{
+    const char* name;
+    const char* type;
+};
+
+// What databases of earlier versions lack, in the order in which it is added.
+constexpr std::array<LaterColumn, 6> kLaterColumns{{
+    {"age_of_diff", "INTEGER"},
+    {"sat_detail", "TEXT"},
+    {"base_station_id", "TEXT"},
+    {"start_time", "REAL"},
+    {"end_time", "REAL"},
+    {"raw_offset", "REAL"},
+}};
+
+QString caption(const char* text)
+{
+    return QCoreApplication::translate("DataProcessDataManager", text);
+}
+
+/// Inserts a row for every point, in order, and reports after each line.
+template <class Points, class Write>
+bool insertPoints(IBulkInsert& rows, const Points& points, Write write, ProgressReporter& progress,
+                  const QString& caption)
+{
+    RowFormatter formatter(points, write);
+    std::array<std::string_view, RecordTexts::kMostColumns> values;
+    std::size_t linesDone = 0;
+    for (RowBatch batch = formatter.next(); batch.size() != 0; batch = formatter.next()) {
+        auto lineEnd = batch.lineEnds().begin();
+        for (std::size_t row = 0; row < batch.size(); ++row) {
+            batch.copyRow(row, values.data());
+            if (!rows.add(values.data()))
+                return false;
+            if (lineEnd == batch.lineEnds().end() || *lineEnd != row + 1)
+                continue;
+            progress.report(caption, ++linesDone, points.lineCount());
+            ++lineEnd;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+ProjectSaver::ProjectSaver(IDBAdapter& database, ProgressReporter& progress)
+    : m_database(database), m_progress(progress)
+{
+}
+
+StoreResult ProjectSaver::save(const std::string& path, const DesignPoints& design,
+                               const SurveyPoints& survey, const IDictionary& coordParameters)
+{
+    const SafetyCopy copy(path);
+    // An earlier save may have left a copy: it must not be replaced by one of an emptied database.
+    if (const StoreResult found = copy.recover(m_database); !found.isDone)
+        return found;
+    const std::string connection = lum::databaseConnection(path);
+    const bool isSaved = m_database.open((connection + ",exclusive=1").c_str()) &&
+                         copy.make(m_database) && clearTables() && m_database.beginTransaction() &&
+                         addMissingColumns() && writeDesign(design) && writeSurvey(survey) &&
+                         writeCoordinateSystem(coordParameters) &&
+                         m_database.execute(SafetyCopy::kUnmark) && m_database.commit();
+    if (!isSaved)
+        return undo(path);
+    copy.drop();
+    m_database.open(connection.c_str()); // lets others in again
+    m_progress.finish();
+    return {true, {}};
+}
+
+bool ProjectSaver::clearTables()
+{
+    return m_database.beginTransaction() && m_database.execute(SafetyCopy::kMark) &&
+           m_database.remove(DesignRecord::kTable, nullptr) &&
+           m_database.remove(SurveyRecord::kTable, nullptr) &&
+           m_database.remove(CoordinateRecord::kTable, nullptr) && m_database.commit();
+}
+
+bool ProjectSaver::addMissingColumns()
+{
+    RecordSet schema;
+    if (!m_database.query("select * from sqlite_master where tbl_name='ExplorationResultItem'",
+                          schema))
+        return false;
+    const std::string statement(schema.isEmpty() ? "" : schema[0].text("sql"));
+    if (statement.empty())
+        return true;
+    for (const auto& [name, type] : kLaterColumns) {
+        // A plain search of the whole text, as every earlier version did it: a column whose name
+        // holds another's stands for both.
+        if (statement.find(name) != std::string::npos)
+            continue;
+        const std::string change =
+            std::string("alter table ExplorationResultItem add ") + name + ' ' + type;
+        if (!m_database.execute(change.c_str()))
+            return false;
+    }
+    return true;
+}
+
+bool ProjectSaver::writeDesign(const DesignPoints& design)
+{
+    const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::kColumns);
+    return rows && insertPoints(*rows, design, DesignRecord::write, m_progress,
+                                caption("Save Design Data"));
+}
+
+bool ProjectSaver::writeSurvey(const SurveyPoints& survey)
+{
+    const auto rows = m_database.bulkInsert(SurveyRecord::kTable, SurveyRecord::columns().c_str());
+    return rows && insertPoints(*rows, survey, SurveyRecord::write, m_progress,
+                                caption("Save Survey Data"));
+}
+
+bool ProjectSaver::writeCoordinateSystem(const IDictionary& parameters)
+{
+    basalt::Dictionary record;
+    dictionary_copy(parameters, record, CoordinateRecord::kKeys);
+    record.set(CoordinateRecord::kId,
+               parameters.text(CoordinateRecord::kId, CoordinateRecord::kUndefinedId));
+    return m_database.insert(CoordinateRecord::kTable, nullptr, record);
+}
+
+StoreResult ProjectSaver::undo(const std::string& path)
+{
+    const std::string reason = m_database.lastError();
+    basalt::logError("Cannot save \"" + path + "\": " + reason);
+    const StoreResult recovery = SafetyCopy(path).recover(m_database);
+    m_database.open(lum::databaseConnection(path).c_str());
+    m_progress.finish();
+    if (!recovery.isDone)
+        return recovery;
+    return {false, QCoreApplication::translate(
+                       "ProjectStore",
+                       "The project database \"%1\" cannot be written: %2. It is as it was before.")
+                       .arg(QString::fromStdString(path), databaseReason(reason))};
+}

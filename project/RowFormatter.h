@@ -1,0 +1,99 @@
+#pragma once
+
+#include "project/model/RecordTexts.h"
+
+#include <future>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Rows as text, ready to be inserted.
+class RowBatch
+{
+public:
+    void add(const RecordTexts& row)
+    {
+        m_columns = row.size();
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            m_text.append(row.values()[i]);
+            m_ends.push_back(m_text.size());
+        }
+    }
+    void endLine() { m_lineEnds.push_back(size()); }
+
+    [[nodiscard]] std::size_t size() const
+    {
+        return m_columns == 0 ? 0 : m_ends.size() / m_columns;
+    }
+    /// The row behind the last one of each line that ends in the batch.
+    [[nodiscard]] const std::vector<std::size_t>& lineEnds() const { return m_lineEnds; }
+
+    /// The texts of one row into `values`, which has room for them.
+    void copyRow(std::size_t row, std::string_view* values) const
+    {
+        for (std::size_t i = row * m_columns; i < (row + 1) * m_columns; ++i) {
+            const std::size_t start = i == 0 ? 0 : m_ends[i - 1];
+            *values++ = std::string_view(m_text).substr(start, m_ends[i] - start);
+        }
+    }
+
+private:
+    std::size_t m_columns = 0;
+    std::string m_text;
+    std::vector<std::size_t> m_ends;     ///< of each cell in the text
+    std::vector<std::size_t> m_lineEnds; ///< rows before each line's end
+};
+
+/// Writes points as text on a thread of its own, one batch ahead of who inserts them. The points
+/// stay as they are meanwhile.
+template <class Points, class Write>
+class RowFormatter
+{
+    static constexpr std::size_t kBatchSize = 4096;
+
+public:
+    RowFormatter(const Points& points, Write write)
+        : m_line(points.begin()), m_end(points.end()), m_write(write)
+    {
+        if (m_line != m_end)
+            m_point = m_line->second.begin();
+        startNext();
+    }
+
+    /// In order; an empty batch after the last.
+    RowBatch next()
+    {
+        RowBatch batch = m_coming.get();
+        startNext();
+        return batch;
+    }
+
+private:
+    void startNext()
+    {
+        m_coming = std::async(std::launch::async, [this] { return formatBatch(); });
+    }
+
+    RowBatch formatBatch()
+    {
+        RowBatch batch;
+        while (m_line != m_end && batch.size() < kBatchSize) {
+            m_write(*m_point, *m_texts);
+            batch.add(*m_texts);
+            if (++m_point != m_line->second.end())
+                continue;
+            batch.endLine();
+            if (++m_line != m_end)
+                m_point = m_line->second.begin();
+        }
+        return batch;
+    }
+
+    decltype(std::declval<const Points&>().begin()) m_line;
+    decltype(m_line) m_end;
+    typename Points::Line::const_iterator m_point;
+    Write m_write;
+    std::unique_ptr<RecordTexts> m_texts = std::make_unique<RecordTexts>();
+    std::future<RowBatch> m_coming; // ends first
+};

@@ -1,0 +1,84 @@
+#include "project/SafetyCopy.h"
+
+#include "basalt_utilities/Files.h"
+#include "basalt_utilities/ILogger.h"
+#include "lum_sdk/FileSync.h"
+#include "lum_sdk/IDBAdapter.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString interrupted()
+{
+    return QCoreApplication::translate(
+        "ProjectStore", "Saving this project was interrupted. It is as it was last saved.");
+}
+
+bool isDamage(const std::string& reason)
+{
+    return reason.find("malformed") != std::string::npos ||
+           reason.find("not a database") != std::string::npos;
+}
+
+} // namespace
+
+SafetyCopy::SafetyCopy(const std::string& database)
+    : m_database(database), m_copy(database + ".saved")
+{
+}
+
+bool SafetyCopy::make(IDBAdapter& database) const
+{
+    return database.backup(m_copy.c_str());
+}
+
+void SafetyCopy::drop() const
+{
+    // The commit is on the disk before the copy leaves it.
+    std::string why = lum::syncFile(m_database);
+    if (why.empty())
+        why = lum::removeFile(m_copy);
+    if (!why.empty())
+        basalt::logError("Cannot remove \"" + m_copy + "\": " + why);
+}
+
+StoreResult SafetyCopy::recover(IDBAdapter& database) const
+{
+    database.close();
+    if (!file_system_check_file(m_copy))
+        return {true, {}};
+    if (!file_system_check_file(m_database))
+        return restore();
+    // Alone, since a copy may also belong to a save that is going on in another program.
+    const bool isOpen =
+        database.open((lum::databaseConnection(m_database) + ",exclusive=1").c_str());
+    const std::string reason = database.lastError();
+    const bool isMarked = isOpen && database.tableExists("SaveUnderWay");
+    database.close();
+    if (isMarked || isDamage(reason))
+        return restore();
+    if (isOpen) {
+        drop();
+        return {true, interrupted()};
+    }
+    return {false, QCoreApplication::translate(
+                       "ProjectStore", "An interrupted save of \"%1\" cannot be undone: %2.")
+                       .arg(QString::fromStdString(m_database), databaseReason(reason))};
+}
+
+StoreResult SafetyCopy::restore() const
+{
+    // A journal of the old file would be played back into the new one.
+    std::string why = lum::removeFile(m_database + "-journal");
+    if (why.empty())
+        why = lum::renameFile(m_copy, m_database);
+    if (why.empty()) {
+        basalt::logWarning("\"" + m_database + "\" was restored after an interrupted save");
+        return {true, interrupted()};
+    }
+    return {false, QCoreApplication::translate(
+                       "ProjectStore", "Saving was interrupted; the project as it was before "
+                                       "stands in \"%1\", which cannot be put in its place: %2.")
+                       .arg(QString::fromStdString(m_copy), QString::fromStdString(why))};
+}

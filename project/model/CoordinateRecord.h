@@ -1,0 +1,22 @@
+#pragma once
+
+/// The row of the table CoordinateSystemItem: the parameters of the project's coordinate system.
+namespace CoordinateRecord {
+
+inline constexpr const char* kTable = "CoordinateSystemItem";
+
+/// The parameters, comma-separated: the keys to copy, and the columns in the order written.
+inline constexpr const char* kKeys =
+    "ellipsoid_name,ellipsoid_a,ellipsoid_f,project_type,axis_direction,org_lon,org_lat,"
+    "false_east,false_north,factor,project_height,cutting_radius,parallel_1_lat,parallel_2_lat,"
+    "p_r,lon1,lon2,lat1,lat2,_7type,_7dx,_7dy,_7dz,_7rx,_7ry,_7rz,_7ppm,geoid_type,geoid_valid,"
+    "geoid_name,geoid_file,geoid_distance,geoid_ellipsoid,geoid_custom_file,_4valid,_4dx,_4dy,"
+    "_4r,_4s,_4x0,_4y0,correct_valid,correct_dx,correct_dy,correct_dh,fit_valid,fit_a0,fit_a1,"
+    "fit_a2,fit_a3,fit_a4,fit_a5,fit_x0,fit_y0,ver_valid,ver_mode,ver_x_slope,ver_y_slope,ver_h,"
+    "ver_x0,ver_y0";
+
+/// Which coordinate system it is, beside its parameters.
+inline constexpr const char* kId = "coord_param_id";
+inline constexpr const char* kUndefinedId = "Undefined";
+
+} // namespace CoordinateRecord

@@ -1,0 +1,167 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+/// The points of one line, ordered by the bytes of their numbers, each number once.
+///
+/// An ordered map in short sorted blocks: points that come in order are appended, others move only
+/// a block's neighbours. Whoever changes a point through an iterator leaves its number alone.
+/// Pointers and iterators are valid until the next `set`, `erase` or `clear`.
+template <class Point>
+class PointLine
+{
+    using Block = std::vector<Point>;
+    static constexpr std::size_t kBlockSize = 128;
+
+    template <bool isConst>
+    class Iterator
+    {
+        using Blocks = std::conditional_t<isConst, const std::vector<Block>, std::vector<Block>>;
+
+    public:
+        using iterator_category = std::bidirectional_iterator_tag;
+        using value_type = Point;
+        using difference_type = std::ptrdiff_t;
+        using reference = std::conditional_t<isConst, const Point&, Point&>;
+        using pointer = std::conditional_t<isConst, const Point*, Point*>;
+
+        Iterator() = default;
+        Iterator(Blocks& blocks, std::size_t block) : m_blocks(&blocks), m_block(block) {}
+
+        reference operator*() const { return (*m_blocks)[m_block][m_place]; }
+        pointer operator->() const { return &**this; }
+        Iterator& operator++()
+        {
+            if (++m_place == (*m_blocks)[m_block].size()) {
+                ++m_block;
+                m_place = 0;
+            }
+            return *this;
+        }
+        Iterator operator++(int) { return std::exchange(*this, std::next(*this)); }
+        Iterator& operator--()
+        {
+            if (m_place == 0)
+                m_place = (*m_blocks)[--m_block].size();
+            --m_place;
+            return *this;
+        }
+        Iterator operator--(int) { return std::exchange(*this, std::prev(*this)); }
+        friend bool operator==(const Iterator& a, const Iterator& b)
+        {
+            return a.m_block == b.m_block && a.m_place == b.m_place;
+        }
+
+    private:
+        Blocks* m_blocks = nullptr;
+        std::size_t m_block = 0;
+        std::size_t m_place = 0;
+    };
+
+public:
+    using iterator = Iterator<false>;
+    using const_iterator = Iterator<true>;
+
+    [[nodiscard]] iterator begin() { return {m_blocks, 0}; }
+    [[nodiscard]] iterator end() { return {m_blocks, m_blocks.size()}; }
+    [[nodiscard]] const_iterator begin() const { return {m_blocks, 0}; }
+    [[nodiscard]] const_iterator end() const { return {m_blocks, m_blocks.size()}; }
+    [[nodiscard]] std::size_t size() const { return m_size; }
+    [[nodiscard]] bool empty() const { return m_size == 0; }
+
+    /// Null when the line has no such point.
+    [[nodiscard]] const Point* find(std::string_view pointNumber) const
+    {
+        return const_cast<PointLine*>(this)->find(pointNumber);
+    }
+    [[nodiscard]] Point* find(std::string_view pointNumber)
+    {
+        const auto [block, place] = placeOf(pointNumber);
+        return isAt(block, place, pointNumber) ? &m_blocks[block][place] : nullptr;
+    }
+
+    /// Files the point under its number, over the one that stands there.
+    Point& set(Point point)
+    {
+        if (m_blocks.empty())
+            m_blocks.emplace_back();
+        auto [block, place] = placeOf(point.pointNumber);
+        if (isAt(block, place, point.pointNumber))
+            return m_blocks[block][place] = std::move(point);
+        ++m_size;
+        if (m_blocks[block].size() == kBlockSize)
+            makeRoom(block, place);
+        Block& target = m_blocks[block];
+        return *target.insert(target.begin() + std::ptrdiff_t(place), std::move(point));
+    }
+
+    /// \returns false when the line has no such point
+    bool erase(std::string_view pointNumber)
+    {
+        const auto [block, place] = placeOf(pointNumber);
+        if (!isAt(block, place, pointNumber))
+            return false;
+        m_blocks[block].erase(m_blocks[block].begin() + std::ptrdiff_t(place));
+        if (m_blocks[block].empty())
+            m_blocks.erase(m_blocks.begin() + std::ptrdiff_t(block));
+        --m_size;
+        return true;
+    }
+
+    void clear()
+    {
+        m_blocks.clear();
+        m_size = 0;
+    }
+
+private:
+    /// Block and place of the first point that is not before `number`; behind the last block's
+    /// last point when all are.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> placeOf(std::string_view number) const
+    {
+        if (m_blocks.empty())
+            return {0, 0};
+        if (m_blocks.back().empty() || m_blocks.back().back().pointNumber < number)
+            return {m_blocks.size() - 1, m_blocks.back().size()};
+        const auto block =
+            std::partition_point(m_blocks.begin(), m_blocks.end(), [&](const Block& points) {
+                return points.back().pointNumber < number;
+            });
+        const auto place =
+            std::partition_point(block->begin(), block->end(),
+                                 [&](const Point& point) { return point.pointNumber < number; });
+        return {std::size_t(block - m_blocks.begin()), std::size_t(place - block->begin())};
+    }
+
+    [[nodiscard]] bool isAt(std::size_t block, std::size_t place, std::string_view number) const
+    {
+        return block < m_blocks.size() && place < m_blocks[block].size() &&
+               m_blocks[block][place].pointNumber == number;
+    }
+
+    /// Splits a full block in which a point is wanted at `place`: in the middle, or behind its end
+    /// when points come in order, which leaves full blocks behind.
+    void makeRoom(std::size_t& block, std::size_t& place)
+    {
+        const std::size_t cut = place == kBlockSize ? kBlockSize : kBlockSize / 2;
+        Block upper;
+        upper.reserve(kBlockSize);
+        std::move(m_blocks[block].begin() + std::ptrdiff_t(cut), m_blocks[block].end(),
+                  std::back_inserter(upper));
+        m_blocks[block].resize(cut);
+        m_blocks.insert(m_blocks.begin() + std::ptrdiff_t(block) + 1, std::move(upper));
+        if (place > cut || cut == kBlockSize) {
+            ++block;
+            place -= cut;
+        }
+    }
+
+    std::vector<Block> m_blocks; ///< none empty; sorted, and each sorted
+    std::size_t m_size = 0;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "project/model/PointLines.h"
+
+#include <string_view>
+
+// Points that begin with "C" are check points: "C" and the eight characters of the point that is
+// measured again. In memory each has a counter behind it ("C10012034_0"), so that the line can hold
+// all measurements; files and databases carry the nine characters alone.
+
+/// The number as it is written: a check point's first nine characters, any other whole.
+[[nodiscard]] std::string_view writtenPointNumber(std::string_view pointNumber);
+
+/// Whether `pointNumber` names a check point, which gets a counter when it is filed.
+[[nodiscard]] bool isCheckPoint(std::string_view pointNumber);
+
+/// Files a point that was read: without a line it goes to `kEmptyLine`, or to the line that the
+/// check point's own number names (characters 2 to 5). A check point gets the next free counter;
+/// any other point replaces the one with its number.
+void fileSurveyPoint(SurveyPoints& points, SurveyPoint point);

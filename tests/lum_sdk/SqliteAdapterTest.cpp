@@ -1,0 +1,157 @@
+#include "basalt_utilities/Dictionary.h"
+#include "lum_sdk/IDBAdapter.h"
+#include "lum_sdk/RecordSet.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// An open database with a table, on a path that needs quoting.
+class SqliteAdapterTest : public testing::Test
+{
+protected:
+    SqliteAdapterTest()
+    {
+        EXPECT_TRUE(db->open((lum::databaseConnection(path) + ",create=1,busyTimeout=50").c_str()));
+        EXPECT_TRUE(db->execute("create table \"odd \"\" name\" (\"a b\" TEXT unique, n INTEGER)"));
+    }
+    ~SqliteAdapterTest() override { extensible_factory_release_IDBAdapter(db); }
+
+    static basalt::Dictionary record(std::string_view text, std::string_view number)
+    {
+        basalt::Dictionary values;
+        values.set("a b", text);
+        values.set("n", number);
+        return values;
+    }
+    std::string content()
+    {
+        RecordSet records;
+        EXPECT_TRUE(db->select(kTable, nullptr, nullptr, records, "n")) << db->lastError();
+        std::string all;
+        for (std::size_t i = 0; i < records.size(); ++i)
+            all += std::string(records[i].text("a b", "NULL")) + '/' +
+                   std::string(records[i].text("n", "NULL")) + ' ';
+        return all;
+    }
+
+    static constexpr const char* kTable = "odd \" name";
+    QTemporaryDir folder;
+    std::string path = folder.filePath(QStringLiteral("a, \"b\" 测.db")).toStdString();
+    IDBAdapter* db = extensible_factory_get_IDBAdapter("sqlite");
+};
+
+} // namespace
+
+TEST_F(SqliteAdapterTest, BindsValuesAndQuotesNames)
+{
+    const std::string_view hostile("x'); drop table t; --\0\"", 23);
+    EXPECT_TRUE(db->insert(kTable, nullptr, record(hostile, "1")));
+    EXPECT_TRUE(db->insert(kTable, "n", record("left out", "2")));
+    EXPECT_TRUE(db->insert(kTable, "a b, n", record("", "3")));
+
+    EXPECT_EQ(content(), std::string(hostile) + "/1 NULL/2 /3 ");
+    EXPECT_EQ(db->lastInsertId(), 3);
+    EXPECT_EQ(db->columns(kTable), (std::vector<std::string>{"a b", "n"}));
+}
+
+TEST_F(SqliteAdapterTest, ChangesOnlyTheRowsThatMeetTheCondition)
+{
+    for (const char* number : {"1", "2", "3"})
+        db->insert(kTable, nullptr, record(std::string("p") + number, number));
+
+    EXPECT_TRUE(db->update(kTable, "a b", record("new", "99"), "n = 2"));
+    EXPECT_TRUE(db->replace(kTable, nullptr, record("p3", "30")));
+    EXPECT_EQ(content(), "p1/1 new/2 p3/30 ");
+    EXPECT_TRUE(db->remove(kTable, "n > 1"));
+    EXPECT_EQ(db->rowCount(kTable, nullptr), 1);
+    EXPECT_TRUE(db->remove(kTable, nullptr));
+    EXPECT_EQ(db->rowCount(kTable, nullptr), 0);
+}
+
+TEST_F(SqliteAdapterTest, SelectsColumnsInOrderWithinLimits)
+{
+    for (const char* number : {"3", "1", "2"})
+        db->insert(kTable, nullptr, record(number, number));
+    RecordSet records;
+    ASSERT_TRUE(
+        db->select(kTable, std::vector<std::string>{"n"}, "n < 3", records, "n desc", 1, 1));
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].text("n"), "1");
+    EXPECT_FALSE(records[0].contains("a b"));
+}
+
+TEST_F(SqliteAdapterTest, RollsBackWhatIsNotCommitted)
+{
+    EXPECT_TRUE(db->beginTransaction());
+    db->insert(kTable, nullptr, record("kept", "1"));
+    EXPECT_TRUE(db->commit());
+    EXPECT_TRUE(db->beginTransaction());
+    db->insert(kTable, nullptr, record("dropped", "2"));
+    EXPECT_TRUE(db->rollback());
+    EXPECT_TRUE(db->beginTransaction());
+    db->insert(kTable, nullptr, record("dropped by close", "3"));
+    EXPECT_TRUE(db->open(lum::databaseConnection(path).c_str()));
+    EXPECT_EQ(content(), "kept/1 ");
+}
+
+TEST_F(SqliteAdapterTest, SaysWhyInTheDatabasesWords)
+{
+    db->insert(kTable, nullptr, record("twice", "1"));
+    EXPECT_FALSE(db->insert(kTable, nullptr, record("twice", "2")));
+    EXPECT_NE(db->lastError().find("UNIQUE constraint failed"), std::string::npos);
+    const auto rows = db->bulkInsert(kTable, "a b,n");
+    const std::string_view values[] = {"twice", "3"};
+    EXPECT_FALSE(rows->add(values));
+    EXPECT_NE(db->lastError().find("UNIQUE constraint failed"), std::string::npos);
+    EXPECT_EQ(db->bulkInsert("nowhere", nullptr), nullptr);
+    RecordSet records;
+    EXPECT_FALSE(db->select("nowhere", nullptr, nullptr, records));
+    EXPECT_EQ(db->lastError(), "no such table: nowhere");
+    EXPECT_EQ(db->rowCount("nowhere", nullptr), -1);
+    db->close();
+    EXPECT_FALSE(db->execute("select 1"));
+    EXPECT_FALSE(db->lastError().empty());
+}
+
+TEST_F(SqliteAdapterTest, ExclusiveKeepsOthersOutUntilClose)
+{
+    ASSERT_TRUE(db->open((lum::databaseConnection(path) + ",exclusive=1").c_str()));
+    IDBAdapter* const other = extensible_factory_get_IDBAdapter("sqlite");
+    const std::string connection = lum::databaseConnection(path) + ",busyTimeout=10";
+    EXPECT_FALSE(other->open(connection.c_str()));
+    EXPECT_EQ(other->lastError(), "database is locked");
+    db->close();
+    EXPECT_TRUE(other->open(connection.c_str())) << other->lastError();
+    extensible_factory_release_IDBAdapter(other);
+}
+
+TEST_F(SqliteAdapterTest, BacksUpEverythingOrNothing)
+{
+    db->insert(kTable, nullptr, record("kept", "1"));
+    const std::string copy = path + ".copy";
+    ASSERT_TRUE(db->backup(copy.c_str())) << db->lastError();
+    EXPECT_FALSE(db->backup((folder.path().toStdString() + "/no folder/copy").c_str()));
+    EXPECT_FALSE(db->lastError().empty());
+    ASSERT_TRUE(db->open(lum::databaseConnection(copy).c_str()));
+    EXPECT_EQ(content(), "kept/1 ");
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(copy + ".part")));
+}
+
+TEST_F(SqliteAdapterTest, OpensOnlyWhatIsADatabase)
+{
+    QFile file(folder.filePath(QStringLiteral("text.db")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(5000, 'x'));
+    file.close();
+    EXPECT_FALSE(db->open(lum::databaseConnection(file.fileName().toStdString()).c_str()));
+    EXPECT_EQ(db->lastError(), "file is not a database");
+    const std::string missing = path + "x";
+    EXPECT_FALSE(db->open(lum::databaseConnection(missing).c_str()));
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(missing)));
+    EXPECT_FALSE(db->open("path=x"));
+    EXPECT_EQ(extensible_factory_get_IDBAdapter("unheard of"), nullptr);
+}

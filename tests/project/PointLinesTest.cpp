@@ -1,0 +1,121 @@
+#include "project/model/PointLines.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+
+namespace {
+
+using Reference = std::map<std::string, std::map<std::string, double>>;
+
+DesignPoint point(std::string line, std::string number, double north)
+{
+    DesignPoint made;
+    made.lineNumber = std::move(line);
+    made.pointNumber = std::move(number);
+    made.north = north;
+    return made;
+}
+
+void expectSame(const DesignPoints& points, const Reference& reference)
+{
+    ASSERT_EQ(points.lineCount(), reference.size());
+    auto expected = reference.begin();
+    std::size_t count = 0;
+    for (const auto& [number, line] : points) {
+        ASSERT_EQ(number, expected->first);
+        ASSERT_EQ(line.size(), expected->second.size());
+        auto entry = expected->second.begin();
+        for (const DesignPoint& present : line) {
+            ASSERT_EQ(present.pointNumber, entry->first);
+            ASSERT_EQ(present.north, entry->second);
+            ++entry;
+        }
+        auto back = line.end();
+        for (auto last = expected->second.rbegin(); last != expected->second.rend(); ++last)
+            ASSERT_EQ((--back)->pointNumber, last->first);
+        count += line.size();
+        ++expected;
+    }
+    EXPECT_EQ(points.pointCount(), count);
+}
+
+} // namespace
+
+// Random insertions, replacements and removals against the standard map: few and large lines, so
+// that blocks split, run empty and meet at their borders.
+TEST(PointLines, DoWhatAMapDoes)
+{
+    std::mt19937 random(42);
+    for (const unsigned range : {10U, 400U, 3000U}) {
+        DesignPoints points;
+        Reference reference;
+        for (int step = 0; step < 6000; ++step) {
+            const std::string line = std::to_string(random() % 3);
+            const std::string number = std::to_string(random() % range);
+            if (random() % 3 != 0) {
+                EXPECT_EQ(points.set(point(line, number, step)).north, step);
+                reference[line][number] = step;
+            } else {
+                auto& expected = reference[line];
+                EXPECT_EQ(points.erase(line, number), expected.erase(number) == 1);
+                if (expected.empty())
+                    reference.erase(line);
+            }
+            const DesignPoint* const found = points.find(line, number);
+            const bool isThere = reference.contains(line) && reference[line].contains(number);
+            ASSERT_EQ(found != nullptr, isThere);
+        }
+        expectSame(points, reference);
+    }
+}
+
+TEST(PointLines, KeepPointsThatComeInEitherOrder)
+{
+    DesignPoints points;
+    Reference reference;
+    for (int i = 10000; i < 11000; ++i) {
+        points.set(point("up", std::to_string(i), i));
+        points.set(point("down", std::to_string(21000 - i), i));
+        reference["up"][std::to_string(i)] = i;
+        reference["down"][std::to_string(21000 - i)] = i;
+    }
+    expectSame(points, reference);
+}
+
+TEST(PointLines, OrderLinesByTheirBytes)
+{
+    DesignPoints points;
+    for (const char* line : {"9", "10", "线", "", "a", "B"})
+        points.set(point(line, "1", 0));
+    std::string order;
+    for (const auto& [number, line] : points)
+        order += number + ' ';
+    EXPECT_EQ(order, " 10 9 B a 线 ");
+}
+
+TEST(PointLines, MergeLetsTheLaterPointWin)
+{
+    DesignPoints points;
+    DesignPoints later;
+    points.set(point("1", "1", 1));
+    points.set(point("1", "2", 2));
+    later.set(point("1", "2", 20));
+    later.set(point("1", "3", 30));
+    later.set(point("2", "1", 40));
+    points.merge(std::move(later));
+    expectSame(points, {{"1", {{"1", 1}, {"2", 20}, {"3", 30}}}, {"2", {{"1", 40}}}});
+}
+
+TEST(PointLines, ACopyIsOnItsOwn)
+{
+    DesignPoints points;
+    points.set(point("1", "1", 1));
+    DesignPoints copy = points;
+    copy.set(point("1", "2", 2));
+    DesignPoints moved = std::move(copy);
+    moved.set(point("1", "3", 3));
+    expectSame(points, {{"1", {{"1", 1}}}});
+    expectSame(moved, {{"1", {{"1", 1}, {"2", 2}, {"3", 3}}}});
+}

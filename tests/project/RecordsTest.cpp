@@ -1,0 +1,136 @@
+#include "basalt_utilities/Dictionary.h"
+#include "project/model/CodeTables.h"
+#include "project/model/CoordinateRecord.h"
+#include "project/model/DesignRecord.h"
+#include "project/model/PointNumber.h"
+#include "project/model/SurveyRecord.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string joined(const RecordTexts& texts)
+{
+    std::string all;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        all += (i == 0 ? "" : "|") + std::string(texts.values()[i]);
+    return all;
+}
+
+SurveyPoint pointOf(const char* line, const char* number)
+{
+    SurveyPoint point;
+    point.lineNumber = line;
+    point.pointNumber = number;
+    return point;
+}
+
+} // namespace
+
+TEST(DesignRecord, WritesEachValueInItsForm)
+{
+    RecordTexts texts;
+    DesignRecord::write({"1001", "10012034", 4411825.12346, -0.5, 1e-9, 359.9999996, 1, -2}, texts);
+    EXPECT_EQ(joined(texts), "1001|10012034|4411825.1235|-0.5000|0.0000|360.000000|1|-2");
+}
+
+TEST(DesignRecord, ReadsWhatIsNoNumberAsZero)
+{
+    basalt::Dictionary row;
+    row.set("north", "12.5m");
+    row.set("east", "abc");
+    row.set("point_num", "7");
+    row.set("type", "1.9");
+    DesignRecord::Reader reader;
+    const DesignPoint point = reader.read(row);
+    EXPECT_EQ(point.pointNumber, "7");
+    EXPECT_EQ(point.north, 12.5);
+    EXPECT_EQ(point.east, 0);
+    EXPECT_EQ(point.azimuth, 0);
+    EXPECT_EQ(point.type, 1);
+}
+
+TEST(SurveyRecord, WritesEachValueInItsForm)
+{
+    SurveyPoint point = pointOf("1001", "10012034");
+    point.latitude = 39.123456786;
+    point.altitude = 12.00006;
+    point.dateTime = 1700000000123;
+    point.ageOfDiff = 1234567.8;
+    point.seaHeight = 99;
+    point.baseStationId = "B7";
+    RecordTexts texts;
+    SurveyRecord::write(point, texts);
+    const std::string columns = SurveyRecord::columns();
+    ASSERT_EQ(texts.size(), 49U);
+    EXPECT_EQ(std::count(columns.begin(), columns.end(), ','), 48);
+    EXPECT_EQ(joined(texts).substr(0, 49), "1001|10012034|0|39.12345679|0.00000000|12.0001|0.");
+    EXPECT_EQ(texts.values()[23], "1700000000123");
+    EXPECT_EQ(texts.values()[43], "1.23457e+06");
+    EXPECT_EQ(texts.values()[48], "B7");
+    EXPECT_EQ(joined(texts).find("99"), std::string::npos) << "the sea height is not stored";
+}
+
+TEST(SurveyRecord, ReadsTimesThatCameThroughARealColumn)
+{
+    basalt::Dictionary row;
+    row.set("start_time", "1700000000123.0");
+    row.set("end_time", "1.7e12");
+    row.set("raw_offset", "9007199254740993");
+    row.set("date_time", "1e30");
+    row.set("age_of_diff", "2.9");
+    SurveyRecord::Reader reader;
+    const SurveyPoint point = reader.read(row);
+    EXPECT_EQ(point.startTime, 1700000000123);
+    EXPECT_EQ(point.endTime, 1700000000000);
+    EXPECT_EQ(point.rawOffset, 9007199254740993);
+    EXPECT_EQ(point.dateTime, 0);
+    EXPECT_EQ(point.ageOfDiff, 2);
+}
+
+TEST(SurveyColumns, AreTheFiftyCaptions)
+{
+    const QStringList captions = surveyCaptions();
+    ASSERT_EQ(captions.size(), 50);
+    EXPECT_EQ(captions[43], QStringLiteral("sea height"));
+    EXPECT_EQ(captions[49], QStringLiteral("base_station_id"));
+}
+
+TEST(PointNumber, CheckPointsAreCountedWithinTheirLine)
+{
+    SurveyPoints points;
+    fileSurveyPoint(points, pointOf("1", "C12345678"));
+    fileSurveyPoint(points, pointOf("1", "C12345678"));
+    fileSurveyPoint(points, pointOf("", "C12345678"));
+    fileSurveyPoint(points, pointOf("", "C1234567"));
+    fileSurveyPoint(points, pointOf("", "C1234567"));
+    fileSurveyPoint(points, pointOf("2", "C测线三四五六七八"));
+    EXPECT_NE(points.find("1", "C12345678_0"), nullptr);
+    EXPECT_NE(points.find("1", "C12345678_1"), nullptr);
+    EXPECT_NE(points.find("1234", "C12345678_0"), nullptr);
+    EXPECT_NE(points.find(kEmptyLine, "C1234567"), nullptr);
+    EXPECT_NE(points.find("2", "C测线三四五六七八_0"), nullptr);
+    EXPECT_EQ(points.pointCount(), 5U);
+}
+
+TEST(PointNumber, CheckPointsAreWrittenWithNineCharacters)
+{
+    EXPECT_EQ(writtenPointNumber("C12345678_12"), "C12345678");
+    EXPECT_EQ(writtenPointNumber("C测线三四五六七八_0"), "C测线三四五六七八");
+    EXPECT_EQ(writtenPointNumber("C1234567"), "C1234567");
+    EXPECT_EQ(writtenPointNumber("123456789_0"), "123456789_0");
+}
+
+TEST(CodeTables, NameSolutionsAndObstacles)
+{
+    for (const int code : {0, 1, 2, 4, 5, 7})
+        EXPECT_EQ(solutionTypeCode(solutionTypeText(code)), code);
+    EXPECT_EQ(solutionTypeCode(solutionTypeText(3)), 2);
+    EXPECT_EQ(solutionTypeText(6), QStringLiteral("unknow"));
+    EXPECT_EQ(solutionTypeCode(QStringLiteral("unknow")), -1);
+    EXPECT_EQ(obstacleText(1), QStringLiteral("houses"));
+    EXPECT_EQ(obstacleText(32), QStringLiteral("building"));
+    EXPECT_EQ(obstacleText(33), QStringLiteral("pipeline"));
+    for (const int code : {0, -1, 34})
+        EXPECT_EQ(obstacleText(code), QStringLiteral("undefined"));
+}

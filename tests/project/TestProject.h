@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/Dictionary.h"
+#include "project/DBAdapter.h"
+#include "project/model/PointLines.h"
+#include "project/ProjectLoader.h"
+#include "project/ProjectSaver.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+/// A project in memory, and how it is loaded and saved by itself.
+struct TestProject
+{
+    DesignPoints design;
+    SurveyPoints survey;
+    basalt::Dictionary coordParameters;
+
+    StoreResult load(const std::string& path, IEventManager* events = nullptr)
+    {
+        DBAdapter database;
+        ProgressReporter progress(events);
+        return ProjectLoader(database, progress).load(path, design, survey, coordParameters);
+    }
+    StoreResult save(const std::string& path, IEventManager* events = nullptr) const
+    {
+        DBAdapter database;
+        ProgressReporter progress(events);
+        return ProjectSaver(database, progress).save(path, design, survey, coordParameters);
+    }
+
+    /// Points with no two values alike; `mark` stands in each of them.
+    static TestProject made(int lines, int pointsPerLine, const std::string& mark)
+    {
+        TestProject project;
+        for (int line = 0; line < lines; ++line) {
+            for (int place = 0; place < pointsPerLine; ++place) {
+                const double value = line * 1000.0 + place + 0.1234;
+                const std::string lineNumber = std::to_string(1000 + line);
+                const std::string number = lineNumber + std::to_string(5000 + place);
+                project.design.set({lineNumber, number, value, value + 0.5, -value, value / 1000,
+                                    place % 2, line % 2});
+                if (place % 5 != 0)
+                    continue;
+                SurveyPoint point;
+                point.lineNumber = lineNumber;
+                point.pointNumber = number;
+                point.latitude = 39 + value / 1e6;
+                point.north = value;
+                point.dateTime = 1700000000000 + place;
+                point.startTime = 1700000000000 - place;
+                point.ageOfDiff = place % 9;
+                point.remarks = mark;
+                project.survey.set(point);
+            }
+        }
+        project.coordParameters.set("ellipsoid_a", "6378137");
+        project.coordParameters.set("coord_param_id", mark);
+        return project;
+    }
+};
+
+/// A new project's database at `path`.
+inline bool makeDatabase(const std::string& path)
+{
+    return QFile::copy(QStringLiteral(TEMPLATE_DATABASE), QString::fromStdString(path)) &&
+           QFile::setPermissions(QString::fromStdString(path),
+                                 QFile::ReadOwner | QFile::WriteOwner);
+}
