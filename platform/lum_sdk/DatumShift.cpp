@@ -46,12 +46,10 @@ DatumShift::DatumShift(DatumShiftKind kind, const Triple& translationM, const Tr
         for (double& angle : m_rotationSec)
             angle = -angle;
     }
-    if (kind == DatumShiftKind::MolodenskyBadekas) {
-        // T + P + (1 + s) R (X - P), sorted by X
-        const Triple pivot = turned(pivotM);
-        for (std::size_t i = 0; i < 3; ++i)
-            m_translationM[i] += pivotM[i] - (1 + m_scalePpm * 1e-6) * pivot[i];
-    }
+    // T + P + (1 + s) R (X - P), sorted by X
+    const Triple pivot = turned(pivotM);
+    for (std::size_t i = 0; i < 3; ++i)
+        m_translationM[i] += pivotM[i] - (1 + m_scalePpm * 1e-6) * pivot[i];
 }
 
 DatumShift DatumShift::fromDictionary(const IDictionary& parameters, CoordFault& fault)
@@ -71,7 +69,10 @@ DatumShift DatumShift::fromDictionary(const IDictionary& parameters, CoordFault&
     const bool needsPivot = !isZero(rotation) || scale != 0;
     if (kind == DatumShiftKind::MolodenskyBadekas && needsPivot && isZero(pivot))
         fault = {CoordResult::DatumShiftPivot, {}};
-    return fault ? DatumShift() : DatumShift(kind, translation, rotation, scale, pivot);
+    if (fault)
+        return {};
+    const bool hasPivot = kind == DatumShiftKind::MolodenskyBadekas;
+    return DatumShift(kind, translation, rotation, scale, hasPivot ? pivot : Triple{});
 }
 
 bool DatumShift::isNone() const

@@ -24,7 +24,8 @@ class DatumShift
 {
 public:
     DatumShift() = default;
-    /// \param rotationsSec  arc seconds, in the sense of `kind`; `pivotM` counts for one kind only
+    /// \param rotationsSec  arc seconds, in the sense of `kind`
+    /// \param pivotM  the centre of rotation, geocentric
     DatumShift(DatumShiftKind kind, const std::array<double, 3>& translationM,
                const std::array<double, 3>& rotationsSec, double scalePpm,
                const std::array<double, 3>& pivotM = {});
