@@ -244,15 +244,16 @@ std::string specificText(int code, Reader& reader)
     }
 }
 
-/// The scale at the centre of a stereographic plane that cuts the ellipsoid in a circle.
+/// The scale at the centre of a stereographic plane that is true at a chord of `radiusM` from it:
+/// 1 - (r / 2R)^2 on the sphere that fits the ellipsoid there.
 double cuttingFactor(Reader& reader, double radiusM, double semiMajorM, double inverseFlattening)
 {
     const double f = inverseFlattening == 0 ? 0 : 1 / inverseFlattening;
     const double sine = std::sin(reader.number("org_lat") * kDegree);
     const double e2 = f * (2 - f);
-    const double sphereM = semiMajorM * std::sqrt(1 - e2) / (1 - e2 * sine * sine); // Gauss's mean
+    const double sphereM = semiMajorM * std::sqrt(1 - e2) / (1 - e2 * sine * sine);
     reader.check(radiusM > 0 && radiusM < sphereM, CoordResult::CuttingRadius);
-    return (1 + std::sqrt(std::max(0.0, 1 - std::pow(radiusM / sphereM, 2)))) / 2;
+    return 1 - std::pow(radiusM / sphereM / 2, 2);
 }
 
 std::string ellipsoidText(double semiMajorM, double inverseFlattening)
@@ -292,13 +293,17 @@ ProjectionText projectionText(const IDictionary& parameters, CoordFault& fault)
     const int code = parameters.integer("project_type");
     ProjectionText text;
     text.ellipsoid = ellipsoidText(axis, flattening);
-    text.projection =
-        specificText(code, reader) + " +k_0=1" + ellipsoidText(axis + height, flattening);
+    text.projection = specificText(code, reader) + " +k_0=1" + text.ellipsoid;
+    // PROJ computes Krovak on this ellipsoid, whatever it is told.
+    reader.check(code != Krovak || (std::abs(axis - 6377397.155) < 0.01 &&
+                                    std::abs(flattening - 299.1528128) < 1e-6),
+                 CoordResult::KrovakEllipsoid);
+    const double stretch = 1 + height / axis;
     text.falseNorth = reader.number("false_north");
     if (code == Utm) {
         const double zone = std::floor(reader.number("org_lon") / 6);
         text.projection += Reader::item("lon_0", zone * 6 + 3);
-        text.factor = 0.9996;
+        text.factor = 0.9996 * stretch;
         text.falseEast = 500000;
         return text;
     }
@@ -312,6 +317,7 @@ ProjectionText projectionText(const IDictionary& parameters, CoordFault& fault)
     const double radius = reader.number("cutting_radius");
     if (radius != 0 && (code == ObliqueStereographic || code == PolarStereographic))
         text.factor = cuttingFactor(reader, radius, axis, flattening);
+    text.factor *= stretch;
     return text;
 }
 

@@ -33,9 +33,10 @@ class IDictionary;
 ///
 /// Angles are decimal degrees, lengths metres. A "factor" of 0 counts as 1; it multiplies the plane
 /// in every projection, before the false origin is added, which is also how a system in feet is
-/// written: factor in feet a metre, false origin in feet. A "cutting_radius", the radius of the
-/// circle in which the plane cuts the ellipsoid, takes the place of the factor.
-/// "project_height" lengthens the semi-major axis for the projection and leaves the flattening.
+/// written: factor in feet a metre, false origin in feet. A "cutting_radius" takes the place of the
+/// factor: the chord from the centre to the circle in which the plane cuts the ellipsoid.
+/// "project_height" lengthens the semi-major axis for the projection, not the flattening, which
+/// stretches the plane by (a + height) / a.
 namespace lum {
 
 struct ProjectionKind
@@ -66,7 +67,7 @@ struct DatumShiftName
 struct ProjectionText
 {
     std::string projection;
-    std::string ellipsoid; ///< without the height of the projection surface
+    std::string ellipsoid;
     double factor = 1;
     double falseNorth = 0;
     double falseEast = 0;

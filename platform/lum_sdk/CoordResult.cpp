@@ -45,6 +45,10 @@ constexpr Sentence kSentences[] = {
      QT_TRANSLATE_NOOP("CoordResult",
                        "The flattening of the ellipsoid (ellipsoid_f) must be inverse, like "
                        "298.257, or 0 for a sphere.")},
+    {CoordResult::KrovakEllipsoid,
+     QT_TRANSLATE_NOOP("CoordResult",
+                       "The Krovak projection needs the ellipsoid Bessel 1841 (ellipsoid_a "
+                       "6377397.155, ellipsoid_f 299.1528128).")},
     {CoordResult::ProjectHeight,
      QT_TRANSLATE_NOOP("CoordResult",
                        "The height of the projection surface (project_height) must lie within "

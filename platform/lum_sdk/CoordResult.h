@@ -23,6 +23,7 @@ enum class CoordResult : std::int32_t
     NotANumber = 101,
     EllipsoidAxis,
     EllipsoidFlattening,
+    KrovakEllipsoid,
     ProjectHeight,
     NoProjection,
     UnknownProjection,

@@ -118,10 +118,20 @@ void DatumShift::toDictionary(IDictionary& parameters) const
 std::string DatumShift::projStep() const
 {
     using basalt::formatShortest;
-    return "+proj=helmert +convention=coordinate_frame +x=" + formatShortest(m_translationM[0]) +
-           " +y=" + formatShortest(m_translationM[1]) + " +z=" + formatShortest(m_translationM[2]) +
-           " +rx=" + formatShortest(m_rotationSec[0]) + " +ry=" + formatShortest(m_rotationSec[1]) +
-           " +rz=" + formatShortest(m_rotationSec[2]) + " +s=" + formatShortest(m_scalePpm);
+    const double scale = 1 + m_scalePpm * 1e-6;
+    const std::array<const char*, 3> offsets{"xoff", "yoff", "zoff"};
+    std::string step = "+proj=affine";
+    for (std::size_t i = 0; i < 3; ++i)
+        step += std::string(" +") + offsets[i] + '=' + formatShortest(m_translationM[i]);
+    for (std::size_t column = 0; column < 3; ++column) {
+        Triple axis{};
+        axis[column] = scale;
+        const Triple turnedAxis = turned(axis);
+        for (std::size_t row = 0; row < 3; ++row)
+            step += " +s" + std::to_string(row + 1) + std::to_string(column + 1) + '=' +
+                    formatShortest(turnedAxis[row]);
+    }
+    return step;
 }
 
 } // namespace lum

@@ -35,13 +35,15 @@ public:
 
     [[nodiscard]] bool isNone() const;
 
-    /// The shift back, the exact one of the formula above: R is transposed.
+    /// The shift back as its makers compute it, with R transposed: exact but for the squares of the
+    /// angles, a millimetre at 2 seconds.
     [[nodiscard]] DatumShift inverse() const;
 
     /// Writes the "_7..." keys, kind 2 or 0.
     void toDictionary(IDictionary& parameters) const;
 
-    /// PROJ's step, on geocentric coordinates.
+    /// PROJ's step on geocentric coordinates: a matrix, whose inverse is exact, where PROJ's own
+    /// Helmert step comes back with R transposed.
     [[nodiscard]] std::string projStep() const;
 
 private:

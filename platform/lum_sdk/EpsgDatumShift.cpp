@@ -1,5 +1,7 @@
 #include "lum_sdk/EpsgDatumShift.h"
 
+#include "basalt_utilities/Numbers.h"
+
 #include <map>
 #include <numbers>
 #include <optional>
@@ -31,7 +33,7 @@ Values valuesOf(PJ_CONTEXT* context, const PJ* operation)
                                           nullptr, &unit, nullptr, nullptr, nullptr,
                                           nullptr) != 0 &&
             code != nullptr)
-            values[std::atoi(code)] = value * unit; // NOLINT(cert-err34-c): a code of the register
+            values[basalt::parseInteger(code)] = value * unit;
     }
     return values;
 }
@@ -72,7 +74,7 @@ std::optional<DatumShift> shiftOfStep(PJ_CONTEXT* context, const PJ* step)
     if (proj_coordoperation_get_method_info(context, step, &name, nullptr, &code) == 0 ||
         name == nullptr || code == nullptr)
         return std::nullopt;
-    const int method = std::atoi(code); // NOLINT(cert-err34-c): a code of the register
+    const int method = basalt::parseInteger(code);
     if (method == kLongitudeRotation)
         return DatumShift();
     const auto kind = kindOfMethod(method);
