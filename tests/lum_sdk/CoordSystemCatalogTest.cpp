@@ -23,12 +23,13 @@ std::string firstFound(const char* text)
 }
 
 /// PROJ's own way from WGS 84 latitude and longitude, east and north in the system's unit.
-PJ_COORD byProj(const std::string& code, double latitude, double longitude)
+PJ_COORD byProj(const std::string& code, double latitude, double longitude,
+                const char* source = "EPSG:4326")
 {
     const lum::ProjContext context = lum::makeProjContext();
     const std::string target = "EPSG:" + code;
     const lum::ProjObject plain(
-        proj_create_crs_to_crs(context.get(), "EPSG:4326", target.c_str(), nullptr));
+        proj_create_crs_to_crs(context.get(), source, target.c_str(), nullptr));
     const lum::ProjObject ordered(proj_normalize_for_visualization(context.get(), plain.get()));
     return proj_trans(ordered.get(), PJ_FWD, proj_coord(longitude, latitude, 0, HUGE_VAL));
 }
@@ -43,8 +44,10 @@ TEST(CoordSystemCatalog, FindsByCodeAndByWords)
     EXPECT_EQ(firstFound("beijing 1954 / 3-degree gk cm 117e"),
               "Beijing 1954 / 3-degree Gauss-Kruger CM 117E");
     EXPECT_EQ(firstFound("NAD27 / Texas South Central"), "NAD27 / Texas South Central");
-    EXPECT_EQ(firstFound("50n utm wgs"), "WGS 84 / UTM zone 50N");
-    EXPECT_EQ(catalog().search("3265").size(), 13U); // 3265, and 32650 on but for its vertical ones
+    EXPECT_EQ(firstFound("50n utm wgs 84"), "WGS 84 / UTM zone 50N");
+    EXPECT_EQ(firstFound("gauss-kruger 117e onshore 3-degree new"),
+              "New Beijing / 3-degree Gauss-Kruger CM 117E");
+    EXPECT_EQ(catalog().search("3265").size(), 11U); // 3265, 32650 to 32659
     EXPECT_EQ(catalog().search("utm", 7).size(), 7U);
     EXPECT_TRUE(catalog().search(" / ").empty());
     EXPECT_TRUE(catalog().search("no such system").empty());
@@ -91,17 +94,30 @@ INSTANTIATE_TEST_SUITE_P(
                     EpsgCase{"3395", 4, 40, 117},     // Mercator
                     EpsgCase{"3857", 4, 40, 117},     // Mercator on a sphere
                     EpsgCase{"26931", 5, 57, -134},   // oblique Mercator, variant A
-                    EpsgCase{"29873", 5, 5, 115},     // oblique Mercator, variant B
+                    EpsgCase{"29873", 5, 5, 118},     // oblique Mercator, variant B
                     EpsgCase{"31700", 6, 46, 25},     // oblique stereographic
                     EpsgCase{"32661", 7, 80, 30},     // polar, factor
                     EpsgCase{"3031", 7, -75, 120},    // polar, parallel
                     EpsgCase{"3310", 8, 37, -120},    // Albers
                     EpsgCase{"24500", 9, 1.3, 103.8}, // Cassini-Soldner
                     EpsgCase{"5880", 10, -15, -50},   // polyconic
-                    EpsgCase{"5514", 11, 50, 15},     // Krovak
                     EpsgCase{"2056", 12, 46.9, 8.2},  // Swiss oblique Mercator
                     EpsgCase{"27572", 3, 47, 2.5}),   // grads from the meridian of Paris
     [](const auto& test) { return std::string("Epsg") + test.param.code; });
+
+/// Of the shifts to this datum PROJ takes another in each country, the dictionary the one for all
+/// of the system's area; the projection is the same.
+TEST(EpsgSystem, KrovakAgreesOnItsOwnDatum)
+{
+    basalt::Dictionary system;
+    ASSERT_EQ(fillFromEpsg("5514", system), "");
+    EXPECT_EQ(system.integer("_7type"), 2);
+    dic_set_value(system, "_7type", 0);
+    const CoordTriple grid = CoordService(system).toGrid(50, 15);
+    const PJ_COORD expected = byProj("5514", 50, 15, "EPSG:4156");
+    EXPECT_NEAR(grid.first, expected.xy.y, 1e-3);
+    EXPECT_NEAR(grid.second, expected.xy.x, 1e-3);
+}
 
 TEST(EpsgSystem, FeetStandInFactorAndFalseOrigin)
 {
