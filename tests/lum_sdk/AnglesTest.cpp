@@ -1,0 +1,77 @@
+#include "lum_sdk/Angles.h"
+
+#include "basalt_utilities/Numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <numbers>
+
+namespace {
+constexpr double kDegree = std::numbers::pi / 180;
+}
+
+struct AngleCase
+{
+    const char* name;
+    double degrees;
+    double dms;
+};
+
+class AngleForms : public testing::TestWithParam<AngleCase>
+{
+};
+
+TEST_P(AngleForms, GoBothWays)
+{
+    const auto& [name, degrees, dms] = GetParam();
+    EXPECT_NEAR(covertToAngle(degrees), dms, 1e-12);
+    EXPECT_NEAR(convetFromAngle(dms), degrees, 1e-11);
+    EXPECT_NEAR(Angle2Radian(dms), degrees * kDegree, 1e-13);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Angles, AngleForms,
+    testing::Values(AngleCase{"Zero", 0, 0},
+                    AngleCase{"Negative", -(12 + 34 / 60.0 + 56.789 / 3600), -12.3456789},
+                    AngleCase{"WholeMinutesWithoutExactDouble", 12 + 34 / 60.0, 12.34},
+                    AngleCase{"BelowOneDegree", -(7 / 60.0 + 5 / 3600.0), -0.0705},
+                    AngleCase{"OneMinute", 1 / 60.0, 0.01},
+                    AngleCase{"BeyondTheCircle", 405.5, 405.3}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(Angles, EveryMinuteOfTheCircleKeepsItsMinute)
+{
+    for (int minute = 0; minute < 360 * 60; ++minute) {
+        const double dms = minute / 60 + minute % 60 / 100.0;
+        ASSERT_NEAR(convetFromAngle(dms), minute / 60.0, 1e-9) << dms;
+        ASSERT_NEAR(covertToAngle(minute / 60.0), dms, 1e-9) << minute;
+    }
+}
+
+TEST(Angles, NeverShowSixtySeconds)
+{
+    const double almost = 45 + 59 / 60.0 + 59.9999999 / 3600;
+    EXPECT_EQ(basalt::formatFixed(covertToAngle(almost), 6), "46.000000");
+    EXPECT_DOUBLE_EQ(covertToAngle(-almost), -46);
+
+    EXPECT_EQ(lum::angleText(45 + 59 / 60.0 + 59.996 / 3600, 6), "46.000000");
+    EXPECT_EQ(lum::angleText(45 + 59 / 60.0 + 59.994 / 3600, 6), "45.595999");
+    EXPECT_EQ(lum::angleText(-(10 + 29 / 60.0 + 59.6 / 3600), 4), "-10.3000");
+    EXPECT_EQ(lum::angleText(-1e-9, 6), "0.000000");
+}
+
+TEST(Angles, FormatsOfTheUser)
+{
+    using lum::AngleFormat;
+    const double radians = -12.5 * kDegree;
+    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::Degrees), -12.5);
+    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::DegreesMinutesSeconds), -12.3);
+    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::Radians), radians);
+    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::DecimalDegrees), -12.5);
+    for (const int format : {1, 2, 3, 4}) {
+        const auto f = static_cast<AngleFormat>(format);
+        EXPECT_NEAR(lum::toRadians(lum::fromRadians(radians, f), f), radians, 1e-15) << format;
+    }
+    EXPECT_FALSE(lum::isAngleFormat(0));
+    EXPECT_FALSE(lum::isAngleFormat(5));
+}

@@ -1,0 +1,159 @@
+#include "lum_sdk/CoordSystemCatalog.h"
+
+#include "lum_sdk/EpsgSystem.h"
+#include "lum_sdk/ProjHandles.h"
+#include "tests/lum_sdk/CoordFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+const CoordSystemCatalog& catalog()
+{
+    static const CoordSystemCatalog instance;
+    return instance;
+}
+
+std::string firstFound(const char* text)
+{
+    const auto found = catalog().search(text);
+    return found.empty() ? std::string() : found.front()->name;
+}
+
+/// PROJ's own way from WGS 84 latitude and longitude, east and north in the system's unit.
+PJ_COORD byProj(const std::string& code, double latitude, double longitude,
+                const char* source = "EPSG:4326")
+{
+    const lum::ProjContext context = lum::makeProjContext();
+    const std::string target = "EPSG:" + code;
+    const lum::ProjObject plain(
+        proj_create_crs_to_crs(context.get(), source, target.c_str(), nullptr));
+    const lum::ProjObject ordered(proj_normalize_for_visualization(context.get(), plain.get()));
+    return proj_trans(ordered.get(), PJ_FWD, proj_coord(longitude, latitude, 0, HUGE_VAL));
+}
+
+} // namespace
+
+TEST(CoordSystemCatalog, FindsByCodeAndByWords)
+{
+    EXPECT_GT(catalog().entries().size(), 4500U);
+    EXPECT_EQ(firstFound("32650"), "WGS 84 / UTM zone 50N");
+    EXPECT_EQ(firstFound("EPSG:32650"), "WGS 84 / UTM zone 50N");
+    EXPECT_EQ(firstFound("beijing 1954 / 3-degree gk cm 117e"),
+              "Beijing 1954 / 3-degree Gauss-Kruger CM 117E");
+    EXPECT_EQ(firstFound("NAD27 / Texas South Central"), "NAD27 / Texas South Central");
+    EXPECT_EQ(firstFound("50n utm wgs 84"), "WGS 84 / UTM zone 50N");
+    EXPECT_EQ(firstFound("gauss-kruger 117e onshore 3-degree new"),
+              "New Beijing / 3-degree Gauss-Kruger CM 117E");
+    EXPECT_EQ(catalog().search("3265").size(), 11U); // 3265, 32650 to 32659
+    EXPECT_EQ(catalog().search("utm", 7).size(), 7U);
+    EXPECT_TRUE(catalog().search(" / ").empty());
+    EXPECT_TRUE(catalog().search("no such system").empty());
+    const CoordSystemEntry& entry = *catalog().search("32650").front();
+    EXPECT_EQ(entry.code, "32650");
+    EXPECT_NE(entry.area.find("114"), std::string::npos) << entry.area;
+    EXPECT_DOUBLE_EQ(entry.westDeg, 114);
+}
+
+struct EpsgCase
+{
+    const char* code;
+    int projectType;
+    double latitude, longitude;
+};
+
+class EpsgSystems : public testing::TestWithParam<EpsgCase>
+{
+};
+
+TEST_P(EpsgSystems, AgreeWithProjToAMillimetre)
+{
+    const auto& [code, projectType, latitude, longitude] = GetParam();
+    basalt::Dictionary system;
+    ASSERT_EQ(fillFromEpsg(code, system), "");
+    EXPECT_EQ(system.integer("project_type"), projectType);
+    CoordService service(system);
+    ASSERT_EQ(service.initCode, 0) << service.service.message(service.initCode);
+    const CoordTriple grid = service.toGrid(latitude, longitude);
+    const PJ_COORD expected = byProj(code, latitude, longitude);
+    EXPECT_NEAR(grid.first, expected.xy.y, 1e-3);
+    EXPECT_NEAR(grid.second, expected.xy.x, 1e-3);
+}
+
+// Systems that PROJ reaches without a grid: on WGS 84 or close to it, or by seven parameters.
+INSTANTIATE_TEST_SUITE_P(
+    WithoutGrid, EpsgSystems,
+    testing::Values(EpsgCase{"32650", 2, 40, 117.3},  // UTM
+                    EpsgCase{"32733", 2, -20, 16},    // UTM, south
+                    EpsgCase{"4548", 1, 40, 117.3},   // transverse Mercator
+                    EpsgCase{"2437", 1, 35, 120.5},   // Krassowsky, geocentric translations
+                    EpsgCase{"2278", 3, 29, -97},     // Lambert, US survey feet
+                    EpsgCase{"3448", 3, 18, -77},     // Lambert, one parallel
+                    EpsgCase{"3395", 4, 40, 117},     // Mercator
+                    EpsgCase{"3857", 4, 40, 117},     // Mercator on a sphere
+                    EpsgCase{"26931", 5, 57, -134},   // oblique Mercator, variant A
+                    EpsgCase{"29873", 5, 5, 118},     // oblique Mercator, variant B
+                    EpsgCase{"31700", 6, 46, 25},     // oblique stereographic
+                    EpsgCase{"32661", 7, 80, 30},     // polar, factor
+                    EpsgCase{"3031", 7, -75, 120},    // polar, parallel
+                    EpsgCase{"3310", 8, 37, -120},    // Albers
+                    EpsgCase{"24500", 9, 1.3, 103.8}, // Cassini-Soldner
+                    EpsgCase{"5880", 10, -15, -50},   // polyconic
+                    EpsgCase{"2056", 12, 46.9, 8.2},  // Swiss oblique Mercator
+                    EpsgCase{"27572", 3, 47, 2.5}),   // grads from the meridian of Paris
+    [](const auto& test) { return std::string("Epsg") + test.param.code; });
+
+/// Of the shifts to this datum PROJ takes another in each country, the dictionary the one for all
+/// of the system's area; the projection is the same.
+TEST(EpsgSystem, KrovakAgreesOnItsOwnDatum)
+{
+    basalt::Dictionary system;
+    ASSERT_EQ(fillFromEpsg("5514", system), "");
+    EXPECT_EQ(system.integer("_7type"), 2);
+    dic_set_value(system, "_7type", 0);
+    const CoordTriple grid = CoordService(system).toGrid(50, 15);
+    const PJ_COORD expected = byProj("5514", 50, 15, "EPSG:4156");
+    EXPECT_NEAR(grid.first, expected.xy.y, 1e-3);
+    EXPECT_NEAR(grid.second, expected.xy.x, 1e-3);
+}
+
+TEST(EpsgSystem, FeetStandInFactorAndFalseOrigin)
+{
+    basalt::Dictionary system;
+    ASSERT_EQ(fillFromEpsg("32040", system), "");
+    EXPECT_NEAR(system.number("factor"), 3937.0 / 1200, 1e-12);
+    EXPECT_NEAR(system.number("false_east"), 2000000, 1e-6);
+    EXPECT_EQ(system.text("ellipsoid_name"), "Clarke 1866");
+    EXPECT_NE(system.integer("_7type"), 0) << "translations stand in for the grid";
+}
+
+TEST(EpsgSystem, RefusesWhatItCannotDescribeAndLeavesTheParameters)
+{
+    basalt::Dictionary system = dictionaryOf({{"org_lon", 117}});
+    for (const auto& [code, reason] :
+         {std::pair("99999", "no coordinate system"), std::pair("4326", "no projected"),
+          std::pair("3035", "Lambert Azimuthal Equal Area"), std::pair("2046", "South Orientated"),
+          std::pair("5513", "Krovak")}) {
+        const std::string fault = fillFromEpsg(code, system);
+        EXPECT_NE(fault.find(reason), std::string::npos) << fault;
+    }
+    EXPECT_EQ(system.size(), 1U);
+    EXPECT_EQ(fillFromEpsg("32650", system), "");
+    EXPECT_EQ(system.integer("_7type", -1), 0);
+}
+
+/// What the search offers can be taken: every entry fills a dictionary that the service accepts.
+TEST(EpsgSystem, FillsEveryEighthSystemOfTheCatalog)
+{
+    for (std::size_t i = 0; i < catalog().entries().size(); i += 8) {
+        const CoordSystemEntry& entry = catalog().entries()[i];
+        basalt::Dictionary system;
+        const std::string fault = fillFromEpsg(entry.code, system);
+        EXPECT_TRUE(fault.empty() || fault.find("axes") != std::string::npos) << fault;
+        if (fault.empty()) {
+            EXPECT_EQ(CoordService(system).initCode, 0) << entry.code << ' ' << entry.name;
+        }
+    }
+}
