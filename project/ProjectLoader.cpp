@@ -124,7 +124,7 @@ StoreResult ProjectLoader::load(const std::string& path, DesignPoints& design, S
     bool isRead =
         m_database.open(lum::databaseConnection(path).c_str()) || fail(m_database.lastError());
     if (isRead) {
-        m_progress.start(caption("Loading Database"));
+        m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
         // Read inside one transaction: while it lasts nobody else can commit, so that both
         // connections see the same rows.
         isRead = m_database.execute("begin") || fail(m_database.lastError());
@@ -144,7 +144,9 @@ StoreResult ProjectLoader::load(const std::string& path, DesignPoints& design, S
 bool ProjectLoader::readDesign(DesignPoints& design)
 {
     std::array<DesignPart, 2> parts;
-    const bool isRead = readTable(DesignRecord::kTable, caption("Import Design Data"), 100, parts);
+    const bool isRead = readTable(
+        DesignRecord::kTable,
+        caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Import Design Data")), 100, parts);
     design = std::move(parts[0].points);
     design.merge(std::move(parts[1].points));
     return isRead;
@@ -153,7 +155,9 @@ bool ProjectLoader::readDesign(DesignPoints& design)
 bool ProjectLoader::readSurvey(SurveyPoints& survey)
 {
     std::array<SurveyPart, 2> parts;
-    const bool isRead = readTable(SurveyRecord::kTable, caption("Import Survey Data"), 50, parts);
+    const bool isRead = readTable(
+        SurveyRecord::kTable,
+        caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Import Survey Data")), 50, parts);
     survey = std::move(parts[0].points);
     survey.merge(std::move(parts[1].points));
     for (SurveyPart& part : parts) {

@@ -122,15 +122,17 @@ bool ProjectSaver::addMissingColumns()
 bool ProjectSaver::writeDesign(const DesignPoints& design)
 {
     const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::kColumns);
-    return rows && insertPoints(*rows, design, DesignRecord::write, m_progress,
-                                caption("Save Design Data"));
+    return rows &&
+           insertPoints(*rows, design, DesignRecord::write, m_progress,
+                        caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Design Data")));
 }
 
 bool ProjectSaver::writeSurvey(const SurveyPoints& survey)
 {
     const auto rows = m_database.bulkInsert(SurveyRecord::kTable, SurveyRecord::columns().c_str());
-    return rows && insertPoints(*rows, survey, SurveyRecord::write, m_progress,
-                                caption("Save Survey Data"));
+    return rows &&
+           insertPoints(*rows, survey, SurveyRecord::write, m_progress,
+                        caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Survey Data")));
 }
 
 bool ProjectSaver::writeCoordinateSystem(const IDictionary& parameters)

@@ -40,10 +40,193 @@
     </message>
 </context>
 <context>
+    <name>CodeTables</name>
+    <message>
+        <source>invalid</source>
+        <translation>无效</translation>
+    </message>
+    <message>
+        <source>single</source>
+        <translation>单点解</translation>
+    </message>
+    <message>
+        <source>differential</source>
+        <translation>差分解</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>固定解</translation>
+    </message>
+    <message>
+        <source>float</source>
+        <translation>浮点解</translation>
+    </message>
+    <message>
+        <source>base</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>unknow</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>undefined</source>
+        <translation>未定义</translation>
+    </message>
+    <message>
+        <source>houses</source>
+        <translation>民房</translation>
+    </message>
+    <message>
+        <source>buildings</source>
+        <translation>楼房</translation>
+    </message>
+    <message>
+        <source>church</source>
+        <translation>教堂</translation>
+    </message>
+    <message>
+        <source>temple</source>
+        <translation>寺庙</translation>
+    </message>
+    <message>
+        <source>gas station</source>
+        <translation>加油站</translation>
+    </message>
+    <message>
+        <source>parking lot</source>
+        <translation>停车场</translation>
+    </message>
+    <message>
+        <source>factory</source>
+        <translation>工厂</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>矿山</translation>
+    </message>
+    <message>
+        <source>gas well</source>
+        <translation>气井</translation>
+    </message>
+    <message>
+        <source>military base</source>
+        <translation>军事基地</translation>
+    </message>
+    <message>
+        <source>grave yard</source>
+        <translation>墓地</translation>
+    </message>
+    <message>
+        <source>pond</source>
+        <translation>池塘</translation>
+    </message>
+    <message>
+        <source>river</source>
+        <translation>河流</translation>
+    </message>
+    <message>
+        <source>railway</source>
+        <translation>铁路</translation>
+    </message>
+    <message>
+        <source>iron tower</source>
+        <translation>铁塔</translation>
+    </message>
+    <message>
+        <source>tunnel</source>
+        <translation>隧道</translation>
+    </message>
+    <message>
+        <source>culvert</source>
+        <translation>涵洞</translation>
+    </message>
+    <message>
+        <source>bridge</source>
+        <translation>桥梁</translation>
+    </message>
+    <message>
+        <source>cave</source>
+        <translation>洞穴</translation>
+    </message>
+    <message>
+        <source>high way</source>
+        <translation>公路</translation>
+    </message>
+    <message>
+        <source>electric pole</source>
+        <translation>电杆</translation>
+    </message>
+    <message>
+        <source>windmill</source>
+        <translation>风车</translation>
+    </message>
+    <message>
+        <source>reservoir</source>
+        <translation>水库</translation>
+    </message>
+    <message>
+        <source>dam</source>
+        <translation>堤坝</translation>
+    </message>
+    <message>
+        <source>cliff</source>
+        <translation>悬崖</translation>
+    </message>
+    <message>
+        <source>vegetable field</source>
+        <translation>菜地</translation>
+    </message>
+    <message>
+        <source>grass field</source>
+        <translation>草地</translation>
+    </message>
+    <message>
+        <source>livestock ranch</source>
+        <translation>养殖场</translation>
+    </message>
+    <message>
+        <source>flower bed</source>
+        <translation>花坛</translation>
+    </message>
+    <message>
+        <source>ravine</source>
+        <translation>沟壑</translation>
+    </message>
+    <message>
+        <source>gutter</source>
+        <translation>水沟</translation>
+    </message>
+    <message>
+        <source>building</source>
+        <translation>建筑物</translation>
+    </message>
+    <message>
+        <source>pipeline</source>
+        <translation>管线</translation>
+    </message>
+</context>
+<context>
     <name>DataProcessDataManager</name>
     <message>
         <source>Loading Database</source>
         <translation>正在加载数据库</translation>
+    </message>
+    <message>
+        <source>Import Design Data</source>
+        <translation>正在导入设计数据</translation>
+    </message>
+    <message>
+        <source>Import Survey Data</source>
+        <translation>正在导入测量数据</translation>
+    </message>
+    <message>
+        <source>Save Design Data</source>
+        <translation>正在保存设计数据</translation>
+    </message>
+    <message>
+        <source>Save Survey Data</source>
+        <translation>正在保存测量数据</translation>
     </message>
 </context>
 <context>
@@ -70,6 +253,76 @@
     <message>
         <source>The file &quot;%1&quot; exists already. Replace it?</source>
         <translation>文件“%1”已经存在，是否替换？</translation>
+    </message>
+</context>
+<context>
+    <name>FrameCommands</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>The change takes effect at the next start.</source>
+        <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectStore</name>
+    <message>
+        <source>The parameter file &quot;%1&quot; is missing or damaged.</source>
+        <translation>参数文件“%1”不存在或已损坏。</translation>
+    </message>
+    <message>
+        <source>The parameter file &quot;%1&quot; cannot be written.</source>
+        <translation>无法写入参数文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The project database &quot;%1&quot; cannot be read: %2.</source>
+        <translation>无法读取项目数据库“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The project database &quot;%1&quot; cannot be written: %2. It is as it was before.</source>
+        <translation>无法写入项目数据库“%1”：%2。数据库保持原样。</translation>
+    </message>
+    <message>
+        <source>Saving this project was interrupted. It is as it was last saved.</source>
+        <translation>此项目的保存曾被中断，现为上次保存时的内容。</translation>
+    </message>
+    <message>
+        <source>An interrupted save of &quot;%1&quot; cannot be undone: %2.</source>
+        <translation>无法恢复“%1”中断前的内容：%2。</translation>
+    </message>
+    <message>
+        <source>Saving was interrupted; the project as it was before stands in &quot;%1&quot;, which cannot be put in its place: %2.</source>
+        <translation>保存被中断；保存前的项目在“%1”中，但无法将其放回原处：%2。</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>其他程序正在使用该文件</translation>
+    </message>
+    <message>
+        <source>the file is damaged</source>
+        <translation>文件已损坏</translation>
+    </message>
+    <message>
+        <source>the file is no project database</source>
+        <translation>该文件不是项目数据库</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>磁盘已满</translation>
+    </message>
+    <message>
+        <source>file or folder cannot be written</source>
+        <translation>文件或文件夹不可写</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>a table is missing</source>
+        <translation>缺少数据表</translation>
     </message>
 </context>
 <context>
@@ -148,6 +401,206 @@
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    <name>SurveyColumns</name>
+    <message>
+        <source>line num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>point num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>point mark</source>
+        <translation>点标识</translation>
+    </message>
+    <message>
+        <source>latitude</source>
+        <translation>纬度</translation>
+    </message>
+    <message>
+        <source>longitude</source>
+        <translation>经度</translation>
+    </message>
+    <message>
+        <source>altitude</source>
+        <translation>大地高</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>antenna height</source>
+        <translation>天线高</translation>
+    </message>
+    <message>
+        <source>hor accu</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>ver accu</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>sat num</source>
+        <translation>卫星数</translation>
+    </message>
+    <message>
+        <source>pdop</source>
+        <translation>PDOP</translation>
+    </message>
+    <message>
+        <source>hdop</source>
+        <translation>HDOP</translation>
+    </message>
+    <message>
+        <source>vdop</source>
+        <translation>VDOP</translation>
+    </message>
+    <message>
+        <source>epoch num</source>
+        <translation>历元数</translation>
+    </message>
+    <message>
+        <source>ref north</source>
+        <translation>基站北坐标</translation>
+    </message>
+    <message>
+        <source>ref east</source>
+        <translation>基站东坐标</translation>
+    </message>
+    <message>
+        <source>ref lon</source>
+        <translation>基站经度</translation>
+    </message>
+    <message>
+        <source>ref lat</source>
+        <translation>基站纬度</translation>
+    </message>
+    <message>
+        <source>ref alt</source>
+        <translation>基站大地高</translation>
+    </message>
+    <message>
+        <source>ref dist</source>
+        <translation>基站距离</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>measure mode</source>
+        <translation>测量模式</translation>
+    </message>
+    <message>
+        <source>solution type</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>instru type</source>
+        <translation>仪器型号</translation>
+    </message>
+    <message>
+        <source>instru serial</source>
+        <translation>仪器编号</translation>
+    </message>
+    <message>
+        <source>quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>design north</source>
+        <translation>设计北坐标</translation>
+    </message>
+    <message>
+        <source>design east</source>
+        <translation>设计东坐标</translation>
+    </message>
+    <message>
+        <source>design elevation</source>
+        <translation>设计高程</translation>
+    </message>
+    <message>
+        <source>trans deviation</source>
+        <translation>横向偏差</translation>
+    </message>
+    <message>
+        <source>longi deviation</source>
+        <translation>纵向偏差</translation>
+    </message>
+    <message>
+        <source>rms</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>remarks</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>obstacle</source>
+        <translation>障碍物</translation>
+    </message>
+    <message>
+        <source>photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>resurvey</source>
+        <translation>复测</translation>
+    </message>
+    <message>
+        <source>resurvey x diff</source>
+        <translation>复测北差</translation>
+    </message>
+    <message>
+        <source>resurvey y diff</source>
+        <translation>复测东差</translation>
+    </message>
+    <message>
+        <source>resurvey h diff</source>
+        <translation>复测高差</translation>
+    </message>
+    <message>
+        <source>sea height</source>
+        <translation>海拔高</translation>
+    </message>
+    <message>
+        <source>age of diff</source>
+        <translation>差分龄期</translation>
+    </message>
+    <message>
+        <source>sat detail</source>
+        <translation>卫星详情</translation>
+    </message>
+    <message>
+        <source>start time</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>end time</source>
+        <translation>结束时间</translation>
+    </message>
+    <message>
+        <source>raw offset</source>
+        <translation>原始数据偏移</translation>
+    </message>
+    <message>
+        <source>base_station_id</source>
+        <translation>base_station_id</translation>
     </message>
 </context>
 </TS>
