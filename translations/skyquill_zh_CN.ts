@@ -29,17 +29,6 @@
     </message>
 </context>
 <context>
-    <name>CommandList</name>
-    <message>
-        <source>Error</source>
-        <translation>错误</translation>
-    </message>
-    <message>
-        <source>The command failed: %1</source>
-        <translation>命令执行失败：%1</translation>
-    </message>
-</context>
-<context>
     <name>CodeTables</name>
     <message>
         <source>invalid</source>
@@ -207,6 +196,199 @@
     </message>
 </context>
 <context>
+    <name>CommandList</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>The command failed: %1</source>
+        <translation>命令执行失败：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CoordProjections</name>
+    <message>
+        <source>Transverse Mercator</source>
+        <translation>横轴墨卡托</translation>
+    </message>
+    <message>
+        <source>UTM</source>
+        <translation>UTM</translation>
+    </message>
+    <message>
+        <source>Lambert conformal conic</source>
+        <translation>兰勃特等角圆锥</translation>
+    </message>
+    <message>
+        <source>Mercator</source>
+        <translation>墨卡托</translation>
+    </message>
+    <message>
+        <source>Oblique Mercator</source>
+        <translation>斜轴墨卡托</translation>
+    </message>
+    <message>
+        <source>Oblique stereographic</source>
+        <translation>斜轴球面</translation>
+    </message>
+    <message>
+        <source>Polar stereographic</source>
+        <translation>极球面</translation>
+    </message>
+    <message>
+        <source>Albers equal area</source>
+        <translation>阿尔伯斯等积圆锥</translation>
+    </message>
+    <message>
+        <source>Cassini-Soldner</source>
+        <translation>卡西尼</translation>
+    </message>
+    <message>
+        <source>American polyconic</source>
+        <translation>美国多圆锥</translation>
+    </message>
+    <message>
+        <source>Krovak (north and east)</source>
+        <translation>克罗瓦克（北东轴向）</translation>
+    </message>
+    <message>
+        <source>Swiss oblique Mercator</source>
+        <translation>瑞士斜轴墨卡托</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Position vector (Bursa-Wolf)</source>
+        <translation>位置矢量（布尔莎）</translation>
+    </message>
+    <message>
+        <source>Coordinate frame rotation</source>
+        <translation>坐标框架旋转</translation>
+    </message>
+    <message>
+        <source>Molodensky-Badekas</source>
+        <translation>莫洛坚斯基-巴德卡斯</translation>
+    </message>
+</context>
+<context>
+    <name>CoordResult</name>
+    <message>
+        <source>No coordinate system has been set.</source>
+        <translation>尚未设置坐标系统。</translation>
+    </message>
+    <message>
+        <source>The transformation direction is unknown.</source>
+        <translation>未知的转换方向。</translation>
+    </message>
+    <message>
+        <source>The kind of the given coordinates is unknown.</source>
+        <translation>输入坐标的类型未知。</translation>
+    </message>
+    <message>
+        <source>The kind of the wanted coordinates is unknown.</source>
+        <translation>输出坐标的类型未知。</translation>
+    </message>
+    <message>
+        <source>The angle format is unknown.</source>
+        <translation>角度格式未知。</translation>
+    </message>
+    <message>
+        <source>The position is not a coordinate: it is not a number, or its latitude lies beyond 90 degrees.</source>
+        <translation>该位置不是坐标：不是数，或纬度超过 90 度。</translation>
+    </message>
+    <message>
+        <source>The position lies where the map projection cannot reach.</source>
+        <translation>该位置超出地图投影的范围。</translation>
+    </message>
+    <message>
+        <source>The position lies outside of the geoid file.</source>
+        <translation>该位置在大地水准面文件范围之外。</translation>
+    </message>
+    <message>
+        <source>The parameter %1 is not a finite number.</source>
+        <translation>参数 %1 不是有限的数。</translation>
+    </message>
+    <message>
+        <source>The semi-major axis of the ellipsoid (ellipsoid_a) must be positive, in metres.</source>
+        <translation>椭球长半轴（ellipsoid_a）必须为正，单位米。</translation>
+    </message>
+    <message>
+        <source>The flattening of the ellipsoid (ellipsoid_f) must be inverse, like 298.257, or 0 for a sphere.</source>
+        <translation>椭球扁率（ellipsoid_f）须为扁率倒数，如 298.257；球体为 0。</translation>
+    </message>
+    <message>
+        <source>The Krovak projection needs the ellipsoid Bessel 1841 (ellipsoid_a 6377397.155, ellipsoid_f 299.1528128).</source>
+        <translation>克罗瓦克投影需要 Bessel 1841 椭球（ellipsoid_a 6377397.155，ellipsoid_f 299.1528128）。</translation>
+    </message>
+    <message>
+        <source>The height of the projection surface (project_height) must lie within 100 km, in metres.</source>
+        <translation>投影面高程（project_height）须在 100 千米以内，单位米。</translation>
+    </message>
+    <message>
+        <source>The coordinate system has no map projection (project_type).</source>
+        <translation>坐标系统没有地图投影（project_type）。</translation>
+    </message>
+    <message>
+        <source>The map projection %1 is unknown (project_type).</source>
+        <translation>未知的地图投影 %1（project_type）。</translation>
+    </message>
+    <message>
+        <source>The origin latitude (org_lat) does not suit the map projection.</source>
+        <translation>原点纬度（org_lat）不适合该地图投影。</translation>
+    </message>
+    <message>
+        <source>The origin longitude (org_lon) must lie within 360 degrees.</source>
+        <translation>原点经度（org_lon）须在 360 度以内。</translation>
+    </message>
+    <message>
+        <source>The standard parallels (parallel_1_lat, parallel_2_lat) do not suit the map projection.</source>
+        <translation>标准纬线（parallel_1_lat、parallel_2_lat）不适合该地图投影。</translation>
+    </message>
+    <message>
+        <source>The oblique projection needs the azimuth of its central line (p_r), or two points on it (lat1, lon1, lat2, lon2).</source>
+        <translation>斜轴投影需要中心线方位角（p_r），或中心线上两点（lat1、lon1、lat2、lon2）。</translation>
+    </message>
+    <message>
+        <source>The scale factor (factor) must not be negative.</source>
+        <translation>尺度因子（factor）不能为负。</translation>
+    </message>
+    <message>
+        <source>The cutting radius (cutting_radius) must be smaller than the ellipsoid, and not negative.</source>
+        <translation>割圆半径（cutting_radius）须小于椭球半径，且不能为负。</translation>
+    </message>
+    <message>
+        <source>The datum shift %1 is unknown (_7type).</source>
+        <translation>未知的七参数模型 %1（_7type）。</translation>
+    </message>
+    <message>
+        <source>The Molodensky-Badekas datum shift needs its rotation centre (_7px, _7py, _7pz).</source>
+        <translation>莫洛坚斯基-巴德卡斯模型需要旋转中心（_7px、_7py、_7pz）。</translation>
+    </message>
+    <message>
+        <source>The scale of the plane shift (_4s) must not be negative.</source>
+        <translation>四参数的尺度（_4s）不能为负。</translation>
+    </message>
+    <message>
+        <source>The geoid is switched on, but no geoid file (geoid_file) is given.</source>
+        <translation>已启用大地水准面，但未给出大地水准面文件（geoid_file）。</translation>
+    </message>
+    <message>
+        <source>The geoid file %1 (geoid_file) is missing or cannot be read.</source>
+        <translation>大地水准面文件 %1（geoid_file）不存在或无法读取。</translation>
+    </message>
+    <message>
+        <source>The parameters describe no coordinate system: %1.</source>
+        <translation>这些参数不能构成坐标系统：%1。</translation>
+    </message>
+    <message>
+        <source>The result code %1 is unknown.</source>
+        <translation>未知的结果代码 %1。</translation>
+    </message>
+</context>
+<context>
     <name>DataProcessDataManager</name>
     <message>
         <source>Loading Database</source>
@@ -249,21 +431,29 @@
     </message>
 </context>
 <context>
+    <name>EpsgSystem</name>
+    <message>
+        <source>There is no coordinate system EPSG:%1.</source>
+        <translation>没有坐标系统 EPSG:%1。</translation>
+    </message>
+    <message>
+        <source>EPSG:%1 is no projected coordinate system.</source>
+        <translation>EPSG:%1 不是投影坐标系统。</translation>
+    </message>
+    <message>
+        <source>EPSG:%1 uses the map projection &quot;%2&quot;, which is not supported.</source>
+        <translation>EPSG:%1 使用的地图投影“%2”不受支持。</translation>
+    </message>
+    <message>
+        <source>The axes of EPSG:%1 do not point north and east, which is not supported.</source>
+        <translation>EPSG:%1 的坐标轴不指向北和东，不受支持。</translation>
+    </message>
+</context>
+<context>
     <name>FileDialog</name>
     <message>
         <source>The file &quot;%1&quot; exists already. Replace it?</source>
         <translation>文件“%1”已经存在，是否替换？</translation>
-    </message>
-</context>
-<context>
-    <name>FrameCommands</name>
-    <message>
-        <source>Settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>The change takes effect at the next start.</source>
-        <translation>更改将在下次启动时生效。</translation>
     </message>
 </context>
 <context>
@@ -401,6 +591,9 @@
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
     <name>SurveyColumns</name>
     <message>
         <source>line num</source>

@@ -95,22 +95,21 @@ void CoordChain::geodeticToGrid(std::span<PJ_COORD> points, std::span<std::int32
         if (codes[i] != 0)
             continue;
         PJ_COORD& point = points[i];
-        CoordResult code = CoordResult::Success;
-        PJ_COORD above = point;
+        double seaHeight = 0;
         if (m_geoid) {
-            above = proj_trans(m_geoid.get(), PJ_FWD, point);
-            if (!isFinite(above))
-                code = CoordResult::OutsideGeoid;
+            seaHeight = proj_trans(m_geoid.get(), PJ_FWD, point).xyz.z;
+            if (!std::isfinite(seaHeight)) {
+                codes[i] = static_cast<std::int32_t>(CoordResult::OutsideGeoid);
+                continue;
+            }
         }
-        PJ_COORD plane = proj_trans(m_plane.get(), PJ_FWD, point);
-        if (!isFinite(plane) && code == CoordResult::Success)
-            code = CoordResult::OutsideProjection;
-        if (code != CoordResult::Success) {
-            codes[i] = static_cast<std::int32_t>(code);
+        point = proj_trans(m_plane.get(), PJ_FWD, point);
+        if (!isFinite(point)) {
+            codes[i] = static_cast<std::int32_t>(CoordResult::OutsideProjection);
             continue;
         }
-        const double height = m_geoid ? above.xyz.z : plane.xyz.z;
-        const auto grid = m_corrections.apply({plane.xyz.y, plane.xyz.x, height});
+        const double height = m_geoid ? seaHeight : point.xyz.z;
+        const auto grid = m_corrections.apply({point.xyz.y, point.xyz.x, height});
         point.xyz = {grid.east, grid.north, grid.height};
     }
 }

@@ -70,13 +70,6 @@ void CoordCorrections::addPlaneShift(const IDictionary& parameters, CoordFault& 
     m_cos = cosine * m_cos;
 }
 
-GridPosition CoordCorrections::apply(const GridPosition& position) const
-{
-    const double north = m_north + m_cos * position.north - m_sin * position.east;
-    const double east = m_east + m_sin * position.north + m_cos * position.east;
-    return {north, east, position.height + heightCorrection(north, east)};
-}
-
 GridPosition CoordCorrections::undo(const GridPosition& position) const
 {
     const double north = position.north - m_north;

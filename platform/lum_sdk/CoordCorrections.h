@@ -34,7 +34,13 @@ public:
                      CoordFault& fault);
 
     /// \param position  as projected, before factor and false origin
-    [[nodiscard]] GridPosition apply(const GridPosition& position) const;
+    [[nodiscard]] GridPosition apply(const GridPosition& position) const
+    {
+        const double north = m_north + m_cos * position.north - m_sin * position.east;
+        const double east = m_east + m_sin * position.north + m_cos * position.east;
+        const double correction = m_isHeightFitted ? heightCorrection(north, east) : m_height;
+        return {north, east, position.height + correction};
+    }
     [[nodiscard]] GridPosition undo(const GridPosition& position) const;
 
 private:

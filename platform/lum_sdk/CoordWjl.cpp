@@ -27,24 +27,30 @@ struct Block
     std::span<std::int32_t> codes;
 };
 
+bool isGood(const PJ_COORD& point, CoordKind kind)
+{
+    return std::isfinite(point.xyz.x) && std::isfinite(point.xyz.y) && std::isfinite(point.xyz.z) &&
+           (kind != CoordKind::Geodetic || std::abs(point.lp.phi) <= std::numbers::pi / 2 + 1e-12);
+}
+
 void readIn(std::span<const CoordTriple> in, CoordKind kind, AngleFormat format, const Block& to)
 {
+    const bool isPacked = format == AngleFormat::DegreesMinutesSeconds;
+    const double unit = lum::toRadians(1, format); // all other formats are proportional
+    const auto radians = [=](double angle) {
+        return isPacked ? lum::toRadians(angle, format) : angle * unit;
+    };
     for (std::size_t i = 0; i < in.size(); ++i) {
         const CoordTriple& from = in[i];
         PJ_COORD& point = to.points[i];
-        if (kind == CoordKind::Geodetic) {
-            point = proj_coord(lum::toRadians(from.second, format),
-                               lum::toRadians(from.first, format), from.third, HUGE_VAL);
-        } else if (kind == CoordKind::Plane) {
-            point = proj_coord(from.second, from.first, from.third, HUGE_VAL);
-        } else {
-            point = proj_coord(from.first, from.second, from.third, HUGE_VAL);
-        }
-        const bool isGood =
-            std::isfinite(point.xyz.x) && std::isfinite(point.xyz.y) &&
-            std::isfinite(point.xyz.z) &&
-            (kind != CoordKind::Geodetic || std::abs(point.lp.phi) <= std::numbers::pi / 2 + 1e-12);
-        to.codes[i] = isGood ? 0 : static_cast<std::int32_t>(CoordResult::NotACoordinate);
+        if (kind == CoordKind::Geodetic)
+            point = {{radians(from.second), radians(from.first), from.third, HUGE_VAL}};
+        else if (kind == CoordKind::Plane)
+            point = {{from.second, from.first, from.third, HUGE_VAL}};
+        else
+            point = {{from.first, from.second, from.third, HUGE_VAL}};
+        to.codes[i] =
+            isGood(point, kind) ? 0 : static_cast<std::int32_t>(CoordResult::NotACoordinate);
     }
 }
 

@@ -4,11 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
 namespace {
 
-using Values = std::initializer_list<std::pair<const char*, double>>;
+using Values = std::vector<std::pair<const char*, double>>;
 
-basalt::Dictionary dictionaryOf(Values values)
+basalt::Dictionary dictionaryOf(const Values& values)
 {
     basalt::Dictionary dictionary;
     for (const auto& [key, value] : values)
@@ -32,9 +35,9 @@ class SameSystem : public testing::TestWithParam<SameCase>
 
 TEST_P(SameSystem, JudgesBothWaysRound)
 {
-    const auto& [name, first, second, isSame] = GetParam();
-    EXPECT_EQ(sameCoordSystem(dictionaryOf(first), dictionaryOf(second)), isSame);
-    EXPECT_EQ(sameCoordSystem(dictionaryOf(second), dictionaryOf(first)), isSame);
+    const SameCase& c = GetParam();
+    EXPECT_EQ(sameCoordSystem(dictionaryOf(c.first), dictionaryOf(c.second)), c.isSame);
+    EXPECT_EQ(sameCoordSystem(dictionaryOf(c.second), dictionaryOf(c.first)), c.isSame);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -80,7 +83,7 @@ TEST(SameSystemKeys, EachOneCounts)
           "lon1", "lon2", "lat1", "lat2"})
         EXPECT_FALSE(sameCoordSystem(dictionaryOf({{key, 1}}), dictionaryOf({{key, 1.001}})))
             << key;
-    using Group = std::pair<const char*, std::initializer_list<const char*>>;
+    using Group = std::pair<const char*, std::vector<const char*>>;
     for (const auto& [flag, keys] :
          {Group{"_7type", {"_7dx", "_7dy", "_7dz", "_7rx", "_7ry", "_7rz", "_7ppm"}},
           Group{"_4valid", {"_4dx", "_4dy", "_4r", "_4s"}},

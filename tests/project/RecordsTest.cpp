@@ -12,8 +12,11 @@ namespace {
 std::string joined(const RecordTexts& texts)
 {
     std::string all;
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        all += (i == 0 ? "" : "|") + std::string(texts.values()[i]);
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i > 0)
+            all += '|';
+        all.append(texts.values()[i]);
+    }
     return all;
 }
 
