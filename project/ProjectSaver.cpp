@@ -73,7 +73,7 @@ StoreResult ProjectSaver::save(const std::string& path, const DesignPoints& desi
 {
     const SafetyCopy copy(path);
     // An earlier save may have left a copy: it must not be replaced by one of an emptied database.
-    if (const StoreResult found = copy.recover(m_database); !found.isDone)
+    if (StoreResult found = copy.recover(m_database); !found.isDone)
         return found;
     const std::string connection = lum::databaseConnection(path);
     const bool isSaved = m_database.open((connection + ",exclusive=1").c_str()) &&
@@ -148,7 +148,7 @@ StoreResult ProjectSaver::undo(const std::string& path)
 {
     const std::string reason = m_database.lastError();
     basalt::logError("Cannot save \"" + path + "\": " + reason);
-    const StoreResult recovery = SafetyCopy(path).recover(m_database);
+    StoreResult recovery = SafetyCopy(path).recover(m_database);
     m_database.open(lum::databaseConnection(path).c_str());
     m_progress.finish();
     if (!recovery.isDone)

@@ -26,7 +26,7 @@ constexpr std::array<Reason, 7> kReasons{{
 
 QString databaseReason(std::string_view message)
 {
-    const QString original = QString::fromUtf8(message.data(), static_cast<int>(message.size()));
+    QString original = QString::fromUtf8(message.data(), static_cast<int>(message.size()));
     for (const Reason& reason : kReasons) {
         if (message.find(reason.part) != std::string_view::npos)
             return QCoreApplication::translate("ProjectStore", reason.text) +

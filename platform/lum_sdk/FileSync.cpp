@@ -31,7 +31,7 @@ std::string syncFile(const std::string& path)
     const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (file < 0)
         return reason();
-    const std::string why = ::fsync(file) == 0 ? std::string() : reason();
+    std::string why = ::fsync(file) == 0 ? std::string() : reason();
     ::close(file);
     return why;
 }

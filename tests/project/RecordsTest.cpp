@@ -33,7 +33,8 @@ SurveyPoint pointOf(const char* line, const char* number)
 TEST(DesignRecord, WritesEachValueInItsForm)
 {
     RecordTexts texts;
-    DesignRecord::write({"1001", "10012034", 4411825.12346, -0.5, 1e-9, 359.9999996, 1, -2}, texts);
+    const DesignPoint point{"1001", "10012034", 4411825.12346, -0.5, 1e-9, 359.9999996, 1, -2};
+    DesignRecord::write(point, texts); // which points at the texts of the point
     EXPECT_EQ(joined(texts), "1001|10012034|4411825.1235|-0.5000|0.0000|360.000000|1|-2");
 }
 
