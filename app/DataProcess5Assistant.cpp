@@ -86,7 +86,6 @@ void DataProcess5Assistant::addLayer(const char* name, const char* className, co
     basalt::Dictionary properties;
     properties.set("layer_name", name);
     properties.set("caption", caption);
-    properties.set("listed", std::strcmp(name, "BoundaryLayer") == 0 ? "0" : "1");
     map->addLayer(QString::fromLatin1(className), properties);
 }
 

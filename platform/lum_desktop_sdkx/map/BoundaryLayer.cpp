@@ -78,6 +78,7 @@ void drawLabels(QPainter& painter, const QPolygonF& corners, const QPointF (&map
 
 BoundaryLayer::BoundaryLayer(const char* config, IDesktopHost* /*host*/)
 {
+    m_properties.set("listed", "0"); // a command of its own shows and hides it
     csa_to_dictionary(m_properties, config != nullptr ? config : "");
 }
 
