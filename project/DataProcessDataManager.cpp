@@ -4,23 +4,35 @@
 #include "app/protocol/Payloads.h"
 #include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/KeyList.h"
+#include "exchange/SeaHeights.h"
+#include "lum_sdk/ICoordTransform.h"
 #include "lum_sdk/IHost.h"
+#include "lum_sdk/ProjectCoordTransform.h"
 #include "project/model/CodeTables.h"
+#include "project/model/CoordinateRecord.h"
 #include "project/model/SurveyColumns.h"
 #include "project/ParameterFiles.h"
+#include "project/ProjectFile.h"
 #include "project/ProjectLoader.h"
+#include "project/ProjectPlace.h"
 #include "project/ProjectSaver.h"
 
 #include <QCoreApplication>
+
+#include <cpl_conv.h>
+#include <gdal.h>
+#include <ogr_api.h>
 
 #include <cstring>
 
 namespace {
 DataProcessDataManager* managerInUse = nullptr;
 
-QString databasePath(const QString& folder, const QString& name)
+void setUpRasterLibrary()
 {
-    return folder + QLatin1Char('/') + name + QStringLiteral(".db");
+    CPLSetConfigOption("GDAL_FILENAME_IS_UTF8", "NO"); // names are handed over as 8-bit text
+    OGRRegisterAll();
+    GDALAllRegister();
 }
 } // namespace
 
@@ -30,6 +42,7 @@ DataProcessDataManager::DataProcessDataManager(IHost* host)
 {
     if (managerInUse == nullptr)
         managerInUse = this;
+    setUpRasterLibrary();
 }
 
 DataProcessDataManager::~DataProcessDataManager()
@@ -43,29 +56,59 @@ DataProcessDataManager* DataProcessDataManager::instance()
     return managerInUse;
 }
 
-StoreResult DataProcessDataManager::openProject(const QString& folder, const QString& name)
+StoreResult DataProcessDataManager::openProject(const ProjectPlace& place)
 {
-    basalt::Dictionary quality;
-    basalt::Dictionary design;
-    if (const QString fault = ParameterFiles::read(folder, quality, design); !fault.isEmpty())
-        return {false, fault};
-    StoreResult result = load(databasePath(folder, name));
-    if (result.isDone) {
-        dictionary_copy(quality, m_qualityParameters);
-        dictionary_copy(design, m_designParameters);
-    }
+    const StoreResult lock = m_lock.take(place);
+    if (!lock.isDone)
+        return lock;
+    StoreResult result = read(place);
+    if (!result.isDone)
+        m_lock.release();
+    else if (result.message.isEmpty())
+        result.message = lock.message;
+    m_isSaveOwed = false;
     return result;
 }
 
-StoreResult DataProcessDataManager::saveProject(const QString& folder, const QString& name)
+StoreResult DataProcessDataManager::read(const ProjectPlace& place)
 {
-    StoreResult result = save(databasePath(folder, name));
+    basalt::Dictionary quality;
+    basalt::Dictionary design;
+    if (const QString fault = ParameterFiles::read(place.folder, quality, design); !fault.isEmpty())
+        return {false, fault};
+    basalt::Dictionary project;
+    const bool isProjectFileOurs = ProjectFile::read(place.file, project);
+    basalt::Dictionary coordSystem;
+    StoreResult result = readDatabase(place.database(), coordSystem);
+    if (!result.isDone)
+        return result;
+    if (coordSystem.size() == 0) { // until the first save it stands in the project file alone
+        dictionary_copy(project, coordSystem, CoordinateRecord::kKeys);
+        dictionary_copy(project, coordSystem, CoordinateRecord::kId);
+    }
+    setCoordSystem(coordSystem);
+    dictionary_copy(quality, m_qualityParameters);
+    dictionary_copy(design, m_designParameters);
+    m_project = std::move(project);
+    m_isProjectFileOurs = isProjectFileOurs;
+    return result;
+}
+
+StoreResult DataProcessDataManager::saveProject(const ProjectPlace& place)
+{
+    m_isSaveOwed = true;
+    StoreResult result = save(place.database());
     if (!result.isDone)
         return result;
     if (const QString fault =
-            ParameterFiles::write(folder, m_qualityParameters, m_designParameters);
+            ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
         !fault.isEmpty())
         return {false, fault};
+    if (m_isProjectFileOurs && !ProjectFile::write(place.file, m_project))
+        return {false, QCoreApplication::translate("ProjectStore",
+                                                   "The project file \"%1\" cannot be written.")
+                           .arg(place.file)};
+    m_isSaveOwed = false;
     return result;
 }
 
@@ -73,20 +116,51 @@ void DataProcessDataManager::clear()
 {
     m_design.clear();
     m_survey.clear();
+    m_project.clear();
+    m_database.close();
+    m_lock.release();
+    m_isSaveOwed = false;
 }
 
 StoreResult DataProcessDataManager::load(const QString& path)
 {
+    basalt::Dictionary coordSystem;
+    StoreResult result = readDatabase(path, coordSystem);
+    if (coordSystem.size() != 0)
+        setCoordSystem(coordSystem);
+    return result;
+}
+
+StoreResult DataProcessDataManager::readDatabase(const QString& path, IDictionary& coordSystem)
+{
     ProgressReporter progress(&m_host.eventManager());
     return ProjectLoader(m_database, progress)
-        .load(path.toStdString(), m_design, m_survey, m_coordParameters);
+        .load(path.toStdString(), m_design, m_survey, coordSystem);
+}
+
+void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
+{
+    get_project_coord_transform().initialise(parameters, parameters);
+    recomputeSeaHeights();
 }
 
 StoreResult DataProcessDataManager::save(const QString& path)
 {
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(m_database, progress)
-        .save(path.toStdString(), m_design, m_survey, m_coordParameters);
+        .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters());
+}
+
+void DataProcessDataManager::recomputeSeaHeights()
+{
+    ICoordTransform& transform = get_project_coord_transform();
+    ::recomputeSeaHeights(&transform, transform.parameters(), [this](const auto& visit) {
+        for (auto& [number, line] : m_survey) {
+            for (SurveyPoint& point : line)
+                visit({point.latitude, point.longitude, point.altitude, point.elevation,
+                       &point.seaHeight});
+        }
+    });
 }
 
 QString DataProcessDataManager::solutionTypeText(int code)

@@ -5,11 +5,13 @@
 #include "lum_sdk/IEventManager.h"
 #include "project/DBAdapter.h"
 #include "project/model/PointLines.h"
+#include "project/ProjectLock.h"
 #include "project/StoreResult.h"
 
 #include <QStringList>
 
 class IHost;
+struct ProjectPlace;
 
 /// The store of the open project.
 ///
@@ -29,23 +31,33 @@ public:
     /// thread only: what paints on a worker works on a copy that was made here.
     [[nodiscard]] static DataProcessDataManager* instance();
 
-    /// Reads the project's parameter files and its database, "NAME.db" in `folder`. When a file
-    /// cannot be read the parameters stay as they were.
-    StoreResult openProject(const QString& folder, const QString& name);
+    /// Takes the project for this program alone, and reads its parameter files, its database and
+    /// its project file. When a parameter file cannot be read the parameters stay as they were; a
+    /// project file that cannot be read is passed over.
+    StoreResult openProject(const ProjectPlace& place);
     /// Writes them all, and the design parameters as the start of the next new project.
-    StoreResult saveProject(const QString& folder, const QString& name);
-    /// Forgets the points of the project that was open.
+    StoreResult saveProject(const ProjectPlace& place);
+    /// Whether the last `saveProject` failed, so that more is in memory than on the disk.
+    [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }
+    /// Forgets the points of the project that was open, and lets others have it.
     void clear();
 
     /// The database alone, see ProjectLoader and ProjectSaver.
     StoreResult load(const QString& path);
     StoreResult save(const QString& path);
 
+    /// Gives the project another coordinate system, keys as in CoordinateRecord.h, and with it the
+    /// results their sea heights. The system itself is `get_project_coord_transform`'s.
+    void setCoordSystem(const IDictionary& parameters);
+    /// Rewrites every result's sea height; due whenever results or coordinate system are new.
+    void recomputeSeaHeights();
+
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }
     [[nodiscard]] IDBAdapter& database() { return m_database.inner(); }
-    /// Of the project's coordinate system, keys as in CoordinateRecord.h.
-    [[nodiscard]] IDictionary& coordParameters() { return m_coordParameters; }
+    /// What is said about the project as a whole, keys as in ProjectFile.h. The coordinate system
+    /// in it is the one that the project was made with.
+    [[nodiscard]] IDictionary& project() { return m_project; }
     /// The limits of the quality checks, "qc_param.ini".
     [[nodiscard]] IDictionary& qualityParameters() { return m_qualityParameters; }
     /// The grid to generate, "design_param.ini".
@@ -64,13 +76,18 @@ public:
 
 private:
     void reportQuery(const char* payload);
+    [[nodiscard]] StoreResult read(const ProjectPlace& place);
+    [[nodiscard]] StoreResult readDatabase(const QString& path, IDictionary& coordSystem);
 
     IHost& m_host; // outlives the manager
     EventSubscription m_subscription;
     DBAdapter m_database;
+    ProjectLock m_lock;
     DesignPoints m_design;
     SurveyPoints m_survey;
-    basalt::Dictionary m_coordParameters;
+    basalt::Dictionary m_project;
+    bool m_isProjectFileOurs = false; ///< one that we could not read is not written either
+    bool m_isSaveOwed = false;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;
     QStringList m_surveyCaptions;

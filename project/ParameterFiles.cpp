@@ -10,8 +10,6 @@ namespace ParameterFiles {
 
 namespace {
 
-constexpr const char* kQualityFile = "/qc_param.ini";
-constexpr const char* kDesignFile = "/design_param.ini";
 constexpr const char* kTemplateFolder =
     "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5";
 

@@ -7,6 +7,10 @@ class QString;
 /// in XML, whatever their ending says.
 namespace ParameterFiles {
 
+// Behind the project folder.
+inline constexpr const char* kQualityFile = "/qc_param.ini";
+inline constexpr const char* kDesignFile = "/design_param.ini";
+
 /// Reads both, over what the dictionaries hold: both or none.
 /// \returns an empty text, or what the user has to know
 [[nodiscard]] QString read(const QString& folder, IDictionary& quality, IDictionary& design);

@@ -1,0 +1,101 @@
+#include "project/ProjectPlace.h"
+
+#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+constexpr int kLongestNameBytes = 200; // file systems take 255, and endings come behind the name
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ProjectPlace", text);
+}
+
+QString joined(const QString& folder, const QString& name)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
+/// Names that some systems keep for devices.
+bool isReserved(const QString& name)
+{
+    static const QRegularExpression pattern(QStringLiteral("^(con|prn|aux|nul|com\\d|lpt\\d)$"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(name).hasMatch();
+}
+
+} // namespace
+
+ProjectPlace ProjectPlace::planned(const QString& location, const QString& name)
+{
+    return in(joined(location, name), name);
+}
+
+ProjectPlace ProjectPlace::ofFile(const QString& file)
+{
+    const QFileInfo info(file);
+    return {info.absolutePath(), info.baseName(), info.absoluteFilePath()};
+}
+
+ProjectPlace ProjectPlace::in(const QString& folder, const QString& name)
+{
+    return {folder, name, joined(folder, name) + QLatin1Char('.') + projectExtension()};
+}
+
+QString ProjectPlace::database() const
+{
+    return joined(folder, name) + QStringLiteral(".db");
+}
+
+QString projectExtension()
+{
+    return lum::toQString(get_system_config_parameter().dictionary().text("extension", "kelx"));
+}
+
+QString projectNameFault(const QString& name)
+{
+    if (name.isEmpty())
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Please enter a project name."));
+    static const QRegularExpression bad(QStringLiteral("[\\x00-\\x1f\\x7f\\\\/:*?\"<>|.]"));
+    const QRegularExpressionMatch match = bad.match(name);
+    if (match.hasMatch() && match.captured().at(0).isPrint())
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot contain \"%1\"."))
+            .arg(match.captured());
+    if (match.hasMatch())
+        return tr(
+            QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot contain control characters."));
+    if (name != name.trimmed())
+        return tr(
+            QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot begin or end with a blank."));
+    if (isReserved(name))
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Some systems cannot have files named \"%1\"."))
+            .arg(name);
+    if (name.toUtf8().size() > kLongestNameBytes)
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "The project name is too long."));
+    return {};
+}
+
+QString projectLocationFault(const QString& location)
+{
+    if (location.isEmpty())
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Please choose the folder of the project."));
+    const QFileInfo folder(location);
+    if (!QDir::isAbsolutePath(location))
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Please enter the whole path of the folder."));
+    if (!folder.exists())
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "The folder \"%1\" does not exist."))
+            .arg(QDir::toNativeSeparators(location));
+    if (!folder.isDir())
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "\"%1\" is not a folder."))
+            .arg(QDir::toNativeSeparators(location));
+    if (!folder.isWritable())
+        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "The folder \"%1\" cannot be written."))
+            .arg(QDir::toNativeSeparators(location));
+    return {};
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QStringList>
+
+/// The project files that were opened last, newest first, kept in the user's settings.
+namespace RecentProjects {
+
+inline constexpr int kMost = 9;
+
+[[nodiscard]] QStringList list();
+/// Puts `file` first.
+void add(const QString& file);
+void remove(const QString& file);
+
+} // namespace RecentProjects
