@@ -1,5 +1,6 @@
 #pragma once
 
+class ICoordTransform;
 class IMainFrame;
 class SystemParameter;
 
@@ -14,6 +15,9 @@ public:
 
     /// The main frame, built from its layout at the first call.
     [[nodiscard]] virtual IMainFrame* getMainFrame() = 0;
+
+    /// The coordinate transformation of the open project; `parameters` is its system.
+    [[nodiscard]] virtual ICoordTransform* getCoordTransform() = 0;
 };
 
 /// The settings object that is in use; null before it was first asked for.

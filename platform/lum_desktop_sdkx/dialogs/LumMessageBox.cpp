@@ -51,6 +51,7 @@ Button show(QWidget* parent, const Message& message)
     QMessageBox box(iconOf(message.kind), message.title, message.text, QMessageBox::NoButton,
                     parent);
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(message.details);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     const Button safe = safeAnswer(message.buttons);
     for (const auto& [ours, shown] : kButtons) {
@@ -75,7 +76,9 @@ Button ask(QWidget* parent, const Message& message)
         return *answer;
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr)
         return show(parent, message);
-    const QString line = message.title + QStringLiteral(": ") + message.text;
+    QString line = message.title + QStringLiteral(": ") + message.text;
+    if (!message.details.isEmpty())
+        line += QLatin1Char(' ') + message.details;
     basalt::logWarning("Nobody to ask, the safe answer is taken. " + line.toStdString());
     return safeAnswer(message.buttons);
 }
@@ -83,19 +86,19 @@ Button ask(QWidget* parent, const Message& message)
 } // namespace
 
 Button LumMessageBox::information(QWidget* parent, const QString& title, const QString& text,
-                                  Buttons buttons)
+                                  Buttons buttons, const QString& details)
 {
-    return ask(parent, {Kind::Information, title, text, buttons});
+    return ask(parent, {Kind::Information, title, text, buttons, details});
 }
 
 Button LumMessageBox::warning(QWidget* parent, const QString& title, const QString& text,
-                              Buttons buttons)
+                              Buttons buttons, const QString& details)
 {
-    return ask(parent, {Kind::Warning, title, text, buttons});
+    return ask(parent, {Kind::Warning, title, text, buttons, details});
 }
 
 Button LumMessageBox::question(QWidget* parent, const QString& title, const QString& text,
-                               Buttons buttons)
+                               Buttons buttons, const QString& details)
 {
-    return ask(parent, {Kind::Question, title, text, buttons});
+    return ask(parent, {Kind::Question, title, text, buttons, details});
 }

@@ -11,7 +11,7 @@ class QWidget;
 ///
 /// Stands modally until a button is pressed; Escape and the close button give the safe answer
 /// (Cancel, else No, else Ok). Without a display nobody is asked: the text is logged and the safe
-/// answer given. Texts are plain, never markup.
+/// answer given. Texts are plain, never markup; `details` stand under the text, smaller.
 class LumMessageBox
 {
 public:
@@ -40,16 +40,18 @@ public:
         QString title;
         QString text;
         Buttons buttons;
+        QString details;
     };
     using Responder = ::Responder<Message>;
 
     /// Each returns the button that was pressed, one of `buttons`.
     static Button information(QWidget* parent, const QString& title, const QString& text,
-                              Buttons buttons = Button::Ok);
+                              Buttons buttons = Button::Ok, const QString& details = {});
     static Button warning(QWidget* parent, const QString& title, const QString& text,
-                          Buttons buttons = Button::Ok);
+                          Buttons buttons = Button::Ok, const QString& details = {});
     static Button question(QWidget* parent, const QString& title, const QString& text,
-                           Buttons buttons = Buttons(Button::Yes) | Button::No);
+                           Buttons buttons = Buttons(Button::Yes) | Button::No,
+                           const QString& details = {});
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(LumMessageBox::Buttons)

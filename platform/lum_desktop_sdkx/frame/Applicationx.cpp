@@ -11,6 +11,7 @@
 #include "lum_desktop_sdkx/frame/MessageLog.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/ICoordTransform.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
@@ -100,6 +101,7 @@ Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, co
     setApplicationVersion(lum::toQString(version));
     setWindowIcon(programIcon());
     lum::setDpiScale(primaryScreen()->logicalDotsPerInch() / 96.0);
+    registerCoordComponents();
     registerMapComponents();
     registerFrameComponents();
     readOptions();
@@ -156,6 +158,8 @@ void Applicationx::readOptions()
         QStringLiteral("components"),
         tr("List the components that a window layout can name, and leave."));
     parser.addOptions({startupTime, screenshot, components});
+    parser.addPositionalArgument(QStringLiteral("project"), tr("The project file to open."),
+                                 QStringLiteral("[project]"));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(*this);
@@ -165,6 +169,7 @@ void Applicationx::readOptions()
     }
     m_printsStartupTime = parser.isSet(startupTime);
     m_screenshotFile = parser.value(screenshot);
+    m_fileToOpen = parser.positionalArguments().value(0);
 }
 
 void Applicationx::reportShown()
@@ -176,6 +181,9 @@ void Applicationx::reportShown()
         exit(0);
         return;
     }
+    if (!m_fileToOpen.isEmpty() && !m_mainFrame->openFile(m_fileToOpen))
+        LumMessageBox::warning(m_mainFrame.get(), tr("Skyquill"),
+                               tr("\"%1\" is not a project file.").arg(m_fileToOpen));
     if (!m_screenshotFile.isEmpty()) {
         m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // whatever the screen has
         QTimer::singleShot(500, this, [this] { // the map's worker has painted by then

@@ -12,6 +12,7 @@ class MainFrame;
 ///
 /// Its configuration lies in "$(APP_DIR)/../etc/Tarvona/config/<application id>": the configuration
 /// dictionary "<tool path>.xml", and beside it "main_frame.xml". Options of the command line:
+/// a file to open once the window is shown;
 /// "--startup-time" prints the CPU time to the shown window and leaves; "--screenshot FILE" writes
 /// a picture of the window and leaves; "--components" lists what is registered.
 class Applicationx final : public QApplication
@@ -43,6 +44,7 @@ private:
     QString m_toolFolder;   ///< of the tool path
     bool m_printsStartupTime = false;
     QString m_screenshotFile;
+    QString m_fileToOpen;
     QString m_layoutProblem; ///< why the frame is the minimal one; empty when it is not
     DesktopHost m_host;
     std::unique_ptr<MainFrame> m_mainFrame;

@@ -69,6 +69,7 @@ void CommandList::refresh()
     for (const Entry& each : m_entries) {
         const QString caption = each.command->caption();
         each.action->setText(caption.isEmpty() ? desktop::layoutText(each.caption) : caption);
+        each.action->setVisible(!each.action->text().isEmpty());
         each.action->setEnabled(each.command->isEnabled());
         each.action->setCheckable(each.command->isCheckable());
         each.action->setChecked(each.command->isCheckable() && each.command->isChecked());

@@ -111,9 +111,8 @@ private:
         FrameLayout::Command command;
         command.className = required("class");
         command.name = required("name");
-        command.caption = attribute("caption");
-        if (command.caption.isEmpty())
-            command.caption = command.name;
+        const bool hasCaption = m_xml.attributes().hasAttribute(QLatin1String("caption"));
+        command.caption = hasCaption ? attribute("caption") : command.name;
         command.icon = attribute("icon");
         command.shortcut = attribute("shortcut");
         command.tip = attribute("tip");

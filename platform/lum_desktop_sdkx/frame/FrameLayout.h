@@ -19,7 +19,8 @@
 ///     </main_frame>
 ///
 /// "name" is what other components ask for; "caption" is shown, in English, translated, and the
-/// same as the name when it is missing. "area" is center, left, right, bottom or status; a window
+/// same as the name when it is missing. A command whose caption is empty, and that names none
+/// itself, does not show. "area" is center, left, right, bottom or status; a window
 /// is tabbed with the last one of its area, or stacked under it with "place" below. `<docks/>`
 /// stands for the list of dockable windows. All attributes of a command or window are passed on to
 /// its component as its configuration.

@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 
 #include "app/protocol/Events.h"
+#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/DockStyle.h"
@@ -9,11 +10,15 @@
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
 
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <qtadvanceddocking/DockManager.h>
@@ -42,6 +47,20 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     return docks;
 }
 
+/// The one file of the program's kind that is being dragged; empty when it is something else.
+QString droppedFile(const QDropEvent& event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    if (urls.size() != 1 || !urls.constFirst().isLocalFile())
+        return {};
+    const std::string_view extension =
+        get_system_config_parameter().dictionary().text("extension", "kelx");
+    const QString file = urls.constFirst().toLocalFile();
+    const bool isOurs =
+        QFileInfo(file).suffix().compare(lum::toQString(extension), Qt::CaseInsensitive) == 0;
+    return isOurs ? file : QString();
+}
+
 /// An assistant that fails keeps the frame open: it may not have saved.
 bool mayClose(IGuiAssistant& assistant)
 {
@@ -62,6 +81,7 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
                      host.eventManager())
 {
     setObjectName(QStringLiteral("MainFrame"));
+    setAcceptDrops(true);
     m_host.setDialogParent(this);
     m_host.windows().attach(m_docks, statusBar());
     makeAssistants(layout);
@@ -91,7 +111,14 @@ MainFrame::~MainFrame()
 
 void MainFrame::setTitle(const QString& title)
 {
-    setWindowTitle(title);
+    m_title = title;
+    refreshState();
+}
+
+bool MainFrame::openFile(const QString& path)
+{
+    return std::any_of(m_assistants.begin(), m_assistants.end(),
+                       [&](const auto& assistant) { return assistant->openFile(path) != 0; });
 }
 
 void MainFrame::show()
@@ -119,7 +146,29 @@ void MainFrame::resetArrangement()
 
 void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
 {
+    refreshState();
+}
+
+void MainFrame::refreshState()
+{
+    const IDictionary& status = get_system_status_dictionary();
+    const QString project = lum::toQString(status.text(status::kProjectName));
+    setWindowTitle(project.isEmpty() ? m_title : project + QStringLiteral(" - ") + m_title);
     m_host.commands().refresh();
+}
+
+void MainFrame::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!droppedFile(*event).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainFrame::dropEvent(QDropEvent* event)
+{
+    const QString file = droppedFile(*event);
+    event->acceptProposedAction();
+    // Later: whoever drags is held up until this returns, and opening may ask questions.
+    QTimer::singleShot(0, this, [this, file] { openFile(file); });
 }
 
 void MainFrame::closeEvent(QCloseEvent* event)

@@ -29,12 +29,17 @@ public:
     MainFrame(DesktopHost& host, const FrameLayout& layout);
     ~MainFrame() override;
 
+    /// The title while no project is open; the open one's name stands before it.
     void setTitle(const QString& title) override;
     /// Shows the frame as the user left it.
     void show() override;
 
     /// Puts tool bars and windows back to where the layout places them.
     void resetArrangement();
+
+    /// Hands a file to the first assistant that knows what to do with it.
+    /// \returns false when none does
+    bool openFile(const QString& path);
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
@@ -44,9 +49,12 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
+    void refreshState();
     void makeAssistants(const FrameLayout& layout);
     void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
     void listDocks(QMenu& menu);
@@ -60,6 +68,7 @@ private:
     ads::CDockManager* m_docks;
     std::vector<IGuiAssistantFactory::Pointer> m_assistants;
     std::vector<QMenu*> m_dockMenus; ///< list the windows, anew each time they are shown
+    QString m_title;
     QByteArray m_defaultToolBars;
     EventSubscription m_subscription;
     bool m_wasPainted = false;

@@ -2,6 +2,7 @@
 
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
+#include "lum_sdk/ProjectCoordTransform.h"
 #include "lum_sdk/SystemDictionaries.h"
 
 SystemSettings::SystemSettings(const char* /*config*/) {}
@@ -14,4 +15,9 @@ SystemParameter* SystemSettings::getSystemParameter()
 IMainFrame* SystemSettings::getMainFrame()
 {
     return &Applicationx::instance().mainFrame();
+}
+
+ICoordTransform* SystemSettings::getCoordTransform()
+{
+    return &get_project_coord_transform();
 }

@@ -10,4 +10,5 @@ public:
 
     [[nodiscard]] SystemParameter* getSystemParameter() override;
     [[nodiscard]] IMainFrame* getMainFrame() override;
+    [[nodiscard]] ICoordTransform* getCoordTransform() override;
 };
