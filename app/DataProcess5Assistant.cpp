@@ -12,7 +12,10 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/SystemDictionaries.h"
+#include "project/ProjectPlace.h"
+#include "project/ui/ProjectSession.h"
 
+#include <QFileInfo>
 #include <QPointF>
 
 #include <cstring>
@@ -68,6 +71,15 @@ int DataProcess5Assistant::queryClose()
     if (answer != Button::Yes)
         return 0;
     m_dataManager.reset();
+    return 1;
+}
+
+int DataProcess5Assistant::openFile(const QString& path)
+{
+    if (QFileInfo(path).suffix().compare(projectExtension(), Qt::CaseInsensitive) != 0)
+        return 0;
+    if (ProjectSession::closeCurrent(m_host))
+        ProjectSession::open(m_host, path);
     return 1;
 }
 

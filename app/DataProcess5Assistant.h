@@ -21,6 +21,7 @@ public:
     int openMainWindows() override;
     /// Saves an open project first, whatever the answer will be.
     int queryClose() override;
+    int openFile(const QString& path) override;
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 

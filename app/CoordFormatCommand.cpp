@@ -1,0 +1,29 @@
+#include "app/CoordFormatCommand.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/StatusKeys.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+void CoordFormatCommand::execute()
+{
+    if (isChecked())
+        return;
+    IDictionary& values = get_system_status_dictionary();
+    values.set(status::kDegreeFormat, std::to_string(format()));
+    // A table of all lines is emptied rather than written anew.
+    const bool isAllLines = values.integer(status::kShowAllLines) != 0;
+    host().eventManager().publish(
+        isAllLines ? events::kClearSurveyTable : events::kRefreshSurveyTable, nullptr, 0);
+}
+
+bool CoordFormatCommand::isChecked() const
+{
+    return get_system_status_dictionary().integer(status::kDegreeFormat) == format();
+}
+
+int CoordFormatCommand::format() const
+{
+    return parameters().text("caption") == "Degree-minute-second Format" ? 1 : 0;
+}

@@ -1,0 +1,136 @@
+#include "project/ui/DlgProjectSet.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/Paths.h"
+#include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
+#include "lum_desktop_sdkx/coords/CoordSystemPanel.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/DpiScale.h"
+#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
+#include "project/model/CoordinateRecord.h"
+#include "project/ProjectFile.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr const char* kControlXml =
+    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/CommInfoSet.xml";
+constexpr const char* kUnit = "unit";         // row of the general page; the setting "un_coordUnit"
+constexpr const char* kName = "project_name"; // row: the last part of the folder
+constexpr int kGeneralPage = 0;
+constexpr int kCoordPage = 1;
+
+} // namespace
+
+DlgProjectSet::DlgProjectSet(IDesktopHost& host, IDictionary& project)
+    : Dialog(host.dialogParent()), m_host(host), m_project(project), m_pages(new QListWidget(this)),
+      m_stack(new QStackedWidget(this))
+{
+    setWindowTitle(tr("Project Settings"));
+    setMinimumSizeScaled(760, 560);
+    m_pages->setFixedWidth(dpi_scaled(180));
+    m_pages->setIconSize(QSize(dpi_scaled(22), dpi_scaled(22)));
+    addPage(QStringLiteral("CommInfoSet"), tr("General"), QStringLiteral("documentinfo"),
+            makeGeneralPage());
+    addPage(QStringLiteral("CoordSystem"), tr("Coordinate System"), QStringLiteral("globe"),
+            makeCoordPage());
+    connect(m_pages, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
+    m_pages->setCurrentRow(kGeneralPage);
+
+    auto* const buttons = new QDialogButtonBox(this);
+    buttons->addButton(tr("Apply"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &DlgProjectSet::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* const body = new QHBoxLayout;
+    body->addWidget(m_pages);
+    body->addWidget(m_stack, 1);
+    QVBoxLayout* const layout = makeMainLayout();
+    layout->addLayout(body, 1);
+    layout->addWidget(buttons);
+    rememberSize(QStringLiteral("DlgProjectSet"));
+}
+
+void DlgProjectSet::accept()
+{
+    if (showFault())
+        return;
+    writeBack();
+    Q_EMIT applied();
+    m_host.eventManager().publish(events::kProjectChanged, nullptr, 0);
+    m_host.eventManager().publish(events::kSettingViewFinished, nullptr, 0);
+    Dialog::accept();
+}
+
+void DlgProjectSet::addPage(const QString& name, const QString& caption, const QString& icon,
+                            QWidget* page)
+{
+    page->setObjectName(name);
+    auto* const item = new QListWidgetItem(QIcon::fromTheme(icon), caption, m_pages);
+    item->setSizeHint(QSize(0, dpi_scaled(34)));
+    m_stack->addWidget(page);
+}
+
+QWidget* DlgProjectSet::makeGeneralPage()
+{
+    const QString folder = lum::toQString(m_project.text(ProjectFile::kPath));
+    basalt::Dictionary values(m_project);
+    values.set(kName, QDir(folder).dirName().toStdString());
+    values.set(ProjectFile::kPath, QDir::toNativeSeparators(folder).toStdString());
+    values.set(kUnit, get_system_ini_parameter().dictionary().text(settings::kCoordUnit, "0"));
+    m_general = new PropertyGridCtrl(this);
+    m_general->init(QString::fromStdString(basalt::resolvedPath(kControlXml)), values);
+    m_general->setHeaderVisible(false);
+    return m_general;
+}
+
+QWidget* DlgProjectSet::makeCoordPage()
+{
+    basalt::Dictionary parameters;
+    dictionary_copy(m_project, parameters, CoordinateRecord::kKeys);
+    dictionary_copy(m_project, parameters, CoordinateRecord::kId);
+    m_coordSystem = new CoordSystemPanel(this);
+    m_coordSystem->setParameters(parameters);
+    return m_coordSystem;
+}
+
+bool DlgProjectSet::showFault()
+{
+    if (m_general->hasFaults()) {
+        m_pages->setCurrentRow(kGeneralPage);
+        return true;
+    }
+    if (!m_coordSystem->hasFaults())
+        return false;
+    m_pages->setCurrentRow(kCoordPage);
+    m_coordSystem->goToFault();
+    return true;
+}
+
+void DlgProjectSet::writeBack()
+{
+    basalt::Dictionary values = m_general->getData();
+    const std::string unit(values.text(kUnit));
+    for (const char* shownOnly : {kUnit, kName, ProjectFile::kPath})
+        values.remove(shownOnly);
+    dictionary_copy(values, m_project);
+    dictionary_copy(m_coordSystem->parameters(), m_project, CoordinateRecord::kKeys);
+    dictionary_copy(m_coordSystem->parameters(), m_project, CoordinateRecord::kId);
+    SystemParameter& settings = get_system_ini_parameter();
+    if (settings.dictionary().text(settings::kCoordUnit, "0") != unit) {
+        settings.dictionary().set(settings::kCoordUnit, unit);
+        settings.save(); // has logged why it failed; the choice holds for this session
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "lum_desktop_sdkx/dialogs/Dialog.h"
+
+class CoordSystemPanel;
+class IDesktopHost;
+class IDictionary;
+class PropertyGridCtrl;
+class QListWidget;
+class QStackedWidget;
+
+/// The settings of a project: general information and coordinate system, a page each. Works on a
+/// project dictionary (ProjectFile.h), which changes when the user applies; a bad value is shown
+/// and refused.
+class DlgProjectSet final : public Dialog
+{
+    Q_OBJECT
+
+public:
+    /// \param project  outlives the dialog
+    DlgProjectSet(IDesktopHost& host, IDictionary& project);
+
+    /// Applies: writes the values back and announces the change.
+    void accept() override;
+
+Q_SIGNALS:
+    /// The dictionary holds the new values, and nobody has been told yet.
+    void applied();
+
+private:
+    void addPage(const QString& name, const QString& caption, const QString& icon, QWidget* page);
+    [[nodiscard]] QWidget* makeGeneralPage();
+    [[nodiscard]] QWidget* makeCoordPage();
+    /// Brings the first bad value into view. \returns whether there is one
+    bool showFault();
+    void writeBack();
+
+    IDesktopHost& m_host;
+    IDictionary& m_project;
+    QListWidget* m_pages;
+    QStackedWidget* m_stack;
+    PropertyGridCtrl* m_general = nullptr;
+    CoordSystemPanel* m_coordSystem = nullptr;
+};

@@ -1,0 +1,104 @@
+#include "project/ui/ProjectSession.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/StatusKeys.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/ICommandList.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
+#include "project/DataProcessDataManager.h"
+#include "project/ProjectPlace.h"
+#include "project/RecentProjects.h"
+
+#include <QCoreApplication>
+
+namespace ProjectSession {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ProjectSession", text);
+}
+
+void reportFailure(IDesktopHost& host, const QString& file, const QString& reason)
+{
+    RecentProjects::remove(file);
+    LumMessageBox::information(host.dialogParent(),
+                               tr(QT_TRANSLATE_NOOP("ProjectSession", "failed")),
+                               tr(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")),
+                               LumMessageBox::Button::Ok, reason);
+}
+
+} // namespace
+
+bool isOpen()
+{
+    return get_system_status_dictionary().integer(status::kProjectOpen) != 0;
+}
+
+ProjectPlace place()
+{
+    const IDictionary& values = get_system_status_dictionary();
+    const QString folder = lum::toQString(values.text(status::kProjectPath));
+    QString name = lum::toQString(values.text(status::kProjectName));
+    if (name.isEmpty())
+        name = folder.section(QLatin1Char('/'), -1);
+    return ProjectPlace::in(folder, name);
+}
+
+bool closeCurrent(IDesktopHost& host)
+{
+    if (!isOpen())
+        return true;
+    using Button = LumMessageBox::Button;
+    const Button answer = LumMessageBox::information(
+        host.dialogParent(), tr(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+        tr(QT_TRANSLATE_NOOP("ProjectSession", "close current project?")),
+        LumMessageBox::Buttons(Button::Yes) | Button::No);
+    if (answer != Button::Yes)
+        return false;
+    host.commands().execute(QStringLiteral("Close Project"));
+    return !isOpen();
+}
+
+bool open(IDesktopHost& host, const QString& file)
+{
+    const ProjectPlace place = ProjectPlace::ofFile(file);
+    const StoreResult result = DataProcessDataManager::instance()->openProject(place);
+    if (!result.isDone) {
+        reportFailure(host, place.file, result.message);
+        return false;
+    }
+    IEventManager& events = host.eventManager();
+    events.publish(events::kRefreshDesignLayer, nullptr, 0);
+    events.publish(events::kRefreshSurveyLayer, nullptr, 0);
+    setStatus(place);
+    RecentProjects::add(place.file);
+    events.publish(events::kUpdateSystemStatus, nullptr, 0);
+    if (!result.message.isEmpty())
+        LumMessageBox::information(host.dialogParent(),
+                                   tr(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+                                   result.message);
+    return true;
+}
+
+void setStatus(const ProjectPlace& place)
+{
+    IDictionary& values = get_system_status_dictionary();
+    values.set(status::kProjectOpen, "1");
+    values.set(status::kProjectPath, place.folder.toStdString());
+    values.set(status::kProjectName, place.name.toStdString());
+}
+
+void clearStatus()
+{
+    IDictionary& values = get_system_status_dictionary();
+    values.set(status::kProjectOpen, "0");
+    values.set(status::kProjectPath, "");
+    values.set(status::kProjectName, "");
+}
+
+} // namespace ProjectSession

@@ -1,0 +1,26 @@
+#pragma once
+
+class IDesktopHost;
+class QString;
+struct ProjectPlace;
+
+/// What the project commands share: the project that is open, as status and events tell it.
+namespace ProjectSession {
+
+[[nodiscard]] bool isOpen();
+/// The open project, from the system status.
+[[nodiscard]] ProjectPlace place();
+
+/// Asks whether the open project may be closed, and closes it.
+/// \returns whether no project is open any more
+bool closeCurrent(IDesktopHost& host);
+
+/// Opens a project file while none is open. What the user has to know of a failure
+/// or of an interrupted save stands in a message box.
+bool open(IDesktopHost& host, const QString& file);
+
+/// Sets the system status to this project.
+void setStatus(const ProjectPlace& place);
+void clearStatus();
+
+} // namespace ProjectSession

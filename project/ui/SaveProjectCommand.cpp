@@ -1,0 +1,49 @@
+#include "project/ui/SaveProjectCommand.h"
+
+#include "app/protocol/StatusKeys.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "project/DataProcessDataManager.h"
+#include "project/ProjectPlace.h"
+#include "project/ui/ProjectSession.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("SaveProjectCommand", text);
+}
+
+bool wantsToSave(IDesktopHost& host)
+{
+    using Button = LumMessageBox::Button;
+    return LumMessageBox::information(
+               host.dialogParent(), tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "information")),
+               tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "save project?")),
+               LumMessageBox::Buttons(Button::Yes) | Button::No) == Button::Yes;
+}
+
+} // namespace
+
+void SaveProjectCommand::execute()
+{
+    const IDictionary& values = get_system_status_dictionary();
+    if (!ProjectSession::isOpen() || values.text(status::kProjectPath).empty())
+        return;
+    if (!wantsToSave(host()))
+        return;
+    const StoreResult result =
+        DataProcessDataManager::instance()->saveProject(ProjectSession::place());
+    if (result.isDone)
+        LumMessageBox::information(
+            host().dialogParent(), tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "success")),
+            tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project success!")));
+    else
+        LumMessageBox::information(
+            host().dialogParent(), tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "failed")),
+            tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project failed!")),
+            LumMessageBox::Button::Ok, result.message);
+}

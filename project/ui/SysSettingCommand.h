@@ -1,0 +1,11 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ProjectCommandBase.h"
+
+/// Shows the settings of the open project.
+class SysSettingCommand final : public ProjectCommandBase
+{
+public:
+    using ProjectCommandBase::ProjectCommandBase;
+    void execute() override;
+};
