@@ -12,24 +12,28 @@ class IDictionary;
 /// Every projection uses "ellipsoid_a", "ellipsoid_f", "project_height" and, but for UTM,
 /// "org_lon", "false_east", "false_north" and "factor". Besides these:
 ///
-/// | project_type            | keys |
-/// |-------------------------|----------------------------------------------------------------------|
-/// | 1 transverse Mercator   | org_lat | | 2 UTM                   | org_lon (anywhere in the zone)
-/// and false_north only; factor 0.9996   | |                         | and false easting 500000 are
-/// its own                                 | | 3 Lambert conformal     | org_lat; parallel_1_lat,
-/// parallel_2_lat; both 0: one parallel at     | |                         | org_lat; only the
-/// second 0: both are the first                       | | 4 Mercator              | parallel_1_lat,
-/// where the scale is true before the factor            | | 5 oblique Mercator      | org_lat
-/// (centre, where the false origin is); p_r, azimuth of the     | |                         |
-/// central line, and parallel_1_lat, the angle that turns the skew grid | | | (0: as p_r); p_r 0:
-/// lat1, lon1, lat2, lon2 on the line, no org_lon   | | 6 oblique stereographic | org_lat;
-/// cutting_radius                                              | | 7 polar stereographic   | the
-/// sign of org_lat tells the pole; parallel_1_lat, where the scale  | |                         |
-/// is true (0: at the pole); cutting_radius                             | | 8 Albers equal area |
-/// org_lat, parallel_1_lat, parallel_2_lat                              | | 9 Cassini-Soldner |
-/// org_lat                                                              | | 10 polyconic | org_lat
-/// | | 11 Krovak               | org_lat; north and east axes, values negative in its country | |
-/// 12 Swiss oblique Merc.  | org_lat                                                              |
+// clang-format off
+/// | project_type            | keys besides                                                     |
+/// |-------------------------|------------------------------------------------------------------|
+/// | 1 transverse Mercator   | org_lat                                                          |
+/// | 2 UTM                   | only org_lon (anywhere in the zone) and false_north; factor      |
+/// |                         | 0.9996 and false easting 500000 are its own                      |
+/// | 3 Lambert conformal     | org_lat; parallel_1_lat, parallel_2_lat; both 0: one parallel at |
+/// |                         | org_lat; only the second 0: both are the first                   |
+/// | 4 Mercator              | parallel_1_lat, where the scale is true before the factor        |
+/// | 5 oblique Mercator      | org_lat (centre, where the false origin is); p_r, azimuth of the |
+/// |                         | central line, and parallel_1_lat, the angle that turns the skew  |
+/// |                         | grid (0: as p_r); p_r 0: lat1, lon1, lat2, lon2 on the line, no  |
+/// |                         | org_lon                                                          |
+/// | 6 oblique stereographic | org_lat; cutting_radius                                          |
+/// | 7 polar stereographic   | the sign of org_lat tells the pole; parallel_1_lat, where the    |
+/// |                         | scale is true (0: at the pole); cutting_radius                   |
+/// | 8 Albers equal area     | org_lat, parallel_1_lat, parallel_2_lat                          |
+/// | 9 Cassini-Soldner       | org_lat                                                          |
+/// | 10 polyconic            | org_lat                                                          |
+/// | 11 Krovak               | org_lat; north and east axes, values negative in its country     |
+/// | 12 Swiss oblique Merc.  | org_lat                                                          |
+// clang-format on
 ///
 /// Angles are decimal degrees, lengths metres. A "factor" of 0 counts as 1; it multiplies the plane
 /// in every projection, before the false origin is added, which is also how a system in feet is

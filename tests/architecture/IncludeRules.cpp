@@ -37,6 +37,7 @@ const Floors& floors()
         {Qt::Whole, {"platform/lum_desktop_sdkx"}},                              // interfaces
         {Qt::Whole, {"platform/lum_desktop_sdkx/dialogs"}},
         {Qt::Whole, {"platform/lum_desktop_sdkx/controls"}},
+        {Qt::Whole, {"platform/lum_desktop_sdkx/coords"}},
         {Qt::Whole, {"platform/lum_desktop_sdkx/map"}},
         {Qt::Whole, {"platform/lum_desktop_sdkx/frame"}},
         {Qt::Whole, {"project/ui", "exchange/ui", "quality/ui", "design/ui", "map/ui", "views/ui"}},

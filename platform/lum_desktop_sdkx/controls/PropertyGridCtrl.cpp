@@ -98,6 +98,32 @@ bool PropertyGridCtrl::hasFaults()
     return m_model->hasFaults();
 }
 
+void PropertyGridCtrl::markRow(const QString& key, const QString& message)
+{
+    m_model->mark(key, message);
+}
+
+void PropertyGridCtrl::goToFault()
+{
+    const QModelIndex cell = m_model->firstFault();
+    if (!cell.isValid())
+        return;
+    m_view->expand(cell.parent());
+    m_view->setCurrentIndex(cell);
+    m_view->scrollTo(cell);
+    m_view->setFocus();
+}
+
+void PropertyGridCtrl::setRowCaption(const QString& key, const QString& caption)
+{
+    m_model->setCaption(key, caption);
+}
+
+void PropertyGridCtrl::setRowUnit(const QString& key, const QString& unit)
+{
+    m_model->setUnit(key, unit);
+}
+
 void PropertyGridCtrl::setResizeMode(ResizeMode mode)
 {
     QHeaderView* const header = m_view->header();

@@ -47,6 +47,17 @@ public:
     /// True while a bad value stands in a row; takes the open editor's text first.
     [[nodiscard]] bool hasFaults();
 
+    /// Marks a row whose value is bad for a reason that only the owner knows; the mark made before
+    /// goes. It counts as a fault until it is taken off, by an empty key, or the value is edited.
+    void markRow(const QString& key, const QString& message);
+
+    /// Selects the topmost bad value and scrolls to it.
+    void goToFault();
+
+    /// Caption and unit in place of those of the control file, in the user's language.
+    void setRowCaption(const QString& key, const QString& caption);
+    void setRowUnit(const QString& key, const QString& unit);
+
     void setResizeMode(ResizeMode mode);
     void setHeaderVisible(bool visible);
 

@@ -63,6 +63,47 @@ void PropertyGridModel::dropFault(const QString& key)
         tellChanged(indexOfKey(key));
 }
 
+void PropertyGridModel::mark(const QString& key, const QString& message)
+{
+    const QStringList keys = m_faults.keys();
+    for (const QString& marked : keys) {
+        if (m_faults.value(marked).isMark)
+            dropFault(marked);
+    }
+    const QModelIndex cell = indexOfKey(key);
+    if (!cell.isValid() || m_faults.contains(key))
+        return;
+    m_faults.insert(key, {{}, message, true});
+    tellChanged(cell);
+}
+
+QModelIndex PropertyGridModel::firstFault() const
+{
+    for (const PropertyGridGroup& group : m_layout.groups) {
+        for (const PropertyGridRow& row : group.rows) {
+            if (m_faults.contains(row.key))
+                return indexOfKey(row.key);
+        }
+    }
+    return {};
+}
+
+void PropertyGridModel::setCaption(const QString& key, const QString& caption)
+{
+    if (PropertyGridRow* const row = rowOfKey(key); row != nullptr && row->caption != caption) {
+        row->caption = caption;
+        tellChanged(indexOfKey(key));
+    }
+}
+
+void PropertyGridModel::setUnit(const QString& key, const QString& unit)
+{
+    if (PropertyGridRow* const row = rowOfKey(key); row != nullptr && row->unit != unit) {
+        row->unit = unit;
+        tellChanged(indexOfKey(key));
+    }
+}
+
 QModelIndex PropertyGridModel::indexOfKey(const QString& key) const
 {
     for (int g = 0; g < rowCount(); ++g) {
@@ -198,9 +239,19 @@ QString PropertyGridModel::value(const PropertyGridRow& row) const
 
 QString PropertyGridModel::shownOrTyped(const PropertyGridRow& row, bool shown) const
 {
-    if (const auto fault = m_faults.constFind(row.key); fault != m_faults.constEnd())
+    const auto fault = m_faults.constFind(row.key);
+    if (fault != m_faults.constEnd() && !fault->isMark)
         return fault->typed;
     return shown ? shownPropertyGridValue(row, value(row)) : value(row);
+}
+
+PropertyGridRow* PropertyGridModel::rowOfKey(const QString& key)
+{
+    const QModelIndex cell = indexOfKey(key);
+    if (!cell.isValid())
+        return nullptr;
+    auto& group = m_layout.groups[static_cast<std::size_t>(cell.parent().row())];
+    return &group.rows[static_cast<std::size_t>(cell.row())];
 }
 
 /// Marks a stored value that a user could not have entered. An empty one was never filled in.
@@ -212,7 +263,7 @@ void PropertyGridModel::judge(const PropertyGridRow& row)
         return;
     const QString message = propertyGridFault(row, stored);
     if (!message.isEmpty())
-        m_faults.insert(row.key, {stored, message});
+        m_faults.insert(row.key, {stored, message, false});
 }
 
 bool PropertyGridModel::enter(const QModelIndex& index, const QString& typed)
@@ -222,7 +273,7 @@ bool PropertyGridModel::enter(const QModelIndex& index, const QString& typed)
         return false; // an editor that was opened and left must not store anything
     const auto [entered, message] = readPropertyGridInput(at, typed);
     if (!message.isEmpty()) {
-        m_faults.insert(at.key, {typed, message});
+        m_faults.insert(at.key, {typed, message, false});
         tellChanged(index);
         return true;
     }

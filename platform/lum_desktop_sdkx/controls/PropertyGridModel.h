@@ -37,6 +37,16 @@ public:
     [[nodiscard]] bool hasFaults() const { return !m_faults.isEmpty(); }
     void dropFault(const QString& key);
 
+    /// Marks the value of a row as bad for a reason that its layout does not know, in place of the
+    /// mark made before; what was typed wrongly into the row goes first. An unknown key marks none.
+    void mark(const QString& key, const QString& message);
+
+    /// The value cell of the topmost bad value; invalid when there is none.
+    [[nodiscard]] QModelIndex firstFault() const;
+
+    void setCaption(const QString& key, const QString& caption);
+    void setUnit(const QString& key, const QString& unit);
+
     /// The value cell of a row; invalid when no row has this key.
     [[nodiscard]] QModelIndex indexOfKey(const QString& key) const;
 
@@ -65,11 +75,13 @@ private:
     {
         QString typed;
         QString message;
+        bool isMark = false;
     };
 
     [[nodiscard]] QString value(const PropertyGridRow& row) const;
     [[nodiscard]] QString shownOrTyped(const PropertyGridRow& row, bool shown) const;
     [[nodiscard]] QVariant valueData(const PropertyGridRow& row, int role) const;
+    [[nodiscard]] PropertyGridRow* rowOfKey(const QString& key);
     void judge(const PropertyGridRow& row);
     bool enter(const QModelIndex& index, const QString& typed);
     void tellChanged(const QModelIndex& index);

@@ -1,0 +1,185 @@
+#include "lum_desktop_sdkx/coords/CoordSystemPanel.h"
+
+#include "basalt_utilities/Paths.h"
+#include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
+#include "lum_desktop_sdkx/coords/CoordSystemRows.h"
+#include "lum_desktop_sdkx/coords/CoordSystemSearch.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_sdk/CoordCheck.h"
+#include "lum_sdk/DpiScale.h"
+#include "lum_sdk/EpsgSystem.h"
+#include "lum_sdk/Text.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr const char* kControlFile =
+    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/CoordSystem.xml";
+constexpr const char* kId = "coord_param_id";
+constexpr const char* kUndefinedId = "Undefined";
+constexpr const char* kRegister = "EPSG:";
+
+QString id(const IDictionary& parameters)
+{
+    return lum::toQString(parameters.text(kId, kUndefinedId));
+}
+
+QLabel* makeText(QWidget* parent)
+{
+    auto* const label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+/// Red that can be read on the window's own colour.
+QPalette faultPalette(QPalette palette)
+{
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    palette.setColor(QPalette::WindowText,
+                     isDark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x1e, 0x1e));
+    return palette;
+}
+
+} // namespace
+
+CoordSystemPanel::CoordSystemPanel(QWidget* parent)
+    : QWidget(parent), m_search(new CoordSystemSearch(this)), m_identity(makeText(this)),
+      m_grid(new PropertyGridCtrl(this)), m_fault(makeText(this))
+{
+    m_grid->setResizeMode(PropertyGridCtrl::ResizeMode::Stretch);
+    m_grid->setHeaderVisible(false);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(dpi_scaled(6));
+    layout->addWidget(m_search);
+    layout->addWidget(m_identity);
+    layout->addWidget(m_grid, 1);
+    layout->addWidget(m_fault);
+    setFocusProxy(m_search);
+
+    connect(m_search, &CoordSystemSearch::chosen, this, &CoordSystemPanel::choose);
+    connect(m_grid, &PropertyGridCtrl::valueChanged, this, &CoordSystemPanel::takeEdit);
+    setParameters(basalt::Dictionary());
+}
+
+void CoordSystemPanel::setParameters(const IDictionary& parameters)
+{
+    show(parameters);
+    showIdentity();
+}
+
+basalt::Dictionary CoordSystemPanel::parameters()
+{
+    basalt::Dictionary result = m_grid->getData();
+    CoordSystemRows::dropPivot(result);
+    dic_set_value(result, kId, id(result).toStdString());
+    return result;
+}
+
+bool CoordSystemPanel::hasFaults()
+{
+    return m_grid->hasFaults() || !m_isUsable; // the grid first: it takes the open editor's text
+}
+
+void CoordSystemPanel::goToFault()
+{
+    m_grid->goToFault();
+}
+
+void CoordSystemPanel::choose(const QString& code, const QString& name)
+{
+    basalt::Dictionary filled = m_grid->getData();
+    const std::string reason = fillFromEpsg(code.toStdString(), filled);
+    if (!reason.empty()) {
+        LumMessageBox::warning(this, tr("Coordinate System"), lum::toQString(reason));
+        return;
+    }
+    filled.set(kId, kRegister + code.toStdString());
+    show(filled);
+    showIdentity(name);
+    Q_EMIT changed();
+}
+
+void CoordSystemPanel::takeEdit(const QString& key, const QString& value)
+{
+    followEllipsoid(key, value);
+    m_grid->setValue(QLatin1String(kId), QLatin1String(kUndefinedId));
+    showRows();
+    judge();
+    showIdentity();
+    Q_EMIT changed();
+}
+
+/// Keeps name, axis and flattening of the ellipsoid in step.
+void CoordSystemPanel::followEllipsoid(const QString& editedKey, const QString& value)
+{
+    const QString nameKey = QStringLiteral("ellipsoid_name");
+    const QStringList figures{QStringLiteral("ellipsoid_a"), QStringLiteral("ellipsoid_f")};
+    basalt::Dictionary ellipsoid;
+    if (editedKey == nameKey && CoordSystemRows::fillEllipsoid(value.toStdString(), ellipsoid)) {
+        for (const QString& key : figures)
+            m_grid->setValue(key, lum::toQString(ellipsoid.text(key.toStdString())));
+    } else if (figures.contains(editedKey)) {
+        m_grid->setValue(nameKey, CoordSystemRows::ellipsoidName(m_grid->getData()));
+    }
+}
+
+void CoordSystemPanel::show(const IDictionary& parameters)
+{
+    const QString file = QString::fromStdString(basalt::resolvedPath(kControlFile));
+    if (!m_grid->init(file, parameters)) {
+        for (std::size_t i = 0; i < parameters.size(); ++i) // shown or not, nothing is lost
+            m_grid->setValue(lum::toQString(parameters.keyAt(i)),
+                             lum::toQString(parameters.valueAt(i)));
+    }
+    showRows();
+    judge();
+}
+
+void CoordSystemPanel::showRows()
+{
+    const basalt::Dictionary values = m_grid->getData();
+    for (const auto& [key, isShown] : CoordSystemRows::visibilities(values))
+        m_grid->setRowVisible(key, isShown);
+    m_grid->setRowCaption(QStringLiteral("parallel_1_lat"),
+                          CoordSystemRows::firstParallelCaption(values));
+    for (const QString& key : CoordSystemRows::planeLengths())
+        m_grid->setRowUnit(key, CoordSystemRows::planeUnit(values));
+}
+
+void CoordSystemPanel::judge()
+{
+    const basalt::Dictionary values = m_grid->getData();
+    lum::CoordParameterFault fault;
+    if (CoordSystemRows::isSet(values))
+        fault = lum::checkCoordParameters(values);
+    const QString key = lum::toQString(fault.key);
+    const QString message = lum::toQString(fault.message);
+    m_isUsable = !fault;
+    if (fault)
+        m_grid->setRowVisible(key, true); // what is wrong must be within reach
+    m_grid->markRow(key, message);
+    m_fault->setText(message);
+    m_fault->setPalette(faultPalette(palette()));
+    m_fault->setVisible(!m_isUsable);
+}
+
+/// \param name  of the system in the register, when it is at hand
+void CoordSystemPanel::showIdentity(const QString& name)
+{
+    const basalt::Dictionary values = m_grid->getData();
+    const QString current = id(values);
+    if (!CoordSystemRows::isSet(values))
+        m_identity->setText(tr("No coordinate system is set. Search for one, or choose ellipsoid "
+                               "and projection."));
+    else if (current == QLatin1String(kUndefinedId))
+        m_identity->setText(tr("The coordinate system is defined by the parameters below."));
+    else
+        m_identity->setText(name.isEmpty() ? current
+                                           : QStringLiteral("%1   %2").arg(current, name));
+}

@@ -1,0 +1,129 @@
+#include "lum_desktop_sdkx/coords/CoordSystemSearch.h"
+
+#include "lum_desktop_sdkx/coords/CoordSystemTable.h"
+#include "lum_sdk/DpiScale.h"
+#include "lum_sdk/Text.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMostRows = 8;
+constexpr int kNameWidth = 260;
+
+} // namespace
+
+CoordSystemSearch::CoordSystemSearch(QWidget* parent)
+    : QWidget(parent), m_found(new CoordSystemTable(this)), m_field(new QLineEdit(this)),
+      m_list(new QTreeView(this)), m_nothing(new QLabel(this))
+{
+    m_field->setPlaceholderText(tr("EPSG code or name"));
+    m_field->setToolTip(tr("Search the EPSG register by code or by words of the name or area, such "
+                           "as \"32650\" or \"Beijing 1954 117E\"."));
+    m_field->setClearButtonEnabled(true);
+    m_field->addAction(QIcon::fromTheme(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
+    m_field->installEventFilter(this);
+    setFocusProxy(m_field);
+    makeList();
+    m_nothing->setText(tr("No coordinate system has this code or name."));
+    m_nothing->setWordWrap(true);
+    m_nothing->hide();
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(dpi_scaled(4));
+    layout->addWidget(m_field);
+    layout->addWidget(m_list);
+    layout->addWidget(m_nothing);
+    connect(m_field, &QLineEdit::textChanged, this, &CoordSystemSearch::find);
+}
+
+CoordSystemSearch::~CoordSystemSearch() = default;
+
+void CoordSystemSearch::makeList()
+{
+    m_list->setModel(m_found);
+    m_list->setHeaderHidden(true);
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->setFocusPolicy(Qt::NoFocus); // the field keeps the keys
+    m_list->setTextElideMode(Qt::ElideRight);
+    m_list->header()->setSectionResizeMode(CoordSystemTable::Code, QHeaderView::ResizeToContents);
+    m_list->header()->resizeSection(CoordSystemTable::Name, dpi_scaled(kNameWidth));
+    m_list->hide();
+    connect(m_list, &QTreeView::clicked, this, &CoordSystemSearch::choose);
+}
+
+void CoordSystemSearch::find(const QString& text)
+{
+    const QString wanted = text.trimmed();
+    if (m_catalog == nullptr && !wanted.isEmpty()) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        m_catalog = std::make_unique<CoordSystemCatalog>();
+        QApplication::restoreOverrideCursor();
+    }
+    m_found->setEntries(wanted.isEmpty() ? std::vector<const CoordSystemEntry*>()
+                                         : m_catalog->search(wanted.toStdString()));
+    const int rows = m_found->rowCount();
+    m_list->setVisible(rows > 0);
+    m_nothing->setVisible(rows == 0 && !wanted.isEmpty());
+    if (rows == 0)
+        return;
+    m_list->setCurrentIndex(m_found->index(0, 0));
+    m_list->scrollToTop();
+    m_list->setFixedHeight(std::min(rows, kMostRows) * m_list->sizeHintForRow(0) +
+                           2 * m_list->frameWidth());
+}
+
+void CoordSystemSearch::choose(const QModelIndex& index)
+{
+    const CoordSystemEntry* const entry = m_found->entry(index);
+    if (entry == nullptr)
+        return;
+    const QString code = lum::toQString(entry->code);
+    const QString name = lum::toQString(entry->name);
+    m_field->clear();
+    Q_EMIT chosen(code, name);
+}
+
+bool CoordSystemSearch::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_field && event->type() == QEvent::KeyPress &&
+        handleKey(static_cast<QKeyEvent&>(*event)))
+        return true;
+    return QWidget::eventFilter(watched, event);
+}
+
+/// True when the key was meant for the list and not for the text.
+bool CoordSystemSearch::handleKey(QKeyEvent& event)
+{
+    if (m_field->text().isEmpty())
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        QApplication::sendEvent(m_list, &event);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        choose(m_list->currentIndex());
+        return true; // a dialog around must not take it for its OK
+    case Qt::Key_Escape:
+        m_field->clear();
+        return true;
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+class CoordSystemCatalog;
+class CoordSystemTable;
+class QLabel;
+class QLineEdit;
+class QTreeView;
+
+/// A search of the EPSG register as one types: a field, and below it what was found.
+///
+/// The arrow keys walk the list, Enter or a click chooses, Escape drops the search. The register is
+/// read at the first search.
+class CoordSystemSearch : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CoordSystemSearch(QWidget* parent = nullptr);
+    ~CoordSystemSearch() override;
+
+Q_SIGNALS:
+    /// \param code  such as "32650"
+    void chosen(const QString& code, const QString& name);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void makeList();
+    void find(const QString& text);
+    void choose(const QModelIndex& index);
+    [[nodiscard]] bool handleKey(QKeyEvent& event);
+
+    std::unique_ptr<CoordSystemCatalog> m_catalog; ///< null before the first search
+    CoordSystemTable* m_found;
+    QLineEdit* m_field;
+    QTreeView* m_list;
+    QLabel* m_nothing;
+};

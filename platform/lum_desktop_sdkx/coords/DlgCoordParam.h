@@ -1,0 +1,23 @@
+#pragma once
+
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/dialogs/Dialog.h"
+
+class CoordSystemPanel;
+
+/// Asks for a coordinate system. OK is refused, and goes to the bad value, while there is one.
+class DlgCoordParam : public Dialog
+{
+    Q_OBJECT
+
+public:
+    DlgCoordParam(QWidget* parent, const IDictionary& parameters);
+
+    /// As `CoordSystemPanel::parameters`.
+    [[nodiscard]] basalt::Dictionary parameters();
+
+    void accept() override;
+
+private:
+    CoordSystemPanel* m_panel;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+class IDictionary;
+
+namespace lum {
+
+/// What keeps a parameter dictionary from describing a coordinate system.
+struct CoordParameterFault
+{
+    std::string key;     ///< the parameter at fault
+    std::string message; ///< a sentence in the user's language, UTF-8; empty when all is well
+
+    explicit operator bool() const { return !message.empty(); }
+};
+
+/// Sets the whole system up as the coordinate service would, geoid file included, and tells the
+/// first fault.
+[[nodiscard]] CoordParameterFault checkCoordParameters(const IDictionary& parameters);
+
+} // namespace lum
