@@ -56,9 +56,10 @@ DataProcessDataManager* DataProcessDataManager::instance()
     return managerInUse;
 }
 
-StoreResult DataProcessDataManager::openProject(const ProjectPlace& place)
+StoreResult DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAccess access)
 {
-    const StoreResult lock = m_lock.take(place);
+    const StoreResult lock =
+        access == ProjectAccess::Change ? m_lock.take(place) : StoreResult{true, {}};
     if (!lock.isDone)
         return lock;
     StoreResult result = read(place);

@@ -13,6 +13,13 @@
 class IHost;
 struct ProjectPlace;
 
+/// What a project is opened for.
+enum class ProjectAccess
+{
+    Change,
+    Look ///< also while another program has it
+};
+
 /// The store of the open project.
 ///
 /// The assistant makes one at start and ends it when the application closes; everybody else
@@ -31,10 +38,11 @@ public:
     /// thread only: what paints on a worker works on a copy that was made here.
     [[nodiscard]] static DataProcessDataManager* instance();
 
-    /// Takes the project for this program alone, and reads its parameter files, its database and
+    /// Takes the project for this program alone, unless it is only looked at, and reads its parameter files, its database and
     /// its project file. When a parameter file cannot be read the parameters stay as they were; a
     /// project file that cannot be read is passed over.
-    StoreResult openProject(const ProjectPlace& place);
+    StoreResult openProject(const ProjectPlace& place,
+                            ProjectAccess access = ProjectAccess::Change);
     /// Writes them all, and the design parameters as the start of the next new project.
     StoreResult saveProject(const ProjectPlace& place);
     /// Whether the last `saveProject` failed, so that more is in memory than on the disk.

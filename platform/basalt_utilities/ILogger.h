@@ -34,6 +34,9 @@ void logInfo(std::string_view line);
 void logWarning(std::string_view line);
 void logError(std::string_view line);
 
+/// From here on the log is the file alone: for tools whose standard error is an answer.
+void keepLogOffConsole();
+
 /// Somebody who wants each line as it is written (the message window, a test). Called under a lock
 /// from the writing thread; must not write to the log itself. Null takes it away.
 using LogListener = void (*)(void* context, ILogger::Level level, std::string_view line);

@@ -38,10 +38,9 @@ public:
     Logger()
     {
         const auto sinks = std::make_shared<spdlog::sinks::dup_filter_sink_mt>(kRepeatWindow);
-        const auto console = std::make_shared<spdlog::sinks::stderr_sink_mt>();
-        console->set_level(spdlog::level::warn);
-        console->set_pattern("%l: %v");
-        sinks->add_sink(console);
+        m_console->set_level(spdlog::level::warn);
+        m_console->set_pattern("%l: %v");
+        sinks->add_sink(m_console);
         std::string problem;
         try {
             const std::string path = basalt::stateFolder() + "/skyquill.log";
@@ -70,6 +69,8 @@ public:
 
     void flush() override { m_logger->flush(); }
 
+    void keepOffConsole() { m_console->set_level(spdlog::level::off); }
+
     void setListener(basalt::LogListener listener, void* context)
     {
         const std::lock_guard lock(m_listenerMutex);
@@ -78,6 +79,8 @@ public:
     }
 
 private:
+    std::shared_ptr<spdlog::sinks::stderr_sink_mt> m_console =
+        std::make_shared<spdlog::sinks::stderr_sink_mt>();
     std::unique_ptr<spdlog::logger> m_logger;
     std::mutex m_listenerMutex;
     basalt::LogListener m_listener = nullptr;
@@ -118,6 +121,11 @@ void logWarning(std::string_view line)
 void logError(std::string_view line)
 {
     logger().write(ILogger::Level::Error, line);
+}
+
+void keepLogOffConsole()
+{
+    logger().keepOffConsole();
 }
 
 void setLogListener(LogListener listener, void* context)

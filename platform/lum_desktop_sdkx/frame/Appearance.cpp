@@ -4,12 +4,9 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QPalette>
 #include <QString>
 #include <QStyleFactory>
-#include <QTranslator>
 
 namespace {
 
@@ -47,16 +44,6 @@ bool isDark(const QPalette& palette)
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
-void install(const QString& file, const QString& folder, const QLocale& locale)
-{
-    auto* const translator = new QTranslator(qApp);
-    if (translator->load(locale, file, QStringLiteral("_"), folder))
-        QApplication::installTranslator(translator);
-    else
-        basalt::logInfo("No texts in " + locale.name().toStdString() + ": " +
-                        (folder + QLatin1Char('/') + file).toStdString());
-}
-
 } // namespace
 
 namespace desktop {
@@ -72,16 +59,6 @@ void applyAppearance(const QString& theme)
     QIcon::setThemeName(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
     if (!QIcon::hasThemeIcon(QStringLiteral("document-open")))
         basalt::logWarning("The Breeze icon theme is missing: menus show no icons");
-}
-
-void loadTranslations(const QString& language, const QString& folder)
-{
-    const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
-    if (locale.language() == QLocale::English)
-        return; // the texts in the code
-    install(QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath),
-            locale);
-    install(QStringLiteral("skyquill"), folder, locale);
 }
 
 } // namespace desktop

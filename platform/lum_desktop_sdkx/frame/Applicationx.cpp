@@ -14,6 +14,7 @@
 #include "lum_sdk/ICoordTransform.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
+#include "lum_sdk/Translations.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -125,7 +126,7 @@ MainFrame& Applicationx::mainFrame()
             const std::string_view text = get_system_ini_parameter().dictionary().text(key);
             return lum::toQString(text);
         };
-        desktop::loadTranslations(setting(settings::kLanguage),
+        lum::loadTranslations(setting(settings::kLanguage),
                                   m_configFolder + QStringLiteral("/Language"));
         desktop::applyAppearance(setting(settings::kTheme));
         m_mainFrame = std::make_unique<MainFrame>(

@@ -1,0 +1,76 @@
+#include "app/cli/CliCommands.h"
+
+#include "app/cli/CreateProject.h"
+#include "app/cli/ProjectInfo.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// clang-format off
+constexpr std::array kCommands{
+    CliCommand{"new",  "DIR NAME [--epsg CODE | --set key=value ...]",
+               "make a project in a folder NAME of DIR, print its project file",
+               2, "--epsg,--set", "", createProject},
+    CliCommand{"info", "PROJECT",
+               "print what is in a project, a \"key: value\" line each",
+               1, "", "", printProjectInfo},
+};
+// clang-format on
+
+QStringList split(const char* names)
+{
+    return QString::fromLatin1(names).split(QLatin1Char(','), Qt::SkipEmptyParts);
+}
+
+QString usageOf(const CliCommand& command)
+{
+    return QStringLiteral("skyquill-cli %1 %2")
+        .arg(QLatin1String(command.name), QLatin1String(command.usage));
+}
+
+CliResult run(const CliCommand& command, const QStringList& texts)
+{
+    CliArguments arguments;
+    QString fault =
+        CliArguments::read(texts, split(command.options), split(command.flags), arguments);
+    if (fault.isEmpty() && arguments.places.size() != command.placeCount)
+        fault = QStringLiteral("%1 takes %2 arguments, not %3")
+                    .arg(QLatin1String(command.name))
+                    .arg(command.placeCount)
+                    .arg(arguments.places.size());
+    if (!fault.isEmpty())
+        return CliResult::wrongUsage(fault + QStringLiteral("; usage: ") + usageOf(command));
+    return command.run(arguments);
+}
+
+} // namespace
+
+std::span<const CliCommand> cliCommands()
+{
+    return kCommands;
+}
+
+CliResult runCli(const QStringList& arguments)
+{
+    if (arguments.isEmpty())
+        return CliResult::wrongUsage(QStringLiteral("no command; see skyquill-cli --help"));
+    const auto found = std::find_if(kCommands.begin(), kCommands.end(), [&](const auto& command) {
+        return arguments[0] == QLatin1String(command.name);
+    });
+    if (found == kCommands.end())
+        return CliResult::wrongUsage(
+            QStringLiteral("unknown command \"%1\"; see skyquill-cli --help").arg(arguments[0]));
+    return run(*found, arguments.mid(1));
+}
+
+QString cliHelp()
+{
+    QString text = QStringLiteral("Stake-out data of land seismic surveys, without a window.\n\n");
+    for (const CliCommand& command : kCommands)
+        text += QStringLiteral("  %1\n      %2\n")
+                    .arg(usageOf(command), QLatin1String(command.summary));
+    return text + QStringLiteral("\nPROJECT is a project file. The exit status is 0 when all is "
+                                 "done, 1 after a failure, 2 for wrong usage.\n");
+}

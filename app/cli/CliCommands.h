@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/cli/CliArguments.h"
+
+#include <span>
+
+/// How a command ended: its exit status, and what the user has to know when it is not 0.
+struct CliResult
+{
+    static constexpr int kDone = 0;
+    static constexpr int kFailed = 1;
+    static constexpr int kWrongUsage = 2;
+
+    int status = kDone;
+    QString message;
+
+    [[nodiscard]] static CliResult failed(const QString& message) { return {kFailed, message}; }
+    [[nodiscard]] static CliResult wrongUsage(const QString& message)
+    {
+        return {kWrongUsage, message};
+    }
+};
+
+/// One command of the tool.
+struct CliCommand
+{
+    const char* name;
+    const char* usage;   ///< what stands behind the name
+    const char* summary; ///< half a sentence
+    int placeCount;      ///< how many arguments it takes besides its options
+    const char* options; ///< with a value, comma-separated
+    const char* flags;   ///< without one
+    CliResult (*run)(const CliArguments& arguments);
+};
+
+[[nodiscard]] std::span<const CliCommand> cliCommands();
+
+/// Runs what the command line names.
+[[nodiscard]] CliResult runCli(const QStringList& arguments);
+
+/// The text of "--help".
+[[nodiscard]] QString cliHelp();

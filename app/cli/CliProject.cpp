@@ -1,0 +1,52 @@
+#include "app/cli/CliProject.h"
+
+#include "app/protocol/Events.h"
+#include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/KeyList.h"
+#include "lum_sdk/Text.h"
+
+#include <QFileInfo>
+
+#include <unistd.h>
+
+#include <cstdio>
+
+CliProject::CliProject()
+    : m_manager(&m_host), m_subscription(*this, events::kProgress, m_host.eventManager())
+{
+}
+
+QString CliProject::open(const QString& file, ProjectAccess access)
+{
+    if (!QFileInfo(file).isFile())
+        return QStringLiteral("There is no project file \"%1\".").arg(file);
+    m_place = ProjectPlace::ofFile(file);
+    const StoreResult result = m_manager.openProject(m_place, access);
+    if (result.isDone && !result.message.isEmpty())
+        std::fprintf(stderr, "%s\n", qUtf8Printable(result.message));
+    return result.isDone ? QString() : result.message;
+}
+
+QString CliProject::save()
+{
+    const StoreResult result = m_manager.saveProject(m_place);
+    return result.isDone ? QString() : result.message;
+}
+
+void CliProject::handleEvent(const char* /*eventName*/, const char* payload, int /*reserved*/)
+{
+    static const bool isTerminal = isatty(STDERR_FILENO) != 0;
+    if (!isTerminal)
+        return;
+    basalt::Dictionary values;
+    csa_to_dictionary(values, payload);
+    const bool isOver = values.integer("show", 1) == 0;
+    const QString line = isOver ? QString()
+                                : QStringLiteral("%1 %2 %")
+                                      .arg(lum::toQString(values.text("text")))
+                                      .arg(static_cast<int>(values.number("value")));
+    if (line == m_shown)
+        return;
+    std::fprintf(stderr, "\r\x1b[K%s", qUtf8Printable(line));
+    m_shown = line;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/protocol/EventSubscription.h"
+#include "lum_sdk/Host.h"
+#include "lum_sdk/IEventManager.h"
+#include "project/DataProcessDataManager.h"
+#include "project/ProjectPlace.h"
+
+/// A project that a command works on. Progress goes to standard error when that is a terminal.
+class CliProject final : public IEventHandler
+{
+public:
+    CliProject();
+
+    /// \returns an empty text, or why it failed
+    [[nodiscard]] QString open(const QString& file, ProjectAccess access);
+    [[nodiscard]] QString save();
+
+    [[nodiscard]] DataProcessDataManager& manager() { return m_manager; }
+    [[nodiscard]] const ProjectPlace& place() const { return m_place; }
+
+    void handleEvent(const char* eventName, const char* payload, int reserved) override;
+
+private:
+    Host m_host;
+    DataProcessDataManager m_manager;
+    EventSubscription m_subscription;
+    ProjectPlace m_place;
+    QString m_shown; ///< the progress line on the terminal
+};

@@ -1,0 +1,79 @@
+#include "app/cli/CreateProject.h"
+
+#include "app/cli/CliCommands.h"
+#include "basalt_utilities/Dictionary.h"
+#include "lum_sdk/CoordCheck.h"
+#include "lum_sdk/EpsgSystem.h"
+#include "lum_sdk/Text.h"
+#include "project/model/CoordinateRecord.h"
+#include "project/ProjectCreator.h"
+#include "project/ProjectPlace.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace {
+
+/// \returns an empty text, or why the system cannot be taken
+QString setParameters(const QStringList& pairs, IDictionary& project)
+{
+    static const QStringList known =
+        QString::fromLatin1(CoordinateRecord::kKeys).split(QLatin1Char(','));
+    for (const QString& pair : pairs) {
+        const QString key = pair.section(QLatin1Char('='), 0, 0);
+        if (!known.contains(key))
+            return QStringLiteral("There is no coordinate parameter \"%1\".").arg(key);
+        project.set(key.toStdString(), pair.section(QLatin1Char('='), 1).toStdString());
+    }
+    return QString::fromStdString(lum::checkCoordParameters(project).message);
+}
+
+QString chooseSystem(const CliArguments& arguments, IDictionary& project)
+{
+    QString code = arguments.option(QStringLiteral("--epsg"));
+    if (code.startsWith(QLatin1String("EPSG:"), Qt::CaseInsensitive))
+        code.remove(0, 5);
+    if (!code.isEmpty()) {
+        const std::string fault = fillFromEpsg(code.toStdString(), project);
+        if (!fault.empty())
+            return QString::fromStdString(fault);
+        project.set(CoordinateRecord::kId, "EPSG:" + code.toStdString());
+        return {};
+    }
+    const QStringList pairs = arguments.options.value(QStringLiteral("--set"));
+    return pairs.isEmpty() ? QString() : setParameters(pairs, project);
+}
+
+} // namespace
+
+CliResult createProject(const CliArguments& arguments)
+{
+    if (arguments.options.size() > 1)
+        return CliResult::wrongUsage(QStringLiteral("--epsg and --set exclude each other"));
+    const QString location = QFileInfo(arguments.places[0]).absoluteFilePath();
+    const QString& name = arguments.places[1];
+    QString fault = projectLocationFault(location);
+    if (fault.isEmpty())
+        fault = projectNameFault(name);
+    if (!fault.isEmpty())
+        return CliResult::failed(fault);
+    const ProjectPlace place = ProjectPlace::planned(QDir::cleanPath(location), name);
+    if (QFileInfo::exists(place.file) || QFileInfo::exists(place.database()))
+        return CliResult::failed(
+            QStringLiteral("There is a project in \"%1\" already.").arg(place.folder));
+    basalt::Dictionary project;
+    ProjectCreator::describe(place, project);
+    fault = chooseSystem(arguments, project);
+    if (!fault.isEmpty())
+        return CliResult::failed(fault);
+    if (!QDir().mkpath(place.folder))
+        return CliResult::failed(
+            QStringLiteral("The folder \"%1\" cannot be made.").arg(place.folder));
+    fault = ProjectCreator::create(place, project);
+    if (!fault.isEmpty())
+        return CliResult::failed(fault);
+    std::printf("%s\n", qUtf8Printable(place.file));
+    return {};
+}

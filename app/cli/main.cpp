@@ -1,0 +1,58 @@
+// skyquill-cli: the program's work without a window, for scripts and nightly checks.
+
+#include "app/cli/CliCommands.h"
+#include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/ILogger.h"
+#include "basalt_utilities/Paths.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
+#include "lum_sdk/Translations.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+#include <cstdio>
+
+namespace {
+
+constexpr const char* kConfig = "$(APP_DIR)/../etc/Tarvona/config/Skyquill";
+constexpr const char* kTool = "/Tool/DataProcess5/data_process_5";
+
+/// The configuration and the settings that the program with the window has.
+void readConfiguration()
+{
+    const std::string folder = basalt::resolvedPath(kConfig);
+    get_system_config_parameter().load(folder + kTool + ".xml");
+    get_system_ini_parameter().load(folder + kTool + ".sys");
+    const auto language = get_system_ini_parameter().dictionary().text(settings::kLanguage);
+    lum::loadTranslations(lum::toQString(language), QString::fromStdString(folder + "/Language"));
+}
+
+int report(const CliResult& result)
+{
+    if (result.status != CliResult::kDone)
+        std::fprintf(stderr, "skyquill-cli: %s\n", qUtf8Printable(result.message));
+    return result.status;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also where it is "C"
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Tarvona"));
+    QCoreApplication::setApplicationName(QStringLiteral("Skyquill"));
+    basalt::keepLogOffConsole(); // what the user has to know is one line of ours
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.value(0) == QLatin1String("--help")) {
+        std::printf("%s", qUtf8Printable(cliHelp()));
+        return CliResult::kDone;
+    }
+    readConfiguration();
+    try {
+        return report(runCli(arguments));
+    } catch (const std::exception& fault) {
+        return report(CliResult::failed(QString::fromUtf8(fault.what())));
+    }
+}
