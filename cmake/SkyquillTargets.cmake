@@ -5,6 +5,7 @@ target_compile_options(skyquill_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef
     $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override -Wduplicated-cond -Wlogical-op>
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> # GCC 12 sees overlaps in std::string that are not there
     $<$<BOOL:${SKYQUILL_WERROR}>:-Werror>)
 # Qt wants position-independent code; calls between our own functions may be inlined all the same.
 target_compile_options(skyquill_warnings INTERFACE -fno-semantic-interposition)

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <optional>
 
@@ -87,6 +88,9 @@ int parseInteger(std::string_view text)
 
 std::string formatShortest(double value)
 {
+    const double magnitude = std::fabs(value);
+    if (magnitude >= 1e-6 && magnitude < 1e15)
+        return format(value, std::chars_format::fixed); // 500000 rather than 5e+05
     return format(value);
 }
 

@@ -93,6 +93,7 @@ QWidget* DlgProjectSet::makeGeneralPage()
     m_general = new PropertyGridCtrl(this);
     m_general->init(QString::fromStdString(basalt::resolvedPath(kControlXml)), values);
     m_general->setHeaderVisible(false);
+    m_general->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);
     return m_general;
 }
 
