@@ -109,6 +109,16 @@ QString propertyGridFault(const PropertyGridRow& row, const QString& value)
     return !isNumeric(row) || isInRange(row, value) ? QString() : wantedNumber(row);
 }
 
+QString withoutExponent(const PropertyGridRow& row, const QString& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    const bool isPlain = !value.contains(QLatin1Char('e'), Qt::CaseInsensitive);
+    if (!isNumeric(row) || !isNumber || isPlain || std::abs(number) < 1 || std::abs(number) >= 1e15)
+        return value;
+    return QString::number(number, 'f', QLocale::FloatingPointShortest);
+}
+
 QString shownPropertyGridValue(const PropertyGridRow& row, const QString& value)
 {
     if (row.editor == Editor::Flag)
@@ -117,5 +127,5 @@ QString shownPropertyGridValue(const PropertyGridRow& row, const QString& value)
         if (choice.value == value)
             return choice.caption;
     }
-    return withUnit(value, row);
+    return withUnit(withoutExponent(row, value), row);
 }

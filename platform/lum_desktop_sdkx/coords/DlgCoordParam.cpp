@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int kWidth = 560;
-constexpr int kHeight = 620;
+constexpr int kWidth = 620;
+constexpr int kHeight = 640;
 
 } // namespace
 
