@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Latitude where the scale is true. With an oblique Mercator, the angle from rectified to skew grid; 0 takes the azimuth.</source>
-        <translation>比例真实的纬线。斜轴墨卡托投影时为由正向格网到斜轴格网的角度；填 0 时取方位角。</translation>
+        <translation>比例真实的纬线。斜轴墨卡托投影时为由矫正格网到斜轴格网的角度；填 0 时取方位角。</translation>
     </message>
     <message>
         <source>Second standard parallel</source>

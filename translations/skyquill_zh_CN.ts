@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Rectified grid angle</source>
-        <translation>正向格网角</translation>
+        <translation>矫正格网角</translation>
     </message>
     <message>
         <source>First standard parallel</source>

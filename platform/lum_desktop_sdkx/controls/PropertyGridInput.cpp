@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +29,9 @@ QString withUnit(const QString& number, const PropertyGridRow& row)
 {
     if (row.unit.isEmpty() || number.isEmpty())
         return number;
-    const bool isSticking = row.unit == QLatin1String("\xb0") || row.unit == QLatin1String("%");
+    static const QStringList kSticking{QStringLiteral("\u00b0"), QStringLiteral("\u2033"),
+                                       QStringLiteral("%")};
+    const bool isSticking = kSticking.contains(row.unit);
     return isSticking ? number + row.unit : number + QLatin1Char(' ') + row.unit;
 }
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kWidth = 620;
+constexpr int kWidth = 660;
 constexpr int kHeight = 640;
 
 } // namespace
