@@ -89,7 +89,8 @@ basalt::Dictionary CoordSystemPanel::parameters()
 
 bool CoordSystemPanel::hasFaults()
 {
-    return m_grid->hasFaults() || !m_isUsable; // the grid first: it takes the open editor's text
+    judge(); // a geoid file may have come or gone
+    return m_grid->hasFaults() || !m_isUsable;
 }
 
 void CoordSystemPanel::goToFault()
