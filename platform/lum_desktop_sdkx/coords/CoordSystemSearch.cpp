@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kMostRows = 8;
-constexpr double kMostOfWidth = 0.65; ///< for the names
+constexpr double kMostOfWidth = 0.5; ///< for the names
 
 } // namespace
 
