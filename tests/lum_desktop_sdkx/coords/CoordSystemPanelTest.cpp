@@ -66,6 +66,7 @@ private Q_SLOTS:
     void opensWithoutASystem();
     void controlFileOffersWhatTheServiceKnows();
     void controlFileIsTranslated();
+    void speaksChinese();
 
 private:
     void open(const basalt::Dictionary& values)
@@ -431,6 +432,33 @@ void CoordSystemPanelTest::controlFileIsTranslated()
         }
     }
     QVERIFY(count > 100);
+}
+
+void CoordSystemPanelTest::speaksChinese()
+{
+    QTranslator chinese;
+    QVERIFY(chinese.load(QStringLiteral("skyquill_zh_CN"),
+                         QCoreApplication::applicationDirPath() +
+                             QStringLiteral("/../etc/Tarvona/config/Skyquill/Language")));
+    QCoreApplication::installTranslator(&chinese);
+    basalt::Dictionary system = ownSystem();
+    system.set("project_type", "7");
+    system.set("org_lat", "0");
+    open(system);
+    QCoreApplication::removeTranslator(&chinese);
+
+    QCOMPARE(shown("投影"), QStringLiteral("极球面投影"));
+    QVERIFY(isMarked("原点纬度"));
+    QVERIFY(isShown("真实比例纬线")); // a caption that depends on the projection
+    QStringList texts{m_dialog->windowTitle(), m_field->placeholderText()};
+    texts += visibleTexts();
+    for (int g = 0; g < m_grid->model()->rowCount(); ++g)
+        texts += m_grid->model()->index(g, 0).data().toString();
+    for (const QString& text : qAsConst(texts)) {
+        const bool isChinese = std::any_of(text.begin(), text.end(),
+                                           [](QChar c) { return c.script() == QChar::Script_Han; });
+        QVERIFY2(text.isEmpty() || isChinese, qPrintable(text));
+    }
 }
 
 QTEST_MAIN(CoordSystemPanelTest)
