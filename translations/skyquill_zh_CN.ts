@@ -389,6 +389,51 @@
     </message>
 </context>
 <context>
+    <name>CoordSystemPanel</name>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>No coordinate system is set. Search for one, or choose ellipsoid and projection.</source>
+        <translation>尚未设置坐标系统。请搜索坐标系统，或选择椭球和投影。</translation>
+    </message>
+    <message>
+        <source>The coordinate system is defined by the parameters below.</source>
+        <translation>坐标系统由下列参数定义。</translation>
+    </message>
+</context>
+<context>
+    <name>CoordSystemRows</name>
+    <message>
+        <source>Latitude of true scale</source>
+        <translation>真实比例纬线</translation>
+    </message>
+    <message>
+        <source>Rectified grid angle</source>
+        <translation>矫正格网角</translation>
+    </message>
+    <message>
+        <source>First standard parallel</source>
+        <translation>第一标准纬线</translation>
+    </message>
+</context>
+<context>
+    <name>CoordSystemSearch</name>
+    <message>
+        <source>EPSG code or name</source>
+        <translation>EPSG 代码或名称</translation>
+    </message>
+    <message>
+        <source>Search the EPSG register by code or by words of the name or area, such as &quot;32650&quot; or &quot;Beijing 1954 117E&quot;.</source>
+        <translation>按代码或者名称、地区中的单词搜索 EPSG 坐标系统，例如“32650”或“Beijing 1954 117E”。</translation>
+    </message>
+    <message>
+        <source>No coordinate system has this code or name.</source>
+        <translation>没有此代码或名称的坐标系统。</translation>
+    </message>
+</context>
+<context>
     <name>DataProcessDataManager</name>
     <message>
         <source>Loading Database</source>
@@ -428,6 +473,13 @@
     <message>
         <source>Stake-out data of land seismic surveys</source>
         <translation>陆地地震勘探放样数据处理</translation>
+    </message>
+</context>
+<context>
+    <name>DlgCoordParam</name>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系统</translation>
     </message>
 </context>
 <context>

@@ -269,3 +269,11 @@ std::string fillFromEpsg(std::string_view code, IDictionary& parameters)
     dictionary_copy(filled, parameters);
     return {};
 }
+
+std::string epsgName(std::string_view code)
+{
+    const lum::ProjContext context = lum::makeProjContext();
+    const lum::ProjObject crs(proj_create_from_database(
+        context.get(), "EPSG", std::string(code).c_str(), PJ_CATEGORY_CRS, 0, nullptr));
+    return crs ? proj_get_name(crs.get()) : std::string();
+}

@@ -16,3 +16,7 @@ class IDictionary;
 /// \returns empty, or why the system cannot be described, in the user's language, UTF-8; then
 ///          `parameters` is as it was
 [[nodiscard]] std::string fillFromEpsg(std::string_view code, IDictionary& parameters);
+
+/// What the register calls a system, such as "WGS 84 / UTM zone 50N" for "32650"; empty when it has
+/// none of this code.
+[[nodiscard]] std::string epsgName(std::string_view code);

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "lum_desktop_sdkx/frame/CoordTransformHelper.h"
 #include "lum_desktop_sdkx/ICommandList.h"
-#include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/EventManager.h"
 
 #include <QHash>
-#include <QPointF>
 #include <QStringList>
 
 /// Windows that a test put there by name.
@@ -49,26 +48,6 @@ public:
     QStringList executed;
 };
 
-/// Turns the axes; has no coordinate system.
-class TestCoordHelper final : public ICoordTransformHelper
-{
-public:
-    [[nodiscard]] QPointF projectToMap(double north, double east) const override
-    {
-        return {east, north};
-    }
-    [[nodiscard]] bool geodeticToMap(double, double, QPointF&) const override { return false; }
-    [[nodiscard]] bool mapToGeodetic(const QPointF&, double&, double&) const override
-    {
-        return false;
-    }
-    void mapToProject(const QPointF& map, double& north, double& east) const override
-    {
-        north = map.y();
-        east = map.x();
-    }
-};
-
 /// A desktop without a frame, for the tests of its components.
 class TestHost final : public IDesktopHost
 {
@@ -82,7 +61,7 @@ public:
     EventManager events;
     TestWindowRegistry windowRegistry;
     TestCommandList commandList;
-    TestCoordHelper coordHelper;
+    CoordTransformHelper coordHelper;
 };
 
 /// Keeps what was published under the names that it subscribed.

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +29,9 @@ QString withUnit(const QString& number, const PropertyGridRow& row)
 {
     if (row.unit.isEmpty() || number.isEmpty())
         return number;
-    const bool isSticking = row.unit == QLatin1String("\xb0") || row.unit == QLatin1String("%");
+    static const QStringList kSticking{QStringLiteral("\u00b0"), QStringLiteral("\u2033"),
+                                       QStringLiteral("%")};
+    const bool isSticking = kSticking.contains(row.unit);
     return isSticking ? number + row.unit : number + QLatin1Char(' ') + row.unit;
 }
 
@@ -109,6 +112,16 @@ QString propertyGridFault(const PropertyGridRow& row, const QString& value)
     return !isNumeric(row) || isInRange(row, value) ? QString() : wantedNumber(row);
 }
 
+QString withoutExponent(const PropertyGridRow& row, const QString& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    const bool isPlain = !value.contains(QLatin1Char('e'), Qt::CaseInsensitive);
+    if (!isNumeric(row) || !isNumber || isPlain || std::abs(number) < 1 || std::abs(number) >= 1e15)
+        return value;
+    return QString::number(number, 'f', QLocale::FloatingPointShortest);
+}
+
 QString shownPropertyGridValue(const PropertyGridRow& row, const QString& value)
 {
     if (row.editor == Editor::Flag)
@@ -117,5 +130,5 @@ QString shownPropertyGridValue(const PropertyGridRow& row, const QString& value)
         if (choice.value == value)
             return choice.caption;
     }
-    return withUnit(value, row);
+    return withUnit(withoutExponent(row, value), row);
 }

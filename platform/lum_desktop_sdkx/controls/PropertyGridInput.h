@@ -20,6 +20,10 @@ struct PropertyGridInput
 /// and as many decimals as it has; empty when nothing is.
 [[nodiscard]] QString propertyGridFault(const PropertyGridRow& row, const QString& value);
 
+/// A number with an exponent as a user would type it, "2000000" for "2e+06"; small ones and other
+/// texts as they are.
+[[nodiscard]] QString withoutExponent(const PropertyGridRow& row, const QString& value);
+
 /// The value as the grid shows it: a choice by its caption, a number with its unit and with every
 /// digit that it has, a flag as nothing beside its check box.
 [[nodiscard]] QString shownPropertyGridValue(const PropertyGridRow& row, const QString& value);

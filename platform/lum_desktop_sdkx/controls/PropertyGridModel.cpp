@@ -242,7 +242,7 @@ QString PropertyGridModel::shownOrTyped(const PropertyGridRow& row, bool shown) 
     const auto fault = m_faults.constFind(row.key);
     if (fault != m_faults.constEnd() && !fault->isMark)
         return fault->typed;
-    return shown ? shownPropertyGridValue(row, value(row)) : value(row);
+    return shown ? shownPropertyGridValue(row, value(row)) : withoutExponent(row, value(row));
 }
 
 PropertyGridRow* PropertyGridModel::rowOfKey(const QString& key)

@@ -26,6 +26,12 @@ QString id(const IDictionary& parameters)
     return lum::toQString(parameters.text(kId, kUndefinedId));
 }
 
+QString registeredName(const QString& registeredId)
+{
+    const std::string code = registeredId.mid(static_cast<int>(qstrlen(kRegister))).toStdString();
+    return QString::fromStdString(epsgName(code));
+}
+
 QLabel* makeText(QWidget* parent)
 {
     auto* const label = new QLabel(parent);
@@ -83,7 +89,8 @@ basalt::Dictionary CoordSystemPanel::parameters()
 
 bool CoordSystemPanel::hasFaults()
 {
-    return m_grid->hasFaults() || !m_isUsable; // the grid first: it takes the open editor's text
+    judge(); // a geoid file may have come or gone
+    return m_grid->hasFaults() || !m_isUsable;
 }
 
 void CoordSystemPanel::goToFault()
@@ -91,7 +98,7 @@ void CoordSystemPanel::goToFault()
     m_grid->goToFault();
 }
 
-void CoordSystemPanel::choose(const QString& code, const QString& name)
+void CoordSystemPanel::choose(const QString& code)
 {
     basalt::Dictionary filled = m_grid->getData();
     const std::string reason = fillFromEpsg(code.toStdString(), filled);
@@ -101,7 +108,7 @@ void CoordSystemPanel::choose(const QString& code, const QString& name)
     }
     filled.set(kId, kRegister + code.toStdString());
     show(filled);
-    showIdentity(name);
+    showIdentity();
     Q_EMIT changed();
 }
 
@@ -169,17 +176,15 @@ void CoordSystemPanel::judge()
     m_fault->setVisible(!m_isUsable);
 }
 
-/// \param name  of the system in the register, when it is at hand
-void CoordSystemPanel::showIdentity(const QString& name)
+void CoordSystemPanel::showIdentity()
 {
     const basalt::Dictionary values = m_grid->getData();
     const QString current = id(values);
     if (!CoordSystemRows::isSet(values))
         m_identity->setText(tr("No coordinate system is set. Search for one, or choose ellipsoid "
                                "and projection."));
-    else if (current == QLatin1String(kUndefinedId))
-        m_identity->setText(tr("The coordinate system is defined by the parameters below."));
+    else if (current.startsWith(QLatin1String(kRegister)))
+        m_identity->setText(QStringLiteral("%1   %2").arg(current, registeredName(current)));
     else
-        m_identity->setText(name.isEmpty() ? current
-                                           : QStringLiteral("%1   %2").arg(current, name));
+        m_identity->setText(tr("The coordinate system is defined by the parameters below."));
 }

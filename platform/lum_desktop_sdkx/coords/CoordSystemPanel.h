@@ -41,13 +41,13 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void choose(const QString& code, const QString& name);
+    void choose(const QString& code);
     void takeEdit(const QString& key, const QString& value);
     void followEllipsoid(const QString& editedKey, const QString& value);
     void show(const IDictionary& parameters);
     void showRows();
     void judge();
-    void showIdentity(const QString& name = {});
+    void showIdentity();
 
     CoordSystemSearch* m_search;
     QLabel* m_identity;

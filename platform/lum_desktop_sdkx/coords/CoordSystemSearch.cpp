@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kMostRows = 8;
-constexpr int kNameWidth = 260;
+constexpr double kMostOfWidth = 0.5; ///< for the names
 
 } // namespace
 
@@ -56,10 +56,9 @@ void CoordSystemSearch::makeList()
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
-    m_list->setFocusPolicy(Qt::NoFocus); // the field keeps the keys
-    m_list->setTextElideMode(Qt::ElideRight);
+    m_list->setFocusPolicy(Qt::NoFocus);       // the field keeps the keys
+    m_list->setTextElideMode(Qt::ElideMiddle); // zones are told apart by their end
     m_list->header()->setSectionResizeMode(CoordSystemTable::Code, QHeaderView::ResizeToContents);
-    m_list->header()->resizeSection(CoordSystemTable::Name, dpi_scaled(kNameWidth));
     m_list->hide();
     connect(m_list, &QTreeView::clicked, this, &CoordSystemSearch::choose);
 }
@@ -81,8 +80,18 @@ void CoordSystemSearch::find(const QString& text)
         return;
     m_list->setCurrentIndex(m_found->index(0, 0));
     m_list->scrollToTop();
-    m_list->setFixedHeight(std::min(rows, kMostRows) * m_list->sizeHintForRow(0) +
-                           2 * m_list->frameWidth());
+    fitList();
+}
+
+/// As high as what was found, up to a limit; names before areas, which may be long.
+void CoordSystemSearch::fitList()
+{
+    const int rows = std::min(m_found->rowCount(), kMostRows);
+    m_list->setFixedHeight(rows * m_list->sizeHintForRow(0) + 2 * m_list->frameWidth());
+    m_list->resizeColumnToContents(CoordSystemTable::Name);
+    const int widest = static_cast<int>(m_field->width() * kMostOfWidth);
+    if (m_list->columnWidth(CoordSystemTable::Name) > widest)
+        m_list->setColumnWidth(CoordSystemTable::Name, widest);
 }
 
 void CoordSystemSearch::choose(const QModelIndex& index)
@@ -91,9 +100,8 @@ void CoordSystemSearch::choose(const QModelIndex& index)
     if (entry == nullptr)
         return;
     const QString code = lum::toQString(entry->code);
-    const QString name = lum::toQString(entry->name);
     m_field->clear();
-    Q_EMIT chosen(code, name);
+    Q_EMIT chosen(code);
 }
 
 bool CoordSystemSearch::eventFilter(QObject* watched, QEvent* event)

@@ -24,7 +24,7 @@ public:
 
 Q_SIGNALS:
     /// \param code  such as "32650"
-    void chosen(const QString& code, const QString& name);
+    void chosen(const QString& code);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,6 +32,7 @@ protected:
 private:
     void makeList();
     void find(const QString& text);
+    void fitList();
     void choose(const QModelIndex& index);
     [[nodiscard]] bool handleKey(QKeyEvent& event);
 

@@ -1,14 +1,17 @@
 #include "lum_desktop_sdkx/coords/DlgCoordParam.h"
 
 #include "lum_desktop_sdkx/coords/CoordSystemPanel.h"
+#include "lum_sdk/DpiScale.h"
 
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int kWidth = 560;
-constexpr int kHeight = 620;
+constexpr int kLeastWidth = 420;
+constexpr int kLeastHeight = 460;
+constexpr int kWidth = 660;
+constexpr int kHeight = 640;
 
 } // namespace
 
@@ -16,7 +19,8 @@ DlgCoordParam::DlgCoordParam(QWidget* parent, const IDictionary& parameters)
     : Dialog(parent), m_panel(new CoordSystemPanel(this))
 {
     setWindowTitle(tr("Coordinate System"));
-    setMinimumSizeScaled(kWidth, kHeight);
+    setMinimumSizeScaled(kLeastWidth, kLeastHeight);
+    resize(dpi_scaled(kWidth), dpi_scaled(kHeight));
     rememberSize(QStringLiteral("DlgCoordParam"));
     m_panel->setParameters(parameters);
 

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void keepsTheRulesOfAModel();
     void keepsEveryByteThatCameIn();
     void marksStoredFaultsThatTheUserCanMend();
+    void aMarkGivesWayToWhatIsTyped();
+    void showsAnExponentAsItIsTyped();
     void showsADefaultWithoutStoringIt();
     void tellsEditsButNotProgrammaticChanges();
 };
@@ -97,6 +99,59 @@ void PropertyGridModelTest::marksStoredFaultsThatTheUserCanMend()
 
     model.setValue(QStringLiteral("dist"), QStringLiteral("2.5"));
     QVERIFY(!model.hasFaults());
+}
+
+void PropertyGridModelTest::aMarkGivesWayToWhatIsTyped()
+{
+    PropertyGridModel model;
+    model.setLayout(layout());
+    model.setValues(basalt::Dictionary());
+    const QString distKey = QStringLiteral("dist");
+    const QString countKey = QStringLiteral("count");
+    const QString reason = QStringLiteral("Too far for so few.");
+    const QModelIndex dist = model.indexOfKey(distKey);
+    const QModelIndex count = model.indexOfKey(countKey);
+
+    QVERIFY(model.setData(count, QStringLiteral("1"), Qt::EditRole));
+    model.mark(countKey, reason);
+    QCOMPARE(model.firstFault(), count);
+    QCOMPARE(count.data(Qt::ToolTipRole).toString(), reason);
+    model.mark(distKey, reason);
+    QVERIFY(model.fault(count).isEmpty());
+    QCOMPARE(dist.data().toString(), QStringLiteral("3 m")); // the value stays as it is shown
+
+    QVERIFY(model.setData(dist, QStringLiteral("11"), Qt::EditRole));
+    model.mark(distKey, reason);
+    QCOMPARE(model.fault(dist), QStringLiteral("Enter a number from 0 m to 10 m."));
+    model.mark({}, {});
+    QVERIFY(model.hasFaults()); // what was typed is still there
+
+    QVERIFY(model.setData(dist, QStringLiteral("4"), Qt::EditRole));
+    model.mark(distKey, reason);
+    QVERIFY(model.setData(dist, QStringLiteral("5"), Qt::EditRole));
+    QVERIFY(!model.hasFaults() && !model.firstFault().isValid());
+}
+
+void PropertyGridModelTest::showsAnExponentAsItIsTyped()
+{
+    basalt::Dictionary values;
+    PropertyGridModel model;
+    model.setLayout(layout("<property_grid><group caption='G'>"
+                           "<row key='east' caption='East' editor='number' unit='m'/>"
+                           "<row key='a3' caption='a3' editor='number'/>"
+                           "<row key='note' caption='Note'/></group></property_grid>"));
+    values.set("east", "-2.5e+06");
+    values.set("a3", "1.5e-09");
+    values.set("note", "2e6");
+    model.setValues(values);
+    const QModelIndex east = model.indexOfKey(QStringLiteral("east"));
+    QCOMPARE(east.data().toString(), QStringLiteral("-2500000 m"));
+    QVERIFY(!model.setData(east, east.data(Qt::EditRole), Qt::EditRole));
+    QVERIFY(model.values().text("east") == "-2.5e+06");
+    model.setUnit(QStringLiteral("east"), QStringLiteral("ft"));
+    QCOMPARE(east.data().toString(), QStringLiteral("-2500000 ft"));
+    QCOMPARE(model.indexOfKey(QStringLiteral("a3")).data().toString(), QStringLiteral("1.5e-09"));
+    QCOMPARE(model.indexOfKey(QStringLiteral("note")).data().toString(), QStringLiteral("2e6"));
 }
 
 void PropertyGridModelTest::showsADefaultWithoutStoringIt()
