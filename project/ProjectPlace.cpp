@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kLongestNameBytes = 200; // file systems take 255, and endings come behind the name
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("ProjectPlace", text);
 }
@@ -61,41 +61,45 @@ QString projectExtension()
 QString projectNameFault(const QString& name)
 {
     if (name.isEmpty())
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Please enter a project name."));
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "Please enter a project name."));
     static const QRegularExpression bad(QStringLiteral("[\\x00-\\x1f\\x7f\\\\/:*?\"<>|.]"));
     const QRegularExpressionMatch match = bad.match(name);
     if (match.hasMatch() && match.captured().at(0).isPrint())
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot contain \"%1\"."))
+        return translated(
+                   QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot contain \"%1\"."))
             .arg(match.captured());
     if (match.hasMatch())
-        return tr(
+        return translated(
             QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot contain control characters."));
     if (name != name.trimmed())
-        return tr(
+        return translated(
             QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot begin or end with a blank."));
     if (isReserved(name))
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Some systems cannot have files named \"%1\"."))
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace",
+                                            "Some systems cannot have files named \"%1\"."))
             .arg(name);
     if (name.toUtf8().size() > kLongestNameBytes)
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "The project name is too long."));
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "The project name is too long."));
     return {};
 }
 
 QString projectLocationFault(const QString& location)
 {
     if (location.isEmpty())
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Please choose the folder of the project."));
+        return translated(
+            QT_TRANSLATE_NOOP("ProjectPlace", "Please choose the folder of the project."));
     const QFileInfo folder(location);
     if (!QDir::isAbsolutePath(location))
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "Please enter the whole path of the folder."));
+        return translated(
+            QT_TRANSLATE_NOOP("ProjectPlace", "Please enter the whole path of the folder."));
     if (!folder.exists())
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "The folder \"%1\" does not exist."))
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "The folder \"%1\" does not exist."))
             .arg(QDir::toNativeSeparators(location));
     if (!folder.isDir())
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "\"%1\" is not a folder."))
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "\"%1\" is not a folder."))
             .arg(QDir::toNativeSeparators(location));
     if (!folder.isWritable())
-        return tr(QT_TRANSLATE_NOOP("ProjectPlace", "The folder \"%1\" cannot be written."))
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "The folder \"%1\" cannot be written."))
             .arg(QDir::toNativeSeparators(location));
     return {};
 }

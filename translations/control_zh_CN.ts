@@ -623,5 +623,109 @@
         <source>Grid of geoid heights above WGS 84, in GTX or GeoTIFF format.</source>
         <translation>相对 WGS 84 的大地水准面差距格网，GTX 或 GeoTIFF 格式。</translation>
     </message>
+    <message>
+        <source>Project</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Where the project's files are.</source>
+        <translation>工程文件所在的文件夹。</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>When the project was made, local time.</source>
+        <translation>工程的创建时间（本地时间）。</translation>
+    </message>
+    <message>
+        <source>Program version</source>
+        <translation>程序版本</translation>
+    </message>
+    <message>
+        <source>The version of the program that made the project.</source>
+        <translation>创建该工程的程序版本。</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>The survey as the contract names it.</source>
+        <translation>合同中的测量项目名称。</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>工区</translation>
+    </message>
+    <message>
+        <source>Block, county or basin.</source>
+        <translation>区块、县或盆地。</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>甲方</translation>
+    </message>
+    <message>
+        <source>For whom the survey is made.</source>
+        <translation>测量项目的委托方。</translation>
+    </message>
+    <message>
+        <source>Contractor</source>
+        <translation>施工单位</translation>
+    </message>
+    <message>
+        <source>Who makes the survey.</source>
+        <translation>承担测量的单位。</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>队伍</translation>
+    </message>
+    <message>
+        <source>Name or number of the field crew.</source>
+        <translation>野外队伍的名称或编号。</translation>
+    </message>
+    <message>
+        <source>Chief surveyor</source>
+        <translation>测量负责人</translation>
+    </message>
+    <message>
+        <source>Who answers for the stake-out data.</source>
+        <translation>放样数据的负责人。</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Coordinate unit</source>
+        <translation>坐标单位</translation>
+    </message>
+    <message>
+        <source>The unit of the cursor position; a setting of the program, not of the project.</source>
+        <translation>光标位置的单位；属于程序设置，不属于工程。</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>米</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>英尺</translation>
+    </message>
 </context>
 </TS>

@@ -4,6 +4,10 @@
 <context>
     <name>FrameLayout</name>
     <message>
+        <source>Recent Projects</source>
+        <translation>最近的工程</translation>
+    </message>
+    <message>
         <source>&amp;Project</source>
         <translation>工程(&amp;P)</translation>
     </message>

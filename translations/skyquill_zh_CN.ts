@@ -27,6 +27,25 @@
         <source>List the components that a window layout can name, and leave.</source>
         <translation>列出窗口布局可用的组件，然后退出。</translation>
     </message>
+    <message>
+        <source>The project file to open.</source>
+        <translation>要打开的工程文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a project file.</source>
+        <translation>“%1”不是工程文件。</translation>
+    </message>
+</context>
+<context>
+    <name>CloseProjectCommand</name>
+    <message>
+        <source>information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>The project could not be saved. Close it all the same and lose the changes?</source>
+        <translation>工程未能保存。仍要关闭并放弃更改吗？</translation>
+    </message>
 </context>
 <context>
     <name>CodeTables</name>
@@ -483,6 +502,64 @@
     </message>
 </context>
 <context>
+    <name>DlgNewProject</name>
+    <message>
+        <source>New Project</source>
+        <translation>新建工程</translation>
+    </message>
+    <message>
+        <source>Project Name:</source>
+        <translation>工程名称：</translation>
+    </message>
+    <message>
+        <source>Project Path:</source>
+        <translation>工程路径：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>browse</source>
+        <translation>浏览</translation>
+    </message>
+    <message>
+        <source>Choose Project Directory</source>
+        <translation>选择工程目录</translation>
+    </message>
+    <message>
+        <source>The project will be in &quot;%1&quot;.</source>
+        <translation>工程将保存在“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DlgProjectSet</name>
+    <message>
+        <source>Project Settings</source>
+        <translation>工程设置</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>EpsgSystem</name>
     <message>
         <source>There is no coordinate system EPSG:%1.</source>
@@ -506,6 +583,102 @@
     <message>
         <source>The file &quot;%1&quot; exists already. Replace it?</source>
         <translation>文件“%1”已经存在，是否替换？</translation>
+    </message>
+</context>
+<context>
+    <name>NewProjectCommand</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Failed to create project file!</source>
+        <translation>创建工程文件失败！</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>project path exist, override?</source>
+        <translation>工程路径已存在，是否覆盖？</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>无法创建文件夹“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>OpenProjectCommand</name>
+    <message>
+        <source>Open Project</source>
+        <translation>打开工程</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectPlace</name>
+    <message>
+        <source>Please enter a project name.</source>
+        <translation>请输入工程名称。</translation>
+    </message>
+    <message>
+        <source>A project name cannot contain &quot;%1&quot;.</source>
+        <translation>工程名称不能包含“%1”。</translation>
+    </message>
+    <message>
+        <source>A project name cannot contain control characters.</source>
+        <translation>工程名称不能包含控制字符。</translation>
+    </message>
+    <message>
+        <source>A project name cannot begin or end with a blank.</source>
+        <translation>工程名称首尾不能有空格。</translation>
+    </message>
+    <message>
+        <source>Some systems cannot have files named &quot;%1&quot;.</source>
+        <translation>某些系统不允许名为“%1”的文件。</translation>
+    </message>
+    <message>
+        <source>The project name is too long.</source>
+        <translation>工程名称过长。</translation>
+    </message>
+    <message>
+        <source>Please choose the folder of the project.</source>
+        <translation>请选择工程所在文件夹。</translation>
+    </message>
+    <message>
+        <source>Please enter the whole path of the folder.</source>
+        <translation>请输入文件夹的完整路径。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist.</source>
+        <translation>文件夹“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <translation>“%1”不是文件夹。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be written.</source>
+        <translation>文件夹“%1”不可写。</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectSession</name>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>failed to open project!</source>
+        <translation>打开工程失败！</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>close current project?</source>
+        <translation>关闭当前工程？</translation>
     </message>
 </context>
 <context>
@@ -565,6 +738,30 @@
     <message>
         <source>a table is missing</source>
         <translation>缺少数据表</translation>
+    </message>
+    <message>
+        <source>The project file &quot;%1&quot; cannot be written.</source>
+        <translation>无法写入工程文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>无法写入文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The project is open in another program.</source>
+        <translation>该工程已在另一个程序中打开。</translation>
+    </message>
+    <message>
+        <source>The project is open in another program (%1, process %2 on %3).</source>
+        <translation>该工程已在另一个程序中打开（%1，进程 %2，主机 %3）。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist.</source>
+        <translation>文件夹“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>The folder of this project cannot be written: changes cannot be saved.</source>
+        <translation>该工程的文件夹不可写：更改无法保存。</translation>
     </message>
 </context>
 <context>
@@ -632,6 +829,40 @@
     <message>
         <source>Value</source>
         <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>RecentProjectCommand</name>
+    <message>
+        <source>No projects yet</source>
+        <translation>暂无工程</translation>
+    </message>
+</context>
+<context>
+    <name>SaveProjectCommand</name>
+    <message>
+        <source>information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>save project?</source>
+        <translation>是否保存工程？</translation>
+    </message>
+    <message>
+        <source>success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Save project success!</source>
+        <translation>工程保存成功！</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Save project failed!</source>
+        <translation>工程保存失败！</translation>
     </message>
 </context>
 <context>
@@ -846,6 +1077,29 @@
     <message>
         <source>base_station_id</source>
         <translation>base_station_id</translation>
+    </message>
+</context>
+<context>
+    <name>TimeZomeDlg</name>
+    <message>
+        <source>北京时间</source>
+        <translation>北京时间</translation>
+    </message>
+    <message>
+        <source>自定义时区</source>
+        <translation>自定义时区</translation>
+    </message>
+    <message>
+        <source>时区修改</source>
+        <translation>时区修改</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>

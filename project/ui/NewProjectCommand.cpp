@@ -18,7 +18,7 @@
 
 namespace {
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("NewProjectCommand", text);
 }
@@ -26,8 +26,8 @@ QString tr(const char* text)
 void reportFailure(IDesktopHost& host, const QString& reason)
 {
     LumMessageBox::information(
-        host.dialogParent(), tr(QT_TRANSLATE_NOOP("NewProjectCommand", "Error")),
-        tr(QT_TRANSLATE_NOOP("NewProjectCommand", "Failed to create project file!")),
+        host.dialogParent(), translated(QT_TRANSLATE_NOOP("NewProjectCommand", "Error")),
+        translated(QT_TRANSLATE_NOOP("NewProjectCommand", "Failed to create project file!")),
         LumMessageBox::Button::Ok, reason);
 }
 
@@ -38,17 +38,18 @@ bool makeFolder(IDesktopHost& host, const QString& folder)
     if (QDir(folder).exists()) {
         using Button = LumMessageBox::Button;
         if (LumMessageBox::information(
-                host.dialogParent(), tr(QT_TRANSLATE_NOOP("NewProjectCommand", "information")),
-                tr(QT_TRANSLATE_NOOP("NewProjectCommand", "project path exist, override?")),
+                host.dialogParent(),
+                translated(QT_TRANSLATE_NOOP("NewProjectCommand", "information")),
+                translated(QT_TRANSLATE_NOOP("NewProjectCommand", "project path exist, override?")),
                 LumMessageBox::Buttons(Button::Yes) | Button::No) != Button::Yes)
             return false;
         QDir().rmdir(folder); // fails when something is in it
     }
     if (QDir().mkpath(folder))
         return true;
-    reportFailure(host,
-                  tr(QT_TRANSLATE_NOOP("NewProjectCommand", "The folder \"%1\" cannot be made."))
-                      .arg(QDir::toNativeSeparators(folder)));
+    reportFailure(host, translated(QT_TRANSLATE_NOOP("NewProjectCommand",
+                                                     "The folder \"%1\" cannot be made."))
+                            .arg(QDir::toNativeSeparators(folder)));
     return false;
 }
 

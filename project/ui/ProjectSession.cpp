@@ -18,7 +18,7 @@ namespace ProjectSession {
 
 namespace {
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("ProjectSession", text);
 }
@@ -26,10 +26,10 @@ QString tr(const char* text)
 void reportFailure(IDesktopHost& host, const QString& file, const QString& reason)
 {
     RecentProjects::remove(file);
-    LumMessageBox::information(host.dialogParent(),
-                               tr(QT_TRANSLATE_NOOP("ProjectSession", "failed")),
-                               tr(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")),
-                               LumMessageBox::Button::Ok, reason);
+    LumMessageBox::information(
+        host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "failed")),
+        translated(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")),
+        LumMessageBox::Button::Ok, reason);
 }
 
 } // namespace
@@ -55,8 +55,8 @@ bool closeCurrent(IDesktopHost& host)
         return true;
     using Button = LumMessageBox::Button;
     const Button answer = LumMessageBox::information(
-        host.dialogParent(), tr(QT_TRANSLATE_NOOP("ProjectSession", "information")),
-        tr(QT_TRANSLATE_NOOP("ProjectSession", "close current project?")),
+        host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+        translated(QT_TRANSLATE_NOOP("ProjectSession", "close current project?")),
         LumMessageBox::Buttons(Button::Yes) | Button::No);
     if (answer != Button::Yes)
         return false;
@@ -80,7 +80,7 @@ bool open(IDesktopHost& host, const QString& file)
     events.publish(events::kUpdateSystemStatus, nullptr, 0);
     if (!result.message.isEmpty())
         LumMessageBox::information(host.dialogParent(),
-                                   tr(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+                                   translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
                                    result.message);
     return true;
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("SaveProjectCommand", text);
 }
@@ -21,8 +21,9 @@ bool wantsToSave(IDesktopHost& host)
 {
     using Button = LumMessageBox::Button;
     return LumMessageBox::information(
-               host.dialogParent(), tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "information")),
-               tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "save project?")),
+               host.dialogParent(),
+               translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "information")),
+               translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "save project?")),
                LumMessageBox::Buttons(Button::Yes) | Button::No) == Button::Yes;
 }
 
@@ -39,11 +40,11 @@ void SaveProjectCommand::execute()
         DataProcessDataManager::instance()->saveProject(ProjectSession::place());
     if (result.isDone)
         LumMessageBox::information(
-            host().dialogParent(), tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "success")),
-            tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project success!")));
+            host().dialogParent(), translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "success")),
+            translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project success!")));
     else
         LumMessageBox::information(
-            host().dialogParent(), tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "failed")),
-            tr(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project failed!")),
+            host().dialogParent(), translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "failed")),
+            translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project failed!")),
             LumMessageBox::Button::Ok, result.message);
 }
