@@ -13,6 +13,8 @@
 #include "project/ui/SaveProjectCommand.h"
 #include "project/ui/SysSettingCommand.h"
 #include "project/ui/TimeZomeDlgCommand.h"
+#include "quality/ui/DataInspectionCommand.h"
+#include "quality/ui/QualitySpecificateCommand.h"
 
 namespace {
 
@@ -49,6 +51,8 @@ bool command(const char* name, const char* caption)
     command<CloseProjectCommand>        ("CloseProjectCommand",          "关闭工程"),
     command<SysSettingCommand>          ("SysSettingCommand",            "设置"),
     command<TimeZomeDlgCommand>         ("TimeZomeDlgCommand",           "时区修改"),
+    command<QualitySpecificateCommand>  ("QualitySpecificateCommand",    "质量规范"),
+    command<DataInspectionCommand>      ("DataInspectionCommand",        "数据检查"),
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
 };

@@ -16,6 +16,9 @@
 #include "project/ProjectLoader.h"
 #include "project/ProjectPlace.h"
 #include "project/ProjectSaver.h"
+#include "quality/QualityCheck.h"
+#include "quality/QualityDescription.h"
+#include "quality/QualityLimits.h"
 
 #include <QCoreApplication>
 
@@ -162,6 +165,31 @@ void DataProcessDataManager::recomputeSeaHeights()
                        &point.seaHeight});
         }
     });
+}
+
+int DataProcessDataManager::checkQuality()
+{
+    ProgressReporter progress(&m_host.eventManager());
+    ::checkQuality(m_survey, m_qualityParameters, progress);
+    return 1;
+}
+
+std::vector<QualityRow> DataProcessDataManager::describeQuality(const SurveyPoint& point) const
+{
+    std::vector<QualityRow> rows;
+    ::describeQuality(point, QualityLimits::from(m_qualityParameters), rows);
+    return rows;
+}
+
+std::vector<QualityRow> DataProcessDataManager::describeQuality() const
+{
+    const QualityLimits limits = QualityLimits::from(m_qualityParameters);
+    std::vector<QualityRow> rows;
+    for (const auto& [number, line] : m_survey) {
+        for (const SurveyPoint& point : line)
+            ::describeQuality(point, limits, rows);
+    }
+    return rows;
 }
 
 QString DataProcessDataManager::solutionTypeText(int code)

@@ -10,8 +10,11 @@
 
 #include <QStringList>
 
+#include <vector>
+
 class IHost;
 struct ProjectPlace;
+struct QualityRow;
 
 /// What a project is opened for.
 enum class ProjectAccess
@@ -38,9 +41,9 @@ public:
     /// thread only: what paints on a worker works on a copy that was made here.
     [[nodiscard]] static DataProcessDataManager* instance();
 
-    /// Takes the project for this program alone, unless it is only looked at, and reads its parameter files, its database and
-    /// its project file. When a parameter file cannot be read the parameters stay as they were; a
-    /// project file that cannot be read is passed over.
+    /// Takes the project for this program alone, unless it is only looked at, and reads its
+    /// parameter files, its database and its project file. When a parameter file cannot be read the
+    /// parameters stay as they were; a project file that cannot be read is passed over.
     StoreResult openProject(const ProjectPlace& place,
                             ProjectAccess access = ProjectAccess::Change);
     /// Writes them all, and the design parameters as the start of the next new project.
@@ -59,6 +62,14 @@ public:
     void setCoordSystem(const IDictionary& parameters);
     /// Rewrites every result's sea height; due whenever results or coordinate system are new.
     void recomputeSeaHeights();
+
+    // The checks of quality/.
+
+    /// Judges every survey result by the quality parameters. \returns 1
+    int checkQuality();
+    /// The faults that the last check found, of one result or of all.
+    [[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoint& point) const;
+    [[nodiscard]] std::vector<QualityRow> describeQuality() const;
 
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }

@@ -1,7 +1,9 @@
 #include "app/cli/CliCommands.h"
 
+#include "app/cli/CheckProject.h"
 #include "app/cli/CreateProject.h"
 #include "app/cli/ProjectInfo.h"
+#include "app/cli/QualitySettings.h"
 
 #include <algorithm>
 #include <array>
@@ -9,13 +11,24 @@
 namespace {
 
 // clang-format off
+constexpr int kAny = 1000;
+
 constexpr std::array kCommands{
-    CliCommand{"new",  "DIR NAME [--epsg CODE | --set key=value ...]",
+    CliCommand{"new", "DIR NAME [--epsg CODE | --set key=value ...]",
                "make a project in a folder NAME of DIR, print its project file",
-               2, "--epsg,--set", "", createProject},
+               2, 2, "--epsg,--set", "", createProject},
     CliCommand{"info", "PROJECT",
                "print what is in a project, a \"key: value\" line each",
-               1, "", "", printProjectInfo},
+               1, 1, "", "", printProjectInfo},
+    CliCommand{"set-quality", "PROJECT key=value ...",
+               "set limits of the quality check",
+               2, kAny, "", "", setQuality},
+    CliCommand{"list-quality", "PROJECT",
+               "print the limits of the quality check, a \"key=value\" line each",
+               1, 1, "", "", listQuality},
+    CliCommand{"check", "PROJECT quality [--out FILE]",
+               "check the survey results, print the faults as CSV",
+               2, 2, "--out", "", checkProject},
 };
 // clang-format on
 
@@ -35,11 +48,11 @@ CliResult run(const CliCommand& command, const QStringList& texts)
     CliArguments arguments;
     QString fault =
         CliArguments::read(texts, split(command.options), split(command.flags), arguments);
-    if (fault.isEmpty() && arguments.places.size() != command.placeCount)
-        fault = QStringLiteral("%1 takes %2 arguments, not %3")
-                    .arg(QLatin1String(command.name))
-                    .arg(command.placeCount)
-                    .arg(arguments.places.size());
+    const int places = arguments.places.size();
+    if (fault.isEmpty() && places < command.fewestPlaces)
+        fault = QStringLiteral("%1 needs more arguments").arg(QLatin1String(command.name));
+    if (fault.isEmpty() && places > command.mostPlaces)
+        fault = QStringLiteral("%1 takes fewer arguments").arg(QLatin1String(command.name));
     if (!fault.isEmpty())
         return CliResult::wrongUsage(fault + QStringLiteral("; usage: ") + usageOf(command));
     return command.run(arguments);

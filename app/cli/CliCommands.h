@@ -27,7 +27,8 @@ struct CliCommand
     const char* name;
     const char* usage;   ///< what stands behind the name
     const char* summary; ///< half a sentence
-    int placeCount;      ///< how many arguments it takes besides its options
+    int fewestPlaces;    ///< how many arguments it takes besides its options
+    int mostPlaces;
     const char* options; ///< with a value, comma-separated
     const char* flags;   ///< without one
     CliResult (*run)(const CliArguments& arguments);

@@ -4,6 +4,15 @@
 #include "app/protocol/Payloads.h"
 #include "lum_sdk/IEventManager.h"
 
+namespace {
+
+double percentOf(std::size_t done, std::size_t total)
+{
+    return total == 0 ? 100.0 : static_cast<double>(done) * 100.0 / static_cast<double>(total);
+}
+
+} // namespace
+
 ProgressReporter::ProgressReporter(IEventManager* manager) : m_manager(manager) {}
 
 ProgressReporter::~ProgressReporter()
@@ -23,9 +32,12 @@ void ProgressReporter::report(const QString& caption, double percent)
 
 void ProgressReporter::report(const QString& caption, std::size_t done, std::size_t total)
 {
-    const double percent =
-        total == 0 ? 100.0 : static_cast<double>(done) * 100.0 / static_cast<double>(total);
-    report(caption, percent);
+    report(caption, percentOf(done, total));
+}
+
+void ProgressReporter::report(std::string_view caption, std::size_t done, std::size_t total)
+{
+    publish(payload::progress(caption, percentOf(done, total)));
 }
 
 void ProgressReporter::busy(const QString& caption)

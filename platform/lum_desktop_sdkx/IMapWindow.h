@@ -19,6 +19,8 @@ public:
 
     /// Moves the picture from one screen point to another.
     virtual void pan(int fromX, int fromY, int toX, int toY) = 0;
+    /// Moves the picture until this place (map coordinates) is in the middle.
+    virtual void centerOn(double x, double y) = 0;
     virtual void zoomIn() = 0;
     virtual void zoomOut() = 0;
     /// Shows the full extent.

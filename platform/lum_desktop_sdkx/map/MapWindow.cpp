@@ -81,6 +81,13 @@ void MapWindow::pan(int fromX, int fromY, int toX, int toY)
     onViewMoved();
 }
 
+void MapWindow::centerOn(double x, double y)
+{
+    m_transform.setView({x, y}, m_transform.GetScale());
+    m_fitUntilSeen.reset();
+    onViewMoved();
+}
+
 void MapWindow::zoomIn()
 {
     zoomAbout(width() / 2.0, height() / 2.0, kZoomStep);

@@ -34,6 +34,7 @@ public:
     [[nodiscard]] IDictionary& parameters() override { return m_parameters; }
 
     void pan(int fromX, int fromY, int toX, int toY) override;
+    void centerOn(double x, double y) override;
     void zoomIn() override;
     void zoomOut() override;
     /// The data's extent; without one that of the visible layers; else the place (0, 0) at 1 m a

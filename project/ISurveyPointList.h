@@ -1,0 +1,14 @@
+#pragma once
+
+class QString;
+
+/// A window that lists survey results, found by the name "Survey Data List".
+class ISurveyPointList
+{
+public:
+    virtual ~ISurveyPointList() = default;
+
+    /// Shows this result and selects it.
+    /// \returns false when it is not there
+    virtual bool selectPoint(const QString& lineNumber, const QString& pointNumber) = 0;
+};

@@ -1,0 +1,75 @@
+#include "quality/QualityCheck.h"
+
+#include "app/protocol/ProgressReporter.h"
+#include "quality/QualityLimits.h"
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace {
+
+constexpr int kDesign = 1;
+constexpr int kReference = 100;
+constexpr int kAccuracy = 1000;
+constexpr int kAntenna = 10000;
+constexpr int kDilution = 100000;
+constexpr int kSatellites = 1000000;
+constexpr int kLine = 10000000;
+
+bool isOutside(double value, const QualityLimits::Range& range)
+{
+    return value > range.max || value < range.min;
+}
+
+int antennaFault(double heightM, const QualityLimits::Range& range)
+{
+    if (heightM > range.max)
+        return 1;
+    return heightM < range.min ? 2 : 0;
+}
+
+/// One fault of weight 1 and one of weight 2.
+int faults(bool first, bool second)
+{
+    return (first ? 1 : 0) + (second ? 2 : 0);
+}
+
+} // namespace
+
+int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
+{
+    const double north = point.north - point.designNorth;
+    const double east = point.east - point.designEast;
+    const auto& line = limits.lineDeviation(point.pointMark);
+    const int design =
+        faults(std::sqrt(north * north + east * east) > limits.designHorizontalM,
+               std::fabs(point.elevation - point.designElevation) > limits.designVerticalM);
+    const int accuracy = faults(std::fabs(point.horizontalAccuracy) > limits.hrmsM,
+                                std::fabs(point.verticalAccuracy) > limits.vrmsM);
+    const int dilution =
+        faults(isOutside(point.pdop, limits.pdop), isOutside(point.hdop, limits.hdop)) +
+        (isOutside(point.vdop, limits.vdop) ? 4 : 0);
+    const int deviation = faults(std::fabs(point.transversalDeviation) > line.acrossM,
+                                 std::fabs(point.longitudinalDeviation) > line.alongM);
+    return design * kDesign + (point.referenceDistance > limits.baseDistanceM ? kReference : 0) +
+           accuracy * kAccuracy + antennaFault(point.antennaHeight, limits.antennaM) * kAntenna +
+           dilution * kDilution + (limits.satellites > point.satelliteNumber ? kSatellites : 0) +
+           deviation * kLine;
+}
+
+void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress)
+{
+    const QualityLimits limits = QualityLimits::from(parameters);
+    const std::string caption =
+        QCoreApplication::translate("QualityCheck", "Check Survey Line:").toStdString();
+    for (auto& [number, line] : points) {
+        const std::string text = caption + number;
+        std::size_t done = 0;
+        for (SurveyPoint& point : line) {
+            point.qualityStandard = qualityCode(point, limits);
+            progress.report(text, ++done, line.size());
+        }
+    }
+    progress.finish();
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "lum_desktop_sdkx/dialogs/Dialog.h"
+
+class IDictionary;
+class PropertyGridCtrl;
+
+/// Edits the quality parameters in memory; the next save of the project writes them. Closing the
+/// window gives the edits up.
+class DlgQCParamSet final : public Dialog
+{
+    Q_OBJECT
+
+public:
+    /// \param parameters  outlives the dialog
+    DlgQCParamSet(QWidget* parent, IDictionary& parameters);
+
+private Q_SLOTS:
+    /// Takes the edits over, unless a value is bad or the resurvey code is none.
+    void onBtnClicked();
+
+private:
+    IDictionary& m_parameters;
+    PropertyGridCtrl* m_grid;
+};

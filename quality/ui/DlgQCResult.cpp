@@ -1,0 +1,74 @@
+#include "quality/ui/DlgQCResult.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/StatusKeys.h"
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/ICoordTransformHelper.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_desktop_sdkx/MapHighlight.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "project/DataProcessDataManager.h"
+#include "project/ISurveyPointList.h"
+#include "quality/ui/QualityResultModel.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPointF>
+
+namespace {
+
+std::string openProject()
+{
+    const IDictionary& values = get_system_status_dictionary();
+    return values.integer(status::kProjectOpen) != 0
+               ? std::string(values.text(status::kProjectPath))
+               : std::string();
+}
+
+} // namespace
+
+DlgQCResult::DlgQCResult(IDesktopHost& host, std::vector<QualityRow> rows)
+    : Dialog(host.dialogParent()), m_host(host), m_table(new CustomTableWidget(this)),
+      m_project(openProject()),
+      m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
+{
+    setWindowTitle(tr("Quality Check Result"));
+    setMinimumSizeScaled(750, 450);
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_table->setModel(new QualityResultModel(std::move(rows), m_table));
+    m_table->setAlternatingRowColors(true);
+    connect(m_table, &QAbstractItemView::clicked, this, &DlgQCResult::onItemClicked);
+    makeMainLayout()->addWidget(m_table);
+}
+
+void DlgQCResult::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
+{
+    if (openProject() != m_project)
+        close();
+}
+
+void DlgQCResult::onItemClicked(const QModelIndex& index)
+{
+    const QModelIndex first = index.siblingAtColumn(QualityResultModel::PointNumber);
+    const QString point = first.data(QualityResultModel::kPointRole).toString();
+    const QString line = first.data(QualityResultModel::kLineRole).toString();
+    const QString listName = QStringLiteral("Survey Data List");
+    if (auto* const list = m_host.windows().findAs<ISurveyPointList>(listName))
+        list->selectPoint(line, point);
+    showOnMap(line, point);
+}
+
+void DlgQCResult::showOnMap(const QString& lineNumber, const QString& pointNumber)
+{
+    const SurveyPoint* const point = DataProcessDataManager::instance()->surveyPoints().find(
+        lineNumber.toStdString(), pointNumber.toStdString());
+    if (point == nullptr) // deleted since
+        return;
+    const ICoordTransformHelper& helper = m_host.coordTransformHelper();
+    const QPointF measured = helper.projectToMap(point->north, point->east);
+    const bool hasDesign = point->designNorth != 0 && point->designEast != 0;
+    desktop::highlightOnMap(m_host, measured,
+                            hasDesign ? helper.projectToMap(point->designNorth, point->designEast)
+                                      : measured);
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ProjectCommandBase.h"
+
+/// Lets the user set the limits of the quality check. Spelled as registered.
+class QualitySpecificateCommand final : public ProjectCommandBase
+{
+public:
+    using ProjectCommandBase::ProjectCommandBase;
+    void execute() override;
+};

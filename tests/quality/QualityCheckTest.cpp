@@ -1,0 +1,227 @@
+#include "quality/QualityCheck.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/EventSubscription.h"
+#include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/Dictionary.h"
+#include "lum_sdk/EventManager.h"
+#include "quality/QualityDescription.h"
+#include "quality/QualityLimits.h"
+#include "quality/ResurveyCode.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+QualityLimits defaults()
+{
+    return QualityLimits::from(basalt::Dictionary());
+}
+
+/// A result on every limit, so that it passes.
+SurveyPoint onEveryLimit()
+{
+    SurveyPoint point;
+    point.lineNumber = "1001";
+    point.pointNumber = "10015001";
+    point.north = 4000000.3;
+    point.east = 500000.4;
+    point.designNorth = 4000000;
+    point.designEast = 500000;
+    point.elevation = 1100;
+    point.designElevation = 100;
+    point.referenceDistance = 10000;
+    point.horizontalAccuracy = -0.5;
+    point.verticalAccuracy = 0.5;
+    point.antennaHeight = 2.5;
+    point.pdop = 3;
+    point.hdop = 0.5;
+    point.vdop = 3;
+    point.satelliteNumber = 6;
+    point.transversalDeviation = -0.5;
+    point.longitudinalDeviation = 0.5;
+    return point;
+}
+
+struct Fault
+{
+    const char* name;
+    std::function<void(SurveyPoint&)> spoil;
+    int code;
+    const char* description; ///< of the one row
+    double value;
+    double limit;
+};
+
+class OneFault : public testing::TestWithParam<Fault>
+{
+};
+
+const Fault kFaults[] = {
+    {"TooFarFromDesign", [](auto& p) { p.north += 0.5; }, 1,
+     "Design-Measure Horizontal Coord Out-range.", 0.894427, 0.5},
+    {"TooHighOverDesign", [](auto& p) { p.elevation = 1100.5; }, 2,
+     "Design-Measure Vertical Coord Out-range.", 1000.5, 1000},
+    {"TooFarBothWays",
+     [](auto& p) {
+         p.north = 4000003;
+         p.east = 500004;
+         p.elevation = -1000;
+     },
+     3, "Design-Measure Horizontal AND Vertical Coord Out-range.", 1100.011364, 1000.000125},
+    {"TooFarFromTheBase", [](auto& p) { p.referenceDistance = 10000.01; }, 100,
+     "Reference Station Dist Out-range.", 10000.01, 10000},
+    {"WeakHorizontally", [](auto& p) { p.horizontalAccuracy = -0.6; }, 1000, "HRMS Out-range.",
+     -0.6, 0.5},
+    {"WeakVertically", [](auto& p) { p.verticalAccuracy = 0.6; }, 2000, "VRMS Accuracy Out-range.",
+     0.6, 0.5},
+    {"WeakBothWays",
+     [](auto& p) {
+         p.horizontalAccuracy = 3;
+         p.verticalAccuracy = -4;
+     },
+     3000, "HRMS AND VRMS Accuracy Out-range.", 5, 0.707107},
+    {"AntennaTooHigh", [](auto& p) { p.antennaHeight = 2.51; }, 10000, "Antenna Too High.", 2.51,
+     2.5},
+    {"AntennaTooLow", [](auto& p) { p.antennaHeight = 0.49; }, 20000, "Antenna Too Low.", 0.49,
+     0.5},
+    {"PdopTooLarge", [](auto& p) { p.pdop = 4; }, 100000, "PDOP Out-range.", 4, 3},
+    {"PdopTooSmall", [](auto& p) { p.pdop = 0.4; }, 100000, "PDOP Out-range.", 0.4, 0.5},
+    {"HdopTooSmall", [](auto& p) { p.hdop = 0.49; }, 200000, "HDOP Out-range.", 0.49, 0.5},
+    {"PdopAndHdop", [](auto& p) { p.pdop = p.hdop = 9; }, 300000, "PDOP AND HDOP Out-range.", -1,
+     -1},
+    {"VdopTooLarge", [](auto& p) { p.vdop = 3.01; }, 400000, "VDOP Out-range.", 3.01, 3},
+    {"PdopAndVdop", [](auto& p) { p.pdop = p.vdop = 9; }, 500000, "PDOP AND VDOP Out-range.", -1,
+     -1},
+    {"HdopAndVdop", [](auto& p) { p.hdop = p.vdop = 9; }, 600000, "HDOP AND VDOP Out-range.", -1,
+     -1},
+    {"AllDops", [](auto& p) { p.pdop = p.hdop = p.vdop = 9; }, 700000,
+     "PDOP, HDOP AND VDOP Out-range.", -1, -1},
+    {"FewSatellites", [](auto& p) { p.satelliteNumber = 5; }, 1000000,
+     "Satellite Number Insufficient.", 5, 6},
+    {"AcrossTheLine", [](auto& p) { p.transversalDeviation = -0.6; }, 10000000,
+     "Horizontal Accuracy Out-range.", -0.6, 0.5},
+    {"AlongTheLine", [](auto& p) { p.longitudinalDeviation = 0.6; }, 20000000,
+     "Vertical Accuracy Out-range.", 0.6, 0.5},
+    {"AcrossAndAlong",
+     [](auto& p) {
+         p.transversalDeviation = 6;
+         p.longitudinalDeviation = -8;
+     },
+     30000000, "Horizontal AND Vertical Accuracy Out-range.", 10, 0.707107},
+};
+
+} // namespace
+
+TEST_P(OneFault, HasItsCodeAndItsRow)
+{
+    const Fault& fault = GetParam();
+    SurveyPoint point = onEveryLimit();
+    ASSERT_EQ(qualityCode(point, defaults()), 0);
+    fault.spoil(point);
+    point.qualityStandard = qualityCode(point, defaults());
+    EXPECT_EQ(point.qualityStandard, fault.code);
+    point.qualityStandard += 20; // a resurvey's digit has no row
+    std::vector<QualityRow> rows;
+    describeQuality(point, defaults(), rows);
+    ASSERT_EQ(rows.size(), 1U);
+    EXPECT_STREQ(rows[0].description, fault.description);
+    EXPECT_NEAR(rows[0].value, fault.value, 1e-6);
+    EXPECT_NEAR(rows[0].limit, fault.limit, 1e-6);
+    EXPECT_EQ(rows[0].pointNumber, "10015001");
+}
+
+INSTANTIATE_TEST_SUITE_P(QualityCheck, OneFault, testing::ValuesIn(kFaults),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(QualityCheck, FaultsOfAllFamiliesStandSideBySide)
+{
+    SurveyPoint point; // nothing at all was measured
+    point.transversalDeviation = point.longitudinalDeviation = 1;
+    point.referenceDistance = 1e9;
+    point.horizontalAccuracy = point.verticalAccuracy = 1;
+    point.north = 1;
+    point.elevation = 1001;
+    point.qualityStandard = qualityCode(point, defaults());
+    EXPECT_EQ(point.qualityStandard, 31723103);
+    std::vector<QualityRow> rows;
+    describeQuality(point, defaults(), rows);
+    EXPECT_EQ(rows.size(), 7U);
+    EXPECT_STREQ(rows.front().description,
+                 "Design-Measure Horizontal AND Vertical Coord Out-range.");
+    EXPECT_STREQ(rows.back().description, "Horizontal AND Vertical Accuracy Out-range.");
+}
+
+TEST(QualityCheck, ReadsOddLimitsAsTheyAre)
+{
+    basalt::Dictionary parameters;
+    parameters.set("hor_accu_max", "-2.5");
+    parameters.set("pdop_max", "three");
+    parameters.set("base_dist", "0.02 km");
+    parameters.set("ant_height_min", "3");
+    parameters.set("ant_height_max", "2");
+    const QualityLimits limits = QualityLimits::from(parameters);
+    SurveyPoint point = onEveryLimit();
+    point.horizontalAccuracy = 2.5;
+    point.referenceDistance = 20;
+    point.antennaHeight = 2.5; // above the one and below the other: too high
+    EXPECT_EQ(qualityCode(point, limits), 110000) << "no PDOP is as small as a word";
+    point.horizontalAccuracy = -2.6;
+    point.referenceDistance = 21;
+    EXPECT_EQ(qualityCode(point, limits), 111100);
+}
+
+TEST(QualityCheck, WritesCodesAndReportsLineByLine)
+{
+    class Payloads final : public IEventHandler
+    {
+    public:
+        explicit Payloads(IEventManager& manager)
+            : m_subscription(*this, events::kProgress, manager)
+        {
+        }
+        void handleEvent(const char* /*name*/, const char* payload, int /*reserved*/) override
+        {
+            all.emplace_back(payload);
+        }
+        std::vector<std::string> all;
+
+    private:
+        EventSubscription m_subscription;
+    };
+    SurveyPoints points;
+    for (const char* line : {"2", "10"}) {
+        for (const char* number : {"1", "2", "3"}) {
+            SurveyPoint point = onEveryLimit();
+            point.lineNumber = line;
+            point.pointNumber = number;
+            point.qualityStandard = 77;
+            point.satelliteNumber = number[0] == '2' ? 1 : 6;
+            points.set(point);
+        }
+    }
+    EventManager manager;
+    const Payloads payloads(manager);
+    ProgressReporter progress(&manager);
+    checkQuality(points, basalt::Dictionary(), progress);
+    EXPECT_EQ(points.find("10", "1")->qualityStandard, 0);
+    EXPECT_EQ(points.find("2", "2")->qualityStandard, 1000000);
+    const std::vector<std::string> expected{"text=Check Survey Line:10,value=33.3333,is_exec=0",
+                                            "text=Check Survey Line:10,value=66.6667,is_exec=0",
+                                            "text=Check Survey Line:10,value=100,is_exec=0",
+                                            "text=Check Survey Line:2,value=33.3333,is_exec=0",
+                                            "text=Check Survey Line:2,value=66.6667,is_exec=0",
+                                            "text=Check Survey Line:2,value=100,is_exec=0",
+                                            "show=0"};
+    EXPECT_EQ(payloads.all, expected);
+}
+
+TEST(ResurveyCode, IsOneLetterButC)
+{
+    EXPECT_EQ(resurveyCode("f"), "F");
+    EXPECT_EQ(resurveyCode("Z"), "Z");
+    for (const char* bad : {"", "c", "C", "FF", "1", "É", "@", "[", "测", " F"})
+        EXPECT_FALSE(resurveyCode(bad)) << bad;
+}
