@@ -1,11 +1,13 @@
 #include "basalt_utilities/FixedDecimals.h"
 
+#include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <type_traits>
 
 namespace basalt {
 
@@ -27,6 +29,54 @@ bool isDigit(char c)
 char* writeExactly(char* to, double value, int decimals)
 {
     return std::to_chars(to, to + kFixedSize, value, std::chars_format::fixed, decimals).ptr;
+}
+
+/// Reads digits with a point at most, where the result is exact; false leaves `value` alone.
+bool readPlain(std::string_view text, double& value)
+{
+    const char* c = text.data();
+    const char* const end = c + text.size();
+    const bool isNegative = c != end && *c == '-';
+    c += isNegative ? 1 : 0;
+    const char* const first = c;
+    std::uint64_t mantissa = 0;
+    for (; c != end && isDigit(*c); ++c)
+        mantissa = mantissa * 10 + static_cast<std::uint64_t>(*c - '0');
+    std::size_t decimals = 0;
+    std::size_t digits = static_cast<std::size_t>(c - first);
+    if (digits != 0 && c != end && *c == '.') {
+        const char* const point = c;
+        for (++c; c != end && isDigit(*c); ++c)
+            mantissa = mantissa * 10 + static_cast<std::uint64_t>(*c - '0');
+        decimals = static_cast<std::size_t>(c - point) - 1;
+        digits += decimals;
+    }
+    if (c != end || digits == 0 || digits > kMostDigits || mantissa > kLargestMantissa)
+        return false;
+    value = static_cast<double>(mantissa) / kPowers[decimals];
+    value = isNegative ? -value : value;
+    return true;
+}
+
+template <class Number>
+std::optional<Number> wholeNumber(std::string_view text)
+{
+    text = trimmed(text);
+    if (text.substr(0, 1) == "+") {
+        text.remove_prefix(1);
+        if (text.substr(0, 1) == "-")
+            return std::nullopt;
+    }
+    Number value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [last, fault] = std::from_chars(text.data(), end, value);
+    if (fault != std::errc() || last != end)
+        return std::nullopt;
+    if constexpr (std::is_floating_point_v<Number>) {
+        if (!std::isfinite(value)) // "nan" and "inf" are words to from_chars
+            return std::nullopt;
+    }
+    return value;
 }
 
 } // namespace
@@ -59,27 +109,26 @@ char* writeFixed(char* to, double value, int decimals)
 
 double readDecimal(std::string_view text)
 {
-    const char* c = text.data();
-    const char* const end = c + text.size();
-    const bool isNegative = c != end && *c == '-';
-    c += isNegative ? 1 : 0;
-    const char* const first = c;
-    std::uint64_t mantissa = 0;
-    for (; c != end && isDigit(*c); ++c)
-        mantissa = mantissa * 10 + static_cast<std::uint64_t>(*c - '0');
-    std::size_t decimals = 0;
-    std::size_t digits = static_cast<std::size_t>(c - first);
-    if (digits != 0 && c != end && *c == '.') {
-        const char* const point = c;
-        for (++c; c != end && isDigit(*c); ++c)
-            mantissa = mantissa * 10 + static_cast<std::uint64_t>(*c - '0');
-        decimals = static_cast<std::size_t>(c - point) - 1;
-        digits += decimals;
-    }
-    if (c != end || digits == 0 || digits > kMostDigits || mantissa > kLargestMantissa)
-        return parseNumber(text);
-    const double value = static_cast<double>(mantissa) / kPowers[decimals];
-    return isNegative ? -value : value;
+    double value = 0;
+    return readPlain(text, value) ? value : parseNumber(text);
+}
+
+std::optional<double> wholeDecimal(std::string_view text)
+{
+    double value = 0;
+    if (readPlain(text, value))
+        return value;
+    return wholeNumber<double>(text);
+}
+
+std::optional<std::int32_t> wholeInteger(std::string_view text)
+{
+    return wholeNumber<std::int32_t>(text);
+}
+
+std::optional<std::int64_t> wholeInteger64(std::string_view text)
+{
+    return wholeNumber<std::int64_t>(text);
 }
 
 } // namespace basalt
