@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+#include <cstring>
+#include <string_view>
+
+/// The fields of a line, one after the other; empty ones too, and at least one.
+class CsvFields
+{
+public:
+    explicit CsvFields(std::string_view line) : m_next(line.data()), m_end(m_next + line.size()) {}
+
+    /// False behind the last field, with an empty text.
+    bool next(std::string_view& field)
+    {
+        field = {};
+        if (m_isDone)
+            return false;
+        const auto size = static_cast<std::size_t>(m_end - m_next);
+        const void* const comma = size == 0 ? nullptr : std::memchr(m_next, ',', size);
+        m_isDone = comma == nullptr;
+        const char* const end = m_isDone ? m_end : static_cast<const char*>(comma);
+        field = {m_next, static_cast<std::size_t>(end - m_next)};
+        m_next = m_isDone ? m_end : end + 1;
+        return true;
+    }
+
+private:
+    const char* m_next;
+    const char* m_end;
+    bool m_isDone = false;
+};
+
+/// The beginning of a field, as a message can show it.
+[[nodiscard]] QString shownField(std::string_view field);
