@@ -1,5 +1,7 @@
 #pragma once
 
+#include "basalt_utilities/PlainDecimal.h"
+
 #include <QString>
 
 #include <cstring>
@@ -23,6 +25,19 @@ public:
         const char* const end = m_isDone ? m_end : static_cast<const char*>(comma);
         field = {m_next, static_cast<std::size_t>(end - m_next)};
         m_next = m_isDone ? m_end : end + 1;
+        return true;
+    }
+
+    /// Takes the next field when it is a bare number; else false, and the field is still to come.
+    bool nextNumber(double& value)
+    {
+        const char* c = m_next;
+        double number = 0;
+        if (m_isDone || !basalt::takePlainDecimal(c, m_end, number) || (c != m_end && *c != ','))
+            return false;
+        value = number;
+        m_isDone = c == m_end;
+        m_next = m_isDone ? m_end : c + 1;
         return true;
     }
 

@@ -23,6 +23,16 @@ std::size_t endOfLines(const char* text, std::size_t size)
                            : static_cast<std::size_t>(static_cast<const char*>(last) - text) + 1;
 }
 
+std::size_t countLines(std::string_view text)
+{
+    std::size_t count = 0;
+    for (; !text.empty(); ++count) {
+        const std::size_t end = text.find('\n');
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    return count;
+}
+
 } // namespace
 
 QString CsvInput::open(const QString& path)
@@ -59,8 +69,7 @@ QString CsvInput::lookThrough()
     while (nextBlock()) {
         m_hasMark = m_hasMark || (isFirst && m_blockSize != m_block.size());
         isFirst = false;
-        m_lineCount += static_cast<std::size_t>(std::count(m_block.begin(), m_block.end(), '\n'));
-        m_lineCount += m_block.empty() || m_block.back() == '\n' ? 0U : 1U;
+        m_lineCount += countLines(m_block);
         isUtf8 = isUtf8 && basalt::isUtf8(m_block);
     }
     if (!isUtf8)

@@ -73,12 +73,12 @@ QString numberFault(const Fields& fields)
 }
 
 /// Fills `point`; or counts the line as skipped, unless it is empty or the heading.
-bool readLine(std::string_view line, std::size_t number, DesignPoint& point, ImportSummary& summary)
+bool readLine(std::string_view line, DesignPoint& point, ImportSummary& summary)
 {
     Fields fields;
     if (!split(line, fields)) {
         if (!basalt::trimmed(line).empty())
-            summary.skip(number, [] {
+            summary.skip([] {
                 return QCoreApplication::translate("DesignCsv", "There are fewer than %1 fields.")
                     .arg(kFieldCount);
             });
@@ -86,8 +86,8 @@ bool readLine(std::string_view line, std::size_t number, DesignPoint& point, Imp
     }
     if (convert(fields, point))
         return true;
-    if (number > 1 || !isHeading(fields))
-        summary.skip(number, [&] { return numberFault(fields); });
+    if (summary.linesRead > 1 || !isHeading(fields))
+        summary.skip([&] { return numberFault(fields); });
     return false;
 }
 
@@ -96,13 +96,7 @@ bool readLine(std::string_view line, std::size_t number, DesignPoint& point, Imp
 bool readDesignCsv(const QString& path, DesignPoints& points, ProgressReporter& progress,
                    ImportSummary& summary)
 {
-    const QString caption = QCoreApplication::translate("DesignCsv", "Import Design Data");
-    const auto take = [&](std::string_view line, std::size_t number) {
-        DesignPoint point;
-        if (!readLine(line, number, point, summary))
-            return false;
-        points.set(std::move(point));
-        return true;
-    };
-    return importCsv(path, caption, points, progress, summary, take);
+    return importCsv(path, QCoreApplication::translate("DesignCsv", "Import Design Data"), points,
+                     progress, summary, readLine,
+                     [&](DesignPoint&& point) { points.set(std::move(point)); });
 }

@@ -24,12 +24,13 @@ struct ImportSummary
     QString remark;               ///< about the file as a whole; mostly empty
     std::vector<Fault> faults;    ///< of the first lines that were skipped
 
-    /// Counts a line that was skipped. \param reason called for the first few only
+    /// Counts the line that was read last as skipped.
+    /// \param reason `QString()`, asked for the first few only
     template <class Reason>
-    void skip(std::size_t line, Reason reason)
+    void skip(Reason reason)
     {
         if (++linesSkipped <= kMostFaults)
-            faults.push_back({line, reason()});
+            faults.push_back({linesRead, reason()});
     }
 
     /// A few translated lines, without an end of the last.

@@ -87,11 +87,15 @@ bool SurveyRowReader::read(std::string_view line, SurveyPoint& point)
     std::string_view field;
     std::size_t index = 0;
     for (const Place& place : m_places) {
-        for (; index <= place.index; ++index) {
-            if (!fields.next(field))
-                break;
-        }
-        setField(withoutBlanks(field), *place.column, point);
+        while (index < place.index && fields.next(field))
+            ++index;
+        ++index;
+        const SurveyCsvColumn& column = *place.column;
+        const bool isNumber = column.form == Form::Fixed || column.form == Form::Angle;
+        if (isNumber && fields.nextNumber(valueOf<double>(point, column)))
+            continue;
+        fields.next(field);
+        setField(withoutBlanks(field), column, point);
     }
     return !point.pointNumber.empty();
 }

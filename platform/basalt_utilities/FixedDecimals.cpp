@@ -2,8 +2,8 @@
 
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
+#include "basalt_utilities/PlainDecimal.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -13,18 +13,7 @@ namespace basalt {
 
 namespace {
 
-// Every power is exact, and so is the quotient of an integer below 2^53 by it, rounded once.
-constexpr std::array<double, 23> kPowers{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                         1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                         1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr double kLargestScaled = 1e15;
-constexpr std::uint64_t kLargestMantissa = std::uint64_t(1) << 53;
-constexpr std::size_t kMostDigits = 18; // no overflow of the mantissa on the way
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 char* writeExactly(char* to, double value, int decimals)
 {
@@ -36,25 +25,10 @@ bool readPlain(std::string_view text, double& value)
 {
     const char* c = text.data();
     const char* const end = c + text.size();
-    const bool isNegative = c != end && *c == '-';
-    c += isNegative ? 1 : 0;
-    const char* const first = c;
-    std::uint64_t mantissa = 0;
-    for (; c != end && isDigit(*c); ++c)
-        mantissa = mantissa * 10 + static_cast<std::uint64_t>(*c - '0');
-    std::size_t decimals = 0;
-    std::size_t digits = static_cast<std::size_t>(c - first);
-    if (digits != 0 && c != end && *c == '.') {
-        const char* const point = c;
-        for (++c; c != end && isDigit(*c); ++c)
-            mantissa = mantissa * 10 + static_cast<std::uint64_t>(*c - '0');
-        decimals = static_cast<std::size_t>(c - point) - 1;
-        digits += decimals;
-    }
-    if (c != end || digits == 0 || digits > kMostDigits || mantissa > kLargestMantissa)
+    double number = 0;
+    if (!takePlainDecimal(c, end, number) || c != end)
         return false;
-    value = static_cast<double>(mantissa) / kPowers[decimals];
-    value = isNegative ? -value : value;
+    value = number;
     return true;
 }
 
@@ -83,7 +57,7 @@ std::optional<Number> wholeNumber(std::string_view text)
 
 char* writeFixed(char* to, double value, int decimals)
 {
-    const double scaled = std::fabs(value) * kPowers[static_cast<std::size_t>(decimals)];
+    const double scaled = std::fabs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
     if (!(scaled < kLargestScaled)) // also what is not a number
         return writeExactly(to, value, decimals);
     const double whole = std::floor(scaled);
@@ -96,7 +70,7 @@ char* writeFixed(char* to, double value, int decimals)
         *to++ = '-';
     if (decimals == 0)
         return std::to_chars(to, to + kFixedSize, digits).ptr;
-    const auto unit = static_cast<std::uint64_t>(kPowers[static_cast<std::size_t>(decimals)]);
+    const auto unit = static_cast<std::uint64_t>(kPowersOfTen[static_cast<std::size_t>(decimals)]);
     char* const point = std::to_chars(to, to + kFixedSize, digits / unit).ptr;
     digits %= unit;
     *point = '.';

@@ -23,11 +23,13 @@ constexpr Sequence kSequences[] = {{0xC2, 0xDF, 1, 0x80, 0xBF}, {0xE0, 0xE0, 2, 
                                    {0xEE, 0xEF, 2, 0x80, 0xBF}, {0xF0, 0xF0, 3, 0x90, 0xBF},
                                    {0xF1, 0xF3, 3, 0x80, 0xBF}, {0xF4, 0xF4, 3, 0x80, 0x8F}};
 
+constexpr std::size_t kStride = 32;
+
 bool areAscii(const char* bytes)
 {
-    std::uint64_t eight = 0;
-    std::memcpy(&eight, bytes, sizeof eight);
-    return (eight & 0x8080808080808080U) == 0;
+    std::uint64_t words[kStride / 8];
+    std::memcpy(words, bytes, sizeof words);
+    return ((words[0] | words[1] | words[2] | words[3]) & 0x8080808080808080U) == 0;
 }
 
 /// The size of the character of more than one byte that `text` begins with; 0 when it is none.
@@ -55,8 +57,8 @@ bool isUtf8(std::string_view text)
 {
     std::size_t i = 0;
     while (i < text.size()) {
-        if (text.size() - i >= 8 && areAscii(text.data() + i)) {
-            i += 8;
+        if (text.size() - i >= kStride && areAscii(text.data() + i)) {
+            i += kStride;
         } else if (static_cast<std::uint8_t>(text[i]) < 0x80U) {
             ++i;
         } else {

@@ -29,7 +29,7 @@ bool isCheckPoint(std::string_view pointNumber)
            offsetOf(pointNumber, kCheckPointSize) != std::string_view::npos;
 }
 
-void SurveyPointFiler::file(SurveyPoint point)
+void SurveyPointFiler::file(SurveyPoint&& point)
 {
     const bool isCheck = isCheckPoint(point.pointNumber);
     if (point.lineNumber.empty() && isCheck) {
