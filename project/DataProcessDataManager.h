@@ -10,6 +10,7 @@
 #include <QStringList>
 
 class IHost;
+struct ImportSummary;
 
 /// The store of the open project.
 ///
@@ -40,6 +41,14 @@ public:
     /// The database alone, see ProjectLoader and ProjectSaver.
     StoreResult load(const QString& path);
     StoreResult save(const QString& path);
+
+    // CSV files, see exchange/; 1 when done, else 0, and the log says why. Lines are written in the
+    // order of the list.
+    int exportDesignCsv(const QStringList& lines, const QString& path, bool onlyUnsurveyed);
+    int importDesignCsv(const QString& path, ImportSummary* summary = nullptr);
+    /// The columns of `exportCaptions`, which gets all of them when it is empty.
+    int exportSurveyCsv(const QStringList& lines, const QString& path);
+    int importSurveyCsv(const QString& path, ImportSummary* summary = nullptr);
 
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }
