@@ -418,11 +418,11 @@
     </message>
     <message>
         <source>Import Design Data</source>
-        <translation>导入设计数据</translation>
+        <translation>正在导入设计数据</translation>
     </message>
     <message>
         <source>Import Survey Data</source>
-        <translation>导入测量数据</translation>
+        <translation>正在导入测量数据</translation>
     </message>
     <message>
         <source>Save Design Data</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>Import Design Data</source>
-        <translation>导入设计数据</translation>
+        <translation>正在导入设计数据</translation>
     </message>
     <message>
         <source>point_num</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Export Design Data</source>
-        <translation>导出设计数据</translation>
+        <translation>正在导出设计数据</translation>
     </message>
 </context>
 <context>
@@ -912,7 +912,7 @@
     </message>
     <message>
         <source>Import Survey Data</source>
-        <translation>导入测量数据</translation>
+        <translation>正在导入测量数据</translation>
     </message>
     <message>
         <source>No line holds the captions of line number and point number.</source>
@@ -920,7 +920,7 @@
     </message>
     <message>
         <source>Export Survey Data</source>
-        <translation>导出测量数据</translation>
+        <translation>正在导出测量数据</translation>
     </message>
 </context>
 </TS>
