@@ -18,6 +18,8 @@ QString ImportSummary::toText() const
     if (!failure.isEmpty())
         lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "\"%1\" cannot be read: %2"))
                      .arg(path, failure);
+    if (!failure.isEmpty() && linesRead == 0)
+        return lines.first();
     lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Lines read: %1, points added: %2, "
                                                            "points replaced: %3, lines skipped: "
                                                            "%4."))

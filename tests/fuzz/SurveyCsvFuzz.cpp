@@ -1,10 +1,12 @@
 #include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Utf8.h"
 #include "exchange/ImportSummary.h"
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyRowReader.h"
 #include "exchange/SurveyRowWriter.h"
 #include "FuzzFile.h"
+#include "project/model/PointNumber.h"
 
 #include <cmath>
 
@@ -32,6 +34,9 @@ struct IsWhole
 /// A point that was read once stays what it is.
 void comesBack(const SurveyPoint& point)
 {
+    const std::string_view number = writtenPointNumber(point.pointNumber);
+    if (basalt::trimmed(number) != number || basalt::trimmed(point.lineNumber) != point.lineNumber)
+        return; // cut out of a check point's number beside a blank, which reading drops
     static SurveyRowWriter writer(surveyCaptions(), 0);
     static SurveyRowReader reader = [] {
         SurveyRowReader made;
