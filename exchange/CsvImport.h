@@ -12,7 +12,8 @@
 template <class Point>
 struct CsvBatch
 {
-    static constexpr std::size_t kSize = 96 * 1024 / sizeof(Point); // malloc keeps that at hand
+    static constexpr std::size_t kSize =
+        std::size_t(96) * 1024 / sizeof(Point); // malloc keeps that at hand
 
     CsvBatch() { points.reserve(kSize); }
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t kBlockSize = 512 * 1024;
+constexpr std::size_t kBlockSize = std::size_t(512) * 1024;
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
 /// The end of the last whole line; 0 when `text` holds none.

@@ -22,8 +22,8 @@ struct SurveyCsvColumn
         SolutionType,
     };
 
-    const SurveyColumn* column;
-    Form form;
+    const SurveyColumn* column = nullptr;
+    Form form = Form::Text;
     int decimals = 0; ///< of `Fixed`
     bool isRead = true;
 };

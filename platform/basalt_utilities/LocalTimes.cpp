@@ -98,8 +98,8 @@ std::optional<std::int64_t> readClock(std::string_view text)
                               std::chrono::day(static_cast<unsigned>(day))};
     if (!date.ok())
         return std::nullopt;
-    return std::int64_t(sys_days(date).time_since_epoch().count()) * kDay + hour * 3600 +
-           minute * 60 + second;
+    return std::int64_t(sys_days(date).time_since_epoch().count()) * kDay +
+           (std::int64_t(hour) * 60 + minute) * 60 + second;
 }
 
 } // namespace
@@ -129,7 +129,8 @@ char* LocalTimes::write(char* to, std::int64_t milliseconds)
         return to;
     const auto second = static_cast<unsigned>(local - day * kDay);
     std::memcpy(to, m_dayText, 10);
-    std::memcpy(to + 10, " 00:00:00", 9);
+    constexpr std::string_view kClock = " 00:00:00";
+    std::copy(kClock.begin(), kClock.end(), to + 10);
     writeDigits(to + 11, 2, second / 3600);
     writeDigits(to + 14, 2, second / 60 % 60);
     writeDigits(to + 17, 2, second % 60);

@@ -12,9 +12,7 @@ namespace {
 /// must lie; the others lie in 0x80 to 0xBF.
 struct Sequence
 {
-    std::uint8_t first, last;
-    std::size_t following;
-    std::uint8_t lowestSecond, highestSecond;
+    std::uint8_t first, last, following, lowestSecond, highestSecond;
 };
 
 // The Unicode Standard, table 3-7.
@@ -46,7 +44,7 @@ std::size_t sequenceSize(std::string_view text)
             if ((byte(i) & 0xC0U) != 0x80U)
                 return 0;
         }
-        return sequence.following + 1;
+        return std::size_t(sequence.following) + 1;
     }
     return 0;
 }

@@ -7,7 +7,7 @@
 namespace lum {
 
 namespace {
-constexpr std::size_t kBufferSize = 256 * 1024;
+constexpr std::size_t kBufferSize = std::size_t(256) * 1024;
 } // namespace
 
 WholeFileWriter::WholeFileWriter(const QString& path) : m_file(path)
