@@ -3,11 +3,20 @@
 #include "app/protocol/Events.h"
 #include "app/protocol/Payloads.h"
 #include "app/protocol/ProgressReporter.h"
+#include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
+#include "exchange/DesignCsvReader.h"
+#include "exchange/DesignCsvWriter.h"
+#include "exchange/ExportColumns.h"
+#include "exchange/ImportSummary.h"
 #include "exchange/SeaHeights.h"
+#include "exchange/SurveyCsvReader.h"
+#include "exchange/SurveyCsvWriter.h"
 #include "lum_sdk/ICoordTransform.h"
 #include "lum_sdk/IHost.h"
 #include "lum_sdk/ProjectCoordTransform.h"
+#include "lum_sdk/SystemDictionaries.h"
 #include "project/model/CodeTables.h"
 #include "project/model/CoordinateRecord.h"
 #include "project/model/SurveyColumns.h"
@@ -37,11 +46,31 @@ void setUpRasterLibrary()
     OGRRegisterAll();
     GDALAllRegister();
 }
+int exported(const QString& path, const QString& fault)
+{
+    if (fault.isEmpty())
+        return 1;
+    basalt::logError("Cannot write \"" + path.toStdString() + "\": " + fault.toStdString());
+    return 0;
+}
+
+int imported(bool isRead, ImportSummary& own, ImportSummary* asked)
+{
+    const std::string text = own.toText().toStdString();
+    if (isRead)
+        basalt::logInfo(text);
+    else
+        basalt::logError(text);
+    if (asked != nullptr)
+        *asked = std::move(own);
+    return isRead ? 1 : 0;
+}
 } // namespace
 
 DataProcessDataManager::DataProcessDataManager(IHost* host)
     : m_host(*host), m_subscription(*this, events::kDbQueryProcess, host->eventManager()),
-      m_surveyCaptions(::surveyCaptions())
+      m_surveyCaptions(::surveyCaptions()),
+      m_exportCaptions(::exportCaptions(exportColumns(get_system_ini_parameter().dictionary())))
 {
     if (managerInUse == nullptr)
         managerInUse = this;
@@ -190,6 +219,37 @@ std::vector<QualityRow> DataProcessDataManager::describeQuality() const
             ::describeQuality(point, limits, rows);
     }
     return rows;
+}
+
+int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QString& path,
+                                            bool onlyUnsurveyed)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    return exported(path, writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress));
+}
+
+int DataProcessDataManager::importDesignCsv(const QString& path, ImportSummary* summary)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    ImportSummary own;
+    return imported(readDesignCsv(path, m_design, progress, own), own, summary);
+}
+
+int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QString& path)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    if (m_exportCaptions.isEmpty())
+        m_exportCaptions = m_surveyCaptions;
+    const int format = get_system_status_dictionary().integer(status::kDegreeFormat);
+    return exported(path,
+                    writeSurveyCsv(path, m_survey, lines, {m_exportCaptions, format}, progress));
+}
+
+int DataProcessDataManager::importSurveyCsv(const QString& path, ImportSummary* summary)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    ImportSummary own;
+    return imported(readSurveyCsv(path, m_survey, progress, own), own, summary);
 }
 
 QString DataProcessDataManager::solutionTypeText(int code)

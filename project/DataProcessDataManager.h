@@ -13,6 +13,7 @@
 #include <vector>
 
 class IHost;
+struct ImportSummary;
 struct ProjectPlace;
 struct QualityRow;
 
@@ -70,6 +71,14 @@ public:
     /// The faults that the last check found, of one result or of all.
     [[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoint& point) const;
     [[nodiscard]] std::vector<QualityRow> describeQuality() const;
+
+    // CSV files, see exchange/; 1 when done, else 0, and the log says why. Lines are written in the
+    // order of the list.
+    int exportDesignCsv(const QStringList& lines, const QString& path, bool onlyUnsurveyed);
+    int importDesignCsv(const QString& path, ImportSummary* summary = nullptr);
+    /// The columns of `exportCaptions`, which gets all of them when it is empty.
+    int exportSurveyCsv(const QStringList& lines, const QString& path);
+    int importSurveyCsv(const QString& path, ImportSummary* summary = nullptr);
 
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }

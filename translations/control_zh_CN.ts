@@ -727,5 +727,109 @@
         <source>Feet</source>
         <translation>英尺</translation>
     </message>
+    <message>
+        <source>Design</source>
+        <translation>设计</translation>
+    </message>
+    <message>
+        <source>Horizontal distance from design, max.</source>
+        <translation>与设计点平面距离上限</translation>
+    </message>
+    <message>
+        <source>Height difference from design, max.</source>
+        <translation>与设计点高差上限</translation>
+    </message>
+    <message>
+        <source>Transversal deviation, max.</source>
+        <translation>横向偏差上限</translation>
+    </message>
+    <message>
+        <source>Longitudinal deviation, max.</source>
+        <translation>纵向偏差上限</translation>
+    </message>
+    <message>
+        <source>Accuracy</source>
+        <translation>精度</translation>
+    </message>
+    <message>
+        <source>HRMS, max.</source>
+        <translation>HRMS 上限</translation>
+    </message>
+    <message>
+        <source>VRMS, max.</source>
+        <translation>VRMS 上限</translation>
+    </message>
+    <message>
+        <source>Distance to base station, max.</source>
+        <translation>与基准站距离上限</translation>
+    </message>
+    <message>
+        <source>Antenna height</source>
+        <translation>天线高</translation>
+    </message>
+    <message>
+        <source>Antenna height, min.</source>
+        <translation>天线高下限</translation>
+    </message>
+    <message>
+        <source>Antenna height, max.</source>
+        <translation>天线高上限</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>卫星</translation>
+    </message>
+    <message>
+        <source>Satellites, min.</source>
+        <translation>卫星数下限</translation>
+    </message>
+    <message>
+        <source>PDOP, min.</source>
+        <translation>PDOP 下限</translation>
+    </message>
+    <message>
+        <source>PDOP, max.</source>
+        <translation>PDOP 上限</translation>
+    </message>
+    <message>
+        <source>HDOP, min.</source>
+        <translation>HDOP 下限</translation>
+    </message>
+    <message>
+        <source>HDOP, max.</source>
+        <translation>HDOP 上限</translation>
+    </message>
+    <message>
+        <source>VDOP, min.</source>
+        <translation>VDOP 下限</translation>
+    </message>
+    <message>
+        <source>VDOP, max.</source>
+        <translation>VDOP 上限</translation>
+    </message>
+    <message>
+        <source>Resurvey</source>
+        <translation>复测</translation>
+    </message>
+    <message>
+        <source>Resurvey code</source>
+        <translation>复测代码</translation>
+    </message>
+    <message>
+        <source>North difference, max.</source>
+        <translation>北坐标差上限</translation>
+    </message>
+    <message>
+        <source>East difference, max.</source>
+        <translation>东坐标差上限</translation>
+    </message>
+    <message>
+        <source>Elevation difference, max.</source>
+        <translation>高程差上限</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
 </context>
 </TS>

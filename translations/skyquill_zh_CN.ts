@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AngleText</name>
+    <message>
+        <source>deg</source>
+        <translation>度</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>秒</translation>
+    </message>
+</context>
+<context>
     <name>Applicationx</name>
     <message>
         <source>Skyquill</source>
@@ -453,6 +468,24 @@
     </message>
 </context>
 <context>
+    <name>CsvInput</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>它不是文件。</translation>
+    </message>
+</context>
+<context>
+    <name>DataInspectionCommand</name>
+    <message>
+        <source>success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Quality Check Complete!</source>
+        <translation>质量检查完成！</translation>
+    </message>
+</context>
+<context>
     <name>DataProcessDataManager</name>
     <message>
         <source>Loading Database</source>
@@ -473,6 +506,65 @@
     <message>
         <source>Save Survey Data</source>
         <translation>正在保存测量数据</translation>
+    </message>
+</context>
+<context>
+    <name>DesignCsv</name>
+    <message>
+        <source>Field %1, &quot;%2&quot;, is no integer.</source>
+        <translation>第 %1 个字段“%2”不是整数。</translation>
+    </message>
+    <message>
+        <source>Field %1, &quot;%2&quot;, is no number.</source>
+        <translation>第 %1 个字段“%2”不是数字。</translation>
+    </message>
+    <message>
+        <source>There are fewer than %1 fields.</source>
+        <translation>字段少于 %1 个。</translation>
+    </message>
+    <message>
+        <source>Import Design Data</source>
+        <translation>正在导入设计数据</translation>
+    </message>
+    <message>
+        <source>point_num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>line_num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>design code</source>
+        <translation>设计编码</translation>
+    </message>
+    <message>
+        <source>azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Export Design Data</source>
+        <translation>正在导出设计数据</translation>
     </message>
 </context>
 <context>
@@ -560,6 +652,24 @@
     </message>
 </context>
 <context>
+    <name>DlgQCParamSet</name>
+    <message>
+        <source>Quality Specification</source>
+        <translation>质量规范</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>DlgQCResult</name>
+    <message>
+        <source>Quality Check Result</source>
+        <translation>质量检查结果</translation>
+    </message>
+</context>
+<context>
     <name>EpsgSystem</name>
     <message>
         <source>There is no coordinate system EPSG:%1.</source>
@@ -583,6 +693,25 @@
     <message>
         <source>The file &quot;%1&quot; exists already. Replace it?</source>
         <translation>文件“%1”已经存在，是否替换？</translation>
+    </message>
+</context>
+<context>
+    <name>ImportSummary</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取“%1”：%2</translation>
+    </message>
+    <message>
+        <source>Lines read: %1, points added: %2, points replaced: %3, lines skipped: %4.</source>
+        <translation>读取 %1 行，新增 %2 个点，替换 %3 个点，跳过 %4 行。</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Further lines skipped: %1.</source>
+        <translation>另外还跳过 %1 行。</translation>
     </message>
 </context>
 <context>
@@ -832,6 +961,116 @@
     </message>
 </context>
 <context>
+    <name>QualityCheck</name>
+    <message>
+        <source>Check Survey Line:</source>
+        <translation>检查测线：</translation>
+    </message>
+    <message>
+        <source>Design-Measure Horizontal Coord Out-range.</source>
+        <translation>设计与实测平面坐标超限。</translation>
+    </message>
+    <message>
+        <source>Design-Measure Vertical Coord Out-range.</source>
+        <translation>设计与实测高程超限。</translation>
+    </message>
+    <message>
+        <source>Design-Measure Horizontal AND Vertical Coord Out-range.</source>
+        <translation>设计与实测平面坐标和高程均超限。</translation>
+    </message>
+    <message>
+        <source>Reference Station Dist Out-range.</source>
+        <translation>基准站距离超限。</translation>
+    </message>
+    <message>
+        <source>HRMS Out-range.</source>
+        <translation>HRMS 超限。</translation>
+    </message>
+    <message>
+        <source>VRMS Accuracy Out-range.</source>
+        <translation>VRMS 精度超限。</translation>
+    </message>
+    <message>
+        <source>HRMS AND VRMS Accuracy Out-range.</source>
+        <translation>HRMS 和 VRMS 精度均超限。</translation>
+    </message>
+    <message>
+        <source>Antenna Too High.</source>
+        <translation>天线过高。</translation>
+    </message>
+    <message>
+        <source>Antenna Too Low.</source>
+        <translation>天线过低。</translation>
+    </message>
+    <message>
+        <source>PDOP Out-range.</source>
+        <translation>PDOP 超限。</translation>
+    </message>
+    <message>
+        <source>HDOP Out-range.</source>
+        <translation>HDOP 超限。</translation>
+    </message>
+    <message>
+        <source>PDOP AND HDOP Out-range.</source>
+        <translation>PDOP 和 HDOP 均超限。</translation>
+    </message>
+    <message>
+        <source>VDOP Out-range.</source>
+        <translation>VDOP 超限。</translation>
+    </message>
+    <message>
+        <source>PDOP AND VDOP Out-range.</source>
+        <translation>PDOP 和 VDOP 均超限。</translation>
+    </message>
+    <message>
+        <source>HDOP AND VDOP Out-range.</source>
+        <translation>HDOP 和 VDOP 均超限。</translation>
+    </message>
+    <message>
+        <source>PDOP, HDOP AND VDOP Out-range.</source>
+        <translation>PDOP、HDOP 和 VDOP 均超限。</translation>
+    </message>
+    <message>
+        <source>Satellite Number Insufficient.</source>
+        <translation>卫星数不足。</translation>
+    </message>
+    <message>
+        <source>Horizontal Accuracy Out-range.</source>
+        <translation>平面精度超限。</translation>
+    </message>
+    <message>
+        <source>Vertical Accuracy Out-range.</source>
+        <translation>高程精度超限。</translation>
+    </message>
+    <message>
+        <source>Horizontal AND Vertical Accuracy Out-range.</source>
+        <translation>平面和高程精度均超限。</translation>
+    </message>
+</context>
+<context>
+    <name>QualityResultModel</name>
+    <message>
+        <source>Point Num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Line Num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Describe</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限值</translation>
+    </message>
+</context>
+<context>
     <name>RecentProjectCommand</name>
     <message>
         <source>No projects yet</source>
@@ -1077,6 +1316,33 @@
     <message>
         <source>base_station_id</source>
         <translation>base_station_id</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCsv</name>
+    <message>
+        <source>loft</source>
+        <translation>放样</translation>
+    </message>
+    <message>
+        <source>survey</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>The point has no number.</source>
+        <translation>该点没有点号。</translation>
+    </message>
+    <message>
+        <source>Import Survey Data</source>
+        <translation>正在导入测量数据</translation>
+    </message>
+    <message>
+        <source>No line holds the captions of line number and point number.</source>
+        <translation>没有任何一行含有线号和点号的列标题。</translation>
+    </message>
+    <message>
+        <source>Export Survey Data</source>
+        <translation>正在导出测量数据</translation>
     </message>
 </context>
 <context>

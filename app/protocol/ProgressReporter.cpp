@@ -47,8 +47,13 @@ void ProgressReporter::busy(const QString& caption)
 
 void ProgressReporter::finish()
 {
-    if (m_isShown && m_manager != nullptr)
-        m_manager->publish(events::kProgress, payload::kProgressEnd, 0);
+    if (m_isShown)
+        hide();
+}
+
+void ProgressReporter::hide()
+{
+    publish(payload::kProgressEnd);
     m_isShown = false;
 }
 

@@ -32,6 +32,8 @@ public:
     void busy(const QString& caption);
     /// Hides the bar; once, and only when something was reported.
     void finish();
+    /// Hides the bar, also when nothing was reported.
+    void hide();
 
 private:
     void publish(const std::string& text);

@@ -21,7 +21,8 @@ namespace settings {
 
 inline constexpr const char* kCoordUnit = "un_coordUnit"; ///< 0 metres, otherwise feet; "0"
 inline constexpr const char* kTimeZone = "time_zone";     ///< hours east of Greenwich; "8"
-inline constexpr const char* kLanguage = "language";      ///< "en", "zh_CN"; "" is the system's
-inline constexpr const char* kTheme = "theme"; ///< "light", "dark"; "" follows the desktop
+inline constexpr const char* kExportColumns = "survey_export_columns"; ///< keys; "" is all
+inline constexpr const char* kLanguage = "language"; ///< "en", "zh_CN"; "" is the system's
+inline constexpr const char* kTheme = "theme";       ///< "light", "dark"; "" follows the desktop
 
 } // namespace settings

@@ -87,7 +87,7 @@ public:
     }
 
     /// Files the point under its number, over the one that stands there.
-    Point& set(Point point)
+    Point& set(Point&& point)
     {
         if (m_blocks.empty())
             m_blocks.emplace_back();

@@ -12,10 +12,11 @@
 ///
 ///     for (const auto& [lineNumber, line] : points)
 ///         for (const Point& point : line)
-template <class Point>
+template <class P>
 class PointLines
 {
 public:
+    using Point = P;
     using Line = PointLine<Point>;
     using Map = std::map<std::string, Line, std::less<>>;
 
@@ -69,13 +70,14 @@ public:
     }
 
     /// Files the point under its line and number, over the one that stands there.
-    Point& set(Point point)
+    Point& set(Point&& point)
     {
         // Points mostly come line by line.
         if (m_last == nullptr || m_last->first != point.lineNumber)
             m_last = &*m_lines.try_emplace(point.lineNumber).first;
         return m_last->second.set(std::move(point));
     }
+    Point& set(const Point& point) { return set(Point(point)); }
 
     /// Removes a point, and its line with the last of them.
     /// \returns false when there was none

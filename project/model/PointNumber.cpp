@@ -29,7 +29,7 @@ bool isCheckPoint(std::string_view pointNumber)
            offsetOf(pointNumber, kCheckPointSize) != std::string_view::npos;
 }
 
-void fileSurveyPoint(SurveyPoints& points, SurveyPoint point)
+void SurveyPointFiler::file(SurveyPoint&& point)
 {
     const bool isCheck = isCheckPoint(point.pointNumber);
     if (point.lineNumber.empty() && isCheck) {
@@ -41,10 +41,15 @@ void fileSurveyPoint(SurveyPoints& points, SurveyPoint point)
         point.lineNumber = kEmptyLine;
     if (isCheck) {
         const std::string base = point.pointNumber + '_';
-        int counter = 0;
+        int& counter = m_counters[point.lineNumber + ',' + base];
         do {
             point.pointNumber = base + std::to_string(counter++);
-        } while (points.find(point.lineNumber, point.pointNumber) != nullptr);
+        } while (m_points.find(point.lineNumber, point.pointNumber) != nullptr);
     }
-    points.set(std::move(point));
+    m_points.set(std::move(point));
+}
+
+void fileSurveyPoint(SurveyPoints& points, SurveyPoint point)
+{
+    SurveyPointFiler(points).file(std::move(point));
 }

@@ -2,7 +2,9 @@
 
 #include "project/model/PointLines.h"
 
+#include <string>
 #include <string_view>
+#include <unordered_map>
 
 // Points that begin with "C" are check points: "C" and the eight characters of the point that is
 // measured again. In memory each has a counter behind it ("C10012034_0"), so that the line can hold
@@ -14,7 +16,23 @@
 /// Whether `pointNumber` names a check point, which gets a counter when it is filed.
 [[nodiscard]] bool isCheckPoint(std::string_view pointNumber);
 
-/// Files a point that was read: without a line it goes to `kEmptyLine`, or to the line that the
-/// check point's own number names (characters 2 to 5). A check point gets the next free counter;
-/// any other point replaces the one with its number.
+/// Files the points of one file: remembers the counters that check points have got, so that many of
+/// one number cost no more than others.
+class SurveyPointFiler
+{
+public:
+    explicit SurveyPointFiler(SurveyPoints& points) : m_points(points) {}
+
+    /// A point without a line goes to `kEmptyLine`, or to the line that the check point's own
+    /// number names (characters 2 to 5). A check point gets the next free counter; any other point
+    /// replaces the one with its number.
+    void file(SurveyPoint&& point);
+
+private:
+    SurveyPoints& m_points; // loses no point meanwhile
+    std::unordered_map<std::string, int>
+        m_counters; ///< the first that may be free, by line and number
+};
+
+/// The same for a single point.
 void fileSurveyPoint(SurveyPoints& points, SurveyPoint point);

@@ -90,3 +90,29 @@ TEST(FixedDecimals, ReadWhatTheGeneralWayReads)
         ASSERT_EQ(basalt::readDecimal(text), basalt::parseNumber(text)) << text;
     }
 }
+
+TEST(WholeNumbers, AreTheWholeTextOrNothing)
+{
+    using basalt::wholeDecimal;
+    for (const auto& [text, value] :
+         {std::pair("0", 0.0), std::pair(" 12 ", 12.0), std::pair("-1.5", -1.5),
+          std::pair("+1.5", 1.5), std::pair("1e3", 1000.0), std::pair(".5", 0.5),
+          std::pair("5.", 5.0), std::pair("\t7\r", 7.0),
+          std::pair("0.30000000000000000000001", 0.3), std::pair("9007199254740993", 0x1p53)})
+        EXPECT_EQ(wholeDecimal(text), value) << text;
+    for (const char* text : {"",     " ",    "-",   "+",     "+-1",    "- 1",    ".",   "12abc",
+                             "abc",  "0x10", "1e",  "1e999", "-1e999", "1e-999", "nan", "inf",
+                             "-inf", "1,5",  "1 2", "1.2.3", "1;2",    "\"1\""})
+        EXPECT_FALSE(wholeDecimal(text)) << text;
+    EXPECT_FALSE(wholeDecimal(std::string_view("1\0", 2)));
+}
+
+TEST(WholeNumbers, OfIntegersHaveNoDecimals)
+{
+    EXPECT_EQ(basalt::wholeInteger(" +7 "), 7);
+    EXPECT_EQ(basalt::wholeInteger("-2147483648"), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(basalt::wholeInteger64("9007199254740993"), 9007199254740993);
+    for (const char* text : {"2147483648", "1.0", "1e3", "0x10", "", "1 2", "+-1"})
+        EXPECT_FALSE(basalt::wholeInteger(text)) << text;
+    EXPECT_FALSE(basalt::wholeInteger64("9223372036854775808"));
+}

@@ -1,0 +1,84 @@
+#include "exchange/AngleText.h"
+
+#include "basalt_utilities/FixedDecimals.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+
+namespace {
+
+constexpr double kLargestAngle = 1e9; ///< beyond, milliseconds of arc have no integer
+constexpr std::int64_t kSecond = 1000;
+constexpr std::int64_t kMinute = 60 * kSecond;
+constexpr std::int64_t kDegree = 60 * kMinute;
+
+std::string unit(const char* text)
+{
+    return QCoreApplication::translate("AngleText", text).toStdString();
+}
+
+char* append(char* to, std::string_view text)
+{
+    return std::copy(text.begin(), text.end(), to);
+}
+
+char* appendInteger(char* to, std::int64_t value)
+{
+    return std::to_chars(to, to + basalt::kFixedSize, value).ptr;
+}
+
+/// Cuts the part before `unit` off `text`; false when there is no unit.
+bool cutPart(std::string_view& text, std::string_view unit, std::string_view& part)
+{
+    const std::size_t end = text.find(unit);
+    if (end == std::string_view::npos)
+        return false;
+    part = text.substr(0, end);
+    text.remove_prefix(end + unit.size());
+    return true;
+}
+
+} // namespace
+
+AngleText::AngleText(int degreeFormat)
+    : m_isDecimal(degreeFormat == 0), m_degrees(unit(QT_TRANSLATE_NOOP("AngleText", "deg"))),
+      m_minutes(unit(QT_TRANSLATE_NOOP("AngleText", "min"))),
+      m_seconds(unit(QT_TRANSLATE_NOOP("AngleText", "sec")))
+{
+}
+
+char* AngleText::write(char* to, double degrees) const
+{
+    if (m_isDecimal || !(std::fabs(degrees) < kLargestAngle))
+        return basalt::writeFixed(to, degrees, 8);
+    // In one number, so that rounding carries from the seconds up.
+    const std::int64_t all = std::llround(degrees * double(kDegree));
+    to = append(appendInteger(to, all / kDegree), m_degrees);
+    to = append(appendInteger(to, all % kDegree / kMinute), m_minutes);
+    to = basalt::writeFixed(to, double(all % kMinute) / double(kSecond), 3);
+    return append(to, m_seconds);
+}
+
+double AngleText::read(std::string_view text) const
+{
+    const auto number = basalt::wholeDecimal(text);
+    if (number)
+        return *number;
+    std::string_view degrees;
+    std::string_view minutes;
+    if (!cutPart(text, m_degrees, degrees))
+        return 0;
+    text = text.substr(0, text.find(m_degrees));
+    if (!cutPart(text, m_minutes, minutes))
+        return 0;
+    text = text.substr(0, text.find(m_minutes));
+    const std::string_view seconds = text.substr(0, text.find(m_seconds));
+    return basalt::wholeDecimal(degrees).value_or(0) +
+           basalt::wholeDecimal(minutes).value_or(0) / 60 +
+           basalt::wholeDecimal(seconds).value_or(0) / 3600;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Angles as the user reads them: decimal degrees with 8 decimals, or degrees, minutes and seconds
+/// with 3 decimals, each followed by its unit in the user's language ("30deg30min0.000sec"). Of a
+/// negative angle each part but a zero has the sign. Seconds never print as 60.
+class AngleText
+{
+public:
+    static constexpr std::size_t kMostSize = 400;
+
+    /// \param degreeFormat the status key "degree_format": 0 for decimal degrees
+    explicit AngleText(int degreeFormat);
+
+    /// \param to at least `kMostSize` bytes
+    /// \returns the end of what was written
+    char* write(char* to, double degrees) const;
+
+    /// Reads both forms, whatever the format; 0 for any other text. A part that is no number counts
+    /// as 0.
+    [[nodiscard]] double read(std::string_view text) const;
+
+private:
+    bool m_isDecimal;
+    std::string m_degrees; ///< the units, UTF-8
+    std::string m_minutes;
+    std::string m_seconds;
+};

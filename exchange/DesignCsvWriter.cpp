@@ -1,0 +1,53 @@
+#include "exchange/DesignCsvWriter.h"
+
+#include "exchange/CsvExport.h"
+#include "exchange/CsvRow.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr const char* kHeading[] = {
+    QT_TRANSLATE_NOOP("DesignCsv", "point_num"), QT_TRANSLATE_NOOP("DesignCsv", "line_num"),
+    QT_TRANSLATE_NOOP("DesignCsv", "north"),     QT_TRANSLATE_NOOP("DesignCsv", "east"),
+    QT_TRANSLATE_NOOP("DesignCsv", "elevation"), QT_TRANSLATE_NOOP("DesignCsv", "design code"),
+    QT_TRANSLATE_NOOP("DesignCsv", "azimuth"),   QT_TRANSLATE_NOOP("DesignCsv", "type"),
+    QT_TRANSLATE_NOOP("DesignCsv", "status"),
+};
+
+std::string_view headingLine(CsvRow& row)
+{
+    row.clear();
+    for (const char* caption : kHeading)
+        row.addText(QCoreApplication::translate("DesignCsv", caption).toStdString());
+    return row.finished();
+}
+
+std::string_view pointLine(const DesignPoint& point, CsvRow& row)
+{
+    row.clear();
+    row.addText(point.pointNumber);
+    row.addText(point.lineNumber);
+    row.addFixed(point.north, 4);
+    row.addFixed(point.east, 4);
+    row.addFixed(point.elevation, 4);
+    row.addText(point.pointNumber); // there is no design code of its own
+    row.addFixed(point.azimuth, 6);
+    row.addInteger(point.type);
+    row.addInteger(point.status);
+    return row.finished();
+}
+
+} // namespace
+
+QString writeDesignCsv(const QString& path, const DesignPoints& points, const QStringList& lines,
+                       bool onlyUnsurveyed, ProgressReporter& progress)
+{
+    CsvRow heading;
+    CsvRow row;
+    return exportCsv(path, QCoreApplication::translate("DesignCsv", "Export Design Data"),
+                     headingLine(heading), points, lines, progress, [&](const DesignPoint& point) {
+                         const bool isLeftOut = onlyUnsurveyed && point.status != 0;
+                         return isLeftOut ? std::string_view() : pointLine(point, row);
+                     });
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QStringList>
+
+class IDictionary;
+
+// The columns of a survey export as the user chose them, in the user's order. The settings hold
+// their keys, so that a change of language does not touch the choice.
+
+/// The keys of the chosen columns; all of them when nothing was chosen. Keys that no column has, or
+/// that stand twice, are let aside.
+[[nodiscard]] QStringList exportColumns(const IDictionary& settings);
+
+/// Notes the choice in `settings`, for their owner to save.
+void setExportColumns(IDictionary& settings, const QStringList& keys);
+
+/// The translated captions of columns by their keys.
+[[nodiscard]] QStringList exportCaptions(const QStringList& keys);

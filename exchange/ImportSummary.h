@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// What became of a file that was read.
+struct ImportSummary
+{
+    static constexpr std::size_t kMostFaults = 5;
+
+    struct Fault
+    {
+        std::size_t line; ///< counted from 1
+        QString reason;   ///< translated, a whole sentence
+    };
+
+    QString path;
+    QString failure; ///< why nothing, or not all, was read; empty when the file was read to its end
+    std::size_t linesRead = 0;
+    std::size_t pointsNew = 0;
+    std::size_t pointsReplaced = 0;
+    std::size_t linesSkipped = 0; ///< empty lines and the heading do not count
+    QString remark;               ///< about the file as a whole; mostly empty
+    std::vector<Fault> faults;    ///< of the first lines that were skipped
+
+    /// Counts the line that was read last as skipped.
+    /// \param reason `QString()`, asked for the first few only
+    template <class Reason>
+    void skip(Reason reason)
+    {
+        if (++linesSkipped <= kMostFaults)
+            faults.push_back({linesRead, reason()});
+    }
+
+    /// A few translated lines, without an end of the last.
+    [[nodiscard]] QString toText() const;
+};

@@ -1,0 +1,30 @@
+#include "exchange/SolutionTypeNames.h"
+
+#include "lum_sdk/Text.h"
+#include "project/model/CodeTables.h"
+
+namespace {
+constexpr std::size_t kMostRemembered = 64; ///< a faulty file may hold any number of them
+} // namespace
+
+std::string_view SolutionTypeNames::name(int code)
+{
+    auto found = m_names.find(code);
+    if (found == m_names.end()) {
+        if (m_names.size() >= kMostRemembered)
+            m_names.clear();
+        found = m_names.emplace(code, solutionTypeText(code).toStdString()).first;
+    }
+    return found->second;
+}
+
+int SolutionTypeNames::code(std::string_view name)
+{
+    auto found = m_codes.find(name);
+    if (found == m_codes.end()) {
+        if (m_codes.size() >= kMostRemembered)
+            m_codes.clear();
+        found = m_codes.emplace(name, solutionTypeCode(lum::toQString(name))).first;
+    }
+    return found->second;
+}

@@ -1,0 +1,15 @@
+#include "exchange/SurveyCsvWriter.h"
+
+#include "exchange/CsvExport.h"
+#include "exchange/SurveyRowWriter.h"
+
+#include <QCoreApplication>
+
+QString writeSurveyCsv(const QString& path, const SurveyPoints& points, const QStringList& lines,
+                       const SurveyCsvChoice& choice, ProgressReporter& progress)
+{
+    SurveyRowWriter rows(choice.captions, choice.degreeFormat);
+    return exportCsv(path, QCoreApplication::translate("SurveyCsv", "Export Survey Data"),
+                     std::string(rows.heading()), points, lines, progress,
+                     [&](const SurveyPoint& point) { return rows.row(point); });
+}

@@ -1,0 +1,155 @@
+#include "basalt_utilities/LocalTimes.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <ctime>
+#include <random>
+#include <string>
+
+namespace {
+
+constexpr const char* kForm = "%Y/%m/%d %H:%M:%S";
+
+/// Sets "TZ" for as long as it lives.
+class Zone
+{
+public:
+    explicit Zone(const char* name)
+    {
+        if (const char* const before = std::getenv("TZ"); before != nullptr)
+            m_before = before;
+        ::setenv("TZ", name, 1);
+        ::tzset();
+    }
+    ~Zone()
+    {
+        if (m_before.empty())
+            ::unsetenv("TZ");
+        else
+            ::setenv("TZ", m_before.c_str(), 1);
+        ::tzset();
+    }
+    Zone(const Zone&) = delete;
+    Zone& operator=(const Zone&) = delete;
+
+private:
+    std::string m_before;
+};
+
+std::string written(basalt::LocalTimes& times, std::int64_t milliseconds)
+{
+    std::array<char, basalt::LocalTimes::kTextSize> text{};
+    return {text.data(), times.write(text.data(), milliseconds)};
+}
+
+/// As the C library writes it.
+std::string plainlyWritten(std::int64_t seconds)
+{
+    const std::time_t time = seconds;
+    std::tm civil{};
+    ::localtime_r(&time, &civil);
+    std::array<char, 64> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), kForm, &civil)};
+}
+
+struct ChangeCase
+{
+    const char* name;
+    const char* zone;
+    const char* text;
+    std::int64_t seconds; ///< since 1970 UTC
+    const char* back;     ///< what is written for them
+};
+
+class LocalTimesChange : public testing::TestWithParam<ChangeCase>
+{
+};
+
+} // namespace
+
+TEST_P(LocalTimesChange, IsReadAndWritten)
+{
+    const ChangeCase& test = GetParam();
+    const Zone zone(test.zone);
+    basalt::LocalTimes times;
+    EXPECT_EQ(times.read(test.text), test.seconds * 1000);
+    EXPECT_EQ(written(times, test.seconds * 1000 + 999), test.back);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Zones, LocalTimesChange,
+    testing::Values(ChangeCase{"Summer", "Europe/Berlin", "2024/07/01 12:00:00", 1719828000,
+                               "2024/07/01 12:00:00"},
+                    ChangeCase{"BeforeTheGap", "Europe/Berlin", "2024/03/31 01:59:59", 1711846799,
+                               "2024/03/31 01:59:59"},
+                    ChangeCase{"AnHourThatDoesNotExistIsMovedOn", "Europe/Berlin",
+                               "2024/03/31 02:30:00", 1711848600, "2024/03/31 03:30:00"},
+                    ChangeCase{"AfterTheGap", "Europe/Berlin", "2024/03/31 03:00:00", 1711846800,
+                               "2024/03/31 03:00:00"},
+                    ChangeCase{"OfAnHourThatOccursTwiceTheFirst", "Europe/Berlin",
+                               "2024/10/27 02:30:00", 1729989000, "2024/10/27 02:30:00"},
+                    ChangeCase{"AfterTheHourThatOccursTwice", "Europe/Berlin",
+                               "2024/10/27 03:00:00", 1729994400, "2024/10/27 03:00:00"},
+                    ChangeCase{"TheDayThatSamoaLeftOut", "Pacific/Apia", "2011/12/30 12:00:00",
+                               1325282400, "2011/12/31 12:00:00"},
+                    ChangeCase{"ChinaHasOneTime", "Asia/Shanghai", "1970/01/01 08:00:00", 0,
+                               "1970/01/01 08:00:00"},
+                    ChangeCase{"BeforeTheEpoch", "UTC", "1969/12/31 23:59:59", -1,
+                               "1969/12/31 23:59:59"},
+                    ChangeCase{"BeyondWhatIsRemembered", "UTC", "9999/12/31 23:59:59", 253402300799,
+                               "9999/12/31 23:59:59"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(LocalTimes, AgreeWithTheSystemOnAnyMoment)
+{
+    for (const char* name :
+         {"Europe/Berlin", "Australia/Lord_Howe", "Africa/Casablanca", "America/St_Johns",
+          "Asia/Tehran", "Pacific/Apia", "CST6CDT,M3.2.0,M11.1.0"}) {
+        const Zone zone(name);
+        basalt::LocalTimes times;
+        std::mt19937_64 random(11);
+        for (int i = 0; i < 20000; ++i) {
+            const auto seconds = static_cast<std::int64_t>(random() % 9000000000U) - 2000000000;
+            const std::string text = plainlyWritten(seconds);
+            ASSERT_EQ(written(times, seconds * 1000), text) << name << ' ' << seconds;
+            // The second of two equal texts is read as the first, and is written as the same.
+            const auto read = times.read(text);
+            ASSERT_TRUE(read) << text;
+            ASSERT_LE(*read, seconds * 1000) << name << ' ' << text;
+            ASSERT_EQ(written(times, *read), text) << name;
+        }
+    }
+}
+
+TEST(LocalTimes, KeepAFixedOffset)
+{
+    const Zone zone("Europe/Berlin");
+    basalt::LocalTimes east(8);
+    basalt::LocalTimes west(-11);
+    EXPECT_EQ(written(east, 1719828000000), "2024/07/01 18:00:00");
+    EXPECT_EQ(east.read("2024/07/01 18:00:00"), 1719828000000);
+    EXPECT_EQ(written(west, 1719828000000), "2024/06/30 23:00:00");
+}
+
+TEST(LocalTimes, ReadNothingElse)
+{
+    basalt::LocalTimes times(0);
+    for (const char* text :
+         {"", "2024/07/01", "2024-07-01 12:00:00", "2024/7/1 12:00:00", "2024/02/30 12:00:00",
+          "2023/02/29 00:00:00", "2024/13/01 00:00:00", "2024/07/01 24:00:00",
+          "2024/07/01 12:60:00", "2024/07/01 12:00:60", "2024/07/01 12:00:0x",
+          "2024/07/01 12:00:00Z", " 2024/07/01 12:00:0", "-024/07/01 12:00:00"})
+        EXPECT_FALSE(times.read(text)) << text;
+}
+
+TEST(LocalTimes, WriteNothingForYearsWithoutFourDigits)
+{
+    basalt::LocalTimes times(0);
+    EXPECT_EQ(written(times, 253402300800000), "");
+    EXPECT_EQ(written(times, std::numeric_limits<std::int64_t>::max()), "");
+    EXPECT_EQ(written(times, std::numeric_limits<std::int64_t>::min()), "");
+    EXPECT_EQ(written(times, -62167219200000), "0000/01/01 00:00:00");
+    EXPECT_EQ(written(times, -62167219201000), "");
+}

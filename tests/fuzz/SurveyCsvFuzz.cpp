@@ -1,0 +1,74 @@
+#include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/KeyList.h"
+#include "basalt_utilities/Utf8.h"
+#include "exchange/ImportSummary.h"
+#include "exchange/SurveyCsvReader.h"
+#include "exchange/SurveyRowReader.h"
+#include "exchange/SurveyRowWriter.h"
+#include "FuzzFile.h"
+#include "project/model/PointNumber.h"
+
+#include <cmath>
+
+namespace {
+
+/// Holds for one field, by its type.
+struct IsWhole
+{
+    const SurveyPoint& point;
+
+    void operator()(double SurveyPoint::*field) const
+    {
+        hold(std::isfinite(point.*field), "what is taken are numbers");
+    }
+    void operator()(std::string SurveyPoint::*field) const
+    {
+        hold(basalt::isUtf8(point.*field), "what is taken is UTF-8");
+        hold((point.*field).find_first_of(",\n") == std::string::npos,
+             "a field holds no separator");
+    }
+    void operator()(std::int32_t SurveyPoint::* /*field*/) const {}
+    void operator()(std::int64_t SurveyPoint::* /*field*/) const {}
+};
+
+/// A point that was read once stays what it is.
+void comesBack(const SurveyPoint& point)
+{
+    const std::string_view number = writtenPointNumber(point.pointNumber);
+    if (basalt::trimmed(number) != number || basalt::trimmed(point.lineNumber) != point.lineNumber)
+        return; // cut out of a check point's number beside a blank, which reading drops
+    static SurveyRowWriter writer(surveyCaptions(), 0);
+    static SurveyRowReader reader = [] {
+        SurveyRowReader made;
+        const std::string heading(writer.heading());
+        hold(made.readHeading(heading.substr(0, heading.size() - 1)), "the heading is known");
+        return made;
+    }();
+    const std::string row(writer.row(point));
+    SurveyPoint again;
+    hold(reader.read(std::string_view(row).substr(0, row.size() - 1), again), "the row is read");
+    hold(writer.row(again) == row, "writing again gives the same row");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const FuzzFile file(data, size);
+    SurveyPoints points;
+    ProgressReporter progress(nullptr);
+    ImportSummary summary;
+    hold(readSurveyCsv(file.path(), points, progress, summary), "the file can be read");
+    for (const auto& [number, line] : points) {
+        hold(!number.empty(), "a line has a number");
+        for (const SurveyPoint& point : line) {
+            hold(!point.pointNumber.empty() && point.lineNumber == number,
+                 "a point is where it says");
+            for (const SurveyColumn& column : surveyColumns())
+                std::visit(IsWhole{point}, column.member);
+            comesBack(point);
+        }
+    }
+    hold(points.pointCount() == summary.pointsNew, "the summary counts the points");
+    return 0;
+}
