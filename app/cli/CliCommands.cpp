@@ -2,6 +2,8 @@
 
 #include "app/cli/CheckProject.h"
 #include "app/cli/CreateProject.h"
+#include "app/cli/ExportFile.h"
+#include "app/cli/ImportFiles.h"
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
 
@@ -20,6 +22,15 @@ constexpr std::array kCommands{
     CliCommand{"info", "PROJECT",
                "print what is in a project, a \"key: value\" line each",
                1, 1, "", "", printProjectInfo},
+    CliCommand{"import-design", "PROJECT FILE.csv",
+               "add design points, over those of the same numbers",
+               2, 2, "", "", importDesign},
+    CliCommand{"import-survey", "PROJECT FILE.csv",
+               "add survey results, over those of the same numbers",
+               2, 2, "", "", importSurvey},
+    CliCommand{"export", "PROJECT design-csv|survey-csv FILE [--lines A,B] [--only-unsurveyed]",
+               "write design points or survey results",
+               3, 3, "--lines", "--only-unsurveyed", exportFile},
     CliCommand{"set-quality", "PROJECT key=value ...",
                "set limits of the quality check",
                2, kAny, "", "", setQuality},

@@ -12,6 +12,8 @@ private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void makesAProjectAndTellsAboutIt();
     void takesASystemByItsParameters();
+    void readsAndWritesFiles();
+    void checksByTheLimitsThatAreSet();
     void refuses_data();
     void refuses();
     void helpNamesEveryCommand();
@@ -35,6 +37,28 @@ private:
                 return line.mid(int(qstrlen(key)) + 2);
         }
         return QStringLiteral("(no line \"%1\")").arg(QLatin1String(key));
+    }
+
+    void write(const char* name, const QByteArray& text) const
+    {
+        QFile file(m_folder->filePath(QString::fromUtf8(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    [[nodiscard]] QByteArray content(const char* name) const
+    {
+        QFile file(m_folder->filePath(QString::fromUtf8(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+    /// A new project. \returns its file
+    QString makeProject()
+    {
+        run({QStringLiteral("new"), QStringLiteral("."), QStringLiteral("测区")});
+        return m_output.trimmed();
+    }
+    int run(const char* command, const QString& project, const QStringList& arguments)
+    {
+        return run(QStringList{QString::fromLatin1(command), project} + arguments);
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -68,6 +92,70 @@ void CliTest::takesASystemByItsParameters()
              0);
     QCOMPARE(run({QStringLiteral("info"), m_output.trimmed()}), 0);
     QCOMPARE(told("projection"), QStringLiteral("Transverse Mercator"));
+}
+
+void CliTest::readsAndWritesFiles()
+{
+    const QString project = makeProject();
+    write("设计.csv", "1001,L10,100.0,200.0,30.0,45.0,1,0\n1002,L10,1,2,3,4,1,1\nheading\n");
+    QCOMPARE(run("import-design", project, {QStringLiteral("设计.csv")}), 0);
+    QVERIFY(m_output.contains(QStringLiteral("points added: 2")));
+    QVERIFY(m_output.contains(QStringLiteral("lines skipped: 1")));
+    write("survey.csv", "line num,point num,north\nL10,1001,100.25\n");
+    QCOMPARE(run("import-survey", project, {QStringLiteral("survey.csv")}), 0);
+    QCOMPARE(run("info", project, {}), 0);
+    QCOMPARE(told("design_points"), QStringLiteral("2"));
+    QCOMPARE(told("receiver_points"), QStringLiteral("2"));
+    QCOMPARE(told("surveyed_points"), QStringLiteral("1"));
+    QCOMPARE(told("survey_results"), QStringLiteral("1"));
+
+    QCOMPARE(
+        run("export", project,
+            {QStringLiteral("design-csv"), QStringLiteral("out.csv"), QStringLiteral("--lines"),
+             QStringLiteral("L10"), QStringLiteral("--only-unsurveyed")}),
+        0);
+    QCOMPARE(content("out.csv"),
+             QByteArray("point_num,line_num,north,east,elevation,design code,azimuth,type,status\n"
+                        "1001,L10,100.0000,200.0000,30.0000,1001,45.000000,1,0\n"));
+    QCOMPARE(run("export", project, {QStringLiteral("survey-csv"), QStringLiteral("结果.csv")}), 0);
+    QVERIFY(content("结果.csv").contains("\nL10,1001,"));
+    QCOMPARE(run("export", project,
+                 {QStringLiteral("survey-csv"), QStringLiteral("no.csv"), QStringLiteral("--lines"),
+                  QStringLiteral("L11")}),
+             1);
+    QVERIFY(m_errors.contains(QStringLiteral("L11")));
+    QCOMPARE(run("import-survey", project, {QStringLiteral("missing.csv")}), 1);
+    QVERIFY(m_errors.contains(QStringLiteral("missing.csv")));
+}
+
+void CliTest::checksByTheLimitsThatAreSet()
+{
+    const QString project = makeProject();
+    write("s.csv", "line num,point num,antenna height,pdop,hdop,vdop,sat num\n"
+                   "L10,1001,2,1.5,1,1,5\nL10,1002,2,9,9,9,6\n");
+    QCOMPARE(run("import-survey", project, {QStringLiteral("s.csv")}), 0);
+    QCOMPARE(run("check", project, {QStringLiteral("quality")}), 0);
+    QCOMPARE(m_output,
+             QStringLiteral("Point Num,Line Num,Describe,Value,Limit\n"
+                            "1001,L10,Satellite Number Insufficient.,5.000,6.000\n"
+                            "1002,L10,\"PDOP, HDOP AND VDOP Out-range.\",-1.000,-1.000\n"));
+    QCOMPARE(run("set-quality", project,
+                 {QStringLiteral("sat_num_min=5"), QStringLiteral("re_code=g"),
+                  QStringLiteral("pdop_max=9")}),
+             0);
+    QCOMPARE(run("list-quality", project, {}), 0);
+    QVERIFY(m_output.contains(QStringLiteral("\nsat_num_min=5\n")));
+    QVERIFY(m_output.contains(QStringLiteral("\nre_code=G\n")));
+    QCOMPARE(run("check", project,
+                 {QStringLiteral("quality"), QStringLiteral("--out"), QStringLiteral("r.csv")}),
+             0);
+    QCOMPARE(content("r.csv"), QByteArray("Point Num,Line Num,Describe,Value,Limit\n"
+                                          "1002,L10,HDOP AND VDOP Out-range.,-1.000,-1.000\n"));
+    for (const char* bad : {"re_code=C", "pdop_max=many", "pdop_max=inf", "colour=1", "pdop_max"}) {
+        QCOMPARE(run("set-quality", project, {QString::fromLatin1(bad)}), 1);
+        QCOMPARE(m_errors.count(QLatin1Char('\n')), 1);
+    }
+    QCOMPARE(run("check", project, {QStringLiteral("colours")}), 2);
 }
 
 void CliTest::refuses_data()
@@ -110,7 +198,9 @@ void CliTest::refuses()
 void CliTest::helpNamesEveryCommand()
 {
     QCOMPARE(run({QStringLiteral("--help")}), 0);
-    for (const char* command : {"new DIR NAME", "info PROJECT"})
+    for (const char* command :
+         {"new DIR NAME", "info PROJECT", "import-design PROJECT", "import-survey PROJECT",
+          "export PROJECT", "check PROJECT", "set-quality PROJECT", "list-quality PROJECT"})
         QVERIFY(m_output.contains(QLatin1String(command)));
 }
 

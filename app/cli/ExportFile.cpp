@@ -1,0 +1,74 @@
+#include "app/cli/ExportFile.h"
+
+#include "app/cli/CliCommands.h"
+#include "app/cli/CliProject.h"
+#include "app/protocol/ProgressReporter.h"
+#include "app/protocol/StatusKeys.h"
+#include "exchange/DesignCsvWriter.h"
+#include "exchange/SurveyCsvWriter.h"
+#include "lum_sdk/SystemDictionaries.h"
+
+namespace {
+
+/// The lines that the user names; all of them without "--lines".
+/// \returns an empty text, or which one is not there
+template <class Points>
+QString chooseLines(const CliArguments& arguments, const Points& points, QStringList& lines)
+{
+    const QString named = arguments.option(QStringLiteral("--lines"));
+    if (named.isEmpty()) {
+        for (const auto& [number, line] : points)
+            lines.append(QString::fromStdString(number));
+        return {};
+    }
+    lines = named.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        if (points.findLine(line.toStdString()) == nullptr)
+            return QStringLiteral("There is no line \"%1\".").arg(line);
+    }
+    return {};
+}
+
+QString exportDesign(const CliArguments& arguments, CliProject& project)
+{
+    const DesignPoints& points = project.manager().designPoints();
+    QStringList lines;
+    const QString fault = chooseLines(arguments, points, lines);
+    if (!fault.isEmpty())
+        return fault;
+    ProgressReporter progress(&project.events());
+    return writeDesignCsv(arguments.places[2], points, lines,
+                          arguments.options.contains(QStringLiteral("--only-unsurveyed")),
+                          progress);
+}
+
+QString exportSurvey(const CliArguments& arguments, CliProject& project)
+{
+    DataProcessDataManager& manager = project.manager();
+    QStringList lines;
+    const QString fault = chooseLines(arguments, manager.surveyPoints(), lines);
+    if (!fault.isEmpty())
+        return fault;
+    const SurveyCsvChoice choice{manager.exportCaptions(),
+                                 get_system_status_dictionary().integer(status::kDegreeFormat)};
+    ProgressReporter progress(&project.events());
+    return writeSurveyCsv(arguments.places[2], manager.surveyPoints(), lines, choice, progress);
+}
+
+} // namespace
+
+CliResult exportFile(const CliArguments& arguments)
+{
+    const QString& kind = arguments.places[1];
+    const bool isDesign = kind == QLatin1String("design-csv");
+    if (!isDesign && kind != QLatin1String("survey-csv"))
+        return CliResult::wrongUsage(
+            QStringLiteral("\"%1\" is no kind of export; there are design-csv, survey-csv")
+                .arg(kind));
+    CliProject project;
+    QString fault = project.open(arguments.places[0], ProjectAccess::Look);
+    if (!fault.isEmpty())
+        return CliResult::failed(fault);
+    fault = isDesign ? exportDesign(arguments, project) : exportSurvey(arguments, project);
+    return fault.isEmpty() ? CliResult() : CliResult::failed(fault);
+}
