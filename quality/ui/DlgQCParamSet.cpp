@@ -43,7 +43,7 @@ void DlgQCParamSet::onBtnClicked()
         return;
     }
     const basalt::Dictionary edited = m_grid->getData();
-    const auto code = resurveyCode(std::string(edited.text(kResurveyCode)));
+    const auto code = resurveyCode(std::string(qualityParameter(edited, kResurveyCode)));
     if (!code) {
         LumMessageBox::information(this, QStringLiteral("提示"),
                                    QStringLiteral("请确认输入的复测代码是不为' C '的单个字母"));

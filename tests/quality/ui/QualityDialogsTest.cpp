@@ -63,7 +63,7 @@ private Q_SLOTS:
     void init();
     void takesAGoodCode();
     void refusesABadCode();
-    void refusesABadLimit();
+    void asksToMendAFileEditedByHand();
     void theCommandChecksTellsAndLists();
     void theListIsAModelOfItsRows();
     void aClickShowsTheResult();
@@ -122,10 +122,10 @@ void QualityDialogsTest::refusesABadCode()
     QCOMPARE(parameters.size(), std::size_t(0));
 }
 
-void QualityDialogsTest::refusesABadLimit()
+void QualityDialogsTest::asksToMendAFileEditedByHand()
 {
-    basalt::Dictionary parameters;
-    parameters.set("pdop_max", "many"); // of a file edited by hand
+    basalt::Dictionary parameters; // without a resurvey code, which has its default then
+    parameters.set("pdop_max", "many");
     DlgQCParamSet dialog(nullptr, parameters);
     dialog.show();
     QTest::mouseClick(dialog.findChild<QPushButton*>(), Qt::LeftButton);
@@ -135,6 +135,8 @@ void QualityDialogsTest::refusesABadLimit()
                                                     QStringLiteral("3"));
     QTest::mouseClick(dialog.findChild<QPushButton*>(), Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
+    QVERIFY(parameters.text("re_code") == "F");
+    QVERIFY(parameters.text("pdop_max") == "3");
 }
 
 void QualityDialogsTest::theCommandChecksTellsAndLists()
