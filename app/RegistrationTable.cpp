@@ -5,7 +5,7 @@
 #include "app/CoordFormatCommand.h"
 #include "app/DataProcess5Assistant.h"
 #include "app/ProgressStatusBarForSkyquill.h"
-#include "lum_desktop_sdkx/ComponentKinds.h"
+#include "lum_desktop_sdkx/Registration.h"
 #include "project/ui/CloseProjectCommand.h"
 #include "project/ui/NewProjectCommand.h"
 #include "project/ui/OpenProjectCommand.h"
@@ -16,27 +16,7 @@
 
 namespace {
 
-template <class Class>
-bool assistant(const char* name, const char* caption)
-{
-    using Make = desktop::Maker<IGuiAssistant, Class, IDesktopHost*>;
-    return extensible_factory_register_IGuiAssistant(name, caption, Make::create, Make::destroy);
-}
-
-template <class Class>
-bool window(const char* name, const char* caption)
-{
-    using Make = desktop::Maker<IWindow, Class, IDesktopHost*>;
-    return extensible_factory_register_IWindow(name, caption, Make::create, Make::destroy);
-}
-
-template <class Class>
-bool command(const char* name, const char* caption)
-{
-    using Make = desktop::Maker<ICommandExecuterx, Class, IDesktopHost*>;
-    return extensible_factory_register_ICommandExecuterx(name, caption, Make::create,
-                                                         Make::destroy);
-}
+using namespace desktop::registration;
 
 // clang-format off
 [[maybe_unused]] const bool kRegistered[] = {
