@@ -5,7 +5,20 @@
 #include "app/CoordFormatCommand.h"
 #include "app/DataProcess5Assistant.h"
 #include "app/ProgressStatusBarForSkyquill.h"
-#include "lum_desktop_sdkx/ComponentKinds.h"
+#include "lum_desktop_sdkx/Registration.h"
+#include "map/ui/DataProcessLayerImp.h"
+#include "map/ui/DrawBoundaryCommand.h"
+#include "map/ui/DrawExcitationCommand.h"
+#include "map/ui/DrawReceiverCommand.h"
+#include "map/ui/PPKMoveCommand.h"
+#include "map/ui/PPKZoomAllCommand.h"
+#include "map/ui/PPKZoomInCommand.h"
+#include "map/ui/PPKZoomOutCommand.h"
+#include "map/ui/PPKZoomRectCommand.h"
+#include "map/ui/ReactorMoveTrans.h"
+#include "map/ui/ReactorZoomRectTrans.h"
+#include "map/ui/SeletePointReactor.h"
+#include "map/ui/ViewChangeCommand.h"
 #include "project/ui/CloseProjectCommand.h"
 #include "project/ui/NewProjectCommand.h"
 #include "project/ui/OpenProjectCommand.h"
@@ -18,32 +31,16 @@
 
 namespace {
 
-template <class Class>
-bool assistant(const char* name, const char* caption)
-{
-    using Make = desktop::Maker<IGuiAssistant, Class, IDesktopHost*>;
-    return extensible_factory_register_IGuiAssistant(name, caption, Make::create, Make::destroy);
-}
-
-template <class Class>
-bool window(const char* name, const char* caption)
-{
-    using Make = desktop::Maker<IWindow, Class, IDesktopHost*>;
-    return extensible_factory_register_IWindow(name, caption, Make::create, Make::destroy);
-}
-
-template <class Class>
-bool command(const char* name, const char* caption)
-{
-    using Make = desktop::Maker<ICommandExecuterx, Class, IDesktopHost*>;
-    return extensible_factory_register_ICommandExecuterx(name, caption, Make::create,
-                                                         Make::destroy);
-}
+using namespace desktop::registration;
 
 // clang-format off
 [[maybe_unused]] const bool kRegistered[] = {
     assistant<DataProcess5Assistant>    ("DataProcess5",                 "助手"),
     window<ProgressStatusBarForSkyquill>("ProgressStatusBarForSkyquill", "Progress"),
+    layer<DataProcessLayerImp>          ("DataProcessLayer",             "矢量图层"),
+    reactor<ReactorMoveTrans>           ("ReactorMoveTrans",             "平移"),
+    reactor<ReactorZoomRectTrans>       ("ReactorZoomRectTrans",         "局部矩形放大"),
+    reactor<SeletePointReactor>         ("SeletePointReactor",           "属性查看"),
     command<NewProjectCommand>          ("NewProjectCommand",            "新建工程"),
     command<OpenProjectCommand>         ("OpenProjectCommand",           "打开工程"),
     command<RecentProjectCommand>       ("RecentProjectCommand",         "最近工程"),
@@ -55,6 +52,15 @@ bool command(const char* name, const char* caption)
     command<DataInspectionCommand>      ("DataInspectionCommand",        "数据检查"),
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
+    command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),
+    command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
+    command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),
+    command<DrawExcitationCommand>      ("DrawExcitationCommand",        "绘制激发线"),
+    command<PPKMoveCommand>             ("PPKMoveCommand",               "地图移动"),
+    command<PPKZoomInCommand>           ("PPKZoomInCommand",             "地图放大"),
+    command<PPKZoomOutCommand>          ("PPKZoomOutCommand",            "地图缩小"),
+    command<PPKZoomAllCommand>          ("PPKZoomAllCommand",            "全图"),
+    command<PPKZoomRectCommand>         ("PPKZoomRectCommand",           "局部矩形放大"),
 };
 // clang-format on
 

@@ -1,20 +1,10 @@
 #pragma once
 
 #include "lum_desktop_sdkx/ILayerViewer.h"
+#include "lum_sdk/BaseStation.h"
 
 #include <QPointF>
 #include <QString>
-
-/// A base station as a layer knows it: where it is on the project grid, and what else the survey
-/// result says of it.
-struct BaseStation
-{
-    double north = 0; ///< metres
-    double east = 0;  ///< metres
-    double latitudeDeg = 0;
-    double longitudeDeg = 0;
-    double altitudeM = 0;
-};
 
 /// A layer whose points can be asked for; operations 7 to 12 of a layer. Positions are map
 /// coordinates; names that are not found answer empty text or false and leave the outputs alone.
@@ -29,4 +19,7 @@ public:
                                               QPointF& position) const = 0;
     [[nodiscard]] virtual bool GetBasePosition(int index, QPointF& position) const = 0;
     [[nodiscard]] virtual bool GetBaseRecord(int index, BaseStation& record) const = 0;
+
+    /// What the map says of the place under the resting cursor; empty when there is nothing.
+    [[nodiscard]] virtual QString tipAt(const QPointF& map) const = 0;
 };

@@ -37,6 +37,9 @@ public:
     [[nodiscard]] virtual QRectF GetExtent() const = 0;
     /// The map's live transform, for picking on the GUI thread. It outlives the layer.
     virtual void SetTransform(const Transform* transform) = 0;
+    /// Called on the GUI thread whenever a paint is asked for: the moment to read what belongs to
+    /// that thread. An older paint may still be running.
+    virtual void preparePaint() {}
     /// Draws in screen pixels; `view` is the visible part of the map, in map coordinates.
     virtual void Paint(const PaintTarget& target, const QRectF& view, QPainter& painter) = 0;
     [[nodiscard]] virtual IDictionary& GetProperties() = 0;

@@ -3,7 +3,7 @@
 #include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
-#include "lum_desktop_sdkx/map/LineClip.h"
+#include "lum_sdk/LineClip.h"
 
 #include <QPainter>
 #include <QPen>

@@ -1,29 +1,17 @@
 #include "lum_desktop_sdkx/map/MapComponents.h"
 
-#include "lum_desktop_sdkx/ComponentKinds.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_desktop_sdkx/map/ReactorDefault.h"
-
-namespace {
-
-bool registerAll()
-{
-    using Window = desktop::Maker<IWindow, MapWindow, IDesktopHost*>;
-    using Layer = desktop::Maker<ILayerViewer, BoundaryLayer, IDesktopHost*>;
-    using Reactor = desktop::Maker<IReactor, ReactorDefault, IMapWindow*>;
-    extensible_factory_register_IWindow("MapWindow", "地图", Window::create, Window::destroy);
-    extensible_factory_register_ILayerViewer("BoundaryLayer", "边界图层", Layer::create,
-                                             Layer::destroy);
-    extensible_factory_register_IReactor("ReactorDefault", "默认", Reactor::create,
-                                         Reactor::destroy);
-    return true;
-}
-
-} // namespace
+#include "lum_desktop_sdkx/Registration.h"
 
 void registerMapComponents()
 {
-    static const bool kIsRegistered = registerAll();
-    static_cast<void>(kIsRegistered);
+    using namespace desktop::registration;
+    static const bool once = [] {
+        window<MapWindow>("MapWindow", "地图");
+        layer<BoundaryLayer>("BoundaryLayer", "边界图层");
+        return reactor<ReactorDefault>("ReactorDefault", "默认");
+    }();
+    static_cast<void>(once);
 }

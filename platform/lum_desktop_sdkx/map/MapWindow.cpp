@@ -193,8 +193,10 @@ MapPaintJob MapWindow::makeJob()
     job.target.mapExtent = m_extent;
     job.target.status = basalt::Dictionary(get_system_status_dictionary());
     job.layers = m_layers.visibleLayers();
-    for (const ILayerViewer* layer : job.layers)
+    for (ILayerViewer* layer : job.layers) {
+        layer->preparePaint();
         job.layerNames.push_back(layer->GetName());
+    }
     job.background = palette().color(QPalette::Base);
     job.foreground = palette().color(QPalette::Text);
     job.font = fontForWorker(font());

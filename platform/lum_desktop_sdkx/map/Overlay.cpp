@@ -1,7 +1,7 @@
 #include "lum_desktop_sdkx/map/Overlay.h"
 
 #include "basalt_utilities/IDictionary.h"
-#include "lum_desktop_sdkx/map/LineClip.h"
+#include "lum_sdk/LineClip.h"
 #include "lum_sdk/Transform.h"
 
 #include <QPainter>

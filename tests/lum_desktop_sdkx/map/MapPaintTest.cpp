@@ -3,9 +3,9 @@
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
-#include "lum_desktop_sdkx/map/LineClip.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_sdk/LineClip.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
 

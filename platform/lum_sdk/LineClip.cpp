@@ -1,4 +1,4 @@
-#include "lum_desktop_sdkx/map/LineClip.h"
+#include "lum_sdk/LineClip.h"
 
 #include <QRectF>
 

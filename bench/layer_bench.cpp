@@ -1,0 +1,244 @@
+#include "bench/Limits.h"
+#include "map/DesignMarks.h"
+#include "map/DesignPicture.h"
+#include "map/PictureFrame.h"
+#include "map/SurveyMarks.h"
+#include "map/SurveyPicture.h"
+#include "tests/map/PlainPictures.h"
+#include "tests/map/TestSurvey.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <vector>
+
+// The pictures of the map's data, against the same pictures drawn by plain calls; a view of part of
+// the data, against a project that has no more than that; picking and the rebuild of the cache.
+
+namespace {
+
+constexpr QSize kScreen(1920, 1080);
+constexpr int kDesignLines = 1000;
+constexpr int kDesignPoints = 1000; // a line
+constexpr int kSurveyLines = 400;
+constexpr int kSurveyPoints = 500; // a line
+const ToMap kToMap = [](double north, double east) { return QPointF(east, north); };
+
+const DesignPoints& design()
+{
+    static const DesignPoints kAll =
+        TestSurvey().design(kDesignLines, kDesignPoints, kDesignLines / 2);
+    return kAll;
+}
+
+const DesignMarks& designMarks()
+{
+    static const DesignMarks kAll = [] {
+        DesignMarks marks;
+        marks.rebuild(design(), kToMap);
+        return marks;
+    }();
+    return kAll;
+}
+
+const SurveyPoints& survey()
+{
+    static const SurveyPoints kAll = TestSurvey().results(kSurveyLines, kSurveyPoints, 5, 0.4);
+    return kAll;
+}
+
+/// A screen that shows the middle of `lines` lines of `points` points; `share` of their extent.
+PictureFrame frameOf(int lines, int points, double share)
+{
+    const TestSurvey grid;
+    const QRectF all(grid.east, grid.north, points * grid.pointStepM, lines * grid.lineStepM);
+    PictureFrame frame;
+    frame.transform.setSize(kScreen);
+    frame.transform.fit(all, 0.05);
+    frame.transform.setView(all.center(), frame.transform.GetScale() * share);
+    frame.drawingArea = QRectF(QPointF(0, 0), kScreen);
+    return frame;
+}
+
+template <class Paint>
+double msOfPicture(const Paint& paint)
+{
+    QImage picture(kScreen, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    return 1e3 * bench::secondsOf([&] { paint(painter); });
+}
+
+/// The marks that a view shows, alone.
+DesignMarks visibleMarks(const PictureFrame& frame)
+{
+    const QRectF area = frame.mapArea(150);
+    DesignPoints points;
+    for (const auto& [number, line] : design()) {
+        for (const DesignPoint& point : line) {
+            if (area.contains(point.east, point.north))
+                points.set(point);
+        }
+    }
+    DesignMarks marks;
+    marks.rebuild(points, kToMap);
+    return marks;
+}
+
+double msOfDesign(const DesignMarks& marks, const PictureFrame& frame)
+{
+    return bench::medianOf([&] {
+        return msOfPicture([&](QPainter& painter) { paintDesign(marks, frame, {25}, painter); });
+    });
+}
+
+void BM_DesignWhole(benchmark::State& state)
+{
+    const PictureFrame frame = frameOf(kDesignLines, kDesignPoints, 1);
+    const double plainMs = bench::medianOf([&] {
+        return msOfPicture(
+            [&](QPainter& painter) { paintDesignPlainly(design(), frame, {25}, painter); });
+    });
+    for (auto _ : state)
+        bench::report(state, "design of 1,000,000 points, whole, of plain calls",
+                      msOfDesign(designMarks(), frame) / plainMs, 0.5, "");
+}
+
+/// A view of part of the design may take twice what it takes where there is no more than that.
+void designPart(benchmark::State& state, double share, const char* name)
+{
+    const PictureFrame frame = frameOf(kDesignLines, kDesignPoints, share);
+    const DesignMarks part = visibleMarks(frame);
+    const double partMs = msOfDesign(part, frame);
+    for (auto _ : state) {
+        const double ms = msOfDesign(designMarks(), frame);
+        state.counters["ms"] = ms;
+        state.counters["points"] = static_cast<double>(part.table().size());
+        bench::report(state, name, ms / partMs, 2, "");
+    }
+}
+
+void BM_DesignTenth(benchmark::State& state)
+{
+    designPart(state, 0.1, "design, a tenth, of a project of that part");
+}
+
+void BM_DesignPoints(benchmark::State& state)
+{
+    designPart(state, 0.02, "design, points, of a project of that part");
+}
+
+void BM_DesignLabels(benchmark::State& state)
+{
+    designPart(state, 0.002, "design, labels, of a project of that part");
+}
+
+void surveyPart(benchmark::State& state, double share, const char* name)
+{
+    const PictureFrame frame = frameOf(kSurveyLines, kSurveyPoints, share);
+    SurveyMarks marks;
+    marks.rebuild(survey(), kToMap);
+    const double plainMs = bench::medianOf([&] {
+        return msOfPicture(
+            [&](QPainter& painter) { paintSurveyPlainly(survey(), frame, painter); });
+    });
+    for (auto _ : state) {
+        const double ms = bench::medianOf([&] {
+            return msOfPicture([&](QPainter& painter) {
+                paintSurvey(marks, frame, QStringLiteral("Base"), painter);
+            });
+        });
+        state.counters["ms"] = ms;
+        state.counters["plain_ms"] = plainMs;
+        bench::report(state, name, ms / plainMs, 0.5, "");
+    }
+}
+
+void BM_SurveyWhole(benchmark::State& state)
+{
+    surveyPart(state, 1, "survey of 200,000 results, whole, of plain calls");
+}
+
+void BM_SurveyTenth(benchmark::State& state)
+{
+    surveyPart(state, 0.1, "survey, a tenth, of plain calls");
+}
+
+/// The longest time that a paint goes on after it has been cancelled.
+void BM_Cancel(benchmark::State& state)
+{
+    SurveyMarks marks;
+    marks.rebuild(survey(), kToMap);
+    PictureFrame frame = frameOf(kSurveyLines, kSurveyPoints, 1);
+    QElapsedTimer sinceAsked;
+    double longestMs = 0;
+    frame.isStopped = [&] {
+        longestMs = std::max(longestMs, static_cast<double>(sinceAsked.nsecsElapsed()) / 1e6);
+        sinceAsked.start();
+        return false;
+    };
+    for (auto _ : state) {
+        sinceAsked.start();
+        msOfPicture(
+            [&](QPainter& painter) { paintSurvey(marks, frame, QStringLiteral("Base"), painter); });
+    }
+    bench::report(state, "survey, from cancelling to the end of the paint", longestMs, 15, "ms");
+}
+
+/// Picks all over the design, beside points and between them.
+void BM_Pick(benchmark::State& state)
+{
+    const MarkTable& marks = designMarks().table();
+    std::vector<double> microseconds;
+    int found = 0;
+    for (auto _ : state) {
+        const auto step = static_cast<double>(microseconds.size() % 997) / 997;
+        const GridPlace place{4400000 + step * 100 * kDesignLines,
+                              500000 + (1 - step) * 25 * kDesignPoints};
+        const double seconds =
+            bench::secondsOf([&] { found += marks.nearest(place, 500).has_value() ? 1 : 0; });
+        microseconds.push_back(seconds * 1e6);
+    }
+    std::sort(microseconds.begin(), microseconds.end());
+    state.counters["found"] = found;
+    bench::report(state, "pick among 1,000,000 points, 99 of 100",
+                  microseconds[microseconds.size() * 99 / 100] / 1e3, 1, "ms");
+}
+
+void BM_Rebuild(benchmark::State& state)
+{
+    const double copyMs = bench::medianOf([] {
+        return 1e3 * bench::secondsOf([] { benchmark::DoNotOptimize(DesignPoints(design())); });
+    });
+    DesignMarks marks;
+    for (auto _ : state) {
+        const double ms = bench::medianOf(
+            [&] { return 1e3 * bench::secondsOf([&] { marks.rebuild(design(), kToMap); }); });
+        state.counters["ms"] = ms;
+        state.counters["copy_ms"] = copyMs;
+        bench::report(state, "design cache of 1,000,000 points, of a plain copy", ms / copyMs, 2,
+                      "");
+    }
+}
+
+BENCHMARK(BM_DesignWhole)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DesignTenth)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DesignPoints)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DesignLabels)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SurveyWhole)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SurveyTenth)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Cancel)->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Pick)->Iterations(2000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Rebuild)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    return bench::run(argc, argv);
+}

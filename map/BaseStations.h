@@ -1,0 +1,40 @@
+#pragma once
+
+#include "lum_sdk/BaseStation.h"
+
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+/// The base stations of the survey results, each once.
+class BaseStations
+{
+public:
+    /// Two places less than this apart are the same station.
+    static constexpr double kSameM = 1e-5;
+
+    void clear();
+    /// The first station at that place; a new one when there is none. A place that is not finite
+    /// is never the same as another.
+    /// \returns its index
+    std::uint32_t findOrAdd(const BaseStation& station);
+
+    [[nodiscard]] const std::vector<BaseStation>& list() const { return m_list; }
+
+private:
+    struct Cell
+    {
+        double north;
+        double east;
+        friend bool operator==(const Cell&, const Cell&) = default;
+    };
+    struct CellHash
+    {
+        std::size_t operator()(const Cell& cell) const;
+    };
+
+    [[nodiscard]] std::uint32_t findNear(const BaseStation& station, const Cell& cell) const;
+
+    std::vector<BaseStation> m_list;
+    std::unordered_multimap<Cell, std::uint32_t, CellHash> m_cells; ///< by place, `kSameM` wide
+};

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "map/Bounds.h"
+
+#include <QPointF>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// A place on the project grid, metres.
+struct GridPlace
+{
+    double north = 0;
+    double east = 0;
+};
+
+/// Named marks of the map, line after line: what is painted, picked and looked up.
+///
+/// Flat arrays, filled in order. Each line is cut into short blocks with their bounds, so that
+/// painting and picking look at the bounds of what is far away and no further.
+class MarkTable
+{
+public:
+    using Index = std::uint32_t;
+
+    struct Block
+    {
+        Index first = 0;
+        Index end = 0;
+        Bounds grid; ///< of the marks; x is northing, y is easting
+        Bounds seen; ///< of all that is drawn for them, map coordinates
+    };
+    struct Line
+    {
+        std::string number;
+        Index firstBlock = 0;
+        Index endBlock = 0;
+        Bounds seen;
+    };
+    struct Nearest
+    {
+        Index mark = 0;
+        double distanceM = 0;
+    };
+
+    void clear();
+    void reserve(std::size_t marks);
+
+    /// The marks that follow belong to this line. A line that gets none is dropped.
+    void beginLine(std::string_view number);
+    /// \param name in the order of bytes within its line
+    /// \returns false, and leaves it out, when a coordinate is not finite
+    bool add(std::string_view name, const GridPlace& grid, const QPointF& map);
+    /// Of the last mark something is drawn there, too; what is not finite is passed over.
+    void alsoSeenAt(const QPointF& map);
+    void endLine();
+
+    [[nodiscard]] std::size_t size() const { return m_grid.size(); }
+    [[nodiscard]] const std::vector<Line>& lines() const { return m_lines; }
+    [[nodiscard]] const Block& block(Index index) const { return m_blocks[index]; }
+    /// The first mark of a line, and the one behind its last.
+    [[nodiscard]] Index firstOf(const Line& line) const { return m_blocks[line.firstBlock].first; }
+    [[nodiscard]] Index endOf(const Line& line) const { return m_blocks[line.endBlock - 1].end; }
+
+    [[nodiscard]] const GridPlace& grid(Index mark) const { return m_grid[mark]; }
+    [[nodiscard]] const QPointF& place(Index mark) const { return m_map[mark]; }
+    [[nodiscard]] std::string_view name(Index mark) const;
+    /// Of all names, in bytes.
+    [[nodiscard]] std::size_t longestName() const { return m_longestName; }
+    /// Of all marks on the grid; x is northing, y is easting.
+    [[nodiscard]] Bounds gridBounds() const;
+
+    /// The nearest mark less than `reachM` away; of several the first.
+    [[nodiscard]] std::optional<Nearest> nearest(const GridPlace& to, double reachM) const;
+    /// The first mark of that name.
+    [[nodiscard]] std::optional<Index> find(std::string_view name) const;
+    [[nodiscard]] const Line& lineOf(Index mark) const;
+
+private:
+    std::vector<Line> m_lines;
+    std::vector<Block> m_blocks;
+    std::vector<GridPlace> m_grid;
+    std::vector<QPointF> m_map;
+    std::string m_names;              ///< one behind the other
+    std::vector<Index> m_nameEnds{0}; ///< in `m_names`; one more than there are marks
+    std::size_t m_longestName = 0;
+};

@@ -1,0 +1,69 @@
+#include "map/SurveyMarks.h"
+
+#include <cmath>
+
+void SurveyMarks::rebuild(const SurveyPoints& points, const ToMap& toMap)
+{
+    m_table.clear();
+    m_ties.clear();
+    m_bases.clear();
+    m_basePlaces.clear();
+    const std::size_t count = points.pointCount();
+    m_table.reserve(count);
+    m_ties.reserve(count);
+    for (const auto& [number, line] : points) {
+        m_table.beginLine(number);
+        for (const SurveyPoint& point : line)
+            add(point, toMap);
+        m_table.endLine();
+    }
+}
+
+void SurveyMarks::add(const SurveyPoint& point, const ToMap& toMap)
+{
+    const std::uint32_t base = baseOf(point, toMap);
+    if (!m_table.add(point.pointNumber, {point.north, point.east}, toMap(point.north, point.east)))
+        return;
+    Ties ties;
+    ties.design = toMap(point.designNorth, point.designEast);
+    ties.base = base;
+    ties.hasDesign = point.designNorth != 0 && point.designEast != 0;
+    m_ties.push_back(ties);
+    m_table.alsoSeenAt(m_basePlaces[base]);
+    if (ties.hasDesign)
+        m_table.alsoSeenAt(ties.design);
+}
+
+std::uint32_t SurveyMarks::baseOf(const SurveyPoint& point, const ToMap& toMap)
+{
+    const std::uint32_t base =
+        m_bases.findOrAdd({point.referenceNorth, point.referenceEast, point.referenceLatitude,
+                           point.referenceLongitude, point.referenceAltitude});
+    if (base == m_basePlaces.size())
+        m_basePlaces.push_back(toMap(point.referenceNorth, point.referenceEast));
+    return base;
+}
+
+Bounds SurveyMarks::gridBounds() const
+{
+    Bounds all = m_table.gridBounds();
+    for (const BaseStation& base : bases()) {
+        if (std::isfinite(base.north) && std::isfinite(base.east))
+            all.add(base.north, base.east);
+    }
+    return all;
+}
+
+std::optional<std::size_t> SurveyMarks::nearestBase(const GridPlace& to, double reachM) const
+{
+    std::optional<std::size_t> best;
+    double limit = reachM;
+    for (std::size_t i = 0; i < bases().size(); ++i) {
+        const double distance = std::hypot(bases()[i].north - to.north, bases()[i].east - to.east);
+        if (distance < limit) {
+            limit = distance;
+            best = i;
+        }
+    }
+    return best;
+}

@@ -1,0 +1,242 @@
+#include "map/SurveyPicture.h"
+
+#include "lum_sdk/DpiScale.h"
+#include "lum_sdk/LineClip.h"
+#include "map/CircleStamp.h"
+#include "map/NameWriter.h"
+#include "map/PictureFrame.h"
+#include "map/SurveyMarks.h"
+
+#include <QPainter>
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr double kRadius = 2;
+constexpr double kLineMargin = 8; // no pen or circle is seen from farther outside
+constexpr double kDashes = 6;     // pixels after which a dashed pen repeats
+constexpr double kHidden = 1.5;   // pixels around a filled circle's centre that show nothing else
+
+/// A base station on the screen.
+struct ScreenBase
+{
+    QPointF place;
+    bool isInside = false; ///< the drawing area
+    bool hasLabel = false;
+};
+
+/// What a design position's circle is filled with: the brush that was last in use.
+enum Filling : std::size_t
+{
+    Hollow,
+    Red,
+    Blue
+};
+
+class SurveyPainter
+{
+public:
+    SurveyPainter(const SurveyMarks& marks, const PictureFrame& frame, const QString& baseWord,
+                  QPainter& painter)
+        : m_survey(marks), m_marks(marks.table()), m_frame(frame), m_baseWord(baseWord),
+          m_painter(painter), m_names(painter.font()),
+          m_ratio(painter.device()->devicePixelRatioF()), m_lineArea(frame.screenArea(kLineMargin))
+    {
+        const std::size_t longest = std::max<std::size_t>(m_marks.longestName(), 24);
+        const double margin = kLineMargin + dpi_scaled(30) + m_names.reach(longest);
+        m_screen = frame.screenArea(margin);
+        m_area = frame.mapArea(margin);
+        for (const QPointF& map : marks.basePlaces()) {
+            ScreenBase base;
+            base.place = frame.transform.SurveyToScreen(map);
+            base.isInside = isInside(base.place);
+            m_bases.push_back(base);
+        }
+    }
+
+    void paint()
+    {
+        const auto& lines = m_marks.lines();
+        for (std::size_t i = 0; i < lines.size() && !m_frame.isStopped(); ++i) {
+            paintLine(lines[i]);
+            m_frame.lineDone(static_cast<double>(i + 1) * 100.0 /
+                             static_cast<double>(lines.size()));
+        }
+    }
+
+private:
+    void paintLine(const MarkTable::Line& line)
+    {
+        const MarkTable::Index labelled = m_marks.firstOf(line);
+        for (MarkTable::Index i = line.firstBlock; i < line.endBlock; ++i) {
+            const MarkTable::Block& block = m_marks.block(i);
+            if (m_frame.isStopped())
+                return;
+            if (!block.seen.touches(m_area)) {
+                passOver(block, labelled);
+                continue;
+            }
+            for (MarkTable::Index mark = block.first; mark < block.end; ++mark) {
+                paintMark(mark);
+                if (mark == labelled)
+                    paintLineLabel(line);
+            }
+        }
+    }
+
+    /// Of marks out of sight only the brush that they leave behind can be seen.
+    void passOver(const MarkTable::Block& block, MarkTable::Index labelled)
+    {
+        for (MarkTable::Index mark = block.end; mark-- > block.first;) {
+            if (mark == labelled)
+                m_filling = Red;
+            else if (m_bases[m_survey.ties(mark).base].isInside)
+                m_filling = Blue;
+            else if (isInside(screenOf(m_marks.place(mark))))
+                m_filling = Red;
+            else
+                continue;
+            return;
+        }
+    }
+
+    void paintMark(MarkTable::Index mark)
+    {
+        const SurveyMarks::Ties& ties = m_survey.ties(mark);
+        const QPointF measured = screenOf(m_marks.place(mark));
+        const bool isShown = isInside(measured);
+        drawLine(m_toBase, {measured, m_bases[ties.base].place});
+        if (ties.hasDesign)
+            paintDesignPlace(measured, screenOf(ties.design), isShown);
+        if (isShown) {
+            m_filling = Red;
+            if (m_screen.contains(measured)) {
+                m_measured.draw(m_painter, measured);
+                write(Qt::red, measured + QPointF(14, 4), m_marks.name(mark));
+            }
+        }
+        if (m_bases[ties.base].isInside)
+            paintBase(ties.base);
+    }
+
+    void paintDesignPlace(const QPointF& measured, const QPointF& design, bool isCovered)
+    {
+        const QPointF offset = design - measured;
+        if (!isCovered || std::hypot(offset.x(), offset.y()) > kHidden)
+            drawDashed({measured, design});
+        if (m_lineArea.contains(design))
+            m_designs[m_filling].draw(m_painter, design);
+    }
+
+    void paintBase(std::uint32_t index)
+    {
+        ScreenBase& base = m_bases[index];
+        m_filling = Blue;
+        if (m_lineArea.contains(base.place))
+            m_base.draw(m_painter, base.place);
+        if (base.hasLabel)
+            return;
+        base.hasLabel = true;
+        const QString label = m_baseWord + QLatin1Char('-') + QString::number(index + 1);
+        write(Qt::blue, base.place + QPointF(14, 4), label.toStdString());
+    }
+
+    void paintLineLabel(const MarkTable::Line& line)
+    {
+        m_filling = Red;
+        const QPointF place = screenOf(m_marks.place(m_marks.firstOf(line)));
+        write(Qt::red, place + QPointF(dpi_scaled(-30), dpi_scaled(5)), line.number);
+    }
+
+    void drawLine(const QPen& pen, const QLineF& line)
+    {
+        const auto seen = clippedLine(line, m_lineArea);
+        if (!seen)
+            return;
+        usePen(pen);
+        m_painter.drawLine(*seen);
+    }
+
+    /// Of a line that begins far outside only the part in sight, but with the whole line's dashes.
+    void drawDashed(const QLineF& line)
+    {
+        const auto seen = clippedLine(line, m_lineArea);
+        if (!seen)
+            return;
+        const double skipped = QLineF(line.p1(), seen->p1()).length();
+        usePen(m_toDesign);
+        if (skipped > 0) {
+            QPen pen = m_toDesign;
+            pen.setDashOffset(std::fmod(skipped, kDashes));
+            m_painter.setPen(pen);
+            m_pen = nullptr;
+        }
+        m_painter.drawLine(*seen);
+    }
+
+    void write(Qt::GlobalColor color, const QPointF& baseline, std::string_view text)
+    {
+        if (!m_screen.contains(baseline))
+            return;
+        usePen(color == Qt::red ? m_redText : m_blueText);
+        m_names.write(m_painter, baseline, text);
+    }
+
+    void usePen(const QPen& pen)
+    {
+        if (m_pen == &pen)
+            return;
+        m_painter.setPen(pen);
+        m_pen = &pen;
+    }
+
+    [[nodiscard]] bool isInside(const QPointF& screen) const
+    {
+        return std::isfinite(screen.x()) && std::isfinite(screen.y()) &&
+               m_frame.drawingArea.contains(screen);
+    }
+    [[nodiscard]] QPointF screenOf(const QPointF& map) const
+    {
+        return m_frame.transform.SurveyToScreen(map);
+    }
+
+    const SurveyMarks& m_survey;
+    const MarkTable& m_marks;
+    const PictureFrame& m_frame;
+    const QString& m_baseWord;
+    QPainter& m_painter;
+    NameWriter m_names;
+    std::vector<ScreenBase> m_bases;
+    Filling m_filling = Hollow;
+
+    const QPen m_toBase{QBrush(Qt::green), 1};
+    const QPen m_toDesign{QBrush(Qt::cyan), 1, Qt::DashLine};
+    const QPen m_redText{Qt::red};
+    const QPen m_blueText{Qt::blue};
+    const QPen* m_pen = nullptr; ///< the one in use
+
+    double m_ratio;
+    const CircleStamp m_measured{kRadius, QPen(Qt::red), QBrush(Qt::red), m_ratio};
+    const CircleStamp m_base{kRadius, QPen(Qt::blue), QBrush(Qt::blue), m_ratio};
+    const std::array<CircleStamp, 3> m_designs{
+        CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::NoBrush), m_ratio),
+        CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::red), m_ratio),
+        CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::blue), m_ratio)};
+
+    QRectF m_lineArea; ///< where a line or circle could still be seen, screen pixels
+    QRectF m_screen;   ///< where a text could still be seen, screen pixels
+    QRectF m_area;     ///< the same in map coordinates
+};
+
+} // namespace
+
+void paintSurvey(const SurveyMarks& marks, const PictureFrame& frame, const QString& baseWord,
+                 QPainter& painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    SurveyPainter(marks, frame, baseWord, painter).paint();
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QPointF>
+
+#include <functional>
+
+/// From the project grid (northing, easting, metres) to map coordinates.
+using ToMap = std::function<QPointF(double north, double east)>;

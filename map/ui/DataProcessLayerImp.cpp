@@ -1,0 +1,301 @@
+#include "map/ui/DataProcessLayerImp.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/Payloads.h"
+#include "app/protocol/StatusKeys.h"
+#include "lum_desktop_sdkx/ComponentParameters.h"
+#include "lum_desktop_sdkx/ICoordTransformHelper.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
+#include "map/DesignPicture.h"
+#include "map/MarkExtent.h"
+#include "map/SurveyPicture.h"
+#include "map/ui/LayerTexts.h"
+#include "project/DataProcessDataManager.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+constexpr double kPickPixels = 10;
+constexpr int kSurveyView = 0;
+constexpr int kDesignView = 1;
+
+constexpr const char* kRebuildEvents[] = {events::kPaintingLayerUpdate,
+                                          events::kSettingViewFinished, events::kRefreshSurveyLayer,
+                                          events::kRefreshDesignLayer};
+
+std::string subscribedEvents()
+{
+    std::string names;
+    for (const char* name : kRebuildEvents)
+        names.append(names.empty() ? "" : ",").append(name);
+    return names;
+}
+
+int viewOf(const IDictionary& status)
+{
+    return status.integer(status::kViewShowWhich, kDesignView);
+}
+
+/// Nothing without a design.
+std::optional<double> smallestSpacingM()
+{
+    DataProcessDataManager* const manager = DataProcessDataManager::instance();
+    if (manager == nullptr || manager->designParameters().size() == 0)
+        return std::nullopt;
+    const IDictionary& parameters = manager->designParameters();
+    return std::min({parameters.number("r_pt_dist", 10), parameters.number("s_pt_dist", 10),
+                     parameters.number("r_line_dist", 10), parameters.number("s_line_dist", 10)});
+}
+
+} // namespace
+
+DataProcessLayerImp::DataProcessLayerImp(const char* config, IDesktopHost* host)
+    : m_properties(desktop::componentParameters(config)), m_host(*host),
+      m_helper(*get_instance_ICoordTransformHelper(host)),
+      m_subscription(*this, subscribedEvents(), host->eventManager())
+{
+}
+
+DataProcessLayerImp::~DataProcessLayerImp() = default;
+
+std::string DataProcessLayerImp::GetName() const
+{
+    return "DataProcessLayer";
+}
+
+bool DataProcessLayerImp::IsVisible() const
+{
+    return m_properties.integer("visible", 1) != 0;
+}
+
+// --- caches ---
+
+void DataProcessLayerImp::handleEvent(const char* eventName, const char* /*payload*/,
+                                      int /*reserved*/)
+{
+    const bool isDue = std::any_of(std::begin(kRebuildEvents), std::end(kRebuildEvents),
+                                   [&](const char* name) { return !std::strcmp(name, eventName); });
+    if (isDue)
+        rebuild();
+    handOverExtent();
+}
+
+void DataProcessLayerImp::rebuild()
+{
+    m_isRebuildDue = true;
+    const int view = viewOf(get_system_status_dictionary());
+    if (view == kSurveyView)
+        rebuildSurvey();
+    else if (view == kDesignView)
+        rebuildDesign();
+    m_isRebuildDue = false;
+}
+
+void DataProcessLayerImp::rebuildDesign()
+{
+    static const DesignPoints kNone;
+    DataProcessDataManager* const manager = DataProcessDataManager::instance();
+    const auto place = [this](double north, double east) { return toMap(north, east); };
+    const std::lock_guard lock(m_designMutex);
+    m_design.rebuild(manager != nullptr ? manager->designPoints() : kNone, place);
+    m_extent = markExtent(m_design.table().gridBounds(), place);
+}
+
+void DataProcessLayerImp::rebuildSurvey()
+{
+    static const SurveyPoints kNone;
+    DataProcessDataManager* const manager = DataProcessDataManager::instance();
+    const auto place = [this](double north, double east) { return toMap(north, east); };
+    const std::lock_guard lock(m_surveyMutex);
+    m_survey.rebuild(manager != nullptr ? manager->surveyPoints() : kNone, place);
+    m_extent = markExtent(m_survey.gridBounds(), place);
+}
+
+void DataProcessLayerImp::handOverExtent()
+{
+    auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+    if (map == nullptr)
+        return;
+    // The top, alone of the four, is a whole number; not by QRect, whose numbers end at 2^31.
+    map->setExtent(m_extent.left(), std::floor(m_extent.top()), m_extent.right(),
+                   m_extent.bottom());
+}
+
+// --- painting ---
+
+void DataProcessLayerImp::preparePaint()
+{
+    Surroundings now;
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        now.drawingArea = screen->geometry();
+    now.spacingM = smallestSpacingM();
+    const std::lock_guard lock(m_surroundingsMutex);
+    m_surroundings = now;
+}
+
+void DataProcessLayerImp::Paint(const PaintTarget& target, const QRectF& /*view*/,
+                                QPainter& painter)
+{
+    Surroundings surroundings;
+    {
+        const std::lock_guard lock(m_surroundingsMutex);
+        surroundings = m_surroundings;
+    }
+    const int view = viewOf(target.status);
+    if (view == kSurveyView)
+        paintSurveyPicture(target, surroundings, painter);
+    else if (view == kDesignView)
+        paintDesignPicture(target, surroundings, painter);
+}
+
+void DataProcessLayerImp::paintDesignPicture(const PaintTarget& target,
+                                             const Surroundings& surroundings, QPainter& painter)
+{
+    const std::lock_guard lock(m_designMutex);
+    if (!surroundings.spacingM)
+        return;
+    DesignPictureOptions options;
+    options.spacingM = *surroundings.spacingM;
+    options.showsReceiverLines = target.status.integer(status::kShowReceiverLines, 1) != 0;
+    options.showsSourceLines = target.status.integer(status::kShowSourceLines, 1) != 0;
+    paintDesign(m_design, frameOf(target, surroundings, LayerTexts::drawDesign()), options,
+                painter);
+    m_host.eventManager().publish(events::kProgress, payload::kProgressEnd, 0);
+}
+
+void DataProcessLayerImp::paintSurveyPicture(const PaintTarget& target,
+                                             const Surroundings& surroundings, QPainter& painter)
+{
+    const std::lock_guard lock(m_surveyMutex);
+    paintSurvey(m_survey, frameOf(target, surroundings, LayerTexts::drawSurvey()),
+                LayerTexts::baseLabel(), painter);
+    m_host.eventManager().publish(events::kProgress, payload::kProgressEnd, 0);
+}
+
+PictureFrame DataProcessLayerImp::frameOf(const PaintTarget& target,
+                                          const Surroundings& surroundings,
+                                          const QString& caption) const
+{
+    PictureFrame frame;
+    frame.transform = target.transform;
+    frame.drawingArea = surroundings.drawingArea;
+    frame.isStopped = [this, &target] { return target.isCancelled() || m_isRebuildDue; };
+    frame.lineDone = [this, text = caption.toStdString()](double percent) {
+        m_host.eventManager().publish(events::kProgress, payload::progress(text, percent).c_str(),
+                                      0);
+    };
+    return frame;
+}
+
+// --- questions ---
+
+QPointF DataProcessLayerImp::toMap(double north, double east) const
+{
+    return m_helper.projectToMap(north, east);
+}
+
+double DataProcessLayerImp::reachM() const
+{
+    return m_transform != nullptr ? kPickPixels * m_transform->GetScale() : 0;
+}
+
+GridPlace DataProcessLayerImp::gridAt(const QPointF& map) const
+{
+    GridPlace grid;
+    m_helper.mapToProject(map, grid.north, grid.east);
+    return grid;
+}
+
+DataProcessLayerImp::SurveyPick DataProcessLayerImp::pickSurvey(const QPointF& map) const
+{
+    const GridPlace grid = gridAt(map);
+    SurveyPick pick;
+    pick.mark = m_survey.table().nearest(grid, reachM());
+    pick.base = m_survey.nearestBase(grid, pick.mark ? pick.mark->distanceM : reachM());
+    return pick;
+}
+
+QString DataProcessLayerImp::PickSurveyPoint(double x, double y) const
+{
+    const SurveyPick pick = pickSurvey({x, y});
+    if (pick.base)
+        return LayerTexts::basePick() + QLatin1Char('-') + QString::number(*pick.base);
+    return pick.mark ? lum::toQString(m_survey.table().name(pick.mark->mark)) : QString();
+}
+
+bool DataProcessLayerImp::GetSurveyPoint(const QString& name, QString& line, QPointF& measured,
+                                         QPointF& design) const
+{
+    const MarkTable& marks = m_survey.table();
+    const auto mark = marks.find(name.toStdString());
+    if (!mark)
+        return false;
+    line = lum::toQString(marks.lineOf(*mark).number);
+    measured = marks.place(*mark);
+    design = m_survey.ties(*mark).design;
+    return true;
+}
+
+std::optional<MarkTable::Nearest> DataProcessLayerImp::pickDesign(const QPointF& map) const
+{
+    return m_design.table().nearest(gridAt(map), reachM());
+}
+
+QString DataProcessLayerImp::PickDesignPoint(double x, double y) const
+{
+    const auto pick = pickDesign({x, y});
+    return pick ? lum::toQString(m_design.table().name(pick->mark)) : QString();
+}
+
+bool DataProcessLayerImp::GetDesignPoint(const QString& name, QString& line,
+                                         QPointF& position) const
+{
+    const MarkTable& marks = m_design.table();
+    const auto mark = marks.find(name.toStdString());
+    if (!mark)
+        return false;
+    line = lum::toQString(marks.lineOf(*mark).number);
+    position = marks.place(*mark);
+    return true;
+}
+
+bool DataProcessLayerImp::GetBasePosition(int index, QPointF& position) const
+{
+    BaseStation record;
+    if (!GetBaseRecord(index, record))
+        return false;
+    position = toMap(record.north, record.east);
+    return true;
+}
+
+bool DataProcessLayerImp::GetBaseRecord(int index, BaseStation& record) const
+{
+    const auto& bases = m_survey.bases();
+    if (index < 0 || static_cast<std::size_t>(index) >= bases.size())
+        return false;
+    record = bases[static_cast<std::size_t>(index)];
+    return true;
+}
+
+QString DataProcessLayerImp::tipAt(const QPointF& map) const
+{
+    const int view = viewOf(get_system_status_dictionary());
+    if (view == kDesignView)
+        return PickDesignPoint(map.x(), map.y());
+    if (view != kSurveyView)
+        return {};
+    const SurveyPick pick = pickSurvey(map);
+    if (pick.base)
+        return LayerTexts::baseLabel() + QLatin1Char('-') + QString::number(*pick.base + 1);
+    return pick.mark ? lum::toQString(m_survey.table().name(pick.mark->mark)) : QString();
+}

@@ -1,0 +1,17 @@
+#include "map/ui/MapCommandBase.h"
+
+#include "app/protocol/Events.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/IEventManager.h"
+
+IMapWindow* MapCommandBase::map() const
+{
+    return host().windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+}
+
+void MapCommandBase::announceStatus() const
+{
+    host().eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ReactorBase.h"
+
+#include <QPoint>
+
+/// Drags the map with the left button; a right click or Escape goes back to picking.
+class ReactorMoveTrans final : public ReactorBase
+{
+public:
+    ReactorMoveTrans(const char* config, IMapWindow* map);
+
+    int lButtonDown(const MouseKeyEventParameters& event) override;
+    int mouseMove(const MouseKeyEventParameters& event) override;
+    int lButtonUp(const MouseKeyEventParameters& event) override;
+    int rButtonUp(const MouseKeyEventParameters& event) override;
+
+private:
+    bool m_isDragging = false;
+    QPointF m_last; ///< screen pixels
+    QPoint m_pressed;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ReactorBase.h"
+
+#include <QPoint>
+
+/// Draws a rectangle with the left button and zooms to it; a click comes nearer about its place.
+/// A right click or Escape goes back to picking.
+class ReactorZoomRectTrans final : public ReactorBase
+{
+public:
+    ReactorZoomRectTrans(const char* config, IMapWindow* map);
+
+    int lButtonDown(const MouseKeyEventParameters& event) override;
+    int mouseMove(const MouseKeyEventParameters& event) override;
+    /// A release without a press is none of its business.
+    int lButtonUp(const MouseKeyEventParameters& event) override;
+    int rButtonUp(const MouseKeyEventParameters& event) override;
+
+private:
+    void clearBand();
+
+    bool m_isDragging = false;
+    QPoint m_pressed; ///< screen pixels
+    QPoint m_current;
+};

@@ -1,0 +1,117 @@
+#include "map/ui/SeletePointReactor.h"
+
+#include "app/protocol/Events.h"
+#include "app/protocol/Payloads.h"
+#include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/IDataLayer.h"
+#include "lum_desktop_sdkx/ILayerRegistry.h"
+#include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/IOverlay.h"
+#include "lum_desktop_sdkx/MouseKeyEventParameters.h"
+#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/IHost.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "map/ui/LayerTexts.h"
+
+#include <QColor>
+
+SeletePointReactor::SeletePointReactor(const char* /*config*/, IMapWindow* map) : ReactorBase(map)
+{
+}
+
+int SeletePointReactor::lButtonDown(const MouseKeyEventParameters& event)
+{
+    const auto* const layer =
+        dynamic_cast<IDataLayer*>(map().layers().find(QStringLiteral("DataProcessLayer")));
+    if (layer == nullptr)
+        return 0;
+    const QPointF place = map().transform().ScreenToSurvey(event.position);
+    switch (get_system_status_dictionary().integer(status::kViewShowWhich, 1)) {
+    case 0:
+        return pickSurvey(*layer, place);
+    case 1:
+        return pickDesign(*layer, place);
+    default:
+        return 1;
+    }
+}
+
+int SeletePointReactor::pickSurvey(const IDataLayer& layer, const QPointF& place)
+{
+    const QString name = layer.PickSurveyPoint(place.x(), place.y());
+    if (name.isEmpty())
+        return 0;
+    if (name.contains(LayerTexts::basePick()))
+        return selectBase(layer, name);
+    QString line;
+    QPointF measured;
+    QPointF design;
+    if (!layer.GetSurveyPoint(name, line, measured, design))
+        return 0;
+    highlight(Qt::blue, QPolygonF(QVector<QPointF>{measured, design}));
+    publish(events::kSurveyPointSelected, payload::selectedPoint(name, line));
+    return 1;
+}
+
+int SeletePointReactor::selectBase(const IDataLayer& layer, const QString& name)
+{
+    bool isNumber = false;
+    const int index = name.section(QLatin1Char('-'), 1, 1).toInt(&isNumber);
+    QPointF position;
+    if (!isNumber || !layer.GetBasePosition(index, position))
+        return 0;
+    highlight(Qt::blue, QPolygonF(QVector<QPointF>{position}));
+    publish(events::kStationPointSelected, payload::station(index));
+    return 1;
+}
+
+int SeletePointReactor::pickDesign(const IDataLayer& layer, const QPointF& place)
+{
+    const QString name = layer.PickDesignPoint(place.x(), place.y());
+    QString line;
+    QPointF position;
+    if (name.isEmpty() || !layer.GetDesignPoint(name, line, position))
+        return 0;
+    highlight(Qt::red, QPolygonF(QVector<QPointF>{position}));
+    publish(events::kDesignPointSelected, payload::selectedPoint(name, line));
+    return 1;
+}
+
+int SeletePointReactor::rButtonUp(const MouseKeyEventParameters& /*event*/)
+{
+    map().overlay(0).clear();
+    map().refreshOverlay();
+    return 1;
+}
+
+int SeletePointReactor::dblClick(const MouseKeyEventParameters& /*event*/)
+{
+    map().overlay(0).clear();
+    map().refreshOverlay();
+    map().zoomAll();
+    return 1;
+}
+
+void SeletePointReactor::highlight(const QColor& color, const QPolygonF& shape)
+{
+    basalt::Dictionary properties;
+    properties.set("point_radius", "5");
+    IOverlay& overlay = map().overlay(0);
+    overlay.clear();
+    overlay.setProperties(properties);
+    overlay.setLineStyle(Qt::DashLine);
+    overlay.setColor(color);
+    if (shape.size() == 1) {
+        overlay.setPoint(shape.first());
+    } else {
+        overlay.setLine(shape);
+        overlay.setVertices(shape);
+    }
+    map().refreshOverlay();
+}
+
+void SeletePointReactor::publish(const char* eventName, const QByteArray& payload)
+{
+    map().host().eventManager().publish(eventName, payload.constData(), 0);
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "lum_desktop_sdkx/ReactorBase.h"
+
+#include <QPolygonF>
+
+class IDataLayer;
+class QColor;
+
+/// Picks the point under a left click, highlights it and announces it. A right click or Escape
+/// takes the highlight away, a double click shows the whole survey.
+class SeletePointReactor final : public ReactorBase // spelled as registered
+{
+public:
+    SeletePointReactor(const char* config, IMapWindow* map);
+
+    int lButtonDown(const MouseKeyEventParameters& event) override;
+    int rButtonUp(const MouseKeyEventParameters& event) override;
+    int dblClick(const MouseKeyEventParameters& event) override;
+
+private:
+    [[nodiscard]] int pickSurvey(const IDataLayer& layer, const QPointF& place);
+    [[nodiscard]] int pickDesign(const IDataLayer& layer, const QPointF& place);
+    /// \param name as the layer gives it, such as "base-0"
+    [[nodiscard]] int selectBase(const IDataLayer& layer, const QString& name);
+    /// Shows a point, or a line and its ends; map coordinates.
+    void highlight(const QColor& color, const QPolygonF& shape);
+    void publish(const char* eventName, const QByteArray& payload);
+};
