@@ -6,6 +6,7 @@
 #include "app/cli/ImportFiles.h"
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
+#include "app/cli/RenderProject.h"
 
 #include <algorithm>
 #include <array>
@@ -37,6 +38,9 @@ constexpr std::array kCommands{
     CliCommand{"list-quality", "PROJECT",
                "print the limits of the quality check, a \"key=value\" line each",
                1, 1, "", "", listQuality},
+    CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH]",
+               "paint the whole map into a picture",
+               3, 3, "--size", "", renderProject, true},
     CliCommand{"check", "PROJECT quality [--out FILE]",
                "check the survey results, print the faults as CSV",
                2, 2, "--out", "", checkProject},
@@ -52,6 +56,16 @@ QString usageOf(const CliCommand& command)
 {
     return QStringLiteral("skyquill-cli %1 %2")
         .arg(QLatin1String(command.name), QLatin1String(command.usage));
+}
+
+/// Null when there is none of that name.
+const CliCommand* find(const QString& name)
+{
+    const auto* const found =
+        std::find_if(kCommands.begin(), kCommands.end(), [&](const CliCommand& command) {
+            return name == QLatin1String(command.name);
+        });
+    return found == kCommands.end() ? nullptr : found;
 }
 
 CliResult run(const CliCommand& command, const QStringList& texts)
@@ -71,22 +85,21 @@ CliResult run(const CliCommand& command, const QStringList& texts)
 
 } // namespace
 
-std::span<const CliCommand> cliCommands()
+bool cliPaints(const QStringList& arguments)
 {
-    return kCommands;
+    const CliCommand* const command = find(arguments.value(0));
+    return command != nullptr && command->paints;
 }
 
 CliResult runCli(const QStringList& arguments)
 {
     if (arguments.isEmpty())
         return CliResult::wrongUsage(QStringLiteral("no command; see skyquill-cli --help"));
-    const auto found = std::find_if(kCommands.begin(), kCommands.end(), [&](const auto& command) {
-        return arguments[0] == QLatin1String(command.name);
-    });
-    if (found == kCommands.end())
+    const CliCommand* const command = find(arguments[0]);
+    if (command == nullptr)
         return CliResult::wrongUsage(
             QStringLiteral("unknown command \"%1\"; see skyquill-cli --help").arg(arguments[0]));
-    return run(*found, arguments.mid(1));
+    return run(*command, arguments.mid(1));
 }
 
 QString cliHelp()

@@ -2,8 +2,6 @@
 
 #include "app/cli/CliArguments.h"
 
-#include <span>
-
 /// How a command ended: its exit status, and what the user has to know when it is not 0.
 struct CliResult
 {
@@ -32,9 +30,11 @@ struct CliCommand
     const char* options; ///< with a value, comma-separated
     const char* flags;   ///< without one
     CliResult (*run)(const CliArguments& arguments);
+    bool paints = false; ///< needs fonts, and so a graphical application
 };
 
-[[nodiscard]] std::span<const CliCommand> cliCommands();
+/// Whether this command line needs a graphical application.
+[[nodiscard]] bool cliPaints(const QStringList& arguments);
 
 /// Runs what the command line names.
 [[nodiscard]] CliResult runCli(const QStringList& arguments);

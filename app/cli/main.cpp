@@ -8,10 +8,11 @@
 #include "lum_sdk/Text.h"
 #include "lum_sdk/Translations.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextCodec>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -28,6 +29,18 @@ void readConfiguration()
     lum::loadTranslations(lum::toQString(language), QString::fromStdString(folder + "/Language"));
 }
 
+/// A graphical one only where it is needed, and never with a display.
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    if (!cliPaints(arguments))
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 int report(const CliResult& result)
 {
     if (result.status != CliResult::kDone)
@@ -40,7 +53,7 @@ int report(const CliResult& result)
 int main(int argc, char* argv[])
 {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also where it is "C"
-    const QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Tarvona"));
     QCoreApplication::setApplicationName(QStringLiteral("Skyquill"));
     basalt::keepLogOffConsole(); // what the user has to know is one line of ours

@@ -11,6 +11,7 @@
 #include "lum_sdk/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 #include "map/DesignPicture.h"
+#include "map/DesignSpacing.h"
 #include "map/MarkExtent.h"
 #include "map/SurveyPicture.h"
 #include "map/ui/LayerTexts.h"
@@ -44,17 +45,6 @@ std::string subscribedEvents()
 int viewOf(const IDictionary& status)
 {
     return status.integer(status::kViewShowWhich, kDesignView);
-}
-
-/// Nothing without a design.
-std::optional<double> smallestSpacingM()
-{
-    DataProcessDataManager* const manager = DataProcessDataManager::instance();
-    if (manager == nullptr || manager->designParameters().size() == 0)
-        return std::nullopt;
-    const IDictionary& parameters = manager->designParameters();
-    return std::min({parameters.number("r_pt_dist", 10), parameters.number("s_pt_dist", 10),
-                     parameters.number("r_line_dist", 10), parameters.number("s_line_dist", 10)});
 }
 
 } // namespace
@@ -138,7 +128,8 @@ void DataProcessLayerImp::preparePaint()
     Surroundings now;
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         now.drawingArea = screen->geometry();
-    now.spacingM = smallestSpacingM();
+    if (DataProcessDataManager* const manager = DataProcessDataManager::instance())
+        now.spacingM = smallestSpacingM(manager->designParameters());
     const std::lock_guard lock(m_surroundingsMutex);
     m_surroundings = now;
 }

@@ -1,0 +1,94 @@
+#include "app/cli/RenderProject.h"
+
+#include "app/cli/CliCommands.h"
+#include "app/cli/CliProject.h"
+#include "map/DesignMarks.h"
+#include "map/DesignPicture.h"
+#include "map/DesignSpacing.h"
+#include "map/MarkExtent.h"
+#include "map/PictureFrame.h"
+#include "map/SurveyMarks.h"
+#include "map/SurveyPicture.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QPainter>
+#include <QRegularExpression>
+
+namespace {
+
+constexpr QSize kUsualSize{1600, 1000};
+constexpr int kLargest = 20000;
+
+QPointF toMap(double north, double east)
+{
+    return {east, north};
+}
+
+/// \returns an empty size for a text that is none
+QSize readSize(const QString& text)
+{
+    if (text.isEmpty())
+        return kUsualSize;
+    static const QRegularExpression pattern(QStringLiteral("^(\\d{1,5})x(\\d{1,5})$"));
+    const QRegularExpressionMatch match = pattern.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    return size.isEmpty() || size.width() > kLargest || size.height() > kLargest ? QSize() : size;
+}
+
+PictureFrame frameFor(const QSize& size, const QRectF& extent)
+{
+    PictureFrame frame;
+    frame.transform.setSize(size);
+    frame.transform.fit(extent);
+    frame.drawingArea = QRectF(QPointF(0, 0), size);
+    return frame;
+}
+
+void paintDesignOf(DataProcessDataManager& manager, QImage& image)
+{
+    DesignMarks marks;
+    marks.rebuild(manager.designPoints(), toMap);
+    DesignPictureOptions options;
+    options.spacingM = smallestSpacingM(manager.designParameters()).value_or(options.spacingM);
+    QPainter painter(&image);
+    paintDesign(marks, frameFor(image.size(), markExtent(marks.table().gridBounds(), toMap)),
+                options, painter);
+}
+
+void paintSurveyOf(DataProcessDataManager& manager, QImage& image)
+{
+    SurveyMarks marks;
+    marks.rebuild(manager.surveyPoints(), toMap);
+    QPainter painter(&image);
+    paintSurvey(marks, frameFor(image.size(), markExtent(marks.gridBounds(), toMap)),
+                QCoreApplication::translate("DataProcessLayerImp", "Base"), painter);
+}
+
+} // namespace
+
+CliResult renderProject(const CliArguments& arguments)
+{
+    const QString& view = arguments.places[1];
+    const QSize size = readSize(arguments.option(QStringLiteral("--size")));
+    if (view != QLatin1String("design") && view != QLatin1String("survey"))
+        return CliResult::wrongUsage(
+            QStringLiteral("\"%1\" is neither design nor survey").arg(view));
+    if (size.isEmpty())
+        return CliResult::wrongUsage(QStringLiteral("a size reads 1600x1000, up to 20000 a side"));
+    CliProject project;
+    const QString fault = project.open(arguments.places[0], ProjectAccess::Look);
+    if (!fault.isEmpty())
+        return CliResult::failed(fault);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    if (view == QLatin1String("design"))
+        paintDesignOf(project.manager(), image);
+    else
+        paintSurveyOf(project.manager(), image);
+    const QString& file = arguments.places[2];
+    return image.save(file)
+               ? CliResult()
+               : CliResult::failed(
+                     QStringLiteral("The picture \"%1\" cannot be written.").arg(file));
+}
