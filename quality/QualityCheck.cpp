@@ -5,7 +5,10 @@
 
 #include <QCoreApplication>
 
+#include <atomic>
 #include <cmath>
+#include <future>
+#include <utility>
 
 namespace {
 
@@ -35,6 +38,12 @@ int faults(bool first, bool second)
     return (first ? 1 : 0) + (second ? 2 : 0);
 }
 
+void reportLine(const std::string& caption, std::size_t count, ProgressReporter& progress)
+{
+    for (std::size_t done = 1; done <= count; ++done)
+        progress.report(caption, done, count);
+}
+
 } // namespace
 
 int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
@@ -61,15 +70,25 @@ int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
 void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress)
 {
     const QualityLimits limits = QualityLimits::from(parameters);
+    // Judging waits for the memory and reporting for its listeners: each has a core of its own. A
+    // line is judged before it is reported.
+    std::atomic<std::size_t> linesJudged = 0;
+    const auto judging = std::async(std::launch::async, [&] {
+        for (auto& [number, line] : points) {
+            for (SurveyPoint& point : line)
+                point.qualityStandard = qualityCode(point, limits);
+            ++linesJudged;
+            linesJudged.notify_one();
+        }
+    });
     const std::string caption =
         QCoreApplication::translate("QualityCheck", "Check Survey Line:").toStdString();
-    for (auto& [number, line] : points) {
-        const std::string text = caption + number;
-        std::size_t done = 0;
-        for (SurveyPoint& point : line) {
-            point.qualityStandard = qualityCode(point, limits);
-            progress.report(text, ++done, line.size());
-        }
+    std::size_t linesReported = 0;
+    for (const auto& [number, line] : std::as_const(points)) {
+        for (std::size_t judged = linesJudged; judged <= linesReported; judged = linesJudged)
+            linesJudged.wait(judged);
+        reportLine(caption + number, line.size(), progress);
+        ++linesReported;
     }
     progress.finish();
 }

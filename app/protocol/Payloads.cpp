@@ -1,9 +1,12 @@
 #include "app/protocol/Payloads.h"
 
+#include "basalt_utilities/FixedDecimals.h"
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
 
 #include <QString>
+
+#include <array>
 
 namespace {
 
@@ -18,8 +21,21 @@ namespace payload {
 
 std::string progress(std::string_view caption, double percent)
 {
-    return "text=" + basalt::quotedValue(caption) + ",value=" + basalt::formatGeneral(percent) +
-           ",is_exec=0";
+    return Progress().at(caption, percent);
+}
+
+const char* Progress::at(std::string_view caption, double percent)
+{
+    if (m_valueAt == 0 || caption != m_caption) {
+        m_caption = caption;
+        m_text = "text=" + basalt::quotedValue(caption) + ",value=";
+        m_valueAt = m_text.size();
+    }
+    std::array<char, basalt::kFixedSize> value;
+    char* const end = basalt::writeGeneral(value.data(), percent);
+    m_text.resize(m_valueAt);
+    m_text.append(value.data(), end).append(",is_exec=0");
+    return m_text.c_str();
 }
 
 std::string started(std::string_view caption)

@@ -12,6 +12,18 @@ namespace payload {
 
 /// "text=CAPTION,value=PERCENT,is_exec=0"; the percent in general notation, six digits.
 [[nodiscard]] std::string progress(std::string_view caption, double percent);
+/// The same, step after step of one caption.
+class Progress
+{
+public:
+    /// \returns a text that lasts until the next call
+    const char* at(std::string_view caption, double percent);
+
+private:
+    std::string m_caption;
+    std::string m_text;
+    std::size_t m_valueAt = 0; ///< where the percent begins; 0 before the first text
+};
 /// "text=CAPTION,value=0": work that begins.
 [[nodiscard]] std::string started(std::string_view caption);
 /// "text=CAPTION,scroll=1": work of unknown length.

@@ -22,12 +22,12 @@ ProgressReporter::~ProgressReporter()
 
 void ProgressReporter::start(const QString& caption)
 {
-    publish(payload::started(caption.toStdString()));
+    publish(payload::started(caption.toStdString()).c_str());
 }
 
 void ProgressReporter::report(const QString& caption, double percent)
 {
-    publish(payload::progress(caption.toStdString(), percent));
+    publish(m_progress.at(caption.toStdString(), percent));
 }
 
 void ProgressReporter::report(const QString& caption, std::size_t done, std::size_t total)
@@ -37,12 +37,12 @@ void ProgressReporter::report(const QString& caption, std::size_t done, std::siz
 
 void ProgressReporter::report(std::string_view caption, std::size_t done, std::size_t total)
 {
-    publish(payload::progress(caption, percentOf(done, total)));
+    publish(m_progress.at(caption, percentOf(done, total)));
 }
 
 void ProgressReporter::busy(const QString& caption)
 {
-    publish(payload::busy(caption.toStdString()));
+    publish(payload::busy(caption.toStdString()).c_str());
 }
 
 void ProgressReporter::finish()
@@ -57,9 +57,9 @@ void ProgressReporter::hide()
     m_isShown = false;
 }
 
-void ProgressReporter::publish(const std::string& text)
+void ProgressReporter::publish(const char* text)
 {
     m_isShown = true;
     if (m_manager != nullptr)
-        m_manager->publish(events::kProgress, text.c_str(), 0);
+        m_manager->publish(events::kProgress, text, 0);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/protocol/Payloads.h"
+
 #include <QString>
 
 #include <cstddef>
@@ -36,8 +38,9 @@ public:
     void hide();
 
 private:
-    void publish(const std::string& text);
+    void publish(const char* text);
 
     IEventManager* m_manager;
+    payload::Progress m_progress;
     bool m_isShown = false;
 };

@@ -81,6 +81,20 @@ char* writeFixed(char* to, double value, int decimals)
     return point + 1 + decimals;
 }
 
+char* writeGeneral(char* to, double value)
+{
+    constexpr int kDigits = 6;
+    if (!(value >= 1 && value < 99999)) // what may need an exponent, or is not a number
+        return std::to_chars(to, to + kFixedSize, value, std::chars_format::general, kDigits).ptr;
+    int decimals = kDigits - 1;
+    for (double power = 10; power <= value; power *= 10)
+        --decimals;
+    char* end = writeFixed(to, value, decimals);
+    while (end[-1] == '0')
+        --end;
+    return end[-1] == '.' ? end - 1 : end;
+}
+
 double readDecimal(std::string_view text)
 {
     double value = 0;

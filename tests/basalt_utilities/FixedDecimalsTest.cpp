@@ -116,3 +116,21 @@ TEST(WholeNumbers, OfIntegersHaveNoDecimals)
         EXPECT_FALSE(basalt::wholeInteger(text)) << text;
     EXPECT_FALSE(basalt::wholeInteger64("9223372036854775808"));
 }
+
+TEST(FixedDecimals, WriteSixDigitsAsTheGeneralWay)
+{
+    const auto check = [](double value) {
+        std::array<char, basalt::kFixedSize> buffer{};
+        const std::string text(buffer.data(), basalt::writeGeneral(buffer.data(), value));
+        ASSERT_EQ(text, basalt::formatGeneral(value));
+    };
+    for (const double value :
+         {0.0, -1.0, 0.5, 1.0, 1.5, 9.9999949, 9.999996, 99.99996, 100.0, 12.3456789, 99998.96,
+          99999.96, 999999.7, 1e6, 1e-7, 1.0000005, std::numeric_limits<double>::infinity(),
+          std::numeric_limits<double>::quiet_NaN()})
+        check(value);
+    for (int count = 1; count <= 700; ++count) {
+        for (int done = 1; done <= count; ++done)
+            check(done * 100.0 / count);
+    }
+}

@@ -1,0 +1,112 @@
+#include "app/ProgressStatusBarForSkyquill.h"
+#include "app/protocol/Events.h"
+#include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/Dictionary.h"
+#include "bench/Limits.h"
+#include "lum_desktop_sdkx/frame/DesktopHost.h"
+#include "quality/QualityCheck.h"
+#include "quality/QualityDescription.h"
+#include "quality/QualityLimits.h"
+#include "quality/ui/DlgQCResult.h"
+
+#include <QApplication>
+
+// The quality check of 200,000 results with the real progress bar listening, against publishing the
+// same progress payloads alone; and its list at half a million rows.
+
+namespace {
+
+constexpr int kLines = 400;
+constexpr int kPointsALine = 500;
+constexpr int kListRows = 500000;
+constexpr double kListSeconds = 2;
+
+SurveyPoints makePoints()
+{
+    SurveyPoints points;
+    for (int line = 0; line < kLines; ++line) {
+        for (int place = 0; place < kPointsALine; ++place) {
+            SurveyPoint point;
+            point.lineNumber = std::to_string(1000 + line);
+            point.pointNumber = point.lineNumber + std::to_string(5000 + place);
+            point.pdop = 1 + place % 4;
+            point.satelliteNumber = place % 20;
+            points.set(point);
+        }
+    }
+    return points;
+}
+
+/// Keeps what is published.
+class Keeper final : public IEventHandler
+{
+public:
+    void handleEvent(const char* /*name*/, const char* payload, int /*reserved*/) override
+    {
+        payloads.emplace_back(payload);
+    }
+    std::vector<std::string> payloads;
+};
+
+void BM_QualityCheck(benchmark::State& state)
+{
+    SurveyPoints points = makePoints();
+    const basalt::Dictionary parameters;
+    Keeper keeper;
+    {
+        EventManager manager;
+        manager.subscribe(events::kProgress, &keeper);
+        ProgressReporter progress(&manager);
+        checkQuality(points, parameters, progress);
+    }
+    DesktopHost host;
+    const ProgressStatusBarForSkyquill bar("", &host);
+    const auto publishAlone = [&] {
+        return bench::secondsOf([&] {
+            for (const std::string& payload : keeper.payloads)
+                host.eventManager().publish(events::kProgress, payload.c_str(), 0);
+        });
+    };
+    const auto check = [&] {
+        return bench::secondsOf([&] {
+            ProgressReporter progress(&host.eventManager());
+            checkQuality(points, parameters, progress);
+        });
+    };
+    for (auto _ : state) {
+        const double ratio = bench::medianOf([&] { return check() / publishAlone(); });
+        bench::report(state, "quality check of 200,000 results / its progress alone", ratio, 1.5);
+    }
+}
+
+void BM_ResultList(benchmark::State& state)
+{
+    DesktopHost host;
+    for (auto _ : state) {
+        const double seconds = bench::medianOf([&] {
+            std::vector<QualityRow> rows(kListRows,
+                                         QualityRow{"10015001", "1001", "HRMS Out-range.", 1, 0.5});
+            return bench::secondsOf([&] {
+                DlgQCResult list(host, std::move(rows));
+                list.setAttribute(Qt::WA_DeleteOnClose, false);
+                list.show();
+                QCoreApplication::processEvents();
+                list.grab();
+            });
+        });
+        bench::report(state, "result list of 500,000 rows, opened and painted", seconds,
+                      kListSeconds, "s");
+    }
+}
+
+BENCHMARK(BM_QualityCheck)->Iterations(1);
+BENCHMARK(BM_ResultList)->Iterations(1);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    return bench::run(argc, argv);
+}
