@@ -29,6 +29,12 @@ QString chooseLines(const CliArguments& arguments, const Points& points, QString
     return {};
 }
 
+/// \param fault  of a writer; empty when it has written
+QString named(const QString& file, const QString& fault)
+{
+    return fault.isEmpty() ? QString() : QStringLiteral("Cannot write \"%1\": %2").arg(file, fault);
+}
+
 QString exportDesign(const CliArguments& arguments, CliProject& project)
 {
     const DesignPoints& points = project.manager().designPoints();
@@ -37,9 +43,9 @@ QString exportDesign(const CliArguments& arguments, CliProject& project)
     if (!fault.isEmpty())
         return fault;
     ProgressReporter progress(&project.events());
-    return writeDesignCsv(arguments.places[2], points, lines,
-                          arguments.options.contains(QStringLiteral("--only-unsurveyed")),
-                          progress);
+    const bool onlyUnsurveyed = arguments.options.contains(QStringLiteral("--only-unsurveyed"));
+    const QString& file = arguments.places[2];
+    return named(file, writeDesignCsv(file, points, lines, onlyUnsurveyed, progress));
 }
 
 QString exportSurvey(const CliArguments& arguments, CliProject& project)
@@ -52,7 +58,8 @@ QString exportSurvey(const CliArguments& arguments, CliProject& project)
     const SurveyCsvChoice choice{manager.exportCaptions(),
                                  get_system_status_dictionary().integer(status::kDegreeFormat)};
     ProgressReporter progress(&project.events());
-    return writeSurveyCsv(arguments.places[2], manager.surveyPoints(), lines, choice, progress);
+    const QString& file = arguments.places[2];
+    return named(file, writeSurveyCsv(file, manager.surveyPoints(), lines, choice, progress));
 }
 
 } // namespace

@@ -124,6 +124,10 @@ void CliTest::readsAndWritesFiles()
                   QStringLiteral("L11")}),
              1);
     QVERIFY(m_errors.contains(QStringLiteral("L11")));
+    QCOMPARE(
+        run("export", project, {QStringLiteral("design-csv"), QStringLiteral("no folder/out.csv")}),
+        1);
+    QVERIFY(m_errors.contains(QStringLiteral("no folder/out.csv")));
     QCOMPARE(run("import-survey", project, {QStringLiteral("missing.csv")}), 1);
     QVERIFY(m_errors.contains(QStringLiteral("missing.csv")));
 }

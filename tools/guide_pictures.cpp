@@ -1,0 +1,143 @@
+// The pictures of the user guide, from the program itself with a project open.
+//   guide_pictures PROJECT.kelx FOLDER
+
+#include "app/protocol/StatusKeys.h"
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/frame/Applicationx.h"
+#include "lum_desktop_sdkx/frame/MainFrame.h"
+#include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/ISystemSettings.h"
+#include "lum_sdk/SystemDictionaries.h"
+#include "project/DataProcessDataManager.h"
+#include "project/ui/DlgProjectSet.h"
+#include "quality/ui/DlgQCParamSet.h"
+#include "quality/ui/DlgQCResult.h"
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int kPaintMs = 1500; // more than the map's worker takes
+
+void letItPaint()
+{
+    QElapsedTimer timer;
+    for (timer.start(); !timer.hasExpired(kPaintMs);)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+}
+
+class Guide
+{
+public:
+    Guide(MainFrame& frame, DesktopHost& host, QString folder)
+        : m_frame(frame), m_host(host), m_folder(std::move(folder))
+    {
+    }
+
+    void paintAll()
+    {
+        paintView("Design View", "guide-design");
+        paintView("Survey View", "guide-survey");
+        paintSystem();
+        paintLimits();
+        paintFaults();
+    }
+    [[nodiscard]] bool isComplete() const { return m_isComplete; }
+
+private:
+    void save(const QPixmap& picture, const char* name)
+    {
+        const QString file =
+            m_folder + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png");
+        m_isComplete = picture.save(file) && m_isComplete;
+        std::printf("%s\n", qUtf8Printable(file));
+    }
+
+    void paintView(const char* command, const char* name)
+    {
+        m_host.commands().execute(QString::fromLatin1(command));
+        letItPaint();
+        save(m_frame.grab(), name);
+    }
+
+    void paintSystem()
+    {
+        basalt::Dictionary project(DataProcessDataManager::instance()->project());
+        DlgProjectSet dialog(m_host, project);
+        dialog.resize(dialog.minimumSize());
+        dialog.show();
+        dialog.findChild<QListWidget*>()->setCurrentRow(1);
+        dialog.findChild<QLineEdit*>()->setText(QStringLiteral("utm 50n"));
+        letItPaint();
+        save(dialog.grab(), "guide-coordinate-system");
+    }
+
+    void paintLimits()
+    {
+        DlgQCParamSet dialog(&m_frame, DataProcessDataManager::instance()->qualityParameters());
+        dialog.show();
+        letItPaint();
+        save(dialog.grab(), "guide-limits");
+    }
+
+    /// The list over the map, which shows the result of the row that was clicked.
+    void paintFaults()
+    {
+        DataProcessDataManager& manager = *DataProcessDataManager::instance();
+        manager.checkQuality();
+        DlgQCResult list(m_host, manager.describeQuality());
+        list.setAttribute(Qt::WA_DeleteOnClose, false);
+        list.resize(list.minimumSize());
+        list.show();
+        auto* const table = list.findChild<CustomTableWidget*>();
+        table->selectRow(0);
+        if (auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap")))
+            map->zoomAbout(0, 0, 12);
+        Q_EMIT table->clicked(table->model()->index(0, 0));
+        letItPaint();
+        QPixmap picture = m_frame.grab();
+        QPainter painter(&picture);
+        painter.drawPixmap(QPoint(60, picture.height() - list.height() - 40), list.grab());
+        painter.end();
+        save(picture, "guide-faults");
+    }
+
+    MainFrame& m_frame;
+    DesktopHost& m_host;
+    QString m_folder;
+    bool m_isComplete = true;
+};
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc != 3) {
+        std::fprintf(stderr, "guide_pictures PROJECT.kelx FOLDER\n");
+        return 2;
+    }
+    const QString project = QString::fromLocal8Bit(argv[1]);
+    const QString folder = QString::fromLocal8Bit(argv[2]);
+    int count = 1;
+    Applicationx application(count, argv, "Skyquill", "/Tool/DataProcess5/data_process_5");
+    const LumMessageBox::Responder responder([](const auto& message) {
+        return message.buttons & LumMessageBox::Button::Yes ? LumMessageBox::Button::Yes
+                                                            : LumMessageBox::Button::Ok;
+    });
+    MainFrame& frame = application.mainFrame();
+    frame.setTitle(QStringLiteral("Skyquill"));
+    frame.show();
+    frame.resize(1280, 800);
+    letItPaint();
+    if (!frame.openFile(project))
+        return 1;
+    Guide guide(frame, application.host(), folder);
+    guide.paintAll();
+    return guide.isComplete() ? 0 : 1;
+}
