@@ -23,6 +23,7 @@ DlgQCParamSet::DlgQCParamSet(QWidget* parent, IDictionary& parameters)
 {
     setWindowTitle(tr("Quality Specification"));
     setFixedSizeScaled(500, 550);
+    setStyleSheet(QStringLiteral("DlgQualitySpecificate{background:white;}")); // spelled so
     m_grid->init(QString::fromStdString(basalt::resolvedPath(kControlXml)), parameters);
     m_grid->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);
     m_grid->setHeaderVisible(false);
