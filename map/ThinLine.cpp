@@ -72,8 +72,11 @@ void ThinLine::drawAlong(const Axes& axes, QPointF from, QPointF to)
     const double slope = length > 0 ? (to.y() - from.y()) / length : 0;
     const double start = from.x() - kCap;
     const double end = to.x() + kCap;
-    const int first = static_cast<int>(std::max(std::floor(start), 0.0));
-    const int last = static_cast<int>(std::min(std::ceil(end), double(axes.majorSize))) - 1;
+    const auto pixel = [&](double edge) {
+        return static_cast<int>(std::clamp(edge, 0.0, double(axes.majorSize)));
+    };
+    const int first = pixel(std::floor(start));
+    const int last = pixel(std::ceil(end)) - 1;
     const double shift = engineShift(start);
     const auto minorAt = [&](int major) {
         return from.y() + slope * (major + 0.5 + shift - from.x());

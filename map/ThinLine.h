@@ -16,6 +16,7 @@ public:
     /// \param color opaque
     ThinLine(const QPainter& painter, QRgb color);
 
+    /// \param line finite, and cut down to what lies in or near the picture
     /// \returns false, and draws nothing, where only the painter itself can draw: on anything but a
     ///          plain picture of one pixel to a pixel, or when it is clipped, turned or scaled
     [[nodiscard]] bool draw(const QLineF& line);
