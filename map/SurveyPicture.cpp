@@ -6,6 +6,7 @@
 #include "map/NameWriter.h"
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
+#include "map/ThinLine.h"
 
 #include <QPainter>
 #include <QString>
@@ -44,7 +45,8 @@ public:
                   QPainter& painter)
         : m_survey(marks), m_marks(marks.table()), m_frame(frame), m_baseWord(baseWord),
           m_painter(painter), m_names(painter.font()),
-          m_ratio(painter.device()->devicePixelRatioF()), m_lineArea(frame.screenArea(kLineMargin))
+          m_ratio(painter.device()->devicePixelRatioF()), m_edge(frame.screenArea(1)),
+          m_lineArea(frame.screenArea(kLineMargin))
     {
         const std::size_t longest = std::max<std::size_t>(m_marks.longestName(), 24);
         const double margin = kLineMargin + dpi_scaled(30) + m_names.reach(longest);
@@ -109,7 +111,7 @@ private:
         const SurveyMarks::Ties& ties = m_survey.ties(mark);
         const QPointF measured = screenOf(m_marks.place(mark));
         const bool isShown = isInside(measured);
-        drawLine(m_toBase, {measured, m_bases[ties.base].place});
+        drawToBase({measured, m_bases[ties.base].place});
         if (ties.hasDesign)
             paintDesignPlace(measured, screenOf(ties.design), isShown);
         if (isShown) {
@@ -152,12 +154,12 @@ private:
         write(Qt::red, place + QPointF(dpi_scaled(-30), dpi_scaled(5)), line.number);
     }
 
-    void drawLine(const QPen& pen, const QLineF& line)
+    void drawToBase(const QLineF& line)
     {
-        const auto seen = clippedLine(line, m_lineArea);
-        if (!seen)
+        const auto seen = clippedLine(line, m_edge);
+        if (!seen || m_thinToBase.draw(*seen))
             return;
-        usePen(pen);
+        usePen(m_toBase);
         m_painter.drawLine(*seen);
     }
 
@@ -214,6 +216,7 @@ private:
     Filling m_filling = Hollow;
 
     const QPen m_toBase{QBrush(Qt::green), 1};
+    ThinLine m_thinToBase{m_painter, QColor(Qt::green).rgb()};
     const QPen m_toDesign{QBrush(Qt::cyan), 1, Qt::DashLine};
     const QPen m_redText{Qt::red};
     const QPen m_blueText{Qt::blue};
@@ -227,6 +230,7 @@ private:
         CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::red), m_ratio),
         CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::blue), m_ratio)};
 
+    QRectF m_edge;     ///< a pixel around the screen
     QRectF m_lineArea; ///< where a line or circle could still be seen, screen pixels
     QRectF m_screen;   ///< where a text could still be seen, screen pixels
     QRectF m_area;     ///< the same in map coordinates

@@ -509,6 +509,25 @@
     </message>
 </context>
 <context>
+    <name>DataProcessLayerImp</name>
+    <message>
+        <source>Base</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>base</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>Draw Design Data</source>
+        <translation>正在绘制设计数据</translation>
+    </message>
+    <message>
+        <source>Draw Survey Data</source>
+        <translation>正在绘制测量数据</translation>
+    </message>
+</context>
+<context>
     <name>DesignCsv</name>
     <message>
         <source>Field %1, &quot;%2&quot;, is no integer.</source>
@@ -670,6 +689,28 @@
     </message>
 </context>
 <context>
+    <name>DrawExcitationCommand</name>
+    <message>
+        <source>not show s line</source>
+        <translation>隐藏激发线</translation>
+    </message>
+    <message>
+        <source>show s line</source>
+        <translation>显示激发线</translation>
+    </message>
+</context>
+<context>
+    <name>DrawReceiverCommand</name>
+    <message>
+        <source>not show r line</source>
+        <translation>隐藏接收线</translation>
+    </message>
+    <message>
+        <source>show r line</source>
+        <translation>显示接收线</translation>
+    </message>
+</context>
+<context>
     <name>EpsgSystem</name>
     <message>
         <source>There is no coordinate system EPSG:%1.</source>
@@ -735,6 +776,13 @@
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
         <translation>无法创建文件夹“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>NorthArrow</name>
+    <message>
+        <source>N</source>
+        <translation>北</translation>
     </message>
 </context>
 <context>
@@ -1102,6 +1150,21 @@
     <message>
         <source>Save project failed!</source>
         <translation>工程保存失败！</translation>
+    </message>
+</context>
+<context>
+    <name>ScaleBar</name>
+    <message>
+        <source>%1 ft</source>
+        <translation>%1 英尺</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
     </message>
 </context>
 <context>

@@ -11,8 +11,7 @@ void PPKMoveCommand::execute()
         if (isChecked()) {
             MouseMode::set(MouseMode::kPick);
             MouseMode::installPicking(*window);
-        } else {
-            window->installReactor(QStringLiteral("ReactorMoveTrans"));
+        } else if (window->installReactor(QStringLiteral("ReactorMoveTrans"))) {
             window->setMapCursor(Qt::OpenHandCursor);
             MouseMode::set(MouseMode::kPan);
         }

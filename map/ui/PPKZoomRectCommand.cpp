@@ -12,9 +12,8 @@ void PPKZoomRectCommand::execute()
         if (isChecked()) {
             MouseMode::set(MouseMode::kPick);
             MouseMode::installPicking(*window);
-        } else {
-            window->installReactor(
-                lum::toQString(parameters().text("reactor", "ReactorZoomRectTrans")));
+        } else if (window->installReactor(
+                       lum::toQString(parameters().text("reactor", "ReactorZoomRectTrans")))) {
             window->setMapCursor(Qt::CrossCursor);
             MouseMode::set(MouseMode::kZoomRect);
         }

@@ -1,7 +1,7 @@
 #include "lum_desktop_sdkx/map/LayerRegistry.h"
 
 #include "basalt_utilities/ILogger.h"
-#include "lum_desktop_sdkx/ILayerViewer.h"
+#include "lum_desktop_sdkx/IDataLayer.h"
 #include "lum_sdk/Transform.h"
 
 #include <algorithm>
@@ -63,4 +63,16 @@ QRectF LayerRegistry::visibleExtent() const
         all = all.isNull() ? extent : unitedArea(all, extent);
     }
     return all;
+}
+
+QString LayerRegistry::tipAt(const QPointF& map) const
+{
+    const std::vector<ILayerViewer*> layers = visibleLayers();
+    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
+        const auto* const data = dynamic_cast<const IDataLayer*>(*layer);
+        const QString tip = data != nullptr ? data->tipAt(map) : QString();
+        if (!tip.isEmpty())
+            return tip;
+    }
+    return {};
 }

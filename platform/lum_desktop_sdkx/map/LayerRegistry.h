@@ -5,6 +5,7 @@
 
 #include <vector>
 
+class QPointF;
 class QRectF;
 
 /// The layers of a map, which it owns. Whoever paints them elsewhere has ended before this does.
@@ -22,6 +23,8 @@ public:
 
     /// The layers to paint, bottom to top.
     [[nodiscard]] std::vector<ILayerViewer*> visibleLayers() const;
+    /// What the topmost visible layer that knows says of a place of the map; empty when none does.
+    [[nodiscard]] QString tipAt(const QPointF& map) const;
     /// The extent of all visible layers together; null when none has a finite one.
     [[nodiscard]] QRectF visibleExtent() const;
 

@@ -6,14 +6,18 @@
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/map/NorthArrow.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
+#include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -39,6 +43,12 @@ bool isWorthFinishing(const Transform& made, const Transform& live)
     const QPointF shift = (made.center() - live.center()) / live.GetScale();
     return std::abs(shift.x()) <= live.size().width() / 2.0 &&
            std::abs(shift.y()) <= live.size().height() / 2.0;
+}
+
+LengthUnit unitInUse()
+{
+    const IDictionary& choices = get_system_ini_parameter().dictionary();
+    return choices.integer(settings::kCoordUnit) != 0 ? LengthUnit::Feet : LengthUnit::Metres;
 }
 
 } // namespace
@@ -218,6 +228,7 @@ void MapWindow::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
 {
     if (get_system_status_dictionary().integer(status::kDrawBoundaryRect) != m_boundaryState)
         redraw();
+    update(); // the unit of the scale bar may be another one
 }
 
 void MapWindow::refreshOverlay()
@@ -237,6 +248,8 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
     m_picture.draw(painter, m_transform, palette().color(QPalette::Base));
     m_overlays[1].draw(painter, m_transform);
     m_overlays[0].draw(painter, m_transform);
+    drawScaleBar(painter, m_transform, unitInUse());
+    drawNorthArrow(painter, m_transform);
 }
 
 void MapWindow::resizeEvent(QResizeEvent* /*event*/)
@@ -303,6 +316,21 @@ void MapWindow::setMapCursor(const QCursor& cursor)
 }
 
 // --- mouse and keyboard ---
+
+bool MapWindow::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    showTip(static_cast<QHelpEvent*>(event)->pos());
+    return true;
+}
+
+void MapWindow::showTip(const QPoint& screen)
+{
+    const QString tip = m_layers.tipAt(m_transform.ScreenToSurvey(QPointF(screen)));
+    const QRect nearby(screen - QPoint(3, 3), QSize(7, 7)); // beyond it the tip goes away
+    QToolTip::showText(mapToGlobal(screen), tip, this, nearby);
+}
 
 void MapWindow::announcePosition(const QPointF& screen)
 {

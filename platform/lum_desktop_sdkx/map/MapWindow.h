@@ -18,8 +18,8 @@
 
 class IDesktopHost;
 
-/// The map: the last picture, moved at once with the view, under the overlays, while a worker
-/// paints the next one.
+/// The map: the last picture, moved at once with the view, under the overlays, a scale bar and a
+/// north arrow, while a worker paints the next one.
 class MapWindow final : public QWidget, public IWindowx, public IMapWindow, private IEventHandler
 {
     Q_OBJECT
@@ -65,6 +65,8 @@ Q_SIGNALS:
     void pictureChanged();
 
 protected:
+    /// Shows the name of what lies under the resting cursor.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -80,6 +82,7 @@ protected:
 private:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
     void announcePosition(const QPointF& screen);
+    void showTip(const QPoint& screen);
     /// Shows `extent`; until the user first sees the map, again after each change of its size.
     void fitTo(const QRectF& extent, double margin);
     void onViewMoved();

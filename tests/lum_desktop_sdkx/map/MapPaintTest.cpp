@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_sdk/LineClip.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
@@ -98,6 +99,8 @@ private Q_SLOTS:
     void overlayTakesAnyShape();
     void boundaryFollowsItsStatus();
     void boundaryIsDrawnAtItsPlaceAtAnyZoom();
+    void scaleBarHasARoundLength();
+    void scaleBarIsAsLongAsItSays();
     void clipsLinesToAnArea_data(); // NOLINT(readability-identifier-naming): Qt Test looks for it
     void clipsLinesToAnArea();
 
@@ -383,6 +386,35 @@ void MapPaintTest::boundaryIsDrawnAtItsPlaceAtAnyZoom()
     job.target.mapExtent = QRectF();
     job.target.transform.setView({0, 0}, 1);
     QCOMPARE(paintPicture(job), blank);
+}
+
+void MapPaintTest::scaleBarHasARoundLength()
+{
+    const double limits[] = {1, 1.99, 4.9, 5, 999, 0.02, 0.0199, 123456};
+    const double lengths[] = {1, 1, 2, 5, 500, 0.02, 0.01, 100000};
+    for (int i = 0; i < 8; ++i)
+        QCOMPARE(roundLength(limits[i]), lengths[i]);
+    QCOMPARE(lengthText(500, LengthUnit::Metres), QStringLiteral("500 m"));
+    QCOMPARE(lengthText(2000, LengthUnit::Metres), QStringLiteral("2 km"));
+    QCOMPARE(lengthText(0.05, LengthUnit::Metres), QStringLiteral("0.05 m"));
+    QCOMPARE(lengthText(2000, LengthUnit::Feet), QStringLiteral("2000 ft"));
+}
+
+void MapPaintTest::scaleBarIsAsLongAsItSays()
+{
+    const auto blackPixels = [this] { // in a row through the bar, left of its text
+        const QImage picture = shown();
+        int count = 0;
+        for (int x = 0; x < 70; ++x)
+            count += picture.pixelColor(x, 276) == QColor(Qt::black) ? 1 : 0;
+        return count;
+    };
+    QCOMPARE(m_map->transform().GetScale(), 1.0);
+    QCOMPARE(blackPixels(), 51); // half of 100 m
+    get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "1");
+    m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
+    QCOMPARE(blackPixels(), 31); // half of 200 ft
+    get_system_ini_parameter().dictionary().clear();
 }
 
 void MapPaintTest::clipsLinesToAnArea_data()

@@ -11,6 +11,9 @@
 #include "map/ui/ViewChangeCommand.h"
 #include "tests/map/ui/TestMap.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 #include <memory>
 
 namespace {
@@ -37,6 +40,7 @@ private Q_SLOTS:
     void otherViewsSwallowClicks();
     void rightClickTakesTheHighlightAway();
     void doubleClickShowsEverything();
+    void restingCursorTellsTheName();
     void dragPansWhileMoving();
     void rectangleOfAnyDirectionIsZoomedTo();
     void rightClickAndEscapeEndTheTool();
@@ -201,6 +205,21 @@ void MapToolsTest::doubleClickShowsEverything()
     m_map->picture();
     const QPoint place = m_map->window.transform().SurveyToScreen(100, 100).toPoint();
     QCOMPARE(shown(place.x(), place.y()), QColor(Qt::cyan));
+}
+
+void MapToolsTest::restingCursorTellsTheName()
+{
+    const auto tipAt = [this](const QPoint& place) {
+        QHelpEvent event(QEvent::ToolTip, place, m_map->window.mapToGlobal(place));
+        QApplication::sendEvent(&m_map->window, &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    QCOMPARE(tipAt({105, 203}), QStringLiteral("10015001"));
+    QCOMPARE(tipAt({103, 103}), QStringLiteral("20015001"));
+    tipAt({150, 20});
+    QTRY_VERIFY(!QToolTip::isVisible());
+    m_map->layer().GetProperties().set("visible", "0");
+    QCOMPARE(tipAt({105, 203}), QString());
 }
 
 void MapToolsTest::dragPansWhileMoving()

@@ -1,0 +1,115 @@
+#include "map/ThinLine.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <utility>
+
+namespace {
+
+constexpr double kCap = 0.5; // a pen's square end reaches half its width farther
+constexpr std::uint32_t kOpaque = 256;
+constexpr int kFixedBits = 16;
+constexpr double kFixedOne = 65536;
+
+/// Lays `color` over `pixel`. \param cover of 256
+void mix(QRgb& pixel, QRgb color, std::uint32_t cover)
+{
+    constexpr QRgb kEven = 0x00ff00ff;
+    const std::uint32_t rest = kOpaque - cover;
+    const QRgb even = ((pixel & kEven) * rest + (color & kEven) * cover) >> 8;
+    const QRgb odd = ((pixel >> 8) & kEven) * rest + ((color >> 8) & kEven) * cover;
+    pixel = (even & kEven) | (odd & ~kEven);
+}
+
+/// How far from a pixel's middle the paint engine takes the line's place: a rounding of its own, by
+/// where the line starts. Without it every second line would lie beside the engine's.
+double engineShift(double start)
+{
+    constexpr double kEngineUnits = 64; // a pixel
+    const double place = std::floor(start * kEngineUnits + 1e-6) / kEngineUnits;
+    return place - std::floor(place) >= kCap ? 0.5 : -0.5;
+}
+
+} // namespace
+
+ThinLine::ThinLine(const QPainter& painter, QRgb color) : m_color(color)
+{
+    if (painter.device()->devType() != QInternal::Image || painter.hasClipping() ||
+        !painter.deviceTransform().isIdentity())
+        return;
+    auto* const image = static_cast<QImage*>(painter.device());
+    if (image->format() != QImage::Format_RGB32 &&
+        image->format() != QImage::Format_ARGB32_Premultiplied)
+        return;
+    m_size = image->size();
+    m_lineStep = image->bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
+    m_pixels = reinterpret_cast<QRgb*>(image->bits());
+}
+
+bool ThinLine::draw(const QLineF& line)
+{
+    if (m_pixels == nullptr)
+        return false;
+    if (std::abs(line.dx()) >= std::abs(line.dy()))
+        drawAlong({m_size.width(), m_size.height(), 1, m_lineStep}, line.p1(), line.p2());
+    else
+        drawAlong({m_size.height(), m_size.width(), m_lineStep, 1}, line.p1().transposed(),
+                  line.p2().transposed());
+    return true;
+}
+
+/// Each pixel of the longer direction is shared out between the two of the other one that the
+/// line's middle passes.
+void ThinLine::drawAlong(const Axes& axes, QPointF from, QPointF to)
+{
+    if (from.x() > to.x())
+        std::swap(from, to);
+    const double length = to.x() - from.x();
+    const double slope = length > 0 ? (to.y() - from.y()) / length : 0;
+    const double start = from.x() - kCap;
+    const double end = to.x() + kCap;
+    const auto pixel = [&](double edge) {
+        return static_cast<int>(std::clamp(edge, 0.0, double(axes.majorSize)));
+    };
+    const int first = pixel(std::floor(start));
+    const int last = pixel(std::ceil(end)) - 1;
+    const double shift = engineShift(start);
+    const auto minorAt = [&](int major) {
+        return from.y() + slope * (major + 0.5 + shift - from.x());
+    };
+    if (first > last)
+        return;
+    blend(axes, first, minorAt(first), std::min(end, first + 1.0) - std::max(start, double(first)));
+    if (last > first)
+        blend(axes, last, minorAt(last), std::min(end, last + 1.0) - last);
+
+    const auto step = static_cast<std::int64_t>(slope * kFixedOne);
+    auto minor = static_cast<std::int64_t>((minorAt(first + 1) - 0.5) * kFixedOne);
+    QRgb* row = m_pixels + (first + 1) * axes.majorStep;
+    for (int major = first + 1; major < last; ++major, minor += step, row += axes.majorStep) {
+        const std::int64_t cell = minor >> kFixedBits;
+        const auto upper = static_cast<std::uint32_t>(minor >> (kFixedBits - 8)) & 0xff;
+        if (cell >= 0 && cell < axes.minorSize)
+            mix(row[cell * axes.minorStep], m_color, kOpaque - upper);
+        if (cell >= -1 && cell + 1 < axes.minorSize)
+            mix(row[(cell + 1) * axes.minorStep], m_color, upper);
+    }
+}
+
+void ThinLine::blend(const Axes& axes, int major, double minor, double cover)
+{
+    const double cell = std::floor(minor - 0.5);
+    const double upper = minor - 0.5 - cell;
+    const auto part = [&](double place, double share) {
+        if (place >= 0 && place < axes.minorSize)
+            mix(m_pixels[major * axes.majorStep +
+                         static_cast<std::ptrdiff_t>(place) * axes.minorStep],
+                m_color, static_cast<std::uint32_t>(share * cover * kOpaque));
+    };
+    part(cell, 1 - upper);
+    part(cell + 1, upper);
+}

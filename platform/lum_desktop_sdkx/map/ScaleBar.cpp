@@ -1,0 +1,78 @@
+#include "lum_desktop_sdkx/map/ScaleBar.h"
+
+#include "basalt_utilities/Numbers.h"
+#include "lum_sdk/Transform.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kFootM = 0.3048;
+constexpr double kLongest = 160; // pixels, and so on
+constexpr int kSmallestScreen = 200;
+constexpr int kMargin = 12;
+constexpr int kPadding = 6;
+constexpr int kThickness = 6;
+constexpr int kPaperAlpha = 210; // lets a little of the map through, not its colours
+
+/// Two pieces, black and white, at the left of `paper`.
+void drawBar(QPainter& painter, const QRect& paper, double length)
+{
+    const double top = paper.center().y() - kThickness / 2 + 0.5;
+    const QRectF bar(paper.left() + kPadding + 0.5, top, std::round(length), kThickness);
+    painter.setPen(Qt::black);
+    painter.setBrush(Qt::white);
+    painter.drawRect(bar);
+    painter.setBrush(Qt::black);
+    painter.drawRect(QRectF(bar.topLeft(), QSizeF(std::round(length / 2), kThickness)));
+}
+
+} // namespace
+
+double roundLength(double limit)
+{
+    const double power = std::pow(10, std::floor(std::log10(limit)));
+    for (const double step : {5.0, 2.0}) {
+        if (step * power <= limit)
+            return step * power;
+    }
+    return power;
+}
+
+QString lengthText(double length, LengthUnit unit)
+{
+    const auto number = [](double value) {
+        return QString::fromStdString(basalt::formatGeneral(value));
+    };
+    if (unit == LengthUnit::Feet)
+        return QCoreApplication::translate("ScaleBar", "%1 ft").arg(number(length));
+    if (length < 1000)
+        return QCoreApplication::translate("ScaleBar", "%1 m").arg(number(length));
+    return QCoreApplication::translate("ScaleBar", "%1 km").arg(number(length / 1000));
+}
+
+void drawScaleBar(QPainter& painter, const Transform& view, LengthUnit unit)
+{
+    const QSize screen = view.size();
+    if (screen.width() < kSmallestScreen || screen.height() < kSmallestScreen / 2)
+        return;
+    const double unitM = unit == LengthUnit::Feet ? kFootM : 1;
+    const double unitsPerPixel = view.GetScale() / unitM;
+    const double length = roundLength(std::min(kLongest, screen.width() / 3.0) * unitsPerPixel);
+    const QString text = lengthText(length, unit);
+
+    painter.save();
+    const QSize textSize = painter.fontMetrics().size(Qt::TextSingleLine, text);
+    const double pixels = length / unitsPerPixel;
+    const QSize paperSize(static_cast<int>(std::round(pixels)) + textSize.width() + 3 * kPadding,
+                          textSize.height() + kPadding);
+    const QRect paper(QPoint(kMargin, screen.height() - kMargin - paperSize.height()), paperSize);
+    painter.fillRect(paper, QColor(255, 255, 255, kPaperAlpha));
+    drawBar(painter, paper, pixels);
+    painter.drawText(paper.adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter, text);
+    painter.restore();
+}
