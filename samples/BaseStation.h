@@ -6,7 +6,7 @@
 
 namespace demo {
 
-/// A reference station of the survey.
+/// One of the four reference stations around the survey.
 struct BaseStation
 {
     const char* id;
@@ -14,13 +14,13 @@ struct BaseStation
     double mastM; ///< of the antenna above the ground
 };
 
-/// A fixed point in the next town, farther off than results may be from their station.
-inline constexpr const char* kTownStation = "BASE04";
+/// Of its antenna, above the ellipsoid, metres.
+[[nodiscard]] double stationHeight(const BaseStation& station);
 
-/// The one of the three on the survey's ground that is nearest.
+/// The one that is nearest to a place.
 [[nodiscard]] const BaseStation& nearestStation(const GridPlace& place);
 
-/// One of the four by its id.
+/// One of them by its id.
 [[nodiscard]] const BaseStation& baseStation(std::string_view id);
 
 } // namespace demo

@@ -34,7 +34,9 @@ SurveyPoint Crew::measure(const DesignPoint& design, const GridPlace& stake)
     point.instrumentType = m_equipment.instrument;
     point.instrumentSerialNumber = m_equipment.serialNumber;
     point.antennaHeight = m_equipment.poleM;
-    point.baseStationId = nearestStation(stake).id;
+    const BaseStation& station = nearestStation(stake);
+    point.baseStationId = station.id;
+    point.referenceAltitude = stationHeight(station);
     m_clock.goTo(stake);
     observe(point);
     return point;

@@ -4,7 +4,6 @@
 #include "lum_sdk/Angles.h"
 #include "lum_sdk/EpsgSystem.h"
 #include "lum_sdk/ICoordTransform.h"
-#include "samples/Terrain.h"
 
 #include <QString>
 
@@ -72,13 +71,12 @@ void ResultCompleter::setReference(SurveyPoint& point)
 {
     const BaseStation& station = baseStation(point.baseStationId);
     const PlanePlace plane = toPlane(station.place);
-    const double height = groundHeight(station.place) + station.mastM;
+    const double height = point.referenceAltitude; // as the crew entered it
     const CoordTriple geodetic = toGeodetic(m_transform, {plane.north, plane.east, height});
     point.referenceNorth = plane.north;
     point.referenceEast = plane.east;
     point.referenceLatitude = geodetic.first;
     point.referenceLongitude = geodetic.second;
-    point.referenceAltitude = geodetic.third;
     point.referenceDistance =
         std::hypot(point.north - plane.north, point.east - plane.east, point.elevation - height);
 }

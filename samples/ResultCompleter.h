@@ -13,7 +13,7 @@ namespace demo {
 [[nodiscard]] QString useSurveySystem(ICoordTransform& transform);
 
 /// Fills in what follows from a result's own values: position on the earth, deviations from the
-/// line, the reference station's place, PDOP and RMS.
+/// line, the reference station's place and distance, PDOP and RMS.
 class ResultCompleter
 {
 public:

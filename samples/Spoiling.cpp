@@ -1,7 +1,6 @@
 #include "samples/Spoiling.h"
 
 #include "basalt_utilities/Numbers.h"
-#include "samples/BaseStation.h"
 #include "samples/Crew.h"
 #include "samples/Terrain.h"
 
@@ -125,10 +124,13 @@ std::string spoilSatellites(SurveyPoint& point, Random& random)
     return std::to_string(point.satelliteNumber) + " satellites";
 }
 
+/// Entered without its decimal point, the station's height puts it far away.
 std::string spoilReference(SurveyPoint& point, Random& /*random*/)
 {
-    point.baseStationId = kTownStation;
-    return std::string("measured from ").append(kTownStation).append(" in the next town");
+    const double right = point.referenceAltitude;
+    point.referenceAltitude = std::round(right * 100);
+    return words("height of the station ", point.referenceAltitude, 0, " m") +
+           words(" instead of ", right, 2, " m");
 }
 
 constexpr std::array kSpoilings{
