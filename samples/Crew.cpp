@@ -1,0 +1,74 @@
+#include "samples/Crew.h"
+
+#include "samples/BaseStation.h"
+#include "samples/Terrain.h"
+
+namespace demo {
+
+namespace {
+
+constexpr int kFixed = 4; ///< the code of a fixed solution
+constexpr std::int64_t kZoneMs = 8 * 3600 * 1000;
+
+} // namespace
+
+Crew::Crew(const Equipment& equipment, const GridPlace& camp, Random& random)
+    : m_equipment(equipment), m_random(random), m_clock(camp)
+{
+}
+
+SurveyPoint Crew::measure(const DesignPoint& design, const GridPlace& stake)
+{
+    const PlanePlace plane = toPlane(stake);
+    SurveyPoint point;
+    point.lineNumber = design.lineNumber;
+    point.pointNumber = design.pointNumber;
+    point.pointMark = design.type;
+    point.north = plane.north;
+    point.east = plane.east;
+    point.elevation = groundHeight(stake) + m_random.bell(0.008);
+    point.designNorth = design.north;
+    point.designEast = design.east;
+    point.designElevation = design.elevation;
+    point.surveyor = m_equipment.surveyor;
+    point.instrumentType = m_equipment.instrument;
+    point.instrumentSerialNumber = m_equipment.serialNumber;
+    point.antennaHeight = m_equipment.poleM;
+    const BaseStation& station = nearestStation(stake);
+    point.baseStationId = station.id;
+    point.referenceAltitude = stationHeight(station);
+    m_clock.goTo(stake);
+    observe(point);
+    return point;
+}
+
+void Crew::observe(SurveyPoint& point)
+{
+    m_clock.spend(m_random.whole(20, 50)); // finding the place, setting the stake
+    point.epochNumber = m_random.whole(5, 10);
+    point.startTime = m_clock.now();
+    m_clock.spend(point.epochNumber);
+    point.endTime = m_clock.now();
+    point.dateTime = point.endTime;
+    point.rawOffset = kZoneMs;
+    point.solutionType = kFixed;
+    point.ageOfDiff = m_random.whole(1, 3);
+    point.hdop = m_random.uniform(0.6, 1.2);
+    point.vdop = m_random.uniform(0.9, 1.9);
+    point.horizontalAccuracy = m_random.uniform(0.006, 0.012) * (1 + point.hdop);
+    point.verticalAccuracy = m_random.uniform(0.007, 0.015) * (1 + point.vdop);
+    setSatellites(point, m_random.whole(13, 27));
+}
+
+void setSatellites(SurveyPoint& point, int count)
+{
+    const int gps = (count + 2) / 3;
+    const int galileo = count / 5;
+    const int glonass = count / 6;
+    point.satelliteNumber = count;
+    point.satDetail = "G" + std::to_string(gps) + " R" + std::to_string(glonass) + " E" +
+                      std::to_string(galileo) + " C" +
+                      std::to_string(count - gps - galileo - glonass);
+}
+
+} // namespace demo

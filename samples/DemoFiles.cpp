@@ -1,0 +1,101 @@
+#include "samples/DemoFiles.h"
+
+#include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/LocalTimes.h"
+#include "exchange/CsvRow.h"
+#include "exchange/SurveyCsvWriter.h"
+#include "lum_sdk/WholeFileWriter.h"
+#include "project/model/SurveyColumns.h"
+#include "samples/DemoSurvey.h"
+
+#include <QDir>
+
+namespace demo {
+
+namespace {
+
+QString writeDesign(const QString& path, const DesignPoints& points)
+{
+    lum::WholeFileWriter file(path);
+    file.write("point_num,line_num,north,east,elevation,azimuth,type,status\n");
+    CsvRow row;
+    for (const auto& [number, line] : points) {
+        for (const DesignPoint& point : line) {
+            row.clear();
+            row.addText(point.pointNumber);
+            row.addText(point.lineNumber);
+            row.addFixed(point.north, 4);
+            row.addFixed(point.east, 4);
+            row.addFixed(point.elevation, 4);
+            row.addFixed(point.azimuth, 6);
+            row.addInteger(point.type);
+            row.addInteger(point.status);
+            file.write(row.finished());
+        }
+    }
+    return file.commit();
+}
+
+QString writeFaults(const QString& path, const std::vector<PlantedFault>& faults)
+{
+    lum::WholeFileWriter file(path);
+    file.write("kind,line,point,what\n");
+    CsvRow row;
+    for (const PlantedFault& fault : faults) {
+        row.clear();
+        for (const std::string* text : {&fault.kind, &fault.line, &fault.point, &fault.what})
+            row.addText(*text);
+        file.write(row.finished());
+    }
+    return file.commit();
+}
+
+/// The moment at which this computer's clock shows what the survey's clock showed.
+class LocalMoments
+{
+public:
+    void change(std::int64_t& moment)
+    {
+        char text[basalt::LocalTimes::kTextSize];
+        const char* const end = m_survey.write(text, moment);
+        const std::string_view shown(text, static_cast<std::size_t>(end - text));
+        moment = m_local.read(shown).value_or(moment);
+    }
+
+private:
+    basalt::LocalTimes m_survey{0};
+    basalt::LocalTimes m_local;
+};
+
+QString writeSurvey(const QString& path, SurveyPoints points)
+{
+    LocalMoments moments;
+    QStringList lines;
+    for (auto& [number, line] : points) {
+        lines << QString::fromStdString(number);
+        for (SurveyPoint& point : line) {
+            moments.change(point.dateTime);
+            moments.change(point.startTime);
+            moments.change(point.endTime);
+        }
+    }
+    ProgressReporter nobody(nullptr);
+    return writeSurveyCsv(path, points, lines, {surveyCaptions()}, nobody);
+}
+
+} // namespace
+
+QString writeDemoFiles(const QString& folder, const DemoSurvey& demo)
+{
+    const QDir place(folder);
+    if (!place.mkpath(QStringLiteral(".")))
+        return QStringLiteral("The folder %1 cannot be made.").arg(folder);
+    QString fault = writeDesign(place.filePath(QStringLiteral("design.csv")), demo.design);
+    if (fault.isEmpty())
+        fault = writeSurvey(place.filePath(QStringLiteral("survey.csv")), demo.survey);
+    if (fault.isEmpty())
+        fault = writeFaults(place.filePath(QStringLiteral("faults.csv")), demo.faults);
+    return fault;
+}
+
+} // namespace demo

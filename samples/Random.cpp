@@ -1,0 +1,33 @@
+#include "samples/Random.h"
+
+namespace demo {
+
+double Random::share()
+{
+    return static_cast<double>(m_engine() >> 11U) * 0x1p-53;
+}
+
+double Random::uniform(double from, double to)
+{
+    return from + (to - from) * share();
+}
+
+double Random::bell(double sigma)
+{
+    const double first = share();
+    const double second = share();
+    // Three even shares have a variance of a quarter.
+    return (first + second + share() - 1.5) * 2 * sigma;
+}
+
+std::size_t Random::index(std::size_t count)
+{
+    return m_engine() % count;
+}
+
+int Random::whole(int from, int to)
+{
+    return from + static_cast<int>(index(static_cast<std::size_t>(to - from) + 1));
+}
+
+} // namespace demo

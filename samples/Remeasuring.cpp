@@ -1,0 +1,63 @@
+#include "samples/Remeasuring.h"
+
+#include "basalt_utilities/Numbers.h"
+
+#include <array>
+#include <cmath>
+
+namespace demo {
+
+namespace {
+
+constexpr const char* kResurveyLetter = "F";
+constexpr const char* kRepeatLetter = "C";
+constexpr int kPlainSurvey = 1; ///< SurveyPoint::measureMode
+constexpr int kMistyped = 400;  ///< added to a number, it is one that no design point has
+
+std::string asResurvey(SurveyPoint& again, const SurveyPoint& first, Random& /*random*/)
+{
+    again.pointNumber = first.pointNumber + kResurveyLetter;
+    return "of " + first.pointNumber;
+}
+
+std::string asBadResurvey(SurveyPoint& again, const SurveyPoint& first, Random& random)
+{
+    again.pointNumber = first.pointNumber + kResurveyLetter;
+    const double length = random.uniform(0.06, 0.12);
+    // Towards the design, or it would be too far from that as well.
+    again.north -= std::copysign(length, first.north - first.designNorth);
+    again.elevation += random.uniform(-0.2, 0.2);
+    return basalt::formatFixed(again.north - first.north, 3) + " m north " +
+           basalt::formatFixed(again.east - first.east, 3) + " m east " +
+           basalt::formatFixed(again.elevation - first.elevation, 3) + " m up";
+}
+
+std::string asOrphan(SurveyPoint& again, const SurveyPoint& first, Random& /*random*/)
+{
+    again.pointNumber = std::to_string(std::stoi(first.pointNumber) + kMistyped) + kResurveyLetter;
+    return "of " + first.pointNumber + " with a mistyped number";
+}
+
+std::string asRepeat(SurveyPoint& again, const SurveyPoint& first, Random& /*random*/)
+{
+    again.pointNumber = kRepeatLetter + first.pointNumber;
+    again.measureMode = kPlainSurvey;
+    return "of " + first.pointNumber;
+}
+
+constexpr std::array kRemeasurings{
+    Remeasuring{"resurvey good", 40, 1, asResurvey},
+    Remeasuring{"resurvey bad", 6, 1, asBadResurvey},
+    Remeasuring{"resurvey orphan", 4, 1, asOrphan},
+    Remeasuring{"repeat", 16, 1, asRepeat},
+    Remeasuring{"repeat", 4, 2, asRepeat},
+};
+
+} // namespace
+
+std::span<const Remeasuring> remeasurings()
+{
+    return kRemeasurings;
+}
+
+} // namespace demo
