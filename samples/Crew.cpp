@@ -7,8 +7,8 @@ namespace demo {
 
 namespace {
 
-constexpr int kFixed = 4; ///< the code of a fixed solution
-constexpr std::int64_t kZoneMs = 8 * 3600 * 1000;
+constexpr int kFixed = 4;                                       ///< the code of a fixed solution
+constexpr std::int64_t kZoneMs = 8 * std::int64_t(3600) * 1000; ///< east of Greenwich
 
 } // namespace
 

@@ -54,12 +54,12 @@ QString writeFaults(const QString& path, const std::vector<PlantedFault>& faults
 class LocalMoments
 {
 public:
-    void change(std::int64_t& moment)
+    [[nodiscard]] std::int64_t of(std::int64_t moment)
     {
         char text[basalt::LocalTimes::kTextSize];
         const char* const end = m_survey.write(text, moment);
         const std::string_view shown(text, static_cast<std::size_t>(end - text));
-        moment = m_local.read(shown).value_or(moment);
+        return m_local.read(shown).value_or(moment);
     }
 
 private:
@@ -67,20 +67,27 @@ private:
     basalt::LocalTimes m_local;
 };
 
-QString writeSurvey(const QString& path, SurveyPoints points)
+SurveyPoints withLocalTimes(const SurveyPoints& survey)
 {
     LocalMoments moments;
-    QStringList lines;
-    for (auto& [number, line] : points) {
-        lines << QString::fromStdString(number);
-        for (SurveyPoint& point : line) {
-            moments.change(point.dateTime);
-            moments.change(point.startTime);
-            moments.change(point.endTime);
+    SurveyPoints points;
+    for (const auto& [number, line] : survey) {
+        for (SurveyPoint point : line) {
+            for (std::int64_t* time : {&point.dateTime, &point.startTime, &point.endTime})
+                *time = moments.of(*time);
+            points.set(std::move(point));
         }
     }
+    return points;
+}
+
+QString writeSurvey(const QString& path, const SurveyPoints& survey)
+{
+    QStringList lines;
+    for (const auto& [number, line] : survey)
+        lines << QString::fromStdString(number);
     ProgressReporter nobody(nullptr);
-    return writeSurveyCsv(path, points, lines, {surveyCaptions()}, nobody);
+    return writeSurveyCsv(path, withLocalTimes(survey), lines, {surveyCaptions()}, nobody);
 }
 
 } // namespace

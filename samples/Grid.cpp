@@ -22,8 +22,8 @@ constexpr double kSourceAzimuthDeg = 342; ///< at right angles, to the left
 /// Where the lines of a kind begin and how they are numbered.
 struct LineKind
 {
-    int type;
-    int firstLine;
+    int type = 0;
+    int firstLine = 0;
     GridPlace first; ///< the first point of the first line
     GridPlace lineStep;
     GridPlace pointStep;
