@@ -23,6 +23,7 @@
 
 namespace {
 
+constexpr int kMargin = 20;
 constexpr int kPaintMs = 1500; // more than the map's worker takes
 
 void letItPaint()
@@ -91,6 +92,7 @@ private:
     {
         DataProcessDataManager& manager = *DataProcessDataManager::instance();
         manager.checkQuality();
+        m_frame.resize(1560, 980);
         DlgQCResult list(m_host, manager.describeQuality());
         list.setAttribute(Qt::WA_DeleteOnClose, false);
         list.resize(list.minimumSize());
@@ -103,7 +105,9 @@ private:
         letItPaint();
         QPixmap picture = m_frame.grab();
         QPainter painter(&picture);
-        painter.drawPixmap(QPoint(60, picture.height() - list.height() - 40), list.grab());
+        painter.drawPixmap(m_frame.rect().bottomRight() - list.rect().bottomRight() -
+                               QPoint(kMargin, kMargin),
+                           list.grab());
         painter.end();
         save(picture, "guide-faults");
     }

@@ -38,6 +38,8 @@ DlgQCResult::DlgQCResult(IDesktopHost& host, std::vector<QualityRow> rows)
     setAttribute(Qt::WA_DeleteOnClose);
     m_table->setModel(new QualityResultModel(std::move(rows), m_table));
     m_table->setAlternatingRowColors(true);
+    m_table->horizontalHeader()->setSectionResizeMode(QualityResultModel::Describe,
+                                                      QHeaderView::ResizeToContents);
     connect(m_table, &QAbstractItemView::clicked, this, &DlgQCResult::onItemClicked);
     makeMainLayout()->addWidget(m_table);
 }

@@ -127,7 +127,7 @@ MainFrame& Applicationx::mainFrame()
             return lum::toQString(text);
         };
         lum::loadTranslations(setting(settings::kLanguage),
-                                  m_configFolder + QStringLiteral("/Language"));
+                              m_configFolder + QStringLiteral("/Language"));
         desktop::applyAppearance(setting(settings::kTheme));
         m_mainFrame = std::make_unique<MainFrame>(
             m_host, loadLayout(m_toolFolder + QStringLiteral("/main_frame.xml"), m_layoutProblem));
@@ -182,11 +182,12 @@ void Applicationx::reportShown()
         exit(0);
         return;
     }
+    if (!m_screenshotFile.isEmpty())
+        m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // whatever the screen has
     if (!m_fileToOpen.isEmpty() && !m_mainFrame->openFile(m_fileToOpen))
         LumMessageBox::warning(m_mainFrame.get(), tr("Skyquill"),
                                tr("\"%1\" is not a project file.").arg(m_fileToOpen));
     if (!m_screenshotFile.isEmpty()) {
-        m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // whatever the screen has
         QTimer::singleShot(500, this, [this] { // the map's worker has painted by then
             const bool done = m_mainFrame->grab().save(m_screenshotFile);
             if (!done)
