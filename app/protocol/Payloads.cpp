@@ -6,9 +6,11 @@
 
 #include <QString>
 
-#include <array>
+#include <cstring>
 
 namespace {
+
+constexpr char kProgressTail[] = ",is_exec=0";
 
 QByteArray quoted(const QString& text)
 {
@@ -30,11 +32,10 @@ const char* Progress::at(std::string_view caption, double percent)
         m_caption = caption;
         m_text = "text=" + basalt::quotedValue(caption) + ",value=";
         m_valueAt = m_text.size();
+        m_text.resize(m_valueAt + basalt::kFixedSize + sizeof kProgressTail);
     }
-    std::array<char, basalt::kFixedSize> value;
-    char* const end = basalt::writeGeneral(value.data(), percent);
-    m_text.resize(m_valueAt);
-    m_text.append(value.data(), end).append(",is_exec=0");
+    char* const end = basalt::writeGeneral(m_text.data() + m_valueAt, percent);
+    std::memcpy(end, kProgressTail, sizeof kProgressTail); // with its closing NUL
     return m_text.c_str();
 }
 

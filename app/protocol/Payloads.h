@@ -21,7 +21,7 @@ public:
 
 private:
     std::string m_caption;
-    std::string m_text;
+    std::string m_text;        ///< longer than the payload, which ends at its NUL
     std::size_t m_valueAt = 0; ///< where the percent begins; 0 before the first text
 };
 /// "text=CAPTION,value=0": work that begins.

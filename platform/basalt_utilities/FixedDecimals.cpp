@@ -60,12 +60,12 @@ char* writeFixed(char* to, double value, int decimals)
     const double scaled = std::fabs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
     if (!(scaled < kLargestScaled)) // also what is not a number
         return writeExactly(to, value, decimals);
-    const double whole = std::floor(scaled);
-    const double fraction = scaled - whole;
+    auto digits = static_cast<std::uint64_t>(scaled);
+    const double fraction = scaled - static_cast<double>(digits);
     // The product is off by half a unit in its last place at most: next to a tie it may lie.
     if (std::fabs(fraction - 0.5) <= scaled * 0x1p-51)
         return writeExactly(to, value, decimals);
-    auto digits = static_cast<std::uint64_t>(whole) + (fraction > 0.5 ? 1U : 0U);
+    digits += fraction > 0.5 ? 1U : 0U;
     if (std::signbit(value))
         *to++ = '-';
     if (decimals == 0)

@@ -18,6 +18,8 @@
 
 namespace {
 
+constexpr int kMargin = 10;
+
 std::string openProject()
 {
     const IDictionary& values = get_system_status_dictionary();
@@ -42,6 +44,18 @@ DlgQCResult::DlgQCResult(IDesktopHost& host, std::vector<QualityRow> rows)
                                                       QHeaderView::ResizeToContents);
     connect(m_table, &QAbstractItemView::clicked, this, &DlgQCResult::onItemClicked);
     makeMainLayout()->addWidget(m_table);
+    resize(minimumSize());
+    leaveTheMapInView();
+}
+
+void DlgQCResult::leaveTheMapInView()
+{
+    const QWidget* const frame = parentWidget();
+    if (frame == nullptr)
+        return;
+    // Into the lower right corner: what is clicked appears in the middle of the map.
+    const QPoint corner = frame->mapToGlobal(frame->rect().bottomRight());
+    move(corner - rect().bottomRight() - QPoint(kMargin, kMargin));
 }
 
 void DlgQCResult::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)

@@ -22,6 +22,7 @@ public:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 private:
+    void leaveTheMapInView();
     void onItemClicked(const QModelIndex& index);
     void showOnMap(const QString& lineNumber, const QString& pointNumber);
 
