@@ -22,8 +22,9 @@ CircleStamp::CircleStamp(double radius, const QPen& pen, const QBrush& brush, do
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(pen);
     painter.setBrush(brush);
+    const int half = m_side / 2;
     const auto middle = [&](int phase) {
-        return (phase * m_side + m_side / 2 + (phase + 0.5) / kPhases) / m_ratio;
+        return (phase * m_side + half + (phase + 0.5) / kPhases) / m_ratio;
     };
     for (int row = 0; row < kPhases; ++row) {
         for (int column = 0; column < kPhases; ++column)
@@ -40,6 +41,7 @@ void CircleStamp::draw(QPainter& painter, const QPointF& center) const
     const double top = std::floor(place.y());
     const int column = static_cast<int>((place.x() - left) * kPhases);
     const int row = static_cast<int>((place.y() - top) * kPhases);
-    painter.drawImage(QPointF(left - m_side / 2, top - m_side / 2) / m_ratio, m_images,
+    const int half = m_side / 2;
+    painter.drawImage(QPointF(left - half, top - half) / m_ratio, m_images,
                       QRectF(column * m_side, row * m_side, m_side, m_side));
 }

@@ -94,12 +94,11 @@ private:
     void passOver(const MarkTable::Block& block, MarkTable::Index labelled)
     {
         for (MarkTable::Index mark = block.end; mark-- > block.first;) {
-            if (mark == labelled)
+            const bool hasBase = m_bases[m_survey.ties(mark).base].isInside;
+            if (mark == labelled || (!hasBase && isInside(screenOf(m_marks.place(mark)))))
                 m_filling = Red;
-            else if (m_bases[m_survey.ties(mark).base].isInside)
+            else if (hasBase)
                 m_filling = Blue;
-            else if (isInside(screenOf(m_marks.place(mark))))
-                m_filling = Red;
             else
                 continue;
             return;

@@ -70,7 +70,7 @@ QString LayerRegistry::tipAt(const QPointF& map) const
     const std::vector<ILayerViewer*> layers = visibleLayers();
     for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
         const auto* const data = dynamic_cast<const IDataLayer*>(*layer);
-        const QString tip = data != nullptr ? data->tipAt(map) : QString();
+        QString tip = data != nullptr ? data->tipAt(map) : QString();
         if (!tip.isEmpty())
             return tip;
     }

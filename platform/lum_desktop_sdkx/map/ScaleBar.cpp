@@ -22,7 +22,7 @@ constexpr int kPaperAlpha = 210; // lets a little of the map through, not its co
 /// Two pieces, black and white, at the left of `paper`.
 void drawBar(QPainter& painter, const QRect& paper, double length)
 {
-    const double top = paper.center().y() - kThickness / 2 + 0.5;
+    const double top = paper.center().y() - kThickness / 2.0 + 0.5;
     const QRectF bar(paper.left() + kPadding + 0.5, top, std::round(length), kThickness);
     painter.setPen(Qt::black);
     painter.setBrush(Qt::white);
