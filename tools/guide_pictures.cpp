@@ -2,6 +2,7 @@
 //   guide_pictures PROJECT.kelx FOLDER
 
 #include "app/protocol/StatusKeys.h"
+#include "basalt_utilities/Paths.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/Applicationx.h"
@@ -23,6 +24,8 @@
 
 namespace {
 
+constexpr const char* kSystemFile =
+    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5/data_process_5.sys";
 constexpr int kMargin = 20;
 constexpr int kPaintMs = 1500; // more than the map's worker takes
 
@@ -134,6 +137,7 @@ int main(int argc, char* argv[])
         return message.buttons & LumMessageBox::Button::Yes ? LumMessageBox::Button::Yes
                                                             : LumMessageBox::Button::Ok;
     });
+    get_system_ini_parameter().load(basalt::resolvedPath(kSystemFile));
     MainFrame& frame = application.mainFrame();
     frame.setTitle(QStringLiteral("Skyquill"));
     frame.show();

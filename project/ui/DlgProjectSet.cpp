@@ -39,7 +39,7 @@ DlgProjectSet::DlgProjectSet(IDesktopHost& host, IDictionary& project)
 {
     setWindowTitle(tr("Project Settings"));
     setMinimumSizeScaled(760, 560);
-    m_pages->setFixedWidth(dpi_scaled(180));
+    m_pages->setFixedWidth(dpi_scaled(210));
     m_pages->setIconSize(QSize(dpi_scaled(22), dpi_scaled(22)));
     addPage(QStringLiteral("CommInfoSet"), tr("General"), QStringLiteral("documentinfo"),
             makeGeneralPage());
