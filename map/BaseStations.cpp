@@ -25,18 +25,26 @@ void BaseStations::clear()
 {
     m_list.clear();
     m_cells.clear();
+    m_nowhere.reset();
 }
 
 std::uint32_t BaseStations::findOrAdd(const BaseStation& station)
 {
+    const auto next = static_cast<std::uint32_t>(m_list.size());
+    if (!std::isfinite(station.north) || !std::isfinite(station.east)) {
+        if (!m_nowhere) {
+            m_nowhere = next;
+            m_list.push_back(station);
+        }
+        return *m_nowhere;
+    }
     const Cell cell{std::floor(station.north / kSameM), std::floor(station.east / kSameM)};
     const std::uint32_t found = findNear(station, cell);
     if (found != kNone)
         return found;
-    const auto index = static_cast<std::uint32_t>(m_list.size());
     m_list.push_back(station);
-    m_cells.emplace(cell, index);
-    return index;
+    m_cells.emplace(cell, next);
+    return next;
 }
 
 std::uint32_t BaseStations::findNear(const BaseStation& station, const Cell& cell) const

@@ -3,6 +3,7 @@
 #include "lum_sdk/BaseStation.h"
 
 #include <cstdint>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -14,9 +15,8 @@ public:
     static constexpr double kSameM = 1e-5;
 
     void clear();
-    /// The first station at that place; a new one when there is none. A place that is not finite
-    /// is never the same as another.
-    /// \returns its index
+    /// The first station at that place; a new one when there is none. All places that are not
+    /// finite are one station. \returns its index
     std::uint32_t findOrAdd(const BaseStation& station);
 
     [[nodiscard]] const std::vector<BaseStation>& list() const { return m_list; }
@@ -37,4 +37,5 @@ private:
 
     std::vector<BaseStation> m_list;
     std::unordered_multimap<Cell, std::uint32_t, CellHash> m_cells; ///< by place, `kSameM` wide
+    std::optional<std::uint32_t> m_nowhere;                         ///< the one that is not finite
 };

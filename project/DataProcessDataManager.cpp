@@ -123,7 +123,7 @@ StoreResult DataProcessDataManager::read(const ProjectPlace& place)
     dictionary_copy(quality, m_qualityParameters);
     dictionary_copy(design, m_designParameters);
     m_project = std::move(project);
-    m_isProjectFileOurs = isProjectFileOurs;
+    m_projectFile = isProjectFileOurs ? place.file : QString();
     return result;
 }
 
@@ -137,10 +137,10 @@ StoreResult DataProcessDataManager::saveProject(const ProjectPlace& place)
             ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
         !fault.isEmpty())
         return {false, fault};
-    if (m_isProjectFileOurs && !ProjectFile::write(place.file, m_project))
+    if (!m_projectFile.isEmpty() && !ProjectFile::write(m_projectFile, m_project))
         return {false, QCoreApplication::translate("ProjectStore",
                                                    "The project file \"%1\" cannot be written.")
-                           .arg(place.file)};
+                           .arg(m_projectFile)};
     m_isSaveOwed = false;
     return result;
 }
@@ -150,6 +150,9 @@ void DataProcessDataManager::clear()
     m_design.clear();
     m_survey.clear();
     m_project.clear();
+    m_projectFile.clear();
+    m_qualityParameters.clear();
+    m_designParameters.clear();
     m_database.close();
     m_lock.release();
     m_isSaveOwed = false;

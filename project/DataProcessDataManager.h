@@ -51,7 +51,8 @@ public:
     StoreResult saveProject(const ProjectPlace& place);
     /// Whether the last `saveProject` failed, so that more is in memory than on the disk.
     [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }
-    /// Forgets the points of the project that was open, and lets others have it.
+    /// Forgets the points and parameters of the project that was open, and lets others have it; its
+    /// coordinate system stays as the start of the next new project.
     void clear();
 
     /// The database alone, see ProjectLoader and ProjectSaver.
@@ -114,7 +115,7 @@ private:
     DesignPoints m_design;
     SurveyPoints m_survey;
     basalt::Dictionary m_project;
-    bool m_isProjectFileOurs = false; ///< one that we could not read is not written either
+    QString m_projectFile; ///< as it was opened; empty for one that we could not read
     bool m_isSaveOwed = false;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;

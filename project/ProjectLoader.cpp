@@ -59,10 +59,12 @@ struct SurveyPart
     void add(const IDictionary& row)
     {
         SurveyPoint point = reader.read(row);
+        if (point.lineNumber.empty())
+            point.lineNumber = kEmptyLine;
         if (isCheckPoint(point.pointNumber))
             checkPoints.push_back(std::move(point));
         else
-            fileSurveyPoint(points, std::move(point));
+            points.set(std::move(point));
     }
 
     SurveyRecord::Reader reader;
@@ -160,9 +162,10 @@ bool ProjectLoader::readSurvey(SurveyPoints& survey)
         caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Import Survey Data")), 50, parts);
     survey = std::move(parts[0].points);
     survey.merge(std::move(parts[1].points));
+    SurveyPointFiler filer(survey);
     for (SurveyPart& part : parts) {
         for (SurveyPoint& point : part.checkPoints)
-            fileSurveyPoint(survey, std::move(point));
+            filer.file(std::move(point));
     }
     return isRead;
 }

@@ -85,7 +85,7 @@ StoreResult ProjectSaver::save(const std::string& path, const DesignPoints& desi
         return undo(path);
     copy.drop();
     m_database.open(connection.c_str()); // lets others in again
-    m_progress.finish();
+    m_progress.hide();
     return {true, {}};
 }
 

@@ -15,6 +15,12 @@ QString interrupted()
         "ProjectStore", "Saving this project was interrupted. It is as it was last saved.");
 }
 
+std::string folderOf(const std::string& file)
+{
+    const std::size_t slash = file.rfind('/');
+    return slash == std::string::npos ? "." : file.substr(0, slash + 1);
+}
+
 bool isDamage(const std::string& reason)
 {
     return reason.find("malformed") != std::string::npos ||
@@ -35,8 +41,9 @@ bool SafetyCopy::make(IDBAdapter& database) const
 
 void SafetyCopy::drop() const
 {
-    // The commit is on the disk before the copy leaves it.
-    std::string why = lum::syncFile(m_database);
+    // The end of the journal is on the disk before the copy leaves it. Not by way of the database's
+    // own file: closing it a second time would end SQLite's locks on it.
+    std::string why = lum::syncFile(folderOf(m_database));
     if (why.empty())
         why = lum::removeFile(m_copy);
     if (!why.empty())
@@ -55,13 +62,15 @@ StoreResult SafetyCopy::recover(IDBAdapter& database) const
         database.open((lum::databaseConnection(m_database) + ",exclusive=1").c_str());
     const std::string reason = database.lastError();
     const bool isMarked = isOpen && database.tableExists("SaveUnderWay");
+    // A save of another program may have ended before this one had the database to itself.
+    const bool isLeft = isOpen && !isMarked && file_system_check_file(m_copy);
+    if (isLeft)
+        drop(); // while nobody else can make another
     database.close();
     if (isMarked || isDamage(reason))
         return restore();
-    if (isOpen) {
-        drop();
-        return {true, interrupted()};
-    }
+    if (isOpen)
+        return {true, isLeft ? interrupted() : QString()};
     return {false, QCoreApplication::translate(
                        "ProjectStore", "An interrupted save of \"%1\" cannot be undone: %2.")
                        .arg(QString::fromStdString(m_database), databaseReason(reason))};

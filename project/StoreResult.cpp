@@ -12,10 +12,11 @@ struct Reason
     const char* text;
 };
 
-constexpr std::array<Reason, 7> kReasons{{
+constexpr std::array<Reason, 8> kReasons{{
     {"database is locked", QT_TRANSLATE_NOOP("ProjectStore", "another program is using it")},
     {"malformed", QT_TRANSLATE_NOOP("ProjectStore", "the file is damaged")},
     {"not a database", QT_TRANSLATE_NOOP("ProjectStore", "the file is no project database")},
+    {"No space left", QT_TRANSLATE_NOOP("ProjectStore", "the disk is full")},
     {"is full", QT_TRANSLATE_NOOP("ProjectStore", "the disk is full")},
     {"readonly", QT_TRANSLATE_NOOP("ProjectStore", "file or folder cannot be written")},
     {"unable to open", QT_TRANSLATE_NOOP("ProjectStore", "the file cannot be opened")},

@@ -90,5 +90,5 @@ void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressR
         reportLine(caption + number, line.size(), progress);
         ++linesReported;
     }
-    progress.finish();
+    progress.hide();
 }

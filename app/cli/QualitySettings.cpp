@@ -5,8 +5,6 @@
 #include "quality/QualityLimits.h"
 #include "quality/ResurveyCode.h"
 
-#include <QLocale>
-
 #include <cmath>
 #include <cstdio>
 
@@ -27,7 +25,7 @@ QString setParameter(const QString& pair, IDictionary& parameters)
         value = QString::fromStdString(*code);
     } else {
         bool isNumber = false;
-        const double number = QLocale::c().toDouble(value, &isNumber);
+        const double number = value.toDouble(&isNumber); // in any locale as in C, without groups
         if (!isNumber || !std::isfinite(number))
             return QStringLiteral("\"%1\" is no number for %2.").arg(value, key);
     }

@@ -4,6 +4,7 @@
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/FileSync.h"
 #include "lum_sdk/RecordSet.h"
+#include "lum_sdk/SqliteCopy.h"
 #include "lum_sdk/SqliteStatement.h"
 
 #include <sqlite3.h>
@@ -111,18 +112,6 @@ private:
     int m_columns;
     Report m_report;
 };
-
-/// Copies page after page; SQLite takes care of locks and of what is not yet in the file.
-int copyPages(sqlite3* to, sqlite3* from)
-{
-    sqlite3_exec(to, "pragma journal_mode=off; pragma synchronous=off", nullptr, nullptr, nullptr);
-    sqlite3_backup* const copying = sqlite3_backup_init(to, "main", from, "main");
-    if (copying == nullptr)
-        return sqlite3_errcode(to);
-    const int result = sqlite3_backup_step(copying, -1);
-    sqlite3_backup_finish(copying);
-    return result == SQLITE_DONE ? SQLITE_OK : result;
-}
 
 } // namespace
 
@@ -339,16 +328,9 @@ bool SqliteAdapter::backup(const char* path)
     if (m_database == nullptr)
         return fail(kNotOpen);
     const std::string aside = std::string(path) + ".part";
-    std::remove(aside.c_str()); // of an attempt that was cut off
-    sqlite3* opened = nullptr;
-    int result =
-        sqlite3_open_v2(aside.c_str(), &opened,
-                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
-    std::unique_ptr<sqlite3, Closer> copy(opened);
-    if (result == SQLITE_OK)
-        result = copyPages(copy.get(), m_database.get());
-    copy.reset();
-    std::string why = result == SQLITE_OK ? lum::syncFile(aside) : sqlite3_errstr(result);
+    std::string why = lum::copyDatabase(m_database.get(), aside);
+    if (why.empty())
+        why = lum::syncFile(aside);
     if (why.empty())
         why = lum::renameFile(aside, path);
     if (why.empty())

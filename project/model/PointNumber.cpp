@@ -48,8 +48,3 @@ void SurveyPointFiler::file(SurveyPoint&& point)
     }
     m_points.set(std::move(point));
 }
-
-void fileSurveyPoint(SurveyPoints& points, SurveyPoint point)
-{
-    SurveyPointFiler(points).file(std::move(point));
-}

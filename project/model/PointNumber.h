@@ -33,6 +33,3 @@ private:
     std::unordered_map<std::string, int>
         m_counters; ///< the first that may be free, by line and number
 };
-
-/// The same for a single point.
-void fileSurveyPoint(SurveyPoints& points, SurveyPoint point);

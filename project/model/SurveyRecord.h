@@ -23,8 +23,8 @@ void write(const SurveyPoint& point, RecordTexts& texts);
 class Reader
 {
 public:
-    /// The row as it stands, to be filed with `fileSurveyPoint`. What is missing or no number reads
-    /// as 0; the age of the corrections loses its decimals.
+    /// The row as it stands, to be filed with `SurveyPointFiler`. What is missing or no number
+    /// reads as 0; the age of the corrections loses its decimals.
     [[nodiscard]] SurveyPoint read(const IDictionary& row);
 
 private:

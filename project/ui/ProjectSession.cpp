@@ -13,6 +13,7 @@
 #include "project/RecentProjects.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace ProjectSession {
 
@@ -25,7 +26,8 @@ QString translated(const char* text)
 
 void reportFailure(IDesktopHost& host, const QString& file, const QString& reason)
 {
-    RecentProjects::remove(file);
+    if (!QFileInfo::exists(file) || !QFileInfo::exists(ProjectPlace::ofFile(file).database()))
+        RecentProjects::remove(file);
     LumMessageBox::information(
         host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "failed")),
         translated(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")),

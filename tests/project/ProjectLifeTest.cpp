@@ -162,6 +162,31 @@ TEST_F(ProjectLife, AForeignProjectFileIsLeftAlone)
     EXPECT_EQ(content(place.file), "[Project]\nname=1\n");
 }
 
+TEST_F(ProjectLife, AFileWithTwoDotsIsSavedUnderItsOwnName)
+{
+    create();
+    const QString renamed = place.folder + QStringLiteral("/测区 1.old.kelx");
+    ASSERT_TRUE(QFile::rename(place.file, renamed));
+    ASSERT_TRUE(manager.openProject(ProjectPlace::ofFile(renamed)).isDone);
+    manager.project().set("crew", "second");
+    ASSERT_TRUE(manager.saveProject(ProjectPlace::in(place.folder, place.name)).isDone);
+    EXPECT_TRUE(content(renamed).contains("second"));
+    EXPECT_FALSE(QFile::exists(place.file));
+}
+
+TEST_F(ProjectLife, ParametersEndWithTheirProject)
+{
+    create();
+    ASSERT_TRUE(manager.openProject(place).isDone);
+    manager.qualityParameters().set("only_here", "1");
+    manager.designParameters().set("only_here", "1");
+    manager.clear();
+    ASSERT_TRUE(manager.openProject(place).isDone);
+    EXPECT_FALSE(manager.qualityParameters().contains("only_here"));
+    EXPECT_FALSE(manager.designParameters().contains("only_here"));
+    EXPECT_TRUE(manager.designParameters().contains("r_pt_dist"));
+}
+
 TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
 {
     create();

@@ -134,8 +134,8 @@ TEST_F(ProjectStore, LaterRowsWinAndLinesWithoutNumberGetAName)
     EXPECT_EQ(project.survey.find(kEmptyLine, "5")->remarks, "new");
     EXPECT_EQ(project.survey.find(kEmptyLine, "5")->solutionType, 0);
     EXPECT_NE(project.survey.find(kEmptyLine, "6"), nullptr);
-    EXPECT_EQ(project.survey.find("1234", "C12345678_0")->remarks, "a");
-    EXPECT_EQ(project.survey.find("1234", "C12345678_1")->remarks, "b");
+    EXPECT_EQ(project.survey.find(kEmptyLine, "C12345678_0")->remarks, "a");
+    EXPECT_EQ(project.survey.find("1234", "C12345678_0")->remarks, "b");
     EXPECT_EQ(project.coordParameters.text("ellipsoid_a"), "2");
     EXPECT_FALSE(project.coordParameters.contains("lon1")) << "a NULL is no value";
 }
@@ -174,6 +174,14 @@ TEST_F(ProjectStore, AColumnCountsAsPresentWhereItsNameStands)
     EXPECT_FALSE(result.isDone);
     EXPECT_TRUE(result.message.contains(QStringLiteral("raw_offset")));
     EXPECT_EQ(content(), before);
+}
+
+TEST_F(ProjectStore, AnEmptyProjectHidesTheBarToo)
+{
+    EventManager manager;
+    const Payloads payloads(manager);
+    ASSERT_TRUE(TestProject().save(path, &manager).isDone);
+    EXPECT_EQ(payloads.all, std::vector<std::string>{"show=0"});
 }
 
 TEST_F(ProjectStore, AMissingTableEndsTheLoadThere)

@@ -103,12 +103,13 @@ TEST(SurveyColumns, AreTheFiftyCaptions)
 TEST(PointNumber, CheckPointsAreCountedWithinTheirLine)
 {
     SurveyPoints points;
-    fileSurveyPoint(points, pointOf("1", "C12345678"));
-    fileSurveyPoint(points, pointOf("1", "C12345678"));
-    fileSurveyPoint(points, pointOf("", "C12345678"));
-    fileSurveyPoint(points, pointOf("", "C1234567"));
-    fileSurveyPoint(points, pointOf("", "C1234567"));
-    fileSurveyPoint(points, pointOf("2", "C测线三四五六七八"));
+    SurveyPointFiler filer(points);
+    filer.file(pointOf("1", "C12345678"));
+    filer.file(pointOf("1", "C12345678"));
+    filer.file(pointOf("", "C12345678"));
+    filer.file(pointOf("", "C1234567"));
+    filer.file(pointOf("", "C1234567"));
+    filer.file(pointOf("2", "C测线三四五六七八"));
     EXPECT_NE(points.find("1", "C12345678_0"), nullptr);
     EXPECT_NE(points.find("1", "C12345678_1"), nullptr);
     EXPECT_NE(points.find("1234", "C12345678_0"), nullptr);
