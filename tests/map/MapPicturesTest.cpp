@@ -83,6 +83,26 @@ int paintedPixels(const QImage& picture)
     return differingPixels(picture, white);
 }
 
+/// The same points, line and point numbers of blanks, base stations `baseOffM` to the north.
+template <class Point>
+PointLines<Point> withoutNames(const PointLines<Point>& points, double baseOffM)
+{
+    PointLines<Point> blank;
+    std::string lineNumber;
+    for (const auto& [number, line] : points) {
+        lineNumber += ' ';
+        std::string pointNumber;
+        for (Point point : line) {
+            point.lineNumber = lineNumber;
+            point.pointNumber = pointNumber += ' ';
+            if constexpr (std::is_same_v<Point, SurveyPoint>)
+                point.referenceNorth += baseOffM;
+            blank.set(std::move(point));
+        }
+    }
+    return blank;
+}
+
 /// Keeps pictures that should be alike and are not, for a look.
 void keep(const QImage& picture, const QImage& expected)
 {
@@ -93,7 +113,7 @@ void keep(const QImage& picture, const QImage& expected)
     qWarning("kept as %s.png", qPrintable(name));
 }
 
-void compareWithPlain(const QImage& picture, const QImage& expected, int minPainted)
+void compare(const QImage& picture, const QImage& expected, int minPainted)
 {
     QVERIFY(paintedPixels(expected) >= minPainted); // or the scene would prove nothing
     const int count = differingPixels(picture, expected);
@@ -116,6 +136,8 @@ private Q_SLOTS:
     void designLooksAsDrawnPlainly();
     void surveyLooksAsDrawnPlainly_data(); // NOLINT(readability-identifier-naming)
     void surveyLooksAsDrawnPlainly();
+    void looksAsStored_data(); // NOLINT(readability-identifier-naming)
+    void looksAsStored();
     void designMarksStandAtTheirPlaces();
     void pointsAndLabelsNeedRoom();
     void resultsStandAtTheirPlaces();
@@ -164,10 +186,10 @@ void MapPicturesTest::designLooksAsDrawnPlainly()
             points.set(point);
         }
     }
-    compareWithPlain(designPicture(points, frame, options), pictureOf([&](QPainter& painter) {
-                         paintDesignPlainly(points, frame, options, painter);
-                     }),
-                     frame.drawingArea.left() < 1000 ? 150 : 20);
+    compare(designPicture(points, frame, options), pictureOf([&](QPainter& painter) {
+                paintDesignPlainly(points, frame, options, painter);
+            }),
+            frame.drawingArea.left() < 1000 ? 150 : 20);
 }
 
 void MapPicturesTest::surveyLooksAsDrawnPlainly_data()
@@ -189,9 +211,45 @@ void MapPicturesTest::surveyLooksAsDrawnPlainly()
 {
     QFETCH(PictureFrame, frame);
     const SurveyPoints points = TestSurvey().results(9, 100, 3, 12);
-    compareWithPlain(
-        surveyPicture(points, frame),
-        pictureOf([&](QPainter& painter) { paintSurveyPlainly(points, frame, painter); }), 150);
+    compare(surveyPicture(points, frame),
+            pictureOf([&](QPainter& painter) { paintSurveyPlainly(points, frame, painter); }), 150);
+}
+
+void MapPicturesTest::looksAsStored_data()
+{
+    QTest::addColumn<bool>("isSurvey");
+    QTest::addColumn<PictureFrame>("frame");
+    QTest::addColumn<DesignPictureOptions>("options");
+    const auto row = [](const char* name, bool isSurvey, const PictureFrame& frame,
+                        DesignPictureOptions options = {25}) {
+        QTest::newRow(name) << isSurvey << frame << options;
+    };
+    row("design_lines", false, frameAt(4400250, 500250, 4));
+    row("design_points", false, frameAt(4400250, 500250, 2));
+    row("design_receivers", false, frameAt(4400250, 500250, 2), {25, true, false});
+    PictureFrame cut = frameAt(4400250, 500250, 2);
+    cut.drawingArea = QRectF(60, 50, 120, 100);
+    row("design_area", false, cut);
+    row("survey_all", true, frameAt(4400250, 500250, 3));
+    row("survey_offsets", true, frameAt(4400160, 500160, 0.4));
+}
+
+/// The stored pictures hold no text: names are blanks, and base stations stand out of sight.
+void MapPicturesTest::looksAsStored()
+{
+    QFETCH(bool, isSurvey);
+    QFETCH(PictureFrame, frame);
+    QFETCH(DesignPictureOptions, options);
+    const TestSurvey survey;
+    const QImage picture =
+        isSurvey ? surveyPicture(withoutNames(survey.results(6, 20, 2, 12), 9000), frame)
+                 : designPicture(withoutNames(survey.design(6, 20, 3), 0), frame, options);
+    const QImage stored(QStringLiteral(PICTURES_FOLDER "/%1.png")
+                            .arg(QString::fromLatin1(QTest::currentDataTag())));
+    if (stored.isNull())
+        keep(picture, picture);
+    QVERIFY(!stored.isNull());
+    compare(picture, stored, 150);
 }
 
 void MapPicturesTest::designMarksStandAtTheirPlaces()
