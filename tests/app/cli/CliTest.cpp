@@ -155,7 +155,8 @@ void CliTest::checksByTheLimitsThatAreSet()
              0);
     QCOMPARE(content("r.csv"), QByteArray("Point Num,Line Num,Describe,Value,Limit\n"
                                           "1002,L10,HDOP AND VDOP Out-range.,-1.000,-1.000\n"));
-    for (const char* bad : {"re_code=C", "pdop_max=many", "pdop_max=inf", "pdop_max=1,000", "colour=1", "pdop_max"}) {
+    for (const char* bad :
+         {"re_code=C", "pdop_max=many", "pdop_max=inf", "pdop_max=1,000", "colour=1", "pdop_max"}) {
         QCOMPARE(run("set-quality", project, {QString::fromLatin1(bad)}), 1);
         QCOMPARE(m_errors.count(QLatin1Char('\n')), 1);
     }
