@@ -90,8 +90,7 @@ DataProcessDataManager* DataProcessDataManager::instance()
 
 StoreResult DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAccess access)
 {
-    const StoreResult lock =
-        access == ProjectAccess::Change ? m_lock.take(place) : StoreResult{true, {}};
+    StoreResult lock = access == ProjectAccess::Change ? m_lock.take(place) : StoreResult{true, {}};
     if (!lock.isDone)
         return lock;
     StoreResult result = read(place);

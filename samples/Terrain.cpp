@@ -65,7 +65,8 @@ Obstacle obstacleAt(const GridPlace& place, double clearanceM)
 
 std::optional<Skid> shortestSkid(const GridPlace& place, int type)
 {
-    for (double length = kSkidStepM; length <= kLongestSkidM; length += kSkidStepM) {
+    for (int step = 1; step * kSkidStepM <= kLongestSkidM; ++step) {
+        const double length = step * kSkidStepM;
         for (const Skid& skid :
              {Skid{length, 0}, Skid{-length, 0}, Skid{0, length}, Skid{0, -length}}) {
             const GridPlace there = moved(place, type, skid.rightM, skid.alongM);

@@ -22,14 +22,14 @@ struct CliResult
 /// One command of the tool.
 struct CliCommand
 {
-    const char* name;
-    const char* usage;   ///< what stands behind the name
-    const char* summary; ///< half a sentence
-    int fewestPlaces;    ///< how many arguments it takes besides its options
-    int mostPlaces;
-    const char* options; ///< with a value, comma-separated
-    const char* flags;   ///< without one
-    CliResult (*run)(const CliArguments& arguments);
+    const char* name = nullptr;
+    const char* usage = nullptr;   ///< what stands behind the name
+    const char* summary = nullptr; ///< half a sentence
+    int fewestPlaces = 0;          ///< how many arguments it takes besides its options
+    int mostPlaces = 0;
+    const char* options = nullptr; ///< with a value, comma-separated
+    const char* flags = nullptr;   ///< without one
+    CliResult (*run)(const CliArguments& arguments) = nullptr;
     bool paints = false; ///< needs fonts, and so a graphical application
 };
 

@@ -39,7 +39,7 @@ QString exportDesign(const CliArguments& arguments, CliProject& project)
 {
     const DesignPoints& points = project.manager().designPoints();
     QStringList lines;
-    const QString fault = chooseLines(arguments, points, lines);
+    QString fault = chooseLines(arguments, points, lines);
     if (!fault.isEmpty())
         return fault;
     ProgressReporter progress(&project.events());
@@ -52,7 +52,7 @@ QString exportSurvey(const CliArguments& arguments, CliProject& project)
 {
     DataProcessDataManager& manager = project.manager();
     QStringList lines;
-    const QString fault = chooseLines(arguments, manager.surveyPoints(), lines);
+    QString fault = chooseLines(arguments, manager.surveyPoints(), lines);
     if (!fault.isEmpty())
         return fault;
     const SurveyCsvChoice choice{manager.exportCaptions(),

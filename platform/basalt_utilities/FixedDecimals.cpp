@@ -87,7 +87,7 @@ char* writeGeneral(char* to, double value)
     if (!(value >= 1 && value < 99999)) // what may need an exponent, or is not a number
         return std::to_chars(to, to + kFixedSize, value, std::chars_format::general, kDigits).ptr;
     int decimals = kDigits - 1;
-    for (double power = 10; power <= value; power *= 10)
+    for (std::int64_t power = 10; power <= static_cast<std::int64_t>(value); power *= 10)
         --decimals;
     char* end = writeFixed(to, value, decimals);
     while (end[-1] == '0')
