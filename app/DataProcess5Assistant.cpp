@@ -64,6 +64,8 @@ int DataProcess5Assistant::queryClose()
 {
     if (get_system_status_dictionary().integer(status::kProjectOpen) != 0)
         m_host.commands().execute(QStringLiteral("Save Project"));
+    if (!ProjectSession::mayForget(m_host))
+        return 0;
     using Button = LumMessageBox::Button;
     const Button answer = LumMessageBox::information(
         m_host.dialogParent(), QStringLiteral("提示"), QStringLiteral("是否退出程序？"),

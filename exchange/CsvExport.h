@@ -2,6 +2,7 @@
 
 #include "app/protocol/ProgressReporter.h"
 #include "lum_sdk/WholeFileWriter.h"
+#include "project/model/PointNumber.h"
 
 #include <QStringList>
 
@@ -26,8 +27,8 @@ QString exportCsv(const QString& path, const QString& caption, std::string_view 
         const auto* const line = points.findLine(lineNumber.toStdString());
         if (line == nullptr)
             continue;
-        for (const auto& point : *line)
-            file.write(rowOf(point));
+        for (const auto* const point : writtenOrder(*line))
+            file.write(rowOf(*point));
         if (!file.fault().isEmpty())
             break;
         progress.report(caption, done, total);

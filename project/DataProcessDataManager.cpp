@@ -21,6 +21,7 @@
 #include "project/model/CoordinateRecord.h"
 #include "project/model/SurveyColumns.h"
 #include "project/ParameterFiles.h"
+#include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectLoader.h"
 #include "project/ProjectPlace.h"
@@ -46,6 +47,15 @@ void setUpRasterLibrary()
     OGRRegisterAll();
     GDALAllRegister();
 }
+
+/// Puts another sentence under what the user is told.
+void addNotice(QString& message, const QString& notice)
+{
+    if (!message.isEmpty() && !notice.isEmpty())
+        message += QLatin1Char('\n');
+    message += notice;
+}
+
 int exported(const QString& path, const QString& fault)
 {
     if (fault.isEmpty())
@@ -94,10 +104,10 @@ StoreResult DataProcessDataManager::openProject(const ProjectPlace& place, Proje
     if (!lock.isDone)
         return lock;
     StoreResult result = read(place);
-    if (!result.isDone)
-        m_lock.release();
-    else if (result.message.isEmpty())
-        result.message = lock.message;
+    if (result.isDone)
+        addNotice(result.message, lock.message);
+    else
+        clear(); // what was read of a project that is not open
     m_isSaveOwed = false;
     return result;
 }
@@ -123,12 +133,22 @@ StoreResult DataProcessDataManager::read(const ProjectPlace& place)
     dictionary_copy(design, m_designParameters);
     m_project = std::move(project);
     m_projectFile = isProjectFileOurs ? place.file : QString();
+    if (!isProjectFileOurs)
+        addNotice(result.message,
+                  QCoreApplication::translate("ProjectStore",
+                                              "The project file \"%1\" cannot be read: what it "
+                                              "says about the project is neither shown nor saved.")
+                      .arg(place.file));
     return result;
 }
 
 StoreResult DataProcessDataManager::saveProject(const ProjectPlace& place)
 {
     m_isSaveOwed = true;
+    if (StoreResult lock = m_lock.ensure(place); !lock.isDone)
+        return lock;
+    if (const QString fault = ProjectCreator::replaceDatabase(place); !fault.isEmpty())
+        return {false, fault};
     StoreResult result = save(place.database());
     if (!result.isDone)
         return result;

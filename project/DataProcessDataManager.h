@@ -43,11 +43,12 @@ public:
     [[nodiscard]] static DataProcessDataManager* instance();
 
     /// Takes the project for this program alone, unless it is only looked at, and reads its
-    /// parameter files, its database and its project file. When a parameter file cannot be read the
-    /// parameters stay as they were; a project file that cannot be read is passed over.
+    /// parameter files, its database and its project file. A project that cannot be opened leaves
+    /// nothing in memory; a project file that cannot be read is passed over, with a message.
     StoreResult openProject(const ProjectPlace& place,
                             ProjectAccess access = ProjectAccess::Change);
-    /// Writes them all, and the design parameters as the start of the next new project.
+    /// Writes them all, and the design parameters as the start of the next new project. A database
+    /// that is gone is made anew.
     StoreResult saveProject(const ProjectPlace& place);
     /// Whether the last `saveProject` failed, so that more is in memory than on the disk.
     [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }

@@ -1,12 +1,14 @@
 #include "project/ProjectCreator.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/Files.h"
+#include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/Paths.h"
+#include "lum_sdk/DictionaryXml.h"
 #include "lum_sdk/FileSync.h"
 #include "lum_sdk/ICoordTransform.h"
 #include "lum_sdk/ProjectCoordTransform.h"
 #include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/WholeFile.h"
 #include "project/model/CoordinateRecord.h"
 #include "project/ParameterFiles.h"
 #include "project/ProjectFile.h"
@@ -17,6 +19,11 @@
 #include <QDateTime>
 #include <QFile>
 #include <QLocale>
+#include <QStringList>
+
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace ProjectCreator {
 
@@ -25,28 +32,95 @@ namespace {
 constexpr const char* kTemplateFolder =
     "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5/";
 
-QString cannotWrite(const QString& path)
+QString cannotWrite(const QString& path, const QString& why)
 {
-    return QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be written.")
-        .arg(path);
+    return QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be written: %2.")
+        .arg(path, why);
 }
 
-/// Moves what stands under that name out of the way.
-bool keepOld(const QString& path)
+void logFailure(const std::string& why)
 {
-    if (!QFile::exists(path))
-        return true;
+    if (!why.empty())
+        basalt::logError("A file of the project that stood here before has lost its name: " + why);
+}
+
+/// The files of a project in the making: what was done is taken back unless it is kept.
+class NewFiles
+{
+public:
+    NewFiles() = default;
+    NewFiles(const NewFiles&) = delete;
+    NewFiles& operator=(const NewFiles&) = delete;
+    ~NewFiles()
+    {
+        for (const QString& path : m_written)
+            QFile::remove(path);
+        for (auto move = m_moved.rbegin(); move != m_moved.rend(); ++move)
+            logFailure(lum::renameFile(move->second, move->first));
+    }
+    void keep()
+    {
+        m_written.clear();
+        m_moved.clear();
+    }
+
+    /// Moves what stands under `path`, if anything does.
+    QString moveAside(const QString& path, const QString& to)
+    {
+        if (!QFile::exists(path))
+            return {};
+        const std::string why = lum::renameFile(path.toStdString(), to.toStdString());
+        if (!why.empty())
+            return cannotWrite(path, QString::fromStdString(why));
+        m_moved.emplace_back(path.toStdString(), to.toStdString());
+        return {};
+    }
+
+    QString write(const QString& path, const QByteArray& content)
+    {
+        const QString why = lum::writeWholeFile(path, content);
+        if (!why.isEmpty())
+            return cannotWrite(path, why);
+        m_written << path;
+        return {};
+    }
+
+    QString copyTemplate(const char* name, const QString& to)
+    {
+        const std::string path = basalt::resolvedPath(std::string(kTemplateFolder) + name);
+        QFile source(QString::fromStdString(path));
+        if (source.open(QIODevice::ReadOnly))
+            return write(to, source.readAll());
+        return QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be read: %2.")
+            .arg(source.fileName(), source.errorString());
+    }
+
+private:
+    QStringList m_written;
+    std::vector<std::pair<std::string, std::string>> m_moved; ///< from, to
+};
+
+/// The old files of these names, out of the way. What SQLite has beside an old database stays with
+/// it: a journal would be played back into the new one. The copy of an interrupted save goes last,
+/// since the project opens from it alone, should this be cut off.
+QString moveOldFiles(NewFiles& files, const ProjectPlace& place)
+{
     const QString when = QDateTime::currentDateTime().toString(QStringLiteral(".yyyyMMdd-hhmmss"));
-    return lum::renameFile(path.toStdString(), (path + when).toStdString()).empty();
-}
-
-bool copyTemplate(const char* name, const QString& target)
-{
-    const std::string source = basalt::resolvedPath(std::string(kTemplateFolder) + name);
-    return file_system_copy_file(source, target.toStdString()) &&
-           // An installation is read-only; what is copied from it must not be.
-           QFile::setPermissions(target,
-                                 QFile::permissions(target) | QFile::ReadOwner | QFile::WriteOwner);
+    const QString database = place.database();
+    for (const char* beside : {"", "-journal", "-wal", "-shm", ".saved"}) {
+        const QString ending = QLatin1String(beside);
+        const QString fault = files.moveAside(database + ending, database + when + ending);
+        if (!fault.isEmpty())
+            return fault;
+    }
+    for (const QString& path :
+         {place.file, place.folder + QLatin1String(ParameterFiles::kQualityFile),
+          place.folder + QLatin1String(ParameterFiles::kDesignFile)}) {
+        const QString fault = files.moveAside(path, path + when);
+        if (!fault.isEmpty())
+            return fault;
+    }
+    return {};
 }
 
 } // namespace
@@ -69,22 +143,33 @@ QString create(const ProjectPlace& place, const IDictionary& project)
     ProjectLock lock;
     if (const StoreResult taken = lock.take(place); !taken.isDone)
         return taken.message;
-    const QString quality = place.folder + QLatin1String(ParameterFiles::kQualityFile);
-    const QString design = place.folder + QLatin1String(ParameterFiles::kDesignFile);
-    const QString database = place.database();
-    // A copy of an interrupted save would be taken for the new database's.
-    for (const QString& path :
-         {place.file, database, database + QStringLiteral(".saved"), quality, design}) {
-        if (!keepOld(path))
-            return cannotWrite(path);
+    NewFiles files;
+    QString fault = moveOldFiles(files, place);
+    const std::pair<const char*, QString> templates[] = {
+        {"template.db", place.database()},
+        {"design_param.ini", place.folder + QLatin1String(ParameterFiles::kDesignFile)},
+        {"qc_param.ini", place.folder + QLatin1String(ParameterFiles::kQualityFile)}};
+    for (const auto& [name, target] : templates) {
+        if (fault.isEmpty())
+            fault = files.copyTemplate(name, target);
     }
-    if (!ProjectFile::write(place.file, project))
-        return cannotWrite(place.file);
-    if (!copyTemplate("template.db", database))
-        return cannotWrite(database);
-    if (!copyTemplate("design_param.ini", design))
-        return cannotWrite(design);
-    return copyTemplate("qc_param.ini", quality) ? QString() : cannotWrite(quality);
+    if (fault.isEmpty()) // last: it is what makes the folder a project
+        fault = files.write(place.file, lum::writeDictionary(project));
+    if (fault.isEmpty())
+        files.keep();
+    return fault;
+}
+
+QString replaceDatabase(const ProjectPlace& place)
+{
+    const QString database = place.database();
+    if (QFile::exists(database) || QFile::exists(database + QStringLiteral(".saved")))
+        return {};
+    NewFiles files;
+    QString fault = files.copyTemplate("template.db", database);
+    if (fault.isEmpty())
+        files.keep();
+    return fault;
 }
 
 } // namespace ProjectCreator

@@ -3,11 +3,13 @@
 #include "project/ProjectPlace.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
+#include <QSysInfo>
 
 namespace {
 
-QString inUse(const QLockFile& file)
+QString inUse(const QLockFile& file, const QString& path)
 {
     qint64 process = 0;
     QString host;
@@ -15,11 +17,32 @@ QString inUse(const QLockFile& file)
     if (!file.getLockInfo(&process, &host, &program))
         return QCoreApplication::translate("ProjectStore",
                                            "The project is open in another program.");
+    const QString owner =
+        QCoreApplication::translate(
+            "ProjectStore", "The project is open in another program (%1, process %2 on %3).")
+            .arg(program)
+            .arg(process)
+            .arg(host);
+    if (host == QSysInfo::machineHostName())
+        return owner;
+    // Whether a program of another computer still runs cannot be told from here.
+    return owner + QLatin1Char(' ') +
+           QCoreApplication::translate("ProjectStore",
+                                       "If it is not, remove the file \"%1\" and try again.")
+               .arg(QDir::toNativeSeparators(path));
+}
+
+/// Why there is no lock, although nobody else holds it.
+QString notWritten(const QLockFile& file, const QString& path)
+{
+    if (file.error() == QLockFile::PermissionError)
+        return QCoreApplication::translate(
+            "ProjectStore",
+            "The folder of this project cannot be written: changes cannot be saved.");
     return QCoreApplication::translate(
-               "ProjectStore", "The project is open in another program (%1, process %2 on %3).")
-        .arg(program)
-        .arg(process)
-        .arg(host);
+               "ProjectStore", "The file \"%1\" cannot be written, perhaps because the disk is "
+                               "full: changes cannot be saved as long as that is so.")
+        .arg(QDir::toNativeSeparators(path));
 }
 
 } // namespace
@@ -27,19 +50,38 @@ QString inUse(const QLockFile& file)
 StoreResult ProjectLock::take(const ProjectPlace& place)
 {
     release();
-    auto file = std::make_unique<QLockFile>(place.database() + QStringLiteral(".lock"));
+    m_lookedAt = QDateTime();
+    const QString path = place.database() + QStringLiteral(".lock");
+    auto file = std::make_unique<QLockFile>(path);
     file->setStaleLockTime(0); // a project may be open for days; only its owner's end frees it
     if (file->tryLock()) {
         m_file = std::move(file);
         return {true, {}};
     }
     if (file->error() == QLockFile::LockFailedError)
-        return {false, inUse(*file)};
+        return {false, inUse(*file, path)};
     if (!QFileInfo(place.folder).isDir())
         return {false,
                 QCoreApplication::translate("ProjectStore", "The folder \"%1\" does not exist.")
                     .arg(place.folder)};
-    return {true, QCoreApplication::translate(
-                      "ProjectStore",
-                      "The folder of this project cannot be written: changes cannot be saved.")};
+    m_lookedAt = QFileInfo(place.database()).lastModified();
+    return {true, notWritten(*file, path)};
+}
+
+StoreResult ProjectLock::ensure(const ProjectPlace& place)
+{
+    if (m_file)
+        return {true, {}};
+    const QDateTime before = m_lookedAt;
+    StoreResult result = take(place);
+    const bool isChanged = before.isValid() && QFileInfo(place.database()).lastModified() != before;
+    if (isChanged) {
+        release();
+        m_lookedAt = before;
+        result.message = QCoreApplication::translate(
+            "ProjectStore",
+            "Another program has changed the project since it was opened here without a lock.");
+    }
+    result.isDone = m_file != nullptr;
+    return result;
 }

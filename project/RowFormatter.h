@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/model/PointNumber.h"
 #include "project/model/RecordTexts.h"
 
 #include <future>
@@ -56,8 +57,7 @@ public:
     RowFormatter(const Points& points, Write write)
         : m_line(points.begin()), m_end(points.end()), m_write(write)
     {
-        if (m_line != m_end)
-            m_point = m_line->second.begin();
+        startLine();
         startNext();
     }
 
@@ -79,20 +79,28 @@ private:
     {
         RowBatch batch;
         while (m_line != m_end && batch.size() < kBatchSize) {
-            m_write(*m_point, *m_texts);
+            m_write(*m_points[m_next], *m_texts);
             batch.add(*m_texts);
-            if (++m_point != m_line->second.end())
+            if (++m_next != m_points.size())
                 continue;
             batch.endLine();
-            if (++m_line != m_end)
-                m_point = m_line->second.begin();
+            ++m_line;
+            startLine();
         }
         return batch;
     }
 
+    void startLine()
+    {
+        m_next = 0;
+        if (m_line != m_end)
+            m_points = writtenOrder(m_line->second);
+    }
+
     decltype(std::declval<const Points&>().begin()) m_line;
     decltype(m_line) m_end;
-    typename Points::Line::const_iterator m_point;
+    std::vector<const typename Points::Point*> m_points; ///< of the line
+    std::size_t m_next = 0;                              ///< in `m_points`
     Write m_write;
     std::unique_ptr<RecordTexts> m_texts = std::make_unique<RecordTexts>();
     std::future<RowBatch> m_coming; // ends first

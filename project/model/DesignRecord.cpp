@@ -3,6 +3,7 @@
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
 #include "project/model/RowNumbers.h"
+#include "project/model/RowText.h"
 
 namespace DesignRecord {
 
@@ -32,8 +33,8 @@ DesignPoint Reader::read(const IDictionary& row)
         return place < row.size() ? row.valueAt(place) : std::string_view();
     };
     DesignPoint point;
-    point.lineNumber = text(0);
-    point.pointNumber = text(1);
+    point.lineNumber = rowText(text(0));
+    point.pointNumber = rowText(text(1));
     point.north = basalt::readDecimal(text(2));
     point.east = basalt::readDecimal(text(3));
     point.elevation = basalt::readDecimal(text(4));

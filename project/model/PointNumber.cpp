@@ -1,5 +1,10 @@
 #include "project/model/PointNumber.h"
 
+#include "basalt_utilities/Numbers.h"
+
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 constexpr std::size_t kCheckPointSize = 9;
@@ -15,7 +20,52 @@ std::size_t offsetOf(std::string_view text, std::size_t count)
     return count == 0 ? text.size() : std::string_view::npos;
 }
 
+/// What stands before a check point's counter, and the counter.
+std::pair<std::string_view, int> counted(const SurveyPoint& point)
+{
+    const std::string_view number = point.pointNumber;
+    const std::size_t mark = number.rfind('_');
+    if (mark == std::string_view::npos)
+        return {number, 0};
+    return {number.substr(0, mark), basalt::parseInteger(number.substr(mark + 1))};
+}
+
+template <class Point>
+std::vector<const Point*> inOrder(const PointLine<Point>& line)
+{
+    std::vector<const Point*> points;
+    points.reserve(line.size());
+    for (const Point& point : line)
+        points.push_back(&point);
+    return points;
+}
+
 } // namespace
+
+std::vector<const SurveyPoint*> writtenOrder(const PointLine<SurveyPoint>& line)
+{
+    std::vector<const SurveyPoint*> points = inOrder(line);
+    for (auto first = points.begin(); first != points.end();) {
+        if (!isCheckPoint((*first)->pointNumber)) {
+            ++first;
+            continue;
+        }
+        const std::string_view number = writtenPointNumber((*first)->pointNumber);
+        const auto last = std::find_if(first, points.end(), [&](const SurveyPoint* point) {
+            return writtenPointNumber(point->pointNumber) != number;
+        });
+        std::stable_sort(first, last, [](const SurveyPoint* a, const SurveyPoint* b) {
+            return counted(*a) < counted(*b);
+        });
+        first = last;
+    }
+    return points;
+}
+
+std::vector<const DesignPoint*> writtenOrder(const PointLine<DesignPoint>& line)
+{
+    return inOrder(line);
+}
 
 std::string_view writtenPointNumber(std::string_view pointNumber)
 {

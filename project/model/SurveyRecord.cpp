@@ -3,6 +3,7 @@
 #include "basalt_utilities/Numbers.h"
 #include "project/model/PointNumber.h"
 #include "project/model/RowNumbers.h"
+#include "project/model/RowText.h"
 
 namespace SurveyRecord {
 
@@ -39,7 +40,7 @@ struct FieldReader
     int decimals;
     std::string_view text;
 
-    void operator()(std::string SurveyPoint::*field) const { point.*field = text; }
+    void operator()(std::string SurveyPoint::*field) const { point.*field = rowText(text); }
     void operator()(std::int32_t SurveyPoint::*field) const
     {
         point.*field = basalt::parseInteger(text);

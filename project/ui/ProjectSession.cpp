@@ -87,6 +87,19 @@ bool open(IDesktopHost& host, const QString& file)
     return true;
 }
 
+bool mayForget(IDesktopHost& host)
+{
+    if (!DataProcessDataManager::instance()->isSaveOwed())
+        return true;
+    using Button = LumMessageBox::Button;
+    return LumMessageBox::warning(
+               host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+               translated(QT_TRANSLATE_NOOP("ProjectSession",
+                                            "The project could not be saved. Close it all the same "
+                                            "and lose the changes?")),
+               LumMessageBox::Buttons(Button::Yes) | Button::No) == Button::Yes;
+}
+
 void setStatus(const ProjectPlace& place)
 {
     IDictionary& values = get_system_status_dictionary();

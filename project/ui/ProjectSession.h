@@ -19,6 +19,9 @@ bool closeCurrent(IDesktopHost& host);
 /// or of an interrupted save stands in a message box.
 bool open(IDesktopHost& host, const QString& file);
 
+/// Whether the program may forget the open project: asks when its last saving failed.
+[[nodiscard]] bool mayForget(IDesktopHost& host);
+
 /// Sets the system status to this project.
 void setStatus(const ProjectPlace& place);
 void clearStatus();

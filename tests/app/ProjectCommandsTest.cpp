@@ -29,21 +29,20 @@
 
 namespace {
 
-constexpr const char* kLayout = R"(<main_frame>
-  <assistant class="DataProcess5"/>
-  <menu caption="Project">
-    <command class="NewProjectCommand" name="New Project"/>
-    <command class="OpenProjectCommand" name="Open Project"/>
-    <command class="RecentProjectCommand" name="Recent 1" caption="" place="0"/>
-    <command class="RecentProjectCommand" name="Recent 2" caption="" place="1"/>
-    <command class="SaveProjectCommand" name="Save Project"/>
-    <command class="CloseProjectCommand" name="Close Project"/>
-    <command class="SysSettingCommand" name="Project Settings"/>
-    <command class="TimeZomeDlgCommand" name="Time Zone"/>
-    <command class="CoordFormatCommand" name="Degree Format"/>
-    <command class="CoordFormatCommand" name="Degree-minute-second Format"/>
-  </menu>
-</main_frame>)";
+constexpr const char* kLayout =
+    SOURCE_FOLDER "/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml";
+
+/// The menus and tool bars as they are installed, without the windows.
+FrameLayout installedMenus()
+{
+    FrameLayout layout;
+    QFile file(QString::fromUtf8(kLayout));
+    if (!file.open(QIODevice::ReadOnly) ||
+        !desktop::readFrameLayout(file.readAll(), layout).isEmpty())
+        qFatal("no layout in %s", kLayout);
+    layout.windows.clear();
+    return layout;
+}
 
 using Button = LumMessageBox::Button;
 
@@ -114,6 +113,7 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
+    void everyCommandStandsInAMenu();
     void makesAProject();
     void refusesBadNamesWhileTheyAreTyped();
     void keepsAFolderWithFiles();
@@ -177,10 +177,8 @@ void ProjectCommandsTest::init()
     get_system_ini_parameter().dictionary().clear();
     const basalt::Dictionary none;
     get_project_coord_transform().initialise(none, none);
-    FrameLayout layout;
-    QCOMPARE(desktop::readFrameLayout(kLayout, layout), QString());
     m_host = std::make_unique<DesktopHost>();
-    m_frame = std::make_unique<MainFrame>(*m_host, layout);
+    m_frame = std::make_unique<MainFrame>(*m_host, installedMenus());
     m_frame->setTitle(QStringLiteral("Program"));
     m_heard = std::make_unique<Heard>(m_host->eventManager());
     m_asked.clear();
@@ -194,6 +192,22 @@ void ProjectCommandsTest::init()
                                message.buttons & Button::Yes ? Button::Yes : Button::Ok);
     });
     m_files = std::make_unique<FileDialog::Responder>([this](const auto&) { return m_chosenFile; });
+}
+
+void ProjectCommandsTest::everyCommandStandsInAMenu()
+{
+    QStringList classes;
+    const auto collect = [&](const auto& self, const FrameLayout::Menu& menu) -> void {
+        for (const FrameLayout::MenuItem& item : menu.items) {
+            classes << item.command.className;
+            for (const FrameLayout::Menu& submenu : item.submenu)
+                self(self, submenu);
+        }
+    };
+    for (const FrameLayout::Menu& menu : installedMenus().menus)
+        collect(collect, menu);
+    for (const auto& [name, caption] : extensible_factory_ICommandExecuterx().captions())
+        QVERIFY2(classes.contains(QString::fromStdString(name)), name.c_str());
 }
 
 void ProjectCommandsTest::cleanup()
@@ -358,7 +372,7 @@ void ProjectCommandsTest::keepsTheOpenProjectWhenAskedTo()
     open("a");
     m_answers[QStringLiteral("close current project?")] = Button::No;
     m_chosenFile = projectFile("b");
-    for (const char* command : {"Open Project", "New Project", "Recent 1"}) {
+    for (const char* command : {"Open Project", "New Project", "Recent Project 1"}) {
         run(command);
         QCOMPARE(m_asked.takeLast(), QStringLiteral("information: close current project?"));
     }
@@ -422,8 +436,8 @@ void ProjectCommandsTest::changesTheSettingsOfTheOpenProject()
 
 void ProjectCommandsTest::listsRecentProjects()
 {
-    QAction* const first = m_host->commands().action(QStringLiteral("Recent 1"));
-    QAction* const second = m_host->commands().action(QStringLiteral("Recent 2"));
+    QAction* const first = m_host->commands().action(QStringLiteral("Recent Project 1"));
+    QAction* const second = m_host->commands().action(QStringLiteral("Recent Project 2"));
     m_host->commands().refresh();
     QVERIFY(first->isVisible() && !first->isEnabled() && !second->isVisible());
     makeProject("a");
@@ -434,7 +448,7 @@ void ProjectCommandsTest::listsRecentProjects()
                                 projectFile("b&c").replace(QLatin1Char('&'), QStringLiteral("&&")));
     QVERIFY(second->isVisible());
     run("Close Project");
-    run("Recent 2");
+    run("Recent Project 2");
     QCOMPARE(status(status::kProjectName), QStringLiteral("a"));
     QVERIFY(first->text().contains(projectFile("a")));
 }

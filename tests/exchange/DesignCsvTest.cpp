@@ -1,13 +1,11 @@
 #include "CsvFixture.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
+#include "tests/SmallFiles.h"
 
 #include <QDir>
 
-#include <sys/resource.h>
-
 #include <clocale>
-#include <csignal>
 
 namespace {
 
@@ -204,14 +202,10 @@ TEST_F(DesignCsv, AFileThatCannotBeWrittenStaysAsItWas)
     for (int i = 0; i < 20000; ++i)
         points.set({"L", std::to_string(i), 1, 2, 3, 4, 5, 0});
     const QString name = file("before");
-    rlimit limit{};
-    ::getrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit full{300000, limit.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    const QString fault = write({QStringLiteral("L")});
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, handler);
+    const QString fault = [&] {
+        const SmallFiles limit(300000);
+        return write({QStringLiteral("L")});
+    }();
 
     EXPECT_FALSE(fault.isEmpty());
     EXPECT_EQ(content(name), "before");

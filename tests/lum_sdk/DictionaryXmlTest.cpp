@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/ILogger.h"
+#include "tests/SmallFiles.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -10,9 +11,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <string>
 
 using namespace std::string_literals;
@@ -23,15 +22,8 @@ namespace {
 template <class Write>
 bool onAFullDisk(Write write)
 {
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit tight{1000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &tight);
-    const bool result = write();
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    return result;
+    const SmallFiles limit(1000);
+    return write();
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
 #include "tests/project/OrdinaryUser.h"
+#include "tests/SmallFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -110,6 +111,46 @@ TEST_F(ProjectLife, FilesOfTheSameNameAreKeptAside)
     EXPECT_EQ(kept, "old database;old copy;");
 }
 
+TEST_F(ProjectLife, AnOldJournalStaysWithItsDatabase)
+{
+    const QString journal = place.database() + QStringLiteral("-journal");
+    write(place.database(), "old database");
+    write(journal, "old journal");
+    create();
+    EXPECT_FALSE(QFile::exists(journal));
+    const QStringList kept =
+        QDir(place.folder).entryList({QStringLiteral("*.db.*")}, QDir::Files, QDir::Name);
+    ASSERT_EQ(kept.size(), 2);
+    EXPECT_EQ(kept[1], kept[0] + QStringLiteral("-journal"));
+}
+
+TEST_F(ProjectLife, ACreationThatFailsLeavesWhatWasThere)
+{
+    write(place.database(), "old database");
+    write(place.file, "old project");
+    const basalt::Dictionary project;
+    {
+        const SmallFiles limit(100);
+        const QString fault = ProjectCreator::create(place, project);
+        EXPECT_TRUE(fault.contains(place.database())) << fault.toStdString();
+    }
+    EXPECT_EQ(content(place.database()), "old database");
+    EXPECT_EQ(content(place.file), "old project");
+    EXPECT_EQ(QDir(place.folder).entryList(QDir::Files).size(), 2) << "something new was left";
+}
+
+TEST_F(ProjectLife, ADatabaseThatIsGoneIsMadeAnew)
+{
+    create();
+    ASSERT_TRUE(manager.openProject(place).isDone);
+    manager.surveyPoints().set(result("7"));
+    ASSERT_TRUE(QFile::remove(place.database()));
+    const StoreResult saving = manager.saveProject(place);
+    ASSERT_TRUE(saving.isDone) << saving.message.toStdString();
+    ASSERT_TRUE(manager.openProject(place).isDone);
+    EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
+}
+
 TEST_F(ProjectLife, ASecondProgramIsToldAndMayLook)
 {
     create();
@@ -157,7 +198,9 @@ TEST_F(ProjectLife, AForeignProjectFileIsLeftAlone)
 {
     create();
     write(place.file, "[Project]\nname=1\n");
-    ASSERT_TRUE(manager.openProject(place).isDone);
+    const StoreResult opening = manager.openProject(place);
+    ASSERT_TRUE(opening.isDone);
+    EXPECT_TRUE(opening.message.contains(place.file)) << opening.message.toStdString();
     ASSERT_TRUE(manager.saveProject(place).isDone);
     EXPECT_EQ(content(place.file), "[Project]\nname=1\n");
 }

@@ -2,12 +2,11 @@
 #include "app/protocol/EventSubscription.h"
 #include "lum_sdk/EventManager.h"
 #include "lum_sdk/RecordSet.h"
+#include "project/model/PointNumber.h"
 #include "tests/project/TestProject.h"
+#include "tests/SmallFiles.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 namespace {
 
@@ -140,6 +139,35 @@ TEST_F(ProjectStore, LaterRowsWinAndLinesWithoutNumberGetAName)
     EXPECT_FALSE(project.coordParameters.contains("lon1")) << "a NULL is no value";
 }
 
+TEST_F(ProjectStore, ManyMeasurementsOfACheckPointKeepTheirOrder)
+{
+    TestProject project;
+    SurveyPointFiler filer(project.survey);
+    for (int i = 0; i < 13; ++i) {
+        SurveyPoint point;
+        point.lineNumber = "1";
+        point.pointNumber = "C12345678";
+        point.remarks = std::to_string(i);
+        filer.file(std::move(point));
+    }
+    ASSERT_TRUE(project.save(path).isDone);
+    const std::string before = content();
+    ASSERT_TRUE(project.load(path).isDone);
+    EXPECT_EQ(project.survey.find("1", "C12345678_12")->remarks, "12");
+    ASSERT_TRUE(project.save(path).isDone);
+    EXPECT_EQ(content(), before);
+}
+
+TEST_F(ProjectStore, TextsOfAnOtherCodePageAreRead)
+{
+    execute("insert into ExplorationResultItem (line_num, point_num, surveyor) values"
+            " (cast(x'B2E2CFDF' as text), '7', cast(x'41FF' as text))");
+    TestProject project;
+    ASSERT_TRUE(project.load(path).isDone);
+    ASSERT_NE(project.survey.find("测线", "7"), nullptr);
+    EXPECT_EQ(project.survey.find("测线", "7")->surveyor, "Aÿ");
+}
+
 TEST_F(ProjectStore, AnOlderDatabaseGainsItsColumns)
 {
     execute("alter table ExplorationResultItem drop column start_time;"
@@ -243,14 +271,11 @@ TEST_F(ProjectStore, AFullDiskLeavesTheFileAsItWas)
     ASSERT_TRUE(TestProject::made(4, 100, "kept").save(path).isDone);
     const std::string before = content();
     const TestProject large = TestProject::made(40, 100, "new");
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual{};
-    getrlimit(RLIMIT_FSIZE, &usual);
     for (const rlim_t kilobytes : {1U, 20U, 60U, 100U, 200U, 400U}) {
-        const rlimit limit{kilobytes * 1024, usual.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        const StoreResult saving = large.save(path);
-        setrlimit(RLIMIT_FSIZE, &usual);
+        const StoreResult saving = [&] {
+            const SmallFiles limit(kilobytes * 1024);
+            return large.save(path);
+        }();
         EXPECT_FALSE(saving.isDone) << kilobytes;
         EXPECT_FALSE(saving.message.isEmpty());
         EXPECT_EQ(content(), before) << kilobytes;
