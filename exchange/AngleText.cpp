@@ -64,18 +64,18 @@ char* AngleText::write(char* to, double degrees) const
     return append(to, m_seconds);
 }
 
-double AngleText::read(std::string_view text) const
+std::optional<double> AngleText::read(std::string_view text) const
 {
     const auto number = basalt::wholeDecimal(text);
     if (number)
-        return *number;
+        return number;
     std::string_view degrees;
     std::string_view minutes;
     if (!cutPart(text, m_degrees, degrees))
-        return 0;
+        return {};
     text = text.substr(0, text.find(m_degrees));
     if (!cutPart(text, m_minutes, minutes))
-        return 0;
+        return {};
     text = text.substr(0, text.find(m_minutes));
     const std::string_view seconds = text.substr(0, text.find(m_seconds));
     return basalt::wholeDecimal(degrees).value_or(0) +

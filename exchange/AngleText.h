@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,9 +19,9 @@ public:
     /// \returns the end of what was written
     char* write(char* to, double degrees) const;
 
-    /// Reads both forms, whatever the format; 0 for any other text. A part that is no number counts
-    /// as 0.
-    [[nodiscard]] double read(std::string_view text) const;
+    /// Reads both forms, whatever the format; nothing from any other text. A part that is no number
+    /// counts as 0.
+    [[nodiscard]] std::optional<double> read(std::string_view text) const;
 
 private:
     bool m_isDecimal;

@@ -4,6 +4,7 @@
 #include "exchange/BatchQueue.h"
 #include "exchange/CsvInput.h"
 #include "exchange/ImportSummary.h"
+#include "exchange/KnownPoints.h"
 
 #include <future>
 #include <vector>
@@ -68,24 +69,27 @@ void readBatches(CsvInput& input, Read& read, ImportSummary& summary, Use use)
 /// \param read `bool(line, point, summary)`, called on another thread: fills the point from the
 ///             line number `summary.linesRead`, or answers false and counts the line as skipped
 ///             where it should
-/// \param file `void(Point&&)`: into `points`, in the order of the file
+/// \param file `const Point&(Point&&)`: into `points`, in the order of the file
 /// \returns false, with the reason in `summary`, when the file cannot be read
 template <class Points, class Read, class File>
 bool importCsv(const QString& path, const QString& caption, const Points& points,
                ProgressReporter& progress, ImportSummary& summary, Read read, File file)
 {
     using Point = typename Points::Point;
+    summary = {};
     summary.path = path;
     CsvInput input;
     if (summary.failure = input.open(path); !summary.failure.isEmpty())
         return false;
+    KnownPoints known(points);
     const std::size_t before = points.pointCount();
     const std::size_t step = input.lineCount() / 100;
     std::size_t reported = 0;
     std::size_t taken = 0;
     readBatches<Point>(input, read, summary, [&](CsvBatch<Point>& batch) {
         for (std::size_t i = 0; i < batch.points.size(); ++i) {
-            file(std::move(batch.points[i]));
+            if (known.take(file(std::move(batch.points[i]))))
+                ++summary.pointsReplaced;
             if (batch.lines[i] - reported < step)
                 continue;
             reported = batch.lines[i];
@@ -95,7 +99,7 @@ bool importCsv(const QString& path, const QString& caption, const Points& points
     });
     summary.failure = input.fault();
     summary.pointsNew = points.pointCount() - before;
-    summary.pointsReplaced = taken - summary.pointsNew;
+    summary.pointsRepeated = taken - summary.pointsNew - summary.pointsReplaced;
     progress.hide();
     return summary.failure.isEmpty();
 }

@@ -97,6 +97,7 @@ bool readDesignCsv(const QString& path, DesignPoints& points, ProgressReporter& 
                    ImportSummary& summary)
 {
     return importCsv(path, QCoreApplication::translate("DesignCsv", "Import Design Data"), points,
-                     progress, summary, readLine,
-                     [&](DesignPoint&& point) { points.set(std::move(point)); });
+                     progress, summary, readLine, [&](DesignPoint&& point) -> const DesignPoint& {
+                         return points.set(std::move(point));
+                     });
 }

@@ -10,6 +10,17 @@ QString translated(const char* text)
     return QCoreApplication::translate("ImportSummary", text);
 }
 
+/// The first lines with a fault, and how many there are more.
+void append(QStringList& lines, const std::vector<ImportSummary::Fault>& faults,
+            std::size_t furtherCount, const char* further)
+{
+    for (const ImportSummary::Fault& fault : faults)
+        lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"))
+                     .arg(QString::number(fault.line), fault.reason);
+    if (furtherCount != 0)
+        lines << translated(further).arg(furtherCount);
+}
+
 } // namespace
 
 QString ImportSummary::toText() const
@@ -20,20 +31,30 @@ QString ImportSummary::toText() const
                      .arg(path, failure);
     if (!failure.isEmpty() && linesRead == 0)
         return lines.first();
-    lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Lines read: %1, points added: %2, "
-                                                           "points replaced: %3, lines skipped: "
-                                                           "%4."))
+    lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
+                                          "\"%1\": lines read: %2, points added: %3, points "
+                                          "replaced: %4, lines skipped: %5."))
+                 .arg(path)
                  .arg(linesRead)
                  .arg(pointsNew)
                  .arg(pointsReplaced)
                  .arg(linesSkipped);
     if (!remark.isEmpty())
         lines << remark;
-    for (const Fault& fault : faults)
-        lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"))
-                     .arg(QString::number(fault.line), fault.reason);
-    if (linesSkipped > faults.size())
-        lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Further lines skipped: %1."))
-                     .arg(linesSkipped - faults.size());
+    append(lines, faults, linesSkipped - faults.size(),
+           QT_TRANSLATE_NOOP("ImportSummary", "Further lines skipped: %1."));
+    if (pointsRepeated != 0)
+        lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
+                                              "Rows whose point stands again further down, where "
+                                              "it was taken from: %1."))
+                     .arg(pointsRepeated);
+    if (fieldsMisread != 0)
+        lines << translated(
+                     QT_TRANSLATE_NOOP("ImportSummary",
+                                       "Fields of added points that cannot be read and are left "
+                                       "empty: %1."))
+                     .arg(fieldsMisread);
+    append(lines, misreadFields, fieldsMisread - misreadFields.size(),
+           QT_TRANSLATE_NOOP("ImportSummary", "Further fields that cannot be read: %1."));
     return lines.join(QLatin1Char('\n'));
 }

@@ -1,8 +1,10 @@
 #include "exchange/SurveyCsvReader.h"
 
 #include "basalt_utilities/KeyList.h"
+#include "exchange/CsvFields.h"
 #include "exchange/CsvImport.h"
 #include "exchange/SurveyRowReader.h"
+#include "lum_sdk/Text.h"
 #include "project/model/PointNumber.h"
 
 #include <QCoreApplication>
@@ -17,8 +19,14 @@ bool readLine(std::string_view line, SurveyRowReader& rows, SurveyPoint& point,
         rows.readHeading(line);
         return false;
     }
-    if (rows.read(line, point))
+    if (rows.read(line, point)) {
+        for (const SurveyRowReader::Misread& field : rows.misread())
+            summary.misread([&] {
+                return QCoreApplication::translate("SurveyCsv", "%1 \"%2\" cannot be read.")
+                    .arg(lum::toQString(field.caption), shownField(field.text));
+            });
         return true;
+    }
     if (!basalt::trimmed(line).empty())
         summary.skip(
             [] { return QCoreApplication::translate("SurveyCsv", "The point has no number."); });
@@ -38,7 +46,7 @@ bool readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporter& 
         [&](std::string_view line, SurveyPoint& point, ImportSummary& skipped) {
             return readLine(line, rows, point, skipped);
         },
-        [&](SurveyPoint&& point) { filer.file(std::move(point)); });
+        [&](SurveyPoint&& point) -> const SurveyPoint& { return filer.file(std::move(point)); });
     if (isRead && !rows.hasHeading() && summary.linesRead > 0)
         summary.remark = QCoreApplication::translate(
             "SurveyCsv", "No line holds the captions of line number and point number.");

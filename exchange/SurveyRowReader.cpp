@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -37,13 +38,20 @@ std::string_view withoutBlanks(std::string_view text)
     return text;
 }
 
-std::int64_t wholePart(std::string_view text)
+std::optional<double> withoutDecimals(std::optional<double> number)
+{
+    return number ? std::trunc(*number) : number;
+}
+
+std::optional<std::int64_t> wholePart(std::string_view text)
 {
     if (const auto integer = basalt::wholeInteger64(text))
-        return *integer;
-    const double number = std::trunc(basalt::wholeDecimal(text).value_or(0));
+        return integer;
+    const auto number = withoutDecimals(basalt::wholeDecimal(text));
     constexpr double kLimit = 0x1p63;
-    return number >= -kLimit && number < kLimit ? static_cast<std::int64_t>(number) : 0;
+    if (number && *number >= -kLimit && *number < kLimit)
+        return static_cast<std::int64_t>(*number);
+    return {};
 }
 
 } // namespace
@@ -86,6 +94,7 @@ bool SurveyRowReader::read(std::string_view line, SurveyPoint& point)
     CsvFields fields(line);
     std::string_view field;
     std::size_t index = 0;
+    m_misread.clear();
     for (const Place& place : m_places) {
         while (index < place.index && fields.next(field))
             ++index;
@@ -95,45 +104,47 @@ bool SurveyRowReader::read(std::string_view line, SurveyPoint& point)
         if (isNumber && fields.nextNumber(valueOf<double>(point, column)))
             continue;
         fields.next(field);
-        setField(withoutBlanks(field), column, point);
+        field = withoutBlanks(field);
+        if (!setField(field, column, point) && !field.empty())
+            m_misread.push_back(
+                {m_captions[std::size_t(&column - surveyCsvColumns().data())], field});
     }
     return !point.pointNumber.empty();
 }
 
-void SurveyRowReader::setField(std::string_view text, const SurveyCsvColumn& column,
+bool SurveyRowReader::setField(std::string_view text, const SurveyCsvColumn& column,
                                SurveyPoint& point)
 {
+    const auto set = [&]<class Value>(const std::optional<Value>& value) {
+        valueOf<Value>(point, column) = value.value_or(Value());
+        return value.has_value();
+    };
     switch (column.form) {
     case Form::Text:
     case Form::PointNumber:
         valueOf<std::string>(point, column) = text;
-        break;
+        return true;
     case Form::PointMark:
         point.pointMark = text == "S" ? 0 : 1;
-        break;
+        return true;
     case Form::Angle:
-        valueOf<double>(point, column) = m_angles.read(text);
-        break;
+        return set(m_angles.read(text));
     case Form::Fixed:
-        valueOf<double>(point, column) = basalt::wholeDecimal(text).value_or(0);
-        break;
+        return set(basalt::wholeDecimal(text));
     case Form::Age:
-        valueOf<double>(point, column) = std::trunc(basalt::wholeDecimal(text).value_or(0));
-        break;
+        return set(withoutDecimals(basalt::wholeDecimal(text)));
     case Form::Integer:
-        valueOf<std::int32_t>(point, column) = basalt::wholeInteger(text).value_or(0);
-        break;
+        return set(std::optional<std::int32_t>(basalt::wholeInteger(text)));
     case Form::Offset:
-        valueOf<std::int64_t>(point, column) = wholePart(text);
-        break;
+        return set(wholePart(text));
     case Form::Time:
-        valueOf<std::int64_t>(point, column) = m_times.read(text).value_or(0);
-        break;
+        return set(m_times.read(text));
     case Form::MeasureMode:
         point.measureMode = text == m_loft ? 0 : 1;
-        break;
+        return true;
     case Form::SolutionType:
         point.solutionType = m_solutions.code(text);
-        break;
+        return point.solutionType >= 0 || text == m_solutions.name(point.solutionType);
     }
+    return true;
 }

@@ -25,6 +25,14 @@ public:
     /// \returns false when there was no heading, or the point has no number
     bool read(std::string_view line, SurveyPoint& point);
 
+    /// A field of the line that was read last that says something, but no value of its column.
+    struct Misread
+    {
+        std::string_view caption;
+        std::string_view text;
+    };
+    [[nodiscard]] const std::vector<Misread>& misread() const { return m_misread; }
+
 private:
     /// A column of the file.
     struct Place
@@ -33,10 +41,12 @@ private:
         const SurveyCsvColumn* column;
     };
 
-    void setField(std::string_view text, const SurveyCsvColumn& column, SurveyPoint& point);
+    /// False for a text that is no value of the column, which then is 0.
+    bool setField(std::string_view text, const SurveyCsvColumn& column, SurveyPoint& point);
 
     std::vector<std::string> m_captions; ///< of all columns, translated
     std::vector<Place> m_places;         ///< ordered by index
+    std::vector<Misread> m_misread;
     AngleText m_angles{0};
     basalt::LocalTimes m_times;
     SolutionTypeNames m_solutions;

@@ -28,10 +28,12 @@ QString CliArguments::read(const QStringList& texts, const QStringList& allowed,
         QStringList& values = arguments.options[text];
         if (flags.contains(text))
             continue;
-        if (i + 1 == texts.size() || isOption(texts[i + 1]))
-            return QStringLiteral("%1 needs a value").arg(text);
-        values.append(texts[++i]);
         const bool takesPairs = text == QLatin1String("--set");
+        if (i + 1 == texts.size() || texts[i + 1].isEmpty() || isOption(texts[i + 1]))
+            return QStringLiteral("%1 needs a value").arg(text);
+        if (!takesPairs && !values.isEmpty())
+            return QStringLiteral("%1 is given twice").arg(text);
+        values.append(texts[++i]);
         while (takesPairs && i + 1 < texts.size() && texts[i + 1].contains(QLatin1Char('=')))
             values.append(texts[++i]);
     }

@@ -3,14 +3,14 @@
 #include <QMap>
 #include <QStringList>
 
-/// What stands behind a command: places in order, and options with their values. Every option takes
-/// the next argument; "--set" takes key=value pairs as long as they come.
+/// What stands behind a command: places in order, and options with their values. An option takes
+/// the next argument, and comes once; "--set" takes key=value pairs as long as they come.
 struct CliArguments
 {
     QStringList places;
     QMap<QString, QStringList> options; ///< by name with its dashes
 
-    /// The first value of an option; empty without it.
+    /// The value of an option that takes one; empty without it.
     [[nodiscard]] QString option(const QString& name) const;
 
     /// \param flags  options that take no value

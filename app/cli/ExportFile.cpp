@@ -5,10 +5,36 @@
 #include "app/protocol/ProgressReporter.h"
 #include "app/protocol/StatusKeys.h"
 #include "exchange/DesignCsvWriter.h"
+#include "exchange/ExportColumns.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "lum_sdk/SystemDictionaries.h"
 
 namespace {
+
+constexpr QLatin1String kColumns("--columns");
+constexpr QLatin1String kOnlyUnsurveyed("--only-unsurveyed");
+
+/// What does not go together; empty when all is well.
+QString usageFault(const CliArguments& arguments, bool isDesign)
+{
+    const QLatin1String stranger = isDesign ? kColumns : kOnlyUnsurveyed;
+    if (arguments.options.contains(stranger))
+        return QStringLiteral("%1 does not go with %2").arg(stranger, arguments.places[1]);
+    if (isDesign || !arguments.options.contains(kColumns))
+        return {};
+    const QStringList keys = arguments.option(kColumns).split(QLatin1Char(','));
+    for (const QString& key : keys) {
+        if (exportCaptions({key}).isEmpty())
+            return QStringLiteral("there is no column \"%1\"; they are named as in the database, "
+                                  "such as line_num,point_num,north,east")
+                .arg(key);
+    }
+    for (const char* needed : {"line_num", "point_num"}) {
+        if (!keys.contains(QLatin1String(needed)))
+            return QStringLiteral("the columns of a result include %1").arg(QLatin1String(needed));
+    }
+    return {};
+}
 
 /// The lines that the user names; all of them without "--lines".
 /// \returns an empty text, or which one is not there
@@ -43,7 +69,7 @@ QString exportDesign(const CliArguments& arguments, CliProject& project)
     if (!fault.isEmpty())
         return fault;
     ProgressReporter progress(&project.events());
-    const bool onlyUnsurveyed = arguments.options.contains(QStringLiteral("--only-unsurveyed"));
+    const bool onlyUnsurveyed = arguments.options.contains(kOnlyUnsurveyed);
     const QString& file = arguments.places[2];
     return named(file, writeDesignCsv(file, points, lines, onlyUnsurveyed, progress));
 }
@@ -55,7 +81,10 @@ QString exportSurvey(const CliArguments& arguments, CliProject& project)
     QString fault = chooseLines(arguments, manager.surveyPoints(), lines);
     if (!fault.isEmpty())
         return fault;
-    const SurveyCsvChoice choice{manager.exportCaptions(),
+    QStringList captions = manager.exportCaptions();
+    if (arguments.options.contains(kColumns))
+        captions = exportCaptions(arguments.option(kColumns).split(QLatin1Char(',')));
+    const SurveyCsvChoice choice{captions,
                                  get_system_status_dictionary().integer(status::kDegreeFormat)};
     ProgressReporter progress(&project.events());
     const QString& file = arguments.places[2];
@@ -72,6 +101,8 @@ CliResult exportFile(const CliArguments& arguments)
         return CliResult::wrongUsage(
             QStringLiteral("\"%1\" is no kind of export; there are design-csv, survey-csv")
                 .arg(kind));
+    if (const QString wrong = usageFault(arguments, isDesign); !wrong.isEmpty())
+        return CliResult::wrongUsage(wrong);
     CliProject project;
     QString fault = project.open(arguments.places[0], ProjectAccess::Look);
     if (!fault.isEmpty())

@@ -79,7 +79,7 @@ bool isCheckPoint(std::string_view pointNumber)
            offsetOf(pointNumber, kCheckPointSize) != std::string_view::npos;
 }
 
-void SurveyPointFiler::file(SurveyPoint&& point)
+SurveyPoint& SurveyPointFiler::file(SurveyPoint&& point)
 {
     const bool isCheck = isCheckPoint(point.pointNumber);
     if (point.lineNumber.empty() && isCheck) {
@@ -96,5 +96,5 @@ void SurveyPointFiler::file(SurveyPoint&& point)
             point.pointNumber = base + std::to_string(counter++);
         } while (m_points.find(point.lineNumber, point.pointNumber) != nullptr);
     }
-    m_points.set(std::move(point));
+    return m_points.set(std::move(point));
 }

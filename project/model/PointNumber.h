@@ -34,7 +34,7 @@ public:
     /// A point without a line goes to `kEmptyLine`, or to the line that the check point's own
     /// number names (characters 2 to 5). A check point gets the next free counter; any other point
     /// replaces the one with its number.
-    void file(SurveyPoint&& point);
+    SurveyPoint& file(SurveyPoint&& point);
 
 private:
     SurveyPoints& m_points; // loses no point meanwhile

@@ -48,7 +48,7 @@ struct SurveyPoint
     std::string remarks;
     std::string obstacle; ///< its name, see CodeTables.h
     std::string photoPath;
-    std::int32_t isResurvey = 0; ///< 0 or 1
+    std::int32_t isResurvey = 0; ///< the resurvey check's finding, 0 to 3; 0 before it
     double resurveyXDiff = 0;
     double resurveyYDiff = 0;
     double resurveyHDiff = 0;

@@ -91,7 +91,11 @@ TEST_F(DesignCsv, AnImportIsMergedAndTheLastLineWins)
     EXPECT_EQ(points.find("L2", "C")->north, 4);
     EXPECT_EQ(summary.linesRead, 3U);
     EXPECT_EQ(summary.pointsNew, 1U);
-    EXPECT_EQ(summary.pointsReplaced, 2U);
+    EXPECT_EQ(summary.pointsReplaced, 1U);
+    EXPECT_EQ(summary.pointsRepeated, 1U);
+    ASSERT_TRUE(read("A,L1,5,0,0,0,0,0\nA,L1,6,0,0,0,0,0\n"));
+    EXPECT_EQ(summary.pointsReplaced, 1U);
+    EXPECT_EQ(summary.pointsRepeated, 1U);
 }
 
 TEST_F(DesignCsv, EncodingsAndLineEndsAreRecognised)
@@ -120,14 +124,15 @@ TEST_F(DesignCsv, ASkippedLineIsNamedWithItsReason)
     EXPECT_EQ(summary.linesRead, 11U);
     EXPECT_EQ(summary.linesSkipped, 8U);
     EXPECT_EQ(summary.toText(),
-              QStringLiteral("Lines read: 11, points added: 1, points replaced: 0, "
-                             "lines skipped: 8.\n"
-                             "Line 3: There are fewer than 8 fields.\n"
-                             "Line 4: Field 4, \"x\uFFFDy\", is no number.\n"
-                             "Line 6: Field 7, \"1.5\", is no integer.\n"
-                             "Line 7: Field 7, \"1.5\", is no integer.\n"
-                             "Line 8: Field 7, \"1.5\", is no integer.\n"
-                             "Further lines skipped: 3."));
+              QLatin1Char('"') + summary.path +
+                  QStringLiteral("\": lines read: 11, points added: 1, points replaced: 0, "
+                                 "lines skipped: 8.\n"
+                                 "Line 3: There are fewer than 8 fields.\n"
+                                 "Line 4: Field 4, \"x\uFFFDy\", is no number.\n"
+                                 "Line 6: Field 7, \"1.5\", is no integer.\n"
+                                 "Line 7: Field 7, \"1.5\", is no integer.\n"
+                                 "Line 8: Field 7, \"1.5\", is no integer.\n"
+                                 "Further lines skipped: 3."));
 }
 
 TEST_F(DesignCsv, WhatIsNoFileIsRefused)

@@ -161,6 +161,31 @@ TEST_F(SurveyCsv, EachTextIsReadByItsColumn)
     EXPECT_EQ(read("remarks", "  a b ", &SurveyPoint::remarks), "a b");
 }
 
+TEST_F(SurveyCsv, FieldsThatCannotBeReadAreNamed)
+{
+    ASSERT_TRUE(read("line num,point num,north,latitude,solution type,time,sat num\n"
+                     "L1,1,abc,30.5N,dgps,5/6/2024,12.0\nL1,2,,,,,\n"
+                     "L1,3,1e999,0,unknow,2024/01/02 03:04:05,7\n"));
+    EXPECT_EQ(points.pointCount(), 3U);
+    EXPECT_EQ(summary.fieldsMisread, 6U);
+    ASSERT_EQ(summary.misreadFields.size(), 5U);
+    EXPECT_EQ(summary.misreadFields[2].line, 2U);
+    EXPECT_EQ(summary.misreadFields[2].reason,
+              QStringLiteral("solution type \"dgps\" cannot be read."));
+    EXPECT_TRUE(summary.toText().contains(QStringLiteral("left empty: 6.")));
+}
+
+TEST_F(SurveyCsv, ManyMeasurementsOfOneCheckPointKeepTheirOrder)
+{
+    QByteArray text = "line num,point num,remarks\n";
+    for (int i = 0; i < 13; ++i)
+        text += "L,C12345678," + QByteArray::number(i) + '\n';
+    ASSERT_TRUE(read(text));
+    EXPECT_EQ(written(exportCaptions({QStringLiteral("line_num"), QStringLiteral("point_num"),
+                                      QStringLiteral("remarks")})),
+              text);
+}
+
 TEST_F(SurveyCsv, ColumnsStandInAnyOrder)
 {
     ASSERT_TRUE(read("some text\nnorth,unknown, point num ,east,line num,north\n"
@@ -182,7 +207,7 @@ TEST_F(SurveyCsv, PointsAreFiledByTheirNumbers)
     EXPECT_EQ(points.find("1234", "C12345678_0")->north, 4);
     EXPECT_EQ(points.find("L1", "C123")->north, 6);
     EXPECT_EQ(points.pointCount(), 5U);
-    EXPECT_EQ(summary.pointsReplaced, 1U);
+    EXPECT_EQ(summary.pointsRepeated, 1U);
     EXPECT_EQ(summary.linesSkipped, 1U);
     EXPECT_EQ(summary.faults.at(0).line, 8U);
     EXPECT_EQ(written(exportCaptions({QStringLiteral("line_num"), QStringLiteral("point_num")})),

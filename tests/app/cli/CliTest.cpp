@@ -120,6 +120,11 @@ void CliTest::readsAndWritesFiles()
     QCOMPARE(run("export", project, {QStringLiteral("survey-csv"), QStringLiteral("结果.csv")}), 0);
     QVERIFY(content("结果.csv").contains("\nL10,1001,"));
     QCOMPARE(run("export", project,
+                 {QStringLiteral("survey-csv"), QStringLiteral("few.csv"),
+                  QStringLiteral("--columns"), QStringLiteral("north,point_num,line_num")}),
+             0);
+    QCOMPARE(content("few.csv"), QByteArray("north,point num,line num\n100.2500,1001,L10\n"));
+    QCOMPARE(run("export", project,
                  {QStringLiteral("survey-csv"), QStringLiteral("no.csv"), QStringLiteral("--lines"),
                   QStringLiteral("L11")}),
              1);
@@ -185,6 +190,10 @@ void CliTest::refuses_data()
     row("unknown parameter", "new . a --set colour=1", 1, "colour");
     row("impossible parameter", "new . a --set ellipsoid_a=x ellipsoid_f=298 project_type=1", 1,
         "ellipsoid_a");
+    row("option twice", "export a survey-csv b --lines 1 --lines 2", 2, "twice");
+    row("unknown column", "export a survey-csv b --columns line_num,point_num,colour", 2, "colour");
+    row("columns without number", "export a survey-csv b --columns line_num", 2, "point_num");
+    row("columns of a design", "export a design-csv b --columns line_num", 2, "design-csv");
     row("missing project", "info missing.kelx", 1, "missing.kelx");
 }
 
