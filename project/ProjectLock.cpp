@@ -74,14 +74,14 @@ StoreResult ProjectLock::ensure(const ProjectPlace& place)
         return {true, {}};
     const QDateTime before = m_lookedAt;
     StoreResult result = take(place);
-    const bool isChanged = before.isValid() && QFileInfo(place.database()).lastModified() != before;
-    if (isChanged) {
+    if (before.isValid() && QFileInfo(place.database()).lastModified() != before) {
         release();
-        m_lookedAt = before;
         result.message = QCoreApplication::translate(
             "ProjectStore",
             "Another program has changed the project since it was opened here without a lock.");
     }
+    if (!m_file)
+        m_lookedAt = before;
     result.isDone = m_file != nullptr;
     return result;
 }

@@ -180,6 +180,47 @@ TEST_F(ProjectLife, AProgramThatDiedHoldsNothing)
     EXPECT_TRUE(manager.openProject(place).isDone);
 }
 
+TEST_F(ProjectLife, ALockOfAnotherComputerIsNamed)
+{
+    create();
+    const QString lock = place.database() + QStringLiteral(".lock");
+    write(lock, "999999\nskyquill\nanother-computer\n");
+    const StoreResult opening = manager.openProject(place);
+    EXPECT_FALSE(opening.isDone);
+    EXPECT_TRUE(opening.message.contains(lock)) << opening.message.toStdString();
+}
+
+TEST_F(ProjectLife, WithoutALockNothingIsOverwritten)
+{
+    create();
+    const auto openOnAFullDisk = [this] {
+        const SmallFiles limit(0);
+        const StoreResult opening = manager.openProject(place);
+        EXPECT_TRUE(opening.isDone);
+        EXPECT_TRUE(opening.message.contains(QStringLiteral("cannot be saved")))
+            << opening.message.toStdString();
+        EXPECT_FALSE(manager.saveProject(place).isDone);
+    };
+    openOnAFullDisk();
+    manager.surveyPoints().set(result("7"));
+    EXPECT_TRUE(manager.saveProject(place).isDone) << "the disk has room again";
+    manager.clear();
+
+    openOnAFullDisk();
+    DataProcessDataManager other(&host);
+    ASSERT_TRUE(other.openProject(place).isDone);
+    EXPECT_FALSE(manager.saveProject(place).isDone) << "while the other has it";
+    other.surveyPoints().set(result("8"));
+    ASSERT_TRUE(other.saveProject(place).isDone);
+    other.clear();
+    for (int i = 0; i < 2; ++i) {
+        const StoreResult saving = manager.saveProject(place);
+        EXPECT_FALSE(saving.isDone);
+        EXPECT_TRUE(saving.message.contains(QStringLiteral("has changed")))
+            << saving.message.toStdString();
+    }
+}
+
 TEST_F(ProjectLife, WhatIsMissingIsNamedAndNotMade)
 {
     create();
