@@ -285,8 +285,13 @@ void MapWindow::changeEvent(QEvent* event)
 
 ILayerViewer* MapWindow::addLayer(const QString& className, const IDictionary& properties)
 {
-    auto layer = extensible_factory_ILayerViewer().make(
-        className.toStdString(), dictionary_to_csa(properties).c_str(), &m_host);
+    const auto& factory = extensible_factory_ILayerViewer();
+    const std::string name = className.toStdString();
+    if (!factory.knows(name)) {
+        basalt::logDebug("Left out, no such layer: " + name);
+        return nullptr;
+    }
+    auto layer = factory.make(name, dictionary_to_csa(properties).c_str(), &m_host);
     ILayerViewer* const added = layer.get();
     if (added == nullptr || !m_layers.add(std::move(layer)))
         return nullptr;
