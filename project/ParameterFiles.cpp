@@ -13,11 +13,11 @@ namespace {
 constexpr const char* kTemplateFolder =
     "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5";
 
-QString notRead(const std::string& path)
+QString notRead(const std::string& path, const QString& reason)
 {
     return QCoreApplication::translate("ProjectStore",
-                                       "The parameter file \"%1\" is missing or damaged.")
-        .arg(QString::fromStdString(path));
+                                       "The parameter file \"%1\" cannot be read: %2")
+        .arg(QString::fromStdString(path), reason);
 }
 
 QString notWritten(const std::string& path)
@@ -35,10 +35,10 @@ QString read(const QString& folder, IDictionary& quality, IDictionary& design)
     const std::string designPath = folder.toStdString() + kDesignFile;
     basalt::Dictionary readQuality;
     basalt::Dictionary readDesign;
-    if (!xml_to_dictionary(qualityPath, readQuality))
-        return notRead(qualityPath);
-    if (!xml_to_dictionary(designPath, readDesign))
-        return notRead(designPath);
+    if (const QString fault = lum::readDictionaryFile(qualityPath, readQuality); !fault.isEmpty())
+        return notRead(qualityPath, fault);
+    if (const QString fault = lum::readDictionaryFile(designPath, readDesign); !fault.isEmpty())
+        return notRead(designPath, fault);
     dictionary_copy(readQuality, quality);
     dictionary_copy(readDesign, design);
     return {};

@@ -1,6 +1,7 @@
 #include "quality/QualityCheck.h"
 
 #include "app/protocol/ProgressReporter.h"
+#include "basalt_utilities/ILogger.h"
 #include "quality/QualityLimits.h"
 
 #include <QCoreApplication>
@@ -38,6 +39,32 @@ int faults(bool first, bool second)
     return (first ? 1 : 0) + (second ? 2 : 0);
 }
 
+/// Results whose position is no number: no comparison finds fault with it, and no map shows it.
+class Unplaced
+{
+public:
+    void look(const SurveyPoint& point)
+    {
+        if (!std::isnan(point.north) && !std::isnan(point.east) && !std::isnan(point.elevation))
+            return;
+        if (++m_count <= kNamed)
+            m_names += (m_count == 1 ? "" : ", ") + point.lineNumber + '/' + point.pointNumber;
+    }
+    void warn() const
+    {
+        if (m_count == 0)
+            return;
+        basalt::logWarning(
+            "Results whose position is no number, and so passes: " + std::to_string(m_count) +
+            " (" + m_names + (m_count > kNamed ? ", ...)" : ")"));
+    }
+
+private:
+    static constexpr std::size_t kNamed = 5;
+    std::size_t m_count = 0;
+    std::string m_names;
+};
+
 void reportLine(const std::string& caption, std::size_t count, ProgressReporter& progress)
 {
     for (std::size_t done = 1; done <= count; ++done)
@@ -73,10 +100,13 @@ void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressR
     // Judging waits for the memory and reporting for its listeners: each has a core of its own. A
     // line is judged before it is reported.
     std::atomic<std::size_t> linesJudged = 0;
-    const auto judging = std::async(std::launch::async, [&] {
+    Unplaced unplaced;
+    auto judging = std::async(std::launch::async, [&] {
         for (auto& [number, line] : points) {
-            for (SurveyPoint& point : line)
+            for (SurveyPoint& point : line) {
                 point.qualityStandard = qualityCode(point, limits);
+                unplaced.look(point);
+            }
             ++linesJudged;
             linesJudged.notify_one();
         }
@@ -91,4 +121,6 @@ void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressR
         ++linesReported;
     }
     progress.hide();
+    judging.get();
+    unplaced.warn();
 }

@@ -22,5 +22,6 @@ struct QualityLimits;
 [[nodiscard]] int qualityCode(const SurveyPoint& point, const QualityLimits& limits);
 
 /// Judges every result by `parameters` and writes the code on it; what a resurvey check wrote there
-/// goes. Reports after each result, from 0 to 100 in every line.
+/// goes. Reports after each result, from 0 to 100 in every line. The log names results whose
+/// position is no number, which passes.
 void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress);

@@ -3,6 +3,7 @@
 #include "basalt_utilities/IDictionary.h"
 #include "basalt_utilities/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -21,13 +22,18 @@ QualityLimits::LineDeviation lineDeviation(const IDictionary& parameters)
 
 } // namespace
 
+const QualityParameter* findQualityParameter(std::string_view key)
+{
+    const auto* const found =
+        std::find_if(kQualityParameters.begin(), kQualityParameters.end(),
+                     [&](const QualityParameter& parameter) { return key == parameter.key; });
+    return found == kQualityParameters.end() ? nullptr : found;
+}
+
 std::string_view qualityParameter(const IDictionary& parameters, std::string_view key)
 {
-    for (const QualityParameter& parameter : kQualityParameters) {
-        if (key == parameter.key)
-            return parameters.text(key, parameter.fallback);
-    }
-    return {};
+    const QualityParameter* const parameter = findQualityParameter(key);
+    return parameter != nullptr ? parameters.text(key, parameter->fallback) : std::string_view();
 }
 
 QualityLimits QualityLimits::from(const IDictionary& parameters)

@@ -10,24 +10,29 @@ struct QualityParameter
 {
     const char* key;
     const char* fallback;
+    double largest = 0; ///< that may be entered, in the limit's unit; none of a text
+    bool isWhole = false;
 };
 
 inline constexpr const char* kResurveyCode = "re_code";
 
 /// All of them, in the order in which they are shown.
 inline constexpr std::array<QualityParameter, 20> kQualityParameters{{
-    {"design_hor_diff", "0.5"}, {"design_ver_diff", "1000"},
-    {"base_dist", "10"}, // kilometres; all other lengths are metres
-    {"hor_accu_max", "0.5"},    {"ver_accu_max", "0.5"},
-    {"ant_height_min", "0.5"},  {"ant_height_max", "2.5"},
-    {"pdop_min", "0.5"},        {"pdop_max", "3"},
-    {"hdop_min", "0.5"},        {"hdop_max", "3"},
-    {"vdop_min", "0.5"},        {"vdop_max", "3"},
-    {"sat_num_min", "6"},       {"s_pt_trans_max", "0.5"},
-    {"s_pt_longi_max", "0.5"},  {kResurveyCode, "F"},
-    {"re_north_diff", "0.03"},  {"re_east_diff", "0.03"},
-    {"re_elev_diff", "0.03"},
+    {"design_hor_diff", "0.5", 1e6},  {"design_ver_diff", "1000", 1e6},
+    {"base_dist", "10", 1e4}, // kilometres; all other lengths are metres
+    {"hor_accu_max", "0.5", 1000},    {"ver_accu_max", "0.5", 1000},
+    {"ant_height_min", "0.5", 100},   {"ant_height_max", "2.5", 100},
+    {"pdop_min", "0.5", 1000},        {"pdop_max", "3", 1000},
+    {"hdop_min", "0.5", 1000},        {"hdop_max", "3", 1000},
+    {"vdop_min", "0.5", 1000},        {"vdop_max", "3", 1000},
+    {"sat_num_min", "6", 1000, true}, {"s_pt_trans_max", "0.5", 1e6},
+    {"s_pt_longi_max", "0.5", 1e6},   {kResurveyCode, "F"},
+    {"re_north_diff", "0.03", 1000},  {"re_east_diff", "0.03", 1000},
+    {"re_elev_diff", "0.03", 1000},
 }};
+
+/// Null for a key that is none of the above.
+[[nodiscard]] const QualityParameter* findQualityParameter(std::string_view key);
 
 /// The value of a key, or what counts without it; empty for a key that is none of the above.
 [[nodiscard]] std::string_view qualityParameter(const IDictionary& parameters,

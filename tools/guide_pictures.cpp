@@ -7,7 +7,6 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
-#include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/ISystemSettings.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
@@ -102,8 +101,6 @@ private:
         list.show();
         auto* const table = list.findChild<CustomTableWidget*>();
         table->selectRow(0);
-        if (auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap")))
-            map->zoomAbout(0, 0, 12);
         Q_EMIT table->clicked(table->model()->index(0, 0));
         letItPaint();
         QPixmap picture = m_frame.grab();

@@ -861,8 +861,8 @@
 <context>
     <name>ProjectStore</name>
     <message>
-        <source>The parameter file &quot;%1&quot; is missing or damaged.</source>
-        <translation>参数文件“%1”不存在或已损坏。</translation>
+        <source>The parameter file &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取参数文件“%1”：%2</translation>
     </message>
     <message>
         <source>The parameter file &quot;%1&quot; cannot be written.</source>

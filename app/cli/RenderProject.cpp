@@ -2,6 +2,7 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
+#include "lum_sdk/WholeFile.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
 #include "map/DesignSpacing.h"
@@ -10,8 +11,11 @@
 #include "map/SurveyMarks.h"
 #include "map/SurveyPicture.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QImage>
+#include <QImageWriter>
 #include <QPainter>
 #include <QRegularExpression>
 
@@ -65,6 +69,16 @@ void paintSurveyOf(DataProcessDataManager& manager, QImage& image)
                 QCoreApplication::translate("DataProcessLayerImp", "Base"), painter);
 }
 
+/// In the format that the file's ending names. \returns an empty text, or why it failed
+QString writePicture(const QImage& image, const QString& file)
+{
+    QBuffer encoded;
+    QImageWriter writer(&encoded, QFileInfo(file).suffix().toLatin1());
+    if (!writer.write(image))
+        return writer.errorString();
+    return lum::writeWholeFile(file, encoded.data());
+}
+
 } // namespace
 
 CliResult renderProject(const CliArguments& arguments)
@@ -87,8 +101,8 @@ CliResult renderProject(const CliArguments& arguments)
     else
         paintSurveyOf(project.manager(), image);
     const QString& file = arguments.places[2];
-    return image.save(file)
+    const QString reason = writePicture(image, file);
+    return reason.isEmpty()
                ? CliResult()
-               : CliResult::failed(
-                     QStringLiteral("The picture \"%1\" cannot be written.").arg(file));
+               : CliResult::failed(QStringLiteral("Cannot write \"%1\": %2").arg(file, reason));
 }

@@ -4,9 +4,11 @@
 #include "basalt_utilities/Numbers.h"
 #include "basalt_utilities/PlainDecimal.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 namespace basalt {
@@ -19,6 +21,32 @@ char* writeExactly(char* to, double value, int decimals)
 {
     return std::to_chars(to, to + kFixedSize, value, std::chars_format::fixed, decimals).ptr;
 }
+
+/// Rounds `magnitude` to so many decimals, all digits as one integer.
+/// \returns false where only the exact way is safe: large numbers, ties, and what is no number
+bool roundQuickly(double magnitude, int decimals, std::uint64_t& digits)
+{
+    const double scaled = magnitude * kPowersOfTen[static_cast<std::size_t>(decimals)];
+    if (!(scaled < kLargestScaled))
+        return false;
+    digits = static_cast<std::uint64_t>(scaled);
+    const double fraction = scaled - static_cast<double>(digits);
+    // The product is off by half a unit in its last place at most: next to a tie it may lie.
+    if (std::fabs(fraction - 0.5) <= scaled * 0x1p-51)
+        return false;
+    digits += fraction > 0.5 ? 1U : 0U;
+    return true;
+}
+
+/// "00" to "99".
+constexpr auto kPairs = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        pairs[2 * i] = static_cast<char>('0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+    return pairs;
+}();
 
 /// Reads digits with a point at most, where the result is exact; false leaves `value` alone.
 bool readPlain(std::string_view text, double& value)
@@ -57,15 +85,9 @@ std::optional<Number> wholeNumber(std::string_view text)
 
 char* writeFixed(char* to, double value, int decimals)
 {
-    const double scaled = std::fabs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
-    if (!(scaled < kLargestScaled)) // also what is not a number
+    std::uint64_t digits = 0;
+    if (!roundQuickly(std::fabs(value), decimals, digits))
         return writeExactly(to, value, decimals);
-    auto digits = static_cast<std::uint64_t>(scaled);
-    const double fraction = scaled - static_cast<double>(digits);
-    // The product is off by half a unit in its last place at most: next to a tie it may lie.
-    if (std::fabs(fraction - 0.5) <= scaled * 0x1p-51)
-        return writeExactly(to, value, decimals);
-    digits += fraction > 0.5 ? 1U : 0U;
     if (std::signbit(value))
         *to++ = '-';
     if (decimals == 0)
@@ -83,13 +105,23 @@ char* writeFixed(char* to, double value, int decimals)
 
 char* writeGeneral(char* to, double value)
 {
-    constexpr int kDigits = 6;
-    if (!(value >= 1 && value < 99999)) // what may need an exponent, or is not a number
+    constexpr std::size_t kDigits = 6;
+    std::size_t whole = 1;
+    for (double power = 10; power <= value && whole < kDigits; power *= 10)
+        ++whole;
+    std::uint64_t digits = 0;
+    if (!(value >= 1) || whole == kDigits || // what may need an exponent, or is not a number
+        !roundQuickly(value, static_cast<int>(kDigits - whole), digits) || digits >= 1000000)
         return std::to_chars(to, to + kFixedSize, value, std::chars_format::general, kDigits).ptr;
-    int decimals = kDigits - 1;
-    for (std::int64_t power = 10; power <= static_cast<std::int64_t>(value); power *= 10)
-        --decimals;
-    char* end = writeFixed(to, value, decimals);
+
+    // Behind the place of the point, which then moves in between.
+    auto rest = static_cast<std::uint32_t>(digits);
+    for (std::size_t end = kDigits; end != 0; end -= 2, rest /= 100)
+        std::memcpy(to + end - 1, &kPairs[std::size_t{rest % 100} * 2], 2);
+    for (std::size_t i = 0; i < whole; ++i)
+        to[i] = to[i + 1];
+    to[whole] = '.';
+    char* end = to + kDigits + 1;
     while (end[-1] == '0')
         --end;
     return end[-1] == '.' ? end - 1 : end;

@@ -5,9 +5,38 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/Transform.h"
 
 #include <QColor>
 #include <QPolygonF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kApart = 12;    // pixels between two points that are seen as two
+constexpr double kFinest = 0.05; // metres a pixel: the neighbours stay in sight
+constexpr double kCoarsest = 1;
+
+/// Map units a pixel at which both positions and the place around them can be told.
+double scaleFor(const QPointF& measured, const QPointF& design)
+{
+    const QPointF offset = design - measured;
+    const double length = std::hypot(offset.x(), offset.y());
+    return length > 0 ? std::clamp(length / kApart, kFinest, kCoarsest) : kCoarsest;
+}
+
+void show(IMapWindow& map, const QPointF& place, double scale)
+{
+    map.centerOn(place.x(), place.y());
+    const Transform& view = map.transform();
+    if (view.GetScale() > scale)
+        map.zoomAbout(view.size().width() / 2.0, view.size().height() / 2.0,
+                      view.GetScale() / scale);
+}
+
+} // namespace
 
 namespace desktop {
 
@@ -17,7 +46,7 @@ void highlightOnMap(IDesktopHost& host, const QPointF& measured, const QPointF& 
     if (map == nullptr)
         return;
     host.windows().activate(QStringLiteral("DataMap"));
-    map->centerOn(measured.x(), measured.y());
+    show(*map, measured, scaleFor(measured, design));
     basalt::Dictionary properties;
     properties.set("point_radius", "5");
     QPolygonF positions;

@@ -80,15 +80,7 @@ void readEntry(QXmlStreamReader& reader, basalt::Dictionary& entries)
 
 bool xml_to_dictionary(const std::string& path, IDictionary& dictionary)
 {
-    QFile file(QString::fromStdString(path));
-    if (!file.open(QIODevice::ReadOnly)) {
-        basalt::logError("Cannot read \"" + path + "\": " + file.errorString().toStdString());
-        return false;
-    }
-    const QString fault = lum::readDictionary(file.readAll(), dictionary);
-    if (!fault.isEmpty())
-        basalt::logError("Cannot read \"" + path + "\": " + fault.toStdString());
-    return fault.isEmpty();
+    return lum::readDictionaryFile(path, dictionary).isEmpty();
 }
 
 bool dictionary_to_xml(const IDictionary& dictionary, const std::string& path)
@@ -101,6 +93,17 @@ bool dictionary_to_xml(const IDictionary& dictionary, const std::string& path)
 }
 
 namespace lum {
+
+QString readDictionaryFile(const std::string& path, IDictionary& dictionary)
+{
+    QFile file(QString::fromStdString(path));
+    const QString fault = file.open(QIODevice::ReadOnly)
+                              ? readDictionary(file.readAll(), dictionary)
+                              : file.errorString();
+    if (!fault.isEmpty())
+        basalt::logError("Cannot read \"" + path + "\": " + fault.toStdString());
+    return fault;
+}
 
 QString readDictionary(const QByteArray& xml, IDictionary& dictionary)
 {

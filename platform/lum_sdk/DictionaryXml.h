@@ -28,6 +28,10 @@ bool dictionary_to_xml(const IDictionary& dictionary, const std::string& path);
 
 namespace lum {
 
+/// As `xml_to_dictionary`, for whom tells the user.
+/// \returns an empty text, or why the file cannot be read and in which line
+[[nodiscard]] QString readDictionaryFile(const std::string& path, IDictionary& dictionary);
+
 /// Reads `xml` into `dictionary`, all or nothing.
 /// \returns an empty text, or what is wrong and in which line
 [[nodiscard]] QString readDictionary(const QByteArray& xml, IDictionary& dictionary);

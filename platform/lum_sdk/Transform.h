@@ -20,7 +20,7 @@ class Transform
 public:
     /// Keeps map units a pixel between these, so that no zoom runs into zero or infinity.
     static constexpr double kMinScale = 1e-6;
-    static constexpr double kMaxScale = 1e7;
+    static constexpr double kMaxScale = 1e15;
 
     [[nodiscard]] QPointF SurveyToScreen(const QPointF& map) const; // spelled as registered
     [[nodiscard]] QPointF SurveyToScreen(double x, double y) const;

@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_desktop_sdkx/MapHighlight.h"
+#include "lum_sdk/DpiScale.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ISurveyPointList.h"
@@ -16,9 +17,12 @@
 #include <QHeaderView>
 #include <QPointF>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kMargin = 10;
+constexpr int kStep = 36; // from one list to the next: a title bar and its frame
 
 std::string openProject()
 {
@@ -55,7 +59,18 @@ void DlgQCResult::leaveTheMapInView()
         return;
     // Into the lower right corner: what is clicked appears in the middle of the map.
     const QPoint corner = frame->mapToGlobal(frame->rect().bottomRight());
-    move(corner - rect().bottomRight() - QPoint(kMargin, kMargin));
+    QPoint place = corner - rect().bottomRight() - QPoint(kMargin, kMargin);
+    const QPoint step(dpi_scaled(kStep), dpi_scaled(kStep));
+    const auto others = frame->findChildren<DlgQCResult*>();
+    const auto isTaken = [&] {
+        return std::any_of(others.begin(), others.end(), [&](const DlgQCResult* other) {
+            return other->isVisible() &&
+                   (other->pos() - place).manhattanLength() < step.manhattanLength();
+        });
+    };
+    while (isTaken()) // each step leaves the last place, so one is free in the end
+        place -= step;
+    move(place);
 }
 
 void DlgQCResult::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)

@@ -56,10 +56,11 @@ public:
     [[nodiscard]] IWindowRegistry& windows() override { return windowRegistry; }
     [[nodiscard]] ICommandList& commands() override { return commandList; }
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return coordHelper; }
-    [[nodiscard]] QWidget* dialogParent() override { return nullptr; }
+    [[nodiscard]] QWidget* dialogParent() override { return frame; }
 
     EventManager events;
     TestWindowRegistry windowRegistry;
+    QWidget* frame = nullptr;
     TestCommandList commandList;
     CoordTransformHelper coordHelper;
 };

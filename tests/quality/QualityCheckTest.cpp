@@ -4,6 +4,7 @@
 #include "app/protocol/EventSubscription.h"
 #include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/ILogger.h"
 #include "lum_sdk/EventManager.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 
 namespace {
@@ -171,6 +173,32 @@ TEST(QualityCheck, ReadsOddLimitsAsTheyAre)
     point.horizontalAccuracy = -2.6;
     point.referenceDistance = 21;
     EXPECT_EQ(qualityCode(point, limits), 111100);
+}
+
+TEST(QualityCheck, TheLogNamesResultsWhosePositionIsNoNumber)
+{
+    std::string log;
+    basalt::setLogListener(
+        [](void* text, ILogger::Level level, std::string_view line) {
+            if (level == ILogger::Level::Warning)
+                *static_cast<std::string*>(text) += line;
+        },
+        &log);
+    SurveyPoints points;
+    ProgressReporter progress(nullptr);
+    points.set(onEveryLimit());
+    checkQuality(points, basalt::Dictionary(), progress);
+    EXPECT_EQ(log, "");
+    for (int number = 1; number <= 7; ++number) {
+        SurveyPoint point = onEveryLimit();
+        point.pointNumber = std::to_string(number);
+        (number % 2 == 0 ? point.north : point.elevation) = std::nan("");
+        points.set(point);
+    }
+    checkQuality(points, basalt::Dictionary(), progress);
+    basalt::setLogListener(nullptr, nullptr);
+    EXPECT_NE(log.find(": 7 (1001/1, 1001/2, 1001/3, 1001/4, 1001/5, ...)"), std::string::npos)
+        << log;
 }
 
 TEST(QualityCheck, WritesCodesAndReportsLineByLine)

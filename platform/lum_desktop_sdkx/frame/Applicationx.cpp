@@ -176,7 +176,7 @@ void Applicationx::readOptions()
 void Applicationx::reportShown()
 {
     const int cpuMs = static_cast<int>(std::clock() * 1000 / CLOCKS_PER_SEC);
-    basalt::logInfo("Window shown after " + std::to_string(cpuMs) + " ms of CPU time");
+    basalt::logDebug("Window shown after " + std::to_string(cpuMs) + " ms of CPU time");
     if (m_printsStartupTime) {
         std::printf("%d ms of CPU time to the shown window\n", cpuMs);
         exit(0);

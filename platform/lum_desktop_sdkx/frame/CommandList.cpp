@@ -32,7 +32,7 @@ QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
 {
     const std::string className = entry.className.toStdString();
     if (!extensible_factory_ICommandExecuterx().knows(className)) {
-        basalt::logInfo("Left out of the menus, no such command: " + className);
+        basalt::logDebug("Left out of the menus, no such command: " + className);
         return nullptr;
     }
     auto command =

@@ -102,7 +102,7 @@ IWindow* WindowRegistry::openWindow(const FrameLayout::Window& layout)
 {
     const std::string className = layout.className.toStdString();
     if (!extensible_factory_IWindow().knows(className)) {
-        basalt::logInfo("Left out, no such window: " + className);
+        basalt::logDebug("Left out, no such window: " + className);
         return nullptr;
     }
     auto window = extensible_factory_IWindow().make(className, layout.config.constData(), m_host);

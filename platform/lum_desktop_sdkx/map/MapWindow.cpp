@@ -122,7 +122,7 @@ void MapWindow::zoomAll()
         m_transform.setView({0, 0}, 1);
     else
         fitTo(all, kMargin);
-    update();
+    onViewMoved();
     redraw(); // whoever asks for it may have changed what the layers show
 }
 
@@ -147,6 +147,7 @@ void MapWindow::setExtent(double left, double top, double right, double bottom)
     const QRectF area = QRectF(QPointF(left, top), QPointF(right, bottom)).normalized();
     if (!lum::isFinite(area)) {
         basalt::logError("The map refuses an extent that is not finite");
+        redraw(); // the data behind it is new all the same
         return;
     }
     const bool isFirst = m_extent.isNull();
@@ -154,7 +155,7 @@ void MapWindow::setExtent(double left, double top, double right, double bottom)
     if (!area.isNull() &&
         (isFirst || m_fitUntilSeen || !doTouch(m_transform.visibleExtent(), area)))
         fitTo(area, kMargin);
-    update();
+    onViewMoved();
     redraw();
 }
 
@@ -169,6 +170,7 @@ void MapWindow::fitTo(const QRectF& extent, double margin)
 
 void MapWindow::onViewMoved()
 {
+    QToolTip::hideText(); // what it names has gone from under the cursor
     update();
     if (!m_paintTimer.isActive())
         m_paintTimer.start(kMoveDelayMs);
@@ -226,8 +228,15 @@ void MapWindow::showPicture(const QImage& picture, const Transform& view)
 
 void MapWindow::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
 {
-    if (get_system_status_dictionary().integer(status::kDrawBoundaryRect) != m_boundaryState)
+    const IDictionary& values = get_system_status_dictionary();
+    if (values.integer(status::kDrawBoundaryRect) != m_boundaryState)
         redraw();
+    if (const std::string_view project = values.text(status::kProjectPath); project != m_project) {
+        m_project = project;
+        for (Overlay& overlay : m_overlays) // what they mark lies in the other project
+            overlay.clear();
+        refreshOverlay();
+    }
     update(); // the unit of the scale bar may be another one
 }
 
@@ -276,8 +285,13 @@ void MapWindow::changeEvent(QEvent* event)
 
 ILayerViewer* MapWindow::addLayer(const QString& className, const IDictionary& properties)
 {
-    auto layer = extensible_factory_ILayerViewer().make(
-        className.toStdString(), dictionary_to_csa(properties).c_str(), &m_host);
+    const auto& factory = extensible_factory_ILayerViewer();
+    const std::string name = className.toStdString();
+    if (!factory.knows(name)) {
+        basalt::logDebug("Left out, no such layer: " + name);
+        return nullptr;
+    }
+    auto layer = factory.make(name, dictionary_to_csa(properties).c_str(), &m_host);
     ILayerViewer* const added = layer.get();
     if (added == nullptr || !m_layers.add(std::move(layer)))
         return nullptr;

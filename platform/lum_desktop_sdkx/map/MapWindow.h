@@ -105,6 +105,7 @@ private:
 
     LayerRegistry m_layers;
     std::array<Overlay, 2> m_overlays;
+    std::string m_project; ///< the folder of the project that the overlays belong to
     MapPicture m_picture;
     MapPainter m_painter; // ends before the layers do
     QTimer m_paintTimer;

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr double kFootM = 0.3048;
+constexpr double kGirthM = 4e7;  // of the earth, which has no longer lengths
 constexpr double kLongest = 160; // pixels, and so on
 constexpr int kSmallestScreen = 200;
 constexpr int kMargin = 12;
@@ -46,7 +47,7 @@ double roundLength(double limit)
 QString lengthText(double length, LengthUnit unit)
 {
     const auto number = [](double value) {
-        return QString::fromStdString(basalt::formatGeneral(value));
+        return QString::fromStdString(basalt::formatShortest(value));
     };
     if (unit == LengthUnit::Feet)
         return QCoreApplication::translate("ScaleBar", "%1 ft").arg(number(length));
@@ -60,9 +61,12 @@ void drawScaleBar(QPainter& painter, const Transform& view, LengthUnit unit)
     const QSize screen = view.size();
     if (screen.width() < kSmallestScreen || screen.height() < kSmallestScreen / 2)
         return;
+    const double longest = std::min(kLongest, screen.width() / 3.0);
+    if (longest * view.GetScale() > kGirthM)
+        return;
     const double unitM = unit == LengthUnit::Feet ? kFootM : 1;
     const double unitsPerPixel = view.GetScale() / unitM;
-    const double length = roundLength(std::min(kLongest, screen.width() / 3.0) * unitsPerPixel);
+    const double length = roundLength(longest * unitsPerPixel);
     const QString text = lengthText(length, unit);
 
     painter.save();

@@ -1,5 +1,7 @@
 #include <QFile>
+#include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -14,6 +16,8 @@ private Q_SLOTS:
     void takesASystemByItsParameters();
     void readsAndWritesFiles();
     void checksByTheLimitsThatAreSet();
+    void rendersAPicture();
+    void tellsWhereAParameterFileIsDamaged();
     void refuses_data();
     void refuses();
     void helpNamesEveryCommand();
@@ -37,6 +41,12 @@ private:
                 return line.mid(int(qstrlen(key)) + 2);
         }
         return QStringLiteral("(no line \"%1\")").arg(QLatin1String(key));
+    }
+    /// Whether the error goes on behind `what` with a reason, which is in the system's language.
+    [[nodiscard]] bool tellsWhy(const char* what) const
+    {
+        return m_errors.contains(
+            QRegularExpression(QString::fromUtf8(what) + QStringLiteral(": [^:\n]{8}")));
     }
 
     void write(const char* name, const QByteArray& text) const
@@ -150,7 +160,7 @@ void CliTest::checksByTheLimitsThatAreSet()
                             "1002,L10,\"PDOP, HDOP AND VDOP Out-range.\",-1.000,-1.000\n"));
     QCOMPARE(run("set-quality", project,
                  {QStringLiteral("sat_num_min=5"), QStringLiteral("re_code=g"),
-                  QStringLiteral("pdop_max=9")}),
+                  QStringLiteral(" pdop_max = 9 "), QStringLiteral("vdop_max=-3")}),
              0);
     QCOMPARE(run("list-quality", project, {}), 0);
     QVERIFY(m_output.contains(QStringLiteral("\nsat_num_min=5\n")));
@@ -160,12 +170,41 @@ void CliTest::checksByTheLimitsThatAreSet()
              0);
     QCOMPARE(content("r.csv"), QByteArray("Point Num,Line Num,Describe,Value,Limit\n"
                                           "1002,L10,HDOP AND VDOP Out-range.,-1.000,-1.000\n"));
-    for (const char* bad :
-         {"re_code=C", "pdop_max=many", "pdop_max=inf", "pdop_max=1,000", "colour=1", "pdop_max"}) {
+    for (const char* bad : {"re_code=C", "pdop_max=many", "pdop_max=inf", "pdop_max=1,000",
+                            "colour=1", "pdop_max", "sat_num_min=6.5", "ant_height_max=100.1"}) {
         QCOMPARE(run("set-quality", project, {QString::fromLatin1(bad)}), 1);
         QCOMPARE(m_errors.count(QLatin1Char('\n')), 1);
     }
     QCOMPARE(run("check", project, {QStringLiteral("colours")}), 2);
+}
+
+void CliTest::rendersAPicture()
+{
+    const QString project = makeProject();
+    const auto render = [&](const char* file) {
+        return run("render", project,
+                   {QStringLiteral("survey"), QString::fromUtf8(file), QStringLiteral("--size"),
+                    QStringLiteral("300x200")});
+    };
+    QCOMPARE(render("图.PNG"), 0);
+    QCOMPARE(QImage::fromData(content("图.PNG")).size(), QSize(300, 200));
+    QCOMPARE(render("picture.zip"), 1);
+    QVERIFY2(tellsWhy("\"picture.zip\""), qPrintable(m_errors));
+    QVERIFY(!QFile::exists(m_folder->filePath(QStringLiteral("picture.zip"))));
+    QCOMPARE(render("no folder/picture.png"), 1);
+    QVERIFY2(tellsWhy("\"no folder/picture.png\""), qPrintable(m_errors));
+}
+
+void CliTest::tellsWhereAParameterFileIsDamaged()
+{
+    const QString project = makeProject();
+    write("测区/qc_param.ini", "<dictionary>\n  <entry key=\"re_code\"/>\n</dictionary>");
+    QCOMPARE(run("info", project, {}), 1);
+    QVERIFY2(m_errors.contains(QStringLiteral("qc_param.ini\" cannot be read: line 2: ")),
+             qPrintable(m_errors));
+    QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("测区/qc_param.ini"))));
+    QCOMPARE(run("info", project, {}), 1);
+    QVERIFY2(tellsWhy("qc_param.ini\" cannot be read"), qPrintable(m_errors));
 }
 
 void CliTest::refuses_data()

@@ -398,6 +398,9 @@ void MapPaintTest::scaleBarHasARoundLength()
     QCOMPARE(lengthText(2000, LengthUnit::Metres), QStringLiteral("2 km"));
     QCOMPARE(lengthText(0.05, LengthUnit::Metres), QStringLiteral("0.05 m"));
     QCOMPARE(lengthText(2000, LengthUnit::Feet), QStringLiteral("2000 ft"));
+    QCOMPARE(lengthText(2e7, LengthUnit::Metres), QStringLiteral("20000 km"));
+    QCOMPARE(lengthText(1e8, LengthUnit::Feet), QStringLiteral("100000000 ft"));
+    QCOMPARE(lengthText(5e-5, LengthUnit::Metres), QStringLiteral("0.00005 m"));
 }
 
 void MapPaintTest::scaleBarIsAsLongAsItSays()
@@ -413,7 +416,9 @@ void MapPaintTest::scaleBarIsAsLongAsItSays()
     QCOMPARE(blackPixels(), 51); // half of 100 m
     get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "1");
     m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
-    QCOMPARE(blackPixels(), 31); // half of 200 ft
+    QCOMPARE(blackPixels(), 31);      // half of 200 ft
+    m_map->zoomAbout(200, 150, 1e-6); // 150,000 km would be longer than the earth is round
+    QCOMPARE(blackPixels(), 0);
     get_system_ini_parameter().dictionary().clear();
 }
 

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void eachEventRebuildsTheCacheInView();
     void otherViewsKeepTheCacheAndHandTheExtentOver();
     void onlyTheTopOfTheExtentIsAWholeNumber();
+    void aResultFarAwayAndTheSurveyAreInThePicture();
     void picksWithinTenPixels();
     void picksBaseStationsThatAreNearer();
     void lookUpsOfTheUnknownLeaveTheOutputsAlone();
@@ -100,6 +101,24 @@ void DataLayerTest::onlyTheTopOfTheExtentIsAWholeNumber()
     map.manager.designPoints().clear();
     map.publish(events::kRefreshDesignLayer);
     QCOMPARE(map.window.extent(), QRectF(0, 0, 10, 10));
+}
+
+void DataLayerTest::aResultFarAwayAndTheSurveyAreInThePicture()
+{
+    for (const double far : {1e12, 1e15}) {
+        TestMap map;
+        map.setStatus(status::kViewShowWhich, "0");
+        map.addResult("1", "near", 4000000, 500000, {500100, 4000000});
+        map.addResult("1", "far", far, far, {500100, 4000000});
+        map.publish(events::kRefreshSurveyLayer);
+        map.window.zoomAll();
+        const QImage picture = map.picture();
+        for (const QPointF& place : {QPointF(500000, 4000000), QPointF(far, far)}) {
+            const QPoint pixel = map.window.transform().SurveyToScreen(place).toPoint();
+            QVERIFY(map.window.rect().adjusted(10, 10, -10, -10).contains(pixel));
+            QVERIFY(picture.pixelColor(pixel) != QColor(Qt::white));
+        }
+    }
 }
 
 void DataLayerTest::picksWithinTenPixels()

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void clickBesideEverythingKeepsTheHighlight();
     void otherViewsSwallowClicks();
     void rightClickTakesTheHighlightAway();
+    void highlightGoesWithItsProject();
     void doubleClickShowsEverything();
     void restingCursorTellsTheName();
     void dragPansWhileMoving();
@@ -195,6 +196,16 @@ void MapToolsTest::rightClickTakesTheHighlightAway()
     QCOMPARE(heard().size(), 1);
 }
 
+void MapToolsTest::highlightGoesWithItsProject()
+{
+    click(100, 200);
+    m_map->publish(events::kUpdateSystemStatus);
+    QCOMPARE(shown(100, 200), QColor(Qt::red));
+    m_map->setStatus(status::kProjectPath, "/another");
+    m_map->publish(events::kUpdateSystemStatus);
+    QCOMPARE(shown(100, 200), QColor(Qt::cyan));
+}
+
 void MapToolsTest::doubleClickShowsEverything()
 {
     m_map->window.zoomAbout(100, 200, 8);
@@ -218,6 +229,10 @@ void MapToolsTest::restingCursorTellsTheName()
     QCOMPARE(tipAt({103, 103}), QStringLiteral("20015001"));
     tipAt({150, 20});
     QTRY_VERIFY(!QToolTip::isVisible());
+    QCOMPARE(tipAt({105, 203}), QStringLiteral("10015001"));
+    QTest::keyClick(&m_map->window, Qt::Key_Home); // the point moves from under the cursor
+    QTRY_VERIFY(!QToolTip::isVisible());
+    m_map->showAll();
     m_map->layer().GetProperties().set("visible", "0");
     QCOMPARE(tipAt({105, 203}), QString());
 }

@@ -1,15 +1,19 @@
 #include "app/protocol/Events.h"
 #include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/Paths.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
+#include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_desktop_sdkx/MapHighlight.h"
 #include "lum_sdk/SystemDictionaries.h"
 #include "lum_sdk/Transform.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ISurveyPointList.h"
+#include "quality/QualityLimits.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/DlgQCParamSet.h"
 #include "quality/ui/DlgQCResult.h"
@@ -20,6 +24,9 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QtTest>
+
+#include <array>
+#include <memory>
 
 namespace {
 
@@ -64,9 +71,14 @@ private Q_SLOTS:
     void takesAGoodCode();
     void refusesABadCode();
     void asksToMendAFileEditedByHand();
+    void takesLimitsWithAMinus();
+    void asksForWhatTheToolAccepts();
     void theCommandChecksTellsAndLists();
     void theListIsAModelOfItsRows();
     void aClickShowsTheResult();
+    void aClickComesNearEnough_data(); // NOLINT(readability-identifier-naming): Qt Test's
+    void aClickComesNearEnough();
+    void eachListHasAPlaceOfItsOwn();
     void theListGoesWithItsProject();
 
 private:
@@ -139,6 +151,44 @@ void QualityDialogsTest::asksToMendAFileEditedByHand()
     QVERIFY(parameters.text("pdop_max") == "3");
 }
 
+void QualityDialogsTest::takesLimitsWithAMinus()
+{
+    basalt::Dictionary parameters;
+    for (const QualityParameter& parameter : kQualityParameters) {
+        if (parameter.largest > 0)
+            parameters.set(parameter.key, "-2");
+    }
+    DlgQCParamSet dialog(nullptr, parameters);
+    dialog.show();
+    QTest::mouseClick(dialog.findChild<QPushButton*>(), Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(parameters.text("ant_height_max") == "-2");
+}
+
+/// The grid's control file against the table that other ways of entry go by.
+void QualityDialogsTest::asksForWhatTheToolAccepts()
+{
+    QFile file(QString::fromStdString(
+        basalt::resolvedPath("$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/"
+                             "QCParam.xml")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    PropertyGridLayout layout;
+    QCOMPARE(readPropertyGridLayout(file.readAll(), layout), QString());
+    std::size_t rows = 0;
+    for (const PropertyGridGroup& group : layout.groups) {
+        for (const PropertyGridRow& row : group.rows) {
+            const auto* const parameter = findQualityParameter(row.key.toStdString());
+            QVERIFY2(parameter != nullptr, qPrintable(row.key));
+            QCOMPARE(row.maximum.value_or(0), parameter->largest);
+            QVERIFY(!row.minimum);
+            QCOMPARE(row.editor == PropertyGridRow::Editor::Integer, parameter->isWhole);
+            QCOMPARE(row.fallback, QString::fromLatin1(parameter->fallback));
+            ++rows;
+        }
+    }
+    QCOMPARE(rows, kQualityParameters.size());
+}
+
 void QualityDialogsTest::theCommandChecksTellsAndLists()
 {
     TestHost host;
@@ -205,6 +255,53 @@ void QualityDialogsTest::aClickShowsTheResult()
 
     manager.surveyPoints().clear(); // edited since: the row leads nowhere
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+}
+
+void QualityDialogsTest::aClickComesNearEnough_data() // NOLINT(readability-identifier-naming)
+{
+    QTest::addColumn<double>("offset"); // metres from the design
+    QTest::addColumn<double>("before"); // metres a pixel
+    QTest::addColumn<double>("after");
+    QTest::newRow("far offset") << 50.0 << 100.0 << 1.0;
+    QTest::newRow("offset seen as two points") << 6.0 << 100.0 << 0.5;
+    QTest::newRow("tiny offset keeps the neighbours") << 0.01 << 100.0 << 0.05;
+    QTest::newRow("no offset") << 0.0 << 100.0 << 1.0;
+    QTest::newRow("near enough") << 6.0 << 0.3 << 0.3;
+}
+
+void QualityDialogsTest::aClickComesNearEnough()
+{
+    QFETCH(const double, offset);
+    QFETCH(const double, before);
+    TestHost host;
+    MapWindow map("name=DataMap", &host);
+    map.resize(400, 300);
+    host.windowRegistry.windows[QStringLiteral("DataMap")] = &map;
+    map.show();
+    map.zoomRect(0, 0, 400 * before, 300 * before);
+    QCOMPARE(map.transform().GetScale(), before);
+    desktop::highlightOnMap(host, {3000, 4000}, {3000, 4000 + offset});
+    QCOMPARE(map.transform().center(), QPointF(3000, 4000));
+    QTEST(map.transform().GetScale(), "after");
+}
+
+void QualityDialogsTest::eachListHasAPlaceOfItsOwn()
+{
+    TestHost host;
+    QWidget frame;
+    frame.resize(1200, 800);
+    host.frame = &frame;
+    std::array<DlgQCResult*, 3> lists{};
+    for (DlgQCResult*& list : lists) {
+        list = std::make_unique<DlgQCResult>(host, std::vector<QualityRow>()).release();
+        list->show();
+    }
+    QVERIFY(lists[1]->x() < lists[0]->x() - 20 && lists[1]->y() < lists[0]->y() - 20);
+    QVERIFY(lists[2]->x() < lists[1]->x() - 20);
+    const QPoint freed = lists[0]->pos();
+    lists[0]->close();
+    auto* const next = std::make_unique<DlgQCResult>(host, std::vector<QualityRow>()).release();
+    QCOMPARE(next->pos(), freed);
 }
 
 void QualityDialogsTest::theListGoesWithItsProject()
