@@ -39,7 +39,7 @@ int faults(bool first, bool second)
     return (first ? 1 : 0) + (second ? 2 : 0);
 }
 
-/// Results whose position is no number: no comparison finds fault with it, and no map shows it.
+/// Results whose position is no number: no comparison finds fault with it, and no map can show it.
 class Unplaced
 {
 public:

@@ -29,6 +29,8 @@ double scaleFor(const QPointF& measured, const QPointF& design)
 
 void show(IMapWindow& map, const QPointF& place, double scale)
 {
+    if (!std::isfinite(place.x()) || !std::isfinite(place.y()))
+        return; // nowhere to go
     map.centerOn(place.x(), place.y());
     const Transform& view = map.transform();
     if (view.GetScale() > scale)

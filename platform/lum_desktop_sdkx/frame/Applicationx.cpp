@@ -177,6 +177,7 @@ void Applicationx::reportShown()
 {
     const int cpuMs = static_cast<int>(std::clock() * 1000 / CLOCKS_PER_SEC);
     basalt::logDebug("Window shown after " + std::to_string(cpuMs) + " ms of CPU time");
+    rism_logger_get_instance()->flush(); // for whoever waits for this line
     if (m_printsStartupTime) {
         std::printf("%d ms of CPU time to the shown window\n", cpuMs);
         exit(0);

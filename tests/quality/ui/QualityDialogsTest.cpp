@@ -26,6 +26,7 @@
 #include <QtTest>
 
 #include <array>
+#include <cmath>
 #include <memory>
 
 namespace {
@@ -283,6 +284,10 @@ void QualityDialogsTest::aClickComesNearEnough()
     desktop::highlightOnMap(host, {3000, 4000}, {3000, 4000 + offset});
     QCOMPARE(map.transform().center(), QPointF(3000, 4000));
     QTEST(map.transform().GetScale(), "after");
+    map.zoomAbout(200, 150, 0.01);
+    const Transform view = map.transform();
+    desktop::highlightOnMap(host, {3000, std::nan("")}, {3000, 4000});
+    QVERIFY2(map.transform() == view, "there is no place to come near to");
 }
 
 void QualityDialogsTest::eachListHasAPlaceOfItsOwn()
