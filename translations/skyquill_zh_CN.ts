@@ -241,6 +241,17 @@
     </message>
 </context>
 <context>
+    <name>CoordCheck</name>
+    <message>
+        <source>The parameter %1 must be a whole number, not &quot;%2&quot;.</source>
+        <translation>参数 %1 必须是整数，而不是“%2”。</translation>
+    </message>
+    <message>
+        <source>The parameter %1 must be a decimal number, such as 298.257, not &quot;%2&quot;.</source>
+        <translation>参数 %1 必须是十进制数，例如 298.257，而不是“%2”。</translation>
+    </message>
+</context>
+<context>
     <name>CoordProjections</name>
     <message>
         <source>Transverse Mercator</source>
@@ -528,6 +539,37 @@
     </message>
 </context>
 <context>
+    <name>DatumShiftChoice</name>
+    <message>
+        <source>&amp;Datum shift:</source>
+        <translation>基准转换(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>Datum shifts of the EPSG register for this system: name, accuracy, and the area that each is meant for. Those that suit the system&apos;s area best come first.</source>
+        <translation>EPSG 库中适用于该坐标系统的基准转换：名称、精度和适用地区。最符合该系统使用范围的排在最前。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>By the parameters below</source>
+        <translation>按下方参数</translation>
+    </message>
+    <message>
+        <source>The register knows no datum shift for this system. Without one, positions are taken as WGS 84.</source>
+        <translation>EPSG 库中没有该坐标系统的基准转换。不设基准转换时，位置按 WGS 84 处理。</translation>
+    </message>
+    <message>
+        <source>None of the register&apos;s datum shifts covers most of this system&apos;s area. Without one, positions are taken as WGS 84.</source>
+        <translation>EPSG 库中没有覆盖该坐标系统大部分使用范围的基准转换。不设基准转换时，位置按 WGS 84 处理。</translation>
+    </message>
+    <message>
+        <source>Without a datum shift, positions are taken as WGS 84.</source>
+        <translation>不设基准转换时，位置按 WGS 84 处理。</translation>
+    </message>
+</context>
+<context>
     <name>DesignCsv</name>
     <message>
         <source>Field %1, &quot;%2&quot;, is no integer.</source>
@@ -708,6 +750,13 @@
     <message>
         <source>show r line</source>
         <translation>显示接收线</translation>
+    </message>
+</context>
+<context>
+    <name>EpsgDatumShift</name>
+    <message>
+        <source>accuracy unknown</source>
+        <translation>精度未知</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,8 @@
 #include "app/cli/CliCommands.h"
 #include "basalt_utilities/Dictionary.h"
 #include "lum_sdk/CoordCheck.h"
+#include "lum_sdk/CoordStoredForm.h"
+#include "lum_sdk/EpsgDatumShift.h"
 #include "lum_sdk/EpsgSystem.h"
 #include "lum_sdk/Text.h"
 #include "project/model/CoordinateRecord.h"
@@ -19,15 +21,38 @@ namespace {
 /// \returns an empty text, or why the system cannot be taken
 QString setParameters(const QStringList& pairs, IDictionary& project)
 {
+    // The pivot of a datum shift is worked in before anything is stored.
     static const QStringList known =
-        QString::fromLatin1(CoordinateRecord::kKeys).split(QLatin1Char(','));
+        QString::fromLatin1(CoordinateRecord::kKeys).split(QLatin1Char(',')) +
+        QStringList{QStringLiteral("_7px"), QStringLiteral("_7py"), QStringLiteral("_7pz")};
     for (const QString& pair : pairs) {
         const QString key = pair.section(QLatin1Char('='), 0, 0);
+        const QString value = pair.section(QLatin1Char('='), 1);
         if (!known.contains(key))
             return QStringLiteral("There is no coordinate parameter \"%1\".").arg(key);
-        project.set(key.toStdString(), pair.section(QLatin1Char('='), 1).toStdString());
+        if (value.isEmpty())
+            return QStringLiteral("The coordinate parameter \"%1\" has no value.").arg(key);
+        project.set(key.toStdString(), value.toStdString());
     }
-    return QString::fromStdString(lum::checkCoordParameters(project).message);
+    const lum::CoordParameterFault fault = lum::checkCoordParameters(project);
+    if (!fault)
+        lum::toStoredForm(project);
+    return QString::fromStdString(fault.message);
+}
+
+/// Names the datum shift that a system of the register came with.
+void tellDatumShift(const QString& code)
+{
+    const lum::EpsgDatumShifts shifts = lum::epsgDatumShifts(code.toStdString());
+    std::string taken =
+        "none in the register covers this system's area, positions are taken as WGS 84";
+    if (shifts.best() != nullptr)
+        taken = lum::describe(*shifts.best());
+    else if (!shifts.isNeeded)
+        taken = "none, the system is on WGS 84";
+    else if (shifts.known.empty())
+        taken = "none is in the register for this system, positions are taken as WGS 84";
+    std::fprintf(stderr, "Datum shift: %s\n", taken.c_str());
 }
 
 QString chooseSystem(const CliArguments& arguments, IDictionary& project)
@@ -40,6 +65,7 @@ QString chooseSystem(const CliArguments& arguments, IDictionary& project)
         if (!fault.empty())
             return QString::fromStdString(fault);
         project.set(CoordinateRecord::kId, "EPSG:" + code.toStdString());
+        tellDatumShift(code);
         return {};
     }
     const QStringList pairs = arguments.options.value(QStringLiteral("--set"));

@@ -18,7 +18,8 @@
 
 namespace lum {
 
-/// The user's choice of how angles are written, the status key "degree_format".
+/// How angles are written in a call of the coordinate service. The user's choice, the status key
+/// "degree_format", counts otherwise: 0 is decimal degrees, anything else degrees-minutes-seconds.
 enum class AngleFormat : std::int32_t
 {
     Degrees = 1,

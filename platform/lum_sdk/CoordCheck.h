@@ -15,8 +15,8 @@ struct CoordParameterFault
     explicit operator bool() const { return !message.empty(); }
 };
 
-/// Sets the whole system up as the coordinate service would, geoid file included, and tells the
-/// first fault.
+/// Looks whether every number is one from its first to its last character, then sets the whole
+/// system up as the coordinate service would, geoid file included; tells the first fault.
 [[nodiscard]] CoordParameterFault checkCoordParameters(const IDictionary& parameters);
 
 } // namespace lum

@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
@@ -16,7 +17,7 @@ namespace {
 enum Code
 {
     TransverseMercator = 1,
-    Utm,
+    Utm = kUtmCode,
     LambertConformal,
     Mercator,
     ObliqueMercator,
@@ -116,12 +117,11 @@ public:
         return value;
     }
 
-    /// " +name=value" of a key.
-    std::string longitude(const char* name, const char* key)
+    double longitude(const char* key)
     {
         const double value = number(key);
         check(std::abs(value) <= 360, CoordResult::OriginLongitude);
-        return item(name, value);
+        return value;
     }
 
     void check(bool isGood, CoordResult code, std::string detail = {})
@@ -182,14 +182,14 @@ std::string obliqueMercator(Reader& reader)
     const double azimuth = reader.number("p_r");
     if (azimuth != 0) {
         const double turn = reader.number("parallel_1_lat");
-        return centre + reader.longitude("lonc", "org_lon") + Reader::item("alpha", azimuth) +
-               Reader::item("gamma", turn == 0 ? azimuth : turn);
+        return centre + Reader::item("lonc", reader.longitude("org_lon")) +
+               Reader::item("alpha", azimuth) + Reader::item("gamma", turn == 0 ? azimuth : turn);
     }
     const double first = reader.latitude("lat1", CoordResult::Azimuth);
     const double second = reader.latitude("lat2", CoordResult::Azimuth);
     reader.check(first != second, CoordResult::Azimuth); // the formulas exclude it
-    return centre + Reader::item("lat_1", first) + reader.longitude("lon_1", "lon1") +
-           Reader::item("lat_2", second) + reader.longitude("lon_2", "lon2");
+    return centre + Reader::item("lat_1", first) + Reader::item("lon_1", reader.longitude("lon1")) +
+           Reader::item("lat_2", second) + Reader::item("lon_2", reader.longitude("lon2"));
 }
 
 std::string polarStereographic(Reader& reader)
@@ -270,6 +270,20 @@ std::span<const ProjectionKind> projectionKinds()
     return kProjections;
 }
 
+const ProjectionKind* projectionKind(const IDictionary& parameters)
+{
+    const int code = parameters.integer("project_type");
+    const auto* const found = std::find_if(kProjections.begin(), kProjections.end(),
+                                           [code](const auto& kind) { return kind.code == code; });
+    return found == kProjections.end() ? nullptr : found;
+}
+
+double utmCentralMeridian(double longitudeDeg)
+{
+    const double meridianDeg = std::floor(longitudeDeg / 6) * 6 + 3;
+    return std::remainder(meridianDeg, 360);
+}
+
 std::span<const KnownEllipsoid> knownEllipsoids()
 {
     return kEllipsoids;
@@ -301,14 +315,14 @@ ProjectionText projectionText(const IDictionary& parameters, CoordFault& fault)
     const double stretch = 1 + height / axis;
     text.falseNorth = reader.number("false_north");
     if (code == Utm) {
-        const double zone = std::floor(reader.number("org_lon") / 6);
-        text.projection += Reader::item("lon_0", zone * 6 + 3);
-        text.factor = 0.9996 * stretch;
-        text.falseEast = 500000;
+        const double longitude = reader.longitude("org_lon");
+        text.projection += Reader::item("lon_0", utmCentralMeridian(longitude));
+        text.factor = kUtmFactor * stretch;
+        text.falseEast = kUtmFalseEastM;
         return text;
     }
     if (code != ObliqueMercator)
-        text.projection += reader.longitude("lon_0", "org_lon");
+        text.projection += Reader::item("lon_0", reader.longitude("org_lon"));
     text.falseEast = reader.number("false_east");
     text.factor = reader.number("factor");
     reader.check(text.factor >= 0, CoordResult::Factor);

@@ -64,8 +64,17 @@ struct DatumShiftName
 };
 
 [[nodiscard]] std::span<const ProjectionKind> projectionKinds();
+/// The one that "project_type" names; null when there is none.
+[[nodiscard]] const ProjectionKind* projectionKind(const IDictionary& parameters);
 [[nodiscard]] std::span<const KnownEllipsoid> knownEllipsoids();
 [[nodiscard]] std::span<const DatumShiftName> datumShiftNames();
+
+inline constexpr int kUtmCode = 2; ///< of "project_type"
+inline constexpr double kUtmFactor = 0.9996;
+inline constexpr double kUtmFalseEastM = 500000;
+
+/// The central meridian, in [-180, 180), of the UTM zone around a longitude.
+[[nodiscard]] double utmCentralMeridian(double longitudeDeg);
 
 /// PROJ's text of a map projection, without factor and false origin.
 struct ProjectionText

@@ -34,6 +34,7 @@ public:
     static DatumShift fromDictionary(const IDictionary& parameters, CoordFault& fault);
 
     [[nodiscard]] bool isNone() const;
+    [[nodiscard]] bool operator==(const DatumShift& other) const = default;
 
     /// The shift back as its makers compute it, with R transposed: exact but for the squares of the
     /// angles, a millimetre at 2 seconds.

@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Numbers.h"
+#include "lum_sdk/CoordProjections.h"
 #include "lum_sdk/EpsgDatumShift.h"
 #include "lum_sdk/ProjHandles.h"
 
@@ -217,10 +218,10 @@ void nameUtm(const char* name, IDictionary& to)
     const double zone = (to.number("org_lon") + 183) / 6;
     const double north = to.number("false_north");
     if (std::string_view(name).find("UTM zone") != std::string_view::npos &&
-        to.integer("project_type") == 1 && to.number("factor") == 0.9996 &&
-        to.number("false_east") == 500000 && to.number("org_lat") == 0 &&
+        to.integer("project_type") == 1 && to.number("factor") == kUtmFactor &&
+        to.number("false_east") == kUtmFalseEastM && to.number("org_lat") == 0 &&
         zone == std::round(zone) && (north == 0 || north == 10000000))
-        dic_set_value(to, "project_type", 2);
+        dic_set_value(to, "project_type", kUtmCode);
 }
 
 } // namespace
@@ -263,7 +264,8 @@ std::string fillFromEpsg(std::string_view code, IDictionary& parameters)
     fillEllipsoid(context.get(), crs.get(), conversion.method == kWebMercator, filled);
     fillProjection(context.get(), crs.get(), conversion, unitM, filled);
     nameUtm(proj_get_name(crs.get()), filled);
-    epsgDatumShift(context.get(), crs.get()).toDictionary(filled);
+    const EpsgDatumShifts shifts = epsgDatumShifts(code);
+    (shifts.best() != nullptr ? shifts.best()->shift : DatumShift()).toDictionary(filled);
     for (const char* key : {"_4valid", "correct_valid", "fit_valid", "ver_valid"})
         dic_set_value(filled, key, 0);
     dictionary_copy(filled, parameters);

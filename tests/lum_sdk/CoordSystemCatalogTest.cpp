@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(EpsgCase{"32650", 2, 40, 117.3},  // UTM
                     EpsgCase{"32733", 2, -20, 16},    // UTM, south
                     EpsgCase{"4548", 1, 40, 117.3},   // transverse Mercator
-                    EpsgCase{"2437", 1, 35, 120.5},   // Krassowsky, geocentric translations
+                    EpsgCase{"2100", 1, 38, 24},      // geocentric translations
                     EpsgCase{"2278", 3, 29, -97},     // Lambert, US survey feet
                     EpsgCase{"3448", 3, 18, -77},     // Lambert, one parallel
                     EpsgCase{"3395", 4, 40, 117},     // Mercator

@@ -4,8 +4,10 @@
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/coords/CoordSystemRows.h"
 #include "lum_desktop_sdkx/coords/CoordSystemSearch.h"
+#include "lum_desktop_sdkx/coords/DatumShiftChoice.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_sdk/CoordCheck.h"
+#include "lum_sdk/CoordStoredForm.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/EpsgSystem.h"
 #include "lum_sdk/Text.h"
@@ -26,10 +28,9 @@ QString id(const IDictionary& parameters)
     return lum::toQString(parameters.text(kId, kUndefinedId));
 }
 
-QString registeredName(const QString& registeredId)
+QString codeOf(const QString& registeredId)
 {
-    const std::string code = registeredId.mid(static_cast<int>(qstrlen(kRegister))).toStdString();
-    return QString::fromStdString(epsgName(code));
+    return registeredId.mid(static_cast<int>(qstrlen(kRegister)));
 }
 
 QLabel* makeText(QWidget* parent)
@@ -54,7 +55,8 @@ QPalette faultPalette(QPalette palette)
 
 CoordSystemPanel::CoordSystemPanel(QWidget* parent)
     : QWidget(parent), m_search(new CoordSystemSearch(this)), m_identity(makeText(this)),
-      m_grid(new PropertyGridCtrl(this)), m_fault(makeText(this))
+      m_shift(new DatumShiftChoice(this)), m_grid(new PropertyGridCtrl(this)),
+      m_fault(makeText(this))
 {
     m_grid->setResizeMode(PropertyGridCtrl::ResizeMode::Stretch);
     m_grid->setHeaderVisible(false);
@@ -64,25 +66,28 @@ CoordSystemPanel::CoordSystemPanel(QWidget* parent)
     layout->setSpacing(dpi_scaled(6));
     layout->addWidget(m_search);
     layout->addWidget(m_identity);
+    layout->addWidget(m_shift);
     layout->addWidget(m_grid, 1);
     layout->addWidget(m_fault);
     setFocusProxy(m_search);
 
     connect(m_search, &CoordSystemSearch::chosen, this, &CoordSystemPanel::choose);
+    connect(m_shift, &DatumShiftChoice::chosen, this, &CoordSystemPanel::takeShift);
     connect(m_grid, &PropertyGridCtrl::valueChanged, this, &CoordSystemPanel::takeEdit);
     setParameters(basalt::Dictionary());
 }
 
 void CoordSystemPanel::setParameters(const IDictionary& parameters)
 {
+    const QString given = id(parameters);
+    m_shift->setSystem(given.startsWith(QLatin1String(kRegister)) ? codeOf(given) : QString());
     show(parameters);
-    showIdentity();
 }
 
 basalt::Dictionary CoordSystemPanel::parameters()
 {
     basalt::Dictionary result = m_grid->getData();
-    CoordSystemRows::dropPivot(result);
+    lum::toStoredForm(result);
     dic_set_value(result, kId, id(result).toStdString());
     return result;
 }
@@ -107,18 +112,25 @@ void CoordSystemPanel::choose(const QString& code)
         return;
     }
     filled.set(kId, kRegister + code.toStdString());
-    show(filled);
-    showIdentity();
+    setParameters(filled);
+    Q_EMIT changed();
+}
+
+void CoordSystemPanel::takeShift(const lum::DatumShift& shift)
+{
+    basalt::Dictionary values = m_grid->getData();
+    shift.toDictionary(values);
+    show(values);
     Q_EMIT changed();
 }
 
 void CoordSystemPanel::takeEdit(const QString& key, const QString& value)
 {
+    if (key.startsWith(QLatin1String("ellipsoid_")))
+        m_shift->setSystem({}); // it is another datum now
     followEllipsoid(key, value);
     m_grid->setValue(QLatin1String(kId), QLatin1String(kUndefinedId));
-    showRows();
-    judge();
-    showIdentity();
+    showAll();
     Q_EMIT changed();
 }
 
@@ -144,8 +156,15 @@ void CoordSystemPanel::show(const IDictionary& parameters)
             m_grid->setValue(lum::toQString(parameters.keyAt(i)),
                              lum::toQString(parameters.valueAt(i)));
     }
+    showAll();
+}
+
+void CoordSystemPanel::showAll()
+{
     showRows();
     judge();
+    showIdentity();
+    m_shift->showShiftOf(m_grid->getData());
 }
 
 void CoordSystemPanel::showRows()
@@ -184,7 +203,8 @@ void CoordSystemPanel::showIdentity()
         m_identity->setText(tr("No coordinate system is set. Search for one, or choose ellipsoid "
                                "and projection."));
     else if (current.startsWith(QLatin1String(kRegister)))
-        m_identity->setText(QStringLiteral("%1   %2").arg(current, registeredName(current)));
+        m_identity->setText(QStringLiteral("%1   %2").arg(
+            current, QString::fromStdString(epsgName(codeOf(current).toStdString()))));
     else
         m_identity->setText(tr("The coordinate system is defined by the parameters below."));
 }

@@ -45,15 +45,6 @@ std::set<std::string_view> words(std::string_view list)
     return result;
 }
 
-const lum::ProjectionKind* kindOf(const IDictionary& parameters)
-{
-    const int code = parameters.integer("project_type");
-    const auto kinds = lum::projectionKinds();
-    const auto found = std::find_if(kinds.begin(), kinds.end(),
-                                    [code](const auto& kind) { return kind.code == code; });
-    return found == kinds.end() ? nullptr : &*found;
-}
-
 bool fits(const lum::KnownEllipsoid& known, const IDictionary& parameters)
 {
     return std::abs(known.semiMajorM - parameters.number("ellipsoid_a")) < kSameAxisM &&
@@ -78,7 +69,7 @@ std::vector<Visibility> visibilities(const IDictionary& parameters)
     std::set<std::string_view> ofProjections;
     for (const lum::ProjectionKind& kind : lum::projectionKinds())
         ofProjections.merge(words(kind.keys));
-    const lum::ProjectionKind* const kind = kindOf(parameters);
+    const lum::ProjectionKind* const kind = lum::projectionKind(parameters);
     const auto used = words(kind == nullptr ? "" : kind->keys);
     for (const std::string_view key : ofProjections)
         add(key, used.contains(key));
@@ -133,7 +124,7 @@ QString firstParallelCaption(const IDictionary& parameters)
 QString planeUnit(const IDictionary& parameters)
 {
     const double factor = parameters.number("factor");
-    const bool hasOwnFactor = parameters.integer("project_type") == 2;
+    const bool hasOwnFactor = parameters.integer("project_type") == lum::kUtmCode;
     if (hasOwnFactor || factor == 0 || (factor > 0.5 && factor < 2))
         return QStringLiteral("m");
     return factor > 3.2 && factor < 3.4 ? QStringLiteral("ft") : QString();
@@ -155,20 +146,6 @@ const std::vector<QString>& planeLengths()
 bool isSet(const IDictionary& parameters)
 {
     return parameters.number("ellipsoid_a") != 0 || parameters.integer("project_type") != 0;
-}
-
-void dropPivot(IDictionary& parameters)
-{
-    const auto kind = static_cast<lum::DatumShiftKind>(parameters.integer("_7type"));
-    if (kind != lum::DatumShiftKind::MolodenskyBadekas)
-        return;
-    lum::CoordFault fault;
-    const auto shift = lum::DatumShift::fromDictionary(parameters, fault);
-    if (fault)
-        return;
-    shift.toDictionary(parameters);
-    for (const std::string_view key : words(kPivot))
-        parameters.remove(key);
 }
 
 } // namespace CoordSystemRows

@@ -44,8 +44,4 @@ bool fillEllipsoid(std::string_view name, IDictionary& parameters);
 /// Whether the parameters name an ellipsoid or a projection at all.
 [[nodiscard]] bool isSet(const IDictionary& parameters);
 
-/// Replaces a datum shift about a pivot by the coordinate frame rotation that does the same, and
-/// drops the pivot. An incomplete shift, or one of another kind, stays as it is.
-void dropPivot(IDictionary& parameters);
-
 } // namespace CoordSystemRows

@@ -81,7 +81,7 @@ void CliTest::makesAProjectAndTellsAboutIt()
     QCOMPARE(run({QStringLiteral("new"), QStringLiteral("."), QStringLiteral("测区 1"),
                   QStringLiteral("--epsg"), QStringLiteral("32650")}),
              0);
-    QCOMPARE(m_errors, QString());
+    QCOMPARE(m_errors, QStringLiteral("Datum shift: none, the system is on WGS 84\n"));
     const QString file = m_output.trimmed();
     QCOMPARE(file, m_folder->filePath(QStringLiteral("测区 1/测区 1.kelx")));
     QCOMPARE(run({QStringLiteral("info"), file}), 0);
@@ -95,11 +95,13 @@ void CliTest::makesAProjectAndTellsAboutIt()
 
 void CliTest::takesASystemByItsParameters()
 {
-    QCOMPARE(run({QStringLiteral("new"), m_folder->path(), QStringLiteral("a"),
-                  QStringLiteral("--set"), QStringLiteral("ellipsoid_a=6378245"),
-                  QStringLiteral("ellipsoid_f=298.3"), QStringLiteral("project_type=1"),
-                  QStringLiteral("org_lon=114"), QStringLiteral("false_east=500000")}),
-             0);
+    QCOMPARE(
+        run({QStringLiteral("new"), m_folder->path(), QStringLiteral("a"), QStringLiteral("--set"),
+             QStringLiteral("ellipsoid_a=6378245"), QStringLiteral("ellipsoid_f=298.3"),
+             QStringLiteral("project_type=1"), QStringLiteral("org_lon=114"),
+             QStringLiteral("false_east=500000"), QStringLiteral("_7type=3"),
+             QStringLiteral("_7rx=1"), QStringLiteral("_7py=5e6")}),
+        0);
     QCOMPARE(run({QStringLiteral("info"), m_output.trimmed()}), 0);
     QCOMPARE(told("projection"), QStringLiteral("Transverse Mercator"));
 }
@@ -227,12 +229,12 @@ void CliTest::refuses_data()
     row("missing folder", "new missing a", 1, "missing");
     row("unknown system", "new . a --epsg 999999", 1, "999999");
     row("unknown parameter", "new . a --set colour=1", 1, "colour");
-    row("impossible parameter", "new . a --set ellipsoid_a=x ellipsoid_f=298 project_type=1", 1,
-        "ellipsoid_a");
     row("option twice", "export a survey-csv b --lines 1 --lines 2", 2, "twice");
     row("unknown column", "export a survey-csv b --columns line_num,point_num,colour", 2, "colour");
     row("columns without number", "export a survey-csv b --columns line_num", 2, "point_num");
     row("columns of a design", "export a design-csv b --columns line_num", 2, "design-csv");
+    row("impossible parameter", "new . a --set ellipsoid_a=6e6 ellipsoid_f=298,3 project_type=1", 1,
+        "ellipsoid_f must be a decimal number, such as 298.257, not \"298,3\"");
     row("missing project", "info missing.kelx", 1, "missing.kelx");
 }
 

@@ -56,7 +56,11 @@ private Q_SLOTS:
     void fillsInASystemOfTheRegister_data();
     void fillsInASystemOfTheRegister();
     void walksTheListAndDropsASearch();
+    void offersTheDatumShiftsOfTheRegister();
+    void tellsWhyThereIsNoDatumShift_data();
+    void tellsWhyThereIsNoDatumShift();
     void anEditMakesASystemItsOwn();
+    void keepsNoValueOfAnotherProjection();
     void keepsAxisAndNameOfTheEllipsoidInStep();
     void showsWhatTheProjectionAndSwitchesUse();
     void refusesABadNumberWhereItStands();
@@ -138,6 +142,18 @@ private:
     {
         click(caption);
         QTest::keyClick(m_grid, Qt::Key_Space);
+    }
+    /// The choice of datum shifts, which stands outside of the grid; null while there is none.
+    [[nodiscard]] QComboBox* shifts() const
+    {
+        QComboBox* const box = m_panel->findChild<QComboBox*>();
+        return box->isVisible() ? box : nullptr;
+    }
+    void choose(const char* code)
+    {
+        search(code);
+        QTest::keyClick(m_field, Qt::Key_Return);
+        QCOMPARE(value("coord_param_id"), QStringLiteral("EPSG:") + QLatin1String(code));
     }
     void search(const char* text)
     {
@@ -244,11 +260,78 @@ void CoordSystemPanelTest::walksTheListAndDropsASearch()
     QVERIFY(!m_dialog->isVisible());
 }
 
+void CoordSystemPanelTest::offersTheDatumShiftsOfTheRegister()
+{
+    open({});
+    QVERIFY(shifts() == nullptr);
+    choose("2436");
+    QCOMPARE(shifts()->currentText(), QStringLiteral("None"));
+    QVERIFY(visibleTexts().join(QLatin1Char('\n')).contains(QStringLiteral("taken as WGS 84")));
+    const QString ordos = QStringLiteral("Beijing 1954 to WGS 84 (1), 1 m, China - Ordos basin");
+    const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
+    shifts()->setFocus();
+    while (shifts()->currentText() != ordos && changed.count() < 9)
+        QTest::keyClick(shifts(), Qt::Key_Down);
+    QCOMPARE(changed.count(), shifts()->currentIndex());
+    QCOMPARE(shown("Model"), QStringLiteral("Coordinate frame rotation"));
+    QCOMPARE(shown("Shift dX"), QStringLiteral("-12.646 m"));
+    QVERIFY(!visibleTexts().join(QLatin1Char('\n')).contains(QStringLiteral("WGS 84.")));
+
+    open(m_dialog->parameters()); // as a project is opened again
+    QCOMPARE(value("coord_param_id"), QStringLiteral("EPSG:2436"));
+    QCOMPARE(shifts()->currentText(), ordos);
+    enter("False easting", "39500000"); // still on this datum
+    QCOMPARE(shifts()->currentText(), ordos);
+    enter("Shift dX", "-12.6");
+    QCOMPARE(shifts()->currentText(), QStringLiteral("By the parameters below"));
+    QTest::keyClick(shifts(), Qt::Key_Home);
+    QCOMPARE(value("_7type"), QStringLiteral("0"));
+    QCOMPARE(shifts()->currentText(), QStringLiteral("None"));
+    pick("Ellipsoid", "WGS 84"); // but not on this one
+    QVERIFY(shifts() == nullptr);
+}
+
+void CoordSystemPanelTest::tellsWhyThereIsNoDatumShift_data()
+{
+    QTest::addColumn<QByteArray>("code");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("other areas") << QByteArray("2436")
+                                 << QStringLiteral("None of the register's datum shifts covers");
+    QTest::newRow("none known") << QByteArray("4548")
+                                << QStringLiteral("The register knows no datum shift");
+    QTest::newRow("none needed") << QByteArray("32650") << QString();
+    QTest::newRow("taken") << QByteArray("2100") << QString();
+}
+
+void CoordSystemPanelTest::tellsWhyThereIsNoDatumShift()
+{
+    QFETCH(QByteArray, code);
+    QFETCH(QString, reason);
+    open({});
+    choose(code.constData());
+    const QString texts = visibleTexts().join(QLatin1Char('\n'));
+    QVERIFY2(reason.isEmpty() || texts.contains(reason), qPrintable(texts));
+    QCOMPARE(texts.contains(QStringLiteral("taken as WGS 84")), !reason.isEmpty());
+}
+
+void CoordSystemPanelTest::keepsNoValueOfAnotherProjection()
+{
+    open(ownSystem());
+    pick("Projection", "Lambert conformal conic");
+    enter("First standard parallel", "30");
+    pick("Projection", "UTM");
+    enter("Central meridian", "115");
+    QCOMPARE(value("parallel_1_lat"), QStringLiteral("0"));
+    QCOMPARE(value("factor"), QStringLiteral("0.9996"));
+    QCOMPARE(value("org_lon"), QStringLiteral("117"));
+    pick("Projection", "Lambert conformal conic"); // hidden is not lost
+    QCOMPARE(value("parallel_1_lat"), QStringLiteral("30"));
+}
+
 void CoordSystemPanelTest::anEditMakesASystemItsOwn()
 {
     open({});
-    search("32650");
-    QTest::keyClick(m_field, Qt::Key_Return);
+    choose("32650");
     const basalt::Dictionary chosen = m_dialog->parameters();
     open(chosen);
     QCOMPARE(value("coord_param_id"), QStringLiteral("EPSG:32650"));
@@ -368,7 +451,7 @@ void CoordSystemPanelTest::handsOutWhatItDoesNotShow()
     const basalt::Dictionary before = ownSystem();
     open(before);
     const basalt::Dictionary after = m_dialog->parameters();
-    QCOMPARE(after.size(), before.size() + 1); // the identity
+    QCOMPARE(after.size(), before.size() + 2); // the identity, and a factor of 1
     for (std::size_t i = 0; i < before.size(); ++i)
         QCOMPARE(lum::toQString(after.text(before.keyAt(i))), lum::toQString(before.valueAt(i)));
 }

@@ -2,7 +2,6 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
-#include "lum_sdk/CoordWjl.h"
 #include "lum_sdk/Text.h"
 
 #include <gtest/gtest.h>
@@ -29,17 +28,6 @@ std::string shownOf(const basalt::Dictionary& from)
             result.append(result.empty() ? "" : " ").append(key.toStdString());
     }
     return result;
-}
-
-/// Grid position of a place in Texas, metres.
-CoordTriple gridOf(const basalt::Dictionary& system)
-{
-    CoordWjl service;
-    CoordTriple grid;
-    EXPECT_EQ(service.initialise(system, system), 0);
-    EXPECT_EQ(
-        service.transform(2, 1, 2, 4, 29.5, -98.5, 120, &grid.first, &grid.second, &grid.third), 0);
-    return grid;
 }
 
 } // namespace
@@ -119,27 +107,4 @@ TEST(CoordSystemRows, PlaneUnitIsToldByTheFactor)
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=4.97")), QString()); // links
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("project_type=2,factor=3.2808")),
               QStringLiteral("m")); // UTM has a factor of its own
-}
-
-TEST(CoordSystemRows, AShiftWithoutItsPivotLeadsToTheSamePlace)
-{
-    const basalt::Dictionary about =
-        parameters("ellipsoid_a=6378206.4,ellipsoid_f=294.978698213898,project_type=1,org_lon=-99,"
-                   "_7type=3,_7dx=8,_7dy=-160,_7dz=-176,_7rx=1.5,_7ry=-0.7,_7rz=2.25,_7ppm=3.5,"
-                   "_7px=-820000,_7py=-5490000,_7pz=3120000");
-    basalt::Dictionary without(about);
-    CoordSystemRows::dropPivot(without);
-    EXPECT_EQ(without.text("_7type"), "2");
-    EXPECT_FALSE(without.contains("_7px") || without.contains("_7py") || without.contains("_7pz"));
-    const CoordTriple there = gridOf(about);
-    const CoordTriple here = gridOf(without);
-    EXPECT_NEAR(here.first, there.first, 1e-6);
-    EXPECT_NEAR(here.second, there.second, 1e-6);
-    EXPECT_NEAR(here.third, there.third, 1e-6);
-
-    for (const char* const kept : {"_7type=2,_7rx=1,_7px=5", "_7type=3,_7rx=1", "_7type=-1"}) {
-        basalt::Dictionary other = parameters(kept);
-        CoordSystemRows::dropPivot(other);
-        EXPECT_EQ(dictionary_to_csa(other), kept);
-    }
 }

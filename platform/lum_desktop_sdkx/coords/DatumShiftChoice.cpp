@@ -1,0 +1,106 @@
+#include "lum_desktop_sdkx/coords/DatumShiftChoice.h"
+
+#include "lum_sdk/DpiScale.h"
+#include "lum_sdk/Text.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kNone = 0; ///< item before those of the shifts
+
+} // namespace
+
+DatumShiftChoice::DatumShiftChoice(QWidget* parent)
+    : QWidget(parent), m_row(new QWidget(this)), m_names(new QComboBox(m_row)),
+      m_notice(new QLabel(this))
+{
+    auto* const caption = new QLabel(tr("&Datum shift:"), m_row);
+    caption->setBuddy(m_names);
+    m_names->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_names->view()->setTextElideMode(Qt::ElideRight);
+    m_names->setToolTip(tr("Datum shifts of the EPSG register for this system: name, accuracy, and "
+                           "the area that each is meant for. Those that suit the system's area "
+                           "best come first."));
+    m_notice->setWordWrap(true);
+
+    auto* const row = new QHBoxLayout(m_row);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(caption);
+    row->addWidget(m_names, 1);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(dpi_scaled(4));
+    layout->addWidget(m_row);
+    layout->addWidget(m_notice);
+    connect(m_names, qOverload<int>(&QComboBox::activated), this, &DatumShiftChoice::choose);
+}
+
+void DatumShiftChoice::setSystem(const QString& code)
+{
+    m_shifts = lum::epsgDatumShifts(code.toStdString());
+    m_names->clear();
+    m_names->addItem(tr("None"));
+    for (const lum::EpsgDatumShift& shift : m_shifts.known) {
+        m_names->addItem(lum::toQString(describe(shift)));
+        m_names->setItemData(m_names->count() - 1, lum::toQString(shift.area), Qt::ToolTipRole);
+    }
+}
+
+void DatumShiftChoice::showShiftOf(const IDictionary& parameters)
+{
+    lum::CoordFault fault;
+    const auto shift = lum::DatumShift::fromDictionary(parameters, fault);
+    const int own = static_cast<int>(m_shifts.known.size()) + 1;
+    const int item = fault ? own : itemOf(shift);
+    m_names->removeItem(own); // stands there only while it holds
+    if (item == own)
+        m_names->addItem(tr("By the parameters below"));
+    m_names->setCurrentIndex(item);
+    m_row->setVisible(!m_shifts.known.empty());
+    m_notice->setText(noticeWithoutShift());
+    m_notice->setVisible(item == kNone);
+    setVisible(m_shifts.isNeeded && (!m_shifts.known.empty() || item == kNone));
+}
+
+/// The item behind the shifts for one that is none of them.
+int DatumShiftChoice::itemOf(const lum::DatumShift& shift) const
+{
+    const auto& known = m_shifts.known;
+    const auto isIt = [&shift](const lum::EpsgDatumShift& one) { return one.shift == shift; };
+    const auto picked = static_cast<std::size_t>(m_names->currentIndex());
+    if (picked > kNone && picked <= known.size() && isIt(known[picked - 1]))
+        return m_names->currentIndex(); // of several equal ones
+    if (m_shifts.best() != nullptr && isIt(*m_shifts.best()))
+        return 1;
+    if (shift.isNone())
+        return kNone;
+    const auto found = std::find_if(known.begin(), known.end(), isIt);
+    return 1 + static_cast<int>(found - known.begin());
+}
+
+QString DatumShiftChoice::noticeWithoutShift() const
+{
+    if (m_shifts.known.empty())
+        return tr("The register knows no datum shift for this system. Without one, positions are "
+                  "taken as WGS 84.");
+    if (m_shifts.best() == nullptr)
+        return tr("None of the register's datum shifts covers most of this system's area. Without "
+                  "one, positions are taken as WGS 84.");
+    return tr("Without a datum shift, positions are taken as WGS 84.");
+}
+
+void DatumShiftChoice::choose(int item)
+{
+    const auto& known = m_shifts.known;
+    if (item == kNone)
+        Q_EMIT chosen(lum::DatumShift());
+    else if (item <= static_cast<int>(known.size()))
+        Q_EMIT chosen(known[static_cast<std::size_t>(item - 1)].shift);
+}

@@ -1,0 +1,92 @@
+#include "lum_sdk/CoordStoredForm.h"
+
+#include "lum_sdk/EpsgSystem.h"
+#include "tests/lum_sdk/CoordFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+basalt::Dictionary stored(const char* list)
+{
+    basalt::Dictionary parameters;
+    EXPECT_TRUE(csa_to_dictionary(parameters, list));
+    lum::toStoredForm(parameters);
+    return parameters;
+}
+
+} // namespace
+
+struct StoredCase
+{
+    const char* name;
+    const char* given;
+    const char* stored;
+};
+
+class CoordStoredForm : public testing::TestWithParam<StoredCase>
+{
+};
+
+TEST_P(CoordStoredForm, HoldsWhatTheProjectionUses)
+{
+    EXPECT_EQ(dictionary_to_csa(stored(GetParam().given)), GetParam().stored);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Parameters, CoordStoredForm,
+    testing::Values(
+        StoredCase{"UtmHasItsOwnValues", "project_type=2,org_lon=115",
+                   "project_type=2,org_lon=117,factor=0.9996,false_east=500000"},
+        StoredCase{"UtmAfterLambert",
+                   "project_type=2,org_lon=-58,org_lat=-30,parallel_1_lat=20,parallel_2_lat=40,"
+                   "factor=1,false_east=39500000,false_north=10000000",
+                   "project_type=2,org_lon=-57,org_lat=0,parallel_1_lat=0,parallel_2_lat=0,"
+                   "factor=0.9996,false_east=500000,false_north=10000000"},
+        StoredCase{"FirstZoneFromTheOtherSide", "project_type=2,org_lon=181",
+                   "project_type=2,org_lon=-177,factor=0.9996,false_east=500000"},
+        StoredCase{"RightTextsStay",
+                   "project_type=2,org_lon=117.0,factor=0.99960,false_east=5e5,org_lat=0.0",
+                   "project_type=2,org_lon=117.0,factor=0.99960,false_east=5e5,org_lat=0.0"},
+        StoredCase{"MercatorAfterOblique",
+                   "project_type=1,org_lat=4,p_r=5,lat1=1,lon1=2,lat2=3,lon2=4,cutting_radius=9,"
+                   "project_height=70,factor=0.999",
+                   "project_type=1,org_lat=4,p_r=0,lat1=0,lon1=0,lat2=0,lon2=0,cutting_radius=0,"
+                   "project_height=70,factor=0.999"},
+        StoredCase{"NoFactorIsOne", "project_type=1,factor=0", "project_type=1,factor=1"},
+        StoredCase{"UnknownProjection", "project_type=99,p_r=5", "project_type=99,p_r=5"},
+        StoredCase{"PivotOfAnotherKind", "_7type=2,_7rx=1,_7px=5", "_7type=2,_7rx=1,_7px=5"},
+        StoredCase{"PivotIsMissing", "_7type=3,_7rx=1", "_7type=3,_7rx=1"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(CoordStoredForm, UtmByHandIsThatOfTheRegister)
+{
+    for (const auto& [code, byHand] :
+         {std::pair("32650", "project_type=2,org_lon=119.5,factor=1,p_r=7"),
+          std::pair("32733", "project_type=2,org_lon=12,false_north=10000000")}) {
+        basalt::Dictionary registered;
+        ASSERT_EQ(fillFromEpsg(code, registered), "");
+        const basalt::Dictionary given = stored(byHand);
+        for (const char* key :
+             {"project_type", "org_lon", "org_lat", "factor", "false_east", "false_north", "p_r"})
+            EXPECT_EQ(given.number(key), registered.number(key)) << code << ' ' << key;
+    }
+}
+
+TEST(CoordStoredForm, AShiftWithoutItsPivotLeadsToTheSamePlace)
+{
+    const char* const about =
+        "ellipsoid_a=6378206.4,ellipsoid_f=294.978698213898,project_type=1,org_lon=-99,"
+        "_7type=3,_7dx=8,_7dy=-160,_7dz=-176,_7rx=1.5,_7ry=-0.7,_7rz=2.25,_7ppm=3.5,"
+        "_7px=-820000,_7py=-5490000,_7pz=3120000";
+    basalt::Dictionary given;
+    ASSERT_TRUE(csa_to_dictionary(given, about));
+    const basalt::Dictionary without = stored(about);
+    EXPECT_EQ(without.text("_7type"), "2");
+    EXPECT_FALSE(without.contains("_7px") || without.contains("_7py") || without.contains("_7pz"));
+    const CoordTriple there = CoordService(given).toGrid(29.5, -98.5, 120);
+    const CoordTriple here = CoordService(without).toGrid(29.5, -98.5, 120);
+    EXPECT_NEAR(here.first, there.first, 1e-6);
+    EXPECT_NEAR(here.second, there.second, 1e-6);
+    EXPECT_NEAR(here.third, there.third, 1e-6);
+}
