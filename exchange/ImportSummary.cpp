@@ -45,8 +45,8 @@ QString ImportSummary::toText() const
            QT_TRANSLATE_NOOP("ImportSummary", "Further lines skipped: %1."));
     if (pointsRepeated != 0)
         lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
-                                              "Rows whose point stands again further down, where "
-                                              "it was taken from: %1."))
+                                              "Rows replaced by a later row of the same point "
+                                              "in the file: %1."))
                      .arg(pointsRepeated);
     if (fieldsMisread != 0)
         lines << translated(

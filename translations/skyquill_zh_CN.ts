@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>CloseProjectCommand</name>
-    <message>
-        <source>information</source>
-        <translation>提示</translation>
-    </message>
-    <message>
-        <source>The project could not be saved. Close it all the same and lose the changes?</source>
-        <translation>工程未能保存。仍要关闭并放弃更改吗？</translation>
-    </message>
-</context>
-<context>
     <name>CodeTables</name>
     <message>
         <source>invalid</source>
@@ -792,16 +781,28 @@
         <translation>无法读取“%1”：%2</translation>
     </message>
     <message>
-        <source>Lines read: %1, points added: %2, points replaced: %3, lines skipped: %4.</source>
-        <translation>读取 %1 行，新增 %2 个点，替换 %3 个点，跳过 %4 行。</translation>
-    </message>
-    <message>
         <source>Line %1: %2</source>
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
         <source>Further lines skipped: %1.</source>
         <translation>另外还跳过 %1 行。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: lines read: %2, points added: %3, points replaced: %4, lines skipped: %5.</source>
+        <translation>“%1”：读取 %2 行，新增 %3 点，替换 %4 点，跳过 %5 行。</translation>
+    </message>
+    <message>
+        <source>Rows replaced by a later row of the same point in the file: %1.</source>
+        <translation>被文件中同一点的后续行取代的行：%1。</translation>
+    </message>
+    <message>
+        <source>Fields of added points that cannot be read and are left empty: %1.</source>
+        <translation>已导入的点中无法识别而留空的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Further fields that cannot be read: %1.</source>
+        <translation>其余无法识别的字段：%1。</translation>
     </message>
 </context>
 <context>
@@ -906,6 +907,10 @@
         <source>close current project?</source>
         <translation>关闭当前工程？</translation>
     </message>
+    <message>
+        <source>The project could not be saved. Close it all the same and lose the changes?</source>
+        <translation>工程未能保存。仍要关闭并放弃更改吗？</translation>
+    </message>
 </context>
 <context>
     <name>ProjectStore</name>
@@ -970,10 +975,6 @@
         <translation>无法写入工程文件“%1”。</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>无法写入文件“%1”。</translation>
-    </message>
-    <message>
         <source>The project is open in another program.</source>
         <translation>该工程已在另一个程序中打开。</translation>
     </message>
@@ -988,6 +989,30 @@
     <message>
         <source>The folder of this project cannot be written: changes cannot be saved.</source>
         <translation>该工程的文件夹不可写：更改无法保存。</translation>
+    </message>
+    <message>
+        <source>The project file &quot;%1&quot; cannot be read: what it says about the project is neither shown nor saved.</source>
+        <translation>工程文件“%1”无法读取：其中的工程信息既不显示也不保存。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>文件“%1”无法写入：%2。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2.</source>
+        <translation>文件“%1”无法读取：%2。</translation>
+    </message>
+    <message>
+        <source>If it is not, remove the file &quot;%1&quot; and try again.</source>
+        <translation>如果并未打开，请删除文件“%1”后重试。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written, perhaps because the disk is full: changes cannot be saved as long as that is so.</source>
+        <translation>文件“%1”无法写入，可能是磁盘已满：在此期间无法保存更改。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the project since it was opened here without a lock.</source>
+        <translation>该工程在此处未加锁打开之后，已被另一个程序更改。</translation>
     </message>
 </context>
 <context>
@@ -1455,6 +1480,10 @@
     <message>
         <source>Export Survey Data</source>
         <translation>正在导出测量数据</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; cannot be read.</source>
+        <translation>%1“%2”无法识别。</translation>
     </message>
 </context>
 <context>
