@@ -8,8 +8,8 @@ class IDictionary;
 /// A key of the quality parameters ("qc_param.ini") and what counts when it is missing.
 struct QualityParameter
 {
-    const char* key;
-    const char* fallback;
+    const char* key = "";
+    const char* fallback = "";
     double largest = 0; ///< that may be entered, in the limit's unit; none of a text
     bool isWhole = false;
 };

@@ -97,9 +97,8 @@ namespace lum {
 QString readDictionaryFile(const std::string& path, IDictionary& dictionary)
 {
     QFile file(QString::fromStdString(path));
-    const QString fault = file.open(QIODevice::ReadOnly)
-                              ? readDictionary(file.readAll(), dictionary)
-                              : file.errorString();
+    QString fault = file.open(QIODevice::ReadOnly) ? readDictionary(file.readAll(), dictionary)
+                                                   : file.errorString();
     if (!fault.isEmpty())
         basalt::logError("Cannot read \"" + path + "\": " + fault.toStdString());
     return fault;
