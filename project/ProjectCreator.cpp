@@ -109,14 +109,14 @@ QString moveOldFiles(NewFiles& files, const ProjectPlace& place)
     const QString database = place.database();
     for (const char* beside : {"", "-journal", "-wal", "-shm", ".saved"}) {
         const QString ending = QLatin1String(beside);
-        const QString fault = files.moveAside(database + ending, database + when + ending);
+        QString fault = files.moveAside(database + ending, database + when + ending);
         if (!fault.isEmpty())
             return fault;
     }
     for (const QString& path :
          {place.file, place.folder + QLatin1String(ParameterFiles::kQualityFile),
           place.folder + QLatin1String(ParameterFiles::kDesignFile)}) {
-        const QString fault = files.moveAside(path, path + when);
+        QString fault = files.moveAside(path, path + when);
         if (!fault.isEmpty())
             return fault;
     }

@@ -17,7 +17,7 @@ QString inUse(const QLockFile& file, const QString& path)
     if (!file.getLockInfo(&process, &host, &program))
         return QCoreApplication::translate("ProjectStore",
                                            "The project is open in another program.");
-    const QString owner =
+    QString owner =
         QCoreApplication::translate(
             "ProjectStore", "The project is open in another program (%1, process %2 on %3).")
             .arg(program)

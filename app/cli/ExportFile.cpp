@@ -11,18 +11,18 @@
 
 namespace {
 
-constexpr QLatin1String kColumns("--columns");
-constexpr QLatin1String kOnlyUnsurveyed("--only-unsurveyed");
+constexpr const char* kColumns = "--columns";
+constexpr const char* kOnlyUnsurveyed = "--only-unsurveyed";
 
 /// What does not go together; empty when all is well.
 QString usageFault(const CliArguments& arguments, bool isDesign)
 {
-    const QLatin1String stranger = isDesign ? kColumns : kOnlyUnsurveyed;
+    const QString stranger = QLatin1String(isDesign ? kColumns : kOnlyUnsurveyed);
     if (arguments.options.contains(stranger))
         return QStringLiteral("%1 does not go with %2").arg(stranger, arguments.places[1]);
-    if (isDesign || !arguments.options.contains(kColumns))
+    if (isDesign || !arguments.options.contains(QLatin1String(kColumns)))
         return {};
-    const QStringList keys = arguments.option(kColumns).split(QLatin1Char(','));
+    const QStringList keys = arguments.option(QLatin1String(kColumns)).split(QLatin1Char(','));
     for (const QString& key : keys) {
         if (exportCaptions({key}).isEmpty())
             return QStringLiteral("there is no column \"%1\"; they are named as in the database, "
@@ -69,7 +69,7 @@ QString exportDesign(const CliArguments& arguments, CliProject& project)
     if (!fault.isEmpty())
         return fault;
     ProgressReporter progress(&project.events());
-    const bool onlyUnsurveyed = arguments.options.contains(kOnlyUnsurveyed);
+    const bool onlyUnsurveyed = arguments.options.contains(QLatin1String(kOnlyUnsurveyed));
     const QString& file = arguments.places[2];
     return named(file, writeDesignCsv(file, points, lines, onlyUnsurveyed, progress));
 }
@@ -82,8 +82,9 @@ QString exportSurvey(const CliArguments& arguments, CliProject& project)
     if (!fault.isEmpty())
         return fault;
     QStringList captions = manager.exportCaptions();
-    if (arguments.options.contains(kColumns))
-        captions = exportCaptions(arguments.option(kColumns).split(QLatin1Char(',')));
+    if (arguments.options.contains(QLatin1String(kColumns)))
+        captions =
+            exportCaptions(arguments.option(QLatin1String(kColumns)).split(QLatin1Char(',')));
     const SurveyCsvChoice choice{captions,
                                  get_system_status_dictionary().integer(status::kDegreeFormat)};
     ProgressReporter progress(&project.events());
