@@ -20,16 +20,16 @@ double secondsOf(Job job)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// The median of five values of `measure`, after one that does not count.
+/// The median of `count` values of `measure`, after one that does not count.
 template <class Measure>
-double medianOf(Measure measure)
+double medianOf(Measure measure, int count = 5)
 {
     measure();
     std::vector<double> values;
-    for (int i = 0; i < 5; ++i)
+    for (int i = 0; i < count; ++i)
         values.push_back(measure());
-    std::nth_element(values.begin(), values.begin() + 2, values.end());
-    return values[2];
+    std::nth_element(values.begin(), values.begin() + count / 2, values.end());
+    return values[static_cast<std::size_t>(count / 2)];
 }
 
 struct Verdict

@@ -65,12 +65,6 @@ private:
     std::string m_names;
 };
 
-void reportLine(const std::string& caption, std::size_t count, ProgressReporter& progress)
-{
-    for (std::size_t done = 1; done <= count; ++done)
-        progress.report(caption, done, count);
-}
-
 } // namespace
 
 int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
@@ -104,7 +98,9 @@ void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressR
     auto judging = std::async(std::launch::async, [&] {
         for (auto& [number, line] : points) {
             for (SurveyPoint& point : line) {
-                point.qualityStandard = qualityCode(point, limits);
+                const int code = qualityCode(point, limits);
+                if (code != point.qualityStandard) // what stays needs no way back to the memory
+                    point.qualityStandard = code;
                 unplaced.look(point);
             }
             ++linesJudged;
@@ -117,7 +113,7 @@ void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressR
     for (const auto& [number, line] : std::as_const(points)) {
         for (std::size_t judged = linesJudged; judged <= linesReported; judged = linesJudged)
             linesJudged.wait(judged);
-        reportLine(caption + number, line.size(), progress);
+        progress.reportEach(caption + number, line.size());
         ++linesReported;
     }
     progress.hide();

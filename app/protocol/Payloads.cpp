@@ -12,6 +12,11 @@ namespace {
 
 constexpr char kProgressTail[] = ",is_exec=0";
 
+double percentOf(std::size_t done, std::size_t total)
+{
+    return total == 0 ? 100.0 : static_cast<double>(done) * 100.0 / static_cast<double>(total);
+}
+
 QByteArray quoted(const QString& text)
 {
     return QByteArray::fromStdString(basalt::quotedValue(text.toStdString()));
@@ -23,19 +28,41 @@ namespace payload {
 
 std::string progress(std::string_view caption, double percent)
 {
-    return Progress().at(caption, percent);
+    Progress progress;
+    progress.setCaption(caption);
+    return progress.at(percent);
 }
 
-const char* Progress::at(std::string_view caption, double percent)
+void Progress::setCaption(std::string_view caption)
 {
-    if (m_valueAt == 0 || caption != m_caption) {
-        m_caption = caption;
-        m_text = "text=" + basalt::quotedValue(caption) + ",value=";
-        m_valueAt = m_text.size();
-        m_text.resize(m_valueAt + basalt::kFixedSize + sizeof kProgressTail);
-    }
-    char* const end = basalt::writeGeneral(m_text.data() + m_valueAt, percent);
+    if (m_valueAt != 0 && caption == m_caption)
+        return;
+    m_caption = caption;
+    m_text = "text=" + basalt::quotedValue(caption) + ",value=";
+    m_valueAt = m_text.size();
+    m_text.resize(m_valueAt + basalt::kFixedSize + sizeof kProgressTail);
+}
+
+const char* Progress::at(double percent)
+{
+    char* const end = basalt::writeGeneral(&m_text[m_valueAt], percent);
     std::memcpy(end, kProgressTail, sizeof kProgressTail); // with its closing NUL
+    return m_text.c_str();
+}
+
+const char* Progress::at(std::size_t done, std::size_t total)
+{
+    if (total > kMostSteps || done > total)
+        return at(percentOf(done, total));
+    if (m_steps.size() != total + 1)
+        m_steps.assign(total + 1, Step());
+    Step& step = m_steps[done];
+    if (step[0] == '\0') {
+        at(percentOf(done, total));
+        std::memcpy(step.data(), &m_text[m_valueAt], step.size());
+    } else {
+        std::memcpy(&m_text[m_valueAt], step.data(), step.size());
+    }
     return m_text.c_str();
 }
 

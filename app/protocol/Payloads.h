@@ -2,8 +2,10 @@
 
 #include <QByteArray>
 
+#include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class QString;
 
@@ -12,17 +14,27 @@ namespace payload {
 
 /// "text=CAPTION,value=PERCENT,is_exec=0"; the percent in general notation, six digits.
 [[nodiscard]] std::string progress(std::string_view caption, double percent);
-/// The same, step after step of one caption.
+/// The same, step after step.
 class Progress
 {
 public:
+    /// Before the first text.
+    void setCaption(std::string_view caption);
+
     /// \returns a text that lasts until the next call
-    const char* at(std::string_view caption, double percent);
+    const char* at(double percent);
+    /// After `done` of `total` steps; no steps count as finished. The texts of a total are kept for
+    /// the next caption, since lines are often of one length.
+    const char* at(std::size_t done, std::size_t total);
 
 private:
+    static constexpr std::size_t kMostSteps = 4096; ///< that are kept
+    using Step = std::array<char, 32>;              ///< a percent and what follows; empty at first
+
     std::string m_caption;
     std::string m_text;        ///< longer than the payload, which ends at its NUL
-    std::size_t m_valueAt = 0; ///< where the percent begins; 0 before the first text
+    std::size_t m_valueAt = 0; ///< where the percent begins; 0 before the first caption
+    std::vector<Step> m_steps; ///< of one total, from 0
 };
 /// "text=CAPTION,value=0": work that begins.
 [[nodiscard]] std::string started(std::string_view caption);

@@ -4,15 +4,6 @@
 #include "app/protocol/Payloads.h"
 #include "lum_sdk/IEventManager.h"
 
-namespace {
-
-double percentOf(std::size_t done, std::size_t total)
-{
-    return total == 0 ? 100.0 : static_cast<double>(done) * 100.0 / static_cast<double>(total);
-}
-
-} // namespace
-
 ProgressReporter::ProgressReporter(IEventManager* manager) : m_manager(manager) {}
 
 ProgressReporter::~ProgressReporter()
@@ -27,17 +18,21 @@ void ProgressReporter::start(const QString& caption)
 
 void ProgressReporter::report(const QString& caption, double percent)
 {
-    publish(m_progress.at(caption.toStdString(), percent));
+    m_progress.setCaption(caption.toStdString());
+    publish(m_progress.at(percent));
 }
 
 void ProgressReporter::report(const QString& caption, std::size_t done, std::size_t total)
 {
-    report(caption, percentOf(done, total));
+    m_progress.setCaption(caption.toStdString());
+    publish(m_progress.at(done, total));
 }
 
-void ProgressReporter::report(std::string_view caption, std::size_t done, std::size_t total)
+void ProgressReporter::reportEach(std::string_view caption, std::size_t total)
 {
-    publish(m_progress.at(caption, percentOf(done, total)));
+    m_progress.setCaption(caption);
+    for (std::size_t done = 1; done <= total; ++done)
+        publish(m_progress.at(done, total));
 }
 
 void ProgressReporter::busy(const QString& caption)

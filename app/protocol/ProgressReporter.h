@@ -28,8 +28,8 @@ public:
     void report(const QString& caption, double percent);
     /// The same for `done` of `total` steps; no steps count as finished.
     void report(const QString& caption, std::size_t done, std::size_t total);
-    /// The same for a caption in UTF-8, without a conversion at every step.
-    void report(std::string_view caption, std::size_t done, std::size_t total);
+    /// The same, for each of `total` steps; the caption is UTF-8.
+    void reportEach(std::string_view caption, std::size_t total);
     /// Work of unknown length.
     void busy(const QString& caption);
     /// Hides the bar; once, and only when something was reported.
