@@ -124,17 +124,25 @@ std::vector<const CoordSystemEntry*> CoordSystemCatalog::search(std::string_view
     const std::vector<std::string> words = wordsOf(wanted);
     if (words.empty())
         return {};
-    std::vector<std::tuple<Rank, std::size_t, const CoordSystemEntry*>> found;
+    struct Found
+    {
+        Rank rank;
+        bool isOther; ///< than what GNSS receivers give by themselves
+        std::size_t length;
+        const CoordSystemEntry* entry;
+    };
+    std::vector<Found> found;
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
         const Rank rank = rankOf(m_entries[i], m_names[i], m_areas[i], wanted, words);
         if (rank != None)
-            found.emplace_back(rank, m_names[i].size(), &m_entries[i]);
+            found.push_back(
+                {rank, !m_names[i].starts_with("wgs 84 /"), m_names[i].size(), &m_entries[i]});
     }
-    std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) {
-        return std::tie(std::get<0>(a), std::get<1>(a)) < std::tie(std::get<0>(b), std::get<1>(b));
+    std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
+        return std::tie(a.rank, a.isOther, a.length) < std::tie(b.rank, b.isOther, b.length);
     });
     std::vector<const CoordSystemEntry*> entries;
     for (std::size_t i = 0; i < std::min(limit, found.size()); ++i)
-        entries.push_back(std::get<2>(found[i]));
+        entries.push_back(found[i].entry);
     return entries;
 }

@@ -27,7 +27,8 @@ public:
 
     /// Systems found by the beginning of a code ("EPSG:" may stand before it), or by words that all
     /// occur in name or area, whatever their case and order; "GK" stands for Gauss-Kruger too.
-    /// Exact codes and names come first, then names that begin with the text, then shorter names.
+    /// Exact codes and names come first, then names that begin with the text; then systems on WGS
+    /// 84, then shorter names.
     [[nodiscard]] std::vector<const CoordSystemEntry*> search(std::string_view text,
                                                               std::size_t limit = 100) const;
 

@@ -45,6 +45,7 @@ TEST(CoordSystemCatalog, FindsByCodeAndByWords)
               "Beijing 1954 / 3-degree Gauss-Kruger CM 117E");
     EXPECT_EQ(firstFound("NAD27 / Texas South Central"), "NAD27 / Texas South Central");
     EXPECT_EQ(firstFound("50n utm wgs 84"), "WGS 84 / UTM zone 50N");
+    EXPECT_EQ(firstFound("utm 50n"), "WGS 84 / UTM zone 50N");
     EXPECT_EQ(firstFound("gauss-kruger 117e onshore 3-degree new"),
               "New Beijing / 3-degree Gauss-Kruger CM 117E");
     EXPECT_EQ(catalog().search("3265").size(), 11U); // 3265, 32650 to 32659
