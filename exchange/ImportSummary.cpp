@@ -34,11 +34,8 @@ QString ImportSummary::toText() const
     lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
                                           "\"%1\": lines read: %2, points added: %3, points "
                                           "replaced: %4, lines skipped: %5."))
-                 .arg(path)
-                 .arg(linesRead)
-                 .arg(pointsNew)
-                 .arg(pointsReplaced)
-                 .arg(linesSkipped);
+                 .arg(path, QString::number(linesRead), QString::number(pointsNew),
+                      QString::number(pointsReplaced), QString::number(linesSkipped));
     if (!remark.isEmpty())
         lines << remark;
     append(lines, faults, linesSkipped - faults.size(),

@@ -20,9 +20,7 @@ QString inUse(const QLockFile& file, const QString& path)
     QString owner =
         QCoreApplication::translate(
             "ProjectStore", "The project is open in another program (%1, process %2 on %3).")
-            .arg(program)
-            .arg(process)
-            .arg(host);
+            .arg(program, QString::number(process), host);
     if (host == QSysInfo::machineHostName())
         return owner;
     // Whether a program of another computer still runs cannot be told from here.

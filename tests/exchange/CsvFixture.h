@@ -23,11 +23,11 @@ protected:
         heard.emplace_back(payload);
     }
 
-    [[nodiscard]] QString path(const char* name = "f.csv") const
+    [[nodiscard]] QString path(const char* name = "f %2.csv") const
     {
         return folder.filePath(QString::fromUtf8(name));
     }
-    [[nodiscard]] QString file(const QByteArray& content, const char* name = "f.csv") const
+    [[nodiscard]] QString file(const QByteArray& content, const char* name = "f %2.csv") const
     {
         QFile written(path(name));
         EXPECT_TRUE(written.open(QIODevice::WriteOnly));
