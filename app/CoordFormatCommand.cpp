@@ -1,10 +1,10 @@
 #include "app/CoordFormatCommand.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/IEventManager.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 
 void CoordFormatCommand::execute()
 {

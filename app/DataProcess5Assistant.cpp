@@ -1,7 +1,5 @@
 #include "app/DataProcess5Assistant.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
@@ -11,9 +9,11 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 
 #include <QFileInfo>
 #include <QPointF>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/protocol/EventSubscription.h"
 #include "lum_desktop_sdkx/IGuiAssistant.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
 #include "project/DataProcessDataManager.h"
 
 #include <memory>

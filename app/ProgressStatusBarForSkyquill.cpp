@@ -1,10 +1,10 @@
 #include "app/ProgressStatusBarForSkyquill.h"
 
-#include "app/protocol/Events.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/Text.h"
+#include "protocol/Events.h"
 
 #include <QCoreApplication>
 #include <QEvent>

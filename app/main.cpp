@@ -1,12 +1,14 @@
+#include "app/ProgramIcon.h"
 #include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/Paths.h"
 #include "lum_desktop_sdkx/ComponentKinds.h"
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/IMainFrame.h"
 #include "lum_desktop_sdkx/ISystemSettings.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/ICountly.h"
 #include "lum_sdk/SingleInstance.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "protocol/ProductName.h"
 
 #include <array>
 #include <cstdlib>
@@ -44,8 +46,10 @@ void showMainFrame(const IDictionary& config)
 
 int main(int argc, char* argv[])
 {
-    auto application =
-        std::make_unique<Applicationx>(argc, argv, "Skyquill", "/Tool/DataProcess5/data_process_5");
+    nameProduct();
+    auto application = std::make_unique<Applicationx>(argc, argv, kProductName,
+                                                      "/Tool/DataProcess5/data_process_5");
+    QApplication::setWindowIcon(programIcon());
     const IDictionary& config = get_system_config_parameter().dictionary();
     if (instance_is_run(QString::fromLocal8Bit(argv[0]), 1)) {
         application.reset();

@@ -1,4 +1,3 @@
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/FixedDecimals.h"
 #include "basalt_utilities/LocalTimes.h"
 #include "bench/Limits.h"
@@ -7,7 +6,8 @@
 #include "exchange/ImportSummary.h"
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
-#include "project/model/SurveyColumns.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "model/SurveyColumns.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,11 +1,11 @@
 #include "app/ProgressStatusBarForSkyquill.h"
-#include "app/protocol/Events.h"
-#include "app/protocol/EventSubscription.h"
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
 #include "bench/Allocations.h"
 #include "bench/Limits.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "protocol/Events.h"
 
 #include <QApplication>
 

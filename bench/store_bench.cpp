@@ -1,7 +1,7 @@
 #include "bench/Limits.h"
-#include "lum_sdk/FileSync.h"
-#include "project/model/DesignRecord.h"
-#include "project/model/SurveyRecord.h"
+#include "lum_sdk/files/FileSync.h"
+#include "model/DesignRecord.h"
+#include "model/SurveyRecord.h"
 #include "tests/project/TestProject.h"
 
 #include <sqlite3.h>

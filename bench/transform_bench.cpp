@@ -1,8 +1,8 @@
 #include "basalt_utilities/Dictionary.h"
 #include "bench/Limits.h"
-#include "lum_sdk/CoordSystemCatalog.h"
-#include "lum_sdk/CoordWjl.h"
-#include "lum_sdk/ProjHandles.h"
+#include "lum_sdk/coords/CoordSystemCatalog.h"
+#include "lum_sdk/coords/CoordWjl.h"
+#include "lum_sdk/coords/ProjHandles.h"
 
 #include <cmath>
 #include <numbers>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/protocol/ProgressReporter.h"
-#include "lum_sdk/WholeFileWriter.h"
-#include "project/model/PointNumber.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "lum_sdk/files/WholeFileWriter.h"
+#include "model/PointNumber.h"
 
 #include <QStringList>
 

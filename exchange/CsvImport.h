@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/protocol/ProgressReporter.h"
 #include "exchange/BatchQueue.h"
 #include "exchange/CsvInput.h"
 #include "exchange/ImportSummary.h"
 #include "exchange/KnownPoints.h"
+#include "lum_sdk/events/ProgressReporter.h"
 
 #include <future>
 #include <vector>

@@ -1,10 +1,10 @@
 #include "exchange/ExportColumns.h"
 
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/IDictionary.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/Text.h"
-#include "project/model/SurveyColumns.h"
+#include "model/SurveyColumns.h"
+#include "protocol/StatusKeys.h"
 
 namespace {
 

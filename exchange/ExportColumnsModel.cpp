@@ -2,7 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "exchange/ExportColumns.h"
-#include "project/model/SurveyColumns.h"
+#include "model/SurveyColumns.h"
 
 #include <algorithm>
 

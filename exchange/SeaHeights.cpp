@@ -1,8 +1,8 @@
 #include "exchange/SeaHeights.h"
 
 #include "basalt_utilities/IDictionary.h"
-#include "lum_sdk/Angles.h"
-#include "lum_sdk/ICoordTransform.h"
+#include "lum_sdk/coords/Angles.h"
+#include "lum_sdk/coords/ICoordTransform.h"
 
 #include <vector>
 

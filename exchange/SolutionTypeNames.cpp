@@ -1,7 +1,7 @@
 #include "exchange/SolutionTypeNames.h"
 
 #include "lum_sdk/Text.h"
-#include "project/model/CodeTables.h"
+#include "model/CodeTables.h"
 
 namespace {
 constexpr std::size_t kMostRemembered = 64; ///< a faulty file may hold any number of them

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/model/SurveyColumns.h"
+#include "model/SurveyColumns.h"
 
 #include <QString>
 

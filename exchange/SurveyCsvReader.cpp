@@ -5,7 +5,7 @@
 #include "exchange/CsvImport.h"
 #include "exchange/SurveyRowReader.h"
 #include "lum_sdk/Text.h"
-#include "project/model/PointNumber.h"
+#include "model/PointNumber.h"
 
 #include <QCoreApplication>
 

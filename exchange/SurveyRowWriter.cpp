@@ -1,6 +1,6 @@
 #include "exchange/SurveyRowWriter.h"
 
-#include "project/model/PointNumber.h"
+#include "model/PointNumber.h"
 
 #include <algorithm>
 

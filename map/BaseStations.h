@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_sdk/BaseStation.h"
+#include "model/BaseStation.h"
 
 #include <cstdint>
 #include <optional>

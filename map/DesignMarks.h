@@ -2,7 +2,7 @@
 
 #include "map/MarkTable.h"
 #include "map/ToMap.h"
-#include "project/model/PointLines.h"
+#include "model/PointLines.h"
 
 /// The drawing cache of the design: its points as marks, line after line in the order of bytes.
 class DesignMarks

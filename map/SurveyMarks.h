@@ -3,7 +3,7 @@
 #include "map/BaseStations.h"
 #include "map/MarkTable.h"
 #include "map/ToMap.h"
-#include "project/model/PointLines.h"
+#include "model/PointLines.h"
 
 /// The drawing cache of the survey: its results as marks, line after line in the order of bytes,
 /// and the base stations that they were measured from.

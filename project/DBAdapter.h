@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_sdk/IDBAdapter.h"
+#include "lum_sdk/database/IDBAdapter.h"
 
 /// The adapter through which a project's database passes: every operation goes to an inner adapter,
 /// which it gets from the factory and gives back.

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/protocol/EventSubscription.h"
 #include "basalt_utilities/Dictionary.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "model/PointLines.h"
 #include "project/DBAdapter.h"
-#include "project/model/PointLines.h"
 #include "project/ProjectLock.h"
 #include "project/StoreResult.h"
 

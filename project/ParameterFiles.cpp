@@ -1,17 +1,14 @@
 #include "project/ParameterFiles.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/Paths.h"
-#include "lum_sdk/DictionaryXml.h"
+#include "basalt_utilities/Product.h"
+#include "lum_sdk/files/DictionaryXml.h"
 
 #include <QCoreApplication>
 
 namespace ParameterFiles {
 
 namespace {
-
-constexpr const char* kTemplateFolder =
-    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5";
 
 QString notRead(const std::string& path, const QString& reason)
 {
@@ -52,7 +49,7 @@ QString write(const QString& folder, const IDictionary& quality, const IDictiona
         return notWritten(qualityPath);
     if (!dictionary_to_xml(design, designPath))
         return notWritten(designPath);
-    dictionary_to_xml(design, basalt::resolvedPath(kTemplateFolder) + kDesignFile);
+    dictionary_to_xml(design, basalt::toolFolder() + kDesignFile);
     return {};
 }
 

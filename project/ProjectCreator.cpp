@@ -2,14 +2,14 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/ILogger.h"
-#include "basalt_utilities/Paths.h"
-#include "lum_sdk/DictionaryXml.h"
-#include "lum_sdk/FileSync.h"
-#include "lum_sdk/ICoordTransform.h"
-#include "lum_sdk/ProjectCoordTransform.h"
-#include "lum_sdk/SystemDictionaries.h"
-#include "lum_sdk/WholeFile.h"
-#include "project/model/CoordinateRecord.h"
+#include "basalt_utilities/Product.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/files/DictionaryXml.h"
+#include "lum_sdk/files/FileSync.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/files/WholeFile.h"
+#include "model/CoordinateRecord.h"
 #include "project/ParameterFiles.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectLock.h"
@@ -28,9 +28,6 @@
 namespace ProjectCreator {
 
 namespace {
-
-constexpr const char* kTemplateFolder =
-    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5/";
 
 QString cannotWrite(const QString& path, const QString& why)
 {
@@ -87,7 +84,7 @@ public:
 
     QString copyTemplate(const char* name, const QString& to)
     {
-        const std::string path = basalt::resolvedPath(std::string(kTemplateFolder) + name);
+        const std::string path = basalt::toolFolder() + '/' + name;
         QFile source(QString::fromStdString(path));
         if (source.open(QIODevice::ReadOnly))
             return write(to, source.readAll());

@@ -1,6 +1,6 @@
 #include "project/ProjectFile.h"
 
-#include "lum_sdk/DictionaryXml.h"
+#include "lum_sdk/files/DictionaryXml.h"
 
 #include <QString>
 

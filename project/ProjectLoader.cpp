@@ -1,13 +1,13 @@
 #include "project/ProjectLoader.h"
 
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/ILogger.h"
-#include "lum_sdk/RecordSet.h"
+#include "lum_sdk/database/RecordSet.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "model/CoordinateRecord.h"
+#include "model/DesignRecord.h"
+#include "model/PointNumber.h"
+#include "model/SurveyRecord.h"
 #include "project/DBAdapter.h"
-#include "project/model/CoordinateRecord.h"
-#include "project/model/DesignRecord.h"
-#include "project/model/PointNumber.h"
-#include "project/model/SurveyRecord.h"
 #include "project/SafetyCopy.h"
 
 #include <QCoreApplication>

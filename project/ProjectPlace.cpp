@@ -1,6 +1,6 @@
 #include "project/ProjectPlace.h"
 
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "project/RecentProjects.h"
 
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
 namespace RecentProjects {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "project/model/PointNumber.h"
-#include "project/model/RecordTexts.h"
+#include "model/PointNumber.h"
+#include "model/RecordTexts.h"
 
 #include <future>
 #include <memory>

@@ -2,8 +2,8 @@
 
 #include "basalt_utilities/Files.h"
 #include "basalt_utilities/ILogger.h"
-#include "lum_sdk/FileSync.h"
-#include "lum_sdk/IDBAdapter.h"
+#include "lum_sdk/database/IDBAdapter.h"
+#include "lum_sdk/files/FileSync.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #include "quality/QualityCheck.h"
 
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/ILogger.h"
+#include "lum_sdk/events/ProgressReporter.h"
 #include "quality/QualityLimits.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "quality/QualityDescription.h"
 
-#include "project/model/SurveyPoint.h"
+#include "model/SurveyPoint.h"
 #include "quality/QualityLimits.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,9 @@
 #include "samples/Crew.h"
 
-#include "samples/BaseStation.h"
+#include "samples/DemoBase.h"
 #include "samples/Terrain.h"
+
+#include <QString>
 
 namespace demo {
 
@@ -12,12 +14,12 @@ constexpr std::int64_t kZoneMs = 8 * std::int64_t(3600) * 1000; ///< east of Gre
 
 } // namespace
 
-Crew::Crew(const Equipment& equipment, const GridPlace& camp, Random& random)
+Crew::Crew(const Equipment& equipment, const LocalPlace& camp, Random& random)
     : m_equipment(equipment), m_random(random), m_clock(camp)
 {
 }
 
-SurveyPoint Crew::measure(const DesignPoint& design, const GridPlace& stake)
+SurveyPoint Crew::measure(const DesignPoint& design, const LocalPlace& stake)
 {
     const PlanePlace plane = toPlane(stake);
     SurveyPoint point;
@@ -34,7 +36,7 @@ SurveyPoint Crew::measure(const DesignPoint& design, const GridPlace& stake)
     point.instrumentType = m_equipment.instrument;
     point.instrumentSerialNumber = m_equipment.serialNumber;
     point.antennaHeight = m_equipment.poleM;
-    const BaseStation& station = nearestStation(stake);
+    const DemoBase& station = nearestStation(stake);
     point.baseStationId = station.id;
     point.referenceAltitude = stationHeight(station);
     m_clock.goTo(stake);
@@ -66,9 +68,12 @@ void setSatellites(SurveyPoint& point, int count)
     const int galileo = count / 5;
     const int glonass = count / 6;
     point.satelliteNumber = count;
-    point.satDetail = "G" + std::to_string(gps) + " R" + std::to_string(glonass) + " E" +
-                      std::to_string(galileo) + " C" +
-                      std::to_string(count - gps - galileo - glonass);
+    point.satDetail = QStringLiteral("G%1 R%2 E%3 C%4")
+                          .arg(gps)
+                          .arg(glonass)
+                          .arg(galileo)
+                          .arg(count - gps - galileo - glonass)
+                          .toStdString();
 }
 
 } // namespace demo

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/model/SurveyPoint.h"
+#include "model/SurveyPoint.h"
 #include "samples/FieldClock.h"
 #include "samples/Random.h"
 
@@ -20,11 +20,11 @@ class Crew
 {
 public:
     /// \param camp where its first day begins
-    Crew(const Equipment& equipment, const GridPlace& camp, Random& random);
+    Crew(const Equipment& equipment, const LocalPlace& camp, Random& random);
 
     /// Goes to the stake of `design` and measures it. What follows from these values is left to
     /// `ResultCompleter`.
-    [[nodiscard]] SurveyPoint measure(const DesignPoint& design, const GridPlace& stake);
+    [[nodiscard]] SurveyPoint measure(const DesignPoint& design, const LocalPlace& stake);
 
 private:
     void observe(SurveyPoint& point);

@@ -1,11 +1,11 @@
 #include "samples/DemoFiles.h"
 
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/LocalTimes.h"
 #include "exchange/CsvRow.h"
 #include "exchange/SurveyCsvWriter.h"
-#include "lum_sdk/WholeFileWriter.h"
-#include "project/model/SurveyColumns.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "lum_sdk/files/WholeFileWriter.h"
+#include "model/SurveyColumns.h"
 #include "samples/DemoSurvey.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "samples/DemoSurvey.h"
 
 #include "basalt_utilities/Numbers.h"
-#include "project/model/CodeTables.h"
-#include "project/model/PointNumber.h"
+#include "model/CodeTables.h"
+#include "model/PointNumber.h"
 #include "samples/Crew.h"
 #include "samples/Remeasuring.h"
 #include "samples/ResultCompleter.h"
@@ -49,7 +49,7 @@ private:
 
     void visit(std::size_t index);
     void leaveOut(const DesignPoint& design, const char* why);
-    void stakeAside(std::size_t index, Obstacle obstacle, const GridPlace& place);
+    void stakeAside(std::size_t index, Obstacle obstacle, const LocalPlace& place);
     Crew& crewOf(const DesignPoint& design) { return m_crews[design.type == kReceiver ? 1 : 0]; }
     std::vector<Result> takeGood(std::size_t count);
     SurveyPoint measureAgain(const Result& first);
@@ -72,7 +72,7 @@ Making::Making(std::uint64_t seed, ICoordTransform& transform)
 {
 }
 
-GridPlace placeOf(const DesignPoint& design)
+LocalPlace placeOf(const DesignPoint& design)
 {
     return toGrid({design.north, design.east});
 }
@@ -119,8 +119,8 @@ void Making::stakeAll()
 void Making::visit(std::size_t index)
 {
     DesignPoint& design = m_design[index];
-    const GridPlace place = placeOf(design);
-    const GridPlace stake{place.x + m_random.bell(0.1), place.y + m_random.bell(0.1)};
+    const LocalPlace place = placeOf(design);
+    const LocalPlace stake{place.x + m_random.bell(0.1), place.y + m_random.bell(0.1)};
     const Obstacle obstacle = obstacleAt(place);
     if (obstacle != Obstacle::None)
         return stakeAside(index, obstacle, stake);
@@ -133,7 +133,7 @@ void Making::leaveOut(const DesignPoint& design, const char* why)
     m_faults.push_back({kMissing, design.lineNumber, design.pointNumber, why});
 }
 
-void Making::stakeAside(std::size_t index, Obstacle obstacle, const GridPlace& place)
+void Making::stakeAside(std::size_t index, Obstacle obstacle, const LocalPlace& place)
 {
     DesignPoint& design = m_design[index];
     const std::optional<Skid> skid = shortestSkid(placeOf(design), design.type);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/model/PointLines.h"
+#include "model/PointLines.h"
 #include "samples/PlantedFault.h"
 
 #include <vector>

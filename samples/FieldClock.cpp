@@ -18,7 +18,7 @@ double secondsFor(double metres)
 
 } // namespace
 
-void FieldClock::goTo(const GridPlace& place)
+void FieldClock::goTo(const LocalPlace& place)
 {
     const double way = secondsFor(distance(m_place, place));
     m_place = place;

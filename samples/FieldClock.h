@@ -12,11 +12,11 @@ class FieldClock
 public:
     /// On the morning of the first day.
     /// \param place where the first day begins
-    explicit FieldClock(const GridPlace& place) : m_place(place) {}
+    explicit FieldClock(const LocalPlace& place) : m_place(place) {}
 
     /// Goes there, on foot or by car. After working hours it is the next morning; at noon there is
     /// a break.
-    void goTo(const GridPlace& place);
+    void goTo(const LocalPlace& place);
 
     void spend(int seconds) { m_second += seconds; }
 
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] std::int64_t now() const;
 
 private:
-    GridPlace m_place;
+    LocalPlace m_place;
     int m_day = 0;
     double m_second = kMorning; ///< of the day
     bool m_hadBreak = false;

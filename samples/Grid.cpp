@@ -24,9 +24,9 @@ struct LineKind
 {
     int type = 0;
     int firstLine = 0;
-    GridPlace first; ///< the first point of the first line
-    GridPlace lineStep;
-    GridPlace pointStep;
+    LocalPlace first; ///< the first point of the first line
+    LocalPlace lineStep;
+    LocalPlace pointStep;
 };
 
 // A source lies midway between two receivers of a line that it crosses.
@@ -42,8 +42,8 @@ double radians(double degrees)
 
 DesignPoint designPoint(const LineKind& kind, int line, int point)
 {
-    const GridPlace place{kind.first.x + line * kind.lineStep.x + point * kind.pointStep.x,
-                          kind.first.y + line * kind.lineStep.y + point * kind.pointStep.y};
+    const LocalPlace place{kind.first.x + line * kind.lineStep.x + point * kind.pointStep.x,
+                           kind.first.y + line * kind.lineStep.y + point * kind.pointStep.y};
     const PlanePlace plane = toPlane(place);
     DesignPoint design;
     design.lineNumber = std::to_string(kind.firstLine + line * kLineStep);
@@ -58,7 +58,7 @@ DesignPoint designPoint(const LineKind& kind, int line, int point)
 
 } // namespace
 
-PlanePlace toPlane(const GridPlace& place)
+PlanePlace toPlane(const LocalPlace& place)
 {
     const double sine = std::sin(radians(kReceiverAzimuthDeg));
     const double cosine = std::cos(radians(kReceiverAzimuthDeg));
@@ -66,7 +66,7 @@ PlanePlace toPlane(const GridPlace& place)
             kOrigin.east + place.x * sine - place.y * cosine};
 }
 
-GridPlace toGrid(const PlanePlace& place)
+LocalPlace toGrid(const PlanePlace& place)
 {
     const double sine = std::sin(radians(kReceiverAzimuthDeg));
     const double cosine = std::cos(radians(kReceiverAzimuthDeg));
@@ -75,7 +75,7 @@ GridPlace toGrid(const PlanePlace& place)
     return {north * cosine + east * sine, north * sine - east * cosine};
 }
 
-double distance(const GridPlace& a, const GridPlace& b)
+double distance(const LocalPlace& a, const LocalPlace& b)
 {
     return std::hypot(a.x - b.x, a.y - b.y);
 }
@@ -85,7 +85,7 @@ double azimuthDeg(int type)
     return type == kReceiver ? kReceiverAzimuthDeg : kSourceAzimuthDeg;
 }
 
-GridPlace moved(const GridPlace& place, int type, double rightM, double alongM)
+LocalPlace moved(const LocalPlace& place, int type, double rightM, double alongM)
 {
     if (type == kReceiver)
         return {place.x + alongM, place.y - rightM};

@@ -1,9 +1,9 @@
 #include "samples/ResultCompleter.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "lum_sdk/Angles.h"
-#include "lum_sdk/EpsgSystem.h"
-#include "lum_sdk/ICoordTransform.h"
+#include "lum_sdk/coords/Angles.h"
+#include "lum_sdk/coords/EpsgSystem.h"
+#include "lum_sdk/coords/ICoordTransform.h"
 
 #include <QString>
 
@@ -69,7 +69,7 @@ void ResultCompleter::complete(SurveyPoint& point)
 
 void ResultCompleter::setReference(SurveyPoint& point)
 {
-    const BaseStation& station = baseStation(point.baseStationId);
+    const DemoBase& station = baseStation(point.baseStationId);
     const PlanePlace plane = toPlane(station.place);
     const double height = point.referenceAltitude; // as the crew entered it
     const CoordTriple geodetic = toGeodetic(m_transform, {plane.north, plane.east, height});

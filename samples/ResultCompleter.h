@@ -1,7 +1,7 @@
 #pragma once
 
-#include "project/model/SurveyPoint.h"
-#include "samples/BaseStation.h"
+#include "model/SurveyPoint.h"
+#include "samples/DemoBase.h"
 
 class ICoordTransform;
 class QString;

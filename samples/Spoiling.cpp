@@ -31,8 +31,8 @@ std::string spoilPosition(SurveyPoint& point, Random& random)
 {
     const Skid& direction = kDirections[random.index(kDirections.size())];
     const double length = random.uniform(1.2, 6);
-    const GridPlace stake = moved(toGrid({point.north, point.east}), point.pointMark,
-                                  length * direction.rightM, length * direction.alongM);
+    const LocalPlace stake = moved(toGrid({point.north, point.east}), point.pointMark,
+                                   length * direction.rightM, length * direction.alongM);
     const PlanePlace plane = toPlane(stake);
     point.north = plane.north;
     point.east = plane.east;

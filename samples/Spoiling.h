@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/model/SurveyPoint.h"
+#include "model/SurveyPoint.h"
 #include "samples/Random.h"
 
 #include <span>

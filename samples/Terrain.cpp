@@ -13,13 +13,13 @@ constexpr double kSkidClearanceM = 3;
 
 // The village: houses of one size in rows, with lanes between. No point of the design lies on the
 // edge of a house, where rounding would decide.
-constexpr GridPlace kVillageStart{2473.7, 2183.3};
-constexpr GridPlace kVillageEnd{2923.7, 2563.3};
-constexpr GridPlace kPlot{55, 42};
-constexpr GridPlace kHouse{38, 26};
+constexpr LocalPlace kVillageStart{2473.7, 2183.3};
+constexpr LocalPlace kVillageEnd{2923.7, 2563.3};
+constexpr LocalPlace kPlot{55, 42};
+constexpr LocalPlace kHouse{38, 26};
 
 /// From the middle of the river, metres.
-double riverDistance(const GridPlace& place)
+double riverDistance(const LocalPlace& place)
 {
     const double middle = 1500 + 0.35 * place.y + 180 * std::sin(place.y / 700);
     const double slope = 0.35 + 180.0 / 700 * std::cos(place.y / 700);
@@ -33,10 +33,10 @@ bool isBuilt(double offset, double plot, double house, double clearanceM)
     return inPlot < house + 2 * clearanceM;
 }
 
-bool isHouse(const GridPlace& place, double clearanceM)
+bool isHouse(const LocalPlace& place, double clearanceM)
 {
-    const GridPlace offset{place.x - kVillageStart.x, place.y - kVillageStart.y};
-    const GridPlace size{kVillageEnd.x - kVillageStart.x, kVillageEnd.y - kVillageStart.y};
+    const LocalPlace offset{place.x - kVillageStart.x, place.y - kVillageStart.y};
+    const LocalPlace size{kVillageEnd.x - kVillageStart.x, kVillageEnd.y - kVillageStart.y};
     if (offset.x < -clearanceM || offset.x > size.x + clearanceM || offset.y < -clearanceM ||
         offset.y > size.y + clearanceM)
         return false;
@@ -46,7 +46,7 @@ bool isHouse(const GridPlace& place, double clearanceM)
 
 } // namespace
 
-double groundHeight(const GridPlace& place)
+double groundHeight(const LocalPlace& place)
 {
     const auto& [x, y] = place;
     const double hills = 45 * std::sin(x / 1300 + 0.6) * std::cos(y / 1700) +
@@ -56,20 +56,20 @@ double groundHeight(const GridPlace& place)
     return 640 + hills - 22 * std::exp(-fromRiver * fromRiver);
 }
 
-Obstacle obstacleAt(const GridPlace& place, double clearanceM)
+Obstacle obstacleAt(const LocalPlace& place, double clearanceM)
 {
     if (riverDistance(place) < kRiverHalfWidthM + clearanceM)
         return Obstacle::River;
     return isHouse(place, clearanceM) ? Obstacle::Houses : Obstacle::None;
 }
 
-std::optional<Skid> shortestSkid(const GridPlace& place, int type)
+std::optional<Skid> shortestSkid(const LocalPlace& place, int type)
 {
     for (int step = 1; step * kSkidStepM <= kLongestSkidM; ++step) {
         const double length = step * kSkidStepM;
         for (const Skid& skid :
              {Skid{length, 0}, Skid{-length, 0}, Skid{0, length}, Skid{0, -length}}) {
-            const GridPlace there = moved(place, type, skid.rightM, skid.alongM);
+            const LocalPlace there = moved(place, type, skid.rightM, skid.alongM);
             if (obstacleAt(there, kSkidClearanceM) == Obstacle::None)
                 return skid;
         }

@@ -15,10 +15,10 @@ enum class Obstacle
 };
 
 /// The height of the ground above the ellipsoid, metres: smooth hills, and a valley with the river.
-[[nodiscard]] double groundHeight(const GridPlace& place);
+[[nodiscard]] double groundHeight(const LocalPlace& place);
 
 /// What is at a place, or nearer to it than `clearanceM`.
-[[nodiscard]] Obstacle obstacleAt(const GridPlace& place, double clearanceM = 0);
+[[nodiscard]] Obstacle obstacleAt(const LocalPlace& place, double clearanceM = 0);
 
 /// How far a stake is moved off an obstacle.
 struct Skid
@@ -29,6 +29,6 @@ struct Skid
 
 /// The shortest skid, across or along the line, to where nothing is in the way; nothing when it is
 /// longer than crews may go.
-[[nodiscard]] std::optional<Skid> shortestSkid(const GridPlace& place, int type);
+[[nodiscard]] std::optional<Skid> shortestSkid(const LocalPlace& place, int type);
 
 } // namespace demo

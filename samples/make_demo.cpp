@@ -1,6 +1,6 @@
 // make_demo: writes the demo survey into a folder.
 
-#include "lum_sdk/ProjectCoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "samples/DemoFiles.h"
 #include "samples/DemoSurvey.h"
 #include "samples/ResultCompleter.h"

@@ -1,16 +1,17 @@
 // The pictures of the user guide, from the program itself with a project open.
 //   guide_pictures PROJECT.kelx FOLDER
 
-#include "app/protocol/StatusKeys.h"
-#include "basalt_utilities/Paths.h"
+#include "app/ProgramIcon.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 #include "lum_desktop_sdkx/ISystemSettings.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ui/DlgProjectSet.h"
+#include "protocol/ProductName.h"
+#include "protocol/StatusKeys.h"
 #include "quality/ui/DlgQCParamSet.h"
 #include "quality/ui/DlgQCResult.h"
 
@@ -23,8 +24,6 @@
 
 namespace {
 
-constexpr const char* kSystemFile =
-    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5/data_process_5.sys";
 constexpr int kMargin = 20;
 constexpr int kPaintMs = 1500; // more than the map's worker takes
 
@@ -129,14 +128,16 @@ int main(int argc, char* argv[])
     const QString project = QString::fromLocal8Bit(argv[1]);
     const QString folder = QString::fromLocal8Bit(argv[2]);
     int count = 1;
-    Applicationx application(count, argv, "Skyquill", "/Tool/DataProcess5/data_process_5");
+    nameProduct();
+    Applicationx application(count, argv, kProductName, "/Tool/DataProcess5/data_process_5");
+    QApplication::setWindowIcon(programIcon());
     const LumMessageBox::Responder responder([](const auto& message) {
         return message.buttons & LumMessageBox::Button::Yes ? LumMessageBox::Button::Yes
                                                             : LumMessageBox::Button::Ok;
     });
-    get_system_ini_parameter().load(basalt::resolvedPath(kSystemFile));
+    get_system_ini_parameter().load(basalt::toolFolder() + "/data_process_5.sys");
     MainFrame& frame = application.mainFrame();
-    frame.setTitle(QStringLiteral("Skyquill"));
+    frame.setTitle(QLatin1String(kProductName));
     frame.show();
     frame.resize(1280, 800);
     letItPaint();

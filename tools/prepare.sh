@@ -39,9 +39,10 @@ build() {
     shift
     cd "$root"
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" --log-level=WARNING
-    if [ $# -gt 0 ]; then
-        cmake --build "build/$preset" --target "$@"
-    else
-        cmake --build "build/$preset"
-    fi
+    # Not a job more than there are processors: each takes up to a gigabyte.
+    local jobs=(--parallel "$(nproc)") targets=()
+    [ $# -eq 0 ] || targets=(--target "$@")
+    # Precompiled headers carry times, which would keep ccache from finding anything.
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime \
+        cmake --build "build/$preset" "${jobs[@]}" "${targets[@]}"
 }

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AboutCommand</name>
+    <message>
+        <source>Stake-out data of land seismic surveys</source>
+        <translation>陆地地震勘探放样数据处理</translation>
+    </message>
+</context>
+<context>
     <name>AngleText</name>
     <message>
         <source>deg</source>
@@ -18,14 +25,6 @@
 </context>
 <context>
     <name>Applicationx</name>
-    <message>
-        <source>Skyquill</source>
-        <translation>Skyquill</translation>
-    </message>
-    <message>
-        <source>Stake-out data of land seismic surveys</source>
-        <translation>陆地地震勘探放样数据处理</translation>
-    </message>
     <message>
         <source>Print the CPU time to the shown window, and leave.</source>
         <translation>输出到窗口显示为止所用的 CPU 时间，然后退出。</translation>
@@ -630,10 +629,6 @@
     <message>
         <source>Version %1</source>
         <translation>版本 %1</translation>
-    </message>
-    <message>
-        <source>Stake-out data of land seismic surveys</source>
-        <translation>陆地地震勘探放样数据处理</translation>
     </message>
 </context>
 <context>

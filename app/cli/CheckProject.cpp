@@ -3,8 +3,8 @@
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
 #include "basalt_utilities/Numbers.h"
-#include "lum_sdk/WholeFile.h"
-#include "project/model/PointNumber.h"
+#include "lum_sdk/files/WholeFile.h"
+#include "model/PointNumber.h"
 #include "quality/QualityDescription.h"
 
 #include <QFileInfo>

@@ -1,9 +1,9 @@
 #include "app/cli/CliProject.h"
 
-#include "app/protocol/Events.h"
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/Text.h"
+#include "protocol/Events.h"
 
 #include <QFileInfo>
 

@@ -2,12 +2,12 @@
 
 #include "app/cli/CliCommands.h"
 #include "basalt_utilities/Dictionary.h"
-#include "lum_sdk/CoordCheck.h"
-#include "lum_sdk/CoordStoredForm.h"
-#include "lum_sdk/EpsgDatumShift.h"
-#include "lum_sdk/EpsgSystem.h"
+#include "lum_sdk/coords/CoordCheck.h"
+#include "lum_sdk/coords/CoordStoredForm.h"
+#include "lum_sdk/coords/EpsgDatumShift.h"
+#include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/Text.h"
-#include "project/model/CoordinateRecord.h"
+#include "model/CoordinateRecord.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectPlace.h"
 

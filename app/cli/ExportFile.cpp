@@ -2,12 +2,12 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
-#include "app/protocol/ProgressReporter.h"
-#include "app/protocol/StatusKeys.h"
 #include "exchange/DesignCsvWriter.h"
 #include "exchange/ExportColumns.h"
 #include "exchange/SurveyCsvWriter.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "protocol/StatusKeys.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
-#include "lum_sdk/CoordProjections.h"
-#include "lum_sdk/ICoordTransform.h"
-#include "lum_sdk/ProjectCoordTransform.h"
+#include "lum_sdk/coords/CoordProjections.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Text.h"
-#include "project/model/CoordinateRecord.h"
+#include "model/CoordinateRecord.h"
 #include "project/ProjectFile.h"
 
 #include <cstdio>

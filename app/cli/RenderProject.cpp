@@ -2,7 +2,7 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
-#include "lum_sdk/WholeFile.h"
+#include "lum_sdk/files/WholeFile.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
 #include "map/DesignSpacing.h"

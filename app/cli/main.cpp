@@ -1,12 +1,12 @@
 // skyquill-cli: the program's work without a window, for scripts and nightly checks.
 
 #include "app/cli/CliCommands.h"
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/ILogger.h"
-#include "basalt_utilities/Paths.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/files/Translations.h"
 #include "lum_sdk/Text.h"
-#include "lum_sdk/Translations.h"
+#include "protocol/ProductName.h"
+#include "protocol/StatusKeys.h"
 
 #include <QGuiApplication>
 #include <QTextCodec>
@@ -16,17 +16,16 @@
 
 namespace {
 
-constexpr const char* kConfig = "$(APP_DIR)/../etc/Tarvona/config/Skyquill";
-constexpr const char* kTool = "/Tool/DataProcess5/data_process_5";
-
 /// The configuration and the settings that the program with the window has.
 void readConfiguration()
 {
-    const std::string folder = basalt::resolvedPath(kConfig);
-    get_system_config_parameter().load(folder + kTool + ".xml");
-    get_system_ini_parameter().load(folder + kTool + ".sys");
+    const std::string tool = basalt::toolFolder() + "/data_process_5";
+    get_system_config_parameter().load(tool + ".xml");
+    get_system_ini_parameter().load(tool + ".sys");
     const auto language = get_system_ini_parameter().dictionary().text(settings::kLanguage);
-    lum::loadTranslations(lum::toQString(language), QString::fromStdString(folder + "/Language"));
+    lum::loadTranslations(lum::toQString(language),
+                          QString::fromStdString(basalt::configFolder() + "/Language"),
+                          QCoreApplication::applicationName().toLower());
 }
 
 /// A graphical one only where it is needed, and never with a display.
@@ -52,10 +51,11 @@ int report(const CliResult& result)
 
 int main(int argc, char* argv[])
 {
+    nameProduct();
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also where it is "C"
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Tarvona"));
-    QCoreApplication::setApplicationName(QStringLiteral("Skyquill"));
+    QCoreApplication::setOrganizationName(QLatin1String(kOrganisation));
+    QCoreApplication::setApplicationName(QLatin1String(kProductName));
     basalt::keepLogOffConsole(); // what the user has to know is one line of ours
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.value(0) == QLatin1String("--help")) {

@@ -1,14 +1,12 @@
 #include "map/ui/DataProcessLayerImp.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/Payloads.h"
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 #include "map/DesignPicture.h"
 #include "map/DesignSpacing.h"
@@ -16,6 +14,9 @@
 #include "map/SurveyPicture.h"
 #include "map/ui/LayerTexts.h"
 #include "project/DataProcessDataManager.h"
+#include "protocol/Events.h"
+#include "protocol/Payloads.h"
+#include "protocol/StatusKeys.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -36,9 +37,9 @@ constexpr const char* kRebuildEvents[] = {events::kPaintingLayerUpdate,
 
 std::string subscribedEvents()
 {
-    std::string names;
+    std::string names = events::kUpdateSystemStatus;
     for (const char* name : kRebuildEvents)
-        names.append(names.empty() ? "" : ",").append(name);
+        names.append(",").append(name);
     return names;
 }
 
@@ -73,6 +74,10 @@ bool DataProcessLayerImp::IsVisible() const
 void DataProcessLayerImp::handleEvent(const char* eventName, const char* /*payload*/,
                                       int /*reserved*/)
 {
+    if (std::strcmp(eventName, events::kUpdateSystemStatus) == 0) {
+        dropForeignMarks();
+        return;
+    }
     const bool isDue = std::any_of(std::begin(kRebuildEvents), std::end(kRebuildEvents),
                                    [&](const char* name) { return !std::strcmp(name, eventName); });
     if (isDue)
@@ -119,6 +124,21 @@ void DataProcessLayerImp::handOverExtent()
     // The top, alone of the four, is a whole number; not by QRect, whose numbers end at 2^31.
     map->setExtent(m_extent.left(), std::floor(m_extent.top()), m_extent.right(),
                    m_extent.bottom());
+}
+
+/// Clears the overlays when another project is open than the one that they mark.
+void DataProcessLayerImp::dropForeignMarks()
+{
+    const std::string_view project = get_system_status_dictionary().text(status::kProjectPath);
+    if (project == m_project)
+        return;
+    m_project = project;
+    auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+    if (map == nullptr)
+        return;
+    for (const int number : {0, 1})
+        map->overlay(number).clear();
+    map->refreshOverlay();
 }
 
 // --- painting ---

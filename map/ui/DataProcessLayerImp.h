@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/protocol/EventSubscription.h"
 #include "basalt_utilities/Dictionary.h"
-#include "lum_desktop_sdkx/IDataLayer.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
 #include "map/DesignMarks.h"
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
+#include "map/ui/IDataLayer.h"
 
 #include <atomic>
 #include <mutex>
@@ -70,6 +70,7 @@ private:
     void rebuildDesign();
     void rebuildSurvey();
     void handOverExtent();
+    void dropForeignMarks();
 
     void paintDesignPicture(const PaintTarget& target, const Surroundings& surroundings,
                             QPainter& painter);
@@ -89,6 +90,7 @@ private:
     ICoordTransformHelper& m_helper;
     const Transform* m_transform = nullptr; // the map's
     QRectF m_extent;
+    std::string m_project; ///< the folder of the project that the map's overlays mark
     EventSubscription m_subscription;
 
     // A rebuild changes a cache under its mutex, a paint reads it under the same.

@@ -1,6 +1,6 @@
 #include "map/ui/DrawReceiverCommand.h"
 
-#include "app/protocol/StatusKeys.h"
+#include "protocol/StatusKeys.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #include "map/ui/LineToggleCommand.h"
 
 #include "lum_desktop_sdkx/IMapWindow.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 
 LineToggleCommand::LineToggleCommand(const char* config, IDesktopHost* host, const char* statusKey)
     : MapCommandBase(config, host), m_statusKey(statusKey)

@@ -1,10 +1,10 @@
 #include "map/ui/MapCommandBase.h"
 
-#include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "protocol/Events.h"
 
 IMapWindow* MapCommandBase::map() const
 {

@@ -1,8 +1,8 @@
 #include "map/ui/MouseMode.h"
 
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "protocol/StatusKeys.h"
 
 #include <QCursor>
 

@@ -1,18 +1,18 @@
 #include "map/ui/SeletePointReactor.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/Payloads.h"
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/Dictionary.h"
-#include "lum_desktop_sdkx/IDataLayer.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/MouseKeyEventParameters.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/IHost.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "map/ui/IDataLayer.h"
 #include "map/ui/LayerTexts.h"
+#include "protocol/Events.h"
+#include "protocol/Payloads.h"
+#include "protocol/StatusKeys.h"
 
 #include <QColor>
 

@@ -1,12 +1,12 @@
 #include "map/ui/ViewChangeCommand.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_sdk/IEventManager.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 
 void ViewChangeCommand::execute()
 {

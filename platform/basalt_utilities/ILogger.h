@@ -22,9 +22,9 @@ public:
 };
 
 /// The one logger of the process, made at the first call: a rotating file
-/// "<state folder>/Tarvona/Skyquill/skyquill.log" (5 files of 2 MB), and warnings and errors on
-/// standard error too. When the file cannot be written, standard error says so and is all there is.
-/// A line that is repeated at once is counted, not written again.
+/// "<state folder>/<product in small letters>.log" (5 files of 2 MB; see Product.h), and warnings
+/// and errors on standard error too. When the file cannot be written, standard error says so and is
+/// all there is. A line that is repeated at once is counted, not written again.
 [[nodiscard]] ILogger* rism_logger_get_instance();
 
 namespace basalt {

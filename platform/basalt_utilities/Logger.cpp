@@ -1,5 +1,5 @@
 #include "basalt_utilities/ILogger.h"
-#include "basalt_utilities/Paths.h"
+#include "basalt_utilities/Product.h"
 
 #include <spdlog/sinks/dup_filter_sink.h>
 #include <spdlog/sinks/rotating_file_sink.h>
@@ -32,6 +32,15 @@ spdlog::level::level_enum toSpdlog(ILogger::Level level)
     return spdlog::level::err;
 }
 
+/// The product's name in small letters.
+std::string logName()
+{
+    std::string name = basalt::product().name;
+    for (char& c : name)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return name;
+}
+
 class Logger final : public ILogger
 {
 public:
@@ -43,7 +52,7 @@ public:
         sinks->add_sink(m_console);
         std::string problem;
         try {
-            const std::string path = basalt::stateFolder() + "/skyquill.log";
+            const std::string path = basalt::stateFolder() + '/' + logName() + ".log";
             const auto file =
                 std::make_shared<spdlog::sinks::rotating_file_sink_mt>(path, kFileBytes, kOldFiles);
             file->set_pattern("%Y-%m-%d %H:%M:%S.%e %l %v");
@@ -51,7 +60,7 @@ public:
         } catch (const std::exception& fault) { // a library's exception ends here
             problem = fault.what();
         }
-        m_logger = std::make_unique<spdlog::logger>("skyquill", sinks);
+        m_logger = std::make_unique<spdlog::logger>(logName(), sinks);
         m_logger->set_level(spdlog::level::debug);
         m_logger->flush_on(spdlog::level::info); // a crash must not take the last lines with it
         m_logger->set_error_handler([](const std::string&) {}); // a full disk must not spam

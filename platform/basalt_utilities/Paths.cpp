@@ -1,6 +1,5 @@
 #include "basalt_utilities/Paths.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
@@ -14,19 +13,6 @@ std::string executableFolder()
     std::error_code fault;
     const auto self = std::filesystem::read_symlink("/proc/self/exe", fault);
     return fault ? std::string(".") : self.parent_path().string();
-}
-
-std::string userFolder(const char* variable, const char* below)
-{
-    const char* folder = std::getenv(variable);
-    std::filesystem::path base;
-    if (folder != nullptr && folder[0] == '/') { // relative ones are invalid by the XDG rules
-        base = folder;
-    } else {
-        const char* home = std::getenv("HOME");
-        base = std::filesystem::path(home != nullptr ? home : "/tmp") / below;
-    }
-    return (base / "Tarvona" / "Skyquill").string();
 }
 
 } // namespace
@@ -55,16 +41,6 @@ std::string resolvedPath(std::string_view path)
         at += folder.size();
     }
     return std::filesystem::path(text).lexically_normal().string();
-}
-
-std::string stateFolder()
-{
-    return userFolder("XDG_STATE_HOME", ".local/state");
-}
-
-std::string settingsFolder()
-{
-    return userFolder("XDG_CONFIG_HOME", ".config");
 }
 
 } // namespace basalt

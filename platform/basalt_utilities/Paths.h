@@ -14,12 +14,4 @@ namespace basalt {
 /// The same without a limit.
 [[nodiscard]] std::string resolvedPath(std::string_view path);
 
-/// The folder of the user's log, "$XDG_STATE_HOME/Tarvona/Skyquill" (by default under
-/// "~/.local/state"). Not made here.
-[[nodiscard]] std::string stateFolder();
-
-/// The folder of the user's settings, "$XDG_CONFIG_HOME/Tarvona/Skyquill" (by default under
-/// "~/.config"). Not made here.
-[[nodiscard]] std::string settingsFolder();
-
 } // namespace basalt

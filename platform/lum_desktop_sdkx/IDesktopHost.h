@@ -10,6 +10,7 @@ class ICoordTransformHelper;
 class IDictionary;
 class IGuiAssistant;
 class IWindowRegistry;
+class QString;
 class QWidget;
 
 /// What the desktop offers to windows, layers, commands and assistants.
@@ -22,6 +23,9 @@ public:
 
     /// The widget that dialogs stand over; null while there is no main frame.
     [[nodiscard]] virtual QWidget* dialogParent() = 0;
+
+    /// Names what is open in the frame's title; an empty text when nothing is.
+    virtual void setDocument(const QString& name) = 0;
 };
 
 /// Project plane coordinates to map coordinates and back.

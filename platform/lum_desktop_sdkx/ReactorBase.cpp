@@ -1,9 +1,9 @@
 #include "lum_desktop_sdkx/ReactorBase.h"
 
-#include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/MouseKeyEventParameters.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/IHost.h"
 
 int ReactorBase::lButtonDown(const MouseKeyEventParameters& /*event*/)

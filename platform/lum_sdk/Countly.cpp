@@ -2,8 +2,8 @@
 
 #include "basalt_utilities/Files.h"
 #include "basalt_utilities/ILogger.h"
-#include "basalt_utilities/Paths.h"
-#include "lum_sdk/WholeFile.h"
+#include "basalt_utilities/Product.h"
+#include "lum_sdk/files/WholeFile.h"
 
 #include <QCoreApplication>
 #include <QFile>

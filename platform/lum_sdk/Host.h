@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_sdk/EventManager.h"
+#include "lum_sdk/events/EventManager.h"
 #include "lum_sdk/IHost.h"
 
 /// A host without windows, for tools that run without a display.

@@ -1,13 +1,13 @@
 #include "project/ui/CloseProjectCommand.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/IEventManager.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ui/ProjectSession.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 
 void CloseProjectCommand::execute()
 {
@@ -21,6 +21,6 @@ void CloseProjectCommand::execute()
     IEventManager& events = host().eventManager();
     events.publish(events::kRefreshDesignLayer, nullptr, 0);
     events.publish(events::kRefreshSurveyLayer, nullptr, 0);
-    ProjectSession::clearStatus();
+    ProjectSession::clearStatus(host());
     events.publish(events::kUpdateSystemStatus, nullptr, 0);
 }

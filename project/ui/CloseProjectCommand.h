@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_desktop_sdkx/ProjectCommandBase.h"
+#include "project/ui/ProjectCommandBase.h"
 
 /// Offers to save the open project, and closes it.
 class CloseProjectCommand final : public ProjectCommandBase

@@ -2,7 +2,7 @@
 
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 #include "project/ProjectPlace.h"
 

@@ -1,18 +1,18 @@
 #include "project/ui/DlgProjectSet.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/Paths.h"
+#include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/coords/CoordSystemPanel.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/IEventManager.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
-#include "project/model/CoordinateRecord.h"
+#include "model/CoordinateRecord.h"
 #include "project/ProjectFile.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -24,8 +24,6 @@
 
 namespace {
 
-constexpr const char* kControlXml =
-    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/CommInfoSet.xml";
 constexpr const char* kUnit = "unit";         // row of the general page; the setting "un_coordUnit"
 constexpr const char* kName = "project_name"; // row: the last part of the folder
 constexpr int kGeneralPage = 0;
@@ -91,7 +89,7 @@ QWidget* DlgProjectSet::makeGeneralPage()
     values.set(ProjectFile::kPath, QDir::toNativeSeparators(folder).toStdString());
     values.set(kUnit, get_system_ini_parameter().dictionary().text(settings::kCoordUnit, "0"));
     m_general = new PropertyGridCtrl(this);
-    m_general->init(QString::fromStdString(basalt::resolvedPath(kControlXml)), values);
+    m_general->init(QString::fromStdString(basalt::controlFile("CommInfoSet")), values);
     m_general->setHeaderVisible(false);
     m_general->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);
     return m_general;

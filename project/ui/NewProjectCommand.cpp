@@ -1,10 +1,9 @@
 #include "project/ui/NewProjectCommand.h"
 
-#include "app/protocol/Events.h"
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/IEventManager.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectPlace.h"
@@ -12,6 +11,7 @@
 #include "project/ui/DlgNewProject.h"
 #include "project/ui/DlgProjectSet.h"
 #include "project/ui/ProjectSession.h"
+#include "protocol/Events.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -86,7 +86,7 @@ void NewProjectCommand::open(const ProjectPlace& place)
         reportFailure(host(), result.message);
         return;
     }
-    ProjectSession::setStatus(place);
+    ProjectSession::setStatus(host(), place);
     RecentProjects::add(place.file);
     IEventManager& events = host().eventManager();
     events.publish(events::kRefreshDesignLayer, nullptr, 0);

@@ -1,16 +1,16 @@
 #include "project/ui/ProjectSession.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/IEventManager.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "project/RecentProjects.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -77,7 +77,7 @@ bool open(IDesktopHost& host, const QString& file)
     IEventManager& events = host.eventManager();
     events.publish(events::kRefreshDesignLayer, nullptr, 0);
     events.publish(events::kRefreshSurveyLayer, nullptr, 0);
-    setStatus(place);
+    setStatus(host, place);
     RecentProjects::add(place.file);
     events.publish(events::kUpdateSystemStatus, nullptr, 0);
     if (!result.message.isEmpty())
@@ -100,20 +100,22 @@ bool mayForget(IDesktopHost& host)
                LumMessageBox::Buttons(Button::Yes) | Button::No) == Button::Yes;
 }
 
-void setStatus(const ProjectPlace& place)
+void setStatus(IDesktopHost& host, const ProjectPlace& place)
 {
     IDictionary& values = get_system_status_dictionary();
     values.set(status::kProjectOpen, "1");
     values.set(status::kProjectPath, place.folder.toStdString());
     values.set(status::kProjectName, place.name.toStdString());
+    host.setDocument(place.name);
 }
 
-void clearStatus()
+void clearStatus(IDesktopHost& host)
 {
     IDictionary& values = get_system_status_dictionary();
     values.set(status::kProjectOpen, "0");
     values.set(status::kProjectPath, "");
     values.set(status::kProjectName, "");
+    host.setDocument(QString());
 }
 
 } // namespace ProjectSession

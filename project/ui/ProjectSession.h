@@ -22,8 +22,8 @@ bool open(IDesktopHost& host, const QString& file);
 /// Whether the program may forget the open project: asks when its last saving failed.
 [[nodiscard]] bool mayForget(IDesktopHost& host);
 
-/// Sets the system status to this project.
-void setStatus(const ProjectPlace& place);
-void clearStatus();
+/// Sets the system status and the frame's title to this project.
+void setStatus(IDesktopHost& host, const ProjectPlace& place);
+void clearStatus(IDesktopHost& host);
 
 } // namespace ProjectSession

@@ -1,12 +1,12 @@
 #include "project/ui/SaveProjectCommand.h"
 
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
+#include "protocol/StatusKeys.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_desktop_sdkx/ProjectCommandBase.h"
+#include "project/ui/ProjectCommandBase.h"
 
 /// Asks, and saves the open project.
 class SaveProjectCommand final : public ProjectCommandBase

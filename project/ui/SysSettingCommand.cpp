@@ -1,10 +1,10 @@
 #include "project/ui/SysSettingCommand.h"
 
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/ICoordTransform.h"
-#include "lum_sdk/ProjectCoordTransform.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "model/CoordinateRecord.h"
 #include "project/DataProcessDataManager.h"
-#include "project/model/CoordinateRecord.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/DlgProjectSet.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_desktop_sdkx/ProjectCommandBase.h"
+#include "project/ui/ProjectCommandBase.h"
 
 /// Shows the settings of the open project.
 class SysSettingCommand final : public ProjectCommandBase

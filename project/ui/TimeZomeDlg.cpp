@@ -1,9 +1,9 @@
 #include "project/ui/TimeZomeDlg.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
-#include "lum_sdk/IEventManager.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

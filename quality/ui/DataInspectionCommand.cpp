@@ -1,10 +1,10 @@
 #include "quality/ui/DataInspectionCommand.h"
 
-#include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/IEventManager.h"
 #include "project/DataProcessDataManager.h"
+#include "protocol/Events.h"
 #include "quality/ui/DlgQCResult.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_desktop_sdkx/ProjectCommandBase.h"
+#include "project/ui/ProjectCommandBase.h"
 
 /// Judges every survey result by the quality parameters, and lists the faults.
 class DataInspectionCommand final : public ProjectCommandBase

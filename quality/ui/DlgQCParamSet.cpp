@@ -1,7 +1,7 @@
 #include "quality/ui/DlgQCParamSet.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/Paths.h"
+#include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "quality/QualityLimits.h"
@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr const char* kControlXml =
-    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/QCParam.xml";
 constexpr int kMargin = 5;
 
 } // namespace
@@ -24,7 +22,7 @@ DlgQCParamSet::DlgQCParamSet(QWidget* parent, IDictionary& parameters)
     setWindowTitle(tr("Quality Specification"));
     setFixedSizeScaled(500, 550);
     setStyleSheet(QStringLiteral("DlgQualitySpecificate{background:white;}")); // spelled so
-    m_grid->init(QString::fromStdString(basalt::resolvedPath(kControlXml)), parameters);
+    m_grid->init(QString::fromStdString(basalt::controlFile("QCParam")), parameters);
     m_grid->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);
     m_grid->setHeaderVisible(false);
     m_grid->setDescriptionVisible(false);

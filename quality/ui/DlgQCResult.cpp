@@ -1,16 +1,16 @@
 #include "quality/ui/DlgQCResult.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_desktop_sdkx/MapHighlight.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "map/ui/MapHighlight.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ISurveyPointList.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 #include "quality/ui/QualityResultModel.h"
 
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/protocol/EventSubscription.h"
 #include "lum_desktop_sdkx/dialogs/Dialog.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
 #include "quality/QualityDescription.h"
 
 class CustomTableWidget;

@@ -2,7 +2,7 @@
 
 #include "basalt_utilities/Numbers.h"
 #include "lum_sdk/Text.h"
-#include "project/model/PointNumber.h"
+#include "model/PointNumber.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_desktop_sdkx/ProjectCommandBase.h"
+#include "project/ui/ProjectCommandBase.h"
 
 /// Lets the user set the limits of the quality check. Spelled as registered.
 class QualitySpecificateCommand final : public ProjectCommandBase

@@ -1,5 +1,3 @@
-#include "app/protocol/Events.h"
-#include "app/protocol/Payloads.h"
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
@@ -10,10 +8,12 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Host.h"
-#include "lum_sdk/SystemDictionaries.h"
 #include "lum_sdk/Transform.h"
 #include "project/DataProcessDataManager.h"
+#include "protocol/Events.h"
+#include "protocol/Payloads.h"
 
 #include <QLabel>
 #include <QProgressBar>

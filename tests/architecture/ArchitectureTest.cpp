@@ -32,14 +32,32 @@ std::vector<std::string> sourcesOf(const char* folder)
     return sources;
 }
 
+std::string contentOf(const std::string& file)
+{
+    std::ifstream text(std::string(SOURCE_FOLDER) + '/' + file);
+    return {std::istreambuf_iterator<char>(text), {}};
+}
+
 } // namespace
+
+TEST(Architecture, ThePlatformDoesNotKnowWhoseItIs)
+{
+    std::vector<std::string> faults;
+    for (const std::string& file : sourcesOf("platform")) {
+        for (const char* word : {"Skyquill", "skyquill", "Tarvona", "project_open", "stake"}) {
+            if (contentOf(file).find(word) != std::string::npos)
+                faults.push_back(file + ": " + word);
+        }
+    }
+    EXPECT_EQ(joined(faults), "");
+}
 
 TEST(Architecture, EveryIncludePointsDown)
 {
     std::vector<std::string> faults;
     std::size_t headers = 0;
-    for (const char* folder :
-         {"platform", "app", "project", "exchange", "quality", "design", "map", "views"}) {
+    for (const char* folder : {"platform", "protocol", "model", "exchange", "quality", "design",
+                               "map", "project", "views", "app"}) {
         for (const std::string& file : sourcesOf(folder)) {
             std::ifstream text(std::string(SOURCE_FOLDER) + '/' + file);
             ASSERT_TRUE(text.is_open()) << file;
@@ -76,12 +94,13 @@ INSTANTIATE_TEST_SUITE_P(
     Floors, IncludeRule,
     testing::Values(
         IncludeCase{"OwnFolder", "platform/lum_sdk/A.cpp", "#include \"lum_sdk/B.h\"", ""},
-        IncludeCase{"LowerFloor", "app/protocol/A.h", "#include \"basalt_utilities/B.h\"", ""},
+        IncludeCase{"LowerFloor", "protocol/A.h", "#include \"basalt_utilities/B.h\"", ""},
         IncludeCase{"Upward", "platform/basalt_utilities/A.cpp", "#include \"lum_sdk/B.h\"",
                     "upward, from platform/lum_sdk"},
         IncludeCase{"UpwardInAngles", "platform/basalt_utilities/A.cpp",
                     " #  include <lum_sdk/B.h> // why", "upward"},
-        IncludeCase{"ProtocolToApp", "app/protocol/A.cpp", "#include \"app/B.h\"", "upward"},
+        IncludeCase{"ProtocolToApp", "protocol/A.cpp", "#include \"app/B.h\"", "upward"},
+        IncludeCase{"ProtocolToModel", "protocol/A.cpp", "#include \"model/B.h\"", "neighbour"},
         IncludeCase{"CommentIsNoInclude", "platform/basalt_utilities/A.cpp",
                     "// #include \"lum_sdk/B.h\"", ""},
         IncludeCase{"NotFromTheRoot", "platform/lum_sdk/A.cpp", "#include \"B.h\"", "root"},
@@ -91,19 +110,20 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Subjects, IncludeRule,
     testing::Values(
-        IncludeCase{"RecordsAreGround", "quality/A.cpp", "#include \"project/model/B.h\"", ""},
+        IncludeCase{"RecordsAreGround", "quality/A.cpp", "#include \"model/B.h\"", ""},
         IncludeCase{"Neighbours", "quality/A.cpp", "#include \"exchange/csv/B.h\"", "neighbour"},
         IncludeCase{"SubjectToManager", "quality/A.cpp", "#include \"project/B.h\"", "upward"},
         IncludeCase{"ManagerToSubject", "project/A.cpp", "#include \"quality/B.h\"", ""},
-        IncludeCase{"RecordsToManager", "project/model/A.h", "#include \"project/B.h\"", "upward"},
+        IncludeCase{"RecordsToManager", "model/A.h", "#include \"project/B.h\"", "upward"},
         IncludeCase{"CoreToItsUi", "quality/A.cpp", "#include \"quality/ui/B.h\"", "upward"},
         IncludeCase{"CoreToDesktop", "map/A.cpp", "#include \"lum_desktop_sdkx/B.h\"", "upward"},
         IncludeCase{"UiToItsCore", "quality/ui/A.cpp", "#include \"quality/B.h\"", ""},
         IncludeCase{"UiToManager", "quality/ui/A.cpp", "#include \"project/B.h\"", ""},
         IncludeCase{"UiToFrame", "map/ui/A.cpp", "#include \"lum_desktop_sdkx/frame/B.h\"", ""},
-        IncludeCase{"UiToOtherUi", "quality/ui/A.cpp", "#include \"map/ui/B.h\"", "neighbour"},
+        IncludeCase{"UiToSharedUi", "quality/ui/A.cpp", "#include \"map/ui/B.h\"", ""},
+        IncludeCase{"UiToOtherUi", "quality/ui/A.cpp", "#include \"design/ui/B.h\"", "neighbour"},
         IncludeCase{"UiToApp", "quality/ui/A.cpp", "#include \"app/B.h\"", "upward"},
-        IncludeCase{"AppToAll", "app/A.cpp", "#include \"views/ui/B.h\"", ""}),
+        IncludeCase{"AppToAll", "app/A.cpp", "#include \"views/B.h\"", ""}),
     [](const auto& test) { return test.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(
@@ -118,8 +138,10 @@ INSTANTIATE_TEST_SUITE_P(
                                 "#include \"lum_desktop_sdkx/map/B.h\"", "upward"},
                     IncludeCase{"MapToFrame", "platform/lum_desktop_sdkx/map/A.cpp",
                                 "#include \"lum_desktop_sdkx/frame/B.h\"", "upward"},
+                    IncludeCase{"PlatformToEvents", "platform/lum_sdk/events/A.cpp",
+                                "#include \"protocol/B.h\"", "upward"},
                     IncludeCase{"PlatformToRecords", "platform/lum_desktop_sdkx/map/A.cpp",
-                                "#include \"project/model/B.h\"", "the product's"}),
+                                "#include \"model/B.h\"", "the product's"}),
     [](const auto& test) { return test.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(
@@ -130,9 +152,9 @@ INSTANTIATE_TEST_SUITE_P(
         IncludeCase{"QtInSmallLetters", "platform/basalt_utilities/A.h", "#include <qglobal.h>",
                     "Qt"},
         IncludeCase{"StandardOnTheGround", "platform/basalt_utilities/A.h", "#include <queue>", ""},
-        IncludeCase{"WidgetInRecords", "project/model/A.h", "#include <QLabel>", "widgets"},
+        IncludeCase{"WidgetInRecords", "model/A.h", "#include <QLabel>", "widgets"},
         IncludeCase{"AllWidgets", "platform/lum_sdk/A.cpp", "#include <QtWidgets>", "widgets"},
-        IncludeCase{"WidgetByModule", "views/A.h", "#include <QtWidgets/QMenu>", "widgets"},
+        IncludeCase{"WidgetByModule", "design/A.h", "#include <QtWidgets/QMenu>", "widgets"},
         IncludeCase{"WidgetInSmallLetters", "project/A.h", "#include <qwidget.h>", "widgets"},
         IncludeCase{"Docking", "map/A.h", "#include <qtadvanceddocking/DockWidget.h>", "widgets"},
         IncludeCase{"PictureIsNoWidget", "map/A.h", "#include <QImage>", ""},

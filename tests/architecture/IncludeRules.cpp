@@ -8,16 +8,16 @@
 
 namespace {
 
-enum class Qt
+enum class Room
 {
-    None,
+    WithoutQt,
     WithoutWidgets,
-    Whole
+    WithWidgets
 };
 
 struct Floor
 {
-    Qt qt;
+    Room room;
     std::vector<std::string> folders;
 };
 
@@ -28,20 +28,21 @@ using Floors = std::vector<Floor>;
 const Floors& floors()
 {
     static const Floors kFloors = {
-        {Qt::None, {"platform/basalt_utilities"}},
-        {Qt::WithoutWidgets, {"platform/lum_sdk"}},
-        {Qt::WithoutWidgets, {"app/protocol"}},
-        {Qt::WithoutWidgets, {"project/model"}},                                 // records
-        {Qt::WithoutWidgets, {"exchange", "quality", "design", "map", "views"}}, // algorithms
-        {Qt::WithoutWidgets, {"project"}},                                       // data manager
-        {Qt::Whole, {"platform/lum_desktop_sdkx"}},                              // interfaces
-        {Qt::Whole, {"platform/lum_desktop_sdkx/dialogs"}},
-        {Qt::Whole, {"platform/lum_desktop_sdkx/controls"}},
-        {Qt::Whole, {"platform/lum_desktop_sdkx/coords"}},
-        {Qt::Whole, {"platform/lum_desktop_sdkx/map"}},
-        {Qt::Whole, {"platform/lum_desktop_sdkx/frame"}},
-        {Qt::Whole, {"project/ui", "exchange/ui", "quality/ui", "design/ui", "map/ui", "views/ui"}},
-        {Qt::Whole, {"app"}},
+        {Room::WithoutQt, {"platform/basalt_utilities"}},
+        {Room::WithoutWidgets, {"platform/lum_sdk"}},
+        {Room::WithoutWidgets, {"protocol", "model"}},
+        {Room::WithoutWidgets, {"exchange", "quality", "design", "map"}},
+        {Room::WithoutWidgets, {"project"}},
+        {Room::WithWidgets, {"platform/lum_desktop_sdkx"}}, // the interfaces at its top
+        {Room::WithWidgets, {"platform/lum_desktop_sdkx/dialogs"}},
+        {Room::WithWidgets, {"platform/lum_desktop_sdkx/controls"}},
+        {Room::WithWidgets, {"platform/lum_desktop_sdkx/coords"}},
+        {Room::WithWidgets, {"platform/lum_desktop_sdkx/map"}},
+        {Room::WithWidgets, {"platform/lum_desktop_sdkx/frame"}},
+        {Room::WithWidgets, {"project/ui"}}, // what all user interface shares: the open project,
+        {Room::WithWidgets, {"map/ui"}},     // and a point shown on the map
+        {Room::WithWidgets, {"exchange/ui", "quality/ui", "design/ui", "views"}},
+        {Room::WithWidgets, {"app"}},
     };
     return kFloors;
 }
@@ -72,9 +73,9 @@ std::string fromRoot(const std::string& included)
     return placeOf(inPlatform).folder.empty() ? included : inPlatform;
 }
 
-bool isProduct(const Place& place)
+bool isPlatform(const Place& place)
 {
-    return place.folder.rfind("platform/", 0) != 0 && place.folder != "app/protocol";
+    return place.folder.rfind("platform/", 0) == 0;
 }
 
 bool isQt(const std::string& header)
@@ -98,10 +99,10 @@ bool isWidget(std::string header)
 
 std::string foreignFault(const Place& from, const std::string& header)
 {
-    const Qt allowed = floors()[from.height].qt;
-    if (allowed == Qt::None && (isQt(header) || isWidget(header)))
+    const Room room = floors()[from.height].room;
+    if (room == Room::WithoutQt && (isQt(header) || isWidget(header)))
         return from.folder + " knows nothing of Qt, <" + header + ">";
-    if (allowed == Qt::WithoutWidgets && isWidget(header))
+    if (room == Room::WithoutWidgets && isWidget(header))
         return from.folder + " knows nothing of widgets, <" + header + ">";
     return {};
 }
@@ -114,7 +115,7 @@ std::string ownFault(const Place& from, const Place& to)
         return from.folder + " includes upward, from " + to.folder;
     if (to.height == from.height)
         return from.folder + " includes from its neighbour " + to.folder;
-    if (!isProduct(from) && isProduct(to))
+    if (isPlatform(from) && !isPlatform(to))
         return from.folder + " is of the platform and includes from the product's " + to.folder;
     return {};
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/protocol/Events.h"
-#include "app/protocol/ProgressReporter.h"
 #include "exchange/ImportSummary.h"
-#include "lum_sdk/EventManager.h"
+#include "lum_sdk/events/EventManager.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "protocol/Events.h"
 
 #include <QFile>
 #include <QTemporaryDir>

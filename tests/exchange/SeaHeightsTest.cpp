@@ -1,7 +1,7 @@
 #include "exchange/SeaHeights.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "lum_sdk/CoordWjl.h"
+#include "lum_sdk/coords/CoordWjl.h"
 
 #include <gtest/gtest.h>
 

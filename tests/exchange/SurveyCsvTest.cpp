@@ -2,7 +2,7 @@
 #include "exchange/ExportColumns.h"
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
-#include "project/model/SurveyColumns.h"
+#include "model/SurveyColumns.h"
 
 #include <QCoreApplication>
 #include <QSet>

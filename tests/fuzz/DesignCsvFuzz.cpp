@@ -1,8 +1,8 @@
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/Utf8.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/ImportSummary.h"
 #include "FuzzFile.h"
+#include "lum_sdk/events/ProgressReporter.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "basalt_utilities/Dictionary.h"
 #include "Hold.h"
-#include "lum_sdk/DictionaryXml.h"
+#include "lum_sdk/files/DictionaryXml.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,4 +1,3 @@
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Utf8.h"
 #include "exchange/ImportSummary.h"
@@ -6,7 +5,8 @@
 #include "exchange/SurveyRowReader.h"
 #include "exchange/SurveyRowWriter.h"
 #include "FuzzFile.h"
-#include "project/model/PointNumber.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "model/PointNumber.h"
 
 #include <cmath>
 

@@ -4,7 +4,7 @@
 #include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_sdk/EventManager.h"
+#include "lum_sdk/events/EventManager.h"
 
 #include <QHash>
 #include <QStringList>
@@ -57,10 +57,12 @@ public:
     [[nodiscard]] ICommandList& commands() override { return commandList; }
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return coordHelper; }
     [[nodiscard]] QWidget* dialogParent() override { return frame; }
+    void setDocument(const QString& name) override { document = name; }
 
     EventManager events;
     TestWindowRegistry windowRegistry;
     QWidget* frame = nullptr;
+    QString document; ///< its name in the title
     TestCommandList commandList;
     CoordTransformHelper coordHelper;
 };

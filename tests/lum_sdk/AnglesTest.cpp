@@ -1,4 +1,4 @@
-#include "lum_sdk/Angles.h"
+#include "lum_sdk/coords/Angles.h"
 
 #include "basalt_utilities/Numbers.h"
 

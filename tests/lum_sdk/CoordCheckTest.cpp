@@ -1,4 +1,4 @@
-#include "lum_sdk/CoordCheck.h"
+#include "lum_sdk/coords/CoordCheck.h"
 
 #include "tests/lum_sdk/CoordFixture.h"
 

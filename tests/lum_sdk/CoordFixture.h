@@ -2,7 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
-#include "lum_sdk/CoordWjl.h"
+#include "lum_sdk/coords/CoordWjl.h"
 
 #include <initializer_list>
 #include <string>

@@ -1,4 +1,4 @@
-#include "lum_sdk/CoordProjections.h"
+#include "lum_sdk/coords/CoordProjections.h"
 #include "tests/lum_sdk/CoordFixture.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "lum_sdk/CoordStoredForm.h"
+#include "lum_sdk/coords/CoordStoredForm.h"
 
-#include "lum_sdk/EpsgSystem.h"
+#include "lum_sdk/coords/EpsgSystem.h"
 #include "tests/lum_sdk/CoordFixture.h"
 
 #include <gtest/gtest.h>

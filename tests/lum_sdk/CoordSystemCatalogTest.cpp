@@ -1,7 +1,7 @@
-#include "lum_sdk/CoordSystemCatalog.h"
+#include "lum_sdk/coords/CoordSystemCatalog.h"
 
-#include "lum_sdk/EpsgSystem.h"
-#include "lum_sdk/ProjHandles.h"
+#include "lum_sdk/coords/EpsgSystem.h"
+#include "lum_sdk/coords/ProjHandles.h"
 #include "tests/lum_sdk/CoordFixture.h"
 
 #include <gtest/gtest.h>

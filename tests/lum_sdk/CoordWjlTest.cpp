@@ -1,4 +1,4 @@
-#include "lum_sdk/CoordResult.h"
+#include "lum_sdk/coords/CoordResult.h"
 #include "tests/lum_sdk/CoordFixture.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "lum_sdk/DatumShift.h"
+#include "lum_sdk/coords/DatumShift.h"
 
-#include "lum_sdk/ProjHandles.h"
+#include "lum_sdk/coords/ProjHandles.h"
 #include "tests/lum_sdk/CoordFixture.h"
 
 #include <gtest/gtest.h>

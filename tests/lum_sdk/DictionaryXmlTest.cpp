@@ -1,4 +1,4 @@
-#include "lum_sdk/DictionaryXml.h"
+#include "lum_sdk/files/DictionaryXml.h"
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/ILogger.h"

@@ -1,9 +1,9 @@
-#include "lum_sdk/EventManager.h"
+#include "lum_sdk/events/EventManager.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/EventSubscription.h"
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/ILogger.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "protocol/Events.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
 #include "basalt_utilities/Dictionary.h"
-#include "lum_sdk/IDBAdapter.h"
-#include "lum_sdk/RecordSet.h"
+#include "lum_sdk/database/IDBAdapter.h"
+#include "lum_sdk/database/RecordSet.h"
 
 #include <QFile>
 #include <QTemporaryDir>

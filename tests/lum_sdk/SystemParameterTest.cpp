@@ -1,7 +1,7 @@
-#include "lum_sdk/SystemParameter.h"
+#include "lum_sdk/files/SystemParameter.h"
 
 #include "basalt_utilities/Files.h"
-#include "lum_sdk/DictionaryXml.h"
+#include "lum_sdk/files/DictionaryXml.h"
 
 #include <QFile>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "map/DesignPicture.h"
-#include "project/model/PointLines.h"
+#include "model/PointLines.h"
 
 class QPainter;
 struct PictureFrame;

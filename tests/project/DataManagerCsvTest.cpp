@@ -1,9 +1,9 @@
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/IDictionary.h"
 #include "exchange/ImportSummary.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Host.h"
-#include "lum_sdk/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
+#include "protocol/StatusKeys.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "project/model/PointLines.h"
+#include "model/PointLines.h"
 
 #include <gtest/gtest.h>
 

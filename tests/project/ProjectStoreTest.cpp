@@ -1,8 +1,8 @@
-#include "app/protocol/Events.h"
-#include "app/protocol/EventSubscription.h"
-#include "lum_sdk/EventManager.h"
-#include "lum_sdk/RecordSet.h"
-#include "project/model/PointNumber.h"
+#include "lum_sdk/database/RecordSet.h"
+#include "lum_sdk/events/EventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "model/PointNumber.h"
+#include "protocol/Events.h"
 #include "tests/project/TestProject.h"
 #include "tests/SmallFiles.h"
 

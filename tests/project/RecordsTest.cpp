@@ -1,9 +1,9 @@
 #include "basalt_utilities/Dictionary.h"
-#include "project/model/CodeTables.h"
-#include "project/model/CoordinateRecord.h"
-#include "project/model/DesignRecord.h"
-#include "project/model/PointNumber.h"
-#include "project/model/SurveyRecord.h"
+#include "model/CodeTables.h"
+#include "model/CoordinateRecord.h"
+#include "model/DesignRecord.h"
+#include "model/PointNumber.h"
+#include "model/SurveyRecord.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/protocol/ProgressReporter.h"
 #include "basalt_utilities/Dictionary.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "model/PointLines.h"
 #include "project/DBAdapter.h"
-#include "project/model/PointLines.h"
 #include "project/ProjectLoader.h"
 #include "project/ProjectSaver.h"
 

@@ -1,15 +1,15 @@
 #include "lum_desktop_sdkx/coords/CoordSystemPanel.h"
 
-#include "basalt_utilities/Paths.h"
+#include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/coords/CoordSystemRows.h"
 #include "lum_desktop_sdkx/coords/CoordSystemSearch.h"
 #include "lum_desktop_sdkx/coords/DatumShiftChoice.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_sdk/CoordCheck.h"
-#include "lum_sdk/CoordStoredForm.h"
+#include "lum_sdk/coords/CoordCheck.h"
+#include "lum_sdk/coords/CoordStoredForm.h"
+#include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/EpsgSystem.h"
 #include "lum_sdk/Text.h"
 
 #include <QLabel>
@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr const char* kControlFile =
-    "$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/CoordSystem.xml";
 constexpr const char* kId = "coord_param_id";
 constexpr const char* kUndefinedId = "Undefined";
 constexpr const char* kRegister = "EPSG:";
@@ -150,7 +148,7 @@ void CoordSystemPanel::followEllipsoid(const QString& editedKey, const QString& 
 
 void CoordSystemPanel::show(const IDictionary& parameters)
 {
-    const QString file = QString::fromStdString(basalt::resolvedPath(kControlFile));
+    const QString file = QString::fromStdString(basalt::controlFile("CoordSystem"));
     if (!m_grid->init(file, parameters)) {
         for (std::size_t i = 0; i < parameters.size(); ++i) // shown or not, nothing is lost
             m_grid->setValue(lum::toQString(parameters.keyAt(i)),

@@ -2,8 +2,8 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
-#include "lum_sdk/CoordProjections.h"
-#include "lum_sdk/DatumShift.h"
+#include "lum_sdk/coords/CoordProjections.h"
+#include "lum_sdk/coords/DatumShift.h"
 #include "lum_sdk/Text.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_sdk/CoordSystemCatalog.h"
+#include "lum_sdk/coords/CoordSystemCatalog.h"
 
 #include <QAbstractTableModel>
 

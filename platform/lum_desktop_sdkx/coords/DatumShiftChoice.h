@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lum_sdk/EpsgDatumShift.h"
+#include "lum_sdk/coords/EpsgDatumShift.h"
 
 #include <QWidget>
 

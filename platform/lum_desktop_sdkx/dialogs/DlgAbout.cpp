@@ -1,12 +1,14 @@
 #include "lum_desktop_sdkx/dialogs/DlgAbout.h"
 
-#include "lum_desktop_sdkx/dialogs/ProgramIcon.h"
+#include "app/ProgramIcon.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
 #include <QDialogButtonBox>
 #include <QFontInfo>
+#include <QGuiApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -32,9 +34,10 @@ void scaleFont(QLabel& label, double factor)
 
 } // namespace
 
-DlgAbout::DlgAbout(QWidget* parent, const QStringList& libraries) : Dialog(parent)
+DlgAbout::DlgAbout(QWidget* parent, const QString& description, const QStringList& libraries)
+    : Dialog(parent)
 {
-    setWindowTitle(tr("About %1").arg(configured("name", "Skyquill")));
+    setWindowTitle(tr("About %1").arg(configured("name", "-")));
     setFixedSizeScaled(kWidth, kHeight);
     setModal(true);
 
@@ -45,26 +48,27 @@ DlgAbout::DlgAbout(QWidget* parent, const QStringList& libraries) : Dialog(paren
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
 
     QVBoxLayout* const layout = makeMainLayout();
-    layout->addLayout(makeHead(), 1);
+    layout->addLayout(makeHead(description), 1);
     QLabel* const builtWith = makeText(tr("Built with %1.").arg(all.join(QStringLiteral(", "))));
     scaleFont(*builtWith, 0.9);
     layout->addWidget(builtWith);
     layout->addWidget(buttons);
 }
 
-QLayout* DlgAbout::makeHead()
+QLayout* DlgAbout::makeHead(const QString& description)
 {
     auto* const icon = new QLabel(this);
-    icon->setPixmap(programPixmap(dpi_scaled(kIconSize), devicePixelRatioF()));
+    const int size = dpi_scaled(kIconSize);
+    icon->setPixmap(QGuiApplication::windowIcon().pixmap(windowHandle(), QSize(size, size)));
 
-    QLabel* const name = makeText(configured("name", "Skyquill"));
+    QLabel* const name = makeText(configured("name", "-"));
     scaleFont(*name, 1.9);
     auto* const words = new QVBoxLayout;
     words->setSpacing(dpi_scaled(6));
     words->addStretch();
     words->addWidget(name);
     words->addWidget(makeText(tr("Version %1").arg(configured("version", "-"))));
-    words->addWidget(makeText(tr("Stake-out data of land seismic surveys")));
+    words->addWidget(makeText(description));
     words->addStretch();
 
     auto* const head = new QHBoxLayout;

@@ -6,17 +6,18 @@
 
 class QLabel;
 
-/// Name, version and purpose of the program, from the system configuration.
+/// Name and version of the program, from the system configuration, and what it is for.
 class DlgAbout : public Dialog
 {
     Q_OBJECT
 
 public:
-    /// \param libraries  name and version of each library to be named besides Qt, such as
-    ///                   "SQLite 3.40.1"
-    explicit DlgAbout(QWidget* parent, const QStringList& libraries = {});
+    /// \param description what the program is for, half a sentence
+    /// \param libraries   name and version of each library to be named besides Qt, such as
+    ///                    "SQLite 3.40.1"
+    DlgAbout(QWidget* parent, const QString& description, const QStringList& libraries = {});
 
 private:
-    [[nodiscard]] QLayout* makeHead();
+    [[nodiscard]] QLayout* makeHead(const QString& description);
     [[nodiscard]] QLabel* makeText(const QString& text);
 };

@@ -1,20 +1,19 @@
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/ILogger.h"
-#include "basalt_utilities/Paths.h"
+#include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_desktop_sdkx/dialogs/ProgramIcon.h"
 #include "lum_desktop_sdkx/frame/Appearance.h"
 #include "lum_desktop_sdkx/frame/FrameComponents.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 #include "lum_desktop_sdkx/frame/MessageLog.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
+#include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/ICoordTransform.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/files/SystemKeys.h"
+#include "lum_sdk/files/Translations.h"
 #include "lum_sdk/Text.h"
-#include "lum_sdk/Translations.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -91,16 +90,14 @@ Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, co
     : QApplication(prepared(argc), argv)
 {
     static_cast<void>(MessageLog::instance()); // hears the log from here on
-    setOrganizationName(QStringLiteral("Tarvona"));
+    setOrganizationName(QString::fromStdString(basalt::product().organisation));
     setApplicationName(QString::fromUtf8(applicationId));
-    m_configFolder = QString::fromStdString(
-        basalt::resolvedPath(std::string("$(APP_DIR)/../etc/Tarvona/config/") + applicationId));
+    m_configFolder = QString::fromStdString(basalt::configFolder());
     const QString tool = m_configFolder + QString::fromUtf8(toolPath);
     m_toolFolder = QFileInfo(tool).path();
     get_system_config_parameter().load((tool + QStringLiteral(".xml")).toStdString());
     const std::string_view version = get_system_config_parameter().dictionary().text("version");
     setApplicationVersion(lum::toQString(version));
-    setWindowIcon(programIcon());
     lum::setDpiScale(primaryScreen()->logicalDotsPerInch() / 96.0);
     registerCoordComponents();
     registerMapComponents();
@@ -127,7 +124,8 @@ MainFrame& Applicationx::mainFrame()
             return lum::toQString(text);
         };
         lum::loadTranslations(setting(settings::kLanguage),
-                              m_configFolder + QStringLiteral("/Language"));
+                              m_configFolder + QStringLiteral("/Language"),
+                              applicationName().toLower());
         desktop::applyAppearance(setting(settings::kTheme));
         m_mainFrame = std::make_unique<MainFrame>(
             m_host, loadLayout(m_toolFolder + QStringLiteral("/main_frame.xml"), m_layoutProblem));
@@ -149,7 +147,8 @@ bool Applicationx::notify(QObject* receiver, QEvent* event)
 void Applicationx::readOptions()
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Stake-out data of land seismic surveys"));
+    parser.setApplicationDescription(
+        lum::toQString(get_system_config_parameter().dictionary().text("description")));
     const QCommandLineOption startupTime(QStringLiteral("startup-time"),
                                          tr("Print the CPU time to the shown window, and leave."));
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
@@ -186,7 +185,7 @@ void Applicationx::reportShown()
     if (!m_screenshotFile.isEmpty())
         m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // whatever the screen has
     if (!m_fileToOpen.isEmpty() && !m_mainFrame->openFile(m_fileToOpen))
-        LumMessageBox::warning(m_mainFrame.get(), tr("Skyquill"),
+        LumMessageBox::warning(m_mainFrame.get(), applicationName(),
                                tr("\"%1\" is not a project file.").arg(m_fileToOpen));
     if (!m_screenshotFile.isEmpty()) {
         QTimer::singleShot(500, this, [this] { // the map's worker has painted by then
@@ -198,5 +197,5 @@ void Applicationx::reportShown()
         return;
     }
     if (!m_layoutProblem.isEmpty())
-        LumMessageBox::warning(m_mainFrame.get(), tr("Skyquill"), m_layoutProblem);
+        LumMessageBox::warning(m_mainFrame.get(), applicationName(), m_layoutProblem);
 }

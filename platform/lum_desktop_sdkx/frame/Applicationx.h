@@ -10,8 +10,8 @@ class MainFrame;
 
 /// The application object of the desktop.
 ///
-/// Its configuration lies in "$(APP_DIR)/../etc/Tarvona/config/<application id>": the configuration
-/// dictionary "<tool path>.xml", and beside it "main_frame.xml". Options of the command line:
+/// Its configuration lies in `basalt::configFolder()`: the configuration dictionary
+/// "<tool path>.xml", and beside it "main_frame.xml". Options of the command line:
 /// a file to open once the window is shown;
 /// "--startup-time" prints the CPU time to the shown window and leaves; "--screenshot FILE" writes
 /// a picture of the window and leaves; "--components" lists what is registered.

@@ -1,8 +1,8 @@
 #include "lum_desktop_sdkx/frame/CoordTransformHelper.h"
 
-#include "lum_sdk/Angles.h"
-#include "lum_sdk/ICoordTransform.h"
-#include "lum_sdk/ProjectCoordTransform.h"
+#include "lum_sdk/coords/Angles.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 
 #include <QPointF>
 

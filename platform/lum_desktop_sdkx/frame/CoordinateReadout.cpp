@@ -1,9 +1,9 @@
 #include "lum_desktop_sdkx/frame/CoordinateReadout.h"
 
-#include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/events/PlatformEvents.h"
 
 CoordinateReadout::CoordinateReadout(const char* config, IDesktopHost* host)
     : m_parameters(desktop::componentParameters(config)),

@@ -4,7 +4,9 @@
 #include "lum_desktop_sdkx/frame/CoordTransformHelper.h"
 #include "lum_desktop_sdkx/frame/WindowRegistry.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/EventManager.h"
+#include "lum_sdk/events/EventManager.h"
+
+class IMainFrame;
 
 /// The host of the desktop's components: what they share, made before the first of them.
 class DesktopHost final : public IDesktopHost
@@ -15,14 +17,16 @@ public:
     [[nodiscard]] CommandList& commands() override { return m_commands; }
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return m_helper; }
     [[nodiscard]] QWidget* dialogParent() override { return m_dialogParent; }
+    void setDocument(const QString& name) override;
 
-    /// Null while there is no main frame.
-    void setDialogParent(QWidget* parent) { m_dialogParent = parent; }
+    /// Both are one window; null while there is none.
+    void setFrame(IMainFrame* frame, QWidget* dialogParent);
 
 private:
     EventManager m_eventManager;
     CoordTransformHelper m_helper;
     WindowRegistry m_windows{this};
     CommandList m_commands;
+    IMainFrame* m_frame = nullptr;
     QWidget* m_dialogParent = nullptr;
 };

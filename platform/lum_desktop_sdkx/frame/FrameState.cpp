@@ -2,8 +2,8 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Files.h"
-#include "basalt_utilities/Paths.h"
-#include "lum_sdk/DictionaryXml.h"
+#include "basalt_utilities/Product.h"
+#include "lum_sdk/files/DictionaryXml.h"
 
 namespace {
 

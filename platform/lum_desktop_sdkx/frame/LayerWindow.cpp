@@ -1,6 +1,5 @@
 #include "lum_desktop_sdkx/frame/LayerWindow.h"
 
-#include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
@@ -8,6 +7,7 @@
 #include "lum_desktop_sdkx/ILayerViewer.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/events/PlatformEvents.h"
 
 #include <QSignalBlocker>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/protocol/EventSubscription.h"
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/IWindow.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
 
 #include <QListWidget>
 

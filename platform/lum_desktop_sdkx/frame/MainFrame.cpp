@@ -1,7 +1,5 @@
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/DockStyle.h"
@@ -10,7 +8,8 @@
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/PlatformEvents.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
 #include <QCloseEvent>
@@ -82,7 +81,7 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
 {
     setObjectName(QStringLiteral("MainFrame"));
     setAcceptDrops(true);
-    m_host.setDialogParent(this);
+    m_host.setFrame(this, this);
     m_host.windows().attach(m_docks, statusBar());
     makeAssistants(layout);
     for (const FrameLayout::Menu& menu : layout.menus) {
@@ -106,13 +105,19 @@ MainFrame::~MainFrame()
     m_assistants.clear();
     m_host.commands().clear();
     m_host.windows().clear();
-    m_host.setDialogParent(nullptr);
+    m_host.setFrame(nullptr, nullptr);
 }
 
 void MainFrame::setTitle(const QString& title)
 {
     m_title = title;
-    refreshState();
+    showTitle();
+}
+
+void MainFrame::setDocument(const QString& name)
+{
+    m_document = name;
+    showTitle();
 }
 
 bool MainFrame::openFile(const QString& path)
@@ -146,15 +151,12 @@ void MainFrame::resetArrangement()
 
 void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
 {
-    refreshState();
+    m_host.commands().refresh();
 }
 
-void MainFrame::refreshState()
+void MainFrame::showTitle()
 {
-    const IDictionary& status = get_system_status_dictionary();
-    const QString project = lum::toQString(status.text(status::kProjectName));
-    setWindowTitle(project.isEmpty() ? m_title : project + QStringLiteral(" - ") + m_title);
-    m_host.commands().refresh();
+    setWindowTitle(m_document.isEmpty() ? m_title : m_document + QStringLiteral(" - ") + m_title);
 }
 
 void MainFrame::dragEnterEvent(QDragEnterEvent* event)

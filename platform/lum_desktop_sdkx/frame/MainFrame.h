@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/protocol/EventSubscription.h"
 #include "lum_desktop_sdkx/ComponentKinds.h"
 #include "lum_desktop_sdkx/frame/FrameLayout.h"
 #include "lum_desktop_sdkx/IMainFrame.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
 
 #include <QMainWindow>
 
@@ -29,8 +29,8 @@ public:
     MainFrame(DesktopHost& host, const FrameLayout& layout);
     ~MainFrame() override;
 
-    /// The title while no project is open; the open one's name stands before it.
     void setTitle(const QString& title) override;
+    void setDocument(const QString& name) override;
     /// Shows the frame as the user left it.
     void show() override;
 
@@ -54,7 +54,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void refreshState();
+    void showTitle();
     void makeAssistants(const FrameLayout& layout);
     void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
     void listDocks(QMenu& menu);
@@ -69,6 +69,7 @@ private:
     std::vector<IGuiAssistantFactory::Pointer> m_assistants;
     std::vector<QMenu*> m_dockMenus; ///< list the windows, anew each time they are shown
     QString m_title;
+    QString m_document;
     QByteArray m_defaultToolBars;
     EventSubscription m_subscription;
     bool m_wasPainted = false;

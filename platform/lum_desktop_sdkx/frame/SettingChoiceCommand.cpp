@@ -1,10 +1,10 @@
 #include "lum_desktop_sdkx/frame/SettingChoiceCommand.h"
 
-#include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/IEventManager.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/IEventManager.h"
+#include "lum_sdk/events/PlatformEvents.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 
 #include <QCoreApplication>
 

@@ -2,8 +2,8 @@
 
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
-#include "lum_sdk/ProjectCoordTransform.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 
 SystemSettings::SystemSettings(const char* /*config*/) {}
 

@@ -1,8 +1,8 @@
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
+#include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/LineClip.h"
 
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "lum_desktop_sdkx/map/LayerRegistry.h"
 
 #include "basalt_utilities/ILogger.h"
-#include "lum_desktop_sdkx/IDataLayer.h"
 #include "lum_sdk/Transform.h"
+#include "map/ui/IDataLayer.h"
 
 #include <algorithm>
 

@@ -1,15 +1,15 @@
 #include "lum_desktop_sdkx/map/MapWindow.h"
 
-#include "app/protocol/Events.h"
-#include "app/protocol/Payloads.h"
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/map/NorthArrow.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/events/Payload.h"
+#include "lum_sdk/events/PlatformEvents.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/Text.h"
 
 #include <QHelpEvent>
@@ -231,12 +231,6 @@ void MapWindow::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
     const IDictionary& values = get_system_status_dictionary();
     if (values.integer(status::kDrawBoundaryRect) != m_boundaryState)
         redraw();
-    if (const std::string_view project = values.text(status::kProjectPath); project != m_project) {
-        m_project = project;
-        for (Overlay& overlay : m_overlays) // what they mark lies in the other project
-            overlay.clear();
-        refreshOverlay();
-    }
     update(); // the unit of the scale bar may be another one
 }
 

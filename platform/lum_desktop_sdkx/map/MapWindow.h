@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/protocol/EventSubscription.h"
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindow.h"
@@ -9,7 +8,8 @@
 #include "lum_desktop_sdkx/map/MapPicture.h"
 #include "lum_desktop_sdkx/map/Overlay.h"
 #include "lum_desktop_sdkx/map/ReactorStack.h"
-#include "lum_sdk/IEventManager.h"
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -105,7 +105,6 @@ private:
 
     LayerRegistry m_layers;
     std::array<Overlay, 2> m_overlays;
-    std::string m_project; ///< the folder of the project that the overlays belong to
     MapPicture m_picture;
     MapPainter m_painter; // ends before the layers do
     QTimer m_paintTimer;

@@ -2,7 +2,7 @@
 
 #include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 #include "lum_desktop_sdkx/coords/DlgCoordParam.h"
-#include "lum_sdk/CoordProjections.h"
+#include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/Text.h"
 
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "lum_desktop_sdkx/dialogs/DlgAbout.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -50,8 +50,9 @@ void DialogTest::aboutBoxShowsAllOfItsText()
 {
     get_system_config_parameter().dictionary().set("name", "Skyquill");
     get_system_config_parameter().dictionary().set("version", "12.34.5678");
-    DlgAbout dialog(nullptr, {QStringLiteral("SQLite 3.40.1"), QStringLiteral("PROJ 9.1.1"),
-                              QStringLiteral("GDAL 3.6.2"), QStringLiteral("spdlog 1.10.0")});
+    DlgAbout dialog(nullptr, QStringLiteral("what it is for"),
+                    {QStringLiteral("SQLite 3.40.1"), QStringLiteral("PROJ 9.1.1"),
+                     QStringLiteral("GDAL 3.6.2"), QStringLiteral("spdlog 1.10.0")});
     dialog.show();
     QCOMPARE(dialog.size(), QSize(480, 250));
     QVERIFY(dialog.isModal());
@@ -62,7 +63,8 @@ void DialogTest::aboutBoxShowsAllOfItsText()
         QVERIFY(label->height() >= label->heightForWidth(label->width()));
         QVERIFY(dialog.rect().contains(label->geometry()));
     }
-    for (const char* const part : {"Skyquill", "12.34.5678", qVersion(), "spdlog"})
+    for (const char* const part :
+         {"Skyquill", "12.34.5678", "what it is for", qVersion(), "spdlog"})
         QVERIFY2(text.contains(QLatin1String(part)), part);
 
     QTest::keyClick(&dialog, Qt::Key_Return);

@@ -1,10 +1,9 @@
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 
-#include "app/protocol/Events.h"
 #include "basalt_utilities/Files.h"
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
-#include "basalt_utilities/Paths.h"
+#include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/Appearance.h"
@@ -13,7 +12,8 @@
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "protocol/Events.h"
 
 #include <QAction>
 #include <QDir>

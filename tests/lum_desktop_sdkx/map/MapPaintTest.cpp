@@ -1,13 +1,13 @@
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/LineClip.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
 
 #include <QPainter>

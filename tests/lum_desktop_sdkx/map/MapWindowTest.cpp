@@ -1,9 +1,9 @@
 #include "lum_desktop_sdkx/map/MapWindow.h"
 
-#include "app/protocol/Events.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/MouseKeyEventParameters.h"
 #include "lum_desktop_sdkx/ReactorBase.h"
+#include "protocol/Events.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
 
 #include <QtTest>

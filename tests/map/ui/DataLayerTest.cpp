@@ -1,5 +1,5 @@
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 
 #include <QPainter>

@@ -1,5 +1,3 @@
-#include "app/protocol/Events.h"
-#include "app/protocol/StatusKeys.h"
 #include "map/ui/DrawBoundaryCommand.h"
 #include "map/ui/DrawExcitationCommand.h"
 #include "map/ui/DrawReceiverCommand.h"
@@ -9,6 +7,8 @@
 #include "map/ui/PPKZoomOutCommand.h"
 #include "map/ui/PPKZoomRectCommand.h"
 #include "map/ui/ViewChangeCommand.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 
 #include <QHelpEvent>

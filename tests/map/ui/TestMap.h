@@ -4,7 +4,7 @@
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_desktop_sdkx/Registration.h"
-#include "lum_sdk/SystemDictionaries.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "map/ui/DataProcessLayerImp.h"
 #include "map/ui/ReactorMoveTrans.h"
 #include "map/ui/ReactorZoomRectTrans.h"

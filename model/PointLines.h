@@ -1,0 +1,128 @@
+#pragma once
+
+#include "model/DesignPoint.h"
+#include "model/PointLine.h"
+#include "model/SurveyPoint.h"
+
+#include <map>
+#include <string>
+
+/// All points of one kind: lines by number, ordered by its bytes ("10" comes before "9"), and in
+/// each its points. No line is empty.
+///
+///     for (const auto& [lineNumber, line] : points)
+///         for (const Point& point : line)
+template <class P>
+class PointLines
+{
+public:
+    using Point = P;
+    using Line = PointLine<Point>;
+    using Map = std::map<std::string, Line, std::less<>>;
+
+    PointLines() = default;
+    ~PointLines() = default;
+    PointLines(const PointLines& other) : m_lines(other.m_lines) {}
+    PointLines(PointLines&& other) noexcept : m_lines(std::move(other.m_lines)) { other.clear(); }
+    PointLines& operator=(PointLines other) noexcept
+    {
+        m_lines.swap(other.m_lines);
+        m_last = nullptr;
+        return *this;
+    }
+
+    [[nodiscard]] auto begin() { return m_lines.begin(); }
+    [[nodiscard]] auto end() { return m_lines.end(); }
+    [[nodiscard]] auto begin() const { return m_lines.begin(); }
+    [[nodiscard]] auto end() const { return m_lines.end(); }
+    [[nodiscard]] bool empty() const { return m_lines.empty(); }
+    [[nodiscard]] std::size_t lineCount() const { return m_lines.size(); }
+    [[nodiscard]] std::size_t pointCount() const
+    {
+        std::size_t count = 0;
+        for (const auto& [number, line] : m_lines)
+            count += line.size();
+        return count;
+    }
+
+    /// Null when there is no such line.
+    [[nodiscard]] const Line* findLine(std::string_view lineNumber) const
+    {
+        const auto found = m_lines.find(lineNumber);
+        return found == m_lines.end() ? nullptr : &found->second;
+    }
+    [[nodiscard]] Line* findLine(std::string_view lineNumber)
+    {
+        const auto found = m_lines.find(lineNumber);
+        return found == m_lines.end() ? nullptr : &found->second;
+    }
+
+    /// Null when there is no such line or point.
+    [[nodiscard]] const Point* find(std::string_view lineNumber, std::string_view pointNumber) const
+    {
+        const Line* const line = findLine(lineNumber);
+        return line == nullptr ? nullptr : line->find(pointNumber);
+    }
+    [[nodiscard]] Point* find(std::string_view lineNumber, std::string_view pointNumber)
+    {
+        Line* const line = findLine(lineNumber);
+        return line == nullptr ? nullptr : line->find(pointNumber);
+    }
+
+    /// Files the point under its line and number, over the one that stands there.
+    Point& set(Point&& point)
+    {
+        // Points mostly come line by line.
+        if (m_last == nullptr || m_last->first != point.lineNumber)
+            m_last = &*m_lines.try_emplace(point.lineNumber).first;
+        return m_last->second.set(std::move(point));
+    }
+    Point& set(const Point& point) { return set(Point(point)); }
+
+    /// Removes a point, and its line with the last of them.
+    /// \returns false when there was none
+    bool erase(std::string_view lineNumber, std::string_view pointNumber)
+    {
+        Line* const line = findLine(lineNumber);
+        if (line == nullptr || !line->erase(pointNumber))
+            return false;
+        if (line->empty())
+            eraseLine(lineNumber);
+        return true;
+    }
+    bool eraseLine(std::string_view lineNumber)
+    {
+        const auto found = m_lines.find(lineNumber);
+        if (found == m_lines.end())
+            return false;
+        m_last = nullptr;
+        m_lines.erase(found);
+        return true;
+    }
+
+    void clear()
+    {
+        m_lines.clear();
+        m_last = nullptr;
+    }
+
+    /// Takes over all points of `later`, over those that stand here.
+    void merge(PointLines&& later)
+    {
+        m_lines.merge(later.m_lines); // whole lines, where they are new
+        for (auto& [number, line] : later.m_lines) {
+            Line& target = m_lines.find(number)->second;
+            for (Point& point : line)
+                target.set(std::move(point));
+        }
+        later.clear();
+        m_last = nullptr;
+    }
+
+private:
+    Map m_lines;
+    typename Map::value_type* m_last = nullptr; ///< the line that got the last point
+};
+
+using DesignPoints = PointLines<DesignPoint>;
+using SurveyPoints = PointLines<SurveyPoint>;

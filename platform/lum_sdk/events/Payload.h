@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+class IDictionary;
+
+/// The texts that events carry: key lists such as "text=Loading,value=50". A value that holds the
+/// separator is quoted.
+namespace payload {
+
+/// Reads a payload into `values`, in place of what they held; an event without a payload (null)
+/// leaves them empty.
+void read(const char* payload, IDictionary& values, char separator = ',');
+
+/// "text=CAPTION,value=PERCENT,is_exec=0"; the percent in general notation, six digits.
+[[nodiscard]] std::string progress(std::string_view caption, double percent);
+/// "text=CAPTION,value=0": the work begins.
+[[nodiscard]] std::string started(std::string_view caption);
+/// "text=CAPTION,scroll=1": work of unknown length.
+[[nodiscard]] std::string busy(std::string_view caption);
+/// The work has ended; hides the bar.
+inline constexpr const char* kProgressEnd = "show=0";
+
+/// "N=... E=..." with every digit that the value has.
+[[nodiscard]] std::string position(double north, double east);
+
+} // namespace payload

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+#include <string_view>
+
+class IEventManager;
+
+/// How a long operation tells where it stands. Hides the bar when it goes out of scope.
+///
+/// Without an event manager (a test, a nested step) it reports to nobody.
+class ProgressReporter
+{
+public:
+    explicit ProgressReporter(IEventManager* manager);
+    ~ProgressReporter();
+
+    ProgressReporter(const ProgressReporter&) = delete;
+    ProgressReporter& operator=(const ProgressReporter&) = delete;
+
+    /// Shows the bar at its beginning, before the first step.
+    /// \param caption translated, such as "Loading Database"
+    void start(const QString& caption);
+    /// \param percent 0 to 100
+    void report(const QString& caption, double percent);
+    /// The same for `done` of `total` steps; no steps count as finished.
+    void report(const QString& caption, std::size_t done, std::size_t total);
+    /// The same, for each of `total` steps; the caption is UTF-8.
+    void reportEach(std::string_view caption, std::size_t total);
+    /// Work of unknown length.
+    void busy(const QString& caption);
+    /// Hides the bar; once, and only when something was reported.
+    void finish();
+    /// Hides the bar, also when nothing was reported.
+    void hide();
+
+private:
+    void publish(const char* text);
+
+    IEventManager* m_manager;
+    bool m_isShown = false;
+};

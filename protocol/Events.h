@@ -1,0 +1,47 @@
+#pragma once
+
+#include "lum_sdk/events/PlatformEvents.h"
+
+/// The product's named events; the platform's stand in the header above. Each comment says who
+/// publishes, who listens and what the payload holds; `Payloads.h` builds the payloads.
+namespace events {
+
+// --- map; none has a payload ---
+
+/// The change of view -> data layer.
+inline constexpr const char* kPaintingLayerUpdate = "ON_PAINTING_LAYER_UPDATE";
+/// Project new, open and close, design edits and generation -> data layer, design tree.
+inline constexpr const char* kRefreshDesignLayer = "REFRESH_DESIGN_LAYER";
+/// Project new, open and close, survey edits, resurvey results -> data layer, survey tree.
+inline constexpr const char* kRefreshSurveyLayer = "REFRESH_SURVEY_LAYER";
+// --- tables ---
+
+/// Checks -> design table. No payload.
+inline constexpr const char* kRefreshDesignTable = "REFRESH_DESIGN_TABLE";
+/// Coordinate format, quality check, time zone -> survey table. No payload.
+inline constexpr const char* kRefreshSurveyTable = "REFRESH_SURVEY_TABLE";
+/// Design tree -> design table. No payload.
+inline constexpr const char* kClearDesignTable = "ON_CLEAR_DESIGN_TABLE";
+/// Coordinate format, survey tree -> survey table. No payload.
+inline constexpr const char* kClearSurveyTable = "ON_CLEAR_SURVEY_TABLE";
+/// Design tree -> design table. "line_num=...".
+inline constexpr const char* kDesignLineSwitched = "ON_DESIGN_LINE_SWITCHED";
+/// Survey tree -> survey table. "line_num=...".
+inline constexpr const char* kSurveyLineSwitched = "ON_SURVEY_LINE_SWITCHED";
+/// Survey tree -> survey table. No payload.
+inline constexpr const char* kShowAllSurveyTable = "ON_SHOW_ALL_SURVEY_TABLE";
+/// Design tree -> design table. "line_num=...,point_num=...".
+inline constexpr const char* kDesignTableSelectPoint = "ON_DESIGN_TABLE_SELECT_POINT";
+/// Survey tree -> survey table. "line_num=...,point_num=...".
+inline constexpr const char* kSurveyTableSelectPoint = "ON_SURVEY_TABLE_SELECT_POINT";
+
+// --- selection ---
+
+/// Design table, map pick -> attribute panel. "pointName=...,lineName=...".
+inline constexpr const char* kDesignPointSelected = "ON_DESIGN_POINT_SELECTED";
+/// Survey table, map pick -> attribute panel. "pointName=...,lineName=...".
+inline constexpr const char* kSurveyPointSelected = "ON_SURVEY_POINT_SELECTED";
+/// Map pick of a base station -> attribute panel. "stationId=...", counted from 0.
+inline constexpr const char* kStationPointSelected = "ON_STATION_POINT_SELECTED";
+
+} // namespace events

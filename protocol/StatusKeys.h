@@ -1,0 +1,27 @@
+#pragma once
+
+#include "lum_sdk/files/SystemKeys.h"
+
+/// The product's keys of the system status dictionary, with the value of a missing key; the
+/// platform's stand in the header above.
+namespace status {
+
+inline constexpr const char* kProjectOpen = "project_open";      ///< "1" while one is open; "0"
+inline constexpr const char* kProjectPath = "project_path";      ///< the project folder; ""
+inline constexpr const char* kProjectName = "project_name";      ///< without extension; ""
+inline constexpr const char* kViewShowWhich = "view_show_which"; ///< 0 survey, 1 design; "1"
+inline constexpr const char* kShowSourceLines = "show_s_line";   ///< "1"
+inline constexpr const char* kShowReceiverLines = "show_r_line"; ///< "1"
+inline constexpr const char* kMouseMode = "operateReator";    ///< 0 pick, 1 pan, 2 zoom; spelled so
+inline constexpr const char* kDegreeFormat = "degree_format"; ///< 0 decimal, 1 dms; "0"
+inline constexpr const char* kShowAllLines = "isshow_allineiew"; ///< survey table; spelled so; "0"
+
+} // namespace status
+
+/// The product's keys of the system settings, with the value of a missing key.
+namespace settings {
+
+inline constexpr const char* kTimeZone = "time_zone"; ///< hours east of Greenwich; "8"
+inline constexpr const char* kExportColumns = "survey_export_columns"; ///< keys; "" is all
+
+} // namespace settings
