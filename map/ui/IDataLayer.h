@@ -19,7 +19,4 @@ public:
                                               QPointF& position) const = 0;
     [[nodiscard]] virtual bool GetBasePosition(int index, QPointF& position) const = 0;
     [[nodiscard]] virtual bool GetBaseRecord(int index, BaseStation& record) const = 0;
-
-    /// What the map says of the place under the resting cursor; empty when there is nothing.
-    [[nodiscard]] virtual QString tipAt(const QPointF& map) const = 0;
 };

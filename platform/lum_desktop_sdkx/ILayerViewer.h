@@ -4,6 +4,7 @@
 #include "lum_sdk/Transform.h"
 
 #include <QRectF>
+#include <QString>
 
 #include <atomic>
 #include <string>
@@ -45,4 +46,7 @@ public:
     [[nodiscard]] virtual IDictionary& GetProperties() = 0;
     /// By the property "visible" (default 1).
     [[nodiscard]] virtual bool IsVisible() const = 0;
+
+    /// What lies under the resting cursor, in the user's words; empty when nothing does.
+    [[nodiscard]] virtual QString tipAt(const QPointF& /*map*/) const { return {}; }
 };

@@ -1,6 +1,5 @@
 #include "lum_desktop_sdkx/dialogs/DlgAbout.h"
 
-#include "app/ProgramIcon.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"

@@ -2,7 +2,6 @@
 
 #include "basalt_utilities/ILogger.h"
 #include "lum_sdk/Transform.h"
-#include "map/ui/IDataLayer.h"
 
 #include <algorithm>
 
@@ -69,8 +68,7 @@ QString LayerRegistry::tipAt(const QPointF& map) const
 {
     const std::vector<ILayerViewer*> layers = visibleLayers();
     for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
-        const auto* const data = dynamic_cast<const IDataLayer*>(*layer);
-        QString tip = data != nullptr ? data->tipAt(map) : QString();
+        QString tip = (*layer)->tipAt(map);
         if (!tip.isEmpty())
             return tip;
     }
