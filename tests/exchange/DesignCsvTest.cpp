@@ -1,7 +1,7 @@
 #include "CsvFixture.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
-#include "tests/SmallFiles.h"
+#include "tests/support/SmallFiles.h"
 
 #include <QDir>
 

@@ -2,7 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/ILogger.h"
-#include "tests/SmallFiles.h"
+#include "tests/support/SmallFiles.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -7,7 +7,7 @@
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
 #include "tests/project/OrdinaryUser.h"
-#include "tests/SmallFiles.h"
+#include "tests/support/SmallFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

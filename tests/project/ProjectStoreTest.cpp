@@ -4,7 +4,7 @@
 #include "model/PointNumber.h"
 #include "protocol/Events.h"
 #include "tests/project/TestProject.h"
-#include "tests/SmallFiles.h"
+#include "tests/support/SmallFiles.h"
 
 #include <gtest/gtest.h>
 

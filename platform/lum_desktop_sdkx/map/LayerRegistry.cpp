@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/map/LayerRegistry.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/ILayerViewer.h"
 #include "lum_sdk/Transform.h"
 
 #include <algorithm>
