@@ -91,8 +91,8 @@ endfunction()
 function(skyquill_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     find_package(GTest REQUIRED)
-    add_executable(${name} ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/TestProduct.cpp")
-    target_link_libraries(${name} PRIVATE ${ARG_LINKS} basalt_utilities GTest::gtest_main
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} test_product GTest::gtest_main
         Qt5::Core skyquill_warnings)
     target_compile_options(${name} PRIVATE ${test_options})
     skyquill_defaults(${name} gtest)
@@ -113,8 +113,8 @@ endfunction()
 # offscreen.
 function(skyquill_add_qt_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/TestProduct.cpp")
-    target_link_libraries(${name} PRIVATE ${ARG_LINKS} basalt_utilities Qt5::Widgets Qt5::Network
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} test_product Qt5::Widgets Qt5::Network
         Qt5::Test skyquill_warnings)
     target_compile_options(${name} PRIVATE ${test_options})
     skyquill_defaults(${name} qttest)
