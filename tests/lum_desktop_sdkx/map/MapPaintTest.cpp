@@ -1,4 +1,3 @@
-#include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
@@ -9,6 +8,7 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/support/LogCapture.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -41,6 +41,8 @@ public:
     {
         if (GetName() == "Faulty")
             throw std::runtime_error("no data");
+        if (GetName() == "Odd")
+            throw 42;
         if (onPaint)
             onPaint(target);
         const QPointF place =
@@ -57,11 +59,6 @@ public:
 private:
     basalt::Dictionary m_properties;
 };
-
-void appendLine(void* lines, ILogger::Level /*level*/, std::string_view line)
-{
-    static_cast<std::string*>(lines)->append(line).append("\n");
-}
 
 /// Waits until the paint has been given up, and says so.
 void paintSlowly(const PaintTarget& target, std::atomic<int>& started, std::atomic<int>& overtaken)
@@ -194,14 +191,15 @@ void MapPaintTest::lastPictureMovesWithTheViewAtOnce()
 
 void MapPaintTest::faultyLayerIsLoggedAndTheRestPainted()
 {
-    std::string log;
-    basalt::setLogListener(appendLine, &log);
+    const LogCapture log;
     addLayer("layer_name=Faulty");
+    addLayer("layer_name=Odd");
     addLayer("layer_name=sound,x=100,y=50");
-    const QImage picture = settledPicture();
-    basalt::setLogListener(nullptr, nullptr);
-    QCOMPARE(picture.pixelColor(100, 250), QColor(Qt::blue));
-    QVERIFY(log.find("\"Faulty\" could not be painted: no data") != std::string::npos);
+    QCOMPARE(settledPicture().pixelColor(100, 250), QColor(Qt::blue));
+    QVERIFY(log.holds("\"Faulty\" could not be painted: no data"));
+    QVERIFY(log.holds("\"Odd\" could not be painted: unknown fault"));
+    m_map->pan(0, 0, 100, 0); // the worker is still there
+    QCOMPARE(settledPicture().pixelColor(200, 250), QColor(Qt::blue));
 }
 
 void MapPaintTest::takenNamesAndUnknownClassesAreRefused()
