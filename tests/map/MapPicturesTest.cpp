@@ -47,15 +47,13 @@ QImage pictureOf(const Paint& paint)
 QImage designPicture(const DesignPoints& points, const PictureFrame& frame,
                      const DesignPictureOptions& options = {})
 {
-    DesignMarks marks;
-    marks.rebuild(points, kToMap);
+    const DesignMarks marks(points, kToMap);
     return pictureOf([&](QPainter& painter) { paintDesign(marks, frame, options, painter); });
 }
 
 QImage surveyPicture(const SurveyPoints& points, const PictureFrame& frame)
 {
-    SurveyMarks marks;
-    marks.rebuild(points, kToMap);
+    const SurveyMarks marks(points, kToMap);
     return pictureOf(
         [&](QPainter& painter) { paintSurvey(marks, frame, QStringLiteral("Base"), painter); });
 }
@@ -338,8 +336,7 @@ void MapPicturesTest::aDesignPlaceTakesTheBrushInUse()
 
 void MapPicturesTest::linesReportAndStopEndsThePaint()
 {
-    DesignMarks marks;
-    marks.rebuild(TestSurvey().design(4, 10, 2), kToMap);
+    const DesignMarks marks(TestSurvey().design(4, 10, 2), kToMap);
     std::vector<double> percents;
     PictureFrame frame = frameAt(0, 0, 1); // all of it out of sight
     frame.lineDone = [&](double percent) { percents.push_back(percent); };
@@ -380,8 +377,7 @@ void MapPicturesTest::brokenPlacesDoNoHarm()
 
 void MapPicturesTest::fineScreensGetFineMarks()
 {
-    DesignMarks marks;
-    marks.rebuild(TestSurvey().design(1, 1, 1), kToMap);
+    const DesignMarks marks(TestSurvey().design(1, 1, 1), kToMap);
     QImage picture(2 * kSide, 2 * kSide, QImage::Format_RGB32);
     picture.setDevicePixelRatio(2);
     picture.fill(Qt::white);
