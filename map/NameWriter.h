@@ -12,8 +12,8 @@ class QPainter;
 
 /// Writes many short names in one font.
 ///
-/// Kept beside `QPainter::drawText`, which lays out each text anew and so takes much longer;
-/// the picture tests compare the two. A writer is made and used on the thread that paints.
+/// Kept beside `QPainter::drawText`, which lays out each text anew and so takes much longer; the
+/// picture tests compare the two. A writer is made and used on the thread that paints.
 class NameWriter
 {
 public:
