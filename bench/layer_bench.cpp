@@ -1,4 +1,5 @@
 #include "bench/Limits.h"
+#include "map/BaseStations.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
 #include "map/PictureFrame.h"
@@ -200,6 +201,20 @@ void BM_Pick(benchmark::State& state)
                   microseconds[microseconds.size() * 99 / 100] / 1e3, 1, "ms");
 }
 
+/// Base stations that all differ. Comparing each with all others would take minutes.
+void BM_BaseStations(benchmark::State& state)
+{
+    for (auto _ : state) {
+        const double seconds = bench::secondsOf([] {
+            BaseStations stations;
+            for (int i = 0; i < kSurveyLines * kSurveyPoints; ++i)
+                stations.findOrAdd({i * 1.0, -5, 0, 0, 0});
+            benchmark::DoNotOptimize(stations.list().size());
+        });
+        bench::report(state, "200,000 base stations", seconds * 1e3, 1000, "ms");
+    }
+}
+
 void BM_Rebuild(benchmark::State& state)
 {
     const double copyMs = bench::medianOf([] {
@@ -225,6 +240,7 @@ BENCHMARK(BM_SurveyWhole)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SurveyTenth)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Cancel)->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Pick)->Iterations(2000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_BaseStations)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Rebuild)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -1,4 +1,3 @@
-#include "map/BaseStations.h"
 #include "map/DesignMarks.h"
 #include "map/MarkExtent.h"
 #include "map/SurveyMarks.h"
@@ -196,14 +195,4 @@ TEST(SurveyMarks, ExtentHoldsResultsAndBasesButNotTheDesign)
     EXPECT_EQ(markExtent(marks.gridBounds(), kTurned), QRectF(200, 50, 500, 50));
     EXPECT_EQ(marks.nearestBase({50, 700}, 1), 0U);
     EXPECT_FALSE(marks.nearestBase({50, 701}, 1));
-}
-
-TEST(SurveyMarks, ManyBaseStationsAreFoundQuickly)
-{
-    BaseStations stations;
-    constexpr std::uint32_t kMany =
-        200000; // each its own: by comparing all pairs this takes minutes
-    for (std::uint32_t i = 0; i < kMany; ++i)
-        ASSERT_EQ(stations.findOrAdd({i * 1.0, -5, 0, 0, 0}), i);
-    EXPECT_EQ(stations.findOrAdd({777, -5.000001, 0, 0, 0}), 777U);
 }
