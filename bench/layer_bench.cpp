@@ -15,16 +15,17 @@
 
 #include <vector>
 
-// The pictures of the map's data, against the same pictures drawn by plain calls; a view of part of
-// the data, against a project that has no more than that; picking and the rebuild of the cache.
+// Measures the pictures of the map's data against the same pictures drawn by plain calls, and the
+// view of a part of the data against a project that has only this part. Measures picking and the
+// making of the caches.
 
 namespace {
 
 constexpr QSize kScreen(1920, 1080);
 constexpr int kDesignLines = 1000;
-constexpr int kDesignPoints = 1000; // a line
+constexpr int kDesignPoints = 1000; // of each line
 constexpr int kSurveyLines = 400;
-constexpr int kSurveyPoints = 500; // a line
+constexpr int kSurveyPoints = 500; // of each line
 const ToMap kToMap = [](double north, double east) { return QPointF(east, north); };
 
 const DesignPoints& design()
@@ -46,7 +47,7 @@ const SurveyPoints& survey()
     return kAll;
 }
 
-/// A screen that shows the middle of `lines` lines of `points` points; `share` of their extent.
+/// A screen that shows the middle of `lines` lines of `points` points, `share` of their extent.
 PictureFrame frameOf(int lines, int points, double share)
 {
     const TestSurvey grid;
@@ -69,7 +70,7 @@ double msOfPicture(const Paint& paint)
     return 1e3 * bench::secondsOf([&] { paint(painter); });
 }
 
-/// The marks that a view shows, alone.
+/// Only the marks that a view shows.
 DesignMarks visibleMarks(const PictureFrame& frame)
 {
     const QRectF area = frame.mapArea(150);
@@ -102,7 +103,7 @@ void BM_DesignWhole(benchmark::State& state)
                       msOfDesign(designMarks(), frame) / plainMs, 0.5, "");
 }
 
-/// A view of part of the design may take twice what it takes where there is no more than that.
+/// The view of a part of a large design may take twice the time of a design with only this part.
 void designPart(benchmark::State& state, double share, const char* name)
 {
     const PictureFrame frame = frameOf(kDesignLines, kDesignPoints, share);

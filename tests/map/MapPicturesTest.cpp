@@ -18,8 +18,8 @@
 namespace {
 
 constexpr int kSide = 256;            // pixels
-constexpr int kChannelTolerance = 72; // of 255: what anti-aliasing may do,
-constexpr int kMostDiffering = 12;    // and where it adds up
+constexpr int kChannelTolerance = 72; // of 255: antialiasing may differ
+constexpr int kMostDiffering = 12;    // pixels that may differ by more
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 const ToMap kToMap = [](double north, double east) { return QPointF(east, north); };
@@ -81,10 +81,10 @@ int paintedPixels(const QImage& picture)
     return differingPixels(picture, white);
 }
 
-/// Compares two pictures, and keeps them for a look when they differ.
+/// Compares two pictures, and saves them as files when they differ.
 void compare(const char* name, const QImage& picture, const QImage& expected, int minPainted)
 {
-    QVERIFY2(paintedPixels(expected) >= minPainted, name); // or the scene would prove nothing
+    QVERIFY2(paintedPixels(expected) >= minPainted, name); // an empty scene proves nothing
     const int count = differingPixels(picture, expected);
     if (count <= kMostDiffering)
         return;
@@ -105,7 +105,7 @@ private Q_SLOTS:
     {
         TestSurvey survey;
         DesignPoints points = survey.design(9, 150, 5);
-        survey.lineStepM = 37; // the other way, across lines of both types
+        survey.lineStepM = 37; // lines to the north that cross those of both types
         for (const auto& [number, line] : survey.design(7, 30, 3)) {
             for (DesignPoint point : line) {
                 std::swap(point.north, point.east);
@@ -129,7 +129,7 @@ private Q_SLOTS:
         check("receiver lines only", frameAt(4400500, 500500, 6), 150, {25, true, false});
         check("source lines only", frameAt(4400500, 500500, 2.4), 150, {25, false, true});
         PictureFrame cut = frameAt(4400500, 500500, 6);
-        cut.drawingArea = QRectF(60, 50, 120, 100); // a screen beside the picture
+        cut.drawingArea = QRectF(60, 50, 120, 100); // smaller than the picture
         check("lines at the drawing area's edge", cut);
         cut.transform.setView({500500, 4400500}, 2.4);
         check("points in the drawing area alone", cut);
@@ -182,10 +182,10 @@ private Q_SLOTS:
         const auto painted = [&](double spacing) {
             return paintedPixels(designPicture(points, frameAt(4400000, 500000, 1), {spacing}));
         };
-        QVERIFY(painted(9.99) < painted(10)); // a circle more
+        QVERIFY(painted(9.99) < painted(10)); // the circle is drawn
         QCOMPARE(painted(10), painted(25));
         QCOMPARE(painted(25), painted(79.99));
-        QVERIFY(painted(79.99) < painted(80)); // texts more
+        QVERIFY(painted(79.99) < painted(80)); // the labels are drawn
     }
 
     void resultsStandAtTheirPlaces()
@@ -236,7 +236,7 @@ private Q_SLOTS:
             points.set(point);
         }
         const QImage picture = surveyPicture(points, frameAt(100, 200, 1));
-        QCOMPARE(picture.pixelColor(68, 168), QColor(Qt::white)); // none so far
+        QCOMPARE(picture.pixelColor(68, 168), QColor(Qt::white)); // no brush yet
         QCOMPARE(picture.pixelColor(108, 168), QColor(Qt::red));  // of the first line's label
         QCOMPARE(picture.pixelColor(148, 168), QColor(Qt::blue)); // of the second point's base
     }
@@ -245,12 +245,12 @@ private Q_SLOTS:
     {
         const DesignMarks marks(TestSurvey().design(4, 10, 2), kToMap);
         std::vector<double> percents;
-        PictureFrame frame = frameAt(0, 0, 1); // all of it out of sight
+        PictureFrame frame = frameAt(0, 0, 1); // everything is out of sight
         frame.lineDone = [&](double percent) { percents.push_back(percent); };
         pictureOf([&](QPainter& painter) {
             paintDesign(marks, frame, {25, false, true}, painter);
         });
-        QCOMPARE(percents, (std::vector<double>{75, 100})); // hidden lines count, and say nothing
+        QCOMPARE(percents, (std::vector<double>{75, 100})); // hidden lines count silently
 
         frame.isStopped = [&] { return percents.size() >= 3; };
         pictureOf([&](QPainter& painter) { paintDesign(marks, frame, {25}, painter); });
@@ -266,7 +266,7 @@ private Q_SLOTS:
         for (const double broken :
              {kNaN, -std::numeric_limits<double>::infinity(), 1e12, 1e300, 0.0}) {
             DesignPoint point = *design.findLine("1001")->begin();
-            point.lineNumber = "2001"; // its own line, out of sight of the others
+            point.lineNumber = "2001"; // a line without sound points
             point.pointNumber = std::to_string(++number);
             point.north = broken;
             design.set(point);
@@ -281,7 +281,6 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(128, 128), cleanDesign.pixelColor(128, 128));
         QCOMPARE(surveyPicture(results, frameAt(4400005, 500002.5, 1)).pixelColor(128, 128),
                  QColor(Qt::red));
-        // nothing but the empty line that leads from the grid's origin to nowhere near
         QVERIFY(paintedPixels(designPicture({}, frameAt(0, 0, 1))) == 0);
     }
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Many rows that cost nothing; remembers how far down it was asked.
+/// A model of many rows without data of its own. It remembers the lowest row that was read.
 class WideModel : public QAbstractTableModel
 {
 public:
@@ -121,7 +121,7 @@ private Q_SLOTS:
         CustomTableWidget table;
         table.setModel(&model);
         const int empty = table.columnWidth(1);
-        table.setFont(QFont(table.font().family(), 30)); // cells outgrow the header's caption
+        table.setFont(QFont(table.font().family(), 30)); // now the cells are wider than the caption
         model.reset(500'000);
         QVERIFY(table.columnWidth(1) > empty);
         QVERIFY(model.deepestRow < 100);

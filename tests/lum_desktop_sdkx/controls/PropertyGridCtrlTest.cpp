@@ -159,7 +159,7 @@ private Q_SLOTS:
         const QString picked = "/data/大地水准面/egm 2008.gtx"_q;
         QString filter;
         const FileDialog::Responder responder([&](const FileDialog::Request& request) {
-            QApplication::focusWidget()->clearFocus(); // as a dialog in front of the editor does
+            QApplication::focusWidget()->clearFocus(); // as when a dialog opens
             filter = request.filter;
             return QString(picked);
         });

@@ -120,7 +120,7 @@ private Q_SLOTS:
                  "line 3: read_only=\"yes\" is neither 0 nor 1");
     }
 
-    /// Each text with what is stored where the decimal point is a comma, and where it is a point.
+    /// For each text, what is stored in German and in English; null when the text is refused.
     void judgesWhatIsTyped()
     {
         const auto check = [](const QByteArray& attributes, const char* typed,

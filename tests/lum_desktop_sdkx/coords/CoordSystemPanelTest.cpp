@@ -131,17 +131,17 @@ private Q_SLOTS:
         QCOMPARE(shown("Shift dX"), "-12.646 m"_q);
         QVERIFY(!visibleText().contains("WGS 84."_q));
 
-        open(m_dialog->parameters()); // as a project is opened again
+        open(m_dialog->parameters()); // as when a project is opened again
         QCOMPARE(value("coord_param_id"), "EPSG:2436"_q);
         QCOMPARE(shifts()->currentText(), ordos);
-        enter("False easting", "39500000"); // still on this datum
+        enter("False easting", "39500000"); // does not change the datum
         QCOMPARE(shifts()->currentText(), ordos);
         enter("Shift dX", "-12.6");
         QCOMPARE(shifts()->currentText(), "By the parameters below"_q);
         QTest::keyClick(shifts(), Qt::Key_Home);
         QCOMPARE(value("_7type"), "0"_q);
         QCOMPARE(shifts()->currentText(), "None"_q);
-        pick("Ellipsoid", "WGS 84"); // but not on this one
+        pick("Ellipsoid", "WGS 84"); // changes the datum
         QVERIFY(shifts() == nullptr);
     }
 
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(value("parallel_1_lat"), "0"_q);
         QCOMPARE(value("factor"), "0.9996"_q);
         QCOMPARE(value("org_lon"), "117"_q);
-        pick("Projection", "Lambert conformal conic"); // hidden is not lost
+        pick("Projection", "Lambert conformal conic"); // the hidden value was kept
         QCOMPARE(value("parallel_1_lat"), "30"_q);
     }
 
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QVERIFY(!isShown("False easting") && isShown("False northing"));
         pick("Projection", "None");
         QVERIFY(!isShown("Central meridian") && !isShown("Height of projection surface"));
-        QCOMPARE(value("false_east"), "500000"_q); // hidden is not lost
+        QCOMPARE(value("false_east"), "500000"_q); // the hidden value was kept
 
         QVERIFY(!isShown("Correction height"));
         check("Use correction");
@@ -252,7 +252,7 @@ private Q_SLOTS:
         pick("Projection", "Albers equal area"); // both parallels are 0
         QVERIFY(isMarked("First standard parallel") && m_panel->hasFaults());
         QVERIFY(visibleText().contains("(parallel_1_lat,"_q));
-        enter("First standard parallel", "x"); // what was typed goes before the mark
+        enter("First standard parallel", "x"); // a typed fault comes before the mark
         enter("Second standard parallel", "47");
         QVERIFY(isMarked("First standard parallel"));
         enter("First standard parallel", "25");
@@ -260,7 +260,7 @@ private Q_SLOTS:
 
         check("Use geoid");
         QVERIFY(isMarked("Geoid file"));
-        enter("Inverse flattening 1/f", "0.5"); // an earlier fault takes the mark over
+        enter("Inverse flattening 1/f", "0.5"); // the first fault gets the mark
         QVERIFY(isMarked("Inverse flattening 1/f") && !isMarked("Geoid file"));
         enter("Inverse flattening 1/f", "298");
         enter("Geoid file", "/no such/folder/geoid.gtx");
@@ -287,7 +287,7 @@ private Q_SLOTS:
         // X' = T + P + R (X - P): the turn about the axis through P moves X by -rz Py
         const double turn = 5000000 * 3.14159265358979 / 648000;
         QVERIFY(std::abs(stored.number("_7dx") - (-270 - turn)) < 1e-6);
-        QCOMPARE(shown("Model"), "Molodensky-Badekas"_q); // as long as it is open
+        QCOMPARE(shown("Model"), "Molodensky-Badekas"_q); // while the dialog is open
     }
 
     void handsOutWhatItDoesNotShow()
@@ -295,7 +295,7 @@ private Q_SLOTS:
         const basalt::Dictionary before = ownSystem();
         open(before);
         const basalt::Dictionary after = m_dialog->parameters();
-        QCOMPARE(after.size(), before.size() + 2); // the identity, and a factor of 1
+        QCOMPARE(after.size(), before.size() + 2); // two more: coord_param_id and factor
         for (std::size_t i = 0; i < before.size(); ++i)
             QCOMPARE(lum::toQString(after.text(before.keyAt(i))),
                      lum::toQString(before.valueAt(i)));
@@ -307,7 +307,7 @@ private Q_SLOTS:
         QVERIFY(!m_panel->hasFaults());
         QVERIFY(visibleTexts().constFirst().startsWith("No coordinate system is set"_q));
         pick("Ellipsoid", "WGS 84");
-        QVERIFY(isMarked("Projection")); // half a system is none
+        QVERIFY(isMarked("Projection")); // an ellipsoid alone is no system
         pick("Projection", "UTM");
         QVERIFY(!m_panel->hasFaults());
     }
@@ -443,7 +443,7 @@ private:
         box->showPopup();
         box->view()->setCurrentIndex(box->model()->index(item, 0));
         QTest::keyClick(box->view(), Qt::Key_Return);
-        QTRY_VERIFY(box.isNull()); // its list would keep the focus
+        QTRY_VERIFY(box.isNull()); // until then the list has the focus
         QCOMPARE(shown(caption), QString::fromUtf8(choice));
     }
     void check(const char* caption)

@@ -58,7 +58,7 @@ public:
     using TestWindow::TestWindow;
 };
 
-/// Enabled, checked and called by the status keys that its entry names.
+/// A command whose entry names the status keys that enable and check it.
 class StatusCommand final : public CommandExecuterxBase
 {
 public:
@@ -156,7 +156,7 @@ struct Told
     }};
 };
 
-/// A frame with its host, shown, as the application object makes them.
+/// A frame that is shown, with its host, as the application object makes them.
 struct ShownFrame
 {
     explicit ShownFrame(const QByteArray& xml = kLayout) : frame(host, layoutOf(xml))
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QCOMPARE(shown.dock("Survey Data List")->windowTitle(), "Other, Title"_q);
         QCOMPARE(survey->parameters().text("name"), std::string_view("Survey Data List"));
 
-        // A third tab that does not ask for it leaves the one in front alone.
+        // A third tab that is not set active stays behind the one in front.
         parameters.set("isSetActive", "0");
         parameters.set("caption", "Third");
         QVERIFY(windows.open("ThirdWindow"_q, parameters) != nullptr);
@@ -353,7 +353,7 @@ private Q_SLOTS:
         const QRect before = shown.dock("Layers")->geometry();
         for (const char* name : {"Messages", "Layers", "Survey Data List"})
             shown.dock(name)->toggleView(false);
-        basalt::Dictionary parameters; // a window that came later does not stand in the way
+        basalt::Dictionary parameters; // a window that was opened later must not matter
         QVERIFY(shown.host.windows().open("OtherWindow"_q, parameters) != nullptr);
         auto* const bar = shown.frame.findChild<QToolBar*>("bar"_q);
         bar->hide();
@@ -403,7 +403,7 @@ private Q_SLOTS:
     {
         const QString folder = QString::fromStdString(basalt::settingsFolder());
         QVERIFY(QDir().mkpath(QFileInfo(folder).path()));
-        QFile inTheWay(folder); // not even root can make a folder of it
+        QFile inTheWay(folder); // a file where the folder should be
         QVERIFY(inTheWay.open(QIODevice::WriteOnly));
         inTheWay.close();
         const LogCapture log;
@@ -425,7 +425,7 @@ private Q_SLOTS:
         QAction* const feet = shown.host.commands().action("Feet"_q);
         feet->trigger();
         QVERIFY(feet->isChecked());
-        feet->trigger(); // chosen already
+        feet->trigger(); // it has the value already
         QVERIFY(feet->isChecked());
         QVERIFY(told.texts.isEmpty());
         shown.host.commands().action("Dark"_q)->trigger();
@@ -451,7 +451,7 @@ private Q_SLOTS:
         QCOMPARE(windowsAlive, 0);
     }
 
-    // Every window of the finished program, here as an empty one of its name.
+    // The windows that are not built yet are replaced by empty ones.
     void theInstalledLayoutPlacesItsWindows()
     {
         for (const char* name : {"DesignLineTable", "SurveyDataTable", "DesignLineControl",

@@ -23,8 +23,8 @@ namespace {
 
 const QColor kPaper(10, 20, 30);
 
-/// Fills ten by ten pixels at the map position ("x", "y") with its "color", after having done what
-/// the test wants.
+/// A layer that runs the test's function, and then fills ten by ten pixels at the map position
+/// ("x", "y") with its "color".
 class ProbeLayer final : public ILayerViewer
 {
 public:
@@ -65,7 +65,7 @@ private:
 };
 
 std::atomic<int> started = 0;   ///< slow paints
-std::atomic<int> overtaken = 0; ///< and those of them that were cancelled
+std::atomic<int> overtaken = 0; ///< slow paints that were cancelled
 
 /// Waits until the paint is cancelled.
 void paintSlowly(const PaintTarget& target)
@@ -122,7 +122,7 @@ private Q_SLOTS:
         const QImage picture = settledPicture();
         QCOMPARE(picture.pixelColor(97, 250), QColor(Qt::blue));
         QCOMPARE(picture.pixelColor(103, 250), QColor(Qt::red));
-        QCOMPARE(picture.pixelColor(100, 50), kPaper); // south is below
+        QCOMPARE(picture.pixelColor(100, 50), kPaper); // not in the north
         QCOMPARE(picture.pixelColor(300, 250), kPaper);
     }
 
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(300, 150), QColor(Qt::blue));
         QCOMPARE(picture.pixelColor(294, 150), kPaper);
         QCOMPARE(picture.pixelColor(305, 150), kPaper);
-        QCOMPARE(picture.pixelColor(399, 299), kPaper); // uncovered by the move
+        QCOMPARE(picture.pixelColor(399, 299), kPaper); // where the picture has moved away
 
         m_map->zoomAbout(300, 150, 4);
         picture = shown();
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(settledPicture().pixelColor(100, 250), QColor(Qt::blue));
         QVERIFY(log.holds("\"Faulty\" could not be painted: no data"));
         QVERIFY(log.holds("\"Odd\" could not be painted: unknown fault"));
-        m_map->pan(0, 0, 100, 0); // the worker is still there
+        m_map->pan(0, 0, 100, 0); // the worker is still running
         QCOMPARE(settledPicture().pixelColor(200, 250), QColor(Qt::blue));
     }
 
@@ -184,7 +184,7 @@ private Q_SLOTS:
         m_map->zoomAbout(200, 150, 2);
         QTRY_COMPARE(overtaken.load(), 1);
         QTRY_COMPARE(shown().pixelColor(200, 150), QColor(Qt::blue));
-        QCOMPARE(pictures.count(), 1); // the overtaken one never came
+        QCOMPARE(pictures.count(), 1); // the cancelled picture was not shown
     }
 
     void longDragStillGetsPictures()
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QElapsedTimer clock;
         clock.start();
         while (pictures.count() < 2 && clock.elapsed() < 20000) {
-            m_map->pan(0, 0, 1, 0); // faster than any paint is
+            m_map->pan(0, 0, 1, 0); // the view moves faster than a paint takes
             QTest::qWait(5);
             m_map->pan(0, 0, -1, 0);
         }
@@ -285,7 +285,7 @@ private Q_SLOTS:
         QVERIFY(picture.pixelColor(250, 200) != QColor(Qt::green));
         QCOMPARE(picture.pixelColor(310, 200), kPaper);
 
-        overlay.setLineStyle(Qt::DashLine); // no dash is walked that is not seen
+        overlay.setLineStyle(Qt::DashLine); // must not walk along dashes out of sight
         m_map->zoomAbout(200, 100, 1e6);
         overlay.setRectangle({nan, 0, 10, nan});
         m_map->refreshOverlay();
@@ -298,7 +298,7 @@ private Q_SLOTS:
         addLayer("layer_name=frame", "BoundaryLayer");
         m_map->setExtent(50, 100, 150, 200);
         m_map->zoomRect(0, 0, 400, 300);
-        const auto hasFrame = [](const QImage& picture) { // dashed: some pixel of the left edge
+        const auto hasFrame = [](const QImage& picture) { // looks for a dash on the left edge
             for (int y = 110; y < 190; ++y) {
                 if (picture.pixelColor(50, y) == QColor(213, 94, 0))
                     return true;
@@ -331,7 +331,7 @@ private Q_SLOTS:
         QCOMPARE(corner.pixelColor(31, 60), QColor(213, 94, 0));
         QCOMPARE(corner.pixelColor(25, 50), QColor(Qt::white));
         job.target.transform.setView({1e12, 5e11}, Transform::kMinScale);
-        QVERIFY(paintPicture(job) != blank); // an edge of 1e18 pixels runs through
+        QVERIFY(paintPicture(job) != blank); // a part of an edge 1e18 pixels long
         job.target.transform.setView({5e11, 5e11}, 1);
         QCOMPARE(paintPicture(job), blank);
         job.target.mapExtent = QRectF();
@@ -368,7 +368,7 @@ private Q_SLOTS:
         get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "1");
         m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
         QCOMPARE(blackPixels(), 31);      // half of 200 ft
-        m_map->zoomAbout(200, 150, 1e-6); // 150,000 km would be longer than the earth is round
+        m_map->zoomAbout(200, 150, 1e-6); // a bar of 150,000 km is too long
         QCOMPARE(blackPixels(), 0);
         get_system_ini_parameter().dictionary().clear();
     }
@@ -397,7 +397,7 @@ private:
         return m_map->addLayer(QString::fromLatin1(className), dictionary);
     }
 
-    /// What shows once everything has been painted.
+    /// What is shown when all paints are done.
     QImage settledPicture()
     {
         if (!QTest::qWaitFor([this] { return m_map->isUpToDate(); }, 20000))

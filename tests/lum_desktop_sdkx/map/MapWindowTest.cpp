@@ -21,8 +21,7 @@ namespace {
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-/// A tool that notes its presses, double clicks and keys, keeps every move for itself, and does on
-/// a press what the test wants.
+/// A tool that notes the presses, handles every move, and runs the test's function on a press.
 class ProbeTool final : public ReactorBase
 {
 public:
@@ -36,7 +35,7 @@ public:
         presses.append(event.position.toPoint());
         if (const auto act = onPress) // a copy: it may set the next one
             act(map());
-        m_pressesOfThis++; // a fault for the sanitizer if the press has ended this reactor
+        m_pressesOfThis++; // the sanitizer tells when the press has deleted this reactor
         return m_pressesOfThis;
     }
     int mouseMove(const MouseKeyEventParameters& /*event*/) override { return 1; }
@@ -117,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
         QCOMPARE(m_map->cursor().shape(), Qt::CrossCursor);
 
-        // the release went elsewhere: the next move without the button pans no more
+        // Without the event of the release, the next move without the button ends the pan.
         QTest::mousePress(m_map.get(), Qt::MiddleButton, {}, {5, 5});
         install("ReactorDefault");
         move({50, 50});
@@ -155,7 +154,7 @@ private Q_SLOTS:
         move({101, 50});
         QCOMPARE(log.events.back().payload, std::string("N=2137.5 E=1025.25"));
 
-        drag(Qt::MiddleButton, {101, 50}, {161, 90}); // takes the place along
+        drag(Qt::MiddleButton, {101, 50}, {161, 90}); // the place under the cursor stays the same
         QCOMPARE(log.events.back().payload, std::string("N=2137.5 E=1025.25"));
         QCOMPARE(log.events.size(), 4U);
     }
@@ -165,9 +164,9 @@ private Q_SLOTS:
         install("ProbeTool");
         m_map->setExtent(0, 0, 80000, 60000);
         m_map->zoomRect(0, 0, 800, 600);
-        QTest::keyClick(m_map.get(), Qt::Key_Home); // kept by the tool
+        QTest::keyClick(m_map.get(), Qt::Key_Home); // the tool handles it
         QCOMPARE(scale(), 1.0);
-        QTest::keyClick(m_map.get(), Qt::Key_Left); // left to the other one
+        QTest::keyClick(m_map.get(), Qt::Key_Left); // the tool leaves it to ReactorDefault
         QCOMPARE(center(), QPointF(320, 300));
         QTest::mouseClick(m_map.get(), Qt::LeftButton, {}, {11, 12});
         QCOMPARE(ProbeTool::presses, QVector<QPoint>{QPoint(11, 12)});

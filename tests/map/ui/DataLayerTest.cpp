@@ -12,7 +12,7 @@ namespace {
 
 using Payloads = std::vector<std::string>;
 
-/// Empties the survey and lets the layer rebuild, at the first event.
+/// At each event, empties the survey and lets the layer rebuild its cache.
 class Emptier final : public IEventHandler
 {
 public:
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(map.window.extent(), QRectF(100, 100, 10, 10));
         QCOMPARE(map.layer().PickDesignPoint(100, 100), "d"_q);
         map.host.windowRegistry.windows.clear();
-        map.publish(events::kRefreshDesignLayer); // no map to tell
+        map.publish(events::kRefreshDesignLayer); // without a map
     }
 
     void onlyTheTopOfTheExtentIsAWholeNumber()
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(map.window.transform().GetScale(), 1.0);
         QCOMPARE(layer.PickDesignPoint(90.1, 100), "a"_q);
         QCOMPARE(layer.PickDesignPoint(90, 100), QString());
-        QCOMPARE(layer.PickDesignPoint(106, 100), "a"_q); // as near: the earlier one
+        QCOMPARE(layer.PickDesignPoint(106, 100), "a"_q); // of two equally near ones the first
         QCOMPARE(layer.PickDesignPoint(106.01, 100), "b"_q);
         map.window.zoomRect(0, 0, 800, 600);
         QCOMPARE(layer.PickDesignPoint(80.2, 100), "a"_q);
@@ -137,9 +137,9 @@ private Q_SLOTS:
         map.publish(events::kRefreshSurveyLayer);
         map.showAll();
         const IDataLayer& layer = map.layer();
-        QCOMPARE(layer.PickSurveyPoint(103, 100), "s1"_q); // as near
+        QCOMPARE(layer.PickSurveyPoint(103, 100), "s1"_q); // equally near: the result
         QCOMPARE(layer.PickSurveyPoint(103.1, 100), "base-0"_q);
-        QCOMPARE(layer.PickSurveyPoint(200, 100), "s2"_q); // on top of each other
+        QCOMPARE(layer.PickSurveyPoint(200, 100), "s2"_q); // at the same place
         QCOMPARE(layer.PickSurveyPoint(115.9, 100), "base-0"_q);
         QCOMPARE(layer.PickSurveyPoint(116, 100), QString());
 
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(progress.payloads(), Payloads{});
     }
 
-    /// Would wait for ever if an event left while the layer holds a mutex.
+    /// If the layer published while it holds a mutex, this would wait for ever.
     void aListenerMayRebuildDuringThePaint()
     {
         TestMap map;
@@ -245,7 +245,7 @@ private Q_SLOTS:
         const Emptier emptier(map);
         const EventLog progress(map.host.events, events::kProgress);
         paint(map);
-        QCOMPARE(progress.events.size(), 4U); // the paint goes on with what it started with
+        QCOMPARE(progress.events.size(), 4U); // the paint finishes with its own cache
         QCOMPARE(map.layer().PickSurveyPoint(100, 100), QString());
     }
 
