@@ -239,6 +239,18 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(68, 168), QColor(Qt::white)); // no brush yet
         QCOMPARE(picture.pixelColor(108, 168), QColor(Qt::red));  // of the first line's label
         QCOMPARE(picture.pixelColor(148, 168), QColor(Qt::blue)); // of the second point's base
+
+        SurveyPoint far; // beside the picture, but on the screen, with its base
+        far.lineNumber = "0";
+        far.north = far.referenceNorth = 100;
+        far.east = 1600;
+        far.referenceEast = 1572;
+        for (const char* number : {"1", "2"}) {
+            far.pointNumber = number;
+            points.set(far);
+        }
+        QCOMPARE(surveyPicture(points, frameAt(100, 200, 1)).pixelColor(68, 168),
+                 QColor(Qt::blue)); // of that base
     }
 
     void linesReportAndStopEndsThePaint()
