@@ -1,4 +1,5 @@
 #include "bench/Limits.h"
+#include "map/BaseStations.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
 #include "map/PictureFrame.h"
@@ -14,16 +15,17 @@
 
 #include <vector>
 
-// The pictures of the map's data, against the same pictures drawn by plain calls; a view of part of
-// the data, against a project that has no more than that; picking and the rebuild of the cache.
+// Measures the pictures of the map's data against the same pictures drawn by plain calls, and the
+// view of a part of the data against a project that has only this part. Measures picking and the
+// making of the caches.
 
 namespace {
 
 constexpr QSize kScreen(1920, 1080);
 constexpr int kDesignLines = 1000;
-constexpr int kDesignPoints = 1000; // a line
+constexpr int kDesignPoints = 1000; // of each line
 constexpr int kSurveyLines = 400;
-constexpr int kSurveyPoints = 500; // a line
+constexpr int kSurveyPoints = 500; // of each line
 const ToMap kToMap = [](double north, double east) { return QPointF(east, north); };
 
 const DesignPoints& design()
@@ -35,11 +37,7 @@ const DesignPoints& design()
 
 const DesignMarks& designMarks()
 {
-    static const DesignMarks kAll = [] {
-        DesignMarks marks;
-        marks.rebuild(design(), kToMap);
-        return marks;
-    }();
+    static const DesignMarks kAll(design(), kToMap);
     return kAll;
 }
 
@@ -49,7 +47,7 @@ const SurveyPoints& survey()
     return kAll;
 }
 
-/// A screen that shows the middle of `lines` lines of `points` points; `share` of their extent.
+/// A screen that shows the middle of `lines` lines of `points` points, `share` of their extent.
 PictureFrame frameOf(int lines, int points, double share)
 {
     const TestSurvey grid;
@@ -72,7 +70,7 @@ double msOfPicture(const Paint& paint)
     return 1e3 * bench::secondsOf([&] { paint(painter); });
 }
 
-/// The marks that a view shows, alone.
+/// Only the marks that a view shows.
 DesignMarks visibleMarks(const PictureFrame& frame)
 {
     const QRectF area = frame.mapArea(150);
@@ -83,9 +81,7 @@ DesignMarks visibleMarks(const PictureFrame& frame)
                 points.set(point);
         }
     }
-    DesignMarks marks;
-    marks.rebuild(points, kToMap);
-    return marks;
+    return {points, kToMap};
 }
 
 double msOfDesign(const DesignMarks& marks, const PictureFrame& frame)
@@ -107,7 +103,7 @@ void BM_DesignWhole(benchmark::State& state)
                       msOfDesign(designMarks(), frame) / plainMs, 0.5, "");
 }
 
-/// A view of part of the design may take twice what it takes where there is no more than that.
+/// The view of a part of a large design may take twice the time of a design with only this part.
 void designPart(benchmark::State& state, double share, const char* name)
 {
     const PictureFrame frame = frameOf(kDesignLines, kDesignPoints, share);
@@ -139,8 +135,7 @@ void BM_DesignLabels(benchmark::State& state)
 void surveyPart(benchmark::State& state, double share, const char* name)
 {
     const PictureFrame frame = frameOf(kSurveyLines, kSurveyPoints, share);
-    SurveyMarks marks;
-    marks.rebuild(survey(), kToMap);
+    const SurveyMarks marks(survey(), kToMap);
     const double plainMs = bench::medianOf([&] {
         return msOfPicture(
             [&](QPainter& painter) { paintSurveyPlainly(survey(), frame, painter); });
@@ -170,8 +165,7 @@ void BM_SurveyTenth(benchmark::State& state)
 /// The longest time that a paint goes on after it has been cancelled.
 void BM_Cancel(benchmark::State& state)
 {
-    SurveyMarks marks;
-    marks.rebuild(survey(), kToMap);
+    const SurveyMarks marks(survey(), kToMap);
     PictureFrame frame = frameOf(kSurveyLines, kSurveyPoints, 1);
     QElapsedTimer sinceAsked;
     double longestMs = 0;
@@ -208,15 +202,30 @@ void BM_Pick(benchmark::State& state)
                   microseconds[microseconds.size() * 99 / 100] / 1e3, 1, "ms");
 }
 
+/// Base stations that all differ. Comparing each with all others would take minutes.
+void BM_BaseStations(benchmark::State& state)
+{
+    for (auto _ : state) {
+        const double seconds = bench::secondsOf([] {
+            BaseStations stations;
+            for (int i = 0; i < kSurveyLines * kSurveyPoints; ++i)
+                stations.findOrAdd({i * 1.0, -5, 0, 0, 0});
+            benchmark::DoNotOptimize(stations.list().size());
+        });
+        bench::report(state, "200,000 base stations", seconds * 1e3, 1000, "ms");
+    }
+}
+
 void BM_Rebuild(benchmark::State& state)
 {
     const double copyMs = bench::medianOf([] {
         return 1e3 * bench::secondsOf([] { benchmark::DoNotOptimize(DesignPoints(design())); });
     });
-    DesignMarks marks;
     for (auto _ : state) {
-        const double ms = bench::medianOf(
-            [&] { return 1e3 * bench::secondsOf([&] { marks.rebuild(design(), kToMap); }); });
+        const double ms = bench::medianOf([] {
+            return 1e3 * bench::secondsOf(
+                             [] { benchmark::DoNotOptimize(DesignMarks(design(), kToMap)); });
+        });
         state.counters["ms"] = ms;
         state.counters["copy_ms"] = copyMs;
         bench::report(state, "design cache of 1,000,000 points, of a plain copy", ms / copyMs, 2,
@@ -232,6 +241,7 @@ BENCHMARK(BM_SurveyWhole)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SurveyTenth)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Cancel)->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Pick)->Iterations(2000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_BaseStations)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Rebuild)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 } // namespace

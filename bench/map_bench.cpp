@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <vector>
 
-// How long a frame takes in which the map's last picture is moved or stretched, against what the
-// user notices: panning has to stay smooth whatever the layers hold.
+// Measures a frame in which the map's last picture is moved or stretched. It must be so short that
+// panning is smooth, however many points the layers hold.
 
 namespace {
 
@@ -20,7 +20,7 @@ constexpr QSize kScreen(1920, 1080);
 constexpr int kColumns = 1000;
 constexpr int kRows = 1000;
 
-/// A million points, 25 m apart, a mark each.
+/// A layer of a million points, 25 m apart.
 class MillionPoints final : public ILayerViewer
 {
 public:
@@ -56,7 +56,7 @@ private:
     basalt::Dictionary m_properties;
 };
 
-/// A map on the screen, settled.
+/// A map on the screen whose picture is complete.
 std::unique_ptr<MapWindow> shownMap(TestHost& host, bool hasPoints)
 {
     auto map = std::make_unique<MapWindow>("", &host);
@@ -77,7 +77,7 @@ void report(benchmark::State& state, std::vector<double> framesMs, const char* n
     bench::report(state, name, framesMs[framesMs.size() / 2], kLimitMs, "ms a frame");
 }
 
-/// Times single frames: `change` the view, then what the widget paints at once.
+/// Measures single frames: `change` the view, then the repaint of the widget.
 template <class Change>
 void runFrames(benchmark::State& state, MapWindow& map, const char* name, Change change)
 {
@@ -89,12 +89,12 @@ void runFrames(benchmark::State& state, MapWindow& map, const char* name, Change
         map.repaint();
         framesMs.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
         state.SetIterationTime(framesMs.back() / 1e3);
-        QApplication::processEvents(); // the paint on the worker is asked for here
+        QApplication::processEvents(); // here the map requests a paint on the worker
     }
     report(state, std::move(framesMs), name);
 }
 
-/// There and back again, so that the picture stays in sight.
+/// A hundred frames there, a hundred back, so that the picture stays in sight.
 int direction(int frame)
 {
     return frame % 200 < 100 ? 3 : -3;
@@ -124,7 +124,7 @@ void BM_ZoomMillionPoints(benchmark::State& state)
               [&](int frame) { map->zoomAbout(960, 540, frame % 20 < 10 ? 1.02 : 1 / 1.02); });
 }
 
-/// The limit itself: copying as many bytes as the screen has.
+/// For comparison: copying as many bytes as the screen has.
 void BM_CopyScreen(benchmark::State& state)
 {
     QImage from(kScreen, QImage::Format_RGB32);

@@ -21,13 +21,6 @@ std::size_t BaseStations::CellHash::operator()(const Cell& cell) const
     return hash(cell.north) * 31 + hash(cell.east);
 }
 
-void BaseStations::clear()
-{
-    m_list.clear();
-    m_cells.clear();
-    m_nowhere.reset();
-}
-
 std::uint32_t BaseStations::findOrAdd(const BaseStation& station)
 {
     const auto next = static_cast<std::uint32_t>(m_list.size());

@@ -14,9 +14,9 @@ public:
     /// Two places less than this apart are the same station.
     static constexpr double kSameM = 1e-5;
 
-    void clear();
-    /// The first station at that place; a new one when there is none. All places that are not
-    /// finite are one station. \returns its index
+    /// Finds the first station at this place, or adds one. All places that are not finite count as
+    /// one station.
+    /// \returns the index in `list()`
     std::uint32_t findOrAdd(const BaseStation& station);
 
     [[nodiscard]] const std::vector<BaseStation>& list() const { return m_list; }
@@ -36,6 +36,7 @@ private:
     [[nodiscard]] std::uint32_t findNear(const BaseStation& station, const Cell& cell) const;
 
     std::vector<BaseStation> m_list;
-    std::unordered_multimap<Cell, std::uint32_t, CellHash> m_cells; ///< by place, `kSameM` wide
-    std::optional<std::uint32_t> m_nowhere;                         ///< the one that is not finite
+    std::unordered_multimap<Cell, std::uint32_t, CellHash>
+        m_cells;                            ///< station indexes by grid cell, `kSameM` wide
+    std::optional<std::uint32_t> m_nowhere; ///< the station whose place is not finite
 };

@@ -4,8 +4,8 @@
 
 #include <limits>
 
-/// The smallest upright rectangle around some points; empty around none. Edges belong to it, so
-/// that a single point has bounds, too.
+/// The smallest axis-parallel rectangle that holds all points added so far; empty without points.
+/// The edges belong to it, so that a single point has bounds.
 struct Bounds
 {
     double minX = std::numeric_limits<double>::infinity();

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr int kPhases = 4; // places within a device pixel, each way
-constexpr double kFarthest = 30000;
+constexpr int kPhases = 4;          // places of the centre within a device pixel, across and down
+constexpr double kFarthest = 30000; // device pixels; beyond it an int could overflow
 
 } // namespace
 

@@ -6,21 +6,24 @@
 
 class QPainter;
 
-/// A circle of one size and colour that is drawn many times: an image of it, at sixteen places
-/// within a pixel, laid down where it is wanted.
+/// A circle of one size and colour that is drawn many times.
+///
+/// The constructor paints it into sixteen small images, with the centre at another place within the
+/// pixel in each; `draw` copies the one that fits. Kept beside `QPainter::drawEllipse` because a
+/// copy costs much less, and a picture holds up to hundreds of thousands of circles.
 class CircleStamp
 {
 public:
     /// \param radius screen pixels
-    /// \param pixelRatio device pixels to a screen pixel, of what it will be drawn on
+    /// \param pixelRatio device pixels to a screen pixel, on the device to draw on
     CircleStamp(double radius, const QPen& pen, const QBrush& brush, double pixelRatio);
 
-    /// Stamps it on a painter that is neither turned nor scaled.
-    /// \param center screen pixels; one that is far outside is passed over
+    /// Draws the circle with a painter that is neither rotated nor scaled.
+    /// \param center screen pixels; a place far outside of the picture is skipped
     void draw(QPainter& painter, const QPointF& center) const;
 
 private:
     double m_ratio;
-    int m_side; ///< of one image, device pixels
-    QImage m_images;
+    int m_side;      ///< of each small image, device pixels
+    QImage m_images; ///< the sixteen small images, four by four
 };

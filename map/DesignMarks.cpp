@@ -1,9 +1,7 @@
 #include "map/DesignMarks.h"
 
-void DesignMarks::rebuild(const DesignPoints& points, const ToMap& toMap)
+DesignMarks::DesignMarks(const DesignPoints& points, const ToMap& toMap)
 {
-    m_table.clear();
-    m_types.clear();
     m_table.reserve(points.pointCount());
     for (const auto& [number, line] : points) {
         m_table.beginLine(number);

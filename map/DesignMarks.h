@@ -4,15 +4,18 @@
 #include "map/ToMap.h"
 #include "model/PointLines.h"
 
-/// The drawing cache of the design: its points as marks, line after line in the order of bytes.
+/// The design as the map draws it: a mark for each point, line after line in the byte order of the
+/// numbers.
 class DesignMarks
 {
 public:
-    /// Forgets what it held. Points without a finite place are left out.
-    void rebuild(const DesignPoints& points, const ToMap& toMap);
+    DesignMarks() = default;
+    /// Points without a finite place are left out.
+    DesignMarks(const DesignPoints& points, const ToMap& toMap);
 
     [[nodiscard]] const MarkTable& table() const { return m_table; }
-    /// 1 receiver, 0 source: the type of the line's first mark, lines counted as in the table.
+    /// The type of the first mark of a line: 1 receiver, 0 source.
+    /// \param line index in `table().lines()`
     [[nodiscard]] int typeOf(std::size_t line) const { return m_types[line]; }
 
 private:

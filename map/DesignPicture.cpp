@@ -20,11 +20,11 @@
 
 namespace {
 
-constexpr int kRoomForPoints = 10; // pixels of the screen's resolution
+constexpr int kRoomForPoints = 10; // logical pixels from point to point
 constexpr int kRoomForLabels = 80;
 constexpr double kRadius = 4;
 constexpr double kLabelOffset = 10;
-constexpr double kLineMargin = 8; // no pen or circle is seen from farther outside
+constexpr double kLineMargin = 8; // pixels: farther outside, a pen or circle cannot be seen
 constexpr int kReceiver = 1;
 constexpr int kSource = 0;
 
@@ -44,7 +44,7 @@ public:
         const double spacing = options.spacingM / frame.transform.GetScale();
         m_showsPoints = spacing >= dpi_scaled(kRoomForPoints);
         m_showsLabels = m_showsPoints && spacing >= dpi_scaled(kRoomForLabels);
-        // Coordinates are written with a few letters more than the longest number.
+        // A label of two coordinates may be longer than any name.
         const double margin =
             kLineMargin + dpi_scaled(32) +
             m_names.reach(std::max(m_marks.longestName(), std::size_t(m_showsLabels ? 40 : 12)));
@@ -71,7 +71,8 @@ public:
     }
 
 private:
-    /// Lines of one colour may be drawn in any order, of two only in theirs.
+    /// Segments of one colour are collected and drawn together, since their order cannot be seen.
+    /// Segments of another colour must come after them.
     void useColor(Qt::GlobalColor color)
     {
         if (m_color == color)
@@ -165,12 +166,12 @@ private:
     QPainter& m_painter;
     NameWriter m_names;
     PolylineParts m_parts;
-    QVector<QLineF> m_spans; ///< of the present colour, not drawn yet
+    QVector<QLineF> m_spans; ///< of the current colour, not drawn yet
     std::optional<CircleStamp> m_stamp;
     std::optional<Qt::GlobalColor> m_color;
     bool m_showsPoints = false;
     bool m_showsLabels = false;
-    QRectF m_screen; ///< where something drawn could still be seen, screen pixels
+    QRectF m_screen; ///< nothing that starts outside it can be seen, screen pixels
     QRectF m_area;   ///< the same in map coordinates
 };
 

@@ -11,10 +11,10 @@ struct DesignPictureOptions
     bool showsSourceLines = true;
 };
 
-/// Paints the design: lines with their points and labels as far as there is room for them.
+/// Paints the design: its lines, and their points and labels where there is room for them.
 ///
-/// A line has the colour of its type and covers those before it. Where points lie closer than 10
-/// pixels (of the screen's resolution), a line is one straight segment; from 80 pixels on points
-/// are labelled. What cannot be seen costs a look at its bounds.
+/// A line has the colour of its type, and covers the lines before it. Where points stand less than
+/// 10 logical pixels apart, a line is one straight segment. From 80 logical pixels on, points are
+/// labelled. Blocks of marks out of sight are skipped by their bounds.
 void paintDesign(const DesignMarks& marks, const PictureFrame& frame,
                  const DesignPictureOptions& options, QPainter& painter);

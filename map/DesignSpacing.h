@@ -4,6 +4,6 @@
 
 class IDictionary;
 
-/// The smallest spacing of points or lines that the design parameters name, metres; 10 for what
-/// they leave out. Nothing where there are no parameters at all.
+/// The smallest of the four spacings of points and lines in the design parameters, metres. A
+/// spacing that is missing counts as 10. Nothing when the dictionary is empty.
 [[nodiscard]] std::optional<double> smallestSpacingM(const IDictionary& designParameters);

@@ -11,8 +11,8 @@ enum class Side
     Both
 };
 
-/// Whether the marks of a block lie in `area`. The corners go through the same arithmetic as the
-/// marks, which keeps order: what holds for them holds for every mark.
+/// Whether the marks of a block lie in `area`. The transform keeps the order of coordinates, so
+/// that the marks lie between the transformed corners of the bounds.
 Side sideOf(const Bounds& bounds, const Transform& transform, const QRectF& area)
 {
     const QPointF a = transform.SurveyToScreen(bounds.minX, bounds.maxY);
@@ -24,12 +24,13 @@ Side sideOf(const Bounds& bounds, const Transform& transform, const QRectF& area
     return Side::Both;
 }
 
-/// Walks along a line, mark by mark or block by block.
+/// Finds the two ends of the segment on a walk along the line, mark by mark or block by block.
 class SpanWalk
 {
 public:
     explicit SpanWalk(MarkTable::Index first) : m_start(first), m_end(first) {}
 
+    /// Passes the marks from `first` to `last`, which are all inside or all outside.
     /// \returns true when the end has been found
     bool pass(MarkTable::Index first, MarkTable::Index last, bool isInside)
     {

@@ -6,10 +6,10 @@
 
 class Transform;
 
-/// The one segment that stands for a whole line of marks, screen pixels.
+/// The one segment that is drawn for a whole line of marks, screen pixels.
 ///
-/// From the last mark outside `area` (screen pixels) before the first inside, or from the line's
-/// first when that lies inside; to the first mark outside after that, or the line's last. Of a line
-/// wholly outside it is the last mark alone.
+/// It starts at the last mark before the line enters `area` (screen pixels), or at the line's first
+/// mark when that lies inside. It ends at the first mark outside after that, or at the line's last
+/// mark. For a line wholly outside both ends are the last mark.
 [[nodiscard]] QLineF lineSpan(const MarkTable& marks, const MarkTable::Line& line,
                               const Transform& transform, const QRectF& area);

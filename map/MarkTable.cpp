@@ -8,23 +8,13 @@ namespace {
 constexpr MarkTable::Index kBlockSize = 64;
 constexpr std::size_t kUsualName = 9; // bytes
 
+/// How far `value` lies outside of the range.
 double gap(double value, double low, double high)
 {
     return value < low ? low - value : value > high ? value - high : 0;
 }
 
 } // namespace
-
-void MarkTable::clear()
-{
-    m_lines.clear();
-    m_blocks.clear();
-    m_grid.clear();
-    m_map.clear();
-    m_names.clear();
-    m_nameEnds.assign(1, 0);
-    m_longestName = 0;
-}
 
 void MarkTable::reserve(std::size_t marks)
 {

@@ -17,10 +17,10 @@ struct GridPlace
     double east = 0;
 };
 
-/// Named marks of the map, line after line: what is painted, picked and looked up.
+/// The named marks of a picture, line after line, for painting, picking and looking up.
 ///
-/// Flat arrays, filled in order. Each line is cut into short blocks with their bounds, so that
-/// painting and picking look at the bounds of what is far away and no further.
+/// The arrays are flat and filled in order. Each line is cut into short blocks with bounds, so that
+/// painting and picking can skip a block that is far away.
 class MarkTable
 {
 public:
@@ -31,7 +31,7 @@ public:
         Index first = 0;
         Index end = 0;
         Bounds grid; ///< of the marks; x is northing, y is easting
-        Bounds seen; ///< of all that is drawn for them, map coordinates
+        Bounds seen; ///< of the marks and all that is drawn for them, map coordinates
     };
     struct Line
     {
@@ -46,15 +46,15 @@ public:
         double distanceM = 0;
     };
 
-    void clear();
     void reserve(std::size_t marks);
 
-    /// The marks that follow belong to this line. A line that gets none is dropped.
+    /// Marks added from now on belong to this line. `endLine` drops a line without marks.
     void beginLine(std::string_view number);
-    /// \param name in the order of bytes within its line
-    /// \returns false, and leaves it out, when a coordinate is not finite
+    /// Adds a mark. The names of a line must come in byte order.
+    /// \returns false, and adds nothing, when a coordinate is not finite
     bool add(std::string_view name, const GridPlace& grid, const QPointF& map);
-    /// Of the last mark something is drawn there, too; what is not finite is passed over.
+    /// Widens the bounds of what is drawn for the last mark to this place; ignores a place that is
+    /// not finite.
     void alsoSeenAt(const QPointF& map);
     void endLine();
 
@@ -68,14 +68,14 @@ public:
     [[nodiscard]] const GridPlace& grid(Index mark) const { return m_grid[mark]; }
     [[nodiscard]] const QPointF& place(Index mark) const { return m_map[mark]; }
     [[nodiscard]] std::string_view name(Index mark) const;
-    /// Of all names, in bytes.
+    /// The length of the longest name, bytes.
     [[nodiscard]] std::size_t longestName() const { return m_longestName; }
-    /// Of all marks on the grid; x is northing, y is easting.
+    /// The bounds of all marks on the grid; x is northing, y is easting.
     [[nodiscard]] Bounds gridBounds() const;
 
-    /// The nearest mark less than `reachM` away; of several the first.
+    /// The nearest mark less than `reachM` away; of several equally near ones the first.
     [[nodiscard]] std::optional<Nearest> nearest(const GridPlace& to, double reachM) const;
-    /// The first mark of that name.
+    /// The first mark of this name.
     [[nodiscard]] std::optional<Index> find(std::string_view name) const;
     [[nodiscard]] const Line& lineOf(Index mark) const;
 
@@ -84,7 +84,7 @@ private:
     std::vector<Block> m_blocks;
     std::vector<GridPlace> m_grid;
     std::vector<QPointF> m_map;
-    std::string m_names;              ///< one behind the other
-    std::vector<Index> m_nameEnds{0}; ///< in `m_names`; one more than there are marks
+    std::string m_names;              ///< all names, one behind the other
+    std::vector<Index> m_nameEnds{0}; ///< in `m_names`; entry 0 is where the first name begins
     std::size_t m_longestName = 0;
 };

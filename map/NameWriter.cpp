@@ -9,7 +9,7 @@
 namespace {
 constexpr unsigned char kFirstLetter = 32;
 constexpr unsigned char kLastLetter = 126;
-constexpr int kLongestRun = 64; // longer texts are rare, and laid out
+constexpr int kLongestRun = 64; // bytes; longer texts are rare and left to the painter
 } // namespace
 
 NameWriter::NameWriter(const QFont& font)
@@ -46,7 +46,7 @@ bool NameWriter::place(std::string_view text)
     double x = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto letter = static_cast<unsigned char>(text[i]);
-        if (letter >= kLetters || m_glyphs[letter] == 0) // not in this font
+        if (letter >= kLetters || m_glyphs[letter] == 0) // not ASCII, or not in this font
             return false;
         m_run[static_cast<int>(i)] = m_glyphs[letter];
         m_places[static_cast<int>(i)] = QPointF(x, 0);

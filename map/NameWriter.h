@@ -10,25 +10,27 @@
 
 class QPainter;
 
-/// Writes many short names with one font, without laying out each of them anew.
+/// Writes many short names in one font.
 ///
-/// For one thread: the one that paints.
+/// Kept beside `QPainter::drawText`, which lays out each text anew and so takes much longer; the
+/// picture tests compare the two. A writer is made and used on the thread that paints.
 class NameWriter
 {
 public:
     explicit NameWriter(const QFont& font);
 
-    /// Draws `text` (UTF-8) from `baseline` on, screen pixels, as `QPainter::drawText` does, in the
-    /// painter's pen and font, which is the writer's.
+    /// Draws `text` (UTF-8) as `QPainter::drawText` does, from `baseline` (screen pixels) on. The
+    /// painter's font must be the writer's.
     void write(QPainter& painter, const QPointF& baseline, std::string_view text);
 
-    /// Names of up to so many bytes reach no farther than this, screen pixels.
+    /// The greatest width of a name of this many bytes, screen pixels.
     [[nodiscard]] double reach(std::size_t bytes) const;
 
 private:
     static constexpr std::size_t kLetters = 128; ///< ASCII
 
-    /// Places the glyphs of `text` one behind the other; false when it needs a layout.
+    /// Places the glyphs of `text` one behind the other.
+    /// \returns false when the text must be left to `QPainter::drawText`
     bool place(std::string_view text);
 
     QRawFont m_font;

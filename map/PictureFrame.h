@@ -4,15 +4,15 @@
 
 #include <functional>
 
-/// What a picture is painted into, and whom it tells.
+/// The view that a picture is painted for, and the two calls that the painter makes on its way.
 struct PictureFrame
 {
     Transform transform;
     QRectF drawingArea; ///< marks outside it are left out; screen pixels
-    std::function<bool()> isStopped = [] { return false; }; ///< asked often; true ends the paint
-    std::function<void(double)> lineDone = [](double) {};   ///< a line's end; percent of all
+    std::function<bool()> isStopped = [] { return false; }; ///< true ends the paint; called often
+    std::function<void(double)> lineDone = [](double) {}; ///< a line is drawn; percent of all lines
 
-    /// The map rectangle of what can be seen, and of `margin` screen pixels around it.
+    /// The map rectangle of the screen and of `margin` screen pixels around it.
     [[nodiscard]] QRectF mapArea(double margin) const
     {
         return transform.ScreenToSurvey(screenArea(margin)).normalized();

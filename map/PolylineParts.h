@@ -3,21 +3,21 @@
 #include <QPolygonF>
 #include <QVector>
 
-/// The parts of a polyline inside an area, so that the paint engine never sees a vertex millions of
-/// pixels away.
+/// Cuts a polyline down to the parts inside an area, so that the paint engine never gets a vertex
+/// millions of pixels away.
 class PolylineParts
 {
 public:
     explicit PolylineParts(const QRectF& area) : m_area(area) {}
 
-    /// Begins anew.
+    /// Forgets all parts.
     void clear();
-    /// Goes on from where it stands to `vertex`.
+    /// Draws a line from the last vertex to this one.
     void lineTo(const QPointF& vertex);
-    /// Goes to `vertex` without a line.
+    /// Makes this the last vertex, without a line to it.
     void moveTo(const QPointF& vertex);
 
-    /// In their order; each has two vertices or more.
+    /// The parts in their order, each of two vertices or more.
     [[nodiscard]] const QVector<QPolygonF>& parts() const { return m_parts; }
 
 private:

@@ -2,12 +2,8 @@
 
 #include <cmath>
 
-void SurveyMarks::rebuild(const SurveyPoints& points, const ToMap& toMap)
+SurveyMarks::SurveyMarks(const SurveyPoints& points, const ToMap& toMap)
 {
-    m_table.clear();
-    m_ties.clear();
-    m_bases.clear();
-    m_basePlaces.clear();
     const std::size_t count = points.pointCount();
     m_table.reserve(count);
     m_ties.reserve(count);

@@ -5,31 +5,33 @@
 #include "map/ToMap.h"
 #include "model/PointLines.h"
 
-/// The drawing cache of the survey: its results as marks, line after line in the order of bytes,
-/// and the base stations that they were measured from.
+/// The survey as the map draws it: a mark for each result, line after line in the byte order of the
+/// numbers, and the base stations of the results.
 class SurveyMarks
 {
 public:
-    /// What belongs to a mark beside its own place.
+    /// What the picture connects a mark with.
     struct Ties
     {
-        QPointF design; ///< map coordinates; of the grid's origin when the result carries none
-        std::uint32_t base = 0;
-        bool hasDesign = false; ///< neither design coordinate is 0
+        QPointF design;         ///< map coordinates; of the grid's origin for a result without it
+        std::uint32_t base = 0; ///< index in `bases()`
+        bool hasDesign = false; ///< false when a design coordinate is 0
     };
 
-    /// Forgets what it held. Results without a finite place are left out.
-    void rebuild(const SurveyPoints& points, const ToMap& toMap);
+    SurveyMarks() = default;
+    /// Results without a finite place are left out.
+    SurveyMarks(const SurveyPoints& points, const ToMap& toMap);
 
     [[nodiscard]] const MarkTable& table() const { return m_table; }
     [[nodiscard]] const Ties& ties(MarkTable::Index mark) const { return m_ties[mark]; }
     [[nodiscard]] const std::vector<BaseStation>& bases() const { return m_bases.list(); }
     /// Map coordinates of the base stations.
     [[nodiscard]] const std::vector<QPointF>& basePlaces() const { return m_basePlaces; }
-    /// Of all marks and base stations on the grid; x is northing, y is easting.
+    /// The bounds of all marks and base stations on the grid; x is northing, y is easting.
     [[nodiscard]] Bounds gridBounds() const;
 
-    /// The nearest base station less than `reachM` away; of several the first. Null when none is.
+    /// The index of the nearest base station less than `reachM` away; of several equally near ones
+    /// the first.
     [[nodiscard]] std::optional<std::size_t> nearestBase(const GridPlace& to, double reachM) const;
 
 private:

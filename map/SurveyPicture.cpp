@@ -18,19 +18,20 @@
 namespace {
 
 constexpr double kRadius = 2;
-constexpr double kLineMargin = 8; // no pen or circle is seen from farther outside
+constexpr double kLineMargin = 8; // pixels: farther outside, a pen or circle cannot be seen
 constexpr double kDashes = 6;     // pixels after which a dashed pen repeats
-constexpr double kHidden = 1.5;   // pixels around a filled circle's centre that show nothing else
+constexpr double kHidden = 1.5;   // pixels: a shorter line lies under the circle at its end
 
 /// A base station on the screen.
 struct ScreenBase
 {
     QPointF place;
-    bool isInside = false; ///< the drawing area
+    bool isInside = false; ///< of the drawing area
     bool hasLabel = false;
 };
 
-/// What a design position's circle is filled with: the brush that was last in use.
+/// How the circle around a design position is filled: with the brush of what was drawn before it,
+/// red for a result or a line number, blue for a base station.
 enum Filling : std::size_t
 {
     Hollow,
@@ -90,7 +91,7 @@ private:
         }
     }
 
-    /// Of marks out of sight only the brush that they leave behind can be seen.
+    /// Skips a block out of sight. It still decides the brush for the next design position.
     void passOver(const MarkTable::Block& block, MarkTable::Index labelled)
     {
         for (MarkTable::Index mark = block.end; mark-- > block.first;) {
@@ -162,7 +163,8 @@ private:
         m_painter.drawLine(*seen);
     }
 
-    /// Of a line that begins far outside only the part in sight, but with the whole line's dashes.
+    /// Draws the part of a dashed line that can be seen. Its dashes stand where those of the whole
+    /// line would.
     void drawDashed(const QLineF& line)
     {
         const auto seen = clippedLine(line, m_lineArea);
@@ -219,7 +221,7 @@ private:
     const QPen m_toDesign{QBrush(Qt::cyan), 1, Qt::DashLine};
     const QPen m_redText{Qt::red};
     const QPen m_blueText{Qt::blue};
-    const QPen* m_pen = nullptr; ///< the one in use
+    const QPen* m_pen = nullptr; ///< the painter's pen; null when it is none of these
 
     double m_ratio;
     const CircleStamp m_measured{kRadius, QPen(Qt::red), QBrush(Qt::red), m_ratio};
@@ -229,9 +231,9 @@ private:
         CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::red), m_ratio),
         CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::blue), m_ratio)};
 
-    QRectF m_edge;     ///< a pixel around the screen
-    QRectF m_lineArea; ///< where a line or circle could still be seen, screen pixels
-    QRectF m_screen;   ///< where a text could still be seen, screen pixels
+    QRectF m_edge;     ///< the screen and a pixel around it
+    QRectF m_lineArea; ///< no line or circle outside it can be seen, screen pixels
+    QRectF m_screen;   ///< no text that starts outside it can be seen, screen pixels
     QRectF m_area;     ///< the same in map coordinates
 };
 

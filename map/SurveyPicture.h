@@ -5,11 +5,12 @@ class QString;
 class SurveyMarks;
 struct PictureFrame;
 
-/// Paints the survey: each result with a line to its base station and a dashed one to the place
-/// that it was designed for.
+/// Paints the survey: each result with a line to its base station and a dashed line to its design
+/// position.
 ///
-/// Everything covers what was drawn before it. What cannot be seen costs a look at its bounds.
-/// \param baseWord "Base" in the user's language: stations are labelled with it and their number,
-///        counted from 1
+/// What is drawn later covers what was drawn before. Blocks of marks out of sight are skipped by
+/// their bounds.
+/// \param baseWord the word before a base station's number, counted from 1: "Base" in the user's
+///        language
 void paintSurvey(const SurveyMarks& marks, const PictureFrame& frame, const QString& baseWord,
                  QPainter& painter);

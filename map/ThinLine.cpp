@@ -10,12 +10,13 @@
 
 namespace {
 
-constexpr double kCap = 0.5; // a pen's square end reaches half its width farther
-constexpr std::uint32_t kOpaque = 256;
+constexpr double kCap = 0.5;           // the square end of a pen adds half the pen's width
+constexpr std::uint32_t kOpaque = 256; // a full cover
 constexpr int kFixedBits = 16;
 constexpr double kFixedOne = 65536;
 
-/// Lays `color` over `pixel`. \param cover of 256
+/// Mixes `color` into `pixel`, two channels at a time.
+/// \param cover share of `color`, of 256
 void mix(QRgb& pixel, QRgb color, std::uint32_t cover)
 {
     constexpr QRgb kEven = 0x00ff00ff;
@@ -25,8 +26,9 @@ void mix(QRgb& pixel, QRgb color, std::uint32_t cover)
     pixel = (even & kEven) | (odd & ~kEven);
 }
 
-/// How far from a pixel's middle the paint engine takes the line's place: a rounding of its own, by
-/// where the line starts. Without it every second line would lie beside the engine's.
+/// The paint engine takes the place of a line half a pixel before or after the middle of a pixel,
+/// depending on where the line starts. Without the same shift every second line would differ from
+/// the engine's.
 double engineShift(double start)
 {
     constexpr double kEngineUnits = 64; // a pixel
@@ -62,8 +64,8 @@ bool ThinLine::draw(const QLineF& line)
     return true;
 }
 
-/// Each pixel of the longer direction is shared out between the two of the other one that the
-/// line's middle passes.
+/// In each step along the longer axis, the colour is shared out between the two pixels of the other
+/// axis next to the middle of the line.
 void ThinLine::drawAlong(const Axes& axes, QPointF from, QPointF to)
 {
     if (from.x() > to.x())

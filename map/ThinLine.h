@@ -8,34 +8,37 @@
 
 class QPainter;
 
-/// Draws solid lines one pixel wide, with soft edges, straight into the picture that a painter
-/// works on: where hundreds of thousands of long lines are drawn, several times as quickly.
+/// Draws solid lines, one pixel wide and antialiased, straight into the pixels of a painter's
+/// image.
+///
+/// Kept beside `QPainter::drawLine` because a survey picture draws hundreds of thousands of long
+/// lines, and this is several times as fast; the picture tests compare the two.
 class ThinLine
 {
 public:
     /// \param color opaque
     ThinLine(const QPainter& painter, QRgb color);
 
-    /// \param line finite, and cut down to what lies in or near the picture
-    /// \returns false, and draws nothing, where only the painter itself can draw: on anything but a
-    ///          plain picture of one pixel to a pixel, or when it is clipped, turned or scaled
+    /// \param line finite, and clipped to the picture or its surroundings
+    /// \returns false, and draws nothing, when the painter itself must draw: its device is no image
+    ///          of 32 bits, or it clips, rotates or scales
     [[nodiscard]] bool draw(const QLineF& line);
 
 private:
-    /// Pixels along a line, `major` its longer direction.
+    /// How to walk through the pixels: `major` is the axis along which the line is longer.
     struct Axes
     {
         int majorSize;
         int minorSize;
-        std::ptrdiff_t majorStep; ///< from a pixel to the next, in pixels of memory
+        std::ptrdiff_t majorStep; ///< to the next pixel of this axis, in pixels of memory
         std::ptrdiff_t minorStep;
     };
 
     void drawAlong(const Axes& axes, QPointF from, QPointF to);
     void blend(const Axes& axes, int major, double minor, double cover);
 
-    QRgb* m_pixels = nullptr; ///< of the picture; null when it cannot be drawn into
+    QRgb* m_pixels = nullptr; ///< of the image; null when only the painter can draw
     QSize m_size;
-    std::ptrdiff_t m_lineStep = 0; ///< pixels of memory to a line
+    std::ptrdiff_t m_lineStep = 0; ///< to the next row of pixels, in pixels of memory
     QRgb m_color;
 };

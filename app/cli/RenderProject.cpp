@@ -51,8 +51,7 @@ PictureFrame frameFor(const QSize& size, const QRectF& extent)
 
 void paintDesignOf(DataProcessDataManager& manager, QImage& image)
 {
-    DesignMarks marks;
-    marks.rebuild(manager.designPoints(), toMap);
+    const DesignMarks marks(manager.designPoints(), toMap);
     DesignPictureOptions options;
     options.spacingM = smallestSpacingM(manager.designParameters()).value_or(options.spacingM);
     QPainter painter(&image);
@@ -62,8 +61,7 @@ void paintDesignOf(DataProcessDataManager& manager, QImage& image)
 
 void paintSurveyOf(DataProcessDataManager& manager, QImage& image)
 {
-    SurveyMarks marks;
-    marks.rebuild(manager.surveyPoints(), toMap);
+    const SurveyMarks marks(manager.surveyPoints(), toMap);
     QPainter painter(&image);
     paintSurvey(marks, frameFor(image.size(), markExtent(marks.gridBounds(), toMap)),
                 QCoreApplication::translate("DataProcessLayerImp", "Base"), painter);

@@ -43,6 +43,14 @@ std::string subscribedEvents()
     return names;
 }
 
+/// The cache of the moment. The caller keeps it even when another one takes its place.
+template <class Marks>
+std::shared_ptr<const Marks> currentOf(const std::shared_ptr<const Marks>& cache, std::mutex& mutex)
+{
+    const std::lock_guard lock(mutex);
+    return cache;
+}
+
 int viewOf(const IDictionary& status)
 {
     return status.integer(status::kViewShowWhich, kDesignView);
@@ -75,7 +83,7 @@ void DataProcessLayerImp::handleEvent(const char* eventName, const char* /*paylo
                                       int /*reserved*/)
 {
     if (std::strcmp(eventName, events::kUpdateSystemStatus) == 0) {
-        dropForeignMarks();
+        clearOldHighlights();
         return;
     }
     const bool isDue = std::any_of(std::begin(kRebuildEvents), std::end(kRebuildEvents),
@@ -87,13 +95,11 @@ void DataProcessLayerImp::handleEvent(const char* eventName, const char* /*paylo
 
 void DataProcessLayerImp::rebuild()
 {
-    m_isRebuildDue = true;
     const int view = viewOf(get_system_status_dictionary());
     if (view == kSurveyView)
         rebuildSurvey();
     else if (view == kDesignView)
         rebuildDesign();
-    m_isRebuildDue = false;
 }
 
 void DataProcessLayerImp::rebuildDesign()
@@ -101,9 +107,11 @@ void DataProcessLayerImp::rebuildDesign()
     static const DesignPoints kNone;
     DataProcessDataManager* const manager = DataProcessDataManager::instance();
     const auto place = [this](double north, double east) { return toMap(north, east); };
+    auto marks = std::make_shared<const DesignMarks>(
+        manager != nullptr ? manager->designPoints() : kNone, place);
+    m_extent = markExtent(marks->table().gridBounds(), place);
     const std::lock_guard lock(m_designMutex);
-    m_design.rebuild(manager != nullptr ? manager->designPoints() : kNone, place);
-    m_extent = markExtent(m_design.table().gridBounds(), place);
+    m_design = std::move(marks);
 }
 
 void DataProcessLayerImp::rebuildSurvey()
@@ -111,9 +119,11 @@ void DataProcessLayerImp::rebuildSurvey()
     static const SurveyPoints kNone;
     DataProcessDataManager* const manager = DataProcessDataManager::instance();
     const auto place = [this](double north, double east) { return toMap(north, east); };
+    auto marks = std::make_shared<const SurveyMarks>(
+        manager != nullptr ? manager->surveyPoints() : kNone, place);
+    m_extent = markExtent(marks->gridBounds(), place);
     const std::lock_guard lock(m_surveyMutex);
-    m_survey.rebuild(manager != nullptr ? manager->surveyPoints() : kNone, place);
-    m_extent = markExtent(m_survey.gridBounds(), place);
+    m_survey = std::move(marks);
 }
 
 void DataProcessLayerImp::handOverExtent()
@@ -121,13 +131,13 @@ void DataProcessLayerImp::handOverExtent()
     auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
     if (map == nullptr)
         return;
-    // The top, alone of the four, is a whole number; not by QRect, whose numbers end at 2^31.
+    // Only the top is rounded down. QRectF::toAlignedRect would do it, but its numbers end at 2^31.
     map->setExtent(m_extent.left(), std::floor(m_extent.top()), m_extent.right(),
                    m_extent.bottom());
 }
 
-/// Clears the overlays when another project is open than the one that they mark.
-void DataProcessLayerImp::dropForeignMarks()
+/// Clears the overlays when the project whose points they highlight is no longer open.
+void DataProcessLayerImp::clearOldHighlights()
 {
     const std::string_view project = get_system_status_dictionary().text(status::kProjectPath);
     if (project == m_project)
@@ -172,23 +182,22 @@ void DataProcessLayerImp::Paint(const PaintTarget& target, const QRectF& /*view*
 void DataProcessLayerImp::paintDesignPicture(const PaintTarget& target,
                                              const Surroundings& surroundings, QPainter& painter)
 {
-    const std::lock_guard lock(m_designMutex);
     if (!surroundings.spacingM)
         return;
     DesignPictureOptions options;
     options.spacingM = *surroundings.spacingM;
     options.showsReceiverLines = target.status.integer(status::kShowReceiverLines, 1) != 0;
     options.showsSourceLines = target.status.integer(status::kShowSourceLines, 1) != 0;
-    paintDesign(m_design, frameOf(target, surroundings, LayerTexts::drawDesign()), options,
-                painter);
+    const auto marks = currentOf(m_design, m_designMutex);
+    paintDesign(*marks, frameOf(target, surroundings, LayerTexts::drawDesign()), options, painter);
     m_host.eventManager().publish(events::kProgress, payload::kProgressEnd, 0);
 }
 
 void DataProcessLayerImp::paintSurveyPicture(const PaintTarget& target,
                                              const Surroundings& surroundings, QPainter& painter)
 {
-    const std::lock_guard lock(m_surveyMutex);
-    paintSurvey(m_survey, frameOf(target, surroundings, LayerTexts::drawSurvey()),
+    const auto marks = currentOf(m_survey, m_surveyMutex);
+    paintSurvey(*marks, frameOf(target, surroundings, LayerTexts::drawSurvey()),
                 LayerTexts::baseLabel(), painter);
     m_host.eventManager().publish(events::kProgress, payload::kProgressEnd, 0);
 }
@@ -200,7 +209,7 @@ PictureFrame DataProcessLayerImp::frameOf(const PaintTarget& target,
     PictureFrame frame;
     frame.transform = target.transform;
     frame.drawingArea = surroundings.drawingArea;
-    frame.isStopped = [this, &target] { return target.isCancelled() || m_isRebuildDue; };
+    frame.isStopped = [&target] { return target.isCancelled(); };
     frame.lineDone = [this, text = caption.toStdString()](double percent) {
         m_host.eventManager().publish(events::kProgress, payload::progress(text, percent).c_str(),
                                       0);
@@ -231,8 +240,8 @@ DataProcessLayerImp::SurveyPick DataProcessLayerImp::pickSurvey(const QPointF& m
 {
     const GridPlace grid = gridAt(map);
     SurveyPick pick;
-    pick.mark = m_survey.table().nearest(grid, reachM());
-    pick.base = m_survey.nearestBase(grid, pick.mark ? pick.mark->distanceM : reachM());
+    pick.mark = m_survey->table().nearest(grid, reachM());
+    pick.base = m_survey->nearestBase(grid, pick.mark ? pick.mark->distanceM : reachM());
     return pick;
 }
 
@@ -241,37 +250,37 @@ QString DataProcessLayerImp::PickSurveyPoint(double x, double y) const
     const SurveyPick pick = pickSurvey({x, y});
     if (pick.base)
         return LayerTexts::basePick() + QLatin1Char('-') + QString::number(*pick.base);
-    return pick.mark ? lum::toQString(m_survey.table().name(pick.mark->mark)) : QString();
+    return pick.mark ? lum::toQString(m_survey->table().name(pick.mark->mark)) : QString();
 }
 
 bool DataProcessLayerImp::GetSurveyPoint(const QString& name, QString& line, QPointF& measured,
                                          QPointF& design) const
 {
-    const MarkTable& marks = m_survey.table();
+    const MarkTable& marks = m_survey->table();
     const auto mark = marks.find(name.toStdString());
     if (!mark)
         return false;
     line = lum::toQString(marks.lineOf(*mark).number);
     measured = marks.place(*mark);
-    design = m_survey.ties(*mark).design;
+    design = m_survey->ties(*mark).design;
     return true;
 }
 
 std::optional<MarkTable::Nearest> DataProcessLayerImp::pickDesign(const QPointF& map) const
 {
-    return m_design.table().nearest(gridAt(map), reachM());
+    return m_design->table().nearest(gridAt(map), reachM());
 }
 
 QString DataProcessLayerImp::PickDesignPoint(double x, double y) const
 {
     const auto pick = pickDesign({x, y});
-    return pick ? lum::toQString(m_design.table().name(pick->mark)) : QString();
+    return pick ? lum::toQString(m_design->table().name(pick->mark)) : QString();
 }
 
 bool DataProcessLayerImp::GetDesignPoint(const QString& name, QString& line,
                                          QPointF& position) const
 {
-    const MarkTable& marks = m_design.table();
+    const MarkTable& marks = m_design->table();
     const auto mark = marks.find(name.toStdString());
     if (!mark)
         return false;
@@ -291,7 +300,7 @@ bool DataProcessLayerImp::GetBasePosition(int index, QPointF& position) const
 
 bool DataProcessLayerImp::GetBaseRecord(int index, BaseStation& record) const
 {
-    const auto& bases = m_survey.bases();
+    const auto& bases = m_survey->bases();
     if (index < 0 || static_cast<std::size_t>(index) >= bases.size())
         return false;
     record = bases[static_cast<std::size_t>(index)];
@@ -308,5 +317,5 @@ QString DataProcessLayerImp::tipAt(const QPointF& map) const
     const SurveyPick pick = pickSurvey(map);
     if (pick.base)
         return LayerTexts::baseLabel() + QLatin1Char('-') + QString::number(*pick.base + 1);
-    return pick.mark ? lum::toQString(m_survey.table().name(pick.mark->mark)) : QString();
+    return pick.mark ? lum::toQString(m_survey->table().name(pick.mark->mark)) : QString();
 }

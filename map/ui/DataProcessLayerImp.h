@@ -8,7 +8,7 @@
 #include "map/SurveyMarks.h"
 #include "map/ui/IDataLayer.h"
 
-#include <atomic>
+#include <memory>
 #include <mutex>
 #include <optional>
 
@@ -18,9 +18,10 @@ class IDesktopHost;
 /// The project's own data on the map, registered as "DataProcessLayer": the design picture or the
 /// survey picture, by the system status "view_show_which".
 ///
-/// It paints from caches of its own, filled from the data manager on the GUI thread whenever one of
-/// its events arrives; of the two only the one in view. Picking and look-ups belong to the GUI
-/// thread, too.
+/// It paints from a cache of its own for each picture. When one of its events arrives, the GUI
+/// thread fills the cache of the picture in view from the data manager: it builds a new cache and
+/// puts it in the place of the old one. A paint on the worker thread keeps the cache that it
+/// started with, so that neither waits for the other. Picking and look-ups run on the GUI thread.
 class DataProcessLayerImp final : public IDataLayer, private IEventHandler
 {
 public:
@@ -31,15 +32,16 @@ public:
     [[nodiscard]] std::string GetName() const override;
     [[nodiscard]] QRectF GetExtent() const override { return m_extent; }
     void SetTransform(const Transform* transform) override { m_transform = transform; }
-    /// Reads the screen, and the spacings of the design; without those it has no picture.
+    /// Reads the screen and the spacings of the design. Without spacings there is no design
+    /// picture.
     void preparePaint() override;
-    /// Tells the status bar of each line. Gives up when the caches are about to change.
+    /// Publishes the progress after each line. It holds no lock while it paints or publishes.
     void Paint(const PaintTarget& target, const QRectF& view, QPainter& painter) override;
     [[nodiscard]] IDictionary& GetProperties() override { return m_properties; }
     [[nodiscard]] bool IsVisible() const override;
 
-    /// The nearest result or base station within ten pixels; a station as "base-0" and so on, in
-    /// the user's language.
+    /// The nearest result or base station within ten pixels. A station is called "base-0" and so
+    /// on, in the user's language.
     [[nodiscard]] QString PickSurveyPoint(double x, double y) const override;
     [[nodiscard]] bool GetSurveyPoint(const QString& name, QString& line, QPointF& measured,
                                       QPointF& design) const override;
@@ -49,20 +51,20 @@ public:
                                       QPointF& position) const override;
     [[nodiscard]] bool GetBasePosition(int index, QPointF& position) const override;
     [[nodiscard]] bool GetBaseRecord(int index, BaseStation& record) const override;
-    /// The name of the point in view; of a base station its label.
+    /// The name of the point there, of the picture in view; for a base station its label.
     [[nodiscard]] QString tipAt(const QPointF& map) const override;
 
 private:
-    /// What a paint needs of the GUI thread.
+    /// What a paint needs and only the GUI thread may read.
     struct Surroundings
     {
         QRectF drawingArea{0, 0, 1920, 1080};
-        std::optional<double> spacingM; ///< the smallest one; none without a design
+        std::optional<double> spacingM; ///< the smallest of the design; nothing without spacings
     };
     struct SurveyPick
     {
-        std::optional<MarkTable::Nearest> mark; ///< the result that is nearest
-        std::optional<std::size_t> base;        ///< the station that is nearer
+        std::optional<MarkTable::Nearest> mark; ///< the nearest result
+        std::optional<std::size_t> base;        ///< a base station that is nearer than the result
     };
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
@@ -70,7 +72,7 @@ private:
     void rebuildDesign();
     void rebuildSurvey();
     void handOverExtent();
-    void dropForeignMarks();
+    void clearOldHighlights();
 
     void paintDesignPicture(const PaintTarget& target, const Surroundings& surroundings,
                             QPainter& painter);
@@ -90,15 +92,16 @@ private:
     ICoordTransformHelper& m_helper;
     const Transform* m_transform = nullptr; // the map's
     QRectF m_extent;
-    std::string m_project; ///< the folder of the project that the map's overlays mark
+    std::string m_project; ///< the folder of the project whose points the overlays highlight
     EventSubscription m_subscription;
 
-    // A rebuild changes a cache under its mutex, a paint reads it under the same.
+    // A mutex guards the pointer behind it, for as long as it takes to copy or replace it. Nobody
+    // changes a cache once it is here. Only the GUI thread replaces it, and reads it without a
+    // lock.
     std::mutex m_surveyMutex;
+    std::shared_ptr<const SurveyMarks> m_survey = std::make_shared<const SurveyMarks>();
     std::mutex m_designMutex;
-    SurveyMarks m_survey;
-    DesignMarks m_design;
-    std::atomic<bool> m_isRebuildDue = false; ///< what is being painted is of the past
+    std::shared_ptr<const DesignMarks> m_design = std::make_shared<const DesignMarks>();
 
     std::mutex m_surroundingsMutex;
     Surroundings m_surroundings;

@@ -6,8 +6,9 @@
 #include <QPointF>
 #include <QString>
 
-/// A layer whose points can be asked for; operations 7 to 12 of a layer. Positions are map
-/// coordinates; names that are not found answer empty text or false and leave the outputs alone.
+/// A layer whose points can be picked by place and looked up by name. Its operations, in this
+/// order, follow those of `ILayerViewer`. Positions are map coordinates. When nothing is found, the
+/// answer is an empty text or false, and the outputs stay as they were.
 class IDataLayer : public ILayerViewer
 {
 public:

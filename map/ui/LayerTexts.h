@@ -2,14 +2,14 @@
 
 class QString;
 
-/// The words of the data layer in the user's language; for any thread.
+/// The words of the data layer in the user's language. Any thread may ask.
 namespace LayerTexts {
 
-/// Of a base station on the map: "Base", and its number counted from 1 behind a dash.
+/// The word in the label of a base station, as in "Base-1". Labels count from 1.
 [[nodiscard]] QString baseLabel();
-/// Of a base station that was picked: "base", and its index counted from 0 behind a dash.
+/// The word in the name of a picked base station, as in "base-0". Names count from 0.
 [[nodiscard]] QString basePick();
-/// Captions of the progress bar.
+/// The captions of the progress bar while a picture is drawn.
 [[nodiscard]] QString drawDesign();
 [[nodiscard]] QString drawSurvey();
 

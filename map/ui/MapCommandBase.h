@@ -11,8 +11,8 @@ public:
     using CommandExecuterxBase::CommandExecuterxBase;
 
 protected:
-    /// Null when there is none.
+    /// The map window; null when there is none.
     [[nodiscard]] IMapWindow* map() const;
-    /// Tells everybody that the system status has changed.
+    /// Publishes that the system status has changed.
     void announceStatus() const;
 };

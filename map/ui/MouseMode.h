@@ -12,11 +12,11 @@ inline constexpr int kZoomRect = 2;
 [[nodiscard]] int current();
 void set(int mode);
 
-/// Back from `mode` to picking, when it is the current one, with the cursor for it. The reactors
-/// are the caller's business.
+/// If `mode` is the current one, sets the mode back to picking and the cursor to the arrow. The
+/// reactors stay.
 void end(IMapWindow& map, int mode);
 
-/// Puts the reactors for picking back.
+/// Installs the reactors that pick points.
 void installPicking(IMapWindow& map);
 
 } // namespace MouseMode

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Cuts the fraction off, so that what one step leaves over the next one makes good.
+/// The point without its fractions. One step ends where the next begins, so that no pixel is lost.
 QPoint truncated(const QPointF& point)
 {
     return {static_cast<int>(point.x()), static_cast<int>(point.y())};

@@ -17,6 +17,6 @@ public:
 
 private:
     bool m_isDragging = false;
-    QPointF m_last; ///< screen pixels
-    QPoint m_pressed;
+    QPointF m_last;   ///< where the last step ended, screen pixels
+    QPoint m_pressed; ///< where the drag began, screen pixels
 };

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// As it was drawn, not normalised.
+/// Not normalised.
 QRectF rectangle(const QPoint& topLeft, const QPoint& bottomRight)
 {
     return {QPointF(topLeft), QPointF(bottomRight)};
@@ -54,7 +54,7 @@ int ReactorZoomRectTrans::lButtonUp(const MouseKeyEventParameters& event)
     const QRectF area =
         map().transform().ScreenToSurvey(rectangle(m_pressed, event.position.toPoint()));
     map().zoomRect(area.left(), area.top(), area.right(), area.bottom());
-    clearBand();
+    clearRectangle();
     map().redraw();
     return 0;
 }
@@ -62,12 +62,12 @@ int ReactorZoomRectTrans::lButtonUp(const MouseKeyEventParameters& event)
 int ReactorZoomRectTrans::rButtonUp(const MouseKeyEventParameters& event)
 {
     if (m_isDragging)
-        clearBand();
+        clearRectangle();
     MouseMode::end(map(), MouseMode::kZoomRect);
     return ReactorBase::rButtonUp(event);
 }
 
-void ReactorZoomRectTrans::clearBand()
+void ReactorZoomRectTrans::clearRectangle()
 {
     map().overlay(0).clear();
     map().refreshOverlay();

@@ -4,8 +4,8 @@
 
 #include <QPoint>
 
-/// Draws a rectangle with the left button and zooms to it; a click comes nearer about its place.
-/// A right click or Escape goes back to picking.
+/// Draws a rectangle with the left button and zooms to it. A click zooms in at its place, a right
+/// click or Escape goes back to picking.
 class ReactorZoomRectTrans final : public ReactorBase
 {
 public:
@@ -13,12 +13,12 @@ public:
 
     int lButtonDown(const MouseKeyEventParameters& event) override;
     int mouseMove(const MouseKeyEventParameters& event) override;
-    /// A release without a press is none of its business.
+    /// Ignores a release without a press.
     int lButtonUp(const MouseKeyEventParameters& event) override;
     int rButtonUp(const MouseKeyEventParameters& event) override;
 
 private:
-    void clearBand();
+    void clearRectangle();
 
     bool m_isDragging = false;
     QPoint m_pressed; ///< screen pixels

@@ -7,8 +7,8 @@
 class IDataLayer;
 class QColor;
 
-/// Picks the point under a left click, highlights it and announces it. A right click or Escape
-/// takes the highlight away, a double click shows the whole survey.
+/// Picks the point under a left click, highlights it and publishes the selection. A right click or
+/// Escape removes the highlight, a double click shows the full extent.
 class SeletePointReactor final : public ReactorBase // spelled as registered
 {
 public:
@@ -21,9 +21,9 @@ public:
 private:
     [[nodiscard]] int pickSurvey(const IDataLayer& layer, const QPointF& place);
     [[nodiscard]] int pickDesign(const IDataLayer& layer, const QPointF& place);
-    /// \param name as the layer gives it, such as "base-0"
+    /// \param name as the layer picked it, such as "base-0"
     [[nodiscard]] int selectBase(const IDataLayer& layer, const QString& name);
-    /// Shows a point, or a line and its ends; map coordinates.
+    /// \param shape one point, or a line whose ends are marked too; map coordinates
     void highlight(const QColor& color, const QPolygonF& shape);
     void publish(const char* eventName, const QByteArray& payload);
 };

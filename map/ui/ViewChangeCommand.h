@@ -2,7 +2,8 @@
 
 #include "map/ui/MapCommandBase.h"
 
-/// Shows the picture that its caption names, "Survey View" or "Design View", on the map.
+/// Shows on the map the picture that the command's caption names: "Design View", or else the
+/// survey.
 class ViewChangeCommand final : public MapCommandBase
 {
 public:

@@ -5,12 +5,11 @@
 
 class IDesktopHost;
 
-/// A command with the answers that most commands give: always enabled, never checked, the
-/// configured caption.
+/// The base of most commands: always enabled, never checked, with the caption of its entry.
 class CommandExecuterxBase : public ICommandExecuterx
 {
 public:
-    /// \param config key list, the attributes of the entry in the frame's layout; may be null
+    /// \param config the attributes of the entry in the frame's layout, as a key list; may be null
     CommandExecuterxBase(const char* config, IDesktopHost* host);
 
     [[nodiscard]] bool isEnabled() const override { return true; }

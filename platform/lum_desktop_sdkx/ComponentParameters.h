@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-/// The parameters in a component's configuration text; none in a null one.
+/// The parameters in the configuration text of a component; none when the text is null.
 [[nodiscard]] basalt::Dictionary componentParameters(const char* config);
 
 } // namespace desktop

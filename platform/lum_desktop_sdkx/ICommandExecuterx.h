@@ -13,6 +13,6 @@ public:
     [[nodiscard]] virtual bool isChecked() const = 0;
     /// Whether the entry has a check mark at all.
     [[nodiscard]] virtual bool isCheckable() const = 0;
-    /// The entry's text as it stands now, translated; empty takes the configured one.
+    /// The text that the entry shows now, translated. An empty one means the text of the layout.
     [[nodiscard]] virtual QString caption() const = 0;
 };

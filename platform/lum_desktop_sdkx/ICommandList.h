@@ -4,7 +4,7 @@
 
 class ICommandExecuterx;
 
-/// The commands of the frame, by the name that the layout gives them, such as "Save Project".
+/// The commands of the frame, by the names that the layout gives them, such as "Full Screen".
 class ICommandList
 {
 public:
@@ -13,7 +13,7 @@ public:
     /// Null when no entry of that name is in the frame.
     [[nodiscard]] virtual ICommandExecuterx* find(const QString& name) const = 0;
 
-    /// Runs it when it is enabled, and refreshes every entry's state afterwards.
+    /// Executes the command when it is enabled. Afterwards all entries show their state anew.
     /// \returns false when there is no such command or it is disabled
     virtual bool execute(const QString& name) = 0;
 };

@@ -2,10 +2,11 @@
 
 class QPointF;
 
-/// Between the project's coordinates and those of the map, in this order of operations.
+/// Converts between the coordinates of the project and those of the map. The order of the
+/// operations is fixed.
 ///
-/// The map's frame is the project grid turned to x = easting, y = northing, in metres, so that the
-/// two plane operations never fail; the two geodetic ones need a coordinate system.
+/// The map shows the project grid with x = easting and y = northing, in metres, so that the two
+/// plane operations never fail. The two geodetic operations need a coordinate system.
 class ICoordTransformHelper
 {
 public:
@@ -15,7 +16,7 @@ public:
     [[nodiscard]] virtual QPointF projectToMap(double north, double east) const = 0;
 
     /// \param latitudeDeg,longitudeDeg geodetic WGS 84
-    /// \returns false, and leaves `map` alone, when there is no way to convert
+    /// \returns false, and leaves the outputs as they were, when the place cannot be converted
     [[nodiscard]] virtual bool geodeticToMap(double latitudeDeg, double longitudeDeg,
                                              QPointF& map) const = 0;
     [[nodiscard]] virtual bool mapToGeodetic(const QPointF& map, double& latitudeDeg,

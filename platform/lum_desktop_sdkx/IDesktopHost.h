@@ -21,12 +21,13 @@ public:
     [[nodiscard]] virtual ICommandList& commands() = 0;
     [[nodiscard]] virtual ICoordTransformHelper& coordTransformHelper() = 0;
 
-    /// The widget that dialogs stand over; null while there is no main frame.
+    /// The parent of dialogs; null while there is no main frame.
     [[nodiscard]] virtual QWidget* dialogParent() = 0;
 
-    /// Names what is open in the frame's title; an empty text when nothing is.
+    /// Shows the name of what is open in the frame's title. An empty name means that nothing is
+    /// open.
     virtual void setDocument(const QString& name) = 0;
 };
 
-/// Project plane coordinates to map coordinates and back.
+/// The helper of the host that converts project coordinates to map coordinates and back.
 [[nodiscard]] ICoordTransformHelper* get_instance_ICoordTransformHelper(IDesktopHost* host);

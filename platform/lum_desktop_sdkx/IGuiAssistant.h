@@ -2,21 +2,21 @@
 
 #include <QString>
 
-/// The program's hook into the life of the frame. Made with (configuration text, host); each
-/// operation answers 1 for done and 0 for failed or refused.
+/// What the program does at fixed moments in the life of the frame. Made with (configuration text,
+/// host). Each operation answers 1 for done and 0 for failed or refused.
 class IGuiAssistant
 {
 public:
     virtual ~IGuiAssistant() = default;
 
-    /// Called once the map view stands, before the frame is shown.
+    /// Called once, after the map window was made and before the frame is shown.
     virtual int onMapViewCreated() = 0;
     /// Called after that, to open the program's own windows.
     virtual int openMainWindows() = 0;
     /// Asked before the application closes; 0 keeps it open.
     virtual int queryClose() = 0;
-    /// A file that the user dropped on the window or named at the start; 0 when it is not the
-    /// program's to open.
+    /// Opens a file that the user dropped on the window or named on the command line. Answers 0 for
+    /// a file of another kind.
     virtual int openFile(const QString& path) = 0;
 };
 

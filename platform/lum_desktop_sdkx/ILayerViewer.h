@@ -11,35 +11,36 @@
 
 class QPainter;
 
-/// What one paint of the map works on: a picture of the moment, so that it can run on a worker
-/// thread while the user goes on.
+/// What one paint of the map works on. It holds copies, so that a worker thread can paint while the
+/// user goes on working.
 struct PaintTarget
 {
-    Transform transform;       ///< of this picture; the live one may have moved on
+    Transform transform;       ///< of this picture; the map's view may have moved since
     QRectF mapExtent;          ///< full extent of the map's data, map coordinates
     basalt::Dictionary status; ///< the system status as it was when the paint began
     const std::atomic<bool>* cancelled = nullptr;
 
-    /// True when a newer picture has been asked for; what is painted from then on is thrown away.
+    /// True when a newer picture was requested. This one is thrown away then, so that the layer
+    /// should return.
     [[nodiscard]] bool isCancelled() const { return cancelled != nullptr && cancelled->load(); }
 };
 
-/// A layer of the map, by this order of operations. Made with (configuration text, host).
+/// A layer of the map. Made with (configuration text, host). The order of the operations is fixed.
 ///
-/// `Paint` may run on another thread than everything else, never twice at the same time; a layer
-/// guards what it shares with it.
+/// `Paint` may run on a worker thread, but never twice at the same time. All other operations run
+/// on the GUI thread. A layer must guard what `Paint` shares with them.
 class ILayerViewer
 {
 public:
     virtual ~ILayerViewer() = default;
 
     [[nodiscard]] virtual std::string GetName() const = 0; // spelled as registered
-    /// Map coordinates; null (width and height 0) when there is nothing to show.
+    /// The rectangle of the layer's data, map coordinates; null (width and height 0) without data.
     [[nodiscard]] virtual QRectF GetExtent() const = 0;
-    /// The map's live transform, for picking on the GUI thread. It outlives the layer.
+    /// Hands over the map's own transform, for picking. It outlives the layer.
     virtual void SetTransform(const Transform* transform) = 0;
-    /// Called on the GUI thread whenever a paint is asked for: the moment to read what belongs to
-    /// that thread. An older paint may still be running.
+    /// Called on the GUI thread when a paint is requested, so that the layer can copy what `Paint`
+    /// must not read itself. An older paint may still be running.
     virtual void preparePaint() {}
     /// Draws in screen pixels; `view` is the visible part of the map, in map coordinates.
     virtual void Paint(const PaintTarget& target, const QRectF& view, QPainter& painter) = 0;
@@ -47,6 +48,6 @@ public:
     /// By the property "visible" (default 1).
     [[nodiscard]] virtual bool IsVisible() const = 0;
 
-    /// What lies under the resting cursor, in the user's words; empty when nothing does.
+    /// The tool tip for a place of the map, in the user's language; empty when nothing lies there.
     [[nodiscard]] virtual QString tipAt(const QPointF& /*map*/) const { return {}; }
 };

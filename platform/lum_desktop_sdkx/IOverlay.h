@@ -6,17 +6,18 @@ class QPointF;
 class QPolygonF;
 class QRectF;
 
-/// A scratch drawing over the map's picture: a highlight, a rubber band. It holds at most one
-/// point, one line, one set of vertices and one rectangle; nothing shows before the map's
-/// `refreshOverlay`.
+/// A drawing over the map's picture, such as a highlight or the rectangle of the zoom tool. It
+/// holds at most one point, one line, one set of vertices and one rectangle. Changes show after
+/// `IMapWindow::refreshOverlay`.
 class IOverlay
 {
 public:
     virtual ~IOverlay() = default;
 
-    /// Takes away the shapes and sets properties, styles and colour back to their defaults.
+    /// Removes all shapes, and sets properties, styles and colour back to their defaults.
     virtual void clear() = 0;
-    /// "point_radius": of the point and of the vertices, screen pixels (default 4).
+    /// Reads "point_radius", the radius of the point and of the vertices, screen pixels (default
+    /// 4).
     virtual void setProperties(const IDictionary& properties) = 0;
     /// The number of a `Qt::PenStyle`: 1 solid (the default), 2 dashed, 3 dotted.
     virtual void setLineStyle(int style) = 0;
@@ -24,11 +25,11 @@ public:
     virtual void setLineWidth(int width) = 0;
     virtual void setColor(const QColor& color) = 0;
 
-    // Map coordinates: they move with the map.
+    // These take map coordinates: the shapes move with the map.
     virtual void setPoint(const QPointF& map) = 0;
     virtual void setLine(const QPolygonF& map) = 0;
     virtual void setVertices(const QPolygonF& map) = 0;
 
-    /// Screen pixels, for a rubber band; normalised or not.
+    /// The rectangle that a tool draws, screen pixels, normalised or not.
     virtual void setRectangle(const QRectF& screen) = 0;
 };

@@ -2,9 +2,9 @@
 
 struct MouseKeyEventParameters;
 
-/// A mouse handler of the map. Made with (configuration text, map window). Each operation, in this
-/// order, answers non-zero when it has handled the event; what it leaves goes on to the map's
-/// standing `ReactorDefault`.
+/// A mouse handler of the map. Made with (configuration text, map window). The order of the
+/// operations is fixed. Each answers non-zero when it has handled the event; otherwise the event
+/// goes to the map's `ReactorDefault`, which is always there.
 class IReactor
 {
 public:

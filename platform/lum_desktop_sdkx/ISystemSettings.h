@@ -10,15 +10,16 @@ class ISystemSettings
 public:
     virtual ~ISystemSettings() = default;
 
-    /// The system parameters, as `get_system_ini_parameter` gives them.
+    /// The same as `get_system_ini_parameter`.
     [[nodiscard]] virtual SystemParameter* getSystemParameter() = 0;
 
-    /// The main frame, built from its layout at the first call.
+    /// The main frame. The first call builds it from its layout.
     [[nodiscard]] virtual IMainFrame* getMainFrame() = 0;
 
-    /// The coordinate transformation of the open project; `parameters` is its system.
+    /// The coordinate transformation of the open project.
     [[nodiscard]] virtual ICoordTransform* getCoordTransform() = 0;
 };
 
-/// The settings object that is in use; null before it was first asked for.
+/// The settings object of the process; null before `extensible_factory_get_ISystemSettings` made
+/// it.
 [[nodiscard]] ISystemSettings* pSystemSettings();

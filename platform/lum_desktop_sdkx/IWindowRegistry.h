@@ -8,8 +8,8 @@ class IDictionary;
 
 /// The open windows of the frame.
 ///
-/// A name is looked up as registered class name, then as configured name, then as caption (English
-/// or translated): "DesignLineTable" and "Design Data List" may both find one window.
+/// A name is looked up first as the registered class name, then as the name in the layout, then as
+/// the caption, English or translated: "MapWindow", "DataMap" and "Map" find one window.
 class IWindowRegistry
 {
 public:
@@ -22,14 +22,14 @@ public:
     /// \returns false when no such window is open
     virtual bool activate(const QString& name) = 0;
 
-    /// Opens a window of a registered class, or finds the open one.
-    /// \param parameters "caption" (the name that a new window is found by), "title" (what its tab
-    ///        shows) and "isSetActive" ("1" brings it to the front) are read here, all are passed
-    ///        on to a new window
+    /// Opens a window of a registered class, or returns the one that is open.
+    /// \param parameters all are passed on to a new window. Read here are "caption", the name of a
+    ///        new window; "title", the text of its tab; and "isSetActive", which brings the window
+    ///        to the front when it is "1"
     /// \returns null, and a line in the log, when the class is not registered
     virtual IWindow* open(const QString& className, const IDictionary& parameters) = 0;
 
-    /// The window as another face of it, such as `IMapWindow`; null when it has none.
+    /// Finds a window by another interface of it, such as `IMapWindow`; null when there is none.
     template <class Face>
     [[nodiscard]] Face* findAs(const QString& name) const
     {

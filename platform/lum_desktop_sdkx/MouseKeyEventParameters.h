@@ -10,6 +10,6 @@ struct MouseKeyEventParameters
     Qt::MouseButton button = Qt::NoButton;
     Qt::MouseButtons buttons = Qt::NoButton;
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-    double wheelSteps = 0; ///< turns of the wheel, 1 a notch, away from the user is positive
+    double wheelSteps = 0; ///< notches of the wheel; positive when it turns away from the user
     int key = 0;           ///< Qt::Key of a key event
 };

@@ -23,7 +23,7 @@ int ReactorBase::rButtonDown(const MouseKeyEventParameters& /*event*/)
 
 int ReactorBase::rButtonUp(const MouseKeyEventParameters& /*event*/)
 {
-    IMapWindow& mapWindow = map(); // installing others ends this reactor
+    IMapWindow& mapWindow = map(); // kept, since installing others may delete this reactor
     mapWindow.installDefaultReactors();
     mapWindow.host().eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
     return 1;

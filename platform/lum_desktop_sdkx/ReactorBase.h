@@ -4,8 +4,7 @@
 
 class IMapWindow;
 
-/// A mouse handler that leaves everything alone, but for one thing: a right click or Escape ends
-/// the tool.
+/// The base of mouse handlers. It handles one thing only: a right click or Escape ends the tool.
 class ReactorBase : public IReactor
 {
 public:
@@ -14,7 +13,7 @@ public:
     int lButtonDown(const MouseKeyEventParameters& event) override;
     int lButtonUp(const MouseKeyEventParameters& event) override;
     int rButtonDown(const MouseKeyEventParameters& event) override;
-    /// Puts the map's default reactors back and announces the change of status.
+    /// Installs the map's default reactors and publishes that the system status has changed.
     int rButtonUp(const MouseKeyEventParameters& event) override;
     int mButtonDown(const MouseKeyEventParameters& event) override;
     int mButtonUp(const MouseKeyEventParameters& event) override;

@@ -6,7 +6,7 @@
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/files/SystemDictionaries.h"
-#include "map/ui/MapHighlight.h"
+#include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ISurveyPointList.h"
 #include "protocol/Events.h"
@@ -99,7 +99,7 @@ void DlgQCResult::showOnMap(const QString& lineNumber, const QString& pointNumbe
     const ICoordTransformHelper& helper = m_host.coordTransformHelper();
     const QPointF measured = helper.projectToMap(point->north, point->east);
     const bool hasDesign = point->designNorth != 0 && point->designEast != 0;
-    desktop::highlightOnMap(m_host, measured,
-                            hasDesign ? helper.projectToMap(point->designNorth, point->designEast)
-                                      : measured);
+    PointHighlight::show(m_host, measured,
+                         hasDesign ? helper.projectToMap(point->designNorth, point->designEast)
+                                   : measured);
 }

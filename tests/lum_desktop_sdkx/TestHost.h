@@ -9,7 +9,7 @@
 #include <QHash>
 #include <QStringList>
 
-/// Windows that a test put there by name.
+/// The windows that a test has set, by name.
 class TestWindowRegistry final : public IWindowRegistry
 {
 public:
@@ -30,7 +30,7 @@ public:
     QStringList opened;
 };
 
-/// Commands that a test put there by name; notes what is executed and runs nothing.
+/// The commands that a test has set, by name. It notes what is executed, and runs nothing.
 class TestCommandList final : public ICommandList
 {
 public:
@@ -67,7 +67,7 @@ public:
     CoordTransformHelper coordHelper;
 };
 
-/// Keeps what was published under the names that it subscribed.
+/// Keeps the events to which a test has subscribed it.
 class TestListener final : public IEventHandler
 {
 public:
@@ -78,5 +78,5 @@ public:
     }
 
     QStringList names;
-    QStringList payloads; ///< null where an event carried none
+    QStringList payloads; ///< null for an event without payload
 };

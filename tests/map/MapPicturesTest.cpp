@@ -5,6 +5,7 @@
 #include "map/SurveyPicture.h"
 #include "tests/map/PlainPictures.h"
 #include "tests/map/TestSurvey.h"
+#include "tests/support/Literals.h"
 
 #include <QDir>
 #include <QPainter>
@@ -17,8 +18,8 @@
 namespace {
 
 constexpr int kSide = 256;            // pixels
-constexpr int kChannelTolerance = 72; // of 255: what anti-aliasing may do,
-constexpr int kMostDiffering = 12;    // and where it adds up
+constexpr int kChannelTolerance = 72; // of 255: antialiasing may differ
+constexpr int kMostDiffering = 12;    // pixels that may differ by more
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 const ToMap kToMap = [](double north, double east) { return QPointF(east, north); };
@@ -47,17 +48,14 @@ QImage pictureOf(const Paint& paint)
 QImage designPicture(const DesignPoints& points, const PictureFrame& frame,
                      const DesignPictureOptions& options = {})
 {
-    DesignMarks marks;
-    marks.rebuild(points, kToMap);
+    const DesignMarks marks(points, kToMap);
     return pictureOf([&](QPainter& painter) { paintDesign(marks, frame, options, painter); });
 }
 
 QImage surveyPicture(const SurveyPoints& points, const PictureFrame& frame)
 {
-    SurveyMarks marks;
-    marks.rebuild(points, kToMap);
-    return pictureOf(
-        [&](QPainter& painter) { paintSurvey(marks, frame, QStringLiteral("Base"), painter); });
+    const SurveyMarks marks(points, kToMap);
+    return pictureOf([&](QPainter& painter) { paintSurvey(marks, frame, "Base"_q, painter); });
 }
 
 int farthestChannel(QRgb a, QRgb b)
@@ -83,314 +81,234 @@ int paintedPixels(const QImage& picture)
     return differingPixels(picture, white);
 }
 
-/// The same points, line and point numbers of blanks, base stations `baseOffM` to the north.
-template <class Point>
-PointLines<Point> withoutNames(const PointLines<Point>& points, double baseOffM)
+/// Compares two pictures, and saves them as files when they differ.
+void compare(const char* name, const QImage& picture, const QImage& expected, int minPainted)
 {
-    PointLines<Point> blank;
-    std::string lineNumber;
-    for (const auto& [number, line] : points) {
-        lineNumber += ' ';
-        std::string pointNumber;
-        for (Point point : line) {
-            point.lineNumber = lineNumber;
-            point.pointNumber = pointNumber += ' ';
-            if constexpr (std::is_same_v<Point, SurveyPoint>)
-                point.referenceNorth += baseOffM;
-            blank.set(std::move(point));
-        }
-    }
-    return blank;
-}
-
-/// Keeps pictures that should be alike and are not, for a look.
-void keep(const QImage& picture, const QImage& expected)
-{
-    const QString name = QDir::tempPath() + QLatin1Char('/') +
-                         QString::fromLatin1(QTest::currentDataTag()).replace(u' ', u'_');
-    picture.save(name + QStringLiteral(".png"));
-    expected.save(name + QStringLiteral("_expected.png"));
-    qWarning("kept as %s.png", qPrintable(name));
-}
-
-void compare(const QImage& picture, const QImage& expected, int minPainted)
-{
-    QVERIFY(paintedPixels(expected) >= minPainted); // or the scene would prove nothing
+    QVERIFY2(paintedPixels(expected) >= minPainted, name); // an empty scene proves nothing
     const int count = differingPixels(picture, expected);
-    if (count > kMostDiffering)
-        keep(picture, expected);
-    QVERIFY2(count <= kMostDiffering, qPrintable(QString::number(count)));
+    if (count <= kMostDiffering)
+        return;
+    const QString file = QDir::tempPath() + QLatin1Char('/') + QString::fromLatin1(name);
+    picture.save(file + ".png"_q);
+    expected.save(file + "_expected.png"_q);
+    QFAIL(qPrintable("%1 pixels differ, kept as %2.png"_q.arg(count).arg(file)));
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(PictureFrame)
-Q_DECLARE_METATYPE(DesignPictureOptions)
 
 class MapPicturesTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void designLooksAsDrawnPlainly_data(); // NOLINT(readability-identifier-naming)
-    void designLooksAsDrawnPlainly();
-    void surveyLooksAsDrawnPlainly_data(); // NOLINT(readability-identifier-naming)
-    void surveyLooksAsDrawnPlainly();
-    void looksAsStored_data(); // NOLINT(readability-identifier-naming)
-    void looksAsStored();
-    void designMarksStandAtTheirPlaces();
-    void pointsAndLabelsNeedRoom();
-    void resultsStandAtTheirPlaces();
-    void aDesignPlaceTakesTheBrushInUse();
-    void linesReportAndStopEndsThePaint();
-    void brokenPlacesDoNoHarm();
-    void fineScreensGetFineMarks();
-};
-
-void MapPicturesTest::designLooksAsDrawnPlainly_data()
-{
-    QTest::addColumn<PictureFrame>("frame");
-    QTest::addColumn<DesignPictureOptions>("options");
-    const auto row = [](const char* name, PictureFrame frame, DesignPictureOptions options = {25}) {
-        QTest::newRow(name) << frame << options;
-    };
-    row("whole lines", frameAt(4400500, 500500, 6));
-    row("points", frameAt(4400500, 500500, 2.4));
-    row("labels", frameAt(4400510, 500490, 0.25));
-    row("between the points", frameAt(4400500, 500510, 0.02));
-    row("receiver lines only", frameAt(4400500, 500500, 6), {25, true, false});
-    row("source lines only", frameAt(4400500, 500500, 2.4), {25, false, true});
-    PictureFrame cut = frameAt(4400500, 500500, 6);
-    cut.drawingArea = QRectF(60, 50, 120, 100); // a screen beside the picture
-    row("lines at the drawing area's edge", cut);
-    cut.transform.setView({500500, 4400500}, 2.4);
-    row("points in the drawing area alone", cut);
-    cut.drawingArea = QRectF(3000, 0, 100, 100);
-    cut.transform.setView({500500, 4400500}, 6);
-    row("nothing in the drawing area", cut);
-}
-
-void MapPicturesTest::designLooksAsDrawnPlainly()
-{
-    QFETCH(PictureFrame, frame);
-    QFETCH(DesignPictureOptions, options);
-    TestSurvey survey;
-    DesignPoints points = survey.design(9, 150, 5);
-    survey.lineStepM = 37; // the other way, across lines of both types
-    for (const auto& [number, line] : survey.design(7, 30, 3)) {
-        for (DesignPoint point : line) {
-            std::swap(point.north, point.east);
-            point.north += 3900000;
-            point.east -= 3900000;
-            point.lineNumber = "1" + point.lineNumber;
-            points.set(point);
+    void designLooksAsDrawnPlainly()
+    {
+        TestSurvey survey;
+        DesignPoints points = survey.design(9, 150, 5);
+        survey.lineStepM = 37; // lines to the north that cross those of both types
+        for (const auto& [number, line] : survey.design(7, 30, 3)) {
+            for (DesignPoint point : line) {
+                std::swap(point.north, point.east);
+                point.north += 3900000;
+                point.east -= 3900000;
+                point.lineNumber = "1" + point.lineNumber;
+                points.set(point);
+            }
         }
+        const auto check = [&](const char* name, const PictureFrame& frame, int minPainted = 150,
+                               const DesignPictureOptions& options = {25}) {
+            compare(name, designPicture(points, frame, options), pictureOf([&](QPainter& painter) {
+                        paintDesignPlainly(points, frame, options, painter);
+                    }),
+                    minPainted);
+        };
+        check("whole lines", frameAt(4400500, 500500, 6));
+        check("points", frameAt(4400500, 500500, 2.4));
+        check("labels", frameAt(4400510, 500490, 0.25));
+        check("between the points", frameAt(4400500, 500510, 0.02));
+        check("receiver lines only", frameAt(4400500, 500500, 6), 150, {25, true, false});
+        check("source lines only", frameAt(4400500, 500500, 2.4), 150, {25, false, true});
+        PictureFrame cut = frameAt(4400500, 500500, 6);
+        cut.drawingArea = QRectF(60, 50, 120, 100); // smaller than the picture
+        check("lines at the drawing area's edge", cut);
+        cut.transform.setView({500500, 4400500}, 2.4);
+        check("points in the drawing area alone", cut);
+        cut.drawingArea = QRectF(3000, 0, 100, 100);
+        cut.transform.setView({500500, 4400500}, 6);
+        check("nothing in the drawing area", cut, 20);
     }
-    compare(designPicture(points, frame, options), pictureOf([&](QPainter& painter) {
-                paintDesignPlainly(points, frame, options, painter);
-            }),
-            frame.drawingArea.left() < 1000 ? 150 : 20);
-}
 
-void MapPicturesTest::surveyLooksAsDrawnPlainly_data()
-{
-    QTest::addColumn<PictureFrame>("frame");
-    const auto row = [](const char* name, const PictureFrame& frame) {
-        QTest::newRow(name) << frame;
-    };
-    row("all results", frameAt(4400500, 500500, 6));
-    row("results beside their base", frameAt(4400450, 500520, 1));
-    row("offsets from the design", frameAt(4400310, 500310, 0.2));
-    row("lines from out of sight", frameAt(4400450, 501600, 0.5));
-    PictureFrame cut = frameAt(4400500, 500500, 4);
-    cut.drawingArea = QRectF(60, 50, 120, 100);
-    row("the drawing area's edge", cut);
-}
-
-void MapPicturesTest::surveyLooksAsDrawnPlainly()
-{
-    QFETCH(PictureFrame, frame);
-    const SurveyPoints points = TestSurvey().results(9, 100, 3, 12);
-    compare(surveyPicture(points, frame),
-            pictureOf([&](QPainter& painter) { paintSurveyPlainly(points, frame, painter); }), 150);
-}
-
-void MapPicturesTest::looksAsStored_data()
-{
-    QTest::addColumn<bool>("isSurvey");
-    QTest::addColumn<PictureFrame>("frame");
-    QTest::addColumn<DesignPictureOptions>("options");
-    const auto row = [](const char* name, bool isSurvey, const PictureFrame& frame,
-                        DesignPictureOptions options = {25}) {
-        QTest::newRow(name) << isSurvey << frame << options;
-    };
-    row("design_lines", false, frameAt(4400250, 500250, 4));
-    row("design_points", false, frameAt(4400250, 500250, 2));
-    row("design_receivers", false, frameAt(4400250, 500250, 2), {25, true, false});
-    PictureFrame cut = frameAt(4400250, 500250, 2);
-    cut.drawingArea = QRectF(60, 50, 120, 100);
-    row("design_area", false, cut);
-    row("survey_all", true, frameAt(4400250, 500250, 3));
-    row("survey_offsets", true, frameAt(4400160, 500160, 0.4));
-}
-
-/// The stored pictures hold no text: names are blanks, and base stations stand out of sight.
-void MapPicturesTest::looksAsStored()
-{
-    QFETCH(bool, isSurvey);
-    QFETCH(PictureFrame, frame);
-    QFETCH(DesignPictureOptions, options);
-    const TestSurvey survey;
-    const QImage picture =
-        isSurvey ? surveyPicture(withoutNames(survey.results(6, 20, 2, 12), 9000), frame)
-                 : designPicture(withoutNames(survey.design(6, 20, 3), 0), frame, options);
-    const QImage stored(QStringLiteral(PICTURES_FOLDER "/%1.png")
-                            .arg(QString::fromLatin1(QTest::currentDataTag())));
-    if (stored.isNull())
-        keep(picture, picture);
-    QVERIFY(!stored.isNull());
-    compare(picture, stored, 150);
-}
-
-void MapPicturesTest::designMarksStandAtTheirPlaces()
-{
-    DesignPoints points = TestSurvey().design(3, 4, 1);
-    for (DesignPoint& point : *points.findLine("1003"))
-        point.type = 7;
-    const PictureFrame frame = frameAt(4400100, 500025, 2);
-    const QImage picture = designPicture(points, frame, {25});
-    // The south line is 50 pixels below the middle, its points 12.5 pixels apart.
-    QCOMPARE(picture.pixelColor(128, 178), QColor(Qt::cyan));
-    QCOMPARE(picture.pixelColor(128, 128), QColor(Qt::darkBlue));
-    QCOMPARE(picture.pixelColor(128, 78), QColor(Qt::darkBlue));
-    QCOMPARE(picture.pixelColor(128, 175), QColor(Qt::cyan)); // a circle of radius 4
-    QCOMPARE(picture.pixelColor(128, 172), QColor(Qt::white));
-
-    const QImage sourcesHidden = designPicture(points, frame, {25, true, false});
-    QCOMPARE(sourcesHidden.pixelColor(128, 178), QColor(Qt::cyan)); // receivers
-    QCOMPARE(sourcesHidden.pixelColor(128, 128), QColor(Qt::white));
-    QCOMPARE(sourcesHidden.pixelColor(128, 78), QColor(Qt::darkBlue)); // neither
-}
-
-void MapPicturesTest::pointsAndLabelsNeedRoom()
-{
-    const DesignPoints points = TestSurvey().design(1, 1, 1);
-    const auto painted = [&](double spacing) {
-        return paintedPixels(designPicture(points, frameAt(4400000, 500000, 1), {spacing}));
-    };
-    QVERIFY(painted(9.99) < painted(10)); // a circle more
-    QCOMPARE(painted(10), painted(25));
-    QCOMPARE(painted(25), painted(79.99));
-    QVERIFY(painted(79.99) < painted(80)); // texts more
-}
-
-void MapPicturesTest::resultsStandAtTheirPlaces()
-{
-    SurveyPoint point;
-    point.lineNumber = "1";
-    point.pointNumber = "2";
-    point.north = 100;
-    point.east = 200;
-    point.designNorth = 160;
-    point.designEast = 200;
-    point.referenceNorth = 40;
-    point.referenceEast = 300;
-    SurveyPoints points;
-    points.set(point);
-    const PictureFrame frame = frameAt(100, 200, 1);
-    QImage picture = surveyPicture(points, frame);
-    QCOMPARE(picture.pixelColor(128, 128), QColor(Qt::red));
-    QCOMPARE(picture.pixelColor(228, 188), QColor(Qt::blue));
-    QVERIFY(picture.pixelColor(178, 158).green() > picture.pixelColor(178, 158).red());
-    QVERIFY(picture.pixelColor(128, 66) != QColor(Qt::white));
-    QVERIFY(picture.pixelColor(128, 124) != QColor(Qt::white)); // the first dash
-
-    for (double SurveyPoint::*coordinate : {&SurveyPoint::designNorth, &SurveyPoint::designEast}) {
-        SurveyPoint plain = point;
-        plain.*coordinate = 0;
-        points.set(plain);
-        picture = surveyPicture(points, frame);
-        QCOMPARE(picture.pixelColor(128, 124), QColor(Qt::white));
-        QCOMPARE(picture.pixelColor(128, 66), QColor(Qt::white));
+    void surveyLooksAsDrawnPlainly()
+    {
+        const SurveyPoints points = TestSurvey().results(9, 100, 3, 12);
+        const auto check = [&](const char* name, const PictureFrame& frame) {
+            compare(name, surveyPicture(points, frame), pictureOf([&](QPainter& painter) {
+                        paintSurveyPlainly(points, frame, painter);
+                    }),
+                    150);
+        };
+        check("all results", frameAt(4400500, 500500, 6));
+        check("results beside their base", frameAt(4400450, 500520, 1));
+        check("offsets from the design", frameAt(4400310, 500310, 0.2));
+        check("lines from out of sight", frameAt(4400450, 501600, 0.5));
+        PictureFrame cut = frameAt(4400500, 500500, 4);
+        cut.drawingArea = QRectF(60, 50, 120, 100);
+        check("the drawing area's edge", cut);
     }
-}
 
-void MapPicturesTest::aDesignPlaceTakesTheBrushInUse()
-{
-    SurveyPoints points;
-    for (const int place : {1, 2, 3}) {
+    void designMarksStandAtTheirPlaces()
+    {
+        DesignPoints points = TestSurvey().design(3, 4, 1);
+        for (DesignPoint& point : *points.findLine("1003"))
+            point.type = 7;
+        const PictureFrame frame = frameAt(4400100, 500025, 2);
+        const QImage picture = designPicture(points, frame, {25});
+        // The south line is 50 pixels below the middle, its points 12.5 pixels apart.
+        QCOMPARE(picture.pixelColor(128, 178), QColor(Qt::cyan));
+        QCOMPARE(picture.pixelColor(128, 128), QColor(Qt::darkBlue));
+        QCOMPARE(picture.pixelColor(128, 78), QColor(Qt::darkBlue));
+        QCOMPARE(picture.pixelColor(128, 175), QColor(Qt::cyan)); // a circle of radius 4
+        QCOMPARE(picture.pixelColor(128, 172), QColor(Qt::white));
+
+        const QImage sourcesHidden = designPicture(points, frame, {25, true, false});
+        QCOMPARE(sourcesHidden.pixelColor(128, 178), QColor(Qt::cyan)); // receivers
+        QCOMPARE(sourcesHidden.pixelColor(128, 128), QColor(Qt::white));
+        QCOMPARE(sourcesHidden.pixelColor(128, 78), QColor(Qt::darkBlue)); // neither
+    }
+
+    void pointsAndLabelsNeedRoom()
+    {
+        const DesignPoints points = TestSurvey().design(1, 1, 1);
+        const auto painted = [&](double spacing) {
+            return paintedPixels(designPicture(points, frameAt(4400000, 500000, 1), {spacing}));
+        };
+        QVERIFY(painted(9.99) < painted(10)); // the circle is drawn
+        QCOMPARE(painted(10), painted(25));
+        QCOMPARE(painted(25), painted(79.99));
+        QVERIFY(painted(79.99) < painted(80)); // the labels are drawn
+    }
+
+    void resultsStandAtTheirPlaces()
+    {
         SurveyPoint point;
         point.lineNumber = "1";
-        point.pointNumber = std::to_string(place);
+        point.pointNumber = "2";
         point.north = 100;
-        point.east = 100 + 40 * place;
-        point.designNorth = 60;
-        point.designEast = point.east;
-        point.referenceNorth = place == 1 ? 1e6 : 180; // the first base is not on the screen
-        point.referenceEast = 200;
+        point.east = 200;
+        point.designNorth = 160;
+        point.designEast = 200;
+        point.referenceNorth = 40;
+        point.referenceEast = 300;
+        SurveyPoints points;
         points.set(point);
+        const PictureFrame frame = frameAt(100, 200, 1);
+        QImage picture = surveyPicture(points, frame);
+        QCOMPARE(picture.pixelColor(128, 128), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(228, 188), QColor(Qt::blue));
+        QVERIFY(picture.pixelColor(178, 158).green() > picture.pixelColor(178, 158).red());
+        QVERIFY(picture.pixelColor(128, 66) != QColor(Qt::white));
+        QVERIFY(picture.pixelColor(128, 124) != QColor(Qt::white)); // the first dash
+
+        for (double SurveyPoint::*coordinate :
+             {&SurveyPoint::designNorth, &SurveyPoint::designEast}) {
+            SurveyPoint plain = point;
+            plain.*coordinate = 0;
+            points.set(plain);
+            picture = surveyPicture(points, frame);
+            QCOMPARE(picture.pixelColor(128, 124), QColor(Qt::white));
+            QCOMPARE(picture.pixelColor(128, 66), QColor(Qt::white));
+        }
     }
-    const QImage picture = surveyPicture(points, frameAt(100, 200, 1));
-    QCOMPARE(picture.pixelColor(68, 168), QColor(Qt::white)); // none so far
-    QCOMPARE(picture.pixelColor(108, 168), QColor(Qt::red));  // of the first line's label
-    QCOMPARE(picture.pixelColor(148, 168), QColor(Qt::blue)); // of the second point's base
-}
 
-void MapPicturesTest::linesReportAndStopEndsThePaint()
-{
-    DesignMarks marks;
-    marks.rebuild(TestSurvey().design(4, 10, 2), kToMap);
-    std::vector<double> percents;
-    PictureFrame frame = frameAt(0, 0, 1); // all of it out of sight
-    frame.lineDone = [&](double percent) { percents.push_back(percent); };
-    pictureOf([&](QPainter& painter) { paintDesign(marks, frame, {25, false, true}, painter); });
-    QCOMPARE(percents, (std::vector<double>{75, 100})); // hidden lines count, and say nothing
+    void aDesignPlaceTakesTheBrushInUse()
+    {
+        SurveyPoints points;
+        for (const int place : {1, 2, 3}) {
+            SurveyPoint point;
+            point.lineNumber = "1";
+            point.pointNumber = std::to_string(place);
+            point.north = 100;
+            point.east = 100 + 40 * place;
+            point.designNorth = 60;
+            point.designEast = point.east;
+            point.referenceNorth = place == 1 ? 1e6 : 180; // the first base is not on the screen
+            point.referenceEast = 200;
+            points.set(point);
+        }
+        const QImage picture = surveyPicture(points, frameAt(100, 200, 1));
+        QCOMPARE(picture.pixelColor(68, 168), QColor(Qt::white)); // no brush yet
+        QCOMPARE(picture.pixelColor(108, 168), QColor(Qt::red));  // of the first line's label
+        QCOMPARE(picture.pixelColor(148, 168), QColor(Qt::blue)); // of the second point's base
 
-    frame.isStopped = [&] { return percents.size() >= 3; };
-    pictureOf([&](QPainter& painter) { paintDesign(marks, frame, {25}, painter); });
-    QCOMPARE(percents, (std::vector<double>{75, 100, 25}));
-}
-
-void MapPicturesTest::brokenPlacesDoNoHarm()
-{
-    DesignPoints design = TestSurvey().design(1, 3, 1);
-    SurveyPoints results = TestSurvey().results(1, 3, 1, 5);
-    const QImage cleanDesign = designPicture(design, frameAt(4400000, 500025, 1), {25});
-    int number = 0;
-    for (const double broken : {kNaN, -std::numeric_limits<double>::infinity(), 1e12, 1e300, 0.0}) {
-        DesignPoint point = *design.findLine("1001")->begin();
-        point.lineNumber = "2001"; // its own line, out of sight of the others
-        point.pointNumber = std::to_string(++number);
-        point.north = broken;
-        design.set(point);
-        SurveyPoint result = *results.findLine("1001")->begin();
-        result.pointNumber = point.pointNumber;
-        result.north = broken;
-        result.designEast = broken;
-        result.referenceEast = broken;
-        results.set(result);
+        SurveyPoint far; // beside the picture, but on the screen, with its base
+        far.lineNumber = "0";
+        far.north = far.referenceNorth = 100;
+        far.east = 1600;
+        far.referenceEast = 1572;
+        for (const char* number : {"1", "2"}) {
+            far.pointNumber = number;
+            points.set(far);
+        }
+        QCOMPARE(surveyPicture(points, frameAt(100, 200, 1)).pixelColor(68, 168),
+                 QColor(Qt::blue)); // of that base
     }
-    const QImage picture = designPicture(design, frameAt(4400000, 500025, 1), {25});
-    QCOMPARE(picture.pixelColor(128, 128), cleanDesign.pixelColor(128, 128));
-    QCOMPARE(surveyPicture(results, frameAt(4400005, 500002.5, 1)).pixelColor(128, 128),
-             QColor(Qt::red));
-    // nothing but the empty line that leads from the grid's origin to nowhere near
-    QVERIFY(paintedPixels(designPicture({}, frameAt(0, 0, 1))) == 0);
-}
 
-void MapPicturesTest::fineScreensGetFineMarks()
-{
-    DesignMarks marks;
-    marks.rebuild(TestSurvey().design(1, 1, 1), kToMap);
-    QImage picture(2 * kSide, 2 * kSide, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(2);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    paintDesign(marks, frameAt(4400000, 500000, 1), {25}, painter);
-    QCOMPARE(picture.pixelColor(256, 256), QColor(Qt::cyan));
-    QCOMPARE(picture.pixelColor(256, 263), QColor(Qt::cyan)); // 8 device pixels and half a pen
-    QCOMPARE(picture.pixelColor(256, 268), QColor(Qt::white));
-}
+    void linesReportAndStopEndsThePaint()
+    {
+        const DesignMarks marks(TestSurvey().design(4, 10, 2), kToMap);
+        std::vector<double> percents;
+        PictureFrame frame = frameAt(0, 0, 1); // everything is out of sight
+        frame.lineDone = [&](double percent) { percents.push_back(percent); };
+        pictureOf([&](QPainter& painter) {
+            paintDesign(marks, frame, {25, false, true}, painter);
+        });
+        QCOMPARE(percents, (std::vector<double>{75, 100})); // hidden lines count silently
+
+        frame.isStopped = [&] { return percents.size() >= 3; };
+        pictureOf([&](QPainter& painter) { paintDesign(marks, frame, {25}, painter); });
+        QCOMPARE(percents, (std::vector<double>{75, 100, 25}));
+    }
+
+    void brokenPlacesDoNoHarm()
+    {
+        DesignPoints design = TestSurvey().design(1, 3, 1);
+        SurveyPoints results = TestSurvey().results(1, 3, 1, 5);
+        const QImage cleanDesign = designPicture(design, frameAt(4400000, 500025, 1), {25});
+        int number = 0;
+        for (const double broken :
+             {kNaN, -std::numeric_limits<double>::infinity(), 1e12, 1e300, 0.0}) {
+            DesignPoint point = *design.findLine("1001")->begin();
+            point.lineNumber = "2001"; // a line without sound points
+            point.pointNumber = std::to_string(++number);
+            point.north = broken;
+            design.set(point);
+            SurveyPoint result = *results.findLine("1001")->begin();
+            result.pointNumber = point.pointNumber;
+            result.north = broken;
+            result.designEast = broken;
+            result.referenceEast = broken;
+            results.set(result);
+        }
+        const QImage picture = designPicture(design, frameAt(4400000, 500025, 1), {25});
+        QCOMPARE(picture.pixelColor(128, 128), cleanDesign.pixelColor(128, 128));
+        QCOMPARE(surveyPicture(results, frameAt(4400005, 500002.5, 1)).pixelColor(128, 128),
+                 QColor(Qt::red));
+        QVERIFY(paintedPixels(designPicture({}, frameAt(0, 0, 1))) == 0);
+    }
+
+    void fineScreensGetFineMarks()
+    {
+        const DesignMarks marks(TestSurvey().design(1, 1, 1), kToMap);
+        QImage picture(2 * kSide, 2 * kSide, QImage::Format_RGB32);
+        picture.setDevicePixelRatio(2);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        paintDesign(marks, frameAt(4400000, 500000, 1), {25}, painter);
+        QCOMPARE(picture.pixelColor(256, 256), QColor(Qt::cyan));
+        QCOMPARE(picture.pixelColor(256, 263), QColor(Qt::cyan)); // 8 device pixels and half a pen
+        QCOMPARE(picture.pixelColor(256, 268), QColor(Qt::white));
+    }
+};
 
 QTEST_MAIN(MapPicturesTest)
 #include "MapPicturesTest.moc"

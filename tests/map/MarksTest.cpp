@@ -1,4 +1,3 @@
-#include "map/BaseStations.h"
 #include "map/DesignMarks.h"
 #include "map/MarkExtent.h"
 #include "map/SurveyMarks.h"
@@ -36,9 +35,7 @@ DesignPoints pointsOf(const std::vector<DesignPoint>& list)
 
 DesignMarks marksOf(const DesignPoints& points)
 {
-    DesignMarks marks;
-    marks.rebuild(points, kTurned);
-    return marks;
+    return {points, kTurned};
 }
 
 std::string nameOf(const DesignMarks& marks, double north, double east, double reach)
@@ -168,17 +165,14 @@ TEST(SurveyMarks, ShareABaseStationWithinATenthOfAMillimetre)
         point.referenceAltitude = number;
         points.set(point);
     }
-    SurveyMarks marks;
-    marks.rebuild(points, kTurned);
+    const SurveyMarks marks(points, kTurned);
     std::vector<std::uint32_t> bases;
     for (MarkTable::Index mark = 0; mark < marks.table().size(); ++mark)
         bases.push_back(marks.ties(mark).base);
     EXPECT_EQ(bases, (std::vector<std::uint32_t>{0, 0, 0, 1, 1, 2, 0}));
     EXPECT_EQ(marks.bases()[1].altitudeM, 104) << "the first result tells of the station";
     EXPECT_EQ(marks.basePlaces()[2], QPointF(500000, 4400300));
-    marks.rebuild({}, kTurned);
-    EXPECT_TRUE(marks.bases().empty());
-    EXPECT_TRUE(marks.gridBounds().isEmpty());
+    EXPECT_TRUE(SurveyMarks({}, kTurned).gridBounds().isEmpty());
 }
 
 TEST(SurveyMarks, ExtentHoldsResultsAndBasesButNotTheDesign)
@@ -197,19 +191,8 @@ TEST(SurveyMarks, ExtentHoldsResultsAndBasesButNotTheDesign)
     point.pointNumber = "2";
     point.referenceNorth = kNaN;
     points.set(point);
-    SurveyMarks marks;
-    marks.rebuild(points, kTurned);
+    const SurveyMarks marks(points, kTurned);
     EXPECT_EQ(markExtent(marks.gridBounds(), kTurned), QRectF(200, 50, 500, 50));
     EXPECT_EQ(marks.nearestBase({50, 700}, 1), 0U);
     EXPECT_FALSE(marks.nearestBase({50, 701}, 1));
-}
-
-TEST(SurveyMarks, ManyBaseStationsAreFoundQuickly)
-{
-    BaseStations stations;
-    constexpr std::uint32_t kMany =
-        200000; // each its own: by comparing all pairs this takes minutes
-    for (std::uint32_t i = 0; i < kMany; ++i)
-        ASSERT_EQ(stations.findOrAdd({i * 1.0, -5, 0, 0, 0}), i);
-    EXPECT_EQ(stations.findOrAdd({777, -5.000001, 0, 0, 0}), 777U);
 }

@@ -6,8 +6,8 @@
 class QPainter;
 struct PictureFrame;
 
-// The two pictures of the map drawn the plain way: one call after another, nothing left out,
-// straight from the points. What the real painters draw has to look the same, and to be quicker.
+// The two pictures of the map, drawn by plain calls for each point, and nothing left out. The
+// pictures of the real painters must look the same, and take less time.
 
 void paintDesignPlainly(const DesignPoints& points, const PictureFrame& frame,
                         const DesignPictureOptions& options, QPainter& painter);

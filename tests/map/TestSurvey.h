@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// Synthetic surveys on a grid with its south-west corner at (north, east).
+/// Makes surveys on a grid with its south-west corner at (north, east).
 struct TestSurvey
 {
     double north = 4400000;

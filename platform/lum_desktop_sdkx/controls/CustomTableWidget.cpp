@@ -17,10 +17,10 @@ namespace {
 
 constexpr int kSampleRows = 50;
 constexpr int kRowPadding = 8;   ///< above and below the text, together
-constexpr int kCellPadding = 18; ///< left and right of it, together
+constexpr int kCellPadding = 18; ///< left and right of the text, together
 constexpr int kMaxInitialWidth = 320;
 
-/// First and last of each run of selected rows, in order, none twice.
+/// First and last row of each run of selected rows, in order and without repetition.
 std::vector<std::pair<int, int>> selectedRuns(const QItemSelection& selection)
 {
     std::vector<std::pair<int, int>> runs;
@@ -63,7 +63,7 @@ CustomTableWidget::CustomTableWidget(QWidget* parent) : QTableView(parent)
     QHeaderView* const header = horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setTextElideMode(Qt::ElideRight);
-    header->setHighlightSections(false); // would ask about every selected row
+    header->setHighlightSections(false); // it would look at every selected row
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     fitRowHeight();
 }
@@ -123,10 +123,10 @@ void CustomTableWidget::showRow(int row)
         return;
     const int left = horizontalScrollBar()->value();
     const QModelIndex index = model()->index(row, 0, rootIndex());
-    selectionModel()->setCurrentIndex( // selectRow() would extend while a modifier key is held
+    selectionModel()->setCurrentIndex( // selectRow() would add rows while a modifier key is held
         index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
-    horizontalScrollBar()->setValue(left); // the user looks at some column, leave it in view
+    horizontalScrollBar()->setValue(left); // keep the columns that the user looks at
 }
 
 void CustomTableWidget::setHiddenColumns(const QStringList& captions)
@@ -158,7 +158,7 @@ void CustomTableWidget::contextMenuEvent(QContextMenuEvent* event)
 void CustomTableWidget::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy))
-        copySelection(); // the base would copy one cell
+        copySelection(); // the base class copies one cell only
     else
         QTableView::keyPressEvent(event);
 }
@@ -222,7 +222,7 @@ QString CustomTableWidget::cellText(const QModelIndex& index) const
     if (value.userType() == QMetaType::QString)
         text = value.toString();
     else if (const auto* const delegate = qobject_cast<QStyledItemDelegate*>(itemDelegate(index)))
-        text = delegate->displayText(value, locale()); // as it is painted
+        text = delegate->displayText(value, locale()); // the text that is painted
     blankBreaks(text);
     return text;
 }

@@ -5,8 +5,8 @@
 
 #include <vector>
 
-/// The table of a record model, for half a million rows: one row height, whole rows selected,
-/// columns as wide as header and first rows ask for, Ctrl+C copies the selected rows.
+/// A table for record models of up to half a million rows. All rows have one height, and whole rows
+/// are selected. Header and first rows decide the column widths. Ctrl+C copies the selected rows.
 class CustomTableWidget : public QTableView
 {
     Q_OBJECT
@@ -16,23 +16,23 @@ public:
 
     void setModel(QAbstractItemModel* model) override;
 
-    /// The selected rows as they are shown, top to bottom: visible columns from left to right
-    /// separated by tab, each row ended by a line feed, no header. Tabs and line breaks inside a
-    /// cell are given as blanks. Empty when nothing is selected.
+    /// The selected rows as they are shown, from top to bottom, without header. Tabs separate the
+    /// visible columns, from left to right, and a line feed ends each row. Tabs and line breaks
+    /// inside a cell become blanks. Empty when nothing is selected.
     [[nodiscard]] QString selectedRowsText() const;
 
-    /// Puts that text on the clipboard; without a selection the clipboard stays as it is.
+    /// Copies the selected rows to the clipboard. Without a selection the clipboard stays as it is.
     void copySelection();
 
-    /// Selects the row and scrolls up or down until it can be seen; passes over a row that is not
-    /// there.
+    /// Selects a row and scrolls up or down until it can be seen. Ignores a row that does not
+    /// exist.
     void showRow(int row);
 
-    /// Hides the columns with these captions and shows all others, also after the model was reset.
+    /// Hides the columns with these captions and shows all others, also after a reset of the model.
     void setHiddenColumns(const QStringList& captions);
 
 Q_SIGNALS:
-    /// The user asks for a menu on a cell; its row is selected by then.
+    /// The user wants a context menu on a cell. Its row is selected already.
     void contextMenuRequestedAt(const QModelIndex& index, const QPoint& globalPos);
 
 protected:
@@ -49,5 +49,5 @@ private:
     [[nodiscard]] QString cellText(const QModelIndex& index) const;
 
     QStringList m_hiddenCaptions;
-    int m_fittedColumns = 0; ///< how many columns got their width from rows; then it is the user's
+    int m_fittedColumns = 0; ///< the columns that have got their width; it is the user's now
 };

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kDescriptionLines = 3;
 
-/// What is wrong, or an empty text with the file's content in `xml`.
+/// Reads a file into `xml`. \returns an empty text, or why it failed
 QString readFile(const QString& path, QByteArray& xml)
 {
     QFile file(path);

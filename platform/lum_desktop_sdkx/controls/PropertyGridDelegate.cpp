@@ -39,7 +39,7 @@ QWidget* PropertyGridDelegate::makeChoiceEditor(QWidget* parent, const QModelInd
     editor->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     for (const PropertyGridChoice& choice : m_model.row(index)->choices)
         editor->addItem(choice.caption, choice.value);
-    // The base class offers its signals to no const member; the delegate itself is not const.
+    // A const member cannot send the signals of the base class. The delegate itself is not const.
     auto* const self = const_cast<PropertyGridDelegate*>(this);
     connect(editor, QOverload<int>::of(&QComboBox::activated), self,
             [self, editor] { self->finish(editor); });
@@ -98,13 +98,13 @@ void PropertyGridDelegate::initStyleOption(QStyleOptionViewItem* option,
 {
     QStyledItemDelegate::initStyleOption(option, index);
     if (option->backgroundBrush.style() != Qt::NoBrush)
-        option->state &= ~QStyle::State_Selected; // a selected row must not hide its fault
+        option->state &= ~QStyle::State_Selected; // the selection must not hide the mark of a fault
 }
 
 bool PropertyGridDelegate::eventFilter(QObject* editor, QEvent* event)
 {
     if (m_isBrowsing && event->type() == QEvent::FocusOut)
-        return false; // the file dialog takes the focus, and the editor takes its answer
+        return false; // the editor must stay open for the answer of the file dialog
     return QStyledItemDelegate::eventFilter(editor, event);
 }
 
@@ -117,7 +117,7 @@ void PropertyGridDelegate::finish(QWidget* editor)
 void PropertyGridDelegate::browse(QWidget* editor, const QString& title, const QString& filter)
 {
     const QPointer<PropertyGridDelegate> alive(this);
-    const QPointer<QWidget> open(editor); // its grid may be filled anew while the dialog stands
+    const QPointer<QWidget> open(editor); // the grid may delete it while the dialog is open
     m_isBrowsing = true;
     const QString path = FileDialog::getOpenFileName(editor->window(), title, filter);
     if (alive.isNull())

@@ -40,7 +40,7 @@ QString limit(double value, const PropertyGridRow& row)
     return withUnit(QString::fromStdString(basalt::formatShortest(value)), row);
 }
 
-/// Whole sentences, since no language builds them from the same parts.
+/// Whole sentences, since translations cannot be built from parts.
 QString wantedNumber(const PropertyGridRow& row)
 {
     const bool whole = row.editor == Editor::Integer;
@@ -66,7 +66,7 @@ QString wantedNumber(const PropertyGridRow& row)
 bool isInRange(const PropertyGridRow& row, const QString& value)
 {
     bool isNumber = false;
-    const double number = value.toDouble(&isNumber); // C locale, whatever the desktop's
+    const double number = value.toDouble(&isNumber); // in the C locale, not in that of the desktop
     if (isNumber && row.editor == Editor::Integer)
         (void)value.toLongLong(&isNumber);
     return isNumber && std::isfinite(number) && !(row.minimum && number < *row.minimum) &&

@@ -4,26 +4,26 @@
 
 struct PropertyGridRow;
 
-/// What was typed into a row, judged.
+/// The result of checking what was typed into a row.
 struct PropertyGridInput
 {
-    QString value; ///< as it is stored: numbers trimmed, with a decimal point
-    QString fault; ///< what is wrong, naming range and unit; empty when `value` may be stored
+    QString value; ///< to be stored; a number has no blanks around it, and a decimal point
+    QString fault; ///< what is wrong, with range and unit; empty when `value` may be stored
 };
 
-/// A decimal comma is read where the user's numbers have one and the text holds neither a second
-/// comma nor a point. An empty text is no number.
+/// Checks what was typed. A comma is read as the decimal point when the user's language writes it
+/// so, and the text holds no second comma and no point. An empty text is no number.
 [[nodiscard]] PropertyGridInput readPropertyGridInput(const PropertyGridRow& row,
                                                       const QString& typed);
 
-/// What is wrong with a value that stands in the dictionary, which is text with a decimal point
-/// and as many decimals as it has; empty when nothing is.
+/// What is wrong with a value of the dictionary; empty when nothing is. Numbers there have a
+/// decimal point and any number of decimals.
 [[nodiscard]] QString propertyGridFault(const PropertyGridRow& row, const QString& value);
 
-/// A number with an exponent as a user would type it, "2000000" for "2e+06"; small ones and other
-/// texts as they are.
+/// A number with an exponent as a user would type it: "2000000" for "2e+06". Small numbers and
+/// other texts are returned as they are.
 [[nodiscard]] QString withoutExponent(const PropertyGridRow& row, const QString& value);
 
-/// The value as the grid shows it: a choice by its caption, a number with its unit and with every
-/// digit that it has, a flag as nothing beside its check box.
+/// The text that the grid shows for a value: the caption of a choice; a number with all its digits
+/// and its unit; nothing for a flag, which has a check box.
 [[nodiscard]] QString shownPropertyGridValue(const PropertyGridRow& row, const QString& value);

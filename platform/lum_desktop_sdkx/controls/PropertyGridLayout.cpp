@@ -24,7 +24,7 @@ constexpr EditorName kEditors[] = {
     {"file", Editor::File},
 };
 
-/// Reads one file; the first fault is kept in the XML reader, which then stops.
+/// Reads one file. The XML reader stops at the first fault and keeps it.
 class LayoutReader
 {
 public:
@@ -59,14 +59,14 @@ QString LayoutReader::read(PropertyGridLayout& layout)
     if (enter("property_grid"))
         readGroups(reading);
     while (!m_xml.hasError() && !m_xml.atEnd())
-        m_xml.readNext(); // what follows the root must be well formed too
+        m_xml.readNext(); // also reads what follows the root, which must be well formed
     if (m_xml.hasError())
         return QStringLiteral("line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString());
     layout = std::move(reading);
     return {};
 }
 
-/// True at the start of the next child, which must have this name; false at the end of the parent.
+/// Goes to the next child. It must have this name. \returns false at the end of the parent
 bool LayoutReader::enter(const char* element)
 {
     if (m_xml.hasError() || !m_xml.readNextStartElement())
@@ -218,7 +218,7 @@ std::optional<double> LayoutReader::number(const char* attribute)
     return result;
 }
 
-/// Keeps the first reason.
+/// Sets the fault, unless there is one already.
 void LayoutReader::fail(const QString& reason)
 {
     if (!m_xml.hasError())

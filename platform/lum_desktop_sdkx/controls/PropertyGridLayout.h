@@ -10,28 +10,28 @@ class QByteArray;
 // The rows of a property grid, and the control file that they come from:
 //
 //     <property_grid>
-//       <group caption="Accuracy">
-//         <row key="hor_accu_max" caption="Horizontal accuracy" editor="number"
-//              min="0" max="100" decimals="3" unit="m" default="0.5"
-//              description="Largest horizontal RMS that passes."/>
-//         <row key="type" caption="Type" editor="choice">
-//           <choice value="0" caption="Source"/>
-//           <choice value="1" caption="Receiver"/>
+//       <group caption="Paper">
+//         <row key="margin" caption="Margin" editor="number"
+//              min="0" max="100" decimals="1" unit="mm" default="10"
+//              description="Free space on all four sides."/>
+//         <row key="format" caption="Format" editor="choice">
+//           <choice value="0" caption="A4"/>
+//           <choice value="1" caption="Letter"/>
 //         </row>
 //       </group>
 //     </property_grid>
 //
-// A row needs key and caption. `editor` is one of
-//     text      (when left out)
-//     number    a decimal number; `min`, `max`, `decimals` (the most that may be typed)
-//     integer   a whole number; `min`, `max`
-//     angle     as number, in decimal degrees; its unit is "°" unless `unit` says otherwise
+// A row needs a key and a caption. `editor` is one of
+//     text      any text; used when `editor` is missing
+//     number    a decimal number, with `min`, `max` and `decimals`, the most that may be typed
+//     integer   a whole number, with `min` and `max`
+//     angle     as number, in decimal degrees; its unit is "°" unless `unit` gives another
 //     choice    one of its <choice> children: `value` is stored, `caption` is shown
 //     flag      a check box, stored as "1" or "0"
-//     file      a path, with a button that asks for one; `filter` as in "csv file(*.csv)"
-// `read_only="1"` shows a row of any editor without letting it be edited. `default` is shown, not
-// stored, while the dictionary has no such key. Captions, units and descriptions are English, and
-// are translated in the context "ControlXml".
+//     file      a path, with a button that opens a file dialog; `filter` as in "csv file(*.csv)"
+// `read_only="1"` makes that a row cannot be edited. `default` is shown, but not stored, while the
+// dictionary does not hold the key. Captions, units and descriptions are English. They are
+// translated in the context "ControlXml".
 
 struct PropertyGridChoice
 {
@@ -77,7 +77,7 @@ struct PropertyGridLayout
     std::vector<PropertyGridGroup> groups;
 };
 
-/// Reads a control file into `layout`, which stays as it was when something is wrong: malformed
-/// XML, an unknown element, attribute or editor, a limit that is no number, a key given twice.
-/// \returns an empty text, or what is wrong and in which line
+/// Reads a control file into `layout`, which changes only on success. Faults are malformed XML, an
+/// unknown element, attribute or editor, a limit that is no number, and a key given twice.
+/// \returns an empty text, or the fault and its line
 [[nodiscard]] QString readPropertyGridLayout(const QByteArray& xml, PropertyGridLayout& layout);

@@ -9,10 +9,11 @@ namespace {
 
 using Editor = PropertyGridRow::Editor;
 
-/// Lies on light and on dark rows alike.
+/// Half transparent, so that it suits light and dark rows.
 constexpr QRgb kFaultColor = qRgba(0xe0, 0x30, 0x30, 0x60);
 
-constexpr quintptr kGroup = 0; ///< internal id of a group; a row's is the number of its group + 1
+/// The internal id of a group. That of a row is the number of its group + 1.
+constexpr quintptr kGroup = 0;
 
 std::string toStd(const QString& text)
 {
@@ -254,7 +255,7 @@ PropertyGridRow* PropertyGridModel::rowOfKey(const QString& key)
     return &group.rows[static_cast<std::size_t>(cell.row())];
 }
 
-/// Marks a stored value that a user could not have entered. An empty one was never filled in.
+/// Marks a stored value that the user could not enter. An empty value is none, and is not marked.
 void PropertyGridModel::judge(const PropertyGridRow& row)
 {
     m_faults.remove(row.key);
@@ -270,7 +271,7 @@ bool PropertyGridModel::enter(const QModelIndex& index, const QString& typed)
 {
     const PropertyGridRow& at = *row(index);
     if (typed == shownOrTyped(at, false))
-        return false; // an editor that was opened and left must not store anything
+        return false; // an editor that is opened and closed must not store anything
     const auto [entered, message] = readPropertyGridInput(at, typed);
     if (!message.isEmpty()) {
         m_faults.insert(at.key, {typed, message, false});

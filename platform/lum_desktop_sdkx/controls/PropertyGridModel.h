@@ -6,10 +6,10 @@
 #include <QAbstractItemModel>
 #include <QHash>
 
-/// Groups at the top, their rows below; caption and value side by side.
+/// The tree of a property grid: groups, and below each its rows, with caption and value.
 ///
-/// The values are those of a dictionary, kept with every key and byte that came in. What was typed
-/// wrongly stands beside it, marked, until it is corrected or dropped.
+/// The values are those of a dictionary. All its keys and bytes are kept. A bad value that was
+/// typed is kept apart from them, and shown with a mark, until it is corrected or dropped.
 class PropertyGridModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -26,22 +26,22 @@ public:
     void setLayout(PropertyGridLayout layout);
 
     /// Replaces the whole dictionary. A value that is no number or out of range is marked, and
-    /// stays as it came until it is edited.
+    /// stays as it came until the user edits it.
     void setValues(const IDictionary& values);
     [[nodiscard]] const basalt::Dictionary& values() const { return m_values; }
 
-    /// Sets one value without telling that it was edited; a key without a row is kept in the
-    /// values all the same.
+    /// Sets one value without `valueEdited`. A key without a row is kept, too.
     void setValue(const QString& key, const QString& value);
 
     [[nodiscard]] bool hasFaults() const { return !m_faults.isEmpty(); }
     void dropFault(const QString& key);
 
-    /// Marks the value of a row as bad for a reason that its layout does not know, in place of the
-    /// mark made before; what was typed wrongly into the row goes first. An unknown key marks none.
+    /// Marks the value of a row as bad for a reason that the layout does not know, and removes the
+    /// mark that was made before. A bad value typed into the row keeps its own message. An unknown
+    /// key marks no row.
     void mark(const QString& key, const QString& message);
 
-    /// The value cell of the topmost bad value; invalid when there is none.
+    /// The cell of the topmost bad value; invalid when there is none.
     [[nodiscard]] QModelIndex firstFault() const;
 
     void setCaption(const QString& key, const QString& caption);
@@ -50,9 +50,9 @@ public:
     /// The value cell of a row; invalid when no row has this key.
     [[nodiscard]] QModelIndex indexOfKey(const QString& key) const;
 
-    /// Null for a group. Valid until the next `setLayout`.
+    /// The row at an index; null for a group. Valid until the next `setLayout`.
     [[nodiscard]] const PropertyGridRow* row(const QModelIndex& index) const;
-    /// What is wrong with what stands in the row; empty when nothing is.
+    /// What is wrong with the value of a row; empty when nothing is.
     [[nodiscard]] QString fault(const QModelIndex& index) const;
 
     [[nodiscard]] QModelIndex index(int row, int column,
@@ -67,7 +67,7 @@ public:
                                       int role) const override;
 
 Q_SIGNALS:
-    /// A good value was entered that differs from the one before.
+    /// The user has entered a good value that differs from the one before.
     void valueEdited(const QString& key, const QString& value);
 
 private:

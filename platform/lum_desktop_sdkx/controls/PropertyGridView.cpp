@@ -37,7 +37,7 @@ PropertyGridView::PropertyGridView(QWidget* parent) : QTreeView(parent)
     setRootIsDecorated(false);
     setIndentation(dpi_scaled(kIndent));
     setExpandsOnDoubleClick(false);
-    setVerticalScrollMode(ScrollPerPixel); // the last row can be brought into view whole
+    setVerticalScrollMode(ScrollPerPixel); // so that the last row can be seen whole
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(EditKeyPressed | AnyKeyPressed);
     header()->setSectionsMovable(false);
@@ -69,7 +69,7 @@ void PropertyGridView::handleClick(const QModelIndex& index)
     const QModelIndex value = index.siblingAtColumn(PropertyGridModel::Value);
     if (currentIndex() != value)
         setCurrentIndex(value);
-    scrollTo(value); // the base never scrolls while a mouse button is down
+    scrollTo(value); // the base class does not scroll while a mouse button is down
     if (value.flags().testFlag(Qt::ItemIsEditable))
         edit(value);
 }
@@ -121,7 +121,7 @@ void PropertyGridView::drawGroup(QPainter* painter, const QStyleOptionViewItem& 
     painter->restore();
 }
 
-/// A row stands out by its indent alone; styles would paint dotted lines here.
+/// Paints nothing: the indent is enough, and styles would paint dotted lines.
 void PropertyGridView::drawBranches(QPainter* painter, const QRect& rect,
                                     const QModelIndex& index) const
 {

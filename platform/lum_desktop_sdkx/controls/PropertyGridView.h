@@ -4,8 +4,8 @@
 
 class PropertyGridModel;
 
-/// The tree of a property grid: group headers across both columns, fine lines between the rows,
-/// one click to edit, Tab and Shift+Tab to the next and previous value.
+/// The view of a property grid: group headers across both columns, thin lines between the rows. One
+/// click edits a value, Tab and Shift+Tab go to the next and the previous one.
 class PropertyGridView : public QTreeView
 {
     Q_OBJECT
@@ -13,10 +13,10 @@ class PropertyGridView : public QTreeView
 public:
     explicit PropertyGridView(QWidget* parent = nullptr);
 
-    /// Takes what stands in the open editor, if there is one, and leaves it open.
+    /// Enters the text of an open editor and leaves the editor open.
     void commitEditor();
 
-    /// Groups start open and span both columns; called after the model has new rows.
+    /// Opens the groups and lets them span both columns. Called after the model got new rows.
     void spanGroups();
 
 protected:

@@ -40,7 +40,7 @@ QLabel* makeText(QWidget* parent)
     return label;
 }
 
-/// Red that can be read on the window's own colour.
+/// A red that can be read on the window's colour.
 QPalette faultPalette(QPalette palette)
 {
     const bool isDark = palette.color(QPalette::Window).lightness() < 128;
@@ -92,7 +92,7 @@ basalt::Dictionary CoordSystemPanel::parameters()
 
 bool CoordSystemPanel::hasFaults()
 {
-    judge(); // a geoid file may have come or gone
+    judge(); // a geoid file may have been made or deleted meanwhile
     return m_grid->hasFaults() || !m_isUsable;
 }
 
@@ -125,14 +125,14 @@ void CoordSystemPanel::takeShift(const lum::DatumShift& shift)
 void CoordSystemPanel::takeEdit(const QString& key, const QString& value)
 {
     if (key.startsWith(QLatin1String("ellipsoid_")))
-        m_shift->setSystem({}); // it is another datum now
+        m_shift->setSystem({}); // the register's shifts are for another datum
     followEllipsoid(key, value);
     m_grid->setValue(QLatin1String(kId), QLatin1String(kUndefinedId));
     showAll();
     Q_EMIT changed();
 }
 
-/// Keeps name, axis and flattening of the ellipsoid in step.
+/// Makes the name of the ellipsoid fit its axis and flattening, or the other way round.
 void CoordSystemPanel::followEllipsoid(const QString& editedKey, const QString& value)
 {
     const QString nameKey = QStringLiteral("ellipsoid_name");
@@ -150,7 +150,8 @@ void CoordSystemPanel::show(const IDictionary& parameters)
 {
     const QString file = QString::fromStdString(basalt::controlFile("CoordSystem"));
     if (!m_grid->init(file, parameters)) {
-        for (std::size_t i = 0; i < parameters.size(); ++i) // shown or not, nothing is lost
+        // Without rows nothing is shown, but the grid still keeps the values.
+        for (std::size_t i = 0; i < parameters.size(); ++i)
             m_grid->setValue(lum::toQString(parameters.keyAt(i)),
                              lum::toQString(parameters.valueAt(i)));
     }
@@ -186,7 +187,7 @@ void CoordSystemPanel::judge()
     const QString message = lum::toQString(fault.message);
     m_isUsable = !fault;
     if (fault)
-        m_grid->setRowVisible(key, true); // what is wrong must be within reach
+        m_grid->setRowVisible(key, true); // the user must be able to correct it
     m_grid->markRow(key, message);
     m_fault->setText(message);
     m_fault->setPalette(faultPalette(palette()));

@@ -13,13 +13,13 @@ namespace lum {
 class DatumShift;
 }
 
-/// Edits one coordinate-parameter dictionary: a search of the EPSG register and a choice of its
-/// datum shifts over a property grid of the parameters, and below them what keeps the system from
-/// working.
+/// Edits the dictionary of one coordinate system. From top to bottom: a search of the EPSG
+/// register, a choice of its datum shifts, a property grid of the parameters, and the fault in
+/// them, if any.
 ///
 /// Only the parameters that count are shown: those of the chosen projection, and those of a
-/// correction while it is switched on. A system without ellipsoid and projection is not set, which
-/// is no fault.
+/// correction that is switched on. A dictionary without ellipsoid and projection holds no system,
+/// which is no fault.
 class CoordSystemPanel : public QWidget
 {
     Q_OBJECT
@@ -27,23 +27,23 @@ class CoordSystemPanel : public QWidget
 public:
     explicit CoordSystemPanel(QWidget* parent = nullptr);
 
-    /// Shows these parameters in place of those before; `changed` is not sent.
+    /// Replaces the parameters, without `changed`.
     void setParameters(const IDictionary& parameters);
 
-    /// What came in, with the edits in place, in stored form (`lum::toStoredForm`).
-    /// "coord_param_id" stays as it came while nothing was edited, is "EPSG:32650" and the like for
-    /// a system as the register has it, with any of the datum shifts on offer or none, otherwise
-    /// "Undefined". Takes the open editor's text first.
+    /// The parameters with the edits, in stored form (`lum::toStoredForm`). It takes the text of an
+    /// open editor first. "coord_param_id" is as it came while nothing was edited. It is
+    /// "EPSG:32650" and so on for a system of the register, with one of the register's datum shifts
+    /// or none, and "Undefined" for any other.
     [[nodiscard]] basalt::Dictionary parameters();
 
-    /// True while a bad value stands in a row, or the parameters describe no coordinate system.
+    /// True while a row holds a bad value, or the parameters make no usable system.
     [[nodiscard]] bool hasFaults();
 
     /// Selects the first bad value.
     void goToFault();
 
 Q_SIGNALS:
-    /// The user entered a good value or chose a system.
+    /// The user has entered a good value or chosen a system.
     void changed();
 
 private:
@@ -62,5 +62,5 @@ private:
     DatumShiftChoice* m_shift;
     PropertyGridCtrl* m_grid;
     QLabel* m_fault;
-    bool m_isUsable = true; ///< the coordinate service takes the parameters, or none are set
+    bool m_isUsable = true; ///< the coordinate service accepts the parameters, or none are set
 };

@@ -20,7 +20,7 @@ constexpr double kSameFlattening = 1e-8; // in 1/f; WGS 84 and GRS 1980 are 1.5e
 
 constexpr const char* kPivot = "_7px,_7py,_7pz";
 
-/// Keys that count while the value of `key` is not 0.
+/// The keys that count only while the value of `key` is not 0.
 struct Switch
 {
     const char* key;

@@ -7,10 +7,10 @@
 
 class IDictionary;
 
-/// How the rows of a coordinate system depend on its other parameters.
+/// How the rows of a coordinate system depend on the parameters.
 namespace CoordSystemRows {
 
-/// Ellipsoids that have no name of their own carry this one.
+/// The name of an ellipsoid that is none of the known ones.
 inline constexpr const char* kCustomEllipsoid = "Custom";
 
 struct Visibility
@@ -19,29 +19,29 @@ struct Visibility
     bool isShown = false;
 };
 
-/// One entry for each key that is shown only with certain projections, or while the correction that
-/// it belongs to is switched on.
+/// One entry for each key that is shown only with certain projections, or only while its correction
+/// is switched on.
 [[nodiscard]] std::vector<Visibility> visibilities(const IDictionary& parameters);
 
-/// The name that fits the axis and inverse flattening of `parameters`: the one that stands there as
-/// long as it fits, since some ellipsoids have two names.
+/// The name of the ellipsoid with the axis and inverse flattening of `parameters`. The name that is
+/// there stays while it fits, since some ellipsoids have two names.
 [[nodiscard]] QString ellipsoidName(const IDictionary& parameters);
 
-/// Writes axis and inverse flattening of a known ellipsoid.
-/// \returns false, with nothing written, when the name is not known
+/// Writes the axis and inverse flattening of a known ellipsoid.
+/// \returns false, and writes nothing, when the name is not known
 bool fillEllipsoid(std::string_view name, IDictionary& parameters);
 
-/// What "parallel_1_lat" means in the chosen projection.
+/// The caption of "parallel_1_lat", which has another meaning in some projections.
 [[nodiscard]] QString firstParallelCaption(const IDictionary& parameters);
 
-/// The unit of plane coordinates, told by the scale factor, which turns metres into it: "m", "ft",
-/// or nothing for a rarer one.
+/// The unit of plane coordinates: "m", "ft", or empty for a rarer unit. It follows from the scale
+/// factor, which includes the conversion from metres.
 [[nodiscard]] QString planeUnit(const IDictionary& parameters);
 
-/// The keys whose values are in that unit.
+/// The keys whose values are in the unit of plane coordinates.
 [[nodiscard]] const std::vector<QString>& planeLengths();
 
-/// Whether the parameters name an ellipsoid or a projection at all.
+/// True when the parameters have an ellipsoid or a projection.
 [[nodiscard]] bool isSet(const IDictionary& parameters);
 
 } // namespace CoordSystemRows

@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kMostRows = 8;
-constexpr double kMostOfWidth = 0.5; ///< for the names
+constexpr double kMostOfWidth = 0.5; ///< share of the width that names may take
 
 } // namespace
 
@@ -56,8 +56,8 @@ void CoordSystemSearch::makeList()
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
-    m_list->setFocusPolicy(Qt::NoFocus);       // the field keeps the keys
-    m_list->setTextElideMode(Qt::ElideMiddle); // zones are told apart by their end
+    m_list->setFocusPolicy(Qt::NoFocus);       // the field keeps the focus
+    m_list->setTextElideMode(Qt::ElideMiddle); // names of zones differ at their end
     m_list->header()->setSectionResizeMode(CoordSystemTable::Code, QHeaderView::ResizeToContents);
     m_list->hide();
     connect(m_list, &QTreeView::clicked, this, &CoordSystemSearch::choose);
@@ -83,7 +83,7 @@ void CoordSystemSearch::find(const QString& text)
     fitList();
 }
 
-/// As high as what was found, up to a limit; names before areas, which may be long.
+/// Makes the list as high as its rows, up to a limit. Names get their width before the areas.
 void CoordSystemSearch::fitList()
 {
     const int rows = std::min(m_found->rowCount(), kMostRows);
@@ -112,7 +112,7 @@ bool CoordSystemSearch::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-/// True when the key was meant for the list and not for the text.
+/// \returns true when the key was for the list and not for the text
 bool CoordSystemSearch::handleKey(QKeyEvent& event)
 {
     if (m_field->text().isEmpty())
@@ -127,7 +127,7 @@ bool CoordSystemSearch::handleKey(QKeyEvent& event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         choose(m_list->currentIndex());
-        return true; // a dialog around must not take it for its OK
+        return true; // the dialog around must not take it as OK
     case Qt::Key_Escape:
         m_field->clear();
         return true;

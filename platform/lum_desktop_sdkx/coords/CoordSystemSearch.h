@@ -10,10 +10,11 @@ class QLabel;
 class QLineEdit;
 class QTreeView;
 
-/// A search of the EPSG register as one types: a field, and below it what was found.
+/// Searches the EPSG register while the user types: a field, and below it the list of what was
+/// found.
 ///
-/// The arrow keys walk the list, Enter or a click chooses, Escape drops the search. The register is
-/// read at the first search.
+/// The arrow keys move in the list, Enter or a click chooses, Escape clears the search. The
+/// register is read at the first search.
 class CoordSystemSearch : public QWidget
 {
     Q_OBJECT
@@ -23,7 +24,8 @@ public:
     ~CoordSystemSearch() override;
 
 Q_SIGNALS:
-    /// \param code  such as "32650"
+    /// The user has chosen a system.
+    /// \param code such as "32650"
     void chosen(const QString& code);
 
 protected:

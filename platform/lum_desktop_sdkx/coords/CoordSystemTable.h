@@ -4,7 +4,7 @@
 
 #include <QAbstractTableModel>
 
-/// Systems that a search has found: code, name and area.
+/// The systems that a search has found, with code, name and area.
 class CoordSystemTable : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// The entries belong to the catalogue, which outlives them here.
+    /// \param entries belong to the catalogue, which must outlive them here
     void setEntries(std::vector<const CoordSystemEntry*> entries);
-    /// Null for an invalid index.
+    /// The entry of a row; null for an invalid index.
     [[nodiscard]] const CoordSystemEntry* entry(const QModelIndex& index) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kNone = 0; ///< item before those of the shifts
+constexpr int kNone = 0; ///< the item before the shifts
 
 } // namespace
 
@@ -59,7 +59,7 @@ void DatumShiftChoice::showShiftOf(const IDictionary& parameters)
     const auto shift = lum::DatumShift::fromDictionary(parameters, fault);
     const int own = static_cast<int>(m_shifts.known.size()) + 1;
     const int item = fault ? own : itemOf(shift);
-    m_names->removeItem(own); // stands there only while it holds
+    m_names->removeItem(own); // this item is there only while it is selected
     if (item == own)
         m_names->addItem(tr("By the parameters below"));
     m_names->setCurrentIndex(item);
@@ -69,14 +69,14 @@ void DatumShiftChoice::showShiftOf(const IDictionary& parameters)
     setVisible(m_shifts.isNeeded && (!m_shifts.known.empty() || item == kNone));
 }
 
-/// The item behind the shifts for one that is none of them.
+/// The item of a shift. A shift that is not in the list has the item behind the last.
 int DatumShiftChoice::itemOf(const lum::DatumShift& shift) const
 {
     const auto& known = m_shifts.known;
     const auto isIt = [&shift](const lum::EpsgDatumShift& one) { return one.shift == shift; };
     const auto picked = static_cast<std::size_t>(m_names->currentIndex());
     if (picked > kNone && picked <= known.size() && isIt(known[picked - 1]))
-        return m_names->currentIndex(); // of several equal ones
+        return m_names->currentIndex(); // of several equal shifts the selected one
     if (m_shifts.best() != nullptr && isIt(*m_shifts.best()))
         return 1;
     if (shift.isNone())

@@ -7,8 +7,9 @@
 class QComboBox;
 class QLabel;
 
-/// Offers the datum shifts that the EPSG register has for a system, by name; below, what it means
-/// when there is none. Hidden for a system that is not the register's or is on WGS 84 itself.
+/// Lets the user choose one of the datum shifts that the EPSG register has for a system. A text
+/// below says what it means to have none. Hidden for a system that is not of the register or needs
+/// no shift.
 class DatumShiftChoice : public QWidget
 {
     Q_OBJECT
@@ -16,14 +17,14 @@ class DatumShiftChoice : public QWidget
 public:
     explicit DatumShiftChoice(QWidget* parent = nullptr);
 
-    /// \param code  such as "2436"; empty for a system that is not the register's
+    /// \param code such as "2436"; empty for a system that is not of the register
     void setSystem(const QString& code);
 
-    /// Shows which one the parameters hold, if any of these.
+    /// Selects the shift that the parameters hold.
     void showShiftOf(const IDictionary& parameters);
 
 Q_SIGNALS:
-    /// The user picked one, or none.
+    /// The user has chosen a shift, or none.
     void chosen(const lum::DatumShift& shift);
 
 private:
@@ -33,6 +34,6 @@ private:
 
     lum::EpsgDatumShifts m_shifts;
     QWidget* m_row;
-    QComboBox* m_names; ///< none, the shifts in their order, and parameters that are none of these
+    QComboBox* m_names; ///< "None", the shifts, and an item for parameters that are none of them
     QLabel* m_notice;
 };

@@ -5,7 +5,8 @@
 
 class CoordSystemPanel;
 
-/// Asks for a coordinate system. OK is refused, and goes to the bad value, while there is one.
+/// Asks for a coordinate system. While there is a fault, OK selects the bad value and keeps the
+/// dialog open.
 class DlgCoordParam : public Dialog
 {
     Q_OBJECT

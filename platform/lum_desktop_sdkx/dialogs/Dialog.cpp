@@ -53,7 +53,7 @@ void Dialog::rememberSize(const QString& key)
 
 void Dialog::hideEvent(QHideEvent* event)
 {
-    if (!m_sizeKey.isEmpty() && !event->spontaneous()) // minimising is no closing
+    if (!m_sizeKey.isEmpty() && !event->spontaneous()) // false for a window that was minimised
         rememberedSizes().insert(m_sizeKey, size());
     QDialog::hideEvent(event);
 }

@@ -4,8 +4,8 @@
 
 class QVBoxLayout;
 
-/// The base of every dialog: one look, no context-help button, lengths scaled for the screen.
-/// Escape rejects.
+/// The base of every dialog: the same margins, no context-help button, lengths scaled for the
+/// screen. Escape rejects.
 class Dialog : public QDialog
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class Dialog : public QDialog
 public:
     explicit Dialog(QWidget* parent = nullptr);
 
-    /// Logical pixels, scaled here.
+    /// Both take logical pixels, and scale them for the screen.
     void setMinimumSizeScaled(int width, int height);
     void setFixedSizeScaled(int width, int height);
 
@@ -21,8 +21,9 @@ protected:
     /// The outermost layout, with the margins and spacing that all dialogs share.
     QVBoxLayout* makeMainLayout();
 
-    /// Takes the size that the last dialog with the same key had when it was closed in this
-    /// process, and keeps its own when it is closed. Called once, after the minimum size is set.
+    /// Gives the dialog the size that the last dialog with the same key had when it was closed, and
+    /// remembers its size when it is closed, both in this process only. Called once, after the
+    /// minimum size was set.
     void rememberSize(const QString& key);
 
     void hideEvent(QHideEvent* event) override;

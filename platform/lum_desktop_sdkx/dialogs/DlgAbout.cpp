@@ -42,7 +42,8 @@ DlgAbout::DlgAbout(QWidget* parent, const QString& description, const QStringLis
 
     QStringList all(QStringLiteral("Qt %1").arg(QLatin1String(qVersion())));
     all += libraries;
-    all.replaceInStrings(QStringLiteral(" "), QString(QChar::Nbsp)); // name and version together
+    // No line break between a name and its version.
+    all.replaceInStrings(QStringLiteral(" "), QString(QChar::Nbsp));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
 

@@ -6,15 +6,14 @@
 
 class QLabel;
 
-/// Name and version of the program, from the system configuration, and what it is for.
+/// Shows the name and version of the program, from the system configuration, and its purpose.
 class DlgAbout : public Dialog
 {
     Q_OBJECT
 
 public:
-    /// \param description what the program is for, half a sentence
-    /// \param libraries   name and version of each library to be named besides Qt, such as
-    ///                    "SQLite 3.40.1"
+    /// \param description the purpose of the program, half a sentence
+    /// \param libraries name and version of each library besides Qt, such as "SQLite 3.40.1"
     DlgAbout(QWidget* parent, const QString& description, const QStringList& libraries = {});
 
 private:

@@ -17,7 +17,7 @@ using Request = FileDialog::Request;
 
 struct Choice
 {
-    QString path;   ///< empty when the user gave up
+    QString path;   ///< empty when the user cancelled
     QString filter; ///< the one that was chosen
     bool byUser = false;
 };
@@ -44,7 +44,7 @@ void prepare(QFileDialog& dialog, FileDialog::Kind kind)
     case FileDialog::Kind::Save:
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
-        dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked once the suffix is known
+        dialog.setOption(QFileDialog::DontConfirmOverwrite); // we ask, once the suffix is known
         break;
     case FileDialog::Kind::Folder:
         dialog.setFileMode(QFileDialog::Directory);

@@ -6,10 +6,10 @@
 
 class QWidget;
 
-/// Asks for a file or a folder. Filters read "csv file(*.csv)", several joined by ";;".
+/// Asks for a file or a folder. A filter reads "csv file(*.csv)"; several are joined by ";;".
 ///
-/// Each title is a purpose of its own, and begins in the folder where it ended last in this
-/// process. Without a display nobody is asked, which is logged.
+/// A dialog starts in the folder in which the last one with the same title ended in this process.
+/// Without a display nobody is asked; the log says so, and the answer is Cancel.
 class FileDialog
 {
 public:
@@ -20,8 +20,8 @@ public:
         Folder
     };
 
-    /// What a responder is asked; it answers with a path as the user would pick or type it, empty
-    /// for Cancel.
+    /// What a responder is asked. It answers with a path as the user would pick or type it, or with
+    /// an empty one for Cancel.
     struct Request
     {
         using Answer = QString;
@@ -32,14 +32,14 @@ public:
     };
     using Responder = ::Responder<Request>;
 
-    /// Each returns an absolute path with "/", or an empty text when the user gave up.
+    /// Each returns an absolute path with "/", or an empty text when the user cancelled.
     static QString getOpenFileName(QWidget* parent, const QString& title,
                                    const QString& filter = {});
     static QString getExistingDirectory(QWidget* parent, const QString& title);
 
-    /// A name without a suffix gets the one of the chosen filter. When that file stands already,
-    /// `LumMessageBox` asks whether to replace it; after a No the dialog comes again (a responder
-    /// has given up).
+    /// A name without a suffix gets the suffix of the chosen filter. When the file exists,
+    /// `LumMessageBox` asks whether to replace it. After a No the dialog opens again; a responder
+    /// is not asked again, which counts as Cancel.
     static QString getSaveFileName(QWidget* parent, const QString& title,
                                    const QString& filter = {});
 };

@@ -7,11 +7,11 @@
 
 class QWidget;
 
-/// Tells the user something, or asks.
+/// Shows the user a message or a question.
 ///
-/// Stands modally until a button is pressed; Escape and the close button give the safe answer
-/// (Cancel, else No, else Ok). Without a display nobody is asked: the text is logged and the safe
-/// answer given. Texts are plain, never markup; `details` stand under the text, smaller.
+/// The box is modal until a button is pressed. Escape and the close button give the safe answer:
+/// Cancel, else No, else Ok. Without a display nobody is asked: the text is logged, and the answer
+/// is the safe one. All texts are plain, never markup. `details` are shown below the text, smaller.
 class LumMessageBox
 {
 public:

@@ -4,10 +4,10 @@
 #include <optional>
 #include <utility>
 
-/// Answers modal questions in place of the user for as long as it lives: tests and the command-line
-/// tool hold one. A later one goes before an earlier one, which answers again once it is gone.
+/// Answers modal questions in place of the user while it lives, for tests and the command-line
+/// tool. Of several the latest answers.
 ///
-/// \tparam Question  what was asked; names the type of its answer as `Question::Answer`
+/// \tparam Question what was asked; `Question::Answer` is the type of its answer
 template <class Question>
 class Responder
 {
@@ -23,10 +23,10 @@ public:
     Responder(const Responder&) = delete;
     Responder& operator=(const Responder&) = delete;
 
-    /// The answer of the one that is installed; nothing when the user is to be asked.
+    /// The answer of the latest responder; nothing when there is none, and the user must be asked.
     [[nodiscard]] static std::optional<Answer> answer(const Question& question)
     {
-        const Function function = installed(); // may install another one while it answers
+        const Function function = installed(); // a copy: it may install another one
         return function ? std::optional<Answer>(function(question)) : std::nullopt;
     }
 

@@ -54,7 +54,7 @@ void applyAppearance(const QString& theme)
     const bool dark = theme == QLatin1String("dark") ||
                       (theme != QLatin1String("light") && isDark(QApplication::palette()));
     QApplication::setPalette(makePalette(dark ? kDark : kLight));
-    // No desktop names a theme under a bare X server: name and path are given here.
+    // Without a desktop environment no icon theme is set, so that name and path are set here.
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << QStringLiteral("/usr/share/icons"));
     QIcon::setThemeName(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
     if (!QIcon::hasThemeIcon(QStringLiteral("document-open")))

@@ -4,8 +4,8 @@ class QString;
 
 namespace desktop {
 
-/// Style, palette and icons of the whole program.
-/// \param theme "light" or "dark"; anything else follows the desktop
+/// Sets style, palette and icons of the whole program.
+/// \param theme "light" or "dark"; any other value follows the desktop
 void applyAppearance(const QString& theme);
 
 } // namespace desktop

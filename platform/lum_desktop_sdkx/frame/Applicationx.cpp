@@ -28,14 +28,14 @@
 
 namespace {
 
-/// What Qt has to say goes into the log, which everybody knows to look at.
+/// Writes Qt's messages into the log.
 void logQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
     const std::string line = "Qt: " + message.toStdString();
     if (type == QtCriticalMsg || type == QtFatalMsg)
         basalt::logError(line);
     else
-        basalt::logDebug(line); // of no use to the user
+        basalt::logDebug(line); // the message window hides debug lines from the user
 }
 
 template <class Factory>
@@ -54,11 +54,11 @@ void printComponents()
     printKind("IGuiAssistant", extensible_factory_IGuiAssistant());
 }
 
-/// What must be set before Qt makes the application object.
+/// Sets what must be set before Qt makes the application object.
 int& prepared(int& argc)
 {
     qInstallMessageHandler(logQtMessage);
-    // 8-bit text is UTF-8, file names included, also where the locale is "C".
+    // All 8-bit text is UTF-8, also file names, and also when the locale is "C".
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -67,7 +67,7 @@ int& prepared(int& argc)
     return argc;
 }
 
-/// The layout in the file, or the minimal one and what is wrong with the file.
+/// Reads the layout from the file. When that fails, returns the minimal layout and fills `problem`.
 FrameLayout loadLayout(const QString& path, QString& problem)
 {
     FrameLayout layout;
@@ -89,7 +89,7 @@ FrameLayout loadLayout(const QString& path, QString& problem)
 Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, const char* toolPath)
     : QApplication(prepared(argc), argv)
 {
-    static_cast<void>(MessageLog::instance()); // hears the log from here on
+    static_cast<void>(MessageLog::instance()); // from here on it listens to the log
     setOrganizationName(QString::fromStdString(basalt::product().organisation));
     setApplicationName(QString::fromUtf8(applicationId));
     m_configFolder = QString::fromStdString(basalt::configFolder());
@@ -176,19 +176,19 @@ void Applicationx::reportShown()
 {
     const int cpuMs = static_cast<int>(std::clock() * 1000 / CLOCKS_PER_SEC);
     basalt::logDebug("Window shown after " + std::to_string(cpuMs) + " ms of CPU time");
-    rism_logger_get_instance()->flush(); // for whoever waits for this line
+    rism_logger_get_instance()->flush(); // a test may wait for this line
     if (m_printsStartupTime) {
         std::printf("%d ms of CPU time to the shown window\n", cpuMs);
         exit(0);
         return;
     }
     if (!m_screenshotFile.isEmpty())
-        m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // whatever the screen has
+        m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // the same on every screen
     if (!m_fileToOpen.isEmpty() && !m_mainFrame->openFile(m_fileToOpen))
         LumMessageBox::warning(m_mainFrame.get(), applicationName(),
                                tr("\"%1\" is not a project file.").arg(m_fileToOpen));
     if (!m_screenshotFile.isEmpty()) {
-        QTimer::singleShot(500, this, [this] { // the map's worker has painted by then
+        QTimer::singleShot(500, this, [this] { // enough time for the map's worker
             const bool done = m_mainFrame->grab().save(m_screenshotFile);
             if (!done)
                 basalt::logError("Cannot write \"" + m_screenshotFile.toStdString() + "\"");

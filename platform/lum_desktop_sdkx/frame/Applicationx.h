@@ -10,19 +10,19 @@ class MainFrame;
 
 /// The application object of the desktop.
 ///
-/// Its configuration lies in `basalt::configFolder()`: the configuration dictionary
-/// "<tool path>.xml", and beside it "main_frame.xml". Options of the command line:
-/// a file to open once the window is shown;
-/// "--startup-time" prints the CPU time to the shown window and leaves; "--screenshot FILE" writes
-/// a picture of the window and leaves; "--components" lists what is registered.
+/// Its configuration is in `basalt::configFolder()`: the dictionary "<tool path>.xml", and beside
+/// it "main_frame.xml". The command line takes a file to open once the window is shown, and these
+/// options:
+/// - "--startup-time" prints the CPU time until the window is shown, and ends the program
+/// - "--screenshot FILE" writes a picture of the window, and ends the program
+/// - "--components" lists the registered components, and ends the program
 class Applicationx final : public QApplication
 {
     Q_OBJECT
 
 public:
-    /// Reads the configuration dictionary; what is wrong with it stands in the log, and the
-    /// defaults hold.
-    /// \param argc,argv must outlive the application
+    /// Reads the configuration dictionary. When it cannot be read, the log says why, and the
+    /// defaults apply. \param argc,argv must outlive the application
     Applicationx(int& argc, char** argv, const char* applicationId, const char* toolPath);
     ~Applicationx() override;
 
@@ -30,22 +30,24 @@ public:
 
     [[nodiscard]] DesktopHost& host() { return m_host; }
 
-    /// Loads texts and appearance by the system settings and builds the frame, at the first call.
+    /// The main frame. The first call loads texts and appearance by the system settings and builds
+    /// it.
     [[nodiscard]] MainFrame& mainFrame();
 
-    /// Runs the component's code, and keeps what it throws from ending the program.
+    /// Delivers an event. An exception of the receiver goes into the log and does not end the
+    /// program.
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
     void readOptions();
     void reportShown();
 
-    QString m_configFolder; ///< of the application id
-    QString m_toolFolder;   ///< of the tool path
+    QString m_configFolder; ///< named by the application id
+    QString m_toolFolder;   ///< named by the tool path
     bool m_printsStartupTime = false;
     QString m_screenshotFile;
     QString m_fileToOpen;
-    QString m_layoutProblem; ///< why the frame is the minimal one; empty when it is not
+    QString m_layoutProblem; ///< why the layout could not be read; empty when it was
     DesktopHost m_host;
     std::unique_ptr<MainFrame> m_mainFrame;
 };

@@ -38,7 +38,7 @@ QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
     auto command =
         extensible_factory_ICommandExecuterx().make(className, entry.config.constData(), host);
     if (!command)
-        return nullptr; // has logged why
+        return nullptr; // `make` has logged why
     if (find(entry.name) != nullptr)
         basalt::logWarning("Two commands are named \"" + entry.name.toStdString() +
                            "\"; the first is found");

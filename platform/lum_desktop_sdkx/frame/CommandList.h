@@ -9,7 +9,7 @@
 class QAction;
 class QObject;
 
-/// The commands of the frame with the actions that show them in menus and tool bars.
+/// The commands of the frame, and the actions that show them in menus and tool bars.
 class CommandList final : public ICommandList
 {
 public:
@@ -20,20 +20,20 @@ public:
     /// \returns null, and a line in the log, when the command's class is not registered
     QAction* add(const FrameLayout::Command& entry, IDesktopHost* host, QObject* actionParent);
 
-    /// The action of a command; null when there is none of that name.
+    /// The action of a command; null when there is no command of this name.
     [[nodiscard]] QAction* action(const QString& name) const;
 
-    /// Reads every command's state and caption anew.
+    /// Asks every command for its state and caption again, and updates its action.
     void refresh();
 
-    /// Ends the commands; their actions belong to their parents.
+    /// Deletes the commands. Their actions belong to their parents, and stay.
     void clear();
 
 private:
     struct Entry
     {
         QString name;
-        QString caption; ///< as configured, in English
+        QString caption; ///< of the layout, in English
         ICommandExecuterxFactory::Pointer command;
         QAction* action; ///< owned by the frame
     };

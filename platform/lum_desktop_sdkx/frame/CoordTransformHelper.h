@@ -2,8 +2,8 @@
 
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 
-/// The map shows the project grid itself: x is easting, y is northing. The geodetic operations go
-/// through the project's coordinate system, and answer false where it has none.
+/// The map shows the project grid itself: x is easting, y is northing. The geodetic operations use
+/// the project's coordinate system, and answer false without one.
 class CoordTransformHelper final : public ICoordTransformHelper
 {
 public:

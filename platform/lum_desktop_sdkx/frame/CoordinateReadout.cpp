@@ -12,7 +12,7 @@ CoordinateReadout::CoordinateReadout(const char* config, IDesktopHost* host)
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setContentsMargins(8, 0, 8, 0);
-    // Wide enough for any grid coordinate, so that the status bar stands still.
+    // Wide enough for any grid coordinate, so that the rest of the status bar does not move.
     setMinimumWidth(
         fontMetrics().horizontalAdvance(QStringLiteral("N=00000000.000    E=00000000.000")) + 16);
 }

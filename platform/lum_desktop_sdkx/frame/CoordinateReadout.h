@@ -9,7 +9,7 @@
 
 class IDesktopHost;
 
-/// Where the cursor is: the status bar shows the text of "ON_XY_CHANGED_X" as it comes.
+/// Shows the position of the cursor in the status bar: the payload of "ON_XY_CHANGED_X", unchanged.
 class CoordinateReadout final : public QLabel, public IWindowx, public IEventHandler
 {
 public:

@@ -8,7 +8,7 @@
 
 class IMainFrame;
 
-/// The host of the desktop's components: what they share, made before the first of them.
+/// What the components of the desktop share. It is made before the first of them.
 class DesktopHost final : public IDesktopHost
 {
 public:
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] QWidget* dialogParent() override { return m_dialogParent; }
     void setDocument(const QString& name) override;
 
-    /// Both are one window; null while there is none.
+    /// Both parameters are the same window; null while there is none.
     void setFrame(IMainFrame* frame, QWidget* dialogParent);
 
 private:

@@ -5,12 +5,12 @@
 
 namespace desktop {
 
-/// Style sheet of the docks: flat tabs, the current one marked in the highlight colour, hairline
+/// The style sheet of the docks: flat tabs, the current tab in the highlight colour, thin
 /// splitters. All colours come from the palette, light or dark.
 [[nodiscard]] QString dockStyle();
 
-/// The cross that closes a tab, in the colour of the palette's text: the one of the icon theme is a
-/// red disc, too loud for something that every tab has.
+/// The cross that closes a tab, in the text colour of the palette. The icon theme's own is a red
+/// disc, which is too striking on every tab.
 [[nodiscard]] QIcon dockCloseIcon();
 
 } // namespace desktop

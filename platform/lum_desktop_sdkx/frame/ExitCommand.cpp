@@ -7,6 +7,6 @@
 
 void ExitCommand::execute()
 {
-    // Later: closing may end this command, whose action is still being triggered.
+    // Not at once: closing may delete this command while its action is still being triggered.
     QTimer::singleShot(0, host().dialogParent(), &QWidget::close);
 }

@@ -2,7 +2,7 @@
 
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 
-/// Closes the main frame, which asks first.
+/// Closes the main frame, which asks the assistants first.
 class ExitCommand final : public CommandExecuterxBase
 {
 public:

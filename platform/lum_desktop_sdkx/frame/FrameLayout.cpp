@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kDeepestMenu = 8; // deeper ones could not be used, and a hostile file would recurse
+constexpr int kDeepestMenu = 8; // a limit, since menus are read recursively
 
 class FrameLayoutReader
 {
@@ -47,7 +47,7 @@ private:
         return value;
     }
 
-    /// All attributes as a component's configuration text, with the caption that they stand for.
+    /// All attributes as the configuration text of a component, with the caption that is shown.
     [[nodiscard]] QByteArray config(const QString& caption) const
     {
         basalt::Dictionary values;

@@ -18,12 +18,14 @@
 ///               width="..." height="..." closable="0"/>
 ///     </main_frame>
 ///
-/// "name" is what other components ask for; "caption" is shown, in English, translated, and the
-/// same as the name when it is missing. A command whose caption is empty, and that names none
-/// itself, does not show. "area" is center, left, right, bottom or status; a window
-/// is tabbed with the last one of its area, or stacked under it with "place" below. `<docks/>`
-/// stands for the list of dockable windows. All attributes of a command or window are passed on to
-/// its component as its configuration.
+/// - "name" is the name by which other components find a command or window.
+/// - "caption" is the text that is shown. It is English here and gets translated. Without it the
+///   name is shown. A command with an empty caption is hidden, unless its class gives a caption.
+/// - "area" is center, left, right, bottom or status. A window becomes a tab beside the last window
+///   of its area. With "place" below it stands under that window.
+/// - `<docks/>` stands for the list of windows that can be shown and hidden.
+///
+/// All attributes of a command or window are handed to its component as its configuration.
 struct FrameLayout
 {
     struct Command
@@ -61,7 +63,7 @@ struct FrameLayout
     {
         QString name;
         QString caption;
-        std::vector<QString> commands; ///< names of menu commands; empty for a separator
+        std::vector<QString> commands; ///< names of menu commands; an empty name is a separator
     };
 
     enum class Area
@@ -79,11 +81,11 @@ struct FrameLayout
         QString caption;
         QString icon;
         Area area = Area::Center;
-        bool isBelow = false;   ///< stacked under the area's last window, not tabbed with it
+        bool isBelow = false;   ///< under the last window of the area instead of a tab beside it
         bool isClosable = true; ///< "closable", 1 or 0
-        int width = 0;          ///< preferred, logical pixels; 0 leaves it to the frame
-        int height = 0;
-        QByteArray config; ///< key list of all attributes
+        int width = 0;          ///< wanted width, logical pixels; 0 when the layout has none
+        int height = 0;         ///< the same for the height
+        QByteArray config;      ///< key list of all attributes
     };
 
     std::vector<QString> assistants;
@@ -91,14 +93,14 @@ struct FrameLayout
     std::vector<ToolBar> toolBars;
     std::vector<Window> windows;
 
-    /// What a frame must have when its file cannot be read: the map and a way out.
+    /// The layout when the file cannot be read: the map, and a command to exit.
     [[nodiscard]] static FrameLayout minimal();
 };
 
 namespace desktop {
 
-/// Reads a layout; `layout` changes only on success.
-/// \returns an empty text, or what is wrong and in which line
+/// Reads a layout. `layout` changes only on success.
+/// \returns an empty text, or the fault and its line
 [[nodiscard]] QString readFrameLayout(const QByteArray& xml, FrameLayout& layout);
 
 } // namespace desktop

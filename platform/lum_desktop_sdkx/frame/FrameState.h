@@ -2,16 +2,16 @@
 
 #include <QByteArray>
 
-/// How the user left the main frame, kept in "frame.xml" in the settings folder.
+/// The arrangement of the main frame, kept in "frame.xml" in the settings folder.
 struct FrameState
 {
     QByteArray geometry; ///< as QWidget::saveGeometry
     QByteArray toolBars; ///< as QMainWindow::saveState
     QByteArray docks;    ///< as WindowRegistry::saveState
 
-    /// What was saved last; empty when there is nothing or it cannot be read.
+    /// Reads what was saved last. It is empty when there is no file or it cannot be read.
     [[nodiscard]] static FrameState load();
 
-    /// Why it could not be written stands in the log; nothing else comes of it.
+    /// When the file cannot be written, the log says why, and the program goes on.
     void save() const;
 };

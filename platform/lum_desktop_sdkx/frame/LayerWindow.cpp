@@ -24,7 +24,7 @@ LayerWindow::LayerWindow(const char* config, IDesktopHost* host)
 
 void LayerWindow::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
 {
-    // Later: the assistant goes on adding layers after this event.
+    // Not at once: the assistant may add more layers after this event.
     QMetaObject::invokeMethod(this, &LayerWindow::rebuild, Qt::QueuedConnection);
 }
 
@@ -44,7 +44,7 @@ void LayerWindow::rebuild()
     for (std::size_t i = window->layers().count(); i-- > 0;) {
         ILayerViewer& layer = *window->layers().at(i);
         if (layer.GetProperties().integer("listed", 1) == 0)
-            continue; // shown and hidden by a command of its own
+            continue; // another command shows and hides it
         const QString name = QString::fromStdString(layer.GetName());
         const std::string caption(layer.GetProperties().text("caption", layer.GetName()));
         auto* const item =

@@ -10,8 +10,8 @@
 class IDesktopHost;
 class IMapWindow;
 
-/// The layers of the map "DataMap", the topmost first, each with a check mark that shows or hides
-/// it.
+/// Lists the layers of the map "DataMap", the topmost first. A check mark shows or hides each
+/// layer.
 class LayerWindow final : public QListWidget, public IWindowx, public IEventHandler
 {
     Q_OBJECT

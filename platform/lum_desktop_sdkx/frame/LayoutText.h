@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-/// The translation of a text from the frame's layout; the English text when there is none.
+/// The translation of a text of the frame's layout; the text itself when there is no translation.
 [[nodiscard]] QString layoutText(const QString& english);
 
 } // namespace desktop

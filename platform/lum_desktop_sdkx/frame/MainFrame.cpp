@@ -34,19 +34,19 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     using ads::CDockManager;
     CDockManager::setConfigFlags(CDockManager::DefaultOpaqueConfig);
     CDockManager::setConfigFlag(CDockManager::AlwaysShowTabs, true);
-    CDockManager::setConfigFlag(CDockManager::DockAreaHasCloseButton, false); // tabs have theirs
+    CDockManager::setConfigFlag(CDockManager::DockAreaHasCloseButton, false); // each tab has one
     CDockManager::setConfigFlag(CDockManager::DockAreaHasUndockButton, false);
     CDockManager::setConfigFlag(CDockManager::DockAreaHasTabsMenuButton, false);
     CDockManager::setConfigFlag(CDockManager::DockAreaHideDisabledButtons, true);
     CDockManager::setConfigFlag(CDockManager::FocusHighlighting, false);
     auto* const docks = new CDockManager(frame);
-    docks->setStyleSheet(QString()); // or rules of the library's own sheet stay in force
+    docks->setStyleSheet(QString()); // removes the rules of the library's own sheet
     docks->setStyleSheet(desktop::dockStyle());
     CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon, desktop::dockCloseIcon());
     return docks;
 }
 
-/// The one file of the program's kind that is being dragged; empty when it is something else.
+/// The path of the dragged file; empty unless it is a single file of the program's kind.
 QString droppedFile(const QDropEvent& event)
 {
     const QList<QUrl> urls = event.mimeData()->urls();
@@ -60,7 +60,7 @@ QString droppedFile(const QDropEvent& event)
     return isOurs ? file : QString();
 }
 
-/// An assistant that fails keeps the frame open: it may not have saved.
+/// An assistant that throws keeps the frame open, since it may not have saved.
 bool mayClose(IGuiAssistant& assistant)
 {
     try {
@@ -130,7 +130,7 @@ void MainFrame::show()
 {
     WindowRegistry& windows = m_host.windows();
     const QString map = QStringLiteral("DataMap");
-    windows.activate(map); // in front of what the assistants have opened beside it
+    windows.activate(map); // the assistants may have opened tabs in front of it
     windows.rememberDefaultLayout();
     m_defaultToolBars = saveState();
     const FrameState state = FrameState::load();
@@ -138,7 +138,7 @@ void MainFrame::show()
     const bool wasRestored = windows.restoreState(state.docks);
     QMainWindow::show();
     if (!wasRestored)
-        windows.applySizes(); // only now the docks have a size to share out
+        windows.applySizes(); // the docks have no size before the frame is shown
     if (IWindow* const window = windows.find(map))
         window->widget()->setFocus();
 }
@@ -169,7 +169,8 @@ void MainFrame::dropEvent(QDropEvent* event)
 {
     const QString file = droppedFile(*event);
     event->acceptProposedAction();
-    // Later: whoever drags is held up until this returns, and opening may ask questions.
+    // Not at once: the program that the file comes from waits until this returns, and opening may
+    // ask the user.
     QTimer::singleShot(0, this, [this, file] { openFile(file); });
 }
 
@@ -182,7 +183,7 @@ void MainFrame::closeEvent(QCloseEvent* event)
     }
     saveArrangement();
     event->accept();
-    QCoreApplication::quit(); // a window that floats on its own must not keep the program
+    QCoreApplication::quit(); // a floating window must not keep the program running
 }
 
 bool MainFrame::event(QEvent* event)
@@ -190,7 +191,7 @@ bool MainFrame::event(QEvent* event)
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::Paint && !m_wasPainted) {
         m_wasPainted = true;
-        QTimer::singleShot(0, this, &MainFrame::firstShown); // children are painted after this
+        QTimer::singleShot(0, this, &MainFrame::firstShown); // after the children were painted
     }
     return handled;
 }
@@ -207,7 +208,7 @@ void MainFrame::makeAssistants(const FrameLayout& layout)
 void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items)
 {
     using Kind = FrameLayout::MenuItem::Kind;
-    bool separatorDue = false; // none at the ends, and never two, whatever was left out
+    bool separatorDue = false; // added before the next entry: none at the ends, never two
     const auto add = [&](QAction* action) {
         if (separatorDue && menu.actions().size() > 1)
             menu.insertSeparator(action);
@@ -246,7 +247,7 @@ void MainFrame::listDocks(QMenu& menu)
 {
     const QList<QAction*> listed = menu.actions();
     for (QAction* toggle : m_host.windows().toggleActions()) {
-        if (!listed.contains(toggle)) // opened since the menu was last shown
+        if (!listed.contains(toggle)) // the window was opened since the menu was shown
             menu.addAction(toggle);
     }
 }
@@ -259,12 +260,12 @@ bool MainFrame::isDispensable(const QMenu& menu) const
 
 void MainFrame::addToolBar(const FrameLayout::ToolBar& bar)
 {
-    std::vector<QAction*> actions; // null for a separator
+    std::vector<QAction*> actions; // a null action is a separator
     for (const QString& name : bar.commands) {
         QAction* const action = name.isEmpty() ? nullptr : m_host.commands().action(name);
         const bool isDouble = actions.empty() || actions.back() == nullptr;
         if (action != nullptr || (name.isEmpty() && !isDouble))
-            actions.push_back(action); // an unknown command is in the log already
+            actions.push_back(action); // a missing command is in the log already
     }
     if (!actions.empty() && actions.back() == nullptr)
         actions.pop_back();

@@ -19,8 +19,8 @@ namespace ads {
 class CDockManager;
 } // namespace ads
 
-/// The main window: menus, tool bars, docks and status bar from a layout, and the assistants that
-/// go with it. It remembers how the user left it.
+/// The main window: menus, tool bars, docks, status bar and assistants by a layout. It remembers
+/// how the user has arranged it.
 class MainFrame final : public QMainWindow, public IMainFrame, public IEventHandler
 {
     Q_OBJECT
@@ -31,20 +31,20 @@ public:
 
     void setTitle(const QString& title) override;
     void setDocument(const QString& name) override;
-    /// Shows the frame as the user left it.
+    /// Shows the frame in the arrangement of the last session.
     void show() override;
 
-    /// Puts tool bars and windows back to where the layout places them.
+    /// Moves tool bars and windows back to where the layout puts them.
     void resetArrangement();
 
-    /// Hands a file to the first assistant that knows what to do with it.
-    /// \returns false when none does
+    /// Hands a file to the assistants until one has opened it.
+    /// \returns false when none has
     bool openFile(const QString& path);
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 Q_SIGNALS:
-    /// Once, when the window has been painted for the first time.
+    /// Sent once, after the window was painted for the first time.
     void firstShown();
 
 protected:
@@ -58,7 +58,7 @@ private:
     void makeAssistants(const FrameLayout& layout);
     void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
     void listDocks(QMenu& menu);
-    /// True for a menu from which everything was left out.
+    /// True for a menu whose entries were all left out.
     [[nodiscard]] bool isDispensable(const QMenu& menu) const;
     void addToolBar(const FrameLayout::ToolBar& bar);
     void restoreFrame(const FrameState& state);
@@ -67,7 +67,7 @@ private:
     DesktopHost& m_host; // outlives the frame
     ads::CDockManager* m_docks;
     std::vector<IGuiAssistantFactory::Pointer> m_assistants;
-    std::vector<QMenu*> m_dockMenus; ///< list the windows, anew each time they are shown
+    std::vector<QMenu*> m_dockMenus; ///< they list the windows, filled each time they open
     QString m_title;
     QString m_document;
     QByteArray m_defaultToolBars;

@@ -47,6 +47,6 @@ void MessageLog::add(ILogger::Level level, std::string_view text)
         m_lines.push_back({QTime::currentTime().toString(QStringLiteral("hh:mm:ss")), level,
                            lum::toQString(text)});
     }
-    if (first) // any thread may write
+    if (first) // queued, since any thread may write
         QMetaObject::invokeMethod(this, &MessageLog::linesWaiting, Qt::QueuedConnection);
 }

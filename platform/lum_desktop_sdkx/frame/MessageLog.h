@@ -8,7 +8,7 @@
 #include <deque>
 #include <mutex>
 
-/// The last lines of the log, from the start of the program, for the message window.
+/// Keeps the last lines of the log for the message window, from the start of the program on.
 class MessageLog final : public QObject
 {
     Q_OBJECT
@@ -21,16 +21,16 @@ public:
         QString text;
     };
 
-    /// The one log of the process; it listens from the first call on.
+    /// The object of the process. It listens to the log from the first call on.
     [[nodiscard]] static MessageLog& instance();
 
     ~MessageLog() override;
 
-    /// Lines that have come since the last call, debug lines left out; 2000 are kept at most.
+    /// The lines since the last call without debug lines, the last 2000 at most.
     [[nodiscard]] std::deque<Line> takeLines();
 
 Q_SIGNALS:
-    /// On the thread of this object; once for many lines that come together.
+    /// Sent on the thread of this object, and only once for lines that come close together.
     void linesWaiting();
 
 private:

@@ -7,8 +7,7 @@
 
 class IDesktopHost;
 
-/// What the program has to say besides its questions: the lines of the log, warnings and errors
-/// in colour.
+/// Shows the lines of the log, warnings and errors in colour.
 class MessageWindow final : public QPlainTextEdit, public IWindowx
 {
     Q_OBJECT

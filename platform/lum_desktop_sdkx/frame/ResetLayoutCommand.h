@@ -2,7 +2,7 @@
 
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 
-/// Puts tool bars and windows back to where the layout places them.
+/// Moves tool bars and windows back to where the layout puts them.
 class ResetLayoutCommand final : public CommandExecuterxBase
 {
 public:

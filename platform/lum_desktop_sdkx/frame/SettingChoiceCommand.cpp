@@ -14,7 +14,7 @@ void SettingChoiceCommand::execute()
         return;
     SystemParameter& settings = get_system_ini_parameter();
     settings.dictionary().set(parameters().text("setting"), parameters().text("value"));
-    settings.save(); // has logged why it failed; the choice holds for this session
+    settings.save(); // logs a failure; the choice is then kept for this session only
     host().eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
     if (parameters().integer("restart") != 0)
         LumMessageBox::information(

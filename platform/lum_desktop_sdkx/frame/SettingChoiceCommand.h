@@ -2,8 +2,9 @@
 
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 
-/// Gives one system setting one value: the entry's attributes "setting" and "value". Checked while
-/// it has that value. With "restart" 1 the user is told that it takes effect at the next start.
+/// Sets one system setting to one value, by the entry's attributes "setting" and "value". Checked
+/// while the setting has that value. With "restart" 1 the user is told that the change takes effect
+/// at the next start.
 class SettingChoiceCommand final : public CommandExecuterxBase
 {
 public:

@@ -2,7 +2,7 @@
 
 #include "lum_desktop_sdkx/ISystemSettings.h"
 
-/// The settings object of a desktop program; the frame is the application object's.
+/// The settings object of a desktop program. The application object owns the frame.
 class SystemSettings final : public ISystemSettings
 {
 public:

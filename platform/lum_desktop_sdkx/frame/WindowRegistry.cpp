@@ -22,12 +22,12 @@ using Area = FrameLayout::Area;
 
 namespace {
 
-/// Widens or narrows a dock area at its neighbour's expense.
+/// Sets the width or height of a dock area. Its neighbour takes the difference.
 void giveSize(ads::CDockAreaWidget& area, Qt::Orientation orientation, int size)
 {
     QWidget* child = &area;
     auto* splitter = qobject_cast<QSplitter*>(area.parentWidget());
-    while (splitter != nullptr && splitter->orientation() != orientation) { // stacked: deeper down
+    while (splitter != nullptr && splitter->orientation() != orientation) { // go farther up
         child = splitter;
         splitter = qobject_cast<QSplitter*>(splitter->parentWidget());
     }
@@ -92,7 +92,7 @@ void WindowRegistry::attach(ads::CDockManager* docks, QStatusBar* statusBar)
 {
     m_docks = docks;
     m_statusBar = statusBar;
-    const auto favour = [this] { favourCenter(); }; // splitters come anew with every change
+    const auto favour = [this] { favourCenter(); }; // each change makes new splitters
     QObject::connect(docks, &ads::CDockManager::dockAreasAdded, docks, favour);
     QObject::connect(docks, &ads::CDockManager::dockAreasRemoved, docks, favour);
     QObject::connect(docks, &ads::CDockManager::stateRestored, docks, favour);
@@ -107,7 +107,7 @@ IWindow* WindowRegistry::openWindow(const FrameLayout::Window& layout)
     }
     auto window = extensible_factory_IWindow().make(className, layout.config.constData(), m_host);
     if (!window)
-        return nullptr; // has logged why
+        return nullptr; // `make` has logged why
     IWindow* const opened = window.get();
     ads::CDockWidget* dock = nullptr;
     if (layout.area == Area::Status)
@@ -140,7 +140,7 @@ void WindowRegistry::placeDock(ads::CDockWidget* dock, const FrameLayout::Window
         m_docks->addDockWidget(
             layout.isBelow ? ads::BottomDockWidgetArea : ads::CenterDockWidgetArea, dock, area);
         if (!layout.isBelow)
-            inFront->setAsCurrentTab(); // a new tab does not cover what the user looks at
+            inFront->setAsCurrentTab(); // a new tab must not cover what the user looks at
         return;
     }
     const Entry* center = lastIn(Area::Center);
@@ -184,8 +184,8 @@ void WindowRegistry::resetLayout()
 void WindowRegistry::rememberDefaultLayout()
 {
     favourCenter();
-    // The docking library hides what a saved state does not know; a state of another set of windows
-    // is refused by its version instead. Windows that are opened later do not count.
+    // The docking library hides a window that a saved state does not know. The version of the state
+    // is therefore made from the names of the windows, and a state of other windows is refused.
     QStringList names;
     for (const Entry& each : m_entries) {
         if (each.dock != nullptr)
@@ -245,7 +245,7 @@ std::vector<QAction*> WindowRegistry::toggleActions() const
 
 void WindowRegistry::clear()
 {
-    while (!m_entries.empty()) { // the last one first: it may use those that were there before
+    while (!m_entries.empty()) { // the last one first: a window may use those opened before it
         Entry& last = m_entries.back();
         if (last.dock != nullptr)
             last.dock->takeWidget();

@@ -16,7 +16,7 @@ class CDockManager;
 class CDockWidget;
 } // namespace ads
 
-/// The open windows, in the docks and the status bar of the main frame.
+/// The open windows in the docks and the status bar of the main frame.
 class WindowRegistry final : public IWindowRegistry
 {
 public:
@@ -26,29 +26,29 @@ public:
     bool activate(const QString& name) override;
     IWindow* open(const QString& className, const IDictionary& parameters) override;
 
-    /// The frame's docks and status bar; they outlive `clear`.
+    /// Sets the frame's docks and status bar. They must live until `clear` was called.
     void attach(ads::CDockManager* docks, QStatusBar* statusBar);
 
     /// Opens a window of the layout.
     /// \returns null, and a line in the log, when its class is not registered
     IWindow* openWindow(const FrameLayout::Window& entry);
 
-    /// Remembers the present windows and their arrangement as the default.
+    /// Remembers the windows that are open now and their arrangement as the default.
     void rememberDefaultLayout();
-    /// Puts the windows back to that arrangement.
+    /// Moves the windows back to the default arrangement.
     void resetLayout();
-    /// Gives the docks the widths and heights of the layout.
+    /// Gives the docks the widths and heights that the layout wants.
     void applySizes();
 
-    /// The arrangement of the docks, and whether it could be brought back: one that was saved with
-    /// another set of default windows is refused.
+    /// The arrangement of the docks.
     [[nodiscard]] QByteArray saveState() const;
+    /// \returns false, and changes nothing, for a state of another set of default windows
     bool restoreState(const QByteArray& state);
 
-    /// Actions that show and hide the windows in docks, in the order of opening.
+    /// The actions that show and hide the windows in docks, in the order in which they were opened.
     [[nodiscard]] std::vector<QAction*> toggleActions() const;
 
-    /// Ends every window.
+    /// Deletes every window.
     void clear();
 
 private:
@@ -63,7 +63,7 @@ private:
     ads::CDockWidget* makeDock(const FrameLayout::Window& layout, IWindow& window);
     void placeDock(ads::CDockWidget* dock, const FrameLayout::Window& layout);
     [[nodiscard]] const Entry* lastIn(FrameLayout::Area area) const;
-    /// Lets the central windows take what the frame gains or loses; the others keep their sizes.
+    /// Makes the central windows grow and shrink with the frame. The others keep their sizes.
     void favourCenter();
 
     IDesktopHost* m_host; // owns the registry
@@ -71,5 +71,5 @@ private:
     QStatusBar* m_statusBar = nullptr;
     std::vector<Entry> m_entries;
     QByteArray m_defaultState;
-    int m_stateVersion = 0; ///< tells one set of default windows from another
+    int m_stateVersion = 0; ///< another for another set of default windows
 };

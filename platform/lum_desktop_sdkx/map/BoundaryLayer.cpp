@@ -13,14 +13,16 @@
 
 namespace {
 
-constexpr QRgb kColor = 0xFFD55E00; // vermilion: told from its neighbours by every kind of eye
-constexpr double kDash = 6;         // pixels, and so on
+constexpr QRgb kColor = 0xFFD55E00; // vermilion, which colour-blind people can tell from the others
+
+// screen pixels
+constexpr double kDash = 6;
 constexpr double kGap = 4;
 constexpr double kRoomForLabels = 300;
 constexpr double kLabelDistance = 3;
 
-/// Draws one edge. Only the part in sight, but with the dashes that the whole would have, so that
-/// they stay at their place on the map when it is panned.
+/// Draws the part of an edge that can be seen. Its dashes stand where those of the whole edge
+/// would, so that they move with the map.
 void drawEdge(QPainter& painter, QPen pen, const QLineF& edge, const QRectF& area)
 {
     const auto seen = clippedLine(edge, area);
@@ -46,8 +48,8 @@ QString cornerText(const QPointF& map)
                                   basalt::formatFixed(map.x(), 2));
 }
 
-/// Writes a corner's coordinates outside the rectangle, above or below the corner, flush with it;
-/// pushed back into the picture where that would cut them off.
+/// Writes the coordinates of a corner above or below it, outside the rectangle and aligned with its
+/// side. A label that would be cut off is moved into the picture.
 void drawLabel(QPainter& painter, const QPointF& corner, const QString& text, bool isLeft,
                bool isTop, const QRectF& screen)
 {
@@ -62,7 +64,8 @@ void drawLabel(QPainter& painter, const QPointF& corner, const QString& text, bo
     painter.drawText(QRectF(place, size), Qt::AlignCenter | Qt::TextSingleLine, text);
 }
 
-/// Labels the corners, south-west first and on against the clock, while two fit side by side.
+/// Labels the corners when two labels fit side by side. The corners start in the south-west and go
+/// counter-clockwise.
 void drawLabels(QPainter& painter, const QPolygonF& corners, const QPointF (&map)[4],
                 const QRectF& screen)
 {
@@ -78,7 +81,7 @@ void drawLabels(QPainter& painter, const QPolygonF& corners, const QPointF (&map
 
 BoundaryLayer::BoundaryLayer(const char* config, IDesktopHost* /*host*/)
 {
-    m_properties.set("listed", "0"); // a command of its own shows and hides it
+    m_properties.set("listed", "0"); // the list of layers leaves it out: a command shows it
     csa_to_dictionary(m_properties, config != nullptr ? config : "");
 }
 
@@ -99,13 +102,14 @@ void BoundaryLayer::Paint(const PaintTarget& target, const QRectF& /*view*/, QPa
     if (target.status.integer(status::kDrawBoundaryRect) != 1 || target.mapExtent.isNull())
         return;
     const QRectF extent = target.mapExtent.normalized();
-    // south-west first: a map rectangle's "top" is its smallest northing
+    // from the south-west on: the top of a map rectangle is its smallest northing
     const QPointF ends[] = {extent.topLeft(), extent.topRight(), extent.bottomRight(),
                             extent.bottomLeft()};
     QPolygonF corners;
     for (const QPointF& end : ends) {
         const QPointF screen = target.transform.SurveyToScreen(end);
-        corners.append({std::floor(screen.x()) + 0.5, std::floor(screen.y()) + 0.5}); // crisp
+        // In the middle of a pixel, so that the lines are sharp.
+        corners.append({std::floor(screen.x()) + 0.5, std::floor(screen.y()) + 0.5});
     }
     const QRectF screen(QPointF(0, 0), QSizeF(target.transform.size()));
     painter.setRenderHint(QPainter::Antialiasing);

@@ -5,8 +5,8 @@
 
 class IDesktopHost;
 
-/// The survey boundary: a dashed rectangle around the full extent of the map's data, its corners
-/// labelled with their coordinates while there is room for it. Shown while the system status
+/// The boundary: a dashed rectangle around the full extent of the map's data. Its corners are
+/// labelled with their coordinates where there is room. Shown while the system status
 /// "draw_boundary_rect" is 1.
 class BoundaryLayer final : public ILayerViewer
 {
@@ -15,7 +15,7 @@ public:
     BoundaryLayer(const char* config, IDesktopHost* host);
 
     [[nodiscard]] std::string GetName() const override;
-    /// Null: it adds nothing to what the other layers cover.
+    /// Always null, since the boundary adds nothing to the extent of the other layers.
     [[nodiscard]] QRectF GetExtent() const override { return {}; }
     void SetTransform(const Transform* transform) override;
     void Paint(const PaintTarget& target, const QRectF& view, QPainter& painter) override;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Unlike `QRectF::united`, keeps a rectangle that has no width or no height.
+/// Counts a rectangle without width or height, which `QRectF::united` does not.
 QRectF unitedArea(const QRectF& a, const QRectF& b)
 {
     return {QPointF(std::min(a.left(), b.left()), std::min(a.top(), b.top())),

@@ -8,24 +8,23 @@
 class QPointF;
 class QRectF;
 
-/// The layers of a map, which it owns. Whoever paints them elsewhere has ended before this does.
+/// Owns the layers of a map. It must live longer than a worker that paints them.
 class LayerRegistry final : public ILayerRegistry
 {
 public:
     /// Puts a layer on top.
-    /// \returns false, and a line in the log, when its name is taken; the layer is gone then
+    /// \returns false, and a line in the log, when its name is taken; the layer is deleted then
     bool add(ILayerViewerFactory::Pointer layer);
 
     [[nodiscard]] ILayerViewer* find(const QString& layerName) const override;
     [[nodiscard]] std::size_t count() const override { return m_layers.size(); }
-    /// Null when there is no layer of that index.
     [[nodiscard]] ILayerViewer* at(std::size_t index) const override;
 
-    /// The layers to paint, bottom to top.
+    /// The visible layers, from bottom to top.
     [[nodiscard]] std::vector<ILayerViewer*> visibleLayers() const;
-    /// What the topmost visible layer that knows says of a place of the map; empty when none does.
+    /// The tool tip of the topmost visible layer that has one for this place; empty when none has.
     [[nodiscard]] QString tipAt(const QPointF& map) const;
-    /// The extent of all visible layers together; null when none has a finite one.
+    /// The rectangle around the extents of all visible layers; null when none has a finite extent.
     [[nodiscard]] QRectF visibleExtent() const;
 
 private:

@@ -8,7 +8,7 @@ namespace {
 
 void paintLayer(ILayerViewer& layer, const MapPaintJob& job, QImage& picture)
 {
-    QPainter painter(&picture); // one each, so that no layer inherits what another one set
+    QPainter painter(&picture); // a new one, with nothing that another layer has set
     painter.setFont(job.font);
     painter.setPen(job.foreground);
     layer.Paint(job.target, job.target.transform.visibleExtent(), painter);

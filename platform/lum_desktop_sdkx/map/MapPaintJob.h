@@ -9,24 +9,25 @@
 #include <string>
 #include <vector>
 
-/// All that one picture of the map is made of.
+/// Everything that is needed to paint one picture of the map.
 struct MapPaintJob
 {
     PaintTarget target;
-    std::vector<ILayerViewer*> layers;   ///< bottom to top
-    std::vector<std::string> layerNames; ///< beside them, for the log: no worker asks a layer
+    std::vector<ILayerViewer*> layers;   ///< from bottom to top
+    std::vector<std::string> layerNames; ///< for the log, in the same order; a worker must not ask
     QColor background = Qt::white;
-    QColor foreground = Qt::black; ///< the pen that a layer finds set
+    QColor foreground = Qt::black; ///< the pen of the painter that a layer gets
     QFont font;                    ///< see `fontForWorker`
     double pixelRatio = 1;         ///< device pixels to a screen pixel
 };
 
-/// Paints the layers over the background: an opaque picture of the target's size, in any thread.
+/// Paints the layers over the background. Any thread may call it. The picture is opaque and has the
+/// size of the target.
 ///
-/// A layer that throws is logged, with what it drew so far kept; the others are painted all the
-/// same. Layers that follow after the target was cancelled are left out.
+/// When a layer throws, the log says so, its drawing so far stays, and the other layers are
+/// painted. Once the target is cancelled, no further layer is painted.
 [[nodiscard]] QImage paintPicture(const MapPaintJob& job);
 
-/// `font` with nothing shared with the GUI thread: two threads must not draw with copies of one
-/// `QFont`, whose font engine they would fight over.
+/// A font equal to `font` that shares nothing with it. Copies of one `QFont` share a font engine,
+/// which two threads must not use at the same time.
 [[nodiscard]] QFont fontForWorker(const QFont& font);

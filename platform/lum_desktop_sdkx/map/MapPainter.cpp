@@ -1,6 +1,26 @@
 #include "lum_desktop_sdkx/map/MapPainter.h"
 
+#include "basalt_utilities/ILogger.h"
+
 #include <utility>
+
+namespace {
+
+/// A null picture, and a line in the log, when painting fails as a whole. An exception must not
+/// leave the thread, which would end the program.
+QImage paintedOrNull(const MapPaintJob& job)
+{
+    try {
+        return paintPicture(job);
+    } catch (const std::exception& fault) {
+        basalt::logError(std::string("The map could not be painted: ") + fault.what());
+    } catch (...) {
+        basalt::logError("The map could not be painted");
+    }
+    return {};
+}
+
+} // namespace
 
 MapPainter::MapPainter(QObject* parent) : QObject(parent), m_thread([this] { run(); }) {}
 
@@ -31,7 +51,7 @@ void MapPainter::request(MapPaintJob job)
 void MapPainter::run()
 {
     while (const std::optional<Request> request = takeRequest())
-        handOver(*request, paintPicture(request->job));
+        handOver(*request, paintedOrNull(request->job));
 }
 
 std::optional<MapPainter::Request> MapPainter::takeRequest()

@@ -10,10 +10,11 @@
 #include <optional>
 #include <thread>
 
-/// Paints pictures of the map on a thread of its own, one at a time, the newest request only.
+/// Paints pictures of the map on its own thread, one at a time. Of the waiting requests only the
+/// newest is painted.
 ///
-/// Belongs to the GUI thread. Its end cancels the paint that is running and waits for it, so that
-/// the layers may go afterwards.
+/// It is used on the GUI thread. The destructor cancels the running paint and waits for its end, so
+/// that the layers can be deleted afterwards.
 class MapPainter final : public QObject
 {
     Q_OBJECT
@@ -22,15 +23,15 @@ public:
     explicit MapPainter(QObject* parent = nullptr);
     ~MapPainter() override;
 
-    /// Paints as soon as the one that is running, which is cancelled, gives way. The layers must
-    /// outlive this painter.
+    /// Cancels the running paint, and paints this job after it. The layers must outlive this
+    /// painter.
     void request(MapPaintJob job);
 
-    /// The view of the newest request until its picture has arrived.
+    /// The view of the newest request; nothing once its picture has arrived.
     [[nodiscard]] const std::optional<Transform>& viewInWork() const { return m_viewInWork; }
 
 Q_SIGNALS:
-    /// On the GUI thread; not for pictures that were cancelled.
+    /// Sent on the GUI thread, and not for a picture that was cancelled.
     void painted(const QImage& picture, const Transform& view);
 
 private:
@@ -41,7 +42,7 @@ private:
     };
 
     void run();
-    /// Waits for work; nothing when it is time to end.
+    /// Waits for a request; returns nothing when the thread must end.
     [[nodiscard]] std::optional<Request> takeRequest();
     void handOver(const Request& request, const QImage& picture);
     void deliver(int number, const QImage& picture, const Transform& view);
@@ -50,11 +51,11 @@ private:
     std::optional<Transform> m_viewInWork;
     int m_newest = 0;
 
-    std::mutex m_mutex; // of what follows
+    std::mutex m_mutex; // guards the members below
     std::condition_variable m_wakeUp;
     std::optional<Request> m_pending;
     bool m_isEnding = false;
-    std::atomic<bool> m_cancelled = false; // written under the mutex, read by layers without
+    std::atomic<bool> m_cancelled = false; // set under the mutex, read by layers without it
 
-    std::thread m_thread; // last: everything else is there when it starts
+    std::thread m_thread; // last, so that it starts when all other members are made
 };

@@ -13,8 +13,8 @@ QPointF toDevicePixel(const QPointF& screen, double ratio)
     return {std::round(screen.x() * ratio) / ratio, std::round(screen.y() * ratio) / ratio};
 }
 
-/// Fills what `covered` leaves free of `area`. The bands may overlap what lies under the edges of
-/// `covered`, so they come first.
+/// Fills the parts of `area` outside of `covered`. It may also fill pixels under the edges of
+/// `covered`, and must be called before that is drawn.
 void fillAround(QPainter& painter, const QRectF& area, const QRectF& covered, const QColor& color)
 {
     const QRectF bands[] = {

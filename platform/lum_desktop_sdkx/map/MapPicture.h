@@ -7,21 +7,21 @@
 class QColor;
 class QPainter;
 
-/// The last picture of the map with the view it was made for: what the user sees at once while a
-/// new one is in work.
+/// The last picture of the map, and the view that it was painted for. The user sees it until the
+/// next one is painted.
 class MapPicture
 {
 public:
     void set(const QImage& image, const Transform& view);
 
-    /// Draws it where it belongs in the view `live`, with `background` wherever it does not reach.
+    /// Draws the picture at its place in the view `live`, and `background` around it.
     ///
-    /// At the scale it was made for it is copied as it is, to whole device pixels; at another one
-    /// it is stretched without smoothing, up to a factor of 64, beyond which it would show nothing.
+    /// At the scale that it was painted for it is copied to whole device pixels. At another scale
+    /// it is stretched without smoothing. When that needs a factor beyond 64, it is not drawn.
     void draw(QPainter& painter, const Transform& live, const QColor& background) const;
 
 private:
-    /// Where it goes on the screen; null when it is not to be seen there.
+    /// The place of the picture on the screen; null when it cannot be seen.
     [[nodiscard]] QRectF place(const Transform& live) const;
 
     QImage m_image;

@@ -26,16 +26,16 @@ namespace {
 
 constexpr double kZoomStep = 1.5;
 constexpr double kMargin = 0.05; // share of the screen
-constexpr int kMoveDelayMs = 30; // moves that follow one another within it make one paint
+constexpr int kMoveDelayMs = 30; // all moves within this time lead to one paint
 
-/// Edges count, and an area without width or height is one too.
+/// Whether two areas have a point in common. Edges count, and an area may have no width or height.
 bool doTouch(const QRectF& a, const QRectF& b)
 {
     return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() &&
            b.top() <= a.bottom();
 }
 
-/// Whether the picture of the view `made` will fill at least half of each side of `live`.
+/// Whether a picture of the view `made` covers at least half of each side of the view `live`.
 bool isWorthFinishing(const Transform& made, const Transform& live)
 {
     if (made.size() != live.size() || !qFuzzyCompare(made.GetScale(), live.GetScale()))
@@ -61,14 +61,14 @@ MapWindow::MapWindow(const char* config, IDesktopHost* host)
 {
     csa_to_dictionary(m_parameters, config != nullptr ? config : "");
     m_transform.setSize(size());
-    QPalette paper = palette(); // a map is drawn on white, dark theme or not: so are its colours
+    QPalette paper = palette(); // the colours of the map are made for white, also in a dark theme
     paper.setColor(QPalette::Base, Qt::white);
     paper.setColor(QPalette::Text, Qt::black);
     setPalette(paper);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setContextMenuPolicy(Qt::PreventContextMenu); // or the frame would show its own
+    setContextMenuPolicy(Qt::PreventContextMenu); // the frame's menu must not open here
     m_paintTimer.setSingleShot(true);
     connect(&m_paintTimer, &QTimer::timeout, this, &MapWindow::startPaint);
     connect(&m_painter, &MapPainter::painted, this, &MapWindow::showPicture);
@@ -123,7 +123,7 @@ void MapWindow::zoomAll()
     else
         fitTo(all, kMargin);
     onViewMoved();
-    redraw(); // whoever asks for it may have changed what the layers show
+    redraw(); // the caller may have changed what the layers show
 }
 
 void MapWindow::zoomRect(double left, double top, double right, double bottom)
@@ -147,7 +147,7 @@ void MapWindow::setExtent(double left, double top, double right, double bottom)
     const QRectF area = QRectF(QPointF(left, top), QPointF(right, bottom)).normalized();
     if (!lum::isFinite(area)) {
         basalt::logError("The map refuses an extent that is not finite");
-        redraw(); // the data behind it is new all the same
+        redraw(); // the data is new all the same
         return;
     }
     const bool isFirst = m_extent.isNull();
@@ -170,7 +170,7 @@ void MapWindow::fitTo(const QRectF& extent, double margin)
 
 void MapWindow::onViewMoved()
 {
-    QToolTip::hideText(); // what it names has gone from under the cursor
+    QToolTip::hideText(); // it names what was under the cursor before
     update();
     if (!m_paintTimer.isActive())
         m_paintTimer.start(kMoveDelayMs);
@@ -185,10 +185,10 @@ void MapWindow::redraw()
 void MapWindow::startPaint()
 {
     if (!isVisible())
-        return; // painted when it is shown
+        return; // `showEvent` requests the paint
     const auto& inWork = m_painter.viewInWork();
     if (inWork && !m_isContentStale && isWorthFinishing(*inWork, m_transform))
-        return; // or a long drag would never let a picture be finished; its arrival goes on
+        return; // else no picture would be finished in a long drag; `showPicture` asks again
     m_isContentStale = false;
     m_painter.request(makeJob());
 }
@@ -231,7 +231,7 @@ void MapWindow::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
     const IDictionary& values = get_system_status_dictionary();
     if (values.integer(status::kDrawBoundaryRect) != m_boundaryState)
         redraw();
-    update(); // the unit of the scale bar may be another one
+    update(); // the unit of the scale bar may have changed
 }
 
 void MapWindow::refreshOverlay()
@@ -245,7 +245,7 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
 {
     m_isSeen = true;
     m_fitUntilSeen.reset();
-    if (!qFuzzyCompare(m_pixelRatio, devicePixelRatioF())) // moved to another screen
+    if (!qFuzzyCompare(m_pixelRatio, devicePixelRatioF())) // the window moved to another screen
         redraw();
     QPainter painter(this);
     m_picture.draw(painter, m_transform, palette().color(QPalette::Base));
@@ -313,7 +313,7 @@ void MapWindow::installDefaultReactors()
     const std::string_view names = m_parameters.text("reactors", "ReactorDefault");
     static const QRegularExpression kBetween(QStringLiteral("[;\\s]+"));
     const QString list = lum::toQString(names);
-    installReactor(QStringLiteral("ReactorDefault")); // none of the old ones stays
+    installReactor(QStringLiteral("ReactorDefault")); // ends the tool in use
     for (const QString& name : list.split(kBetween, Qt::SkipEmptyParts))
         installReactor(name);
 }
@@ -336,7 +336,7 @@ bool MapWindow::event(QEvent* event)
 void MapWindow::showTip(const QPoint& screen)
 {
     const QString tip = m_layers.tipAt(m_transform.ScreenToSurvey(QPointF(screen)));
-    const QRect nearby(screen - QPoint(3, 3), QSize(7, 7)); // beyond it the tip goes away
+    const QRect nearby(screen - QPoint(3, 3), QSize(7, 7)); // outside it the tip is hidden
     QToolTip::showText(mapToGlobal(screen), tip, this, nearby);
 }
 
@@ -365,8 +365,8 @@ void MapWindow::mouseReleaseEvent(QMouseEvent* event)
 
 void MapWindow::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    // The second press of two quick ones, and nothing else, comes as a double click: when nobody
-    // wants it as such it is a press, or every second quick drag would be lost.
+    // Qt sends the second of two quick presses as a double click only. When no reactor handles it,
+    // it counts as a press. Without this, every second of several quick drags would be lost.
     const bool isHandled = event->button() == Qt::LeftButton &&
                            m_reactors.dispatch(&IReactor::dblClick, parametersOf(*event));
     if (!isHandled)
@@ -375,11 +375,11 @@ void MapWindow::mouseDoubleClickEvent(QMouseEvent* event)
 
 void MapWindow::mouseMoveEvent(QMouseEvent* event)
 {
-    // The middle button pans also under a tool that keeps every move for itself.
+    // The middle button must pan even when the tool handles every move.
     const auto first = event->buttons().testFlag(Qt::MiddleButton) ? ReactorStack::First::Standing
                                                                    : ReactorStack::First::Tool;
     m_reactors.dispatch(&IReactor::mouseMove, parametersOf(*event), first);
-    announcePosition(event->localPos()); // after a pan, which moves the map under the cursor
+    announcePosition(event->localPos()); // last, since a pan moves the map under the cursor
 }
 
 void MapWindow::wheelEvent(QWheelEvent* event)

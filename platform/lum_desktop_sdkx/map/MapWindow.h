@@ -18,15 +18,15 @@
 
 class IDesktopHost;
 
-/// The map: the last picture, moved at once with the view, under the overlays, a scale bar and a
-/// north arrow, while a worker paints the next one.
+/// The map window. It shows the last picture, moved to the present view, while a worker paints the
+/// next one. The overlays, a scale bar and a north arrow are drawn over the picture.
 class MapWindow final : public QWidget, public IWindowx, public IMapWindow, private IEventHandler
 {
     Q_OBJECT
 
 public:
-    /// \param config a key list: "reactors", the default reactors' names between semicolons or
-    ///        blanks (default "ReactorDefault")
+    /// \param config a key list; "reactors" holds the names of the default reactors, separated by
+    ///        semicolons or blanks (default "ReactorDefault")
     MapWindow(const char* config, IDesktopHost* host);
     ~MapWindow() override;
 
@@ -37,15 +37,15 @@ public:
     void centerOn(double x, double y) override;
     void zoomIn() override;
     void zoomOut() override;
-    /// The data's extent; without one that of the visible layers; else the place (0, 0) at 1 m a
-    /// pixel.
+    /// Shows the extent of the data; without one that of the visible layers; without that the place
+    /// (0, 0) at 1 m a pixel.
     void zoomAll() override;
     void zoomRect(double left, double top, double right, double bottom) override;
     void zoomAbout(double screenX, double screenY, double factor) override;
-    /// An extent without width and height says that there is no data.
+    /// An extent without width and height means that there is no data.
     void setExtent(double left, double top, double right, double bottom) override;
     [[nodiscard]] QRectF extent() const override { return m_extent; }
-    /// Sets the cursor back to the arrow, too.
+    /// Also sets the cursor back to the arrow.
     bool installReactor(const QString& name) override;
     void installDefaultReactors() override;
     void setMapCursor(const QCursor& cursor) override;
@@ -57,15 +57,15 @@ public:
     [[nodiscard]] IOverlay& overlay(int number) override;
     [[nodiscard]] IHost& host() override;
 
-    /// No paint is wanted or in work: what shows is what there is.
+    /// True when the picture shows the present data and view, and no paint is running or waiting.
     [[nodiscard]] bool isUpToDate() const;
 
 Q_SIGNALS:
-    /// A new picture shows.
+    /// A new picture is shown.
     void pictureChanged();
 
 protected:
-    /// Shows the name of what lies under the resting cursor.
+    /// Shows the tool tip of what lies under the cursor.
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -83,7 +83,8 @@ private:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
     void announcePosition(const QPointF& screen);
     void showTip(const QPoint& screen);
-    /// Shows `extent`; until the user first sees the map, again after each change of its size.
+    /// Shows `extent`. Before the map is seen for the first time, each change of its size shows it
+    /// again.
     void fitTo(const QRectF& extent, double margin);
     void onViewMoved();
     void startPaint();
@@ -98,7 +99,7 @@ private:
 
     IDesktopHost& m_host;
     basalt::Dictionary m_parameters;
-    Transform m_transform; // layers hold on to it
+    Transform m_transform; // layers keep a pointer to it
     QRectF m_extent;       // normalised; null while there is no data
     bool m_isSeen = false;
     std::optional<Fit> m_fitUntilSeen;
@@ -106,11 +107,11 @@ private:
     LayerRegistry m_layers;
     std::array<Overlay, 2> m_overlays;
     MapPicture m_picture;
-    MapPainter m_painter; // ends before the layers do
+    MapPainter m_painter; // after the layers, so that it ends before they do
     QTimer m_paintTimer;
-    bool m_isContentStale = true; ///< the picture shows old data, not just an old view
-    int m_boundaryState = 0;      ///< status of the boundary in the picture in work
-    double m_pixelRatio = 1;      ///< of the picture in work
+    bool m_isContentStale = true; ///< the picture shows old data, not only an old view
+    int m_boundaryState = 0;      ///< status of the boundary when the last paint was requested
+    double m_pixelRatio = 1;      ///< when the last paint was requested
 
     ReactorStack m_reactors;
     EventSubscription m_subscription;

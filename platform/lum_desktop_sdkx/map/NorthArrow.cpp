@@ -7,13 +7,15 @@
 
 namespace {
 
-constexpr int kSmallestScreen = 200; // pixels, and so on
+// screen pixels
+constexpr int kSmallestScreen = 200;
 constexpr int kMargin = 12;
 constexpr int kWidth = 26;
 constexpr int kNeedle = 34;
-constexpr int kPaperAlpha = 210;
 
-/// Half black, half white, its tip at the top of `area`.
+constexpr int kPaperAlpha = 210; // lets a little of the map show through
+
+/// Draws a needle, half black and half white, with its tip at the top of `area`.
 void drawNeedle(QPainter& painter, const QRectF& area)
 {
     const QPointF tip(area.center().x(), area.top());

@@ -3,6 +3,6 @@
 class QPainter;
 class Transform;
 
-/// An arrow to grid north, which is up on every map, in the upper right corner of the screen of
-/// `view`; none on a screen too small for it.
+/// Draws an arrow to grid north, which is always up, in the upper right corner of the screen of
+/// `view`. Draws nothing on a screen that is too small.
 void drawNorthArrow(QPainter& painter, const Transform& view);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kMaxRadius = 200;
 constexpr int kMaxWidth = 32;
-constexpr int kBandAlpha = 28; // lets the map show through a rubber band
+constexpr int kBandAlpha = 28; // lets the map show through the rectangle
 
 } // namespace
 
@@ -74,7 +74,7 @@ void Overlay::draw(QPainter& painter, const Transform& view) const
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const double reach = kMaxRadius; // no shape is seen from farther outside
+    const double reach = kMaxRadius; // farther outside, a shape cannot be seen
     const QRectF area =
         QRectF(QPointF(0, 0), QSizeF(view.size())).adjusted(-reach, -reach, reach, reach);
     painter.setPen(QPen(m_shown.color, m_shown.lineWidth, m_shown.lineStyle));
@@ -103,7 +103,8 @@ void Overlay::drawRectangle(QPainter& painter, const QRectF& area) const
     QColor inside = m_shown.color;
     inside.setAlpha(kBandAlpha);
     painter.setBrush(inside);
-    // In this order of arguments what is no number stays so, and leaves nothing below.
+    // std::max and std::min return a first argument that is no number. The comparison below then
+    // fails.
     const QRectF band = m_shown.rectangle->normalized();
     const QPointF topLeft(std::max(band.left(), area.left()), std::max(band.top(), area.top()));
     const QPointF bottomRight(std::min(band.right(), area.right()),
@@ -116,7 +117,7 @@ void Overlay::drawPoints(QPainter& painter, const Transform& view, const QRectF&
 {
     const auto drawPoint = [&](const QPointF& map) {
         const QPointF screen = view.SurveyToScreen(map);
-        // `contains` says yes to what is not a number
+        // `contains` is true for a place that is no number
         if (std::isfinite(screen.x()) && std::isfinite(screen.y()) && area.contains(screen))
             painter.drawEllipse(screen, m_shown.pointRadius, m_shown.pointRadius);
     };

@@ -11,16 +11,16 @@
 class QPainter;
 class Transform;
 
-/// A scratch drawing over the map's picture.
+/// A drawing over the map's picture. Setters prepare it, `refresh` shows what was set.
 class Overlay final : public IOverlay
 {
 public:
     void clear() override;
-    /// A radius that is not above 0 counts as the default one.
+    /// A radius of 0 or less means the default radius.
     void setProperties(const IDictionary& properties) override;
-    /// What is no pen style counts as solid.
+    /// A number that is no pen style means a solid line.
     void setLineStyle(int style) override;
-    /// Kept between 1 and 32.
+    /// The width is kept between 1 and 32.
     void setLineWidth(int width) override;
     void setColor(const QColor& color) override;
     void setPoint(const QPointF& map) override;
@@ -28,9 +28,9 @@ public:
     void setVertices(const QPolygonF& map) override;
     void setRectangle(const QRectF& screen) override;
 
-    /// From now on `draw` draws what has been set so far.
+    /// Makes `draw` draw what was set until now.
     void refresh();
-    /// Draws on the screen of `view`; shapes that are not finite or out of sight are passed over.
+    /// Draws on the screen of `view`. Skips shapes that are not finite or cannot be seen.
     void draw(QPainter& painter, const Transform& view) const;
 
 private:
@@ -50,6 +50,6 @@ private:
     void drawRectangle(QPainter& painter, const QRectF& area) const;
     void drawPoints(QPainter& painter, const Transform& view, const QRectF& area) const;
 
-    Drawing m_next;
-    Drawing m_shown;
+    Drawing m_next;  ///< as it was set
+    Drawing m_shown; ///< as it is drawn
 };

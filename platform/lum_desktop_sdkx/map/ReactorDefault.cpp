@@ -27,7 +27,7 @@ int ReactorDefault::rButtonUp(const MouseKeyEventParameters& /*event*/)
 
 int ReactorDefault::mButtonDown(const MouseKeyEventParameters& event)
 {
-    if (!m_isDragging) // an override leaves the cursor of the tool in place for afterwards
+    if (!m_isDragging) // an override, so that the tool's cursor comes back afterwards
         QGuiApplication::setOverrideCursor(QCursor(Qt::ClosedHandCursor));
     m_isDragging = true;
     m_last = event.position.toPoint();
@@ -46,7 +46,7 @@ int ReactorDefault::mouseMove(const MouseKeyEventParameters& event)
 {
     if (!m_isDragging)
         return 0;
-    if (!event.buttons.testFlag(Qt::MiddleButton)) { // released where nobody told us
+    if (!event.buttons.testFlag(Qt::MiddleButton)) { // it was released outside, without an event
         endDrag();
         return 0;
     }
@@ -58,7 +58,7 @@ int ReactorDefault::mouseMove(const MouseKeyEventParameters& event)
 
 int ReactorDefault::mouseWheel(const MouseKeyEventParameters& event)
 {
-    if (event.wheelSteps == 0) // turned sideways
+    if (event.wheelSteps == 0) // a wheel that turns sideways
         return 0;
     map().zoomAbout(event.position.x(), event.position.y(),
                     std::pow(kFactorOfNotch, event.wheelSteps));

@@ -4,9 +4,9 @@
 
 #include <QPoint>
 
-/// What the mouse and the keyboard do on every map, whatever the tool: the wheel zooms about the
-/// cursor, the middle button pans, the arrow keys pan by a tenth of the view (by half of it with
-/// Shift), + and - zoom, Home shows everything.
+/// What mouse and keyboard do on every map, under any tool: the wheel zooms about the cursor, the
+/// middle button pans, the arrow keys pan by a tenth of the view (with Shift by half of it), + and
+/// - zoom, Home shows everything.
 class ReactorDefault final : public ReactorBase
 {
 public:
@@ -16,7 +16,7 @@ public:
     ReactorDefault(const ReactorDefault&) = delete;
     ReactorDefault& operator=(const ReactorDefault&) = delete;
 
-    /// Nothing: there is no tool to end.
+    /// Does nothing, since there is no tool to end.
     int rButtonUp(const MouseKeyEventParameters& event) override;
     int mButtonDown(const MouseKeyEventParameters& event) override;
     int mButtonUp(const MouseKeyEventParameters& event) override;
@@ -26,7 +26,8 @@ public:
 
 private:
     void endDrag();
-    /// Shows what lies `right` and `down` (-1, 0, 1) of the view.
+    /// Moves the view by one step to the right and down.
+    /// \param right,down -1, 0 or 1
     void panView(int right, int down, bool isFar);
 
     bool m_isDragging = false;

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double kNotch = 120; // Qt's angle of one notch, eighths of a degree
+constexpr double kNotch = 120; // Qt's angle of one notch, in eighths of a degree
 
 constexpr ButtonOperations kButtons[] = {
     {Qt::LeftButton, &IReactor::lButtonDown, &IReactor::lButtonUp},

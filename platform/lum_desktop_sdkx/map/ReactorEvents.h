@@ -7,7 +7,7 @@ class QKeyEvent;
 class QMouseEvent;
 class QWheelEvent;
 
-// Qt's events in the words of the reactors.
+// Turns Qt's events into what reactors get.
 
 [[nodiscard]] MouseKeyEventParameters parametersOf(const QMouseEvent& event);
 [[nodiscard]] MouseKeyEventParameters parametersOf(const QWheelEvent& event);
@@ -21,5 +21,5 @@ struct ButtonOperations
     ReactorStack::Operation up;
 };
 
-/// Null for a button that reactors do not know.
+/// The operations for a button; null for a button that reactors do not know.
 [[nodiscard]] const ButtonOperations* operationsOf(Qt::MouseButton button);

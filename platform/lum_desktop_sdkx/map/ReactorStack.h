@@ -8,7 +8,7 @@
 
 class QString;
 
-/// The mouse handlers of a map: at most one tool, over the standing `ReactorDefault`.
+/// The mouse handlers of a map: the standing `ReactorDefault`, and at most one tool.
 class ReactorStack
 {
 public:
@@ -25,13 +25,13 @@ public:
     ReactorStack(const ReactorStack&) = delete;
     ReactorStack& operator=(const ReactorStack&) = delete;
 
-    /// "ReactorDefault" ends the tool, any other registered name takes its place. A tool that is
-    /// replaced from inside one of its own operations lives on until that has returned.
-    /// \returns false, with the old one in place, when the name is not registered
+    /// Makes a registered reactor the tool. "ReactorDefault" only ends the tool in use. A tool that
+    /// replaces itself in one of its own operations is deleted after that operation has returned.
+    /// \returns false, and keeps the old tool, when the name is not registered
     bool install(const QString& name);
 
-    /// Gives an event to the one, and when that answers 0 to the other.
-    /// \returns whether one of them has handled it
+    /// Gives an event to the handler named by `first`. When that answers 0, the other one gets it.
+    /// \returns true when one of them has handled it
     bool dispatch(Operation operation, const MouseKeyEventParameters& event,
                   First first = First::Tool);
 
@@ -43,6 +43,6 @@ private:
     IMapWindow& m_map;
     std::unique_ptr<IReactor> m_standing;
     IReactorFactory::Pointer m_tool{nullptr, nullptr};
-    std::vector<IReactorFactory::Pointer> m_retired; ///< replaced while events were under way
-    int m_eventsUnderWay = 0;                        ///< one inside the other
+    std::vector<IReactorFactory::Pointer> m_retired; ///< tools that were replaced during an event
+    int m_eventsUnderWay = 0;                        ///< more than 1 for an event inside an event
 };

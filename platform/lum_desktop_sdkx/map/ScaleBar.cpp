@@ -12,15 +12,18 @@
 namespace {
 
 constexpr double kFootM = 0.3048;
-constexpr double kGirthM = 4e7;  // of the earth, which has no longer lengths
-constexpr double kLongest = 160; // pixels, and so on
+constexpr double kEarthM = 4e7; // circumference of the earth
+
+// screen pixels
+constexpr double kLongest = 160;
 constexpr int kSmallestScreen = 200;
 constexpr int kMargin = 12;
 constexpr int kPadding = 6;
 constexpr int kThickness = 6;
-constexpr int kPaperAlpha = 210; // lets a little of the map through, not its colours
 
-/// Two pieces, black and white, at the left of `paper`.
+constexpr int kPaperAlpha = 210; // lets a little of the map show through
+
+/// Draws the bar at the left of `paper`: its left half black, its right half white.
 void drawBar(QPainter& painter, const QRect& paper, double length)
 {
     const double top = paper.center().y() - kThickness / 2.0 + 0.5;
@@ -62,7 +65,7 @@ void drawScaleBar(QPainter& painter, const Transform& view, LengthUnit unit)
     if (screen.width() < kSmallestScreen || screen.height() < kSmallestScreen / 2)
         return;
     const double longest = std::min(kLongest, screen.width() / 3.0);
-    if (longest * view.GetScale() > kGirthM)
+    if (longest * view.GetScale() > kEarthM)
         return;
     const double unitM = unit == LengthUnit::Feet ? kFootM : 1;
     const double unitsPerPixel = view.GetScale() / unitM;

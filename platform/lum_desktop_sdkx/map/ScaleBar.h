@@ -10,12 +10,15 @@ enum class LengthUnit
     Feet
 };
 
-/// A bar with its length in round numbers, in the lower left corner of the screen of `view`; none
-/// on a screen too small for it, nor where it would be longer than the earth is round.
+/// Draws a bar of a round length, and the length beside it, in the lower left corner of the screen
+/// of `view`. Draws nothing on a screen that is too small, or when the bar would be longer than the
+/// circumference of the earth.
 void drawScaleBar(QPainter& painter, const Transform& view, LengthUnit unit);
 
-/// The longest length of 1, 2 or 5 times a power of ten that is not above `limit`, which is > 0.
+/// The greatest length of 1, 2 or 5 times a power of ten that is not above `limit`.
+/// \param limit > 0
 [[nodiscard]] double roundLength(double limit);
 
-/// "500 m", "2 km", "0.05 ft"; no exponent, from a micrometre to the girth of the earth.
+/// "500 m", "2 km", "0.05 ft"; without exponent from a micrometre to the circumference of the
+/// earth.
 [[nodiscard]] QString lengthText(double length, LengthUnit unit);

@@ -1,7 +1,10 @@
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 
-#include "basalt_utilities/ILogger.h"
+#include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "tests/support/Literals.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/TestFolder.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -25,10 +28,7 @@ const QByteArray kGrid =
 basalt::Dictionary values()
 {
     basalt::Dictionary result;
-    result.set("hor", "0.50000000000000001");
-    result.set("type", "0");
-    result.set("geoid", "0");
-    result.set("foreign", "left alone");
+    csa_to_dictionary(result, "hor=0.50000000000000001,type=0,geoid=0,foreign=left alone");
     return result;
 }
 
@@ -40,26 +40,191 @@ class PropertyGridCtrlTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_path = m_folder.write("质量 limits.xml", kGrid);
+        m_grid = std::make_unique<PropertyGridCtrl>();
+        QVERIFY(m_grid->init(m_path, values()));
+        m_grid->resize(500, 500);
+        m_grid->show();
+        m_grid->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_grid.get()));
+        m_view = m_grid->findChild<QTreeView*>();
+    }
 
-    void marksABadNumberUntilItIsCorrected();
-    void storesAPointWhereACommaWasTyped();
-    void leavesATextAloneThatWasOnlyLookedAt();
-    void tabGoesFromValueToValueAndOut();
-    void choosesByCaptionAndStoresTheValue();
-    void checksAFlagByMouseAndKey();
-    void asksForAFile();
-    void handsOutWhatStandsInAnOpenEditor();
-    void hidesRowsAndGroups();
-    void staysAsItWasWhenTheFileIsBad_data();
-    void staysAsItWasWhenTheFileIsBad();
-    void keepsClosedGroupsWhenTheSameFileComesAgain();
+    void cleanup() { m_grid.reset(); }
+
+    void marksABadNumberUntilItIsCorrected()
+    {
+        const QSignalSpy changed(m_grid.get(), &PropertyGridCtrl::valueChanged);
+        const QModelIndex horizontal = cell(0, 0);
+        for (const char* const bad : {"100.5", "a", ""}) {
+            enterInto(horizontal, QString::fromLatin1(bad));
+            QCOMPARE(horizontal.data().toString(), QString::fromLatin1(bad));
+            QVERIFY(horizontal.data(Qt::BackgroundRole).isValid());
+            QCOMPARE(horizontal.data(Qt::ToolTipRole).toString(),
+                     "Enter a number from 0 m to 100 m."_q);
+            QCOMPARE(value("hor"), "0.50000000000000001"_q);
+            QVERIFY(m_grid->hasFaults());
+        }
+        QCOMPARE(changed.count(), 0);
+
+        enterInto(horizontal, "0.75"_q);
+        QVERIFY(!m_grid->hasFaults());
+        QVERIFY(!horizontal.data(Qt::BackgroundRole).isValid());
+        QCOMPARE(value("hor"), "0.75"_q);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0), QVariantList({"hor"_q, "0.75"_q}));
+    }
+
+    void storesAPointWhereACommaWasTyped()
+    {
+        QLocale::setDefault(QLocale(QLocale::German));
+        enterInto(cell(0, 0), "1,25"_q);
+        QCOMPARE(value("hor"), "1.25"_q);
+    }
+
+    void leavesATextAloneThatWasOnlyLookedAt()
+    {
+        const QSignalSpy changed(m_grid.get(), &PropertyGridCtrl::valueChanged);
+        click(cell(0, 0));
+        QTest::keyClick(editor(cell(0, 0)), Qt::Key_Return);
+        typeInto(cell(0, 0), "9"_q);
+        QTest::keyClick(editor(cell(0, 0)), Qt::Key_Escape);
+        QTRY_VERIFY(editor(cell(0, 0)) == nullptr);
+
+        QCOMPARE(changed.count(), 0);
+        QCOMPARE(value("hor"), "0.50000000000000001"_q);
+        QCOMPARE(value("foreign"), "left alone"_q);
+        QCOMPARE(m_grid->getData().size(), values().size());
+    }
+
+    void tabGoesFromValueToValueAndOut()
+    {
+        typeInto(cell(0, 0), "2"_q);
+        QTest::keyClick(editor(cell(0, 0)), Qt::Key_Tab); // past the read-only row and a header
+        QCOMPARE(value("hor"), "2"_q);
+        QCOMPARE(m_view->currentIndex(), cell(1, 0));
+        QVERIFY(qobject_cast<QComboBox*>(editor(cell(1, 0))) != nullptr);
+
+        QTest::keyClick(editor(cell(1, 0)), Qt::Key_Tab);
+        QCOMPARE(m_view->currentIndex(), cell(1, 1));
+        QTest::keyClick(m_view, Qt::Key_Tab);
+        QCOMPARE(m_view->currentIndex(), cell(1, 2));
+        QVERIFY(editor(cell(1, 2)) != nullptr);
+        QTest::keyClick(editor(cell(1, 2)), Qt::Key_Backtab);
+        QCOMPARE(m_view->currentIndex(), cell(1, 1));
+
+        QPushButton after(m_grid.get());
+        after.show();
+        m_view->setCurrentIndex(cell(1, 2));
+        m_view->setFocus();
+        QTest::keyClick(m_view, Qt::Key_Tab);
+        QVERIFY(after.hasFocus());
+    }
+
+    void choosesByCaptionAndStoresTheValue()
+    {
+        click(cell(1, 0));
+        auto* const combo = qobject_cast<QComboBox*>(editor(cell(1, 0)));
+        QVERIFY(combo != nullptr);
+        QTest::keyClick(combo, Qt::Key_Down);
+        QTest::keyClick(combo, Qt::Key_Return);
+        QTRY_COMPARE(cell(1, 0).data().toString(), "Receiver"_q);
+        QCOMPARE(value("type"), "1"_q);
+
+        m_grid->setValue("type"_q, "7"_q); // none of the choices
+        click(cell(1, 0));
+        QTest::keyClick(editor(cell(1, 0)), Qt::Key_Return);
+        QTRY_VERIFY(editor(cell(1, 0)) == nullptr);
+        QCOMPARE(value("type"), "7"_q);
+    }
+
+    void checksAFlagByMouseAndKey()
+    {
+        QStyleOptionViewItem option;
+        option.initFrom(m_view);
+        option.rect = m_view->visualRect(cell(1, 1));
+        option.features = QStyleOptionViewItem::HasCheckIndicator;
+        const QRect box =
+            m_view->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, m_view);
+        QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {}, box.center());
+        QCOMPARE(value("geoid"), "1"_q);
+        QTest::keyClick(m_view, Qt::Key_Space);
+        QCOMPARE(value("geoid"), "0"_q);
+    }
+
+    void asksForAFile()
+    {
+        const QString picked = "/data/大地水准面/egm 2008.gtx"_q;
+        QString filter;
+        const FileDialog::Responder responder([&](const FileDialog::Request& request) {
+            QApplication::focusWidget()->clearFocus(); // as when a dialog opens
+            filter = request.filter;
+            return QString(picked);
+        });
+        click(cell(1, 2));
+        auto* const browse = editor(cell(1, 2))->findChild<QToolButton*>();
+        QVERIFY(browse != nullptr);
+        QTest::mouseClick(browse, Qt::LeftButton);
+        QCOMPARE(filter, "grid(*.gtx)"_q);
+        QCOMPARE(value("file"), picked);
+    }
+
+    void handsOutWhatStandsInAnOpenEditor()
+    {
+        typeInto(cell(0, 0), "3"_q);
+        QCOMPARE(value("hor"), "3"_q);
+        QTest::keyClicks(editor(cell(0, 0)), "x"_q);
+        QVERIFY(m_grid->hasFaults());
+    }
+
+    void hidesRowsAndGroups()
+    {
+        enterInto(cell(0, 0), "bad"_q);
+        m_grid->setRowVisible("hor"_q, false);
+        QVERIFY(!m_grid->hasFaults());
+        QVERIFY(!m_view->isRowHidden(0, {}));
+        m_grid->setRowVisible("note"_q, false);
+        QVERIFY(m_view->isRowHidden(0, {}));
+        m_grid->setRowVisible("note"_q, true);
+        QVERIFY(!m_view->isRowHidden(0, {}) && m_view->isRowHidden(0, cell(0, 0).parent()));
+    }
+
+    void staysAsItWasWhenTheFileIsBad()
+    {
+        enterInto(cell(0, 0), "4"_q);
+        const LogCapture log;
+        QVERIFY(!m_grid->init(m_folder.path("missing.xml"), basalt::Dictionary()));
+        QVERIFY2(log.holds("missing.xml\": "), log.text().c_str());
+        const QString bad = m_folder.write("bad.xml", "<property_grid>\n<group");
+        QVERIFY(!m_grid->init(bad, basalt::Dictionary()));
+        QVERIFY2(log.holds("bad.xml\": line 2: "), log.text().c_str());
+        QCOMPARE(m_view->model()->rowCount(), 2);
+        QCOMPARE(value("hor"), "4"_q);
+    }
+
+    void keepsClosedGroupsWhenTheSameFileComesAgain()
+    {
+        const QModelIndex group = m_view->model()->index(0, 0);
+        click(group);
+        QVERIFY(!m_view->isExpanded(group));
+        basalt::Dictionary other;
+        other.set("hor", "8");
+        QVERIFY(m_grid->init(m_path, other));
+        QVERIFY(!m_view->isExpanded(group));
+        QCOMPARE(cell(0, 0).data().toString(), "8 m"_q);
+        QCOMPARE(m_grid->getData().size(), std::size_t(1));
+    }
 
 private:
     [[nodiscard]] QModelIndex cell(int group, int row) const
     {
         return m_view->model()->index(row, 1, m_view->model()->index(group, 0));
+    }
+    [[nodiscard]] QWidget* editor(const QModelIndex& index) const
+    {
+        return m_view->indexWidget(index);
     }
     void click(const QModelIndex& index)
     {
@@ -69,233 +234,27 @@ private:
     void typeInto(const QModelIndex& index, const QString& text)
     {
         click(index);
-        QWidget* const editor = m_view->indexWidget(index);
-        QVERIFY(editor != nullptr && editor->hasFocus());
-        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(editor, Qt::Key_Delete);
-        QTest::keyClicks(editor, text);
+        QVERIFY(editor(index) != nullptr && editor(index)->hasFocus());
+        QTest::keyClick(editor(index), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(editor(index), Qt::Key_Delete);
+        QTest::keyClicks(editor(index), text);
     }
     void enterInto(const QModelIndex& index, const QString& text)
     {
         typeInto(index, text);
-        QTest::keyClick(m_view->indexWidget(index), Qt::Key_Return);
-        QTRY_VERIFY(m_view->indexWidget(index) == nullptr);
+        QTest::keyClick(editor(index), Qt::Key_Return);
+        QTRY_VERIFY(editor(index) == nullptr);
     }
     [[nodiscard]] QString value(const char* key)
     {
         return QString::fromStdString(std::string(m_grid->getData().text(key)));
     }
 
-    QTemporaryDir m_folder;
+    TestFolder m_folder;
     QString m_path;
     std::unique_ptr<PropertyGridCtrl> m_grid;
     QTreeView* m_view = nullptr;
 };
-
-void PropertyGridCtrlTest::init()
-{
-    m_path = m_folder.filePath(QStringLiteral("质量 limits.xml"));
-    QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(kGrid) == kGrid.size());
-    file.close();
-    m_grid = std::make_unique<PropertyGridCtrl>();
-    QVERIFY(m_grid->init(m_path, values()));
-    m_grid->resize(500, 500);
-    m_grid->show();
-    m_grid->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_grid.get()));
-    m_view = m_grid->findChild<QTreeView*>();
-}
-
-void PropertyGridCtrlTest::cleanup()
-{
-    m_grid.reset();
-}
-
-void PropertyGridCtrlTest::marksABadNumberUntilItIsCorrected()
-{
-    const QSignalSpy changed(m_grid.get(), &PropertyGridCtrl::valueChanged);
-    const QModelIndex horizontal = cell(0, 0);
-    for (const char* const bad : {"100.5", "a", ""}) {
-        enterInto(horizontal, QString::fromLatin1(bad));
-        QCOMPARE(horizontal.data().toString(), QString::fromLatin1(bad));
-        QVERIFY(horizontal.data(Qt::BackgroundRole).isValid());
-        QCOMPARE(horizontal.data(Qt::ToolTipRole).toString(),
-                 QStringLiteral("Enter a number from 0 m to 100 m."));
-        QCOMPARE(value("hor"), QStringLiteral("0.50000000000000001"));
-        QVERIFY(m_grid->hasFaults());
-    }
-    QCOMPARE(changed.count(), 0);
-
-    enterInto(horizontal, QStringLiteral("0.75"));
-    QVERIFY(!m_grid->hasFaults());
-    QVERIFY(!horizontal.data(Qt::BackgroundRole).isValid());
-    QCOMPARE(value("hor"), QStringLiteral("0.75"));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.at(0), QVariantList({QStringLiteral("hor"), QStringLiteral("0.75")}));
-}
-
-void PropertyGridCtrlTest::storesAPointWhereACommaWasTyped()
-{
-    QLocale::setDefault(QLocale(QLocale::German));
-    enterInto(cell(0, 0), QStringLiteral("1,25"));
-    QCOMPARE(value("hor"), QStringLiteral("1.25"));
-}
-
-void PropertyGridCtrlTest::leavesATextAloneThatWasOnlyLookedAt()
-{
-    const QSignalSpy changed(m_grid.get(), &PropertyGridCtrl::valueChanged);
-    click(cell(0, 0));
-    QTest::keyClick(m_view->indexWidget(cell(0, 0)), Qt::Key_Return);
-    typeInto(cell(0, 0), QStringLiteral("9"));
-    QTest::keyClick(m_view->indexWidget(cell(0, 0)), Qt::Key_Escape);
-    QTRY_VERIFY(m_view->indexWidget(cell(0, 0)) == nullptr);
-
-    QCOMPARE(changed.count(), 0);
-    QCOMPARE(value("hor"), QStringLiteral("0.50000000000000001"));
-    QCOMPARE(value("foreign"), QStringLiteral("left alone"));
-    QCOMPARE(m_grid->getData().size(), values().size());
-}
-
-void PropertyGridCtrlTest::tabGoesFromValueToValueAndOut()
-{
-    typeInto(cell(0, 0), QStringLiteral("2"));
-    QTest::keyClick(QApplication::focusWidget(),
-                    Qt::Key_Tab); // past the read-only row and a header
-    QCOMPARE(value("hor"), QStringLiteral("2"));
-    QCOMPARE(m_view->currentIndex(), cell(1, 0));
-    QVERIFY(qobject_cast<QComboBox*>(m_view->indexWidget(cell(1, 0))) != nullptr);
-
-    QTest::keyClick(m_view->indexWidget(cell(1, 0)), Qt::Key_Tab);
-    QCOMPARE(m_view->currentIndex(), cell(1, 1));
-    QTest::keyClick(m_view, Qt::Key_Tab);
-    QCOMPARE(m_view->currentIndex(), cell(1, 2));
-    QVERIFY(m_view->indexWidget(cell(1, 2)) != nullptr);
-    QTest::keyClick(m_view->indexWidget(cell(1, 2)), Qt::Key_Backtab);
-    QCOMPARE(m_view->currentIndex(), cell(1, 1));
-
-    QPushButton after(m_grid.get());
-    after.show();
-    m_view->setCurrentIndex(cell(1, 2));
-    m_view->setFocus();
-    QTest::keyClick(m_view, Qt::Key_Tab);
-    QVERIFY(after.hasFocus());
-}
-
-void PropertyGridCtrlTest::choosesByCaptionAndStoresTheValue()
-{
-    click(cell(1, 0));
-    auto* const combo = qobject_cast<QComboBox*>(m_view->indexWidget(cell(1, 0)));
-    QVERIFY(combo != nullptr);
-    QTest::keyClick(combo, Qt::Key_Down);
-    QTest::keyClick(combo, Qt::Key_Return);
-    QTRY_COMPARE(cell(1, 0).data().toString(), QStringLiteral("Receiver"));
-    QCOMPARE(value("type"), QStringLiteral("1"));
-
-    m_grid->setValue(QStringLiteral("type"), QStringLiteral("7")); // none of the choices
-    click(cell(1, 0));
-    QTest::keyClick(m_view->indexWidget(cell(1, 0)), Qt::Key_Return);
-    QTRY_VERIFY(m_view->indexWidget(cell(1, 0)) == nullptr);
-    QCOMPARE(value("type"), QStringLiteral("7"));
-}
-
-void PropertyGridCtrlTest::checksAFlagByMouseAndKey()
-{
-    QStyleOptionViewItem option;
-    option.initFrom(m_view);
-    option.rect = m_view->visualRect(cell(1, 1));
-    option.features = QStyleOptionViewItem::HasCheckIndicator;
-    const QRect box =
-        m_view->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, m_view);
-    QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {}, box.center());
-    QCOMPARE(value("geoid"), QStringLiteral("1"));
-    QTest::keyClick(m_view, Qt::Key_Space);
-    QCOMPARE(value("geoid"), QStringLiteral("0"));
-}
-
-void PropertyGridCtrlTest::asksForAFile()
-{
-    const QString picked = QStringLiteral("/data/大地水准面/egm 2008.gtx");
-    QString filter;
-    const FileDialog::Responder responder([&](const FileDialog::Request& request) {
-        QApplication::focusWidget()->clearFocus(); // as a dialog in front of the editor does
-        filter = request.filter;
-        return QString(picked);
-    });
-    click(cell(1, 2));
-    auto* const browse = m_view->indexWidget(cell(1, 2))->findChild<QToolButton*>();
-    QVERIFY(browse != nullptr);
-    QTest::mouseClick(browse, Qt::LeftButton);
-    QCOMPARE(filter, QStringLiteral("grid(*.gtx)"));
-    QCOMPARE(value("file"), picked);
-}
-
-void PropertyGridCtrlTest::handsOutWhatStandsInAnOpenEditor()
-{
-    typeInto(cell(0, 0), QStringLiteral("3"));
-    QCOMPARE(value("hor"), QStringLiteral("3"));
-    QTest::keyClicks(m_view->indexWidget(cell(0, 0)), QStringLiteral("x"));
-    QVERIFY(m_grid->hasFaults());
-}
-
-void PropertyGridCtrlTest::hidesRowsAndGroups()
-{
-    enterInto(cell(0, 0), QStringLiteral("bad"));
-    m_grid->setRowVisible(QStringLiteral("hor"), false);
-    QVERIFY(!m_grid->hasFaults());
-    QVERIFY(!m_view->isRowHidden(0, {}));
-    m_grid->setRowVisible(QStringLiteral("note"), false);
-    QVERIFY(m_view->isRowHidden(0, {}));
-    m_grid->setRowVisible(QStringLiteral("note"), true);
-    QVERIFY(!m_view->isRowHidden(0, {}) && m_view->isRowHidden(0, cell(0, 0).parent()));
-}
-
-void PropertyGridCtrlTest::staysAsItWasWhenTheFileIsBad_data()
-{
-    QTest::addColumn<QByteArray>("content"); ///< null: there is no such file
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("missing") << QByteArray() << QStringLiteral("bad.xml\": ");
-    QTest::newRow("malformed") << QByteArray("<property_grid>\n<group")
-                               << QStringLiteral("bad.xml\": line 2: ");
-}
-
-void PropertyGridCtrlTest::staysAsItWasWhenTheFileIsBad()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(QString, reason);
-    const QString path = m_folder.filePath(QStringLiteral("bad.xml"));
-    QFile file(path);
-    if (!content.isNull())
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) > 0 && file.flush());
-    std::string log;
-    basalt::setLogListener(
-        [](void* context, ILogger::Level, std::string_view line) {
-            *static_cast<std::string*>(context) += line;
-        },
-        &log);
-    enterInto(cell(0, 0), QStringLiteral("4"));
-
-    const bool isRead = m_grid->init(path, basalt::Dictionary());
-
-    basalt::setLogListener(nullptr, nullptr);
-    QVERIFY(!isRead);
-    QVERIFY2(QString::fromStdString(log).contains(reason), log.c_str());
-    QCOMPARE(m_view->model()->rowCount(), 2);
-    QCOMPARE(value("hor"), QStringLiteral("4"));
-}
-
-void PropertyGridCtrlTest::keepsClosedGroupsWhenTheSameFileComesAgain()
-{
-    const QModelIndex group = m_view->model()->index(0, 0);
-    click(group);
-    QVERIFY(!m_view->isExpanded(group));
-    basalt::Dictionary other;
-    other.set("hor", "8");
-    QVERIFY(m_grid->init(m_path, other));
-    QVERIFY(!m_view->isExpanded(group));
-    QCOMPARE(cell(0, 0).data().toString(), QStringLiteral("8 m"));
-    QCOMPARE(m_grid->getData().size(), std::size_t(1));
-}
 
 QTEST_MAIN(PropertyGridCtrlTest)
 #include "PropertyGridCtrlTest.moc"

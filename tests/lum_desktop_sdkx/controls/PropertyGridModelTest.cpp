@@ -1,5 +1,8 @@
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 
+#include "basalt_utilities/KeyList.h"
+#include "tests/support/Literals.h"
+
 #include <QAbstractItemModelTester>
 #include <QtTest>
 
@@ -24,6 +27,26 @@ PropertyGridLayout layout(const QByteArray& xml = kGrid)
     return result;
 }
 
+/// A model of a grid with the values of a key list.
+struct Model : PropertyGridModel
+{
+    explicit Model(const char* list = "", const QByteArray& xml = kGrid)
+    {
+        basalt::Dictionary values;
+        csa_to_dictionary(values, list);
+        setLayout(layout(xml));
+        setValues(values);
+    }
+    [[nodiscard]] QModelIndex cell(const char* key) const
+    {
+        return indexOfKey(QString::fromUtf8(key));
+    }
+    bool type(const char* key, const char* text)
+    {
+        return setData(cell(key), QString::fromUtf8(text), Qt::EditRole);
+    }
+};
+
 } // namespace
 
 class PropertyGridModelTest : public QObject
@@ -31,158 +54,117 @@ class PropertyGridModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keepsTheRulesOfAModel();
-    void keepsEveryByteThatCameIn();
-    void marksStoredFaultsThatTheUserCanMend();
-    void aMarkGivesWayToWhatIsTyped();
-    void showsAnExponentAsItIsTyped();
-    void showsADefaultWithoutStoringIt();
-    void tellsEditsButNotProgrammaticChanges();
-};
-
-void PropertyGridModelTest::keepsTheRulesOfAModel()
-{
-    PropertyGridModel model;
-    const QAbstractItemModelTester tester(&model,
-                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
-    model.setLayout(layout());
-    basalt::Dictionary values;
-    values.set("dist", "5");
-    model.setValues(values);
-    QVERIFY(model.setData(model.indexOfKey(QStringLiteral("dist")), QStringLiteral("bad"),
-                          Qt::EditRole));
-    model.setLayout(layout("<property_grid><group caption='G'/></property_grid>"));
-    QCOMPARE(model.rowCount(), 1);
-    QVERIFY(!model.indexOfKey(QStringLiteral("dist")).isValid());
-}
-
-void PropertyGridModelTest::keepsEveryByteThatCameIn()
-{
-    basalt::Dictionary values;
-    values.set("dist", "5.0000000000000001"); // more decimals than may be typed
-    values.set("path", std::string_view("a\xff\0b", 4));
-    values.set("no row", "\xe7\x82");
-    values.set("count", "007");
-
-    PropertyGridModel model;
-    model.setLayout(layout());
-    model.setValues(values);
-    QVERIFY(!model.hasFaults());
-    const QModelIndex count = model.indexOfKey(QStringLiteral("count"));
-    QVERIFY(!model.setData(count, count.data(Qt::EditRole), Qt::EditRole));
-    QVERIFY(model.setData(model.indexOfKey(QStringLiteral("on")), Qt::Checked, Qt::CheckStateRole));
-
-    const basalt::Dictionary& after = model.values();
-    QCOMPARE(after.size(), values.size() + 1);
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        QVERIFY(after.keyAt(i) == values.keyAt(i));
-        QVERIFY(after.valueAt(i) == values.valueAt(i));
+    void keepsTheRulesOfAModel()
+    {
+        PropertyGridModel model;
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.setLayout(layout());
+        basalt::Dictionary values;
+        values.set("dist", "5");
+        model.setValues(values);
+        QVERIFY(model.setData(model.indexOfKey("dist"_q), "bad"_q, Qt::EditRole));
+        model.setLayout(layout("<property_grid><group caption='G'/></property_grid>"));
+        QCOMPARE(model.rowCount(), 1);
+        QVERIFY(!model.indexOfKey("dist"_q).isValid());
     }
-    QVERIFY(after.text("on") == "1");
-}
 
-void PropertyGridModelTest::marksStoredFaultsThatTheUserCanMend()
-{
-    basalt::Dictionary values;
-    values.set("dist", "-2.5");
-    values.set("path", "-1"); // below its limit, but read-only
-    values.set("count", "");  // never filled in
-    PropertyGridModel model;
-    model.setLayout(layout());
-    model.setValues(values);
+    void keepsEveryByteThatCameIn()
+    {
+        basalt::Dictionary values;
+        values.set("dist", "5.0000000000000001"); // more decimals than may be typed
+        values.set("path", std::string_view("a\xff\0b", 4));
+        values.set("no row", "\xe7\x82");
+        values.set("count", "007");
 
-    const QModelIndex dist = model.indexOfKey(QStringLiteral("dist"));
-    QCOMPARE(model.fault(dist), QStringLiteral("Enter a number from 0 m to 10 m."));
-    QVERIFY(model.fault(model.indexOfKey(QStringLiteral("path"))).isEmpty());
-    QVERIFY(model.fault(model.indexOfKey(QStringLiteral("count"))).isEmpty());
-    QVERIFY(model.values().text("dist") == "-2.5");
+        PropertyGridModel model;
+        model.setLayout(layout());
+        model.setValues(values);
+        QVERIFY(!model.hasFaults());
+        const QModelIndex count = model.indexOfKey("count"_q);
+        QVERIFY(!model.setData(count, count.data(Qt::EditRole), Qt::EditRole));
+        QVERIFY(model.setData(model.indexOfKey("on"_q), Qt::Checked, Qt::CheckStateRole));
 
-    model.setValue(QStringLiteral("dist"), QStringLiteral("2.5"));
-    QVERIFY(!model.hasFaults());
-}
+        const basalt::Dictionary& after = model.values();
+        QCOMPARE(after.size(), values.size() + 1);
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            QVERIFY(after.keyAt(i) == values.keyAt(i));
+            QVERIFY(after.valueAt(i) == values.valueAt(i));
+        }
+        QVERIFY(after.text("on") == "1");
+    }
 
-void PropertyGridModelTest::aMarkGivesWayToWhatIsTyped()
-{
-    PropertyGridModel model;
-    model.setLayout(layout());
-    model.setValues(basalt::Dictionary());
-    const QString distKey = QStringLiteral("dist");
-    const QString countKey = QStringLiteral("count");
-    const QString reason = QStringLiteral("Too far for so few.");
-    const QModelIndex dist = model.indexOfKey(distKey);
-    const QModelIndex count = model.indexOfKey(countKey);
+    void marksStoredFaultsThatTheUserCanMend()
+    {
+        // "path" is below its limit, but read-only; "count" was never filled in
+        Model model("dist=-2.5,path=-1,count=");
+        QCOMPARE(model.fault(model.cell("dist")), "Enter a number from 0 m to 10 m."_q);
+        QVERIFY(model.fault(model.cell("path")).isEmpty());
+        QVERIFY(model.fault(model.cell("count")).isEmpty());
+        QVERIFY(model.values().text("dist") == "-2.5");
+        model.setValue("dist"_q, "2.5"_q);
+        QVERIFY(!model.hasFaults());
+    }
 
-    QVERIFY(model.setData(count, QStringLiteral("1"), Qt::EditRole));
-    model.mark(countKey, reason);
-    QCOMPARE(model.firstFault(), count);
-    QCOMPARE(count.data(Qt::ToolTipRole).toString(), reason);
-    model.mark(distKey, reason);
-    QVERIFY(model.fault(count).isEmpty());
-    QCOMPARE(dist.data().toString(), QStringLiteral("3 m")); // the value stays as it is shown
+    void aMarkGivesWayToWhatIsTyped()
+    {
+        Model model;
+        const QString reason = "Too far for so few."_q;
+        const QModelIndex dist = model.cell("dist");
+        const QModelIndex count = model.cell("count");
+        QVERIFY(model.type("count", "1"));
+        model.mark("count"_q, reason);
+        QCOMPARE(model.firstFault(), count);
+        QCOMPARE(count.data(Qt::ToolTipRole).toString(), reason);
+        model.mark("dist"_q, reason);
+        QVERIFY(model.fault(count).isEmpty());
+        QCOMPARE(dist.data().toString(), "3 m"_q); // the value stays as it is shown
 
-    QVERIFY(model.setData(dist, QStringLiteral("11"), Qt::EditRole));
-    model.mark(distKey, reason);
-    QCOMPARE(model.fault(dist), QStringLiteral("Enter a number from 0 m to 10 m."));
-    model.mark({}, {});
-    QVERIFY(model.hasFaults()); // what was typed is still there
+        QVERIFY(model.type("dist", "11"));
+        model.mark("dist"_q, reason);
+        QCOMPARE(model.fault(dist), "Enter a number from 0 m to 10 m."_q);
+        model.mark({}, {});
+        QVERIFY(model.hasFaults()); // what was typed is still there
 
-    QVERIFY(model.setData(dist, QStringLiteral("4"), Qt::EditRole));
-    model.mark(distKey, reason);
-    QVERIFY(model.setData(dist, QStringLiteral("5"), Qt::EditRole));
-    QVERIFY(!model.hasFaults() && !model.firstFault().isValid());
-}
+        QVERIFY(model.type("dist", "4"));
+        model.mark("dist"_q, reason);
+        QVERIFY(model.type("dist", "5"));
+        QVERIFY(!model.hasFaults() && !model.firstFault().isValid());
+    }
 
-void PropertyGridModelTest::showsAnExponentAsItIsTyped()
-{
-    basalt::Dictionary values;
-    PropertyGridModel model;
-    model.setLayout(layout("<property_grid><group caption='G'>"
-                           "<row key='east' caption='East' editor='number' unit='m'/>"
-                           "<row key='a3' caption='a3' editor='number'/>"
-                           "<row key='note' caption='Note'/></group></property_grid>"));
-    values.set("east", "-2.5e+06");
-    values.set("a3", "1.5e-09");
-    values.set("note", "2e6");
-    model.setValues(values);
-    const QModelIndex east = model.indexOfKey(QStringLiteral("east"));
-    QCOMPARE(east.data().toString(), QStringLiteral("-2500000 m"));
-    QVERIFY(!model.setData(east, east.data(Qt::EditRole), Qt::EditRole));
-    QVERIFY(model.values().text("east") == "-2.5e+06");
-    model.setUnit(QStringLiteral("east"), QStringLiteral("ft"));
-    QCOMPARE(east.data().toString(), QStringLiteral("-2500000 ft"));
-    QCOMPARE(model.indexOfKey(QStringLiteral("a3")).data().toString(), QStringLiteral("1.5e-09"));
-    QCOMPARE(model.indexOfKey(QStringLiteral("note")).data().toString(), QStringLiteral("2e6"));
-}
+    void showsAnExponentAsItIsTyped()
+    {
+        Model model("east=-2.5e+06,a3=1.5e-09,note=2e6",
+                    "<property_grid><group caption='G'>"
+                    "<row key='east' caption='East' editor='number' unit='m'/>"
+                    "<row key='a3' caption='a3' editor='number'/>"
+                    "<row key='note' caption='Note'/></group></property_grid>");
+        const QModelIndex east = model.cell("east");
+        QCOMPARE(east.data().toString(), "-2500000 m"_q);
+        QVERIFY(!model.setData(east, east.data(Qt::EditRole), Qt::EditRole));
+        QVERIFY(model.values().text("east") == "-2.5e+06");
+        model.setUnit("east"_q, "ft"_q);
+        QCOMPARE(east.data().toString(), "-2500000 ft"_q);
+        QCOMPARE(model.cell("a3").data().toString(), "1.5e-09"_q);
+        QCOMPARE(model.cell("note").data().toString(), "2e6"_q);
+    }
 
-void PropertyGridModelTest::showsADefaultWithoutStoringIt()
-{
-    PropertyGridModel model;
-    model.setLayout(layout());
-    model.setValues(basalt::Dictionary());
-    const QModelIndex dist = model.indexOfKey(QStringLiteral("dist"));
-    QCOMPARE(dist.data().toString(), QStringLiteral("3 m"));
-    QVERIFY(!model.values().contains("dist"));
-}
-
-void PropertyGridModelTest::tellsEditsButNotProgrammaticChanges()
-{
-    PropertyGridModel model;
-    model.setLayout(layout());
-    model.setValues(basalt::Dictionary());
-    const QSignalSpy edited(&model, &PropertyGridModel::valueEdited);
-    const QModelIndex dist = model.indexOfKey(QStringLiteral("dist"));
-
-    model.setValue(QStringLiteral("dist"), QStringLiteral("4"));
-    QVERIFY(model.setData(dist, QStringLiteral("11"), Qt::EditRole));
-    QVERIFY(model.setData(dist, QStringLiteral("4"), Qt::EditRole)); // back to the good value
-    QCOMPARE(edited.count(), 0);
-    QVERIFY(!model.hasFaults());
-
-    QVERIFY(model.setData(dist, QStringLiteral("5"), Qt::EditRole));
-    QCOMPARE(edited.count(), 1);
-    const QModelIndex path = model.indexOfKey(QStringLiteral("path"));
-    QVERIFY(!model.setData(path, QStringLiteral("5"), Qt::EditRole));
-}
+    void tellsEditsButNotProgrammaticChanges()
+    {
+        Model model;
+        QCOMPARE(model.cell("dist").data().toString(), "3 m"_q); // the default
+        QVERIFY(!model.values().contains("dist"));
+        const QSignalSpy edited(&model, &PropertyGridModel::valueEdited);
+        model.setValue("dist"_q, "4"_q);
+        QVERIFY(model.type("dist", "11"));
+        QVERIFY(model.type("dist", "4")); // back to the good value
+        QCOMPARE(edited.count(), 0);
+        QVERIFY(!model.hasFaults());
+        QVERIFY(model.type("dist", "5"));
+        QCOMPARE(edited.count(), 1);
+        QVERIFY(!model.type("path", "5"));
+    }
+};
 
 QTEST_GUILESS_MAIN(PropertyGridModelTest)
 #include "PropertyGridModelTest.moc"

@@ -3,6 +3,7 @@
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/Text.h"
+#include "tests/support/Literals.h"
 
 #include <gtest/gtest.h>
 
@@ -101,10 +102,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CoordSystemRows, PlaneUnitIsToldByTheFactor)
 {
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=0.9996")), QStringLiteral("m"));
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("")), QStringLiteral("m"));
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=3.280833333")), QStringLiteral("ft"));
+    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=0.9996")), "m"_q);
+    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("")), "m"_q);
+    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=3.280833333")), "ft"_q);
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=4.97")), QString()); // links
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("project_type=2,factor=3.2808")),
-              QStringLiteral("m")); // UTM has a factor of its own
+              "m"_q); // UTM has a factor of its own
 }

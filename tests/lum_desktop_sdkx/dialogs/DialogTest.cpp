@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/dialogs/DlgAbout.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "tests/support/Literals.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -26,50 +27,46 @@ class DialogTest : public QObject
 private Q_SLOTS:
     void cleanup() { lum::setDpiScale(1); }
 
-    void remembersItsSizeUnderItsKey();
-    void aboutBoxShowsAllOfItsText();
-};
-
-void DialogTest::remembersItsSizeUnderItsKey()
-{
-    lum::setDpiScale(1.5);
-    const QString key = QStringLiteral("results");
+    void remembersItsSizeUnderItsKey()
     {
-        SizedDialog dialog(key);
-        QCOMPARE(dialog.minimumSize(), QSize(300, 150));
+        lum::setDpiScale(1.5);
+        const QString key = "results"_q;
+        {
+            SizedDialog dialog(key);
+            QCOMPARE(dialog.minimumSize(), QSize(300, 150));
+            dialog.show();
+            dialog.resize(654, 321);
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        }
+        QCOMPARE(SizedDialog(key).size(), QSize(654, 321));
+        QVERIFY(SizedDialog("other"_q).size() != QSize(654, 321));
+    }
+
+    void aboutBoxShowsAllOfItsText()
+    {
+        get_system_config_parameter().dictionary().set("name", "Skyquill");
+        get_system_config_parameter().dictionary().set("version", "12.34.5678");
+        DlgAbout dialog(nullptr, "what it is for"_q,
+                        {"SQLite 3.40.1"_q, "PROJ 9.1.1"_q, "GDAL 3.6.2"_q, "spdlog 1.10.0"_q});
         dialog.show();
-        dialog.resize(654, 321);
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QCOMPARE(dialog.size(), QSize(480, 250));
+        QVERIFY(dialog.isModal());
+
+        QString text;
+        for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
+            text += label->text() + QLatin1Char('\n');
+            QVERIFY(label->height() >= label->heightForWidth(label->width()));
+            QVERIFY(dialog.rect().contains(label->geometry()));
+        }
+        for (const char* const part :
+             {"Skyquill", "12.34.5678", "what it is for", qVersion(), "spdlog"})
+            QVERIFY2(text.contains(QLatin1String(part)), part);
+
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible());
     }
-    QCOMPARE(SizedDialog(key).size(), QSize(654, 321));
-    QVERIFY(SizedDialog(QStringLiteral("other")).size() != QSize(654, 321));
-}
-
-void DialogTest::aboutBoxShowsAllOfItsText()
-{
-    get_system_config_parameter().dictionary().set("name", "Skyquill");
-    get_system_config_parameter().dictionary().set("version", "12.34.5678");
-    DlgAbout dialog(nullptr, QStringLiteral("what it is for"),
-                    {QStringLiteral("SQLite 3.40.1"), QStringLiteral("PROJ 9.1.1"),
-                     QStringLiteral("GDAL 3.6.2"), QStringLiteral("spdlog 1.10.0")});
-    dialog.show();
-    QCOMPARE(dialog.size(), QSize(480, 250));
-    QVERIFY(dialog.isModal());
-
-    QString text;
-    for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
-        text += label->text() + QLatin1Char('\n');
-        QVERIFY(label->height() >= label->heightForWidth(label->width()));
-        QVERIFY(dialog.rect().contains(label->geometry()));
-    }
-    for (const char* const part :
-         {"Skyquill", "12.34.5678", "what it is for", qVersion(), "spdlog"})
-        QVERIFY2(text.contains(QLatin1String(part)), part);
-
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QVERIFY(!dialog.isVisible());
-}
+};
 
 QTEST_MAIN(DialogTest)
 #include "DialogTest.moc"

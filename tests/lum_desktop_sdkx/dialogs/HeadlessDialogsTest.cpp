@@ -1,6 +1,7 @@
-#include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "tests/support/Literals.h"
+#include "tests/support/LogCapture.h"
 
 #include <QCoreApplication>
 
@@ -13,19 +14,8 @@ using Button = LumMessageBox::Button;
 /// A process with an event loop and no windows, as the command-line tool is.
 class HeadlessDialogs : public testing::Test
 {
-public:
-    HeadlessDialogs()
-    {
-        basalt::setLogListener(
-            [](void* context, ILogger::Level, std::string_view line) {
-                *static_cast<std::string*>(context) += line;
-            },
-            &m_log);
-    }
-    ~HeadlessDialogs() override { basalt::setLogListener(nullptr, nullptr); }
-
 protected:
-    std::string m_log;
+    const LogCapture m_log;
 
 private:
     int m_count = 1;
@@ -38,22 +28,22 @@ private:
 
 TEST_F(HeadlessDialogs, GiveTheSafeAnswerAndLogTheQuestion)
 {
-    const QString title = QStringLiteral("Warning");
-    const QString text = QStringLiteral("Overload?");
+    const QString title = "Warning"_q;
+    const QString text = "Overload?"_q;
     const LumMessageBox::Buttons all =
         LumMessageBox::Buttons(Button::Yes) | Button::No | Button::Cancel;
 
     EXPECT_EQ(LumMessageBox::question(nullptr, title, text), Button::No);
-    EXPECT_NE(m_log.find("Warning: Overload?"), std::string::npos) << m_log;
+    EXPECT_TRUE(m_log.holds("Warning: Overload?")) << m_log.text();
     EXPECT_EQ(LumMessageBox::question(nullptr, title, text, all), Button::Cancel);
     EXPECT_EQ(LumMessageBox::warning(nullptr, title, text), Button::Ok);
 }
 
 TEST_F(HeadlessDialogs, PickNoFile)
 {
-    const QString title = QStringLiteral("Open Project");
+    const QString title = "Open Project"_q;
     EXPECT_TRUE(FileDialog::getOpenFileName(nullptr, title).isEmpty());
     EXPECT_TRUE(FileDialog::getSaveFileName(nullptr, title).isEmpty());
     EXPECT_TRUE(FileDialog::getExistingDirectory(nullptr, title).isEmpty());
-    EXPECT_NE(m_log.find("Open Project"), std::string::npos) << m_log;
+    EXPECT_TRUE(m_log.holds("Open Project")) << m_log.text();
 }

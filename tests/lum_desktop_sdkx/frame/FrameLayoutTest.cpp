@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
+#include "tests/support/Literals.h"
 
 #include <QFile>
 #include <QSet>
@@ -11,21 +12,34 @@
 
 namespace {
 
-constexpr const char* kTool = "/etc/Tarvona/config/Skyquill/Tool/DataProcess5/";
-
 QByteArray contentOf(const QString& path)
 {
     QFile file(QStringLiteral(SOURCE_FOLDER) + path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void collectTexts(const FrameLayout::Menu& menu, QSet<QString>& texts)
+FrameLayout layoutOf(const QByteArray& xml)
 {
-    texts << menu.caption;
-    for (const FrameLayout::MenuItem& item : menu.items) {
-        texts << item.command.caption << item.command.tip;
-        for (const FrameLayout::Menu& submenu : item.submenu)
-            collectTexts(submenu, texts);
+    FrameLayout layout;
+    EXPECT_EQ(desktop::readFrameLayout(xml, layout).toStdString(), "");
+    return layout;
+}
+
+FrameLayout installedLayout()
+{
+    return layoutOf(contentOf("/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml"_q));
+}
+
+/// The captions of menus, and all commands in them.
+void collect(const std::vector<FrameLayout::Menu>& menus, QSet<QString>& texts,
+             std::vector<FrameLayout::Command>& commands)
+{
+    for (const FrameLayout::Menu& menu : menus) {
+        texts << menu.caption;
+        for (const FrameLayout::MenuItem& item : menu.items) {
+            commands.push_back(item.command);
+            collect(item.submenu, texts, commands);
+        }
     }
 }
 
@@ -53,56 +67,35 @@ QSet<QString> translatedTexts(const QByteArray& ts)
 
 TEST(InstalledLayout, IsReadWholeAndTranslatedToChinese)
 {
-    FrameLayout layout;
-    const QString fault = desktop::readFrameLayout(
-        contentOf(QString::fromUtf8(kTool) + QStringLiteral("main_frame.xml")), layout);
-    ASSERT_EQ(fault.toStdString(), "");
+    const FrameLayout layout = installedLayout();
     EXPECT_EQ(layout.menus.size(), 8U);
-
     QSet<QString> texts;
-    for (const FrameLayout::Menu& menu : layout.menus)
-        collectTexts(menu, texts);
-    for (const FrameLayout::ToolBar& bar : layout.toolBars)
+    std::vector<FrameLayout::Command> commands;
+    collect(layout.menus, texts, commands);
+    QSet<QString> names;
+    for (const FrameLayout::Command& command : commands) {
+        texts << command.caption << command.tip;
+        EXPECT_TRUE(command.name.isEmpty() || !names.contains(command.name))
+            << "twice: " << command.name.toStdString();
+        names << command.name;
+    }
+    for (const FrameLayout::ToolBar& bar : layout.toolBars) {
         texts << bar.caption;
+        for (const QString& name : bar.commands)
+            EXPECT_TRUE(names.contains(name)) << "in no menu: " << name.toStdString();
+    }
     for (const FrameLayout::Window& window : layout.windows)
         texts << window.caption;
     texts.remove(QString());
-    texts -= translatedTexts(contentOf(QStringLiteral("/translations/frame_zh_CN.ts")));
+    texts -= translatedTexts(contentOf("/translations/frame_zh_CN.ts"_q));
     EXPECT_EQ(QStringList(texts.values()).join(QLatin1Char(';')).toStdString(), "");
-}
-
-TEST(InstalledLayout, EveryToolBarButtonIsACommandOfTheMenus)
-{
-    FrameLayout layout;
-    ASSERT_TRUE(desktop::readFrameLayout(
-                    contentOf(QString::fromUtf8(kTool) + QStringLiteral("main_frame.xml")), layout)
-                    .isEmpty());
-    QSet<QString> names;
-    const auto collect = [&](const auto& self, const FrameLayout::Menu& menu) -> void {
-        for (const FrameLayout::MenuItem& item : menu.items) {
-            EXPECT_TRUE(item.command.name.isEmpty() || !names.contains(item.command.name))
-                << "twice: " << item.command.name.toStdString();
-            names << item.command.name;
-            for (const FrameLayout::Menu& submenu : item.submenu)
-                self(self, submenu);
-        }
-    };
-    for (const FrameLayout::Menu& menu : layout.menus)
-        collect(collect, menu);
-    for (const FrameLayout::ToolBar& bar : layout.toolBars) {
-        for (const QString& name : bar.commands)
-            EXPECT_TRUE(names.contains(name)) << name.toStdString();
-    }
 }
 
 TEST(FrameLayoutXml, AttributesReachTheComponentWhole)
 {
-    FrameLayout layout;
-    ASSERT_TRUE(desktop::readFrameLayout(R"(<main_frame xmlns:x="other"><menu caption="M">
+    const FrameLayout layout = layoutOf(R"(<main_frame xmlns:x="other"><menu caption="M">
         <command class="C" name="N, with comma" reactor="R" tip="say &quot;hi&quot;" x:name="X"/>
-        </menu></main_frame>)",
-                                         layout)
-                    .isEmpty());
+        </menu></main_frame>)");
     const FrameLayout::Command& command = layout.menus.at(0).items.at(0).command;
     basalt::Dictionary config;
     EXPECT_TRUE(csa_to_dictionary(config, command.config.constData()));

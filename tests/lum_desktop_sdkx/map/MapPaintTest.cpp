@@ -1,14 +1,16 @@
-#include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
+#include "lum_desktop_sdkx/Registration.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/LineClip.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/support/Literals.h"
+#include "tests/support/LogCapture.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -19,8 +21,10 @@
 
 namespace {
 
-/// Fills ten by ten pixels at the map position ("x", "y") with its "color", after having done what
-/// the test wants.
+const QColor kPaper(10, 20, 30);
+
+/// A layer that runs the test's function, and then fills ten by ten pixels at the map position
+/// ("x", "y") with its "color".
 class ProbeLayer final : public ILayerViewer
 {
 public:
@@ -41,6 +45,8 @@ public:
     {
         if (GetName() == "Faulty")
             throw std::runtime_error("no data");
+        if (GetName() == "Odd")
+            throw 42;
         if (onPaint)
             onPaint(target);
         const QPointF place =
@@ -58,13 +64,11 @@ private:
     basalt::Dictionary m_properties;
 };
 
-void appendLine(void* lines, ILogger::Level /*level*/, std::string_view line)
-{
-    static_cast<std::string*>(lines)->append(line).append("\n");
-}
+std::atomic<int> started = 0;   ///< slow paints
+std::atomic<int> overtaken = 0; ///< slow paints that were cancelled
 
-/// Waits until the paint has been given up, and says so.
-void paintSlowly(const PaintTarget& target, std::atomic<int>& started, std::atomic<int>& overtaken)
+/// Waits until the paint is cancelled.
+void paintSlowly(const PaintTarget& target)
 {
     ++started;
     QElapsedTimer clock;
@@ -81,372 +85,331 @@ class MapPaintTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        registerMapComponents();
+        QVERIFY(desktop::registration::layer<ProbeLayer>("ProbeLayer", ""));
+    }
 
-    void layersArePaintedAtTheirPlaceBottomToTop();
-    void lastPictureMovesWithTheViewAtOnce();
-    void faultyLayerIsLoggedAndTheRestPainted();
-    void takenNamesAndUnknownClassesAreRefused();
-    void slowPaintIsOvertaken();
-    void longDragStillGetsPictures();
-    void endDuringASlowPaintWaitsForIt();
-    void zoomAllShowsTheVisibleLayers();
-    void fineScreensGetFinePictures();
+    /// An empty map of 400 x 300 pixels that shows as many metres, from (0, 0) in its lower left.
+    void init()
+    {
+        get_system_status_dictionary().clear();
+        started = overtaken = 0;
+        m_map = std::make_unique<MapWindow>("", &m_host);
+        QPalette palette;
+        palette.setColor(QPalette::Base, kPaper);
+        m_map->setPalette(palette);
+        m_map->resize(400, 300);
+        m_map->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_map.get()));
+        m_map->repaint();
+        m_map->zoomRect(0, 0, 400, 300);
+        QCOMPARE(settledPicture().pixelColor(200, 150), kPaper);
+    }
 
-    void overlayShowsAfterRefreshOnly();
-    void overlayTakesAnyShape();
-    void boundaryFollowsItsStatus();
-    void boundaryIsDrawnAtItsPlaceAtAnyZoom();
-    void scaleBarHasARoundLength();
-    void scaleBarIsAsLongAsItSays();
-    void clipsLinesToAnArea_data(); // NOLINT(readability-identifier-naming): Qt Test looks for it
-    void clipsLinesToAnArea();
+    void cleanup()
+    {
+        m_map.reset();
+        ProbeLayer::onPaint = nullptr;
+    }
+
+    void layersArePaintedAtTheirPlaceBottomToTop()
+    {
+        addLayer("layer_name=below,x=100,y=50");
+        addLayer("layer_name=above,x=107,y=50,color=red");
+        addLayer("layer_name=hidden,x=300,y=50,visible=0");
+        const QImage picture = settledPicture();
+        QCOMPARE(picture.pixelColor(97, 250), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(103, 250), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(100, 50), kPaper); // not in the north
+        QCOMPARE(picture.pixelColor(300, 250), kPaper);
+    }
+
+    void lastPictureMovesWithTheViewAtOnce()
+    {
+        addLayer("layer_name=a,x=100,y=50");
+        settledPicture();
+        ProbeLayer::onPaint = paintSlowly;
+
+        m_map->pan(0, 0, 200, -100);
+        QImage picture = shown();
+        QCOMPARE(picture.pixelColor(300, 150), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(294, 150), kPaper);
+        QCOMPARE(picture.pixelColor(305, 150), kPaper);
+        QCOMPARE(picture.pixelColor(399, 299), kPaper); // where the picture has moved away
+
+        m_map->zoomAbout(300, 150, 4);
+        picture = shown();
+        QCOMPARE(picture.pixelColor(282, 168), QColor(Qt::blue)); // four times as large
+        QCOMPARE(picture.pixelColor(278, 150), kPaper);
+        m_map.reset();
+    }
+
+    void faultyLayerIsLoggedAndTheRestPainted()
+    {
+        const LogCapture log;
+        addLayer("layer_name=Faulty");
+        addLayer("layer_name=Odd");
+        addLayer("layer_name=sound,x=100,y=50");
+        QCOMPARE(settledPicture().pixelColor(100, 250), QColor(Qt::blue));
+        QVERIFY(log.holds("\"Faulty\" could not be painted: no data"));
+        QVERIFY(log.holds("\"Odd\" could not be painted: unknown fault"));
+        m_map->pan(0, 0, 100, 0); // the worker is still running
+        QCOMPARE(settledPicture().pixelColor(200, 250), QColor(Qt::blue));
+    }
+
+    void takenNamesAndUnknownClassesAreRefused()
+    {
+        ILayerViewer* const first = addLayer("layer_name=a,x=1");
+        QVERIFY(first != nullptr);
+        QVERIFY(addLayer("layer_name=a,x=2") == nullptr);
+        QVERIFY(addLayer("layer_name=b", "NoSuchLayer") == nullptr);
+        QVERIFY(addLayer("layer_name=frame", "BoundaryLayer") != nullptr);
+        QCOMPARE(m_map->layers().count(), std::size_t(2));
+        QCOMPARE(m_map->layers().find("a"_q), first);
+        QCOMPARE(m_map->layers().at(1)->GetName(), std::string("frame"));
+        QVERIFY(m_map->layers().at(2) == nullptr);
+    }
+
+    void slowPaintIsOvertaken()
+    {
+        ProbeLayer::onPaint = [](const PaintTarget& target) {
+            if (target.transform.GetScale() == 1)
+                paintSlowly(target);
+        };
+        addLayer("layer_name=a,x=200,y=150");
+        QTRY_COMPARE(started.load(), 1);
+        QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
+        m_map->zoomAbout(200, 150, 2);
+        QTRY_COMPARE(overtaken.load(), 1);
+        QTRY_COMPARE(shown().pixelColor(200, 150), QColor(Qt::blue));
+        QCOMPARE(pictures.count(), 1); // the cancelled picture was not shown
+    }
+
+    void longDragStillGetsPictures()
+    {
+        addLayer("layer_name=a,x=200,y=150");
+        settledPicture();
+        std::atomic<int> finished = 0;
+        ProbeLayer::onPaint = [&](const PaintTarget& target) {
+            for (int i = 0; i < 100 && !target.isCancelled(); ++i)
+                QThread::msleep(1);
+            finished += target.isCancelled() ? 0 : 1;
+        };
+        QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
+        QElapsedTimer clock;
+        clock.start();
+        while (pictures.count() < 2 && clock.elapsed() < 20000) {
+            m_map->pan(0, 0, 1, 0); // the view moves faster than a paint takes
+            QTest::qWait(5);
+            m_map->pan(0, 0, -1, 0);
+        }
+        QVERIFY(pictures.count() >= 2);
+        QTRY_VERIFY(finished.load() >= 2);
+    }
+
+    void endDuringASlowPaintWaitsForIt()
+    {
+        ProbeLayer::onPaint = [](const PaintTarget& target) {
+            paintSlowly(target);
+            QThread::msleep(20);
+        };
+        addLayer("layer_name=a");
+        QTRY_COMPARE(started.load(), 1);
+        m_map.reset();
+        QCOMPARE(overtaken.load(), 1);
+    }
+
+    void zoomAllShowsTheVisibleLayers()
+    {
+        addLayer("layer_name=a,x=1000,y=2000");
+        addLayer("layer_name=b,x=3000,y=2500");
+        addLayer("layer_name=c,x=99999,y=2500,visible=0");
+        addLayer("layer_name=frame", "BoundaryLayer");
+        m_map->zoomAll();
+        QCOMPARE(m_map->transform().center(), QPointF(2000.5, 2250.5));
+        QCOMPARE(m_map->transform().GetScale(), 2001 / 360.0);
+    }
+
+    void fineScreensGetFinePictures()
+    {
+        ProbeLayer layer("x=10,y=20", &m_host);
+        MapPaintJob job;
+        job.layers = {&layer};
+        job.target.transform.setSize({100, 80});
+        job.target.transform.fit({0, 0, 100, 80}, 0);
+        job.pixelRatio = 2;
+        const QImage picture = paintPicture(job);
+        QCOMPARE(picture.size(), QSize(200, 160));
+        QCOMPARE(picture.pixelColor(29, 120), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(30, 120), QColor(Qt::white));
+    }
+
+    void overlayShowsAfterRefreshOnly()
+    {
+        basalt::Dictionary properties;
+        properties.set("point_radius", "6");
+        IOverlay& overlay = m_map->overlay(0);
+        overlay.setProperties(properties);
+        overlay.setColor(Qt::green);
+        overlay.setPoint({100, 50});
+        QCOMPARE(shown().pixelColor(100, 250), kPaper);
+        m_map->refreshOverlay();
+        QCOMPARE(shown().pixelColor(104, 250), QColor(Qt::green));
+        QCOMPARE(shown().pixelColor(107, 250), kPaper);
+
+        m_map->pan(0, 0, 50, 0); // points move with the map
+        QCOMPARE(shown().pixelColor(150, 250), QColor(Qt::green));
+        overlay.clear();
+        QCOMPARE(shown().pixelColor(150, 250), QColor(Qt::green));
+        m_map->refreshOverlay();
+        QCOMPARE(shown().pixelColor(150, 250), kPaper);
+    }
+
+    void overlayTakesAnyShape()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        IOverlay& overlay = m_map->overlay(0);
+        overlay.setColor(Qt::green);
+        overlay.setLineWidth(3);
+        overlay.setVertices({{{20, 280}, {nan, 0}, {40, 280}}});
+        overlay.setLine({{{-1e15, 200}, {1e15, 200}, {nan, nan}, {0, 0}}});
+        overlay.setRectangle(QRectF(QPointF(300, 250), QPointF(200, 150))); // to the upper left
+        m_map->refreshOverlay();
+        QImage picture = shown();
+        QCOMPARE(picture.pixelColor(40, 20), QColor(Qt::green));
+        QCOMPARE(picture.pixelColor(10, 100), QColor(Qt::green));
+        QCOMPARE(picture.pixelColor(200, 200), QColor(Qt::green));
+        QCOMPARE(picture.pixelColor(300, 200), QColor(Qt::green));
+        QVERIFY(picture.pixelColor(250, 200) != QColor(Qt::green));
+        QCOMPARE(picture.pixelColor(310, 200), kPaper);
+
+        overlay.setLineStyle(Qt::DashLine); // must not walk along dashes out of sight
+        m_map->zoomAbout(200, 100, 1e6);
+        overlay.setRectangle({nan, 0, 10, nan});
+        m_map->refreshOverlay();
+        picture = shown();
+        QCOMPARE(picture.pixelColor(399, 299), kPaper);
+    }
+
+    void boundaryFollowsItsStatus()
+    {
+        addLayer("layer_name=frame", "BoundaryLayer");
+        m_map->setExtent(50, 100, 150, 200);
+        m_map->zoomRect(0, 0, 400, 300);
+        const auto hasFrame = [](const QImage& picture) { // looks for a dash on the left edge
+            for (int y = 110; y < 190; ++y) {
+                if (picture.pixelColor(50, y) == QColor(213, 94, 0))
+                    return true;
+            }
+            return false;
+        };
+        QVERIFY(!hasFrame(settledPicture()));
+
+        get_system_status_dictionary().set(status::kDrawBoundaryRect, "1");
+        m_host.events.publish(events::kInitBoundaryRect, nullptr, 0);
+        QVERIFY(hasFrame(settledPicture()));
+        get_system_status_dictionary().set(status::kDrawBoundaryRect, "0");
+        m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
+        QVERIFY(!hasFrame(settledPicture()));
+    }
+
+    void boundaryIsDrawnAtItsPlaceAtAnyZoom()
+    {
+        BoundaryLayer layer("", &m_host);
+        MapPaintJob job;
+        job.layers = {&layer};
+        job.target.status.set(status::kDrawBoundaryRect, "1");
+        job.target.mapExtent = QRectF(0, 0, 1e12, 1e12);
+        job.target.transform.setSize({100, 80});
+        QImage blank(100, 80, QImage::Format_RGB32);
+        blank.fill(Qt::white);
+
+        job.target.transform.setView({20, 20}, 1); // the corner is at (30, 60)
+        const QImage corner = paintPicture(job);
+        QCOMPARE(corner.pixelColor(31, 60), QColor(213, 94, 0));
+        QCOMPARE(corner.pixelColor(25, 50), QColor(Qt::white));
+        job.target.transform.setView({1e12, 5e11}, Transform::kMinScale);
+        QVERIFY(paintPicture(job) != blank); // a part of an edge 1e18 pixels long
+        job.target.transform.setView({5e11, 5e11}, 1);
+        QCOMPARE(paintPicture(job), blank);
+        job.target.mapExtent = QRectF();
+        job.target.transform.setView({0, 0}, 1);
+        QCOMPARE(paintPicture(job), blank);
+    }
+
+    void scaleBarHasARoundLength()
+    {
+        const double limits[] = {1, 1.99, 4.9, 5, 999, 0.02, 0.0199, 123456};
+        const double lengths[] = {1, 1, 2, 5, 500, 0.02, 0.01, 100000};
+        for (int i = 0; i < 8; ++i)
+            QCOMPARE(roundLength(limits[i]), lengths[i]);
+        QCOMPARE(lengthText(500, LengthUnit::Metres), "500 m"_q);
+        QCOMPARE(lengthText(2000, LengthUnit::Metres), "2 km"_q);
+        QCOMPARE(lengthText(0.05, LengthUnit::Metres), "0.05 m"_q);
+        QCOMPARE(lengthText(2000, LengthUnit::Feet), "2000 ft"_q);
+        QCOMPARE(lengthText(2e7, LengthUnit::Metres), "20000 km"_q);
+        QCOMPARE(lengthText(1e8, LengthUnit::Feet), "100000000 ft"_q);
+        QCOMPARE(lengthText(5e-5, LengthUnit::Metres), "0.00005 m"_q);
+    }
+
+    void scaleBarIsAsLongAsItSays()
+    {
+        const auto blackPixels = [this] { // in a row through the bar, left of its text
+            const QImage picture = shown();
+            int count = 0;
+            for (int x = 0; x < 70; ++x)
+                count += picture.pixelColor(x, 276) == QColor(Qt::black) ? 1 : 0;
+            return count;
+        };
+        QCOMPARE(m_map->transform().GetScale(), 1.0);
+        QCOMPARE(blackPixels(), 51); // half of 100 m
+        get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "1");
+        m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
+        QCOMPARE(blackPixels(), 31);      // half of 200 ft
+        m_map->zoomAbout(200, 150, 1e-6); // a bar of 150,000 km is too long
+        QCOMPARE(blackPixels(), 0);
+        get_system_ini_parameter().dictionary().clear();
+    }
+
+    void clipsLinesToAnArea()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        const std::pair<QLineF, QLineF> cases[] = {
+            {{1, 2, 8, 9}, {1, 2, 8, 9}},        // inside
+            {{-10, -5, 30, 15}, {0, 0, 20, 10}}, // across
+            {{25, 5, 10, 5}, {20, 5, 10, 5}},    // backwards
+            {{-5, 10, 5, 10}, {0, 10, 5, 10}},   // along the edge
+            {{-4, 8, 2, 14}, {}},                // past a corner
+            {{-1, -1, -1, 20}, {}},              // beside
+            {{nan, 0, 5, 5}, {}},
+        };
+        for (const auto& [line, expected] : cases)
+            QCOMPARE(clippedLine(line, QRectF(0, 0, 20, 10)).value_or(QLineF()), expected);
+    }
 
 private:
-    ILayerViewer* addLayer(const char* properties, const char* className = "ProbeLayer");
-    /// What shows once everything has been painted.
-    QImage settledPicture();
+    ILayerViewer* addLayer(const char* properties, const char* className = "ProbeLayer")
+    {
+        basalt::Dictionary dictionary;
+        csa_to_dictionary(dictionary, properties);
+        return m_map->addLayer(QString::fromLatin1(className), dictionary);
+    }
+
+    /// What is shown when all paints are done.
+    QImage settledPicture()
+    {
+        if (!QTest::qWaitFor([this] { return m_map->isUpToDate(); }, 20000))
+            return {};
+        return shown();
+    }
+
     [[nodiscard]] QImage shown() { return m_map->grab().toImage(); }
 
     TestHost m_host;
     std::unique_ptr<MapWindow> m_map;
 };
-
-void MapPaintTest::initTestCase()
-{
-    registerMapComponents();
-    using Layer = desktop::Maker<ILayerViewer, ProbeLayer, IDesktopHost*>;
-    QVERIFY(
-        extensible_factory_register_ILayerViewer("ProbeLayer", "", Layer::create, Layer::destroy));
-}
-
-/// An empty map of 400 x 300 pixels that shows as many metres, from (0, 0) in its lower left.
-void MapPaintTest::init()
-{
-    get_system_status_dictionary().clear();
-    m_map = std::make_unique<MapWindow>("", &m_host);
-    QPalette palette;
-    palette.setColor(QPalette::Base, QColor(10, 20, 30));
-    m_map->setPalette(palette);
-    m_map->resize(400, 300);
-    m_map->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_map.get()));
-    m_map->repaint();
-    m_map->zoomRect(0, 0, 400, 300);
-    QCOMPARE(settledPicture().pixelColor(200, 150), QColor(10, 20, 30));
-}
-
-void MapPaintTest::cleanup()
-{
-    m_map.reset();
-    ProbeLayer::onPaint = nullptr;
-}
-
-ILayerViewer* MapPaintTest::addLayer(const char* properties, const char* className)
-{
-    basalt::Dictionary dictionary;
-    csa_to_dictionary(dictionary, properties);
-    return m_map->addLayer(QString::fromLatin1(className), dictionary);
-}
-
-QImage MapPaintTest::settledPicture()
-{
-    if (!QTest::qWaitFor([this] { return m_map->isUpToDate(); }, 20000))
-        return {};
-    return shown();
-}
-
-void MapPaintTest::layersArePaintedAtTheirPlaceBottomToTop()
-{
-    addLayer("layer_name=below,x=100,y=50");
-    addLayer("layer_name=above,x=107,y=50,color=red");
-    addLayer("layer_name=hidden,x=300,y=50,visible=0");
-    const QImage picture = settledPicture();
-    QCOMPARE(picture.pixelColor(97, 250), QColor(Qt::blue));
-    QCOMPARE(picture.pixelColor(103, 250), QColor(Qt::red));
-    QCOMPARE(picture.pixelColor(100, 50), QColor(10, 20, 30)); // south is below
-    QCOMPARE(picture.pixelColor(300, 250), QColor(10, 20, 30));
-}
-
-void MapPaintTest::lastPictureMovesWithTheViewAtOnce()
-{
-    addLayer("layer_name=a,x=100,y=50");
-    settledPicture();
-    std::atomic<int> started = 0;
-    std::atomic<int> overtaken = 0;
-    ProbeLayer::onPaint = [&](const PaintTarget& t) { paintSlowly(t, started, overtaken); };
-
-    m_map->pan(0, 0, 200, -100);
-    QImage picture = shown();
-    QCOMPARE(picture.pixelColor(300, 150), QColor(Qt::blue));
-    QCOMPARE(picture.pixelColor(294, 150), QColor(10, 20, 30));
-    QCOMPARE(picture.pixelColor(305, 150), QColor(10, 20, 30));
-    QCOMPARE(picture.pixelColor(399, 299), QColor(10, 20, 30)); // uncovered by the move
-
-    m_map->zoomAbout(300, 150, 4);
-    picture = shown();
-    QCOMPARE(picture.pixelColor(282, 168), QColor(Qt::blue)); // four times as large
-    QCOMPARE(picture.pixelColor(278, 150), QColor(10, 20, 30));
-    m_map.reset();
-}
-
-void MapPaintTest::faultyLayerIsLoggedAndTheRestPainted()
-{
-    std::string log;
-    basalt::setLogListener(appendLine, &log);
-    addLayer("layer_name=Faulty");
-    addLayer("layer_name=sound,x=100,y=50");
-    const QImage picture = settledPicture();
-    basalt::setLogListener(nullptr, nullptr);
-    QCOMPARE(picture.pixelColor(100, 250), QColor(Qt::blue));
-    QVERIFY(log.find("\"Faulty\" could not be painted: no data") != std::string::npos);
-}
-
-void MapPaintTest::takenNamesAndUnknownClassesAreRefused()
-{
-    ILayerViewer* const first = addLayer("layer_name=a,x=1");
-    QVERIFY(first != nullptr);
-    QVERIFY(addLayer("layer_name=a,x=2") == nullptr);
-    QVERIFY(addLayer("layer_name=b", "NoSuchLayer") == nullptr);
-    QVERIFY(addLayer("layer_name=frame", "BoundaryLayer") != nullptr);
-    QCOMPARE(m_map->layers().count(), std::size_t(2));
-    QCOMPARE(m_map->layers().find(QStringLiteral("a")), first);
-    QCOMPARE(m_map->layers().at(1)->GetName(), std::string("frame"));
-    QVERIFY(m_map->layers().at(2) == nullptr);
-}
-
-void MapPaintTest::slowPaintIsOvertaken()
-{
-    std::atomic<int> started = 0;
-    std::atomic<int> overtaken = 0;
-    ProbeLayer::onPaint = [&](const PaintTarget& target) {
-        if (target.transform.GetScale() == 1)
-            paintSlowly(target, started, overtaken);
-    };
-    addLayer("layer_name=a,x=200,y=150");
-    QTRY_COMPARE(started.load(), 1);
-    QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
-    m_map->zoomAbout(200, 150, 2);
-    QTRY_COMPARE(overtaken.load(), 1);
-    QTRY_COMPARE(shown().pixelColor(200, 150), QColor(Qt::blue));
-    QCOMPARE(pictures.count(), 1); // the overtaken one never came
-}
-
-void MapPaintTest::longDragStillGetsPictures()
-{
-    addLayer("layer_name=a,x=200,y=150");
-    settledPicture();
-    std::atomic<int> finished = 0;
-    ProbeLayer::onPaint = [&](const PaintTarget& target) {
-        for (int i = 0; i < 100 && !target.isCancelled(); ++i)
-            QThread::msleep(1);
-        finished += target.isCancelled() ? 0 : 1;
-    };
-    QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
-    QElapsedTimer clock;
-    clock.start();
-    while (pictures.count() < 2 && clock.elapsed() < 20000) {
-        m_map->pan(0, 0, 1, 0); // faster than any paint is
-        QTest::qWait(5);
-        m_map->pan(0, 0, -1, 0);
-    }
-    QVERIFY(pictures.count() >= 2);
-    QTRY_VERIFY(finished.load() >= 2);
-}
-
-void MapPaintTest::endDuringASlowPaintWaitsForIt()
-{
-    std::atomic<int> started = 0;
-    std::atomic<int> overtaken = 0;
-    ProbeLayer::onPaint = [&](const PaintTarget& target) {
-        paintSlowly(target, started, overtaken);
-        QThread::msleep(20);
-    };
-    addLayer("layer_name=a");
-    QTRY_COMPARE(started.load(), 1);
-    m_map.reset();
-    QCOMPARE(overtaken.load(), 1);
-}
-
-void MapPaintTest::zoomAllShowsTheVisibleLayers()
-{
-    addLayer("layer_name=a,x=1000,y=2000");
-    addLayer("layer_name=b,x=3000,y=2500");
-    addLayer("layer_name=c,x=99999,y=2500,visible=0");
-    addLayer("layer_name=frame", "BoundaryLayer");
-    m_map->zoomAll();
-    QCOMPARE(m_map->transform().center(), QPointF(2000.5, 2250.5));
-    QCOMPARE(m_map->transform().GetScale(), 2001 / 360.0);
-}
-
-void MapPaintTest::fineScreensGetFinePictures()
-{
-    ProbeLayer layer("x=10,y=20", &m_host);
-    MapPaintJob job;
-    job.layers = {&layer};
-    job.target.transform.setSize({100, 80});
-    job.target.transform.fit({0, 0, 100, 80}, 0);
-    job.pixelRatio = 2;
-    const QImage picture = paintPicture(job);
-    QCOMPARE(picture.size(), QSize(200, 160));
-    QCOMPARE(picture.pixelColor(29, 120), QColor(Qt::blue));
-    QCOMPARE(picture.pixelColor(30, 120), QColor(Qt::white));
-}
-
-void MapPaintTest::overlayShowsAfterRefreshOnly()
-{
-    basalt::Dictionary properties;
-    properties.set("point_radius", "6");
-    IOverlay& overlay = m_map->overlay(0);
-    overlay.setProperties(properties);
-    overlay.setColor(Qt::green);
-    overlay.setPoint({100, 50});
-    QCOMPARE(shown().pixelColor(100, 250), QColor(10, 20, 30));
-    m_map->refreshOverlay();
-    QCOMPARE(shown().pixelColor(104, 250), QColor(Qt::green));
-    QCOMPARE(shown().pixelColor(107, 250), QColor(10, 20, 30));
-
-    m_map->pan(0, 0, 50, 0); // points move with the map
-    QCOMPARE(shown().pixelColor(150, 250), QColor(Qt::green));
-    overlay.clear();
-    QCOMPARE(shown().pixelColor(150, 250), QColor(Qt::green));
-    m_map->refreshOverlay();
-    QCOMPARE(shown().pixelColor(150, 250), QColor(10, 20, 30));
-}
-
-void MapPaintTest::overlayTakesAnyShape()
-{
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    IOverlay& overlay = m_map->overlay(0);
-    overlay.setColor(Qt::green);
-    overlay.setLineWidth(3);
-    overlay.setVertices({{{20, 280}, {nan, 0}, {40, 280}}});
-    overlay.setLine({{{-1e15, 200}, {1e15, 200}, {nan, nan}, {0, 0}}});
-    overlay.setRectangle(QRectF(QPointF(300, 250), QPointF(200, 150))); // to the upper left
-    m_map->refreshOverlay();
-    QImage picture = shown();
-    QCOMPARE(picture.pixelColor(40, 20), QColor(Qt::green));
-    QCOMPARE(picture.pixelColor(10, 100), QColor(Qt::green));
-    QCOMPARE(picture.pixelColor(200, 200), QColor(Qt::green));
-    QCOMPARE(picture.pixelColor(300, 200), QColor(Qt::green));
-    QVERIFY(picture.pixelColor(250, 200) != QColor(Qt::green));
-    QCOMPARE(picture.pixelColor(310, 200), QColor(10, 20, 30));
-
-    overlay.setLineStyle(Qt::DashLine); // no dash is walked that is not seen
-    m_map->zoomAbout(200, 100, 1e6);
-    overlay.setRectangle({nan, 0, 10, nan});
-    m_map->refreshOverlay();
-    picture = shown();
-    QCOMPARE(picture.pixelColor(399, 299), QColor(10, 20, 30));
-}
-
-void MapPaintTest::boundaryFollowsItsStatus()
-{
-    addLayer("layer_name=frame", "BoundaryLayer");
-    m_map->setExtent(50, 100, 150, 200);
-    m_map->zoomRect(0, 0, 400, 300);
-    const auto hasFrame = [](const QImage& picture) { // dashed: some pixel of the left edge
-        for (int y = 110; y < 190; ++y) {
-            if (picture.pixelColor(50, y) == QColor(213, 94, 0))
-                return true;
-        }
-        return false;
-    };
-    QVERIFY(!hasFrame(settledPicture()));
-
-    get_system_status_dictionary().set(status::kDrawBoundaryRect, "1");
-    m_host.events.publish(events::kInitBoundaryRect, nullptr, 0);
-    QVERIFY(hasFrame(settledPicture()));
-    get_system_status_dictionary().set(status::kDrawBoundaryRect, "0");
-    m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
-    QVERIFY(!hasFrame(settledPicture()));
-}
-
-void MapPaintTest::boundaryIsDrawnAtItsPlaceAtAnyZoom()
-{
-    BoundaryLayer layer("", &m_host);
-    MapPaintJob job;
-    job.layers = {&layer};
-    job.target.status.set(status::kDrawBoundaryRect, "1");
-    job.target.mapExtent = QRectF(0, 0, 1e12, 1e12);
-    job.target.transform.setSize({100, 80});
-    QImage blank(100, 80, QImage::Format_RGB32);
-    blank.fill(Qt::white);
-
-    job.target.transform.setView({20, 20}, 1); // the corner is at (30, 60)
-    const QImage corner = paintPicture(job);
-    QCOMPARE(corner.pixelColor(31, 60), QColor(213, 94, 0));
-    QCOMPARE(corner.pixelColor(25, 50), QColor(Qt::white));
-    job.target.transform.setView({1e12, 5e11}, Transform::kMinScale);
-    QVERIFY(paintPicture(job) != blank); // an edge of 1e18 pixels runs through
-    job.target.transform.setView({5e11, 5e11}, 1);
-    QCOMPARE(paintPicture(job), blank);
-    job.target.mapExtent = QRectF();
-    job.target.transform.setView({0, 0}, 1);
-    QCOMPARE(paintPicture(job), blank);
-}
-
-void MapPaintTest::scaleBarHasARoundLength()
-{
-    const double limits[] = {1, 1.99, 4.9, 5, 999, 0.02, 0.0199, 123456};
-    const double lengths[] = {1, 1, 2, 5, 500, 0.02, 0.01, 100000};
-    for (int i = 0; i < 8; ++i)
-        QCOMPARE(roundLength(limits[i]), lengths[i]);
-    QCOMPARE(lengthText(500, LengthUnit::Metres), QStringLiteral("500 m"));
-    QCOMPARE(lengthText(2000, LengthUnit::Metres), QStringLiteral("2 km"));
-    QCOMPARE(lengthText(0.05, LengthUnit::Metres), QStringLiteral("0.05 m"));
-    QCOMPARE(lengthText(2000, LengthUnit::Feet), QStringLiteral("2000 ft"));
-    QCOMPARE(lengthText(2e7, LengthUnit::Metres), QStringLiteral("20000 km"));
-    QCOMPARE(lengthText(1e8, LengthUnit::Feet), QStringLiteral("100000000 ft"));
-    QCOMPARE(lengthText(5e-5, LengthUnit::Metres), QStringLiteral("0.00005 m"));
-}
-
-void MapPaintTest::scaleBarIsAsLongAsItSays()
-{
-    const auto blackPixels = [this] { // in a row through the bar, left of its text
-        const QImage picture = shown();
-        int count = 0;
-        for (int x = 0; x < 70; ++x)
-            count += picture.pixelColor(x, 276) == QColor(Qt::black) ? 1 : 0;
-        return count;
-    };
-    QCOMPARE(m_map->transform().GetScale(), 1.0);
-    QCOMPARE(blackPixels(), 51); // half of 100 m
-    get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "1");
-    m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
-    QCOMPARE(blackPixels(), 31);      // half of 200 ft
-    m_map->zoomAbout(200, 150, 1e-6); // 150,000 km would be longer than the earth is round
-    QCOMPARE(blackPixels(), 0);
-    get_system_ini_parameter().dictionary().clear();
-}
-
-void MapPaintTest::clipsLinesToAnArea_data()
-{
-    QTest::addColumn<QLineF>("line");
-    QTest::addColumn<QLineF>("expected"); // null: nothing
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    QTest::newRow("inside") << QLineF(1, 2, 8, 9) << QLineF(1, 2, 8, 9);
-    QTest::newRow("across") << QLineF(-10, -5, 30, 15) << QLineF(0, 0, 20, 10);
-    QTest::newRow("backwards") << QLineF(25, 5, 10, 5) << QLineF(20, 5, 10, 5);
-    QTest::newRow("along the edge") << QLineF(-5, 10, 5, 10) << QLineF(0, 10, 5, 10);
-    QTest::newRow("past a corner") << QLineF(-4, 8, 2, 14) << QLineF();
-    QTest::newRow("beside") << QLineF(-1, -1, -1, 20) << QLineF();
-    QTest::newRow("no number") << QLineF(nan, 0, 5, 5) << QLineF();
-}
-
-void MapPaintTest::clipsLinesToAnArea()
-{
-    QFETCH(const QLineF, line);
-    QFETCH(const QLineF, expected);
-    const auto clipped = clippedLine(line, QRectF(0, 0, 20, 10));
-    QCOMPARE(clipped.has_value(), !expected.isNull());
-    if (clipped) {
-        QCOMPARE(clipped->p1(), expected.p1());
-        QCOMPARE(clipped->p2(), expected.p2());
-    }
-}
 
 QTEST_MAIN(MapPaintTest)
 #include "MapPaintTest.moc"

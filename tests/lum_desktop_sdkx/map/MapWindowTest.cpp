@@ -3,8 +3,12 @@
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/MouseKeyEventParameters.h"
 #include "lum_desktop_sdkx/ReactorBase.h"
+#include "lum_desktop_sdkx/Registration.h"
 #include "protocol/Events.h"
+#include "tests/lum_desktop_sdkx/MapMouse.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 
 #include <QtTest>
 
@@ -17,8 +21,7 @@ namespace {
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-/// A tool that notes its presses, double clicks and keys, keeps every move for itself, and does on
-/// a press what the test wants.
+/// A tool that notes the presses, handles every move, and runs the test's function on a press.
 class ProbeTool final : public ReactorBase
 {
 public:
@@ -32,7 +35,7 @@ public:
         presses.append(event.position.toPoint());
         if (const auto act = onPress) // a copy: it may set the next one
             act(map());
-        m_pressesOfThis++; // a fault for the sanitizer if the press has ended this reactor
+        m_pressesOfThis++; // the sanitizer tells when the press has deleted this reactor
         return m_pressesOfThis;
     }
     int mouseMove(const MouseKeyEventParameters& /*event*/) override { return 1; }
@@ -49,11 +52,6 @@ private:
     int m_pressesOfThis = 0;
 };
 
-QPoint at(int x, int y)
-{
-    return {x, y};
-}
-
 } // namespace
 
 class MapWindowTest : public QObject
@@ -61,343 +59,291 @@ class MapWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        registerMapComponents();
+        registerMapComponents();
+        QVERIFY(desktop::registration::reactor<ProbeTool>("ProbeTool", ""));
+    }
 
-    void wheelZoomsAboutTheCursor();
-    void middleDragPansExactlyUnderAnyTool();
-    void keysMoveTheView_data(); // NOLINT(readability-identifier-naming): Qt Test looks for it
-    void keysMoveTheView();
-    void announcesTheMapPositionUnderTheCursor();
+    /// A map of 800 x 600 pixels that shows as many metres, from (0, 0) in its lower left corner.
+    void init()
+    {
+        ProbeTool::presses.clear();
+        ProbeTool::onPress = nullptr;
+        m_map = std::make_unique<MapWindow>("reactors=ReactorDefault", &m_host);
+        m_map->resize(800, 600);
+        m_map->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_map.get()));
+        m_map->repaint();
+        m_map->zoomRect(0, 600, 800, 0);
+        QCOMPARE(view(), "400, 300 at 1"_q);
+    }
 
-    void toolComesFirstAndStandingReactorSecond();
-    void toolMayReplaceItselfWhileItRuns();
-    void unknownReactorLeavesTheOldOne();
-    void rightClickEndsTheToolAndNothingElse();
-    void doubleClickThatNobodyWantsIsAPress();
+    void cleanup()
+    {
+        m_map.reset();
+        QCOMPARE(ProbeTool::alive, 0);
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    }
 
-    void firstExtentIsShownAndLaterOnesWhenOutOfSight();
-    void extentFromBeforeTheFirstSizeFitsTheRealOne();
-    void refusesExtentsThatAreNotFinite();
-    void degenerateExtentsAndSizesDoNoHarm();
-    void resizeKeepsCentreAndScale();
-    void zoomRectOfAnyDirectionAndOfNoSize();
-    void zoomAllWithoutDataIsHarmless();
+    void wheelZoomsAboutTheCursor()
+    {
+        const QPoint cursor(123, 456);
+        const QPointF point = m_map->transform().ScreenToSurvey(QPointF(cursor));
+        double expected = 1;
+        for (const int angle : {120, 30, -240, 15}) {
+            wheel(cursor, angle);
+            expected /= std::pow(1.25, angle / 120.0);
+            QCOMPARE(scale(), expected);
+            const QPointF kept = m_map->transform().SurveyToScreen(point);
+            QVERIFY(std::hypot(kept.x() - 123, kept.y() - 456) < 1e-6);
+        }
+    }
+
+    void middleDragPansExactlyUnderAnyTool()
+    {
+        drag(Qt::MiddleButton, {100, 100}, {131, 60});
+        QCOMPARE(center(), QPointF(400 - 31, 300 - 40));
+        install("ProbeTool");
+        m_map->setMapCursor(Qt::CrossCursor);
+        drag(Qt::MiddleButton, {131, 60}, {100, 100});
+        QCOMPARE(center(), QPointF(400, 300));
+
+        QTest::mousePress(m_map.get(), Qt::MiddleButton, {}, {5, 5});
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::ClosedHandCursor);
+        QTest::mouseRelease(m_map.get(), Qt::MiddleButton, {}, {5, 5});
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+        QCOMPARE(m_map->cursor().shape(), Qt::CrossCursor);
+
+        // Without the event of the release, the next move without the button ends the pan.
+        QTest::mousePress(m_map.get(), Qt::MiddleButton, {}, {5, 5});
+        install("ReactorDefault");
+        move({50, 50});
+        QCOMPARE(center(), QPointF(400, 300));
+    }
+
+    void keysMoveTheView()
+    {
+        const struct
+        {
+            Qt::Key key;
+            Qt::KeyboardModifier modifier;
+            const char* view;
+        } cases[] = {{Qt::Key_Left, Qt::NoModifier, "320, 300 at 1"},
+                     {Qt::Key_Right, Qt::ShiftModifier, "800, 300 at 1"},
+                     {Qt::Key_Up, Qt::NoModifier, "400, 360 at 1"},
+                     {Qt::Key_Down, Qt::ShiftModifier, "400, 0 at 1"},
+                     {Qt::Key_Plus, Qt::NoModifier, "400, 300 at 0.666667"},
+                     {Qt::Key_Minus, Qt::NoModifier, "400, 300 at 1.5"},
+                     {Qt::Key_A, Qt::NoModifier, "400, 300 at 1"}};
+        for (const auto& [key, modifier, expected] : cases) {
+            m_map->zoomRect(0, 600, 800, 0);
+            QTest::keyClick(m_map.get(), key, modifier);
+            QCOMPARE(view(), QLatin1String(expected));
+        }
+    }
+
+    void announcesTheMapPositionUnderTheCursor()
+    {
+        const EventLog log(m_host.events, events::kXyChanged);
+        move({100, 50});
+        QCOMPARE(log.events.back().payload, std::string("N=550 E=100"));
+
+        m_map->zoomRect(1000, 2150, 1200, 2000); // 0.25 m a pixel
+        move({101, 50});
+        QCOMPARE(log.events.back().payload, std::string("N=2137.5 E=1025.25"));
+
+        drag(Qt::MiddleButton, {101, 50}, {161, 90}); // the place under the cursor stays the same
+        QCOMPARE(log.events.back().payload, std::string("N=2137.5 E=1025.25"));
+        QCOMPARE(log.events.size(), 4U);
+    }
+
+    void toolComesFirstAndStandingReactorSecond()
+    {
+        install("ProbeTool");
+        m_map->setExtent(0, 0, 80000, 60000);
+        m_map->zoomRect(0, 0, 800, 600);
+        QTest::keyClick(m_map.get(), Qt::Key_Home); // the tool handles it
+        QCOMPARE(scale(), 1.0);
+        QTest::keyClick(m_map.get(), Qt::Key_Left); // the tool leaves it to ReactorDefault
+        QCOMPARE(center(), QPointF(320, 300));
+        QTest::mouseClick(m_map.get(), Qt::LeftButton, {}, {11, 12});
+        QCOMPARE(ProbeTool::presses, QVector<QPoint>{QPoint(11, 12)});
+
+        QVERIFY(m_map->installReactor("ReactorDefault"_q));
+        QCOMPARE(ProbeTool::alive, 0);
+        QTest::keyClick(m_map.get(), Qt::Key_Home);
+        QVERIFY(scale() > 100);
+    }
+
+    void toolMayReplaceItselfWhileItRuns()
+    {
+        install("ProbeTool");
+        ProbeTool::onPress = [](IMapWindow& map) {
+            map.installReactor("ReactorDefault"_q);
+            map.installReactor("ProbeTool"_q);
+            QCOMPARE(ProbeTool::alive, 2);
+        };
+        QTest::mousePress(m_map.get(), Qt::LeftButton, {}, {1, 1});
+        QCOMPARE(ProbeTool::alive, 1);
+
+        ProbeTool::onPress = [this](IMapWindow& map) { // an event inside an event
+            ProbeTool::onPress = [](IMapWindow& inner) {
+                inner.installReactor("ReactorDefault"_q);
+            };
+            QTest::mousePress(m_map.get(), Qt::LeftButton, {}, {2, 2});
+            QCOMPARE(ProbeTool::alive, 1);
+            map.setMapCursor(Qt::CrossCursor);
+        };
+        QTest::mousePress(m_map.get(), Qt::LeftButton, {}, {3, 3});
+        QCOMPARE(ProbeTool::alive, 0);
+    }
+
+    void unknownReactorLeavesTheOldOne()
+    {
+        install("ProbeTool");
+        m_map->setMapCursor(Qt::CrossCursor);
+        QVERIFY(!m_map->installReactor("NoSuchReactor"_q));
+        QCOMPARE(ProbeTool::alive, 1);
+        QCOMPARE(m_map->cursor().shape(), Qt::CrossCursor);
+
+        const MapWindow other("caption=Map,reactors=ReactorDefault; ProbeTool NoSuchReactor",
+                              &m_host);
+        QCOMPARE(ProbeTool::alive, 2);
+    }
+
+    void rightClickEndsTheToolAndNothingElse()
+    {
+        const EventLog log(m_host.events, events::kUpdateSystemStatus);
+        install("ProbeTool");
+        const Transform before = m_map->transform();
+        QTest::mouseClick(m_map.get(), Qt::RightButton, {}, {10, 10});
+        QCOMPARE(ProbeTool::alive, 0);
+        QCOMPARE(log.events.size(), 1U);
+        QTest::mouseClick(m_map.get(), Qt::RightButton, {}, {10, 10}); // no tool to end
+        QCOMPARE(log.events.size(), 1U);
+        QVERIFY(m_map->transform() == before);
+    }
+
+    void doubleClickThatNobodyWantsIsAPress()
+    {
+        install("ProbeTool");
+        QTest::mouseDClick(m_map.get(), Qt::LeftButton, {}, {20, 30});
+        QCOMPARE(ProbeTool::presses, QVector<QPoint>{QPoint(20, 30)});
+        QTest::mouseDClick(m_map.get(), Qt::MiddleButton, {}, {20, 30});
+        move({30, 30}, Qt::MiddleButton);
+        QCOMPARE(center(), QPointF(390, 300));
+    }
+
+    void firstExtentIsShownAndLaterOnesWhenOutOfSight()
+    {
+        m_map->setExtent(1000, 1540, 1720, 1000); // not normalised; 5 % stay free on each side
+        QCOMPARE(m_map->extent(), QRectF(1000, 1000, 720, 540));
+        QCOMPARE(view(), "1360, 1270 at 1"_q);
+
+        m_map->setExtent(1760, 1000, 99999, 99999); // touches the right edge of what is seen
+        QCOMPARE(center(), QPointF(1360, 1270));
+        m_map->setExtent(1761, 1000, 2481, 1000);
+        QCOMPARE(view(), "2121, 1000 at 1"_q);
+    }
+
+    void extentFromBeforeTheFirstSizeFitsTheRealOne()
+    {
+        MapWindow map("", &m_host);
+        map.setExtent(0, 0, 900, 450);
+        map.setExtent(100, 0, 1000, 450); // the later one counts
+        map.resize(1000, 500);
+        map.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&map));
+        QCOMPARE(viewOf(map.transform()), "550, 225 at 1"_q);
+    }
+
+    void refusesExtentsThatAreNotFinite()
+    {
+        m_map->setExtent(1, 2, 3, 4);
+        const Transform before = m_map->transform();
+        for (const double bad : {kNaN, kInf, -kInf}) {
+            m_map->setExtent(bad, 0, 10, 10);
+            m_map->setExtent(0, 0, 10, bad);
+            m_map->zoomRect(0, bad, 10, 10);
+            m_map->zoomAbout(bad, 0, 2);
+            m_map->zoomAbout(0, 0, bad);
+        }
+        QTRY_VERIFY(m_map->isUpToDate());
+        m_map->setExtent(-1.7e308, 0, 1.7e308, 10); // its width is not finite
+        QVERIFY2(!m_map->isUpToDate(), "the picture of the old data stays");
+        QCOMPARE(m_map->extent(), QRectF(1, 2, 2, 2));
+        QVERIFY(m_map->transform() == before);
+    }
+
+    void degenerateExtentsAndSizesDoNoHarm()
+    {
+        QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
+        for (const double size : {1e12, 1e300, 1e-9}) {
+            m_map->setExtent(-size, size, size, -size);
+            m_map->zoomAll();
+            m_map->repaint();
+            QVERIFY(std::isfinite(scale()) && std::isfinite(center().x()));
+        }
+        m_map->setExtent(5, 5, 5, 5);
+        QVERIFY(m_map->extent().isNull());
+        m_map->resize(0, 0);
+        wheel({0, 0}, 120000);
+        QVERIFY(pictures.wait());
+        m_map->resize(300, 200);
+        QVERIFY(pictures.wait());
+    }
+
+    void resizeKeepsCentreAndScale()
+    {
+        m_map->setExtent(100, 100, 200, 200);
+        const QString before = view();
+        m_map->repaint();
+        m_map->resize(500, 400);
+        QCOMPARE(m_map->transform().size(), QSize(500, 400));
+        QCOMPARE(view(), before);
+    }
+
+    void zoomRectOfAnyDirectionAndOfNoSize()
+    {
+        m_map->zoomAll(); // without data
+        QCOMPARE(view(), "0, 0 at 1"_q);
+        m_map->zoomRect(300, 100, 100, 250); // drawn towards the upper left
+        QCOMPARE(view(), "200, 175 at 0.25"_q);
+
+        const QPointF place(150, 200);
+        const QPointF before = m_map->transform().SurveyToScreen(place);
+        m_map->zoomRect(150, 200, 150, 200);
+        QVERIFY(scale() < 0.25);
+        const QPointF after = m_map->transform().SurveyToScreen(place);
+        QVERIFY(std::hypot(after.x() - before.x(), after.y() - before.y()) < 1e-6);
+    }
 
 private:
-    void wheel(const QPoint& place, int angle);
-    void move(const QPoint& to, Qt::MouseButtons buttons = Qt::NoButton);
-    void drag(Qt::MouseButton button, const QPoint& from, const QPoint& to);
+    void install(const char* tool) { QVERIFY(m_map->installReactor(QString::fromUtf8(tool))); }
+    void wheel(const QPoint& place, int angle)
+    {
+        QWheelEvent event(place, m_map->mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m_map.get(), &event);
+    }
+
+    void move(const QPoint& to, Qt::MouseButtons buttons = Qt::NoButton)
+    {
+        moveMouse(*m_map, to, buttons);
+    }
+    void drag(Qt::MouseButton button, const QPoint& from, const QPoint& to)
+    {
+        dragMouse(*m_map, button, from, to);
+    }
+    [[nodiscard]] QString view() const { return viewOf(m_map->transform()); }
     [[nodiscard]] QPointF center() const { return m_map->transform().center(); }
     [[nodiscard]] double scale() const { return m_map->transform().GetScale(); }
 
     TestHost m_host;
     std::unique_ptr<MapWindow> m_map;
 };
-
-void MapWindowTest::initTestCase()
-{
-    registerMapComponents();
-    registerMapComponents();
-    using Tool = desktop::Maker<IReactor, ProbeTool, IMapWindow*>;
-    QVERIFY(extensible_factory_register_IReactor("ProbeTool", "", Tool::create, Tool::destroy));
-}
-
-/// A map of 800 x 600 pixels that shows as many metres, from (0, 0) in its lower left corner.
-void MapWindowTest::init()
-{
-    ProbeTool::presses.clear();
-    ProbeTool::onPress = nullptr;
-    m_map = std::make_unique<MapWindow>("reactors=ReactorDefault", &m_host);
-    m_map->resize(800, 600);
-    m_map->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_map.get()));
-    m_map->repaint();
-    m_map->zoomRect(0, 600, 800, 0);
-    QCOMPARE(center(), QPointF(400, 300));
-    QCOMPARE(scale(), 1.0);
-}
-
-void MapWindowTest::cleanup()
-{
-    m_map.reset();
-    QCOMPARE(ProbeTool::alive, 0);
-    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
-}
-
-void MapWindowTest::wheel(const QPoint& place, int angle)
-{
-    QWheelEvent event(place, m_map->mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(m_map.get(), &event);
-}
-
-/// QTest's own move comes later and carries no buttons.
-void MapWindowTest::move(const QPoint& to, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(QEvent::MouseMove, to, m_map->mapToGlobal(to), Qt::NoButton, buttons,
-                      Qt::NoModifier);
-    QApplication::sendEvent(m_map.get(), &event);
-}
-
-void MapWindowTest::drag(Qt::MouseButton button, const QPoint& from, const QPoint& to)
-{
-    QTest::mousePress(m_map.get(), button, {}, from);
-    move((from + to) / 2, button);
-    move(to, button);
-    QTest::mouseRelease(m_map.get(), button, {}, to);
-}
-
-void MapWindowTest::wheelZoomsAboutTheCursor()
-{
-    const QPoint cursor(123, 456);
-    const QPointF point = m_map->transform().ScreenToSurvey(QPointF(cursor));
-    double expected = 1;
-    for (const int angle : {120, 30, -240, 15}) {
-        wheel(cursor, angle);
-        expected /= std::pow(1.25, angle / 120.0);
-        QCOMPARE(scale(), expected);
-        const QPointF kept = m_map->transform().SurveyToScreen(point);
-        QVERIFY(std::hypot(kept.x() - 123, kept.y() - 456) < 1e-6);
-    }
-}
-
-void MapWindowTest::middleDragPansExactlyUnderAnyTool()
-{
-    drag(Qt::MiddleButton, at(100, 100), at(131, 60));
-    QCOMPARE(center(), QPointF(400 - 31, 300 - 40));
-    QVERIFY(m_map->installReactor(QStringLiteral("ProbeTool")));
-    m_map->setMapCursor(Qt::CrossCursor);
-    drag(Qt::MiddleButton, at(131, 60), at(100, 100));
-    QCOMPARE(center(), QPointF(400, 300));
-
-    QTest::mousePress(m_map.get(), Qt::MiddleButton, {}, at(5, 5));
-    QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::ClosedHandCursor);
-    QTest::mouseRelease(m_map.get(), Qt::MiddleButton, {}, at(5, 5));
-    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
-    QCOMPARE(m_map->cursor().shape(), Qt::CrossCursor);
-
-    // the release went elsewhere: the next move without the button pans no more
-    QTest::mousePress(m_map.get(), Qt::MiddleButton, {}, at(5, 5));
-    m_map->installReactor(QStringLiteral("ReactorDefault"));
-    move(at(50, 50));
-    QCOMPARE(center(), QPointF(400, 300));
-}
-
-void MapWindowTest::keysMoveTheView_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QPointF>("expectedCenter");
-    QTest::addColumn<double>("expectedScale");
-    const int none = Qt::NoModifier;
-    const int shift = Qt::ShiftModifier;
-    QTest::newRow("west") << int(Qt::Key_Left) << none << QPointF(320, 300) << 1.0;
-    QTest::newRow("far east") << int(Qt::Key_Right) << shift << QPointF(800, 300) << 1.0;
-    QTest::newRow("north") << int(Qt::Key_Up) << none << QPointF(400, 360) << 1.0;
-    QTest::newRow("far south") << int(Qt::Key_Down) << shift << QPointF(400, 0) << 1.0;
-    QTest::newRow("nearer") << int(Qt::Key_Plus) << none << QPointF(400, 300) << 1 / 1.5;
-    QTest::newRow("farther") << int(Qt::Key_Minus) << none << QPointF(400, 300) << 1.5;
-    QTest::newRow("other") << int(Qt::Key_A) << none << QPointF(400, 300) << 1.0;
-}
-
-void MapWindowTest::keysMoveTheView()
-{
-    QFETCH(const int, key);
-    QFETCH(const int, modifiers);
-    QTest::keyClick(m_map.get(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    QTEST(center(), "expectedCenter");
-    QTEST(scale(), "expectedScale");
-}
-
-void MapWindowTest::announcesTheMapPositionUnderTheCursor()
-{
-    TestListener listener;
-    const EventSubscription subscription(listener, events::kXyChanged, m_host.events);
-    move(at(100, 50));
-    QCOMPARE(listener.payloads, QStringList{QStringLiteral("N=550 E=100")});
-
-    m_map->zoomRect(1000, 2150, 1200, 2000); // 0.25 m a pixel
-    move(at(101, 50));
-    QCOMPARE(listener.payloads.last(), QStringLiteral("N=2137.5 E=1025.25"));
-
-    drag(Qt::MiddleButton, at(101, 50), at(161, 90)); // takes the place along
-    QCOMPARE(listener.payloads.last(), QStringLiteral("N=2137.5 E=1025.25"));
-    QCOMPARE(listener.payloads.size(), 4);
-}
-
-void MapWindowTest::toolComesFirstAndStandingReactorSecond()
-{
-    QVERIFY(m_map->installReactor(QStringLiteral("ProbeTool")));
-    m_map->setExtent(0, 0, 80000, 60000);
-    m_map->zoomRect(0, 0, 800, 600);
-    QTest::keyClick(m_map.get(), Qt::Key_Home); // kept by the tool
-    QCOMPARE(scale(), 1.0);
-    QTest::keyClick(m_map.get(), Qt::Key_Left); // left to the other one
-    QCOMPARE(center(), QPointF(320, 300));
-    QTest::mouseClick(m_map.get(), Qt::LeftButton, {}, at(11, 12));
-    QCOMPARE(ProbeTool::presses, QVector<QPoint>{at(11, 12)});
-
-    QVERIFY(m_map->installReactor(QStringLiteral("ReactorDefault")));
-    QCOMPARE(ProbeTool::alive, 0);
-    QTest::keyClick(m_map.get(), Qt::Key_Home);
-    QVERIFY(scale() > 100);
-}
-
-void MapWindowTest::toolMayReplaceItselfWhileItRuns()
-{
-    QVERIFY(m_map->installReactor(QStringLiteral("ProbeTool")));
-    ProbeTool::onPress = [](IMapWindow& map) {
-        map.installReactor(QStringLiteral("ReactorDefault"));
-        map.installReactor(QStringLiteral("ProbeTool"));
-        QCOMPARE(ProbeTool::alive, 2);
-    };
-    QTest::mousePress(m_map.get(), Qt::LeftButton, {}, at(1, 1));
-    QCOMPARE(ProbeTool::alive, 1);
-
-    ProbeTool::onPress = [this](IMapWindow& map) { // an event inside an event
-        ProbeTool::onPress = [](IMapWindow& inner) {
-            inner.installReactor(QStringLiteral("ReactorDefault"));
-        };
-        QTest::mousePress(m_map.get(), Qt::LeftButton, {}, at(2, 2));
-        QCOMPARE(ProbeTool::alive, 1);
-        map.setMapCursor(Qt::CrossCursor);
-    };
-    QTest::mousePress(m_map.get(), Qt::LeftButton, {}, at(3, 3));
-    QCOMPARE(ProbeTool::alive, 0);
-}
-
-void MapWindowTest::unknownReactorLeavesTheOldOne()
-{
-    QVERIFY(m_map->installReactor(QStringLiteral("ProbeTool")));
-    m_map->setMapCursor(Qt::CrossCursor);
-    QVERIFY(!m_map->installReactor(QStringLiteral("NoSuchReactor")));
-    QCOMPARE(ProbeTool::alive, 1);
-    QCOMPARE(m_map->cursor().shape(), Qt::CrossCursor);
-
-    const MapWindow other("caption=Map,reactors=ReactorDefault; ProbeTool NoSuchReactor", &m_host);
-    QCOMPARE(ProbeTool::alive, 2);
-}
-
-void MapWindowTest::rightClickEndsTheToolAndNothingElse()
-{
-    TestListener listener;
-    const EventSubscription subscription(listener, events::kUpdateSystemStatus, m_host.events);
-    QVERIFY(m_map->installReactor(QStringLiteral("ProbeTool")));
-    const Transform before = m_map->transform();
-    QTest::mouseClick(m_map.get(), Qt::RightButton, {}, at(10, 10));
-    QCOMPARE(ProbeTool::alive, 0);
-    QCOMPARE(listener.payloads.size(), 1);
-    QTest::mouseClick(m_map.get(), Qt::RightButton, {}, at(10, 10)); // no tool to end
-    QCOMPARE(listener.payloads.size(), 1);
-    QVERIFY(m_map->transform() == before);
-}
-
-void MapWindowTest::doubleClickThatNobodyWantsIsAPress()
-{
-    QVERIFY(m_map->installReactor(QStringLiteral("ProbeTool")));
-    QTest::mouseDClick(m_map.get(), Qt::LeftButton, {}, at(20, 30));
-    QCOMPARE(ProbeTool::presses, QVector<QPoint>{at(20, 30)});
-    QTest::mouseDClick(m_map.get(), Qt::MiddleButton, {}, at(20, 30));
-    move(at(30, 30), Qt::MiddleButton);
-    QCOMPARE(center(), QPointF(390, 300));
-}
-
-void MapWindowTest::firstExtentIsShownAndLaterOnesWhenOutOfSight()
-{
-    m_map->setExtent(1000, 1540, 1720, 1000); // not normalised; 5 % stay free on each side
-    QCOMPARE(m_map->extent(), QRectF(1000, 1000, 720, 540));
-    QCOMPARE(center(), QPointF(1360, 1270));
-    QCOMPARE(scale(), 1.0);
-
-    m_map->setExtent(1760, 1000, 99999, 99999); // touches the right edge of what is seen
-    QCOMPARE(center(), QPointF(1360, 1270));
-    m_map->setExtent(1761, 1000, 2481, 1000);
-    QCOMPARE(center(), QPointF(2121, 1000));
-    QCOMPARE(scale(), 1.0);
-}
-
-void MapWindowTest::extentFromBeforeTheFirstSizeFitsTheRealOne()
-{
-    MapWindow map("", &m_host);
-    map.setExtent(0, 0, 900, 450);
-    map.setExtent(100, 0, 1000, 450); // the later one counts
-    map.resize(1000, 500);
-    map.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&map));
-    QCOMPARE(map.transform().center(), QPointF(550, 225));
-    QCOMPARE(map.transform().GetScale(), 1.0);
-}
-
-void MapWindowTest::refusesExtentsThatAreNotFinite()
-{
-    m_map->setExtent(1, 2, 3, 4);
-    const Transform before = m_map->transform();
-    for (const double bad : {kNaN, kInf, -kInf}) {
-        m_map->setExtent(bad, 0, 10, 10);
-        m_map->setExtent(0, 0, 10, bad);
-        m_map->zoomRect(0, bad, 10, 10);
-        m_map->zoomAbout(bad, 0, 2);
-        m_map->zoomAbout(0, 0, bad);
-    }
-    QTRY_VERIFY(m_map->isUpToDate());
-    m_map->setExtent(-1.7e308, 0, 1.7e308, 10); // its width is not finite
-    QVERIFY2(!m_map->isUpToDate(), "the picture of the old data stays");
-    QCOMPARE(m_map->extent(), QRectF(1, 2, 2, 2));
-    QVERIFY(m_map->transform() == before);
-}
-
-void MapWindowTest::degenerateExtentsAndSizesDoNoHarm()
-{
-    QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
-    for (const double size : {1e12, 1e300, 1e-9}) {
-        m_map->setExtent(-size, size, size, -size);
-        m_map->zoomAll();
-        m_map->repaint();
-        QVERIFY(std::isfinite(scale()) && std::isfinite(center().x()));
-    }
-    m_map->setExtent(5, 5, 5, 5);
-    QVERIFY(m_map->extent().isNull());
-    m_map->resize(0, 0);
-    wheel(at(0, 0), 120000);
-    QVERIFY(pictures.wait());
-    m_map->resize(300, 200);
-    QVERIFY(pictures.wait());
-}
-
-void MapWindowTest::resizeKeepsCentreAndScale()
-{
-    m_map->setExtent(100, 100, 200, 200);
-    const QPointF centerBefore = center();
-    const double scaleBefore = scale();
-    m_map->repaint();
-    m_map->resize(500, 400);
-    QCOMPARE(m_map->transform().size(), QSize(500, 400));
-    QCOMPARE(center(), centerBefore);
-    QCOMPARE(scale(), scaleBefore);
-}
-
-void MapWindowTest::zoomRectOfAnyDirectionAndOfNoSize()
-{
-    m_map->zoomRect(300, 100, 100, 250); // drawn towards the upper left
-    QCOMPARE(center(), QPointF(200, 175));
-    QCOMPARE(scale(), 0.25);
-
-    const QPointF place(150, 200);
-    const QPointF before = m_map->transform().SurveyToScreen(place);
-    m_map->zoomRect(150, 200, 150, 200);
-    QVERIFY(scale() < 0.25);
-    const QPointF after = m_map->transform().SurveyToScreen(place);
-    QVERIFY(std::hypot(after.x() - before.x(), after.y() - before.y()) < 1e-6);
-}
-
-void MapWindowTest::zoomAllWithoutDataIsHarmless()
-{
-    m_map->zoomAll();
-    QCOMPARE(center(), QPointF(0, 0));
-    QCOMPARE(scale(), 1.0);
-}
 
 QTEST_MAIN(MapWindowTest)
 #include "MapWindowTest.moc"

@@ -1,10 +1,37 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
+#include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 
 #include <QPainter>
 
 #include <limits>
+
+namespace {
+
+using Payloads = std::vector<std::string>;
+
+/// At each event, empties the survey and lets the layer rebuild its cache.
+class Emptier final : public IEventHandler
+{
+public:
+    explicit Emptier(TestMap& map)
+        : m_map(map), m_subscription(*this, events::kProgress, map.host.events)
+    {
+    }
+    void handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/) override
+    {
+        m_map.manager.surveyPoints().clear();
+        m_map.publish(events::kRefreshSurveyLayer);
+    }
+
+private:
+    TestMap& m_map;
+    EventSubscription m_subscription;
+};
+
+} // namespace
 
 class DataLayerTest : public QObject
 {
@@ -12,319 +39,299 @@ class DataLayerTest : public QObject
 
 private Q_SLOTS:
     void initTestCase() { TestMap::registerComponents(); }
-    void eachEventRebuildsTheCacheInView_data(); // NOLINT(readability-identifier-naming)
-    void eachEventRebuildsTheCacheInView();
-    void otherViewsKeepTheCacheAndHandTheExtentOver();
-    void onlyTheTopOfTheExtentIsAWholeNumber();
-    void aResultFarAwayAndTheSurveyAreInThePicture();
-    void picksWithinTenPixels();
-    void picksBaseStationsThatAreNearer();
-    void lookUpsOfTheUnknownLeaveTheOutputsAlone();
-    void tipsNameWhatIsInView();
-    void progressTellsOfEachDrawnLine();
-    void withoutADesignOrAViewNothingIsSaid();
-    void theMapShowsTheView();
-    void rebuildsAndPaintsMayMeet();
-    void brokenPlacesAndTinyViews();
+    void eachEventRebuildsTheCacheInView()
+    {
+        for (const char* const event : {events::kPaintingLayerUpdate, events::kSettingViewFinished,
+                                        events::kRefreshSurveyLayer, events::kRefreshDesignLayer}) {
+            TestMap map;
+            map.addDesign("1", "d", 100, 100);
+            map.addResult("1", "s", 200, 200, {210, 200});
+            QCOMPARE(map.layer().PickDesignPoint(100, 100), QString());
+            map.publish(event);
+            QVERIFY2(map.layer().PickDesignPoint(100, 100) == "d"_q, event);
+            QCOMPARE(map.layer().PickSurveyPoint(200, 200), QString());
+            QCOMPARE(map.window.extent(), QRectF(100, 100, 10, 10));
+
+            map.setStatus(status::kViewShowWhich, "0");
+            map.manager.designPoints().clear();
+            map.publish(event);
+            QVERIFY2(map.layer().PickSurveyPoint(200, 200) == "s"_q, event);
+            QCOMPARE(map.layer().PickDesignPoint(100, 100), "d"_q); // not in view
+            QCOMPARE(map.window.extent(), QRectF(200, 200, 10, 10));
+        }
+    }
+
+    void otherViewsKeepTheCacheAndHandTheExtentOver()
+    {
+        TestMap map;
+        map.addDesign("1", "d", 100, 100);
+        map.publish(events::kRefreshDesignLayer);
+        map.window.setExtent(0, 0, 1, 1);
+        map.manager.designPoints().clear();
+        map.setStatus(status::kViewShowWhich, "2");
+        map.publish(events::kRefreshDesignLayer);
+        QCOMPARE(map.window.extent(), QRectF(100, 100, 10, 10));
+        QCOMPARE(map.layer().PickDesignPoint(100, 100), "d"_q);
+        map.host.windowRegistry.windows.clear();
+        map.publish(events::kRefreshDesignLayer); // without a map
+    }
+
+    void onlyTheTopOfTheExtentIsAWholeNumber()
+    {
+        TestMap map;
+        map.addDesign("1", "1", -100.3, 20.7);
+        map.addDesign("1", "2", 150.7, 90.2);
+        map.publish(events::kRefreshDesignLayer);
+        QCOMPARE(map.layer().GetExtent(), QRectF(QPointF(20.7, -100.3), QPointF(90.2, 150.7)));
+        QCOMPARE(map.window.extent(), QRectF(QPointF(20.7, -101), QPointF(90.2, 150.7)));
+        map.addDesign("1", "3", -3e9, 0); // beyond what an int holds
+        map.publish(events::kRefreshDesignLayer);
+        QCOMPARE(map.window.extent().top(), -3e9);
+        map.manager.designPoints().clear();
+        map.publish(events::kRefreshDesignLayer);
+        QCOMPARE(map.window.extent(), QRectF(0, 0, 10, 10));
+    }
+
+    void aResultFarAwayAndTheSurveyAreInThePicture()
+    {
+        for (const double far : {1e12, 1e15}) {
+            TestMap map;
+            map.setStatus(status::kViewShowWhich, "0");
+            map.addResult("1", "near", 4000000, 500000, {500100, 4000000});
+            map.addResult("1", "far", far, far, {500100, 4000000});
+            map.publish(events::kRefreshSurveyLayer);
+            map.window.zoomAll();
+            const QImage picture = map.picture();
+            for (const QPointF& place : {QPointF(500000, 4000000), QPointF(far, far)}) {
+                const QPoint pixel = map.window.transform().SurveyToScreen(place).toPoint();
+                QVERIFY(map.window.rect().adjusted(10, 10, -10, -10).contains(pixel));
+                QVERIFY(picture.pixelColor(pixel) != QColor(Qt::white));
+            }
+        }
+    }
+
+    void picksWithinTenPixels()
+    {
+        TestMap map;
+        map.addDesign("1", "a", 100, 100);
+        map.addDesign("2", "b", 100, 112);
+        map.publish(events::kRefreshDesignLayer);
+        const IDataLayer& layer = map.layer();
+        map.window.zoomRect(0, 0, 400, 300);
+        QCOMPARE(map.window.transform().GetScale(), 1.0);
+        QCOMPARE(layer.PickDesignPoint(90.1, 100), "a"_q);
+        QCOMPARE(layer.PickDesignPoint(90, 100), QString());
+        QCOMPARE(layer.PickDesignPoint(106, 100), "a"_q); // of two equally near ones the first
+        QCOMPARE(layer.PickDesignPoint(106.01, 100), "b"_q);
+        map.window.zoomRect(0, 0, 800, 600);
+        QCOMPARE(layer.PickDesignPoint(80.2, 100), "a"_q);
+        QCOMPARE(layer.PickDesignPoint(80, 100), QString());
+    }
+
+    void picksBaseStationsThatAreNearer()
+    {
+        TestMap map;
+        map.setStatus(status::kViewShowWhich, "0");
+        map.addResult("1", "s1", 100, 100, {106, 100}, {101, 102});
+        map.addResult("1", "s2", 100, 200, {200, 100});
+        map.publish(events::kRefreshSurveyLayer);
+        map.showAll();
+        const IDataLayer& layer = map.layer();
+        QCOMPARE(layer.PickSurveyPoint(103, 100), "s1"_q); // equally near: the result
+        QCOMPARE(layer.PickSurveyPoint(103.1, 100), "base-0"_q);
+        QCOMPARE(layer.PickSurveyPoint(200, 100), "s2"_q); // at the same place
+        QCOMPARE(layer.PickSurveyPoint(115.9, 100), "base-0"_q);
+        QCOMPARE(layer.PickSurveyPoint(116, 100), QString());
+
+        QString line;
+        QPointF measured;
+        QPointF designed;
+        QVERIFY(layer.GetSurveyPoint("s1"_q, line, measured, designed));
+        QCOMPARE(line, "1"_q);
+        QCOMPARE(measured, QPointF(100, 100));
+        QCOMPARE(designed, QPointF(101, 102));
+        QVERIFY(layer.GetBasePosition(1, measured));
+        QCOMPARE(measured, QPointF(200, 100));
+    }
+
+    void lookUpsOfTheUnknownLeaveTheOutputsAlone()
+    {
+        TestMap map;
+        map.addDesign("1", "d", 1, 2);
+        map.publish(events::kRefreshDesignLayer);
+        map.setStatus(status::kViewShowWhich, "0");
+        map.addResult("1", "s", 1, 2, {3, 4});
+        map.publish(events::kRefreshSurveyLayer);
+        const IDataLayer& layer = map.layer();
+        QString line = "kept"_q;
+        QPointF a(7, 8);
+        QPointF b(9, 10);
+        BaseStation record;
+        record.altitudeM = 11;
+        QVERIFY(!layer.GetDesignPoint("s"_q, line, a));
+        QVERIFY(!layer.GetSurveyPoint("d"_q, line, a, b));
+        for (const int index : {-1, 1, std::numeric_limits<int>::max()}) {
+            QVERIFY(!layer.GetBasePosition(index, a));
+            QVERIFY(!layer.GetBaseRecord(index, record));
+        }
+        QCOMPARE(line, "kept"_q);
+        QCOMPARE(a, QPointF(7, 8));
+        QCOMPARE(b, QPointF(9, 10));
+        QCOMPARE(record.altitudeM, 11.0);
+        QVERIFY(layer.GetBaseRecord(0, record));
+        QCOMPARE(record.north, 4.0);
+    }
+
+    void tipsNameWhatIsInView()
+    {
+        TestMap map;
+        map.addDesign("1", "d", 100, 100);
+        map.addResult("1", "s", 200, 200, {210, 200});
+        map.publish(events::kRefreshDesignLayer);
+        map.showAll();
+        QCOMPARE(map.layer().tipAt({101, 101}), "d"_q);
+        map.setStatus(status::kViewShowWhich, "0");
+        map.publish(events::kRefreshSurveyLayer);
+        map.showAll();
+        QCOMPARE(map.layer().tipAt({101, 101}), QString());
+        QCOMPARE(map.layer().tipAt({201, 200}), "s"_q);
+        QCOMPARE(map.layer().tipAt({209, 200}), "Base-1"_q); // as on the map
+    }
+
+    void progressTellsOfEachDrawnLine()
+    {
+        TestMap map;
+        for (const char* line : {"1", "2", "3", "4"})
+            map.addDesign(line, "1", 100, 100, line[0] == '2' ? 0 : 1);
+        map.publish(events::kRefreshDesignLayer);
+        map.picture();
+        EventLog progress(map.host.events, events::kProgress);
+        map.setStatus(status::kShowSourceLines, "0");
+        paint(map);
+        QCOMPARE(progress.payloads(),
+                 (Payloads{"text=Draw Design Data,value=25,is_exec=0",
+                           "text=Draw Design Data,value=75,is_exec=0",
+                           "text=Draw Design Data,value=100,is_exec=0", "show=0"}));
+        progress.events.clear();
+        map.setStatus(status::kViewShowWhich, "0");
+        map.addResult("1", "s", 1e6, 1e6, {9e5, 9e5}); // out of sight
+        map.publish(events::kRefreshSurveyLayer);
+        paint(map);
+        QCOMPARE(progress.payloads(),
+                 (Payloads{"text=Draw Survey Data,value=100,is_exec=0", "show=0"}));
+        progress.events.clear();
+        const std::atomic<bool> cancelled = true;
+        paint(map, &cancelled);
+        QCOMPARE(progress.payloads(), Payloads{"show=0"});
+
+        progress.events.clear(); // nothing is said without a design or a view
+        map.setStatus(status::kViewShowWhich, "2");
+        paint(map);
+        map.setStatus(status::kViewShowWhich, "1");
+        map.manager.designParameters().clear();
+        paint(map);
+        QCOMPARE(progress.payloads(), Payloads{});
+    }
+
+    /// If the layer published while it holds a mutex, this would wait for ever.
+    void aListenerMayRebuildDuringThePaint()
+    {
+        TestMap map;
+        map.setStatus(status::kViewShowWhich, "0");
+        for (const char* line : {"1", "2", "3"})
+            map.addResult(line, line, 100, 100, {150, 100});
+        map.publish(events::kRefreshSurveyLayer);
+        map.picture();
+        const Emptier emptier(map);
+        const EventLog progress(map.host.events, events::kProgress);
+        paint(map);
+        QCOMPARE(progress.events.size(), 4U); // the paint finishes with its own cache
+        QCOMPARE(map.layer().PickSurveyPoint(100, 100), QString());
+    }
+
+    void theMapShowsTheView()
+    {
+        TestMap map;
+        map.addDesign("1", "1", 100, 100);
+        map.addDesign("1", "2", 100, 300);
+        map.addDesign("2", "1", 200, 100, 0);
+        map.addResult("1", "s", 150, 200, {300, 150});
+        map.publish(events::kRefreshDesignLayer);
+        map.showAll();
+        QImage picture = map.picture();
+        QCOMPARE(picture.pixelColor(100, 200), QColor(Qt::cyan));
+        QVERIFY(picture.pixelColor(200, 200) != QColor(Qt::white)); // the line
+        QCOMPARE(picture.pixelColor(100, 100), QColor(Qt::darkBlue));
+
+        map.setStatus(status::kShowReceiverLines, "0");
+        map.window.redraw();
+        picture = map.picture();
+        QCOMPARE(picture.pixelColor(200, 200), QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(100, 100), QColor(Qt::darkBlue));
+
+        map.setStatus(status::kViewShowWhich, "0");
+        map.publish(events::kPaintingLayerUpdate);
+        map.showAll();
+        picture = map.picture();
+        QCOMPARE(picture.pixelColor(200, 150), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(300, 150), QColor(Qt::blue));
+        QVERIFY(picture.pixelColor(250, 150).green() > picture.pixelColor(250, 150).red());
+    }
+
+    void rebuildsAndPaintsMayMeet()
+    {
+        TestMap map;
+        for (int i = 0; i < 3000; ++i)
+            map.addResult(std::to_string(i / 50).c_str(), std::to_string(i).c_str(), i % 300,
+                          i / 10, {150, 150});
+        map.setStatus(status::kViewShowWhich, "0");
+        for (int i = 0; i < 20; ++i) {
+            map.publish(events::kRefreshSurveyLayer);
+            QTest::qWait(i % 4);
+        }
+        map.manager.surveyPoints().clear();
+        map.publish(events::kRefreshSurveyLayer);
+        const QImage picture = map.picture();
+        QCOMPARE(picture.pixelColor(200, 150), QColor(Qt::white));
+    }
+
+    void brokenPlacesAndTinyViews()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        TestMap map;
+        map.addDesign("1", "nan", nan, nan);
+        map.addDesign("1", "inf", HUGE_VAL, 5);
+        map.addDesign("2", "sound", 150, 200);
+        map.publish(events::kRefreshDesignLayer);
+        QCOMPARE(map.window.extent(), QRectF(200, 150, 10, 10));
+        QCOMPARE(map.layer().PickDesignPoint(nan, nan), QString());
+        QCOMPARE(map.layer().PickDesignPoint(200, 150), "sound"_q);
+        for (const double side : {1e15, 1e-9}) {
+            map.window.zoomRect(200, 150, 200 + side, 150 + side);
+            QVERIFY(!map.picture().isNull());
+        }
+        map.window.resize(0, 0);
+        paint(map);
+        map.addDesign("1", "far", 1e12, -1e12);
+        map.publish(events::kRefreshDesignLayer);
+        paint(map);
+        QCOMPARE(map.window.extent(), QRectF(QPointF(-1e12, 150), QPointF(200, 1e12)));
+    }
 
 private:
     /// Paints in this thread, so that the events come at once.
-    static void paint(TestMap& map, const std::atomic<bool>* cancelled = nullptr);
+    static void paint(TestMap& map, const std::atomic<bool>* cancelled = nullptr)
+    {
+        QImage picture(400, 300, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        PaintTarget target;
+        target.transform = map.window.transform();
+        target.status = basalt::Dictionary(get_system_status_dictionary());
+        target.cancelled = cancelled;
+        map.layer().preparePaint();
+        map.layer().Paint(target, {}, painter);
+    }
 };
-
-void DataLayerTest::paint(TestMap& map, const std::atomic<bool>* cancelled)
-{
-    QImage picture(400, 300, QImage::Format_RGB32);
-    QPainter painter(&picture);
-    PaintTarget target;
-    target.transform = map.window.transform();
-    target.status = basalt::Dictionary(get_system_status_dictionary());
-    target.cancelled = cancelled;
-    map.layer().preparePaint();
-    map.layer().Paint(target, {}, painter);
-}
-
-void DataLayerTest::eachEventRebuildsTheCacheInView_data()
-{
-    QTest::addColumn<QString>("event");
-    for (const char* name : {events::kPaintingLayerUpdate, events::kSettingViewFinished,
-                             events::kRefreshSurveyLayer, events::kRefreshDesignLayer})
-        QTest::newRow(name) << QString::fromLatin1(name);
-}
-
-void DataLayerTest::eachEventRebuildsTheCacheInView()
-{
-    QFETCH(QString, event);
-    TestMap map;
-    map.addDesign("1", "d", 100, 100);
-    map.addResult("1", "s", 200, 200, {210, 200});
-    QCOMPARE(map.layer().PickDesignPoint(100, 100), QString());
-    map.publish(event.toLatin1());
-    QCOMPARE(map.layer().PickDesignPoint(100, 100), QStringLiteral("d"));
-    QCOMPARE(map.layer().PickSurveyPoint(200, 200), QString());
-    QCOMPARE(map.window.extent(), QRectF(100, 100, 10, 10));
-
-    map.setStatus(status::kViewShowWhich, "0");
-    map.manager.designPoints().clear();
-    map.publish(event.toLatin1());
-    QCOMPARE(map.layer().PickSurveyPoint(200, 200), QStringLiteral("s"));
-    QCOMPARE(map.layer().PickDesignPoint(100, 100), QStringLiteral("d")); // not in view
-    QCOMPARE(map.window.extent(), QRectF(200, 200, 10, 10));
-}
-
-void DataLayerTest::otherViewsKeepTheCacheAndHandTheExtentOver()
-{
-    TestMap map;
-    map.addDesign("1", "d", 100, 100);
-    map.publish(events::kRefreshDesignLayer);
-    map.window.setExtent(0, 0, 1, 1);
-    map.manager.designPoints().clear();
-    map.setStatus(status::kViewShowWhich, "2");
-    map.publish(events::kRefreshDesignLayer);
-    QCOMPARE(map.window.extent(), QRectF(100, 100, 10, 10));
-    QCOMPARE(map.layer().PickDesignPoint(100, 100), QStringLiteral("d"));
-    map.host.windowRegistry.windows.clear();
-    map.publish(events::kRefreshDesignLayer); // no map to tell
-}
-
-void DataLayerTest::onlyTheTopOfTheExtentIsAWholeNumber()
-{
-    TestMap map;
-    map.addDesign("1", "1", -100.3, 20.7);
-    map.addDesign("1", "2", 150.7, 90.2);
-    map.publish(events::kRefreshDesignLayer);
-    QCOMPARE(map.layer().GetExtent(), QRectF(QPointF(20.7, -100.3), QPointF(90.2, 150.7)));
-    QCOMPARE(map.window.extent(), QRectF(QPointF(20.7, -101), QPointF(90.2, 150.7)));
-    map.addDesign("1", "3", -3e9, 0); // beyond what an int holds
-    map.publish(events::kRefreshDesignLayer);
-    QCOMPARE(map.window.extent().top(), -3e9);
-    map.manager.designPoints().clear();
-    map.publish(events::kRefreshDesignLayer);
-    QCOMPARE(map.window.extent(), QRectF(0, 0, 10, 10));
-}
-
-void DataLayerTest::aResultFarAwayAndTheSurveyAreInThePicture()
-{
-    for (const double far : {1e12, 1e15}) {
-        TestMap map;
-        map.setStatus(status::kViewShowWhich, "0");
-        map.addResult("1", "near", 4000000, 500000, {500100, 4000000});
-        map.addResult("1", "far", far, far, {500100, 4000000});
-        map.publish(events::kRefreshSurveyLayer);
-        map.window.zoomAll();
-        const QImage picture = map.picture();
-        for (const QPointF& place : {QPointF(500000, 4000000), QPointF(far, far)}) {
-            const QPoint pixel = map.window.transform().SurveyToScreen(place).toPoint();
-            QVERIFY(map.window.rect().adjusted(10, 10, -10, -10).contains(pixel));
-            QVERIFY(picture.pixelColor(pixel) != QColor(Qt::white));
-        }
-    }
-}
-
-void DataLayerTest::picksWithinTenPixels()
-{
-    TestMap map;
-    map.addDesign("1", "a", 100, 100);
-    map.addDesign("2", "b", 100, 112);
-    map.publish(events::kRefreshDesignLayer);
-    const IDataLayer& layer = map.layer();
-    map.window.zoomRect(0, 0, 400, 300);
-    QCOMPARE(map.window.transform().GetScale(), 1.0);
-    QCOMPARE(layer.PickDesignPoint(90.1, 100), QStringLiteral("a"));
-    QCOMPARE(layer.PickDesignPoint(90, 100), QString());
-    QCOMPARE(layer.PickDesignPoint(106, 100), QStringLiteral("a")); // as near: the earlier one
-    QCOMPARE(layer.PickDesignPoint(106.01, 100), QStringLiteral("b"));
-    map.window.zoomRect(0, 0, 800, 600);
-    QCOMPARE(layer.PickDesignPoint(80.2, 100), QStringLiteral("a"));
-    QCOMPARE(layer.PickDesignPoint(80, 100), QString());
-}
-
-void DataLayerTest::picksBaseStationsThatAreNearer()
-{
-    TestMap map;
-    map.setStatus(status::kViewShowWhich, "0");
-    map.addResult("1", "s1", 100, 100, {106, 100}, {101, 102});
-    map.addResult("1", "s2", 100, 200, {200, 100});
-    map.publish(events::kRefreshSurveyLayer);
-    map.showAll();
-    const IDataLayer& layer = map.layer();
-    QCOMPARE(layer.PickSurveyPoint(103, 100), QStringLiteral("s1")); // as near
-    QCOMPARE(layer.PickSurveyPoint(103.1, 100), QStringLiteral("base-0"));
-    QCOMPARE(layer.PickSurveyPoint(200, 100), QStringLiteral("s2")); // on top of each other
-    QCOMPARE(layer.PickSurveyPoint(115.9, 100), QStringLiteral("base-0"));
-    QCOMPARE(layer.PickSurveyPoint(116, 100), QString());
-
-    QString line;
-    QPointF measured;
-    QPointF designed;
-    QVERIFY(layer.GetSurveyPoint(QStringLiteral("s1"), line, measured, designed));
-    QCOMPARE(line, QStringLiteral("1"));
-    QCOMPARE(measured, QPointF(100, 100));
-    QCOMPARE(designed, QPointF(101, 102));
-    QVERIFY(layer.GetBasePosition(1, measured));
-    QCOMPARE(measured, QPointF(200, 100));
-}
-
-void DataLayerTest::lookUpsOfTheUnknownLeaveTheOutputsAlone()
-{
-    TestMap map;
-    map.addDesign("1", "d", 1, 2);
-    map.publish(events::kRefreshDesignLayer);
-    map.setStatus(status::kViewShowWhich, "0");
-    map.addResult("1", "s", 1, 2, {3, 4});
-    map.publish(events::kRefreshSurveyLayer);
-    const IDataLayer& layer = map.layer();
-    QString line = QStringLiteral("kept");
-    QPointF a(7, 8);
-    QPointF b(9, 10);
-    BaseStation record;
-    record.altitudeM = 11;
-    QVERIFY(!layer.GetDesignPoint(QStringLiteral("s"), line, a));
-    QVERIFY(!layer.GetSurveyPoint(QStringLiteral("d"), line, a, b));
-    for (const int index : {-1, 1, std::numeric_limits<int>::max()}) {
-        QVERIFY(!layer.GetBasePosition(index, a));
-        QVERIFY(!layer.GetBaseRecord(index, record));
-    }
-    QCOMPARE(line, QStringLiteral("kept"));
-    QCOMPARE(a, QPointF(7, 8));
-    QCOMPARE(b, QPointF(9, 10));
-    QCOMPARE(record.altitudeM, 11.0);
-    QVERIFY(layer.GetBaseRecord(0, record));
-    QCOMPARE(record.north, 4.0);
-}
-
-void DataLayerTest::tipsNameWhatIsInView()
-{
-    TestMap map;
-    map.addDesign("1", "d", 100, 100);
-    map.addResult("1", "s", 200, 200, {210, 200});
-    map.publish(events::kRefreshDesignLayer);
-    map.showAll();
-    QCOMPARE(map.layer().tipAt({101, 101}), QStringLiteral("d"));
-    map.setStatus(status::kViewShowWhich, "0");
-    map.publish(events::kRefreshSurveyLayer);
-    map.showAll();
-    QCOMPARE(map.layer().tipAt({101, 101}), QString());
-    QCOMPARE(map.layer().tipAt({201, 200}), QStringLiteral("s"));
-    QCOMPARE(map.layer().tipAt({209, 200}), QStringLiteral("Base-1")); // as on the map
-}
-
-void DataLayerTest::progressTellsOfEachDrawnLine()
-{
-    TestMap map;
-    for (const char* line : {"1", "2", "3", "4"})
-        map.addDesign(line, "1", 100, 100, line[0] == '2' ? 0 : 1);
-    map.publish(events::kRefreshDesignLayer);
-    map.picture();
-    TestListener progress;
-    map.host.events.subscribe(events::kProgress, &progress);
-    map.setStatus(status::kShowSourceLines, "0");
-    paint(map);
-    const QString design = QStringLiteral("text=Draw Design Data,value=%1,is_exec=0");
-    const QString end = QStringLiteral("show=0");
-    QCOMPARE(progress.payloads,
-             QStringList({design.arg(25), design.arg(75), design.arg(100), end}));
-
-    progress.payloads.clear();
-    map.setStatus(status::kViewShowWhich, "0");
-    map.addResult("1", "s", 1e6, 1e6, {9e5, 9e5}); // out of sight
-    map.publish(events::kRefreshSurveyLayer);
-    paint(map);
-    QCOMPARE(progress.payloads,
-             QStringList({QStringLiteral("text=Draw Survey Data,value=100,is_exec=0"), end}));
-
-    progress.payloads.clear();
-    const std::atomic<bool> cancelled = true;
-    paint(map, &cancelled);
-    QCOMPARE(progress.payloads, QStringList(end));
-    map.host.events.unsubscribe(events::kProgress, &progress);
-}
-
-void DataLayerTest::withoutADesignOrAViewNothingIsSaid()
-{
-    TestMap map;
-    map.addDesign("1", "1", 100, 100);
-    map.publish(events::kRefreshDesignLayer);
-    map.picture();
-    TestListener progress;
-    map.host.events.subscribe(events::kProgress, &progress);
-    map.setStatus(status::kViewShowWhich, "2");
-    paint(map);
-    map.setStatus(status::kViewShowWhich, "1");
-    map.manager.designParameters().clear();
-    paint(map);
-    QCOMPARE(progress.payloads, QStringList());
-    map.host.events.unsubscribe(events::kProgress, &progress);
-}
-
-void DataLayerTest::theMapShowsTheView()
-{
-    TestMap map;
-    map.addDesign("1", "1", 100, 100);
-    map.addDesign("1", "2", 100, 300);
-    map.addDesign("2", "1", 200, 100, 0);
-    map.addResult("1", "s", 150, 200, {300, 150});
-    map.publish(events::kRefreshDesignLayer);
-    map.showAll();
-    QImage picture = map.picture();
-    QCOMPARE(picture.pixelColor(100, 200), QColor(Qt::cyan));
-    QVERIFY(picture.pixelColor(200, 200) != QColor(Qt::white)); // the line
-    QCOMPARE(picture.pixelColor(100, 100), QColor(Qt::darkBlue));
-
-    map.setStatus(status::kShowReceiverLines, "0");
-    map.window.redraw();
-    picture = map.picture();
-    QCOMPARE(picture.pixelColor(200, 200), QColor(Qt::white));
-    QCOMPARE(picture.pixelColor(100, 100), QColor(Qt::darkBlue));
-
-    map.setStatus(status::kViewShowWhich, "0");
-    map.publish(events::kPaintingLayerUpdate);
-    map.showAll();
-    picture = map.picture();
-    QCOMPARE(picture.pixelColor(200, 150), QColor(Qt::red));
-    QCOMPARE(picture.pixelColor(300, 150), QColor(Qt::blue));
-    QVERIFY(picture.pixelColor(250, 150).green() > picture.pixelColor(250, 150).red());
-}
-
-void DataLayerTest::rebuildsAndPaintsMayMeet()
-{
-    TestMap map;
-    for (int i = 0; i < 3000; ++i)
-        map.addResult(std::to_string(i / 50).c_str(), std::to_string(i).c_str(), i % 300, i / 10,
-                      {150, 150});
-    map.setStatus(status::kViewShowWhich, "0");
-    for (int i = 0; i < 20; ++i) {
-        map.publish(events::kRefreshSurveyLayer);
-        QTest::qWait(i % 4);
-    }
-    map.manager.surveyPoints().clear();
-    map.publish(events::kRefreshSurveyLayer);
-    const QImage picture = map.picture();
-    QCOMPARE(picture.pixelColor(200, 150), QColor(Qt::white));
-}
-
-void DataLayerTest::brokenPlacesAndTinyViews()
-{
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    TestMap map;
-    map.addDesign("1", "nan", nan, nan);
-    map.addDesign("1", "inf", HUGE_VAL, 5);
-    map.addDesign("2", "sound", 150, 200);
-    map.publish(events::kRefreshDesignLayer);
-    QCOMPARE(map.window.extent(), QRectF(200, 150, 10, 10));
-    QCOMPARE(map.layer().PickDesignPoint(nan, nan), QString());
-    QCOMPARE(map.layer().PickDesignPoint(200, 150), QStringLiteral("sound"));
-    for (const double side : {1e15, 1e-9}) {
-        map.window.zoomRect(200, 150, 200 + side, 150 + side);
-        QVERIFY(!map.picture().isNull());
-    }
-    map.window.resize(0, 0);
-    paint(map);
-    map.addDesign("1", "far", 1e12, -1e12);
-    map.publish(events::kRefreshDesignLayer);
-    paint(map);
-    QCOMPARE(map.window.extent(), QRectF(QPointF(-1e12, 150), QPointF(200, 1e12)));
-}
 
 QTEST_MAIN(DataLayerTest)
 #include "DataLayerTest.moc"

@@ -11,6 +11,7 @@
 #include "map/ui/SeletePointReactor.h"
 #include "project/DataProcessDataManager.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/support/Literals.h"
 
 #include <QtTest>
 
@@ -38,8 +39,8 @@ public:
         if (!QTest::qWaitForWindowExposed(&window))
             qFatal("the map does not show");
         window.repaint();
-        host.windowRegistry.windows.insert(QStringLiteral("DataMap"), &window);
-        window.addLayer(QStringLiteral("DataProcessLayer"), basalt::Dictionary());
+        host.windowRegistry.windows.insert("DataMap"_q, &window);
+        window.addLayer("DataProcessLayer"_q, basalt::Dictionary());
         showAll();
     }
 
@@ -51,7 +52,7 @@ public:
     }
     [[nodiscard]] IDataLayer& layer()
     {
-        return dynamic_cast<IDataLayer&>(*window.layers().find(QStringLiteral("DataProcessLayer")));
+        return dynamic_cast<IDataLayer&>(*window.layers().find("DataProcessLayer"_q));
     }
     /// What shows once everything has been painted.
     QImage picture()

@@ -8,7 +8,7 @@
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Transform.h"
-#include "map/ui/MapHighlight.h"
+#include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ISurveyPointList.h"
 #include "protocol/Events.h"
@@ -281,12 +281,12 @@ void QualityDialogsTest::aClickComesNearEnough()
     map.show();
     map.zoomRect(0, 0, 400 * before, 300 * before);
     QCOMPARE(map.transform().GetScale(), before);
-    desktop::highlightOnMap(host, {3000, 4000}, {3000, 4000 + offset});
+    PointHighlight::show(host, {3000, 4000}, {3000, 4000 + offset});
     QCOMPARE(map.transform().center(), QPointF(3000, 4000));
     QTEST(map.transform().GetScale(), "after");
     map.zoomAbout(200, 150, 0.01);
     const Transform view = map.transform();
-    desktop::highlightOnMap(host, {3000, std::nan("")}, {3000, 4000});
+    PointHighlight::show(host, {3000, std::nan("")}, {3000, 4000});
     QVERIFY2(map.transform() == view, "there is no place to come near to");
 }
 

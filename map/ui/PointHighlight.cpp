@@ -1,4 +1,4 @@
-#include "map/ui/MapHighlight.h"
+#include "map/ui/PointHighlight.h"
 
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
@@ -15,11 +15,11 @@
 
 namespace {
 
-constexpr double kApart = 12;    // pixels between two points that are seen as two
-constexpr double kFinest = 0.05; // metres a pixel: the neighbours stay in sight
-constexpr double kCoarsest = 1;
+constexpr double kApart = 12;    // pixels: this far apart, two circles are seen as two
+constexpr double kFinest = 0.05; // metres a pixel: the neighbouring points stay in sight
+constexpr double kCoarsest = 1;  // metres a pixel
 
-/// Map units a pixel at which both positions and the place around them can be told.
+/// The scale, in metres a pixel, at which the two positions are seen as two.
 double scaleFor(const QPointF& measured, const QPointF& design)
 {
     const QPointF offset = design - measured;
@@ -27,10 +27,11 @@ double scaleFor(const QPointF& measured, const QPointF& design)
     return length > 0 ? std::clamp(length / kApart, kFinest, kCoarsest) : kCoarsest;
 }
 
-void show(IMapWindow& map, const QPointF& place, double scale)
+/// Centres the map on `place` and zooms in to `scale`, never out.
+void goTo(IMapWindow& map, const QPointF& place, double scale)
 {
     if (!std::isfinite(place.x()) || !std::isfinite(place.y()))
-        return; // nowhere to go
+        return;
     map.centerOn(place.x(), place.y());
     const Transform& view = map.transform();
     if (view.GetScale() > scale)
@@ -40,15 +41,15 @@ void show(IMapWindow& map, const QPointF& place, double scale)
 
 } // namespace
 
-namespace desktop {
+namespace PointHighlight {
 
-void highlightOnMap(IDesktopHost& host, const QPointF& measured, const QPointF& design)
+void show(IDesktopHost& host, const QPointF& measured, const QPointF& design)
 {
     auto* const map = host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
     if (map == nullptr)
         return;
     host.windows().activate(QStringLiteral("DataMap"));
-    show(*map, measured, scaleFor(measured, design));
+    goTo(*map, measured, scaleFor(measured, design));
     basalt::Dictionary properties;
     properties.set("point_radius", "5");
     QPolygonF positions;
@@ -63,4 +64,4 @@ void highlightOnMap(IDesktopHost& host, const QPointF& measured, const QPointF& 
     map->refreshOverlay();
 }
 
-} // namespace desktop
+} // namespace PointHighlight
