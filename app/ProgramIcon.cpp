@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr double kUnits = 64; ///< the drawing below is made on a square of this width
+constexpr double kUnits = 64; ///< width and height of the square that is drawn on
 
 void paintGround(QPainter& painter)
 {
@@ -17,7 +17,7 @@ void paintGround(QPainter& painter)
     painter.drawRoundedRect(QRectF(2, 2, 60, 60), 12, 12);
 }
 
-/// Receiver lines run across, a source line runs through them.
+/// Three receiver lines with their points.
 void paintGrid(QPainter& painter)
 {
     painter.setPen(QPen(QColor(255, 255, 255, 90), 1.4));

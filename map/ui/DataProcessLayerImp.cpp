@@ -99,20 +99,24 @@ void DataProcessLayerImp::rebuild()
 void DataProcessLayerImp::rebuildDesign()
 {
     static const DesignPoints kNone;
-    DataProcessDataManager* const manager = DataProcessDataManager::instance();
     const auto place = [this](double north, double east) { return toMap(north, east); };
     const std::lock_guard lock(m_designMutex);
-    m_design.rebuild(manager != nullptr ? manager->designPoints() : kNone, place);
+    m_design.rebuild(DataProcessDataManager::hasInstance()
+                         ? DataProcessDataManager::instance().designPoints()
+                         : kNone,
+                     place);
     m_extent = markExtent(m_design.table().gridBounds(), place);
 }
 
 void DataProcessLayerImp::rebuildSurvey()
 {
     static const SurveyPoints kNone;
-    DataProcessDataManager* const manager = DataProcessDataManager::instance();
     const auto place = [this](double north, double east) { return toMap(north, east); };
     const std::lock_guard lock(m_surveyMutex);
-    m_survey.rebuild(manager != nullptr ? manager->surveyPoints() : kNone, place);
+    m_survey.rebuild(DataProcessDataManager::hasInstance()
+                         ? DataProcessDataManager::instance().surveyPoints()
+                         : kNone,
+                     place);
     m_extent = markExtent(m_survey.gridBounds(), place);
 }
 
@@ -148,8 +152,8 @@ void DataProcessLayerImp::preparePaint()
     Surroundings now;
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         now.drawingArea = screen->geometry();
-    if (DataProcessDataManager* const manager = DataProcessDataManager::instance())
-        now.spacingM = smallestSpacingM(manager->designParameters());
+    if (DataProcessDataManager::hasInstance())
+        now.spacingM = smallestSpacingM(DataProcessDataManager::instance().designParameters());
     const std::lock_guard lock(m_surroundingsMutex);
     m_surroundings = now;
 }
