@@ -17,13 +17,13 @@ struct TestProject
     SurveyPoints survey;
     basalt::Dictionary coordParameters;
 
-    StoreResult load(const std::string& path, IEventManager* events = nullptr)
+    Outcome load(const std::string& path, IEventManager* events = nullptr)
     {
         DBAdapter database;
         ProgressReporter progress(events);
         return ProjectLoader(database, progress).load(path, design, survey, coordParameters);
     }
-    StoreResult save(const std::string& path, IEventManager* events = nullptr) const
+    Outcome save(const std::string& path, IEventManager* events = nullptr) const
     {
         DBAdapter database;
         ProgressReporter progress(events);
