@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 
 namespace {
 
@@ -47,28 +48,25 @@ void paintFlag(QPainter& painter)
     painter.drawEllipse(QPointF(26, 47), 4.2, 4.2);
 }
 
-} // namespace
-
-QPixmap programPixmap(int size, double devicePixelRatio)
+QPixmap pixmapOf(int size)
 {
-    const int pixels = qRound(size * devicePixelRatio);
-    QPixmap pixmap(pixels, pixels);
+    QPixmap pixmap(size, size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(pixels / kUnits, pixels / kUnits);
+    painter.scale(size / kUnits, size / kUnits);
     paintGround(painter);
     paintGrid(painter);
     paintFlag(painter);
-    painter.end();
-    pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
 }
+
+} // namespace
 
 QIcon programIcon()
 {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addPixmap(programPixmap(size));
+        icon.addPixmap(pixmapOf(size));
     return icon;
 }
