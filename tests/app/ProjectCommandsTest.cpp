@@ -47,8 +47,25 @@ FrameLayout installedMenus()
 
 using Button = LumMessageBox::Button;
 
-/// The events that are published, in order; those of a project's opening and closing with the state
-/// that their handlers see: "project_open", the folder's and the project's name, the frame's title.
+/// Events of these names as they are heard: a line each, with the state that their handlers see,
+/// the status keys and the title of the frame. `project` is the open one; none when it is empty.
+QByteArray heard(std::initializer_list<const char*> names, const QByteArray& project)
+{
+    QByteArray lines;
+    for (const char* name : names)
+        lines += name + (project.isEmpty()
+                             ? QByteArray(" 0|||Program\n")
+                             : " 1|" + project + '|' + project + '|' + project + " - Program\n");
+    return lines;
+}
+
+/// What is heard when a project is opened or, with an empty name, closed.
+QByteArray changeTo(const QByteArray& project)
+{
+    return heard({"REFRESH_DESIGN_LAYER", "REFRESH_SURVEY_LAYER", "UPDATE_SYSTEM_STATUS_EVENT"},
+                 project);
+}
+
 class Heard final : public IEventHandler
 {
 public:
@@ -63,36 +80,20 @@ public:
     }
     void handleEvent(const char* name, const char* /*payload*/, int /*reserved*/) override
     {
-        m_heard += name;
-        if (m_heard.endsWith("_LAYER") || m_heard.endsWith(events::kUpdateSystemStatus)) {
-            const IDictionary& status = get_system_status_dictionary();
-            const std::string folder(status.text(status::kProjectPath));
-            m_heard +=
-                ' ' +
-                QByteArray::fromStdString(std::string(status.text(status::kProjectOpen)) + '|' +
-                                          folder.substr(folder.rfind('/') + 1) + '|' +
-                                          std::string(status.text(status::kProjectName)) + '|') +
-                m_frame.windowTitle().toUtf8();
-        }
-        m_heard += '\n';
+        const IDictionary& values = get_system_status_dictionary();
+        const std::string folder(values.text(status::kProjectPath));
+        lines += name + QByteArray(" ") +
+                 std::to_string(values.integer(status::kProjectOpen)).c_str() + '|' +
+                 folder.substr(folder.rfind('/') + 1).c_str() + '|' +
+                 std::string(values.text(status::kProjectName)).c_str() + '|' +
+                 m_frame.windowTitle().toUtf8() + '\n';
     }
-    QByteArray take() { return std::exchange(m_heard, {}); }
+    QByteArray lines;
 
 private:
     const QWidget& m_frame;
-    QByteArray m_heard;
     EventSubscription m_subscription;
 };
-
-/// What is heard when a project is opened or, with an empty name, closed.
-QByteArray changeTo(const QByteArray& name)
-{
-    const QByteArray state = name.isEmpty()
-                                 ? QByteArray(" 0|||Program\n")
-                                 : " 1|" + name + '|' + name + '|' + name + " - Program\n";
-    return "REFRESH_DESIGN_LAYER" + state + "REFRESH_SURVEY_LAYER" + state +
-           "UPDATE_SYSTEM_STATUS_EVENT" + state;
-}
 
 /// The dialog that stands in front, once there is one; then `act` is called with it.
 void whenDialog(const char* className, std::function<void(QDialog&)> act)
@@ -191,7 +192,7 @@ class ProjectCommandsTest : public QObject
         QVERIFY(m_frame->openFile(place(name).file));
         QVERIFY(isOpen());
         m_asked.clear();
-        m_heard->take();
+        m_heard->lines.clear();
     }
     void newProject(const char* name, std::function<void(QDialog&)> inSettings = apply)
     {
@@ -205,7 +206,10 @@ class ProjectCommandsTest : public QObject
     }
     void answerNo(const char* question) { m_answers[QString::fromUtf8(question)] = Button::No; }
     void expectAsked(const char* lines) { QCOMPARE(std::exchange(m_asked, {}), QByteArray(lines)); }
-    void expectHeard(const QByteArray& lines) { QCOMPARE(m_heard->take(), lines); }
+    void expectHeard(const QByteArray& lines)
+    {
+        QCOMPARE(std::exchange(m_heard->lines, {}), lines);
+    }
     [[nodiscard]] QAction* action(const char* command) const
     {
         return m_host->commands().action(QString::fromUtf8(command));
@@ -281,7 +285,8 @@ private Q_SLOTS:
             applySystem(settings, "32650");
         });
         QVERIFY(coordParameter("coord_param_id") == "EPSG:32650");
-        expectHeard("ON_PROJECT_CHANGED\nON_SETTING_VIEW_FINISHED\n" + changeTo("测区 7"));
+        expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "") +
+                    changeTo("测区 7"));
         expectAsked("");
     }
 
@@ -329,7 +334,7 @@ private Q_SLOTS:
         QVERIFY(m_details.contains(QStringLiteral("another program")));
         other.clear();
         m_asked.clear();
-        m_heard->take();
+        m_heard->lines.clear();
 
         QVERIFY(QFile::remove(place("a").database()));
         m_chosenFile = place("a").file;
@@ -401,24 +406,6 @@ private Q_SLOTS:
         QVERIFY(!isOpen());
     }
 
-    void theProgramClosesItsProjectFirst()
-    {
-        makeProject("a");
-        open("a");
-        answerNo("是否退出程序？");
-        QVERIFY(!m_frame->close());
-        expectAsked("information: save project?\nsuccess: Save project success!\n"
-                    "提示: 是否退出程序？\n");
-        QVERIFY(isOpen("a") && DataProcessDataManager::hasInstance());
-        m_answers.clear();
-        QVERIFY(m_frame->close());
-        expectHeard(changeTo(""));
-        QVERIFY(!isOpen() && !DataProcessDataManager::hasInstance());
-        m_asked.clear();
-        QVERIFY(m_frame->close()); // without a project and its manager
-        expectAsked("提示: 是否退出程序？\n");
-    }
-
     void changesTheSettingsOfTheOpenProject()
     {
         makeProject("a");
@@ -432,7 +419,7 @@ private Q_SLOTS:
         run("Project Settings");
         QVERIFY(coordParameter("coord_param_id") != "Undefined");
         QCOMPARE(manager().surveyPoints().find("1", "2")->seaHeight, 4.0);
-        expectHeard("ON_PROJECT_CHANGED\nON_SETTING_VIEW_FINISHED\n");
+        expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "a"));
         const std::string chosen = coordParameter("org_lon");
         run("Close Project"); // saves
         open("a");
@@ -502,7 +489,7 @@ private Q_SLOTS:
         QCOMPARE(choose(0, 5, "取消"), -99);
         expectHeard("");
         QCOMPARE(choose(1, 5, "确认"), 0);
-        expectHeard("REFRESH_SURVEY_TABLE\n");
+        expectHeard(heard({"REFRESH_SURVEY_TABLE"}, ""));
         QCOMPARE(choose(2, 3, "确认"), -9);
         QCOMPARE(choose(0, 3, "确认"), 8);
     }
@@ -513,11 +500,30 @@ private Q_SLOTS:
         expectHeard("");
         run("Degree-minute-second Format");
         QCOMPARE(get_system_status_dictionary().integer(status::kDegreeFormat), 1);
-        expectHeard("REFRESH_SURVEY_TABLE\n");
+        expectHeard(heard({"REFRESH_SURVEY_TABLE"}, ""));
         QVERIFY(action("Degree-minute-second Format")->isChecked());
         get_system_status_dictionary().set(status::kShowAllLines, "1");
         run("Degree Format");
-        expectHeard("ON_CLEAR_SURVEY_TABLE\n");
+        expectHeard(heard({"ON_CLEAR_SURVEY_TABLE"}, ""));
+    }
+
+    // Last: the program quits, and every later dialog would end at once.
+    void theProgramClosesItsProjectFirst()
+    {
+        makeProject("a");
+        open("a");
+        answerNo("是否退出程序？");
+        QVERIFY(!m_frame->close());
+        expectAsked("information: save project?\nsuccess: Save project success!\n"
+                    "提示: 是否退出程序？\n");
+        QVERIFY(isOpen("a") && DataProcessDataManager::hasInstance());
+        m_answers.clear();
+        QVERIFY(m_frame->close());
+        expectHeard(changeTo(""));
+        QVERIFY(!isOpen() && !DataProcessDataManager::hasInstance());
+        m_asked.clear();
+        QVERIFY(m_frame->close()); // without a project and its manager
+        expectAsked("提示: 是否退出程序？\n");
     }
 };
 
