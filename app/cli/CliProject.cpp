@@ -21,7 +21,7 @@ Outcome CliProject::open(const QString& file, ProjectAccess access)
     if (!QFileInfo(file).isFile())
         return Outcome::failed(QStringLiteral("There is no project file \"%1\".").arg(file));
     m_place = ProjectPlace::ofFile(file);
-    const Outcome opening = m_manager.openProject(m_place, access);
+    Outcome opening = m_manager.openProject(m_place, access);
     if (opening.isDone() && !opening.text().isEmpty())
         std::fprintf(stderr, "%s\n", qUtf8Printable(opening.text()));
     return opening;
