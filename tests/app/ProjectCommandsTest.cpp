@@ -411,14 +411,12 @@ private Q_SLOTS:
         makeProject("a");
         open("a");
         SurveyPoint point;
-        point.lineNumber = "1";
-        point.pointNumber = "2";
         point.elevation = 4;
         manager().surveyPoints().set(point);
         whenDialog("DlgProjectSet", [](QDialog& settings) { applySystem(settings, "21417"); });
         run("Project Settings");
         QVERIFY(coordParameter("coord_param_id") != "Undefined");
-        QCOMPARE(manager().surveyPoints().find("1", "2")->seaHeight, 4.0);
+        QCOMPARE(manager().surveyPoints().find("", "")->seaHeight, 4.0);
         expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "a"));
         const std::string chosen = coordParameter("org_lon");
         run("Close Project"); // saves

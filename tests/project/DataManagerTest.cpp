@@ -15,14 +15,7 @@ namespace {
 class DataManager : public testing::Test
 {
 protected:
-    DataManager()
-    {
-        SurveyPoint point;
-        point.lineNumber = "L";
-        point.pointNumber = "P";
-        point.latitude = 30.5;
-        manager.surveyPoints().set(point);
-    }
+    DataManager() { manager.surveyPoints().set(surveyPoint("L", "P")).latitude = 30.5; }
 
     TestFolder folder;
     Host host;

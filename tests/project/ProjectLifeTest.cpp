@@ -8,6 +8,7 @@
 #include "project/ProjectPlace.h"
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/OrdinaryUser.h"
+#include "tests/project/TestProject.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
@@ -58,14 +59,6 @@ protected:
     {
         ASSERT_FALSE(root.write(QDir(root.path()).relativeFilePath(path), text).isEmpty());
     }
-    static SurveyPoint result(const char* point)
-    {
-        SurveyPoint made;
-        made.lineNumber = "L1";
-        made.pointNumber = point;
-        made.elevation = 12.5;
-        return made;
-    }
 
     TestFolder root;
     ProjectPlace place = ProjectPlace::planned(root.path(), QStringLiteral("测区 1"));
@@ -83,7 +76,7 @@ TEST_F(ProjectLife, TheCoordinateSystemSurvivesFromTheCreationOn)
     const IDictionary& system = get_project_coord_transform().parameters();
     EXPECT_EQ(system.text("org_lon"), "117");
     EXPECT_EQ(manager.project().text("crew"), "测量一队");
-    manager.surveyPoints().set(result("7"));
+    manager.surveyPoints().set(surveyPoint("L1", "7")).elevation = 12.5;
     manager.project().set("crew", "second");
     expectDone(manager.saveProject(place));
     manager.clear();
@@ -165,14 +158,14 @@ TEST_F(ProjectLife, WithoutALockNothingIsOverwritten)
         expectFailure(manager.saveProject(place), "cannot be saved");
     };
     openOnAFullDisk();
-    manager.surveyPoints().set(result("7"));
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
     expectDone(manager.saveProject(place)); // the disk has room again
     manager.clear();
 
     openOnAFullDisk();
     expectDone(other.openProject(place));
     expectFailure(manager.saveProject(place), "another program");
-    other.surveyPoints().set(result("8"));
+    other.surveyPoints().set(surveyPoint("L1", "8"));
     expectDone(other.saveProject(place));
     other.clear();
     for (int i = 0; i < 2; ++i)
@@ -182,7 +175,7 @@ TEST_F(ProjectLife, WithoutALockNothingIsOverwritten)
 TEST_F(ProjectLife, AMissingDatabaseIsMadeBySavingAlone)
 {
     createAndOpen();
-    manager.surveyPoints().set(result("7"));
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
     ASSERT_TRUE(QFile::remove(database));
     expectFailure(other.openProject(place, ProjectAccess::Look), database.toUtf8());
     EXPECT_FALSE(QFile::exists(database));
@@ -229,7 +222,7 @@ TEST_F(ProjectLife, ParametersEndWithTheirProject)
 TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
 {
     createAndOpen();
-    manager.surveyPoints().set(result("7"));
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
     expectDone(manager.saveProject(place));
     manager.clear();
     const QByteArray before = TestFolder::read(database);
@@ -240,7 +233,7 @@ TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
         const OrdinaryUser user;
         expectNotice(manager.openProject(place), "cannot be saved");
         EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
-        manager.surveyPoints().set(result("8"));
+        manager.surveyPoints().set(surveyPoint("L1", "8"));
         expectFailure(manager.saveProject(place), "cannot be saved");
         EXPECT_TRUE(manager.isSaveOwed());
         EXPECT_EQ(manager.surveyPoints().pointCount(), 2U);

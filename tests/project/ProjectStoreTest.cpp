@@ -52,13 +52,8 @@ TEST_F(ProjectStore, BringsBackWhatWasSaved)
 {
     TestProject project = TestProject::made(7, 300, "first, \"测\"");
     SurveyPointFiler filer(project.survey);
-    for (int i = 0; i < 13; ++i) { // measurements of one check point keep their order
-        SurveyPoint point;
-        point.lineNumber = "1";
-        point.pointNumber = "C12345678";
-        point.remarks = std::to_string(i);
-        filer.file(std::move(point));
-    }
+    for (int i = 0; i < 13; ++i) // measurements of one check point keep their order
+        filer.file(surveyPoint("1", "C12345678", std::to_string(i)));
     expectDone(project.save(path));
     const std::string before = content();
     TestProject loaded = TestProject::made(2, 2, "replaced");
