@@ -12,7 +12,7 @@ void CoordFormatCommand::execute()
         return;
     IDictionary& values = get_system_status_dictionary();
     values.set(status::kDegreeFormat, std::to_string(format()));
-    // A table of all lines is emptied rather than written anew.
+    // A survey table that shows all lines is cleared, not rewritten.
     const bool isAllLines = values.integer(status::kShowAllLines) != 0;
     host().eventManager().publish(
         isAllLines ? events::kClearSurveyTable : events::kRefreshSurveyTable, nullptr, 0);

@@ -4,7 +4,6 @@
 #include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
@@ -12,6 +11,7 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
+#include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 
@@ -54,7 +54,7 @@ int DataProcess5Assistant::onMapViewCreated()
 int DataProcess5Assistant::openMainWindows()
 {
     IWindowRegistry& windows = m_host.windows();
-    windows.activate(QStringLiteral("DataProcessView")); // an arrangement that has such a view
+    windows.activate(QStringLiteral("DataProcessView")); // for layouts that have this window
     openTable(windows, "DesignLineTable", "Design Line Table");
     openTable(windows, "SurveyDataTable", "Survey Data Table");
     return 1;
@@ -62,9 +62,7 @@ int DataProcess5Assistant::openMainWindows()
 
 int DataProcess5Assistant::queryClose()
 {
-    if (get_system_status_dictionary().integer(status::kProjectOpen) != 0)
-        m_host.commands().execute(QStringLiteral("Save Project"));
-    if (!ProjectSession::mayForget(m_host))
+    if (!ProjectSession::offerSave(m_host))
         return 0;
     using Button = LumMessageBox::Button;
     const Button answer = LumMessageBox::information(
@@ -72,6 +70,8 @@ int DataProcess5Assistant::queryClose()
         LumMessageBox::Buttons(Button::Yes) | Button::No);
     if (answer != Button::Yes)
         return 0;
+    if (ProjectState::isOpen())
+        ProjectSession::forget(m_host);
     m_dataManager.reset();
     return 1;
 }
@@ -81,7 +81,7 @@ int DataProcess5Assistant::openFile(const QString& path)
     if (QFileInfo(path).suffix().compare(projectExtension(), Qt::CaseInsensitive) != 0)
         return 0;
     if (ProjectSession::closeCurrent(m_host))
-        ProjectSession::open(m_host, path);
+        ProjectSession::openFile(m_host, path);
     return 1;
 }
 

@@ -9,9 +9,9 @@
 
 class IDesktopHost;
 
-/// The program's assistant, registered as "DataProcess5": it owns the data manager, puts the layers
-/// on the map and the tables beside it, asks before the program closes, and turns the map's cursor
-/// position into the text of the status bar.
+/// The program's assistant, registered as "DataProcess5". It owns the data manager, adds the layers
+/// to the map, opens the tables, asks before the program closes, and turns the position of the
+/// map's cursor into the text of the status bar.
 class DataProcess5Assistant final : public GuiAssistantBase, public IEventHandler
 {
 public:
@@ -19,7 +19,8 @@ public:
 
     int onMapViewCreated() override;
     int openMainWindows() override;
-    /// Saves an open project first, whatever the answer will be.
+    /// Offers to save an open project, then asks whether to exit. After a yes the project is closed
+    /// and the data manager ended.
     int queryClose() override;
     int openFile(const QString& path) override;
 

@@ -2,10 +2,11 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 
 namespace {
 
-constexpr double kUnits = 64; ///< the drawing below is made on a square of this width
+constexpr double kUnits = 64; ///< width and height of the square that is drawn on
 
 void paintGround(QPainter& painter)
 {
@@ -17,7 +18,7 @@ void paintGround(QPainter& painter)
     painter.drawRoundedRect(QRectF(2, 2, 60, 60), 12, 12);
 }
 
-/// Receiver lines run across, a source line runs through them.
+/// Three receiver lines with their points.
 void paintGrid(QPainter& painter)
 {
     painter.setPen(QPen(QColor(255, 255, 255, 90), 1.4));
@@ -47,28 +48,25 @@ void paintFlag(QPainter& painter)
     painter.drawEllipse(QPointF(26, 47), 4.2, 4.2);
 }
 
-} // namespace
-
-QPixmap programPixmap(int size, double devicePixelRatio)
+QPixmap pixmapOf(int size)
 {
-    const int pixels = qRound(size * devicePixelRatio);
-    QPixmap pixmap(pixels, pixels);
+    QPixmap pixmap(size, size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(pixels / kUnits, pixels / kUnits);
+    painter.scale(size / kUnits, size / kUnits);
     paintGround(painter);
     paintGrid(painter);
     paintFlag(painter);
-    painter.end();
-    pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
 }
+
+} // namespace
 
 QIcon programIcon()
 {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addPixmap(programPixmap(size));
+        icon.addPixmap(pixmapOf(size));
     return icon;
 }

@@ -61,7 +61,7 @@ void ProgressStatusBarForSkyquill::timerEvent(QTimerEvent* /*event*/)
 bool ProgressStatusBarForSkyquill::canWait(const char* payload) const
 {
     return m_sinceShown.isValid() && !m_sinceShown.hasExpired(kFrameMs) &&
-           std::strstr(payload, "show=") == nullptr; // coming and going is never put off
+           std::strstr(payload, "show=") == nullptr; // showing and hiding never wait
 }
 
 void ProgressStatusBarForSkyquill::showPayload(const char* payload)
@@ -90,7 +90,7 @@ void ProgressStatusBarForSkyquill::paintNow()
 {
     if (!isVisible())
         return;
-    // A bar that has just come or whose text has grown must be laid out before it is painted.
+    // A bar that has just appeared, or whose text has grown, must be laid out before it is painted.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     if (QWidget* const statusBar = parentWidget())
         statusBar->repaint();

@@ -15,11 +15,11 @@ class IDesktopHost;
 class QLabel;
 class QProgressBar;
 
-/// Progress of the long operation that is under way, in the status bar; hidden otherwise.
+/// Shows the progress of a long operation in the status bar; hidden while there is none.
 ///
-/// It paints at once, since the operation holds the GUI thread, but at most about 30 times a
-/// second. A payload that comes sooner is kept unread, and replaced by the next one; the last one
-/// is always shown.
+/// The operation keeps the GUI thread busy, so the bar paints itself at once, but at most about 30
+/// times a second. A payload that comes sooner waits unread until the next one replaces it or a
+/// timer shows it: the last one is always shown.
 class ProgressStatusBarForSkyquill final : public QWidget, public IWindowx, public IEventHandler
 {
 public:
@@ -42,7 +42,7 @@ private:
     QProgressBar* m_bar;
     QLabel* m_label;
 
-    basalt::Dictionary m_values; ///< of the payload being shown; kept for its memory
+    basalt::Dictionary m_values; ///< of the payload being shown; a member to reuse its memory
     std::string m_waiting;       ///< the payload that came too soon
     bool m_isWaiting = false;
     QElapsedTimer m_sinceShown;

@@ -1,5 +1,5 @@
-// Every component that the program offers, registered before main. Compiled into the program
-// itself: the linker would drop this file from a library, since nobody refers to it.
+// Registers every component of the product before main starts. This file is compiled into the
+// program itself: from a library the linker would leave it out, since nothing refers to it.
 
 #include "app/AboutCommand.h"
 #include "app/CoordFormatCommand.h"

@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kSystemFile =
     "$(APP_DIR)/../etc/Tarvona/config/Skyquill/Tool/DataProcess5/data_process_5.sys";
-constexpr const char* kNoServer = ""; // without one in the configuration nothing is ever sent
+constexpr const char* kNoServer = ""; // the default: without a server nothing is ever sent
 
 void beginSession(const IDictionary& config)
 {

@@ -2,8 +2,7 @@
 
 #include "lum_sdk/database/IDBAdapter.h"
 
-/// The adapter through which a project's database passes: every operation goes to an inner adapter,
-/// which it gets from the factory and gives back.
+/// The access to a project's database: hands every operation to an adapter that the factory makes.
 class DBAdapter final : public IDBAdapter
 {
 public:
@@ -12,8 +11,6 @@ public:
 
     DBAdapter(const DBAdapter&) = delete;
     DBAdapter& operator=(const DBAdapter&) = delete;
-
-    [[nodiscard]] IDBAdapter& inner() { return *m_inner; }
 
     bool open(const char* connection) override;
     void close() override;
@@ -43,5 +40,5 @@ public:
     bool rollback() override;
 
 private:
-    IDBAdapter* m_inner; // the factory's
+    IDBAdapter* m_inner; // from the factory, which also ends it
 };

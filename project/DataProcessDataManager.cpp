@@ -1,5 +1,6 @@
 #include "project/DataProcessDataManager.h"
 
+#include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "exchange/DesignCsvReader.h"
@@ -48,32 +49,35 @@ void setUpRasterLibrary()
     GDALAllRegister();
 }
 
-/// Puts another sentence under what the user is told.
-void addNotice(QString& message, const QString& notice)
+/// What every operation on files ends with: the log gets why it failed, or what the user is told.
+Outcome logged(Outcome outcome)
 {
-    if (!message.isEmpty() && !notice.isEmpty())
-        message += QLatin1Char('\n');
-    message += notice;
+    if (!outcome.isDone())
+        basalt::logError(outcome.detail());
+    else if (!outcome.text().isEmpty())
+        basalt::logInfo(outcome.text().toStdString());
+    return outcome;
 }
 
-int exported(const QString& path, const QString& fault)
+/// The same for operations that answer by a number.
+int answered(const Outcome& outcome, Outcome* asked)
+{
+    if (asked != nullptr)
+        *asked = outcome;
+    return logged(outcome).toFlag();
+}
+
+/// \param fault  of a writer; empty when it has written
+Outcome exported(const QString& path, const QString& fault)
 {
     if (fault.isEmpty())
-        return 1;
-    basalt::logError("Cannot write \"" + path.toStdString() + "\": " + fault.toStdString());
-    return 0;
+        return Outcome::done();
+    return Outcome::failed(QStringLiteral("Cannot write \"%1\": %2").arg(path, fault));
 }
 
-int imported(bool isRead, ImportSummary& own, ImportSummary* asked)
+Outcome imported(bool isRead, const ImportSummary& summary)
 {
-    const std::string text = own.toText().toStdString();
-    if (isRead)
-        basalt::logInfo(text);
-    else
-        basalt::logError(text);
-    if (asked != nullptr)
-        *asked = std::move(own);
-    return isRead ? 1 : 0;
+    return isRead ? Outcome::done(summary.toText()) : Outcome::failed(summary.toText());
 }
 } // namespace
 
@@ -93,38 +97,45 @@ DataProcessDataManager::~DataProcessDataManager()
         managerInUse = nullptr;
 }
 
-DataProcessDataManager* DataProcessDataManager::instance()
+DataProcessDataManager& DataProcessDataManager::instance()
 {
-    return managerInUse;
+    if (managerInUse == nullptr)
+        fatal_report("There is no data manager.");
+    return *managerInUse;
 }
 
-StoreResult DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAccess access)
+bool DataProcessDataManager::hasInstance()
 {
-    StoreResult lock = access == ProjectAccess::Change ? m_lock.take(place) : StoreResult{true, {}};
-    if (!lock.isDone)
-        return lock;
-    StoreResult result = read(place);
-    if (result.isDone)
-        addNotice(result.message, lock.message);
+    return managerInUse != nullptr;
+}
+
+Outcome DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAccess access)
+{
+    const Outcome locking = access == ProjectAccess::Change ? m_lock.take(place) : Outcome::done();
+    if (!locking.isDone())
+        return logged(locking);
+    Outcome reading = read(place);
+    if (reading.isDone())
+        reading.add(locking.text());
     else
-        clear(); // what was read of a project that is not open
+        clear(); // what was read before the failure
     m_isSaveOwed = false;
-    return result;
+    return logged(reading);
 }
 
-StoreResult DataProcessDataManager::read(const ProjectPlace& place)
+Outcome DataProcessDataManager::read(const ProjectPlace& place)
 {
     basalt::Dictionary quality;
     basalt::Dictionary design;
-    if (const QString fault = ParameterFiles::read(place.folder, quality, design); !fault.isEmpty())
-        return {false, fault};
+    if (Outcome reading = ParameterFiles::read(place.folder, quality, design); !reading.isDone())
+        return reading;
     basalt::Dictionary project;
-    const bool isProjectFileOurs = ProjectFile::read(place.file, project);
+    const Outcome projectFile = ProjectFile::read(place.file, project);
     basalt::Dictionary coordSystem;
-    StoreResult result = readDatabase(place.database(), coordSystem);
-    if (!result.isDone)
-        return result;
-    if (coordSystem.size() == 0) { // until the first save it stands in the project file alone
+    Outcome reading = readDatabase(place.database(), coordSystem);
+    if (!reading.isDone())
+        return reading;
+    if (coordSystem.size() == 0) { // before the first save only the project file has it
         dictionary_copy(project, coordSystem, CoordinateRecord::kKeys);
         dictionary_copy(project, coordSystem, CoordinateRecord::kId);
     }
@@ -132,36 +143,30 @@ StoreResult DataProcessDataManager::read(const ProjectPlace& place)
     dictionary_copy(quality, m_qualityParameters);
     dictionary_copy(design, m_designParameters);
     m_project = std::move(project);
-    m_projectFile = isProjectFileOurs ? place.file : QString();
-    if (!isProjectFileOurs)
-        addNotice(result.message,
-                  QCoreApplication::translate("ProjectStore",
-                                              "The project file \"%1\" cannot be read: what it "
-                                              "says about the project is neither shown nor saved.")
-                      .arg(place.file));
-    return result;
+    m_projectFile = projectFile.isDone() ? place.file : QString();
+    reading.add(projectFile.text());
+    return reading;
 }
 
-StoreResult DataProcessDataManager::saveProject(const ProjectPlace& place)
+Outcome DataProcessDataManager::saveProject(const ProjectPlace& place)
 {
-    m_isSaveOwed = true;
-    if (StoreResult lock = m_lock.ensure(place); !lock.isDone)
-        return lock;
-    if (const QString fault = ProjectCreator::replaceDatabase(place); !fault.isEmpty())
-        return {false, fault};
-    StoreResult result = save(place.database());
-    if (!result.isDone)
-        return result;
-    if (const QString fault =
-            ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
-        !fault.isEmpty())
-        return {false, fault};
-    if (!m_projectFile.isEmpty() && !ProjectFile::write(m_projectFile, m_project))
-        return {false, QCoreApplication::translate("ProjectStore",
-                                                   "The project file \"%1\" cannot be written.")
-                           .arg(m_projectFile)};
-    m_isSaveOwed = false;
-    return result;
+    const Outcome writing = write(place);
+    m_isSaveOwed = !writing.isDone();
+    return logged(writing);
+}
+
+Outcome DataProcessDataManager::write(const ProjectPlace& place)
+{
+    Outcome writing = m_lock.ensure(place);
+    if (writing.isDone())
+        writing = ProjectCreator::replaceDatabase(place);
+    if (writing.isDone())
+        writing = writeDatabase(place.database());
+    if (writing.isDone())
+        writing = ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
+    if (writing.isDone() && !m_projectFile.isEmpty())
+        writing = ProjectFile::write(m_projectFile, m_project);
+    return writing;
 }
 
 void DataProcessDataManager::clear()
@@ -177,33 +182,74 @@ void DataProcessDataManager::clear()
     m_isSaveOwed = false;
 }
 
-StoreResult DataProcessDataManager::load(const QString& path)
+int DataProcessDataManager::load(const QString& path, Outcome* outcome)
 {
     basalt::Dictionary coordSystem;
-    StoreResult result = readDatabase(path, coordSystem);
+    const Outcome reading = readDatabase(path, coordSystem);
     if (coordSystem.size() != 0)
         setCoordSystem(coordSystem);
-    return result;
+    return answered(reading, outcome);
 }
 
-StoreResult DataProcessDataManager::readDatabase(const QString& path, IDictionary& coordSystem)
+int DataProcessDataManager::save(const QString& path, Outcome* outcome)
+{
+    return answered(writeDatabase(path), outcome);
+}
+
+Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& coordSystem)
 {
     ProgressReporter progress(&m_host.eventManager());
     return ProjectLoader(m_database, progress)
         .load(path.toStdString(), m_design, m_survey, coordSystem);
 }
 
-void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
-{
-    get_project_coord_transform().initialise(parameters, parameters);
-    recomputeSeaHeights();
-}
-
-StoreResult DataProcessDataManager::save(const QString& path)
+Outcome DataProcessDataManager::writeDatabase(const QString& path)
 {
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(m_database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters());
+}
+
+int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QString& path,
+                                            bool onlyUnsurveyed, Outcome* outcome)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    const QString fault = writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress);
+    return answered(exported(path, fault), outcome);
+}
+
+int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcome)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    ImportSummary summary;
+    const bool isRead = readDesignCsv(path, m_design, progress, summary);
+    return answered(imported(isRead, summary), outcome);
+}
+
+int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QString& path,
+                                            const QStringList& captions, Outcome* outcome)
+{
+    if (m_exportCaptions.isEmpty())
+        m_exportCaptions = m_surveyCaptions;
+    const SurveyCsvChoice choice{captions.isEmpty() ? m_exportCaptions : captions,
+                                 get_system_status_dictionary().integer(status::kDegreeFormat)};
+    ProgressReporter progress(&m_host.eventManager());
+    const QString fault = writeSurveyCsv(path, m_survey, lines, choice, progress);
+    return answered(exported(path, fault), outcome);
+}
+
+int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    ImportSummary summary;
+    const bool isRead = readSurveyCsv(path, m_survey, progress, summary);
+    return answered(imported(isRead, summary), outcome);
+}
+
+void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
+{
+    get_project_coord_transform().initialise(parameters, parameters);
+    recomputeSeaHeights();
 }
 
 void DataProcessDataManager::recomputeSeaHeights()
@@ -241,37 +287,6 @@ std::vector<QualityRow> DataProcessDataManager::describeQuality() const
             ::describeQuality(point, limits, rows);
     }
     return rows;
-}
-
-int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QString& path,
-                                            bool onlyUnsurveyed)
-{
-    ProgressReporter progress(&m_host.eventManager());
-    return exported(path, writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress));
-}
-
-int DataProcessDataManager::importDesignCsv(const QString& path, ImportSummary* summary)
-{
-    ProgressReporter progress(&m_host.eventManager());
-    ImportSummary own;
-    return imported(readDesignCsv(path, m_design, progress, own), own, summary);
-}
-
-int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QString& path)
-{
-    ProgressReporter progress(&m_host.eventManager());
-    if (m_exportCaptions.isEmpty())
-        m_exportCaptions = m_surveyCaptions;
-    const int format = get_system_status_dictionary().integer(status::kDegreeFormat);
-    return exported(path,
-                    writeSurveyCsv(path, m_survey, lines, {m_exportCaptions, format}, progress));
-}
-
-int DataProcessDataManager::importSurveyCsv(const QString& path, ImportSummary* summary)
-{
-    ProgressReporter progress(&m_host.eventManager());
-    ImportSummary own;
-    return imported(readSurveyCsv(path, m_survey, progress, own), own, summary);
 }
 
 QString DataProcessDataManager::solutionTypeText(int code)

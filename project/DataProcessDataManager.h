@@ -6,14 +6,13 @@
 #include "model/PointLines.h"
 #include "project/DBAdapter.h"
 #include "project/ProjectLock.h"
-#include "project/StoreResult.h"
+#include "protocol/Outcome.h"
 
 #include <QStringList>
 
 #include <vector>
 
 class IHost;
-struct ImportSummary;
 struct ProjectPlace;
 struct QualityRow;
 
@@ -24,10 +23,10 @@ enum class ProjectAccess
     Look ///< also while another program has it
 };
 
-/// The store of the open project.
+/// The store of the open project. Holds one project at a time; for the GUI thread only.
 ///
-/// The assistant makes one at start and ends it when the application closes; everybody else
-/// reaches it through `instance`. Holds one project at a time; for the GUI thread.
+/// The assistant makes it when the program starts and ends it when the program closes. Everybody
+/// else reaches it through `instance`.
 class DataProcessDataManager final : public IEventHandler
 {
 public:
@@ -38,35 +37,44 @@ public:
     DataProcessDataManager(const DataProcessDataManager&) = delete;
     DataProcessDataManager& operator=(const DataProcessDataManager&) = delete;
 
-    /// The manager of this process; null before it is made and after it is ended. For the GUI
-    /// thread only: what paints on a worker works on a copy that was made here.
-    [[nodiscard]] static DataProcessDataManager* instance();
+    /// The manager of this process. There always is one while a project is open; to ask for it
+    /// without one is a mistake of ours, and ends the program with a report.
+    [[nodiscard]] static DataProcessDataManager& instance();
+    /// The question of code that also runs before the manager is made or after its end.
+    [[nodiscard]] static bool hasInstance();
+
+    // Operations on files. Why one failed stands in the log, and in its outcome for the user.
 
     /// Takes the project for this program alone, unless it is only looked at, and reads its
     /// parameter files, its database and its project file. A project that cannot be opened leaves
-    /// nothing in memory; a project file that cannot be read is passed over, with a message.
-    StoreResult openProject(const ProjectPlace& place,
-                            ProjectAccess access = ProjectAccess::Change);
-    /// Writes them all, and the design parameters as the start of the next new project. A database
-    /// that is gone is made anew.
-    StoreResult saveProject(const ProjectPlace& place);
-    /// Whether the last `saveProject` failed, so that more is in memory than on the disk.
+    /// nothing in memory. A project file that cannot be read is no failure; a notice says so.
+    Outcome openProject(const ProjectPlace& place, ProjectAccess access = ProjectAccess::Change);
+    /// Writes them all, and the design parameters as the template of new projects. A database that
+    /// is missing is made anew.
+    Outcome saveProject(const ProjectPlace& place);
+    /// Whether the last `saveProject` failed, so that the files are older than what is in memory.
     [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }
-    /// Forgets the points and parameters of the project that was open, and lets others have it; its
-    /// coordinate system stays as the start of the next new project.
+    /// Forgets the points and parameters of the open project and gives up its lock. Its coordinate
+    /// system stays: the next new project starts from it.
     void clear();
 
+    // Operations that answer 1 when they are done, else 0, and give their outcome to who asks.
+
     /// The database alone, see ProjectLoader and ProjectSaver.
-    StoreResult load(const QString& path);
-    StoreResult save(const QString& path);
+    int load(const QString& path, Outcome* outcome = nullptr);
+    int save(const QString& path, Outcome* outcome = nullptr);
 
-    /// Gives the project another coordinate system, keys as in CoordinateRecord.h, and with it the
-    /// results their sea heights. The system itself is `get_project_coord_transform`'s.
-    void setCoordSystem(const IDictionary& parameters);
-    /// Rewrites every result's sea height; due whenever results or coordinate system are new.
-    void recomputeSeaHeights();
+    // CSV files, see exchange/. Lines are written in the order of the list. An import that is done
+    // has a notice: what became of the file's lines.
 
-    // The checks of quality/.
+    int exportDesignCsv(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
+                        Outcome* outcome = nullptr);
+    int importDesignCsv(const QString& path, Outcome* outcome = nullptr);
+    /// \param captions  the columns, in their order; without any those of `exportCaptions`, which
+    ///                  become all columns when they are empty
+    int exportSurveyCsv(const QStringList& lines, const QString& path,
+                        const QStringList& captions = {}, Outcome* outcome = nullptr);
+    int importSurveyCsv(const QString& path, Outcome* outcome = nullptr);
 
     /// Judges every survey result by the quality parameters. \returns 1
     int checkQuality();
@@ -74,19 +82,16 @@ public:
     [[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoint& point) const;
     [[nodiscard]] std::vector<QualityRow> describeQuality() const;
 
-    // CSV files, see exchange/; 1 when done, else 0, and the log says why. Lines are written in the
-    // order of the list.
-    int exportDesignCsv(const QStringList& lines, const QString& path, bool onlyUnsurveyed);
-    int importDesignCsv(const QString& path, ImportSummary* summary = nullptr);
-    /// The columns of `exportCaptions`, which gets all of them when it is empty.
-    int exportSurveyCsv(const QStringList& lines, const QString& path);
-    int importSurveyCsv(const QString& path, ImportSummary* summary = nullptr);
+    /// Gives the project another coordinate system, keys as in CoordinateRecord.h, and recomputes
+    /// the sea heights. The system itself is kept by `get_project_coord_transform`.
+    void setCoordSystem(const IDictionary& parameters);
+    /// Rewrites the sea height of every result; needed when results or coordinate system are new.
+    void recomputeSeaHeights();
 
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }
-    [[nodiscard]] IDBAdapter& database() { return m_database.inner(); }
-    /// What is said about the project as a whole, keys as in ProjectFile.h. The coordinate system
-    /// in it is the one that the project was made with.
+    /// The description of the project as a whole, keys as in ProjectFile.h. It also holds the
+    /// coordinate system that the project was made with, which may be older than the present one.
     [[nodiscard]] IDictionary& project() { return m_project; }
     /// The limits of the quality checks, "qc_param.ini".
     [[nodiscard]] IDictionary& qualityParameters() { return m_qualityParameters; }
@@ -97,7 +102,7 @@ public:
     [[nodiscard]] const QStringList& surveyCaptions() const { return m_surveyCaptions; }
     [[nodiscard]] QStringList& exportCaptions() { return m_exportCaptions; }
 
-    // The code tables of project/model/CodeTables.h.
+    // The code tables of model/CodeTables.h.
     [[nodiscard]] static QString solutionTypeText(int code);
     [[nodiscard]] static int solutionTypeCode(const QString& text);
     [[nodiscard]] static QString obstacleText(int code);
@@ -106,8 +111,10 @@ public:
 
 private:
     void reportQuery(const char* payload);
-    [[nodiscard]] StoreResult read(const ProjectPlace& place);
-    [[nodiscard]] StoreResult readDatabase(const QString& path, IDictionary& coordSystem);
+    [[nodiscard]] Outcome read(const ProjectPlace& place);
+    [[nodiscard]] Outcome write(const ProjectPlace& place);
+    [[nodiscard]] Outcome readDatabase(const QString& path, IDictionary& coordSystem);
+    [[nodiscard]] Outcome writeDatabase(const QString& path);
 
     IHost& m_host; // outlives the manager
     EventSubscription m_subscription;
@@ -116,7 +123,7 @@ private:
     DesignPoints m_design;
     SurveyPoints m_survey;
     basalt::Dictionary m_project;
-    QString m_projectFile; ///< as it was opened; empty for one that we could not read
+    QString m_projectFile; ///< the one that was opened; empty when it could not be read
     bool m_isSaveOwed = false;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;

@@ -9,6 +9,6 @@ public:
     virtual ~ISurveyPointList() = default;
 
     /// Shows this result and selects it.
-    /// \returns false when it is not there
+    /// \returns whether the list has it
     virtual bool selectPoint(const QString& lineNumber, const QString& pointNumber) = 0;
 };

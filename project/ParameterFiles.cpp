@@ -3,6 +3,7 @@
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Product.h"
 #include "lum_sdk/files/DictionaryXml.h"
+#include "lum_sdk/files/WholeFile.h"
 
 #include <QCoreApplication>
 
@@ -10,47 +11,51 @@ namespace ParameterFiles {
 
 namespace {
 
-QString notRead(const std::string& path, const QString& reason)
+Outcome readFile(const QString& path, IDictionary& parameters)
 {
-    return QCoreApplication::translate("ProjectStore",
-                                       "The parameter file \"%1\" cannot be read: %2")
-        .arg(QString::fromStdString(path), reason);
+    const QString fault = lum::readDictionaryFile(path.toStdString(), parameters);
+    if (fault.isEmpty())
+        return Outcome::done();
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore", "The parameter file \"%1\" cannot be read: %2")
+            .arg(path, fault));
 }
 
-QString notWritten(const std::string& path)
+Outcome writeFile(const QString& path, const IDictionary& parameters)
 {
-    return QCoreApplication::translate("ProjectStore",
-                                       "The parameter file \"%1\" cannot be written.")
-        .arg(QString::fromStdString(path));
+    const QString fault = lum::writeWholeFile(path, lum::writeDictionary(parameters));
+    if (fault.isEmpty())
+        return Outcome::done();
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore", "The parameter file \"%1\" cannot be written.")
+            .arg(path),
+        "Cannot write \"" + path.toStdString() + "\": " + fault.toStdString());
 }
 
 } // namespace
 
-QString read(const QString& folder, IDictionary& quality, IDictionary& design)
+Outcome read(const QString& folder, IDictionary& quality, IDictionary& design)
 {
-    const std::string qualityPath = folder.toStdString() + kQualityFile;
-    const std::string designPath = folder.toStdString() + kDesignFile;
     basalt::Dictionary readQuality;
     basalt::Dictionary readDesign;
-    if (const QString fault = lum::readDictionaryFile(qualityPath, readQuality); !fault.isEmpty())
-        return notRead(qualityPath, fault);
-    if (const QString fault = lum::readDictionaryFile(designPath, readDesign); !fault.isEmpty())
-        return notRead(designPath, fault);
-    dictionary_copy(readQuality, quality);
-    dictionary_copy(readDesign, design);
-    return {};
+    Outcome reading = readFile(folder + QLatin1String(kQualityFile), readQuality);
+    if (reading.isDone())
+        reading = readFile(folder + QLatin1String(kDesignFile), readDesign);
+    if (reading.isDone()) {
+        dictionary_copy(readQuality, quality);
+        dictionary_copy(readDesign, design);
+    }
+    return reading;
 }
 
-QString write(const QString& folder, const IDictionary& quality, const IDictionary& design)
+Outcome write(const QString& folder, const IDictionary& quality, const IDictionary& design)
 {
-    const std::string qualityPath = folder.toStdString() + kQualityFile;
-    const std::string designPath = folder.toStdString() + kDesignFile;
-    if (!dictionary_to_xml(quality, qualityPath))
-        return notWritten(qualityPath);
-    if (!dictionary_to_xml(design, designPath))
-        return notWritten(designPath);
-    dictionary_to_xml(design, basalt::toolFolder() + kDesignFile);
-    return {};
+    Outcome writing = writeFile(folder + QLatin1String(kQualityFile), quality);
+    if (writing.isDone())
+        writing = writeFile(folder + QLatin1String(kDesignFile), design);
+    if (writing.isDone())
+        dictionary_to_xml(design, basalt::toolFolder() + kDesignFile);
+    return writing;
 }
 
 } // namespace ParameterFiles

@@ -1,24 +1,24 @@
 #pragma once
 
-class IDictionary;
-class QString;
+#include "protocol/Outcome.h"
 
-/// The two parameter files of a project folder, "qc_param.ini" and "design_param.ini": dictionaries
-/// in XML, whatever their ending says.
+class IDictionary;
+
+/// The two parameter files of a project folder, "qc_param.ini" and "design_param.ini". Both hold a
+/// dictionary as XML, in spite of their ending.
 namespace ParameterFiles {
 
-// Behind the project folder.
+// Appended to the path of the project folder.
 inline constexpr const char* kQualityFile = "/qc_param.ini";
 inline constexpr const char* kDesignFile = "/design_param.ini";
 
-/// Reads both, over what the dictionaries hold: both or none.
-/// \returns an empty text, or what the user has to know
-[[nodiscard]] QString read(const QString& folder, IDictionary& quality, IDictionary& design);
+/// Adds the entries of the files to the dictionaries. When one file cannot be read, neither
+/// dictionary changes.
+[[nodiscard]] Outcome read(const QString& folder, IDictionary& quality, IDictionary& design);
 
-/// Writes both. The design parameters also become the template of new projects; where the
-/// installation cannot be written that is logged and skipped.
-/// \returns an empty text, or what the user has to know
-[[nodiscard]] QString write(const QString& folder, const IDictionary& quality,
+/// Writes both. The design parameters also become the template of new projects; an installation
+/// that cannot be written is no failure and only noted in the log.
+[[nodiscard]] Outcome write(const QString& folder, const IDictionary& quality,
                             const IDictionary& design);
 
 } // namespace ParameterFiles

@@ -29,10 +29,11 @@ namespace ProjectCreator {
 
 namespace {
 
-QString cannotWrite(const QString& path, const QString& why)
+Outcome cannotWrite(const QString& path, const QString& why)
 {
-    return QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be written: %2.")
-        .arg(path, why);
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be written: %2.")
+            .arg(path, why));
 }
 
 void logFailure(const std::string& why)
@@ -41,7 +42,8 @@ void logFailure(const std::string& why)
         basalt::logError("A file of the project that stood here before has lost its name: " + why);
 }
 
-/// The files of a project in the making: what was done is taken back unless it is kept.
+/// The files of a new project. The destructor removes what was written and gives moved files their
+/// names back, unless `keep` was called.
 class NewFiles
 {
 public:
@@ -61,35 +63,36 @@ public:
         m_moved.clear();
     }
 
-    /// Moves what stands under `path`, if anything does.
-    QString moveAside(const QString& path, const QString& to)
+    /// Renames the file `path`, if there is one.
+    Outcome moveAside(const QString& path, const QString& to)
     {
         if (!QFile::exists(path))
-            return {};
+            return Outcome::done();
         const std::string why = lum::renameFile(path.toStdString(), to.toStdString());
         if (!why.empty())
             return cannotWrite(path, QString::fromStdString(why));
         m_moved.emplace_back(path.toStdString(), to.toStdString());
-        return {};
+        return Outcome::done();
     }
 
-    QString write(const QString& path, const QByteArray& content)
+    Outcome write(const QString& path, const QByteArray& content)
     {
         const QString why = lum::writeWholeFile(path, content);
         if (!why.isEmpty())
             return cannotWrite(path, why);
         m_written << path;
-        return {};
+        return Outcome::done();
     }
 
-    QString copyTemplate(const char* name, const QString& to)
+    Outcome copyTemplate(const char* name, const QString& to)
     {
         const std::string path = basalt::toolFolder() + '/' + name;
         QFile source(QString::fromStdString(path));
         if (source.open(QIODevice::ReadOnly))
             return write(to, source.readAll());
-        return QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be read: %2.")
-            .arg(source.fileName(), source.errorString());
+        return Outcome::failed(
+            QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be read: %2.")
+                .arg(source.fileName(), source.errorString()));
     }
 
 private:
@@ -97,27 +100,27 @@ private:
     std::vector<std::pair<std::string, std::string>> m_moved; ///< from, to
 };
 
-/// The old files of these names, out of the way. What SQLite has beside an old database stays with
-/// it: a journal would be played back into the new one. The copy of an interrupted save goes last,
-/// since the project opens from it alone, should this be cut off.
-QString moveOldFiles(NewFiles& files, const ProjectPlace& place)
+/// Moves the old files of these names aside. SQLite's own files move with their database: it would
+/// play an old journal back into the new one. The copy of an interrupted save moves after the
+/// database: should this be cut off, the old project can be opened from the copy alone.
+Outcome moveOldFiles(NewFiles& files, const ProjectPlace& place)
 {
     const QString when = QDateTime::currentDateTime().toString(QStringLiteral(".yyyyMMdd-hhmmss"));
     const QString database = place.database();
     for (const char* beside : {"", "-journal", "-wal", "-shm", ".saved"}) {
         const QString ending = QLatin1String(beside);
-        QString fault = files.moveAside(database + ending, database + when + ending);
-        if (!fault.isEmpty())
-            return fault;
+        Outcome moving = files.moveAside(database + ending, database + when + ending);
+        if (!moving.isDone())
+            return moving;
     }
     for (const QString& path :
          {place.file, place.folder + QLatin1String(ParameterFiles::kQualityFile),
           place.folder + QLatin1String(ParameterFiles::kDesignFile)}) {
-        QString fault = files.moveAside(path, path + when);
-        if (!fault.isEmpty())
-            return fault;
+        Outcome moving = files.moveAside(path, path + when);
+        if (!moving.isDone())
+            return moving;
     }
-    return {};
+    return Outcome::done();
 }
 
 } // namespace
@@ -135,38 +138,38 @@ void describe(const ProjectPlace& place, IDictionary& project)
                 current.text(CoordinateRecord::kId, CoordinateRecord::kUndefinedId));
 }
 
-QString create(const ProjectPlace& place, const IDictionary& project)
+Outcome create(const ProjectPlace& place, const IDictionary& project)
 {
     ProjectLock lock;
-    if (const StoreResult taken = lock.take(place); !taken.isDone)
-        return taken.message;
+    if (Outcome taken = lock.take(place); !taken.isDone())
+        return taken;
     NewFiles files;
-    QString fault = moveOldFiles(files, place);
+    Outcome making = moveOldFiles(files, place);
     const std::pair<const char*, QString> templates[] = {
         {"template.db", place.database()},
         {"design_param.ini", place.folder + QLatin1String(ParameterFiles::kDesignFile)},
         {"qc_param.ini", place.folder + QLatin1String(ParameterFiles::kQualityFile)}};
     for (const auto& [name, target] : templates) {
-        if (fault.isEmpty())
-            fault = files.copyTemplate(name, target);
+        if (making.isDone())
+            making = files.copyTemplate(name, target);
     }
-    if (fault.isEmpty()) // last: it is what makes the folder a project
-        fault = files.write(place.file, lum::writeDictionary(project));
-    if (fault.isEmpty())
+    if (making.isDone()) // last, since the project file is what makes the folder a project
+        making = files.write(place.file, lum::writeDictionary(project));
+    if (making.isDone())
         files.keep();
-    return fault;
+    return making;
 }
 
-QString replaceDatabase(const ProjectPlace& place)
+Outcome replaceDatabase(const ProjectPlace& place)
 {
     const QString database = place.database();
     if (QFile::exists(database) || QFile::exists(database + QStringLiteral(".saved")))
-        return {};
+        return Outcome::done();
     NewFiles files;
-    QString fault = files.copyTemplate("template.db", database);
-    if (fault.isEmpty())
+    Outcome making = files.copyTemplate("template.db", database);
+    if (making.isDone())
         files.keep();
-    return fault;
+    return making;
 }
 
 } // namespace ProjectCreator

@@ -1,15 +1,16 @@
 #pragma once
 
+#include "protocol/Outcome.h"
+
 class IDictionary;
-class QString;
 struct ProjectPlace;
 
-/// Makes the files of a new project, in a folder that stands already: project file, an empty
-/// database, and the parameter files of the installation.
+/// Makes the files of a new project in an existing folder: project file, an empty database, and
+/// the parameter files of the installation.
 ///
-/// Files of the same names that stand there are not lost: they get the ending of the moment,
-/// such as ".20260131-174500". When the making fails they get their names back, and nothing of the
-/// new project is left.
+/// Files of the same names that stand there are kept: they are renamed with the present time as
+/// their ending, such as ".20260131-174500". On a failure they get their names back, and the files
+/// of the new project are removed.
 namespace ProjectCreator {
 
 /// Fills the dictionary of a new project: where, when and by which version it was made, and the
@@ -17,12 +18,10 @@ namespace ProjectCreator {
 void describe(const ProjectPlace& place, IDictionary& project);
 
 /// \param project  the project dictionary, see ProjectFile
-/// \returns an empty text, or why it failed, translated
-[[nodiscard]] QString create(const ProjectPlace& place, const IDictionary& project);
+[[nodiscard]] Outcome create(const ProjectPlace& place, const IDictionary& project);
 
-/// An empty database in the place of one that is gone, with no copy of an interrupted save to take
-/// its place; does nothing otherwise.
-/// \returns an empty text, or why it failed, translated
-[[nodiscard]] QString replaceDatabase(const ProjectPlace& place);
+/// Makes an empty database where the project's database is missing and there is no copy of an
+/// interrupted save either. Does nothing otherwise.
+[[nodiscard]] Outcome replaceDatabase(const ProjectPlace& place);
 
 } // namespace ProjectCreator

@@ -1,19 +1,31 @@
 #include "project/ProjectFile.h"
 
 #include "lum_sdk/files/DictionaryXml.h"
+#include "lum_sdk/files/WholeFile.h"
 
-#include <QString>
+#include <QCoreApplication>
 
 namespace ProjectFile {
 
-bool read(const QString& path, IDictionary& project)
+Outcome read(const QString& path, IDictionary& project)
 {
-    return xml_to_dictionary(path.toStdString(), project);
+    if (lum::readDictionaryFile(path.toStdString(), project).isEmpty())
+        return Outcome::done();
+    return Outcome::failed(QCoreApplication::translate(
+                               "ProjectStore", "The project file \"%1\" cannot be read: what it "
+                                               "says about the project is neither shown nor saved.")
+                               .arg(path));
 }
 
-bool write(const QString& path, const IDictionary& project)
+Outcome write(const QString& path, const IDictionary& project)
 {
-    return dictionary_to_xml(project, path.toStdString());
+    const QString fault = lum::writeWholeFile(path, lum::writeDictionary(project));
+    if (fault.isEmpty())
+        return Outcome::done();
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore", "The project file \"%1\" cannot be written.")
+            .arg(path),
+        "Cannot write \"" + path.toStdString() + "\": " + fault.toStdString());
 }
 
 } // namespace ProjectFile

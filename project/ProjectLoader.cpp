@@ -1,12 +1,12 @@
 #include "project/ProjectLoader.h"
 
-#include "basalt_utilities/ILogger.h"
 #include "lum_sdk/database/RecordSet.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
 #include "model/PointNumber.h"
 #include "model/SurveyRecord.h"
+#include "project/DatabaseReason.h"
 #include "project/DBAdapter.h"
 #include "project/SafetyCopy.h"
 
@@ -22,7 +22,7 @@ QString caption(const char* text)
     return QCoreApplication::translate("DataProcessDataManager", text);
 }
 
-/// Reports after every so many rows, whoever read them.
+/// Reports after every so many rows, on whichever of the two threads they were read.
 class RowProgress
 {
 public:
@@ -69,10 +69,11 @@ struct SurveyPart
 
     SurveyRecord::Reader reader;
     SurveyPoints points;
-    std::vector<SurveyPoint> checkPoints; ///< counted when both halves are together
+    std::vector<SurveyPoint> checkPoints; ///< get their counters when both halves are together
 };
 
-/// The upper half of a table, read on a thread and a connection of its own.
+/// The upper half of a table, read on a thread and a connection of its own: two connections read in
+/// half the time of one, as measured.
 class OtherHalf
 {
 public:
@@ -95,7 +96,7 @@ public:
     {
         return m_rowsRead.load(std::memory_order_relaxed);
     }
-    /// Waits for the end; true also when nothing was started.
+    /// Waits for the end, and throws what the thread threw; true also when nothing was started.
     bool finish() { return !m_job.valid() || m_job.get(); }
     [[nodiscard]] std::string lastError() const { return m_database.lastError(); }
 
@@ -103,7 +104,7 @@ private:
     std::string m_path;
     DBAdapter m_database;
     std::atomic<std::size_t> m_rowsRead{0};
-    std::future<bool> m_job; // ends first
+    std::future<bool> m_job; // last, so that the thread ends before what it works with
 };
 
 } // namespace
@@ -113,34 +114,39 @@ ProjectLoader::ProjectLoader(IDBAdapter& database, ProgressReporter& progress)
 {
 }
 
-StoreResult ProjectLoader::load(const std::string& path, DesignPoints& design, SurveyPoints& survey,
-                                IDictionary& coordParameters)
+Outcome ProjectLoader::load(const std::string& path, DesignPoints& design, SurveyPoints& survey,
+                            IDictionary& coordParameters)
 {
     m_database.close();
     design.clear();
     survey.clear();
     m_path = path;
-    StoreResult result = SafetyCopy(path).recover(m_database);
-    if (!result.isDone)
-        return result;
-    bool isRead =
-        m_database.open(lum::databaseConnection(path).c_str()) || fail(m_database.lastError());
-    if (isRead) {
-        m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
-        // Read inside one transaction: while it lasts nobody else can commit, so that both
-        // connections see the same rows.
-        isRead = m_database.execute("begin") || fail(m_database.lastError());
-        isRead = isRead && readDesign(design) && readSurvey(survey) &&
-                 readCoordinateSystem(coordParameters);
-        m_database.rollback();
-        m_progress.finish();
+    Outcome recovery = SafetyCopy(path).recover(m_database);
+    if (!recovery.isDone() || readAll(design, survey, coordParameters))
+        return recovery;
+    return Outcome::failed(QCoreApplication::translate(
+                               "ProjectStore", "The project database \"%1\" cannot be read: %2.")
+                               .arg(QString::fromStdString(path), databaseReason(m_reason)),
+                           "Cannot load \"" + path + "\": " + m_reason);
+}
+
+bool ProjectLoader::readAll(DesignPoints& design, SurveyPoints& survey,
+                            IDictionary& coordParameters)
+{
+    if (!m_database.open(lum::databaseConnection(m_path).c_str()))
+        return fail(m_database.lastError());
+    m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
+    bool isRead = false;
+    try {
+        // While this transaction lasts nobody else can commit: both connections see the same rows.
+        isRead = (m_database.execute("begin") || fail(m_database.lastError())) &&
+                 readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters);
+    } catch (const std::exception& fault) { // of either thread, such as no memory
+        isRead = fail(fault.what());
     }
-    if (isRead)
-        return result;
-    basalt::logError("Cannot load \"" + path + "\": " + m_reason);
-    return {false, QCoreApplication::translate("ProjectStore",
-                                               "The project database \"%1\" cannot be read: %2.")
-                       .arg(QString::fromStdString(path), databaseReason(m_reason))};
+    m_database.rollback();
+    m_progress.finish();
+    return isRead;
 }
 
 bool ProjectLoader::readDesign(DesignPoints& design)
@@ -224,7 +230,7 @@ bool ProjectLoader::readTable(const char* table, const QString& caption, std::si
         });
     const bool isOtherRead = other.finish();
     if (!isRead) {
-        parts[1] = {}; // its rows come behind the failure
+        parts[1] = {}; // what was read ends at the failure, and these rows come after it
         return fail(m_database.lastError());
     }
     progress.reach(rowsRead + other.rowsRead());

@@ -23,14 +23,14 @@ QString inUse(const QLockFile& file, const QString& path)
             .arg(program, QString::number(process), host);
     if (host == QSysInfo::machineHostName())
         return owner;
-    // Whether a program of another computer still runs cannot be told from here.
+    // This computer cannot see whether a program on another one still runs.
     return owner + QLatin1Char(' ') +
            QCoreApplication::translate("ProjectStore",
                                        "If it is not, remove the file \"%1\" and try again.")
                .arg(QDir::toNativeSeparators(path));
 }
 
-/// Why there is no lock, although nobody else holds it.
+/// Why the lock cannot be written, although no other program holds it.
 QString notWritten(const QLockFile& file, const QString& path)
 {
     if (file.error() == QLockFile::PermissionError)
@@ -45,41 +45,42 @@ QString notWritten(const QLockFile& file, const QString& path)
 
 } // namespace
 
-StoreResult ProjectLock::take(const ProjectPlace& place)
+Outcome ProjectLock::take(const ProjectPlace& place)
 {
     release();
     m_lookedAt = QDateTime();
     const QString path = place.database() + QStringLiteral(".lock");
     auto file = std::make_unique<QLockFile>(path);
-    file->setStaleLockTime(0); // a project may be open for days; only its owner's end frees it
+    file->setStaleLockTime(0); // a project may be open for days: age does not make a lock stale
     if (file->tryLock()) {
         m_file = std::move(file);
-        return {true, {}};
+        return Outcome::done();
     }
     if (file->error() == QLockFile::LockFailedError)
-        return {false, inUse(*file, path)};
+        return Outcome::failed(inUse(*file, path));
     if (!QFileInfo(place.folder).isDir())
-        return {false,
-                QCoreApplication::translate("ProjectStore", "The folder \"%1\" does not exist.")
-                    .arg(place.folder)};
+        return Outcome::failed(
+            QCoreApplication::translate("ProjectStore", "The folder \"%1\" does not exist.")
+                .arg(place.folder));
     m_lookedAt = QFileInfo(place.database()).lastModified();
-    return {true, notWritten(*file, path)};
+    return Outcome::done(notWritten(*file, path));
 }
 
-StoreResult ProjectLock::ensure(const ProjectPlace& place)
+Outcome ProjectLock::ensure(const ProjectPlace& place)
 {
     if (m_file)
-        return {true, {}};
+        return Outcome::done();
     const QDateTime before = m_lookedAt;
-    StoreResult result = take(place);
-    if (before.isValid() && QFileInfo(place.database()).lastModified() != before) {
+    const Outcome taken = take(place);
+    const bool isChanged = before.isValid() && QFileInfo(place.database()).lastModified() != before;
+    if (isChanged)
         release();
-        result.message = QCoreApplication::translate(
-            "ProjectStore",
-            "Another program has changed the project since it was opened here without a lock.");
-    }
-    if (!m_file)
-        m_lookedAt = before;
-    result.isDone = m_file != nullptr;
-    return result;
+    if (m_file)
+        return Outcome::done();
+    m_lookedAt = before;
+    if (!isChanged)
+        return Outcome::failed(taken.text());
+    return Outcome::failed(QCoreApplication::translate(
+        "ProjectStore",
+        "Another program has changed the project since it was opened here without a lock."));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/StoreResult.h"
+#include "protocol/Outcome.h"
 
 #include <QDateTime>
 #include <QLockFile>
@@ -10,24 +10,24 @@
 struct ProjectPlace;
 
 /// Keeps two programs from changing one project: a file beside the database, as long as the project
-/// is open. A crash does not leave it behind for good: the next program sees that its owner is
-/// gone.
+/// is open. After a crash the file stays, but the next program sees that its owner has ended, and
+/// takes it over.
 class ProjectLock
 {
 public:
-    /// Gives up the lock that is held, and takes this one.
-    /// \returns not done, and who has the project, when another program has it. Where the lock
-    ///          cannot be written (a read-only folder, a full disk) the project can be looked at:
-    ///          done, without the lock, and a message that says so.
-    StoreResult take(const ProjectPlace& place);
+    /// Gives up the lock that is held, and takes that of `place`.
+    /// \returns failed, naming the other program, when one has the project. Where the lock cannot
+    ///          be written (a read-only folder, a full disk) the project can still be looked at:
+    ///          done without the lock, with a notice that says so.
+    [[nodiscard]] Outcome take(const ProjectPlace& place);
 
-    /// Before the project is written: takes the lock that could not be had at first.
-    /// \returns not done, and why, when it cannot be had now either, or the database was changed
-    ///          while this program had no lock on it
-    StoreResult ensure(const ProjectPlace& place);
+    /// Before the project is written: takes the lock if `take` could not write it.
+    /// \returns failed when it cannot be had now either, or when the database was changed while
+    ///          this program had no lock
+    [[nodiscard]] Outcome ensure(const ProjectPlace& place);
     void release() { m_file.reset(); }
 
 private:
     std::unique_ptr<QLockFile> m_file; ///< null without a lock
-    QDateTime m_lookedAt;              ///< when the database was last changed, without a lock
+    QDateTime m_lookedAt; ///< without a lock: the time of the database's last change at `take`
 };

@@ -9,26 +9,25 @@ struct ProjectPlace
     QString name;
     QString file;
 
-    /// A project to be made: a folder of the project's name in `location`. The extension is the
-    /// system configuration's.
+    /// A new project: its folder lies in `location` and has the project's name.
     [[nodiscard]] static ProjectPlace planned(const QString& location, const QString& name);
 
     /// The project of a project file: its folder, and the name up to the first dot.
     [[nodiscard]] static ProjectPlace ofFile(const QString& file);
 
-    /// The same from a folder and a name, as the system status holds them.
+    /// The project of this folder and name, as the system status holds them.
     [[nodiscard]] static ProjectPlace in(const QString& folder, const QString& name);
 
     [[nodiscard]] QString database() const;
 };
 
-/// The configured extension of project files, without a dot.
+/// The extension of project files in the system configuration, without a dot.
 [[nodiscard]] QString projectExtension();
 
-/// Why no project can be called so, a translated sentence; empty for a good name. A name must do as
-/// a file name on every system that the project may be carried to, and holds no dot, since a
-/// project's name ends at the first one.
+/// Why no project can have this name, a translated sentence; empty for a good name. A project may
+/// be carried to other systems, so the name must be a file name on all of them. It holds no dot,
+/// since the name of a project file ends at the first one.
 [[nodiscard]] QString projectNameFault(const QString& name);
 
-/// Why no project can be made in this folder; empty for a good one.
+/// Why no project can be made in this folder, a translated sentence; empty for a good folder.
 [[nodiscard]] QString projectLocationFault(const QString& location);

@@ -1,13 +1,13 @@
 #include "project/ProjectSaver.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/ILogger.h"
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/database/RecordSet.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
 #include "model/SurveyRecord.h"
+#include "project/DatabaseReason.h"
 #include "project/RowFormatter.h"
 #include "project/SafetyCopy.h"
 
@@ -68,25 +68,37 @@ ProjectSaver::ProjectSaver(IDBAdapter& database, ProgressReporter& progress)
 {
 }
 
-StoreResult ProjectSaver::save(const std::string& path, const DesignPoints& design,
-                               const SurveyPoints& survey, const IDictionary& coordParameters)
+Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
+                           const SurveyPoints& survey, const IDictionary& coordParameters)
 {
     const SafetyCopy copy(path);
-    // An earlier save may have left a copy: it must not be replaced by one of an emptied database.
-    if (StoreResult found = copy.recover(m_database); !found.isDone)
-        return found;
+    // An interrupted save may have left emptied tables and a copy: `make` would replace that copy.
+    if (Outcome recovery = copy.recover(m_database); !recovery.isDone())
+        return recovery;
     const std::string connection = lum::databaseConnection(path);
-    const bool isSaved = m_database.open((connection + ",exclusive=1").c_str()) &&
-                         copy.make(m_database) && clearTables() && m_database.beginTransaction() &&
-                         addMissingColumns() && writeDesign(design) && writeSurvey(survey) &&
-                         writeCoordinateSystem(coordParameters) &&
-                         m_database.execute(SafetyCopy::kUnmark) && m_database.commit();
+    bool isSaved = false;
+    std::string reason;
+    try {
+        isSaved = m_database.open((connection + ",exclusive=1").c_str()) && copy.make(m_database) &&
+                  clearTables() && writeAll(design, survey, coordParameters);
+        reason = m_database.lastError();
+    } catch (const std::exception& fault) { // of either thread, such as no memory
+        reason = fault.what();
+    }
     if (!isSaved)
-        return undo(path);
+        return undo(path, reason);
     copy.drop();
-    m_database.open(connection.c_str()); // lets others in again
+    m_database.open(connection.c_str()); // no longer exclusively
     m_progress.hide();
-    return {true, {}};
+    return Outcome::done();
+}
+
+bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& survey,
+                            const IDictionary& coordParameters)
+{
+    return m_database.beginTransaction() && addMissingColumns() && writeDesign(design) &&
+           writeSurvey(survey) && writeCoordinateSystem(coordParameters) &&
+           m_database.execute(SafetyCopy::kUnmark) && m_database.commit();
 }
 
 bool ProjectSaver::clearTables()
@@ -107,8 +119,8 @@ bool ProjectSaver::addMissingColumns()
     if (statement.empty())
         return true;
     for (const auto& [name, type] : kLaterColumns) {
-        // A plain search of the whole text, as every earlier version did it: a column whose name
-        // holds another's stands for both.
+        // A plain search in the whole statement, as in every earlier version: a column counts as
+        // present also when its name is a part of another column's name.
         if (statement.find(name) != std::string::npos)
             continue;
         const std::string change =
@@ -144,17 +156,17 @@ bool ProjectSaver::writeCoordinateSystem(const IDictionary& parameters)
     return m_database.insert(CoordinateRecord::kTable, nullptr, record);
 }
 
-StoreResult ProjectSaver::undo(const std::string& path)
+Outcome ProjectSaver::undo(const std::string& path, const std::string& reason)
 {
-    const std::string reason = m_database.lastError();
-    basalt::logError("Cannot save \"" + path + "\": " + reason);
-    StoreResult recovery = SafetyCopy(path).recover(m_database);
+    Outcome recovery = SafetyCopy(path).recover(m_database);
     m_database.open(lum::databaseConnection(path).c_str());
     m_progress.finish();
-    if (!recovery.isDone)
+    if (!recovery.isDone())
         return recovery;
-    return {false, QCoreApplication::translate(
-                       "ProjectStore",
-                       "The project database \"%1\" cannot be written: %2. It is as it was before.")
-                       .arg(QString::fromStdString(path), databaseReason(reason))};
+    return Outcome::failed(
+        QCoreApplication::translate(
+            "ProjectStore",
+            "The project database \"%1\" cannot be written: %2. It is as it was before.")
+            .arg(QString::fromStdString(path), databaseReason(reason)),
+        "Cannot save \"" + path + "\": " + reason);
 }

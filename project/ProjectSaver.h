@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/PointLines.h"
-#include "project/StoreResult.h"
+#include "protocol/Outcome.h"
 
 #include <string>
 
@@ -9,8 +9,8 @@ class IDBAdapter;
 class IDictionary;
 class ProgressReporter;
 
-/// Writes a project into its database: the three tables are emptied and filled again, in two
-/// transactions, while a complete copy of the file stands beside it.
+/// Writes a project into its database: one transaction empties the three tables, a second fills
+/// them. A complete copy of the file stands beside it meanwhile.
 class ProjectSaver
 {
 public:
@@ -18,16 +18,19 @@ public:
 
     /// The database must be there; columns that an older one lacks are added. When it fails, the
     /// file holds what it held before.
-    StoreResult save(const std::string& path, const DesignPoints& design,
-                     const SurveyPoints& survey, const IDictionary& coordParameters);
+    Outcome save(const std::string& path, const DesignPoints& design, const SurveyPoints& survey,
+                 const IDictionary& coordParameters);
 
 private:
+    bool writeAll(const DesignPoints& design, const SurveyPoints& survey,
+                  const IDictionary& coordParameters);
     bool clearTables();
     bool addMissingColumns();
     bool writeDesign(const DesignPoints& design);
     bool writeSurvey(const SurveyPoints& survey);
     bool writeCoordinateSystem(const IDictionary& parameters);
-    StoreResult undo(const std::string& path);
+    /// Puts the file back as it was. \returns the failure, for the user
+    Outcome undo(const std::string& path, const std::string& reason);
 
     IDBAdapter& m_database;
     ProgressReporter& m_progress;

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-/// The project files that were opened last, newest first, kept in the user's settings.
+/// The project files that were opened last, the newest first. The user's settings keep them.
 namespace RecentProjects {
 
 inline constexpr int kMost = 9;

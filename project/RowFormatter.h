@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-/// Rows as text, ready to be inserted.
+/// Some rows as text, ready to be inserted.
 class RowBatch
 {
 public:
@@ -27,10 +27,10 @@ public:
     {
         return m_columns == 0 ? 0 : m_ends.size() / m_columns;
     }
-    /// The row behind the last one of each line that ends in the batch.
+    /// For each line that ends in the batch: how many rows of the batch are done with it.
     [[nodiscard]] const std::vector<std::size_t>& lineEnds() const { return m_lineEnds; }
 
-    /// The texts of one row into `values`, which has room for them.
+    /// Puts the texts of one row into `values`, which has room for them.
     void copyRow(std::size_t row, std::string_view* values) const
     {
         for (std::size_t i = row * m_columns; i < (row + 1) * m_columns; ++i) {
@@ -42,12 +42,12 @@ public:
 private:
     std::size_t m_columns = 0;
     std::string m_text;
-    std::vector<std::size_t> m_ends;     ///< of each cell in the text
-    std::vector<std::size_t> m_lineEnds; ///< rows before each line's end
+    std::vector<std::size_t> m_ends; ///< of each cell in the text
+    std::vector<std::size_t> m_lineEnds;
 };
 
-/// Writes points as text on a thread of its own, one batch ahead of who inserts them. The points
-/// stay as they are meanwhile.
+/// Writes points as text on a thread of its own, while the caller inserts the batch before: as
+/// measured, formatting then costs a save no time. The points must not change meanwhile.
 template <class Points, class Write>
 class RowFormatter
 {
@@ -61,7 +61,8 @@ public:
         startNext();
     }
 
-    /// In order; an empty batch after the last.
+    /// The batches in the order of the points; an empty one after the last. Throws what the thread
+    /// threw.
     RowBatch next()
     {
         RowBatch batch = m_coming.get();
@@ -99,9 +100,9 @@ private:
 
     decltype(std::declval<const Points&>().begin()) m_line;
     decltype(m_line) m_end;
-    std::vector<const typename Points::Point*> m_points; ///< of the line
+    std::vector<const typename Points::Point*> m_points; ///< of the line, in the order of writing
     std::size_t m_next = 0;                              ///< in `m_points`
     Write m_write;
     std::unique_ptr<RecordTexts> m_texts = std::make_unique<RecordTexts>();
-    std::future<RowBatch> m_coming; // ends first
+    std::future<RowBatch> m_coming; // last, so that the thread ends before what it works with
 };

@@ -4,6 +4,7 @@
 #include "basalt_utilities/ILogger.h"
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/files/FileSync.h"
+#include "project/DatabaseReason.h"
 
 #include <QCoreApplication>
 
@@ -41,8 +42,8 @@ bool SafetyCopy::make(IDBAdapter& database) const
 
 void SafetyCopy::drop() const
 {
-    // The end of the journal is on the disk before the copy leaves it. Not by way of the database's
-    // own file: closing it a second time would end SQLite's locks on it.
+    // The removal of the journal must be on the disk before the copy is removed. The folder is
+    // synced, not the database: opening and closing its file here would end SQLite's locks on it.
     std::string why = lum::syncFile(folderOf(m_database));
     if (why.empty())
         why = lum::removeFile(m_copy);
@@ -50,44 +51,46 @@ void SafetyCopy::drop() const
         basalt::logError("Cannot remove \"" + m_copy + "\": " + why);
 }
 
-StoreResult SafetyCopy::recover(IDBAdapter& database) const
+Outcome SafetyCopy::recover(IDBAdapter& database) const
 {
     database.close();
     if (!file_system_check_file(m_copy))
-        return {true, {}};
+        return Outcome::done();
     if (!file_system_check_file(m_database))
         return restore();
-    // Alone, since a copy may also belong to a save that is going on in another program.
+    // Exclusively, since the copy may also belong to a save that another program is making now.
     const bool isOpen =
         database.open((lum::databaseConnection(m_database) + ",exclusive=1").c_str());
     const std::string reason = database.lastError();
     const bool isMarked = isOpen && database.tableExists("SaveUnderWay");
-    // A save of another program may have ended before this one had the database to itself.
+    // The other program may have removed its copy while this one waited for the database.
     const bool isLeft = isOpen && !isMarked && file_system_check_file(m_copy);
     if (isLeft)
-        drop(); // while nobody else can make another
+        drop(); // while the lock keeps others from making a new one
     database.close();
     if (isMarked || isDamage(reason))
         return restore();
     if (isOpen)
-        return {true, isLeft ? interrupted() : QString()};
-    return {false, QCoreApplication::translate(
-                       "ProjectStore", "An interrupted save of \"%1\" cannot be undone: %2.")
-                       .arg(QString::fromStdString(m_database), databaseReason(reason))};
+        return Outcome::done(isLeft ? interrupted() : QString());
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore",
+                                    "An interrupted save of \"%1\" cannot be undone: %2.")
+            .arg(QString::fromStdString(m_database), databaseReason(reason)));
 }
 
-StoreResult SafetyCopy::restore() const
+Outcome SafetyCopy::restore() const
 {
-    // A journal of the old file would be played back into the new one.
+    // SQLite would play a journal of the old file back into the new one.
     std::string why = lum::removeFile(m_database + "-journal");
     if (why.empty())
         why = lum::renameFile(m_copy, m_database);
     if (why.empty()) {
         basalt::logWarning("\"" + m_database + "\" was restored after an interrupted save");
-        return {true, interrupted()};
+        return Outcome::done(interrupted());
     }
-    return {false, QCoreApplication::translate(
-                       "ProjectStore", "Saving was interrupted; the project as it was before "
-                                       "stands in \"%1\", which cannot be put in its place: %2.")
-                       .arg(QString::fromStdString(m_copy), QString::fromStdString(why))};
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore",
+                                    "Saving was interrupted; the project as it was before "
+                                    "stands in \"%1\", which cannot be put in its place: %2.")
+            .arg(QString::fromStdString(m_copy), QString::fromStdString(why)));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/StoreResult.h"
+#include "protocol/Outcome.h"
 
 #include <string>
 
@@ -8,9 +8,9 @@ class IDBAdapter;
 
 /// The complete copy of a project's database that stands beside it while it is saved.
 ///
-/// A save empties the tables in one transaction and fills them in another. Between the two a table
-/// of the copy's making marks the database, so that a save that was cut off is told from one that
-/// was not: only a marked or damaged database is replaced by the copy.
+/// A save empties the tables in one transaction and fills them in another. While the tables are
+/// empty, the database holds the table "SaveUnderWay". It is the mark of an interrupted save: only
+/// a database with this mark, or a damaged one, is replaced by the copy.
 class SafetyCopy
 {
 public:
@@ -19,18 +19,20 @@ public:
 
     explicit SafetyCopy(const std::string& database);
 
-    /// Of the open database, which nobody else may write meanwhile.
+    /// Copies the open database. The caller keeps every other program from writing to it.
     bool make(IDBAdapter& database) const;
 
-    /// Once all is saved. That it fails is logged; the next `recover` removes the copy.
+    /// Removes the copy when everything is saved. A failure is logged, and the next `recover`
+    /// removes the copy.
     void drop() const;
 
-    /// Brings back what an interrupted save has left; closes `database`, which it uses for that.
-    /// \returns not done when there is a copy, and the database can neither be read nor replaced
-    [[nodiscard]] StoreResult recover(IDBAdapter& database) const;
+    /// Undoes an interrupted save, if there was one. Closes `database` and works with it.
+    /// \returns done, with a notice when a save was undone; failed when there is a copy, and the
+    ///          database can neither be read nor replaced
+    [[nodiscard]] Outcome recover(IDBAdapter& database) const;
 
 private:
-    [[nodiscard]] StoreResult restore() const;
+    [[nodiscard]] Outcome restore() const;
 
     std::string m_database;
     std::string m_copy;

@@ -14,6 +14,7 @@ inline constexpr const char* kPaintingLayerUpdate = "ON_PAINTING_LAYER_UPDATE";
 inline constexpr const char* kRefreshDesignLayer = "REFRESH_DESIGN_LAYER";
 /// Project new, open and close, survey edits, resurvey results -> data layer, survey tree.
 inline constexpr const char* kRefreshSurveyLayer = "REFRESH_SURVEY_LAYER";
+
 // --- tables ---
 
 /// Checks -> design table. No payload.

@@ -4,14 +4,14 @@
 
 #include <string>
 
-/// How an operation ended: what kind of end it was, what the user has to know of it, and what only
-/// the log keeps. An operation that was refused or failed has changed nothing.
+/// How an operation ended, with a text for the user and a detail for the log. Unless the operation
+/// says otherwise, it has changed nothing when it was refused or failed.
 class [[nodiscard]] Outcome
 {
 public:
     enum class Kind
     {
-        Done,    ///< with a notice for the user, or without
+        Done,    ///< with a notice for the user or without one
         Refused, ///< what was asked for makes no sense; nothing was tried
         Failed   ///< file, disk or database did not allow it
     };

@@ -70,7 +70,7 @@ private:
 
     void paintSystem()
     {
-        basalt::Dictionary project(DataProcessDataManager::instance()->project());
+        basalt::Dictionary project(DataProcessDataManager::instance().project());
         DlgProjectSet dialog(m_host, project);
         dialog.resize(dialog.minimumSize());
         dialog.show();
@@ -82,7 +82,7 @@ private:
 
     void paintLimits()
     {
-        DlgQCParamSet dialog(&m_frame, DataProcessDataManager::instance()->qualityParameters());
+        DlgQCParamSet dialog(&m_frame, DataProcessDataManager::instance().qualityParameters());
         dialog.show();
         letItPaint();
         save(dialog.grab(), "guide-limits");
@@ -91,7 +91,7 @@ private:
     /// The list over the map, which shows the result of the row that was clicked.
     void paintFaults()
     {
-        DataProcessDataManager& manager = *DataProcessDataManager::instance();
+        DataProcessDataManager& manager = DataProcessDataManager::instance();
         manager.checkQuality();
         m_frame.resize(1560, 980);
         DlgQCResult list(m_host, manager.describeQuality());

@@ -38,27 +38,26 @@ QByteArray qualityRows(const DataProcessDataManager& manager)
 
 } // namespace
 
-CliResult checkProject(const CliArguments& arguments)
+Outcome checkProject(const CliArguments& arguments)
 {
     if (arguments.places[1] != QLatin1String("quality"))
-        return CliResult::wrongUsage(
+        return Outcome::refused(
             QStringLiteral("there is no check \"%1\"; there is quality").arg(arguments.places[1]));
     CliProject project;
-    QString fault = project.open(arguments.places[0], ProjectAccess::Change);
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
+    if (Outcome opening = project.open(arguments.places[0], ProjectAccess::Change);
+        !opening.isDone())
+        return opening;
     project.manager().checkQuality();
     const QByteArray rows = qualityRows(project.manager());
-    fault = project.save();
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
+    if (Outcome saving = project.save(); !saving.isDone())
+        return saving;
     const QString out = arguments.option(QStringLiteral("--out"));
     if (out.isEmpty()) {
         std::fwrite(rows.constData(), 1, static_cast<std::size_t>(rows.size()), stdout);
-        return {};
+        return Outcome::done();
     }
-    fault = lum::writeWholeFile(out, rows);
+    const QString fault = lum::writeWholeFile(out, rows);
     return fault.isEmpty()
-               ? CliResult()
-               : CliResult::failed(QStringLiteral("Cannot write \"%1\": %2").arg(out, fault));
+               ? Outcome::done()
+               : Outcome::failed(QStringLiteral("Cannot write \"%1\": %2").arg(out, fault));
 }

@@ -14,7 +14,7 @@ QString CliArguments::option(const QString& name) const
     return options.value(name).value(0);
 }
 
-QString CliArguments::read(const QStringList& texts, const QStringList& allowed,
+Outcome CliArguments::read(const QStringList& texts, const QStringList& allowed,
                            const QStringList& flags, CliArguments& arguments)
 {
     for (int i = 0; i < texts.size(); ++i) {
@@ -24,18 +24,18 @@ QString CliArguments::read(const QStringList& texts, const QStringList& allowed,
             continue;
         }
         if (!allowed.contains(text) && !flags.contains(text))
-            return QStringLiteral("unknown option %1").arg(text);
+            return Outcome::refused(QStringLiteral("unknown option %1").arg(text));
         QStringList& values = arguments.options[text];
         if (flags.contains(text))
             continue;
         const bool takesPairs = text == QLatin1String("--set");
         if (i + 1 == texts.size() || texts[i + 1].isEmpty() || isOption(texts[i + 1]))
-            return QStringLiteral("%1 needs a value").arg(text);
+            return Outcome::refused(QStringLiteral("%1 needs a value").arg(text));
         if (!takesPairs && !values.isEmpty())
-            return QStringLiteral("%1 is given twice").arg(text);
+            return Outcome::refused(QStringLiteral("%1 is given twice").arg(text));
         values.append(texts[++i]);
         while (takesPairs && i + 1 < texts.size() && texts[i + 1].contains(QLatin1Char('=')))
             values.append(texts[++i]);
     }
-    return {};
+    return Outcome::done();
 }

@@ -68,18 +68,19 @@ const CliCommand* find(const QString& name)
     return found == kCommands.end() ? nullptr : found;
 }
 
-CliResult run(const CliCommand& command, const QStringList& texts)
+Outcome run(const CliCommand& command, const QStringList& texts)
 {
     CliArguments arguments;
-    QString fault =
+    Outcome reading =
         CliArguments::read(texts, split(command.options), split(command.flags), arguments);
     const int places = arguments.places.size();
-    if (fault.isEmpty() && places < command.fewestPlaces)
-        fault = QStringLiteral("%1 needs more arguments").arg(QLatin1String(command.name));
-    if (fault.isEmpty() && places > command.mostPlaces)
-        fault = QStringLiteral("%1 takes fewer arguments").arg(QLatin1String(command.name));
-    if (!fault.isEmpty())
-        return CliResult::wrongUsage(fault + QStringLiteral("; usage: ") + usageOf(command));
+    const QString name = QLatin1String(command.name);
+    if (reading.isDone() && places < command.fewestPlaces)
+        reading = Outcome::refused(QStringLiteral("%1 needs more arguments").arg(name));
+    if (reading.isDone() && places > command.mostPlaces)
+        reading = Outcome::refused(QStringLiteral("%1 takes fewer arguments").arg(name));
+    if (!reading.isDone())
+        return Outcome::refused(reading.text() + QStringLiteral("; usage: ") + usageOf(command));
     return command.run(arguments);
 }
 
@@ -91,13 +92,13 @@ bool cliPaints(const QStringList& arguments)
     return command != nullptr && command->paints;
 }
 
-CliResult runCli(const QStringList& arguments)
+Outcome runCli(const QStringList& arguments)
 {
     if (arguments.isEmpty())
-        return CliResult::wrongUsage(QStringLiteral("no command; see skyquill-cli --help"));
+        return Outcome::refused(QStringLiteral("no command; see skyquill-cli --help"));
     const CliCommand* const command = find(arguments[0]);
     if (command == nullptr)
-        return CliResult::wrongUsage(
+        return Outcome::refused(
             QStringLiteral("unknown command \"%1\"; see skyquill-cli --help").arg(arguments[0]));
     return run(*command, arguments.mid(1));
 }

@@ -16,21 +16,15 @@ CliProject::CliProject()
 {
 }
 
-QString CliProject::open(const QString& file, ProjectAccess access)
+Outcome CliProject::open(const QString& file, ProjectAccess access)
 {
     if (!QFileInfo(file).isFile())
-        return QStringLiteral("There is no project file \"%1\".").arg(file);
+        return Outcome::failed(QStringLiteral("There is no project file \"%1\".").arg(file));
     m_place = ProjectPlace::ofFile(file);
-    const StoreResult result = m_manager.openProject(m_place, access);
-    if (result.isDone && !result.message.isEmpty())
-        std::fprintf(stderr, "%s\n", qUtf8Printable(result.message));
-    return result.isDone ? QString() : result.message;
-}
-
-QString CliProject::save()
-{
-    const StoreResult result = m_manager.saveProject(m_place);
-    return result.isDone ? QString() : result.message;
+    Outcome opening = m_manager.openProject(m_place, access);
+    if (opening.isDone() && !opening.text().isEmpty())
+        std::fprintf(stderr, "%s\n", qUtf8Printable(opening.text()));
+    return opening;
 }
 
 void CliProject::handleEvent(const char* /*eventName*/, const char* payload, int /*reserved*/)

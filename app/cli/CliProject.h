@@ -12,12 +12,11 @@ class CliProject final : public IEventHandler
 public:
     CliProject();
 
-    /// \returns an empty text, or why it failed
-    [[nodiscard]] QString open(const QString& file, ProjectAccess access);
-    [[nodiscard]] QString save();
+    /// Prints a notice on standard error.
+    [[nodiscard]] Outcome open(const QString& file, ProjectAccess access);
+    [[nodiscard]] Outcome save() { return m_manager.saveProject(m_place); }
 
     [[nodiscard]] DataProcessDataManager& manager() { return m_manager; }
-    [[nodiscard]] IEventManager& events() { return m_host.eventManager(); }
     [[nodiscard]] const ProjectPlace& place() const { return m_place; }
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
@@ -27,5 +26,5 @@ private:
     DataProcessDataManager m_manager;
     EventSubscription m_subscription;
     ProjectPlace m_place;
-    QString m_shown; ///< the progress line on the terminal
+    QString m_shown; ///< the progress line that stands on the terminal
 };

@@ -18,10 +18,9 @@
 
 namespace {
 
-/// \returns an empty text, or why the system cannot be taken
-QString setParameters(const QStringList& pairs, IDictionary& project)
+Outcome setParameters(const QStringList& pairs, IDictionary& project)
 {
-    // The pivot of a datum shift is worked in before anything is stored.
+    // The pivot of a datum shift (_7p...) may be given, too: toStoredForm works it into the shift.
     static const QStringList known =
         QString::fromLatin1(CoordinateRecord::kKeys).split(QLatin1Char(',')) +
         QStringList{QStringLiteral("_7px"), QStringLiteral("_7py"), QStringLiteral("_7pz")};
@@ -29,18 +28,20 @@ QString setParameters(const QStringList& pairs, IDictionary& project)
         const QString key = pair.section(QLatin1Char('='), 0, 0);
         const QString value = pair.section(QLatin1Char('='), 1);
         if (!known.contains(key))
-            return QStringLiteral("There is no coordinate parameter \"%1\".").arg(key);
+            return Outcome::failed(
+                QStringLiteral("There is no coordinate parameter \"%1\".").arg(key));
         if (value.isEmpty())
-            return QStringLiteral("The coordinate parameter \"%1\" has no value.").arg(key);
+            return Outcome::failed(
+                QStringLiteral("The coordinate parameter \"%1\" has no value.").arg(key));
         project.set(key.toStdString(), value.toStdString());
     }
-    const lum::CoordParameterFault fault = lum::checkCoordParameters(project);
-    if (!fault)
-        lum::toStoredForm(project);
-    return QString::fromStdString(fault.message);
+    if (const lum::CoordParameterFault fault = lum::checkCoordParameters(project))
+        return Outcome::failed(QString::fromStdString(fault.message));
+    lum::toStoredForm(project);
+    return Outcome::done();
 }
 
-/// Names the datum shift that a system of the register came with.
+/// Prints which datum shift was taken for a system of the register.
 void tellDatumShift(const QString& code)
 {
     const lum::EpsgDatumShifts shifts = lum::epsgDatumShifts(code.toStdString());
@@ -55,7 +56,9 @@ void tellDatumShift(const QString& code)
     std::fprintf(stderr, "Datum shift: %s\n", taken.c_str());
 }
 
-QString chooseSystem(const CliArguments& arguments, IDictionary& project)
+/// Takes the coordinate system of "--epsg" or "--set" into the project; without either it keeps the
+/// one that it has.
+Outcome chooseSystem(const CliArguments& arguments, IDictionary& project)
 {
     QString code = arguments.option(QStringLiteral("--epsg"));
     if (code.startsWith(QLatin1String("EPSG:"), Qt::CaseInsensitive))
@@ -63,43 +66,45 @@ QString chooseSystem(const CliArguments& arguments, IDictionary& project)
     if (!code.isEmpty()) {
         const std::string fault = fillFromEpsg(code.toStdString(), project);
         if (!fault.empty())
-            return QString::fromStdString(fault);
+            return Outcome::failed(QString::fromStdString(fault));
         project.set(CoordinateRecord::kId, "EPSG:" + code.toStdString());
         tellDatumShift(code);
-        return {};
+        return Outcome::done();
     }
     const QStringList pairs = arguments.options.value(QStringLiteral("--set"));
-    return pairs.isEmpty() ? QString() : setParameters(pairs, project);
+    return pairs.isEmpty() ? Outcome::done() : setParameters(pairs, project);
+}
+
+Outcome make(const ProjectPlace& place, const IDictionary& project)
+{
+    if (!QDir().mkpath(place.folder))
+        return Outcome::failed(
+            QStringLiteral("The folder \"%1\" cannot be made.").arg(place.folder));
+    return ProjectCreator::create(place, project);
 }
 
 } // namespace
 
-CliResult createProject(const CliArguments& arguments)
+Outcome createProject(const CliArguments& arguments)
 {
     if (arguments.options.size() > 1)
-        return CliResult::wrongUsage(QStringLiteral("--epsg and --set exclude each other"));
+        return Outcome::refused(QStringLiteral("--epsg and --set exclude each other"));
     const QString location = QFileInfo(arguments.places[0]).absoluteFilePath();
     const QString& name = arguments.places[1];
-    QString fault = projectLocationFault(location);
-    if (fault.isEmpty())
-        fault = projectNameFault(name);
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
+    for (const QString& fault : {projectLocationFault(location), projectNameFault(name)}) {
+        if (!fault.isEmpty())
+            return Outcome::failed(fault);
+    }
     const ProjectPlace place = ProjectPlace::planned(QDir::cleanPath(location), name);
     if (QFileInfo::exists(place.file) || QFileInfo::exists(place.database()))
-        return CliResult::failed(
+        return Outcome::failed(
             QStringLiteral("There is a project in \"%1\" already.").arg(place.folder));
     basalt::Dictionary project;
     ProjectCreator::describe(place, project);
-    fault = chooseSystem(arguments, project);
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
-    if (!QDir().mkpath(place.folder))
-        return CliResult::failed(
-            QStringLiteral("The folder \"%1\" cannot be made.").arg(place.folder));
-    fault = ProjectCreator::create(place, project);
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
-    std::printf("%s\n", qUtf8Printable(place.file));
-    return {};
+    Outcome making = chooseSystem(arguments, project);
+    if (making.isDone())
+        making = make(place, project);
+    if (making.isDone())
+        std::printf("%s\n", qUtf8Printable(place.file));
+    return making;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+class Outcome;
 struct CliArguments;
-struct CliResult;
 
 /// "new DIR NAME": makes a project with the coordinate system of "--epsg" or "--set", and prints
 /// the path of its project file.
-[[nodiscard]] CliResult createProject(const CliArguments& arguments);
+Outcome createProject(const CliArguments& arguments);

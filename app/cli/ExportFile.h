@@ -1,7 +1,7 @@
 #pragma once
 
+class Outcome;
 struct CliArguments;
-struct CliResult;
 
 /// "export PROJECT KIND FILE": writes lines of the project into a file. The project stays as it is.
-[[nodiscard]] CliResult exportFile(const CliArguments& arguments);
+Outcome exportFile(const CliArguments& arguments);

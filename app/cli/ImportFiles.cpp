@@ -2,41 +2,36 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
-#include "exchange/ImportSummary.h"
 
 #include <cstdio>
 
 namespace {
 
-using Import = int (DataProcessDataManager::*)(const QString& path, ImportSummary* summary);
+using Import = int (DataProcessDataManager::*)(const QString& path, Outcome* outcome);
 
-CliResult importFile(const CliArguments& arguments, Import import)
+Outcome importFile(const CliArguments& arguments, Import import)
 {
     const QString& file = arguments.places[1];
     if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-        return CliResult::wrongUsage(QStringLiteral("\"%1\" does not end in .csv").arg(file));
+        return Outcome::refused(QStringLiteral("\"%1\" does not end in .csv").arg(file));
     CliProject project;
-    QString fault = project.open(arguments.places[0], ProjectAccess::Change);
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
-    ImportSummary summary;
-    if ((project.manager().*import)(file, &summary) == 0)
-        return CliResult::failed(summary.toText());
-    fault = project.save();
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
-    std::printf("%s\n", qUtf8Printable(summary.toText()));
-    return {};
+    Outcome outcome = project.open(arguments.places[0], ProjectAccess::Change);
+    if (!outcome.isDone() || (project.manager().*import)(file, &outcome) == 0)
+        return outcome;
+    if (Outcome saving = project.save(); !saving.isDone())
+        return saving;
+    std::printf("%s\n", qUtf8Printable(outcome.text()));
+    return outcome;
 }
 
 } // namespace
 
-CliResult importDesign(const CliArguments& arguments)
+Outcome importDesign(const CliArguments& arguments)
 {
     return importFile(arguments, &DataProcessDataManager::importDesignCsv);
 }
 
-CliResult importSurvey(const CliArguments& arguments)
+Outcome importSurvey(const CliArguments& arguments)
 {
     return importFile(arguments, &DataProcessDataManager::importSurveyCsv);
 }

@@ -60,12 +60,12 @@ void printDesign(const DesignPoints& points)
 
 } // namespace
 
-CliResult printProjectInfo(const CliArguments& arguments)
+Outcome printProjectInfo(const CliArguments& arguments)
 {
     CliProject project;
-    if (const QString fault = project.open(arguments.places[0], ProjectAccess::Look);
-        !fault.isEmpty())
-        return CliResult::failed(fault);
+    Outcome opening = project.open(arguments.places[0], ProjectAccess::Look);
+    if (!opening.isDone())
+        return opening;
     DataProcessDataManager& manager = project.manager();
     print("project", project.place().name.toStdString());
     print("folder", project.place().folder.toStdString());
@@ -75,5 +75,5 @@ CliResult printProjectInfo(const CliArguments& arguments)
     printDesign(manager.designPoints());
     print("survey_lines", manager.surveyPoints().lineCount());
     print("survey_results", manager.surveyPoints().pointCount());
-    return {};
+    return opening;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+class Outcome;
 struct CliArguments;
-struct CliResult;
 
 /// "info PROJECT": prints what is in a project, a "key: value" line each. The keys are not
 /// translated: they are read by scripts.
-[[nodiscard]] CliResult printProjectInfo(const CliArguments& arguments);
+Outcome printProjectInfo(const CliArguments& arguments);

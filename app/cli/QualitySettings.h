@@ -1,11 +1,11 @@
 #pragma once
 
+class Outcome;
 struct CliArguments;
-struct CliResult;
 
 /// "set-quality PROJECT key=value ...": changes quality parameters and saves the project.
-[[nodiscard]] CliResult setQuality(const CliArguments& arguments);
+Outcome setQuality(const CliArguments& arguments);
 
-/// "list-quality PROJECT": prints all quality parameters, a "key=value" line each, with what counts
-/// for those that the project does not name.
-[[nodiscard]] CliResult listQuality(const CliArguments& arguments);
+/// "list-quality PROJECT": prints all quality parameters, a "key=value" line each; the default
+/// value for those that the project does not have.
+Outcome listQuality(const CliArguments& arguments);

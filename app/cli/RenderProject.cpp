@@ -29,7 +29,7 @@ QPointF toMap(double north, double east)
     return {east, north};
 }
 
-/// \returns an empty size for a text that is none
+/// \returns an empty size for a text that is not a size
 QSize readSize(const QString& text)
 {
     if (text.isEmpty())
@@ -67,40 +67,36 @@ void paintSurveyOf(DataProcessDataManager& manager, QImage& image)
                 QCoreApplication::translate("DataProcessLayerImp", "Base"), painter);
 }
 
-/// In the format that the file's ending names. \returns an empty text, or why it failed
-QString writePicture(const QImage& image, const QString& file)
+/// The ending of the file's name chooses the format.
+Outcome writePicture(const QImage& image, const QString& file)
 {
     QBuffer encoded;
     QImageWriter writer(&encoded, QFileInfo(file).suffix().toLatin1());
-    if (!writer.write(image))
-        return writer.errorString();
-    return lum::writeWholeFile(file, encoded.data());
+    const QString fault =
+        writer.write(image) ? lum::writeWholeFile(file, encoded.data()) : writer.errorString();
+    if (fault.isEmpty())
+        return Outcome::done();
+    return Outcome::failed(QStringLiteral("Cannot write \"%1\": %2").arg(file, fault));
 }
 
 } // namespace
 
-CliResult renderProject(const CliArguments& arguments)
+Outcome renderProject(const CliArguments& arguments)
 {
     const QString& view = arguments.places[1];
     const QSize size = readSize(arguments.option(QStringLiteral("--size")));
     if (view != QLatin1String("design") && view != QLatin1String("survey"))
-        return CliResult::wrongUsage(
-            QStringLiteral("\"%1\" is neither design nor survey").arg(view));
+        return Outcome::refused(QStringLiteral("\"%1\" is neither design nor survey").arg(view));
     if (size.isEmpty())
-        return CliResult::wrongUsage(QStringLiteral("a size reads 1600x1000, up to 20000 a side"));
+        return Outcome::refused(QStringLiteral("a size reads 1600x1000, up to 20000 a side"));
     CliProject project;
-    const QString fault = project.open(arguments.places[0], ProjectAccess::Look);
-    if (!fault.isEmpty())
-        return CliResult::failed(fault);
+    if (Outcome opening = project.open(arguments.places[0], ProjectAccess::Look); !opening.isDone())
+        return opening;
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
     if (view == QLatin1String("design"))
         paintDesignOf(project.manager(), image);
     else
         paintSurveyOf(project.manager(), image);
-    const QString& file = arguments.places[2];
-    const QString reason = writePicture(image, file);
-    return reason.isEmpty()
-               ? CliResult()
-               : CliResult::failed(QStringLiteral("Cannot write \"%1\": %2").arg(file, reason));
+    return writePicture(image, arguments.places[2]);
 }

@@ -28,7 +28,7 @@ void readConfiguration()
                           QCoreApplication::applicationName().toLower());
 }
 
-/// A graphical one only where it is needed, and never with a display.
+/// A graphical application only for commands that need it; it never uses a display.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv)
 {
     QStringList arguments;
@@ -40,11 +40,13 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv)
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
-int report(const CliResult& result)
+/// Tells why nothing was done. \returns the exit status: this is the one place that chooses it
+int report(const Outcome& outcome)
 {
-    if (result.status != CliResult::kDone)
-        std::fprintf(stderr, "skyquill-cli: %s\n", qUtf8Printable(result.message));
-    return result.status;
+    if (outcome.isDone())
+        return 0;
+    std::fprintf(stderr, "skyquill-cli: %s\n", qUtf8Printable(outcome.text()));
+    return outcome.kind() == Outcome::Kind::Refused ? 2 : 1;
 }
 
 } // namespace
@@ -52,20 +54,20 @@ int report(const CliResult& result)
 int main(int argc, char* argv[])
 {
     nameProduct();
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also where it is "C"
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also in the locale "C"
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(QLatin1String(kOrganisation));
     QCoreApplication::setApplicationName(QLatin1String(kProductName));
-    basalt::keepLogOffConsole(); // what the user has to know is one line of ours
+    basalt::keepLogOffConsole(); // `report` tells the user in one line
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.value(0) == QLatin1String("--help")) {
         std::printf("%s", qUtf8Printable(cliHelp()));
-        return CliResult::kDone;
+        return 0;
     }
     readConfiguration();
     try {
         return report(runCli(arguments));
     } catch (const std::exception& fault) {
-        return report(CliResult::failed(QString::fromUtf8(fault.what())));
+        return report(Outcome::failed(QString::fromUtf8(fault.what())));
     }
 }

@@ -56,6 +56,22 @@ int viewOf(const IDictionary& status)
     return status.integer(status::kViewShowWhich, kDesignView);
 }
 
+// The points of the open project. The map is made before the data manager and outlives it.
+
+const DesignPoints& designPoints()
+{
+    static const DesignPoints kNone;
+    return DataProcessDataManager::hasInstance() ? DataProcessDataManager::instance().designPoints()
+                                                 : kNone;
+}
+
+const SurveyPoints& surveyPoints()
+{
+    static const SurveyPoints kNone;
+    return DataProcessDataManager::hasInstance() ? DataProcessDataManager::instance().surveyPoints()
+                                                 : kNone;
+}
+
 } // namespace
 
 DataProcessLayerImp::DataProcessLayerImp(const char* config, IDesktopHost* host)
@@ -104,11 +120,8 @@ void DataProcessLayerImp::rebuild()
 
 void DataProcessLayerImp::rebuildDesign()
 {
-    static const DesignPoints kNone;
-    DataProcessDataManager* const manager = DataProcessDataManager::instance();
     const auto place = [this](double north, double east) { return toMap(north, east); };
-    auto marks = std::make_shared<const DesignMarks>(
-        manager != nullptr ? manager->designPoints() : kNone, place);
+    auto marks = std::make_shared<const DesignMarks>(designPoints(), place);
     m_extent = markExtent(marks->table().gridBounds(), place);
     const std::lock_guard lock(m_designMutex);
     m_design = std::move(marks);
@@ -116,11 +129,8 @@ void DataProcessLayerImp::rebuildDesign()
 
 void DataProcessLayerImp::rebuildSurvey()
 {
-    static const SurveyPoints kNone;
-    DataProcessDataManager* const manager = DataProcessDataManager::instance();
     const auto place = [this](double north, double east) { return toMap(north, east); };
-    auto marks = std::make_shared<const SurveyMarks>(
-        manager != nullptr ? manager->surveyPoints() : kNone, place);
+    auto marks = std::make_shared<const SurveyMarks>(surveyPoints(), place);
     m_extent = markExtent(marks->gridBounds(), place);
     const std::lock_guard lock(m_surveyMutex);
     m_survey = std::move(marks);
@@ -158,8 +168,8 @@ void DataProcessLayerImp::preparePaint()
     Surroundings now;
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         now.drawingArea = screen->geometry();
-    if (DataProcessDataManager* const manager = DataProcessDataManager::instance())
-        now.spacingM = smallestSpacingM(manager->designParameters());
+    if (DataProcessDataManager::hasInstance())
+        now.spacingM = smallestSpacingM(DataProcessDataManager::instance().designParameters());
     const std::lock_guard lock(m_surroundingsMutex);
     m_surroundings = now;
 }

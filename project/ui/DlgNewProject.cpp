@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr const char* kLastFolder = "project_folder"; // setting: where the last one was made
+constexpr const char* kLastFolder = "project_folder"; // setting: the folder chosen last
 
 QString lastFolder()
 {

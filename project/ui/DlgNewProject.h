@@ -6,8 +6,8 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-/// Asks for the name of a new project and for the folder that its own folder is made in. A name or
-/// a folder that cannot be used is told while it is typed, and cannot be accepted.
+/// Asks for the name of a new project and for the folder in which its own folder is made. Says
+/// while the user types what is wrong with either, and cannot be accepted until both are right.
 class DlgNewProject final : public Dialog
 {
     Q_OBJECT

@@ -24,8 +24,8 @@
 
 namespace {
 
-constexpr const char* kUnit = "unit";         // row of the general page; the setting "un_coordUnit"
-constexpr const char* kName = "project_name"; // row: the last part of the folder
+constexpr const char* kUnit = "unit";         // row that shows the setting "un_coordUnit"
+constexpr const char* kName = "project_name"; // row that shows the last part of the folder
 constexpr int kGeneralPage = 0;
 constexpr int kCoordPage = 1;
 

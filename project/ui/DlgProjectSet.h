@@ -9,9 +9,9 @@ class PropertyGridCtrl;
 class QListWidget;
 class QStackedWidget;
 
-/// The settings of a project: general information and coordinate system, a page each. Works on a
-/// project dictionary (ProjectFile.h), which changes when the user applies; a bad value is shown
-/// and refused.
+/// The settings of a project: a page for general information and one for the coordinate system.
+/// Shows a project dictionary (ProjectFile.h) and changes it when the user applies. While a value
+/// is bad, applying shows that value instead.
 class DlgProjectSet final : public Dialog
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     void accept() override;
 
 Q_SIGNALS:
-    /// The dictionary holds the new values, and nobody has been told yet.
+    /// The dictionary holds the new values; the events have not been published yet.
     void applied();
 
 private:

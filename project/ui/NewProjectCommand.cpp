@@ -3,15 +3,11 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/events/IEventManager.h"
-#include "project/DataProcessDataManager.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectPlace.h"
-#include "project/RecentProjects.h"
 #include "project/ui/DlgNewProject.h"
 #include "project/ui/DlgProjectSet.h"
 #include "project/ui/ProjectSession.h"
-#include "protocol/Events.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -31,8 +27,8 @@ void reportFailure(IDesktopHost& host, const QString& reason)
         LumMessageBox::Button::Ok, reason);
 }
 
-/// Makes the project's folder, or asks whether the one that stands there may be used. Old files in
-/// it stay.
+/// Makes the project's folder; asks first when there is one already, whose files stay.
+/// \returns whether the folder can be used
 bool makeFolder(IDesktopHost& host, const QString& folder)
 {
     if (QDir(folder).exists()) {
@@ -43,7 +39,7 @@ bool makeFolder(IDesktopHost& host, const QString& folder)
                 translated(QT_TRANSLATE_NOOP("NewProjectCommand", "project path exist, override?")),
                 LumMessageBox::Buttons(Button::Yes) | Button::No) != Button::Yes)
             return false;
-        QDir().rmdir(folder); // fails when something is in it
+        QDir().rmdir(folder); // only succeeds when it is empty
     }
     if (QDir().mkpath(folder))
         return true;
@@ -69,27 +65,12 @@ void NewProjectCommand::execute()
     ProjectCreator::describe(place, project);
     DlgProjectSet settings(host(), project);
     if (settings.exec() != QDialog::Accepted) {
-        QDir().rmdir(place.folder); // unless something was in it
+        QDir().rmdir(place.folder); // only succeeds when it is empty
         return;
     }
-    if (const QString fault = ProjectCreator::create(place, project); !fault.isEmpty()) {
-        reportFailure(host(), fault);
-        return;
-    }
-    open(place);
-}
-
-void NewProjectCommand::open(const ProjectPlace& place)
-{
-    const StoreResult result = DataProcessDataManager::instance()->openProject(place);
-    if (!result.isDone) {
-        reportFailure(host(), result.message);
-        return;
-    }
-    ProjectSession::setStatus(host(), place);
-    RecentProjects::add(place.file);
-    IEventManager& events = host().eventManager();
-    events.publish(events::kRefreshDesignLayer, nullptr, 0);
-    events.publish(events::kRefreshSurveyLayer, nullptr, 0);
-    events.publish(events::kUpdateSystemStatus, nullptr, 0);
+    Outcome making = ProjectCreator::create(place, project);
+    if (making.isDone())
+        making = ProjectSession::open(host(), place);
+    if (!making.isDone())
+        reportFailure(host(), making.text());
 }

@@ -2,15 +2,10 @@
 
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 
-struct ProjectPlace;
-
-/// Makes a project: name and folder, then its settings; opens it.
+/// Asks for name and folder of a new project, then for its settings; makes it and opens it.
 class NewProjectCommand final : public CommandExecuterxBase
 {
 public:
     using CommandExecuterxBase::CommandExecuterxBase;
     void execute() override;
-
-private:
-    void open(const ProjectPlace& place);
 };

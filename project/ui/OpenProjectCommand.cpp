@@ -15,5 +15,5 @@ void OpenProjectCommand::execute()
         host().dialogParent(), QCoreApplication::translate("OpenProjectCommand", "Open Project"),
         QStringLiteral("%1 file(*.%1)").arg(projectExtension()));
     if (!file.isEmpty())
-        ProjectSession::open(host(), file);
+        ProjectSession::openFile(host(), file);
 }

@@ -1,9 +1,8 @@
 #include "project/ui/ProjectCommandBase.h"
 
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "protocol/StatusKeys.h"
+#include "project/ui/ProjectState.h"
 
 bool ProjectCommandBase::isEnabled() const
 {
-    return get_system_status_dictionary().integer(status::kProjectOpen) != 0;
+    return ProjectState::isOpen();
 }

@@ -3,14 +3,10 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_sdk/events/IEventManager.h"
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "lum_sdk/Text.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "project/RecentProjects.h"
-#include "protocol/Events.h"
-#include "protocol/StatusKeys.h"
+#include "project/ui/ProjectState.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -19,43 +15,51 @@ namespace ProjectSession {
 
 namespace {
 
+using Button = LumMessageBox::Button;
+
 QString translated(const char* text)
 {
     return QCoreApplication::translate("ProjectSession", text);
 }
 
-void reportFailure(IDesktopHost& host, const QString& file, const QString& reason)
+void reportFailure(IDesktopHost& host, const ProjectPlace& place, const QString& reason)
 {
-    if (!QFileInfo::exists(file) || !QFileInfo::exists(ProjectPlace::ofFile(file).database()))
-        RecentProjects::remove(file);
+    if (!QFileInfo::exists(place.file) || !QFileInfo::exists(place.database()))
+        RecentProjects::remove(place.file);
     LumMessageBox::information(
         host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "failed")),
-        translated(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")),
-        LumMessageBox::Button::Ok, reason);
+        translated(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")), Button::Ok,
+        reason);
 }
 
 } // namespace
 
-bool isOpen()
+Outcome open(IDesktopHost& host, const ProjectPlace& place)
 {
-    return get_system_status_dictionary().integer(status::kProjectOpen) != 0;
+    Outcome opening = DataProcessDataManager::instance().openProject(place);
+    if (opening.isDone()) {
+        RecentProjects::add(place.file); // first, since the commands read the list on the events
+        ProjectState::opened(host, place);
+    }
+    return opening;
 }
 
-ProjectPlace place()
+void openFile(IDesktopHost& host, const QString& file)
 {
-    const IDictionary& values = get_system_status_dictionary();
-    const QString folder = lum::toQString(values.text(status::kProjectPath));
-    QString name = lum::toQString(values.text(status::kProjectName));
-    if (name.isEmpty())
-        name = folder.section(QLatin1Char('/'), -1);
-    return ProjectPlace::in(folder, name);
+    const ProjectPlace place = ProjectPlace::ofFile(file);
+    const Outcome opening = open(host, place);
+    if (!opening.isDone())
+        reportFailure(host, place, opening.text());
+    else if (!opening.text().isEmpty())
+        LumMessageBox::information(host.dialogParent(),
+                                   translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+                                   opening.text());
 }
 
 bool closeCurrent(IDesktopHost& host)
 {
-    if (!isOpen())
+    if (!ProjectState::isOpen())
         return true;
-    using Button = LumMessageBox::Button;
     const Button answer = LumMessageBox::information(
         host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
         translated(QT_TRANSLATE_NOOP("ProjectSession", "close current project?")),
@@ -63,35 +67,16 @@ bool closeCurrent(IDesktopHost& host)
     if (answer != Button::Yes)
         return false;
     host.commands().execute(QStringLiteral("Close Project"));
-    return !isOpen();
+    return !ProjectState::isOpen();
 }
 
-bool open(IDesktopHost& host, const QString& file)
+bool offerSave(IDesktopHost& host)
 {
-    const ProjectPlace place = ProjectPlace::ofFile(file);
-    const StoreResult result = DataProcessDataManager::instance()->openProject(place);
-    if (!result.isDone) {
-        reportFailure(host, place.file, result.message);
-        return false;
-    }
-    IEventManager& events = host.eventManager();
-    events.publish(events::kRefreshDesignLayer, nullptr, 0);
-    events.publish(events::kRefreshSurveyLayer, nullptr, 0);
-    setStatus(host, place);
-    RecentProjects::add(place.file);
-    events.publish(events::kUpdateSystemStatus, nullptr, 0);
-    if (!result.message.isEmpty())
-        LumMessageBox::information(host.dialogParent(),
-                                   translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
-                                   result.message);
-    return true;
-}
-
-bool mayForget(IDesktopHost& host)
-{
-    if (!DataProcessDataManager::instance()->isSaveOwed())
+    if (!ProjectState::isOpen())
         return true;
-    using Button = LumMessageBox::Button;
+    host.commands().execute(QStringLiteral("Save Project"));
+    if (!DataProcessDataManager::instance().isSaveOwed())
+        return true;
     return LumMessageBox::warning(
                host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
                translated(QT_TRANSLATE_NOOP("ProjectSession",
@@ -100,22 +85,10 @@ bool mayForget(IDesktopHost& host)
                LumMessageBox::Buttons(Button::Yes) | Button::No) == Button::Yes;
 }
 
-void setStatus(IDesktopHost& host, const ProjectPlace& place)
+void forget(IDesktopHost& host)
 {
-    IDictionary& values = get_system_status_dictionary();
-    values.set(status::kProjectOpen, "1");
-    values.set(status::kProjectPath, place.folder.toStdString());
-    values.set(status::kProjectName, place.name.toStdString());
-    host.setDocument(place.name);
-}
-
-void clearStatus(IDesktopHost& host)
-{
-    IDictionary& values = get_system_status_dictionary();
-    values.set(status::kProjectOpen, "0");
-    values.set(status::kProjectPath, "");
-    values.set(status::kProjectName, "");
-    host.setDocument(QString());
+    DataProcessDataManager::instance().clear();
+    ProjectState::closed(host);
 }
 
 } // namespace ProjectSession

@@ -1,29 +1,28 @@
 #pragma once
 
+#include "protocol/Outcome.h"
+
 class IDesktopHost;
-class QString;
 struct ProjectPlace;
 
-/// What the project commands share: the project that is open, as status and events tell it.
+/// How the commands open and close a project, with the questions to the user.
 namespace ProjectSession {
 
-[[nodiscard]] bool isOpen();
-/// The open project, from the system status.
-[[nodiscard]] ProjectPlace place();
+/// Opens a project while none is open, and puts it first in the list of recent projects.
+Outcome open(IDesktopHost& host, const ProjectPlace& place);
+/// The same for a project file. A message box shows a failure, or the notice of a success.
+void openFile(IDesktopHost& host, const QString& file);
 
-/// Asks whether the open project may be closed, and closes it.
+/// Asks whether the open project may be closed, and closes it by the command "Close Project".
 /// \returns whether no project is open any more
-bool closeCurrent(IDesktopHost& host);
+[[nodiscard]] bool closeCurrent(IDesktopHost& host);
 
-/// Opens a project file while none is open. What the user has to know of a failure
-/// or of an interrupted save stands in a message box.
-bool open(IDesktopHost& host, const QString& file);
+/// Offers to save the open project by the command "Save Project". When its last saving failed, asks
+/// whether the changes may be lost.
+/// \returns whether the project may be forgotten
+[[nodiscard]] bool offerSave(IDesktopHost& host);
 
-/// Whether the program may forget the open project: asks when its last saving failed.
-[[nodiscard]] bool mayForget(IDesktopHost& host);
-
-/// Sets the system status and the frame's title to this project.
-void setStatus(IDesktopHost& host, const ProjectPlace& place);
-void clearStatus(IDesktopHost& host);
+/// Closes the open project as it is, without a question.
+void forget(IDesktopHost& host);
 
 } // namespace ProjectSession

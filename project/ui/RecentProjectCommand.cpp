@@ -8,9 +8,9 @@
 
 void RecentProjectCommand::execute()
 {
-    const QString chosen = file(); // before closing the present one moves the list
+    const QString chosen = file(); // read before closing, since that may change the list
     if (!chosen.isEmpty() && ProjectSession::closeCurrent(host()))
-        ProjectSession::open(host(), chosen);
+        ProjectSession::openFile(host(), chosen);
 }
 
 bool RecentProjectCommand::isEnabled() const

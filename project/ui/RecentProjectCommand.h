@@ -2,8 +2,8 @@
 
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 
-/// Opens one of the projects that were open last: the entry's "place", counted from 0. An entry
-/// without a project does not show.
+/// Opens one of the recent projects: that at the entry's "place" in the list, counted from 0. An
+/// entry without a project is hidden; the first one then says that there are none.
 class RecentProjectCommand final : public CommandExecuterxBase
 {
 public:

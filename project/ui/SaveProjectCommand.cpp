@@ -5,7 +5,7 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
-#include "project/ui/ProjectSession.h"
+#include "project/ui/ProjectState.h"
 #include "protocol/StatusKeys.h"
 
 #include <QCoreApplication>
@@ -32,13 +32,12 @@ bool wantsToSave(IDesktopHost& host)
 void SaveProjectCommand::execute()
 {
     const IDictionary& values = get_system_status_dictionary();
-    if (!ProjectSession::isOpen() || values.text(status::kProjectPath).empty())
+    if (!ProjectState::isOpen() || values.text(status::kProjectPath).empty())
         return;
     if (!wantsToSave(host()))
         return;
-    const StoreResult result =
-        DataProcessDataManager::instance()->saveProject(ProjectSession::place());
-    if (result.isDone)
+    const Outcome saving = DataProcessDataManager::instance().saveProject(ProjectState::place());
+    if (saving.isDone())
         LumMessageBox::information(
             host().dialogParent(), translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "success")),
             translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project success!")));
@@ -46,5 +45,5 @@ void SaveProjectCommand::execute()
         LumMessageBox::information(
             host().dialogParent(), translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "failed")),
             translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project failed!")),
-            LumMessageBox::Button::Ok, result.message);
+            LumMessageBox::Button::Ok, saving.text());
 }

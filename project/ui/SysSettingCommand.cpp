@@ -8,14 +8,14 @@
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/DlgProjectSet.h"
-#include "project/ui/ProjectSession.h"
+#include "project/ui/ProjectState.h"
 
 void SysSettingCommand::execute()
 {
-    DataProcessDataManager& manager = *DataProcessDataManager::instance();
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
     basalt::Dictionary project(manager.project());
-    project.set(ProjectFile::kPath, ProjectSession::place().folder.toStdString());
-    // The database's word counts, which may be newer than the project file's.
+    project.set(ProjectFile::kPath, ProjectState::place().folder.toStdString());
+    // The system in use comes from the database, which may be newer than the project file.
     const IDictionary& coordSystem = get_project_coord_transform().parameters();
     dictionary_copy(coordSystem, project, CoordinateRecord::kKeys);
     dictionary_copy(coordSystem, project, CoordinateRecord::kId);

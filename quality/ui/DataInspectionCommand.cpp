@@ -13,7 +13,7 @@
 
 void DataInspectionCommand::execute()
 {
-    DataProcessDataManager& manager = *DataProcessDataManager::instance();
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
     manager.checkQuality();
     LumMessageBox::information(
         host().dialogParent(), QCoreApplication::translate("DataInspectionCommand", "success"),

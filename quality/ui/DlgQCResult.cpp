@@ -92,7 +92,7 @@ void DlgQCResult::onItemClicked(const QModelIndex& index)
 
 void DlgQCResult::showOnMap(const QString& lineNumber, const QString& pointNumber)
 {
-    const SurveyPoint* const point = DataProcessDataManager::instance()->surveyPoints().find(
+    const SurveyPoint* const point = DataProcessDataManager::instance().surveyPoints().find(
         lineNumber.toStdString(), pointNumber.toStdString());
     if (point == nullptr) // deleted since
         return;

@@ -6,6 +6,6 @@
 
 void QualitySpecificateCommand::execute()
 {
-    DlgQCParamSet(host().dialogParent(), DataProcessDataManager::instance()->qualityParameters())
+    DlgQCParamSet(host().dialogParent(), DataProcessDataManager::instance().qualityParameters())
         .exec();
 }

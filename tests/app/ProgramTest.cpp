@@ -1,13 +1,36 @@
+#include "tests/support/TestFolder.h"
+
 #include <QDir>
-#include <QDirIterator>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 #include <QtTest>
+
+namespace {
+
+constexpr const char* kToolFolder = "程序 dir/etc/Tarvona/config/Skyquill/Tool/DataProcess5/";
+
+/// Every component that is registered, as "--components" prints them: kind, name, caption.
+constexpr const char* kComponents =
+    "IWindow: CoordinateReadout 坐标显示, LayerWindow 图层窗口, MapWindow 地图,"
+    " MessageWindow 消息窗口, ProgressStatusBarForSkyquill Progress\n"
+    "ILayerViewer: BoundaryLayer 边界图层, DataProcessLayer 矢量图层\n"
+    "IReactor: ReactorDefault 默认, ReactorMoveTrans 平移, ReactorZoomRectTrans 局部矩形放大,"
+    " SeletePointReactor 属性查看\n"
+    "ICommandExecuterx: AboutCommand 关于, CloseProjectCommand 关闭工程,"
+    " CoordFormatCommand 坐标格式, DataInspectionCommand 数据检查,"
+    " DrawBoundaryCommand 绘制边界, DrawExcitationCommand 绘制激发线,"
+    " DrawReceiverCommand 绘制接收线, ExitCommand 退出, FullScreenCommand 全屏,"
+    " NewProjectCommand 新建工程, OpenProjectCommand 打开工程, PPKMoveCommand 地图移动,"
+    " PPKZoomAllCommand 全图, PPKZoomInCommand 地图放大, PPKZoomOutCommand 地图缩小,"
+    " PPKZoomRectCommand 局部矩形放大, QualitySpecificateCommand 质量规范,"
+    " RecentProjectCommand 最近工程, ResetLayoutCommand 恢复布局, SaveProjectCommand 保存工程,"
+    " SettingChoiceCommand 系统设置选项, SysSettingCommand 设置, TimeZomeDlgCommand 时区修改,"
+    " ViewChangeCommand 更改视图\n"
+    "IGuiAssistant: DataProcess5 助手\n";
+
+} // namespace
 
 /// The program itself, started from an installation of its own: a copy of executable and
 /// configuration on a path with blanks and Chinese characters.
@@ -17,129 +40,124 @@ class ProgramTest : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup();
-    void reportsItsStartUpTime();
+    void cleanup() { m_folder.reset(); }
+    void answersOnTheCommandLine();
     void writesAPictureOfTheWindow();
     void aSecondInstanceLeavesSilentlyAtOnce();
     void aMissingSystemFileIsFatalAndReported();
     void aBrokenLayoutLeavesTheMap();
     void beginsASessionWhereAServerIsConfigured();
-    void worksInThePlainLocale();
-    void listsItsComponents();
-    void refusesUnknownOptions();
 
 private:
-    [[nodiscard]] QString path(const char* relative) const
-    {
-        return m_folder->filePath(QString::fromUtf8(relative));
-    }
+    [[nodiscard]] QString path(const char* relative) const { return m_folder->path(relative); }
     [[nodiscard]] QString toolFile(const char* name) const
     {
-        return path("程序 dir/etc/Tarvona/config/Skyquill/Tool/DataProcess5/") +
-               QString::fromUtf8(name);
+        return path(kToolFolder) + QString::fromUtf8(name);
     }
-    void prepare(QProcess& process) const;
-    [[nodiscard]] QByteArray log() const;
-    static void replace(const QString& file, const QByteArray& content);
+    void writeToolFile(const char* name, const QByteArray& content) const
+    {
+        QVERIFY(!m_folder->write((kToolFolder + QByteArray(name)).constData(), content).isEmpty());
+    }
+    [[nodiscard]] QByteArray log() const
+    {
+        return TestFolder::read(path("state/Tarvona/Skyquill/skyquill.log"));
+    }
+    void start(QProcess& process, const QStringList& arguments = {}, const char* locale = "") const;
+    /// To its end. \returns the exit status; -1 after a crash
+    int run(QProcess& process, const QStringList& arguments, const char* locale = "") const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestFolder> m_folder;
 };
 
 void ProgramTest::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
+    m_folder = std::make_unique<TestFolder>();
     QVERIFY(QDir().mkpath(path("程序 dir/bin")));
     QVERIFY(QDir().mkpath(path("run")));
     QVERIFY(
         QFile::setPermissions(path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FILE), path("程序 dir/bin/skyquill")));
-    const QDir from(QStringLiteral(CONFIGURATION_FOLDER));
-    QDirIterator files(from.path(), QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString source = files.next();
-        const QString target = path("程序 dir/etc/") + from.relativeFilePath(source);
-        QVERIFY(QDir().mkpath(QFileInfo(target).path()));
-        QVERIFY(QFile::copy(source, target));
-    }
+    const QStringList configuration{QStringLiteral("-r"), QStringLiteral(CONFIGURATION_FOLDER),
+                                    path("程序 dir/etc")};
+    QCOMPARE(QProcess::execute(QStringLiteral("cp"), configuration), 0);
 }
 
-void ProgramTest::cleanup()
-{
-    m_folder.reset();
-}
-
-void ProgramTest::prepare(QProcess& process) const
+void ProgramTest::start(QProcess& process, const QStringList& arguments, const char* locale) const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
     environment.insert(QStringLiteral("XDG_STATE_HOME"), path("state"));
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), path("run"));
+    if (*locale != '\0')
+        environment.insert(QStringLiteral("LC_ALL"), QString::fromLatin1(locale));
     process.setProcessEnvironment(environment);
-    process.setProgram(path("程序 dir/bin/skyquill"));
     process.setWorkingDirectory(m_folder->path());
+    process.start(path("程序 dir/bin/skyquill"), arguments);
 }
 
-QByteArray ProgramTest::log() const
+int ProgramTest::run(QProcess& process, const QStringList& arguments, const char* locale) const
 {
-    QFile file(path("state/Tarvona/Skyquill/skyquill.log"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    start(process, arguments, locale);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        return -1;
+    return process.exitCode();
 }
 
-void ProgramTest::replace(const QString& file, const QByteArray& content)
-{
-    QFile target(file);
-    QVERIFY(target.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    QCOMPARE(target.write(content), content.size());
-}
-
-void ProgramTest::reportsItsStartUpTime()
+void ProgramTest::answersOnTheCommandLine()
 {
     QProcess process;
-    prepare(process);
-    process.setArguments({QStringLiteral("--startup-time")});
-    process.start();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(run(process, {QStringLiteral("--startup-time")}), 0);
     static const QRegularExpression report(
         QStringLiteral("^\\d+ ms of CPU time to the shown window\n$"));
     QVERIFY(report.match(QString::fromUtf8(process.readAllStandardOutput())).hasMatch());
+
+    QVERIFY(run(process, {QStringLiteral("--no-such-option")}) > 0);
+    QVERIFY(process.readAllStandardError().contains("no-such-option"));
+
+    QCOMPARE(run(process, {QStringLiteral("--components")}), 0);
+    QMap<QString, QStringList> found;
+    while (process.canReadLine()) {
+        const QString line = QString::fromUtf8(process.readLine()).simplified();
+        found[line.section(QLatin1Char(' '), 0, 0)] << line.section(QLatin1Char(' '), 1);
+    }
+    QString components;
+    for (const char* kind :
+         {"IWindow", "ILayerViewer", "IReactor", "ICommandExecuterx", "IGuiAssistant"})
+        components += QLatin1String(kind) + QStringLiteral(": ") +
+                      found.take(QLatin1String(kind)).join(QStringLiteral(", ")) +
+                      QLatin1Char('\n');
+    QCOMPARE(components, QString::fromUtf8(kComponents));
+    QVERIFY(found.isEmpty());
 }
 
 void ProgramTest::writesAPictureOfTheWindow()
 {
     QProcess process;
-    prepare(process);
-    process.setArguments({QStringLiteral("--screenshot"), path("图 picture.png")});
-    process.start();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), 0);
-    const QImage picture(path("图 picture.png"));
-    QVERIFY(picture.width() >= 640 && picture.height() >= 400);
+    for (const char* locale : {"", "C"}) {
+        QFile::remove(path("图 picture.png"));
+        const QStringList arguments{QStringLiteral("--screenshot"), path("图 picture.png")};
+        QCOMPARE(run(process, arguments, locale), 0);
+        const QImage picture(path("图 picture.png"));
+        QVERIFY(picture.width() >= 640 && picture.height() >= 400);
+        QVERIFY2(!log().contains("error"), log().constData());
+    }
 }
 
 void ProgramTest::aSecondInstanceLeavesSilentlyAtOnce()
 {
     QProcess first;
-    prepare(first);
-    first.start();
+    start(first);
     QTRY_VERIFY(log().contains("Window shown"));
 
     QProcess second;
-    prepare(second);
-    second.start();
-    QVERIFY(second.waitForFinished());
-    QCOMPARE(second.exitCode(), 0);
+    QCOMPARE(run(second, {}), 0);
     QCOMPARE(second.readAllStandardOutput() + second.readAllStandardError(), QByteArray());
     QCOMPARE(log().count("Window shown"), 1);
 
     first.kill(); // a crash leaves no lock behind
     QVERIFY(first.waitForFinished());
     QProcess third;
-    prepare(third);
-    third.setArguments({QStringLiteral("--startup-time")});
-    third.start();
-    QVERIFY(third.waitForFinished());
+    QCOMPARE(run(third, {QStringLiteral("--startup-time")}), 0);
     QVERIFY(third.readAllStandardOutput().contains("shown window"));
 }
 
@@ -147,10 +165,7 @@ void ProgramTest::aMissingSystemFileIsFatalAndReported()
 {
     QVERIFY(QFile::remove(toolFile("data_process_5.sys")));
     QProcess process;
-    prepare(process);
-    process.start();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::CrashExit); // the exception is caught by nobody
+    QCOMPARE(run(process, {}), -1); // the exception is caught by nobody
     const QByteArray report = "sys->getSystemParameter()->load(" +
                               QFile::encodeName(toolFile("data_process_5.sys")) + ") fail!";
     QVERIFY2(log().contains(report), log().constData());
@@ -159,13 +174,9 @@ void ProgramTest::aMissingSystemFileIsFatalAndReported()
 
 void ProgramTest::aBrokenLayoutLeavesTheMap()
 {
-    replace(toolFile("main_frame.xml"), "<main_frame>\n<menu caption=\"x\">\n<oops/>");
-    QProcess process;
-    prepare(process);
-    process.setArguments({QStringLiteral("--screenshot"), path("broken.png")});
-    process.start();
-    QVERIFY(process.waitForFinished()); // nobody is asked where nobody can answer
-    QCOMPARE(process.exitCode(), 0);
+    writeToolFile("main_frame.xml", "<main_frame>\n<menu caption=\"x\">\n<oops/>");
+    QProcess process; // no message box: nobody could answer it
+    QCOMPARE(run(process, {QStringLiteral("--screenshot"), path("broken.png")}), 0);
     QVERIFY(QFileInfo::exists(path("broken.png")));
     QVERIFY2(log().contains("line 3: unknown element <oops>"), log().constData());
     QVERIFY(log().contains("main_frame.xml"));
@@ -175,14 +186,14 @@ void ProgramTest::beginsASessionWhereAServerIsConfigured()
 {
     QTcpServer server;
     QVERIFY(server.listen(QHostAddress::LocalHost));
-    replace(toolFile("data_process_5.xml"),
-            "<dictionary><entry key=\"countlyIP\" value=\"127.0.0.1\"/><entry key=\"countlyPort\""
-            " value=\"" +
-                QByteArray::number(server.serverPort()) +
-                "\"/><entry key=\"countlyAppKey\" value=\"k1\"/></dictionary>");
+    writeToolFile(
+        "data_process_5.xml",
+        "<dictionary><entry key=\"countlyIP\" value=\"127.0.0.1\"/><entry key=\"countlyPort\""
+        " value=\"" +
+            QByteArray::number(server.serverPort()) +
+            "\"/><entry key=\"countlyAppKey\" value=\"k1\"/></dictionary>");
     QProcess process;
-    prepare(process);
-    process.start();
+    start(process);
     QTRY_VERIFY(server.hasPendingConnections());
     QTcpSocket* const socket = server.nextPendingConnection();
     QTRY_VERIFY(socket->peek(5000).contains("\r\n\r\n"));
@@ -193,55 +204,11 @@ void ProgramTest::beginsASessionWhereAServerIsConfigured()
     QVERIFY(process.waitForFinished());
 
     QProcess orderly; // leaves with the request under way
-    prepare(orderly);
-    orderly.setArguments({QStringLiteral("--startup-time")});
-    orderly.start();
+    start(orderly, {QStringLiteral("--startup-time")});
     QTRY_COMPARE(orderly.state(), QProcess::NotRunning);
     QCOMPARE(orderly.exitStatus(), QProcess::NormalExit);
     QCOMPARE(orderly.exitCode(), 0);
     QVERIFY(server.hasPendingConnections());
-}
-
-void ProgramTest::worksInThePlainLocale()
-{
-    QProcess process;
-    prepare(process);
-    QProcessEnvironment environment = process.processEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-    process.setProcessEnvironment(environment);
-    process.setArguments({QStringLiteral("--screenshot"), path("图 C.png")});
-    process.start();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), 0);
-    QVERIFY(QFileInfo::exists(path("图 C.png")));
-    QVERIFY2(!log().contains("error"), log().constData());
-}
-
-void ProgramTest::listsItsComponents()
-{
-    QProcess process;
-    prepare(process);
-    process.setArguments({QStringLiteral("--components")});
-    process.start();
-    QVERIFY(process.waitForFinished());
-    const QString list = QString::fromUtf8(process.readAllStandardOutput());
-    const auto has = [&](const char* pattern) {
-        return list.contains(QRegularExpression(QString::fromUtf8(pattern)));
-    };
-    QVERIFY(has("IGuiAssistant +DataProcess5 +助手\n"));
-    QVERIFY(has("IWindow +ProgressStatusBarForSkyquill +Progress\n"));
-    QVERIFY(has("ICommandExecuterx +AboutCommand +关于\n"));
-}
-
-void ProgramTest::refusesUnknownOptions()
-{
-    QProcess process;
-    prepare(process);
-    process.setArguments({QStringLiteral("--no-such-option")});
-    process.start();
-    QVERIFY(process.waitForFinished());
-    QVERIFY(process.exitCode() != 0);
-    QVERIFY(process.readAllStandardError().contains("no-such-option"));
 }
 
 QTEST_GUILESS_MAIN(ProgramTest)

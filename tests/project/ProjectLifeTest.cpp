@@ -6,13 +6,14 @@
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
+#include "tests/project/ExpectOutcome.h"
 #include "tests/project/OrdinaryUser.h"
+#include "tests/project/TestProject.h"
 #include "tests/support/SmallFiles.h"
+#include "tests/support/TestFolder.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,10 +24,9 @@ class ProjectLife : public testing::Test
 protected:
     ProjectLife()
     {
-        place = ProjectPlace::planned(root.path(), QStringLiteral("测区 1"));
         QDir().mkpath(place.folder);
         const basalt::Dictionary none;
-        get_project_coord_transform().initialise(none, none); // that of an earlier test
+        get_project_coord_transform().initialise(none, none); // an earlier test may have set it
     }
 
     /// A new project in the plane of UTM zone 50.
@@ -39,155 +39,114 @@ protected:
         project.set("project_type", "2");
         project.set("org_lon", "117");
         project.set("crew", "测量一队");
-        ASSERT_EQ(ProjectCreator::create(place, project).toStdString(), "");
+        expectDone(ProjectCreator::create(place, project));
     }
-    [[nodiscard]] static QByteArray content(const QString& path)
+    void createAndOpen()
     {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        create();
+        expectDone(manager.openProject(place));
     }
-    static void write(const QString& path, const QByteArray& text)
+    /// The names in the project's folder that match a pattern, in order.
+    [[nodiscard]] QStringList files(const char* pattern) const
     {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        return QDir(place.folder).entryList({QString::fromUtf8(pattern)}, QDir::Files, QDir::Name);
     }
-    static SurveyPoint result(const char* point)
+    [[nodiscard]] QByteArray content(const QString& name) const
     {
-        SurveyPoint made;
-        made.lineNumber = "L1";
-        made.pointNumber = point;
-        made.elevation = 12.5;
-        return made;
+        return TestFolder::read(place.folder + QLatin1Char('/') + name);
+    }
+    void write(const QString& path, const QByteArray& text) const
+    {
+        ASSERT_FALSE(root.write(QDir(root.path()).relativeFilePath(path), text).isEmpty());
     }
 
-    QTemporaryDir root;
-    ProjectPlace place;
+    TestFolder root;
+    ProjectPlace place = ProjectPlace::planned(root.path(), QStringLiteral("测区 1"));
+    QString database = place.database();
     Host host;
     DataProcessDataManager manager{&host};
+    DataProcessDataManager other{&host}; ///< that of a second program
 };
 
 } // namespace
 
 TEST_F(ProjectLife, TheCoordinateSystemSurvivesFromTheCreationOn)
 {
-    create();
-    ASSERT_TRUE(manager.openProject(place).isDone);
+    createAndOpen();
     const IDictionary& system = get_project_coord_transform().parameters();
     EXPECT_EQ(system.text("org_lon"), "117");
     EXPECT_EQ(manager.project().text("crew"), "测量一队");
-
-    manager.surveyPoints().set(result("7"));
+    manager.surveyPoints().set(surveyPoint("L1", "7")).elevation = 12.5;
     manager.project().set("crew", "second");
-    ASSERT_TRUE(manager.saveProject(place).isDone);
+    expectDone(manager.saveProject(place));
     manager.clear();
-    ASSERT_TRUE(manager.openProject(place).isDone);
+    expectDone(manager.openProject(place));
     EXPECT_EQ(manager.project().text("crew"), "second");
     EXPECT_EQ(manager.surveyPoints().find("L1", "7")->seaHeight, 12.5);
     manager.clear();
-    // From the first save on the database has it, whatever becomes of the project file.
+    // From the first save on the database has the system, with or without the project file.
     ASSERT_TRUE(QFile::remove(place.file));
-    ASSERT_TRUE(manager.openProject(place).isDone);
+    expectNotice(manager.openProject(place), place.file.toUtf8());
     EXPECT_EQ(system.text("org_lon"), "117");
-    ASSERT_TRUE(manager.saveProject(place).isDone);
+    expectDone(manager.saveProject(place));
     EXPECT_FALSE(QFile::exists(place.file)) << "made up from nothing";
 }
 
 TEST_F(ProjectLife, FilesOfTheSameNameAreKeptAside)
 {
-    const QString saved = place.database() + QStringLiteral(".saved");
-    write(place.database(), "old database");
-    write(saved, "old copy");
+    for (const char* ending : {"", "-journal", ".saved"})
+        write(database + QLatin1String(ending), QByteArray("old") + ending);
     write(place.folder + QStringLiteral("/notes.txt"), "notes");
-    create();
-    ASSERT_TRUE(manager.openProject(place).isDone);
+    createAndOpen();
     EXPECT_TRUE(manager.surveyPoints().empty());
-    EXPECT_FALSE(QFile::exists(saved));
-    EXPECT_EQ(content(place.folder + QStringLiteral("/notes.txt")), "notes");
-    QByteArray kept;
-    for (const QFileInfo& file :
-         QDir(place.folder).entryInfoList({QStringLiteral("*.db*.*-*")}, QDir::Files, QDir::Name))
-        kept += content(file.filePath()) + ';';
-    EXPECT_EQ(kept, "old database;old copy;");
-}
-
-TEST_F(ProjectLife, AnOldJournalStaysWithItsDatabase)
-{
-    const QString journal = place.database() + QStringLiteral("-journal");
-    write(place.database(), "old database");
-    write(journal, "old journal");
-    create();
-    EXPECT_FALSE(QFile::exists(journal));
-    const QStringList kept =
-        QDir(place.folder).entryList({QStringLiteral("*.db.*")}, QDir::Files, QDir::Name);
-    ASSERT_EQ(kept.size(), 2);
-    EXPECT_EQ(kept[1], kept[0] + QStringLiteral("-journal"));
+    EXPECT_EQ(content(QStringLiteral("notes.txt")), "notes");
+    const QStringList kept = files("*.db.2*");
+    ASSERT_EQ(kept.size(), 3);
+    EXPECT_EQ(content(kept[0]), "old");
+    EXPECT_EQ(content(kept[1]), "old-journal");
+    EXPECT_EQ(content(kept[2]), "old.saved");
+    EXPECT_EQ(kept[1], kept[0] + QStringLiteral("-journal")) << "it stays with its database";
+    EXPECT_EQ(files("*.db?*").size(), 4) << "the three, and the lock";
 }
 
 TEST_F(ProjectLife, ACreationThatFailsLeavesWhatWasThere)
 {
-    write(place.database(), "old database");
+    write(database, "old database");
     write(place.file, "old project");
-    const basalt::Dictionary project;
     {
         const SmallFiles limit(100);
-        const QString fault = ProjectCreator::create(place, project);
-        EXPECT_TRUE(fault.contains(place.database())) << fault.toStdString();
+        expectFailure(ProjectCreator::create(place, basalt::Dictionary()), database.toUtf8());
     }
-    EXPECT_EQ(content(place.database()), "old database");
-    EXPECT_EQ(content(place.file), "old project");
-    EXPECT_EQ(QDir(place.folder).entryList(QDir::Files).size(), 2) << "something new was left";
-}
-
-TEST_F(ProjectLife, ADatabaseThatIsGoneIsMadeAnew)
-{
-    create();
-    ASSERT_TRUE(manager.openProject(place).isDone);
-    manager.surveyPoints().set(result("7"));
-    ASSERT_TRUE(QFile::remove(place.database()));
-    const StoreResult saving = manager.saveProject(place);
-    ASSERT_TRUE(saving.isDone) << saving.message.toStdString();
-    ASSERT_TRUE(manager.openProject(place).isDone);
-    EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
+    EXPECT_EQ(TestFolder::read(database), "old database");
+    EXPECT_EQ(TestFolder::read(place.file), "old project");
+    EXPECT_EQ(files("*").size(), 2) << "something new was left";
 }
 
 TEST_F(ProjectLife, ASecondProgramIsToldAndMayLook)
 {
-    create();
-    ASSERT_TRUE(manager.openProject(place).isDone);
-    DataProcessDataManager other(&host);
-    const StoreResult second = other.openProject(place);
-    EXPECT_FALSE(second.isDone);
-    EXPECT_TRUE(second.message.contains(QStringLiteral("another program")))
-        << second.message.toStdString();
-    EXPECT_TRUE(other.openProject(place, ProjectAccess::Look).isDone);
-    basalt::Dictionary project;
-    EXPECT_TRUE(ProjectCreator::create(place, project).contains(QStringLiteral("another program")));
+    createAndOpen();
+    expectFailure(other.openProject(place), "another program");
+    expectDone(other.openProject(place, ProjectAccess::Look));
+    expectFailure(ProjectCreator::create(place, basalt::Dictionary()), "another program");
     manager.clear();
-    EXPECT_TRUE(other.openProject(place).isDone);
+    expectDone(other.openProject(place));
 }
 
-TEST_F(ProjectLife, AProgramThatDiedHoldsNothing)
+TEST_F(ProjectLife, AProgramThatDiedHoldsNothingButOneElsewhereMay)
 {
     create();
+    const QString lock = database + QStringLiteral(".lock");
     const pid_t child = fork();
     if (child == 0)
-        _exit(manager.openProject(place).isDone ? 0 : 1); // without letting go
+        _exit(manager.openProject(place).isDone() ? 0 : 1); // without letting go
     int status = 0;
     waitpid(child, &status, 0);
     ASSERT_EQ(status, 0);
-    ASSERT_TRUE(QFile::exists(place.database() + QStringLiteral(".lock")));
-    EXPECT_TRUE(manager.openProject(place).isDone);
-}
-
-TEST_F(ProjectLife, ALockOfAnotherComputerIsNamed)
-{
-    create();
-    const QString lock = place.database() + QStringLiteral(".lock");
+    ASSERT_TRUE(QFile::exists(lock));
+    expectDone(manager.openProject(place));
+    manager.clear();
     write(lock, "999999\nskyquill\nanother-computer\n");
-    const StoreResult opening = manager.openProject(place);
-    EXPECT_FALSE(opening.isDone);
-    EXPECT_TRUE(opening.message.contains(lock)) << opening.message.toStdString();
+    expectFailure(manager.openProject(place), lock.toUtf8());
 }
 
 TEST_F(ProjectLife, WithoutALockNothingIsOverwritten)
@@ -195,77 +154,66 @@ TEST_F(ProjectLife, WithoutALockNothingIsOverwritten)
     create();
     const auto openOnAFullDisk = [this] {
         const SmallFiles limit(0);
-        const StoreResult opening = manager.openProject(place);
-        EXPECT_TRUE(opening.isDone);
-        EXPECT_TRUE(opening.message.contains(QStringLiteral("cannot be saved")))
-            << opening.message.toStdString();
-        EXPECT_FALSE(manager.saveProject(place).isDone);
+        expectNotice(manager.openProject(place), "cannot be saved");
+        expectFailure(manager.saveProject(place), "cannot be saved");
     };
     openOnAFullDisk();
-    manager.surveyPoints().set(result("7"));
-    EXPECT_TRUE(manager.saveProject(place).isDone) << "the disk has room again";
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
+    expectDone(manager.saveProject(place)); // the disk has room again
     manager.clear();
 
     openOnAFullDisk();
-    DataProcessDataManager other(&host);
-    ASSERT_TRUE(other.openProject(place).isDone);
-    EXPECT_FALSE(manager.saveProject(place).isDone) << "while the other has it";
-    other.surveyPoints().set(result("8"));
-    ASSERT_TRUE(other.saveProject(place).isDone);
+    expectDone(other.openProject(place));
+    expectFailure(manager.saveProject(place), "another program");
+    other.surveyPoints().set(surveyPoint("L1", "8"));
+    expectDone(other.saveProject(place));
     other.clear();
-    for (int i = 0; i < 2; ++i) {
-        const StoreResult saving = manager.saveProject(place);
-        EXPECT_FALSE(saving.isDone);
-        EXPECT_TRUE(saving.message.contains(QStringLiteral("has changed")))
-            << saving.message.toStdString();
-    }
+    for (int i = 0; i < 2; ++i)
+        expectFailure(manager.saveProject(place), "has changed");
 }
 
-TEST_F(ProjectLife, WhatIsMissingIsNamedAndNotMade)
+TEST_F(ProjectLife, AMissingDatabaseIsMadeBySavingAlone)
 {
-    create();
-    ASSERT_TRUE(QFile::remove(place.database()));
-    const StoreResult noDatabase = manager.openProject(place);
-    EXPECT_FALSE(noDatabase.isDone);
-    EXPECT_TRUE(noDatabase.message.contains(place.database()));
-    EXPECT_FALSE(QFile::exists(place.database()));
-    EXPECT_FALSE(QFile::exists(place.database() + QStringLiteral(".lock")));
-
+    createAndOpen();
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
+    ASSERT_TRUE(QFile::remove(database));
+    expectFailure(other.openProject(place, ProjectAccess::Look), database.toUtf8());
+    EXPECT_FALSE(QFile::exists(database));
+    expectDone(manager.saveProject(place));
+    expectDone(manager.openProject(place));
+    EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
     const ProjectPlace nowhere = ProjectPlace::planned(root.path(), QStringLiteral("none"));
-    EXPECT_TRUE(manager.openProject(nowhere).message.contains(nowhere.folder));
+    expectFailure(manager.openProject(nowhere), nowhere.folder.toUtf8());
+    EXPECT_EQ(files("*.lock"), QStringList()) << "a project that is not open has no lock";
 }
 
-TEST_F(ProjectLife, AForeignProjectFileIsLeftAlone)
-{
-    create();
-    write(place.file, "[Project]\nname=1\n");
-    const StoreResult opening = manager.openProject(place);
-    ASSERT_TRUE(opening.isDone);
-    EXPECT_TRUE(opening.message.contains(place.file)) << opening.message.toStdString();
-    ASSERT_TRUE(manager.saveProject(place).isDone);
-    EXPECT_EQ(content(place.file), "[Project]\nname=1\n");
-}
-
-TEST_F(ProjectLife, AFileWithTwoDotsIsSavedUnderItsOwnName)
+TEST_F(ProjectLife, TheProjectFileThatWasOpenedIsWritten)
 {
     create();
     const QString renamed = place.folder + QStringLiteral("/测区 1.old.kelx");
     ASSERT_TRUE(QFile::rename(place.file, renamed));
-    ASSERT_TRUE(manager.openProject(ProjectPlace::ofFile(renamed)).isDone);
+    expectDone(manager.openProject(ProjectPlace::ofFile(renamed)));
     manager.project().set("crew", "second");
-    ASSERT_TRUE(manager.saveProject(ProjectPlace::in(place.folder, place.name)).isDone);
-    EXPECT_TRUE(content(renamed).contains("second"));
+    expectDone(manager.saveProject(ProjectPlace::in(place.folder, place.name)));
+    EXPECT_TRUE(TestFolder::read(renamed).contains("second"));
     EXPECT_FALSE(QFile::exists(place.file));
+
+    const ProjectPlace foreign = ProjectPlace::planned(root.path(), QStringLiteral("foreign"));
+    ASSERT_TRUE(QDir().mkpath(foreign.folder));
+    expectDone(ProjectCreator::create(foreign, basalt::Dictionary()));
+    write(foreign.file, "[Project]\nname=1\n");
+    expectNotice(manager.openProject(foreign), foreign.file.toUtf8());
+    expectDone(manager.saveProject(foreign));
+    EXPECT_EQ(TestFolder::read(foreign.file), "[Project]\nname=1\n");
 }
 
 TEST_F(ProjectLife, ParametersEndWithTheirProject)
 {
-    create();
-    ASSERT_TRUE(manager.openProject(place).isDone);
+    createAndOpen();
     manager.qualityParameters().set("only_here", "1");
     manager.designParameters().set("only_here", "1");
     manager.clear();
-    ASSERT_TRUE(manager.openProject(place).isDone);
+    expectDone(manager.openProject(place));
     EXPECT_FALSE(manager.qualityParameters().contains("only_here"));
     EXPECT_FALSE(manager.designParameters().contains("only_here"));
     EXPECT_TRUE(manager.designParameters().contains("r_pt_dist"));
@@ -273,30 +221,25 @@ TEST_F(ProjectLife, ParametersEndWithTheirProject)
 
 TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
 {
-    create();
-    ASSERT_TRUE(manager.openProject(place).isDone);
-    manager.surveyPoints().set(result("7"));
-    ASSERT_TRUE(manager.saveProject(place).isDone);
+    createAndOpen();
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
+    expectDone(manager.saveProject(place));
     manager.clear();
-    const QByteArray before = content(place.database());
+    const QByteArray before = TestFolder::read(database);
     const auto readOnly = QFile::ReadOwner | QFile::ExeOwner;
-    for (const QString& file : {place.database(), place.folder})
+    for (const QString& file : {database, place.folder})
         ASSERT_TRUE(QFile::setPermissions(file, readOnly));
     {
         const OrdinaryUser user;
-        const StoreResult opening = manager.openProject(place);
-        EXPECT_TRUE(opening.isDone) << opening.message.toStdString();
-        EXPECT_TRUE(opening.message.contains(QStringLiteral("cannot be saved")));
+        expectNotice(manager.openProject(place), "cannot be saved");
         EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
-        manager.surveyPoints().set(result("8"));
-        const StoreResult saving = manager.saveProject(place);
-        EXPECT_FALSE(saving.isDone);
-        EXPECT_FALSE(saving.message.isEmpty());
+        manager.surveyPoints().set(surveyPoint("L1", "8"));
+        expectFailure(manager.saveProject(place), "cannot be saved");
         EXPECT_TRUE(manager.isSaveOwed());
         EXPECT_EQ(manager.surveyPoints().pointCount(), 2U);
     }
     ASSERT_TRUE(QFile::setPermissions(place.folder, readOnly | QFile::WriteOwner));
-    EXPECT_EQ(content(place.database()), before);
+    EXPECT_EQ(TestFolder::read(database), before);
 }
 
 TEST(ProjectPlace, TakesFolderAndNameFromTheFile)

@@ -10,6 +10,16 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+inline SurveyPoint surveyPoint(const std::string& line, const std::string& number,
+                               const std::string& remarks = {})
+{
+    SurveyPoint point;
+    point.lineNumber = line;
+    point.pointNumber = number;
+    point.remarks = remarks;
+    return point;
+}
+
 /// A project in memory, and how it is loaded and saved by itself.
 struct TestProject
 {
@@ -17,13 +27,13 @@ struct TestProject
     SurveyPoints survey;
     basalt::Dictionary coordParameters;
 
-    StoreResult load(const std::string& path, IEventManager* events = nullptr)
+    Outcome load(const std::string& path, IEventManager* events = nullptr)
     {
         DBAdapter database;
         ProgressReporter progress(events);
         return ProjectLoader(database, progress).load(path, design, survey, coordParameters);
     }
-    StoreResult save(const std::string& path, IEventManager* events = nullptr) const
+    Outcome save(const std::string& path, IEventManager* events = nullptr) const
     {
         DBAdapter database;
         ProgressReporter progress(events);
@@ -43,15 +53,12 @@ struct TestProject
                                     place % 2, line % 2});
                 if (place % 5 != 0)
                     continue;
-                SurveyPoint point;
-                point.lineNumber = lineNumber;
-                point.pointNumber = number;
+                SurveyPoint point = surveyPoint(lineNumber, number, mark);
                 point.latitude = 39 + value / 1e6;
                 point.north = value;
                 point.dateTime = 1700000000000 + place;
                 point.startTime = 1700000000000 - place;
                 point.ageOfDiff = place % 9;
-                point.remarks = mark;
                 project.survey.set(point);
             }
         }

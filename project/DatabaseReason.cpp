@@ -1,4 +1,4 @@
-#include "project/StoreResult.h"
+#include "project/DatabaseReason.h"
 
 #include <QCoreApplication>
 

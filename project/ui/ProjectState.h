@@ -1,0 +1,23 @@
+#pragma once
+
+class IDesktopHost;
+struct ProjectPlace;
+
+/// Which project is open, as the whole program sees it: the status keys "project_open",
+/// "project_path" and "project_name", the title of the main frame, and the events that announce a
+/// change. Only this file writes them.
+namespace ProjectState {
+
+[[nodiscard]] bool isOpen();
+/// The open project.
+[[nodiscard]] ProjectPlace place();
+
+/// The data manager has read the project. Sets status and title first and publishes then, so that
+/// every handler sees the new state: "REFRESH_DESIGN_LAYER", "REFRESH_SURVEY_LAYER",
+/// "UPDATE_SYSTEM_STATUS_EVENT".
+void opened(IDesktopHost& host, const ProjectPlace& place);
+
+/// The data manager has forgotten the project. Does the same in the same order.
+void closed(IDesktopHost& host);
+
+} // namespace ProjectState

@@ -1,0 +1,96 @@
+#include "basalt_utilities/IDictionary.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/Host.h"
+#include "project/DataProcessDataManager.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
+#include "tests/project/ExpectOutcome.h"
+#include "tests/project/TestProject.h"
+#include "tests/support/EventLog.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/TestFolder.h"
+
+namespace {
+
+class DataManager : public testing::Test
+{
+protected:
+    DataManager() { manager.surveyPoints().set(surveyPoint("L", "P")).latitude = 30.5; }
+
+    TestFolder folder;
+    Host host;
+    DataProcessDataManager manager{&host};
+    Outcome outcome = Outcome::done();
+};
+
+} // namespace
+
+TEST_F(DataManager, FilesGoOutAndComeBack)
+{
+    const QString path = folder.path("s.csv");
+    const QStringList lines{QStringLiteral("L")};
+    manager.exportCaptions().clear();
+    get_system_status_dictionary().set(status::kDegreeFormat, "1");
+    EXPECT_EQ(manager.exportSurveyCsv(lines, path), 1);
+    get_system_status_dictionary().remove(status::kDegreeFormat);
+    EXPECT_EQ(manager.exportCaptions(), manager.surveyCaptions());
+    EXPECT_TRUE(TestFolder::read(path).contains("L,P,S,30deg30min0.000sec,"));
+    manager.clear();
+    EXPECT_EQ(manager.importSurveyCsv(path, &outcome), 1);
+    expectNotice(outcome, "points added: 1");
+    EXPECT_EQ(manager.surveyPoints().find("L", "P")->latitude, 30.5);
+    EXPECT_EQ(manager.exportSurveyCsv(lines, path, manager.surveyCaptions().mid(0, 2)), 1);
+    EXPECT_EQ(TestFolder::read(path), "line num,point num\nL,P\n");
+    EXPECT_EQ(manager.exportCaptions(), manager.surveyCaptions()) << "the user's choice stays";
+
+    const QString database = folder.path("p.db");
+    ASSERT_TRUE(makeDatabase(database.toStdString()));
+    EXPECT_EQ(manager.save(database), 1);
+    manager.clear();
+    EXPECT_EQ(manager.load(database), 1);
+    EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
+}
+
+TEST_F(DataManager, WhatCannotBeDoneIsToldAndLogged)
+{
+    const QString path = folder.path();
+    const auto expectToldOf = [&](auto operation) {
+        const LogCapture log;
+        EXPECT_EQ(operation(), 0);
+        expectFailure(outcome, path.toUtf8());
+        EXPECT_EQ(log.lines(ILogger::Level::Error), std::vector<std::string>{outcome.detail()});
+    };
+    expectToldOf([&] { return manager.load(path, &outcome); });
+    expectToldOf([&] { return manager.save(path, &outcome); });
+    expectToldOf([&] { return manager.importSurveyCsv(path, &outcome); });
+    expectToldOf([&] { return manager.importDesignCsv(path, &outcome); });
+    expectToldOf([&] { return manager.exportSurveyCsv({}, path, {}, &outcome); });
+    expectToldOf([&] { return manager.exportDesignCsv({}, path, false, &outcome); });
+}
+
+TEST_F(DataManager, DatabaseQueriesBecomeProgress)
+{
+    const EventLog progress(host.eventManager(), events::kProgress);
+    for (const char* payload : {static_cast<const char*>(nullptr), "count=1,total=3", "total=0"})
+        host.eventManager().publish(events::kDbQueryProcess, payload, 0);
+    EXPECT_EQ(progress.payloads(),
+              (std::vector<std::string>{"text=Loading Database,value=100,is_exec=0",
+                                        "text=Loading Database,value=33.3333,is_exec=0",
+                                        "text=Loading Database,value=100,is_exec=0"}));
+}
+
+TEST(DataManagerInstance, IsTheFirstManagerAsLongAsItLives)
+{
+    EXPECT_FALSE(DataProcessDataManager::hasInstance());
+    EXPECT_THROW((void)DataProcessDataManager::instance(), std::runtime_error);
+    Host host;
+    {
+        const DataProcessDataManager first(&host);
+        {
+            const DataProcessDataManager second(&host);
+            EXPECT_EQ(&DataProcessDataManager::instance(), &first);
+        }
+        EXPECT_EQ(&DataProcessDataManager::instance(), &first);
+    }
+    EXPECT_FALSE(DataProcessDataManager::hasInstance());
+}
