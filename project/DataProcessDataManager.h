@@ -10,9 +10,13 @@
 
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
 class IHost;
+class QAbstractTableModel;
+struct CheckedData;
+struct CheckKind;
 struct ImportSummary;
 struct ProjectPlace;
 struct QualityRow;
@@ -66,13 +70,17 @@ public:
     /// Rewrites every result's sea height; due whenever results or coordinate system are new.
     void recomputeSeaHeights();
 
-    // The checks of quality/.
+    // The checks of quality/CheckKinds.h.
+
+    /// Runs a check; it writes its verdicts on the points in memory.
+    void run(const CheckKind& check);
+    /// What the last run of a check found, a row each.
+    [[nodiscard]] std::unique_ptr<QAbstractTableModel> resultOf(const CheckKind& check);
 
     /// Judges every survey result by the quality parameters. \returns 1
     int checkQuality();
-    /// The faults that the last check found, of one result or of all.
+    /// The faults that the last quality check found in one result.
     [[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoint& point) const;
-    [[nodiscard]] std::vector<QualityRow> describeQuality() const;
 
     // CSV files, see exchange/; 1 when done, else 0, and the log says why. Lines are written in the
     // order of the list.
@@ -105,6 +113,7 @@ public:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 private:
+    [[nodiscard]] CheckedData checkedData();
     void reportQuery(const char* payload);
     [[nodiscard]] StoreResult read(const ProjectPlace& place);
     [[nodiscard]] StoreResult readDatabase(const QString& path, IDictionary& coordSystem);

@@ -23,7 +23,7 @@ struct CliResult
 struct CliCommand
 {
     const char* name = nullptr;
-    const char* usage = nullptr;   ///< what stands behind the name
+    const char* usage = nullptr;   ///< what stands behind the name; CHECK is any check's name
     const char* summary = nullptr; ///< half a sentence
     int fewestPlaces = 0;          ///< how many arguments it takes besides its options
     int mostPlaces = 0;
