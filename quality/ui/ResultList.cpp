@@ -94,7 +94,7 @@ void ResultList::moveIntoCorner()
                    (other->pos() - place).manhattanLength() < step.manhattanLength();
         });
     };
-    while (isTaken()) // ends: no two places are near the same list
+    while (isTaken()) // ends, since the places move away from every list
         place -= step;
     move(place);
 }

@@ -38,25 +38,16 @@ struct Kind
 
 constexpr std::size_t kAny = 0;
 constexpr int kLineDigit = 10000000;
+// clang-format off
 constexpr Kind kKinds[] = {
-    {"missing", kAny, 0},
-    {"skid", kAny, 1},
-    {"too far", 12, 1},
-    {"hrms", 6, 1000},
-    {"vrms", 5, 2000},
-    {"hrms and vrms", 4, 3000},
-    {"antenna high", 4, 10000},
-    {"antenna low", 3, 20000},
-    {"pdop", 4, 100000},
-    {"pdop and vdop", 3, 500000},
-    {"pdop hdop and vdop", 3, 700000},
-    {"few satellites", 5, 1000000},
-    {"reference too far", 4, 100},
-    {"resurvey good", 40, 0},
-    {"resurvey bad", 6, 0},
-    {"resurvey orphan", 4, 0},
-    {"repeat", 24, 0},
+    {"missing", kAny, 0},        {"skid", kAny, 1},             {"too far", 12, 1},
+    {"hrms", 6, 1000},           {"vrms", 5, 2000},             {"hrms and vrms", 4, 3000},
+    {"antenna high", 4, 10000},  {"antenna low", 3, 20000},     {"pdop", 4, 100000},
+    {"pdop and vdop", 3, 500000}, {"pdop hdop and vdop", 3, 700000}, {"few satellites", 5, 1000000},
+    {"reference too far", 4, 100}, {"resurvey good", 40, 0},    {"resurvey bad", 6, 0},
+    {"resurvey orphan", 4, 0},   {"repeat", 24, 0},
 };
+// clang-format on
 
 /// A survey of the seed in files of its folder, and what is read from them.
 struct Files
