@@ -5,10 +5,10 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "protocol/Events.h"
 #include "quality/QualityCheck.h"
-#include "quality/QualityDescription.h"
-#include "quality/QualityLimits.h"
+#include "quality/QualityResultModel.h"
 #include "quality/ui/DlgQCResult.h"
 
+#include <QAbstractTableModel>
 #include <QApplication>
 #include <QMainWindow>
 #include <QStatusBar>
@@ -16,8 +16,8 @@
 
 #include <memory>
 
-// The quality check of 200,000 results with the real progress bar listening, against publishing the
-// same progress payloads alone; and its list at half a million rows.
+// The quality check of 200,000 results while the real progress bar listens, against publishing the
+// same progress payloads alone; and the list of half a million faults.
 
 namespace {
 
@@ -42,7 +42,8 @@ SurveyPoints makePoints()
     return points;
 }
 
-/// The time of a job that begins while the progress bar is at rest, and so is shown and painted.
+/// The time of a job. The progress bar rests before it, so that the job's first report is shown and
+/// painted at once.
 template <class Job>
 double secondsAfterAPause(Job job)
 {
@@ -50,7 +51,7 @@ double secondsAfterAPause(Job job)
     return bench::secondsOf(job);
 }
 
-/// Keeps what is published.
+/// Keeps the payloads of all events.
 class Keeper final : public IEventHandler
 {
 public:
@@ -92,7 +93,7 @@ void BM_QualityCheck(benchmark::State& state)
         });
     };
     for (auto _ : state) {
-        // Runs of some milliseconds: one of them says little.
+        // A run takes some milliseconds, so that single runs differ much.
         const double ratio = bench::medianOf([&] { return check() / publishAlone(); }, 25);
         bench::report(state, "quality check of 200,000 results / its progress alone", ratio, 1.5);
     }
@@ -106,7 +107,7 @@ void BM_ResultList(benchmark::State& state)
             std::vector<QualityRow> rows(kListRows,
                                          QualityRow{"10015001", "1001", "HRMS Out-range.", 1, 0.5});
             return bench::secondsOf([&] {
-                DlgQCResult list(host, std::move(rows));
+                DlgQCResult list(host, makeQualityResultModel(std::move(rows)));
                 list.setAttribute(Qt::WA_DeleteOnClose, false);
                 list.show();
                 QCoreApplication::processEvents();

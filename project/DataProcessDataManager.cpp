@@ -27,10 +27,11 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
-#include "quality/QualityCheck.h"
+#include "quality/CheckKinds.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
 
+#include <QAbstractTableModel>
 #include <QCoreApplication>
 
 #include <cpl_conv.h>
@@ -264,10 +265,25 @@ void DataProcessDataManager::recomputeSeaHeights()
     });
 }
 
-int DataProcessDataManager::checkQuality()
+CheckedData DataProcessDataManager::checkedData()
+{
+    return {m_design, m_survey, m_qualityParameters};
+}
+
+void DataProcessDataManager::run(const CheckKind& check)
 {
     ProgressReporter progress(&m_host.eventManager());
-    ::checkQuality(m_survey, m_qualityParameters, progress);
+    check.run(checkedData(), progress);
+}
+
+std::unique_ptr<QAbstractTableModel> DataProcessDataManager::resultOf(const CheckKind& check)
+{
+    return check.result(checkedData());
+}
+
+int DataProcessDataManager::checkQuality()
+{
+    run(kQualityCheck);
     return 1;
 }
 
@@ -275,17 +291,6 @@ std::vector<QualityRow> DataProcessDataManager::describeQuality(const SurveyPoin
 {
     std::vector<QualityRow> rows;
     ::describeQuality(point, QualityLimits::from(m_qualityParameters), rows);
-    return rows;
-}
-
-std::vector<QualityRow> DataProcessDataManager::describeQuality() const
-{
-    const QualityLimits limits = QualityLimits::from(m_qualityParameters);
-    std::vector<QualityRow> rows;
-    for (const auto& [number, line] : m_survey) {
-        for (const SurveyPoint& point : line)
-            ::describeQuality(point, limits, rows);
-    }
     return rows;
 }
 

@@ -10,9 +10,13 @@
 
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
 class IHost;
+class QAbstractTableModel;
+struct CheckedData;
+struct CheckKind;
 struct ProjectPlace;
 struct QualityRow;
 
@@ -76,11 +80,17 @@ public:
                         const QStringList& captions = {}, Outcome* outcome = nullptr);
     int importSurveyCsv(const QString& path, Outcome* outcome = nullptr);
 
+    // The checks of quality/CheckKinds.h.
+
+    /// Runs a check; it writes its verdicts on the points in memory.
+    void run(const CheckKind& check);
+    /// What the last run of a check found, a row each.
+    [[nodiscard]] std::unique_ptr<QAbstractTableModel> resultOf(const CheckKind& check);
+
     /// Judges every survey result by the quality parameters. \returns 1
     int checkQuality();
-    /// The faults that the last check found, of one result or of all.
+    /// The faults that the last quality check found in one result.
     [[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoint& point) const;
-    [[nodiscard]] std::vector<QualityRow> describeQuality() const;
 
     /// Gives the project another coordinate system, keys as in CoordinateRecord.h, and recomputes
     /// the sea heights. The system itself is kept by `get_project_coord_transform`.
@@ -110,6 +120,7 @@ public:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 private:
+    [[nodiscard]] CheckedData checkedData();
     void reportQuery(const char* payload);
     [[nodiscard]] Outcome read(const ProjectPlace& place);
     [[nodiscard]] Outcome write(const ProjectPlace& place);

@@ -6,10 +6,7 @@
 
 #include <QCoreApplication>
 
-#include <atomic>
 #include <cmath>
-#include <future>
-#include <utility>
 
 namespace {
 
@@ -39,11 +36,12 @@ int faults(bool first, bool second)
     return (first ? 1 : 0) + (second ? 2 : 0);
 }
 
-/// Results whose position is no number: no comparison finds fault with it, and no map can show it.
+/// Names the results whose position is not a number in the log. A comparison with such a position
+/// is always false, so the check finds no fault in them.
 class Unplaced
 {
 public:
-    void look(const SurveyPoint& point)
+    void examine(const SurveyPoint& point)
     {
         if (!std::isnan(point.north) && !std::isnan(point.east) && !std::isnan(point.elevation))
             return;
@@ -91,32 +89,17 @@ int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
 void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress)
 {
     const QualityLimits limits = QualityLimits::from(parameters);
-    // Judging waits for the memory and reporting for its listeners: each has a core of its own. A
-    // line is judged before it is reported.
-    std::atomic<std::size_t> linesJudged = 0;
-    Unplaced unplaced;
-    auto judging = std::async(std::launch::async, [&] {
-        for (auto& [number, line] : points) {
-            for (SurveyPoint& point : line) {
-                const int code = qualityCode(point, limits);
-                if (code != point.qualityStandard) // what stays needs no way back to the memory
-                    point.qualityStandard = code;
-                unplaced.look(point);
-            }
-            ++linesJudged;
-            linesJudged.notify_one();
-        }
-    });
     const std::string caption =
         QCoreApplication::translate("QualityCheck", "Check Survey Line:").toStdString();
-    std::size_t linesReported = 0;
-    for (const auto& [number, line] : std::as_const(points)) {
-        for (std::size_t judged = linesJudged; judged <= linesReported; judged = linesJudged)
-            linesJudged.wait(judged);
-        progress.reportEach(caption + number, line.size());
-        ++linesReported;
+    Unplaced unplaced;
+    for (auto& [number, line] : points) {
+        ProgressSteps steps(progress, caption + number, line.size());
+        for (SurveyPoint& point : line) {
+            point.qualityStandard = qualityCode(point, limits);
+            unplaced.examine(point);
+            steps.next();
+        }
     }
     progress.hide();
-    judging.get();
     unplaced.warn();
 }

@@ -1,6 +1,5 @@
 #include "quality/QualityDescription.h"
 
-#include "model/SurveyPoint.h"
 #include "quality/QualityLimits.h"
 
 #include <QCoreApplication>
@@ -10,7 +9,7 @@
 
 namespace {
 
-constexpr double kNone = -1; // of rows that stand for several values
+constexpr double kNone = -1; // value and limit of a row about several values
 
 /// Adds the rows of one point.
 class Description
@@ -175,7 +174,7 @@ void Description::describeLine()
 {
     const double across = m_point.transversalDeviation;
     const double along = m_point.longitudinalDeviation;
-    const QualityLimits::LineDeviation& limits = m_limits.receivers; // of either kind of point
+    const QualityLimits::LineDeviation& limits = m_limits.receivers; // also of source points
     switch (digit(7)) {
     case 1:
         add(QT_TRANSLATE_NOOP("QualityCheck", "Horizontal Accuracy Out-range."), across,
@@ -205,4 +204,15 @@ void describeQuality(const SurveyPoint& point, const QualityLimits& limits,
                      std::vector<QualityRow>& rows)
 {
     Description(point, limits, rows).describe();
+}
+
+std::vector<QualityRow> describeQuality(const SurveyPoints& points, const IDictionary& parameters)
+{
+    const QualityLimits limits = QualityLimits::from(parameters);
+    std::vector<QualityRow> rows;
+    for (const auto& [number, line] : points) {
+        for (const SurveyPoint& point : line)
+            describeQuality(point, limits, rows);
+    }
+    return rows;
 }

@@ -1,26 +1,33 @@
 #pragma once
 
+#include "model/PointLines.h"
+
 #include <QString>
 
 #include <string>
 #include <vector>
 
+class IDictionary;
 struct QualityLimits;
-struct SurveyPoint;
 
 /// One fault of a survey result in words: a row of the result list.
 struct QualityRow
 {
     std::string pointNumber;
     std::string lineNumber;
-    const char* description; ///< source text; `text` translates it
-    double value;            ///< -1 where several dilutions share a row, and so is the limit
+    const char* description; ///< in English; `text` translates it
+    double value;            ///< -1 in the row of several dilutions, and so is the limit
     double limit;
 
     [[nodiscard]] QString text() const;
 };
 
-/// The faults that the result's quality code tells, from the units digit upwards, beside the limits
-/// of now. The resurvey digit has no row.
+/// Adds a row for each fault that the result's quality code tells, from the units digit upwards.
+/// The resurvey digit has no row. The rows show `limits`, which may have changed since the check.
 void describeQuality(const SurveyPoint& point, const QualityLimits& limits,
                      std::vector<QualityRow>& rows);
+
+/// The rows of all results, in their order.
+/// \param parameters "qc_param.ini"
+[[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoints& points,
+                                                      const IDictionary& parameters);

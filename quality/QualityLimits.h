@@ -5,18 +5,18 @@
 
 class IDictionary;
 
-/// A key of the quality parameters ("qc_param.ini") and what counts when it is missing.
+/// A key of the quality parameters ("qc_param.ini").
 struct QualityParameter
 {
     const char* key = "";
-    const char* fallback = "";
-    double largest = 0; ///< that may be entered, in the limit's unit; none of a text
-    bool isWhole = false;
+    const char* fallback = ""; ///< the value of a project that does not have the key
+    double largest = 0;        ///< what may be entered, in the unit of the limit; 0 for a text
+    bool isWhole = false;      ///< whether it is a whole number
 };
 
 inline constexpr const char* kResurveyCode = "re_code";
 
-/// All of them, in the order in which they are shown.
+/// All keys, in the order in which they are shown.
 inline constexpr std::array<QualityParameter, 20> kQualityParameters{{
     {"design_hor_diff", "0.5", 1e6},  {"design_ver_diff", "1000", 1e6},
     {"base_dist", "10", 1e4}, // kilometres; all other lengths are metres
@@ -31,15 +31,15 @@ inline constexpr std::array<QualityParameter, 20> kQualityParameters{{
     {"re_elev_diff", "0.03", 1000},
 }};
 
-/// Null for a key that is none of the above.
+/// Null when there is no such key.
 [[nodiscard]] const QualityParameter* findQualityParameter(std::string_view key);
 
-/// The value of a key, or what counts without it; empty for a key that is none of the above.
+/// The value of a key, or its fallback; empty when there is no such key.
 [[nodiscard]] std::string_view qualityParameter(const IDictionary& parameters,
                                                 std::string_view key);
 
-/// The limits of the check of survey results. A limit that was entered with a minus counts without
-/// it, and one that is no number is 0.
+/// The limits of the quality check. The minus of a negative limit is ignored. A limit that is not a
+/// number is 0.
 struct QualityLimits
 {
     struct Range
@@ -63,8 +63,8 @@ struct QualityLimits
     Range hdop;
     Range vdop;
     double satellites = 0;
-    LineDeviation receivers; ///< of results whose point mark is not 0
-    LineDeviation sources;   ///< of the others; the same keys, until there are separate ones
+    LineDeviation receivers; ///< for results whose point mark is not 0
+    LineDeviation sources;   ///< for results whose point mark is 0; read from the same keys
 
     [[nodiscard]] static QualityLimits from(const IDictionary& parameters);
 

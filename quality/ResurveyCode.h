@@ -3,7 +3,8 @@
 #include <optional>
 #include <string>
 
-/// The letter that marks a resurvey in a point number, as the user entered it: one letter from A to
-/// Z, small ones taken for capitals. C marks a check point, and cannot be it.
-/// \returns nothing for any other text
+/// The letter that marks a resurvey in a point number, as a capital: any letter from A to Z but C,
+/// which marks a check point.
+/// \param entered what the user typed, a capital or a small letter
+/// \returns nothing when it is no such letter
 [[nodiscard]] std::optional<std::string> resurveyCode(const std::string& entered);

@@ -10,7 +10,7 @@ namespace demo {
 namespace {
 
 constexpr int kFixed = 4;                                       ///< the code of a fixed solution
-constexpr std::int64_t kZoneMs = 8 * std::int64_t(3600) * 1000; ///< east of Greenwich
+constexpr std::int64_t kZoneMs = 8 * std::int64_t(3600) * 1000; ///< UTC+8
 
 } // namespace
 
@@ -46,7 +46,7 @@ SurveyPoint Crew::measure(const DesignPoint& design, const LocalPlace& stake)
 
 void Crew::observe(SurveyPoint& point)
 {
-    m_clock.spend(m_random.whole(20, 50)); // finding the place, setting the stake
+    m_clock.spend(m_random.whole(20, 50)); // to find the place and set the stake
     point.epochNumber = m_random.whole(5, 10);
     point.startTime = m_clock.now();
     m_clock.spend(point.epochNumber);

@@ -6,24 +6,23 @@
 
 namespace demo {
 
-/// Who stakes, and with what.
+/// A surveyor and the instrument that he works with.
 struct Equipment
 {
     const char* surveyor;
     const char* instrument;
     const char* serialNumber;
-    double poleM; ///< the antenna above the ground
+    double poleM; ///< height of the antenna above the ground
 };
 
-/// A crew that goes from point to point and measures, as good as everything goes well.
+/// A crew that goes from point to point and measures good results.
 class Crew
 {
 public:
-    /// \param camp where its first day begins
+    /// \param camp where it starts on the first day
     Crew(const Equipment& equipment, const LocalPlace& camp, Random& random);
 
-    /// Goes to the stake of `design` and measures it. What follows from these values is left to
-    /// `ResultCompleter`.
+    /// Goes to the stake of `design` and measures it. `ResultCompleter` computes the other values.
     [[nodiscard]] SurveyPoint measure(const DesignPoint& design, const LocalPlace& stake);
 
 private:
@@ -34,7 +33,7 @@ private:
     FieldClock m_clock;
 };
 
-/// Sets the satellites of a result: how many, and of which systems.
+/// Sets the number of satellites of a result and shares them among the satellite systems.
 void setSatellites(SurveyPoint& point, int count);
 
 } // namespace demo

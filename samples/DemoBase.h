@@ -11,16 +11,16 @@ struct DemoBase
 {
     const char* id;
     LocalPlace place;
-    double mastM; ///< of the antenna above the ground
+    double mastM; ///< height of the antenna above the ground
 };
 
-/// Of its antenna, above the ellipsoid, metres.
+/// The height of its antenna above the ellipsoid, metres.
 [[nodiscard]] double stationHeight(const DemoBase& station);
 
-/// The one that is nearest to a place.
+/// The station nearest to a place.
 [[nodiscard]] const DemoBase& nearestStation(const LocalPlace& place);
 
-/// One of them by its id.
+/// The station with this id, which must exist.
 [[nodiscard]] const DemoBase& baseStation(std::string_view id);
 
 } // namespace demo

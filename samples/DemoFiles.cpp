@@ -50,7 +50,8 @@ QString writeFaults(const QString& path, const std::vector<PlantedFault>& faults
     return file.commit();
 }
 
-/// The moment at which this computer's clock shows what the survey's clock showed.
+/// Turns a time of the survey's clock into the moment at which this computer's clock shows the
+/// same, because the writer of the CSV file writes local times.
 class LocalMoments
 {
 public:

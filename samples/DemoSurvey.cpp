@@ -19,7 +19,7 @@ namespace demo {
 
 namespace {
 
-constexpr std::size_t kForgotten = 8; ///< points that the crews walked past
+constexpr std::size_t kForgotten = 8; ///< points that the crews missed
 constexpr std::size_t kNoPermit = 12; ///< points at the end of the last receiver line
 constexpr std::size_t kPointsALine = 100;
 
@@ -28,7 +28,7 @@ constexpr Equipment kEquipment[] = {
     {"Ma Lin", "RV-610", "610-00417", 2.0},  // receiver points
 };
 
-/// Makes the survey step by step, in the order of its functions.
+/// Makes the survey: its public functions are the steps, to be called in their order.
 class Making
 {
 public:
@@ -43,7 +43,7 @@ public:
 private:
     struct Result
     {
-        std::size_t design; ///< its index
+        std::size_t design; ///< index of its design point
         SurveyPoint point;
     };
 
@@ -60,8 +60,8 @@ private:
     std::array<Crew, 2> m_crews;
     std::vector<DesignPoint> m_design;
     std::vector<bool> m_isForgotten; ///< as long as the design
-    std::vector<Result> m_good;      ///< nothing planted in them yet
-    std::vector<SurveyPoint> m_done;
+    std::vector<Result> m_good;      ///< results without a fault
+    std::vector<SurveyPoint> m_done; ///< all other results
     std::vector<PlantedFault> m_faults;
 };
 
@@ -77,7 +77,8 @@ LocalPlace placeOf(const DesignPoint& design)
     return toGrid({design.north, design.east});
 }
 
-/// The design points in the order of their crews' way, up one line and down the next.
+/// The indexes of the design points in the order in which they are staked: up one line, down the
+/// next.
 std::vector<std::size_t> wayOfCrews(std::size_t count)
 {
     std::vector<std::size_t> way(count);
@@ -104,7 +105,7 @@ void Making::chooseForgotten()
 void Making::stakeAll()
 {
     const std::vector<std::size_t> way = wayOfCrews(m_design.size());
-    const std::size_t receivers = m_design.size() / 2; // they come first
+    const std::size_t receivers = m_design.size() / 2; // the first half of the design
     for (std::size_t i = 0; i < way.size(); ++i) {
         const DesignPoint& design = m_design[way[i]];
         if (i < receivers && i + kNoPermit >= receivers)
@@ -142,7 +143,7 @@ void Making::stakeAside(std::size_t index, Obstacle obstacle, const LocalPlace& 
     design.status = 1;
     SurveyPoint point =
         crewOf(design).measure(design, moved(place, design.type, skid->rightM, skid->alongM));
-    const double length = skid->rightM + skid->alongM; // one of them is 0
+    const double length = skid->rightM + skid->alongM; // one of the two is 0
     const char* const across = length > 0 ? " m right" : " m left";
     const char* const along = length > 0 ? " m forward" : " m back";
     point.obstacle = obstacleText(static_cast<int>(obstacle)).toStdString();
@@ -152,7 +153,7 @@ void Making::stakeAside(std::size_t index, Obstacle obstacle, const LocalPlace& 
     m_done.push_back(std::move(point));
 }
 
-/// Results in the order in which they were measured.
+/// Takes random results out of the good ones, in the order in which they were measured.
 std::vector<Making::Result> Making::takeGood(std::size_t count)
 {
     std::vector<Result> taken;
@@ -183,7 +184,7 @@ void Making::spoilResults()
     }
 }
 
-/// At the stake that stands there.
+/// Measures a stake once more, a few millimetres beside the first result.
 SurveyPoint Making::measureAgain(const Result& first)
 {
     const DesignPoint& design = m_design[first.design];

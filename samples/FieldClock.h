@@ -6,27 +6,27 @@
 
 namespace demo {
 
-/// The time of a crew on its way through working days, as the clocks of the survey show it.
+/// The time of a crew while it works, as the clocks of the survey show it.
 class FieldClock
 {
 public:
-    /// On the morning of the first day.
-    /// \param place where the first day begins
+    /// Starts on the morning of the first day.
+    /// \param place where the crew is then
     explicit FieldClock(const LocalPlace& place) : m_place(place) {}
 
-    /// Goes there, on foot or by car. After working hours it is the next morning; at noon there is
-    /// a break.
+    /// Goes to a place, on foot or by car, with a break at noon. When it would arrive after working
+    /// hours, it arrives on the next morning.
     void goTo(const LocalPlace& place);
 
     void spend(int seconds) { m_second += seconds; }
 
-    /// Milliseconds since 1970 on the survey's clocks, whole seconds.
+    /// Milliseconds since 1970 on the survey's clocks, in whole seconds.
     [[nodiscard]] std::int64_t now() const;
 
 private:
     LocalPlace m_place;
     int m_day = 0;
-    double m_second = kMorning; ///< of the day
+    double m_second = kMorning; ///< since midnight
     bool m_hadBreak = false;
 
     static constexpr double kMorning = 7.5 * 3600;

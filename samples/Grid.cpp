@@ -17,19 +17,19 @@ constexpr double kLineDistanceM = 200;
 constexpr double kPointDistanceM = 40;
 constexpr PlanePlace kOrigin{4560000, 509000};
 constexpr double kReceiverAzimuthDeg = 72;
-constexpr double kSourceAzimuthDeg = 342; ///< at right angles, to the left
+constexpr double kSourceAzimuthDeg = 342; ///< 90 degrees to the left of it
 
-/// Where the lines of a kind begin and how they are numbered.
+/// The lines of one type: where they begin and how they are numbered.
 struct LineKind
 {
     int type = 0;
     int firstLine = 0;
-    LocalPlace first; ///< the first point of the first line
+    LocalPlace first; ///< first point of the first line
     LocalPlace lineStep;
     LocalPlace pointStep;
 };
 
-// A source lies midway between two receivers of a line that it crosses.
+// A source line crosses a receiver line midway between two receivers.
 constexpr LineKind kKinds[] = {
     {kReceiver, 1000, {0, 0}, {0, kLineDistanceM}, {kPointDistanceM, 0}},
     {kSource, 5000, {100, -60}, {kLineDistanceM, 0}, {0, kPointDistanceM}},

@@ -4,14 +4,14 @@
 
 namespace demo {
 
-/// A line of "faults.csv": something that a check of the survey has to find, or that must not
-/// disturb it.
+/// A line of "faults.csv": a point that a check of the survey has to find, or that looks unusual
+/// and must not be found.
 struct PlantedFault
 {
     std::string kind;
     std::string line;
-    std::string point; ///< as files carry it
-    std::string what;  ///< a few words with the value
+    std::string point; ///< its number as it is written in files
+    std::string what;  ///< a few words with the wrong value
 };
 
 inline constexpr const char* kMissing = "missing";

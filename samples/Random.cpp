@@ -16,7 +16,7 @@ double Random::bell(double sigma)
 {
     const double first = share();
     const double second = share();
-    // Three even shares have a variance of a quarter.
+    // The sum of three uniform numbers has a variance of 1/4.
     return (first + second + share() - 1.5) * 2 * sigma;
 }
 

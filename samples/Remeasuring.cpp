@@ -12,7 +12,7 @@ namespace {
 constexpr const char* kResurveyLetter = "F";
 constexpr const char* kRepeatLetter = "C";
 constexpr int kPlainSurvey = 1; ///< SurveyPoint::measureMode
-constexpr int kMistyped = 400;  ///< added to a number, it is one that no design point has
+constexpr int kMistyped = 400;  ///< added to a point number; no design point has the sum
 
 std::string asResurvey(SurveyPoint& again, const SurveyPoint& first, Random& /*random*/)
 {
@@ -24,7 +24,7 @@ std::string asBadResurvey(SurveyPoint& again, const SurveyPoint& first, Random& 
 {
     again.pointNumber = first.pointNumber + kResurveyLetter;
     const double length = random.uniform(0.06, 0.12);
-    // Towards the design, or it would be too far from that as well.
+    // Towards the design position: the other way it would be too far from the design as well.
     again.north -= std::copysign(length, first.north - first.designNorth);
     again.elevation += random.uniform(-0.2, 0.2);
     return basalt::formatFixed(again.north - first.north, 3) + " m north " +

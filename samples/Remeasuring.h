@@ -8,13 +8,14 @@
 
 namespace demo {
 
-/// A kind of result that comes from measuring a staked point once more.
+/// A way to measure staked points again.
 struct Remeasuring
 {
     const char* kind;
     std::size_t points;
-    int times; ///< how often each of them is measured again
-    /// Names the new result, and changes it where it has to be wrong; tells what it is.
+    int times; ///< how often each point is measured again
+    /// Numbers the new result, and spoils it where the kind is a fault.
+    /// \returns what "faults.csv" says about it
     std::string (*change)(SurveyPoint& again, const SurveyPoint& first, Random& random);
 };
 

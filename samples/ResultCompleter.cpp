@@ -25,7 +25,7 @@ CoordTriple toGeodetic(ICoordTransform& transform, const CoordTriple& plane)
     return geodetic;
 }
 
-/// To four decimals, as files carry it, so that values that belong together also do there.
+/// Rounded to the four decimals of the files, so that PDOP fits HDOP and VDOP also there.
 double rounded(double value)
 {
     return std::round(value * 10000) / 10000;
@@ -71,7 +71,7 @@ void ResultCompleter::setReference(SurveyPoint& point)
 {
     const DemoBase& station = baseStation(point.baseStationId);
     const PlanePlace plane = toPlane(station.place);
-    const double height = point.referenceAltitude; // as the crew entered it
+    const double height = point.referenceAltitude; // what the crew entered, right or wrong
     const CoordTriple geodetic = toGeodetic(m_transform, {plane.north, plane.east, height});
     point.referenceNorth = plane.north;
     point.referenceEast = plane.east;

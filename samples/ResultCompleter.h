@@ -8,16 +8,16 @@ class QString;
 
 namespace demo {
 
-/// Sets the coordinate service up for the survey's system.
+/// Sets `transform` up for the coordinate system of the survey.
 /// \returns an empty text, or why it cannot be used
 [[nodiscard]] QString useSurveySystem(ICoordTransform& transform);
 
-/// Fills in what follows from a result's own values: position on the earth, deviations from the
-/// line, the reference station's place and distance, PDOP and RMS.
+/// Computes the values of a result that follow from others: latitude, longitude and altitude, the
+/// deviations from the line, place and distance of the reference station, PDOP and RMS.
 class ResultCompleter
 {
 public:
-    /// \param transform of the survey's system; outlives the completer
+    /// \param transform set up by `useSurveySystem`; outlives the completer
     explicit ResultCompleter(ICoordTransform& transform) : m_transform(transform) {}
 
     void complete(SurveyPoint& point);

@@ -19,7 +19,7 @@ std::string words(const char* before, double value, int decimals, const char* af
     return before + basalt::formatFixed(value, decimals) + after;
 }
 
-/// The four ways off the line, and two of those between.
+/// To the right and left of the line, forward and back along it, and two diagonals.
 constexpr std::array<Skid, 6> kDirections{{{1, 0},
                                            {-1, 0},
                                            {0, 1},
@@ -47,7 +47,7 @@ struct Range
     double to;
 };
 
-/// Without a fixed solution, as accurate as the two ranges tell.
+/// Makes it a float solution with accuracies from the two ranges.
 void makeFloat(SurveyPoint& point, Random& random, const Range& hrmsM, const Range& vrmsM)
 {
     point.solutionType = kFloat;
@@ -75,7 +75,7 @@ std::string spoilAccuracy(SurveyPoint& point, Random& random)
            words(" and VRMS ", point.verticalAccuracy, 4, " m");
 }
 
-/// The pole was another one than the height that was entered, so that the elevation is wrong too.
+/// The surveyor enters a wrong antenna height, so that the elevation is wrong too.
 std::string enterAntennaHeight(SurveyPoint& point, double heightM)
 {
     const double pole = point.antennaHeight;
@@ -124,7 +124,8 @@ std::string spoilSatellites(SurveyPoint& point, Random& random)
     return std::to_string(point.satelliteNumber) + " satellites";
 }
 
-/// Entered without its decimal point, the station's height puts it far away.
+/// The height of the station is entered without its decimal point, so that the station seems far
+/// away.
 std::string spoilReference(SurveyPoint& point, Random& /*random*/)
 {
     const double right = point.referenceAltitude;

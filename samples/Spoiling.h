@@ -8,12 +8,13 @@
 
 namespace demo {
 
-/// A kind of fault that is planted by spoiling good results.
+/// A way to spoil good results.
 struct Spoiling
 {
     const char* kind;
-    std::size_t count; ///< of results to spoil
-    /// Changes a result that `ResultCompleter` has still to see; tells what it did.
+    std::size_t count; ///< how many results are spoiled
+    /// Changes a result before `ResultCompleter` computes its other values.
+    /// \returns what "faults.csv" says about it
     std::string (*spoil)(SurveyPoint& point, Random& random);
 };
 

@@ -11,14 +11,14 @@ constexpr double kLongestSkidM = 27.5;
 constexpr double kSkidStepM = 2.5;
 constexpr double kSkidClearanceM = 3;
 
-// The village: houses of one size in rows, with lanes between. No point of the design lies on the
-// edge of a house, where rounding would decide.
+// The village: rows of equal houses with lanes between them. No design point lies on the edge of a
+// house, so rounding cannot change where the obstacles are.
 constexpr LocalPlace kVillageStart{2473.7, 2183.3};
 constexpr LocalPlace kVillageEnd{2923.7, 2563.3};
 constexpr LocalPlace kPlot{55, 42};
 constexpr LocalPlace kHouse{38, 26};
 
-/// From the middle of the river, metres.
+/// The distance of a place from the middle of the river, metres.
 double riverDistance(const LocalPlace& place)
 {
     const double middle = 1500 + 0.35 * place.y + 180 * std::sin(place.y / 700);
@@ -26,7 +26,8 @@ double riverDistance(const LocalPlace& place)
     return std::fabs(place.x - middle) / std::hypot(1, slope);
 }
 
-/// Whether a coordinate lies in a house of its row, widened by the clearance on both sides.
+/// Whether a coordinate lies in a house of its row or nearer to one than the clearance.
+/// \param offset from the edge of the village
 bool isBuilt(double offset, double plot, double house, double clearanceM)
 {
     const double inPlot = std::fmod(offset + clearanceM, plot);

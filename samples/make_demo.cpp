@@ -1,4 +1,4 @@
-// make_demo: writes the demo survey into a folder.
+// make_demo FOLDER [SEED]: writes the demo survey into a folder.
 
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "samples/DemoFiles.h"
@@ -35,7 +35,7 @@ int makeDemo(const QString& folder, std::uint64_t seed)
 
 int main(int argc, char* argv[])
 {
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also where it is "C"
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // even when the locale is "C"
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     bool isNumber = true;

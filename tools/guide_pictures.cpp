@@ -1,4 +1,4 @@
-// The pictures of the user guide, from the program itself with a project open.
+// Paints the pictures of the user guide: opens a project in the program and grabs its windows.
 //   guide_pictures PROJECT.kelx FOLDER
 
 #include "app/ProgramIcon.h"
@@ -12,9 +12,11 @@
 #include "project/ui/DlgProjectSet.h"
 #include "protocol/ProductName.h"
 #include "protocol/StatusKeys.h"
+#include "quality/CheckKinds.h"
 #include "quality/ui/DlgQCParamSet.h"
 #include "quality/ui/DlgQCResult.h"
 
+#include <QAbstractTableModel>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
@@ -25,7 +27,7 @@
 namespace {
 
 constexpr int kMargin = 20;
-constexpr int kPaintMs = 1500; // more than the map's worker takes
+constexpr int kPaintMs = 1500; // longer than the map's worker needs
 
 void letItPaint()
 {
@@ -88,13 +90,13 @@ private:
         save(dialog.grab(), "guide-limits");
     }
 
-    /// The list over the map, which shows the result of the row that was clicked.
+    /// The list of faults over the map, which shows the result of the clicked row.
     void paintFaults()
     {
         DataProcessDataManager& manager = DataProcessDataManager::instance();
-        manager.checkQuality();
+        manager.run(kQualityCheck);
         m_frame.resize(1560, 980);
-        DlgQCResult list(m_host, manager.describeQuality());
+        DlgQCResult list(m_host, manager.resultOf(kQualityCheck));
         list.setAttribute(Qt::WA_DeleteOnClose, false);
         list.resize(list.minimumSize());
         list.show();

@@ -1,5 +1,5 @@
-# Sourced by run, test and tools/lint: installs the packages that are missing, and builds.
-# Sets `root`, the project's folder.
+# Sourced by run, test, tools/lint and tools/screenshots: functions that install missing packages and
+# build. Sets `root`, the project's folder.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -14,7 +14,7 @@ run_packages=(
 test_packages=(locales)
 lint_packages=(clang-format clang-tidy)
 
-# install_packages NAME...: does nothing, and quickly, when all are there.
+# install_packages NAME...: installs those that are missing.
 install_packages() {
     if ! command -v dpkg-query >/dev/null; then
         echo "Not a Debian system: make sure that the counterparts of these are there: $*" >&2
@@ -39,10 +39,10 @@ build() {
     shift
     cd "$root"
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" --log-level=WARNING
-    # Not a job more than there are processors: each takes up to a gigabyte.
+    # One job per processor, since a job takes up to a gigabyte of memory.
     local jobs=(--parallel "$(nproc)") targets=()
     [ $# -eq 0 ] || targets=(--target "$@")
-    # Precompiled headers carry times, which would keep ccache from finding anything.
+    # Precompiled headers contain times; without these settings ccache would find nothing.
     CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime \
         cmake --build "build/$preset" "${jobs[@]}" "${targets[@]}"
 }

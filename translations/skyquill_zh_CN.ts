@@ -1165,7 +1165,36 @@
     </message>
 </context>
 <context>
-    <name>QualityResultModel</name>
+    <name>RecentProjectCommand</name>
+    <message>
+        <source>No projects yet</source>
+        <translation>暂无工程</translation>
+    </message>
+</context>
+<context>
+    <name>ResultCsv</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>文件“%1”无法写入：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultList</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Save as CSV...</source>
+        <translation>另存为 CSV...</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>另存为 CSV</translation>
+    </message>
+</context>
+<context>
+    <name>ResultModel</name>
     <message>
         <source>Point Num</source>
         <translation>点号</translation>
@@ -1185,13 +1214,6 @@
     <message>
         <source>Limit</source>
         <translation>限值</translation>
-    </message>
-</context>
-<context>
-    <name>RecentProjectCommand</name>
-    <message>
-        <source>No projects yet</source>
-        <translation>暂无工程</translation>
     </message>
 </context>
 <context>

@@ -1,63 +1,46 @@
 #include "app/cli/CheckProject.h"
 
-#include "app/cli/CliCommands.h"
+#include "app/cli/CliArguments.h"
 #include "app/cli/CliProject.h"
-#include "basalt_utilities/Numbers.h"
-#include "lum_sdk/files/WholeFile.h"
-#include "model/PointNumber.h"
-#include "quality/QualityDescription.h"
-
-#include <QFileInfo>
+#include "protocol/Outcome.h"
+#include "quality/CheckKinds.h"
+#include "quality/ResultCsv.h"
+#include "quality/ResultModel.h"
 
 #include <cstdio>
 
 namespace {
 
-constexpr int kDecimals = 3;
-
-/// A field that other programs take for one whatever is in it.
-QByteArray field(QByteArray text)
+/// \param file standard output when it is empty
+Outcome print(const QAbstractTableModel& result, const QString& file)
 {
-    if (text.contains(',') || text.contains('"'))
-        text = '"' + text.replace("\"", "\"\"") + '"';
-    return text;
-}
-
-QByteArray qualityRows(const DataProcessDataManager& manager)
-{
-    QByteArray csv = "Point Num,Line Num,Describe,Value,Limit\n";
-    for (const QualityRow& row : manager.describeQuality()) {
-        const std::string_view point = writtenPointNumber(row.pointNumber);
-        csv += field(QByteArray(point.data(), static_cast<int>(point.size()))) + ',' +
-               field(QByteArray::fromStdString(row.lineNumber)) + ',' + field(row.text().toUtf8()) +
-               ',' + QByteArray::fromStdString(basalt::formatFixed(row.value, kDecimals)) + ',' +
-               QByteArray::fromStdString(basalt::formatFixed(row.limit, kDecimals)) + '\n';
+    if (file.isEmpty()) {
+        formatResultCsv(result, result_role::kEnglish, [](std::string_view line) {
+            std::fwrite(line.data(), 1, line.size(), stdout);
+        });
+        return Outcome::done();
     }
-    return csv;
+    const Outcome outcome = writeResultCsv(file, result, result_role::kEnglish);
+    return outcome.isDone() ? Outcome::done()
+                            : Outcome::failed(QString::fromStdString(outcome.detail()));
 }
 
 } // namespace
 
 Outcome checkProject(const CliArguments& arguments)
 {
-    if (arguments.places[1] != QLatin1String("quality"))
-        return Outcome::refused(
-            QStringLiteral("there is no check \"%1\"; there is quality").arg(arguments.places[1]));
+    const QString& name = arguments.places[1];
+    const CheckKind* const check = findCheckKind(name.toStdString());
+    if (check == nullptr)
+        return Outcome::refused(QStringLiteral("there is no check \"%1\"; there is %2")
+                                    .arg(name, QString::fromStdString(checkNames(", "))));
     CliProject project;
     if (Outcome opening = project.open(arguments.places[0], ProjectAccess::Change);
         !opening.isDone())
         return opening;
-    project.manager().checkQuality();
-    const QByteArray rows = qualityRows(project.manager());
+    project.manager().run(*check);
+    const auto result = project.manager().resultOf(*check);
     if (Outcome saving = project.save(); !saving.isDone())
         return saving;
-    const QString out = arguments.option(QStringLiteral("--out"));
-    if (out.isEmpty()) {
-        std::fwrite(rows.constData(), 1, static_cast<std::size_t>(rows.size()), stdout);
-        return Outcome::done();
-    }
-    const QString fault = lum::writeWholeFile(out, rows);
-    return fault.isEmpty()
-               ? Outcome::done()
-               : Outcome::failed(QStringLiteral("Cannot write \"%1\": %2").arg(out, fault));
+    return print(*result, arguments.option(QStringLiteral("--out")));
 }

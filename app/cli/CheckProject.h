@@ -3,6 +3,6 @@
 class Outcome;
 struct CliArguments;
 
-/// "check PROJECT KIND [--out FILE]": runs a check, saves its verdicts and prints the rows of its
-/// result as CSV, header first.
+/// "check PROJECT CHECK [--out FILE]": runs a check of quality/CheckKinds.h, saves its verdicts and
+/// prints its result as CSV, with captions in English.
 Outcome checkProject(const CliArguments& arguments);

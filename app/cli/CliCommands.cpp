@@ -7,6 +7,7 @@
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
 #include "app/cli/RenderProject.h"
+#include "quality/CheckKinds.h"
 
 #include <algorithm>
 #include <array>
@@ -41,7 +42,7 @@ constexpr std::array kCommands{
     CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH]",
                "paint the whole map into a picture",
                3, 3, "--size", "", renderProject, true},
-    CliCommand{"check", "PROJECT quality [--out FILE]",
+    CliCommand{"check", "PROJECT CHECK [--out FILE]",
                "check the survey results, print the faults as CSV",
                2, 2, "--out", "", checkProject},
 };
@@ -54,8 +55,9 @@ QStringList split(const char* names)
 
 QString usageOf(const CliCommand& command)
 {
-    return QStringLiteral("skyquill-cli %1 %2")
-        .arg(QLatin1String(command.name), QLatin1String(command.usage));
+    QString usage = QString::fromLatin1(command.usage);
+    usage.replace(QLatin1String("CHECK"), QString::fromStdString(checkNames("|")));
+    return QStringLiteral("skyquill-cli %1 %2").arg(QLatin1String(command.name), usage);
 }
 
 /// Null when there is none of that name.

@@ -7,7 +7,7 @@
 struct CliCommand
 {
     const char* name = nullptr;
-    const char* usage = nullptr;   ///< its arguments, as the help shows them
+    const char* usage = nullptr; ///< its arguments, as the help shows them; CHECK is a check's name
     const char* summary = nullptr; ///< half a sentence
     int fewestPlaces = 0;          ///< how many arguments it takes besides its options
     int mostPlaces = 0;

@@ -5,8 +5,10 @@
 #include "lum_sdk/events/IEventManager.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/Events.h"
+#include "quality/CheckKinds.h"
 #include "quality/ui/DlgQCResult.h"
 
+#include <QAbstractTableModel>
 #include <QCoreApplication>
 
 #include <memory>
@@ -14,13 +16,13 @@
 void DataInspectionCommand::execute()
 {
     DataProcessDataManager& manager = DataProcessDataManager::instance();
-    manager.checkQuality();
+    manager.run(kQualityCheck);
     LumMessageBox::information(
         host().dialogParent(), QCoreApplication::translate("DataInspectionCommand", "success"),
         QCoreApplication::translate("DataInspectionCommand", "Quality Check Complete!"));
     host().eventManager().publish(events::kRefreshDesignTable, nullptr, 0);
     host().eventManager().publish(events::kRefreshSurveyTable, nullptr, 0);
-    // Shown beside the window that it works on; it ends itself when it is closed.
-    auto dialog = std::make_unique<DlgQCResult>(host(), manager.describeQuality());
-    dialog.release()->show();
+    // Not modal, and deletes itself when it is closed.
+    auto list = std::make_unique<DlgQCResult>(host(), manager.resultOf(kQualityCheck));
+    list.release()->show();
 }

@@ -2,7 +2,7 @@
 
 #include "project/ui/ProjectCommandBase.h"
 
-/// Judges every survey result by the quality parameters, and lists the faults.
+/// Runs the quality check and shows the list of faults.
 class DataInspectionCommand final : public ProjectCommandBase
 {
 public:

@@ -21,7 +21,7 @@ DlgQCParamSet::DlgQCParamSet(QWidget* parent, IDictionary& parameters)
 {
     setWindowTitle(tr("Quality Specification"));
     setFixedSizeScaled(500, 550);
-    setStyleSheet(QStringLiteral("DlgQualitySpecificate{background:white;}")); // spelled so
+    setStyleSheet(QStringLiteral("DlgQualitySpecificate{background:white;}"));
     m_grid->init(QString::fromStdString(basalt::controlFile("QCParam")), parameters);
     m_grid->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);
     m_grid->setHeaderVisible(false);
@@ -38,7 +38,7 @@ DlgQCParamSet::DlgQCParamSet(QWidget* parent, IDictionary& parameters)
 void DlgQCParamSet::onBtnClicked()
 {
     if (m_grid->hasFaults()) {
-        m_grid->goToFault(); // marked where it stands
+        m_grid->goToFault();
         return;
     }
     const basalt::Dictionary edited = m_grid->getData();

@@ -6,7 +6,7 @@ class IDictionary;
 class PropertyGridCtrl;
 
 /// Edits the quality parameters in memory; the next save of the project writes them. Closing the
-/// window gives the edits up.
+/// window without OK discards the edits.
 class DlgQCParamSet final : public Dialog
 {
     Q_OBJECT
@@ -16,7 +16,8 @@ public:
     DlgQCParamSet(QWidget* parent, IDictionary& parameters);
 
 private Q_SLOTS:
-    /// Takes the edits over, unless a value is bad or the resurvey code is none.
+    /// Applies the edits and closes. When a value is bad or the resurvey code is not allowed, the
+    /// user is told and the dialog stays open.
     void onBtnClicked();
 
 private:

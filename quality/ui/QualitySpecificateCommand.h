@@ -2,7 +2,7 @@
 
 #include "project/ui/ProjectCommandBase.h"
 
-/// Lets the user set the limits of the quality check. Spelled as registered.
+/// Lets the user edit the limits of the quality check. Spelled as registered.
 class QualitySpecificateCommand final : public ProjectCommandBase
 {
 public:

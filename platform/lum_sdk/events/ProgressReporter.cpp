@@ -1,7 +1,6 @@
 #include "lum_sdk/events/ProgressReporter.h"
 
 #include "lum_sdk/events/IEventManager.h"
-#include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/PlatformEvents.h"
 
 #include <string>
@@ -37,12 +36,6 @@ void ProgressReporter::report(const QString& caption, std::size_t done, std::siz
     report(caption, percentOf(done, total));
 }
 
-void ProgressReporter::reportEach(std::string_view caption, std::size_t total)
-{
-    for (std::size_t done = 1; done <= total; ++done)
-        publish(payload::progress(caption, percentOf(done, total)).c_str());
-}
-
 void ProgressReporter::busy(const QString& caption)
 {
     publish(payload::busy(caption.toStdString()).c_str());
@@ -65,4 +58,15 @@ void ProgressReporter::publish(const char* text)
     m_isShown = true;
     if (m_manager != nullptr)
         m_manager->publish(events::kProgress, text, 0);
+}
+
+ProgressSteps::ProgressSteps(ProgressReporter& progress, std::string_view caption,
+                             std::size_t total)
+    : m_progress(progress), m_text(caption), m_total(total)
+{
+}
+
+void ProgressSteps::next()
+{
+    m_progress.publish(m_text.at(percentOf(++m_done, m_total)));
 }

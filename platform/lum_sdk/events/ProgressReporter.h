@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lum_sdk/events/Payload.h"
+
 #include <QString>
 
 #include <cstddef>
@@ -26,8 +28,6 @@ public:
     void report(const QString& caption, double percent);
     /// The same for `done` of `total` steps; no steps count as finished.
     void report(const QString& caption, std::size_t done, std::size_t total);
-    /// The same, for each of `total` steps; the caption is UTF-8.
-    void reportEach(std::string_view caption, std::size_t total);
     /// Work of unknown length.
     void busy(const QString& caption);
     /// Hides the bar; once, and only when something was reported.
@@ -36,8 +36,27 @@ public:
     void hide();
 
 private:
+    friend class ProgressSteps;
     void publish(const char* text);
 
     IEventManager* m_manager;
     bool m_isShown = false;
+};
+
+/// Reports many steps under one caption, each as `ProgressReporter::report` does, but faster.
+class ProgressSteps
+{
+public:
+    /// \param caption UTF-8
+    /// \param total number of steps, not 0
+    ProgressSteps(ProgressReporter& progress, std::string_view caption, std::size_t total);
+
+    /// The next step is done.
+    void next();
+
+private:
+    ProgressReporter& m_progress;
+    payload::ProgressText m_text;
+    std::size_t m_done = 0;
+    std::size_t m_total;
 };

@@ -1,0 +1,48 @@
+#include "quality/ResultCsv.h"
+
+#include "lum_sdk/files/WholeFileWriter.h"
+
+#include <QAbstractTableModel>
+#include <QCoreApplication>
+
+namespace {
+
+QByteArray field(const QVariant& value)
+{
+    QByteArray text = value.toString().toUtf8();
+    if (text.contains(',') || text.contains('"'))
+        text = '"' + text.replace("\"", "\"\"") + '"';
+    return text;
+}
+
+} // namespace
+
+void formatResultCsv(const QAbstractTableModel& result, int captionRole,
+                     const std::function<void(std::string_view line)>& write)
+{
+    const int columns = result.columnCount();
+    QByteArray line;
+    const auto writeLine = [&](const auto& valueOf) {
+        line.clear();
+        for (int column = 0; column < columns; ++column)
+            line += field(valueOf(column)) + (column + 1 < columns ? ',' : '\n');
+        write({line.constData(), static_cast<std::size_t>(line.size())});
+    };
+    writeLine([&](int column) { return result.headerData(column, Qt::Horizontal, captionRole); });
+    for (int row = 0; row < result.rowCount(); ++row)
+        writeLine([&](int column) { return result.index(row, column).data(); });
+}
+
+Outcome writeResultCsv(const QString& file, const QAbstractTableModel& result, int captionRole)
+{
+    lum::WholeFileWriter writer(file);
+    if (writer.fault().isEmpty())
+        formatResultCsv(result, captionRole, [&](std::string_view line) { writer.write(line); });
+    const QString reason = writer.commit();
+    if (reason.isEmpty())
+        return Outcome::done();
+    return Outcome::failed(
+        QCoreApplication::translate("ResultCsv", "The file \"%1\" cannot be written: %2.")
+            .arg(file, reason),
+        QStringLiteral("Cannot write \"%1\": %2").arg(file, reason).toStdString());
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "lum_sdk/Text.h"
+
+#include <QAbstractTableModel>
+#include <QCoreApplication>
+
+#include <span>
+#include <utility>
+#include <vector>
+
+/// Roles of a result model besides those of Qt. The first cell of a row holds the numbers that name
+/// its point in the project.
+namespace result_role {
+inline constexpr int kPointNumber = Qt::UserRole + 5; ///< of a cell
+inline constexpr int kLineNumber = Qt::UserRole + 6;  ///< of a cell
+inline constexpr int kEnglish = Qt::UserRole;         ///< of a header: its caption in English
+} // namespace result_role
+
+/// A column of a check's result.
+template <class Row>
+struct ResultColumn
+{
+    const char* caption; ///< in English; its translation has the context "ResultModel"
+    QString (*text)(const Row& row);
+};
+
+/// The result of a check as a table of centred texts. A cell is formatted when it is asked for.
+/// \tparam Row what the check found, with `pointNumber` and `lineNumber`
+template <class Row>
+class ResultModel final : public QAbstractTableModel
+{
+public:
+    /// \param columns outlive the model
+    ResultModel(std::span<const ResultColumn<Row>> columns, std::vector<Row> rows)
+        : m_columns(columns), m_rows(std::move(rows))
+    {
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    }
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+    }
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (!index.isValid())
+            return {};
+        const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+        if (role == Qt::DisplayRole)
+            return m_columns[static_cast<std::size_t>(index.column())].text(row);
+        if (role == Qt::TextAlignmentRole)
+            return int(Qt::AlignCenter);
+        if (index.column() == 0 && role == result_role::kPointNumber)
+            return lum::toQString(row.pointNumber);
+        if (index.column() == 0 && role == result_role::kLineNumber)
+            return lum::toQString(row.lineNumber);
+        return {};
+    }
+
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role) const override
+    {
+        const bool isCaption = role == Qt::DisplayRole || role == result_role::kEnglish;
+        if (orientation != Qt::Horizontal || section < 0 || section >= columnCount() || !isCaption)
+            return QAbstractTableModel::headerData(section, orientation, role);
+        const char* const caption = m_columns[static_cast<std::size_t>(section)].caption;
+        return role == Qt::DisplayRole ? QCoreApplication::translate("ResultModel", caption)
+                                       : QString::fromLatin1(caption);
+    }
+
+private:
+    std::span<const ResultColumn<Row>> m_columns;
+    std::vector<Row> m_rows;
+};

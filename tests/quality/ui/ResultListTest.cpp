@@ -1,0 +1,303 @@
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/Transform.h"
+#include "map/ui/PointHighlight.h"
+#include "project/DataProcessDataManager.h"
+#include "project/IPointList.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
+#include "quality/QualityResultModel.h"
+#include "quality/ui/DataInspectionCommand.h"
+#include "quality/ui/DlgQCResult.h"
+#include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/support/EventLog.h"
+#include "tests/support/SmallFiles.h"
+#include "tests/support/TestFolder.h"
+
+#include <QAbstractItemModelTester>
+#include <QtTest>
+
+#include <array>
+#include <cmath>
+#include <memory>
+
+namespace {
+
+/// A list of points that notes which ones it has to select.
+class NotingList final : public IWindow, public IPointList
+{
+public:
+    QWidget* widget() override { return nullptr; }
+    IDictionary& parameters() override { return m_parameters; }
+    bool selectPoint(const QString& lineNumber, const QString& pointNumber) override
+    {
+        asked << lineNumber + QLatin1Char('/') + pointNumber;
+        return true;
+    }
+    QStringList asked;
+
+private:
+    basalt::Dictionary m_parameters;
+};
+
+/// A result with too few satellites.
+SurveyPoint weakPoint(const char* number)
+{
+    SurveyPoint point;
+    point.lineNumber = "1001";
+    point.pointNumber = number;
+    point.north = point.designNorth = 4000;
+    point.east = point.designEast = 3000;
+    point.antennaHeight = 2;
+    point.pdop = point.hdop = point.vdop = 1;
+    point.satelliteNumber = 3;
+    return point;
+}
+
+std::vector<QualityRow> someRows()
+{
+    return {{"C10015001_0", "1001", "HRMS Out-range.", 0.6, 0.5},
+            {"7", "L \"1\", north", "PDOP, HDOP AND VDOP Out-range.", -1, -1},
+            {"8", "1001", "Antenna Too Low.", 0.4996, 0.5}};
+}
+
+} // namespace
+
+class ResultListTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void theModelHoldsItsRows();
+    void theCommandChecksTellsAndLists();
+    void aClickShowsTheResult();
+    void aClickComesNearEnough();
+    void copiesRowsWithCaptions();
+    void savesAsCsvOrTellsWhyNot();
+    void eachListHasAPlaceOfItsOwn();
+    void theListGoesWithItsProject();
+
+private:
+    std::unique_ptr<DlgQCResult> makeList()
+    {
+        auto list = std::make_unique<DlgQCResult>(*m_host, makeQualityResultModel(someRows()));
+        list->setAttribute(Qt::WA_DeleteOnClose, false);
+        list->show();
+        return list;
+    }
+    /// What the menu key does.
+    static void openMenu(DlgQCResult& list)
+    {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+        QCoreApplication::sendEvent(list.findChild<CustomTableWidget*>(), &event);
+    }
+    /// Saves a list by the last entry of its menu.
+    static void saveByTheMenu(DlgQCResult& list)
+    {
+        openMenu(list);
+        QWidget* const menu = QApplication::activePopupWidget();
+        QVERIFY(menu != nullptr);
+        QTest::keyClick(menu, Qt::Key_Up);
+        QTest::keyClick(menu, Qt::Key_Return);
+    }
+
+    std::unique_ptr<TestHost> m_host;
+};
+
+void ResultListTest::init()
+{
+    m_host = std::make_unique<TestHost>();
+    IDictionary& values = get_system_status_dictionary();
+    values.clear();
+    values.set(status::kProjectOpen, "1");
+    values.set(status::kProjectPath, "/a");
+}
+
+void ResultListTest::theModelHoldsItsRows()
+{
+    const auto model = makeQualityResultModel(someRows());
+    const QAbstractItemModelTester tester(model.get(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QCOMPARE(model->rowCount(), 3);
+    const QModelIndex first = model->index(0, 0);
+    QCOMPARE(first.data().toString(), QStringLiteral("C10015001"));
+    QCOMPARE(first.data(261).toString(), QStringLiteral("C10015001_0"));
+    QCOMPARE(first.data(262).toString(), QStringLiteral("1001"));
+    QCOMPARE(first.data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignCenter));
+    QCOMPARE(model->index(0, 1).data(261), QVariant());
+    QCOMPARE(model->headerData(5, Qt::Horizontal, Qt::DisplayRole).toInt(), 6); // Qt's own
+}
+
+void ResultListTest::theCommandChecksTellsAndLists()
+{
+    QWidget frame;
+    m_host->frame = &frame;
+    DataProcessDataManager manager(m_host.get());
+    manager.surveyPoints().set(weakPoint("C10015001_0"));
+    const EventLog log(m_host->events, "REFRESH_DESIGN_TABLE,REFRESH_SURVEY_TABLE");
+    QStringList told;
+    const LumMessageBox::Responder responder([&](const auto& message) {
+        told << message.title << message.text;
+        return LumMessageBox::Button::Ok;
+    });
+    DataInspectionCommand command("", m_host.get());
+    QVERIFY(command.isEnabled());
+    command.execute();
+    QCOMPARE(told,
+             (QStringList{QStringLiteral("success"), QStringLiteral("Quality Check Complete!")}));
+    QVERIFY(
+        (log.names() == std::vector<std::string>{"REFRESH_DESIGN_TABLE", "REFRESH_SURVEY_TABLE"}));
+    const QPointer<DlgQCResult> list = frame.findChild<DlgQCResult*>();
+    QVERIFY(list != nullptr && list->isVisible() && !list->isModal());
+    QCOMPARE(list->windowTitle(), QStringLiteral("Quality Check Result"));
+    const QAbstractItemModel& model = *list->findChild<CustomTableWidget*>()->model();
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(model.index(0, 2).data().toString(), QStringLiteral("Satellite Number Insufficient."));
+    QCOMPARE(model.index(0, 3).data().toString(), QStringLiteral("3.000"));
+    QCOMPARE(model.index(0, 4).data().toString(), QStringLiteral("6.000"));
+    list->close();
+    QTRY_VERIFY(list == nullptr);
+}
+
+void ResultListTest::aClickShowsTheResult()
+{
+    NotingList points;
+    MapWindow map("name=DataMap", m_host.get());
+    map.resize(400, 300);
+    m_host->windowRegistry.windows[QStringLiteral("DataMap")] = &map;
+    m_host->windowRegistry.windows[QStringLiteral("Survey Data List")] = &points;
+    DataProcessDataManager manager(m_host.get());
+    manager.surveyPoints().set(weakPoint("8"));
+    const auto list = makeList();
+    auto* const table = list->findChild<CustomTableWidget*>();
+    const auto click = [&] {
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                          table->visualRect(table->model()->index(2, 2)).center());
+    };
+    click();
+    QCOMPARE(points.asked, QStringList(QStringLiteral("1001/8")));
+    QCOMPARE(map.transform().center(), QPointF(3000, 4000));
+    const QImage picture = map.grab().toImage();
+    QCOMPARE(picture.pixelColor(picture.width() / 2, picture.height() / 2), QColor(Qt::blue));
+
+    manager.surveyPoints().clear();
+    map.centerOn(0, 0);
+    click();
+    QCOMPARE(map.transform().center(), QPointF(0, 0)); // the result was deleted
+}
+
+void ResultListTest::aClickComesNearEnough()
+{
+    struct Case
+    {
+        double offset; // metres from the design
+        double before; // metres a pixel
+        double after;
+    };
+    MapWindow map("name=DataMap", m_host.get());
+    map.resize(400, 300);
+    m_host->windowRegistry.windows[QStringLiteral("DataMap")] = &map;
+    map.show();
+    for (const auto& [offset, before, after] :
+         {Case{50, 100, 1}, {6, 100, 0.5}, {0.01, 100, 0.05}, {0, 100, 1}, {6, 0.3, 0.3}}) {
+        map.zoomRect(0, 0, 400 * before, 300 * before);
+        QCOMPARE(map.transform().GetScale(), before);
+        PointHighlight::show(*m_host, {3000, 4000}, {3000, 4000 + offset});
+        QCOMPARE(map.transform().center(), QPointF(3000, 4000));
+        QCOMPARE(map.transform().GetScale(), after);
+    }
+    map.zoomAbout(200, 150, 0.01);
+    const Transform view = map.transform();
+    PointHighlight::show(*m_host, {3000, std::nan("")}, {3000, 4000});
+    QVERIFY2(map.transform() == view, "moved to a position that is no number");
+}
+
+void ResultListTest::copiesRowsWithCaptions()
+{
+    const auto list = makeList();
+    QVERIFY(QTest::qWaitForWindowActive(list.get()));
+    auto* const table = list->findChild<CustomTableWidget*>();
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    clipboard.setText(QStringLiteral("before"));
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(clipboard.text(), QStringLiteral("before")); // no row was selected
+    table->selectRow(0);
+    QTest::keyClick(table, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(clipboard.text(),
+             QStringLiteral("Point Num\tLine Num\tDescribe\tValue\tLimit\n"
+                            "C10015001\t1001\tHRMS Out-range.\t0.600\t0.500\n"
+                            "7\tL \"1\", north\tPDOP, HDOP AND VDOP Out-range.\t-1.000\t-1.000\n"));
+}
+
+void ResultListTest::savesAsCsvOrTellsWhyNot()
+{
+    const TestFolder folder;
+    const QString path = folder.path("faults.csv");
+    QString chosen = path;
+    const FileDialog::Responder files([&](const auto& /*request*/) { return chosen; });
+    QStringList told;
+    const LumMessageBox::Responder messages([&](const auto& message) {
+        if (message.kind == LumMessageBox::Kind::Question)
+            return LumMessageBox::Button::Yes; // replaces the file
+        told << message.text;
+        return LumMessageBox::Button::Ok;
+    });
+    const auto list = makeList();
+    QVERIFY(QTest::qWaitForWindowActive(list.get()));
+    list->findChild<CustomTableWidget*>()->selectRow(1);
+    saveByTheMenu(*list);
+    const QByteArray saved = "Point Num,Line Num,Describe,Value,Limit\n"
+                             "C10015001,1001,HRMS Out-range.,0.600,0.500\n"
+                             "7,\"L \"\"1\"\", north\",\"PDOP, HDOP AND VDOP Out-range.\","
+                             "-1.000,-1.000\n"
+                             "8,1001,Antenna Too Low.,0.500,0.500\n";
+    QCOMPARE(TestFolder::read(path), saved);
+    QCOMPARE(told, QStringList());
+    {
+        const SmallFiles fullDisk(20);
+        saveByTheMenu(*list);
+    }
+    QCOMPARE(TestFolder::read(path), saved);
+    chosen = folder.path("missing/faults.csv");
+    saveByTheMenu(*list);
+    chosen.clear(); // the user cancels
+    saveByTheMenu(*list);
+    QCOMPARE(told.size(), 2);
+    QVERIFY2(told[0].contains(QStringLiteral("\"%1\" cannot be written: ").arg(path)),
+             qPrintable(told[0]));
+    QVERIFY2(told[1].contains(QStringLiteral("missing/faults.csv")), qPrintable(told[1]));
+}
+
+void ResultListTest::eachListHasAPlaceOfItsOwn()
+{
+    QWidget frame;
+    frame.resize(1200, 800);
+    m_host->frame = &frame;
+    std::array<std::unique_ptr<DlgQCResult>, 3> lists;
+    for (auto& list : lists)
+        list = makeList();
+    QVERIFY(lists[1]->x() < lists[0]->x() - 20 && lists[1]->y() < lists[0]->y() - 20);
+    QVERIFY(lists[2]->x() < lists[1]->x() - 20);
+    const QPoint freed = lists[0]->pos();
+    lists[0]->close();
+    QCOMPARE(makeList()->pos(), freed);
+}
+
+void ResultListTest::theListGoesWithItsProject()
+{
+    const auto list = makeList();
+    m_host->events.publish(events::kUpdateSystemStatus, nullptr, 0);
+    QVERIFY(list->isVisible());
+    get_system_status_dictionary().set(status::kProjectPath, "/b");
+    m_host->events.publish(events::kUpdateSystemStatus, nullptr, 0);
+    QVERIFY(!list->isVisible());
+}
+
+QTEST_MAIN(ResultListTest)
+#include "ResultListTest.moc"
