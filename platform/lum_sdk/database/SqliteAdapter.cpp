@@ -115,12 +115,7 @@ private:
 
 } // namespace
 
-SqliteAdapter::SqliteAdapter()
-{
-    // Counting its memory makes all connections share a lock; refused when SQLite is in use.
-    sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
-}
-
+SqliteAdapter::SqliteAdapter() = default;
 SqliteAdapter::~SqliteAdapter() = default;
 
 void SqliteAdapter::Closer::operator()(sqlite3* database) const
