@@ -10,7 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
-/// The event manager of the GUI thread; it belongs to the thread that makes it.
+/// The event manager. It belongs to the thread that makes it, the GUI thread.
 class EventManager final : public QObject, public IEventManager
 {
     Q_OBJECT
