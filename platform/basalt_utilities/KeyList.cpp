@@ -82,7 +82,7 @@ private:
 
     void report(std::string_view fault)
     {
-        if (!m_wellFormed) // once a list: a file read as one by mistake would fill the log
+        if (!m_wellFormed) // once a list: a wrong file would fill the log
             return;
         m_wellFormed = false;
         constexpr std::size_t kShown = 200;
