@@ -205,3 +205,11 @@ TEST(CoordProjection, ProjectHeightStretchesTheGrid)
     const auto higher = gaussKruger("project_height=637.8137"); // 1e-4 of the axis
     EXPECT_NEAR(CoordService(higher).toGrid(53, 117).first / before, 1.0001, 1e-10);
 }
+
+TEST(CoordProjection, TheOnlyParallelOfALambertProjectionCountsTwice)
+{
+    const char* const system = "project_type=3,ellipsoid_a=6378137,ellipsoid_f=298.257222101,"
+                               "org_lat=18,parallel_1_lat=30";
+    expectNear(CoordService(dictionaryOf(system)).toGrid(32, 3),
+               CoordService(dictionaryOf(system, "parallel_2_lat=30")).toGrid(32, 3), 0);
+}
