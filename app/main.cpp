@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/IMainFrame.h"
 #include "lum_desktop_sdkx/ISystemSettings.h"
+#include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/ICountly.h"
 #include "lum_sdk/SingleInstance.h"
@@ -47,6 +48,7 @@ void showMainFrame(const IDictionary& config)
 int main(int argc, char* argv[])
 {
     nameProduct();
+    lum::setUpDatabase();
     auto application = std::make_unique<Applicationx>(argc, argv, kProductName,
                                                       "/Tool/DataProcess5/data_process_5");
     QApplication::setWindowIcon(programIcon());

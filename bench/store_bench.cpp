@@ -1,4 +1,5 @@
 #include "bench/Limits.h"
+#include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/FileSync.h"
 #include "model/DesignRecord.h"
 #include "model/SurveyRecord.h"
@@ -208,6 +209,7 @@ BENCHMARK(BM_Save)->Iterations(1);
 
 int main(int argc, char* argv[])
 {
+    lum::setUpDatabase();
     if (argc == 3 && argv[1] == std::string("--memory")) {
         std::printf("%.1f\n", loadedMiB(argv[2]));
         return 0;

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <numbers>
 
-// A million points through the coordinate service, against PROJ alone over the same points.
+// The time of a million points through the coordinate service, divided by that of PROJ alone.
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 #include "lum_desktop_sdkx/ISystemSettings.h"
+#include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ui/DlgProjectSet.h"
@@ -131,6 +132,7 @@ int main(int argc, char* argv[])
     const QString folder = QString::fromLocal8Bit(argv[2]);
     int count = 1;
     nameProduct();
+    lum::setUpDatabase();
     Applicationx application(count, argv, kProductName, "/Tool/DataProcess5/data_process_5");
     QApplication::setWindowIcon(programIcon());
     const LumMessageBox::Responder responder([](const auto& message) {

@@ -289,22 +289,6 @@
         <source>Swiss oblique Mercator</source>
         <translation>瑞士斜轴墨卡托</translation>
     </message>
-    <message>
-        <source>None</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>Position vector (Bursa-Wolf)</source>
-        <translation>位置矢量（布尔莎）</translation>
-    </message>
-    <message>
-        <source>Coordinate frame rotation</source>
-        <translation>坐标框架旋转</translation>
-    </message>
-    <message>
-        <source>Molodensky-Badekas</source>
-        <translation>莫洛坚斯基-巴德卡斯</translation>
-    </message>
 </context>
 <context>
     <name>CoordResult</name>

@@ -2,6 +2,7 @@
 
 #include "app/cli/CliCommands.h"
 #include "basalt_utilities/ILogger.h"
+#include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/Translations.h"
 #include "lum_sdk/Text.h"
@@ -54,6 +55,7 @@ int report(const Outcome& outcome)
 int main(int argc, char* argv[])
 {
     nameProduct();
+    lum::setUpDatabase();
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also in the locale "C"
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(QLatin1String(kOrganisation));

@@ -9,7 +9,7 @@
 namespace basalt {
 
 namespace {
-// Below this a scan over the keys is quicker than a binary search through the index.
+// Up to so many keys a scan over them is quicker than a binary search.
 constexpr std::size_t kScanLimit = 24;
 } // namespace
 
@@ -34,7 +34,7 @@ bool Dictionary::set(std::string_view key, std::string_view value)
     }
     if (m_size == m_entries.size()) {
         if (m_entries.empty())
-            m_entries.reserve(4); // a payload's few pairs in one allocation
+            m_entries.reserve(4); // the few pairs of a payload need one allocation
         m_entries.emplace_back();
     }
     m_entries[m_size].key.assign(key);

@@ -9,9 +9,9 @@
 
 namespace basalt {
 
-/// The dictionary that everybody owns: a vector of pairs, with a sorted index once it is large.
+/// The usual dictionary: a vector of pairs, with an index sorted by key once there are many.
 ///
-/// `clear` keeps the memory, so that one dictionary can take payload after payload.
+/// `clear` keeps the memory: a dictionary that reads many payloads allocates for the first only.
 class Dictionary final : public IDictionary
 {
 public:
@@ -34,13 +34,13 @@ private:
         std::string value;
     };
 
-    /// Place in `m_entries`, or `m_size` when there is no such key.
+    /// The index in `m_entries`, or `m_size` when there is no such key.
     [[nodiscard]] std::size_t indexOf(std::string_view key) const;
     void rebuildOrder();
 
     std::vector<Entry> m_entries; ///< the first `m_size` count; the rest is kept for its memory
     std::size_t m_size = 0;
-    std::vector<std::uint32_t> m_order; ///< places sorted by key; empty while a scan is cheaper
+    std::vector<std::uint32_t> m_order; ///< indices sorted by key; empty while a scan is quicker
 };
 
 } // namespace basalt
@@ -48,13 +48,14 @@ private:
 /// An empty dictionary.
 [[nodiscard]] std::unique_ptr<IDictionary> dictionary_get_instance();
 
-/// Sets a value; numbers are written as `std::to_chars` writes them, whatever the locale.
+/// Sets a value. A number becomes the shortest text that reads back as the same number, in any
+/// locale.
 void dic_set_value(IDictionary& dictionary, std::string_view key, std::string_view value);
 void dic_set_value(IDictionary& dictionary, std::string_view key, int value);
 void dic_set_value(IDictionary& dictionary, std::string_view key, double value);
 
-/// Copies every entry of `from` into `to`, over what stands there under the same keys.
+/// Copies every entry of `from` into `to`; an entry of the same key is replaced.
 void dictionary_copy(const IDictionary& from, IDictionary& to);
 
-/// Copies only the entries named in `keys`, a comma-separated list; missing ones are passed over.
+/// Copies only the entries named in `keys`, a comma-separated list; missing ones are skipped.
 void dictionary_copy(const IDictionary& from, IDictionary& to, std::string_view keys);

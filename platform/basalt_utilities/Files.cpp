@@ -25,12 +25,12 @@ bool file_system_check_file(const std::string& path)
 
 bool file_system_copy_file(const std::string& from, const std::string& to)
 {
-    // Written aside and renamed, so that a full disk never leaves half a file.
+    // Copied beside the target and renamed, so that a full disk never leaves half a file.
     const std::string aside = to + ".part";
     std::error_code fault;
     std::filesystem::copy_file(from, aside, std::filesystem::copy_options::overwrite_existing,
                                fault);
-    if (!fault) // a template of a read-only installation makes a file that can be written
+    if (!fault) // the copy of a read-only template must be writable
         std::filesystem::permissions(aside, std::filesystem::perms::owner_write,
                                      std::filesystem::perm_options::add, fault);
     if (!fault)

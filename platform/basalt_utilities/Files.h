@@ -2,17 +2,17 @@
 
 #include <string>
 
-// File operations by UTF-8 path. Each returns whether it succeeded; why one did not stands in the
-// log, with the operation and the path.
+// File operations by UTF-8 path. Each returns whether it succeeded; a failure is logged with the
+// operation, the path and the reason.
 
 /// True for an existing file or folder.
 [[nodiscard]] bool file_system_check_file(const std::string& path);
 
-/// Copies a file, over an existing one; a copy that fails leaves no half file under `to`.
+/// Copies a file and replaces an existing one. A copy that fails leaves `to` as it was.
 bool file_system_copy_file(const std::string& from, const std::string& to);
 
 /// True also when there was no such file.
 bool file_system_delete_file(const std::string& path);
 
-/// Makes the folder and those above it; true also when it stands already.
+/// Makes the folder and its parents; true also when it exists already.
 bool file_system_create_dir(const std::string& path);

@@ -8,7 +8,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <type_traits>
 
 namespace basalt {
@@ -22,8 +21,9 @@ char* writeExactly(char* to, double value, int decimals)
     return std::to_chars(to, to + kFixedSize, value, std::chars_format::fixed, decimals).ptr;
 }
 
-/// Rounds `magnitude` to so many decimals, all digits as one integer.
-/// \returns false where only the exact way is safe: large numbers, ties, and what is no number
+/// Rounds `magnitude` to so many decimals and gives all its digits as one integer.
+/// \returns false when the digits could be wrong: for large numbers, next to a tie, and for
+///          infinity and NaN
 bool roundQuickly(double magnitude, int decimals, std::uint64_t& digits)
 {
     const double scaled = magnitude * kPowersOfTen[static_cast<std::size_t>(decimals)];
@@ -31,24 +31,16 @@ bool roundQuickly(double magnitude, int decimals, std::uint64_t& digits)
         return false;
     digits = static_cast<std::uint64_t>(scaled);
     const double fraction = scaled - static_cast<double>(digits);
-    // The product is off by half a unit in its last place at most: next to a tie it may lie.
+    // The product has a rounding error of half a unit in its last place at most: next to a tie that
+    // decides which way to round.
     if (std::fabs(fraction - 0.5) <= scaled * 0x1p-51)
         return false;
     digits += fraction > 0.5 ? 1U : 0U;
     return true;
 }
 
-/// "00" to "99".
-constexpr auto kPairs = [] {
-    std::array<char, 200> pairs{};
-    for (std::size_t i = 0; i < 100; ++i) {
-        pairs[2 * i] = static_cast<char>('0' + i / 10);
-        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-    }
-    return pairs;
-}();
-
-/// Reads digits with a point at most, where the result is exact; false leaves `value` alone.
+/// Reads a text of digits and at most one point when the result is exact.
+/// \returns false, with `value` as it was, for any other text
 bool readPlain(std::string_view text, double& value)
 {
     const char* c = text.data();
@@ -75,7 +67,7 @@ std::optional<Number> wholeNumber(std::string_view text)
     if (fault != std::errc() || last != end)
         return std::nullopt;
     if constexpr (std::is_floating_point_v<Number>) {
-        if (!std::isfinite(value)) // "nan" and "inf" are words to from_chars
+        if (!std::isfinite(value)) // from_chars also reads "nan" and "inf"
             return std::nullopt;
     }
     return value;
@@ -101,30 +93,6 @@ char* writeFixed(char* to, double value, int decimals)
         digits /= 10;
     }
     return point + 1 + decimals;
-}
-
-char* writeGeneral(char* to, double value)
-{
-    constexpr std::size_t kDigits = 6;
-    std::size_t whole = 1;
-    for (double power = 10; power <= value && whole < kDigits; power *= 10)
-        ++whole;
-    std::uint64_t digits = 0;
-    if (!(value >= 1) || whole == kDigits || // what may need an exponent, or is not a number
-        !roundQuickly(value, static_cast<int>(kDigits - whole), digits) || digits >= 1000000)
-        return std::to_chars(to, to + kFixedSize, value, std::chars_format::general, kDigits).ptr;
-
-    // Behind the place of the point, which then moves in between.
-    auto rest = static_cast<std::uint32_t>(digits);
-    for (std::size_t end = kDigits; end != 0; end -= 2, rest /= 100)
-        std::memcpy(to + end - 1, &kPairs[std::size_t{rest % 100} * 2], 2);
-    for (std::size_t i = 0; i < whole; ++i)
-        to[i] = to[i + 1];
-    to[whole] = '.';
-    char* end = to + kDigits + 1;
-    while (end[-1] == '0')
-        --end;
-    return end[-1] == '.' ? end - 1 : end;
 }
 
 double readDecimal(std::string_view text)

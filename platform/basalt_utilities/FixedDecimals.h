@@ -5,12 +5,11 @@
 #include <optional>
 #include <string_view>
 
-// Numbers as decimal text, where a million of them are written or read. `writeFixed`,
-// `writeGeneral` and `readDecimal` give exactly what `formatFixed`, `formatGeneral` and
-// `parseNumber` give, some three times as quickly.
+// Numbers as decimal text, for files with millions of them. `writeFixed` and `readDecimal` give
+// exactly what `formatFixed` and `parseNumber` give, about three times as fast.
 namespace basalt {
 
-/// What `writeFixed` may need: 309 digits, sign, point and decimals.
+/// The most bytes that `writeFixed` writes: 309 digits, sign, point and decimals.
 inline constexpr std::size_t kFixedSize = 336;
 
 /// Writes `value` in fixed notation, as "%.*f", without a closing NUL.
@@ -19,19 +18,14 @@ inline constexpr std::size_t kFixedSize = 336;
 /// \returns the end of what was written
 char* writeFixed(char* to, double value, int decimals);
 
-/// Writes `value` with six significant digits, as "%g" and `formatGeneral`, without a closing NUL.
-/// \param to at least `kFixedSize` bytes
-/// \returns the end of what was written
-char* writeGeneral(char* to, double value);
-
 /// The number that `text` begins with, as `parseNumber` reads it.
 [[nodiscard]] double readDecimal(std::string_view text);
 
-/// The decimal number that `text` is as a whole, blanks around it let aside; nothing for any other
-/// text ("12m", "0x10", "nan"), and for a number that no double can hold.
+/// The value, when all of `text` is one decimal number; blanks around it are allowed. Nothing for
+/// any other text ("12m", "0x10", "nan") and for a number that no double can hold.
 [[nodiscard]] std::optional<double> wholeDecimal(std::string_view text);
 
-/// The same for a decimal integer of 32 bits ("12.0" is none).
+/// The same for a decimal integer of 32 bits ("12.0" is not one).
 [[nodiscard]] std::optional<std::int32_t> wholeInteger(std::string_view text);
 
 /// And of 64 bits.

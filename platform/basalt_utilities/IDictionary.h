@@ -7,8 +7,8 @@
 /// Text keys to text values, in the order of insertion.
 ///
 /// Parameter sets, parsed event payloads and database records are all dictionaries. Keys and
-/// values are 8-bit text (UTF-8), compared byte for byte. A view that is handed out stays valid
-/// until the dictionary changes.
+/// values are 8-bit text (UTF-8), compared byte for byte. A returned view is valid until the
+/// dictionary changes.
 class IDictionary
 {
 public:
@@ -32,7 +32,7 @@ public:
 
     [[nodiscard]] bool contains(std::string_view key) const { return find(key).has_value(); }
 
-    /// The value as it stands; `fallback` when the key is missing.
+    /// The value as text; `fallback` when the key is missing.
     [[nodiscard]] std::string_view text(std::string_view key, std::string_view fallback = {}) const;
 
     /// The leading number of the value as `parseInteger` and `parseNumber` read it: 0 when the

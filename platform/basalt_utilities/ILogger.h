@@ -17,14 +17,14 @@ public:
     virtual ~ILogger() = default;
     virtual void write(Level level, std::string_view line) = 0;
 
-    /// What was written so far is on the disk when this returns.
+    /// Waits until everything written so far is in the file.
     virtual void flush() = 0;
 };
 
 /// The one logger of the process, made at the first call: a rotating file
 /// "<state folder>/<product in small letters>.log" (5 files of 2 MB; see Product.h), and warnings
-/// and errors on standard error too. When the file cannot be written, standard error says so and is
-/// all there is. A line that is repeated at once is counted, not written again.
+/// and errors on standard error too. When the file cannot be opened, standard error says so and is
+/// the only log. A line repeated within 5 seconds is counted, not written again.
 [[nodiscard]] ILogger* rism_logger_get_instance();
 
 namespace basalt {
@@ -34,11 +34,11 @@ void logInfo(std::string_view line);
 void logWarning(std::string_view line);
 void logError(std::string_view line);
 
-/// From here on the log is the file alone: for tools whose standard error is an answer.
+/// Stops writing to standard error: command-line tools use it for their own messages.
 void keepLogOffConsole();
 
-/// Somebody who wants each line as it is written (the message window, a test). Called under a lock
-/// from the writing thread; must not write to the log itself. Null takes it away.
+/// Gets each line as it is written (for the message window, or a test), on the writing thread and
+/// under a lock: it must not write to the log itself. Null removes the listener.
 using LogListener = void (*)(void* context, ILogger::Level level, std::string_view line);
 void setLogListener(LogListener listener, void* context);
 

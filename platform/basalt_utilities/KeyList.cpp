@@ -82,7 +82,7 @@ private:
 
     void report(std::string_view fault)
     {
-        if (!m_wellFormed) // a file read as a key list would fill the log
+        if (!m_wellFormed) // once a list: a wrong file would fill the log
             return;
         m_wellFormed = false;
         constexpr std::size_t kShown = 200;

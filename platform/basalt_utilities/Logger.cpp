@@ -57,13 +57,13 @@ public:
                 std::make_shared<spdlog::sinks::rotating_file_sink_mt>(path, kFileBytes, kOldFiles);
             file->set_pattern("%Y-%m-%d %H:%M:%S.%e %l %v");
             sinks->add_sink(file);
-        } catch (const std::exception& fault) { // a library's exception ends here
+        } catch (const std::exception& fault) { // the file cannot be opened
             problem = fault.what();
         }
         m_logger = std::make_unique<spdlog::logger>(logName(), sinks);
         m_logger->set_level(spdlog::level::debug);
-        m_logger->flush_on(spdlog::level::info); // a crash must not take the last lines with it
-        m_logger->set_error_handler([](const std::string&) {}); // a full disk must not spam
+        m_logger->flush_on(spdlog::level::info);                // so that a crash loses no line
+        m_logger->set_error_handler([](const std::string&) {}); // no message a line on a full disk
         if (!problem.empty())
             write(Level::Warning, "No log file, writing to standard error only: " + problem);
     }
@@ -98,7 +98,7 @@ private:
 
 Logger& logger()
 {
-    // Never ended: what is ended at exit may still have something to say.
+    // Never destroyed: objects that are destroyed at exit may still write to the log.
     static Logger& instance = *std::make_unique<Logger>().release();
     return instance;
 }

@@ -23,7 +23,8 @@ bool cutSign(std::string_view& text)
     return negative;
 }
 
-/// What strtod gives for a number that no double can hold: its exponent tells which way.
+/// What strtod gives for a number that no double can hold: 0 when it is too small, which its
+/// exponent tells, infinity when it is too large.
 double outOfRange(std::string_view number)
 {
     const std::size_t exponent = number.find_first_of("eEpP");
@@ -66,7 +67,7 @@ double parseNumber(std::string_view text)
     const bool negative = cutSign(text);
     const auto value = parseUnsigned(text);
     if (!value)
-        return 0; // without the sign
+        return 0; // never -0
     return negative ? -*value : *value;
 }
 

@@ -19,7 +19,7 @@ std::string userFolder(const char* variable, const char* below)
 {
     const char* folder = std::getenv(variable);
     std::filesystem::path base;
-    if (folder != nullptr && folder[0] == '/') { // relative ones are invalid by the XDG rules
+    if (folder != nullptr && folder[0] == '/') { // the XDG rules forbid relative ones
         base = folder;
     } else {
         const char* home = std::getenv("HOME");

@@ -5,7 +5,7 @@
 
 namespace basalt {
 
-/// Whose program this is: its folders and its log are named so.
+/// The names of the program, which are also those of its folders and its log.
 struct Product
 {
     std::string organisation;
@@ -13,7 +13,7 @@ struct Product
     std::string tool; ///< the part of the configuration that this program uses
 };
 
-/// `main` says it before anything else is asked for.
+/// `main` calls it before it uses anything else of the platform.
 void setProduct(const Product& product);
 [[nodiscard]] const Product& product();
 
@@ -28,11 +28,11 @@ void setProduct(const Product& product);
 [[nodiscard]] std::string controlFile(std::string_view page);
 
 /// The folder of the user's log, "$XDG_STATE_HOME/ORGANISATION/NAME" (by default under
-/// "~/.local/state"). Not made here.
+/// "~/.local/state"). It may not exist yet.
 [[nodiscard]] std::string stateFolder();
 
 /// The folder of the user's settings, "$XDG_CONFIG_HOME/ORGANISATION/NAME" (by default under
-/// "~/.config"). Not made here.
+/// "~/.config"). It may not exist yet.
 [[nodiscard]] std::string settingsFolder();
 
 } // namespace basalt

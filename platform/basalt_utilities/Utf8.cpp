@@ -8,8 +8,8 @@ namespace basalt {
 
 namespace {
 
-/// The characters whose first byte lies in a range: how many bytes follow, and where the second
-/// must lie; the others lie in 0x80 to 0xBF.
+/// One row of the table: for first bytes from `first` to `last`, how many bytes follow and the
+/// range of the second one. All further bytes lie in 0x80 to 0xBF.
 struct Sequence
 {
     std::uint8_t first, last, following, lowestSecond, highestSecond;
@@ -30,7 +30,7 @@ bool areAscii(const char* bytes)
     return ((words[0] | words[1] | words[2] | words[3]) & 0x8080808080808080U) == 0;
 }
 
-/// The size of the character of more than one byte that `text` begins with; 0 when it is none.
+/// The bytes of the first character of `text`, which is not ASCII; 0 when it is malformed.
 std::size_t sequenceSize(std::string_view text)
 {
     const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };

@@ -14,8 +14,8 @@
 
 /// Components of one kind, made by the name under which their class was registered.
 ///
-/// Behind the C-style functions of each kind (`extensible_factory_register_...`, `_get_...`,
-/// `_release_...`) stands one such object. `Arguments` are what the kind's classes are made with.
+/// The C-style functions of each kind (`extensible_factory_register_...`, `_get_...`,
+/// `_release_...`) forward to one such object. `Arguments` are those of the constructors.
 template <class Interface, class... Arguments>
 class ComponentFactory
 {
@@ -26,7 +26,7 @@ public:
 
     explicit ComponentFactory(std::string_view kind) : m_kind(kind) {}
 
-    /// Refuses (false, and a line in the log) a name that is taken; the first class keeps it.
+    /// A name that is taken stays with the first class: returns false, and logs the name.
     bool add(const char* name, const char* caption, Create create, Destroy destroy)
     {
         const bool isNew = m_entries.try_emplace(name, Entry{caption, create, destroy}).second;
@@ -63,7 +63,7 @@ public:
         return component.release();
     }
 
-    /// Ends a component that `get` made; null and strangers are left alone.
+    /// Destroys a component that `get` made; ignores null and any other pointer.
     void release(Interface* component)
     {
         const auto found = m_lent.find(component);

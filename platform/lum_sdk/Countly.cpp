@@ -20,8 +20,6 @@
 
 namespace {
 
-constexpr int kTimeoutMs = 5000;
-
 std::unique_ptr<ICountly>& session()
 {
     static std::unique_ptr<ICountly> instance;
@@ -77,7 +75,7 @@ QUrl sessionUrl(const char* appKey, const char* version, const char* server, int
 
 } // namespace
 
-Countly::Countly() = default;
+Countly::Countly(int timeoutMs) : m_timeoutMs(timeoutMs) {}
 Countly::~Countly() = default;
 
 void Countly::begin(const char* appKey, const char* version, const char* server, int port)
@@ -90,7 +88,7 @@ void Countly::begin(const char* appKey, const char* version, const char* server,
         return;
     }
     m_network = std::make_unique<QNetworkAccessManager>();
-    m_network->setTransferTimeout(kTimeoutMs);
+    m_network->setTransferTimeout(m_timeoutMs);
     // The network cannot outlive the application object.
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, m_network.get(),
                      [this] { m_network.reset(); });

@@ -15,11 +15,13 @@ class QNetworkAccessManager;
 class Countly final : public ICountly
 {
 public:
-    Countly();
+    /// \param timeoutMs how long a request may stand still before it is given up
+    explicit Countly(int timeoutMs = 5000);
     ~Countly() override;
 
     void begin(const char* appKey, const char* version, const char* server, int port) override;
 
 private:
+    int m_timeoutMs;
     std::unique_ptr<QNetworkAccessManager> m_network; ///< made when there is a server
 };

@@ -6,13 +6,13 @@ class ICountly
 public:
     virtual ~ICountly() = default;
 
-    /// Begins the session: one HTTP request in the background, given up after a few seconds. The
-    /// caller is not held up, and nobody is told when it fails (a line in the log apart).
+    /// Begins the session by one HTTP request and returns at once. The request is given up after a
+    /// few seconds; a failure is only logged.
     virtual void begin(const char* appKey, const char* version, const char* server, int port) = 0;
 };
 
 /// The process's session, made at the first call.
 [[nodiscard]] ICountly* s_get_instance_ICountly();
 
-/// Ends it, with what is under way.
+/// Ends the session and a request that is under way.
 void s_release_instance_ICountly();

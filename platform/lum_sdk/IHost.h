@@ -2,7 +2,7 @@
 
 class IEventManager;
 
-/// What the platform offers to every component, window or not. It outlives them all.
+/// What the platform offers to every component. It outlives all of them.
 class IHost
 {
 public:

@@ -14,7 +14,7 @@ namespace {
 
 QString lockPath(const QString& program)
 {
-    // Not QStandardPaths, which makes and warns about folders of its own where none is set.
+    // QStandardPaths would make a folder of its own, and warn, where XDG_RUNTIME_DIR is not set.
     const QString name = QFileInfo(program).fileName();
     const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (!folder.isEmpty())
@@ -30,7 +30,7 @@ bool instance_is_run(const QString& program, int hold)
     if (held)
         return false;
     auto lock = std::make_unique<QLockFile>(lockPath(program));
-    lock->setStaleLockTime(0); // only a holder that is gone makes a lock stale, never its age
+    lock->setStaleLockTime(0); // a lock is stale when its process is gone, at any age
     if (!lock->tryLock()) {
         if (lock->error() == QLockFile::LockFailedError)
             return true;

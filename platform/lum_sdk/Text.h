@@ -6,7 +6,7 @@
 
 namespace lum {
 
-/// 8-bit text, which is UTF-8, as Qt's.
+/// UTF-8 text as a QString.
 [[nodiscard]] inline QString toQString(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));

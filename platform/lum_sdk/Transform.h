@@ -6,19 +6,19 @@
 
 namespace lum {
 
-/// Whether all four edges are numbers.
+/// Whether all four edges are finite.
 [[nodiscard]] bool isFinite(const QRectF& area);
 
 } // namespace lum
 
 /// Map coordinates (metres, x to the east, y to the north) to screen pixels (y downwards) and back.
 ///
-/// The one place of this arithmetic. A view is a centre, a scale and a size; it is a value, so a
-/// paint that runs elsewhere works on a copy. Scale and centre are always finite.
+/// This arithmetic stands nowhere else. A transform is a value of centre, scale and screen size: a
+/// paint on another thread works on a copy. Centre and scale are always finite.
 class Transform
 {
 public:
-    /// Keeps map units a pixel between these, so that no zoom runs into zero or infinity.
+    /// The limits of the scale, so that no zoom ends at zero or infinity.
     static constexpr double kMinScale = 1e-6;
     static constexpr double kMaxScale = 1e15;
 
@@ -26,8 +26,8 @@ public:
     [[nodiscard]] QPointF SurveyToScreen(double x, double y) const;
     [[nodiscard]] QPointF ScreenToSurvey(const QPointF& screen) const;
 
-    /// Maps the two corners as they are: a rectangle drawn towards the upper left keeps its
-    /// negative size, and because y turns over, so does the height of every other one.
+    /// Maps two opposite corners without normalising: a rectangle drawn towards the left keeps its
+    /// negative width. A height changes its sign, since y points the other way.
     [[nodiscard]] QRectF ScreenToSurvey(const QRectF& screen) const;
 
     /// Map units per screen pixel, > 0.
@@ -39,22 +39,22 @@ public:
     /// The map rectangle that the screen shows, normalised.
     [[nodiscard]] QRectF visibleExtent() const;
 
-    /// Keeps centre and scale.
+    /// Centre and scale stay.
     void setSize(const QSize& size);
 
-    /// What is not finite is ignored; the scale is kept within its limits.
+    /// The scale is kept within its limits. A value that is not finite changes nothing.
     void setView(const QPointF& center, double scale);
 
     /// Moves the picture by so many screen pixels.
     void panBy(const QPointF& pixels);
 
-    /// Zooms by `factor` (above 1 comes nearer); the map point under `screen` stays there. A factor
+    /// Zooms by `factor` (above 1 zooms in); the map point under `screen` stays there. A factor
     /// that is not above 0, or anything not finite, changes nothing.
     void zoomAbout(const QPointF& screen, double factor);
 
     /// Shows all of `extent` (normalised or not) with `margin` of the screen free on each side.
-    /// An extent without width or height is centred at the scale of the other side, or at the
-    /// present scale when it has neither. One that is not finite changes nothing.
+    /// A single point is centred at the present scale. An extent that is not finite changes
+    /// nothing.
     void fit(const QRectF& extent, double margin = 0.05);
 
     friend bool operator==(const Transform& a, const Transform& b)
@@ -62,7 +62,6 @@ public:
         return a.m_center == b.m_center && qFuzzyCompare(a.m_scale, b.m_scale) &&
                a.m_size == b.m_size;
     }
-    friend bool operator!=(const Transform& a, const Transform& b) { return !(a == b); }
 
 private:
     QPointF m_center;

@@ -1,13 +1,13 @@
 #include "basalt_utilities/Files.h"
 
 #include "basalt_utilities/Paths.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -16,58 +16,47 @@ namespace {
 class Files : public testing::Test
 {
 protected:
-    Files()
+    [[nodiscard]] std::string path(const char* name) const
     {
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        m_folder = fs::temp_directory_path() / (std::string("野外 data ") + test->name());
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder);
+        return m_folder.path(name).toStdString();
     }
-    ~Files() override { fs::remove_all(m_folder); }
-
-    [[nodiscard]] std::string path(const char* name) const { return (m_folder / name).string(); }
-
-    static void write(const std::string& path, const std::string& text)
+    [[nodiscard]] QByteArray read(const char* name) const
     {
-        std::ofstream(path) << text;
-    }
-    static std::string read(const std::string& path)
-    {
-        std::stringstream text;
-        text << std::ifstream(path).rdbuf();
-        return text.str();
+        return TestFolder::read(m_folder.path(name));
     }
 
-    fs::path m_folder;
+    TestFolder m_folder;
 };
 
 } // namespace
 
 TEST_F(Files, CopyReplacesWholeFilesAndLeavesNothingAside)
 {
-    write(path("模板.db"), "new content");
-    write(path("target.db"), "old and longer content");
+    m_folder.write("模板.db", "new content");
+    m_folder.write("target.db", "old and longer content");
 
     EXPECT_TRUE(file_system_copy_file(path("模板.db"), path("target.db")));
-    EXPECT_EQ(read(path("target.db")), "new content");
-    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), {}), 2);
+    EXPECT_EQ(read("target.db"), "new content");
+    EXPECT_EQ(std::distance(fs::directory_iterator(path("")), {}), 2);
 }
 
 TEST_F(Files, ACopyOfAReadOnlyFileCanBeWritten)
 {
-    write(path("template.db"), "x");
+    m_folder.write("template.db", "x");
     fs::permissions(path("template.db"), fs::perms::owner_read);
     ASSERT_TRUE(file_system_copy_file(path("template.db"), path("project.db")));
     EXPECT_EQ(fs::status(path("project.db")).permissions(),
               fs::perms::owner_read | fs::perms::owner_write);
 }
 
-TEST_F(Files, AFailedCopyLeavesTheTargetAsItWas)
+TEST_F(Files, AFailedCopyIsLoggedAndLeavesTheTargetAsItWas)
 {
-    write(path("target.db"), "old");
+    const LogCapture log;
+    m_folder.write("target.db", "old");
     EXPECT_FALSE(file_system_copy_file(path("missing.db"), path("target.db")));
-    EXPECT_EQ(read(path("target.db")), "old");
+    EXPECT_EQ(read("target.db"), "old");
     EXPECT_FALSE(file_system_copy_file(path("target.db"), path("no/such/folder/x.db")));
+    EXPECT_TRUE(log.holds("missing.db") && log.holds("no/such/folder/x.db"));
 }
 
 TEST_F(Files, FoldersAreMadeWithThoseAboveAndDeletingTwiceIsFine)
@@ -75,7 +64,7 @@ TEST_F(Files, FoldersAreMadeWithThoseAboveAndDeletingTwiceIsFine)
     EXPECT_TRUE(file_system_create_dir(path("项目/one two/三")));
     EXPECT_TRUE(file_system_create_dir(path("项目/one two/三")));
     EXPECT_TRUE(file_system_check_file(path("项目/one two/三")));
-    write(path("file"), "");
+    m_folder.write("file", "");
     EXPECT_FALSE(file_system_create_dir(path("file/below")));
     EXPECT_TRUE(file_system_delete_file(path("file")));
     EXPECT_TRUE(file_system_delete_file(path("file")));

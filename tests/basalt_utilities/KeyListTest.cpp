@@ -1,7 +1,7 @@
 #include "basalt_utilities/KeyList.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/ILogger.h"
+#include "tests/support/LogCapture.h"
 
 #include <gtest/gtest.h>
 
@@ -19,22 +19,7 @@ struct KeyListCase
     bool wellFormed;
 };
 
-class FaultyKeyList : public testing::Test
-{
-public:
-    FaultyKeyList()
-    {
-        basalt::setLogListener(
-            [](void* lines, ILogger::Level, std::string_view) { ++*static_cast<int*>(lines); },
-            &m_logLines);
-    }
-    ~FaultyKeyList() override { basalt::setLogListener(nullptr, nullptr); }
-
-protected:
-    int m_logLines = 0;
-};
-
-class KeyList : public FaultyKeyList, public testing::WithParamInterface<KeyListCase>
+class KeyList : public testing::TestWithParam<KeyListCase>
 {
 };
 
@@ -53,16 +38,18 @@ std::string entriesOf(const IDictionary& dictionary)
 TEST_P(KeyList, ReadsWhatIsSoundAndReportsTheRest)
 {
     const auto& [name, text, separator, entries, wellFormed] = GetParam();
+    const LogCapture log;
     basalt::Dictionary dictionary;
 
     EXPECT_EQ(csa_to_dictionary(dictionary, text, '=', separator), wellFormed);
 
     EXPECT_EQ(entriesOf(dictionary), entries);
-    EXPECT_EQ(m_logLines == 0, wellFormed);
+    EXPECT_EQ(log.lines().empty(), wellFormed);
 }
 
-TEST_F(FaultyKeyList, IsReportedOnceHoweverLong)
+TEST(KeyListFaults, AreReportedOnceHoweverMany)
 {
+    const LogCapture log;
     std::string text;
     for (int i = 0; i < 1'000'000; ++i)
         text += "x,";
@@ -72,7 +59,7 @@ TEST_F(FaultyKeyList, IsReportedOnceHoweverLong)
     EXPECT_FALSE(csa_to_dictionary(dictionary, text));
 
     EXPECT_EQ(entriesOf(dictionary), "a|1;");
-    EXPECT_EQ(m_logLines, 1);
+    EXPECT_EQ(log.lines().size(), 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -104,11 +91,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(KeyListWriting, WhatIsWrittenReadsBack)
 {
     basalt::Dictionary written;
-    written.set("plain", "Line 12");
-    written.set("comma", "houses, fence");
-    written.set("quote", "\"quoted\"");
-    written.set("both", "a \"b\", c");
-    written.set("empty", "");
+    for (const char* value : {"Line 12", "houses, fence", "\"quoted\"", "a \"b\", c", ""})
+        written.set(std::to_string(written.size()), value);
 
     basalt::Dictionary read;
     EXPECT_TRUE(csa_to_dictionary(read, dictionary_to_csa(written)));

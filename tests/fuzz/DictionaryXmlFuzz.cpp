@@ -31,7 +31,7 @@ void isReadWholeOrNotAtAll(const QByteArray& xml)
 
 } // namespace
 
-/// The bytes as a file to read, and again as key and value to write.
+/// Reads the bytes as a file, then writes them as keys and values.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));

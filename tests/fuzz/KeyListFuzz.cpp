@@ -47,13 +47,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Form& form = kForms[data[0] % std::size(kForms)];
     const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
 
-    // A key that was read is not empty and holds neither mark, separator nor outer blanks, so that
-    // each list that was read can be written.
+    // A key from a list is not empty and has no mark, separator or outer blanks, so it can be
+    // written.
     basalt::Dictionary read;
     csa_to_dictionary(read, text, form.mark, form.separator, form.quote);
     comesBack(read, form);
 
-    basalt::Dictionary anyValue; // in the middle and at the end
+    basalt::Dictionary anyValue; // once in the middle, once at the end
     anyValue.set("first", text);
     anyValue.set("last", text);
     comesBack(anyValue, form);

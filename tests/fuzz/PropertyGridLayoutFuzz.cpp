@@ -27,7 +27,7 @@ void isWhole(const PropertyGridRow& row)
     hold(decimals >= 0 && decimals <= 30, "decimals can be typed");
 }
 
-/// What the grid does with a row's own default: shows it, judges it, stores it.
+/// Does with the default of a row what the grid does: shows it, checks it, stores it.
 void takesItsDefault(const PropertyGridRow& row)
 {
     (void)shownPropertyGridValue(row, row.fallback);
@@ -41,7 +41,7 @@ void takesItsDefault(const PropertyGridRow& row)
 
 } // namespace
 
-/// With the decimal comma of a German desktop there is more to misread.
+/// A German desktop, whose decimal comma is easily misread.
 extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 {
     QLocale::setDefault(QLocale(QLocale::German));

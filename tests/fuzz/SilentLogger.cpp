@@ -1,7 +1,7 @@
 #include "basalt_utilities/ILogger.h"
 
-// Takes the place of the program's logger, whose object the linker then leaves in its library:
-// a faulty input a microsecond would drown in its own log.
+// Replaces the program's logger, which would spend most of the run on writing about faulty inputs.
+// The linker takes these functions and leaves those of the library out.
 
 namespace {
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Holds for one field, by its type.
+/// Checks one field, by its type.
 struct IsWhole
 {
     const SurveyPoint& point;
@@ -31,12 +31,12 @@ struct IsWhole
     void operator()(std::int64_t SurveyPoint::* /*field*/) const {}
 };
 
-/// A point that was read once stays what it is.
+/// A point that was read is written and read again without a change.
 void comesBack(const SurveyPoint& point)
 {
     const std::string_view number = writtenPointNumber(point.pointNumber);
     if (basalt::trimmed(number) != number || basalt::trimmed(point.lineNumber) != point.lineNumber)
-        return; // cut out of a check point's number beside a blank, which reading drops
+        return; // a check point's number that begins or ends with a blank, which reading drops
     static SurveyRowWriter writer(surveyCaptions(), 0);
     static SurveyRowReader reader = [] {
         SurveyRowReader made;

@@ -1,7 +1,10 @@
 #include "lum_sdk/ComponentFactory.h"
 
+#include "tests/support/LogCapture.h"
+
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 
 namespace {
@@ -37,18 +40,8 @@ void destroy(Tool* tool)
 class Factory : public testing::Test
 {
 protected:
-    Factory()
-    {
-        basalt::setLogListener(
-            [](void* log, ILogger::Level, std::string_view line) {
-                static_cast<std::string*>(log)->append(line);
-            },
-            &m_log);
-    }
-    ~Factory() override { basalt::setLogListener(nullptr, nullptr); }
-
     ComponentFactory<Tool, const char*> m_factory{"ITool"};
-    std::string m_log;
+    LogCapture m_log;
 };
 
 } // namespace
@@ -59,7 +52,7 @@ TEST_F(Factory, TheFirstClassKeepsATakenName)
     EXPECT_FALSE(m_factory.add("Pan", "other", create<2>, destroy));
 
     EXPECT_EQ(m_factory.make("Pan", "n")->config, "n1");
-    EXPECT_NE(m_log.find("\"Pan\""), std::string::npos);
+    EXPECT_TRUE(m_log.holds("\"Pan\""));
     EXPECT_EQ(m_factory.captions(),
               (std::vector<std::pair<std::string, std::string>>{{"Pan", "平移"}}));
 }
@@ -67,7 +60,15 @@ TEST_F(Factory, TheFirstClassKeepsATakenName)
 TEST_F(Factory, AnUnknownNameIsNullAndLoggedWithTheName)
 {
     EXPECT_EQ(m_factory.make("pan", ""), nullptr);
-    EXPECT_NE(m_log.find("No ITool is registered as \"pan\""), std::string::npos);
+    EXPECT_TRUE(m_log.holds("No ITool is registered as \"pan\""));
+}
+
+TEST_F(Factory, AClassThatCannotBeMadeIsNullAndLogged)
+{
+    m_factory.add(
+        "Pan", "", [](const char*) -> Tool* { throw std::runtime_error("no memory"); }, destroy);
+    EXPECT_EQ(m_factory.make("Pan", ""), nullptr);
+    EXPECT_TRUE(m_log.holds("\"Pan\" cannot be made: no memory"));
 }
 
 TEST_F(Factory, WhatIsLentIsEndedOnceByItsOwnClass)

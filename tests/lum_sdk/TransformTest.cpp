@@ -25,18 +25,13 @@ void expectNear(const QPointF& actual, const QPointF& expected, double tolerance
     EXPECT_NEAR(actual.y(), expected.y(), tolerance);
 }
 
-TEST(Transform, NorthIsUpAndThePictureIsCentred)
+TEST(Transform, NorthIsUpAboutTheCentreThereAndBack)
 {
     const Transform view = sampleView();
     expectNear(view.SurveyToScreen(500000, 4400000), {400, 300}, 1e-9);
     expectNear(view.SurveyToScreen({500100, 4400100}), {450, 250}, 1e-9);
     expectNear(view.ScreenToSurvey(QPointF(0, 0)), {499200, 4400600}, 1e-9);
     EXPECT_EQ(view.visibleExtent(), QRectF(499200, 4399400, 1600, 1200));
-}
-
-TEST(Transform, GoesThereAndBack)
-{
-    const Transform view = sampleView();
     for (const QPointF& screen : {QPointF(0, 0), QPointF(799.5, 0.25), QPointF(-3000, 12345)})
         expectNear(view.SurveyToScreen(view.ScreenToSurvey(screen)), screen, 1e-6);
 }
@@ -44,10 +39,8 @@ TEST(Transform, GoesThereAndBack)
 TEST(Transform, RectanglesKeepTheDirectionTheyWereDrawnIn)
 {
     const Transform view = sampleView();
-    const QRectF toLowerRight = view.ScreenToSurvey(QRectF(400, 300, 50, 25));
-    EXPECT_EQ(toLowerRight, QRectF(500000, 4400000, 100, -50));
-    const QRectF toUpperLeft = view.ScreenToSurvey(QRectF(400, 300, -50, -25));
-    EXPECT_EQ(toUpperLeft, QRectF(500000, 4400000, -100, 50));
+    EXPECT_EQ(view.ScreenToSurvey(QRectF(400, 300, 50, 25)), QRectF(500000, 4400000, 100, -50));
+    EXPECT_EQ(view.ScreenToSurvey(QRectF(400, 300, -50, -25)), QRectF(500000, 4400000, -100, 50));
 }
 
 TEST(Transform, PansByPixelsAndResizesAboutTheCentre)
@@ -75,7 +68,7 @@ TEST(Transform, ZoomKeepsThePointUnderTheCursorUpToTheLimits)
     }
 }
 
-TEST(Transform, FitsTheTighterSideWithItsMargin)
+TEST(Transform, FitsTheTighterSideOfAnyExtentWithItsMargin)
 {
     Transform view = sampleView();
     view.fit(QRectF(100, 200, 720, 54), 0.05);
@@ -84,11 +77,7 @@ TEST(Transform, FitsTheTighterSideWithItsMargin)
     view.fit(QRectF(820, 740, -720, -540), 0); // not normalised
     EXPECT_DOUBLE_EQ(view.GetScale(), 0.9);
     expectNear(view.center(), {460, 470}, 1e-9);
-}
-
-TEST(Transform, FitsLinesAndPoints)
-{
-    Transform view = sampleView();
+    // lines and points
     view.fit(QRectF(0, 0, 0, 1200), 0);
     EXPECT_DOUBLE_EQ(view.GetScale(), 2);
     view.fit(QRectF(0, 0, 8000, 0), 0);

@@ -18,7 +18,8 @@ struct Sexagesimal
     double seconds; ///< below `60 - halfUnit`
 };
 
-/// Parts of a positive angle; whatever rounds up to 60 seconds within `halfUnit` is carried.
+/// Splits a positive angle. Seconds that would be printed as 60, those within `halfUnit` of it, are
+/// carried into the minutes.
 Sexagesimal split(double degrees, double halfUnit)
 {
     Sexagesimal parts{std::floor(degrees), 0, 0};
@@ -55,7 +56,7 @@ double covertToAngle(double degrees)
 
 double convetFromAngle(double dms)
 {
-    // 12.34 has no exact double and may lie below 34 minutes: a nudge of 1e-7 seconds.
+    // 12.34 has no exact double and may lie just below 34 minutes: add up to 1e-7 seconds first.
     const double angle = std::abs(dms);
     const double degrees = std::floor(angle + 1e-11);
     const double rest = (angle - degrees) * 100;

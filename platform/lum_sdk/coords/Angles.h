@@ -33,8 +33,8 @@ enum class AngleFormat : std::int32_t
 [[nodiscard]] double toRadians(double angle, AngleFormat format);
 [[nodiscard]] double fromRadians(double radians, AngleFormat format);
 
-/// An angle as dd.mmss text with `decimals` digits, at least 4; rounding carries at whatever number
-/// of digits, and a negative angle that rounds to 0 has no sign.
+/// An angle as dd.mmss text with `decimals` digits, at least 4. Seconds that round to 60 are
+/// carried for any number of digits, and a negative angle that rounds to 0 has no sign.
 [[nodiscard]] std::string angleText(double degrees, int decimals);
 
 } // namespace lum

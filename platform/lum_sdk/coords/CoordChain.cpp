@@ -16,7 +16,7 @@ bool isFinite(const PJ_COORD& point)
     return std::isfinite(point.xyz.x) && std::isfinite(point.xyz.y) && std::isfinite(point.xyz.z);
 }
 
-/// Runs `object` over the points without a fault, and gives those that fail `code`.
+/// Transforms the points whose code is 0 by `object`; those that fail get `code`.
 void runAll(PJ* object, PJ_DIRECTION direction, CoordResult code, std::span<PJ_COORD> points,
             std::span<std::int32_t> codes)
 {
@@ -79,8 +79,8 @@ void CoordChain::makeGeoid(const IDictionary& parameters)
         m_fault = {CoordResult::NoGeoidFile, {}};
         return;
     }
-    // A bare name is one of PROJ's own grids; "@" would make a missing file pass unseen, and a
-    // comma would split the name in two.
+    // A name without a folder is one of PROJ's own grids. PROJ ignores a missing file after "@",
+    // and a comma begins the name of a second file.
     if (file.front() == '@' || file.find(',') != std::string::npos) {
         m_fault = {CoordResult::GeoidFile, file};
         return;
@@ -135,8 +135,9 @@ CoordResult CoordChain::undoProjection(PJ_COORD& point) const
 
 CoordResult CoordChain::undoWithGeoid(PJ_COORD& point) const
 {
-    // The height above the local ellipsoid, which the datum shift needs, is the one that leads to
-    // the WGS 84 height; the position moves by some 1e-5 of an error in it.
+    // The datum shift needs the height above the local ellipsoid, which is not known. It is found
+    // in steps: the one that leads to the WGS 84 height which the geoid gives for the position. An
+    // error in this height moves the position by only 1e-5 of it.
     const PJ_COORD grid = point;
     double localHeight = grid.xyz.z;
     for (int round = 0; round < 10; ++round) {

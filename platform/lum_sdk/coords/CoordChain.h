@@ -17,14 +17,14 @@ namespace lum {
 /// Datum shift, map projection and `CoordCorrections`. With a geoid the height starts from the
 /// WGS 84 height less the undulation at the WGS 84 position; without one it is the height above the
 /// local ellipsoid. Positions are changed in place: geodetic as (longitude, latitude) in radians
-/// and height, grid as (east, north, height). A position whose code is not 0 is left out, and one
+/// and height, grid as (east, north, height). A position whose code is not 0 is skipped, and one
 /// that fails gets its code.
 class CoordChain
 {
 public:
     explicit CoordChain(const IDictionary& parameters);
 
-    /// What is wrong with the parameters; nothing may be transformed then.
+    /// What is wrong with the parameters. With a fault, nothing may be transformed.
     [[nodiscard]] const CoordFault& fault() const { return m_fault; }
 
     void geodeticToGrid(std::span<PJ_COORD> points, std::span<std::int32_t> codes) const;

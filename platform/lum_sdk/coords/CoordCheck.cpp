@@ -21,7 +21,7 @@ constexpr const char* kDecimals =
 constexpr const char* kWholeNumbers =
     "project_type,_7type,geoid_valid,_4valid,correct_valid,fit_valid,ver_valid";
 
-/// The first of these keys whose value is no number; empty values count as missing ones.
+/// The fault of the first of these keys whose value is not a number. An empty value is none.
 CoordParameterFault numberFault(const IDictionary& parameters, std::string_view keys, bool isWhole)
 {
     while (!keys.empty()) {
@@ -42,7 +42,7 @@ CoordParameterFault numberFault(const IDictionary& parameters, std::string_view 
     return {};
 }
 
-/// The parameter that a user would look at first.
+/// The parameter to show to the user as the one at fault.
 std::string keyAtFault(const CoordFault& fault)
 {
     switch (fault.code) {

@@ -15,8 +15,8 @@ struct CoordParameterFault
     explicit operator bool() const { return !message.empty(); }
 };
 
-/// Looks whether every number is one from its first to its last character, then sets the whole
-/// system up as the coordinate service would, geoid file included; tells the first fault.
+/// Checks that every number is one from its first to its last character, then sets up the whole
+/// system as the coordinate service would, geoid file included. Returns the first fault.
 [[nodiscard]] CoordParameterFault checkCoordParameters(const IDictionary& parameters);
 
 } // namespace lum

@@ -18,8 +18,8 @@ struct GridPosition
     double height = 0;
 };
 
-/// What follows the map projection: factor and false origin; the four-parameter plane shift; the
-/// constant correction; and on the height a polynomial, an inclined plane and a constant.
+/// The steps after the map projection: factor and false origin; the four-parameter plane shift; the
+/// constant correction; and for the height a polynomial, an inclined plane and a constant.
 ///
 /// Plane shift: P' = P0 + T + s R (P - P0) with P0 (_4x0, _4y0), T (_4dx, _4dy), s "_4s" (0 counts
 /// as 1), and R turning azimuths clockwise by "_4r" degrees. In all keys x is north and y is east.

@@ -30,7 +30,7 @@ enum Code
     SwissOblique,
 };
 
-// One line here is one choice of the dialog.
+// Each entry is one choice of the dialog.
 constexpr std::array kProjections = {
     ProjectionKind{TransverseMercator, QT_TRANSLATE_NOOP("CoordProjections", "Transverse Mercator"),
                    "org_lon,org_lat,factor,false_east,false_north"},
@@ -83,13 +83,6 @@ constexpr std::array kEllipsoids = {
     KnownEllipsoid{"Indonesian National Spheroid", 6378160, 298.247},
     KnownEllipsoid{"WGS 72", 6378135, 298.26},
     KnownEllipsoid{"PZ-90", 6378136, 298.257839303},
-};
-
-constexpr std::array kDatumShifts = {
-    DatumShiftName{0, QT_TRANSLATE_NOOP("CoordProjections", "None")},
-    DatumShiftName{1, QT_TRANSLATE_NOOP("CoordProjections", "Position vector (Bursa-Wolf)")},
-    DatumShiftName{2, QT_TRANSLATE_NOOP("CoordProjections", "Coordinate frame rotation")},
-    DatumShiftName{3, QT_TRANSLATE_NOOP("CoordProjections", "Molodensky-Badekas")},
 };
 
 constexpr double kDegree = std::numbers::pi / 180;
@@ -203,7 +196,7 @@ std::string polarStereographic(Reader& reader)
            Reader::item("lat_ts", parallel == 0 ? pole : parallel);
 }
 
-/// Projections that take an origin and nothing else.
+/// For projections that need only an origin.
 std::string centred(const char* name, Reader& reader)
 {
     return std::string("+proj=") + name +
@@ -289,11 +282,6 @@ std::span<const KnownEllipsoid> knownEllipsoids()
     return kEllipsoids;
 }
 
-std::span<const DatumShiftName> datumShiftNames()
-{
-    return kDatumShifts;
-}
-
 ProjectionText projectionText(const IDictionary& parameters, CoordFault& fault)
 {
     Reader reader(parameters, fault);
@@ -308,7 +296,7 @@ ProjectionText projectionText(const IDictionary& parameters, CoordFault& fault)
     ProjectionText text;
     text.ellipsoid = ellipsoidText(axis, flattening);
     text.projection = specificText(code, reader) + " +k_0=1" + text.ellipsoid;
-    // PROJ computes Krovak on this ellipsoid, whatever it is told.
+    // PROJ computes Krovak on this ellipsoid only, and ignores any other.
     reader.check(code != Krovak || (std::abs(axis - 6377397.155) < 0.01 &&
                                     std::abs(flattening - 299.1528128) < 1e-6),
                  CoordResult::KrovakEllipsoid);

@@ -9,11 +9,11 @@ class IDictionary;
 
 /// The map projections a parameter dictionary can name, and what else its dialog offers.
 ///
-/// Every projection uses "ellipsoid_a", "ellipsoid_f", "project_height" and, but for UTM,
+/// Every projection uses "ellipsoid_a", "ellipsoid_f", "project_height" and, except for UTM,
 /// "org_lon", "false_east", "false_north" and "factor". Besides these:
 ///
 // clang-format off
-/// | project_type            | keys besides                                                     |
+/// | project_type            | further keys                                                     |
 /// |-------------------------|------------------------------------------------------------------|
 /// | 1 transverse Mercator   | org_lat                                                          |
 /// | 2 UTM                   | only org_lon (anywhere in the zone) and false_north; factor      |
@@ -57,17 +57,10 @@ struct KnownEllipsoid
     double inverseFlattening; ///< 0 for a sphere
 };
 
-struct DatumShiftName
-{
-    int code; ///< of "_7type"
-    const char* name;
-};
-
 [[nodiscard]] std::span<const ProjectionKind> projectionKinds();
 /// The one that "project_type" names; null when there is none.
 [[nodiscard]] const ProjectionKind* projectionKind(const IDictionary& parameters);
 [[nodiscard]] std::span<const KnownEllipsoid> knownEllipsoids();
-[[nodiscard]] std::span<const DatumShiftName> datumShiftNames();
 
 inline constexpr int kUtmCode = 2; ///< of "project_type"
 inline constexpr double kUtmFactor = 0.9996;

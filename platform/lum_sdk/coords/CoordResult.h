@@ -5,8 +5,9 @@
 
 namespace lum {
 
-/// Result codes of the coordinate service: a call that cannot be, a point that cannot be
-/// transformed (from 11), a parameter dictionary that describes no coordinate system (from 101).
+/// Result codes of the coordinate service: for a call that is not possible (from 1), for a point
+/// that cannot be transformed (from 11), and for a parameter dictionary that describes no
+/// coordinate system (from 101).
 enum class CoordResult : std::int32_t
 {
     Success = 0,

@@ -39,7 +39,7 @@ bool isUsed(std::string_view key, const ProjectionKind& kind)
     return false;
 }
 
-/// What a key that is not given counts as.
+/// The value that a missing key has.
 double ownValue(const ProjectionKind& kind, std::string_view key)
 {
     const bool isUtm = kind.code == kUtmCode;

@@ -127,7 +127,7 @@ std::vector<const CoordSystemEntry*> CoordSystemCatalog::search(std::string_view
     struct Found
     {
         Rank rank;
-        bool isOther; ///< than what GNSS receivers give by themselves
+        bool isOtherDatum; ///< other than WGS 84, the datum of GNSS receivers
         std::size_t length;
         const CoordSystemEntry* entry;
     };
@@ -139,7 +139,8 @@ std::vector<const CoordSystemEntry*> CoordSystemCatalog::search(std::string_view
                 {rank, !m_names[i].starts_with("wgs 84 /"), m_names[i].size(), &m_entries[i]});
     }
     std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
-        return std::tie(a.rank, a.isOther, a.length) < std::tie(b.rank, b.isOther, b.length);
+        return std::tie(a.rank, a.isOtherDatum, a.length) <
+               std::tie(b.rank, b.isOtherDatum, b.length);
     });
     std::vector<const CoordSystemEntry*> entries;
     for (std::size_t i = 0; i < std::min(limit, found.size()); ++i)

@@ -18,11 +18,11 @@ struct CoordSystemEntry
 };
 
 /// The projected systems of PROJ's EPSG database that `fillFromEpsg` (EpsgSystem.h) can describe,
-/// deprecated ones left out; read once, then searched in memory.
+/// without deprecated ones; read once, then searched in memory.
 class CoordSystemCatalog
 {
 public:
-    /// Reads the database, some 0.1 s.
+    /// Reads the database, which takes some 0.1 s.
     CoordSystemCatalog();
 
     /// Systems found by the beginning of a code ("EPSG:" may stand before it), or by words that all
@@ -36,6 +36,6 @@ public:
 
 private:
     std::vector<CoordSystemEntry> m_entries;
-    std::vector<std::string> m_names; ///< folded for the search, one an entry
+    std::vector<std::string> m_names; ///< of the entries, in small letters, for the search
     std::vector<std::string> m_areas;
 };

@@ -36,7 +36,7 @@ bool isGood(const PJ_COORD& point, CoordKind kind)
 void readIn(std::span<const CoordTriple> in, CoordKind kind, AngleFormat format, const Block& to)
 {
     const bool isPacked = format == AngleFormat::DegreesMinutesSeconds;
-    const double unit = lum::toRadians(1, format); // all other formats are proportional
+    const double unit = lum::toRadians(1, format); // the other formats need only a factor
     const auto radians = [=](double angle) {
         return isPacked ? lum::toRadians(angle, format) : angle * unit;
     };

@@ -36,7 +36,7 @@ public:
 
 private:
     [[nodiscard]] const lum::CoordChain* chain(std::int32_t direction) const;
-    /// What stands against the whole call.
+    /// The fault of the call as a whole: an unknown code, or a system that cannot be used.
     [[nodiscard]] lum::CoordResult judgeCall(std::int32_t direction, std::int32_t inputKind,
                                              std::int32_t outputKind,
                                              std::int32_t angleFormat) const;

@@ -46,7 +46,7 @@ DatumShift::DatumShift(DatumShiftKind kind, const Triple& translationM, const Tr
         for (double& angle : m_rotationSec)
             angle = -angle;
     }
-    // T + P + (1 + s) R (X - P), sorted by X
+    // X' = T + P + (1 + s) R (X - P): what does not depend on X is the translation
     const Triple pivot = turned(pivotM);
     for (std::size_t i = 0; i < 3; ++i)
         m_translationM[i] += pivotM[i] - (1 + m_scalePpm * 1e-6) * pivot[i];

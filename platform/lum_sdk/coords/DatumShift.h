@@ -19,7 +19,7 @@ enum class DatumShiftKind
 };
 
 /// A datum shift as rotation of the coordinate frame, from geocentric WGS 84 to the local datum:
-/// X' = T + (1 + s) R X with R linear in the angles. Every kind comes down to this one.
+/// X' = T + (1 + s) R X with R linear in the angles. The other kinds are converted to this one.
 class DatumShift
 {
 public:
@@ -30,21 +30,21 @@ public:
                const std::array<double, 3>& rotationsSec, double scalePpm,
                const std::array<double, 3>& pivotM = {});
 
-    /// From the "_7..." keys; an enabled shift whose parameters are all 0 is none.
+    /// From the "_7..." keys; a shift whose parameters are all 0 is none.
     static DatumShift fromDictionary(const IDictionary& parameters, CoordFault& fault);
 
     [[nodiscard]] bool isNone() const;
     [[nodiscard]] bool operator==(const DatumShift& other) const = default;
 
-    /// The shift back as its makers compute it, with R transposed: exact but for the squares of the
-    /// angles, a millimetre at 2 seconds.
+    /// The shift back, as those who publish the parameters compute it: with R transposed. It is
+    /// exact except for the squares of the angles, a millimetre at 2 seconds.
     [[nodiscard]] DatumShift inverse() const;
 
     /// Writes the "_7..." keys, kind 2 or 0.
     void toDictionary(IDictionary& parameters) const;
 
-    /// PROJ's step on geocentric coordinates: a matrix, whose inverse is exact, where PROJ's own
-    /// Helmert step comes back with R transposed.
+    /// The step of a PROJ pipeline for geocentric coordinates: a matrix, whose inverse is exact.
+    /// PROJ's own Helmert step would go back with R transposed.
     [[nodiscard]] std::string projStep() const;
 
 private:

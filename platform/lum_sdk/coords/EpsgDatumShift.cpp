@@ -18,8 +18,8 @@ namespace lum {
 namespace {
 
 // Parameters of the register, by their codes.
-constexpr int kTranslation = 8605; // and the next two
-constexpr int kRotation = 8608;    // and the next two
+constexpr int kTranslation = 8605; // of x; y and z have the next two codes
+constexpr int kRotation = 8608;    // likewise
 constexpr int kScale = 8611;
 constexpr int kPivotX = 8617;
 constexpr int kPivotY = 8618;
@@ -44,11 +44,11 @@ Values valuesOf(PJ_CONTEXT* context, const PJ* operation)
     return values;
 }
 
-/// The kind of a transformation method of the register; nothing when it is no datum shift of ours.
+/// The kind of a transformation method of the register; nothing when we have no such kind.
 std::optional<DatumShiftKind> kindOfMethod(int code)
 {
     switch (code) {
-    case 9603: // geocentric translations, in the domains of the three kinds of systems
+    case 9603: // geocentric translations, for geographic 2D, geocentric and geographic 3D systems
     case 1031:
     case 1035:
     case 9607: // coordinate frame
@@ -70,9 +70,9 @@ std::optional<DatumShiftKind> kindOfMethod(int code)
     }
 }
 
-constexpr int kLongitudeRotation = 9601; // part of the prime meridian, not of the datum
+constexpr int kLongitudeRotation = 9601; // turns the prime meridian, does not shift the datum
 
-/// One step towards WGS 84; nothing when it is of another kind.
+/// The datum shift of one step towards WGS 84; nothing when the step is something else.
 std::optional<DatumShift> shiftOfStep(PJ_CONTEXT* context, const PJ* step)
 {
     const char* name = nullptr;
@@ -95,7 +95,7 @@ std::optional<DatumShift> shiftOfStep(PJ_CONTEXT* context, const PJ* step)
     return std::string_view(name).starts_with("Inverse of") ? shift.inverse() : shift;
 }
 
-/// The shift of a whole operation; nothing when it takes a grid or more than one shift.
+/// The datum shift of a whole operation; nothing when it needs a grid or has several shifts.
 std::optional<DatumShift> shiftOfOperation(PJ_CONTEXT* context, const PJ* operation)
 {
     if (proj_coordoperation_has_ballpark_transformation(context, operation) != 0 ||
@@ -120,7 +120,7 @@ struct Bounds
 {
     double westDeg;
     double southDeg;
-    double eastDeg; ///< not less than west, beyond 180 behind the date line
+    double eastDeg; ///< at least west; above 180 when the area crosses the date line
     double northDeg;
 };
 
@@ -142,7 +142,7 @@ std::optional<Bounds> boundsOf(PJ_CONTEXT* context, const PJ* object, std::strin
     return bounds;
 }
 
-/// The surface between two parallels, a degree of longitude wide.
+/// The surface between two parallels, for equal widths in longitude.
 double bandSize(double southDeg, double northDeg)
 {
     constexpr double kDegree = std::numbers::pi / 180;
@@ -172,7 +172,7 @@ ProjOwner<PJ_OBJ_LIST> operationsTo(PJ_CONTEXT* context, const PJ* from, const P
     return ProjOwner<PJ_OBJ_LIST>(proj_create_operations(context, from, to, wanted.get()));
 }
 
-/// Containment counts 10, next to nothing 0.
+/// 10 when everything is covered, 0 for less than a tenth.
 int tenths(double coverage)
 {
     return static_cast<int>(std::floor(coverage * 10 + 1e-6));
@@ -187,7 +187,7 @@ bool isBetter(const EpsgDatumShift& a, const EpsgDatumShift& b)
                            : a.accuracyM.value_or(kUnknown) < b.accuracyM.value_or(kUnknown);
 }
 
-/// Whole words that fit on a line; some areas name every state of a country.
+/// Cut behind a word when it is too long for a line: some areas name every state of a country.
 std::string shortened(std::string text)
 {
     constexpr std::size_t kMost = 50;

@@ -13,19 +13,18 @@ namespace lum {
 struct EpsgDatumShift
 {
     DatumShift shift; ///< from WGS 84
-    std::string name; ///< "Beijing 1954 to WGS 84 (1)": the register has it the other way round
+    std::string name; ///< "Beijing 1954 to WGS 84 (1)", which is the opposite direction
     std::string area; ///< where it is meant for, in words
     std::optional<double> accuracyM;
-    double coverage = 0; ///< its part of the system's area, by the bounds of both: 0 to 1
+    double coverage = 0; ///< the part of the system's area that it covers, by their bounds: 0 to 1
 };
 
 /// The datum shifts between WGS 84 and the datum of a system.
 struct EpsgDatumShifts
 {
-    bool isNeeded = false; ///< not for a system on WGS 84 itself, nor for an unknown one
+    bool isNeeded = false; ///< false for a system on WGS 84 itself, and for an unknown one
 
-    /// Those that contain the system's area, then by the part of it that they cover, in tenths;
-    /// those equal in that by their accuracy.
+    /// Largest coverage first, compared in tenths; of equal coverage the most accurate first.
     std::vector<EpsgDatumShift> known;
 
     /// The first one when it covers most of the system's area, otherwise null.
@@ -36,7 +35,7 @@ struct EpsgDatumShifts
 /// of this code; nothing for an unknown code. Takes up to some 40 ms.
 [[nodiscard]] EpsgDatumShifts epsgDatumShifts(std::string_view code);
 
-/// Name, accuracy and area, the latter shortened, in the user's language, UTF-8: "Beijing 1954 to
+/// Name, accuracy and shortened area, in the user's language, UTF-8: "Beijing 1954 to
 /// WGS 84 (1), 1 m, China - Ordos basin".
 [[nodiscard]] std::string describe(const EpsgDatumShift& shift);
 

@@ -26,7 +26,7 @@ struct Conversion
     QString methodName;
     std::map<int, double> values;
 
-    /// The first of the parameters that the method has.
+    /// The value of the first of these parameters that the method has.
     [[nodiscard]] double value(std::initializer_list<int> codes, double fallback = 0) const
     {
         for (const int code : codes) {
@@ -65,7 +65,7 @@ Conversion conversionOf(PJ_CONTEXT* context, const PJ* crs)
     return result;
 }
 
-/// Metres in the unit of the plane axes; 0 when they do not point north and east.
+/// The unit of the plane axes in metres; 0 when they do not point north and east.
 double planeUnitM(PJ_CONTEXT* context, const PJ* crs, bool isPolar)
 {
     const ProjObject system(proj_crs_get_coordinate_system(context, crs));
@@ -212,7 +212,7 @@ void fillProjection(PJ_CONTEXT* context, const PJ* crs, const Conversion& from, 
         set(key, 0);
 }
 
-/// Universal transverse Mercator by its own code, when the system is one.
+/// Gives a UTM system its own code of "project_type".
 void nameUtm(const char* name, IDictionary& to)
 {
     const double zone = (to.number("org_lon") + 183) / 6;

@@ -8,10 +8,11 @@ class IDictionary;
 /// Fills a coordinate-parameter dictionary with a projected system of the EPSG register.
 ///
 /// Ellipsoid, projection and datum shift are replaced, other corrections are switched off; other
-/// keys stay. The datum shift is the best of `epsgDatumShifts`; PROJ itself may take another one at
-/// a place, a grid or that of a smaller region. Without any, _7type is 0. A system in feet gives
-/// coordinates in feet: the unit is in factor and false origin; heights stay metres. A central line
-/// whose false origin is not at its centre is written with one that is.
+/// keys stay. The datum shift is the best of `epsgDatumShifts`, and _7type is 0 when there is none;
+/// PROJ itself may choose another one for a place, a grid or the shift of a smaller region. A
+/// system in feet gives coordinates in feet, by its factor and false origin; heights stay metres.
+/// For an oblique Mercator projection the false origin is always written for the centre.
+///
 /// \returns empty, or why the system cannot be described, in the user's language, UTF-8; then
 ///          `parameters` is as it was
 [[nodiscard]] std::string fillFromEpsg(std::string_view code, IDictionary& parameters);

@@ -8,7 +8,7 @@
 
 class IDictionary;
 
-/// What goes into a transformation and what comes out of it.
+/// The kinds of coordinates that a transformation takes and gives.
 enum class CoordKind : std::int32_t
 {
     Geodetic = 1,   ///< WGS 84 latitude, longitude, ellipsoidal height in metres
@@ -62,7 +62,7 @@ public:
     /// the next call of this operation.
     [[nodiscard]] virtual const char* message(std::int32_t code) const = 0;
 
-    /// Transforms many points, much quicker than one by one; `in` and `out` may be the same.
+    /// Transforms many points, much faster than one by one; `in` and `out` may be the same.
     /// \param codes  one result code a point; as long as `in`, as `out` is
     /// \returns the number of points that failed; their outputs are left alone
     virtual std::size_t transformMany(std::int32_t direction, std::int32_t inputKind,

@@ -7,7 +7,7 @@
 
 /// The rows of a query, in order.
 ///
-/// All rows share one column list and one run of text; a row is a light view of them. A column
+/// All rows share one column list and one long text; a row is a light view of them. A column
 /// without a value (NULL) is missing from its row's look-ups, and empty text by index.
 class RecordSet
 {
@@ -38,7 +38,7 @@ public:
     [[nodiscard]] Row operator[](std::size_t index) const { return {*this, index}; }
     [[nodiscard]] const std::vector<std::string>& columns() const { return m_columns; }
 
-    /// Drops all rows and takes new columns; the memory is kept for the next rows.
+    /// Removes all rows and sets the columns; the memory is kept for the next rows.
     void reset(std::vector<std::string> columns);
     /// The cells of a row are added one after the other, one for each column.
     void add(std::string_view text);

@@ -115,12 +115,7 @@ private:
 
 } // namespace
 
-SqliteAdapter::SqliteAdapter()
-{
-    // Counting its memory makes all connections share a lock; refused when SQLite is in use.
-    sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
-}
-
+SqliteAdapter::SqliteAdapter() = default;
 SqliteAdapter::~SqliteAdapter() = default;
 
 void SqliteAdapter::Closer::operator()(sqlite3* database) const
@@ -155,14 +150,15 @@ bool SqliteAdapter::openFile(const std::string& path, const IDictionary& options
         return fail(database == nullptr ? sqlite3_errstr(result) : sqlite3_errmsg(database));
     sqlite3_extended_result_codes(database, 1);
     sqlite3_busy_timeout(database, options.integer("busyTimeout", kBusyTimeoutMs));
-    // Opening alone reads nothing: any file would do. Some distributions overwrite deleted rows.
+    // Opening reads nothing, so the query tells whether the file is a database. In some
+    // distributions secure_delete is on, and deleting would overwrite every row.
     if (!execute("select count(*) from sqlite_master;"
                  "pragma cache_size=-32768; pragma secure_delete=off",
                  0))
         return false;
     if (options.integer("exclusive") == 0)
         return true;
-    // From the first transaction on, the lock stays.
+    // The lock of this transaction is kept until the connection is closed.
     return execute("pragma locking_mode=exclusive; begin exclusive; commit", 0);
 }
 

@@ -15,8 +15,8 @@ namespace lum {
 namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{1} << 20;
-constexpr int kFormatAt = 18; // of the file's head; 2 where a log stands beside the file
-constexpr char kLogFormat = 2;
+constexpr int kFormatAt = 18;  // the place of the format in the header of the file
+constexpr char kLogFormat = 2; // the newest changes may stand in a log beside the file
 
 struct CloseFile
 {
@@ -32,8 +32,8 @@ std::string systemReason()
     return std::strerror(errno);
 }
 
-/// SQLite's own hold of the file. Opening and closing the file beside it would end the locks that
-/// this process has on it.
+/// The file as SQLite has opened it. If we opened the file ourselves, closing it would end all
+/// locks of this process on it, SQLite's too.
 sqlite3_file* fileOf(sqlite3* database)
 {
     sqlite3_file* file = nullptr;
@@ -42,7 +42,7 @@ sqlite3_file* fileOf(sqlite3* database)
     return result == SQLITE_OK && file != nullptr && file->pMethods != nullptr ? file : nullptr;
 }
 
-/// Whether the file alone is the database, and no log beside it holds a part.
+/// Whether the file holds the whole database, without a log beside it.
 bool isAllInTheFile(sqlite3_file* file)
 {
     std::array<char, 1> format{};
@@ -71,7 +71,7 @@ std::string copyBytes(sqlite3_file* file, const std::string& to)
     return result == SQLITE_OK ? std::string() : sqlite3_errstr(result);
 }
 
-/// SQLite's own way, four times slower: it finds what is not yet in the file.
+/// SQLite's own copying, four times slower. It also copies what is not in the file yet.
 std::string copyPages(sqlite3* from, const std::string& to)
 {
     sqlite3* opened = nullptr;
@@ -95,9 +95,9 @@ std::string copyPages(sqlite3* from, const std::string& to)
 
 std::string copyDatabase(sqlite3* from, const std::string& to)
 {
-    std::remove(to.c_str()); // of an attempt that was cut off
+    std::remove(to.c_str()); // left by an interrupted copy
     sqlite3_file* const file = fileOf(from);
-    // A read keeps others from changing the file until it ends.
+    // While this connection reads, no other one can change the file.
     const bool isHeld = sqlite3_get_autocommit(from) != 0 &&
                         sqlite3_exec(from, "begin; select count(*) from sqlite_master", nullptr,
                                      nullptr, nullptr) == SQLITE_OK;

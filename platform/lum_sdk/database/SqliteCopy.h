@@ -6,9 +6,9 @@ struct sqlite3;
 
 namespace lum {
 
-/// Copies the database of a connection into a new file, over what stands there. Nobody else can
-/// change the database meanwhile.
-/// \returns an empty text, or why it failed; half a copy may stand there then
+/// Copies the database of a connection to the file `to` and replaces an existing one. Other
+/// connections cannot change the database meanwhile.
+/// \returns an empty text, or why it failed; then `to` may be incomplete
 [[nodiscard]] std::string copyDatabase(sqlite3* from, const std::string& to);
 
 } // namespace lum

@@ -5,11 +5,8 @@
 SqliteStatement::SqliteStatement(sqlite3* database, std::string_view sql)
 {
     sqlite3_stmt* statement = nullptr;
-    const char* rest = nullptr;
-    sqlite3_prepare_v2(database, sql.data(), static_cast<int>(sql.size()), &statement, &rest);
+    sqlite3_prepare_v2(database, sql.data(), static_cast<int>(sql.size()), &statement, nullptr);
     m_statement.reset(statement);
-    if (rest != nullptr)
-        m_rest = sql.substr(static_cast<std::size_t>(rest - sql.data()));
     m_size = static_cast<std::size_t>(sqlite3_column_count(statement));
 }
 
@@ -58,7 +55,7 @@ std::string_view SqliteStatement::keyAt(std::size_t index) const
 std::string_view SqliteStatement::valueAt(std::size_t index) const
 {
     const int column = static_cast<int>(index);
-    // The text first: asking for it is what may change the length.
+    // The text first: converting the value to text may change the length.
     const unsigned char* const text = sqlite3_column_text(m_statement.get(), column);
     if (text == nullptr)
         return {};

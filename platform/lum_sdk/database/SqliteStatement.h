@@ -9,19 +9,18 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// A prepared statement. Its present row is a dictionary to be read only; views of its values are
-/// valid until the next step, and a NULL is missing from its look-ups.
+/// A prepared statement. It is also its current row, as a dictionary that can only be read: views
+/// of values are valid until the next step, and `find` has no value for a NULL.
 class SqliteStatement final : public IDictionary
 {
 public:
-    /// Not valid when the database refuses the text; the connection holds the message.
+    /// Prepares the first statement of `sql`. When the database refuses it, the object is not valid
+    /// and the connection holds the message.
     SqliteStatement(sqlite3* database, std::string_view sql);
 
     [[nodiscard]] bool isValid() const { return m_statement != nullptr; }
-    /// What stands behind the first statement of the text.
-    [[nodiscard]] std::string_view rest() const { return m_rest; }
 
-    /// \param index from 1; the text must stay until the statement was stepped and rewound
+    /// \param index from 1; the text must stay alive until `rewind`
     void bind(int index, std::string_view text);
 
     /// SQLITE_ROW, SQLITE_DONE or an error.
@@ -45,6 +44,5 @@ private:
     };
 
     std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;
-    std::string_view m_rest;
     std::size_t m_size = 0; ///< columns of a row
 };

@@ -6,39 +6,7 @@
 #include <QThread>
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
-
-std::size_t EventManager::NameHash::operator()(std::string_view name) const noexcept
-{
-    // Length, head and tail tell event names apart, and cost less than walking the whole name.
-    constexpr std::size_t kWord = sizeof(std::uint64_t);
-    std::uint64_t head = 0;
-    std::uint64_t tail = 0;
-    if (name.size() >= kWord) {
-        std::memcpy(&head, name.data(), kWord);
-        std::memcpy(&tail, name.data() + (name.size() - kWord), kWord);
-    } else {
-        std::memcpy(&head, name.data(), name.size());
-    }
-    const std::uint64_t mixed = head ^ ((tail << 29U) | (tail >> 35U)) ^ name.size();
-    return (mixed * 0x9E3779B97F4A7C15ULL) >> 20U; // the upper bits are the well mixed ones
-}
-
-bool EventManager::mayBeHeard(std::string_view name) const
-{
-    const std::size_t hash = NameHash()(name);
-    const std::uint64_t word =
-        m_heard[(hash >> 6U) % m_heard.size()].load(std::memory_order_relaxed);
-    return ((word >> (hash % 64)) & 1U) != 0;
-}
-
-void EventManager::rememberHeard(std::string_view name)
-{
-    const std::size_t hash = NameHash()(name);
-    m_heard[(hash >> 6U) % m_heard.size()].fetch_or(std::uint64_t{1} << (hash % 64),
-                                                    std::memory_order_relaxed);
-}
+#include <exception>
 
 void EventManager::subscribe(const char* eventName, IEventHandler* handler)
 {
@@ -46,7 +14,6 @@ void EventManager::subscribe(const char* eventName, IEventHandler* handler)
     auto& handlers = m_listeners[eventName].handlers;
     if (std::find(handlers.begin(), handlers.end(), handler) == handlers.end())
         handlers.push_back(handler);
-    rememberHeard(eventName);
 }
 
 void EventManager::unsubscribe(const char* eventName, IEventHandler* handler)
@@ -69,25 +36,19 @@ void EventManager::unsubscribe(const char* eventName, IEventHandler* handler)
 
 void EventManager::publish(const char* eventName, const char* payload, int reserved)
 {
-    const std::string_view name(eventName);
-    if (mayBeHeard(name))
-        publishHeard(name, payload, reserved);
-}
-
-void EventManager::publishHeard(std::string_view name, const char* payload, int reserved)
-{
     if (QThread::currentThread() != thread()) {
-        publishLater(name.data(), payload, reserved);
+        publishLater(eventName, payload, reserved);
         return;
     }
-    const auto found = m_listeners.find(name);
+    const auto found = m_listeners.find(std::string_view(eventName));
     if (found != m_listeners.end())
-        deliver(found->second, name.data(), payload, reserved);
+        deliver(found->second, eventName, payload, reserved);
 }
 
 void EventManager::publishLater(const char* eventName, const char* payload, int reserved)
 {
-    // QByteArray(nullptr) is null, and its data() would be an empty text: keep the difference.
+    // An event without a payload stays one: the byte array of a null pointer is null, but its text
+    // is empty.
     const QByteArray name(eventName);
     const QByteArray text(payload);
     QMetaObject::invokeMethod(
@@ -102,7 +63,7 @@ void EventManager::deliver(Listeners& listeners, const char* eventName, const ch
                            int reserved)
 {
     ++listeners.deliveries;
-    const std::size_t count = listeners.handlers.size(); // who joins now waits for the next event
+    const std::size_t count = listeners.handlers.size(); // new ones get the next event
     for (std::size_t i = 0; i < count; ++i) {
         IEventHandler* const handler = listeners.handlers[i];
         if (handler == nullptr)

@@ -4,17 +4,13 @@
 
 #include <QObject>
 
-#include <array>
-#include <atomic>
-#include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
-/// The event manager of the GUI thread; it belongs to the thread that makes it.
+/// The event manager. It belongs to the thread that makes it, the GUI thread.
 class EventManager final : public QObject, public IEventManager
 {
     Q_OBJECT
@@ -25,32 +21,24 @@ public:
     void publish(const char* eventName, const char* payload, int reserved) override;
 
 private:
-    /// The listeners of one name. A list is never thrown away, so that it can be walked while
-    /// handlers come and go.
+    /// The handlers of one name. The list is never removed from the map, and it shrinks only while
+    /// no delivery walks it: handlers may come and go during a delivery.
     struct Listeners
     {
         std::vector<IEventHandler*> handlers; ///< null where one left during a delivery
-        int deliveries = 0;                   ///< how many are under way, one inside the other
-        bool hasGaps = false;
+        int deliveries = 0;                   ///< running now; a handler may publish the same name
+        bool hasGaps = false;                 ///< whether there are nulls to remove
     };
 
-    struct NameHash
+    /// Lets a name be looked up without making a string of it.
+    struct NameHash : std::hash<std::string_view>
     {
-        using is_transparent = void; // looks up by view, without making a string
-        std::size_t operator()(std::string_view name) const noexcept;
+        using is_transparent = void;
     };
 
-    /// False only when nobody has ever subscribed to the name: told without a look-up, by any
-    /// thread, since most events of a long operation have no listener.
-    [[nodiscard]] bool mayBeHeard(std::string_view name) const;
-    void rememberHeard(std::string_view name);
-
-    /// Not part of `publish`, which returns the quicker for it when nobody listens.
-    void publishHeard(std::string_view name, const char* payload, int reserved);
     void publishLater(const char* eventName, const char* payload, int reserved);
     static void deliver(Listeners& listeners, const char* eventName, const char* payload,
                         int reserved);
 
     std::unordered_map<std::string, Listeners, NameHash, std::equal_to<>> m_listeners;
-    std::array<std::atomic<std::uint64_t>, 16> m_heard{}; ///< a bit for each name, by its hash
 };

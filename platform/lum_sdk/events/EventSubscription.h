@@ -7,12 +7,12 @@
 class IEventHandler;
 class IEventManager;
 
-/// A component's subscriptions, for as long as it lives: a member of the component.
+/// Keeps a component subscribed while it lives, as a member of the component.
 class EventSubscription
 {
 public:
-    /// \param names comma-separated event names, subscribed in this order; empty ones are passed
-    ///        over, one of more than 100 characters is refused with a line in the log
+    /// \param names comma-separated event names, subscribed in this order; empty ones are skipped,
+    ///        one of more than 100 characters is refused and logged
     EventSubscription(IEventHandler& handler, std::string_view names, IEventManager& manager);
     ~EventSubscription();
 

@@ -6,12 +6,11 @@
 
 class IDictionary;
 
-/// The texts that events carry: key lists such as "text=Loading,value=50". A value that holds the
+/// The payloads of events: key lists such as "text=Loading,value=50". A value that holds the
 /// separator is quoted.
 namespace payload {
 
-/// Reads a payload into `values`, in place of what they held; an event without a payload (null)
-/// leaves them empty.
+/// Replaces `values` by those of the payload; an event without a payload (null) leaves none.
 void read(const char* payload, IDictionary& values, char separator = ',');
 
 /// "text=CAPTION,value=PERCENT,is_exec=0"; the percent in general notation, six digits.

@@ -9,7 +9,7 @@
 
 class IEventManager;
 
-/// How a long operation tells where it stands. Hides the bar when it goes out of scope.
+/// Shows in the progress bar how far a long operation is. Hides the bar when it goes out of scope.
 ///
 /// Without an event manager (a test, a nested step) it reports to nobody.
 class ProgressReporter

@@ -17,22 +17,21 @@ class QString;
 // Order, keys and values come back byte for byte; what XML cannot hold (control characters, text
 // that is not UTF-8) is written in base64.
 
-/// Reads the file into `dictionary`, over what stands there. All or nothing: when the file is
-/// missing, unreadable, malformed or something else than a dictionary, nothing changes, and the log
-/// names file, line and reason.
+/// Reads the file into `dictionary`; entries of the same keys are replaced. When the file is
+/// missing, malformed or not a dictionary, nothing changes, and the log names file, line and
+/// reason.
 bool xml_to_dictionary(const std::string& path, IDictionary& dictionary);
 
-/// Writes aside and renames: a crash or a full disk never leaves half a file. Why it failed stands
-/// in the log.
+/// Replaces the file by `lum::writeWholeFile`. A failure is logged with its reason.
 bool dictionary_to_xml(const IDictionary& dictionary, const std::string& path);
 
 namespace lum {
 
-/// As `xml_to_dictionary`, for whom tells the user.
+/// As `xml_to_dictionary`, for callers that tell the user the reason.
 /// \returns an empty text, or why the file cannot be read and in which line
 [[nodiscard]] QString readDictionaryFile(const std::string& path, IDictionary& dictionary);
 
-/// Reads `xml` into `dictionary`, all or nothing.
+/// Reads `xml` into `dictionary`, completely or not at all.
 /// \returns an empty text, or what is wrong and in which line
 [[nodiscard]] QString readDictionary(const QByteArray& xml, IDictionary& dictionary);
 

@@ -2,17 +2,18 @@
 
 #include <string>
 
-// What makes files survive a power cut. Each returns an empty text, or why it failed.
+// File operations that survive a power cut: each returns when the disk has the change. The result
+// is an empty text, or why the operation failed.
 
 namespace lum {
 
-/// What was written to the file (or the folder's list of names) is on the disk.
+/// Brings what was written to the file, or the list of names of a folder, to the disk.
 [[nodiscard]] std::string syncFile(const std::string& path);
 
-/// Renames over what stands under `to`, lastingly.
+/// Renames a file and replaces an existing one.
 [[nodiscard]] std::string renameFile(const std::string& from, const std::string& to);
 
-/// Removes the file, lastingly; a file that is not there is no failure.
+/// Removes the file; a file that does not exist is no failure.
 [[nodiscard]] std::string removeFile(const std::string& path);
 
 } // namespace lum

@@ -13,7 +13,7 @@ public:
     explicit SystemParameter(std::string userFile);
 
     /// Reads the installed file, then the user's values over it. A user file that cannot be read
-    /// is logged and passed over.
+    /// is logged and ignored.
     /// \returns false, with the dictionary as it was, when the installed file cannot be read
     bool load(const std::string& path);
 

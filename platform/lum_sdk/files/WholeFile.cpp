@@ -10,7 +10,7 @@ namespace lum {
 
 QString writeWholeFile(const QString& path, const QByteArray& content)
 {
-    // Unbuffered, since a buffered write that only half fits on the disk is reported as done.
+    // Unbuffered: a buffered write reports success even when only half of it fits on the disk.
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return file.errorString();

@@ -12,7 +12,7 @@ constexpr std::size_t kBufferSize = std::size_t(256) * 1024;
 
 WholeFileWriter::WholeFileWriter(const QString& path) : m_file(path)
 {
-    // Unbuffered, since a buffered write that only half fits on the disk is reported as done.
+    // Unbuffered: a buffered write reports success even when only half of it fits on the disk.
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         m_fault = m_file.errorString();
     m_buffer.reserve(kBufferSize);

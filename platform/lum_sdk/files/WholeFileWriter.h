@@ -8,22 +8,21 @@
 
 namespace lum {
 
-/// Writes a file that is too large to be held in memory, piece by piece: aside, then brought to the
-/// disk and renamed over what stands there, as `writeWholeFile` does. Without `commit` there is no
-/// trace of it.
+/// Does the same as `writeWholeFile` for a file that is too large to be held in memory: it is
+/// written piece by piece, and `commit` replaces the old file. Without `commit` nothing is left.
 class WholeFileWriter
 {
 public:
-    /// Whether the file could be opened shows in `fault`.
+    /// When the file cannot be opened, `fault` says why.
     explicit WholeFileWriter(const QString& path);
 
-    /// After a fault it writes nothing more.
+    /// Does nothing after a fault.
     void write(std::string_view text);
 
     /// \returns an empty text, or why the file could not be written
     [[nodiscard]] QString commit();
 
-    /// Why it failed so far; empty when it did not.
+    /// Why opening or writing failed; empty when neither did.
     [[nodiscard]] const QString& fault() const { return m_fault; }
 
 private:

@@ -1,32 +1,17 @@
 #include "lum_sdk/files/DictionaryXml.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/ILogger.h"
+#include "tests/support/LogCapture.h"
 #include "tests/support/SmallFiles.h"
+#include "tests/support/TestFolder.h"
 
-#include <QByteArray>
 #include <QDir>
-#include <QFile>
-#include <QString>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 using namespace std::string_literals;
-
-namespace {
-
-/// Runs `write` while no file may grow beyond 1000 bytes.
-template <class Write>
-bool onAFullDisk(Write write)
-{
-    const SmallFiles limit(1000);
-    return write();
-}
-
-} // namespace
 
 TEST(DictionaryXml, EveryKeyAndValueComesBackByteForByte)
 {
@@ -99,18 +84,19 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(DictionaryXmlFile, AFailedWriteKeepsTheOldFile)
 {
-    const QTemporaryDir folder;
-    const std::string path = folder.filePath(QStringLiteral("质量 参数.ini")).toStdString();
+    const TestFolder folder;
+    const std::string path = folder.path("质量 参数.ini").toStdString();
     basalt::Dictionary values;
     values.set("pdop_max", "3");
     ASSERT_TRUE(dictionary_to_xml(values, path));
 
-    EXPECT_FALSE(
-        dictionary_to_xml(values, folder.filePath(QStringLiteral("no/x.xml")).toStdString()));
+    EXPECT_FALSE(dictionary_to_xml(values, folder.path("no/x.xml").toStdString()));
     EXPECT_FALSE(dictionary_to_xml(values, folder.path().toStdString())); // a folder
     values.set("pdop_max", std::string(100000, '9'));
-    EXPECT_FALSE(onAFullDisk([&] { return dictionary_to_xml(values, path); }));
-
+    {
+        const SmallFiles fullDisk(1000);
+        EXPECT_FALSE(dictionary_to_xml(values, path));
+    }
     basalt::Dictionary read;
     EXPECT_TRUE(xml_to_dictionary(path, read));
     EXPECT_EQ(read.text("pdop_max"), "3");
@@ -119,13 +105,9 @@ TEST(DictionaryXmlFile, AFailedWriteKeepsTheOldFile)
 
 TEST(DictionaryXmlFile, AMissingFileIsLoggedWithItsPath)
 {
-    std::string log;
-    basalt::setLogListener([](void* text, ILogger::Level,
-                              std::string_view line) { *static_cast<std::string*>(text) = line; },
-                           &log);
+    const LogCapture log;
     basalt::Dictionary read;
     EXPECT_FALSE(xml_to_dictionary("/no/such/qc_param.ini", read));
     EXPECT_FALSE(xml_to_dictionary("/tmp", read));
-    basalt::setLogListener(nullptr, nullptr);
-    EXPECT_NE(log.find("\"/tmp\""), std::string::npos) << log;
+    EXPECT_TRUE(log.holds("\"/no/such/qc_param.ini\"") && log.holds("\"/tmp\"")) << log.text();
 }

@@ -1,16 +1,13 @@
 #include "lum_sdk/coords/CoordStoredForm.h"
 
 #include "lum_sdk/coords/EpsgSystem.h"
-#include "tests/lum_sdk/CoordFixture.h"
-
-#include <gtest/gtest.h>
+#include "tests/lum_sdk/coords/CoordFixture.h"
 
 namespace {
 
 basalt::Dictionary stored(const char* list)
 {
-    basalt::Dictionary parameters;
-    EXPECT_TRUE(csa_to_dictionary(parameters, list));
+    basalt::Dictionary parameters = dictionaryOf(list);
     lum::toStoredForm(parameters);
     return parameters;
 }
@@ -79,14 +76,9 @@ TEST(CoordStoredForm, AShiftWithoutItsPivotLeadsToTheSamePlace)
         "ellipsoid_a=6378206.4,ellipsoid_f=294.978698213898,project_type=1,org_lon=-99,"
         "_7type=3,_7dx=8,_7dy=-160,_7dz=-176,_7rx=1.5,_7ry=-0.7,_7rz=2.25,_7ppm=3.5,"
         "_7px=-820000,_7py=-5490000,_7pz=3120000";
-    basalt::Dictionary given;
-    ASSERT_TRUE(csa_to_dictionary(given, about));
     const basalt::Dictionary without = stored(about);
     EXPECT_EQ(without.text("_7type"), "2");
     EXPECT_FALSE(without.contains("_7px") || without.contains("_7py") || without.contains("_7pz"));
-    const CoordTriple there = CoordService(given).toGrid(29.5, -98.5, 120);
-    const CoordTriple here = CoordService(without).toGrid(29.5, -98.5, 120);
-    EXPECT_NEAR(here.first, there.first, 1e-6);
-    EXPECT_NEAR(here.second, there.second, 1e-6);
-    EXPECT_NEAR(here.third, there.third, 1e-6);
+    expectNear(CoordService(without).toGrid(29.5, -98.5, 120),
+               CoordService(dictionaryOf(about)).toGrid(29.5, -98.5, 120), 1e-6);
 }

@@ -1,9 +1,7 @@
 #include "lum_sdk/coords/EpsgDatumShift.h"
 
 #include "lum_sdk/coords/EpsgSystem.h"
-#include "tests/lum_sdk/CoordFixture.h"
-
-#include <gtest/gtest.h>
+#include "tests/lum_sdk/coords/CoordFixture.h"
 
 #include <algorithm>
 

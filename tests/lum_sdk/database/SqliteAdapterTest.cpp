@@ -1,11 +1,13 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/database/RecordSet.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "lum_sdk/database/SqliteSetUp.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace {
 
@@ -39,8 +41,8 @@ protected:
     }
 
     static constexpr const char* kTable = "odd \" name";
-    QTemporaryDir folder;
-    std::string path = folder.filePath(QStringLiteral("a, \"b\" 测.db")).toStdString();
+    TestFolder folder;
+    std::string path = folder.path("a, \"b\" 测.db").toStdString();
     IDBAdapter* db = extensible_factory_get_IDBAdapter("sqlite");
 };
 
@@ -143,15 +145,28 @@ TEST_F(SqliteAdapterTest, BacksUpEverythingOrNothing)
 
 TEST_F(SqliteAdapterTest, OpensOnlyWhatIsADatabase)
 {
-    QFile file(folder.filePath(QStringLiteral("text.db")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(5000, 'x'));
-    file.close();
-    EXPECT_FALSE(db->open(lum::databaseConnection(file.fileName().toStdString()).c_str()));
+    const std::string file = folder.write("text.db", QByteArray(5000, 'x')).toStdString();
+    EXPECT_FALSE(db->open(lum::databaseConnection(file).c_str()));
     EXPECT_EQ(db->lastError(), "file is not a database");
     const std::string missing = path + "x";
     EXPECT_FALSE(db->open(lum::databaseConnection(missing).c_str()));
     EXPECT_FALSE(QFile::exists(QString::fromStdString(missing)));
     EXPECT_FALSE(db->open("path=x"));
     EXPECT_EQ(extensible_factory_get_IDBAdapter("unheard of"), nullptr);
+}
+
+TEST_F(SqliteAdapterTest, ALateSetUpIsRefusedAndHarmless)
+{
+    const LogCapture log;
+    lum::setUpDatabase();
+    EXPECT_TRUE(log.holds("in use already"));
+    EXPECT_TRUE(db->execute("select 1"));
+}
+
+TEST_F(SqliteAdapterTest, AVisitorThatThrowsEndsTheReading)
+{
+    db->insert(kTable, nullptr, record("kept", "1"));
+    const auto visit = [](const IDictionary&) -> bool { throw std::runtime_error("enough"); };
+    EXPECT_THROW(db->forEachRow("select * from sqlite_master", visit), std::runtime_error);
+    EXPECT_TRUE(db->execute("drop table \"odd \"\" name\"")) << "no statement may be under way";
 }

@@ -1,5 +1,6 @@
-#include "lum_sdk/coords/CoordWjl.h"
 #include "lum_sdk/coords/ICoordTransform.h"
+
+#include "lum_sdk/coords/CoordWjl.h"
 
 #include <memory>
 

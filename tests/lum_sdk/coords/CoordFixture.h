@@ -4,17 +4,25 @@
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/coords/CoordWjl.h"
 
-#include <initializer_list>
-#include <string>
-#include <utility>
+#include <gtest/gtest.h>
 
-/// A coordinate-parameter dictionary from pairs.
-inline basalt::Dictionary dictionaryOf(std::initializer_list<std::pair<const char*, double>> values)
+#include <string>
+
+/// A dictionary from a key list, with the entries of a second one over it.
+inline basalt::Dictionary dictionaryOf(std::string_view list, std::string_view changes = {})
 {
     basalt::Dictionary dictionary;
-    for (const auto& [key, value] : values)
-        dic_set_value(dictionary, key, value);
+    csa_to_dictionary(dictionary, list);
+    csa_to_dictionary(dictionary, changes);
     return dictionary;
+}
+
+/// A transverse Mercator system about 117 degrees east, with some values changed.
+inline basalt::Dictionary gaussKruger(std::string_view changes = {})
+{
+    return dictionaryOf("ellipsoid_a=6378137,ellipsoid_f=298.257222101,project_type=1,org_lon=117,"
+                        "factor=1,false_east=500000",
+                        changes);
 }
 
 /// Degrees, minutes and seconds; the sign of the degrees holds for all.
@@ -57,3 +65,10 @@ public:
     std::int32_t initCode = 0;
     std::int32_t code = 0; ///< of the last call
 };
+
+inline void expectNear(const CoordTriple& actual, const CoordTriple& expected, double tolerance)
+{
+    EXPECT_NEAR(actual.first, expected.first, tolerance);
+    EXPECT_NEAR(actual.second, expected.second, tolerance);
+    EXPECT_NEAR(actual.third, expected.third, tolerance);
+}
