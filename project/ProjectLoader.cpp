@@ -6,6 +6,7 @@
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
 #include "model/PointNumber.h"
+#include "model/RowText.h"
 #include "model/SurveyRecord.h"
 #include "project/DBAdapter.h"
 #include "project/SafetyCopy.h"
@@ -181,7 +182,7 @@ bool ProjectLoader::readCoordinateSystem(IDictionary& coordParameters)
     coordParameters.clear();
     for (const std::string& column : records.columns()) {
         if (const auto value = row.find(column))
-            coordParameters.set(column, *value);
+            coordParameters.set(column, rowText(*value));
     }
     return true;
 }
