@@ -99,12 +99,13 @@ function(skyquill_add_test name)
     include(GoogleTest)
     gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
     skyquill_test_environment(${name} environment)
+    skyquill_test_labels(${name} labels)
     # A list cannot be passed through the call above; ctest reads this script after the tests.
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
     file(WRITE "${script}"
         "if(DEFINED ${name}_TESTS)\n"
         "  set_tests_properties(\${${name}_TESTS} PROPERTIES\n"
-        "    ENVIRONMENT \"${environment}\")\n"
+        "    ENVIRONMENT \"${environment}\" LABELS \"${labels}\")\n"
         "endif()\n")
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
 endfunction()
@@ -120,8 +121,9 @@ function(skyquill_add_qt_test name)
     skyquill_defaults(${name} qttest)
     add_test(NAME ${name} COMMAND ${name})
     skyquill_test_environment(${name} environment)
+    skyquill_test_labels(${name} labels)
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "${environment};${ARG_ENVIRONMENT}" TIMEOUT 300)
+        ENVIRONMENT "${environment};${ARG_ENVIRONMENT}" LABELS "${labels}" TIMEOUT 300)
 endfunction()
 
 # What all targets share. `precompiled` names the set of shared headers.

@@ -5,6 +5,7 @@
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
 #include "model/PointNumber.h"
+#include "model/RowText.h"
 #include "model/SurveyRecord.h"
 #include "project/DatabaseReason.h"
 #include "project/DBAdapter.h"
@@ -187,7 +188,7 @@ bool ProjectLoader::readCoordinateSystem(IDictionary& coordParameters)
     coordParameters.clear();
     for (const std::string& column : records.columns()) {
         if (const auto value = row.find(column))
-            coordParameters.set(column, *value);
+            coordParameters.set(column, rowText(*value));
     }
     return true;
 }

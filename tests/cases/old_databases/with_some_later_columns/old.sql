@@ -1,0 +1,19 @@
+-- A version in between: three of the six later columns, and a table of systems with one column.
+create table SurveyLineItem (line_num TEXT, point_num TEXT, north TEXT, east TEXT, elevation TEXT,
+    azimuth TEXT, type INTEGER, status INTEGER);
+create table ExplorationResultItem (line_num TEXT, point_num TEXT, point_mark INTEGER,
+    latitude TEXT, longitude TEXT, altitude TEXT, north TEXT, east TEXT, elevation TEXT,
+    antenna_height TEXT, horizontal_accuracy TEXT, vertical_accuracy TEXT,
+    satellite_number INTEGER, pdop TEXT, hdop TEXT, vdop TEXT, epoch_number INTEGER,
+    reference_north TEXT, reference_east TEXT, reference_longitude TEXT, reference_latitude TEXT,
+    reference_altitude TEXT, reference_distance TEXT, date_time INTEGER, measure_mode INTEGER,
+    solution_type INTEGER, instrument_type TEXT, instrument_serial_number TEXT,
+    quality_standard INTEGER, design_north TEXT, design_east TEXT, design_elevation TEXT,
+    transversal_deviation TEXT, longitudinal_deviation TEXT, rms TEXT, surveyor TEXT, remarks TEXT,
+    obstacle TEXT, photo_path TEXT, is_resurvey INTEGER, resurvey_x_diff TEXT,
+    resurvey_y_diff TEXT, resurvey_h_diff TEXT,
+    age_of_diff REAL, start_time REAL, base_station_id TEXT);
+create table CoordinateSystemItem (coord_param_id TEXT);
+
+insert into ExplorationResultItem (line_num, point_num, age_of_diff, start_time, base_station_id)
+    values ('L1', '1', 2.9, 1700000000123.0, 'base 1'), ('L1', '2', null, null, null);
