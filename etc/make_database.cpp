@@ -1,30 +1,25 @@
+#include "model/ProjectTables.h"
+
 #include <sqlite3.h>
 
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 
-/// make_database SQL_FILE DATABASE: makes the database by the statements of the file, anew.
+/// make_database DATABASE: makes the database that new projects start from, over what stands there.
 int main(int argc, char* argv[])
 {
-    if (argc != 3) {
-        std::cerr << "usage: make_database SQL_FILE DATABASE\n";
+    if (argc != 2) {
+        std::cerr << "usage: make_database DATABASE\n";
         return 2;
     }
-    std::ifstream file(argv[1]);
-    std::stringstream statements;
-    statements << file.rdbuf();
-    std::error_code noMatter;
-    std::filesystem::remove(argv[2], noMatter);
+    std::error_code ignored;
+    std::filesystem::remove(argv[1], ignored);
     sqlite3* database = nullptr;
-    int result = file ? sqlite3_open(argv[2], &database) : SQLITE_CANTOPEN;
+    int result = sqlite3_open(argv[1], &database);
     if (result == SQLITE_OK)
-        result = sqlite3_exec(database, statements.str().c_str(), nullptr, nullptr, nullptr);
+        result = sqlite3_exec(database, projectTables().c_str(), nullptr, nullptr, nullptr);
     if (result != SQLITE_OK)
-        std::cerr << argv[1] << ": " << (database != nullptr ? sqlite3_errmsg(database) : "missing")
-                  << '\n';
+        std::cerr << argv[1] << ": " << sqlite3_errmsg(database) << '\n';
     sqlite3_close(database);
     return result == SQLITE_OK ? 0 : 1;
 }

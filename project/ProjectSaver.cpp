@@ -7,6 +7,7 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
+#include "model/ProjectTables.h"
 #include "model/SurveyRecord.h"
 #include "project/RowFormatter.h"
 #include "project/SafetyCopy.h"
@@ -16,22 +17,6 @@
 #include <array>
 
 namespace {
-
-struct LaterColumn
-{
-    const char* name;
-    const char* type;
-};
-
-// What databases of earlier versions lack, in the order in which it is added.
-constexpr std::array<LaterColumn, 6> kLaterColumns{{
-    {"age_of_diff", "INTEGER"},
-    {"sat_detail", "TEXT"},
-    {"base_station_id", "TEXT"},
-    {"start_time", "REAL"},
-    {"end_time", "REAL"},
-    {"raw_offset", "REAL"},
-}};
 
 QString caption(const char* text)
 {
@@ -106,13 +91,12 @@ bool ProjectSaver::addMissingColumns()
     const std::string statement(schema.isEmpty() ? "" : schema[0].text("sql"));
     if (statement.empty())
         return true;
-    for (const auto& [name, type] : kLaterColumns) {
+    for (const auto& [name, type] : laterSurveyColumns()) {
         // A plain search of the whole text, as every earlier version did it: a column whose name
         // holds another's stands for both.
         if (statement.find(name) != std::string::npos)
             continue;
-        const std::string change =
-            std::string("alter table ExplorationResultItem add ") + name + ' ' + type;
+        const std::string change = "alter table ExplorationResultItem add " + name + ' ' + type;
         if (!m_database.execute(change.c_str()))
             return false;
     }
@@ -121,7 +105,7 @@ bool ProjectSaver::addMissingColumns()
 
 bool ProjectSaver::writeDesign(const DesignPoints& design)
 {
-    const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::kColumns);
+    const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::columns().c_str());
     return rows &&
            insertPoints(*rows, design, DesignRecord::write, m_progress,
                         caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Design Data")));
