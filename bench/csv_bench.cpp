@@ -101,7 +101,7 @@ struct Data
     void writeSurvey(const QString& path, const QStringList& captions = surveyCaptions()) const
     {
         ProgressReporter progress(nullptr);
-        if (!writeSurveyCsv(path, survey, lines, {captions, 0}, progress).isEmpty())
+        if (!writeSurveyCsv(path, survey, lines, {captions, 0}, progress).isDone())
             std::abort();
     }
 
@@ -282,8 +282,10 @@ double importSeconds(const QString& path, std::size_t expected, Read read)
     Points points;
     ImportSummary summary;
     ProgressReporter progress(nullptr);
-    const double seconds = bench::secondsOf([&] { read(path, points, progress, summary); });
-    return points.pointCount() == expected ? seconds : 1e9;
+    bool isRead = false;
+    const double seconds =
+        bench::secondsOf([&] { isRead = read(path, points, progress, summary).isDone(); });
+    return isRead && points.pointCount() == expected ? seconds : 1e9;
 }
 
 double surveyImport()
@@ -393,7 +395,8 @@ double importMiB(const QString& path, Read read)
     Points points;
     ImportSummary summary;
     ProgressReporter progress(nullptr);
-    read(path, points, progress, summary);
+    if (!read(path, points, progress, summary).isDone())
+        std::abort();
     const double imported = peakMiB() - before;
     const Points copy(points);
     const double copied = peakMiB() - before - imported;

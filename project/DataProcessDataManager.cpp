@@ -56,24 +56,22 @@ void addNotice(QString& message, const QString& notice)
     message += notice;
 }
 
-int exported(const QString& path, const QString& fault)
+int exported(const Outcome& outcome)
 {
-    if (fault.isEmpty())
-        return 1;
-    basalt::logError("Cannot write \"" + path.toStdString() + "\": " + fault.toStdString());
-    return 0;
+    if (!outcome.isDone())
+        basalt::logError(outcome.detail());
+    return outcome.toFlag();
 }
 
-int imported(bool isRead, ImportSummary& own, ImportSummary* asked)
+int imported(const Outcome& outcome, ImportSummary& own, ImportSummary* asked)
 {
-    const std::string text = own.toText().toStdString();
-    if (isRead)
-        basalt::logInfo(text);
+    if (outcome.isDone())
+        basalt::logInfo(own.toText().toStdString());
     else
-        basalt::logError(text);
+        basalt::logError(outcome.detail());
     if (asked != nullptr)
         *asked = std::move(own);
-    return isRead ? 1 : 0;
+    return outcome.toFlag();
 }
 } // namespace
 
@@ -247,7 +245,7 @@ int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QStr
                                             bool onlyUnsurveyed)
 {
     ProgressReporter progress(&m_host.eventManager());
-    return exported(path, writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress));
+    return exported(writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress));
 }
 
 int DataProcessDataManager::importDesignCsv(const QString& path, ImportSummary* summary)
@@ -263,8 +261,7 @@ int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QStr
     if (m_exportCaptions.isEmpty())
         m_exportCaptions = m_surveyCaptions;
     const int format = get_system_status_dictionary().integer(status::kDegreeFormat);
-    return exported(path,
-                    writeSurveyCsv(path, m_survey, lines, {m_exportCaptions, format}, progress));
+    return exported(writeSurveyCsv(path, m_survey, lines, {m_exportCaptions, format}, progress));
 }
 
 int DataProcessDataManager::importSurveyCsv(const QString& path, ImportSummary* summary)

@@ -55,12 +55,6 @@ QString chooseLines(const CliArguments& arguments, const Points& points, QString
     return {};
 }
 
-/// \param fault  of a writer; empty when it has written
-QString named(const QString& file, const QString& fault)
-{
-    return fault.isEmpty() ? QString() : QStringLiteral("Cannot write \"%1\": %2").arg(file, fault);
-}
-
 QString exportDesign(const CliArguments& arguments, CliProject& project)
 {
     const DesignPoints& points = project.manager().designPoints();
@@ -70,8 +64,7 @@ QString exportDesign(const CliArguments& arguments, CliProject& project)
         return fault;
     ProgressReporter progress(&project.events());
     const bool onlyUnsurveyed = arguments.options.contains(QLatin1String(kOnlyUnsurveyed));
-    const QString& file = arguments.places[2];
-    return named(file, writeDesignCsv(file, points, lines, onlyUnsurveyed, progress));
+    return writeDesignCsv(arguments.places[2], points, lines, onlyUnsurveyed, progress).text();
 }
 
 QString exportSurvey(const CliArguments& arguments, CliProject& project)
@@ -88,8 +81,8 @@ QString exportSurvey(const CliArguments& arguments, CliProject& project)
     const SurveyCsvChoice choice{captions,
                                  get_system_status_dictionary().integer(status::kDegreeFormat)};
     ProgressReporter progress(&project.events());
-    const QString& file = arguments.places[2];
-    return named(file, writeSurveyCsv(file, manager.surveyPoints(), lines, choice, progress));
+    return writeSurveyCsv(arguments.places[2], manager.surveyPoints(), lines, choice, progress)
+        .text();
 }
 
 } // namespace

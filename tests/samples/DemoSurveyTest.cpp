@@ -83,8 +83,8 @@ struct Files
     void read()
     {
         ProgressReporter nobody(nullptr);
-        EXPECT_TRUE(readDesignCsv(path("design.csv"), design, nobody, designSummary));
-        EXPECT_TRUE(readSurveyCsv(path("survey.csv"), survey, nobody, surveySummary));
+        EXPECT_TRUE(readDesignCsv(path("design.csv"), design, nobody, designSummary).isDone());
+        EXPECT_TRUE(readSurveyCsv(path("survey.csv"), survey, nobody, surveySummary).isDone());
         const QList<QByteArray> lines = content(path("faults.csv")).trimmed().split('\n');
         for (const QByteArray& line : lines.mid(1)) {
             const QList<QByteArray> fields = line.split(',');
