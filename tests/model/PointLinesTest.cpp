@@ -76,10 +76,10 @@ TEST(PointLines, KeepPointsThatComeInEitherOrder)
     DesignPoints points;
     Reference reference;
     for (int i = 10000; i < 11000; ++i) {
-        points.set(point("up", std::to_string(i), i));
-        points.set(point("down", std::to_string(21000 - i), i));
-        reference["up"][std::to_string(i)] = i;
-        reference["down"][std::to_string(21000 - i)] = i;
+        for (const auto& [line, number] : {std::pair("up", i), std::pair("down", 21000 - i)}) {
+            points.set(point(line, std::to_string(number), i));
+            reference[line][std::to_string(number)] = i;
+        }
     }
     expectSame(points, reference);
 }
@@ -95,17 +95,38 @@ TEST(PointLines, OrderLinesByTheirBytes)
     EXPECT_EQ(order, " 10 9 B a 线 ");
 }
 
+// Lines of several blocks: that only one side has, that both have, and whose points are all
+// replaced.
 TEST(PointLines, MergeLetsTheLaterPointWin)
 {
-    DesignPoints points;
-    DesignPoints later;
-    points.set(point("1", "1", 1));
-    points.set(point("1", "2", 2));
-    later.set(point("1", "2", 20));
-    later.set(point("1", "3", 30));
-    later.set(point("2", "1", 40));
-    points.merge(std::move(later));
-    expectSame(points, {{"1", {{"1", 1}, {"2", 20}, {"3", 30}}}, {"2", {{"1", 40}}}});
+    for (const unsigned range : {20U, 500U, 2000U}) {
+        std::mt19937 random(range);
+        DesignPoints points;
+        DesignPoints later;
+        Reference reference;
+        for (unsigned i = 0; i < range * 2; ++i) {
+            const std::string line = std::to_string(random() % 4);
+            const std::string number = std::to_string(random() % range);
+            points.set(point(line, number, 1));
+            reference[line][number] = 1;
+        }
+        std::size_t replaced = 0;
+        for (unsigned i = 0; i < range; ++i) {
+            const std::string line = std::to_string(2 + random() % 4);
+            const std::string number = std::to_string(random() % range);
+            if (line == "2" && points.find(line, number) == nullptr)
+                continue;
+            replaced += points.find(line, number) != nullptr && later.find(line, number) == nullptr;
+            later.set(point(line, number, 2));
+            reference[line][number] = 2;
+        }
+        EXPECT_EQ(points.merge(std::move(later)), replaced);
+        EXPECT_TRUE(later.empty());
+        expectSame(points, reference);
+        points.set(point("3", "x", 3)); // into the blocks that merging has made
+        reference["3"]["x"] = 3;
+        expectSame(points, reference);
+    }
 }
 
 TEST(PointLines, ACopyIsOnItsOwn)
