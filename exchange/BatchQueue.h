@@ -49,8 +49,8 @@ public:
 
 private:
     std::mutex m_mutex;
-    std::condition_variable
-        m_changed; ///< at most one thread waits: the queue cannot be full and empty
+    // The queue cannot be full and empty at once, so at most one thread waits.
+    std::condition_variable m_changed;
     std::deque<Batch> m_batches;
     bool m_isClosed = false;
 };

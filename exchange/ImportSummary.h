@@ -23,7 +23,7 @@ struct ImportSummary
     std::size_t linesSkipped = 0;     ///< empty lines and the heading do not count
     QString remark;                   ///< about the file as a whole; mostly empty
     std::vector<Fault> faults;        ///< the first skipped lines
-    std::size_t fieldsMisread = 0;    ///< fields that became 0 since they cannot be read
+    std::size_t fieldsMisread = 0;    ///< fields of points that cannot be read
     std::vector<Fault> misreadFields; ///< the first of these
 
     /// Counts the last line as skipped.
