@@ -114,10 +114,11 @@ TEST(PointNumber, CheckPointsAreCountedWithinTheirLine)
 
 TEST(PointNumber, CheckPointsAreWrittenWithNineCharacters)
 {
-    EXPECT_EQ(writtenPointNumber("C12345678_12"), "C12345678");
-    EXPECT_EQ(writtenPointNumber("C测线三四五六七八_0"), "C测线三四五六七八");
-    EXPECT_EQ(writtenPointNumber("C1234567"), "C1234567");
-    EXPECT_EQ(writtenPointNumber("123456789_0"), "123456789_0");
+    for (const auto& [number, written] :
+         {std::pair("C12345678_12", "C12345678"),
+          std::pair("C测线三四五六七八_0", "C测线三四五六七八"), std::pair("C1234567", "C1234567"),
+          std::pair("123456789_0", "123456789_0")})
+        EXPECT_EQ(writtenPointNumber(number), written);
 }
 
 TEST(CodeTables, NameSolutionsAndObstacles)
