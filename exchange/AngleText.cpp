@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double kLargestAngle = 1e9; ///< beyond, milliseconds of arc have no integer
+constexpr double kLargestAngle = 1e9; ///< its milliseconds of arc fit into 64 bits
 constexpr std::int64_t kSecond = 1000;
 constexpr std::int64_t kMinute = 60 * kSecond;
 constexpr std::int64_t kDegree = 60 * kMinute;
@@ -56,7 +56,7 @@ char* AngleText::write(char* to, double degrees) const
 {
     if (m_isDecimal || !(std::fabs(degrees) < kLargestAngle))
         return basalt::writeFixed(to, degrees, 8);
-    // In one number, so that rounding carries from the seconds up.
+    // The whole angle is rounded once, so that the seconds never become 60.
     const std::int64_t all = std::llround(degrees * double(kDegree));
     to = append(appendInteger(to, all / kDegree), m_degrees);
     to = append(appendInteger(to, all % kDegree / kMinute), m_minutes);

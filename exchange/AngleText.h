@@ -5,8 +5,8 @@
 #include <string_view>
 
 /// Angles as the user reads them: decimal degrees with 8 decimals, or degrees, minutes and seconds
-/// with 3 decimals, each followed by its unit in the user's language ("30deg30min0.000sec"). Of a
-/// negative angle each part but a zero has the sign. Seconds never print as 60.
+/// with 3 decimals, each followed by its unit in the user's language ("30deg30min0.000sec"). In a
+/// negative angle every part that is not 0 has the sign. Seconds are never written as 60.
 class AngleText
 {
 public:
@@ -19,8 +19,8 @@ public:
     /// \returns the end of what was written
     char* write(char* to, double degrees) const;
 
-    /// Reads both forms, whatever the format; nothing from any other text. A part that is no number
-    /// counts as 0.
+    /// Reads both forms, whatever the format of this object; any other text gives no value. A part
+    /// that is no number counts as 0.
     [[nodiscard]] std::optional<double> read(std::string_view text) const;
 
 private:

@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-/// Batches on their way from the thread that makes them to the one that uses them, in order. Some
-/// room between the two keeps both at work on a busy machine, where a thread is not always awake.
+/// Passes batches in order from the thread that makes them to the thread that uses them. It holds
+/// several, so that neither thread has to wait when the system lets the other sleep for a while.
 template <class Batch>
 class BatchQueue
 {
@@ -39,7 +39,7 @@ public:
         return batch;
     }
 
-    /// For both sides: no more will come, or no more is wanted.
+    /// Called by the maker behind its last batch, or by the user when it wants no more.
     void close()
     {
         const std::lock_guard lock(m_mutex);
@@ -49,7 +49,8 @@ public:
 
 private:
     std::mutex m_mutex;
-    std::condition_variable m_changed; ///< one waits at a time: the queue is full, or it is empty
+    // The queue cannot be full and empty at once, so at most one thread waits.
+    std::condition_variable m_changed;
     std::deque<Batch> m_batches;
     bool m_isClosed = false;
 };

@@ -1,28 +1,36 @@
 #pragma once
 
+#include "exchange/CsvFaults.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "lum_sdk/files/WholeFileWriter.h"
 #include "model/PointNumber.h"
 
 #include <QStringList>
 
-/// The walk through the lines that every export makes, with its progress.
-///
-/// \param heading the file's first line, with its end
-/// \param rowOf   `std::string_view(point)`: its line with the end, or nothing for one left out
-/// \returns an empty text, or why the file could not be written; it then stands as it was
-template <class Points, class RowOf>
-QString exportCsv(const QString& path, const QString& caption, std::string_view heading,
-                  const Points& points, const QStringList& lines, ProgressReporter& progress,
-                  RowOf rowOf)
+/// What every export is told.
+struct CsvExportTask
 {
-    lum::WholeFileWriter file(path);
+    const QString& path;
+    const QStringList& lines; ///< in this order; lines that do not exist are passed over
+    ProgressReporter& progress;
+    QString caption;     ///< of the progress
+    std::string heading; ///< the first line, with its end
+};
+
+/// Writes the points of the chosen lines, line by line, with progress.
+///
+/// \param rowOf `std::string_view(point)`: its row with the end; empty for a point to leave out
+/// \returns why it failed; the file is then as it was before
+template <class Points, class RowOf>
+Outcome exportCsv(const CsvExportTask& task, const Points& points, RowOf rowOf)
+{
+    lum::WholeFileWriter file(task.path);
     if (!file.fault().isEmpty())
-        return file.fault();
-    file.write(heading);
-    const auto total = static_cast<std::size_t>(lines.size());
+        return cannotWrite(task.path, file.fault());
+    file.write(task.heading);
+    const auto total = static_cast<std::size_t>(task.lines.size());
     std::size_t done = 0;
-    for (const QString& lineNumber : lines) {
+    for (const QString& lineNumber : task.lines) {
         ++done;
         const auto* const line = points.findLine(lineNumber.toStdString());
         if (line == nullptr)
@@ -31,9 +39,9 @@ QString exportCsv(const QString& path, const QString& caption, std::string_view 
             file.write(rowOf(*point));
         if (!file.fault().isEmpty())
             break;
-        progress.report(caption, done, total);
+        task.progress.report(task.caption, done, total);
     }
-    QString fault = file.commit();
-    progress.hide();
-    return fault;
+    const QString fault = file.commit();
+    task.progress.hide();
+    return fault.isEmpty() ? Outcome::done() : cannotWrite(task.path, fault);
 }

@@ -7,13 +7,13 @@
 #include <cstring>
 #include <string_view>
 
-/// The fields of a line, one after the other; empty ones too, and at least one.
+/// The fields of a line, one after the other. Empty fields count; an empty line has one.
 class CsvFields
 {
 public:
     explicit CsvFields(std::string_view line) : m_next(line.data()), m_end(m_next + line.size()) {}
 
-    /// False behind the last field, with an empty text.
+    /// \returns false behind the last field, with an empty `field`
     bool next(std::string_view& field)
     {
         field = {};
@@ -28,7 +28,7 @@ public:
         return true;
     }
 
-    /// Takes the next field when it is a bare number; else false, and the field is still to come.
+    /// Takes the next field when it is a plain number; otherwise answers false and stays before it.
     bool nextNumber(double& value)
     {
         const char* c = m_next;
@@ -47,5 +47,5 @@ private:
     bool m_isDone = false;
 };
 
-/// The beginning of a field, as a message can show it.
+/// The beginning of a field for a message, without unprintable characters.
 [[nodiscard]] QString shownField(std::string_view field);

@@ -1,20 +1,20 @@
 #pragma once
 
 #include "exchange/BatchQueue.h"
+#include "exchange/CsvFaults.h"
 #include "exchange/CsvInput.h"
 #include "exchange/ImportSummary.h"
-#include "exchange/KnownPoints.h"
 #include "lum_sdk/events/ProgressReporter.h"
 
 #include <future>
 #include <vector>
 
-/// Points that were read, with the numbers of their lines.
+/// Some points of a file, with the numbers of their lines in it.
 template <class Point>
 struct CsvBatch
 {
-    static constexpr std::size_t kSize =
-        std::size_t(96) * 1024 / sizeof(Point); // malloc keeps that at hand
+    /// So many fit into a piece of memory that malloc keeps for the next batch.
+    static constexpr std::size_t kSize = std::size_t(96) * 1024 / sizeof(Point);
 
     CsvBatch() { points.reserve(kSize); }
 
@@ -22,7 +22,7 @@ struct CsvBatch
     std::vector<std::size_t> lines;
 };
 
-/// The points of the next lines; an empty batch behind the last.
+/// The points of the next lines; an empty batch at the end of the file.
 template <class Point, class Read>
 CsvBatch<Point> readBatch(CsvInput& input, Read& read, ImportSummary& summary)
 {
@@ -39,7 +39,8 @@ CsvBatch<Point> readBatch(CsvInput& input, Read& read, ImportSummary& summary)
     return batch;
 }
 
-/// Reads all lines on a thread of its own, ahead of `use`, which gets one batch after the other.
+/// Reads all lines on a thread of its own and passes the batches to `use` on the calling thread. An
+/// exception on either side ends both sides; the caller gets it.
 template <class Point, class Read, class Use>
 void readBatches(CsvInput& input, Read& read, ImportSummary& summary, Use use)
 {
@@ -58,48 +59,77 @@ void readBatches(CsvInput& input, Read& read, ImportSummary& summary, Use use)
                 return;
         }
     });
-    const Closing whenLeft{queue}; // before the reader is waited for
+    // The destructor of `reader` waits for the thread, so the queue must be closed before it.
+    const Closing whenLeft{queue};
     while (std::optional<Batch> batch = queue.pop())
         use(*batch);
     reader.get();
 }
 
-/// The walk through a file's lines that every import makes, with its progress and its summary.
-///
-/// \param read `bool(line, point, summary)`, called on another thread: fills the point from the
-///             line number `summary.linesRead`, or answers false and counts the line as skipped
-///             where it should
-/// \param file `const Point&(Point&&)`: into `points`, in the order of the file
-/// \returns false, with the reason in `summary`, when the file cannot be read
+/// What every import is told.
+struct CsvImportTask
+{
+    const QString& path;
+    ProgressReporter& progress;
+    ImportSummary& summary; ///< of a failed import it holds the path alone
+    QString caption;        ///< of the progress
+};
+
+/// Reads the file's points into `staged`. \returns how many rows gave a point
 template <class Points, class Read, class File>
-bool importCsv(const QString& path, const QString& caption, const Points& points,
-               ProgressReporter& progress, ImportSummary& summary, Read read, File file)
+std::size_t stagePoints(CsvInput& input, const CsvImportTask& task, Read& read, File& file)
 {
     using Point = typename Points::Point;
-    summary = {};
-    summary.path = path;
-    CsvInput input;
-    if (summary.failure = input.open(path); !summary.failure.isEmpty())
-        return false;
-    KnownPoints known(points);
-    const std::size_t before = points.pointCount();
     const std::size_t step = input.lineCount() / 100;
     std::size_t reported = 0;
-    std::size_t taken = 0;
-    readBatches<Point>(input, read, summary, [&](CsvBatch<Point>& batch) {
+    std::size_t count = 0;
+    readBatches<Point>(input, read, task.summary, [&](CsvBatch<Point>& batch) {
         for (std::size_t i = 0; i < batch.points.size(); ++i) {
-            if (known.take(file(std::move(batch.points[i]))))
-                ++summary.pointsReplaced;
+            file(std::move(batch.points[i]));
             if (batch.lines[i] - reported < step)
                 continue;
             reported = batch.lines[i];
-            progress.report(caption, reported, input.lineCount());
+            task.progress.report(task.caption, reported, input.lineCount());
         }
-        taken += batch.points.size();
+        count += batch.points.size();
     });
-    summary.failure = input.fault();
-    summary.pointsNew = points.pointCount() - before;
-    summary.pointsRepeated = taken - summary.pointsNew - summary.pointsReplaced;
-    progress.hide();
-    return summary.failure.isEmpty();
+    return count;
+}
+
+/// Adds the points of a file to `points`, all of them or none, with progress and a summary.
+///
+/// \param staged empty; where `file` puts the points until the whole file is read
+/// \param read   `bool(line, point, summary)`, called on another thread: fills the point from the
+///               line number `summary.linesRead`; or answers false and, when the line should have
+///               been a point, counts it as skipped
+/// \param file   `void(Point&&)`, called in the order of the file: puts a point into `staged`
+/// \returns why it failed; `points` is then as it was before
+template <class Points, class Read, class File>
+Outcome importCsv(const CsvImportTask& task, Points& points, Points& staged, Read read, File file)
+{
+    ImportSummary& summary = task.summary;
+    summary = {};
+    summary.path = task.path;
+    QString fault;
+    try {
+        CsvInput input;
+        if (fault = input.open(task.path); !fault.isEmpty())
+            return cannotRead(task.path, fault);
+        const std::size_t rows = stagePoints<Points>(input, task, read, file);
+        fault = input.fault();
+        if (fault.isEmpty()) {
+            const std::size_t distinct = staged.pointCount();
+            summary.pointsRepeated = rows - distinct;
+            summary.pointsReplaced = points.merge(std::move(staged));
+            summary.pointsNew = distinct - summary.pointsReplaced;
+        }
+    } catch (const std::exception& exception) {
+        fault = reasonOf(exception);
+    }
+    task.progress.hide();
+    if (fault.isEmpty())
+        return Outcome::done();
+    summary = {};
+    summary.path = task.path;
+    return readingBrokeOff(task.path, fault);
 }

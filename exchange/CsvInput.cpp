@@ -82,10 +82,11 @@ bool CsvInput::rewind()
     m_kept = 0;
     m_blockSize = 0;
     m_block = {};
+    m_size = m_file.pos();
     return m_file.seek(0);
 }
 
-/// Reads on until there is a whole line, or the file's end.
+/// Reads until the buffer holds a whole line, or the file ends.
 bool CsvInput::nextBlock()
 {
     const bool isStart = m_file.pos() == 0;
@@ -103,6 +104,8 @@ bool CsvInput::nextBlock()
         if (count < 0)
             m_fault = m_file.errorString();
         isEnd = count <= 0;
+        if (count == 0 && m_file.pos() < m_size)
+            m_fault = QCoreApplication::translate("CsvInput", "It became shorter meanwhile.");
         const std::size_t added = isEnd ? 0 : static_cast<std::size_t>(count);
         lines = endOfLines(m_buffer.data() + filled, added);
         lines = isEnd ? filled : lines == 0 ? 0 : filled + lines;

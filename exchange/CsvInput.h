@@ -11,10 +11,10 @@ class QTextCodec;
 
 /// The lines of a text file, as UTF-8.
 ///
-/// Looks through the whole file first: a file that is not well-formed UTF-8 is taken as GB18030,
-/// which field controllers write; behind a byte-order mark, which is skipped, it stays UTF-8, and
-/// what is broken becomes U+FFFD. "\n" and "\r\n" end a line, the last may have no end. Memory is
-/// needed for a block of the file, or for its longest line.
+/// `open` reads the whole file once to find its encoding: a file that is not well-formed UTF-8 is
+/// read as GB18030, which field controllers write. A byte-order mark is skipped; it says that the
+/// file is UTF-8, so broken characters become U+FFFD. "\n" and "\r\n" end a line, the last may have
+/// no end. The memory holds one block of the file, or its longest line.
 class CsvInput
 {
 public:
@@ -26,7 +26,7 @@ public:
     /// The next line without its end, valid until the next call; false behind the last.
     bool next(std::string_view& line);
 
-    /// Why reading broke off early; empty when it did not.
+    /// Why reading ended before the end of the file; empty when it did not.
     [[nodiscard]] const QString& fault() const { return m_fault; }
 
 private:
@@ -37,9 +37,10 @@ private:
 
     QFile m_file;
     std::vector<char> m_buffer;
-    std::size_t m_kept = 0;   ///< bytes in the buffer, the beginning of a line behind the block
-    std::string_view m_block; ///< whole lines that are still to be given out
-    std::size_t m_blockSize = 0;
+    std::string_view m_block;    ///< the lines of the buffer that `next` has not given out yet
+    std::size_t m_blockSize = 0; ///< bytes of the buffer that are whole lines
+    std::size_t m_kept = 0;      ///< bytes behind them, the beginning of the next line
+    qint64 m_size = 0;           ///< of the file, when `open` read it
     bool m_hasMark = false;
     std::size_t m_lineCount = 0;
     QTextCodec* m_codec = nullptr; ///< null for well-formed UTF-8

@@ -47,7 +47,7 @@ std::string_view CsvRow::finished()
 {
     if (m_size == 0)
         room(++m_size);
-    m_buffer[m_size - 1] = '\n'; // in place of the last comma
+    m_buffer[m_size - 1] = '\n'; // replaces the comma behind the last field
     return {m_buffer.data(), m_size};
 }
 

@@ -10,8 +10,8 @@ namespace basalt {
 class LocalTimes;
 }
 
-/// A line of comma-separated fields, built field after field. Nothing is quoted; a line break
-/// inside a text becomes a blank, so that a record stays one line.
+/// A line of comma-separated fields, built field after field. Texts are not quoted; a line break
+/// in a text becomes a blank.
 class CsvRow
 {
 public:
@@ -24,7 +24,7 @@ public:
     void addAngle(const AngleText& angles, double degrees);
     void addTime(basalt::LocalTimes& times, std::int64_t milliseconds);
 
-    /// The line with its end, once all fields are there.
+    /// The line with its end; to be called behind the last field.
     [[nodiscard]] std::string_view finished();
 
 private:

@@ -25,7 +25,7 @@ bool split(std::string_view line, Fields& fields)
     return true;
 }
 
-/// False when a number is none.
+/// False when one of the numbers cannot be read.
 bool convert(const Fields& fields, DesignPoint& point)
 {
     const auto type = basalt::wholeInteger(fields[6]);
@@ -47,7 +47,7 @@ bool convert(const Fields& fields, DesignPoint& point)
     return true;
 }
 
-/// A heading has no number in any of its columns of numbers.
+/// Whether none of the columns of numbers holds one.
 bool isHeading(const Fields& fields)
 {
     for (std::size_t i = 2; i < kFieldCount; ++i) {
@@ -72,7 +72,7 @@ QString numberFault(const Fields& fields)
     return {};
 }
 
-/// Fills `point`; or counts the line as skipped, unless it is empty or the heading.
+/// Fills `point`; or answers false and counts the line as skipped, unless it is empty or a heading.
 bool readLine(std::string_view line, DesignPoint& point, ImportSummary& summary)
 {
     Fields fields;
@@ -93,11 +93,11 @@ bool readLine(std::string_view line, DesignPoint& point, ImportSummary& summary)
 
 } // namespace
 
-bool readDesignCsv(const QString& path, DesignPoints& points, ProgressReporter& progress,
-                   ImportSummary& summary)
+Outcome readDesignCsv(const QString& path, DesignPoints& points, ProgressReporter& progress,
+                      ImportSummary& summary)
 {
-    return importCsv(path, QCoreApplication::translate("DesignCsv", "Import Design Data"), points,
-                     progress, summary, readLine, [&](DesignPoint&& point) -> const DesignPoint& {
-                         return points.set(std::move(point));
-                     });
+    DesignPoints staged;
+    return importCsv(
+        {path, progress, summary, QCoreApplication::translate("DesignCsv", "Import Design Data")},
+        points, staged, readLine, [&](DesignPoint&& point) { staged.set(std::move(point)); });
 }

@@ -31,7 +31,7 @@ std::string_view pointLine(const DesignPoint& point, CsvRow& row)
     row.addFixed(point.north, 4);
     row.addFixed(point.east, 4);
     row.addFixed(point.elevation, 4);
-    row.addText(point.pointNumber); // there is no design code of its own
+    row.addText(point.pointNumber); // as the design code, which our points do not have
     row.addFixed(point.azimuth, 6);
     row.addInteger(point.type);
     row.addInteger(point.status);
@@ -40,13 +40,14 @@ std::string_view pointLine(const DesignPoint& point, CsvRow& row)
 
 } // namespace
 
-QString writeDesignCsv(const QString& path, const DesignPoints& points, const QStringList& lines,
+Outcome writeDesignCsv(const QString& path, const DesignPoints& points, const QStringList& lines,
                        bool onlyUnsurveyed, ProgressReporter& progress)
 {
-    CsvRow heading;
     CsvRow row;
-    return exportCsv(path, QCoreApplication::translate("DesignCsv", "Export Design Data"),
-                     headingLine(heading), points, lines, progress, [&](const DesignPoint& point) {
+    return exportCsv({path, lines, progress,
+                      QCoreApplication::translate("DesignCsv", "Export Design Data"),
+                      std::string(headingLine(row))},
+                     points, [&](const DesignPoint& point) {
                          const bool isLeftOut = onlyUnsurveyed && point.status != 0;
                          return isLeftOut ? std::string_view() : pointLine(point, row);
                      });

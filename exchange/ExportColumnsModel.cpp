@@ -47,9 +47,9 @@ void ExportColumnsModel::setChosen(const QStringList& keys)
 {
     beginResetModel();
     m_rows.clear();
-    for (std::size_t column = 0; column < kSurveyColumnCount; ++column)
+    for (std::size_t column = 0; column < surveyColumns().size(); ++column)
         m_rows.push_back({column, isNeeded(column) || keys.contains(keyOf(column))});
-    // What is not chosen has the index -1, which is the highest unsigned one.
+    // The index of a column that is not chosen is -1: as an unsigned number it is the highest.
     std::stable_sort(m_rows.begin(), m_rows.end(), [&](const Row& a, const Row& b) {
         return static_cast<unsigned>(keys.indexOf(keyOf(a.column))) <
                static_cast<unsigned>(keys.indexOf(keyOf(b.column)));

@@ -18,11 +18,12 @@ class ExportColumnsModel final : public QAbstractListModel
 public:
     explicit ExportColumnsModel(QObject* parent = nullptr);
 
-    /// The chosen columns come first, in their order, then the others in that of the catalogue.
+    /// The chosen columns come first, in their order, then the others in the order of
+    /// `surveyColumns()`.
     void load(const IDictionary& settings);
-    /// Notes the choice in `settings`, for their owner to save.
+    /// Puts the choice into `settings`; saving them is the caller's task.
     void store(IDictionary& settings) const;
-    /// Checks all columns, in the order of the catalogue.
+    /// Checks all columns, in the order of `surveyColumns()`.
     void reset();
 
     /// The keys of the checked columns, in their order.

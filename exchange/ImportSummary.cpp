@@ -26,11 +26,6 @@ void append(QStringList& lines, const std::vector<ImportSummary::Fault>& faults,
 QString ImportSummary::toText() const
 {
     QStringList lines;
-    if (!failure.isEmpty())
-        lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "\"%1\" cannot be read: %2"))
-                     .arg(path, failure);
-    if (!failure.isEmpty() && linesRead == 0)
-        return lines.first();
     lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
                                           "\"%1\": lines read: %2, points added: %3, points "
                                           "replaced: %4, lines skipped: %5."))

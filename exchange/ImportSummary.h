@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// What became of a file that was read.
+/// What an import found in a file that it has read.
 struct ImportSummary
 {
     static constexpr std::size_t kMostFaults = 5;
@@ -16,19 +16,18 @@ struct ImportSummary
     };
 
     QString path;
-    QString failure; ///< why nothing, or not all, was read; empty when the file was read to its end
     std::size_t linesRead = 0;
     std::size_t pointsNew = 0;
-    std::size_t pointsReplaced = 0;   ///< of those that stood there before
-    std::size_t pointsRepeated = 0;   ///< rows whose point stands in the file again, which holds
+    std::size_t pointsReplaced = 0;   ///< points of the project that got a new value
+    std::size_t pointsRepeated = 0;   ///< rows that a later row of the same point has replaced
     std::size_t linesSkipped = 0;     ///< empty lines and the heading do not count
     QString remark;                   ///< about the file as a whole; mostly empty
-    std::vector<Fault> faults;        ///< of the first lines that were skipped
-    std::size_t fieldsMisread = 0;    ///< of points that were taken; they got the value for nothing
-    std::vector<Fault> misreadFields; ///< the first of them
+    std::vector<Fault> faults;        ///< the first skipped lines
+    std::size_t fieldsMisread = 0;    ///< fields of points that cannot be read
+    std::vector<Fault> misreadFields; ///< the first of these
 
-    /// Counts the line that was read last as skipped.
-    /// \param reason `QString()`, asked for the first few only
+    /// Counts the last line as skipped.
+    /// \param reason `QString()`; called for the first few lines only
     template <class Reason>
     void skip(Reason reason)
     {
@@ -36,7 +35,7 @@ struct ImportSummary
             faults.push_back({linesRead, reason()});
     }
 
-    /// Counts a field of the line that was read last.
+    /// Counts a field of the last line that cannot be read.
     /// \param reason as for `skip`
     template <class Reason>
     void misread(Reason reason)

@@ -30,7 +30,7 @@ using Keys = std::span<const char* const>;
 bool differInNumber(const IDictionary& first, const IDictionary& second, Keys keys)
 {
     for (const char* key : keys) {
-        // turned round, so that what is no number differs
+        // A number that is NaN differs from all.
         if (!(std::abs(first.number(key) - second.number(key)) <= kTolerance))
             return true;
     }
@@ -45,7 +45,7 @@ bool hasEffect(const IDictionary& parameters, Keys keys)
     return !(sum <= kTolerance);
 }
 
-/// A group of parameters behind a switch.
+/// Compares a group of parameters that `flag` switches on.
 bool differInGroup(const IDictionary& first, const IDictionary& second, const char* flag, Keys keys)
 {
     const bool isFirstOn = first.integer(flag) != 0;

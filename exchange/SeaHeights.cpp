@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kBlock = 1024;
 
-/// Gathers points and transforms them a block at a time, which is quicker than one by one.
+/// Transforms the points in blocks, which is quicker than one by one.
 class Blocks
 {
 public:

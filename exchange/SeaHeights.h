@@ -15,14 +15,14 @@ struct SeaHeightPoint
     double* seaHeightM = nullptr;
 };
 
-/// Calls its argument with every survey point; the places of the results stay valid until the walk
-/// returns.
+/// A function that calls its argument with every survey point. The pointers to the results must
+/// stay valid until it returns.
 using SurveyPointWalk = std::function<void(const std::function<void(const SeaHeightPoint&)>&)>;
 
 /// Rewrites the sea height of every point that `walk` visits.
 ///
-/// It is the elevation while "geoid_valid" in `parameters` is 0, else the height that `transform`
-/// gives in direction 2. A point that cannot be transformed gets its elevation, as every point does
-/// when `transform` is null.
+/// It is the elevation when "geoid_valid" in `parameters` is 0 or `transform` is null; otherwise
+/// the height that `transform` gives in direction 2. A point that cannot be transformed gets its
+/// elevation.
 void recomputeSeaHeights(ICoordTransform* transform, const IDictionary& parameters,
                          const SurveyPointWalk& walk);

@@ -4,7 +4,7 @@
 #include "model/CodeTables.h"
 
 namespace {
-constexpr std::size_t kMostRemembered = 64; ///< a faulty file may hold any number of them
+constexpr std::size_t kMostRemembered = 64; ///< a faulty file may hold any number of names
 } // namespace
 
 std::string_view SolutionTypeNames::name(int code)

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-/// The code table of solution types for columns of them: each name is looked up once.
+/// The code table of solution types for files with many rows: it translates each name only once.
 class SolutionTypeNames
 {
 public:
-    /// Valid until the next call.
+    /// The result is valid until the next call.
     [[nodiscard]] std::string_view name(int code);
     [[nodiscard]] int code(std::string_view name);
 

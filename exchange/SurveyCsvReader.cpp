@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Fills `point`; or counts the line as skipped, unless it is empty or none of the points.
+/// Fills `point`; or answers false, and counts a line as skipped that lacks its point number.
 bool readLine(std::string_view line, SurveyRowReader& rows, SurveyPoint& point,
               ImportSummary& summary)
 {
@@ -35,20 +35,21 @@ bool readLine(std::string_view line, SurveyRowReader& rows, SurveyPoint& point,
 
 } // namespace
 
-bool readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporter& progress,
-                   ImportSummary& summary)
+Outcome readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporter& progress,
+                      ImportSummary& summary)
 {
     SurveyRowReader rows;
-    SurveyPointFiler filer(points);
-    const bool isRead = importCsv(
-        path, QCoreApplication::translate("SurveyCsv", "Import Survey Data"), points, progress,
-        summary,
-        [&](std::string_view line, SurveyPoint& point, ImportSummary& skipped) {
-            return readLine(line, rows, point, skipped);
+    SurveyPoints staged;
+    SurveyPointFiler filer(staged, &points);
+    Outcome outcome = importCsv(
+        {path, progress, summary, QCoreApplication::translate("SurveyCsv", "Import Survey Data")},
+        points, staged,
+        [&](std::string_view line, SurveyPoint& point, ImportSummary& counts) {
+            return readLine(line, rows, point, counts);
         },
-        [&](SurveyPoint&& point) -> const SurveyPoint& { return filer.file(std::move(point)); });
-    if (isRead && !rows.hasHeading() && summary.linesRead > 0)
+        [&](SurveyPoint&& point) { filer.file(std::move(point)); });
+    if (outcome.isDone() && !rows.hasHeading() && summary.linesRead > 0)
         summary.remark = QCoreApplication::translate(
             "SurveyCsv", "No line holds the captions of line number and point number.");
-    return isRead;
+    return outcome;
 }

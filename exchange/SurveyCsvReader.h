@@ -1,14 +1,15 @@
 #pragma once
 
 #include "model/PointLines.h"
+#include "protocol/Outcome.h"
 
 class ProgressReporter;
 class QString;
 struct ImportSummary;
 
 /// Reads survey points from a CSV file: a heading with the captions of its columns, in any order,
-/// then a point a line; see SurveyRowReader. Points are added to `points` as `SurveyPointFiler`
-/// files them. Without a heading nothing is read, which is no failure.
-/// \returns false, with the reason in `summary`, when the file cannot be read
-bool readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporter& progress,
-                   ImportSummary& summary);
+/// then one point in each line; see SurveyRowReader. The points are added to `points` as
+/// `SurveyPointFiler` does it. A file without a heading gives no points and is no failure.
+/// \returns why the file cannot be read; `points` is then as it was before
+Outcome readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporter& progress,
+                      ImportSummary& summary);

@@ -5,11 +5,12 @@
 
 #include <QCoreApplication>
 
-QString writeSurveyCsv(const QString& path, const SurveyPoints& points, const QStringList& lines,
+Outcome writeSurveyCsv(const QString& path, const SurveyPoints& points, const QStringList& lines,
                        const SurveyCsvChoice& choice, ProgressReporter& progress)
 {
     SurveyRowWriter rows(choice.captions, choice.degreeFormat);
-    return exportCsv(path, QCoreApplication::translate("SurveyCsv", "Export Survey Data"),
-                     std::string(rows.heading()), points, lines, progress,
-                     [&](const SurveyPoint& point) { return rows.row(point); });
+    return exportCsv({path, lines, progress,
+                      QCoreApplication::translate("SurveyCsv", "Export Survey Data"),
+                      std::string(rows.heading())},
+                     points, [&](const SurveyPoint& point) { return rows.row(point); });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/PointLines.h"
+#include "protocol/Outcome.h"
 
 class ProgressReporter;
 class QString;
@@ -13,9 +14,8 @@ struct SurveyCsvChoice
     int degreeFormat = 0;        ///< see AngleText
 };
 
-/// Writes the survey points of `lines`, in the order of that list, with a heading; see
+/// Writes the survey points of `lines`, in the order of that list, below a heading; see
 /// SurveyRowWriter. Lines that do not exist are passed over.
-/// \returns an empty text, or why the file could not be written; it then stands as it was
-[[nodiscard]] QString writeSurveyCsv(const QString& path, const SurveyPoints& points,
-                                     const QStringList& lines, const SurveyCsvChoice& choice,
-                                     ProgressReporter& progress);
+/// \returns why the file cannot be written; it is then as it was before
+Outcome writeSurveyCsv(const QString& path, const SurveyPoints& points, const QStringList& lines,
+                       const SurveyCsvChoice& choice, ProgressReporter& progress);

@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/FixedDecimals.h"
 #include "exchange/CsvFields.h"
+#include "model/CodeTables.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,18 +10,14 @@
 
 namespace {
 
-using Form = SurveyCsvColumn::Form;
+using Form = CsvForm;
 
-constexpr std::size_t kLineColumn = 0; ///< in `surveyCsvColumns()`
-constexpr std::size_t kPointColumn = 1;
 constexpr std::size_t kNowhere = std::string_view::npos;
 
-template <class Value>
-Value& valueOf(SurveyPoint& point, const SurveyCsvColumn& column)
+/// Whether the form is a number, so that the quick reading of a plain number may be tried.
+bool isDecimal(Form form)
 {
-    const auto* const member = std::get_if<Value SurveyPoint::*>(&column.column->member);
-    Q_ASSERT(member != nullptr);
-    return point.*(*member);
+    return form == Form::Decimals4 || form == Form::Decimals6 || form == Form::Angle;
 }
 
 bool isBlank(char c)
@@ -28,7 +25,7 @@ bool isBlank(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// As `basalt::trimmed`, in line for ten million fields.
+/// As `basalt::trimmed`, but inline, since a large file has ten million fields.
 std::string_view withoutBlanks(std::string_view text)
 {
     while (!text.empty() && isBlank(text.front()))
@@ -64,11 +61,11 @@ SurveyRowReader::SurveyRowReader() : m_loft(measureModeText(0).toStdString())
 
 bool SurveyRowReader::readHeading(std::string_view line)
 {
-    if (line.find(m_captions[kLineColumn]) == kNowhere ||
-        line.find(m_captions[kPointColumn]) == kNowhere)
-        return false; // soon, for a large file that is none of ours
-    std::array<std::size_t, kSurveyColumnCount> indices{};
-    indices.fill(kNowhere);
+    const std::string& lineCaption = m_captions[0];
+    const std::string& pointCaption = m_captions[1];
+    if (line.find(lineCaption) == kNowhere || line.find(pointCaption) == kNowhere)
+        return false; // at once, since a large file of another kind has many lines
+    std::vector<std::size_t> indices(m_captions.size(), kNowhere);
     CsvFields fields(line);
     std::string_view field;
     for (std::size_t index = 0; fields.next(field); ++index) {
@@ -76,12 +73,12 @@ bool SurveyRowReader::readHeading(std::string_view line)
         if (found != m_captions.end())
             indices[static_cast<std::size_t>(found - m_captions.begin())] = index;
     }
-    if (indices[kLineColumn] == kNowhere || indices[kPointColumn] == kNowhere)
+    if (indices[0] == kNowhere || indices[1] == kNowhere)
         return false;
     m_places.clear();
     for (std::size_t i = 0; i < indices.size(); ++i) {
-        const SurveyCsvColumn& column = surveyCsvColumns()[i];
-        if (indices[i] != kNowhere && column.isRead)
+        const SurveyColumn& column = surveyColumns()[i];
+        if (indices[i] != kNowhere && column.isReadFromCsv)
             m_places.push_back({indices[i], &column});
     }
     std::sort(m_places.begin(), m_places.end(),
@@ -99,43 +96,42 @@ bool SurveyRowReader::read(std::string_view line, SurveyPoint& point)
         while (index < place.index && fields.next(field))
             ++index;
         ++index;
-        const SurveyCsvColumn& column = *place.column;
-        const bool isNumber = column.form == Form::Fixed || column.form == Form::Angle;
-        if (isNumber && fields.nextNumber(valueOf<double>(point, column)))
+        const SurveyColumn& column = *place.column;
+        if (isDecimal(column.csv) && fields.nextNumber(fieldOf<double>(point, column)))
             continue;
         fields.next(field);
         field = withoutBlanks(field);
         if (!setField(field, column, point) && !field.empty())
-            m_misread.push_back(
-                {m_captions[std::size_t(&column - surveyCsvColumns().data())], field});
+            m_misread.push_back({m_captions[std::size_t(&column - surveyColumns().data())], field});
     }
     return !point.pointNumber.empty();
 }
 
-bool SurveyRowReader::setField(std::string_view text, const SurveyCsvColumn& column,
+bool SurveyRowReader::setField(std::string_view text, const SurveyColumn& column,
                                SurveyPoint& point)
 {
     const auto set = [&]<class Value>(const std::optional<Value>& value) {
-        valueOf<Value>(point, column) = value.value_or(Value());
+        fieldOf<Value>(point, column) = value.value_or(Value());
         return value.has_value();
     };
-    switch (column.form) {
+    switch (column.csv) {
     case Form::Text:
     case Form::PointNumber:
-        valueOf<std::string>(point, column) = text;
+        fieldOf<std::string>(point, column) = text;
         return true;
     case Form::PointMark:
         point.pointMark = text == "S" ? 0 : 1;
         return true;
     case Form::Angle:
         return set(m_angles.read(text));
-    case Form::Fixed:
+    case Form::Decimals4:
+    case Form::Decimals6:
         return set(basalt::wholeDecimal(text));
-    case Form::Age:
+    case Form::SixDigitsReadWhole:
         return set(withoutDecimals(basalt::wholeDecimal(text)));
     case Form::Integer:
         return set(std::optional<std::int32_t>(basalt::wholeInteger(text)));
-    case Form::Offset:
+    case Form::WholePart:
         return set(wholePart(text));
     case Form::Time:
         return set(m_times.read(text));

@@ -3,7 +3,7 @@
 #include "basalt_utilities/LocalTimes.h"
 #include "exchange/AngleText.h"
 #include "exchange/SolutionTypeNames.h"
-#include "exchange/SurveyCsvColumns.h"
+#include "model/SurveyColumns.h"
 
 #include <string>
 #include <string_view>
@@ -16,16 +16,16 @@ public:
     SurveyRowReader();
 
     /// Takes the line as the heading when it holds the captions of line and point number. Of a
-    /// caption that stands twice the last counts; others are let aside.
+    /// caption that stands twice the last one counts; unknown captions are passed over.
     bool readHeading(std::string_view line);
     [[nodiscard]] bool hasHeading() const { return !m_places.empty(); }
 
-    /// Sets the fields of the columns in the heading; blanks around each are dropped, one that is
-    /// missing is empty, and what is no number, or no time, reads as 0.
+    /// Sets the fields of the columns in the heading. Blanks around a field are dropped, a missing
+    /// field counts as empty, and a number or time that cannot be read is 0.
     /// \returns false when there was no heading, or the point has no number
     bool read(std::string_view line, SurveyPoint& point);
 
-    /// A field of the line that was read last that says something, but no value of its column.
+    /// A field of the last line that is not empty and cannot be read.
     struct Misread
     {
         std::string_view caption;
@@ -38,13 +38,13 @@ private:
     struct Place
     {
         std::size_t index;
-        const SurveyCsvColumn* column;
+        const SurveyColumn* column;
     };
 
-    /// False for a text that is no value of the column, which then is 0.
-    bool setField(std::string_view text, const SurveyCsvColumn& column, SurveyPoint& point);
+    /// \returns false for a text that cannot be read; the field is then 0
+    bool setField(std::string_view text, const SurveyColumn& column, SurveyPoint& point);
 
-    std::vector<std::string> m_captions; ///< of all columns, translated
+    std::vector<std::string> m_captions; ///< of all fields, translated
     std::vector<Place> m_places;         ///< ordered by index
     std::vector<Misread> m_misread;
     AngleText m_angles{0};

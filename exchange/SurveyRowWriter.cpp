@@ -1,25 +1,18 @@
 #include "exchange/SurveyRowWriter.h"
 
+#include "model/CodeTables.h"
 #include "model/PointNumber.h"
 
 #include <algorithm>
 
 namespace {
 
-using Form = SurveyCsvColumn::Form;
+using Form = CsvForm;
 
-template <class Value>
-const Value& valueOf(const SurveyPoint& point, const SurveyCsvColumn& column)
+bool holds(const std::vector<const SurveyColumn*>& columns, const SurveyColumn::Member& member)
 {
-    const auto* const member = std::get_if<Value SurveyPoint::*>(&column.column->member);
-    Q_ASSERT(member != nullptr);
-    return point.*(*member);
-}
-
-bool holds(const std::vector<const SurveyCsvColumn*>& columns, const SurveyColumn::Member& member)
-{
-    return std::any_of(columns.begin(), columns.end(), [&](const SurveyCsvColumn* column) {
-        return column != nullptr && column->column->member == member;
+    return std::any_of(columns.begin(), columns.end(), [&](const SurveyColumn* column) {
+        return column != nullptr && column->member == member;
     });
 }
 
@@ -30,8 +23,8 @@ SurveyRowWriter::SurveyRowWriter(const QStringList& captions, int degreeFormat)
       m_survey(measureModeText(1).toStdString())
 {
     for (const QString& caption : captions)
-        m_columns.push_back(surveyCsvColumn(caption));
-    m_isIdentified =
+        m_columns.push_back(surveyColumnOf(caption));
+    m_hasNumbers =
         holds(m_columns, &SurveyPoint::lineNumber) && holds(m_columns, &SurveyPoint::pointNumber);
 }
 
@@ -45,10 +38,10 @@ std::string_view SurveyRowWriter::heading()
 
 std::string_view SurveyRowWriter::row(const SurveyPoint& point)
 {
-    if (!m_isIdentified)
+    if (!m_hasNumbers)
         return {};
     m_row.clear();
-    for (const SurveyCsvColumn* column : m_columns) {
+    for (const SurveyColumn* column : m_columns) {
         if (column == nullptr)
             m_row.addText({});
         else
@@ -57,27 +50,29 @@ std::string_view SurveyRowWriter::row(const SurveyPoint& point)
     return m_row.finished();
 }
 
-void SurveyRowWriter::addField(const SurveyPoint& point, const SurveyCsvColumn& column)
+void SurveyRowWriter::addField(const SurveyPoint& point, const SurveyColumn& column)
 {
-    switch (column.form) {
+    switch (column.csv) {
     case Form::Text:
-        return m_row.addText(valueOf<std::string>(point, column));
+        return m_row.addText(fieldOf<std::string>(point, column));
     case Form::PointNumber:
         return m_row.addText(writtenPointNumber(point.pointNumber));
     case Form::PointMark:
         return m_row.addText(point.pointMark == 0 ? "S" : "R");
     case Form::Angle:
-        return m_row.addAngle(m_angles, valueOf<double>(point, column));
-    case Form::Fixed:
-        return m_row.addFixed(valueOf<double>(point, column), column.decimals);
-    case Form::Age:
-        return m_row.addGeneral(valueOf<double>(point, column));
+        return m_row.addAngle(m_angles, fieldOf<double>(point, column));
+    case Form::Decimals4:
+        return m_row.addFixed(fieldOf<double>(point, column), 4);
+    case Form::Decimals6:
+        return m_row.addFixed(fieldOf<double>(point, column), 6);
+    case Form::SixDigitsReadWhole:
+        return m_row.addGeneral(fieldOf<double>(point, column));
     case Form::Integer:
-        return m_row.addInteger(valueOf<std::int32_t>(point, column));
-    case Form::Offset:
-        return m_row.addInteger(valueOf<std::int64_t>(point, column));
+        return m_row.addInteger(fieldOf<std::int32_t>(point, column));
+    case Form::WholePart:
+        return m_row.addInteger(fieldOf<std::int64_t>(point, column));
     case Form::Time:
-        return m_row.addTime(m_times, valueOf<std::int64_t>(point, column));
+        return m_row.addTime(m_times, fieldOf<std::int64_t>(point, column));
     case Form::MeasureMode:
         return m_row.addText(point.measureMode == 0 ? m_loft : m_survey);
     case Form::SolutionType:

@@ -4,7 +4,7 @@
 #include "exchange/AngleText.h"
 #include "exchange/CsvRow.h"
 #include "exchange/SolutionTypeNames.h"
-#include "exchange/SurveyCsvColumns.h"
+#include "model/SurveyColumns.h"
 
 #include <QStringList>
 
@@ -14,22 +14,22 @@
 class SurveyRowWriter
 {
 public:
-    /// \param captions     of the columns, in their order; one that no column has stays empty
-    /// \param degreeFormat see AngleText
+    /// \param captions     of the columns, in their order; the column of an unknown caption is
+    /// empty \param degreeFormat see AngleText
     SurveyRowWriter(const QStringList& captions, int degreeFormat);
 
     /// The line of the captions, with its end; valid until the next call, as all lines are.
     [[nodiscard]] std::string_view heading();
 
-    /// The point's line, with its end; nothing when the columns lack line or point number.
+    /// The point's line, with its end; empty when line or point number is not among the columns.
     [[nodiscard]] std::string_view row(const SurveyPoint& point);
 
 private:
-    void addField(const SurveyPoint& point, const SurveyCsvColumn& column);
+    void addField(const SurveyPoint& point, const SurveyColumn& column);
 
     QStringList m_captions;
-    std::vector<const SurveyCsvColumn*> m_columns; ///< null for an unknown caption
-    bool m_isIdentified;                           ///< by line and point number
+    std::vector<const SurveyColumn*> m_columns; ///< null for an unknown caption
+    bool m_hasNumbers;                          ///< line and point number are among the columns
     AngleText m_angles;
     basalt::LocalTimes m_times;
     SolutionTypeNames m_solutions;

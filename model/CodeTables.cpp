@@ -13,7 +13,7 @@ struct SolutionType
     const char* name;
 };
 
-// A name that stands twice is read back as the first.
+// Of a name that stands twice, reading it gives the first code.
 constexpr std::array<SolutionType, 7> kSolutionTypes{{
     {0, QT_TRANSLATE_NOOP("CodeTables", "invalid")},
     {1, QT_TRANSLATE_NOOP("CodeTables", "single")},
@@ -89,4 +89,10 @@ QString obstacleText(int code)
 {
     const bool isKnown = code > 0 && code < static_cast<int>(kObstacles.size());
     return translated(kObstacles[isKnown ? static_cast<std::size_t>(code) : 0]);
+}
+
+QString measureModeText(int mode)
+{
+    return translated(mode == 0 ? QT_TRANSLATE_NOOP("CodeTables", "loft")
+                                : QT_TRANSLATE_NOOP("CodeTables", "survey"));
 }

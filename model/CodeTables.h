@@ -12,3 +12,6 @@
 
 /// The name of an obstacle, 1 to 33; "undefined" for any other code.
 [[nodiscard]] QString obstacleText(int code);
+
+/// The name of a measuring mode: "loft" for 0, stake-out, otherwise "survey".
+[[nodiscard]] QString measureModeText(int mode);

@@ -5,7 +5,7 @@ namespace CoordinateRecord {
 
 inline constexpr const char* kTable = "CoordinateSystemItem";
 
-/// The parameters, comma-separated: the keys to copy, and the columns in the order written.
+/// The keys of the parameters, comma-separated; they are also the columns, in this order.
 inline constexpr const char* kKeys =
     "ellipsoid_name,ellipsoid_a,ellipsoid_f,project_type,axis_direction,org_lon,org_lat,"
     "false_east,false_north,factor,project_height,cutting_radius,parallel_1_lat,parallel_2_lat,"
@@ -15,7 +15,7 @@ inline constexpr const char* kKeys =
     "fit_a2,fit_a3,fit_a4,fit_a5,fit_x0,fit_y0,ver_valid,ver_mode,ver_x_slope,ver_y_slope,ver_h,"
     "ver_x0,ver_y0";
 
-/// Which coordinate system it is, beside its parameters.
+/// The name of the coordinate system, such as "EPSG:32650"; the last column.
 inline constexpr const char* kId = "coord_param_id";
 inline constexpr const char* kUndefinedId = "Undefined";
 

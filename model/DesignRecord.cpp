@@ -1,11 +1,20 @@
 #include "model/DesignRecord.h"
 
-#include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
 #include "model/RowNumbers.h"
 #include "model/RowText.h"
 
 namespace DesignRecord {
+
+std::string columns()
+{
+    std::string list;
+    for (const Column& column : kColumns) {
+        list += list.empty() ? "" : ",";
+        list += column.key;
+    }
+    return list;
+}
 
 void write(const DesignPoint& point, RecordTexts& texts)
 {
@@ -23,9 +32,8 @@ void write(const DesignPoint& point, RecordTexts& texts)
 DesignPoint Reader::read(const IDictionary& row)
 {
     if (!m_isReady) {
-        std::string_view names = kColumns;
-        for (std::size_t& place : m_places)
-            place = columnPlace(row, next_word3(names, ','));
+        for (std::size_t i = 0; i < kColumns.size(); ++i)
+            m_places[i] = columnPlace(row, kColumns[i].key);
         m_isReady = true;
     }
     const auto text = [&](std::size_t column) {

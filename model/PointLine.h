@@ -10,14 +10,17 @@
 
 /// The points of one line, ordered by the bytes of their numbers, each number once.
 ///
-/// An ordered map in short sorted blocks: points that come in order are appended, others move only
-/// a block's neighbours. Whoever changes a point through an iterator leaves its number alone.
-/// Pointers and iterators are valid until the next `set`, `erase` or `clear`.
+/// An ordered map that keeps its points in short sorted blocks. A point that comes in order is
+/// appended, any other moves at most the points of its block. A caller may change a point through
+/// an iterator, but not its number. Pointers and iterators are valid until the next `set`, `erase`,
+/// `merge` or `clear`.
 template <class Point>
 class PointLine
 {
     using Block = std::vector<Point>;
     static constexpr std::size_t kBlockSize = 128;
+    static_assert(std::is_nothrow_move_constructible_v<Point> &&
+                  std::is_nothrow_move_assignable_v<Point>);
 
     template <bool isConst>
     class Iterator
@@ -120,9 +123,63 @@ public:
         m_size = 0;
     }
 
+    /// What `merge` needs beforehand, since it must not fail.
+    struct Merging
+    {
+        std::size_t replaced = 0;   ///< points of this line that are in the later one, too
+        std::vector<Block> newRoom; ///< for the points of both lines; none when all are replaced
+    };
+    [[nodiscard]] Merging prepareMerge(const PointLine& later) const
+    {
+        Merging merging;
+        for (const Point& point : later)
+            merging.replaced += find(point.pointNumber) != nullptr ? 1U : 0U;
+        if (merging.replaced == later.size())
+            return merging;
+        const std::size_t size = m_size + later.m_size - merging.replaced;
+        merging.newRoom.resize((size + kBlockSize - 1) / kBlockSize);
+        for (Block& block : merging.newRoom)
+            block.reserve(kBlockSize);
+        return merging;
+    }
+    /// Takes over all points of `later`, over those that stand here.
+    /// \param merging from `prepareMerge(later)`, with both lines unchanged since
+    void merge(PointLine&& later, Merging&& merging) noexcept
+    {
+        if (merging.newRoom.empty()) {
+            for (Point& point : later)
+                *find(point.pointNumber) = std::move(point);
+        } else {
+            moveBoth(later, merging.newRoom);
+        }
+        later.clear();
+    }
+
 private:
-    /// Block and place of the first point that is not before `number`; behind the last block's
-    /// last point when all are.
+    void moveBoth(PointLine& later, std::vector<Block>& room) noexcept
+    {
+        auto block = room.begin();
+        const auto append = [&](Point& point) {
+            if (block->size() == kBlockSize)
+                ++block;
+            block->push_back(std::move(point));
+        };
+        iterator own = begin();
+        for (Point& point : later) {
+            for (; own != end() && own->pointNumber < point.pointNumber; ++own)
+                append(*own);
+            if (own != end() && own->pointNumber == point.pointNumber)
+                ++own;
+            append(point);
+        }
+        for (; own != end(); ++own)
+            append(*own);
+        m_blocks = std::move(room);
+        m_size = (m_blocks.size() - 1) * kBlockSize + m_blocks.back().size();
+    }
+
+    /// Block and place of the first point whose number is `number` or greater; the end of the last
+    /// block when there is none.
     [[nodiscard]] std::pair<std::size_t, std::size_t> placeOf(std::string_view number) const
     {
         if (m_blocks.empty())
@@ -145,8 +202,9 @@ private:
                m_blocks[block][place].pointNumber == number;
     }
 
-    /// Splits a full block in which a point is wanted at `place`: in the middle, or behind its end
-    /// when points come in order, which leaves full blocks behind.
+    /// Makes room in a full block for a point at `place`, and corrects both. The block is split in
+    /// the middle; behind its last point it gets an empty neighbour, so that points that come in
+    /// order leave full blocks.
     void makeRoom(std::size_t& block, std::size_t& place)
     {
         const std::size_t cut = place == kBlockSize ? kBlockSize : kBlockSize / 2;
@@ -162,6 +220,6 @@ private:
         }
     }
 
-    std::vector<Block> m_blocks; ///< none empty; sorted, and each sorted
+    std::vector<Block> m_blocks; ///< in order, each sorted and none empty
     std::size_t m_size = 0;
 };

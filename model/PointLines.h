@@ -6,9 +6,11 @@
 
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
-/// All points of one kind: lines by number, ordered by its bytes ("10" comes before "9"), and in
-/// each its points. No line is empty.
+/// All points of one kind, line by line. Lines are ordered by the bytes of their numbers ("10"
+/// comes before "9"), and no line is empty.
 ///
 ///     for (const auto& [lineNumber, line] : points)
 ///         for (const Point& point : line)
@@ -72,7 +74,7 @@ public:
     /// Files the point under its line and number, over the one that stands there.
     Point& set(Point&& point)
     {
-        // Points mostly come line by line.
+        // The next point is mostly of the same line.
         if (m_last == nullptr || m_last->first != point.lineNumber)
             m_last = &*m_lines.try_emplace(point.lineNumber).first;
         return m_last->second.set(std::move(point));
@@ -106,17 +108,27 @@ public:
         m_last = nullptr;
     }
 
-    /// Takes over all points of `later`, over those that stand here.
-    void merge(PointLines&& later)
+    /// Takes over all points of `later`, over those that stand here. An exception (no memory)
+    /// leaves both as they were.
+    /// \returns how many points were replaced
+    std::size_t merge(PointLines&& later)
     {
-        m_lines.merge(later.m_lines); // whole lines, where they are new
+        std::vector<std::pair<Line*, typename Line::Merging>> known; // in the order of `later`
         for (auto& [number, line] : later.m_lines) {
-            Line& target = m_lines.find(number)->second;
-            for (Point& point : line)
-                target.set(std::move(point));
+            if (Line* const own = findLine(number); own != nullptr)
+                known.emplace_back(own, own->prepareMerge(line));
+        }
+        std::size_t replaced = 0;
+        m_lines.merge(later.m_lines); // takes the new lines and leaves those that are known
+        auto next = known.begin();
+        for (auto& [number, line] : later.m_lines) {
+            replaced += next->second.replaced;
+            next->first->merge(std::move(line), std::move(next->second));
+            ++next;
         }
         later.clear();
         m_last = nullptr;
+        return replaced;
     }
 
 private:

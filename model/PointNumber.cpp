@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kCheckPointSize = 9;
 
-/// Where the character number `count` of a UTF-8 text begins; npos when the text is shorter.
+/// The bytes of the first `count` characters of a UTF-8 text; npos when it has fewer.
 std::size_t offsetOf(std::string_view text, std::size_t count)
 {
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -20,7 +20,7 @@ std::size_t offsetOf(std::string_view text, std::size_t count)
     return count == 0 ? text.size() : std::string_view::npos;
 }
 
-/// What stands before a check point's counter, and the counter.
+/// A check point's number without its counter, and the counter.
 std::pair<std::string_view, int> counted(const SurveyPoint& point)
 {
     const std::string_view number = point.pointNumber;
@@ -94,7 +94,14 @@ SurveyPoint& SurveyPointFiler::file(SurveyPoint&& point)
         int& counter = m_counters[point.lineNumber + ',' + base];
         do {
             point.pointNumber = base + std::to_string(counter++);
-        } while (m_points.find(point.lineNumber, point.pointNumber) != nullptr);
+        } while (isTaken(point));
     }
     return m_points.set(std::move(point));
+}
+
+bool SurveyPointFiler::isTaken(const SurveyPoint& point) const
+{
+    return m_points.find(point.lineNumber, point.pointNumber) != nullptr ||
+           (m_standing != nullptr &&
+            m_standing->find(point.lineNumber, point.pointNumber) != nullptr);
 }

@@ -7,37 +7,45 @@
 #include <unordered_map>
 #include <vector>
 
-// Points that begin with "C" are check points: "C" and the eight characters of the point that is
-// measured again. In memory each has a counter behind it ("C10012034_0"), so that the line can hold
-// all measurements; files and databases carry the nine characters alone. So of check points no
-// later row takes the place of an earlier one.
+// A check point measures a point again: its number is "C" and the eight characters of that point.
+// It may be measured many times, so in memory a counter stands behind the number ("C10012034_0"),
+// and no measurement replaces another. Files and databases hold the nine characters alone.
 
-/// The number as it is written: a check point's first nine characters, any other whole.
+/// The number as files and databases hold it: without the counter of a check point.
 [[nodiscard]] std::string_view writtenPointNumber(std::string_view pointNumber);
 
-/// Whether `pointNumber` names a check point, which gets a counter when it is filed.
+/// Whether `pointNumber` names a check point; with or without its counter.
 [[nodiscard]] bool isCheckPoint(std::string_view pointNumber);
 
-/// The points of a line in the order in which they are written: the line's own, but the
-/// measurements of one check point as they were counted ("_2" before "_10"), so that they get the
-/// same counters when they are read again. Valid as long as the line's iterators.
+/// The points of a line in the order in which files and databases hold them. It is the line's own
+/// order, but the measurements of one check point stand in the order of their counters ("_2" before
+/// "_10"): so they get the same counters when they are read again. Valid as long as the line's
+/// iterators.
 [[nodiscard]] std::vector<const SurveyPoint*> writtenOrder(const PointLine<SurveyPoint>& line);
 [[nodiscard]] std::vector<const DesignPoint*> writtenOrder(const PointLine<DesignPoint>& line);
 
-/// Files the points of one file: remembers the counters that check points have got, so that many of
-/// one number cost no more than others.
+/// Gives the survey points of one file or table their places in a container. It remembers the
+/// counters that check points have got, so that many measurements of one point cost no more than
+/// others.
 class SurveyPointFiler
 {
 public:
-    explicit SurveyPointFiler(SurveyPoints& points) : m_points(points) {}
+    /// \param standing points beside those of `points` whose counters are taken; or null
+    explicit SurveyPointFiler(SurveyPoints& points, const SurveyPoints* standing = nullptr)
+        : m_points(points), m_standing(standing)
+    {
+    }
 
-    /// A point without a line goes to `kEmptyLine`, or to the line that the check point's own
+    /// A point without a line goes to `kEmptyLine`; a check point without one to the line that its
     /// number names (characters 2 to 5). A check point gets the next free counter; any other point
     /// replaces the one with its number.
     SurveyPoint& file(SurveyPoint&& point);
 
 private:
-    SurveyPoints& m_points; // loses no point meanwhile
-    std::unordered_map<std::string, int>
-        m_counters; ///< the first that may be free, by line and number
+    [[nodiscard]] bool isTaken(const SurveyPoint& point) const;
+
+    SurveyPoints& m_points; ///< nobody removes points from it meanwhile
+    const SurveyPoints* m_standing;
+    /// By line and number, the lowest counter that may be free.
+    std::unordered_map<std::string, int> m_counters;
 };

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <string_view>
 
-/// The texts of one record, column after column. Numbers are written into a buffer of its own,
-/// other texts are only pointed at: they must stay until the record is stored.
+/// The texts of one record, column after column. It writes numbers into a buffer of its own; of
+/// other texts it keeps a view, so they must live until the record is stored.
 class RecordTexts
 {
 public:

@@ -4,8 +4,9 @@
 
 #include <cstdint>
 
-/// Where the rows like `row` have the column `key`; their size when they have none.
+/// The place of the column `key` in `row`; the size of the row when it has no such column.
 [[nodiscard]] std::size_t columnPlace(const IDictionary& row, std::string_view key);
 
-/// The integer that `text` begins with, a number's decimals cut off; 0 when it begins with none.
+/// The number that `text` begins with, without its decimals; 0 when it begins with none, or with
+/// one that 64 bits do not hold.
 [[nodiscard]] std::int64_t readInteger64(std::string_view text);

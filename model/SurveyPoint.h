@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-/// The name of the line of all points that were surveyed without one.
+/// The line of all points that were surveyed without a line number.
 inline constexpr const char* kEmptyLine = "EmptyLine";
 
 /// A GNSS result. Lengths are metres, angles decimal degrees, times milliseconds since 1970 UTC.
@@ -37,7 +37,7 @@ struct SurveyPoint
     std::int32_t solutionType = 0; ///< see CodeTables.h
     std::string instrumentType;
     std::string instrumentSerialNumber;
-    std::int32_t qualityStandard = 0; ///< verdict of the quality check, a digit a family of tests
+    std::int32_t qualityStandard = 0; ///< what the quality check found, see QualityCheck.h
     double designNorth = 0;
     double designEast = 0;
     double designElevation = 0;
@@ -48,7 +48,7 @@ struct SurveyPoint
     std::string remarks;
     std::string obstacle; ///< its name, see CodeTables.h
     std::string photoPath;
-    std::int32_t isResurvey = 0; ///< the resurvey check's finding, 0 to 3; 0 before it
+    std::int32_t isResurvey = 0; ///< what the resurvey check found, 0 to 3; 0 before it
     double resurveyXDiff = 0;
     double resurveyYDiff = 0;
     double resurveyHDiff = 0;

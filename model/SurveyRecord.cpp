@@ -9,49 +9,54 @@ namespace SurveyRecord {
 
 namespace {
 
-bool isStored(const SurveyColumn& column)
+using Form = StoredForm;
+
+void writeField(const SurveyPoint& point, const SurveyColumn& column, RecordTexts& texts)
 {
-    return column.key != std::string_view(kSeaHeight);
+    switch (column.stored) {
+    case Form::None:
+        return;
+    case Form::Text:
+        return texts.add(fieldOf<std::string>(point, column));
+    case Form::PointNumber:
+        return texts.add(writtenPointNumber(point.pointNumber));
+    case Form::Integer:
+        return texts.addInteger(fieldOf<std::int32_t>(point, column));
+    case Form::LongInteger:
+        return texts.addInteger(fieldOf<std::int64_t>(point, column));
+    case Form::Decimals4:
+        return texts.addFixed(fieldOf<double>(point, column), 4);
+    case Form::Decimals8:
+        return texts.addFixed(fieldOf<double>(point, column), 8);
+    case Form::SixDigitsReadWhole:
+        return texts.addGeneral(fieldOf<double>(point, column));
+    }
 }
 
-/// Appends one field, by its type.
-struct FieldWriter
+void readField(std::string_view text, const SurveyColumn& column, SurveyPoint& point)
 {
-    const SurveyPoint& point;
-    int decimals;
-    RecordTexts& texts;
-
-    void operator()(std::string SurveyPoint::*field) const { texts.add(point.*field); }
-    void operator()(std::int32_t SurveyPoint::*field) const { texts.addInteger(point.*field); }
-    void operator()(std::int64_t SurveyPoint::*field) const { texts.addInteger(point.*field); }
-    void operator()(double SurveyPoint::*field) const
-    {
-        if (decimals == kGeneral)
-            texts.addGeneral(point.*field);
-        else
-            texts.addFixed(point.*field, decimals);
+    switch (column.stored) {
+    case Form::None:
+        return;
+    case Form::Text:
+    case Form::PointNumber:
+        fieldOf<std::string>(point, column) = rowText(text);
+        return;
+    case Form::Integer:
+        fieldOf<std::int32_t>(point, column) = basalt::parseInteger(text);
+        return;
+    case Form::LongInteger:
+        fieldOf<std::int64_t>(point, column) = readInteger64(text);
+        return;
+    case Form::Decimals4:
+    case Form::Decimals8:
+        fieldOf<double>(point, column) = basalt::readDecimal(text);
+        return;
+    case Form::SixDigitsReadWhole:
+        fieldOf<double>(point, column) = basalt::parseInteger(text);
+        return;
     }
-};
-
-/// Sets one field, by its type.
-struct FieldReader
-{
-    SurveyPoint& point;
-    int decimals;
-    std::string_view text;
-
-    void operator()(std::string SurveyPoint::*field) const { point.*field = rowText(text); }
-    void operator()(std::int32_t SurveyPoint::*field) const
-    {
-        point.*field = basalt::parseInteger(text);
-    }
-    void operator()(std::int64_t SurveyPoint::*field) const { point.*field = readInteger64(text); }
-    void operator()(double SurveyPoint::*field) const
-    {
-        point.*field =
-            decimals == kGeneral ? basalt::parseInteger(text) : basalt::readDecimal(text);
-    }
-};
+}
 
 } // namespace
 
@@ -59,7 +64,7 @@ std::string columns()
 {
     std::string list;
     for (const SurveyColumn& column : surveyColumns()) {
-        if (!isStored(column))
+        if (column.stored == Form::None)
             continue;
         list += list.empty() ? "" : ",";
         list += column.key;
@@ -70,12 +75,8 @@ std::string columns()
 void write(const SurveyPoint& point, RecordTexts& texts)
 {
     texts.clear();
-    for (const SurveyColumn& column : surveyColumns()) {
-        if (column.member == SurveyColumn::Member(&SurveyPoint::pointNumber))
-            texts.add(writtenPointNumber(point.pointNumber));
-        else if (isStored(column))
-            std::visit(FieldWriter{point, column.decimals, texts}, column.member);
-    }
+    for (const SurveyColumn& column : surveyColumns())
+        writeField(point, column, texts);
 }
 
 SurveyPoint Reader::read(const IDictionary& row)
@@ -83,13 +84,13 @@ SurveyPoint Reader::read(const IDictionary& row)
     if (m_places.empty()) {
         for (const SurveyColumn& column : surveyColumns()) {
             const std::size_t place = columnPlace(row, column.key);
-            if (place < row.size() && isStored(column))
+            if (place < row.size())
                 m_places.push_back({place, &column});
         }
     }
     SurveyPoint point;
     for (const auto& [index, column] : m_places)
-        std::visit(FieldReader{point, column->decimals, row.valueAt(index)}, column->member);
+        readField(row.valueAt(index), *column, point);
     return point;
 }
 

@@ -13,18 +13,18 @@ namespace SurveyRecord {
 
 inline constexpr const char* kTable = "ExplorationResultItem";
 
-/// The columns in the order written, comma-separated.
+/// The keys of the stored columns, comma-separated.
 [[nodiscard]] std::string columns();
 
-/// The texts of `columns()`, in place of what `texts` held; the point number as it is written.
+/// Puts the texts of `columns()` into `texts`, in place of what it held.
 void write(const SurveyPoint& point, RecordTexts& texts);
 
 /// Reads the rows of one statement or record set, which all have the columns of the first.
 class Reader
 {
 public:
-    /// The row as it stands, to be filed with `SurveyPointFiler`. What is missing or no number
-    /// reads as 0; the age of the corrections loses its decimals.
+    /// The row as it stands; `SurveyPointFiler` gives it its place. A number that is missing or
+    /// cannot be read is 0.
     [[nodiscard]] SurveyPoint read(const IDictionary& row);
 
 private:

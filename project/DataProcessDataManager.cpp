@@ -68,17 +68,10 @@ int answered(const Outcome& outcome, Outcome* asked)
     return logged(outcome).toFlag();
 }
 
-/// \param fault  of a writer; empty when it has written
-Outcome exported(const QString& path, const QString& fault)
+/// An import that is done tells what became of the file's lines.
+Outcome withSummary(const Outcome& outcome, const ImportSummary& summary)
 {
-    if (fault.isEmpty())
-        return Outcome::done();
-    return Outcome::failed(QStringLiteral("Cannot write \"%1\": %2").arg(path, fault));
-}
-
-Outcome imported(bool isRead, const ImportSummary& summary)
-{
-    return isRead ? Outcome::done(summary.toText()) : Outcome::failed(summary.toText());
+    return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
 }
 } // namespace
 
@@ -215,16 +208,15 @@ int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QStr
                                             bool onlyUnsurveyed, Outcome* outcome)
 {
     ProgressReporter progress(&m_host.eventManager());
-    const QString fault = writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress);
-    return answered(exported(path, fault), outcome);
+    return answered(writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress), outcome);
 }
 
 int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcome)
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
-    const bool isRead = readDesignCsv(path, m_design, progress, summary);
-    return answered(imported(isRead, summary), outcome);
+    const Outcome reading = readDesignCsv(path, m_design, progress, summary);
+    return answered(withSummary(reading, summary), outcome);
 }
 
 int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QString& path,
@@ -235,16 +227,15 @@ int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QStr
     const SurveyCsvChoice choice{captions.isEmpty() ? m_exportCaptions : captions,
                                  get_system_status_dictionary().integer(status::kDegreeFormat)};
     ProgressReporter progress(&m_host.eventManager());
-    const QString fault = writeSurveyCsv(path, m_survey, lines, choice, progress);
-    return answered(exported(path, fault), outcome);
+    return answered(writeSurveyCsv(path, m_survey, lines, choice, progress), outcome);
 }
 
 int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome)
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
-    const bool isRead = readSurveyCsv(path, m_survey, progress, summary);
-    return answered(imported(isRead, summary), outcome);
+    const Outcome reading = readSurveyCsv(path, m_survey, progress, summary);
+    return answered(withSummary(reading, summary), outcome);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)

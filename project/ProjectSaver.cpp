@@ -6,6 +6,7 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
+#include "model/ProjectTables.h"
 #include "model/SurveyRecord.h"
 #include "project/DatabaseReason.h"
 #include "project/RowFormatter.h"
@@ -16,22 +17,6 @@
 #include <array>
 
 namespace {
-
-struct LaterColumn
-{
-    const char* name;
-    const char* type;
-};
-
-// What databases of earlier versions lack, in the order in which it is added.
-constexpr std::array<LaterColumn, 6> kLaterColumns{{
-    {"age_of_diff", "INTEGER"},
-    {"sat_detail", "TEXT"},
-    {"base_station_id", "TEXT"},
-    {"start_time", "REAL"},
-    {"end_time", "REAL"},
-    {"raw_offset", "REAL"},
-}};
 
 QString caption(const char* text)
 {
@@ -118,13 +103,12 @@ bool ProjectSaver::addMissingColumns()
     const std::string statement(schema.isEmpty() ? "" : schema[0].text("sql"));
     if (statement.empty())
         return true;
-    for (const auto& [name, type] : kLaterColumns) {
+    for (const auto& [name, type] : laterSurveyColumns()) {
         // A plain search in the whole statement, as in every earlier version: a column counts as
         // present also when its name is a part of another column's name.
         if (statement.find(name) != std::string::npos)
             continue;
-        const std::string change =
-            std::string("alter table ExplorationResultItem add ") + name + ' ' + type;
+        const std::string change = "alter table ExplorationResultItem add " + name + ' ' + type;
         if (!m_database.execute(change.c_str()))
             return false;
     }
@@ -133,7 +117,7 @@ bool ProjectSaver::addMissingColumns()
 
 bool ProjectSaver::writeDesign(const DesignPoints& design)
 {
-    const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::kColumns);
+    const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::columns().c_str());
     return rows &&
            insertPoints(*rows, design, DesignRecord::write, m_progress,
                         caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Design Data")));

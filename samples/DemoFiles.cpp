@@ -88,7 +88,7 @@ QString writeSurvey(const QString& path, const SurveyPoints& survey)
     for (const auto& [number, line] : survey)
         lines << QString::fromStdString(number);
     ProgressReporter nobody(nullptr);
-    return writeSurveyCsv(path, withLocalTimes(survey), lines, {surveyCaptions()}, nobody);
+    return writeSurveyCsv(path, withLocalTimes(survey), lines, {surveyCaptions()}, nobody).text();
 }
 
 } // namespace

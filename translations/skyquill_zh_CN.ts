@@ -216,6 +216,14 @@
         <source>pipeline</source>
         <translation>管线</translation>
     </message>
+    <message>
+        <source>loft</source>
+        <translation>放样</translation>
+    </message>
+    <message>
+        <source>survey</source>
+        <translation>测量</translation>
+    </message>
 </context>
 <context>
     <name>CommandList</name>
@@ -451,10 +459,33 @@
     </message>
 </context>
 <context>
+    <name>CsvFaults</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The points are as they were before.</source>
+        <translation>点数据保持原样。</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+</context>
+<context>
     <name>CsvInput</name>
     <message>
         <source>It is not a file.</source>
         <translation>它不是文件。</translation>
+    </message>
+    <message>
+        <source>It became shorter meanwhile.</source>
+        <translation>该文件在读取过程中变短了。</translation>
     </message>
 </context>
 <context>
@@ -755,10 +786,6 @@
 </context>
 <context>
     <name>ImportSummary</name>
-    <message>
-        <source>&quot;%1&quot; cannot be read: %2</source>
-        <translation>无法读取“%1”：%2</translation>
-    </message>
     <message>
         <source>Line %1: %2</source>
         <translation>第 %1 行：%2</translation>
@@ -1458,14 +1485,6 @@
 </context>
 <context>
     <name>SurveyCsv</name>
-    <message>
-        <source>loft</source>
-        <translation>放样</translation>
-    </message>
-    <message>
-        <source>survey</source>
-        <translation>测量</translation>
-    </message>
     <message>
         <source>The point has no number.</source>
         <translation>该点没有点号。</translation>

@@ -15,11 +15,10 @@ using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
 constexpr std::int64_t kDay = 86400;
-/// Changes of a zone are looked for in periods of this length, at steps that none falls between
-/// twice.
+/// The changes of a zone are searched period by period. Within one step there is one at most.
 constexpr std::int64_t kPeriod = std::int64_t(1) << 24U;
 constexpr std::int64_t kStep = std::int64_t(1) << 14U;
-/// Periods that are remembered, from 1895 to 2215; whatever lies outside is no measurement.
+/// The periods that are remembered last from 1895 to 2215; no survey result lies outside.
 constexpr std::int64_t kPeriods = 461;
 constexpr std::int64_t kFirstPeriod = -141;
 
@@ -35,7 +34,7 @@ std::int64_t systemOffset(std::int64_t utc)
     return ::localtime_r(&time, &civil) == nullptr ? 0 : civil.tm_gmtoff;
 }
 
-/// The first second after `from`, up to `to`, from which the offset of `to` holds.
+/// The first second after `from` that has the offset of `to`.
 std::int64_t changeBetween(std::int64_t from, std::int64_t to, std::int64_t offsetAtTo)
 {
     while (to - from > 1) {
@@ -51,7 +50,7 @@ void writeDigits(char* to, int count, unsigned value)
         *--place = static_cast<char>('0' + value % 10);
 }
 
-/// The number that `count` digits are; -1 when one is none.
+/// The value of `count` digits; -1 when one of the characters is no digit.
 int readDigits(const char* from, int count)
 {
     int value = 0;
@@ -63,7 +62,7 @@ int readDigits(const char* from, int count)
     return value;
 }
 
-/// "yyyy/MM/dd"; nothing for a year without four digits.
+/// Writes "yyyy/MM/dd"; an empty text for a year that has not four digits.
 void writeDay(char* to, std::int64_t day)
 {
     const year_month_day date{sys_days{days{day}}};
@@ -77,7 +76,7 @@ void writeDay(char* to, std::int64_t day)
     writeDigits(to + 8, 2, static_cast<unsigned>(date.day()));
 }
 
-/// Seconds since 1970 as the clock shows them.
+/// The seconds since 1970 that a clock shows, whatever its zone.
 std::optional<std::int64_t> readClock(std::string_view text)
 {
     if (text.size() != LocalTimes::kTextSize || text[4] != '/' || text[7] != '/' ||
@@ -163,9 +162,10 @@ std::int64_t LocalTimes::offsetAt(std::int64_t utc)
 
 std::int64_t LocalTimes::toUtc(std::int64_t local)
 {
-    // A day apart lie the offsets before and behind any change that may be near.
+    // Two days cover any offset: no change is near.
     if (local - kDay * 2 >= m_last.from && local + kDay * 2 < m_last.to)
         return local - m_last.offset;
+    // A change may be near: try the offset before it, then the one after it.
     const std::int64_t before = offsetAt(local - kDay);
     if (offsetAt(local - before) == before)
         return local - before;

@@ -9,9 +9,11 @@
 
 namespace basalt {
 
-/// Moments as the date and time of one zone, "yyyy/MM/dd hh:mm:ss", and back: made for columns of
-/// times, some twenty nanoseconds each. Remembers the zone's changes that it met; one object serves
-/// one thread, and one operation, since it does not hear of a change of zone.
+/// Moments as the date and time of one zone, "yyyy/MM/dd hh:mm:ss", and back. It is made for
+/// columns of times and takes some ten nanoseconds for each, since it remembers the changes of the
+/// zone that it has met. Use one object in one thread for one operation: it does not notice when
+/// the user changes the zone. (CCTZ would be as right for named zones, but reads "TZ=CST-8" as
+/// UTC.)
 class LocalTimes
 {
 public:
@@ -24,20 +26,20 @@ public:
 
     /// \param milliseconds since 1970 UTC; parts of a second are cut off
     /// \param to at least `kTextSize` bytes
-    /// \returns the end of what was written; nothing is for years that have no four digits
+    /// \returns the end of what was written: `to` itself for a year that has not four digits
     char* write(char* to, std::int64_t milliseconds);
 
-    /// The reverse; nothing for a text of another form, or one that names no day or time of a day.
-    /// Of a time that occurs twice, when clocks are set back, the first is taken. One that they
-    /// jump over is moved on by as much as they jump.
+    /// The reverse; no value for a text of another form, or one that names no day or time of a day.
+    /// When clocks are set back, a time occurs twice: the first is taken. When they are set
+    /// forward, a time is left out: it is read as one that is later by as much.
     [[nodiscard]] std::optional<std::int64_t> read(std::string_view text);
 
 private:
-    /// From one change of the zone's offset to the next, seconds since 1970 UTC.
+    /// A time in which the zone's offset does not change, in seconds since 1970 UTC.
     struct Span
     {
         std::int64_t from = 0;
-        std::int64_t to = 0; ///< the first second behind
+        std::int64_t to = 0; ///< the first second of the next span
         std::int64_t offset = 0;
     };
     using Spans = std::vector<Span>;
@@ -46,10 +48,10 @@ private:
     std::int64_t toUtc(std::int64_t local);
     const Spans& spansOf(std::int64_t period);
 
-    Span m_last; ///< the one last met, mostly the next one too
+    Span m_last; ///< the last one used; the next moment mostly lies in it
     std::unordered_map<std::int64_t, Spans> m_periods;
-    std::int64_t m_day = 0;  ///< since 1970, the one last written
-    char m_dayText[11] = ""; ///< "yyyy/MM/dd", empty when it cannot be written
+    std::int64_t m_day = 0;  ///< the last one written, in days since 1970
+    char m_dayText[11] = ""; ///< as "yyyy/MM/dd"; empty for a year that has not four digits
     bool m_hasDay = false;
 };
 

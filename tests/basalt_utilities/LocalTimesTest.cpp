@@ -12,31 +12,11 @@ namespace {
 
 constexpr const char* kForm = "%Y/%m/%d %H:%M:%S";
 
-/// Sets "TZ" for as long as it lives.
-class Zone
+void useZone(const char* name)
 {
-public:
-    explicit Zone(const char* name)
-    {
-        if (const char* const before = std::getenv("TZ"); before != nullptr)
-            m_before = before;
-        ::setenv("TZ", name, 1);
-        ::tzset();
-    }
-    ~Zone()
-    {
-        if (m_before.empty())
-            ::unsetenv("TZ");
-        else
-            ::setenv("TZ", m_before.c_str(), 1);
-        ::tzset();
-    }
-    Zone(const Zone&) = delete;
-    Zone& operator=(const Zone&) = delete;
-
-private:
-    std::string m_before;
-};
+    ::setenv("TZ", name, 1);
+    ::tzset();
+}
 
 std::string written(basalt::LocalTimes& times, std::int64_t milliseconds)
 {
@@ -54,63 +34,51 @@ std::string plainlyWritten(std::int64_t seconds)
     return {text.data(), std::strftime(text.data(), text.size(), kForm, &civil)};
 }
 
-struct ChangeCase
+struct Moment
 {
-    const char* name;
-    const char* zone;
     const char* text;
     std::int64_t seconds; ///< since 1970 UTC
     const char* back;     ///< what is written for them
 };
 
-class LocalTimesChange : public testing::TestWithParam<ChangeCase>
+void expectMoments(const char* zoneName, std::initializer_list<Moment> moments)
 {
-};
+    useZone(zoneName);
+    basalt::LocalTimes times;
+    for (const auto& [text, seconds, back] : moments) {
+        EXPECT_EQ(times.read(text), seconds * 1000) << text;
+        EXPECT_EQ(written(times, seconds * 1000 + 999), back) << text;
+    }
+}
 
 } // namespace
 
-TEST_P(LocalTimesChange, IsReadAndWritten)
+TEST(LocalTimes, FollowTheChangesOfTheZone)
 {
-    const ChangeCase& test = GetParam();
-    const Zone zone(test.zone);
-    basalt::LocalTimes times;
-    EXPECT_EQ(times.read(test.text), test.seconds * 1000);
-    EXPECT_EQ(written(times, test.seconds * 1000 + 999), test.back);
+    expectMoments("Europe/Berlin",
+                  {{"2024/07/01 12:00:00", 1719828000, "2024/07/01 12:00:00"},
+                   {"2024/03/31 01:59:59", 1711846799, "2024/03/31 01:59:59"},
+                   {"2024/03/31 02:30:00", 1711848600, "2024/03/31 03:30:00"}, // does not exist
+                   {"2024/03/31 03:00:00", 1711846800, "2024/03/31 03:00:00"},
+                   {"2024/10/27 02:30:00", 1729989000, "2024/10/27 02:30:00"}, // occurs twice
+                   {"2024/10/27 03:00:00", 1729994400, "2024/10/27 03:00:00"}});
+    expectMoments("Pacific/Apia", // left a whole day out
+                  {{"2011/12/30 12:00:00", 1325282400, "2011/12/31 12:00:00"}});
+    expectMoments("Asia/Shanghai", {{"1970/01/01 08:00:00", 0, "1970/01/01 08:00:00"}});
+    expectMoments("CST-8", {{"1970/01/01 08:00:00", 0, "1970/01/01 08:00:00"}});
+    expectMoments("UTC", {{"1969/12/31 23:59:59", -1, "1969/12/31 23:59:59"},
+                          {"9999/12/31 23:59:59", 253402300799, "9999/12/31 23:59:59"}});
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Zones, LocalTimesChange,
-    testing::Values(ChangeCase{"Summer", "Europe/Berlin", "2024/07/01 12:00:00", 1719828000,
-                               "2024/07/01 12:00:00"},
-                    ChangeCase{"BeforeTheGap", "Europe/Berlin", "2024/03/31 01:59:59", 1711846799,
-                               "2024/03/31 01:59:59"},
-                    ChangeCase{"AnHourThatDoesNotExistIsMovedOn", "Europe/Berlin",
-                               "2024/03/31 02:30:00", 1711848600, "2024/03/31 03:30:00"},
-                    ChangeCase{"AfterTheGap", "Europe/Berlin", "2024/03/31 03:00:00", 1711846800,
-                               "2024/03/31 03:00:00"},
-                    ChangeCase{"OfAnHourThatOccursTwiceTheFirst", "Europe/Berlin",
-                               "2024/10/27 02:30:00", 1729989000, "2024/10/27 02:30:00"},
-                    ChangeCase{"AfterTheHourThatOccursTwice", "Europe/Berlin",
-                               "2024/10/27 03:00:00", 1729994400, "2024/10/27 03:00:00"},
-                    ChangeCase{"TheDayThatSamoaLeftOut", "Pacific/Apia", "2011/12/30 12:00:00",
-                               1325282400, "2011/12/31 12:00:00"},
-                    ChangeCase{"ChinaHasOneTime", "Asia/Shanghai", "1970/01/01 08:00:00", 0,
-                               "1970/01/01 08:00:00"},
-                    ChangeCase{"BeforeTheEpoch", "UTC", "1969/12/31 23:59:59", -1,
-                               "1969/12/31 23:59:59"},
-                    ChangeCase{"BeyondWhatIsRemembered", "UTC", "9999/12/31 23:59:59", 253402300799,
-                               "9999/12/31 23:59:59"}),
-    [](const auto& test) { return test.param.name; });
 
 TEST(LocalTimes, AgreeWithTheSystemOnAnyMoment)
 {
     for (const char* name :
          {"Europe/Berlin", "Australia/Lord_Howe", "Africa/Casablanca", "America/St_Johns",
           "Asia/Tehran", "Pacific/Apia", "CST6CDT,M3.2.0,M11.1.0"}) {
-        const Zone zone(name);
+        useZone(name);
         basalt::LocalTimes times;
         std::mt19937_64 random(11);
-        for (int i = 0; i < 20000; ++i) {
+        for (int i = 0; i < 10000; ++i) {
             const auto seconds = static_cast<std::int64_t>(random() % 9000000000U) - 2000000000;
             const std::string text = plainlyWritten(seconds);
             ASSERT_EQ(written(times, seconds * 1000), text) << name << ' ' << seconds;
@@ -125,7 +93,7 @@ TEST(LocalTimes, AgreeWithTheSystemOnAnyMoment)
 
 TEST(LocalTimes, KeepAFixedOffset)
 {
-    const Zone zone("Europe/Berlin");
+    useZone("Europe/Berlin");
     basalt::LocalTimes east(8);
     basalt::LocalTimes west(-11);
     EXPECT_EQ(written(east, 1719828000000), "2024/07/01 18:00:00");
@@ -133,7 +101,7 @@ TEST(LocalTimes, KeepAFixedOffset)
     EXPECT_EQ(written(west, 1719828000000), "2024/06/30 23:00:00");
 }
 
-TEST(LocalTimes, ReadNothingElse)
+TEST(LocalTimes, ReadAndWriteNothingElse)
 {
     basalt::LocalTimes times(0);
     for (const char* text :
@@ -142,11 +110,7 @@ TEST(LocalTimes, ReadNothingElse)
           "2024/07/01 12:60:00", "2024/07/01 12:00:60", "2024/07/01 12:00:0x",
           "2024/07/01 12:00:00Z", " 2024/07/01 12:00:0", "-024/07/01 12:00:00"})
         EXPECT_FALSE(times.read(text)) << text;
-}
-
-TEST(LocalTimes, WriteNothingForYearsWithoutFourDigits)
-{
-    basalt::LocalTimes times(0);
+    // The years without four digits, and the last second before them.
     EXPECT_EQ(written(times, 253402300800000), "");
     EXPECT_EQ(written(times, std::numeric_limits<std::int64_t>::max()), "");
     EXPECT_EQ(written(times, std::numeric_limits<std::int64_t>::min()), "");

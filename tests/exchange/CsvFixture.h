@@ -4,45 +4,28 @@
 #include "lum_sdk/events/EventManager.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "protocol/Events.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/EventLog.h"
+#include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <clocale>
 
-/// Files in a folder of their own, and what the progress bar hears.
-class CsvFixture : public testing::Test, public IEventHandler
+/// A file in a folder of its own, and what the progress bar hears.
+class CsvFixture : public testing::Test
 {
 protected:
-    CsvFixture() { events.subscribe(::events::kProgress, this); }
+    CsvFixture() { EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr); } // decimal commas
 
-    void handleEvent(const char* /*eventName*/, const char* payload, int /*reserved*/) override
+    [[nodiscard]] QString path() const { return folder.path("f %2.csv"); }
+    [[nodiscard]] QString file(const QByteArray& content) const
     {
-        heard.emplace_back(payload);
-    }
-
-    [[nodiscard]] QString path(const char* name = "f %2.csv") const
-    {
-        return folder.filePath(QString::fromUtf8(name));
-    }
-    [[nodiscard]] QString file(const QByteArray& content, const char* name = "f %2.csv") const
-    {
-        QFile written(path(name));
-        EXPECT_TRUE(written.open(QIODevice::WriteOnly));
-        EXPECT_EQ(written.write(content), content.size());
-        return written.fileName();
-    }
-    [[nodiscard]] static QByteArray content(const QString& path)
-    {
-        QFile read(path);
-        return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray("(no file)");
+        return folder.write("f %2.csv", content);
     }
 
-    QTemporaryDir folder;
+    TestFolder folder;
     EventManager events;
     ProgressReporter progress{&events};
-    std::vector<std::string> heard;
+    EventLog heard{events, ::events::kProgress};
     ImportSummary summary;
 };

@@ -19,81 +19,60 @@ basalt::Dictionary dictionaryOf(const Values& values)
     return dictionary;
 }
 
-} // namespace
-
-struct SameCase
+struct Pair
 {
     const char* name;
     Values first;
     Values second;
-    bool isSame;
 };
 
-class SameSystem : public testing::TestWithParam<SameCase>
+/// Judges each pair both ways round.
+void expectAll(bool areSame, const std::vector<Pair>& pairs)
 {
-};
-
-TEST_P(SameSystem, JudgesBothWaysRound)
-{
-    const SameCase& c = GetParam();
-    EXPECT_EQ(sameCoordSystem(dictionaryOf(c.first), dictionaryOf(c.second)), c.isSame);
-    EXPECT_EQ(sameCoordSystem(dictionaryOf(c.second), dictionaryOf(c.first)), c.isSame);
+    for (const auto& [name, first, second] : pairs) {
+        EXPECT_EQ(sameCoordSystem(dictionaryOf(first), dictionaryOf(second)), areSame) << name;
+        EXPECT_EQ(sameCoordSystem(dictionaryOf(second), dictionaryOf(first)), areSame) << name;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Projection, SameSystem,
-    testing::Values(
-        SameCase{"NothingAtAll", {}, {}, true},
-        SameCase{"MissingIsZero", {{"org_lat", 0}}, {}, true},
-        SameCase{
-            "WithinTolerance", {{"false_east", 500000}}, {{"false_east", 500000.0000005}}, true},
-        SameCase{
-            "BeyondTolerance", {{"false_east", 500000}}, {{"false_east", 500000.000002}}, false},
-        SameCase{"Kind", {{"project_type", 1}}, {{"project_type", 2}}, false},
-        SameCase{"Geoid", {{"geoid_valid", 1}}, {{"geoid_valid", 0}}, true},
-        SameCase{"OriginOfPlaneShift", {{"_4x0", 1}}, {{"_4x0", 2}}, true}),
-    [](const auto& test) { return test.param.name; });
+} // namespace
 
-INSTANTIATE_TEST_SUITE_P(
-    Groups, SameSystem,
-    testing::Values(
-        SameCase{"EnabledZeroShift", {{"_7type", 0}}, {{"_7type", 3}}, true},
-        SameCase{"EnabledShift", {}, {{"_7type", 3}, {"_7dx", 0.5}}, false},
-        SameCase{
-            "ParametersCancelNotOut", {}, {{"_7type", 3}, {"_7dx", 0.5}, {"_7dy", -0.5}}, false},
-        SameCase{"DisabledShift", {{"_7dx", 1}}, {{"_7dx", 2}}, true},
-        SameCase{"DisabledShiftBesideZero", {{"_7dx", 1}}, {{"_7type", 1}}, true},
-        SameCase{"KindOfShift", {{"_7type", 1}, {"_7dx", 5}}, {{"_7type", 2}, {"_7dx", 5}}, false},
-        SameCase{"KindOfZeroShift", {{"_7type", 1}}, {{"_7type", 2}}, false},
-        SameCase{"SwitchOfPlaneShift",
-                 {{"_4valid", 1}, {"_4dx", 3}},
-                 {{"_4valid", 5}, {"_4dx", 3}},
-                 true},
-        SameCase{"PlaneShift", {{"_4valid", 1}, {"_4r", 3}}, {{"_4valid", 1}, {"_4r", 4}}, false},
-        SameCase{"Constant", {}, {{"correct_valid", 1}, {"correct_dh", 0.1}}, false},
-        SameCase{"HeightFit", {{"fit_valid", 1}, {"fit_y0", 9}}, {}, false},
-        SameCase{"ConstantsOffBesideFitOn", {{"correct_dh", 1}}, {{"fit_valid", 2}}, true}),
-    [](const auto& test) { return test.param.name; });
-
-TEST(SameSystemKeys, EachOneCounts)
+TEST(SameCoordSystem, DespiteDifferencesWithoutEffect)
 {
-    for (const char* key :
-         {"project_height", "ellipsoid_a", "ellipsoid_f", "org_lon", "org_lat", "false_north",
-          "false_east", "factor", "cutting_radius", "parallel_1_lat", "parallel_2_lat", "p_r",
-          "lon1", "lon2", "lat1", "lat2"})
-        EXPECT_FALSE(sameCoordSystem(dictionaryOf({{key, 1}}), dictionaryOf({{key, 1.001}})))
-            << key;
-    using Group = std::pair<const char*, std::vector<const char*>>;
-    for (const auto& [flag, keys] :
-         {Group{"_7type", {"_7dx", "_7dy", "_7dz", "_7rx", "_7ry", "_7rz", "_7ppm"}},
-          Group{"_4valid", {"_4dx", "_4dy", "_4r", "_4s"}},
-          Group{"correct_valid", {"correct_dx", "correct_dy", "correct_dh"}},
-          Group{
-              "fit_valid",
-              {"fit_a0", "fit_a1", "fit_a2", "fit_a3", "fit_a4", "fit_a5", "fit_x0", "fit_y0"}}}) {
+    expectAll(true,
+              {{"nothing at all", {}, {}},
+               {"missing is zero", {{"org_lat", 0}}, {}},
+               {"tolerance", {{"false_east", 500000}}, {{"false_east", 500000.0000005}}},
+               {"geoid", {{"geoid_valid", 1}}, {{"geoid_valid", 0}}},
+               {"origin of the plane shift", {{"_4x0", 1}}, {{"_4x0", 2}}},
+               {"zero shift that is on", {{"_7type", 0}}, {{"_7type", 3}}},
+               {"shifts that are off", {{"_7dx", 1}}, {{"_7dx", 2}}},
+               {"off beside zero", {{"_7dx", 1}}, {{"_7type", 1}}},
+               {"value of a switch", {{"_4valid", 1}, {"_4dx", 3}}, {{"_4valid", 5}, {"_4dx", 3}}},
+               {"constants off beside fit on", {{"correct_dh", 1}}, {{"fit_valid", 2}}}});
+}
+
+TEST(SameCoordSystem, NotWithDifferencesThatShow)
+{
+    expectAll(false, {{"tolerance", {{"false_east", 500000}}, {{"false_east", 500000.000002}}},
+                      {"projection", {{"project_type", 1}}, {{"project_type", 2}}},
+                      {"shift on", {}, {{"_7type", 3}, {"_7dx", 0.5}}},
+                      {"no cancelling", {}, {{"_7type", 3}, {"_7dx", 0.5}, {"_7dy", -0.5}}},
+                      {"kind of shift", {{"_7type", 1}, {"_7dx", 5}}, {{"_7type", 2}, {"_7dx", 5}}},
+                      {"kind of zero shift", {{"_7type", 1}}, {{"_7type", 2}}},
+                      {"constant", {}, {{"correct_valid", 1}, {"correct_dh", 0.1}}},
+                      {"height fit", {{"fit_valid", 1}, {"fit_y0", 9}}, {}}});
+    const auto expectCounts = [](const char* flag, const std::vector<const char*>& keys) {
         for (const char* key : keys)
-            EXPECT_FALSE(sameCoordSystem(dictionaryOf({{flag, 1}, {key, 1}}),
-                                         dictionaryOf({{flag, 1}, {key, 1.001}})))
-                << key;
-    }
+            expectAll(false, {{key, {{flag, 1}, {key, 1}}, {{flag, 1}, {key, 1.001}}}});
+    };
+    expectCounts("of all",
+                 {"project_height", "ellipsoid_a", "ellipsoid_f", "org_lon", "org_lat",
+                  "false_north", "false_east", "factor", "cutting_radius", "parallel_1_lat",
+                  "parallel_2_lat", "p_r", "lon1", "lon2", "lat1", "lat2"});
+    expectCounts("_7type", {"_7dx", "_7dy", "_7dz", "_7rx", "_7ry", "_7rz", "_7ppm"});
+    expectCounts("_4valid", {"_4dx", "_4dy", "_4r", "_4s"});
+    expectCounts("correct_valid", {"correct_dx", "correct_dy", "correct_dh"});
+    expectCounts("fit_valid",
+                 {"fit_a0", "fit_a1", "fit_a2", "fit_a3", "fit_a4", "fit_a5", "fit_x0", "fit_y0"});
 }

@@ -21,61 +21,38 @@ basalt::Dictionary lifting()
     return system;
 }
 
-struct Survey
+/// What comes out for points of elevation 50 and altitudes 100, 101, ...; the latitude of the point
+/// number 1030 is none.
+std::vector<double> seaHeights(std::size_t count, ICoordTransform* transform, int geoidValid)
 {
-    explicit Survey(std::size_t count) : seaHeights(count, -1)
-    {
+    std::vector<double> heights(count, -1);
+    basalt::Dictionary parameters;
+    dic_set_value(parameters, "geoid_valid", geoidValid);
+    recomputeSeaHeights(transform, parameters, [&](const auto& visit) {
         for (std::size_t i = 0; i < count; ++i)
-            points.push_back({40, 117, 100 + double(i), 50, &seaHeights[i]});
-    }
-
-    void walk(const std::function<void(const SeaHeightPoint&)>& visit) const
-    {
-        for (const SeaHeightPoint& point : points)
-            visit(point);
-    }
-
-    void recompute(ICoordTransform* transform, int geoidValid)
-    {
-        basalt::Dictionary parameters;
-        dic_set_value(parameters, "geoid_valid", geoidValid);
-        recomputeSeaHeights(transform, parameters, [this](const auto& visit) { walk(visit); });
-    }
-
-    std::vector<double> seaHeights;
-    std::vector<SeaHeightPoint> points;
-};
+            visit({i == 1030 ? 95.0 : 40.0, 117, 100 + double(i), 50, &heights[i]});
+    });
+    return heights;
+}
 
 } // namespace
 
-TEST(SeaHeights, AreElevationsWithoutAGeoid)
+TEST(SeaHeights, AreElevationsWithoutAGeoidOrASystem)
 {
+    const std::vector<double> elevations(3, 50);
     CoordWjl service;
     service.initialise(lifting(), lifting());
-    Survey survey(3);
-    survey.recompute(&service, 0);
-    EXPECT_EQ(survey.seaHeights, (std::vector<double>{50, 50, 50}));
+    EXPECT_EQ(seaHeights(3, &service, 0), elevations);
+    EXPECT_EQ(seaHeights(3, nullptr, 1), elevations);
+    service.initialise(basalt::Dictionary(), basalt::Dictionary());
+    EXPECT_EQ(seaHeights(3, &service, 1), elevations);
 }
 
 TEST(SeaHeights, ComeFromTheTransformationOfTheAltitude)
 {
     CoordWjl service;
     service.initialise(basalt::Dictionary(), lifting()); // direction 2 is the one that counts
-    Survey survey(2500);                                 // more than two blocks
-    survey.points[1030].latitudeDeg = 95;
-    survey.recompute(&service, 1);
-    for (std::size_t i = 0; i < survey.points.size(); ++i)
-        EXPECT_NEAR(survey.seaHeights[i], i == 1030 ? 50 : 107 + double(i), 1e-9) << i;
-}
-
-TEST(SeaHeights, AreElevationsWhereTheSystemFails)
-{
-    CoordWjl service;
-    service.initialise(basalt::Dictionary(), basalt::Dictionary());
-    Survey survey(2);
-    survey.recompute(&service, 1);
-    EXPECT_EQ(survey.seaHeights, (std::vector<double>{50, 50}));
-    survey.seaHeights = {-1, -1};
-    survey.recompute(nullptr, 1);
-    EXPECT_EQ(survey.seaHeights, (std::vector<double>{50, 50}));
+    const std::vector<double> heights = seaHeights(2500, &service, 1); // more than two blocks
+    for (std::size_t i = 0; i < heights.size(); ++i)
+        EXPECT_NEAR(heights[i], i == 1030 ? 50 : 107 + double(i), 1e-9) << i;
 }

@@ -60,9 +60,11 @@ struct Files
                   QString());
         ProgressReporter nobody(nullptr);
         EXPECT_TRUE(
-            readDesignCsv(folder.path("design.csv"), design, nobody, summaries.emplace_back()));
+            readDesignCsv(folder.path("design.csv"), design, nobody, summaries.emplace_back())
+                .isDone());
         EXPECT_TRUE(
-            readSurveyCsv(folder.path("survey.csv"), survey, nobody, summaries.emplace_back()));
+            readSurveyCsv(folder.path("survey.csv"), survey, nobody, summaries.emplace_back())
+                .isDone());
         for (const QByteArray& line : text("faults.csv").trimmed().split('\n').mid(1)) {
             const QList<QByteArray> fields = line.split(',');
             EXPECT_EQ(fields.size(), 4) << line.constData();

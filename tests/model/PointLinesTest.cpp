@@ -41,10 +41,30 @@ void expectSame(const DesignPoints& points, const Reference& reference)
     EXPECT_EQ(points.pointCount(), count);
 }
 
+/// Merges new values of all points of line 0 and random points of the lines 1 to 4.
+void mergeSome(DesignPoints& points, Reference& reference, std::mt19937& random, unsigned range)
+{
+    DesignPoints later;
+    for (const auto& [number, north] : reference["0"])
+        later.set(point("0", number, -1));
+    for (unsigned i = 0; i < range; ++i)
+        later.set(point(std::to_string(1 + i % 4), std::to_string(random() % range), -1));
+    std::size_t replaced = 0;
+    for (const auto& [line, added] : later) {
+        for (const DesignPoint& each : added) {
+            replaced += reference[line].count(each.pointNumber);
+            reference[line][each.pointNumber] = -1;
+        }
+    }
+    EXPECT_EQ(points.merge(std::move(later)), replaced);
+    std::erase_if(reference, [](const auto& line) { return line.second.empty(); });
+    expectSame(points, reference);
+}
+
 } // namespace
 
-// Random insertions, replacements and removals against the standard map: few and large lines, so
-// that blocks split, run empty and meet at their borders.
+// Random insertions, replacements, removals and merges against the standard map: few and large
+// lines, so that blocks split, run empty and meet at their borders.
 TEST(PointLines, DoWhatAMapDoes)
 {
     std::mt19937 random(42);
@@ -66,6 +86,8 @@ TEST(PointLines, DoWhatAMapDoes)
             const DesignPoint* const found = points.find(line, number);
             const bool isThere = reference.contains(line) && reference[line].contains(number);
             ASSERT_EQ(found != nullptr, isThere);
+            if (step % 1000 == 999)
+                mergeSome(points, reference, random, range);
         }
         expectSame(points, reference);
     }
@@ -76,12 +98,19 @@ TEST(PointLines, KeepPointsThatComeInEitherOrder)
     DesignPoints points;
     Reference reference;
     for (int i = 10000; i < 11000; ++i) {
-        points.set(point("up", std::to_string(i), i));
-        points.set(point("down", std::to_string(21000 - i), i));
-        reference["up"][std::to_string(i)] = i;
-        reference["down"][std::to_string(21000 - i)] = i;
+        for (const auto& [line, number] : {std::pair("up", i), std::pair("down", 21000 - i)}) {
+            points.set(point(line, std::to_string(number), i));
+            reference[line][std::to_string(number)] = i;
+        }
     }
     expectSame(points, reference);
+    DesignPoints copy = points;
+    copy.set(point("up", "x", 2));
+    DesignPoints moved = std::move(copy);
+    moved.set(point("up", "y", 3));
+    expectSame(points, reference); // a copy is on its own
+    reference["up"].insert({{"x", 2}, {"y", 3}});
+    expectSame(moved, reference);
 }
 
 TEST(PointLines, OrderLinesByTheirBytes)
@@ -93,29 +122,4 @@ TEST(PointLines, OrderLinesByTheirBytes)
     for (const auto& [number, line] : points)
         order += number + ' ';
     EXPECT_EQ(order, " 10 9 B a 线 ");
-}
-
-TEST(PointLines, MergeLetsTheLaterPointWin)
-{
-    DesignPoints points;
-    DesignPoints later;
-    points.set(point("1", "1", 1));
-    points.set(point("1", "2", 2));
-    later.set(point("1", "2", 20));
-    later.set(point("1", "3", 30));
-    later.set(point("2", "1", 40));
-    points.merge(std::move(later));
-    expectSame(points, {{"1", {{"1", 1}, {"2", 20}, {"3", 30}}}, {"2", {{"1", 40}}}});
-}
-
-TEST(PointLines, ACopyIsOnItsOwn)
-{
-    DesignPoints points;
-    points.set(point("1", "1", 1));
-    DesignPoints copy = points;
-    copy.set(point("1", "2", 2));
-    DesignPoints moved = std::move(copy);
-    moved.set(point("1", "3", 3));
-    expectSame(points, {{"1", {{"1", 1}}}});
-    expectSame(moved, {{"1", {{"1", 1}, {"2", 2}, {"3", 3}}}});
 }

@@ -1,0 +1,109 @@
+#include "exchange/CsvImport.h"
+
+#include "CsvFixture.h"
+#include "exchange/DesignCsvReader.h"
+#include "model/PointLines.h"
+
+#include <chrono>
+#include <functional>
+
+namespace {
+
+/// An import of a file with more lines than the queue between its threads holds.
+class FailedImport : public CsvFixture
+{
+protected:
+    using Step = std::function<void(std::size_t line)>;
+
+    FailedImport()
+    {
+        points.set({"L", "1", 1, 1, 1, 1, 1, 1});
+        points.set({"old", "P", 2, 2, 2, 2, 2, 2});
+    }
+
+    /// Ends the program when the import waits for ever. `reading` and `filing` may throw.
+    Outcome import(const Step& reading, const Step& filing)
+    {
+        const QString name = file(QByteArray("a line\n").repeated(200000));
+        std::future<Outcome> outcome = std::async(std::launch::async, [&] {
+            ProgressReporter nobody(nullptr);
+            DesignPoints staged;
+            return importCsv(
+                {name, nobody, summary, QString()}, points, staged,
+                [&](std::string_view, DesignPoint& point, const ImportSummary& counts) {
+                    reading(counts.linesRead);
+                    point = {"L", std::to_string(counts.linesRead), 9, 9, 9, 9, 9, 9};
+                    return true;
+                },
+                [&](DesignPoint&& point) {
+                    filing(staged.pointCount());
+                    staged.set(std::move(point));
+                });
+        });
+        if (outcome.wait_for(std::chrono::seconds(60)) != std::future_status::ready)
+            qFatal("The import waits for ever.");
+        return outcome.get();
+    }
+
+    void expectFailure(const Outcome& outcome, const char* reason) const
+    {
+        EXPECT_EQ(outcome.kind(), Outcome::Kind::Failed);
+        EXPECT_EQ(outcome.text(),
+                  QStringLiteral("\"%1\" cannot be read: %2\nThe points are as they were before.")
+                      .arg(path(), QString::fromUtf8(reason)));
+        EXPECT_EQ(summary.pointsNew + summary.pointsReplaced + summary.linesRead, 0U);
+        EXPECT_EQ(points.pointCount(), 2U);
+        EXPECT_EQ(points.find("L", "1")->north, 1);
+        EXPECT_EQ(points.find("old", "P")->north, 2);
+    }
+
+    DesignPoints points;
+};
+
+void nothing(std::size_t /*line*/) {}
+
+} // namespace
+
+TEST_F(FailedImport, OfAReaderThatThrowsChangesNothing)
+{
+    const auto outcome = import(
+        [](std::size_t line) {
+            if (line == 100000)
+                throw std::runtime_error("broken");
+        },
+        nothing);
+    expectFailure(outcome, "broken");
+}
+
+TEST_F(FailedImport, WithoutMemoryForThePointsChangesNothing)
+{
+    const auto outcome = import(nothing, [](std::size_t count) {
+        if (count == 3)
+            throw std::bad_alloc();
+    });
+    expectFailure(outcome, "There is not enough memory.");
+}
+
+TEST_F(FailedImport, OfAFileThatBecomesShorterChangesNothing)
+{
+    const auto outcome = import(
+        [&](std::size_t line) {
+            if (line == 1)
+                QFile::resize(path(), 1000000);
+        },
+        nothing);
+    expectFailure(outcome, "It became shorter meanwhile.");
+}
+
+TEST_F(CsvFixture, WhatIsNoFileIsRefused)
+{
+    DesignPoints points;
+    for (const QString& name :
+         {folder.path("missing.csv"), folder.path(), QStringLiteral("/dev/null")}) {
+        const Outcome refused = readDesignCsv(name, points, progress, summary);
+        EXPECT_FALSE(refused.isDone());
+        EXPECT_TRUE(refused.text().startsWith(QStringLiteral("\"%1\" cannot be read: ").arg(name)));
+        EXPECT_FALSE(refused.text().contains(QLatin1Char('\n')));
+    }
+    EXPECT_TRUE(heard.events.empty());
+}
