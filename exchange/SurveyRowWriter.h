@@ -14,8 +14,8 @@
 class SurveyRowWriter
 {
 public:
-    /// \param captions     of the columns, in their order; the column of an unknown caption is
-    /// empty \param degreeFormat see AngleText
+    /// \param captions     of the columns, in their order; an unknown one has an empty column
+    /// \param degreeFormat see AngleText
     SurveyRowWriter(const QStringList& captions, int degreeFormat);
 
     /// The line of the captions, with its end; valid until the next call, as all lines are.

@@ -22,7 +22,8 @@ class Applicationx final : public QApplication
 
 public:
     /// Reads the configuration dictionary. When it cannot be read, the log says why, and the
-    /// defaults apply. \param argc,argv must outlive the application
+    /// defaults apply.
+    /// \param argc,argv must outlive the application
     Applicationx(int& argc, char** argv, const char* applicationId, const char* toolPath);
     ~Applicationx() override;
 
