@@ -35,6 +35,7 @@ std::vector<TableColumn> surveyTable()
 std::vector<TableColumn> designTable()
 {
     std::vector<TableColumn> columns;
+    columns.reserve(DesignRecord::kColumns.size());
     for (const DesignRecord::Column& column : DesignRecord::kColumns)
         columns.push_back({column.key, column.isInteger ? kInteger : kText});
     return columns;

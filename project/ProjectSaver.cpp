@@ -108,7 +108,8 @@ bool ProjectSaver::addMissingColumns()
         // present also when its name is a part of another column's name.
         if (statement.find(name) != std::string::npos)
             continue;
-        const std::string change = "alter table ExplorationResultItem add " + name + ' ' + type;
+        std::string change = "alter table ExplorationResultItem add ";
+        change.append(name).append(" ").append(type);
         if (!m_database.execute(change.c_str()))
             return false;
     }
