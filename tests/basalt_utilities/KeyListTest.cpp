@@ -21,7 +21,8 @@ struct KeyListCase
 // clang-format off
 const KeyListCase kCases[] = {
     {"", ',', "", true},
-    {"text=Loading Database,value=12.5,is_exec=0", ',', "text|Loading Database;value|12.5;is_exec|0;", true},
+    {"text=Loading Database,value=12.5,is_exec=0", ',',
+     "text|Loading Database;value|12.5;is_exec|0;", true},
     {"N=100.5  E=-7", ' ', "N|100.5;E|-7;", true},
     {"text=\"a,b=c\",value=1", ',', "text|a,b=c;value|1;", true},
     {"text=\"say \"\"hi\"\", now\",v=2", ',', "text|say \"hi\", now;v|2;", true},
