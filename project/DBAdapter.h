@@ -3,7 +3,7 @@
 #include "lum_sdk/database/IDBAdapter.h"
 
 /// The access to a project's database: hands every operation to an adapter that the factory makes.
-class DBAdapter final : public IDBAdapter
+class DBAdapter : public IDBAdapter
 {
 public:
     explicit DBAdapter(const char* kind = "sqlite");

@@ -214,9 +214,8 @@ class ProjectCommandsTest : public QObject
     {
         return m_host->commands().action(QString::fromUtf8(command));
     }
-    static bool isOpen() { return isOpen(""); }
     /// \param name  of the open project; any when it is empty
-    static bool isOpen(std::string_view name)
+    static bool isOpen(std::string_view name = {})
     {
         const IDictionary& values = get_system_status_dictionary();
         return values.text(status::kProjectOpen) == "1" &&

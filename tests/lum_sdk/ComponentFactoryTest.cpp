@@ -9,27 +9,21 @@
 
 namespace {
 
-struct Tool
-{
-    virtual ~Tool() = default;
-    std::string config;
-};
-
 int alive = 0;
 
-template <int N>
-struct NumberedTool final : Tool
+struct Tool
 {
-    NumberedTool() { ++alive; }
-    ~NumberedTool() override { --alive; }
+    explicit Tool(std::string text) : config(std::move(text)) { ++alive; }
+    ~Tool() { --alive; }
+    Tool(const Tool&) = delete;
+    Tool& operator=(const Tool&) = delete;
+    std::string config;
 };
 
 template <int N>
 Tool* create(const char* config)
 {
-    auto tool = std::make_unique<NumberedTool<N>>();
-    tool->config = std::string(config) + std::to_string(N);
-    return tool.release();
+    return std::make_unique<Tool>(config + std::to_string(N)).release();
 }
 
 void destroy(Tool* tool)

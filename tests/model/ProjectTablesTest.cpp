@@ -9,44 +9,33 @@
 
 namespace {
 
-/// The answers of the template database, a string a row.
-std::vector<std::string> answers(const std::string& query)
+/// The one answer of the template database.
+std::string answer(const std::string& query)
 {
-    std::vector<std::string> rows;
+    std::string text;
     sqlite3* database = nullptr;
     EXPECT_EQ(sqlite3_open_v2(TEMPLATE_DATABASE, &database, SQLITE_OPEN_READONLY, nullptr), 0);
     sqlite3_exec(
         database, query.c_str(),
-        [](void* all, int, char** values, char**) {
-            static_cast<std::vector<std::string>*>(all)->emplace_back(values[0]);
+        [](void* result, int, char** values, char**) {
+            *static_cast<std::string*>(result) = values[0];
             return 0;
         },
-        &rows, nullptr);
+        &text, nullptr);
     sqlite3_close(database);
-    return rows;
+    return text;
 }
 
+/// How SQLite keeps the statement of a table; a new line with its indent is one "~".
 std::string schema(const std::string& table)
 {
-    const auto rows = answers("select sql from sqlite_master where name='" + table + "'");
-    return rows.size() == 1 ? rows[0] : std::string();
+    return answer("select replace(sql, char(10) || '    ', '~') from sqlite_master where name='" +
+                  table + "'");
 }
 
 std::string columns(const std::string& table)
 {
-    std::string list;
-    for (const std::string& name : answers("select name from pragma_table_info('" + table + "')"))
-        list += (list.empty() ? "" : ",") + name;
-    return list;
-}
-
-/// How SQLite keeps the beginning of a table's statement.
-std::string beginning(const std::string& table, const std::string& list)
-{
-    std::string text = "CREATE TABLE " + table + " (\n    ";
-    for (const char c : list)
-        text += c == ',' ? ",\n    " : std::string(1, c);
-    return text;
+    return answer("select group_concat(name) from pragma_table_info('" + table + "')");
 }
 
 } // namespace
@@ -55,28 +44,25 @@ std::string beginning(const std::string& table, const std::string& list)
 TEST(ProjectTables, KeepTheirTextInTheDatabase)
 {
     EXPECT_EQ(schema("SurveyLineItem"),
-              beginning("SurveyLineItem", "line_num TEXT,point_num TEXT,north TEXT,east TEXT,"
-                                          "elevation TEXT,azimuth TEXT,type INTEGER,"
-                                          "status INTEGER") +
-                  "\n)");
-    const std::string survey = beginning(
-        "ExplorationResultItem",
-        "line_num TEXT,point_num TEXT,point_mark INTEGER,latitude TEXT,longitude TEXT,altitude "
-        "TEXT,"
-        "north TEXT,east TEXT,elevation TEXT,antenna_height TEXT,horizontal_accuracy TEXT,"
-        "vertical_accuracy TEXT,satellite_number INTEGER,pdop TEXT,hdop TEXT,vdop TEXT,"
-        "epoch_number INTEGER,reference_north TEXT,reference_east TEXT,reference_longitude TEXT,"
-        "reference_latitude TEXT,reference_altitude TEXT,reference_distance TEXT,date_time INTEGER,"
-        "measure_mode INTEGER,solution_type INTEGER,instrument_type TEXT,"
-        "instrument_serial_number TEXT,quality_standard INTEGER,design_north TEXT,design_east TEXT,"
-        "design_elevation TEXT,transversal_deviation TEXT,longitudinal_deviation TEXT,rms TEXT,"
-        "surveyor TEXT,remarks TEXT,obstacle TEXT,photo_path TEXT,is_resurvey INTEGER,"
-        "resurvey_x_diff TEXT,resurvey_y_diff TEXT,resurvey_h_diff TEXT,age_of_diff INTEGER,"
-        "sat_detail TEXT,start_time INTEGER,end_time INTEGER,raw_offset INTEGER,"
-        "base_station_id TEXT");
+              "CREATE TABLE SurveyLineItem (~line_num TEXT,~point_num TEXT,~north TEXT,~east TEXT,"
+              "~elevation TEXT,~azimuth TEXT,~type INTEGER,~status INTEGER\n)");
+    const std::string survey =
+        "CREATE TABLE ExplorationResultItem (~line_num TEXT,~point_num TEXT,~point_mark INTEGER,"
+        "~latitude TEXT,~longitude TEXT,~altitude TEXT,~north TEXT,~east TEXT,~elevation TEXT,"
+        "~antenna_height TEXT,~horizontal_accuracy TEXT,~vertical_accuracy TEXT,"
+        "~satellite_number INTEGER,~pdop TEXT,~hdop TEXT,~vdop TEXT,~epoch_number INTEGER,"
+        "~reference_north TEXT,~reference_east TEXT,~reference_longitude TEXT,"
+        "~reference_latitude TEXT,~reference_altitude TEXT,~reference_distance TEXT,"
+        "~date_time INTEGER,~measure_mode INTEGER,~solution_type INTEGER,~instrument_type TEXT,"
+        "~instrument_serial_number TEXT,~quality_standard INTEGER,~design_north TEXT,"
+        "~design_east TEXT,~design_elevation TEXT,~transversal_deviation TEXT,"
+        "~longitudinal_deviation TEXT,~rms TEXT,~surveyor TEXT,~remarks TEXT,~obstacle TEXT,"
+        "~photo_path TEXT,~is_resurvey INTEGER,~resurvey_x_diff TEXT,~resurvey_y_diff TEXT,"
+        "~resurvey_h_diff TEXT,~age_of_diff INTEGER,~sat_detail TEXT,~start_time INTEGER,"
+        "~end_time INTEGER,~raw_offset INTEGER,~base_station_id TEXT";
     EXPECT_EQ(schema("ExplorationResultItem").substr(0, survey.size()), survey);
     const std::string coordinates =
-        beginning("CoordinateSystemItem", "ellipsoid_name TEXT,ellipsoid_a TEXT,");
+        "CREATE TABLE CoordinateSystemItem (~ellipsoid_name TEXT,~ellipsoid_a TEXT,";
     EXPECT_EQ(schema("CoordinateSystemItem").substr(0, coordinates.size()), coordinates);
 }
 
@@ -99,17 +85,4 @@ TEST(ProjectTables, OfEarlierVersionsGetTheirColumnsInOrder)
     const std::string known = "age_of_diff INTEGER\nsat_detail TEXT\nbase_station_id TEXT\n"
                               "start_time REAL\nend_time REAL\nraw_offset REAL\n";
     EXPECT_EQ(added.substr(0, known.size()), known);
-}
-
-TEST(SurveyColumns, BeginWithTheFiftyCaptions)
-{
-    const QString captions = QStringLiteral(
-        "line num,point num,point mark,latitude,longitude,altitude,north,east,elevation,"
-        "antenna height,hor accu,ver accu,sat num,pdop,hdop,vdop,epoch num,ref north,ref east,"
-        "ref lon,ref lat,ref alt,ref dist,time,measure mode,solution type,instru type,"
-        "instru serial,quality,design north,design east,design elevation,trans deviation,"
-        "longi deviation,rms,surveyor,remarks,obstacle,photo,resurvey,resurvey x diff,"
-        "resurvey y diff,resurvey h diff,sea height,age of diff,sat detail,start time,end time,"
-        "raw offset,base_station_id");
-    EXPECT_EQ(surveyCaptions().mid(0, 50), captions.split(QLatin1Char(',')));
 }

@@ -38,22 +38,6 @@ TEST(DesignRecord, WritesEachValueInItsForm)
     EXPECT_EQ(joined(texts), "1001|10012034|4411825.1235|-0.5000|0.0000|360.000000|1|-2");
 }
 
-TEST(DesignRecord, ReadsWhatIsNoNumberAsZero)
-{
-    basalt::Dictionary row;
-    row.set("north", "12.5m");
-    row.set("east", "abc");
-    row.set("point_num", "7");
-    row.set("type", "1.9");
-    DesignRecord::Reader reader;
-    const DesignPoint point = reader.read(row);
-    EXPECT_EQ(point.pointNumber, "7");
-    EXPECT_EQ(point.north, 12.5);
-    EXPECT_EQ(point.east, 0);
-    EXPECT_EQ(point.azimuth, 0);
-    EXPECT_EQ(point.type, 1);
-}
-
 TEST(SurveyRecord, WritesEachValueInItsForm)
 {
     SurveyPoint point = pointOf("1001", "C12345678_3");

@@ -177,8 +177,6 @@ TEST_F(ProjectLife, AMissingDatabaseIsMadeBySavingAlone)
     createAndOpen();
     manager.surveyPoints().set(surveyPoint("L1", "7"));
     ASSERT_TRUE(QFile::remove(database));
-    expectFailure(other.openProject(place, ProjectAccess::Look), database.toUtf8());
-    EXPECT_FALSE(QFile::exists(database));
     expectDone(manager.saveProject(place));
     expectDone(manager.openProject(place));
     EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
@@ -197,14 +195,6 @@ TEST_F(ProjectLife, TheProjectFileThatWasOpenedIsWritten)
     expectDone(manager.saveProject(ProjectPlace::in(place.folder, place.name)));
     EXPECT_TRUE(TestFolder::read(renamed).contains("second"));
     EXPECT_FALSE(QFile::exists(place.file));
-
-    const ProjectPlace foreign = ProjectPlace::planned(root.path(), QStringLiteral("foreign"));
-    ASSERT_TRUE(QDir().mkpath(foreign.folder));
-    expectDone(ProjectCreator::create(foreign, basalt::Dictionary()));
-    write(foreign.file, "[Project]\nname=1\n");
-    expectNotice(manager.openProject(foreign), foreign.file.toUtf8());
-    expectDone(manager.saveProject(foreign));
-    EXPECT_EQ(TestFolder::read(foreign.file), "[Project]\nname=1\n");
 }
 
 TEST_F(ProjectLife, ParametersEndWithTheirProject)
@@ -240,15 +230,6 @@ TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
     }
     ASSERT_TRUE(QFile::setPermissions(place.folder, readOnly | QFile::WriteOwner));
     EXPECT_EQ(TestFolder::read(database), before);
-}
-
-TEST(ProjectPlace, TakesFolderAndNameFromTheFile)
-{
-    const ProjectPlace place = ProjectPlace::ofFile(QStringLiteral("/a b/x/north.part.kelx"));
-    EXPECT_EQ(place.folder, QStringLiteral("/a b/x"));
-    EXPECT_EQ(place.name, QStringLiteral("north"));
-    EXPECT_EQ(place.database(), QStringLiteral("/a b/x/north.db"));
-    EXPECT_EQ(place.file, QStringLiteral("/a b/x/north.part.kelx"));
 }
 
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)

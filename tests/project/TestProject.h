@@ -8,7 +8,6 @@
 #include "project/ProjectSaver.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 inline SurveyPoint surveyPoint(const std::string& line, const std::string& number,
                                const std::string& remarks = {})
@@ -27,15 +26,17 @@ struct TestProject
     SurveyPoints survey;
     basalt::Dictionary coordParameters;
 
+    template <class Adapter = DBAdapter>
     Outcome load(const std::string& path, IEventManager* events = nullptr)
     {
-        DBAdapter database;
+        Adapter database;
         ProgressReporter progress(events);
         return ProjectLoader(database, progress).load(path, design, survey, coordParameters);
     }
+    template <class Adapter = DBAdapter>
     Outcome save(const std::string& path, IEventManager* events = nullptr) const
     {
-        DBAdapter database;
+        Adapter database;
         ProgressReporter progress(events);
         return ProjectSaver(database, progress).save(path, design, survey, coordParameters);
     }

@@ -10,34 +10,17 @@ namespace {
 constexpr double kDegree = std::numbers::pi / 180;
 }
 
-struct AngleCase
+TEST(Angles, GoBothWays)
 {
-    const char* name;
-    double degrees;
-    double dms;
-};
-
-class AngleForms : public testing::TestWithParam<AngleCase>
-{
-};
-
-TEST_P(AngleForms, GoBothWays)
-{
-    const auto& [name, degrees, dms] = GetParam();
-    EXPECT_NEAR(covertToAngle(degrees), dms, 1e-12);
-    EXPECT_NEAR(convetFromAngle(dms), degrees, 1e-11);
-    EXPECT_NEAR(Angle2Radian(dms), degrees * kDegree, 1e-13);
+    for (const auto& [degrees, dms] :
+         {std::pair(0.0, 0.0), std::pair(-(12 + 34 / 60.0 + 56.789 / 3600), -12.3456789),
+          std::pair(12 + 34 / 60.0, 12.34), // whole minutes without an exact double
+          std::pair(-(7 / 60.0 + 5 / 3600.0), -0.0705), std::pair(405.5, 405.3)}) {
+        EXPECT_NEAR(covertToAngle(degrees), dms, 1e-12);
+        EXPECT_NEAR(convetFromAngle(dms), degrees, 1e-11);
+        EXPECT_NEAR(Angle2Radian(dms), degrees * kDegree, 1e-13);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Angles, AngleForms,
-    testing::Values(AngleCase{"Zero", 0, 0},
-                    AngleCase{"Negative", -(12 + 34 / 60.0 + 56.789 / 3600), -12.3456789},
-                    AngleCase{"WholeMinutesWithoutExactDouble", 12 + 34 / 60.0, 12.34},
-                    AngleCase{"BelowOneDegree", -(7 / 60.0 + 5 / 3600.0), -0.0705},
-                    AngleCase{"OneMinute", 1 / 60.0, 0.01},
-                    AngleCase{"BeyondTheCircle", 405.5, 405.3}),
-    [](const auto& test) { return test.param.name; });
 
 TEST(Angles, EveryMinuteOfTheCircleKeepsItsMinute)
 {

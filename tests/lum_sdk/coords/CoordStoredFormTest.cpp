@@ -14,47 +14,32 @@ basalt::Dictionary stored(const char* list)
 
 } // namespace
 
-struct StoredCase
+TEST(CoordStoredForm, HoldsWhatTheProjectionUses)
 {
-    const char* name;
-    const char* given;
-    const char* stored;
-};
-
-class CoordStoredForm : public testing::TestWithParam<StoredCase>
-{
-};
-
-TEST_P(CoordStoredForm, HoldsWhatTheProjectionUses)
-{
-    EXPECT_EQ(dictionary_to_csa(stored(GetParam().given)), GetParam().stored);
+    for (const auto& [given, expected] :
+         {std::pair("project_type=2,org_lon=115",
+                    "project_type=2,org_lon=117,factor=0.9996,false_east=500000"),
+          std::pair("project_type=2,org_lon=-58,org_lat=-30,parallel_1_lat=20,parallel_2_lat=40,"
+                    "factor=1,false_east=39500000,false_north=10000000",
+                    "project_type=2,org_lon=-57,org_lat=0,parallel_1_lat=0,parallel_2_lat=0,"
+                    "factor=0.9996,false_east=500000,false_north=10000000"),
+          // the first zone, from the other side
+          std::pair("project_type=2,org_lon=181",
+                    "project_type=2,org_lon=-177,factor=0.9996,false_east=500000"),
+          // right texts stay
+          std::pair("project_type=2,org_lon=117.0,factor=0.99960,false_east=5e5,org_lat=0.0",
+                    "project_type=2,org_lon=117.0,factor=0.99960,false_east=5e5,org_lat=0.0"),
+          // what the projection does not read becomes 0
+          std::pair("project_type=1,org_lat=4,p_r=5,lat1=1,lon1=2,lat2=3,lon2=4,cutting_radius=9,"
+                    "project_height=70,factor=0.999",
+                    "project_type=1,org_lat=4,p_r=0,lat1=0,lon1=0,lat2=0,lon2=0,cutting_radius=0,"
+                    "project_height=70,factor=0.999"),
+          std::pair("project_type=1,factor=0", "project_type=1,factor=1"),
+          std::pair("project_type=99,p_r=5", "project_type=99,p_r=5"),
+          std::pair("_7type=2,_7rx=1,_7px=5", "_7type=2,_7rx=1,_7px=5"),
+          std::pair("_7type=3,_7rx=1", "_7type=3,_7rx=1")})
+        EXPECT_EQ(dictionary_to_csa(stored(given)), expected) << given;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Parameters, CoordStoredForm,
-    testing::Values(
-        StoredCase{"UtmHasItsOwnValues", "project_type=2,org_lon=115",
-                   "project_type=2,org_lon=117,factor=0.9996,false_east=500000"},
-        StoredCase{"UtmAfterLambert",
-                   "project_type=2,org_lon=-58,org_lat=-30,parallel_1_lat=20,parallel_2_lat=40,"
-                   "factor=1,false_east=39500000,false_north=10000000",
-                   "project_type=2,org_lon=-57,org_lat=0,parallel_1_lat=0,parallel_2_lat=0,"
-                   "factor=0.9996,false_east=500000,false_north=10000000"},
-        StoredCase{"FirstZoneFromTheOtherSide", "project_type=2,org_lon=181",
-                   "project_type=2,org_lon=-177,factor=0.9996,false_east=500000"},
-        StoredCase{"RightTextsStay",
-                   "project_type=2,org_lon=117.0,factor=0.99960,false_east=5e5,org_lat=0.0",
-                   "project_type=2,org_lon=117.0,factor=0.99960,false_east=5e5,org_lat=0.0"},
-        StoredCase{"MercatorAfterOblique",
-                   "project_type=1,org_lat=4,p_r=5,lat1=1,lon1=2,lat2=3,lon2=4,cutting_radius=9,"
-                   "project_height=70,factor=0.999",
-                   "project_type=1,org_lat=4,p_r=0,lat1=0,lon1=0,lat2=0,lon2=0,cutting_radius=0,"
-                   "project_height=70,factor=0.999"},
-        StoredCase{"NoFactorIsOne", "project_type=1,factor=0", "project_type=1,factor=1"},
-        StoredCase{"UnknownProjection", "project_type=99,p_r=5", "project_type=99,p_r=5"},
-        StoredCase{"PivotOfAnotherKind", "_7type=2,_7rx=1,_7px=5", "_7type=2,_7rx=1,_7px=5"},
-        StoredCase{"PivotIsMissing", "_7type=3,_7rx=1", "_7type=3,_7rx=1"}),
-    [](const auto& test) { return test.param.name; });
 
 TEST(CoordStoredForm, UtmByHandIsThatOfTheRegister)
 {

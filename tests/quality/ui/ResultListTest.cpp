@@ -90,16 +90,11 @@ private:
         list->show();
         return list;
     }
-    /// What the menu key does.
-    static void openMenu(DlgQCResult& list)
+    /// Saves a list by the last entry of the menu, which the menu key opens.
+    static void saveByTheMenu(DlgQCResult& list)
     {
         QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
         QCoreApplication::sendEvent(list.findChild<CustomTableWidget*>(), &event);
-    }
-    /// Saves a list by the last entry of its menu.
-    static void saveByTheMenu(DlgQCResult& list)
-    {
-        openMenu(list);
         QWidget* const menu = QApplication::activePopupWidget();
         QVERIFY(menu != nullptr);
         QTest::keyClick(menu, Qt::Key_Up);
