@@ -63,8 +63,9 @@ INSTANTIATE_TEST_SUITE_P(
         ShownCase{"PositionVector", "_7type=1", "_7dx _7dy _7dz _7ppm _7rx _7ry _7rz"},
         ShownCase{"AboutAPivot", "_7type=3", "_7dx _7dy _7dz _7ppm _7px _7py _7pz _7rx _7ry _7rz"},
         ShownCase{"PlaneShift", "_4valid=5,correct_valid=0", "_4dx _4dy _4r _4s _4x0 _4y0"},
-        ShownCase{"HeightsAlone", "ver_valid=1,geoid_valid=1",
-                  "geoid_file ver_h ver_x0 ver_x_slope ver_y0 ver_y_slope"}),
+        ShownCase{"Corrections", "ver_valid=1,geoid_valid=1,correct_valid=1",
+                  "correct_dh correct_dx correct_dy geoid_file ver_h ver_x0 ver_x_slope ver_y0 "
+                  "ver_y_slope"}),
     [](const auto& test) { return test.param.name; });
 
 struct EllipsoidCase
@@ -100,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
         EllipsoidCase{"NothingSet", "", "Custom"}),
     [](const auto& test) { return test.param.name; });
 
-TEST(CoordSystemRows, PlaneUnitIsToldByTheFactor)
+TEST(CoordSystemRows, UnitFollowsTheFactorAndCaptionTheProjection)
 {
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=0.9996")), "m"_q);
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("")), "m"_q);
@@ -108,4 +109,6 @@ TEST(CoordSystemRows, PlaneUnitIsToldByTheFactor)
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=4.97")), QString()); // links
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("project_type=2,factor=3.2808")),
               "m"_q); // UTM has a factor of its own
+    EXPECT_EQ(CoordSystemRows::firstParallelCaption(parameters("project_type=5")),
+              "Rectified grid angle"_q);
 }
