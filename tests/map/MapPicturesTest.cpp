@@ -112,6 +112,7 @@ private Q_SLOTS:
                 point.north += 3900000;
                 point.east -= 3900000;
                 point.lineNumber = "1" + point.lineNumber;
+                point.type = number == "1007" ? 7 : point.type;
                 points.set(point);
             }
         }
@@ -156,26 +157,6 @@ private Q_SLOTS:
         check("the drawing area's edge", cut);
     }
 
-    void designMarksStandAtTheirPlaces()
-    {
-        DesignPoints points = TestSurvey().design(3, 4, 1);
-        for (DesignPoint& point : *points.findLine("1003"))
-            point.type = 7;
-        const PictureFrame frame = frameAt(4400100, 500025, 2);
-        const QImage picture = designPicture(points, frame, {25});
-        // The south line is 50 pixels below the middle, its points 12.5 pixels apart.
-        QCOMPARE(picture.pixelColor(128, 178), QColor(Qt::cyan));
-        QCOMPARE(picture.pixelColor(128, 128), QColor(Qt::darkBlue));
-        QCOMPARE(picture.pixelColor(128, 78), QColor(Qt::darkBlue));
-        QCOMPARE(picture.pixelColor(128, 175), QColor(Qt::cyan)); // a circle of radius 4
-        QCOMPARE(picture.pixelColor(128, 172), QColor(Qt::white));
-
-        const QImage sourcesHidden = designPicture(points, frame, {25, true, false});
-        QCOMPARE(sourcesHidden.pixelColor(128, 178), QColor(Qt::cyan)); // receivers
-        QCOMPARE(sourcesHidden.pixelColor(128, 128), QColor(Qt::white));
-        QCOMPARE(sourcesHidden.pixelColor(128, 78), QColor(Qt::darkBlue)); // neither
-    }
-
     void pointsAndLabelsNeedRoom()
     {
         const DesignPoints points = TestSurvey().design(1, 1, 1);
@@ -183,8 +164,7 @@ private Q_SLOTS:
             return paintedPixels(designPicture(points, frameAt(4400000, 500000, 1), {spacing}));
         };
         QVERIFY(painted(9.99) < painted(10)); // the circle is drawn
-        QCOMPARE(painted(10), painted(25));
-        QCOMPARE(painted(25), painted(79.99));
+        QCOMPARE(painted(10), painted(79.99));
         QVERIFY(painted(79.99) < painted(80)); // the labels are drawn
     }
 
@@ -289,6 +269,8 @@ private Q_SLOTS:
             result.referenceEast = broken;
             results.set(result);
         }
+        for (const double scale : {1e13, 1e-11})
+            designPicture(design, frameAt(4400000, 500025, scale), {25});
         const QImage picture = designPicture(design, frameAt(4400000, 500025, 1), {25});
         QCOMPARE(picture.pixelColor(128, 128), cleanDesign.pixelColor(128, 128));
         QCOMPARE(surveyPicture(results, frameAt(4400005, 500002.5, 1)).pixelColor(128, 128),
