@@ -92,46 +92,28 @@ TEST(FrameLayoutXml, AttributesReachTheComponentWhole)
     EXPECT_EQ(config.text("caption"), "N, with comma") << "components read what the entry shows";
 }
 
-struct BadLayout
+TEST(FrameLayoutXml, IsRefusedWholeWithItsLine)
 {
-    const char* name;
-    QByteArray xml;
-    const char* fault; ///< must stand in the message
-};
-
-class BadFrameLayout : public testing::TestWithParam<BadLayout>
-{
-};
-
-TEST_P(BadFrameLayout, IsRefusedWholeWithItsLine)
-{
-    FrameLayout layout = FrameLayout::minimal();
-    const std::string fault = desktop::readFrameLayout(GetParam().xml, layout).toStdString();
-    EXPECT_NE(fault.find(GetParam().fault), std::string::npos) << fault;
-    EXPECT_EQ(layout.menus.size(), 1U);
-    EXPECT_EQ(layout.windows.size(), 1U);
+    const std::pair<QByteArray, const char*> kCases[] = {
+        // text, part of the message
+        {"", "line 1"},
+        {"<main_frame>\n<menu caption=\"a\">\n<command", "line 3"},
+        {"<dictionary/>", "<main_frame>"},
+        {"<main_frame>\n<sidebar/></main_frame>", "line 2: unknown element <sidebar>"},
+        {"<main_frame><menu caption=\"a\">\n<button/></menu></main_frame>",
+         "line 2: unknown element <button>"},
+        {"<main_frame><menu caption=\"a\"><command name=\"n\"/></menu></main_frame>",
+         "<command> without class"},
+        {"<main_frame><window class=\"a\" name=\"b\"/></main_frame>", "<window> without area"},
+        {"<main_frame><window class=\"a\" name=\"b\" area=\"top\"/></main_frame>", "\"top\""},
+        {"<main_frame>" + QByteArray("<menu caption=\"a\">").repeated(5000) +
+             QByteArray("</menu>").repeated(5000) + "</main_frame>",
+         "nested too deeply"}};
+    for (const auto& [xml, part] : kCases) {
+        FrameLayout layout = FrameLayout::minimal();
+        const std::string fault = desktop::readFrameLayout(xml, layout).toStdString();
+        EXPECT_NE(fault.find(part), std::string::npos) << part << ": " << fault;
+        EXPECT_EQ(layout.menus.size(), 1U);
+        EXPECT_EQ(layout.windows.size(), 1U);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, BadFrameLayout,
-    testing::Values(
-        BadLayout{"Empty", "", "line 1"},
-        BadLayout{"CutOff", "<main_frame>\n<menu caption=\"a\">\n<command", "line 3"},
-        BadLayout{"OtherRoot", "<dictionary/>", "<main_frame>"},
-        BadLayout{"UnknownPart", "<main_frame>\n<sidebar/></main_frame>",
-                  "line 2: unknown element <sidebar>"},
-        BadLayout{"UnknownItem", "<main_frame><menu caption=\"a\">\n<button/></menu></main_frame>",
-                  "line 2: unknown element <button>"},
-        BadLayout{"NoClass",
-                  "<main_frame><menu caption=\"a\"><command name=\"n\"/></menu></main_frame>",
-                  "<command> without class"},
-        BadLayout{"NoArea", "<main_frame><window class=\"a\" name=\"b\"/></main_frame>",
-                  "<window> without area"},
-        BadLayout{"UnknownArea",
-                  "<main_frame><window class=\"a\" name=\"b\" area=\"top\"/></main_frame>",
-                  "\"top\""},
-        BadLayout{"TooDeep",
-                  "<main_frame>" + QByteArray("<menu caption=\"a\">").repeated(5000) +
-                      QByteArray("</menu>").repeated(5000) + "</main_frame>",
-                  "nested too deeply"}),
-    [](const auto& test) { return test.param.name; });
