@@ -125,7 +125,7 @@ private Q_SLOTS:
         };
         check("whole lines", frameAt(4400500, 500500, 6));
         check("points", frameAt(4400500, 500500, 2.4));
-        check("labels", frameAt(4400510, 500490, 0.25));
+        check("labels, where a block of marks ends", frameAt(4400510, 501590, 0.25));
         check("between the points", frameAt(4400500, 500510, 0.02));
         check("receiver lines only", frameAt(4400500, 500500, 6), 150, {25, true, false});
         check("source lines only", frameAt(4400500, 500500, 2.4), 150, {25, false, true});

@@ -372,7 +372,7 @@ private:
     [[nodiscard]] bool isShown(const char* caption) const
     {
         const QModelIndex index = cell(caption);
-        return !m_grid->isRowHidden(index.row(), index.parent());
+        return index.isValid() && !m_grid->isRowHidden(index.row(), index.parent());
     }
     [[nodiscard]] QString shown(const char* caption) const
     {
