@@ -66,17 +66,3 @@ public:
     TestCommandList commandList;
     CoordTransformHelper coordHelper;
 };
-
-/// Keeps the events to which a test has subscribed it.
-class TestListener final : public IEventHandler
-{
-public:
-    void handleEvent(const char* eventName, const char* payload, int /*reserved*/) override
-    {
-        names.append(QString::fromUtf8(eventName));
-        payloads.append(QString::fromUtf8(payload));
-    }
-
-    QStringList names;
-    QStringList payloads; ///< null for an event without payload
-};

@@ -112,6 +112,7 @@ private Q_SLOTS:
                 point.north += 3900000;
                 point.east -= 3900000;
                 point.lineNumber = "1" + point.lineNumber;
+                point.type = number == "1007" ? 7 : point.type;
                 points.set(point);
             }
         }
@@ -124,7 +125,7 @@ private Q_SLOTS:
         };
         check("whole lines", frameAt(4400500, 500500, 6));
         check("points", frameAt(4400500, 500500, 2.4));
-        check("labels", frameAt(4400510, 500490, 0.25));
+        check("labels, where a block of marks ends", frameAt(4400510, 501590, 0.25));
         check("between the points", frameAt(4400500, 500510, 0.02));
         check("receiver lines only", frameAt(4400500, 500500, 6), 150, {25, true, false});
         check("source lines only", frameAt(4400500, 500500, 2.4), 150, {25, false, true});
@@ -140,7 +141,11 @@ private Q_SLOTS:
 
     void surveyLooksAsDrawnPlainly()
     {
-        const SurveyPoints points = TestSurvey().results(9, 100, 3, 12);
+        SurveyPoints points = TestSurvey().results(9, 100, 3, 12);
+        for (SurveyPoint& point : *points.findLine("1004")) // not designed: one 0 is enough
+            point.designNorth = 0;
+        for (SurveyPoint& point : *points.findLine("1006"))
+            point.designEast = 0;
         const auto check = [&](const char* name, const PictureFrame& frame) {
             compare(name, surveyPicture(points, frame), pictureOf([&](QPainter& painter) {
                         paintSurveyPlainly(points, frame, painter);
@@ -156,26 +161,6 @@ private Q_SLOTS:
         check("the drawing area's edge", cut);
     }
 
-    void designMarksStandAtTheirPlaces()
-    {
-        DesignPoints points = TestSurvey().design(3, 4, 1);
-        for (DesignPoint& point : *points.findLine("1003"))
-            point.type = 7;
-        const PictureFrame frame = frameAt(4400100, 500025, 2);
-        const QImage picture = designPicture(points, frame, {25});
-        // The south line is 50 pixels below the middle, its points 12.5 pixels apart.
-        QCOMPARE(picture.pixelColor(128, 178), QColor(Qt::cyan));
-        QCOMPARE(picture.pixelColor(128, 128), QColor(Qt::darkBlue));
-        QCOMPARE(picture.pixelColor(128, 78), QColor(Qt::darkBlue));
-        QCOMPARE(picture.pixelColor(128, 175), QColor(Qt::cyan)); // a circle of radius 4
-        QCOMPARE(picture.pixelColor(128, 172), QColor(Qt::white));
-
-        const QImage sourcesHidden = designPicture(points, frame, {25, true, false});
-        QCOMPARE(sourcesHidden.pixelColor(128, 178), QColor(Qt::cyan)); // receivers
-        QCOMPARE(sourcesHidden.pixelColor(128, 128), QColor(Qt::white));
-        QCOMPARE(sourcesHidden.pixelColor(128, 78), QColor(Qt::darkBlue)); // neither
-    }
-
     void pointsAndLabelsNeedRoom()
     {
         const DesignPoints points = TestSurvey().design(1, 1, 1);
@@ -183,41 +168,8 @@ private Q_SLOTS:
             return paintedPixels(designPicture(points, frameAt(4400000, 500000, 1), {spacing}));
         };
         QVERIFY(painted(9.99) < painted(10)); // the circle is drawn
-        QCOMPARE(painted(10), painted(25));
-        QCOMPARE(painted(25), painted(79.99));
+        QCOMPARE(painted(10), painted(79.99));
         QVERIFY(painted(79.99) < painted(80)); // the labels are drawn
-    }
-
-    void resultsStandAtTheirPlaces()
-    {
-        SurveyPoint point;
-        point.lineNumber = "1";
-        point.pointNumber = "2";
-        point.north = 100;
-        point.east = 200;
-        point.designNorth = 160;
-        point.designEast = 200;
-        point.referenceNorth = 40;
-        point.referenceEast = 300;
-        SurveyPoints points;
-        points.set(point);
-        const PictureFrame frame = frameAt(100, 200, 1);
-        QImage picture = surveyPicture(points, frame);
-        QCOMPARE(picture.pixelColor(128, 128), QColor(Qt::red));
-        QCOMPARE(picture.pixelColor(228, 188), QColor(Qt::blue));
-        QVERIFY(picture.pixelColor(178, 158).green() > picture.pixelColor(178, 158).red());
-        QVERIFY(picture.pixelColor(128, 66) != QColor(Qt::white));
-        QVERIFY(picture.pixelColor(128, 124) != QColor(Qt::white)); // the first dash
-
-        for (double SurveyPoint::*coordinate :
-             {&SurveyPoint::designNorth, &SurveyPoint::designEast}) {
-            SurveyPoint plain = point;
-            plain.*coordinate = 0;
-            points.set(plain);
-            picture = surveyPicture(points, frame);
-            QCOMPARE(picture.pixelColor(128, 124), QColor(Qt::white));
-            QCOMPARE(picture.pixelColor(128, 66), QColor(Qt::white));
-        }
     }
 
     void aDesignPlaceTakesTheBrushInUse()
@@ -289,6 +241,8 @@ private Q_SLOTS:
             result.referenceEast = broken;
             results.set(result);
         }
+        for (const double scale : {1e13, 1e-11})
+            designPicture(design, frameAt(4400000, 500025, scale), {25});
         const QImage picture = designPicture(design, frameAt(4400000, 500025, 1), {25});
         QCOMPARE(picture.pixelColor(128, 128), cleanDesign.pixelColor(128, 128));
         QCOMPARE(surveyPicture(results, frameAt(4400005, 500002.5, 1)).pixelColor(128, 128),

@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <limits>
-#include <ostream>
 #include <random>
 
 namespace {
@@ -46,50 +45,31 @@ std::string nameOf(const DesignMarks& marks, double north, double east, double r
 
 } // namespace
 
-struct ExtentCase
+TEST(MarkExtent, IsTheMappedRectangle)
 {
-    const char* name;
-    std::vector<DesignPoint> points;
-    QRectF expected;
-};
-
-void PrintTo(const ExtentCase& test, std::ostream* out)
-{
-    *out << test.name;
+    const struct
+    {
+        const char* name;
+        std::vector<DesignPoint> points;
+        QRectF expected;
+    } kCases[] = {
+        {"nothing stands at the origin", {}, {0, 0, 10, 10}},
+        {"one place", {at("1", "1", 70, 20), at("2", "1", 70, 20)}, {20, 70, 10, 10}},
+        {"a north-south line", {at("1", "1", -70, 20), at("1", "2", 80, 20)}, {20, -70, 10, 150}},
+        {"below a tenth of a micrometre is nothing",
+         {at("1", "1", 0, 0), at("1", "2", 1.1e-7, 0.9e-7)},
+         {0, 0, 10, 1.1e-7}},
+        {"far points count",
+         {at("1", "1", 0, 0), at("2", "1", 1e12, -1e12)},
+         {-1e12, 0, 1e12, 1e12}},
+        {"broken points do not",
+         {at("1", "1", kNaN, 5), at("1", "2", 30, 40), at("1", "3", 50, -kNaN),
+          at("1", "4", 60, 80), at("1", "5", HUGE_VAL, 80)},
+         {40, 30, 40, 30}}};
+    for (const auto& [name, points, expected] : kCases)
+        EXPECT_EQ(markExtent(marksOf(pointsOf(points)).table().gridBounds(), kTurned), expected)
+            << name;
 }
-
-class MarkExtentOf : public testing::TestWithParam<ExtentCase>
-{
-};
-
-TEST_P(MarkExtentOf, IsTheMappedRectangle)
-{
-    const DesignMarks marks = marksOf(pointsOf(GetParam().points));
-    EXPECT_EQ(markExtent(marks.table().gridBounds(), kTurned), GetParam().expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Points, MarkExtentOf,
-    testing::Values(ExtentCase{"NothingStandsAtTheOrigin", {}, {0, 0, 10, 10}},
-                    ExtentCase{"OnePointGetsTenByTen", {at("1", "1", 70, 20)}, {20, 70, 10, 10}},
-                    ExtentCase{"AllAtOnePlace",
-                               {at("1", "1", 70, 20), at("1", "2", 70, 20), at("2", "1", 70, 20)},
-                               {20, 70, 10, 10}},
-                    ExtentCase{"NorthSouthLineGetsAWidth",
-                               {at("1", "1", -70, 20), at("1", "2", 80, 20)},
-                               {20, -70, 10, 150}},
-                    ExtentCase{"BelowATenthOfAMicrometreIsNothing",
-                               {at("1", "1", 0, 0), at("1", "2", 1.1e-7, 0.9e-7)},
-                               {0, 0, 10, 1.1e-7}},
-                    ExtentCase{"FarPointsCount",
-                               {at("1", "1", 0, 0), at("2", "1", 1e12, -1e12)},
-                               {-1e12, 0, 1e12, 1e12}},
-                    ExtentCase{"BrokenPointsDoNot",
-                               {at("1", "1", kNaN, 5), at("1", "2", 30, 40),
-                                at("1", "3", 50, -kNaN), at("1", "4", 60, 80),
-                                at("1", "5", HUGE_VAL, 80)},
-                               {40, 30, 40, 30}}),
-    [](const auto& test) { return test.param.name; });
 
 TEST(MarkTableNearest, KeepsTheFirstOfEqualsAndTheLimit)
 {

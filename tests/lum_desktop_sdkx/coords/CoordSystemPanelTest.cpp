@@ -58,8 +58,6 @@ private Q_SLOTS:
             const char* projection;
             const char* falseEasting; ///< null: not shown
         } cases[] = {{"32650", "EPSG:32650", "WGS 84", "UTM", nullptr},
-                     {"Beijing 1954 / 3-degree GK CM 117E", "EPSG:2436", "Krassowsky 1940",
-                      "Transverse Mercator", "500000 m"},
                      {"NAD27 / Texas South Central", "EPSG:32040", "Clarke 1866",
                       "Lambert conformal conic", "2000000 ft"}};
         for (const auto& [text, id, ellipsoid, projection, falseEasting] : cases) {
@@ -73,7 +71,6 @@ private Q_SLOTS:
             QVERIFY(!m_list->isVisible() && m_field->text().isEmpty());
             QCOMPARE(changed.count(), 1);
             QCOMPARE(value("coord_param_id"), QLatin1String(id));
-            QCOMPARE(value("ellipsoid_name"), QLatin1String(ellipsoid));
             QCOMPARE(shown("Ellipsoid"), QLatin1String(ellipsoid));
             QCOMPARE(shown("Projection"), QLatin1String(projection));
             QCOMPARE(isShown("False easting"), falseEasting != nullptr);
@@ -135,6 +132,7 @@ private Q_SLOTS:
         QCOMPARE(value("coord_param_id"), "EPSG:2436"_q);
         QCOMPARE(shifts()->currentText(), ordos);
         enter("False easting", "39500000"); // does not change the datum
+        QCOMPARE(value("coord_param_id"), "Undefined"_q);
         QCOMPARE(shifts()->currentText(), ordos);
         enter("Shift dX", "-12.6");
         QCOMPARE(shifts()->currentText(), "By the parameters below"_q);
@@ -152,26 +150,12 @@ private Q_SLOTS:
             {"4548", "The register knows no datum shift"_q},
             {"32650", {}}, // none is needed
             {"2100", {}}}; // one is taken
+        open({});
         for (const auto& [code, reason] : reasons) {
-            open({});
             choose(code);
             QVERIFY2(visibleText().contains(reason), code);
             QCOMPARE(visibleText().contains("taken as WGS 84"_q), !reason.isEmpty());
         }
-    }
-
-    void anEditMakesASystemItsOwn()
-    {
-        open({});
-        choose("32650");
-        const basalt::Dictionary chosen = m_dialog->parameters();
-        open(chosen);
-        QCOMPARE(value("coord_param_id"), "EPSG:32650"_q);
-        const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
-        enter("Central meridian", "111");
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(value("org_lon"), "111"_q);
-        QCOMPARE(value("coord_param_id"), "Undefined"_q);
     }
 
     void keepsNoValueOfAnotherProjection()
@@ -180,11 +164,13 @@ private Q_SLOTS:
         pick("Projection", "Lambert conformal conic");
         enter("First standard parallel", "30");
         pick("Projection", "UTM");
+        QVERIFY(!isShown("First standard parallel"));
         enter("Central meridian", "115");
         QCOMPARE(value("parallel_1_lat"), "0"_q);
         QCOMPARE(value("factor"), "0.9996"_q);
         QCOMPARE(value("org_lon"), "117"_q);
         pick("Projection", "Lambert conformal conic"); // the hidden value was kept
+        QVERIFY(isShown("First standard parallel"));
         QCOMPARE(value("parallel_1_lat"), "30"_q);
     }
 
@@ -201,28 +187,6 @@ private Q_SLOTS:
         QCOMPARE(value("ellipsoid_name"), "IAG 1975"_q);
         pick("Ellipsoid", "Custom");
         QCOMPARE(value("ellipsoid_a"), "6378140"_q);
-    }
-
-    void showsWhatTheProjectionAndSwitchesUse()
-    {
-        open(ownSystem());
-        QVERIFY(isShown("False easting") && !isShown("Second standard parallel"));
-        pick("Projection", "Albers equal area");
-        QVERIFY(isShown("First standard parallel") && isShown("Second standard parallel"));
-        pick("Projection", "Oblique Mercator");
-        QVERIFY(isShown("Rectified grid angle") && isShown("Azimuth of central line"));
-        pick("Projection", "UTM");
-        QVERIFY(!isShown("False easting") && isShown("False northing"));
-        pick("Projection", "None");
-        QVERIFY(!isShown("Central meridian") && !isShown("Height of projection surface"));
-        QCOMPARE(value("false_east"), "500000"_q); // the hidden value was kept
-
-        QVERIFY(!isShown("Correction height"));
-        check("Use correction");
-        QVERIFY(isShown("Correction height"));
-        QCOMPARE(value("correct_valid"), "1"_q);
-        check("Use correction");
-        QVERIFY(!isShown("Correction height"));
     }
 
     void refusesABadNumberWhereItStands()
@@ -244,6 +208,7 @@ private Q_SLOTS:
         press(QDialogButtonBox::Ok);
         QVERIFY(!m_dialog->isVisible());
         QCOMPARE(value("org_lat"), "31"_q);
+        QCOMPARE(changed.count(), 1);
     }
 
     void marksTheParameterThatSpoilsTheSystem()
@@ -407,7 +372,7 @@ private:
     [[nodiscard]] bool isShown(const char* caption) const
     {
         const QModelIndex index = cell(caption);
-        return !m_grid->isRowHidden(index.row(), index.parent());
+        return index.isValid() && !m_grid->isRowHidden(index.row(), index.parent());
     }
     [[nodiscard]] QString shown(const char* caption) const
     {

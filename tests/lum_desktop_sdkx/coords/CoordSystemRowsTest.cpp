@@ -33,74 +33,39 @@ std::string shownOf(const basalt::Dictionary& from)
 
 } // namespace
 
-struct ShownCase
+TEST(CoordSystemRows, ShowThoseThatCount)
 {
-    const char* name;
-    const char* parameters;
-    const char* shown;
-};
-
-class CoordRowsShown : public testing::TestWithParam<ShownCase>
-{
-};
-
-TEST_P(CoordRowsShown, AreThoseThatCount)
-{
-    EXPECT_EQ(shownOf(parameters(GetParam().parameters)), GetParam().shown);
+    const std::pair<const char*, const char*> kCases[] = {
+        {"", ""},
+        {"project_type=99", "project_height"},
+        {"project_type=2", "false_north org_lon project_height"},
+        {"project_type=9", "factor false_east false_north org_lat org_lon project_height"},
+        {"project_type=5", "factor false_east false_north lat1 lat2 lon1 lon2 org_lat org_lon p_r "
+                           "parallel_1_lat project_height"},
+        {"_7type=1", "_7dx _7dy _7dz _7ppm _7rx _7ry _7rz"},
+        {"_7type=3", "_7dx _7dy _7dz _7ppm _7px _7py _7pz _7rx _7ry _7rz"},
+        {"_4valid=5,correct_valid=0", "_4dx _4dy _4r _4s _4x0 _4y0"},
+        {"ver_valid=1,geoid_valid=1,correct_valid=1",
+         "correct_dh correct_dx correct_dy geoid_file ver_h ver_x0 ver_x_slope ver_y0 "
+         "ver_y_slope"}};
+    for (const auto& [list, shown] : kCases)
+        EXPECT_EQ(shownOf(parameters(list)), shown) << list;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    CoordSystemRows, CoordRowsShown,
-    testing::Values(
-        ShownCase{"NothingSet", "", ""},
-        ShownCase{"UnknownProjection", "project_type=99", "project_height"},
-        ShownCase{"Utm", "project_type=2", "false_north org_lon project_height"},
-        ShownCase{"Cassini", "project_type=9",
-                  "factor false_east false_north org_lat org_lon project_height"},
-        ShownCase{"Oblique", "project_type=5",
-                  "factor false_east false_north lat1 lat2 lon1 lon2 org_lat org_lon p_r "
-                  "parallel_1_lat project_height"},
-        ShownCase{"PositionVector", "_7type=1", "_7dx _7dy _7dz _7ppm _7rx _7ry _7rz"},
-        ShownCase{"AboutAPivot", "_7type=3", "_7dx _7dy _7dz _7ppm _7px _7py _7pz _7rx _7ry _7rz"},
-        ShownCase{"PlaneShift", "_4valid=5,correct_valid=0", "_4dx _4dy _4r _4s _4x0 _4y0"},
-        ShownCase{"HeightsAlone", "ver_valid=1,geoid_valid=1",
-                  "geoid_file ver_h ver_x0 ver_x_slope ver_y0 ver_y_slope"}),
-    [](const auto& test) { return test.param.name; });
-
-struct EllipsoidCase
+TEST(CoordSystemRows, EllipsoidIsNamedByAxisAndFlattening)
 {
-    const char* name;
-    const char* parameters;
-    const char* ellipsoid;
-};
-
-class EllipsoidName : public testing::TestWithParam<EllipsoidCase>
-{
-};
-
-TEST_P(EllipsoidName, FollowsAxisAndFlattening)
-{
-    EXPECT_EQ(CoordSystemRows::ellipsoidName(parameters(GetParam().parameters)).toStdString(),
-              GetParam().ellipsoid);
+    const std::pair<const char*, const char*> kCases[] = {
+        {"ellipsoid_a=6378245,ellipsoid_f=298.3", "Krassowsky 1940"},
+        {"ellipsoid_a=6378137,ellipsoid_f=298.257222101", "GRS 1980"},
+        {"ellipsoid_name=CGCS2000,ellipsoid_a=6378137,ellipsoid_f=298.257222101", "CGCS2000"},
+        {"ellipsoid_a=6378137,ellipsoid_f=298.257223563", "WGS 84"},
+        {"ellipsoid_name=WGS 84,ellipsoid_a=6378137.1,ellipsoid_f=298.257223563", "Custom"},
+        {"", "Custom"}};
+    for (const auto& [list, name] : kCases)
+        EXPECT_EQ(CoordSystemRows::ellipsoidName(parameters(list)).toStdString(), name) << list;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    CoordSystemRows, EllipsoidName,
-    testing::Values(
-        EllipsoidCase{"Known", "ellipsoid_a=6378245,ellipsoid_f=298.3", "Krassowsky 1940"},
-        EllipsoidCase{"FirstOfTwo", "ellipsoid_a=6378137,ellipsoid_f=298.257222101", "GRS 1980"},
-        EllipsoidCase{"SecondOfTwoStays",
-                      "ellipsoid_name=CGCS2000,ellipsoid_a=6378137,ellipsoid_f=298.257222101",
-                      "CGCS2000"},
-        EllipsoidCase{"NeighbourInFlattening", "ellipsoid_a=6378137,ellipsoid_f=298.257223563",
-                      "WGS 84"},
-        EllipsoidCase{"NameNoLongerFits",
-                      "ellipsoid_name=WGS 84,ellipsoid_a=6378137.1,ellipsoid_f=298.257223563",
-                      "Custom"},
-        EllipsoidCase{"NothingSet", "", "Custom"}),
-    [](const auto& test) { return test.param.name; });
-
-TEST(CoordSystemRows, PlaneUnitIsToldByTheFactor)
+TEST(CoordSystemRows, UnitFollowsTheFactorAndCaptionTheProjection)
 {
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=0.9996")), "m"_q);
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("")), "m"_q);
@@ -108,4 +73,6 @@ TEST(CoordSystemRows, PlaneUnitIsToldByTheFactor)
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=4.97")), QString()); // links
     EXPECT_EQ(CoordSystemRows::planeUnit(parameters("project_type=2,factor=3.2808")),
               "m"_q); // UTM has a factor of its own
+    EXPECT_EQ(CoordSystemRows::firstParallelCaption(parameters("project_type=5")),
+              "Rectified grid angle"_q);
 }

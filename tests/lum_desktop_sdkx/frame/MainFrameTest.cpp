@@ -34,7 +34,7 @@ namespace {
 
 int windowsAlive = 0;
 int executions = 0;
-bool mayClose = true;
+bool refuses = false;
 bool closeThrows = false;
 
 class TestWindow : public QLabel, public IWindowx
@@ -95,7 +95,7 @@ public:
     {
         if (closeThrows)
             throw std::runtime_error("broken assistant");
-        return mayClose ? 1 : 0;
+        return refuses ? 0 : 1;
     }
 };
 
@@ -198,7 +198,6 @@ private Q_SLOTS:
     {
         QDir(QString::fromStdString(basalt::settingsFolder())).removeRecursively();
         get_system_status_dictionary().clear();
-        mayClose = true;
         executions = 0;
     }
 
@@ -240,9 +239,7 @@ private Q_SLOTS:
 
         get_system_status_dictionary().set("open", "1");
         shown.host.eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
-        QVERIFY(action->isEnabled());
-        QVERIFY(!action->isChecked());
-        QCOMPARE(action->text(), "show"_q);
+        QVERIFY(action->isEnabled() && !action->isChecked());
 
         shown.frame.activateWindow();
         QTRY_VERIFY(shown.frame.isActiveWindow());
@@ -257,9 +254,7 @@ private Q_SLOTS:
         ShownFrame shown;
         Told told;
         shown.host.commands().action("Throw"_q)->trigger();
-        QVERIFY(shown.host.commands().execute("Throw"_q));
-        QCOMPARE(told.texts, QStringList({"The command failed: no such column"_q,
-                                          "The command failed: no such column"_q}));
+        QCOMPARE(told.texts, QStringList("The command failed: no such column"_q));
     }
 
     void findsWindowsByClassNameAndCaption()
@@ -323,28 +318,21 @@ private Q_SLOTS:
             shown.frame.resize(900, 500);
             QVERIFY(shown.frame.close());
         }
-        const ShownFrame again;
-        QVERIFY(again.dock("Messages")->isClosed());
-        const auto centerOf = [](const QWidget* widget) {
-            return widget->mapToGlobal(widget->rect().center()).x();
-        };
-        QVERIFY(centerOf(again.dock("Survey Data List")) > centerOf(again.dock("DataMap")));
-        QCOMPARE(again.frame.size(), QSize(900, 500));
-    }
-
-    void refusesDocksOfAnotherSetOfWindows()
-    {
         {
-            ShownFrame shown;
-            shown.dock("Messages")->toggleView(false);
-            QVERIFY(shown.frame.close());
+            const ShownFrame again;
+            QVERIFY(again.dock("Messages")->isClosed());
+            const auto centerOf = [](const QWidget* widget) {
+                return widget->mapToGlobal(widget->rect().center()).x();
+            };
+            QVERIFY(centerOf(again.dock("Survey Data List")) > centerOf(again.dock("DataMap")));
+            QCOMPARE(again.frame.size(), QSize(900, 500));
         }
-        QByteArray more(kLayout);
+        QByteArray more(kLayout); // the saved docks are of another set of windows
         more.replace("</main_frame>",
                      "<window class=\"OtherWindow\" name=\"New\" area=\"right\"/></main_frame>");
-        const ShownFrame again(more);
-        QVERIFY(!again.dock("New")->isClosed());
-        QVERIFY(!again.dock("Messages")->isClosed());
+        const ShownFrame other(more);
+        QVERIFY(!other.dock("New")->isClosed());
+        QVERIFY(!other.dock("Messages")->isClosed());
     }
 
     void resetsTheLayout()
@@ -386,15 +374,12 @@ private Q_SLOTS:
     void staysOpenWhenTheAssistantRefuses()
     {
         ShownFrame shown;
-        mayClose = false;
-        QVERIFY(!shown.frame.close());
-        QVERIFY(shown.frame.isVisible());
+        for (bool* const obstacle : {&refuses, &closeThrows}) {
+            *obstacle = true;
+            QVERIFY(!shown.frame.close());
+            *obstacle = false;
+        }
         QVERIFY(!file_system_check_file(basalt::settingsFolder() + "/frame.xml"));
-        closeThrows = true;
-        QVERIFY(!shown.frame.close());
-        closeThrows = false;
-        QVERIFY(shown.frame.isVisible());
-        mayClose = true;
         QVERIFY(shown.frame.close());
         QVERIFY(file_system_check_file(basalt::settingsFolder() + "/frame.xml"));
     }

@@ -89,16 +89,11 @@ private Q_SLOTS:
 
     void wheelZoomsAboutTheCursor()
     {
-        const QPoint cursor(123, 456);
-        const QPointF point = m_map->transform().ScreenToSurvey(QPointF(cursor));
-        double expected = 1;
-        for (const int angle : {120, 30, -240, 15}) {
-            wheel(cursor, angle);
-            expected /= std::pow(1.25, angle / 120.0);
-            QCOMPARE(scale(), expected);
-            const QPointF kept = m_map->transform().SurveyToScreen(point);
-            QVERIFY(std::hypot(kept.x() - 123, kept.y() - 456) < 1e-6);
-        }
+        for (const int angle : {30, -240})
+            wheel({200, 100}, angle); // half of the way from the centre to the corner
+        const double expected = std::pow(1.25, 2 - 0.25);
+        QCOMPARE(scale(), expected);
+        QCOMPARE(center(), QPointF(200 + 200 * expected, 500 - 200 * expected));
     }
 
     void middleDragPansExactlyUnderAnyTool()
@@ -238,6 +233,8 @@ private Q_SLOTS:
 
     void firstExtentIsShownAndLaterOnesWhenOutOfSight()
     {
+        m_map->zoomAll(); // without data
+        QCOMPARE(view(), "0, 0 at 1"_q);
         m_map->setExtent(1000, 1540, 1720, 1000); // not normalised; 5 % stay free on each side
         QCOMPARE(m_map->extent(), QRectF(1000, 1000, 720, 540));
         QCOMPARE(view(), "1360, 1270 at 1"_q);
@@ -257,6 +254,9 @@ private Q_SLOTS:
         map.show();
         QVERIFY(QTest::qWaitForWindowExposed(&map));
         QCOMPARE(viewOf(map.transform()), "550, 225 at 1"_q);
+        map.resize(600, 400);
+        QCOMPARE(viewOf(map.transform()), "550, 225 at 1"_q);
+        QCOMPARE(map.transform().size(), QSize(600, 400));
     }
 
     void refusesExtentsThatAreNotFinite()
@@ -264,11 +264,8 @@ private Q_SLOTS:
         m_map->setExtent(1, 2, 3, 4);
         const Transform before = m_map->transform();
         for (const double bad : {kNaN, kInf, -kInf}) {
-            m_map->setExtent(bad, 0, 10, 10);
             m_map->setExtent(0, 0, 10, bad);
             m_map->zoomRect(0, bad, 10, 10);
-            m_map->zoomAbout(bad, 0, 2);
-            m_map->zoomAbout(0, 0, bad);
         }
         QTRY_VERIFY(m_map->isUpToDate());
         m_map->setExtent(-1.7e308, 0, 1.7e308, 10); // its width is not finite
@@ -293,31 +290,6 @@ private Q_SLOTS:
         QVERIFY(pictures.wait());
         m_map->resize(300, 200);
         QVERIFY(pictures.wait());
-    }
-
-    void resizeKeepsCentreAndScale()
-    {
-        m_map->setExtent(100, 100, 200, 200);
-        const QString before = view();
-        m_map->repaint();
-        m_map->resize(500, 400);
-        QCOMPARE(m_map->transform().size(), QSize(500, 400));
-        QCOMPARE(view(), before);
-    }
-
-    void zoomRectOfAnyDirectionAndOfNoSize()
-    {
-        m_map->zoomAll(); // without data
-        QCOMPARE(view(), "0, 0 at 1"_q);
-        m_map->zoomRect(300, 100, 100, 250); // drawn towards the upper left
-        QCOMPARE(view(), "200, 175 at 0.25"_q);
-
-        const QPointF place(150, 200);
-        const QPointF before = m_map->transform().SurveyToScreen(place);
-        m_map->zoomRect(150, 200, 150, 200);
-        QVERIFY(scale() < 0.25);
-        const QPointF after = m_map->transform().SurveyToScreen(place);
-        QVERIFY(std::hypot(after.x() - before.x(), after.y() - before.y()) < 1e-6);
     }
 
 private:
