@@ -1,13 +1,13 @@
 #include "app/DataProcess5Assistant.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Numbers.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/events/Payload.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
@@ -106,8 +106,7 @@ void DataProcess5Assistant::addLayer(const char* name, const char* className, co
 void DataProcess5Assistant::announcePosition(const char* payload)
 {
     basalt::Dictionary values;
-    if (payload != nullptr)
-        csa_to_dictionary(values, payload, '=', ' ');
+    payload::read(payload, values, ' ');
     double north = 0;
     double east = 0;
     get_instance_ICoordTransformHelper(&m_host)->mapToProject(

@@ -1,8 +1,8 @@
 #include "app/ProgressStatusBarForSkyquill.h"
 
-#include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/events/Payload.h"
 #include "lum_sdk/Text.h"
 #include "protocol/Events.h"
 
@@ -67,8 +67,7 @@ bool ProgressStatusBarForSkyquill::canWait(const char* payload) const
 void ProgressStatusBarForSkyquill::showPayload(const char* payload)
 {
     m_isWaiting = false;
-    m_values.clear();
-    csa_to_dictionary(m_values, payload);
+    payload::read(payload, m_values);
     const std::string_view text = m_values.text("text");
     m_label->setText(
         m_label->fontMetrics().elidedText(lum::toQString(text), Qt::ElideMiddle, kWidestLabel));

@@ -2,7 +2,6 @@
 
 #include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/ILogger.h"
-#include "basalt_utilities/KeyList.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
 #include "exchange/ExportColumns.h"
@@ -12,6 +11,7 @@
 #include "exchange/SurveyCsvWriter.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/IHost.h"
@@ -25,7 +25,6 @@
 #include "project/ProjectPlace.h"
 #include "project/ProjectSaver.h"
 #include "protocol/Events.h"
-#include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
 #include "quality/CheckKinds.h"
 #include "quality/QualityDescription.h"
@@ -310,8 +309,7 @@ void DataProcessDataManager::handleEvent(const char* eventName, const char* payl
 void DataProcessDataManager::reportQuery(const char* payload)
 {
     basalt::Dictionary values;
-    if (payload != nullptr)
-        csa_to_dictionary(values, payload);
+    payload::read(payload, values);
     const double count = values.integer("count", 1);
     const double total = values.integer("total", 1);
     const double percent = total > 0 ? count * 100 / total : 100;

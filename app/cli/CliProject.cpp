@@ -1,7 +1,7 @@
 #include "app/cli/CliProject.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/KeyList.h"
+#include "lum_sdk/events/Payload.h"
 #include "lum_sdk/Text.h"
 #include "protocol/Events.h"
 
@@ -33,7 +33,7 @@ void CliProject::handleEvent(const char* /*eventName*/, const char* payload, int
     if (!isTerminal)
         return;
     basalt::Dictionary values;
-    csa_to_dictionary(values, payload);
+    payload::read(payload, values);
     const bool isOver = values.integer("show", 1) == 0;
     const QString line = isOver ? QString()
                                 : QStringLiteral("%1 %2 %")
