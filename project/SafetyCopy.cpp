@@ -16,12 +16,6 @@ QString interrupted()
         "ProjectStore", "Saving this project was interrupted. It is as it was last saved.");
 }
 
-std::string folderOf(const std::string& file)
-{
-    const std::size_t slash = file.rfind('/');
-    return slash == std::string::npos ? "." : file.substr(0, slash + 1);
-}
-
 bool isDamage(const std::string& reason)
 {
     return reason.find("malformed") != std::string::npos ||
@@ -44,9 +38,8 @@ void SafetyCopy::drop() const
 {
     // The removal of the journal must be on the disk before the copy is removed. The folder is
     // synced, not the database: opening and closing its file here would end SQLite's locks on it.
-    std::string why = lum::syncFile(folderOf(m_database));
-    if (why.empty())
-        why = lum::removeFile(m_copy);
+    lum::syncFolderOf(m_database);
+    const std::string why = lum::removeFile(m_copy);
     if (!why.empty())
         basalt::logError("Cannot remove \"" + m_copy + "\": " + why);
 }

@@ -6,9 +6,11 @@
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
+#include "project/SafetyCopy.h"
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/OrdinaryUser.h"
 #include "tests/project/TestProject.h"
+#include "tests/support/LogCapture.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
@@ -50,6 +52,13 @@ protected:
     [[nodiscard]] QStringList files(const char* pattern) const
     {
         return QDir(place.folder).entryList({QString::fromUtf8(pattern)}, QDir::Files, QDir::Name);
+    }
+    /// Runs SQL on a database that no program has open.
+    void execute(const QString& path, const char* sql) const
+    {
+        DBAdapter adapter;
+        ASSERT_TRUE(adapter.open(lum::databaseConnection(path.toStdString()).c_str()));
+        EXPECT_TRUE(adapter.execute(sql, 0)) << adapter.lastError();
     }
     [[nodiscard]] QByteArray content(const QString& name) const
     {
@@ -230,6 +239,38 @@ TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
     }
     ASSERT_TRUE(QFile::setPermissions(place.folder, readOnly | QFile::WriteOwner));
     EXPECT_EQ(TestFolder::read(database), before);
+}
+
+// As on file systems that cannot sync a folder: this one can be written, but not opened.
+TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
+{
+    create();
+    ASSERT_TRUE(QFile::setPermissions(place.folder, QFile::WriteOwner | QFile::ExeOwner));
+    const QString copy = database + QStringLiteral(".saved");
+    {
+        const OrdinaryUser user;
+        const LogCapture log;
+        expectDone(manager.openProject(place));
+        manager.surveyPoints().set(surveyPoint("L1", "7"));
+        expectDone(manager.saveProject(place));
+        EXPECT_FALSE(QFile::exists(copy));
+        EXPECT_TRUE(log.holds("cannot be synced"));
+        manager.clear();
+
+        ASSERT_TRUE(QFile::copy(database, copy));
+        execute(database, SafetyCopy::kMark);
+        expectNotice(manager.openProject(place), "as it was last saved");
+        manager.clear();
+        expectDone(manager.openProject(place));
+        EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
+        manager.clear();
+
+        ASSERT_TRUE(QFile::rename(place.file, place.file + QStringLiteral(".x")));
+        expectDone(ProjectCreator::create(place, basalt::Dictionary()));
+    }
+    ASSERT_TRUE(QFile::setPermissions(place.folder,
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    EXPECT_EQ(files("*.db.2*").size(), 1) << "the old database is kept aside";
 }
 
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)

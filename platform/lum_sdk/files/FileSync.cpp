@@ -1,5 +1,7 @@
 #include "lum_sdk/files/FileSync.h"
 
+#include "basalt_utilities/ILogger.h"
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -16,14 +18,6 @@ std::string reason()
     return std::generic_category().message(errno);
 }
 
-std::string syncFolderOf(const std::string& path)
-{
-    const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos)
-        return syncFile(".");
-    return syncFile(slash == 0 ? "/" : path.substr(0, slash));
-}
-
 } // namespace
 
 std::string syncFile(const std::string& path)
@@ -36,14 +30,31 @@ std::string syncFile(const std::string& path)
     return why;
 }
 
+void syncFolderOf(const std::string& path)
+{
+    const std::size_t slash = path.rfind('/');
+    std::string folder = ".";
+    if (slash != std::string::npos)
+        folder = slash == 0 ? "/" : path.substr(0, slash);
+    const std::string why = syncFile(folder);
+    if (!why.empty())
+        basalt::logWarning("The folder \"" + folder + "\" cannot be synced: " + why);
+}
+
 std::string renameFile(const std::string& from, const std::string& to)
 {
-    return std::rename(from.c_str(), to.c_str()) == 0 ? syncFolderOf(to) : reason();
+    if (std::rename(from.c_str(), to.c_str()) != 0)
+        return reason();
+    syncFolderOf(to);
+    return {};
 }
 
 std::string removeFile(const std::string& path)
 {
-    return ::unlink(path.c_str()) == 0 || errno == ENOENT ? syncFolderOf(path) : reason();
+    if (::unlink(path.c_str()) != 0 && errno != ENOENT)
+        return reason();
+    syncFolderOf(path);
+    return {};
 }
 
 } // namespace lum
