@@ -159,6 +159,8 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
         writing = ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
     if (writing.isDone() && !m_projectFile.isEmpty())
         writing = ProjectFile::write(m_projectFile, m_project);
+    if (writing.isDone())
+        ParameterFiles::writeTemplate(m_designParameters);
     return writing;
 }
 

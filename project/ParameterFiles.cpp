@@ -1,11 +1,15 @@
 #include "project/ParameterFiles.h"
 
 #include "basalt_utilities/Dictionary.h"
+#include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/Product.h"
 #include "lum_sdk/files/DictionaryXml.h"
 #include "lum_sdk/files/WholeFile.h"
 
 #include <QCoreApplication>
+
+#include <string>
+#include <utility>
 
 namespace ParameterFiles {
 
@@ -53,9 +57,19 @@ Outcome write(const QString& folder, const IDictionary& quality, const IDictiona
     Outcome writing = writeFile(folder + QLatin1String(kQualityFile), quality);
     if (writing.isDone())
         writing = writeFile(folder + QLatin1String(kDesignFile), design);
-    if (writing.isDone())
-        dictionary_to_xml(design, basalt::toolFolder() + kDesignFile);
     return writing;
+}
+
+void writeTemplate(const IDictionary& design)
+{
+    const std::string path = basalt::toolFolder() + kDesignFile;
+    const QString fault =
+        lum::writeWholeFile(QString::fromStdString(path), lum::writeDictionary(design));
+    static std::string told; // the path of the last note: an installation stays read-only
+    if (fault.isEmpty() || path == std::exchange(told, path))
+        return;
+    basalt::logInfo("New projects start from the installed design parameters, since \"" + path +
+                    "\" cannot be written: " + fault.toStdString());
 }
 
 } // namespace ParameterFiles

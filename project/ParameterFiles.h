@@ -16,9 +16,12 @@ inline constexpr const char* kDesignFile = "/design_param.ini";
 /// dictionary changes.
 [[nodiscard]] Outcome read(const QString& folder, IDictionary& quality, IDictionary& design);
 
-/// Writes both. The design parameters also become the template of new projects; an installation
-/// that cannot be written is no failure and only noted in the log.
+/// Writes both.
 [[nodiscard]] Outcome write(const QString& folder, const IDictionary& quality,
                             const IDictionary& design);
+
+/// Makes the design parameters the template of new projects. An installation that cannot be written
+/// is no failure: the log notes it once.
+void writeTemplate(const IDictionary& design);
 
 } // namespace ParameterFiles

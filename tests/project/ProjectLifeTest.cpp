@@ -1,8 +1,10 @@
+#include "basalt_utilities/Product.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Host.h"
 #include "model/CoordinateRecord.h"
 #include "project/DataProcessDataManager.h"
+#include "project/ParameterFiles.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
@@ -271,6 +273,18 @@ TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
     ASSERT_TRUE(QFile::setPermissions(place.folder,
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     EXPECT_EQ(files("*.db.2*").size(), 1) << "the old database is kept aside";
+}
+
+TEST_F(ProjectLife, AReadOnlyInstallationIsNotedOnce)
+{
+    const basalt::Product usual = basalt::product();
+    basalt::setProduct({"Nobody", "Nowhere", "None"}); // without folders
+    const LogCapture log;
+    for (int i = 0; i < 2; ++i)
+        ParameterFiles::writeTemplate(basalt::Dictionary());
+    basalt::setProduct(usual);
+    EXPECT_EQ(log.lines().size(), 1U);
+    EXPECT_EQ(log.text(ILogger::Level::Warning), "");
 }
 
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)
