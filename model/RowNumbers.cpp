@@ -2,13 +2,34 @@
 
 #include "basalt_utilities/Numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
+namespace {
+
+char lower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+} // namespace
+
+std::string lowerName(std::string_view name)
+{
+    std::string text(name);
+    std::transform(text.begin(), text.end(), text.begin(), lower);
+    return text;
+}
+
 std::size_t columnPlace(const IDictionary& row, std::string_view key)
 {
+    const auto isKey = [key](std::string_view name) {
+        return std::equal(name.begin(), name.end(), key.begin(), key.end(),
+                          [](char a, char b) { return lower(a) == lower(b); });
+    };
     std::size_t place = 0;
-    while (place < row.size() && row.keyAt(place) != key)
+    while (place < row.size() && !isKey(row.keyAt(place)))
         ++place;
     return place;
 }

@@ -5,6 +5,7 @@
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
 #include "model/PointNumber.h"
+#include "model/RowNumbers.h"
 #include "model/RowText.h"
 #include "model/SurveyRecord.h"
 #include "project/DatabaseReason.h"
@@ -188,7 +189,7 @@ bool ProjectLoader::readCoordinateSystem(IDictionary& coordParameters)
     coordParameters.clear();
     for (const std::string& column : records.columns()) {
         if (const auto value = row.find(column))
-            coordParameters.set(column, rowText(*value));
+            coordParameters.set(lowerName(column), rowText(*value));
     }
     return true;
 }

@@ -7,6 +7,7 @@
 #include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
 #include "model/ProjectTables.h"
+#include "model/RowNumbers.h"
 #include "model/SurveyRecord.h"
 #include "project/DatabaseReason.h"
 #include "project/RowFormatter.h"
@@ -97,10 +98,11 @@ bool ProjectSaver::clearTables()
 bool ProjectSaver::addMissingColumns()
 {
     RecordSet schema;
-    if (!m_database.query("select * from sqlite_master where tbl_name='ExplorationResultItem'",
+    if (!m_database.query("select * from sqlite_master where tbl_name='ExplorationResultItem' "
+                          "collate nocase",
                           schema))
         return false;
-    const std::string statement(schema.isEmpty() ? "" : schema[0].text("sql"));
+    const std::string statement = schema.isEmpty() ? "" : lowerName(schema[0].text("sql"));
     if (statement.empty())
         return true;
     for (const auto& [name, type] : laterSurveyColumns()) {
