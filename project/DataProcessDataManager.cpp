@@ -104,6 +104,8 @@ bool DataProcessDataManager::hasInstance()
 
 Outcome DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAccess access)
 {
+    if (const QString fault = projectSuffixFault(place.file); !fault.isEmpty())
+        return logged(Outcome::failed(fault));
     const Outcome locking = access == ProjectAccess::Change ? m_lock.take(place) : Outcome::done();
     if (!locking.isDone())
         return logged(locking);
@@ -137,7 +139,8 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
     dictionary_copy(design, m_designParameters);
     m_project = std::move(project);
     m_projectFile = projectFile.isDone() ? place.file : QString();
-    reading.add(projectFile.text());
+    m_projectFileFault = projectFile.text();
+    reading.add(m_projectFileFault);
     return reading;
 }
 
@@ -170,6 +173,7 @@ void DataProcessDataManager::clear()
     m_survey.clear();
     m_project.clear();
     m_projectFile.clear();
+    m_projectFileFault.clear();
     m_qualityParameters.clear();
     m_designParameters.clear();
     m_database.close();

@@ -51,11 +51,14 @@ public:
 
     /// Takes the project for this program alone, unless it is only looked at, and reads its
     /// parameter files, its database and its project file. A project that cannot be opened leaves
-    /// nothing in memory. A project file that cannot be read is no failure; a notice says so.
+    /// nothing in memory. What is named otherwise than a project file is none. A project file that
+    /// cannot be read is no failure; a notice says so.
     Outcome openProject(const ProjectPlace& place, ProjectAccess access = ProjectAccess::Change);
     /// Writes them all, and the design parameters as the template of new projects. A database that
     /// is missing is made anew.
     Outcome saveProject(const ProjectPlace& place);
+    /// Why the project file could not be read, so that nothing is saved in it; empty when it was.
+    [[nodiscard]] const QString& projectFileFault() const { return m_projectFileFault; }
     /// Whether the last `saveProject` failed, so that the files are older than what is in memory.
     [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }
     /// Forgets the points and parameters of the open project and gives up its lock. Its coordinate
@@ -135,6 +138,7 @@ private:
     SurveyPoints m_survey;
     basalt::Dictionary m_project;
     QString m_projectFile; ///< the one that was opened; empty when it could not be read
+    QString m_projectFileFault;
     bool m_isSaveOwed = false;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;

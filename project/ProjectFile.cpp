@@ -9,12 +9,14 @@ namespace ProjectFile {
 
 Outcome read(const QString& path, IDictionary& project)
 {
-    if (lum::readDictionaryFile(path.toStdString(), project).isEmpty())
+    const QString fault = lum::readDictionaryFile(path.toStdString(), project);
+    if (fault.isEmpty())
         return Outcome::done();
-    return Outcome::failed(QCoreApplication::translate(
-                               "ProjectStore", "The project file \"%1\" cannot be read: what it "
-                                               "says about the project is neither shown nor saved.")
-                               .arg(path));
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore",
+                                    "The project file \"%1\" cannot be read (%2): what it says "
+                                    "about the project is neither shown nor saved.")
+            .arg(path, fault));
 }
 
 Outcome write(const QString& path, const IDictionary& project)

@@ -83,6 +83,23 @@ QString projectNameFault(const QString& name)
     return {};
 }
 
+QString projectSuffixFault(const QString& file)
+{
+    if (QFileInfo(file).suffix().compare(projectExtension(), Qt::CaseInsensitive) == 0)
+        return {};
+    QString fault =
+        translated(QT_TRANSLATE_NOOP("ProjectPlace",
+                                     "\"%1\" is no project file: its name would end in \".%2\"."))
+            .arg(QDir::toNativeSeparators(file), projectExtension());
+    const ProjectPlace beside = ProjectPlace::ofFile(file);
+    const QString likely = ProjectPlace::in(beside.folder, beside.name).file;
+    if (QFileInfo::exists(likely))
+        fault +=
+            QLatin1Char(' ') + translated(QT_TRANSLATE_NOOP("ProjectPlace", "Open \"%1\" instead."))
+                                   .arg(QDir::toNativeSeparators(likely));
+    return fault;
+}
+
 QString projectLocationFault(const QString& location)
 {
     if (location.isEmpty())

@@ -29,5 +29,8 @@ struct ProjectPlace
 /// since the name of a project file ends at the first one.
 [[nodiscard]] QString projectNameFault(const QString& name);
 
+/// Why a file of this name is no project file, a translated sentence; empty when it may be one.
+[[nodiscard]] QString projectSuffixFault(const QString& file);
+
 /// Why no project can be made in this folder, a translated sentence; empty for a good folder.
 [[nodiscard]] QString projectLocationFault(const QString& location);

@@ -2,6 +2,7 @@
 
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
+#include "project/ProjectPlace.h"
 
 namespace RecentProjects {
 
@@ -32,7 +33,7 @@ QStringList list()
     QStringList files;
     for (int place = 0; place < kMost; ++place) {
         const QString file = lum::toQString(settings.text(keyOf(place)));
-        if (!file.isEmpty())
+        if (!file.isEmpty() && projectSuffixFault(file).isEmpty())
             files.append(file);
     }
     return files;

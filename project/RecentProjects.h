@@ -2,7 +2,8 @@
 
 #include <QStringList>
 
-/// The project files that were opened last, the newest first. The user's settings keep them.
+/// The project files that were opened last, the newest first. The user's settings keep them; what
+/// else is found there is passed over.
 namespace RecentProjects {
 
 inline constexpr int kMost = 9;

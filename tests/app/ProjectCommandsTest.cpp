@@ -323,6 +323,20 @@ private Q_SLOTS:
         QCOMPARE(folder.entryList({QStringLiteral("old.db.2*")}, QDir::Files).size(), 1);
     }
 
+    void opensProjectFilesAlone()
+    {
+        makeProject("a");
+        m_chosenFile = place("a").database();
+        run("Open Project");
+        QVERIFY(!isOpen());
+        expectAsked("failed: failed to open project!\n");
+        QVERIFY(m_details.contains(QStringLiteral("is no project file")));
+        QVERIFY(m_details.contains(place("a").file));
+        QVERIFY(RecentProjects::list().isEmpty());
+        get_system_ini_parameter().dictionary().set("recent_project_1", m_chosenFile.toStdString());
+        QVERIFY(RecentProjects::list().isEmpty());
+    }
+
     void aFailureSaysWhyAndChangesNothing()
     {
         makeProject("a");

@@ -98,6 +98,7 @@ TEST_F(ProjectLife, TheCoordinateSystemSurvivesFromTheCreationOn)
     // From the first save on the database has the system, with or without the project file.
     ASSERT_TRUE(QFile::remove(place.file));
     expectNotice(manager.openProject(place), place.file.toUtf8());
+    EXPECT_TRUE(manager.projectFileFault().contains(place.file));
     EXPECT_EQ(system.text("org_lon"), "117");
     expectDone(manager.saveProject(place));
     EXPECT_FALSE(QFile::exists(place.file)) << "made up from nothing";
@@ -285,6 +286,19 @@ TEST_F(ProjectLife, AReadOnlyInstallationIsNotedOnce)
     basalt::setProduct(usual);
     EXPECT_EQ(log.lines().size(), 1U);
     EXPECT_EQ(log.text(ILogger::Level::Warning), "");
+}
+
+TEST_F(ProjectLife, OnlyAProjectFileIsOpened)
+{
+    createAndOpen();
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
+    expectDone(manager.saveProject(place));
+    manager.clear();
+    for (const QString& file : {database, place.folder + QStringLiteral("/qc_param.ini")})
+        expectFailure(manager.openProject(ProjectPlace::ofFile(file)), "no project file");
+    expectFailure(manager.openProject(ProjectPlace::ofFile(database)), place.file.toUtf8());
+    EXPECT_TRUE(manager.surveyPoints().empty());
+    EXPECT_EQ(files("*.lock"), QStringList());
 }
 
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)
