@@ -18,6 +18,7 @@
 #include <QDir>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QLabel>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -61,6 +62,15 @@ DlgProjectSet::DlgProjectSet(IDesktopHost& host, IDictionary& project)
     rememberSize(QStringLiteral("DlgProjectSet"));
 }
 
+void DlgProjectSet::setInformationReadOnly(const QString& reason)
+{
+    if (reason.isEmpty())
+        return;
+    m_reason->setText(reason);
+    m_reason->show();
+    m_general->setReadOnlyBut({QLatin1String(kUnit)}); // a setting of the program
+}
+
 void DlgProjectSet::accept()
 {
     if (showFault())
@@ -88,11 +98,22 @@ QWidget* DlgProjectSet::makeGeneralPage()
     values.set(kName, QDir(folder).dirName().toStdString());
     values.set(ProjectFile::kPath, QDir::toNativeSeparators(folder).toStdString());
     values.set(kUnit, get_system_ini_parameter().dictionary().text(settings::kCoordUnit, "0"));
-    m_general = new PropertyGridCtrl(this);
+    auto* const page = new QWidget(this);
+    m_reason = new QLabel(page);
+    m_reason->setObjectName(QStringLiteral("reason"));
+    m_reason->setTextFormat(Qt::PlainText);
+    m_reason->setWordWrap(true);
+    m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_reason->hide();
+    m_general = new PropertyGridCtrl(page);
     m_general->init(QString::fromStdString(basalt::controlFile("CommInfoSet")), values);
     m_general->setHeaderVisible(false);
     m_general->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);
-    return m_general;
+    auto* const layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_reason);
+    layout->addWidget(m_general, 1);
+    return page;
 }
 
 QWidget* DlgProjectSet::makeCoordPage()

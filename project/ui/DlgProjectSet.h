@@ -6,6 +6,7 @@ class CoordSystemPanel;
 class IDesktopHost;
 class IDictionary;
 class PropertyGridCtrl;
+class QLabel;
 class QListWidget;
 class QStackedWidget;
 
@@ -19,6 +20,10 @@ class DlgProjectSet final : public Dialog
 public:
     /// \param project  outlives the dialog
     DlgProjectSet(IDesktopHost& host, IDictionary& project);
+
+    /// Shows the general information without letting the user change it, and says why: it would be
+    /// stored nowhere. Nothing is done for an empty reason.
+    void setInformationReadOnly(const QString& reason);
 
     /// Applies: writes the values back and announces the change.
     void accept() override;
@@ -39,6 +44,7 @@ private:
     IDictionary& m_project;
     QListWidget* m_pages;
     QStackedWidget* m_stack;
+    QLabel* m_reason = nullptr;
     PropertyGridCtrl* m_general = nullptr;
     CoordSystemPanel* m_coordSystem = nullptr;
 };

@@ -20,6 +20,7 @@ void SysSettingCommand::execute()
     dictionary_copy(coordSystem, project, CoordinateRecord::kKeys);
     dictionary_copy(coordSystem, project, CoordinateRecord::kId);
     DlgProjectSet dialog(host(), project);
+    dialog.setInformationReadOnly(manager.projectFileFault());
     QObject::connect(&dialog, &DlgProjectSet::applied, &dialog, [&] {
         dictionary_copy(project, manager.project());
         basalt::Dictionary parameters;

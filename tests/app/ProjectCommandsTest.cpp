@@ -21,11 +21,13 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDragEnterEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTreeView>
 #include <QtTest>
 
 namespace {
@@ -335,6 +337,45 @@ private Q_SLOTS:
         QVERIFY(RecentProjects::list().isEmpty());
         get_system_ini_parameter().dictionary().set("recent_project_1", m_chosenFile.toStdString());
         QVERIFY(RecentProjects::list().isEmpty());
+    }
+
+    void whatWouldBeStoredNowhereCannotBeChanged()
+    {
+        makeProject("a");
+        const auto isEditable = [&](const char* row) {
+            bool isFound = false;
+            Qt::ItemFlags flags;
+            whenDialog("DlgProjectSet", [&](QDialog& settings) {
+                const QAbstractItemModel& rows =
+                    *settings.findChild<QWidget*>(QStringLiteral("CommInfoSet"))
+                         ->findChild<QTreeView*>()
+                         ->model();
+                for (int group = 0; group < rows.rowCount(); ++group) {
+                    const QModelIndex first = rows.index(0, 0, rows.index(group, 0));
+                    for (const QModelIndex& found :
+                         rows.match(first, Qt::DisplayRole, QString::fromUtf8(row))) {
+                        isFound = true;
+                        flags = found.siblingAtColumn(1).flags();
+                    }
+                }
+                const auto* const reason = settings.findChild<QLabel*>(QStringLiteral("reason"));
+                m_details = reason->isVisible() ? reason->text() : QString();
+                press(settings, "Cancel");
+            });
+            run("Project Settings");
+            return isFound && (flags & Qt::ItemIsEditable) != 0;
+        };
+        open("a");
+        QVERIFY(isEditable("Crew"));
+        QCOMPARE(m_details, QString());
+        run("Close Project");
+        QFile file(place("a").file);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no dictionary") > 0);
+        file.close();
+        open("a");
+        QVERIFY(!isEditable("Crew"));
+        QVERIFY(m_details.contains(place("a").file));
+        QVERIFY2(isEditable("Coordinate unit"), "a setting of the program");
     }
 
     void aFailureSaysWhyAndChangesNothing()

@@ -124,6 +124,11 @@ void PropertyGridCtrl::setRowUnit(const QString& key, const QString& unit)
     m_model->setUnit(key, unit);
 }
 
+void PropertyGridCtrl::setReadOnlyBut(const QStringList& keys)
+{
+    m_model->setReadOnlyBut(keys);
+}
+
 void PropertyGridCtrl::setResizeMode(ResizeMode mode)
 {
     QHeaderView* const header = m_view->header();

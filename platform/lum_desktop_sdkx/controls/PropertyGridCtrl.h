@@ -59,6 +59,9 @@ public:
     void setRowCaption(const QString& key, const QString& caption);
     void setRowUnit(const QString& key, const QString& unit);
 
+    /// Shows the values of all rows without letting the user change them, but for those of `keys`.
+    void setReadOnlyBut(const QStringList& keys);
+
     void setResizeMode(ResizeMode mode);
     void setHeaderVisible(bool visible);
 

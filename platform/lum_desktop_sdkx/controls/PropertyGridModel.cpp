@@ -105,6 +105,17 @@ void PropertyGridModel::setUnit(const QString& key, const QString& unit)
     }
 }
 
+void PropertyGridModel::setReadOnlyBut(const QStringList& keys)
+{
+    for (PropertyGridGroup& group : m_layout.groups) {
+        for (PropertyGridRow& row : group.rows) {
+            row.readOnly = row.readOnly || !keys.contains(row.key);
+            judge(row);
+            tellChanged(indexOfKey(row.key));
+        }
+    }
+}
+
 QModelIndex PropertyGridModel::indexOfKey(const QString& key) const
 {
     for (int g = 0; g < rowCount(); ++g) {

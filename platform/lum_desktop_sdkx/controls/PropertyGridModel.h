@@ -47,6 +47,9 @@ public:
     void setCaption(const QString& key, const QString& caption);
     void setUnit(const QString& key, const QString& unit);
 
+    /// Makes all rows read-only but those of some keys.
+    void setReadOnlyBut(const QStringList& keys);
+
     /// The value cell of a row; invalid when no row has this key.
     [[nodiscard]] QModelIndex indexOfKey(const QString& key) const;
 
