@@ -75,6 +75,10 @@ void DlgProjectSet::accept()
 {
     if (showFault())
         return;
+    if (m_question && !m_question(m_coordSystem->parameters())) {
+        m_pages->setCurrentRow(kCoordPage);
+        return;
+    }
     writeBack();
     Q_EMIT applied();
     m_host.eventManager().publish(events::kProjectChanged, nullptr, 0);

@@ -2,6 +2,8 @@
 
 #include "lum_desktop_sdkx/dialogs/Dialog.h"
 
+#include <functional>
+
 class CoordSystemPanel;
 class IDesktopHost;
 class IDictionary;
@@ -25,6 +27,11 @@ public:
     /// stored nowhere. Nothing is done for an empty reason.
     void setInformationReadOnly(const QString& reason);
 
+    /// What is asked when the user applies: whether the coordinate system may be this one. With a
+    /// no the dialog stays open, on the page of the system.
+    using SystemQuestion = std::function<bool(const IDictionary& coordSystem)>;
+    void setSystemQuestion(SystemQuestion question) { m_question = std::move(question); }
+
     /// Applies: writes the values back and announces the change.
     void accept() override;
 
@@ -42,6 +49,7 @@ private:
 
     IDesktopHost& m_host;
     IDictionary& m_project;
+    SystemQuestion m_question;
     QListWidget* m_pages;
     QStackedWidget* m_stack;
     QLabel* m_reason = nullptr;

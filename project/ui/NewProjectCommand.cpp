@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectPlace.h"
+#include "project/ui/CoordSystemQuestions.h"
 #include "project/ui/DlgNewProject.h"
 #include "project/ui/DlgProjectSet.h"
 #include "project/ui/ProjectSession.h"
@@ -64,6 +65,9 @@ void NewProjectCommand::execute()
     basalt::Dictionary project;
     ProjectCreator::describe(place, project);
     DlgProjectSet settings(host(), project);
+    settings.setSystemQuestion([&](const IDictionary& chosen) {
+        return CoordSystemQuestions::mayBegin(&settings, chosen);
+    });
     if (settings.exec() != QDialog::Accepted) {
         QDir().rmdir(place.folder); // only succeeds when it is empty
         return;

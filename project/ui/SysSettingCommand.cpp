@@ -7,6 +7,7 @@
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
+#include "project/ui/CoordSystemQuestions.h"
 #include "project/ui/DlgProjectSet.h"
 #include "project/ui/ProjectState.h"
 
@@ -21,6 +22,9 @@ void SysSettingCommand::execute()
     dictionary_copy(coordSystem, project, CoordinateRecord::kId);
     DlgProjectSet dialog(host(), project);
     dialog.setInformationReadOnly(manager.projectFileFault());
+    dialog.setSystemQuestion([&](const IDictionary& chosen) {
+        return CoordSystemQuestions::mayChange(&dialog, coordSystem, chosen);
+    });
     QObject::connect(&dialog, &DlgProjectSet::applied, &dialog, [&] {
         dictionary_copy(project, manager.project());
         basalt::Dictionary parameters;

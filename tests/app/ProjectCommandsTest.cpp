@@ -320,9 +320,24 @@ private Q_SLOTS:
         makeProject("old");
         newProject("old");
         QVERIFY(isOpen("old"));
-        expectAsked("information: project path exist, override?\n");
+        expectAsked("information: project path exist, override?\n"
+                    "Coordinate System: No coordinate system is chosen. Make the project without "
+                    "one?\n");
         const QDir folder(place("old").folder);
         QCOMPARE(folder.entryList({QStringLiteral("old.db.2*")}, QDir::Files).size(), 1);
+    }
+
+    void withoutASystemAProjectIsMadeOnlyWhenTheUserWantsIt()
+    {
+        answerNo("No coordinate system is chosen. Make the project without one?");
+        newProject("a", [](QDialog& settings) {
+            apply(settings);
+            QVERIFY(settings.isVisible());
+            QCOMPARE(settings.findChild<QListWidget*>()->currentRow(), 1);
+            applySystem(settings, "32650");
+        });
+        QVERIFY(isOpen("a"));
+        QVERIFY(coordParameter("coord_param_id") == "EPSG:32650");
     }
 
     void opensProjectFilesAlone()
@@ -472,7 +487,23 @@ private Q_SLOTS:
         QVERIFY(coordParameter("coord_param_id") != "Undefined");
         QCOMPARE(manager().surveyPoints().find("", "")->seaHeight, 4.0);
         expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "a"));
+        const QByteArray question =
+            "This project holds points (designed: 0, survey results: 1). Change its coordinate "
+            "system?";
+        expectAsked("Coordinate System: " + question + '\n');
         const std::string chosen = coordParameter("org_lon");
+        answerNo(question);
+        whenDialog("DlgProjectSet", [](QDialog& settings) {
+            applySystem(settings, "32650");
+            QVERIFY(settings.isVisible());
+            press(settings, "Cancel");
+        });
+        run("Project Settings");
+        whenDialog("DlgProjectSet", apply); // nothing is changed, and nothing asked
+        m_asked.clear();
+        run("Project Settings");
+        expectAsked("");
+        QVERIFY(coordParameter("org_lon") == chosen);
         run("Close Project"); // saves
         open("a");
         QVERIFY(coordParameter("org_lon") == chosen);
