@@ -32,6 +32,7 @@
 
 #include <QAbstractTableModel>
 #include <QCoreApplication>
+#include <QFile>
 
 #include <cpl_conv.h>
 #include <gdal.h>
@@ -157,13 +158,47 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
     if (writing.isDone())
         writing = ProjectCreator::replaceDatabase(place);
     if (writing.isDone())
-        writing = writeDatabase(place.database());
+        writing = writeDatabase(m_database, place.database());
     if (writing.isDone())
         writing = ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
     if (writing.isDone() && !m_projectFile.isEmpty())
         writing = ProjectFile::write(m_projectFile, m_project);
     if (writing.isDone())
         ParameterFiles::writeTemplate(m_designParameters);
+    return writing;
+}
+
+Outcome DataProcessDataManager::saveCopy(const ProjectPlace& copy)
+{
+    basalt::Dictionary project;
+    ProjectCreator::describe(copy, project);
+    const basalt::Dictionary present(project);
+    dictionary_copy(m_project, project);
+    for (const char* keys : {ProjectFile::kPath, CoordinateRecord::kKeys, CoordinateRecord::kId})
+        dictionary_copy(present, project, keys);
+    return logged(ProjectCreator::create(copy, project, [&] { return fillCopy(copy); }));
+}
+
+Outcome DataProcessDataManager::fillCopy(const ProjectPlace& copy)
+{
+    DBAdapter database;
+    const QString path = copy.database();
+    // What other programs have added to the database comes along while that can be read.
+    bool isTaken = m_database.backup(path.toStdString().c_str());
+    Outcome writing = writeDatabase(database, path);
+    if (!writing.isDone() && isTaken) { // it may be damaged
+        isTaken = false;
+        database.close();
+        QFile::remove(path);
+        writing = ProjectCreator::replaceDatabase(copy);
+        if (writing.isDone())
+            writing = writeDatabase(database, path);
+    }
+    if (writing.isDone() && !isTaken)
+        basalt::logWarning("The copy \"" + path.toStdString() +
+                           "\" has no tables that other programs added to the project.");
+    if (writing.isDone())
+        writing = ParameterFiles::write(copy.folder, m_qualityParameters, m_designParameters);
     return writing;
 }
 
@@ -192,7 +227,7 @@ int DataProcessDataManager::load(const QString& path, Outcome* outcome)
 
 int DataProcessDataManager::save(const QString& path, Outcome* outcome)
 {
-    return answered(writeDatabase(path), outcome);
+    return answered(writeDatabase(m_database, path), outcome);
 }
 
 Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& coordSystem)
@@ -202,10 +237,10 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
         .load(path.toStdString(), m_design, m_survey, coordSystem);
 }
 
-Outcome DataProcessDataManager::writeDatabase(const QString& path)
+Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path)
 {
     ProgressReporter progress(&m_host.eventManager());
-    return ProjectSaver(m_database, progress)
+    return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters());
 }
 

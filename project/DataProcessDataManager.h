@@ -59,6 +59,9 @@ public:
     Outcome saveProject(const ProjectPlace& place);
     /// Why the project file could not be read, so that nothing is saved in it; empty when it was.
     [[nodiscard]] const QString& projectFileFault() const { return m_projectFileFault; }
+    /// Writes what is in memory as a project of its own in another folder, which must be there.
+    /// The open project and its files stay as they are; it need not have them any more.
+    Outcome saveCopy(const ProjectPlace& copy);
     /// Whether the last `saveProject` failed, so that the files are older than what is in memory.
     [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }
     /// Forgets the points and parameters of the open project and gives up its lock. Its coordinate
@@ -128,7 +131,8 @@ private:
     [[nodiscard]] Outcome read(const ProjectPlace& place);
     [[nodiscard]] Outcome write(const ProjectPlace& place);
     [[nodiscard]] Outcome readDatabase(const QString& path, IDictionary& coordSystem);
-    [[nodiscard]] Outcome writeDatabase(const QString& path);
+    [[nodiscard]] Outcome writeDatabase(IDBAdapter& database, const QString& path);
+    [[nodiscard]] Outcome fillCopy(const ProjectPlace& copy);
 
     IHost& m_host; // outlives the manager
     EventSubscription m_subscription;

@@ -138,7 +138,8 @@ void describe(const ProjectPlace& place, IDictionary& project)
                 current.text(CoordinateRecord::kId, CoordinateRecord::kUndefinedId));
 }
 
-Outcome create(const ProjectPlace& place, const IDictionary& project)
+Outcome create(const ProjectPlace& place, const IDictionary& project,
+               const std::function<Outcome()>& fill)
 {
     ProjectLock lock;
     if (Outcome taken = lock.take(place); !taken.isDone())
@@ -153,6 +154,8 @@ Outcome create(const ProjectPlace& place, const IDictionary& project)
         if (making.isDone())
             making = files.copyTemplate(name, target);
     }
+    if (making.isDone() && fill)
+        making = fill();
     if (making.isDone()) // last, since the project file is what makes the folder a project
         making = files.write(place.file, lum::writeDictionary(project));
     if (making.isDone())

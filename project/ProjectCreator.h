@@ -2,6 +2,8 @@
 
 #include "protocol/Outcome.h"
 
+#include <functional>
+
 class IDictionary;
 struct ProjectPlace;
 
@@ -18,7 +20,10 @@ namespace ProjectCreator {
 void describe(const ProjectPlace& place, IDictionary& project);
 
 /// \param project  the project dictionary, see ProjectFile
-[[nodiscard]] Outcome create(const ProjectPlace& place, const IDictionary& project);
+/// \param fill     writes into the new database and parameter files; without it they stay as those
+///                 of the installation
+[[nodiscard]] Outcome create(const ProjectPlace& place, const IDictionary& project,
+                             const std::function<Outcome()>& fill = {});
 
 /// Makes an empty database where the project's database is missing and there is no copy of an
 /// interrupted save either. Does nothing otherwise.

@@ -30,6 +30,13 @@ QString inUse(const QLockFile& file, const QString& path)
                .arg(QDir::toNativeSeparators(path));
 }
 
+Outcome noFolder(const ProjectPlace& place)
+{
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore", "The folder \"%1\" does not exist.")
+            .arg(QDir::toNativeSeparators(place.folder)));
+}
+
 /// Why the lock cannot be written, although no other program holds it.
 QString notWritten(const QLockFile& file, const QString& path)
 {
@@ -59,15 +66,15 @@ Outcome ProjectLock::take(const ProjectPlace& place)
     if (file->error() == QLockFile::LockFailedError)
         return Outcome::failed(inUse(*file, path));
     if (!QFileInfo(place.folder).isDir())
-        return Outcome::failed(
-            QCoreApplication::translate("ProjectStore", "The folder \"%1\" does not exist.")
-                .arg(place.folder));
+        return noFolder(place);
     m_lookedAt = QFileInfo(place.database()).lastModified();
     return Outcome::done(notWritten(*file, path));
 }
 
 Outcome ProjectLock::ensure(const ProjectPlace& place)
 {
+    if (!QFileInfo(place.folder).isDir())
+        return noFolder(place);
     if (m_file)
         return Outcome::done();
     const QDateTime before = m_lookedAt;

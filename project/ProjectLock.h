@@ -22,8 +22,8 @@ public:
     [[nodiscard]] Outcome take(const ProjectPlace& place);
 
     /// Before the project is written: takes the lock if `take` could not write it.
-    /// \returns failed when it cannot be had now either, or when the database was changed while
-    ///          this program had no lock
+    /// \returns failed when it cannot be had now either, when the database was changed while this
+    ///          program had no lock, or when the folder is gone
     [[nodiscard]] Outcome ensure(const ProjectPlace& place);
     void release() { m_file.reset(); }
 

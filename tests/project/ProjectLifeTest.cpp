@@ -12,6 +12,7 @@
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/OrdinaryUser.h"
 #include "tests/project/TestProject.h"
+#include "tests/support/Literals.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
@@ -299,6 +300,58 @@ TEST_F(ProjectLife, OnlyAProjectFileIsOpened)
     expectFailure(manager.openProject(ProjectPlace::ofFile(database)), place.file.toUtf8());
     EXPECT_TRUE(manager.surveyPoints().empty());
     EXPECT_EQ(files("*.lock"), QStringList());
+}
+
+TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
+{
+    create();
+    execute(database, "create table Notes (text TEXT)");
+    expectDone(manager.openProject(place));
+    const QByteArray before = TestFolder::read(database);
+    manager.surveyPoints().set(surveyPoint("L1", "7"));
+    manager.qualityParameters().set("only_here", "1");
+    manager.project().set("crew", "second");
+    const auto expectCopy = [&](const char* name) {
+        const ProjectPlace copy = ProjectPlace::planned(root.path(), QString::fromUtf8(name));
+        ASSERT_TRUE(QDir().mkpath(copy.folder));
+        expectDone(manager.saveCopy(copy));
+        expectDone(other.openProject(copy));
+        EXPECT_EQ(other.surveyPoints().pointCount(), 1U);
+        EXPECT_EQ(other.qualityParameters().text("only_here"), "1");
+        EXPECT_EQ(other.project().text("crew"), "second");
+        EXPECT_EQ(other.project().text(ProjectFile::kPath), copy.folder.toStdString());
+        other.clear();
+    };
+    expectCopy("copy 1");
+    execute(root.path("copy 1/copy 1.db"), "insert into Notes values ('kept')");
+    EXPECT_EQ(TestFolder::read(database), before);
+    EXPECT_TRUE(QFile::exists(database + QStringLiteral(".lock"))) << "it is still open";
+
+    ASSERT_TRUE(QFile::resize(database, 5000)); // damaged
+    expectCopy("copy 2");
+    ASSERT_TRUE(QDir(place.folder).removeRecursively());
+    expectFailure(manager.saveProject(place), place.folder.toUtf8() + "\" does not exist");
+    expectCopy("copy 3");
+}
+
+TEST_F(ProjectLife, ACopyThatFailsLeavesNothing)
+{
+    createAndOpen();
+    const ProjectPlace copy = ProjectPlace::planned(root.path(), QStringLiteral("copy"));
+    ASSERT_TRUE(QDir().mkpath(copy.folder));
+    write(copy.database(), "old");
+    for (int i = 0; i < 2000; ++i)
+        manager.surveyPoints().set(surveyPoint("L1", std::to_string(i)));
+    for (const rlim_t kilobytes : {1U, 40U, 100U}) {
+        const SmallFiles limit(kilobytes * 1024);
+        const Outcome saving = manager.saveCopy(copy);
+        EXPECT_FALSE(saving.isDone() || saving.text().contains("canceled"_q)) << saving.detail();
+        EXPECT_EQ(QDir(copy.folder).entryList(QDir::Files), QStringList{QStringLiteral("copy.db")})
+            << kilobytes;
+        EXPECT_EQ(TestFolder::read(copy.database()), "old");
+    }
+    EXPECT_EQ(manager.surveyPoints().pointCount(), 2000U);
+    expectDone(manager.saveProject(place));
 }
 
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)
