@@ -22,6 +22,12 @@ QString joined(const QString& folder, const QString& name)
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
 }
 
+const QRegularExpression& badCharacters()
+{
+    static const QRegularExpression pattern(QStringLiteral("[\\x00-\\x1f\\x7f\\\\/:*?\"<>|.]"));
+    return pattern;
+}
+
 /// Names that some systems keep for devices.
 bool isReserved(const QString& name)
 {
@@ -62,8 +68,7 @@ QString projectNameFault(const QString& name)
 {
     if (name.isEmpty())
         return translated(QT_TRANSLATE_NOOP("ProjectPlace", "Please enter a project name."));
-    static const QRegularExpression bad(QStringLiteral("[\\x00-\\x1f\\x7f\\\\/:*?\"<>|.]"));
-    const QRegularExpressionMatch match = bad.match(name);
+    const QRegularExpressionMatch match = badCharacters().match(name);
     if (match.hasMatch() && match.captured().at(0).isPrint())
         return translated(
                    QT_TRANSLATE_NOOP("ProjectPlace", "A project name cannot contain \"%1\"."))
@@ -81,6 +86,14 @@ QString projectNameFault(const QString& name)
     if (name.toUtf8().size() > kLongestNameBytes)
         return translated(QT_TRANSLATE_NOOP("ProjectPlace", "The project name is too long."));
     return {};
+}
+
+QString projectNameProposal(const QString& name)
+{
+    static const QRegularExpression edges(QStringLiteral("^[-\\s]+|[-\\s]+$"));
+    QString proposal = name;
+    proposal.replace(badCharacters(), QStringLiteral("-")).remove(edges);
+    return projectNameFault(proposal).isEmpty() ? proposal : QString();
 }
 
 QString projectSuffixFault(const QString& file)

@@ -29,6 +29,10 @@ struct ProjectPlace
 /// since the name of a project file ends at the first one.
 [[nodiscard]] QString projectNameFault(const QString& name);
 
+/// A good name that is near to a bad one, such as "Block 3-2" for "Block 3.2"; empty when there is
+/// none.
+[[nodiscard]] QString projectNameProposal(const QString& name);
+
 /// Why a file of this name is no project file, a translated sentence; empty when it may be one.
 [[nodiscard]] QString projectSuffixFault(const QString& file);
 

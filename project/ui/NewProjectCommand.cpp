@@ -59,7 +59,7 @@ void NewProjectCommand::execute()
     DlgNewProject dialog(host().dialogParent());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const ProjectPlace place = ProjectPlace::planned(dialog.projectPath(), dialog.projectName());
+    const ProjectPlace place = dialog.place();
     if (!makeFolder(host(), place.folder))
         return;
     basalt::Dictionary project;

@@ -302,6 +302,10 @@ private Q_SLOTS:
             QVERIFY(isRefused()); // no name
             type(dialog, "name", QStringLiteral("a/b"));
             QVERIFY(isRefused());
+            type(dialog, "name", QStringLiteral("Block 3.2"));
+            press(dialog, "Use \"Block 3-2\"");
+            QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("name"))->text(),
+                     QStringLiteral("Block 3-2"));
             type(dialog, "name", QStringLiteral("good"));
             type(dialog, "path", m_folder->path("missing"));
             QVERIFY(isRefused());

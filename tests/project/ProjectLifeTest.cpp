@@ -354,6 +354,17 @@ TEST_F(ProjectLife, ACopyThatFailsLeavesNothing)
     expectDone(manager.saveProject(place));
 }
 
+TEST(ProjectPlace, ProposesANameNearToABadOne)
+{
+    const auto proposal = [](const char* name) {
+        return projectNameProposal(QString::fromUtf8(name)).toStdString();
+    };
+    EXPECT_EQ(proposal("Block 3.2"), "Block 3-2");
+    EXPECT_EQ(proposal("测区/一?"), "测区-一");
+    for (const char* hopeless : {"..", "", "con"})
+        EXPECT_EQ(proposal(hopeless), "") << hopeless;
+}
+
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)
 {
     for (const char* good : {"area 1", "测区_一", "R&D (2)", "a'b"})
