@@ -18,6 +18,7 @@
 #include "project/ui/NewProjectCommand.h"
 #include "project/ui/OpenProjectCommand.h"
 #include "project/ui/RecentProjectCommand.h"
+#include "project/ui/SaveCopyCommand.h"
 #include "project/ui/SaveProjectCommand.h"
 #include "project/ui/SysSettingCommand.h"
 #include "project/ui/TimeZomeDlgCommand.h"
@@ -40,6 +41,7 @@ using namespace desktop::registration;
     command<OpenProjectCommand>         ("OpenProjectCommand",           "打开工程"),
     command<RecentProjectCommand>       ("RecentProjectCommand",         "最近工程"),
     command<SaveProjectCommand>         ("SaveProjectCommand",           "保存工程"),
+    command<SaveCopyCommand>            ("SaveCopyCommand",              "工程另存副本"),
     command<CloseProjectCommand>        ("CloseProjectCommand",          "关闭工程"),
     command<SysSettingCommand>          ("SysSettingCommand",            "设置"),
     command<TimeZomeDlgCommand>         ("TimeZomeDlgCommand",           "时区修改"),

@@ -6,6 +6,7 @@
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
+#include "project/ui/SaveCopyCommand.h"
 #include "protocol/StatusKeys.h"
 
 #include <QCoreApplication>
@@ -45,5 +46,6 @@ void SaveProjectCommand::execute()
         LumMessageBox::information(
             host().dialogParent(), translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "failed")),
             translated(QT_TRANSLATE_NOOP("SaveProjectCommand", "Save project failed!")),
-            LumMessageBox::Button::Ok, saving.text());
+            LumMessageBox::Button::Ok,
+            saving.text() + QLatin1Char('\n') + SaveCopyCommand::advice());
 }

@@ -25,9 +25,9 @@ constexpr const char* kComponents =
     " NewProjectCommand 新建工程, OpenProjectCommand 打开工程, PPKMoveCommand 地图移动,"
     " PPKZoomAllCommand 全图, PPKZoomInCommand 地图放大, PPKZoomOutCommand 地图缩小,"
     " PPKZoomRectCommand 局部矩形放大, QualitySpecificateCommand 质量规范,"
-    " RecentProjectCommand 最近工程, ResetLayoutCommand 恢复布局, SaveProjectCommand 保存工程,"
-    " SettingChoiceCommand 系统设置选项, SysSettingCommand 设置, TimeZomeDlgCommand 时区修改,"
-    " ViewChangeCommand 更改视图\n"
+    " RecentProjectCommand 最近工程, ResetLayoutCommand 恢复布局, SaveCopyCommand 工程另存副本,"
+    " SaveProjectCommand 保存工程, SettingChoiceCommand 系统设置选项, SysSettingCommand 设置,"
+    " TimeZomeDlgCommand 时区修改, ViewChangeCommand 更改视图\n"
     "IGuiAssistant: DataProcess5 助手\n";
 
 } // namespace

@@ -206,6 +206,16 @@ class ProjectCommandsTest : public QObject
         });
         run("New Project");
     }
+    /// Saves a copy into `location` under the name that the dialog shows.
+    void saveCopy(const QString& location)
+    {
+        whenDialog("DlgProjectPlace", [&](QDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save a Copy As"));
+            type(dialog, "path", location);
+            press(dialog, "OK");
+        });
+        run("Save a Copy As");
+    }
     void answerNo(const char* question) { m_answers[QString::fromUtf8(question)] = Button::No; }
     void expectAsked(const char* lines) { QCOMPARE(std::exchange(m_asked, {}), QByteArray(lines)); }
     void expectHeard(const QByteArray& lines)
@@ -473,10 +483,70 @@ private Q_SLOTS:
         QVERIFY(isOpen());
         QVERIFY(!manager().designPoints().empty());
         run("Save Project");
-        QVERIFY(!m_details.isEmpty());
+        QVERIFY(m_details.contains(QStringLiteral("Save a Copy As")));
         m_answers.clear();
         run("Close Project");
         QVERIFY(!isOpen());
+    }
+
+    void savesACopyAndKeepsTheProject()
+    {
+        makeProject("a");
+        open("a");
+        manager().designPoints().set({"1001", "10015001", 1, 2, 3, 4, 1, 0});
+        const QString elsewhere = m_folder->path("elsewhere");
+        QVERIFY(QDir().mkpath(elsewhere));
+        whenDialog("DlgProjectPlace", [&](QDialog& dialog) {
+            type(dialog, "path", m_folder->path());
+            QTest::keyClick(&dialog, Qt::Key_Return); // the open project is there
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("name"))->text(),
+                     QStringLiteral("a 2"));
+            type(dialog, "name", QStringLiteral("a"));
+            type(dialog, "path", elsewhere);
+            press(dialog, "OK");
+        });
+        run("Save a Copy As");
+        const ProjectPlace copy = ProjectPlace::planned(elsewhere, QStringLiteral("a"));
+        expectAsked("Save a Copy As: The copy is in \"" + copy.folder.toUtf8() + "\".\n");
+        QVERIFY(m_details.contains(place("a").folder));
+        QVERIFY(isOpen("a"));
+        expectHeard("");
+        DataProcessDataManager other(m_host.get());
+        QVERIFY(other.openProject(copy).isDone());
+        QCOMPARE(other.designPoints().pointCount(), 1U);
+        QVERIFY(other.openProject(place("a"), ProjectAccess::Look).isDone());
+        QCOMPARE(other.designPoints().pointCount(), 0U);
+    }
+
+    void goesOnWithTheCopyOfAProjectWhoseFolderIsGone()
+    {
+        makeProject("a");
+        open("a");
+        manager().designPoints().set({"1001", "10015001", 1, 2, 3, 4, 1, 0});
+        const QString gone = place("a").folder;
+        QVERIFY(QDir(gone).removeRecursively());
+        const auto question = [&](const char* name) {
+            return "The copy is in \"" + m_folder->path(name).toUtf8() +
+                   "/a\". Go on with the copy?";
+        };
+        const auto copyTo = [&](const char* name) {
+            QDir(m_folder->path()).mkdir(QString::fromUtf8(name));
+            saveCopy(m_folder->path(name));
+            expectAsked("Save a Copy As: " + question(name) + '\n');
+            QVERIFY(m_details.contains(gone));
+        };
+        answerNo(question("1"));
+        copyTo("1");
+        expectHeard("");
+        copyTo("2");
+        expectHeard(changeTo("a"));
+        QCOMPARE(QString::fromStdString(
+                     std::string(get_system_status_dictionary().text(status::kProjectPath))),
+                 m_folder->path("2/a"));
+        QCOMPARE(manager().designPoints().pointCount(), 1U);
+        run("Save Project");
+        expectAsked("information: save project?\nsuccess: Save project success!\n");
     }
 
     void changesTheSettingsOfTheOpenProject()
