@@ -36,6 +36,14 @@
         <translation>把设计数据、勘察成果和质量限差保存到工程数据库</translation>
     </message>
     <message>
+        <source>Save a Copy As...</source>
+        <translation>另存副本...</translation>
+    </message>
+    <message>
+        <source>Save the whole project, as it is now, in another folder</source>
+        <translation>把整个工程按当前内容另存到其他文件夹</translation>
+    </message>
+    <message>
         <source>Close Project</source>
         <translation>关闭工程</translation>
     </message>

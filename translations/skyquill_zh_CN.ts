@@ -429,6 +429,43 @@
     </message>
 </context>
 <context>
+    <name>CoordSystemQuestions</name>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>by its own parameters</source>
+        <translation>按自身参数定义</translation>
+    </message>
+    <message>
+        <source>No coordinate system is chosen. Make the project without one?</source>
+        <translation>尚未选择坐标系统。是否建立没有坐标系统的工程？</translation>
+    </message>
+    <message>
+        <source>Without one, latitude and longitude cannot be turned into north and east, nor back. It can be chosen later in the project settings.</source>
+        <translation>没有坐标系统，就无法在经纬度与北、东坐标之间换算。以后可在工程设置中选择。</translation>
+    </message>
+    <message>
+        <source>This project holds points (designed: %1, survey results: %2). Change its coordinate system?</source>
+        <translation>本工程中已有点（设计点：%1，测量成果：%2）。是否更改坐标系统？</translation>
+    </message>
+    <message>
+        <source>Now: %1.
+Then: %2.
+
+The positions stay the numbers that they are: nothing is converted. They then count as positions in the new system, which is another place on the ground. Sea heights are computed anew.</source>
+        <translation>现在：%1。
+更改后：%2。
+
+坐标数值保持不变，不做任何转换；之后它们将作为新坐标系统中的坐标，对应地面上的另一位置。海拔高将重新计算。</translation>
+    </message>
+</context>
+<context>
     <name>CoordSystemRows</name>
     <message>
         <source>Latitude of true scale</source>
@@ -660,6 +697,13 @@
         <translation>新建工程</translation>
     </message>
     <message>
+        <source>The project will be in &quot;%1&quot;.</source>
+        <translation>工程将保存在“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DlgProjectPlace</name>
+    <message>
         <source>Project Name:</source>
         <translation>工程名称：</translation>
     </message>
@@ -684,8 +728,12 @@
         <translation>选择工程目录</translation>
     </message>
     <message>
-        <source>The project will be in &quot;%1&quot;.</source>
-        <translation>工程将保存在“%1”。</translation>
+        <source>The open project itself is in this folder. Choose another name or folder.</source>
+        <translation>当前打开的工程就在此文件夹中。请另选名称或文件夹。</translation>
+    </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>使用“%1”</translation>
     </message>
 </context>
 <context>
@@ -894,6 +942,14 @@
         <source>The folder &quot;%1&quot; cannot be written.</source>
         <translation>文件夹“%1”不可写。</translation>
     </message>
+    <message>
+        <source>Open &quot;%1&quot; instead.</source>
+        <translation>请打开“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project file: its name would end in &quot;.%2&quot;.</source>
+        <translation>“%1”不是工程文件：工程文件名应以“.%2”结尾。</translation>
+    </message>
 </context>
 <context>
     <name>ProjectSession</name>
@@ -997,10 +1053,6 @@
         <translation>该工程的文件夹不可写：更改无法保存。</translation>
     </message>
     <message>
-        <source>The project file &quot;%1&quot; cannot be read: what it says about the project is neither shown nor saved.</source>
-        <translation>工程文件“%1”无法读取：其中的工程信息既不显示也不保存。</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; cannot be written: %2.</source>
         <translation>文件“%1”无法写入：%2。</translation>
     </message>
@@ -1019,6 +1071,10 @@
     <message>
         <source>Another program has changed the project since it was opened here without a lock.</source>
         <translation>该工程在此处未加锁打开之后，已被另一个程序更改。</translation>
+    </message>
+    <message>
+        <source>The project file &quot;%1&quot; cannot be read (%2): what it says about the project is neither shown nor saved.</source>
+        <translation>无法读取工程文件“%1”（%2）：其中的工程信息既不显示也不保存。</translation>
     </message>
 </context>
 <context>
@@ -1225,6 +1281,61 @@
     <message>
         <source>Limit</source>
         <translation>限值</translation>
+    </message>
+</context>
+<context>
+    <name>SaveCopyCommand</name>
+    <message>
+        <source>Save a Copy As</source>
+        <translation>另存副本</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; exists already. Save the copy there?</source>
+        <translation>文件夹“%1”已存在。是否把副本保存在那里？</translation>
+    </message>
+    <message>
+        <source>Its files stay; those of the same names get the present time behind their names.</source>
+        <translation>其中的文件会保留；同名文件的名称后将加上当前时间。</translation>
+    </message>
+    <message>
+        <source>The copy will be in &quot;%1&quot;.</source>
+        <translation>副本将保存在“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;Project &gt; Save a Copy As&quot; saves it, with all changes, in another folder.</source>
+        <translation>可用“工程 &gt; 另存副本”把工程连同全部更改保存到其他文件夹。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>无法创建文件夹“%1”。</translation>
+    </message>
+    <message>
+        <source>The copy cannot be saved.</source>
+        <translation>无法保存副本。</translation>
+    </message>
+    <message>
+        <source>The copy is in &quot;%1&quot;.</source>
+        <translation>副本已保存在“%1”。</translation>
+    </message>
+    <message>
+        <source>The folder of the open project, &quot;%1&quot;, is gone.</source>
+        <translation>当前打开工程的文件夹“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>The open project cannot be saved in its own folder, &quot;%1&quot;.</source>
+        <translation>当前打开的工程无法保存在原文件夹“%1”中。</translation>
+    </message>
+    <message>
+        <source>Go on with the copy?</source>
+        <translation>是否改用副本继续工作？</translation>
+    </message>
+    <message>
+        <source>The open project stays in &quot;%1&quot;.</source>
+        <translation>当前打开的工程仍在“%1”。</translation>
+    </message>
+    <message>
+        <source>The copy cannot be opened.</source>
+        <translation>无法打开副本。</translation>
     </message>
 </context>
 <context>
