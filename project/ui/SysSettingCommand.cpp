@@ -19,6 +19,7 @@ void SysSettingCommand::execute()
     const IDictionary& coordSystem = get_project_coord_transform().parameters();
     dictionary_copy(coordSystem, project, CoordinateRecord::kKeys);
     dictionary_copy(coordSystem, project, CoordinateRecord::kId);
+    const basalt::Dictionary before(project);
     DlgProjectSet dialog(host(), project);
     QObject::connect(&dialog, &DlgProjectSet::applied, &dialog, [&] {
         dictionary_copy(project, manager.project());
@@ -26,6 +27,8 @@ void SysSettingCommand::execute()
         dictionary_copy(project, parameters, CoordinateRecord::kKeys);
         dictionary_copy(project, parameters, CoordinateRecord::kId);
         manager.setCoordSystem(parameters);
+        if (!dictionary_same(before, project))
+            manager.markChanged();
     });
     dialog.exec();
 }

@@ -114,9 +114,9 @@ void MainFrame::setTitle(const QString& title)
     showTitle();
 }
 
-void MainFrame::setDocument(const QString& name)
+void MainFrame::setDocument(const DesktopDocument& document)
 {
-    m_document = name;
+    m_document = document;
     showTitle();
 }
 
@@ -156,7 +156,14 @@ void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
 
 void MainFrame::showTitle()
 {
-    setWindowTitle(m_document.isEmpty() ? m_title : m_document + QStringLiteral(" - ") + m_title);
+    const QString mark = QStringLiteral("[*]"); // where Qt shows that the window is modified
+    QString document = m_document.name;
+    document.replace(mark, mark + mark); // as Qt writes a name that holds it
+    if (!document.isEmpty())
+        document +=
+            mark + (m_document.isReadOnly ? tr(" [read-only]") : QString()) + QStringLiteral(" - ");
+    setWindowTitle(document + m_title);
+    setWindowModified(m_document.isChanged && !document.isEmpty());
 }
 
 void MainFrame::dragEnterEvent(QDragEnterEvent* event)
