@@ -157,10 +157,15 @@ void CustomTableWidget::contextMenuEvent(QContextMenuEvent* event)
 
 void CustomTableWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (event->matches(QKeySequence::Copy))
+    if (event->matches(QKeySequence::Copy)) {
         copySelection(); // the base class copies one cell only
-    else
-        QTableView::keyPressEvent(event);
+        return;
+    }
+    const int before = currentIndex().row();
+    QTableView::keyPressEvent(event);
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (currentIndex().isValid() && (isEnter || currentIndex().row() != before))
+        Q_EMIT reachedByKey(currentIndex());
 }
 
 void CustomTableWidget::fitRowHeight()
