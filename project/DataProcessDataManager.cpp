@@ -130,6 +130,7 @@ Outcome DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAc
         reading.add(locking.text());
     else
         clear(); // what was read before the failure
+    m_isSaveOwed = false;
     m_isChanged = false;
     return logged(reading);
 }
@@ -162,7 +163,8 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
 Outcome DataProcessDataManager::saveProject(const ProjectPlace& place)
 {
     const Outcome writing = write(place);
-    m_isChanged = !writing.isDone();
+    m_isSaveOwed = !writing.isDone();
+    m_isChanged = m_isSaveOwed;
     m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
     return logged(writing);
 }
@@ -199,6 +201,7 @@ void DataProcessDataManager::clear()
     m_designParameters.clear();
     m_database.close();
     m_lock.release();
+    m_isSaveOwed = false;
     m_isChanged = false;
 }
 

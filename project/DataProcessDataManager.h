@@ -56,6 +56,8 @@ public:
     /// Writes them all, and the design parameters as the template of new projects. A database that
     /// is missing is made anew.
     Outcome saveProject(const ProjectPlace& place);
+    /// Whether the last `saveProject` failed, so that the files are older than what is in memory.
+    [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }
     /// Whether the project lives in a folder that could not be written when it was opened, or is
     /// only looked at.
     [[nodiscard]] bool isReadOnly() const { return !m_lock.isHeld(); }
@@ -145,6 +147,7 @@ private:
     SurveyPoints m_survey;
     basalt::Dictionary m_project;
     QString m_projectFile; ///< the one that was opened; empty when it could not be read
+    bool m_isSaveOwed = false;
     bool m_isChanged = false;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;

@@ -225,6 +225,7 @@ TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
         EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
         manager.surveyPoints().set(surveyPoint("L1", "8"));
         expectFailure(manager.saveProject(place), "cannot be saved");
+        EXPECT_TRUE(manager.isSaveOwed());
         EXPECT_TRUE(manager.isChanged() && manager.isReadOnly());
         EXPECT_EQ(manager.surveyPoints().pointCount(), 2U);
     }

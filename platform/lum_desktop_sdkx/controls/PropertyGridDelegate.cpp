@@ -24,6 +24,13 @@ constexpr int kNoteFlags = Qt::AlignLeft | Qt::TextWordWrap;
 /// Half transparent, so that it suits light and dark rows.
 constexpr QRgb kNoteColor = qRgba(0xf0, 0xa0, 0x00, 0x50);
 
+/// Where the text of a note stands, below the caption.
+QRect notePlace(const QTreeView& view, const QRect& place)
+{
+    const int padding = dpi_scaled(kNotePadding);
+    return place.adjusted(view.indentation() + padding, padding, -padding, -padding);
+}
+
 } // namespace
 
 PropertyGridDelegate::PropertyGridDelegate(PropertyGridModel& model, QObject* parent)
@@ -121,18 +128,16 @@ int PropertyGridDelegate::noteHeight(const QTreeView& view, const QModelIndex& i
     const QString note = m_model.note(index);
     if (note.isEmpty())
         return 0;
-    const QRect room(0, 0, view.viewport()->width() - 2 * dpi_scaled(kNotePadding), 0);
-    return view.fontMetrics().boundingRect(room, kNoteFlags, note).height() +
-           2 * dpi_scaled(kNotePadding);
+    const QRect row(0, 0, view.viewport()->width(), 0);
+    const QRect text = view.fontMetrics().boundingRect(notePlace(view, row), kNoteFlags, note);
+    return text.height() + 2 * dpi_scaled(kNotePadding);
 }
 
-void PropertyGridDelegate::drawNote(QPainter& painter, const QRect& place,
+void PropertyGridDelegate::drawNote(QPainter& painter, const QTreeView& view, const QRect& place,
                                     const QModelIndex& index) const
 {
     painter.fillRect(place, QColor::fromRgba(kNoteColor));
-    const int padding = dpi_scaled(kNotePadding);
-    painter.drawText(place.adjusted(padding, padding, -padding, -padding), kNoteFlags,
-                     m_model.note(index));
+    painter.drawText(notePlace(view, place), kNoteFlags, m_model.note(index));
 }
 
 void PropertyGridDelegate::initStyleOption(QStyleOptionViewItem* option,

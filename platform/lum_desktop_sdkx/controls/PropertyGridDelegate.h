@@ -25,7 +25,8 @@ public:
 
     /// The height of the sentence under a row; 0 without one.
     [[nodiscard]] int noteHeight(const QTreeView& view, const QModelIndex& index) const;
-    void drawNote(QPainter& painter, const QRect& place, const QModelIndex& index) const;
+    void drawNote(QPainter& painter, const QTreeView& view, const QRect& place,
+                  const QModelIndex& index) const;
 
 Q_SIGNALS:
     /// The text in the editor of a row is a good value.

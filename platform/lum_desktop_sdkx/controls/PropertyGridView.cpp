@@ -91,7 +91,7 @@ void PropertyGridView::drawRow(QPainter* painter, const QStyleOptionViewItem& op
     painter->save();
     if (noteHeight > 0) {
         painter->setPen(palette().color(QPalette::Text));
-        delegate->drawNote(*painter, rect.adjusted(0, upper.rect.height(), 0, 0), index);
+        delegate->drawNote(*painter, *this, rect.adjusted(0, upper.rect.height(), 0, 0), index);
     }
     painter->setPen(blend(palette().color(QPalette::Base), palette().color(QPalette::Text), 0.14));
     const int middle = columnViewportPosition(PropertyGridModel::Value) - 1;

@@ -196,8 +196,8 @@ void ResultListTest::theKeyboardShowsTheResult()
     const DataProcessDataManager manager(m_host.get());
     const auto list = makeList();
     QVERIFY(QTest::qWaitForWindowActive(list.get()));
-    for (const Qt::Key key :
-         {Qt::Key_Down, Qt::Key_Right, Qt::Key_End, Qt::Key_Down, Qt::Key_Home, Qt::Key_Return})
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_PageDown, Qt::Key_Down,
+                              Qt::Key_PageUp, Qt::Key_Return})
         QTest::keyClick(QApplication::focusWidget(), key);
     QCOMPARE(points.asked,
              (QStringList{QStringLiteral("L \"1\", north/7"), QStringLiteral("1001/8"),
