@@ -498,6 +498,10 @@
         <source>Quality Check Complete!</source>
         <translation>质量检查完成！</translation>
     </message>
+    <message>
+        <source>Faults found: %1.</source>
+        <translation>发现问题：%1 条。</translation>
+    </message>
 </context>
 <context>
     <name>DataProcessDataManager</name>
@@ -721,6 +725,10 @@
         <source>OK</source>
         <translation>确定</translation>
     </message>
+    <message>
+        <source>The limits cannot be shown, and stay as they are: the file &quot;%1&quot; cannot be read (%2).</source>
+        <translation>无法显示质量限差，限差保持不变：文件“%1”无法读取（%2）。</translation>
+    </message>
 </context>
 <context>
     <name>DlgQCResult</name>
@@ -809,6 +817,20 @@
     <message>
         <source>Further fields that cannot be read: %1.</source>
         <translation>其余无法识别的字段：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>LumMessageBox</name>
+    <message>
+        <source>&amp;Do not show again</source>
+        <translation>不再显示(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>MainFrame</name>
+    <message>
+        <source> [read-only]</source>
+        <translation> [只读]</translation>
     </message>
 </context>
 <context>
@@ -916,6 +938,22 @@
     <message>
         <source>The project could not be saved. Close it all the same and lose the changes?</source>
         <translation>工程未能保存。仍要关闭并放弃更改吗？</translation>
+    </message>
+    <message>
+        <source>save project?</source>
+        <translation>是否保存工程？</translation>
+    </message>
+    <message>
+        <source>Save project failed!</source>
+        <translation>工程保存失败！</translation>
+    </message>
+    <message>
+        <source>success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Save project success!</source>
+        <translation>工程保存成功！</translation>
     </message>
 </context>
 <context>
@@ -1164,15 +1202,42 @@
     </message>
     <message>
         <source>Horizontal Accuracy Out-range.</source>
-        <translation>平面精度超限。</translation>
+        <translation>横向偏差超限。</translation>
     </message>
     <message>
         <source>Vertical Accuracy Out-range.</source>
-        <translation>高程精度超限。</translation>
+        <translation>纵向偏差超限。</translation>
     </message>
     <message>
         <source>Horizontal AND Vertical Accuracy Out-range.</source>
-        <translation>平面和高程精度均超限。</translation>
+        <translation>横向和纵向偏差均超限。</translation>
+    </message>
+    <message>
+        <source>The transversal deviation: how far the point lies beside its line.</source>
+        <translation>横向偏差：实测点偏离测线的距离。</translation>
+    </message>
+    <message>
+        <source>The longitudinal deviation: how far the point lies from its place, measured along its line.</source>
+        <translation>纵向偏差：实测点沿测线方向偏离设计位置的距离。</translation>
+    </message>
+    <message>
+        <source>The transversal and the longitudinal deviation: how far the point lies from its place, measured across and along its line.</source>
+        <translation>横向偏差和纵向偏差：实测点垂直于测线和沿测线方向偏离设计位置的距离。</translation>
+    </message>
+</context>
+<context>
+    <name>QualityLimits</name>
+    <message>
+        <source>The minimum is above this maximum: no value passes.</source>
+        <translation>最小值大于此最大值：任何值都不合格。</translation>
+    </message>
+    <message>
+        <source>With a minus every resurvey is out of range.</source>
+        <translation>限差为负时，所有复测点都会超限。</translation>
+    </message>
+    <message>
+        <source>The minus does not count: the limit is %1.</source>
+        <translation>负号不起作用：限差为 %1。</translation>
     </message>
 </context>
 <context>
@@ -1228,33 +1293,6 @@
     </message>
 </context>
 <context>
-    <name>SaveProjectCommand</name>
-    <message>
-        <source>information</source>
-        <translation>提示</translation>
-    </message>
-    <message>
-        <source>save project?</source>
-        <translation>是否保存工程？</translation>
-    </message>
-    <message>
-        <source>success</source>
-        <translation>成功</translation>
-    </message>
-    <message>
-        <source>Save project success!</source>
-        <translation>工程保存成功！</translation>
-    </message>
-    <message>
-        <source>failed</source>
-        <translation>失败</translation>
-    </message>
-    <message>
-        <source>Save project failed!</source>
-        <translation>工程保存失败！</translation>
-    </message>
-</context>
-<context>
     <name>ScaleBar</name>
     <message>
         <source>%1 ft</source>
@@ -1278,6 +1316,21 @@
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>ShowQuestionsCommand</name>
+    <message>
+        <source>All questions and messages are shown already.</source>
+        <translation>没有被隐藏的提问和消息。</translation>
+    </message>
+    <message>
+        <source>Questions and messages that are shown again: %1.</source>
+        <translation>恢复显示的提问和消息：%1 个。</translation>
+    </message>
+    <message>
+        <source>Questions</source>
+        <translation>提问</translation>
     </message>
 </context>
 <context>
