@@ -1229,7 +1229,7 @@
     <name>QualityLimits</name>
     <message>
         <source>The minimum is above this maximum: no value passes.</source>
-        <translation>最小值大于此最大值：任何值都不合格。</translation>
+        <translation>下限大于此上限：任何值都不合格。</translation>
     </message>
     <message>
         <source>With a minus every resurvey is out of range.</source>
