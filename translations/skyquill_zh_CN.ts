@@ -829,8 +829,8 @@
 <context>
     <name>MainFrame</name>
     <message>
-        <source> [read-only]</source>
-        <translation> [只读]</translation>
+        <source>[read-only]</source>
+        <translation>[只读]</translation>
     </message>
 </context>
 <context>

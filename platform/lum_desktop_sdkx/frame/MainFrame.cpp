@@ -156,14 +156,18 @@ void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
 
 void MainFrame::showTitle()
 {
-    const QString mark = QStringLiteral("[*]"); // where Qt shows that the window is modified
-    QString document = m_document.name;
-    document.replace(mark, mark + mark); // as Qt writes a name that holds it
-    if (!document.isEmpty())
-        document +=
-            mark + (m_document.isReadOnly ? tr(" [read-only]") : QString()) + QStringLiteral(" - ");
-    setWindowTitle(document + m_title);
-    setWindowModified(m_document.isChanged && !document.isEmpty());
+    const bool isOpen = !m_document.name.isEmpty();
+    QString title = m_title;
+    if (isOpen) {
+        const QString mark = QStringLiteral("[*]"); // where Qt shows that the window is modified
+        QString name = m_document.name;
+        name.replace(mark, mark + mark); // as Qt writes a name that holds it
+        const QString access =
+            m_document.isReadOnly ? QLatin1Char(' ') + tr("[read-only]") : QString();
+        title = name + mark + access + QStringLiteral(" - ") + m_title;
+    }
+    setWindowTitle(title);
+    setWindowModified(isOpen && m_document.isChanged);
 }
 
 void MainFrame::dragEnterEvent(QDragEnterEvent* event)

@@ -23,7 +23,8 @@ class LumMessageBoxTest : public QObject
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (box == nullptr)
                 return;
-            delete m_waiting;
+            m_waiting->stop();
+            m_waiting->deleteLater();
             QVERIFY(QTest::qWaitForWindowActive(box));
             act(*box);
         });
