@@ -162,9 +162,14 @@ void CustomTableWidget::keyPressEvent(QKeyEvent* event)
         return;
     }
     const int before = currentIndex().row();
-    QTableView::keyPressEvent(event);
+    const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (currentIndex().isValid() && (isEnter || currentIndex().row() != before))
+    const bool isFirst = isArrow && currentIndex().isValid() && !selectionModel()->hasSelection();
+    if (isFirst)
+        selectRow(before); // the base class would go past it
+    else
+        QTableView::keyPressEvent(event);
+    if (currentIndex().isValid() && (isFirst || isEnter || currentIndex().row() != before))
         Q_EMIT reachedByKey(currentIndex());
 }
 

@@ -196,12 +196,13 @@ void ResultListTest::theKeyboardShowsTheResult()
     const DataProcessDataManager manager(m_host.get());
     const auto list = makeList();
     QVERIFY(QTest::qWaitForWindowActive(list.get()));
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_PageDown, Qt::Key_Down,
-                              Qt::Key_PageUp, Qt::Key_Return})
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_PageDown,
+                              Qt::Key_Down, Qt::Key_PageUp, Qt::Key_Return})
         QTest::keyClick(QApplication::focusWidget(), key);
     QCOMPARE(points.asked,
-             (QStringList{QStringLiteral("L \"1\", north/7"), QStringLiteral("1001/8"),
-                          QStringLiteral("1001/C10015001_0"), QStringLiteral("1001/C10015001_0")}));
+             (QStringList{QStringLiteral("1001/C10015001_0"), QStringLiteral("L \"1\", north/7"),
+                          QStringLiteral("1001/8"), QStringLiteral("1001/C10015001_0"),
+                          QStringLiteral("1001/C10015001_0")}));
 }
 
 void ResultListTest::lineDeviationsAreNamedAsSuch()
