@@ -36,7 +36,9 @@ void openTable(IWindowRegistry& windows, const char* className, const char* titl
 } // namespace
 
 DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHost* host)
-    : m_host(*host), m_subscription(*this, events::kXyChanged, host->eventManager()),
+    : m_host(*host),
+      m_subscription(*this, std::string(events::kXyChanged) + "," + events::kProjectModified,
+                     host->eventManager()),
       m_dataManager(std::make_unique<DataProcessDataManager>(host))
 {
 }
@@ -65,9 +67,12 @@ int DataProcess5Assistant::queryClose()
     if (!ProjectSession::offerSave(m_host))
         return 0;
     using Button = LumMessageBox::Button;
-    const Button answer = LumMessageBox::information(
-        m_host.dialogParent(), QStringLiteral("提示"), QStringLiteral("是否退出程序？"),
-        LumMessageBox::Buttons(Button::Yes) | Button::No);
+    const bool losesChanges = m_dataManager && m_dataManager->isChanged();
+    const Button answer = LumMessageBox::ask(
+        m_host.dialogParent(), {.title = QStringLiteral("提示"),
+                                .text = QStringLiteral("是否退出程序？"),
+                                .buttons = LumMessageBox::Buttons(Button::Yes) | Button::No,
+                                .defaultButton = losesChanges ? Button::No : Button::Yes});
     if (answer != Button::Yes)
         return 0;
     if (ProjectState::isOpen())
@@ -90,6 +95,8 @@ void DataProcess5Assistant::handleEvent(const char* eventName, const char* paylo
 {
     if (std::strcmp(eventName, events::kXyChanged) == 0)
         announcePosition(payload);
+    else
+        ProjectState::showTitle(m_host);
 }
 
 void DataProcess5Assistant::addLayer(const char* name, const char* className, const char* caption)

@@ -73,6 +73,24 @@ Outcome withSummary(const Outcome& outcome, const ImportSummary& summary)
 {
     return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
 }
+
+/// Whether an import has put points into the project.
+bool hasPoints(const Outcome& outcome, const ImportSummary& summary)
+{
+    return outcome.isDone() && summary.pointsNew + summary.pointsReplaced > 0;
+}
+
+/// What the checks have found in each result.
+std::vector<int> verdicts(const SurveyPoints& points)
+{
+    std::vector<int> codes;
+    codes.reserve(points.pointCount());
+    for (const auto& [number, line] : points) {
+        for (const SurveyPoint& point : line)
+            codes.push_back(point.qualityStandard);
+    }
+    return codes;
+}
 } // namespace
 
 DataProcessDataManager::DataProcessDataManager(IHost* host)
@@ -116,6 +134,7 @@ Outcome DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAc
     else
         clear(); // what was read before the failure
     m_isSaveOwed = false;
+    m_isChanged = false;
     return logged(reading);
 }
 
@@ -135,7 +154,7 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
         dictionary_copy(project, coordSystem, CoordinateRecord::kKeys);
         dictionary_copy(project, coordSystem, CoordinateRecord::kId);
     }
-    setCoordSystem(coordSystem);
+    applyCoordSystem(coordSystem);
     dictionary_copy(quality, m_qualityParameters);
     dictionary_copy(design, m_designParameters);
     m_project = std::move(project);
@@ -149,7 +168,17 @@ Outcome DataProcessDataManager::saveProject(const ProjectPlace& place)
 {
     const Outcome writing = write(place);
     m_isSaveOwed = !writing.isDone();
+    m_isChanged = m_isSaveOwed;
+    m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
     return logged(writing);
+}
+
+void DataProcessDataManager::markChanged()
+{
+    if (m_isChanged)
+        return;
+    m_isChanged = true;
+    m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
 }
 
 Outcome DataProcessDataManager::write(const ProjectPlace& place)
@@ -214,6 +243,7 @@ void DataProcessDataManager::clear()
     m_database.close();
     m_lock.release();
     m_isSaveOwed = false;
+    m_isChanged = false;
 }
 
 int DataProcessDataManager::load(const QString& path, Outcome* outcome)
@@ -221,7 +251,9 @@ int DataProcessDataManager::load(const QString& path, Outcome* outcome)
     basalt::Dictionary coordSystem;
     const Outcome reading = readDatabase(path, coordSystem);
     if (coordSystem.size() != 0)
-        setCoordSystem(coordSystem);
+        applyCoordSystem(coordSystem);
+    if (reading.isDone())
+        markChanged();
     return answered(reading, outcome);
 }
 
@@ -256,6 +288,8 @@ int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcom
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
     const Outcome reading = readDesignCsv(path, m_design, progress, summary);
+    if (hasPoints(reading, summary))
+        markChanged();
     return answered(withSummary(reading, summary), outcome);
 }
 
@@ -275,10 +309,20 @@ int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcom
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
     const Outcome reading = readSurveyCsv(path, m_survey, progress, summary);
+    if (hasPoints(reading, summary))
+        markChanged();
     return answered(withSummary(reading, summary), outcome);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
+{
+    const basalt::Dictionary before(get_project_coord_transform().parameters());
+    applyCoordSystem(parameters);
+    if (!dictionary_same(before, get_project_coord_transform().parameters()))
+        markChanged();
+}
+
+void DataProcessDataManager::applyCoordSystem(const IDictionary& parameters)
 {
     get_project_coord_transform().initialise(parameters, parameters);
     recomputeSeaHeights();
@@ -304,7 +348,10 @@ CheckedData DataProcessDataManager::checkedData()
 void DataProcessDataManager::run(const CheckKind& check)
 {
     ProgressReporter progress(&m_host.eventManager());
+    const std::vector<int> before = verdicts(m_survey);
     check.run(checkedData(), progress);
+    if (verdicts(m_survey) != before)
+        markChanged();
 }
 
 std::unique_ptr<QAbstractTableModel> DataProcessDataManager::resultOf(const CheckKind& check)

@@ -64,6 +64,17 @@ public:
     Outcome saveCopy(const ProjectPlace& copy);
     /// Whether the last `saveProject` failed, so that the files are older than what is in memory.
     [[nodiscard]] bool isSaveOwed() const { return m_isSaveOwed; }
+    /// Whether the project lives in a folder that could not be written when it was opened, or is
+    /// only looked at.
+    [[nodiscard]] bool isReadOnly() const { return !m_lock.isHeld(); }
+
+    /// To be called once by every operation that has changed what is saved with the project:
+    /// points, limits, design parameters, description. Those of this class do it themselves.
+    /// Publishes "ON_PROJECT_MODIFIED" when nothing was changed before.
+    void markChanged();
+    /// Whether memory holds what the files do not. Opening and saving end it, not a failed save.
+    [[nodiscard]] bool isChanged() const { return m_isChanged; }
+
     /// Forgets the points and parameters of the open project and gives up its lock. Its coordinate
     /// system stays: the next new project starts from it.
     void clear();
@@ -128,6 +139,7 @@ public:
 private:
     [[nodiscard]] CheckedData checkedData();
     void reportQuery(const char* payload);
+    void applyCoordSystem(const IDictionary& parameters);
     [[nodiscard]] Outcome read(const ProjectPlace& place);
     [[nodiscard]] Outcome write(const ProjectPlace& place);
     [[nodiscard]] Outcome readDatabase(const QString& path, IDictionary& coordSystem);
@@ -144,6 +156,7 @@ private:
     QString m_projectFile; ///< the one that was opened; empty when it could not be read
     QString m_projectFileFault;
     bool m_isSaveOwed = false;
+    bool m_isChanged = false;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;
     QStringList m_surveyCaptions;

@@ -26,6 +26,7 @@ public:
     ///          program had no lock, or when the folder is gone
     [[nodiscard]] Outcome ensure(const ProjectPlace& place);
     void release() { m_file.reset(); }
+    [[nodiscard]] bool isHeld() const { return m_file != nullptr; }
 
 private:
     std::unique_ptr<QLockFile> m_file; ///< null without a lock

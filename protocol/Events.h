@@ -15,6 +15,12 @@ inline constexpr const char* kRefreshDesignLayer = "REFRESH_DESIGN_LAYER";
 /// Project new, open and close, survey edits, resurvey results -> data layer, survey tree.
 inline constexpr const char* kRefreshSurveyLayer = "REFRESH_SURVEY_LAYER";
 
+// --- project ---
+
+/// The data manager, when the project comes to differ from its files or to agree with them again ->
+/// assistant, which shows it in the title. No payload.
+inline constexpr const char* kProjectModified = "ON_PROJECT_MODIFIED";
+
 // --- tables ---
 
 /// Checks -> design table. No payload.

@@ -40,9 +40,10 @@ private:
         return m_point.qualityStandard / kPowers[static_cast<std::size_t>(power)] % 10;
     }
 
-    void add(const char* description, double value, double limit)
+    void add(const char* description, double value, double limit, const char* explanation = "")
     {
-        m_rows.push_back({m_point.pointNumber, m_point.lineNumber, description, value, limit});
+        m_rows.push_back(
+            {m_point.pointNumber, m_point.lineNumber, description, value, limit, explanation});
     }
 
     void describeDesign();
@@ -178,15 +179,22 @@ void Description::describeLine()
     switch (digit(7)) {
     case 1:
         add(QT_TRANSLATE_NOOP("QualityCheck", "Horizontal Accuracy Out-range."), across,
-            limits.acrossM);
+            limits.acrossM,
+            QT_TRANSLATE_NOOP(
+                "QualityCheck",
+                "The transversal deviation: how far the point lies beside its line."));
         break;
     case 2:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "Vertical Accuracy Out-range."), along,
-            limits.alongM);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "Vertical Accuracy Out-range."), along, limits.alongM,
+            QT_TRANSLATE_NOOP("QualityCheck", "The longitudinal deviation: how far the point lies "
+                                              "from its place, measured along its line."));
         break;
     case 3:
         add(QT_TRANSLATE_NOOP("QualityCheck", "Horizontal AND Vertical Accuracy Out-range."),
-            length(across, along), length(limits.acrossM, limits.alongM));
+            length(across, along), length(limits.acrossM, limits.alongM),
+            QT_TRANSLATE_NOOP("QualityCheck", "The transversal and the longitudinal deviation: how "
+                                              "far the point lies from its place, measured across "
+                                              "and along its line."));
         break;
     default:
         break;
@@ -198,6 +206,11 @@ void Description::describeLine()
 QString QualityRow::text() const
 {
     return QCoreApplication::translate("QualityCheck", description);
+}
+
+QString QualityRow::explanationText() const
+{
+    return *explanation == 0 ? QString() : QCoreApplication::translate("QualityCheck", explanation);
 }
 
 void describeQuality(const SurveyPoint& point, const QualityLimits& limits,

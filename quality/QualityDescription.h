@@ -18,8 +18,11 @@ struct QualityRow
     const char* description; ///< in English; `text` translates it
     double value;            ///< -1 in the row of several dilutions, and so is the limit
     double limit;
+    const char* explanation =
+        ""; ///< in English, of a description that says too little; mostly empty
 
     [[nodiscard]] QString text() const;
+    [[nodiscard]] QString explanationText() const; ///< translated
 };
 
 /// Adds a row for each fault that the result's quality code tells, from the units digit upwards.

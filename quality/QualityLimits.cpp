@@ -3,12 +3,27 @@
 #include "basalt_utilities/IDictionary.h"
 #include "basalt_utilities/Numbers.h"
 
+#include <QCoreApplication>
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
 constexpr double kMetresAKilometre = 1000;
+constexpr std::string_view kResurveyLimits = "re_"; // the keys that begin so keep their minus
+
+constexpr std::pair<const char*, const char*> kRanges[] = {{"ant_height_min", "ant_height_max"},
+                                                           {"pdop_min", "pdop_max"},
+                                                           {"hdop_min", "hdop_max"},
+                                                           {"vdop_min", "vdop_max"}};
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("QualityLimits", text);
+}
 
 double limit(const IDictionary& parameters, const char* key)
 {
@@ -34,6 +49,27 @@ std::string_view qualityParameter(const IDictionary& parameters, std::string_vie
 {
     const QualityParameter* const parameter = findQualityParameter(key);
     return parameter != nullptr ? parameters.text(key, parameter->fallback) : std::string_view();
+}
+
+QString qualityParameterNote(const IDictionary& parameters, std::string_view key)
+{
+    if (key == kResurveyCode)
+        return {};
+    QStringList sentences;
+    for (const auto& [smallest, largest] : kRanges) {
+        if (key == largest && limit(parameters, smallest) > limit(parameters, largest))
+            sentences << translated(QT_TRANSLATE_NOOP(
+                "QualityLimits", "The minimum is above this maximum: no value passes."));
+    }
+    const double value = basalt::parseNumber(qualityParameter(parameters, key));
+    if (value < 0 && key.substr(0, kResurveyLimits.size()) == kResurveyLimits)
+        sentences << translated(
+            QT_TRANSLATE_NOOP("QualityLimits", "With a minus every resurvey is out of range."));
+    else if (value < 0)
+        sentences << translated(QT_TRANSLATE_NOOP("QualityLimits",
+                                                  "The minus does not count: the limit is %1."))
+                         .arg(QString::fromStdString(basalt::formatShortest(-value)));
+    return sentences.join(QLatin1Char(' '));
 }
 
 QualityLimits QualityLimits::from(const IDictionary& parameters)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <array>
 #include <string_view>
 
@@ -37,6 +39,10 @@ inline constexpr std::array<QualityParameter, 20> kQualityParameters{{
 /// The value of a key, or its fallback; empty when there is no such key.
 [[nodiscard]] std::string_view qualityParameter(const IDictionary& parameters,
                                                 std::string_view key);
+
+/// A translated sentence about the value of a key that is allowed and yet hardly meant: a maximum
+/// below its minimum, or a minus. Empty when there is nothing to say.
+[[nodiscard]] QString qualityParameterNote(const IDictionary& parameters, std::string_view key);
 
 /// The limits of the quality check. The minus of a negative limit is ignored. A limit that is not a
 /// number is 0.

@@ -23,6 +23,7 @@ struct ResultColumn
 {
     const char* caption; ///< in English; its translation has the context "ResultModel"
     QString (*text)(const Row& row);
+    QString (*toolTip)(const Row& row) = nullptr;
 };
 
 /// The result of a check as a table of centred texts. A cell is formatted when it is asked for.
@@ -51,8 +52,11 @@ public:
         if (!index.isValid())
             return {};
         const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+        const auto& column = m_columns[static_cast<std::size_t>(index.column())];
         if (role == Qt::DisplayRole)
-            return m_columns[static_cast<std::size_t>(index.column())].text(row);
+            return column.text(row);
+        if (role == Qt::ToolTipRole && column.toolTip != nullptr)
+            return column.toolTip(row);
         if (role == Qt::TextAlignmentRole)
             return int(Qt::AlignCenter);
         if (index.column() == 0 && role == result_role::kPointNumber)

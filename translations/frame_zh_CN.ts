@@ -388,6 +388,14 @@
         <translation>深色</translation>
     </message>
     <message>
+        <source>Show All Questions Again</source>
+        <translation>恢复显示所有提问</translation>
+    </message>
+    <message>
+        <source>Show all questions and messages again that you chose not to see</source>
+        <translation>重新显示您选择不再显示的提问和消息</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>帮助(&amp;H)</translation>
     </message>

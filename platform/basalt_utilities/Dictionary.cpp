@@ -143,3 +143,11 @@ void dictionary_copy(const IDictionary& from, IDictionary& to, std::string_view 
             to.set(key, *value);
     }
 }
+
+bool dictionary_same(const IDictionary& first, const IDictionary& second)
+{
+    bool isSame = first.size() == second.size();
+    for (std::size_t i = 0; isSame && i < first.size(); ++i)
+        isSame = second.find(first.keyAt(i)) == first.valueAt(i);
+    return isSame;
+}

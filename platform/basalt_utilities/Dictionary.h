@@ -59,3 +59,6 @@ void dictionary_copy(const IDictionary& from, IDictionary& to);
 
 /// Copies only the entries named in `keys`, a comma-separated list; missing ones are skipped.
 void dictionary_copy(const IDictionary& from, IDictionary& to, std::string_view keys);
+
+/// Whether both hold the same entries, in whatever order.
+[[nodiscard]] bool dictionary_same(const IDictionary& first, const IDictionary& second);

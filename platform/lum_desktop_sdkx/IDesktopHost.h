@@ -10,8 +10,8 @@ class ICoordTransformHelper;
 class IDictionary;
 class IGuiAssistant;
 class IWindowRegistry;
-class QString;
 class QWidget;
+struct DesktopDocument;
 
 /// What the desktop offers to windows, layers, commands and assistants.
 class IDesktopHost : public IHost
@@ -24,9 +24,8 @@ public:
     /// The parent of dialogs; null while there is no main frame.
     [[nodiscard]] virtual QWidget* dialogParent() = 0;
 
-    /// Shows the name of what is open in the frame's title. An empty name means that nothing is
-    /// open.
-    virtual void setDocument(const QString& name) = 0;
+    /// Shows in the frame's title what is open.
+    virtual void setDocument(const DesktopDocument& document) = 0;
 };
 
 /// The helper of the host that converts project coordinates to map coordinates and back.

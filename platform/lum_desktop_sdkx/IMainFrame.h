@@ -1,6 +1,7 @@
 #pragma once
 
 class QString;
+struct DesktopDocument;
 
 /// The main window.
 class IMainFrame
@@ -9,7 +10,7 @@ public:
     virtual ~IMainFrame() = default;
     /// The name of the program.
     virtual void setTitle(const QString& title) = 0;
-    /// The name of what is open, shown before the title; empty while nothing is open.
-    virtual void setDocument(const QString& name) = 0;
+    /// What is open, shown before the title.
+    virtual void setDocument(const DesktopDocument& document) = 0;
     virtual void show() = 0;
 };

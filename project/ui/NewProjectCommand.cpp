@@ -22,10 +22,10 @@ QString translated(const char* text)
 
 void reportFailure(IDesktopHost& host, const QString& reason)
 {
-    LumMessageBox::information(
+    LumMessageBox::error(
         host.dialogParent(), translated(QT_TRANSLATE_NOOP("NewProjectCommand", "Error")),
         translated(QT_TRANSLATE_NOOP("NewProjectCommand", "Failed to create project file!")),
-        LumMessageBox::Button::Ok, reason);
+        reason);
 }
 
 /// Makes the project's folder; asks first when there is one already, whose files stay.

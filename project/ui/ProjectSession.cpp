@@ -16,6 +16,7 @@ namespace ProjectSession {
 namespace {
 
 using Button = LumMessageBox::Button;
+using Buttons = LumMessageBox::Buttons;
 
 QString translated(const char* text)
 {
@@ -26,10 +27,44 @@ void reportFailure(IDesktopHost& host, const ProjectPlace& place, const QString&
 {
     if (!QFileInfo::exists(place.file) || !QFileInfo::exists(place.database()))
         RecentProjects::remove(place.file);
-    LumMessageBox::information(
+    LumMessageBox::error(
         host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "failed")),
-        translated(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")), Button::Ok,
-        reason);
+        translated(QT_TRANSLATE_NOOP("ProjectSession", "failed to open project!")), reason);
+}
+
+/// The question before the project is saved. Enter saves.
+Button askToSave(IDesktopHost& host, LumMessageBox::Buttons buttons, const char* silenceKey)
+{
+    return LumMessageBox::ask(
+        host.dialogParent(),
+        {.title = translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+         .text = translated(QT_TRANSLATE_NOOP("ProjectSession", "save project?")),
+         .buttons = buttons,
+         .defaultButton = Button::Yes,
+         .silenceKey = silenceKey});
+}
+
+/// Saves the open project, and tells how that ended. \returns whether it is saved
+bool saveNow(IDesktopHost& host)
+{
+    const Outcome saving = DataProcessDataManager::instance().saveProject(ProjectState::place());
+    if (!saving.isDone()) {
+        LumMessageBox::error(
+            host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "failed")),
+            translated(QT_TRANSLATE_NOOP("ProjectSession", "Save project failed!")),
+            saving.text() + QLatin1Char('\n') +
+                translated(QT_TRANSLATE_NOOP("ProjectSession",
+                                             "\"Project > Save a Copy As\" saves it, with all "
+                                             "changes, in another folder.")));
+        return false;
+    }
+    LumMessageBox::ask(
+        host.dialogParent(),
+        {.title = translated(QT_TRANSLATE_NOOP("ProjectSession", "success")),
+         .text = translated(QT_TRANSLATE_NOOP("ProjectSession", "Save project success!")),
+         .details = saving.text(),
+         .silenceKey = saving.text().isEmpty() ? "project_saved" : nullptr});
+    return true;
 }
 
 } // namespace
@@ -56,14 +91,24 @@ void openFile(IDesktopHost& host, const QString& file)
                                    opening.text());
 }
 
+void save(IDesktopHost& host)
+{
+    if (!ProjectState::isOpen() || ProjectState::place().folder.isEmpty())
+        return;
+    if (askToSave(host, Buttons(Button::Yes) | Button::No, "save_project") == Button::Yes)
+        saveNow(host);
+}
+
 bool closeCurrent(IDesktopHost& host)
 {
     if (!ProjectState::isOpen())
         return true;
-    const Button answer = LumMessageBox::information(
-        host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
-        translated(QT_TRANSLATE_NOOP("ProjectSession", "close current project?")),
-        LumMessageBox::Buttons(Button::Yes) | Button::No);
+    const Button answer = LumMessageBox::ask(
+        host.dialogParent(),
+        {.title = translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+         .text = translated(QT_TRANSLATE_NOOP("ProjectSession", "close current project?")),
+         .buttons = Buttons(Button::Yes) | Button::No,
+         .defaultButton = Button::Yes}); // loses nothing: saving is offered next
     if (answer != Button::Yes)
         return false;
     host.commands().execute(QStringLiteral("Close Project"));
@@ -72,17 +117,23 @@ bool closeCurrent(IDesktopHost& host)
 
 bool offerSave(IDesktopHost& host)
 {
-    if (!ProjectState::isOpen())
+    if (!ProjectState::isOpen() || ProjectState::place().folder.isEmpty())
         return true;
-    host.commands().execute(QStringLiteral("Save Project"));
-    if (!DataProcessDataManager::instance().isSaveOwed())
+    const Button answer =
+        askToSave(host, Buttons(Button::Yes) | Button::No | Button::Cancel, nullptr);
+    if (answer != Button::Yes)
+        return answer == Button::No;
+    if (saveNow(host))
         return true;
-    return LumMessageBox::warning(
-               host.dialogParent(), translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
-               translated(QT_TRANSLATE_NOOP("ProjectSession",
-                                            "The project could not be saved. Close it all the same "
-                                            "and lose the changes?")),
-               LumMessageBox::Buttons(Button::Yes) | Button::No) == Button::Yes;
+    return LumMessageBox::ask(
+               host.dialogParent(),
+               {.kind = LumMessageBox::Kind::Warning,
+                .title = translated(QT_TRANSLATE_NOOP("ProjectSession", "information")),
+                .text = translated(QT_TRANSLATE_NOOP("ProjectSession",
+                                                     "The project could not be saved. Close it "
+                                                     "all the same and lose the changes?")),
+                .buttons = Buttons(Button::Yes) | Button::No,
+                .defaultButton = Button::No}) == Button::Yes;
 }
 
 void forget(IDesktopHost& host)

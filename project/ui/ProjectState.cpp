@@ -1,9 +1,11 @@
 #include "project/ui/ProjectState.h"
 
+#include "lum_desktop_sdkx/DesktopDocument.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
+#include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
@@ -18,7 +20,7 @@ void change(IDesktopHost& host, const char* isOpen, const ProjectPlace& place)
     values.set(status::kProjectOpen, isOpen);
     values.set(status::kProjectPath, place.folder.toStdString());
     values.set(status::kProjectName, place.name.toStdString());
-    host.setDocument(place.name);
+    showTitle(host);
     for (const char* event :
          {events::kRefreshDesignLayer, events::kRefreshSurveyLayer, events::kUpdateSystemStatus})
         host.eventManager().publish(event, nullptr, 0);
@@ -39,6 +41,16 @@ ProjectPlace place()
     if (name.isEmpty())
         name = folder.section(QLatin1Char('/'), -1);
     return ProjectPlace::in(folder, name);
+}
+
+void showTitle(IDesktopHost& host)
+{
+    if (!isOpen()) {
+        host.setDocument({});
+        return;
+    }
+    const DataProcessDataManager& manager = DataProcessDataManager::instance();
+    host.setDocument({place().name, manager.isReadOnly(), manager.isChanged()});
 }
 
 void opened(IDesktopHost& host, const ProjectPlace& place)

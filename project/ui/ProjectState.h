@@ -12,6 +12,9 @@ namespace ProjectState {
 /// The open project.
 [[nodiscard]] ProjectPlace place();
 
+/// Shows in the title what is open, whether it is changed, and whether it can only be read.
+void showTitle(IDesktopHost& host);
+
 /// The data manager has read the project. Sets status and title first and publishes then, so that
 /// every handler sees the new state: "REFRESH_DESIGN_LAYER", "REFRESH_SURVEY_LAYER",
 /// "UPDATE_SYSTEM_STATUS_EVENT".

@@ -35,7 +35,7 @@ bool isYes(IDesktopHost& host, const QString& text, const QString& details = {})
 
 void reportFailure(IDesktopHost& host, const QString& text, const QString& reason)
 {
-    LumMessageBox::warning(host.dialogParent(), title(), text, Button::Ok, reason);
+    LumMessageBox::error(host.dialogParent(), title(), text, reason);
 }
 
 /// Asks before files are put beside others.
@@ -74,13 +74,6 @@ void SaveCopyCommand::execute()
     }
 }
 
-QString SaveCopyCommand::advice()
-{
-    return translated(QT_TRANSLATE_NOOP("SaveCopyCommand",
-                                        "\"Project > Save a Copy As\" saves it, with all changes, "
-                                        "in another folder."));
-}
-
 bool SaveCopyCommand::save(const ProjectPlace& copy) const
 {
     const bool isNew = !QDir(copy.folder).exists();
@@ -106,18 +99,23 @@ bool SaveCopyCommand::wantsToGoOn(const ProjectPlace& open, const ProjectPlace& 
     const QString folder = QDir::toNativeSeparators(open.folder);
     const QString saved = translated(QT_TRANSLATE_NOOP("SaveCopyCommand", "The copy is in \"%1\"."))
                               .arg(QDir::toNativeSeparators(copy.folder));
+    const auto& manager = DataProcessDataManager::instance();
     QString trouble;
     if (!QFileInfo(open.folder).isDir())
         trouble = translated(QT_TRANSLATE_NOOP("SaveCopyCommand",
                                                "The folder of the open project, \"%1\", is gone."));
-    else if (DataProcessDataManager::instance().isSaveOwed())
+    else if (manager.isSaveOwed() || manager.isReadOnly())
         trouble = translated(QT_TRANSLATE_NOOP(
             "SaveCopyCommand", "The open project cannot be saved in its own folder, \"%1\"."));
     if (!trouble.isEmpty())
-        return isYes(host(),
-                     saved + QLatin1Char(' ') +
-                         translated(QT_TRANSLATE_NOOP("SaveCopyCommand", "Go on with the copy?")),
-                     trouble.arg(folder));
+        return LumMessageBox::ask(host().dialogParent(),
+                                  {.title = title(),
+                                   .text = saved + QLatin1Char(' ') +
+                                           translated(QT_TRANSLATE_NOOP("SaveCopyCommand",
+                                                                        "Go on with the copy?")),
+                                   .buttons = LumMessageBox::Buttons(Button::Yes) | Button::No,
+                                   .defaultButton = Button::Yes, // loses nothing
+                                   .details = trouble.arg(folder)}) == Button::Yes;
     LumMessageBox::information(
         host().dialogParent(), title(), saved, Button::Ok,
         translated(QT_TRANSLATE_NOOP("SaveCopyCommand", "The open project stays in \"%1\"."))

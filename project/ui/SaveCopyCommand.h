@@ -12,9 +12,6 @@ public:
     using ProjectCommandBase::ProjectCommandBase;
     void execute() override;
 
-    /// The sentence under a failed save that names this command.
-    [[nodiscard]] static QString advice();
-
 private:
     [[nodiscard]] bool save(const ProjectPlace& copy) const;
     [[nodiscard]] bool wantsToGoOn(const ProjectPlace& open, const ProjectPlace& copy) const;

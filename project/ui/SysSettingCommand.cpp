@@ -20,6 +20,7 @@ void SysSettingCommand::execute()
     const IDictionary& coordSystem = get_project_coord_transform().parameters();
     dictionary_copy(coordSystem, project, CoordinateRecord::kKeys);
     dictionary_copy(coordSystem, project, CoordinateRecord::kId);
+    const basalt::Dictionary before(project);
     DlgProjectSet dialog(host(), project);
     dialog.setInformationReadOnly(manager.projectFileFault());
     dialog.setSystemQuestion([&](const IDictionary& chosen) {
@@ -31,6 +32,8 @@ void SysSettingCommand::execute()
         dictionary_copy(project, parameters, CoordinateRecord::kKeys);
         dictionary_copy(project, parameters, CoordinateRecord::kId);
         manager.setCoordSystem(parameters);
+        if (!dictionary_same(before, project))
+            manager.markChanged();
     });
     dialog.exec();
 }

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/dialogs/Dialog.h"
 
 class IDictionary;
 class PropertyGridCtrl;
 
 /// Edits the quality parameters in memory; the next save of the project writes them. Closing the
-/// window without OK discards the edits.
+/// window without OK discards the edits. Limits that contradict each other, and a minus that does
+/// not count, are told in their rows, and allowed. When the rows cannot be shown, the dialog says
+/// why, and OK changes nothing.
 class DlgQCParamSet final : public Dialog
 {
     Q_OBJECT
@@ -21,6 +24,11 @@ private Q_SLOTS:
     void onBtnClicked();
 
 private:
+    void setUpGrid();
+    [[nodiscard]] QWidget* makeProblem(const QString& controlFile);
+    void writeNotes();
+
     IDictionary& m_parameters;
+    basalt::Dictionary m_shown; ///< the parameters as the rows show them
     PropertyGridCtrl* m_grid;
 };

@@ -6,6 +6,9 @@
 
 void QualitySpecificateCommand::execute()
 {
-    DlgQCParamSet(host().dialogParent(), DataProcessDataManager::instance().qualityParameters())
-        .exec();
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
+    const basalt::Dictionary before(manager.qualityParameters());
+    DlgQCParamSet(host().dialogParent(), manager.qualityParameters()).exec();
+    if (!dictionary_same(before, manager.qualityParameters()))
+        manager.markChanged();
 }

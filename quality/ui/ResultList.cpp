@@ -62,7 +62,8 @@ ResultList::ResultList(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> 
     setAttribute(Qt::WA_DeleteOnClose);
     result->setParent(m_table);
     m_table->setModel(result.release());
-    connect(m_table, &QAbstractItemView::clicked, this, &ResultList::onItemClicked);
+    connect(m_table, &QAbstractItemView::clicked, this, &ResultList::showPoint);
+    connect(m_table, &CustomTableWidget::reachedByKey, this, &ResultList::showPoint);
     addMenu();
     makeMainLayout()->addWidget(m_table);
     resize(minimumSize());
@@ -105,7 +106,7 @@ void ResultList::handleEvent(const char* /*eventName*/, const char* /*payload*/,
         close();
 }
 
-void ResultList::onItemClicked(const QModelIndex& index)
+void ResultList::showPoint(const QModelIndex& index)
 {
     const QModelIndex first = index.siblingAtColumn(0);
     const QString point = first.data(result_role::kPointNumber).toString();
@@ -152,5 +153,5 @@ void ResultList::saveRows()
     if (outcome.isDone())
         return;
     basalt::logError(outcome.detail());
-    LumMessageBox::warning(m_host.dialogParent(), tr("Save as CSV"), outcome.text());
+    LumMessageBox::error(m_host.dialogParent(), tr("Save as CSV"), outcome.text());
 }

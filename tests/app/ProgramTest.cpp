@@ -26,8 +26,9 @@ constexpr const char* kComponents =
     " PPKZoomAllCommand 全图, PPKZoomInCommand 地图放大, PPKZoomOutCommand 地图缩小,"
     " PPKZoomRectCommand 局部矩形放大, QualitySpecificateCommand 质量规范,"
     " RecentProjectCommand 最近工程, ResetLayoutCommand 恢复布局, SaveCopyCommand 工程另存副本,"
-    " SaveProjectCommand 保存工程, SettingChoiceCommand 系统设置选项, SysSettingCommand 设置,"
-    " TimeZomeDlgCommand 时区修改, ViewChangeCommand 更改视图\n"
+    " SaveProjectCommand 保存工程, SettingChoiceCommand 系统设置选项,"
+    " ShowQuestionsCommand 重新显示提示, SysSettingCommand 设置, TimeZomeDlgCommand 时区修改,"
+    " ViewChangeCommand 更改视图\n"
     "IGuiAssistant: DataProcess5 助手\n";
 
 } // namespace

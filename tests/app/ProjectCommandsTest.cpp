@@ -1,3 +1,4 @@
+#include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
@@ -57,7 +58,7 @@ QByteArray heard(std::initializer_list<const char*> names, const QByteArray& pro
     for (const char* name : names)
         lines += name + (project.isEmpty()
                              ? QByteArray(" 0|||Program\n")
-                             : " 1|" + project + '|' + project + '|' + project + " - Program\n");
+                             : " 1|" + project + '|' + project + '|' + project + "[*] - Program\n");
     return lines;
 }
 
@@ -169,6 +170,7 @@ class ProjectCommandsTest : public QObject
     std::unique_ptr<Heard> m_heard;
     QByteArray m_asked;               ///< a line "title: text" for each message box
     QString m_details;                ///< of the last one
+    Button m_onEnter = Button::Ok;    ///< its default button; Ok without a named one
     QHash<QString, Button> m_answers; ///< by text; Yes, else Ok
     QString m_chosenFile;
     std::unique_ptr<LumMessageBox::Responder> m_messages;
@@ -257,6 +259,7 @@ private Q_SLOTS:
         m_messages = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
             m_asked += (message.title + QStringLiteral(": ") + message.text).toUtf8() + '\n';
             m_details = message.details;
+            m_onEnter = message.defaultButton.value_or(Button::Ok);
             return m_answers.value(message.text,
                                    message.buttons & Button::Yes ? Button::Yes : Button::Ok);
         });
@@ -471,6 +474,51 @@ private Q_SLOTS:
         QVERIFY(isOpen("b"));
     }
 
+    void staysWhenTheQuestionIsCancelled()
+    {
+        makeProject("a");
+        open("a");
+        manager().markChanged();
+        m_answers[QStringLiteral("save project?")] = Button::Cancel;
+        run("Close Project");
+        expectAsked("information: save project?\n");
+        QVERIFY(!m_frame->close());
+        expectAsked("information: save project?\n"); // and not whether to leave the program
+        QVERIFY(isOpen("a"));
+    }
+
+    /// The title has an asterisk as long as something is not saved.
+    void marksUnsavedChanges()
+    {
+        makeProject("a");
+        open("a");
+        const auto expectMark = [&](bool isExpected) {
+            QCOMPARE(m_frame->isWindowModified(), isExpected);
+            run("Save Project");
+            QVERIFY(!m_frame->isWindowModified());
+        };
+        whenDialog("DlgProjectSet", apply);
+        run("Project Settings");
+        expectMark(false);
+        whenDialog("DlgProjectSet", [](QDialog& settings) { applySystem(settings, "21417"); });
+        run("Project Settings");
+        expectMark(true);
+        whenDialog("DlgQCParamSet", [](QDialog& limits) { press(limits, "OK"); });
+        run("Quality Limits");
+        expectMark(false);
+        whenDialog("DlgQCParamSet", [](QDialog& limits) {
+            limits.findChild<PropertyGridCtrl*>()->setValue(QStringLiteral("pdop_max"),
+                                                            QStringLiteral("4"));
+            press(limits, "OK");
+        });
+        run("Quality Limits");
+        expectMark(true);
+        manager().markChanged();
+        answerNo("save project?");
+        run("Close Project");
+        QVERIFY(!m_frame->isWindowModified());
+    }
+
     void doesNotLoseWhatCannotBeSaved()
     {
         makeProject("a");
@@ -480,10 +528,17 @@ private Q_SLOTS:
         answerNo("The project could not be saved. Close it all the same and lose the changes?");
         run("Close Project");
         QVERIFY(m_asked.startsWith("information: save project?\nfailed: Save project failed!\n"));
-        QVERIFY(isOpen());
+        QCOMPARE(m_onEnter, Button::No);
+        QVERIFY(isOpen() && m_frame->isWindowModified());
         QVERIFY(!manager().designPoints().empty());
         run("Save Project");
         QVERIFY(m_details.contains(QStringLiteral("Save a Copy As")));
+        m_asked.clear();
+        answerNo("save project?");
+        answerNo("是否退出程序？");
+        QVERIFY(!m_frame->close());
+        QCOMPARE(m_onEnter, Button::No);
+        expectAsked("information: save project?\n提示: 是否退出程序？\n"); // nothing has failed now
         m_answers.clear();
         run("Close Project");
         QVERIFY(!isOpen());

@@ -61,11 +61,16 @@ TEST(Dictionary, CopiesAllOrNamedEntriesOverWhatStandsThere)
     dictionary_copy(from, to, "c,b,missing");
     EXPECT_EQ(keysOf(to), "b x c ");
     EXPECT_EQ(to.text("b"), "2");
+    EXPECT_FALSE(dictionary_same(from, to));
 
     dictionary_copy(from, to);
     EXPECT_EQ(keysOf(to), "b x c a ");
     dictionary_copy(to, to);
     EXPECT_EQ(to.size(), 4U);
+    to.remove("x");
+    EXPECT_TRUE(dictionary_same(from, to)) << "in another order";
+    to.set("c", "other");
+    EXPECT_FALSE(dictionary_same(from, to));
 }
 
 // Small and large dictionaries find their keys in different ways: both against std::map.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lum_desktop_sdkx/DesktopDocument.h"
 #include "lum_desktop_sdkx/frame/CoordTransformHelper.h"
 #include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
@@ -57,12 +58,12 @@ public:
     [[nodiscard]] ICommandList& commands() override { return commandList; }
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return coordHelper; }
     [[nodiscard]] QWidget* dialogParent() override { return frame; }
-    void setDocument(const QString& name) override { document = name; }
+    void setDocument(const DesktopDocument& open) override { document = open; }
 
     EventManager events;
     TestWindowRegistry windowRegistry;
     QWidget* frame = nullptr;
-    QString document; ///< its name in the title
+    DesktopDocument document; ///< as the title shows it
     TestCommandList commandList;
     CoordTransformHelper coordHelper;
 };

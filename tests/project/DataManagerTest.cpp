@@ -10,6 +10,8 @@
 #include "tests/support/LogCapture.h"
 #include "tests/support/TestFolder.h"
 
+#include <functional>
+
 namespace {
 
 class DataManager : public testing::Test
@@ -66,6 +68,34 @@ TEST_F(DataManager, WhatCannotBeDoneIsToldAndLogged)
     expectToldOf([&] { return manager.importDesignCsv(path, &outcome); });
     expectToldOf([&] { return manager.exportSurveyCsv({}, path, {}, &outcome); });
     expectToldOf([&] { return manager.exportDesignCsv({}, path, false, &outcome); });
+}
+
+TEST_F(DataManager, KnowsWhatIsNotSaved)
+{
+    const EventLog changes(host.eventManager(), events::kProjectModified);
+    EXPECT_EQ(manager.importSurveyCsv(folder.path("missing.csv")), 0);
+    EXPECT_FALSE(manager.isChanged());
+    const QString design = folder.write(
+        "d.csv",
+        "point_num,line_num,north,east,elevation,azimuth,type,status\n1001,L10,1,2,3,4,1,0\n");
+    const QString survey = folder.write("s.csv", "line num,point num\nL,P\n");
+    using Operation = std::function<void()>;
+    for (const Operation& change : {Operation([&] { manager.importDesignCsv(design); }),
+                                    Operation([&] { manager.importSurveyCsv(survey); }),
+                                    Operation([&] { manager.checkQuality(); }), Operation([&] {
+                                        basalt::Dictionary system;
+                                        system.set("org_lon", "117");
+                                        manager.setCoordSystem(system);
+                                    })}) {
+        change();
+        EXPECT_TRUE(manager.isChanged());
+        manager.clear();
+        manager.surveyPoints().set(surveyPoint("L", "P"));
+    }
+    EXPECT_EQ(changes.names().size(), 4U);
+    manager.checkQuality();
+    manager.markChanged();
+    EXPECT_EQ(changes.names().size(), 5U) << "told once";
 }
 
 TEST_F(DataManager, DatabaseQueriesBecomeProgress)

@@ -239,6 +239,7 @@ TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
         manager.surveyPoints().set(surveyPoint("L1", "8"));
         expectFailure(manager.saveProject(place), "cannot be saved");
         EXPECT_TRUE(manager.isSaveOwed());
+        EXPECT_TRUE(manager.isChanged() && manager.isReadOnly());
         EXPECT_EQ(manager.surveyPoints().pointCount(), 2U);
     }
     ASSERT_TRUE(QFile::setPermissions(place.folder, readOnly | QFile::WriteOwner));

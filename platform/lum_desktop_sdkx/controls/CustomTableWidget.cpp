@@ -157,10 +157,20 @@ void CustomTableWidget::contextMenuEvent(QContextMenuEvent* event)
 
 void CustomTableWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (event->matches(QKeySequence::Copy))
+    if (event->matches(QKeySequence::Copy)) {
         copySelection(); // the base class copies one cell only
+        return;
+    }
+    const int before = currentIndex().row();
+    const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isFirst = isArrow && currentIndex().isValid() && !selectionModel()->hasSelection();
+    if (isFirst)
+        selectRow(before); // the base class would go past it
     else
         QTableView::keyPressEvent(event);
+    if (currentIndex().isValid() && (isFirst || isEnter || currentIndex().row() != before))
+        Q_EMIT reachedByKey(currentIndex());
 }
 
 void CustomTableWidget::fitRowHeight()

@@ -35,6 +35,9 @@ Q_SIGNALS:
     /// The user wants a context menu on a cell. Its row is selected already.
     void contextMenuRequestedAt(const QModelIndex& index, const QPoint& globalPos);
 
+    /// The user has gone to a cell of another row by key, or pressed Enter on a cell.
+    void reachedByKey(const QModelIndex& index);
+
 protected:
     void changeEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -32,7 +32,8 @@ PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
       m_description(new QLabel(this))
 {
     m_view->setModel(m_model);
-    m_view->setItemDelegate(new PropertyGridDelegate(*m_model, this));
+    auto* const delegate = new PropertyGridDelegate(*m_model, this);
+    m_view->setItemDelegate(delegate);
     setResizeMode(ResizeMode::Interactive);
     setFocusProxy(m_view);
 
@@ -51,6 +52,11 @@ PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
     layout->addWidget(m_description);
 
     connect(m_model, &PropertyGridModel::valueEdited, this, &PropertyGridCtrl::valueChanged);
+    connect(delegate, &PropertyGridDelegate::typed, this, &PropertyGridCtrl::valueShown);
+    connect(delegate, &QAbstractItemDelegate::closeEditor, this, [this] {
+        if (const PropertyGridRow* const row = m_model->row(m_view->currentIndex()))
+            Q_EMIT valueShown(row->key, m_model->value(*row));
+    });
     connect(m_model, &PropertyGridModel::dataChanged, this,
             [this] { describe(m_view->currentIndex()); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -61,7 +67,8 @@ bool PropertyGridCtrl::init(const QString& controlXmlPath, const IDictionary& va
 {
     QByteArray xml;
     PropertyGridLayout layout;
-    QString fault = readFile(controlXmlPath, xml);
+    QString& fault = m_initFault;
+    fault = readFile(controlXmlPath, xml);
     const bool isShown = fault.isEmpty() && !xml.isEmpty() && xml == m_controlXml;
     if (fault.isEmpty() && !isShown)
         fault = readPropertyGridLayout(xml, layout);
@@ -101,6 +108,12 @@ bool PropertyGridCtrl::hasFaults()
 void PropertyGridCtrl::markRow(const QString& key, const QString& message)
 {
     m_model->mark(key, message);
+}
+
+void PropertyGridCtrl::setRowNote(const QString& key, const QString& sentence)
+{
+    m_model->setNote(key, sentence);
+    m_view->viewport()->update(); // a note is painted across both columns
 }
 
 void PropertyGridCtrl::goToFault()

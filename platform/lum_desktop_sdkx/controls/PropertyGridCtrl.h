@@ -38,6 +38,9 @@ public:
     ///          log names file, line and reason
     bool init(const QString& controlXmlPath, const IDictionary& values);
 
+    /// Why the last `init` failed; empty when it did not.
+    [[nodiscard]] const QString& initFault() const { return m_initFault; }
+
     /// Replaces one value without a signal. `getData` also returns a key without a row.
     void setValue(const QString& key, const QString& text);
 
@@ -51,6 +54,10 @@ public:
     /// mark: it replaces the one before, and an empty key removes it. It counts as a fault until it
     /// is removed or the value is edited.
     void markRow(const QString& key, const QString& message);
+
+    /// Shows a sentence under a row whose value is good, and yet not what the user may have meant.
+    /// An empty sentence removes it.
+    void setRowNote(const QString& key, const QString& sentence);
 
     /// Selects the topmost bad value and scrolls to it.
     void goToFault();
@@ -76,6 +83,10 @@ Q_SIGNALS:
     /// The user has entered a good value that differs from the one before.
     void valueChanged(const QString& key, const QString& value);
 
+    /// The good value that the row shows: while the user types in its editor, and once more when
+    /// the editor is closed.
+    void valueShown(const QString& key, const QString& value);
+
 private:
     void describe(const QModelIndex& index);
 
@@ -83,4 +94,5 @@ private:
     PropertyGridView* m_view;
     QLabel* m_description;
     QByteArray m_controlXml;
+    QString m_initFault;
 };

@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/PropertyGridDelegate.h"
 
+#include "lum_desktop_sdkx/controls/PropertyGridInput.h"
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_sdk/DpiScale.h"
@@ -8,13 +9,27 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPointer>
 #include <QStyle>
+#include <QTreeView>
 
 namespace {
 
 constexpr int kRowPadding = 11;  ///< above and below the text of a row, together
 constexpr int kCellPadding = 14; ///< to the right of a caption, before the dividing line
+constexpr int kNotePadding = 4;  ///< around a note
+constexpr int kNoteFlags = Qt::AlignLeft | Qt::TextWordWrap;
+
+/// Half transparent, so that it suits light and dark rows.
+constexpr QRgb kNoteColor = qRgba(0xf0, 0xa0, 0x00, 0x50);
+
+/// Where the text of a note stands, below the caption.
+QRect notePlace(const QTreeView& view, const QRect& place)
+{
+    const int padding = dpi_scaled(kNotePadding);
+    return place.adjusted(view.indentation() + padding, padding, -padding, -padding);
+}
 
 } // namespace
 
@@ -50,13 +65,17 @@ QWidget* PropertyGridDelegate::makeLineEditor(QWidget* parent, const QModelIndex
 {
     auto* const editor = new QLineEdit(parent);
     const PropertyGridRow& row = *m_model.row(index);
+    auto* const self = const_cast<PropertyGridDelegate*>(this);
+    connect(editor, &QLineEdit::textEdited, self, [self, row](const QString& text) {
+        if (const auto [value, message] = readPropertyGridInput(row, text); message.isEmpty())
+            Q_EMIT self->typed(row.key, value);
+    });
     if (row.editor != PropertyGridRow::Editor::File)
         return editor;
     const QIcon icon = QIcon::fromTheme(QStringLiteral("document-open"),
                                         editor->style()->standardIcon(QStyle::SP_DirOpenIcon));
     QAction* const action = editor->addAction(icon, QLineEdit::TrailingPosition);
     action->setToolTip(tr("Browse"));
-    auto* const self = const_cast<PropertyGridDelegate*>(this);
     connect(action, &QAction::triggered, self,
             [self, editor, title = row.caption, filter = row.filter] {
                 self->browse(editor, title, filter);
@@ -89,8 +108,36 @@ QSize PropertyGridDelegate::sizeHint(const QStyleOptionViewItem& option,
                                      const QModelIndex& index) const
 {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+    const auto* const view = qobject_cast<const QTreeView*>(option.widget);
     return {hint.width() + dpi_scaled(kCellPadding),
-            option.fontMetrics.height() + dpi_scaled(kRowPadding)};
+            option.fontMetrics.height() + dpi_scaled(kRowPadding) +
+                (view != nullptr ? noteHeight(*view, index) : 0)};
+}
+
+void PropertyGridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                                const QModelIndex& index) const
+{
+    QStyleOptionViewItem upper(option);
+    if (const auto* const view = qobject_cast<const QTreeView*>(option.widget))
+        upper.rect.setHeight(option.rect.height() - noteHeight(*view, index));
+    QStyledItemDelegate::updateEditorGeometry(editor, upper, index);
+}
+
+int PropertyGridDelegate::noteHeight(const QTreeView& view, const QModelIndex& index) const
+{
+    const QString note = m_model.note(index);
+    if (note.isEmpty())
+        return 0;
+    const QRect row(0, 0, view.viewport()->width(), 0);
+    const QRect text = view.fontMetrics().boundingRect(notePlace(view, row), kNoteFlags, note);
+    return text.height() + 2 * dpi_scaled(kNotePadding);
+}
+
+void PropertyGridDelegate::drawNote(QPainter& painter, const QTreeView& view, const QRect& place,
+                                    const QModelIndex& index) const
+{
+    painter.fillRect(place, QColor::fromRgba(kNoteColor));
+    painter.drawText(notePlace(view, place), kNoteFlags, m_model.note(index));
 }
 
 void PropertyGridDelegate::initStyleOption(QStyleOptionViewItem* option,

@@ -3,6 +3,7 @@
 #include <QStyledItemDelegate>
 
 class PropertyGridModel;
+class QTreeView;
 
 /// Makes the editors of a property grid and lays out its cells.
 class PropertyGridDelegate : public QStyledItemDelegate
@@ -19,6 +20,17 @@ public:
                       const QModelIndex& index) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
+
+    /// The height of the sentence under a row; 0 without one.
+    [[nodiscard]] int noteHeight(const QTreeView& view, const QModelIndex& index) const;
+    void drawNote(QPainter& painter, const QTreeView& view, const QRect& place,
+                  const QModelIndex& index) const;
+
+Q_SIGNALS:
+    /// The text in the editor of a row is a good value.
+    void typed(const QString& key, const QString& value);
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

@@ -32,6 +32,7 @@ void PropertyGridModel::setLayout(PropertyGridLayout layout)
     beginResetModel();
     m_layout = std::move(layout);
     m_faults.clear();
+    m_notes.clear();
     endResetModel();
 }
 
@@ -141,6 +142,22 @@ QString PropertyGridModel::fault(const QModelIndex& index) const
 {
     const PropertyGridRow* const at = row(index);
     return at == nullptr ? QString() : m_faults.value(at->key).message;
+}
+
+void PropertyGridModel::setNote(const QString& key, const QString& sentence)
+{
+    const QModelIndex cell = indexOfKey(key);
+    if (!cell.isValid() || m_notes.value(key) == sentence)
+        return;
+    m_notes.insert(key, sentence);
+    const QModelIndex caption = cell.siblingAtColumn(Caption);
+    Q_EMIT dataChanged(caption, caption); // of the value, it would reset the text of an open editor
+}
+
+QString PropertyGridModel::note(const QModelIndex& index) const
+{
+    const PropertyGridRow* const at = row(index);
+    return at == nullptr ? QString() : m_notes.value(at->key);
 }
 
 QModelIndex PropertyGridModel::index(int row, int column, const QModelIndex& parent) const

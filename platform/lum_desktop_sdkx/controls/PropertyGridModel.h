@@ -58,6 +58,13 @@ public:
     /// What is wrong with the value of a row; empty when nothing is.
     [[nodiscard]] QString fault(const QModelIndex& index) const;
 
+    /// A sentence about the value of a row, which is none the less good. Empty without one.
+    void setNote(const QString& key, const QString& sentence);
+    [[nodiscard]] QString note(const QModelIndex& index) const;
+
+    /// The value of a row, or its fallback.
+    [[nodiscard]] QString value(const PropertyGridRow& row) const;
+
     [[nodiscard]] QModelIndex index(int row, int column,
                                     const QModelIndex& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
@@ -81,7 +88,6 @@ private:
         bool isMark = false;
     };
 
-    [[nodiscard]] QString value(const PropertyGridRow& row) const;
     [[nodiscard]] QString shownOrTyped(const PropertyGridRow& row, bool shown) const;
     [[nodiscard]] QVariant valueData(const PropertyGridRow& row, int role) const;
     [[nodiscard]] PropertyGridRow* rowOfKey(const QString& key);
@@ -91,5 +97,6 @@ private:
 
     PropertyGridLayout m_layout;
     basalt::Dictionary m_values;
-    QHash<QString, Fault> m_faults; ///< by row key
+    QHash<QString, Fault> m_faults;  ///< by row key
+    QHash<QString, QString> m_notes; ///< by row key
 };

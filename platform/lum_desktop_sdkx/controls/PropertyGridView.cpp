@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/PropertyGridView.h"
 
+#include "lum_desktop_sdkx/controls/PropertyGridDelegate.h"
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 #include "lum_sdk/DpiScale.h"
 
@@ -33,7 +34,6 @@ QColor blend(const QColor& base, const QColor& ink, double share)
 PropertyGridView::PropertyGridView(QWidget* parent) : QTreeView(parent)
 {
     setAlternatingRowColors(true);
-    setUniformRowHeights(true);
     setRootIsDecorated(false);
     setIndentation(dpi_scaled(kIndent));
     setExpandsOnDoubleClick(false);
@@ -43,6 +43,7 @@ PropertyGridView::PropertyGridView(QWidget* parent) : QTreeView(parent)
     header()->setSectionsMovable(false);
     header()->setHighlightSections(false);
     connect(this, &QTreeView::clicked, this, &PropertyGridView::handleClick);
+    connect(header(), &QHeaderView::sectionResized, this, [this] { scheduleDelayedItemsLayout(); });
 }
 
 void PropertyGridView::commitEditor()
@@ -81,12 +82,20 @@ void PropertyGridView::drawRow(QPainter* painter, const QStyleOptionViewItem& op
         drawGroup(painter, option, index);
         return;
     }
-    QTreeView::drawRow(painter, option, index);
     const QRect& rect = option.rect;
+    const auto* const delegate = qobject_cast<const PropertyGridDelegate*>(itemDelegate());
+    const int noteHeight = delegate != nullptr ? delegate->noteHeight(*this, index) : 0;
+    QStyleOptionViewItem upper(option);
+    upper.rect.setHeight(rect.height() - noteHeight);
+    QTreeView::drawRow(painter, upper, index);
     painter->save();
+    if (noteHeight > 0) {
+        painter->setPen(palette().color(QPalette::Text));
+        delegate->drawNote(*painter, *this, rect.adjusted(0, upper.rect.height(), 0, 0), index);
+    }
     painter->setPen(blend(palette().color(QPalette::Base), palette().color(QPalette::Text), 0.14));
     const int middle = columnViewportPosition(PropertyGridModel::Value) - 1;
-    painter->drawLine(middle, rect.top(), middle, rect.bottom());
+    painter->drawLine(middle, rect.top(), middle, upper.rect.bottom());
     painter->drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
     painter->restore();
 }

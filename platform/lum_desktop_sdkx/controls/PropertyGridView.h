@@ -4,8 +4,9 @@
 
 class PropertyGridModel;
 
-/// The view of a property grid: group headers across both columns, thin lines between the rows. One
-/// click edits a value, Tab and Shift+Tab go to the next and the previous one.
+/// The view of a property grid: group headers across both columns, thin lines between the rows,
+/// and under a row the sentence about its value. One click edits a value, Tab and Shift+Tab go to
+/// the next and the previous one.
 class PropertyGridView : public QTreeView
 {
     Q_OBJECT

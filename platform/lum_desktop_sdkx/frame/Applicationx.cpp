@@ -197,5 +197,5 @@ void Applicationx::reportShown()
         return;
     }
     if (!m_layoutProblem.isEmpty())
-        LumMessageBox::warning(m_mainFrame.get(), applicationName(), m_layoutProblem);
+        LumMessageBox::error(m_mainFrame.get(), applicationName(), m_layoutProblem);
 }

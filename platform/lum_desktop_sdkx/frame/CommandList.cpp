@@ -96,10 +96,10 @@ void CommandList::run(ICommandExecuterx& command)
         command.execute();
     } catch (const std::exception& fault) {
         basalt::logError(std::string("A command failed: ") + fault.what());
-        LumMessageBox::warning(QApplication::activeWindow(),
-                               QCoreApplication::translate("CommandList", "Error"),
-                               QCoreApplication::translate("CommandList", "The command failed: %1")
-                                   .arg(QString::fromUtf8(fault.what())));
+        LumMessageBox::error(QApplication::activeWindow(),
+                             QCoreApplication::translate("CommandList", "Error"),
+                             QCoreApplication::translate("CommandList", "The command failed: %1")
+                                 .arg(QString::fromUtf8(fault.what())));
     }
     refresh();
 }

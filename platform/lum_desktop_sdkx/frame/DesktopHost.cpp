@@ -2,10 +2,10 @@
 
 #include "lum_desktop_sdkx/IMainFrame.h"
 
-void DesktopHost::setDocument(const QString& name)
+void DesktopHost::setDocument(const DesktopDocument& document)
 {
     if (m_frame != nullptr)
-        m_frame->setDocument(name);
+        m_frame->setDocument(document);
 }
 
 void DesktopHost::setFrame(IMainFrame* frame, QWidget* dialogParent)

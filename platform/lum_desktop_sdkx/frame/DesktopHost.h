@@ -17,7 +17,7 @@ public:
     [[nodiscard]] CommandList& commands() override { return m_commands; }
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return m_helper; }
     [[nodiscard]] QWidget* dialogParent() override { return m_dialogParent; }
-    void setDocument(const QString& name) override;
+    void setDocument(const DesktopDocument& document) override;
 
     /// Both parameters are the same window; null while there is none.
     void setFrame(IMainFrame* frame, QWidget* dialogParent);

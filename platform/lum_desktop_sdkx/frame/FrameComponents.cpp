@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/frame/MessageWindow.h"
 #include "lum_desktop_sdkx/frame/ResetLayoutCommand.h"
 #include "lum_desktop_sdkx/frame/SettingChoiceCommand.h"
+#include "lum_desktop_sdkx/frame/ShowQuestionsCommand.h"
 #include "lum_desktop_sdkx/frame/SystemSettings.h"
 #include "lum_desktop_sdkx/Registration.h"
 
@@ -21,6 +22,7 @@ void registerFrameComponents()
         command<FullScreenCommand>("FullScreenCommand", "全屏");
         command<ResetLayoutCommand>("ResetLayoutCommand", "恢复布局");
         command<SettingChoiceCommand>("SettingChoiceCommand", "系统设置选项");
+        command<ShowQuestionsCommand>("ShowQuestionsCommand", "重新显示提示");
         return settings<SystemSettings>("SystemSettings", "系统设置");
     }();
     static_cast<void>(once);

@@ -114,9 +114,9 @@ void MainFrame::setTitle(const QString& title)
     showTitle();
 }
 
-void MainFrame::setDocument(const QString& name)
+void MainFrame::setDocument(const DesktopDocument& document)
 {
-    m_document = name;
+    m_document = document;
     showTitle();
 }
 
@@ -156,7 +156,18 @@ void MainFrame::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
 
 void MainFrame::showTitle()
 {
-    setWindowTitle(m_document.isEmpty() ? m_title : m_document + QStringLiteral(" - ") + m_title);
+    const bool isOpen = !m_document.name.isEmpty();
+    QString title = m_title;
+    if (isOpen) {
+        const QString mark = QStringLiteral("[*]"); // where Qt shows that the window is modified
+        QString name = m_document.name;
+        name.replace(mark, mark + mark); // as Qt writes a name that holds it
+        const QString access =
+            m_document.isReadOnly ? QLatin1Char(' ') + tr("[read-only]") : QString();
+        title = name + mark + access + QStringLiteral(" - ") + m_title;
+    }
+    setWindowTitle(title);
+    setWindowModified(isOpen && m_document.isChanged);
 }
 
 void MainFrame::dragEnterEvent(QDragEnterEvent* event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lum_desktop_sdkx/ComponentKinds.h"
+#include "lum_desktop_sdkx/DesktopDocument.h"
 #include "lum_desktop_sdkx/frame/FrameLayout.h"
 #include "lum_desktop_sdkx/IMainFrame.h"
 #include "lum_sdk/events/EventSubscription.h"
@@ -30,7 +31,7 @@ public:
     ~MainFrame() override;
 
     void setTitle(const QString& title) override;
-    void setDocument(const QString& name) override;
+    void setDocument(const DesktopDocument& document) override;
     /// Shows the frame in the arrangement of the last session.
     void show() override;
 
@@ -69,7 +70,7 @@ private:
     std::vector<IGuiAssistantFactory::Pointer> m_assistants;
     std::vector<QMenu*> m_dockMenus; ///< they list the windows, filled each time they open
     QString m_title;
-    QString m_document;
+    DesktopDocument m_document;
     QByteArray m_defaultToolBars;
     EventSubscription m_subscription;
     bool m_wasPainted = false;

@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/dialogs/SilencedBoxes.h"
 #include "lum_desktop_sdkx/frame/Appearance.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/FrameComponents.h"
@@ -422,6 +423,32 @@ private Q_SLOTS:
         QCOMPARE(read.dictionary().integer("un_coordUnit"), 1);
         QCOMPARE(read.dictionary().text("theme"), std::string_view("dark"));
         get_system_ini_parameter().dictionary().clear();
+    }
+
+    void showsSilencedQuestionsAgain()
+    {
+        ShownFrame shown(R"(<main_frame><menu caption="M">
+        <command class="ShowQuestionsCommand" name="Again"/></menu></main_frame>)");
+        SilencedBoxes::add("first");
+        SilencedBoxes::add("second");
+        Told told;
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(shown.host.commands().execute("Again"_q));
+        QVERIFY(!SilencedBoxes::contains("first"));
+        QVERIFY2(told.texts.value(0).contains("again: 2"_q), qPrintable(told.texts.join("\n"_q)));
+        QVERIFY(told.texts.value(1) != told.texts.value(0));
+    }
+
+    void theTitleTellsWhatIsOpen()
+    {
+        ShownFrame shown("<main_frame/>");
+        shown.frame.setTitle("Program"_q);
+        shown.host.setDocument({"a[*]b"_q, true, true});
+        QCOMPARE(shown.frame.windowTitle(), "a[*][*]b[*] [read-only] - Program"_q);
+        QVERIFY(shown.frame.isWindowModified());
+        shown.host.setDocument({});
+        QCOMPARE(shown.frame.windowTitle(), "Program"_q);
+        QVERIFY(!shown.frame.isWindowModified());
     }
 
     void endsItsWindowsOnce()

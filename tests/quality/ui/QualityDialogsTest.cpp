@@ -1,5 +1,6 @@
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Paths.h"
+#include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
@@ -7,7 +8,10 @@
 #include "quality/ui/DlgQCParamSet.h"
 #include "tests/support/TestFolder.h"
 
+#include <QApplication>
+#include <QLabel>
 #include <QPushButton>
+#include <QTreeView>
 #include <QtTest>
 
 /// The dialog of the limits.
@@ -19,6 +23,8 @@ private Q_SLOTS:
     void takesAGoodCodeAndRefusesABadOne();
     void asksToMendAFileEditedByHand();
     void asksForWhatTheToolAccepts();
+    void tellsOfLimitsThatAreHardlyMeant();
+    void storesNothingThatItCannotShow();
 
 private:
     static void enter(DlgQCParamSet& dialog, const char* key, const char* value)
@@ -100,6 +106,62 @@ void QualityDialogsTest::asksForWhatTheToolAccepts()
         }
     }
     QCOMPARE(rows, kQualityParameters.size());
+}
+
+void QualityDialogsTest::tellsOfLimitsThatAreHardlyMeant()
+{
+    basalt::Dictionary parameters;
+    parameters.set("pdop_max", "-2.5");
+    parameters.set("re_east_diff", "-1");
+    DlgQCParamSet dialog(nullptr, parameters);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* const view = dialog.findChild<QTreeView*>();
+    const auto cell = [&](const char* caption) {
+        const QModelIndex group =
+            view->model()
+                ->match(view->model()->index(0, 0), Qt::DisplayRole, QLatin1String(caption), 1,
+                        Qt::MatchExactly | Qt::MatchRecursive)
+                .value(0);
+        return group.siblingAtColumn(1);
+    };
+    const auto height = [&](const char* caption) {
+        return view->visualRect(cell(caption)).height();
+    };
+    const int plain = height("HDOP, max.");
+    QVERIFY2(height("PDOP, max.") > plain * 3 / 2, "has a sentence: the minus does not count");
+    QVERIFY(height("East difference, max.") > plain * 3 / 2);
+
+    view->scrollTo(cell("HDOP, min."));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      view->visualRect(cell("HDOP, min.")).center());
+    QWidget* const editor = QApplication::focusWidget();
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, QStringLiteral("7"));
+    QVERIFY2(height("HDOP, max.") > plain * 3 / 2, "as soon as it is typed");
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QCOMPARE(height("HDOP, max."), plain);
+    QCOMPARE(qualityParameterNote(parameters, "hdop_max"), QString());
+    parameters.set("hdop_min", "7");
+    QVERIFY(!qualityParameterNote(parameters, "hdop_max").isEmpty());
+    pressOk(dialog);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QVERIFY(parameters.text("pdop_max") == "-2.5");
+}
+
+void QualityDialogsTest::storesNothingThatItCannotShow()
+{
+    const basalt::Product installed = basalt::product();
+    basalt::setProduct({installed.organisation, installed.name, "missing"});
+    basalt::Dictionary parameters;
+    DlgQCParamSet dialog(nullptr, parameters);
+    basalt::setProduct(installed);
+    dialog.show();
+    QVERIFY(dialog.findChild<QLabel*>()->text().contains(QStringLiteral("QCParam.xml")));
+    pressOk(dialog);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(parameters.size(), std::size_t(0));
 }
 
 QTEST_MAIN(QualityDialogsTest)

@@ -10,6 +10,7 @@
 #include "project/IPointList.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
+#include "quality/QualityLimits.h"
 #include "quality/QualityResultModel.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/DlgQCResult.h"
@@ -76,6 +77,8 @@ private Q_SLOTS:
     void theModelHoldsItsRows();
     void theCommandChecksTellsAndLists();
     void aClickShowsTheResult();
+    void theKeyboardShowsTheResult();
+    void lineDeviationsAreNamedAsSuch();
     void aClickComesNearEnough();
     void copiesRowsWithCaptions();
     void savesAsCsvOrTellsWhyNot();
@@ -186,6 +189,51 @@ void ResultListTest::aClickShowsTheResult()
     QCOMPARE(map.transform().center(), QPointF(0, 0)); // the result was deleted
 }
 
+void ResultListTest::theKeyboardShowsTheResult()
+{
+    NotingList points;
+    m_host->windowRegistry.windows[QStringLiteral("Survey Data List")] = &points;
+    const DataProcessDataManager manager(m_host.get());
+    const auto list = makeList();
+    QVERIFY(QTest::qWaitForWindowActive(list.get()));
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_PageDown,
+                              Qt::Key_Down, Qt::Key_PageUp, Qt::Key_Return})
+        QTest::keyClick(QApplication::focusWidget(), key);
+    QCOMPARE(points.asked,
+             (QStringList{QStringLiteral("1001/C10015001_0"), QStringLiteral("L \"1\", north/7"),
+                          QStringLiteral("1001/8"), QStringLiteral("1001/C10015001_0"),
+                          QStringLiteral("1001/C10015001_0")}));
+}
+
+void ResultListTest::lineDeviationsAreNamedAsSuch()
+{
+    std::vector<QualityRow> rows;
+    for (const int code : {10000000, 20000000, 30000000, 1000000}) {
+        SurveyPoint point = weakPoint("8");
+        point.qualityStandard = code;
+        describeQuality(point, QualityLimits(), rows);
+    }
+    const auto model = makeQualityResultModel(rows);
+    const auto shown = [&](int row, int role) {
+        return model->index(row, kQualityDescribeColumn).data(role).toString();
+    };
+    QVERIFY(shown(0, Qt::ToolTipRole).contains(QStringLiteral("transversal")));
+    QVERIFY(shown(1, Qt::ToolTipRole).contains(QStringLiteral("longitudinal")));
+    QVERIFY(shown(2, Qt::ToolTipRole).contains(QStringLiteral("transversal and the longi")));
+    QVERIFY(shown(3, Qt::ToolTipRole).isEmpty());
+    QTranslator chinese;
+    QVERIFY(chinese.load(QStringLiteral("skyquill_zh_CN"),
+                         QCoreApplication::applicationDirPath() +
+                             QStringLiteral("/../etc/Tarvona/config/Skyquill/Language")));
+    QCoreApplication::installTranslator(&chinese);
+    for (const auto& [row, deviation] :
+         {std::pair(0, QStringLiteral("横向偏差")), {1, QStringLiteral("纵向偏差")}}) {
+        QVERIFY2(shown(row, Qt::DisplayRole).startsWith(deviation),
+                 qPrintable(shown(row, Qt::DisplayRole)));
+        QVERIFY(shown(row, Qt::ToolTipRole).contains(deviation));
+    }
+}
+
 void ResultListTest::aClickComesNearEnough()
 {
     struct Case
@@ -214,6 +262,7 @@ void ResultListTest::aClickComesNearEnough()
 
 void ResultListTest::copiesRowsWithCaptions()
 {
+    const DataProcessDataManager manager(m_host.get());
     const auto list = makeList();
     QVERIFY(QTest::qWaitForWindowActive(list.get()));
     auto* const table = list->findChild<CustomTableWidget*>();
