@@ -15,6 +15,7 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QPointF>
 
@@ -66,7 +67,8 @@ int DataProcess5Assistant::queryClose()
         return 0;
     using Button = LumMessageBox::Button;
     const Button answer = LumMessageBox::information(
-        m_host.dialogParent(), QStringLiteral("提示"), QStringLiteral("是否退出程序？"),
+        m_host.dialogParent(), QCoreApplication::translate("DataProcess5Assistant", "提示"),
+        QCoreApplication::translate("DataProcess5Assistant", "是否退出程序？"),
         LumMessageBox::Buttons(Button::Yes) | Button::No);
     if (answer != Button::Yes)
         return 0;
@@ -78,8 +80,11 @@ int DataProcess5Assistant::queryClose()
 
 int DataProcess5Assistant::openFile(const QString& path)
 {
-    if (QFileInfo(path).suffix().compare(projectExtension(), Qt::CaseInsensitive) != 0)
+    const QFileInfo file(path);
+    if (file.suffix().compare(projectExtension(), Qt::CaseInsensitive) != 0)
         return 0;
+    if (ProjectState::isOpen() && file == QFileInfo(ProjectState::place().file))
+        return 1; // it is open here already
     if (ProjectSession::closeCurrent(m_host))
         ProjectSession::openFile(m_host, path);
     return 1;
