@@ -15,6 +15,7 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QPointF>
 
@@ -69,10 +70,11 @@ int DataProcess5Assistant::queryClose()
     using Button = LumMessageBox::Button;
     const bool losesChanges = m_dataManager && m_dataManager->isChanged();
     const Button answer = LumMessageBox::ask(
-        m_host.dialogParent(), {.title = QStringLiteral("提示"),
-                                .text = QStringLiteral("是否退出程序？"),
-                                .buttons = LumMessageBox::Buttons(Button::Yes) | Button::No,
-                                .defaultButton = losesChanges ? Button::No : Button::Yes});
+        m_host.dialogParent(),
+        {.title = QCoreApplication::translate("DataProcess5Assistant", "提示"),
+         .text = QCoreApplication::translate("DataProcess5Assistant", "是否退出程序？"),
+         .buttons = LumMessageBox::Buttons(Button::Yes) | Button::No,
+         .defaultButton = losesChanges ? Button::No : Button::Yes});
     if (answer != Button::Yes)
         return 0;
     if (ProjectState::isOpen())
@@ -83,8 +85,11 @@ int DataProcess5Assistant::queryClose()
 
 int DataProcess5Assistant::openFile(const QString& path)
 {
-    if (QFileInfo(path).suffix().compare(projectExtension(), Qt::CaseInsensitive) != 0)
+    const QFileInfo file(path);
+    if (file.suffix().compare(projectExtension(), Qt::CaseInsensitive) != 0)
         return 0;
+    if (ProjectState::isOpen() && file == QFileInfo(ProjectState::place().file))
+        return 1; // it is open here already
     if (ProjectSession::closeCurrent(m_host))
         ProjectSession::openFile(m_host, path);
     return 1;

@@ -8,6 +8,7 @@
 #include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/ICountly.h"
+#include "lum_sdk/InstanceReceiver.h"
 #include "lum_sdk/SingleInstance.h"
 #include "protocol/ProductName.h"
 
@@ -53,10 +54,12 @@ int main(int argc, char* argv[])
                                                       "/Tool/DataProcess5/data_process_5");
     QApplication::setWindowIcon(programIcon());
     const IDictionary& config = get_system_config_parameter().dictionary();
-    if (instance_is_run(QString::fromLocal8Bit(argv[0]), 1)) {
+    const QString program = QString::fromLocal8Bit(argv[0]);
+    if (instance_is_run(program, 1) && lum::handToInstance(program, application->fileToOpen())) {
         application.reset();
         return 0;
     }
+    application->receiveLaterStarts(program);
     try {
         beginSession(config);
         showMainFrame(config);

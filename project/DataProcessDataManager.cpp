@@ -68,9 +68,11 @@ int answered(const Outcome& outcome, Outcome* asked)
     return logged(outcome).toFlag();
 }
 
-/// An import that is done tells what became of the file's lines.
-Outcome withSummary(const Outcome& outcome, const ImportSummary& summary)
+/// An import that is done tells what became of the file's lines, in words and in numbers.
+Outcome withSummary(const Outcome& outcome, const ImportSummary& summary, ImportSummary* counts)
 {
+    if (counts != nullptr)
+        *counts = summary;
     return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
 }
 
@@ -283,14 +285,15 @@ int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QStr
     return answered(writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress), outcome);
 }
 
-int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcome)
+int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcome,
+                                            ImportSummary* counts)
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
     const Outcome reading = readDesignCsv(path, m_design, progress, summary);
     if (hasPoints(reading, summary))
         markChanged();
-    return answered(withSummary(reading, summary), outcome);
+    return answered(withSummary(reading, summary, counts), outcome);
 }
 
 int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QString& path,
@@ -304,14 +307,15 @@ int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QStr
     return answered(writeSurveyCsv(path, m_survey, lines, choice, progress), outcome);
 }
 
-int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome)
+int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome,
+                                            ImportSummary* counts)
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
     const Outcome reading = readSurveyCsv(path, m_survey, progress, summary);
     if (hasPoints(reading, summary))
         markChanged();
-    return answered(withSummary(reading, summary), outcome);
+    return answered(withSummary(reading, summary, counts), outcome);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
@@ -331,13 +335,16 @@ void DataProcessDataManager::applyCoordSystem(const IDictionary& parameters)
 void DataProcessDataManager::recomputeSeaHeights()
 {
     ICoordTransform& transform = get_project_coord_transform();
-    ::recomputeSeaHeights(&transform, transform.parameters(), [this](const auto& visit) {
+    const auto walk = [this](const auto& visit) {
         for (auto& [number, line] : m_survey) {
             for (SurveyPoint& point : line)
                 visit({point.latitude, point.longitude, point.altitude, point.elevation,
                        &point.seaHeight});
         }
-    });
+    };
+    m_seaHeightNotice = ::recomputeSeaHeights(&transform, transform.parameters(), walk).toText();
+    if (!m_seaHeightNotice.isEmpty())
+        basalt::logWarning(m_seaHeightNotice.toStdString());
 }
 
 CheckedData DataProcessDataManager::checkedData()

@@ -17,6 +17,7 @@ class IHost;
 class QAbstractTableModel;
 struct CheckedData;
 struct CheckKind;
+struct ImportSummary;
 struct ProjectPlace;
 struct QualityRow;
 
@@ -86,16 +87,18 @@ public:
     int save(const QString& path, Outcome* outcome = nullptr);
 
     // CSV files, see exchange/. Lines are written in the order of the list. An import that is done
-    // has a notice: what became of the file's lines.
+    // has a notice: what became of the file's lines; `counts` gets it in numbers.
 
     int exportDesignCsv(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
                         Outcome* outcome = nullptr);
-    int importDesignCsv(const QString& path, Outcome* outcome = nullptr);
+    int importDesignCsv(const QString& path, Outcome* outcome = nullptr,
+                        ImportSummary* counts = nullptr);
     /// \param captions  the columns, in their order; without any those of `exportCaptions`, which
     ///                  become all columns when they are empty
     int exportSurveyCsv(const QStringList& lines, const QString& path,
                         const QStringList& captions = {}, Outcome* outcome = nullptr);
-    int importSurveyCsv(const QString& path, Outcome* outcome = nullptr);
+    int importSurveyCsv(const QString& path, Outcome* outcome = nullptr,
+                        ImportSummary* counts = nullptr);
 
     // The checks of quality/CheckKinds.h.
 
@@ -114,6 +117,9 @@ public:
     void setCoordSystem(const IDictionary& parameters);
     /// Rewrites the sea height of every result; needed when results or coordinate system are new.
     void recomputeSeaHeights();
+    /// Why sea heights were elevations when they were computed last; empty when none was. The log
+    /// has got it.
+    [[nodiscard]] const QString& seaHeightNotice() const { return m_seaHeightNotice; }
 
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }
@@ -157,6 +163,7 @@ private:
     QString m_projectFileFault;
     bool m_isSaveOwed = false;
     bool m_isChanged = false;
+    QString m_seaHeightNotice;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;
     QStringList m_surveyCaptions;

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Save design, survey results and limits to the project database</source>
-        <translation>把设计数据、勘察成果和质量限差保存到工程数据库</translation>
+        <translation>把设计数据、测量成果和质量限差保存到工程数据库</translation>
     </message>
     <message>
         <source>Save a Copy As...</source>
@@ -81,11 +81,11 @@
     </message>
     <message>
         <source>Survey View</source>
-        <translation>勘察视图</translation>
+        <translation>测量视图</translation>
     </message>
     <message>
         <source>Show the survey results, base stations and offsets on the map</source>
-        <translation>在地图上显示勘察成果、基准站和偏移</translation>
+        <translation>在地图上显示测量成果、基准站和偏移</translation>
     </message>
     <message>
         <source>Receiver Lines</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>Survey Columns...</source>
-        <translation>勘察列表列...</translation>
+        <translation>测量列表列...</translation>
     </message>
     <message>
         <source>Choose the columns of the survey table and of exported files</source>
-        <translation>选择勘察列表和导出文件的列</translation>
+        <translation>选择测量列表和导出文件的列</translation>
     </message>
     <message>
         <source>Windows</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Set the limits that every survey result is judged by</source>
-        <translation>设置检查勘察成果所用的限差</translation>
+        <translation>设置检查测量成果所用的限差</translation>
     </message>
     <message>
         <source>Quality Check</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Judge every survey result by the limits and list the failures</source>
-        <translation>按限差检查全部勘察成果并列出不合格项</translation>
+        <translation>按限差检查全部测量成果并列出不合格项</translation>
     </message>
     <message>
         <source>Empty Point Check</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>Find the design points that were never surveyed</source>
-        <translation>查找没有勘察成果的设计点</translation>
+        <translation>查找没有测量成果的设计点</translation>
     </message>
     <message>
         <source>Resurvey Check</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>The time zone in which survey times are shown</source>
-        <translation>显示勘察时间所用的时区</translation>
+        <translation>显示测量时间所用的时区</translation>
     </message>
     <message>
         <source>Coordinate Unit</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>Survey Data List</source>
-        <translation>勘察数据列表</translation>
+        <translation>测量数据列表</translation>
     </message>
     <message>
         <source>Design Lines</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>Survey Lines</source>
-        <translation>勘察测线</translation>
+        <translation>测量测线</translation>
     </message>
     <message>
         <source>Attributes</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Design and Survey</source>
-        <translation>设计与勘察</translation>
+        <translation>设计与测量</translation>
     </message>
     <message>
         <source>Design Line Table</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>Survey Data Table</source>
-        <translation>勘察数据列表</translation>
+        <translation>测量数据列表</translation>
     </message>
 </context>
 <context>

@@ -26,28 +26,8 @@
 <context>
     <name>Applicationx</name>
     <message>
-        <source>Print the CPU time to the shown window, and leave.</source>
-        <translation>输出到窗口显示为止所用的 CPU 时间，然后退出。</translation>
-    </message>
-    <message>
-        <source>Write a picture of the window to &lt;file&gt;, and leave.</source>
-        <translation>把窗口图像写入 &lt;file&gt;，然后退出。</translation>
-    </message>
-    <message>
         <source>The window layout &quot;%1&quot; cannot be read (%2). The program has started with the map alone.</source>
         <translation>无法读取窗口布局“%1”（%2）。程序已启动，只有地图窗口。</translation>
-    </message>
-    <message>
-        <source>List the components that a window layout can name, and leave.</source>
-        <translation>列出窗口布局可用的组件，然后退出。</translation>
-    </message>
-    <message>
-        <source>The project file to open.</source>
-        <translation>要打开的工程文件。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a project file.</source>
-        <translation>“%1”不是工程文件。</translation>
     </message>
 </context>
 <context>
@@ -223,6 +203,33 @@
     <message>
         <source>survey</source>
         <translation>测量</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Print this text.</source>
+        <translation>显示本帮助。</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Print the CPU time to the shown window, and leave.</source>
+        <translation>输出到窗口显示为止所用的 CPU 时间，然后退出。</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to &lt;file&gt;, and leave.</source>
+        <translation>把窗口图像写入 &lt;file&gt;，然后退出。</translation>
+    </message>
+    <message>
+        <source>List the components that a window layout can name, and leave.</source>
+        <translation>列出窗口布局可用的组件，然后退出。</translation>
+    </message>
+    <message>
+        <source>The project file to open.</source>
+        <translation>要打开的工程文件。</translation>
     </message>
 </context>
 <context>
@@ -537,6 +544,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DataProcess5Assistant</name>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>是否退出程序？</source>
+        <translation>是否退出程序？</translation>
+    </message>
+</context>
+<context>
     <name>DataProcessDataManager</name>
     <message>
         <source>Loading Database</source>
@@ -769,6 +787,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>OK</source>
         <translation>确定</translation>
     </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>请确认输入的复测代码是不为&apos; C &apos;的单个字母</source>
+        <translation>请确认输入的复测代码是不为&apos; C &apos;的单个字母</translation>
+    </message>
 </context>
 <context>
     <name>DlgQCResult</name>
@@ -857,6 +883,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Further fields that cannot be read: %1.</source>
         <translation>其余无法识别的字段：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>MainFrame</name>
+    <message>
+        <source>&quot;%1&quot; is not a project file.</source>
+        <translation>“%1”不是工程文件。</translation>
     </message>
 </context>
 <context>
@@ -1378,6 +1411,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 km</source>
         <translation>%1 km</translation>
+    </message>
+</context>
+<context>
+    <name>SeaHeights</name>
+    <message>
+        <source>Geoid file &quot;%1&quot;: %2</source>
+        <translation>大地水准面文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>Results whose sea height is their elevation: %1 of %2. %3</source>
+        <translation>海拔高取自高程的成果：%1 个，共 %2 个。%3</translation>
     </message>
 </context>
 <context>

@@ -19,7 +19,7 @@ constexpr int kAny = 1000;
 
 constexpr std::array kCommands{
     CliCommand{"new", "DIR NAME [--epsg CODE | --set key=value ...]",
-               "make a project in a folder NAME of DIR, print its project file",
+               "make a project in a folder NAME of DIR, print its project file (DIR is made where it is missing)",
                2, 2, "--epsg,--set", "", createProject},
     CliCommand{"info", "PROJECT",
                "print what is in a project, a \"key: value\" line each",
@@ -111,6 +111,9 @@ QString cliHelp()
     for (const CliCommand& command : kCommands)
         text += QStringLiteral("  %1\n      %2\n")
                     .arg(usageOf(command), QLatin1String(command.summary));
-    return text + QStringLiteral("\nPROJECT is a project file. The exit status is 0 when all is "
-                                 "done, 1 after a failure, 2 for wrong usage.\n");
+    return text + QStringLiteral("  skyquill-cli --help | --version\n"
+                                 "      print this text, or the version\n"
+                                 "\nPROJECT is a project file. The exit status is 0 when all is "
+                                 "done, 1 after a failure (also of an import that finds no "
+                                 "point), 2 for wrong usage.\n");
 }

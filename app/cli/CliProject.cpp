@@ -22,8 +22,12 @@ Outcome CliProject::open(const QString& file, ProjectAccess access)
         return Outcome::failed(QStringLiteral("There is no project file \"%1\".").arg(file));
     m_place = ProjectPlace::ofFile(file);
     Outcome opening = m_manager.openProject(m_place, access);
-    if (opening.isDone() && !opening.text().isEmpty())
-        std::fprintf(stderr, "%s\n", qUtf8Printable(opening.text()));
+    if (!opening.isDone())
+        return opening;
+    for (const QString& notice : {opening.text(), m_manager.seaHeightNotice()}) {
+        if (!notice.isEmpty())
+            std::fprintf(stderr, "%s\n", qUtf8Printable(notice));
+    }
     return opening;
 }
 

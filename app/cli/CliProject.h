@@ -12,7 +12,7 @@ class CliProject final : public IEventHandler
 public:
     CliProject();
 
-    /// Prints a notice on standard error.
+    /// Prints notices on standard error.
     [[nodiscard]] Outcome open(const QString& file, ProjectAccess access);
     [[nodiscard]] Outcome save() { return m_manager.saveProject(m_place); }
 

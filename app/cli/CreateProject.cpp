@@ -75,12 +75,28 @@ Outcome chooseSystem(const CliArguments& arguments, IDictionary& project)
     return pairs.isEmpty() ? Outcome::done() : setParameters(pairs, project);
 }
 
+/// The folder, or the nearest one above it that is there.
+QString existingFolder(QString folder)
+{
+    while (!QFileInfo::exists(folder) && folder != QLatin1String("/"))
+        folder = QFileInfo(folder).path();
+    return folder;
+}
+
+/// Makes the project, with the folders above it that are missing; after a failure they go again.
 Outcome make(const ProjectPlace& place, const IDictionary& project)
 {
-    if (!QDir().mkpath(place.folder))
-        return Outcome::failed(
-            QStringLiteral("The folder \"%1\" cannot be made.").arg(place.folder));
-    return ProjectCreator::create(place, project);
+    const QString above = existingFolder(place.folder);
+    Outcome making =
+        QDir().mkpath(place.folder)
+            ? ProjectCreator::create(place, project)
+            : Outcome::failed(
+                  QStringLiteral("The folder \"%1\" cannot be made.").arg(place.folder));
+    if (!making.isDone()) {
+        for (QString made = place.folder; made != above; made = QFileInfo(made).path())
+            QDir().rmdir(made); // succeeds only when it is empty
+    }
+    return making;
 }
 
 } // namespace
@@ -89,13 +105,14 @@ Outcome createProject(const CliArguments& arguments)
 {
     if (arguments.options.size() > 1)
         return Outcome::refused(QStringLiteral("--epsg and --set exclude each other"));
-    const QString location = QFileInfo(arguments.places[0]).absoluteFilePath();
+    const QString location = QDir::cleanPath(QFileInfo(arguments.places[0]).absoluteFilePath());
     const QString& name = arguments.places[1];
-    for (const QString& fault : {projectLocationFault(location), projectNameFault(name)}) {
+    for (const QString& fault :
+         {projectLocationFault(existingFolder(location)), projectNameFault(name)}) {
         if (!fault.isEmpty())
             return Outcome::failed(fault);
     }
-    const ProjectPlace place = ProjectPlace::planned(QDir::cleanPath(location), name);
+    const ProjectPlace place = ProjectPlace::planned(location, name);
     if (QFileInfo::exists(place.file) || QFileInfo::exists(place.database()))
         return Outcome::failed(
             QStringLiteral("There is a project in \"%1\" already.").arg(place.folder));

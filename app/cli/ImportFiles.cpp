@@ -2,12 +2,14 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
+#include "exchange/ImportSummary.h"
 
 #include <cstdio>
 
 namespace {
 
-using Import = int (DataProcessDataManager::*)(const QString& path, Outcome* outcome);
+using Import = int (DataProcessDataManager::*)(const QString& path, Outcome* outcome,
+                                               ImportSummary* counts);
 
 Outcome importFile(const CliArguments& arguments, Import import)
 {
@@ -15,9 +17,13 @@ Outcome importFile(const CliArguments& arguments, Import import)
     if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
         return Outcome::refused(QStringLiteral("\"%1\" does not end in .csv").arg(file));
     CliProject project;
+    ImportSummary counts;
     Outcome outcome = project.open(arguments.places[0], ProjectAccess::Change);
-    if (!outcome.isDone() || (project.manager().*import)(file, &outcome) == 0)
+    if (!outcome.isDone() || (project.manager().*import)(file, &outcome, &counts) == 0)
         return outcome;
+    if (counts.pointsNew + counts.pointsReplaced == 0)
+        return Outcome::failed(
+            QStringLiteral("No point was imported, the project is unchanged.\n") + outcome.text());
     if (Outcome saving = project.save(); !saving.isDone())
         return saving;
     std::printf("%s\n", qUtf8Printable(outcome.text()));

@@ -17,24 +17,35 @@
 
 namespace {
 
-/// The configuration and the settings that the program with the window has.
-void readConfiguration()
+/// The settings that the program with the window has, and their language.
+void readSettings()
 {
-    const std::string tool = basalt::toolFolder() + "/data_process_5";
-    get_system_config_parameter().load(tool + ".xml");
-    get_system_ini_parameter().load(tool + ".sys");
+    get_system_ini_parameter().load(basalt::toolFolder() + "/data_process_5.sys");
     const auto language = get_system_ini_parameter().dictionary().text(settings::kLanguage);
     lum::loadTranslations(lum::toQString(language),
                           QString::fromStdString(basalt::configFolder() + "/Language"),
                           QCoreApplication::applicationName().toLower());
 }
 
-/// A graphical application only for commands that need it; it never uses a display.
-std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv)
+/// Prints what "--help" and "--version" ask for. \returns whether one of them does
+bool answer(const QStringList& arguments)
 {
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const QString first = arguments.value(0);
+    if (arguments.contains(QLatin1String("--help")) || first == QLatin1String("-h")) {
+        std::printf("%s", qUtf8Printable(cliHelp()));
+        return true;
+    }
+    if (first != QLatin1String("--version") && first != QLatin1String("-v"))
+        return false;
+    const std::string version(get_system_config_parameter().dictionary().text("version"));
+    std::printf("skyquill-cli %s\n", version.c_str());
+    return true;
+}
+
+/// A graphical application only for commands that need it; it never uses a display.
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv,
+                                                  const QStringList& arguments)
+{
     if (!cliPaints(arguments))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -57,16 +68,17 @@ int main(int argc, char* argv[])
     nameProduct();
     lum::setUpDatabase();
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also in the locale "C"
-    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
+    basalt::keepLogOffConsole(); // `report` tells the user in one line
+    get_system_config_parameter().load(basalt::toolFolder() + "/data_process_5.xml");
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    if (answer(arguments))
+        return 0;
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, arguments);
     QCoreApplication::setOrganizationName(QLatin1String(kOrganisation));
     QCoreApplication::setApplicationName(QLatin1String(kProductName));
-    basalt::keepLogOffConsole(); // `report` tells the user in one line
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
-    if (arguments.value(0) == QLatin1String("--help")) {
-        std::printf("%s", qUtf8Printable(cliHelp()));
-        return 0;
-    }
-    readConfiguration();
+    readSettings();
     try {
         return report(runCli(arguments));
     } catch (const std::exception& fault) {

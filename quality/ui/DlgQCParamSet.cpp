@@ -87,8 +87,8 @@ void DlgQCParamSet::onBtnClicked()
     const basalt::Dictionary edited = m_grid->getData();
     const auto code = resurveyCode(std::string(qualityParameter(edited, kResurveyCode)));
     if (!code) {
-        LumMessageBox::information(this, QStringLiteral("提示"),
-                                   QStringLiteral("请确认输入的复测代码是不为' C '的单个字母"));
+        LumMessageBox::information(this, tr("提示"),
+                                   tr("请确认输入的复测代码是不为' C '的单个字母"));
         return;
     }
     dictionary_copy(edited, m_parameters);

@@ -44,7 +44,10 @@ private Q_SLOTS:
     void cleanup() { m_folder.reset(); }
     void answersOnTheCommandLine();
     void writesAPictureOfTheWindow();
+    void bothProgramsAnswerWithoutADisplay();
     void aSecondInstanceLeavesSilentlyAtOnce();
+    void aSecondStartHandsItsFileOver();
+    void lightChineseTextIsNotBold();
     void aMissingSystemFileIsFatalAndReported();
     void aBrokenLayoutLeavesTheMap();
     void beginsASessionWhereAServerIsConfigured();
@@ -59,10 +62,17 @@ private:
     {
         QVERIFY(!m_folder->write((kToolFolder + QByteArray(name)).constData(), content).isEmpty());
     }
+    void writeSettings(const char* entries) const
+    {
+        QVERIFY(QDir().mkpath(path("config/Tarvona/Skyquill")));
+        const QByteArray text = QByteArray("<dictionary>") + entries + "</dictionary>";
+        QVERIFY(!m_folder->write("config/Tarvona/Skyquill/settings.xml", text).isEmpty());
+    }
     [[nodiscard]] QByteArray log() const
     {
         return TestFolder::read(path("state/Tarvona/Skyquill/skyquill.log"));
     }
+    [[nodiscard]] QProcessEnvironment environment() const;
     void start(QProcess& process, const QStringList& arguments = {}, const char* locale = "") const;
     /// To its end. \returns the exit status; -1 after a crash
     int run(QProcess& process, const QStringList& arguments, const char* locale = "") const;
@@ -83,15 +93,21 @@ void ProgramTest::init()
     QCOMPARE(QProcess::execute(QStringLiteral("cp"), configuration), 0);
 }
 
+QProcessEnvironment ProgramTest::environment() const
+{
+    QProcessEnvironment values = QProcessEnvironment::systemEnvironment();
+    values.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
+    values.insert(QStringLiteral("XDG_STATE_HOME"), path("state"));
+    values.insert(QStringLiteral("XDG_RUNTIME_DIR"), path("run"));
+    return values;
+}
+
 void ProgramTest::start(QProcess& process, const QStringList& arguments, const char* locale) const
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
-    environment.insert(QStringLiteral("XDG_STATE_HOME"), path("state"));
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), path("run"));
+    QProcessEnvironment values = environment();
     if (*locale != '\0')
-        environment.insert(QStringLiteral("LC_ALL"), QString::fromLatin1(locale));
-    process.setProcessEnvironment(environment);
+        values.insert(QStringLiteral("LC_ALL"), QString::fromLatin1(locale));
+    process.setProcessEnvironment(values);
     process.setWorkingDirectory(m_folder->path());
     process.start(path("程序 dir/bin/skyquill"), arguments);
 }
@@ -144,6 +160,35 @@ void ProgramTest::writesAPictureOfTheWindow()
     }
 }
 
+void ProgramTest::bothProgramsAnswerWithoutADisplay()
+{
+    QProcessEnvironment values = environment();
+    values.remove(QStringLiteral("DISPLAY"));
+    values.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    values.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    QProcessEnvironment broken = values;
+    broken.insert(QStringLiteral("DISPLAY"), QStringLiteral(":no"));
+    broken.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("no such"));
+    static const QRegularExpression version(QStringLiteral("^\\S+ \\d+\\.\\d+\\.\\d+\n$"));
+    for (const QProcessEnvironment& used : {values, broken}) {
+        for (const QString& program : {path("程序 dir/bin/skyquill"), QStringLiteral(CLI_FILE)}) {
+            QProcess process;
+            process.setProcessEnvironment(used);
+            process.start(program, {QStringLiteral("--help")});
+            QVERIFY(process.waitForFinished());
+            QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(process.exitCode(), 0);
+            QCOMPARE(process.readAllStandardError(), QByteArray());
+            QVERIFY(process.readAllStandardOutput().contains("--version"));
+            process.start(program, {QStringLiteral("--version")});
+            QVERIFY(process.waitForFinished());
+            QCOMPARE(process.exitCode(), 0);
+            const QString answer = QString::fromUtf8(process.readAll());
+            QVERIFY2(version.match(answer).hasMatch(), qUtf8Printable(answer));
+        }
+    }
+}
+
 void ProgramTest::aSecondInstanceLeavesSilentlyAtOnce()
 {
     QProcess first;
@@ -160,6 +205,68 @@ void ProgramTest::aSecondInstanceLeavesSilentlyAtOnce()
     QProcess third;
     QCOMPARE(run(third, {QStringLiteral("--startup-time")}), 0);
     QVERIFY(third.readAllStandardOutput().contains("shown window"));
+}
+
+void ProgramTest::aSecondStartHandsItsFileOver()
+{
+    QProcess making;
+    making.start(QStringLiteral(CLI_FILE),
+                 {QStringLiteral("new"), path("测区 a"), QStringLiteral("one")});
+    QVERIFY(making.waitForFinished());
+    QCOMPARE(making.exitCode(), 0);
+    const QByteArray project = path("测区 a/one/one.kelx").toUtf8();
+
+    QProcess first;
+    start(first);
+    QTRY_VERIFY(log().contains("Window shown"));
+    QProcess second;
+    second.setProcessEnvironment(environment());
+    second.setWorkingDirectory(path("测区 a"));
+    second.start(path("程序 dir/bin/skyquill"), {QStringLiteral("./one/../one/one.kelx")});
+    QVERIFY(second.waitForFinished());
+    QCOMPARE(second.exitCode(), 0);
+    QCOMPARE(second.readAllStandardOutput() + second.readAllStandardError(), QByteArray());
+    // The first has it open: in the list of recent projects, and locked.
+    QTRY_VERIFY(TestFolder::read(path("config/Tarvona/Skyquill/settings.xml")).contains(project));
+    QProcess changing;
+    changing.start(
+        QStringLiteral(CLI_FILE),
+        {QStringLiteral("set-quality"), QString::fromUtf8(project), QStringLiteral("pdop_max=3")});
+    QVERIFY(changing.waitForFinished());
+    QCOMPARE(changing.exitCode(), 1);
+    QCOMPARE(log().count("Window shown"), 1);
+    first.kill();
+    QVERIFY(first.waitForFinished());
+}
+
+/// The menus and tool bars of the Chinese dark window, as the font engine paints them when it is
+/// told nothing by us, and when it does not thicken strokes at all.
+void ProgramTest::lightChineseTextIsNotBold()
+{
+    writeSettings("<entry key=\"language\" value=\"zh_CN\"/><entry key=\"theme\" value=\"dark\"/>");
+    const auto ink = [&](const char* strokes) {
+        QProcess process;
+        QProcessEnvironment values = environment();
+        if (strokes != nullptr)
+            values.insert(QStringLiteral("FREETYPE_PROPERTIES"), QString::fromLatin1(strokes));
+        process.setProcessEnvironment(values);
+        process.start(path("程序 dir/bin/skyquill"),
+                      {QStringLiteral("--screenshot"), path("menu.png")});
+        if (!process.waitForFinished() || process.exitCode() != 0)
+            qFatal("no picture");
+        const QImage picture(path("menu.png"));
+        double sum = 0;
+        for (int y = 0; y < 25; ++y) {
+            for (int x = 0; x < 500; ++x)
+                sum += qGray(picture.pixel(x, y));
+        }
+        return sum;
+    };
+    const double plain = ink("cff:darkening-parameters=500,0,1000,0,2500,0,4000,0");
+    const double heavy = ink("");
+    if (heavy < plain * 1.001)
+        QSKIP("no Chinese font here has strokes that are thickened");
+    QVERIFY(ink(nullptr) < (plain + heavy) / 2);
 }
 
 void ProgramTest::aMissingSystemFileIsFatalAndReported()

@@ -679,6 +679,22 @@ private Q_SLOTS:
         QTRY_VERIFY(isOpen());
     }
 
+    void aFileFromOutsideAsksAsTheCommandDoes()
+    {
+        makeProject("a");
+        makeProject("b");
+        open("a");
+        m_frame->openWhenFree(place("a").file);
+        expectAsked(""); // it is open already
+        answerNo("close current project?");
+        m_frame->openWhenFree(place("b").file);
+        expectAsked("information: close current project?\n");
+        QVERIFY(isOpen("a"));
+        m_answers.clear();
+        m_frame->openWhenFree(place("b").file);
+        QVERIFY(isOpen("b"));
+    }
+
     void choosesATimeZone()
     {
         const auto choose = [&](int radio, int index, const char* button) {

@@ -23,16 +23,28 @@ basalt::Dictionary lifting()
 
 /// What comes out for points of elevation 50 and altitudes 100, 101, ...; the latitude of the point
 /// number 1030 is none.
+SeaHeightSummary run(std::vector<double>& heights, ICoordTransform* transform, int geoidValid)
+{
+    basalt::Dictionary parameters;
+    dic_set_value(parameters, "geoid_valid", geoidValid);
+    dic_set_value(parameters, "geoid_file", "/no where/网格 %1.gtx");
+    return recomputeSeaHeights(transform, parameters, [&](const auto& visit) {
+        for (std::size_t i = 0; i < heights.size(); ++i)
+            visit({i == 1030 ? 95.0 : 40.0, 117, 100 + double(i), 50, &heights[i]});
+    });
+}
+
 std::vector<double> seaHeights(std::size_t count, ICoordTransform* transform, int geoidValid)
 {
     std::vector<double> heights(count, -1);
-    basalt::Dictionary parameters;
-    dic_set_value(parameters, "geoid_valid", geoidValid);
-    recomputeSeaHeights(transform, parameters, [&](const auto& visit) {
-        for (std::size_t i = 0; i < count; ++i)
-            visit({i == 1030 ? 95.0 : 40.0, 117, 100 + double(i), 50, &heights[i]});
-    });
+    run(heights, transform, geoidValid);
     return heights;
+}
+
+std::string toldOf(std::size_t count, ICoordTransform* transform, int geoidValid)
+{
+    std::vector<double> heights(count, -1);
+    return run(heights, transform, geoidValid).toText().toStdString();
 }
 
 } // namespace
@@ -55,4 +67,18 @@ TEST(SeaHeights, ComeFromTheTransformationOfTheAltitude)
     const std::vector<double> heights = seaHeights(2500, &service, 1); // more than two blocks
     for (std::size_t i = 0; i < heights.size(); ++i)
         EXPECT_NEAR(heights[i], i == 1030 ? 50 : 107 + double(i), 1e-9) << i;
+}
+
+TEST(SeaHeights, ThatAreElevationsAreToldInNumbersWithTheGeoidFile)
+{
+    CoordWjl service;
+    service.initialise(basalt::Dictionary(), lifting());
+    EXPECT_EQ(toldOf(1000, &service, 1), "");
+    EXPECT_EQ(toldOf(2500, &service, 0), "") << "no geoid is in use";
+    const std::string told = toldOf(2500, &service, 1);
+    EXPECT_NE(told.find("1 of 2500. Geoid file \"/no where/网格 %1.gtx\": The position"),
+              std::string::npos)
+        << told;
+    service.initialise(basalt::Dictionary(), basalt::Dictionary());
+    EXPECT_NE(toldOf(0, &service, 1).find("0 of 0. "), std::string::npos) << "before a result";
 }

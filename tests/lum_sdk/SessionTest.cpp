@@ -1,9 +1,11 @@
 #include "lum_sdk/Countly.h"
+#include "lum_sdk/InstanceReceiver.h"
 #include "lum_sdk/SingleInstance.h"
 #include "tests/support/LogCapture.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocalSocket>
 #include <QNetworkProxy>
 #include <QProcess>
 #include <QTcpServer>
@@ -13,9 +15,10 @@
 #include <QUrlQuery>
 
 #include <csignal>
+#include <thread>
 
 /// The analytics session against a server of its own, and the lock of the single instance against
-/// a second process: this program again, started with "hold".
+/// a second process: this program again, started with "hold", which prints what it receives.
 class SessionTest : public QObject
 {
     Q_OBJECT
@@ -24,7 +27,10 @@ private Q_SLOTS:
     void beginsWithOneRequest();
     void sendsNothingWithoutAServer();
     void givesUpAServerThatDoesNotAnswer();
+    void aFileIsHandedToTheProcessThatHoldsTheLock();
+    void aProcessThatHangsGetsItsFileLater();
     void aSecondProcessIsToldAndACrashFreesTheLock();
+    void aProcessThatEndsLeavesTheLock(); // the last: this process has the lock then
 };
 
 namespace {
@@ -111,15 +117,97 @@ void SessionTest::aSecondProcessIsToldAndACrashFreesTheLock()
 
     ::kill(static_cast<pid_t>(holder.processId()), SIGKILL);
     QVERIFY(holder.waitForFinished());
-    QVERIFY(!instance_is_run(holder.program(), 1));
+    QVERIFY(!instance_is_run(holder.program(), 0));
+}
+
+namespace {
+
+/// The other process; it is killed with the object.
+struct Holder : QProcess
+{
+    Holder()
+    {
+        start(QCoreApplication::applicationFilePath(), {QStringLiteral("hold")});
+        isReady = waitForReadyRead() && readLine() == "free\n";
+    }
+    ~Holder() override
+    {
+        kill();
+        waitForFinished();
+    }
+    void send(int signal) const { ::kill(static_cast<pid_t>(processId()), signal); }
+    QByteArray nextLine()
+    {
+        while (!canReadLine() && waitForReadyRead())
+            ;
+        return readLine();
+    }
+    bool isReady = false;
+};
+
+} // namespace
+
+void SessionTest::aFileIsHandedToTheProcessThatHoldsTheLock()
+{
+    {
+        Holder first; // leaves a socket behind, as a crash does
+        QVERIFY(first.isReady);
+    }
+    Holder holder;
+    QVERIFY(holder.isReady);
+    for (const char* file : {"/测区 1/a\\b.kelx", "", "/测区 1/a\\b.kelx"}) {
+        QVERIFY(lum::handToInstance(holder.program(), QString::fromUtf8(file)));
+        QCOMPARE(holder.nextLine(), QByteArray("got ") + file + '\n');
+    }
+    // What is no message, or half of one, is passed over.
+    QLocalSocket stranger;
+    QString path = lum::instanceFile(holder.program(), QStringLiteral(".socket"));
+    stranger.connectToServer(path);
+    if (stranger.waitForConnected()) {
+        stranger.write("GET / HTTP/1.1\r\n");
+        QVERIFY(stranger.waitForBytesWritten());
+    }
+    QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/after")));
+    QCOMPARE(holder.nextLine(), QByteArray("got /after\n"));
+}
+
+void SessionTest::aProcessThatHangsGetsItsFileLater()
+{
+    Holder holder;
+    QVERIFY(holder.isReady);
+    holder.send(SIGSTOP);
+    QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/later"), 200));
+    holder.send(SIGCONT);
+    QCOMPARE(holder.nextLine(), QByteArray("got /later\n"));
+}
+
+void SessionTest::aProcessThatEndsLeavesTheLock()
+{
+    Holder holder;
+    QVERIFY(holder.isReady);
+    holder.send(SIGSTOP);
+    std::thread killer([&] {
+        QThread::msleep(200);
+        holder.send(SIGKILL);
+    });
+    QVERIFY(!lum::handToInstance(holder.program(), QStringLiteral("/a")));
+    killer.join();
     QVERIFY(!instance_is_run(holder.program(), 1)); // its own lock is no other instance
+    QVERIFY(!Holder().isReady);
 }
 
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     if (argc > 1 && qstrcmp(argv[1], "hold") == 0) {
-        std::puts(instance_is_run(QString::fromLocal8Bit(argv[0]), 1) ? "taken" : "free");
+        const QString program = QString::fromLocal8Bit(argv[0]);
+        const bool isTaken = instance_is_run(program, 1);
+        lum::InstanceReceiver receiver(program);
+        QObject::connect(&receiver, &lum::InstanceReceiver::startedAgain, [](const QString& file) {
+            std::printf("got %s\n", qUtf8Printable(file));
+            std::fflush(stdout);
+        });
+        std::puts(isTaken ? "taken" : "free");
         std::fflush(stdout);
         return QCoreApplication::exec();
     }

@@ -1,4 +1,5 @@
 #include "basalt_utilities/IDictionary.h"
+#include "basalt_utilities/KeyList.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Host.h"
 #include "project/DataProcessDataManager.h"
@@ -51,6 +52,24 @@ TEST_F(DataManager, FilesGoOutAndComeBack)
     manager.clear();
     EXPECT_EQ(manager.load(database), 1);
     EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
+}
+
+TEST_F(DataManager, AMissingGeoidIsLoggedOncePerOperation)
+{
+    for (int i = 0; i < 3000; ++i)
+        manager.surveyPoints().set(surveyPoint("L", std::to_string(i)));
+    basalt::Dictionary system;
+    csa_to_dictionary(system, "ellipsoid_a=6378137,ellipsoid_f=298.257,project_type=1,org_lon=117,"
+                              "geoid_valid=1,geoid_file=/gone/网格.gtx");
+    const LogCapture log;
+    manager.setCoordSystem(system);
+    ASSERT_EQ(log.lines(ILogger::Level::Warning).size(), 1U) << log.text();
+    for (const char* part : {"3001 of 3001.", "/gone/网格.gtx"})
+        EXPECT_TRUE(log.holds(part)) << log.text();
+    EXPECT_FALSE(manager.seaHeightNotice().isEmpty());
+    system.set("geoid_valid", "0");
+    manager.setCoordSystem(system);
+    EXPECT_TRUE(manager.seaHeightNotice().isEmpty());
 }
 
 TEST_F(DataManager, WhatCannotBeDoneIsToldAndLogged)

@@ -13,9 +13,9 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/files/Translations.h"
+#include "lum_sdk/InstanceReceiver.h"
 #include "lum_sdk/Text.h"
 
-#include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
 #include <QScreen>
@@ -38,28 +38,72 @@ void logQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const Q
         basalt::logDebug(line); // the message window hides debug lines from the user
 }
 
-template <class Factory>
-void printKind(const char* kind, const Factory& factory)
+/// Which application of the product this is.
+struct Identity
 {
-    for (const auto& [name, caption] : factory.captions())
-        std::printf("%-17s %-30s %s\n", kind, name.c_str(), caption.c_str());
+    const char* applicationId;
+    const char* toolPath;
+
+    [[nodiscard]] static QString configFolder()
+    {
+        return QString::fromStdString(basalt::configFolder());
+    }
+    [[nodiscard]] QString tool() const { return configFolder() + QString::fromUtf8(toolPath); }
+
+    /// Names the process so, reads the configuration and registers what the platform has.
+    void take() const
+    {
+        QCoreApplication::setOrganizationName(
+            QString::fromStdString(basalt::product().organisation));
+        QCoreApplication::setApplicationName(QString::fromUtf8(applicationId));
+        SystemParameter& config = get_system_config_parameter();
+        config.load((tool() + QStringLiteral(".xml")).toStdString());
+        QCoreApplication::setApplicationVersion(
+            lum::toQString(config.dictionary().text("version")));
+        registerCoordComponents();
+        registerMapComponents();
+        registerFrameComponents();
+    }
+};
+
+QString setting(const char* key)
+{
+    return lum::toQString(get_system_ini_parameter().dictionary().text(key));
 }
 
-void printComponents()
+void loadTexts()
 {
-    printKind("IWindow", extensible_factory_IWindow());
-    printKind("ILayerViewer", extensible_factory_ILayerViewer());
-    printKind("IReactor", extensible_factory_IReactor());
-    printKind("ICommandExecuterx", extensible_factory_ICommandExecuterx());
-    printKind("IGuiAssistant", extensible_factory_IGuiAssistant());
+    lum::loadTranslations(setting(settings::kLanguage),
+                          Identity::configFolder() + QStringLiteral("/Language"),
+                          QCoreApplication::applicationName().toLower());
 }
+
+/// Prints the text that the command line asks for and ends the program. Returns when there is none
+/// after all.
+void answer(int argc, char** argv, const Identity& identity)
+{
+    const QCoreApplication withoutWindow(argc, argv);
+    identity.take();
+    get_system_ini_parameter().load((identity.tool() + QStringLiteral(".sys")).toStdString());
+    loadTexts();
+    static_cast<void>(CommandLine::read(QCoreApplication::arguments()));
+}
+
+/// The font engine thickens the strokes of most Chinese fonts, and of no others: light text on dark
+/// would look bold. This is a third of what it adds by itself: stroke widths and what they gain, in
+/// thousandths of a pixel.
+constexpr const char* kStrokes = "cff:darkening-parameters=500,150,1000,100,1667,100,2333,0";
 
 /// Sets what must be set before Qt makes the application object.
-int& prepared(int& argc)
+int& prepared(int& argc, char** argv, const Identity& identity)
 {
     qInstallMessageHandler(logQtMessage);
     // All 8-bit text is UTF-8, also file names, and also when the locale is "C".
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    if (CommandLine::asksForText(argc, argv))
+        answer(argc, argv, identity);
+    if (!qEnvironmentVariableIsSet("FREETYPE_PROPERTIES"))
+        qputenv("FREETYPE_PROPERTIES", kStrokes);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -87,22 +131,14 @@ FrameLayout loadLayout(const QString& path, QString& problem)
 } // namespace
 
 Applicationx::Applicationx(int& argc, char** argv, const char* applicationId, const char* toolPath)
-    : QApplication(prepared(argc), argv)
+    : QApplication(prepared(argc, argv, {applicationId, toolPath}), argv)
 {
     static_cast<void>(MessageLog::instance()); // from here on it listens to the log
-    setOrganizationName(QString::fromStdString(basalt::product().organisation));
-    setApplicationName(QString::fromUtf8(applicationId));
-    m_configFolder = QString::fromStdString(basalt::configFolder());
-    const QString tool = m_configFolder + QString::fromUtf8(toolPath);
-    m_toolFolder = QFileInfo(tool).path();
-    get_system_config_parameter().load((tool + QStringLiteral(".xml")).toStdString());
-    const std::string_view version = get_system_config_parameter().dictionary().text("version");
-    setApplicationVersion(lum::toQString(version));
+    const Identity identity{applicationId, toolPath};
+    identity.take();
+    m_toolFolder = QFileInfo(identity.tool()).path();
     lum::setDpiScale(primaryScreen()->logicalDotsPerInch() / 96.0);
-    registerCoordComponents();
-    registerMapComponents();
-    registerFrameComponents();
-    readOptions();
+    m_commandLine = CommandLine::read(arguments());
 }
 
 Applicationx::~Applicationx()
@@ -119,13 +155,7 @@ Applicationx& Applicationx::instance()
 MainFrame& Applicationx::mainFrame()
 {
     if (!m_mainFrame) {
-        const auto setting = [](const char* key) {
-            const std::string_view text = get_system_ini_parameter().dictionary().text(key);
-            return lum::toQString(text);
-        };
-        lum::loadTranslations(setting(settings::kLanguage),
-                              m_configFolder + QStringLiteral("/Language"),
-                              applicationName().toLower());
+        loadTexts();
         desktop::applyAppearance(setting(settings::kTheme));
         m_mainFrame = std::make_unique<MainFrame>(
             m_host, loadLayout(m_toolFolder + QStringLiteral("/main_frame.xml"), m_layoutProblem));
@@ -144,32 +174,20 @@ bool Applicationx::notify(QObject* receiver, QEvent* event)
     }
 }
 
-void Applicationx::readOptions()
+void Applicationx::receiveLaterStarts(const QString& program)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        lum::toQString(get_system_config_parameter().dictionary().text("description")));
-    const QCommandLineOption startupTime(QStringLiteral("startup-time"),
-                                         tr("Print the CPU time to the shown window, and leave."));
-    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        tr("Write a picture of the window to <file>, and leave."),
-                                        QStringLiteral("file"));
-    const QCommandLineOption components(
-        QStringLiteral("components"),
-        tr("List the components that a window layout can name, and leave."));
-    parser.addOptions({startupTime, screenshot, components});
-    parser.addPositionalArgument(QStringLiteral("project"), tr("The project file to open."),
-                                 QStringLiteral("[project]"));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.process(*this);
-    if (parser.isSet(components)) {
-        printComponents();
-        std::exit(0);
-    }
-    m_printsStartupTime = parser.isSet(startupTime);
-    m_screenshotFile = parser.value(screenshot);
-    m_fileToOpen = parser.positionalArguments().value(0);
+    auto* const receiver = new lum::InstanceReceiver(program, this);
+    // Queued: opening the file may ask the user, and the receiver must not wait for that.
+    connect(
+        receiver, &lum::InstanceReceiver::startedAgain, this,
+        [this](const QString& file) {
+            if (!m_mainFrame)
+                return;
+            m_mainFrame->comeToFront();
+            if (!file.isEmpty())
+                m_mainFrame->openWhenFree(file);
+        },
+        Qt::QueuedConnection);
 }
 
 void Applicationx::reportShown()
@@ -177,21 +195,22 @@ void Applicationx::reportShown()
     const int cpuMs = static_cast<int>(std::clock() * 1000 / CLOCKS_PER_SEC);
     basalt::logDebug("Window shown after " + std::to_string(cpuMs) + " ms of CPU time");
     rism_logger_get_instance()->flush(); // a test may wait for this line
-    if (m_printsStartupTime) {
+    if (m_commandLine.printsStartupTime) {
         std::printf("%d ms of CPU time to the shown window\n", cpuMs);
         exit(0);
         return;
     }
-    if (!m_screenshotFile.isEmpty())
+    const QString& picture = m_commandLine.screenshotFile;
+    if (!picture.isEmpty())
         m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // the same on every screen
-    if (!m_fileToOpen.isEmpty() && !m_mainFrame->openFile(m_fileToOpen))
-        LumMessageBox::warning(m_mainFrame.get(), applicationName(),
-                               tr("\"%1\" is not a project file.").arg(m_fileToOpen));
-    if (!m_screenshotFile.isEmpty()) {
+    if (!fileToOpen().isEmpty())
+        m_mainFrame->openWhenFree(fileToOpen());
+    if (!picture.isEmpty()) {
         QTimer::singleShot(500, this, [this] { // enough time for the map's worker
-            const bool done = m_mainFrame->grab().save(m_screenshotFile);
+            const QString& file = m_commandLine.screenshotFile;
+            const bool done = m_mainFrame->grab().save(file);
             if (!done)
-                basalt::logError("Cannot write \"" + m_screenshotFile.toStdString() + "\"");
+                basalt::logError("Cannot write \"" + file.toStdString() + "\"");
             exit(done ? 0 : 1);
         });
         return;

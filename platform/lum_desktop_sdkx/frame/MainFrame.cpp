@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/DockStyle.h"
 #include "lum_desktop_sdkx/frame/FrameState.h"
@@ -12,6 +13,7 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -26,6 +28,7 @@
 #include <QToolBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -126,6 +129,32 @@ bool MainFrame::openFile(const QString& path)
                        [&](const auto& assistant) { return assistant->openFile(path) != 0; });
 }
 
+void MainFrame::openWhenFree(const QString& path)
+{
+    m_waitingFile = path;
+    openWaitingFile();
+}
+
+void MainFrame::openWaitingFile()
+{
+    if (m_waitingFile.isEmpty() || QApplication::activeModalWidget() != nullptr)
+        return;
+    const QString file = std::exchange(m_waitingFile, {});
+    if (!openFile(file))
+        LumMessageBox::warning(this, QCoreApplication::applicationName(),
+                               tr("\"%1\" is not a project file.").arg(file));
+}
+
+void MainFrame::comeToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog != nullptr)
+        dialog->raise();
+    (dialog != nullptr ? dialog : this)->activateWindow();
+}
+
 void MainFrame::show()
 {
     WindowRegistry& windows = m_host.windows();
@@ -204,6 +233,9 @@ bool MainFrame::event(QEvent* event)
         m_wasPainted = true;
         QTimer::singleShot(0, this, &MainFrame::firstShown); // after the children were painted
     }
+    // A zero timer fires when the command that had the dialog open is through with it.
+    if (event->type() == QEvent::WindowUnblocked)
+        QTimer::singleShot(0, this, &MainFrame::openWaitingFile);
     return handled;
 }
 

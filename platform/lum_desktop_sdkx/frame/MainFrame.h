@@ -42,6 +42,14 @@ public:
     /// \returns false when none has
     bool openFile(const QString& path);
 
+    /// The same, and says so when none has. While a dialog is open the file waits for its end; of
+    /// several that wait the latest is opened.
+    void openWhenFree(const QString& path);
+
+    /// Raises the frame above other programs, also when it is minimised, with an open dialog on
+    /// top.
+    void comeToFront();
+
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 Q_SIGNALS:
@@ -64,6 +72,7 @@ private:
     void addToolBar(const FrameLayout::ToolBar& bar);
     void restoreFrame(const FrameState& state);
     void saveArrangement();
+    void openWaitingFile();
 
     DesktopHost& m_host; // outlives the frame
     ads::CDockManager* m_docks;
@@ -72,6 +81,7 @@ private:
     QString m_title;
     DesktopDocument m_document;
     QByteArray m_defaultToolBars;
+    QString m_waitingFile; ///< to be opened when no dialog is open any more
     EventSubscription m_subscription;
     bool m_wasPainted = false;
 };

@@ -7,30 +7,37 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <memory>
+
 namespace lum {
 
 namespace {
 
-void install(const QString& file, const QString& folder, const QLocale& locale)
+bool install(const QString& file, const QString& folder, const QLocale& locale)
 {
-    auto* const translator = new QTranslator(qApp);
-    if (translator->load(locale, file, QStringLiteral("_"), folder))
-        QCoreApplication::installTranslator(translator);
-    else
-        basalt::logInfo("No texts in " + locale.name().toStdString() + ": " +
-                        (folder + QLatin1Char('/') + file).toStdString());
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(locale, file, QStringLiteral("_"), folder)) {
+        basalt::logDebug("No texts in " + locale.name().toStdString() + ": " +
+                         (folder + QLatin1Char('/') + file).toStdString());
+        return false;
+    }
+    translator->setParent(qApp);
+    QCoreApplication::installTranslator(translator.release());
+    return true;
 }
 
 } // namespace
 
 void loadTranslations(const QString& language, const QString& folder, const QString& catalogue)
 {
+    const QLocale english(QLocale::English);
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
-    if (locale.language() == QLocale::English)
-        return; // the texts in the code
-    install(QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath),
-            locale);
-    install(catalogue, folder, locale);
+    if (install(catalogue, folder, locale))
+        install(QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath),
+                locale);
+    else if (!install(catalogue, folder, english))
+        basalt::logWarning("Some texts are not in English: there is no catalogue in " +
+                           folder.toStdString());
 }
 
 } // namespace lum

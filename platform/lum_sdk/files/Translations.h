@@ -4,7 +4,8 @@ class QString;
 
 namespace lum {
 
-/// Loads the program's and Qt's texts.
+/// Loads the program's and Qt's texts. A language without a catalogue gets the English texts: those
+/// in the code, with a catalogue for the few that are not English there.
 /// \param language such as "zh_CN"; empty takes the system's language
 /// \param folder    where the program's ".qm" files are
 /// \param catalogue what their names begin with, before the language

@@ -37,6 +37,7 @@ int windowsAlive = 0;
 int executions = 0;
 bool refuses = false;
 bool closeThrows = false;
+QStringList openedFiles;
 
 class TestWindow : public QLabel, public IWindowx
 {
@@ -97,6 +98,11 @@ public:
         if (closeThrows)
             throw std::runtime_error("broken assistant");
         return refuses ? 0 : 1;
+    }
+    int openFile(const QString& path) override
+    {
+        openedFiles << path;
+        return path.endsWith("x"_q) ? 1 : 0;
     }
 };
 
@@ -248,6 +254,46 @@ private Q_SLOTS:
         QCOMPARE(executions, 1);
         QVERIFY(action->isChecked()); // read again after the command
         QCOMPARE(action->text(), "hide"_q);
+    }
+
+    void aFileWaitsForTheEndOfDialogs()
+    {
+        ShownFrame shown;
+        Told told;
+        openedFiles.clear();
+        shown.frame.openWhenFree("/a.x"_q);
+        QCOMPARE(openedFiles.join(QLatin1Char(' ')), "/a.x"_q);
+
+        QDialog second(&shown.frame);
+        QDialog first(&shown.frame);
+        QTimer::singleShot(0, [&] {
+            shown.frame.openWhenFree("/b.x"_q);
+            shown.frame.openWhenFree("/c.x"_q); // the latest counts
+            first.accept();
+        });
+        QTimer::singleShot(50, [&] {
+            QCOMPARE(openedFiles.size(), 1);
+            second.accept();
+        });
+        first.exec();
+        second.exec(); // what the same command asks next
+        QCOMPARE(openedFiles.size(), 1);
+        QTRY_COMPARE(openedFiles.join(QLatin1Char(' ')), "/a.x /c.x"_q);
+
+        QVERIFY(told.texts.isEmpty());
+        shown.frame.openWhenFree("/d.txt"_q);
+        QCOMPARE(told.texts, QStringList("\"/d.txt\" is not a project file."_q));
+    }
+
+    void comesToTheFrontFromTheTaskBar()
+    {
+        ShownFrame shown;
+        shown.frame.showMaximized();
+        shown.frame.setWindowState(shown.frame.windowState() | Qt::WindowMinimized);
+        QTRY_VERIFY(shown.frame.isMinimized());
+        shown.frame.comeToFront();
+        QTRY_VERIFY(shown.frame.isActiveWindow());
+        QVERIFY(!shown.frame.isMinimized() && shown.frame.isMaximized());
     }
 
     void survivesACommandThatThrows()
