@@ -114,8 +114,8 @@ bool SaveCopyCommand::wantsToGoOn(const ProjectPlace& open, const ProjectPlace& 
                                            translated(QT_TRANSLATE_NOOP("SaveCopyCommand",
                                                                         "Go on with the copy?")),
                                    .buttons = LumMessageBox::Buttons(Button::Yes) | Button::No,
-                                   .defaultButton = Button::Yes, // loses nothing
-                                   .details = trouble.arg(folder)}) == Button::Yes;
+                                   .details = trouble.arg(folder),
+                                   .defaultButton = Button::Yes}) == Button::Yes; // loses nothing
     LumMessageBox::information(
         host().dialogParent(), title(), saved, Button::Ok,
         translated(QT_TRANSLATE_NOOP("SaveCopyCommand", "The open project stays in \"%1\"."))
