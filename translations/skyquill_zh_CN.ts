@@ -573,6 +573,40 @@
     </message>
 </context>
 <context>
+    <name>DemoProject</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>无法建立文件夹“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DemoSurveyCommand</name>
+    <message>
+        <source>Demo Survey</source>
+        <translation>示例工程</translation>
+    </message>
+    <message>
+        <source>The demo survey is open already.</source>
+        <translation>示例工程已经打开。</translation>
+    </message>
+    <message>
+        <source>Make the demo survey in the folder &quot;%1&quot;? With No you choose another place.</source>
+        <translation>要在文件夹“%1”中建立示例工程吗？选“否”可以另选位置。</translation>
+    </message>
+    <message>
+        <source>Two crews have staked 4,000 points in six days, and left faults to be found. The file csv/faults.csv lists them. The survey is yours to change: to begin anew, delete its folder.</source>
+        <translation>两个测量组用六天放样了 4,000 个点，留下了一些有待发现的错误，文件 csv/faults.csv 列出了它们。示例工程可以任意修改；要重新开始，删除它的文件夹即可。</translation>
+    </message>
+    <message>
+        <source>Folder for the Demo Survey</source>
+        <translation>选择存放示例工程的文件夹</translation>
+    </message>
+    <message>
+        <source>The demo survey could not be made.</source>
+        <translation>无法建立示例工程。</translation>
+    </message>
+</context>
+<context>
     <name>DesignCsv</name>
     <message>
         <source>Field %1, &quot;%2&quot;, is no integer.</source>
@@ -785,6 +819,44 @@
     </message>
 </context>
 <context>
+    <name>GuideCommand</name>
+    <message>
+        <source>User Guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>The guide &quot;%1&quot; is not installed.</source>
+        <translation>没有安装指南“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>GuideWindow</name>
+    <message>
+        <source>Find in the guide</source>
+        <translation>在指南中查找</translation>
+    </message>
+    <message>
+        <source>Find the place before</source>
+        <translation>查找上一处</translation>
+    </message>
+    <message>
+        <source>Find the next place</source>
+        <translation>查找下一处</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>没有找到</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 处，共 %2 处</translation>
+    </message>
+</context>
+<context>
     <name>ImportSummary</name>
     <message>
         <source>Line %1: %2</source>
@@ -809,6 +881,13 @@
     <message>
         <source>Further fields that cannot be read: %1.</source>
         <translation>其余无法识别的字段：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>MainFrame</name>
+    <message>
+        <source>Go to the menus</source>
+        <translation>进入菜单</translation>
     </message>
 </context>
 <context>
@@ -1178,8 +1257,8 @@
 <context>
     <name>RecentProjectCommand</name>
     <message>
-        <source>No projects yet</source>
-        <translation>暂无工程</translation>
+        <source>&amp;No projects yet</source>
+        <translation>还没有工程(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -1192,12 +1271,12 @@
 <context>
     <name>ResultList</name>
     <message>
-        <source>Copy</source>
-        <translation>复制</translation>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
     </message>
     <message>
-        <source>Save as CSV...</source>
-        <translation>另存为 CSV...</translation>
+        <source>&amp;Save as CSV...</source>
+        <translation>另存为 CSV(&amp;S)...</translation>
     </message>
     <message>
         <source>Save as CSV</source>
@@ -1278,6 +1357,64 @@
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsWindow</name>
+    <message>
+        <source>Without a menu entry</source>
+        <translation>不在菜单中</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>&amp;New Project...</source>
+        <translation>新建工程(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Make a folder for a survey and choose its coordinate system</source>
+        <translation>为测区建立工程文件夹并选择坐标系统</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project...</source>
+        <translation>打开工程(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Choose a project file</source>
+        <translation>选择一个工程文件</translation>
+    </message>
+    <message>
+        <source>Demo &amp;Survey...</source>
+        <translation>示例工程(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>An invented survey with known faults, to try everything on</source>
+        <translation>带有已知错误的虚构测量数据，用来试用各项功能</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>最近的工程</translation>
     </message>
 </context>
 <context>
