@@ -6,12 +6,14 @@
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
+#include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
 #include "project/ui/ProjectState.h"
+#include "project/ui/StartPage.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 
@@ -60,6 +62,8 @@ int DataProcess5Assistant::openMainWindows()
     windows.activate(QStringLiteral("DataProcessView")); // for layouts that have this window
     openTable(windows, "DesignLineTable", "Design Line Table");
     openTable(windows, "SurveyDataTable", "Survey Data Table");
+    if (IWindow* const map = windows.find(QStringLiteral("DataMap")))
+        new StartPage(m_host, *map->widget()); // the map's widget owns it
     return 1;
 }
 

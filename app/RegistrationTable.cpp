@@ -4,6 +4,7 @@
 #include "app/AboutCommand.h"
 #include "app/CoordFormatCommand.h"
 #include "app/DataProcess5Assistant.h"
+#include "app/DemoSurveyCommand.h"
 #include "app/ProgressStatusBarForSkyquill.h"
 #include "lum_desktop_sdkx/Registration.h"
 #include "map/ui/DataProcessLayerImp.h"
@@ -49,6 +50,7 @@ using namespace desktop::registration;
     command<DataInspectionCommand>      ("DataInspectionCommand",        "数据检查"),
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
+    command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
     command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),

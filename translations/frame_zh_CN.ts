@@ -4,64 +4,64 @@
 <context>
     <name>FrameLayout</name>
     <message>
-        <source>Recent Projects</source>
-        <translation>最近的工程</translation>
+        <source>&amp;Recent Projects</source>
+        <translation>最近的工程(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Project</source>
         <translation>工程(&amp;P)</translation>
     </message>
     <message>
-        <source>New Project...</source>
-        <translation>新建工程...</translation>
+        <source>&amp;New Project...</source>
+        <translation>新建工程(&amp;N)...</translation>
     </message>
     <message>
         <source>Create a project: its folder, database and coordinate system</source>
         <translation>新建工程：建立工程文件夹、数据库和坐标系统</translation>
     </message>
     <message>
-        <source>Open Project...</source>
-        <translation>打开工程...</translation>
+        <source>&amp;Open Project...</source>
+        <translation>打开工程(&amp;O)...</translation>
     </message>
     <message>
         <source>Open a project file</source>
         <translation>打开工程文件</translation>
     </message>
     <message>
-        <source>Save Project</source>
-        <translation>保存工程</translation>
+        <source>&amp;Save Project</source>
+        <translation>保存工程(&amp;S)</translation>
     </message>
     <message>
         <source>Save design, survey results and limits to the project database</source>
         <translation>把设计数据、测量成果和质量限差保存到工程数据库</translation>
     </message>
     <message>
-        <source>Save a Copy As...</source>
-        <translation>另存副本...</translation>
+        <source>Save a Cop&amp;y As...</source>
+        <translation>另存副本(&amp;Y)...</translation>
     </message>
     <message>
         <source>Save the whole project, as it is now, in another folder</source>
         <translation>把整个工程按当前内容另存到其他文件夹</translation>
     </message>
     <message>
-        <source>Close Project</source>
-        <translation>关闭工程</translation>
+        <source>&amp;Close Project</source>
+        <translation>关闭工程(&amp;C)</translation>
     </message>
     <message>
         <source>Close the project, saving it first if you wish</source>
         <translation>关闭工程，关闭前可先保存</translation>
     </message>
     <message>
-        <source>Project Settings...</source>
-        <translation>工程设置...</translation>
+        <source>&amp;Project Settings...</source>
+        <translation>工程设置(&amp;P)...</translation>
     </message>
     <message>
         <source>General information and coordinate system of the project</source>
         <translation>工程的基本信息和坐标系统</translation>
     </message>
     <message>
-        <source>Exit</source>
-        <translation>退出</translation>
+        <source>E&amp;xit</source>
+        <translation>退出(&amp;X)</translation>
     </message>
     <message>
         <source>Leave the program</source>
@@ -72,88 +72,88 @@
         <translation>视图(&amp;V)</translation>
     </message>
     <message>
-        <source>Design View</source>
-        <translation>设计视图</translation>
+        <source>&amp;Design View</source>
+        <translation>设计视图(&amp;D)</translation>
     </message>
     <message>
         <source>Show the design lines and points on the map</source>
         <translation>在地图上显示设计测线和设计点</translation>
     </message>
     <message>
-        <source>Survey View</source>
-        <translation>测量视图</translation>
+        <source>&amp;Survey View</source>
+        <translation>测量视图(&amp;S)</translation>
     </message>
     <message>
         <source>Show the survey results, base stations and offsets on the map</source>
         <translation>在地图上显示测量成果、基准站和偏移</translation>
     </message>
     <message>
-        <source>Receiver Lines</source>
-        <translation>接收线</translation>
+        <source>&amp;Receiver Lines</source>
+        <translation>接收线(&amp;R)</translation>
     </message>
     <message>
         <source>Show or hide the receiver lines of the design</source>
         <translation>显示或隐藏设计的接收线</translation>
     </message>
     <message>
-        <source>Source Lines</source>
-        <translation>激发线</translation>
+        <source>S&amp;ource Lines</source>
+        <translation>激发线(&amp;O)</translation>
     </message>
     <message>
         <source>Show or hide the source lines of the design</source>
         <translation>显示或隐藏设计的激发线</translation>
     </message>
     <message>
-        <source>Survey Boundary</source>
-        <translation>工区边界</translation>
+        <source>Survey &amp;Boundary</source>
+        <translation>工区边界(&amp;B)</translation>
     </message>
     <message>
         <source>Show or hide the rectangle around the survey</source>
         <translation>显示或隐藏工区的外接矩形</translation>
     </message>
     <message>
-        <source>Coordinate Format</source>
-        <translation>坐标格式</translation>
+        <source>Coordinate &amp;Format</source>
+        <translation>坐标格式(&amp;F)</translation>
     </message>
     <message>
-        <source>Degree Format</source>
-        <translation>十进制度</translation>
+        <source>&amp;Degree Format</source>
+        <translation>十进制度(&amp;D)</translation>
     </message>
     <message>
         <source>Latitudes and longitudes in decimal degrees</source>
         <translation>经纬度以十进制度显示</translation>
     </message>
     <message>
-        <source>Degree-minute-second Format</source>
-        <translation>度分秒</translation>
+        <source>Degree-&amp;minute-second Format</source>
+        <translation>度分秒(&amp;M)</translation>
     </message>
     <message>
         <source>Latitudes and longitudes in degrees, minutes and seconds</source>
         <translation>经纬度以度、分、秒显示</translation>
     </message>
     <message>
-        <source>Survey Columns...</source>
-        <translation>测量列表列...</translation>
+        <source>Survey &amp;Columns...</source>
+        <translation>测量列表列(&amp;C)...</translation>
     </message>
     <message>
         <source>Choose the columns of the survey table and of exported files</source>
         <translation>选择测量列表和导出文件的列</translation>
     </message>
     <message>
-        <source>Windows</source>
-        <translation>窗口</translation>
+        <source>&amp;Windows</source>
+        <translation>窗口(&amp;W)</translation>
     </message>
     <message>
-        <source>Reset Layout</source>
-        <translation>恢复默认布局</translation>
+        <source>Reset &amp;Layout</source>
+        <translation>恢复默认布局(&amp;L)</translation>
     </message>
     <message>
         <source>Put every window back to its first place</source>
         <translation>把所有窗口恢复到默认位置</translation>
     </message>
     <message>
-        <source>Full Screen</source>
-        <translation>全屏</translation>
+        <source>F&amp;ull Screen</source>
+        <translation>全屏(&amp;U)</translation>
     </message>
     <message>
         <source>Give the program the whole screen</source>
@@ -164,40 +164,40 @@
         <translation>检查(&amp;C)</translation>
     </message>
     <message>
-        <source>Quality Limits...</source>
-        <translation>质量规范...</translation>
+        <source>Quality &amp;Limits...</source>
+        <translation>质量规范(&amp;L)...</translation>
     </message>
     <message>
         <source>Set the limits that every survey result is judged by</source>
         <translation>设置检查测量成果所用的限差</translation>
     </message>
     <message>
-        <source>Quality Check</source>
-        <translation>数据检查</translation>
+        <source>&amp;Quality Check</source>
+        <translation>数据检查(&amp;Q)</translation>
     </message>
     <message>
         <source>Judge every survey result by the limits and list the failures</source>
         <translation>按限差检查全部测量成果并列出不合格项</translation>
     </message>
     <message>
-        <source>Empty Point Check</source>
-        <translation>空点检查</translation>
+        <source>&amp;Empty Point Check</source>
+        <translation>空点检查(&amp;E)</translation>
     </message>
     <message>
         <source>Find the design points that were never surveyed</source>
         <translation>查找没有测量成果的设计点</translation>
     </message>
     <message>
-        <source>Resurvey Check</source>
-        <translation>复测点检查</translation>
+        <source>&amp;Resurvey Check</source>
+        <translation>复测点检查(&amp;R)</translation>
     </message>
     <message>
         <source>Compare resurveyed points with their first measurement</source>
         <translation>比较复测点与首次测量的差值</translation>
     </message>
     <message>
-        <source>Repeat Point Check</source>
-        <translation>重复点检查</translation>
+        <source>Re&amp;peat Point Check</source>
+        <translation>重复点检查(&amp;P)</translation>
     </message>
     <message>
         <source>Find points that were measured more than once</source>
@@ -208,8 +208,8 @@
         <translation>设计(&amp;D)</translation>
     </message>
     <message>
-        <source>Generate Lines...</source>
-        <translation>设计测线...</translation>
+        <source>&amp;Generate Lines...</source>
+        <translation>设计测线(&amp;G)...</translation>
     </message>
     <message>
         <source>Generate receiver and source lines from a few parameters</source>
@@ -220,8 +220,8 @@
         <translation>数据交换(&amp;E)</translation>
     </message>
     <message>
-        <source>Export Report...</source>
-        <translation>导出报告...</translation>
+        <source>&amp;Export Report...</source>
+        <translation>导出报告(&amp;E)...</translation>
     </message>
     <message>
         <source>Write the quality, statistics, rover and result reports as workbooks</source>
@@ -232,84 +232,84 @@
         <translation>地图(&amp;M)</translation>
     </message>
     <message>
-        <source>Move Map</source>
-        <translation>地图移动</translation>
+        <source>&amp;Move Map</source>
+        <translation>地图移动(&amp;M)</translation>
     </message>
     <message>
         <source>Drag the map; right click ends it</source>
         <translation>拖动地图；单击右键结束</translation>
     </message>
     <message>
-        <source>Zoom to Rectangle</source>
-        <translation>局部矩形放大</translation>
+        <source>Zoom to &amp;Rectangle</source>
+        <translation>局部矩形放大(&amp;R)</translation>
     </message>
     <message>
         <source>Draw a rectangle to zoom to; right click ends it</source>
         <translation>画矩形放大到该范围；单击右键结束</translation>
     </message>
     <message>
-        <source>Zoom In</source>
-        <translation>放大</translation>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
     </message>
     <message>
         <source>Come nearer</source>
         <translation>放大地图</translation>
     </message>
     <message>
-        <source>Zoom Out</source>
-        <translation>缩小</translation>
+        <source>Zoom &amp;Out</source>
+        <translation>缩小(&amp;O)</translation>
     </message>
     <message>
         <source>Step back</source>
         <translation>缩小地图</translation>
     </message>
     <message>
-        <source>Zoom to All</source>
-        <translation>全图</translation>
+        <source>Zoom to &amp;All</source>
+        <translation>全图(&amp;A)</translation>
     </message>
     <message>
         <source>Show the whole survey</source>
         <translation>显示整个工区</translation>
     </message>
     <message>
-        <source>Online Map</source>
-        <translation>在线地图</translation>
+        <source>O&amp;nline Map</source>
+        <translation>在线地图(&amp;N)</translation>
     </message>
     <message>
         <source>Show or hide the online base map</source>
         <translation>显示或隐藏在线底图</translation>
     </message>
     <message>
-        <source>Base Map</source>
-        <translation>底图</translation>
+        <source>&amp;Base Map</source>
+        <translation>底图(&amp;B)</translation>
     </message>
     <message>
-        <source>Road Map</source>
-        <translation>平面地图</translation>
+        <source>&amp;Road Map</source>
+        <translation>平面地图(&amp;R)</translation>
     </message>
     <message>
         <source>Roads and places</source>
         <translation>道路和地名</translation>
     </message>
     <message>
-        <source>Satellite Map</source>
-        <translation>卫星地图</translation>
+        <source>&amp;Satellite Map</source>
+        <translation>卫星地图(&amp;S)</translation>
     </message>
     <message>
         <source>Satellite pictures</source>
         <translation>卫星影像</translation>
     </message>
     <message>
-        <source>Terrain Map</source>
-        <translation>山地地图</translation>
+        <source>&amp;Terrain Map</source>
+        <translation>山地地图(&amp;T)</translation>
     </message>
     <message>
         <source>Terrain with contour lines</source>
         <translation>带等高线的地形</translation>
     </message>
     <message>
-        <source>Overlay Image...</source>
-        <translation>TIF 图叠加...</translation>
+        <source>O&amp;verlay Image...</source>
+        <translation>TIF 图叠加(&amp;V)...</translation>
     </message>
     <message>
         <source>Lay a georeferenced TIFF picture under the survey</source>
@@ -320,76 +320,76 @@
         <translation>工具(&amp;T)</translation>
     </message>
     <message>
-        <source>Azimuth Calculator...</source>
-        <translation>方位角计算...</translation>
+        <source>&amp;Azimuth Calculator...</source>
+        <translation>方位角计算(&amp;A)...</translation>
     </message>
     <message>
         <source>Azimuth and distance between two points</source>
         <translation>计算两点间的方位角和距离</translation>
     </message>
     <message>
-        <source>Time Zone...</source>
-        <translation>时区...</translation>
+        <source>Time &amp;Zone...</source>
+        <translation>时区(&amp;Z)...</translation>
     </message>
     <message>
         <source>The time zone in which survey times are shown</source>
         <translation>显示测量时间所用的时区</translation>
     </message>
     <message>
-        <source>Coordinate Unit</source>
-        <translation>坐标单位</translation>
+        <source>Coordinate &amp;Unit</source>
+        <translation>坐标单位(&amp;U)</translation>
     </message>
     <message>
-        <source>Metres</source>
-        <translation>米</translation>
+        <source>&amp;Metres</source>
+        <translation>米(&amp;M)</translation>
     </message>
     <message>
         <source>Show the cursor position in metres</source>
         <translation>以米显示光标位置</translation>
     </message>
     <message>
-        <source>Feet</source>
-        <translation>英尺</translation>
+        <source>&amp;Feet</source>
+        <translation>英尺(&amp;F)</translation>
     </message>
     <message>
         <source>Show the cursor position in feet</source>
         <translation>以英尺显示光标位置</translation>
     </message>
     <message>
-        <source>Language</source>
-        <translation>语言</translation>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
     </message>
     <message>
-        <source>Language of the System</source>
-        <translation>跟随系统</translation>
+        <source>&amp;Language of the System</source>
+        <translation>跟随系统(&amp;L)</translation>
     </message>
     <message>
-        <source>English</source>
-        <translation>English</translation>
+        <source>&amp;English</source>
+        <translation>English(&amp;E)</translation>
     </message>
     <message>
-        <source>简体中文</source>
-        <translation>简体中文</translation>
+        <source>简体中文(&amp;C)</source>
+        <translation>简体中文(&amp;C)</translation>
     </message>
     <message>
-        <source>Appearance</source>
-        <translation>外观</translation>
+        <source>A&amp;ppearance</source>
+        <translation>外观(&amp;P)</translation>
     </message>
     <message>
-        <source>As the Desktop</source>
-        <translation>跟随桌面</translation>
+        <source>&amp;As the Desktop</source>
+        <translation>跟随桌面(&amp;A)</translation>
     </message>
     <message>
-        <source>Light</source>
-        <translation>浅色</translation>
+        <source>&amp;Light</source>
+        <translation>浅色(&amp;L)</translation>
     </message>
     <message>
-        <source>Dark</source>
-        <translation>深色</translation>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
     </message>
     <message>
-        <source>Show All Questions Again</source>
-        <translation>恢复显示所有提问</translation>
+        <source>Show All &amp;Questions Again</source>
+        <translation>恢复显示所有提问(&amp;Q)</translation>
     </message>
     <message>
         <source>Show all questions and messages again that you chose not to see</source>
@@ -400,8 +400,36 @@
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>关于</translation>
+        <source>Help/user-guide.md</source>
+        <translation>Help/user-guide_zh_CN.md</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>用户指南(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The main job in ten minutes, with pictures</source>
+        <translation>十分钟图文上手</translation>
+    </message>
+    <message>
+        <source>&amp;Shortcuts</source>
+        <translation>快捷键(&amp;S)</translation>
+    </message>
+    <message>
+        <source>List the keys of all commands, to copy or to print</source>
+        <translation>列出全部命令的快捷键，可复制或打印</translation>
+    </message>
+    <message>
+        <source>&amp;Demo Survey...</source>
+        <translation>示例工程(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Make or open a survey with known faults, to try everything on</source>
+        <translation>建立或打开带有已知错误的示例工程，用来试用各项功能</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
     </message>
     <message>
         <source>Version of the program</source>

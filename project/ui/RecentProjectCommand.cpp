@@ -22,8 +22,9 @@ QString RecentProjectCommand::caption() const
 {
     const QString path = file();
     if (path.isEmpty())
-        return place() == 0 ? QCoreApplication::translate("RecentProjectCommand", "No projects yet")
-                            : QString();
+        return place() == 0
+                   ? QCoreApplication::translate("RecentProjectCommand", "&No projects yet")
+                   : QString();
     QString shown = QDir::toNativeSeparators(path);
     shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
     return QStringLiteral("&%1  %2").arg(place() + 1).arg(shown);

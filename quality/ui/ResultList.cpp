@@ -73,8 +73,8 @@ ResultList::ResultList(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> 
 void ResultList::addMenu()
 {
     auto* const menu = new QMenu(this);
-    addAction(menu->addAction(tr("Copy"), this, &ResultList::copyRows, QKeySequence::Copy));
-    menu->addAction(tr("Save as CSV..."), this, &ResultList::saveRows);
+    addAction(menu->addAction(tr("&Copy"), this, &ResultList::copyRows, QKeySequence::Copy));
+    menu->addAction(tr("&Save as CSV..."), this, &ResultList::saveRows);
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, menu,
             [menu](const QModelIndex& /*index*/, const QPoint& place) { menu->popup(place); });
 }

@@ -9,6 +9,7 @@
 #include "lum_sdk/Transform.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
+#include "protocol/StatusKeys.h"
 #include "tests/support/LogCapture.h"
 
 #include <QLabel>
@@ -104,6 +105,7 @@ private Q_SLOTS:
     void init()
     {
         get_system_status_dictionary().clear();
+        get_system_status_dictionary().set(status::kProjectOpen, "1"); // else a page is on the map
         get_system_ini_parameter().dictionary().clear();
     }
 

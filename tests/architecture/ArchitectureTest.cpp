@@ -58,7 +58,7 @@ TEST(Architecture, EveryIncludePointsDown)
     std::vector<std::string> faults;
     std::size_t headers = 0;
     for (const char* folder : {"platform", "protocol", "model", "exchange", "quality", "design",
-                               "map", "project", "views", "app"}) {
+                               "map", "project", "samples", "views", "app"}) {
         for (const std::string& file : sourcesOf(folder)) {
             std::ifstream text(std::string(SOURCE_FOLDER) + '/' + file);
             ASSERT_TRUE(text.is_open()) << file;

@@ -1,12 +1,13 @@
 #include "lum_desktop_sdkx/frame/Appearance.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "basalt_utilities/Product.h"
+#include "lum_desktop_sdkx/frame/DesktopStyle.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
 #include <QString>
-#include <QStyleFactory>
 
 namespace {
 
@@ -50,12 +51,16 @@ namespace desktop {
 
 void applyAppearance(const QString& theme)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new DesktopStyle); // the application owns it
     const bool dark = theme == QLatin1String("dark") ||
                       (theme != QLatin1String("light") && isDark(QApplication::palette()));
     QApplication::setPalette(makePalette(dark ? kDark : kLight));
     // Without a desktop environment no icon theme is set, so that name and path are set here.
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << QStringLiteral("/usr/share/icons"));
+    // Drawings of our own, for what the theme has not.
+    QIcon::setFallbackSearchPaths(
+        {QString::fromStdString(basalt::configFolder()) +
+         (dark ? QStringLiteral("/Icons/dark") : QStringLiteral("/Icons/light"))});
     QIcon::setThemeName(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
     if (!QIcon::hasThemeIcon(QStringLiteral("document-open")))
         basalt::logWarning("The Breeze icon theme is missing: menus show no icons");

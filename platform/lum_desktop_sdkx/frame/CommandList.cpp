@@ -3,9 +3,11 @@
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/LayoutText.h"
+#include "lum_desktop_sdkx/frame/Mnemonics.h"
 #include "lum_desktop_sdkx/ICommandExecuterx.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QApplication>
 #include <QIcon>
 #include <QKeySequence>
@@ -52,6 +54,12 @@ QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
     const QString keys = action->shortcut().toString(QKeySequence::NativeText);
     if (!tip.isEmpty())
         action->setToolTip(keys.isEmpty() ? tip : tip + QStringLiteral(" (%1)").arg(keys));
+    if (!entry.group.isEmpty()) {
+        QActionGroup*& group = m_groups[entry.group];
+        if (group == nullptr)
+            group = new QActionGroup(actionParent);
+        group->addAction(action);
+    }
     ICommandExecuterx* const target = command.get();
     QObject::connect(action, &QAction::triggered, action, [this, target] { run(*target); });
     m_entries.push_back({entry.name, entry.caption, std::move(command), action});
@@ -67,8 +75,7 @@ QAction* CommandList::action(const QString& name) const
 void CommandList::refresh()
 {
     for (const Entry& each : m_entries) {
-        const QString caption = each.command->caption();
-        each.action->setText(caption.isEmpty() ? desktop::layoutText(each.caption) : caption);
+        each.action->setText(captionOf(each));
         each.action->setVisible(!each.action->text().isEmpty());
         each.action->setEnabled(each.command->isEnabled());
         each.action->setCheckable(each.command->isCheckable());
@@ -81,6 +88,7 @@ void CommandList::clear()
     for (const Entry& each : m_entries)
         each.action->disconnect();
     m_entries.clear();
+    m_groups.clear();
 }
 
 const CommandList::Entry* CommandList::entry(const QString& name) const
@@ -88,6 +96,15 @@ const CommandList::Entry* CommandList::entry(const QString& name) const
     const auto found = std::find_if(m_entries.begin(), m_entries.end(),
                                     [&](const Entry& each) { return each.name == name; });
     return found == m_entries.end() ? nullptr : &*found;
+}
+
+/// A caption that the command gives keeps the mnemonic of the layout.
+QString CommandList::captionOf(const Entry& entry)
+{
+    const QString caption = entry.command->caption();
+    const QString configured = desktop::layoutText(entry.caption);
+    return caption.isEmpty() ? configured
+                             : desktop::withMnemonic(caption, desktop::mnemonicOf(configured));
 }
 
 void CommandList::run(ICommandExecuterx& command)

@@ -4,9 +4,12 @@
 #include "lum_desktop_sdkx/frame/FrameLayout.h"
 #include "lum_desktop_sdkx/ICommandList.h"
 
+#include <QHash>
+
 #include <vector>
 
 class QAction;
+class QActionGroup;
 class QObject;
 
 /// The commands of the frame, and the actions that show them in menus and tool bars.
@@ -39,7 +42,9 @@ private:
     };
 
     [[nodiscard]] const Entry* entry(const QString& name) const;
+    [[nodiscard]] static QString captionOf(const Entry& entry);
     void run(ICommandExecuterx& command);
 
     std::vector<Entry> m_entries;
+    QHash<QString, QActionGroup*> m_groups; ///< by the name in the layout; owned by the frame
 };

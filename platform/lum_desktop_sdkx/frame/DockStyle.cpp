@@ -1,8 +1,12 @@
 #include "lum_desktop_sdkx/frame/DockStyle.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QPointer>
+#include <QStyle>
+#include <qtadvanceddocking/DockAreaWidget.h>
+#include <qtadvanceddocking/DockManager.h>
 
 namespace {
 
@@ -20,6 +24,24 @@ QPixmap cross(int side)
     return pixmap;
 }
 
+constexpr const char* kFocused = "focused"; // property of a dock area that the style sheet reads
+
+ads::CDockAreaWidget* areaOf(QWidget* widget)
+{
+    while (widget != nullptr && qobject_cast<ads::CDockAreaWidget*>(widget) == nullptr)
+        widget = widget->parentWidget();
+    return qobject_cast<ads::CDockAreaWidget*>(widget);
+}
+
+void mark(ads::CDockAreaWidget* area, bool isFocused)
+{
+    if (area == nullptr || area->property(kFocused).toBool() == isFocused)
+        return;
+    area->setProperty(kFocused, isFocused);
+    area->style()->unpolish(area); // reads the rules of the style sheet again
+    area->style()->polish(area);
+}
+
 } // namespace
 
 namespace desktop {
@@ -32,6 +54,7 @@ ads--CDockContainerWidget ads--CDockSplitter::handle { background: palette(windo
 ads--CDockSplitter::handle:horizontal { width: 5px; }
 ads--CDockSplitter::handle:vertical { height: 5px; }
 ads--CDockAreaWidget { background: palette(base); border: 1px solid palette(mid); }
+ads--CDockAreaWidget[focused="true"] { border: 1px solid palette(highlight); }
 ads--CDockAreaTitleBar {
     background: palette(window);
     border: none;
@@ -60,6 +83,19 @@ ads--CTitleBarButton:hover, #tabCloseButton:hover { background: palette(midlight
     qproperty-iconSize: 14px;
 }
 )");
+}
+
+void showDockFocus(ads::CDockManager& docks)
+{
+    QPointer<ads::CDockAreaWidget> marked;
+    QObject::connect(qApp, &QApplication::focusChanged, &docks,
+                     [marked](QWidget* /*old*/, QWidget* now) mutable {
+                         ads::CDockAreaWidget* const area = areaOf(now);
+                         if (area != marked)
+                             mark(marked, false);
+                         mark(area, true);
+                         marked = area;
+                     });
 }
 
 QIcon dockCloseIcon()

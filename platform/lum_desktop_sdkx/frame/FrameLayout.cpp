@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/frame/Mnemonics.h"
 
 #include <QXmlStreamReader>
 
@@ -116,7 +117,8 @@ private:
         command.icon = attribute("icon");
         command.shortcut = attribute("shortcut");
         command.tip = attribute("tip");
-        command.config = config(command.caption);
+        command.group = attribute("group");
+        command.config = config(desktop::withoutMnemonic(command.caption));
         return command;
     }
 

@@ -10,7 +10,8 @@
 ///     <main_frame>
 ///       <assistant class="..."/>
 ///       <menu caption="...">
-///         <command class="..." name="..." caption="..." icon="..." shortcut="..." tip="..."/>
+///         <command class="..." name="..." caption="..." icon="..." shortcut="..." tip="..."
+///                  group="..."/>
 ///         <separator/>  <docks/>  <menu caption="...">...</menu>
 ///       </menu>
 ///       <toolbar name="..." caption="..."> <command name="..."/> <separator/> </toolbar>
@@ -21,6 +22,8 @@
 /// - "name" is the name by which other components find a command or window.
 /// - "caption" is the text that is shown. It is English here and gets translated. Without it the
 ///   name is shown. A command with an empty caption is hidden, unless its class gives a caption.
+///   A letter behind "&" opens an entry by the keyboard; components get the caption without it.
+/// - The entries of one "group" exclude one another and are marked as such.
 /// - "area" is center, left, right, bottom or status. A window becomes a tab beside the last window
 ///   of its area. With "place" below it stands under that window.
 /// - `<docks/>` stands for the list of windows that can be shown and hidden.
@@ -36,6 +39,7 @@ struct FrameLayout
         QString icon;
         QString shortcut; ///< portable key sequences, such as "Ctrl+N" or "Ctrl++; Ctrl+="
         QString tip;
+        QString group;
         QByteArray config; ///< key list of all attributes
     };
 

@@ -13,6 +13,7 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -23,6 +24,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <qtadvanceddocking/DockManager.h>
+#include <qtadvanceddocking/DockWidget.h>
 #include <qtadvanceddocking/IconProvider.h>
 #include <QTimer>
 #include <QToolBar>
@@ -46,6 +48,7 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     docks->setStyleSheet(QString()); // removes the rules of the library's own sheet
     docks->setStyleSheet(desktop::dockStyle());
     CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon, desktop::dockCloseIcon());
+    desktop::showDockFocus(*docks);
     return docks;
 }
 
@@ -61,6 +64,13 @@ QString droppedFile(const QDropEvent& event)
     const bool isOurs =
         QFileInfo(file).suffix().compare(lum::toQString(extension), Qt::CaseInsensitive) == 0;
     return isOurs ? file : QString();
+}
+
+/// A caption whose number is its mnemonic, as far as there are digits.
+QString numbered(int number, QString caption)
+{
+    caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    return number < 10 ? QStringLiteral("&%1  %2").arg(number).arg(caption) : caption;
 }
 
 /// An assistant that throws keeps the frame open, since it may not have saved.
@@ -92,6 +102,7 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
         fillMenu(*top, menu.items);
         top->menuAction()->setVisible(!isDispensable(*top));
     }
+    addMenuKey();
     for (const FrameLayout::ToolBar& bar : layout.toolBars)
         addToolBar(bar);
     for (const FrameLayout::Window& window : layout.windows)
@@ -289,10 +300,39 @@ void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& 
 void MainFrame::listDocks(QMenu& menu)
 {
     const QList<QAction*> listed = menu.actions();
+    int number = 0;
     for (QAction* toggle : m_host.windows().toggleActions()) {
         if (!listed.contains(toggle)) // the window was opened since the menu was shown
             menu.addAction(toggle);
+        const auto* const dock = qobject_cast<ads::CDockWidget*>(toggle->parent());
+        toggle->setText(numbered(++number, dock->windowTitle()));
     }
+}
+
+void MainFrame::addMenuKey()
+{
+    auto* const key = new QAction(tr("Go to the menus"), this);
+    key->setShortcut(Qt::Key_F10);
+    key->setShortcutContext(Qt::ApplicationShortcut); // also from a floating window
+    connect(key, &QAction::triggered, this, &MainFrame::openFirstMenu);
+    addAction(key);
+}
+
+void MainFrame::openFirstMenu()
+{
+    activateWindow();
+    const QList<QAction*> tops = menuBar()->actions();
+    const auto isUsable = [](const QAction* action) {
+        return action->isVisible() && action->isEnabled() && !action->isSeparator();
+    };
+    const auto top = std::find_if(tops.begin(), tops.end(), isUsable);
+    if (top == tops.end() || (*top)->menu() == nullptr)
+        return;
+    menuBar()->setActiveAction(*top);
+    const QList<QAction*> entries = (*top)->menu()->actions();
+    const auto first = std::find_if(entries.begin(), entries.end(), isUsable);
+    if (first != entries.end())
+        (*top)->menu()->setActiveAction(*first);
 }
 
 bool MainFrame::isDispensable(const QMenu& menu) const
@@ -316,6 +356,8 @@ void MainFrame::addToolBar(const FrameLayout::ToolBar& bar)
         return;
     QToolBar* const toolBar = QMainWindow::addToolBar(desktop::layoutText(bar.caption));
     toolBar->setObjectName(bar.name);
+    const auto bars = findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);
+    toolBar->toggleViewAction()->setText(numbered(bars.size(), toolBar->windowTitle()));
     for (QAction* action : actions) {
         if (action != nullptr)
             toolBar->addAction(action);

@@ -66,7 +66,11 @@ private:
     void showTitle();
     void makeAssistants(const FrameLayout& layout);
     void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
+    /// Lists the docks with their numbers as mnemonics.
     void listDocks(QMenu& menu);
+    void addMenuKey();
+    /// Opens the first menu with its first entry chosen.
+    void openFirstMenu();
     /// True for a menu whose entries were all left out.
     [[nodiscard]] bool isDispensable(const QMenu& menu) const;
     void addToolBar(const FrameLayout::ToolBar& bar);

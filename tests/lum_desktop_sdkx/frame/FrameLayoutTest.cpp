@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/frame/Mnemonics.h"
 #include "tests/support/Literals.h"
 
 #include <QFile>
@@ -38,14 +39,49 @@ void collect(const std::vector<FrameLayout::Menu>& menus, QSet<QString>& texts,
     }
 }
 
-/// Source texts with a finished translation.
-QSet<QString> translatedTexts(const QString& ts)
+/// The finished translations of a catalogue, by their source texts.
+QHash<QString, QString> translations(const QString& ts)
 {
-    static const QRegularExpression kFinished("<source>([^<]+)</source>\\s*<translation>[^<]"_q);
-    QSet<QString> texts;
-    for (auto match = kFinished.globalMatch(ts); match.hasNext();)
-        texts << match.next().captured(1).replace("&amp;"_q, "&"_q);
+    static const QRegularExpression kFinished(
+        "<source>([^<]+)</source>\\s*<translation>([^<]+)<"_q);
+    QHash<QString, QString> texts;
+    for (auto found = kFinished.globalMatch(ts); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        texts.insert(match.captured(1).replace("&amp;"_q, "&"_q),
+                     match.captured(2).replace("&amp;"_q, "&"_q));
+    }
     return texts;
+}
+
+/// A line for each caption without a mnemonic, and each whose mnemonic its menu has already.
+void collectFaults(const std::vector<QString>& captions, const QHash<QString, QString>& texts,
+                   QStringList& faults)
+{
+    QSet<QChar> taken;
+    for (const QString& caption : captions) {
+        const QString shown = texts.value(caption, caption);
+        const QChar letter = desktop::mnemonicOf(shown);
+        if (letter.isNull() || taken.contains(letter))
+            faults << shown;
+        taken << letter;
+    }
+}
+
+/// The same for menus beside one another and all that is in them.
+void collectFaults(const std::vector<FrameLayout::Menu>& menus,
+                   const QHash<QString, QString>& texts, QStringList& faults)
+{
+    for (const FrameLayout::Menu& menu : menus) {
+        std::vector<QString> captions;
+        for (const FrameLayout::MenuItem& item : menu.items) {
+            if (!item.command.caption.isEmpty()) // else the command's class gives one
+                captions.push_back(item.command.caption);
+            for (const FrameLayout::Menu& submenu : item.submenu)
+                captions.push_back(submenu.caption);
+            collectFaults(item.submenu, texts, faults);
+        }
+        collectFaults(captions, texts, faults);
+    }
 }
 
 } // namespace
@@ -73,14 +109,43 @@ TEST(InstalledLayout, IsReadWholeAndTranslatedToChinese)
     for (const FrameLayout::Window& window : layout.windows)
         texts << window.caption;
     texts.remove(QString());
-    texts -= translatedTexts(QString::fromUtf8(contentOf("/translations/frame_zh_CN.ts"_q)));
+    for (const QString& text :
+         translations(QString::fromUtf8(contentOf("/translations/frame_zh_CN.ts"_q))).keys())
+        texts.remove(text);
     EXPECT_EQ(QStringList(texts.values()).join(QLatin1Char(';')).toStdString(), "");
+}
+
+TEST(InstalledLayout, EveryEntryHasAMnemonicOfItsOwnInBothLanguages)
+{
+    const FrameLayout layout =
+        layoutOf(contentOf("/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml"_q));
+    std::vector<QString> bar;
+    for (const FrameLayout::Menu& menu : layout.menus)
+        bar.push_back(menu.caption);
+    const QString chinese = QString::fromUtf8(contentOf("/translations/frame_zh_CN.ts"_q));
+    for (const auto& texts : {QHash<QString, QString>(), translations(chinese)}) {
+        QStringList faults;
+        collectFaults(bar, texts, faults);
+        collectFaults(layout.menus, texts, faults);
+        EXPECT_EQ(faults.join(QLatin1Char(';')).toStdString(), "");
+    }
+}
+
+TEST(Mnemonics, GoFromOneCaptionToAnother)
+{
+    EXPECT_EQ(desktop::withoutMnemonic("R&&D of &Lines..."_q), "R&D of Lines..."_q);
+    EXPECT_EQ(desktop::withoutMnemonic("显示接收线(&R)..."_q), "显示接收线..."_q);
+    const QChar letter = desktop::mnemonicOf("&Receiver Lines"_q);
+    EXPECT_EQ(desktop::withMnemonic("hide all receivers"_q, letter), "hide all &receivers"_q);
+    EXPECT_EQ(desktop::withMnemonic("draw"_q, letter), "d&raw"_q);
+    EXPECT_EQ(desktop::withMnemonic("隐藏接收线..."_q, letter), "隐藏接收线(&R)..."_q);
+    EXPECT_EQ(desktop::withMnemonic("隐藏(&H)"_q, letter), "隐藏(&H)"_q);
 }
 
 TEST(FrameLayoutXml, AttributesReachTheComponentWhole)
 {
     const FrameLayout layout = layoutOf(R"(<main_frame xmlns:x="other"><menu caption="M">
-        <command class="C" name="N, with comma" reactor="R" tip="say &quot;hi&quot;" x:name="X"/>
+        <command class="C" name="N, with comma" caption="&amp;N, with comma" reactor="R" tip="say &quot;hi&quot;" x:name="X"/>
         </menu></main_frame>)");
     const FrameLayout::Command& command = layout.menus.at(0).items.at(0).command;
     basalt::Dictionary config;
@@ -88,7 +153,7 @@ TEST(FrameLayoutXml, AttributesReachTheComponentWhole)
     EXPECT_EQ(config.text("name"), "N, with comma");
     EXPECT_EQ(config.text("tip"), "say \"hi\"");
     EXPECT_EQ(config.text("reactor"), "R");
-    EXPECT_EQ(command.caption, command.name);
+    EXPECT_EQ(command.caption, "&N, with comma"_q);
     EXPECT_EQ(config.text("caption"), "N, with comma") << "components read what the entry shows";
 }
 

@@ -19,6 +19,7 @@
 #include "tests/support/LogCapture.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QDir>
 #include <QFile>
 #include <QIcon>
@@ -232,7 +233,7 @@ private Q_SLOTS:
         QStringList docks;
         for (const QAction* action : shown.frame.menuBar()->actions().last()->menu()->actions())
             docks << action->text();
-        QCOMPARE(docks, QStringList({"Survey"_q, "Messages"_q, "Layers"_q}));
+        QCOMPARE(docks, QStringList({"&1  Survey"_q, "&2  Messages"_q, "&3  Layers"_q}));
     }
 
     void readsCommandStatesOnTheStatusEvent()
@@ -294,6 +295,65 @@ private Q_SLOTS:
         shown.frame.comeToFront();
         QTRY_VERIFY(shown.frame.isActiveWindow());
         QVERIFY(!shown.frame.isMinimized() && shown.frame.isMaximized());
+    }
+
+    void theKeyboardReachesEveryEntry()
+    {
+        ShownFrame shown(R"(<main_frame>
+          <menu caption="&amp;None"><command class="UnknownCommand" name="Unknown"/></menu>
+          <menu caption="&amp;First">
+            <command class="StatusCommand" name="Off" enabled_by="never"/>
+            <command class="StatusCommand" name="Lines" caption="Line&amp;s" enabled_by="open"/>
+          </menu></main_frame>)");
+        QAction* const lines = shown.host.commands().action("Lines"_q);
+        QCOMPARE(lines->text(), "&show"_q); // the command's own text with the layout's letter
+        get_system_status_dictionary().set("open", "1");
+        shown.host.eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
+
+        shown.frame.activateWindow();
+        QTRY_VERIFY(shown.frame.isActiveWindow());
+        QTest::keyClick(&shown.frame, Qt::Key_F10);
+        QMenu* const menu = shown.frame.menuBar()->actions().at(1)->menu();
+        QTRY_VERIFY(menu->isVisible());
+        QCOMPARE(menu->activeAction(), lines);
+        QTest::keyClick(menu, Qt::Key_Return);
+        QCOMPARE(executions, 1);
+    }
+
+    void theEntriesOfAGroupExcludeOneAnother()
+    {
+        ShownFrame shown(R"(<main_frame><menu caption="M">
+        <command class="SettingChoiceCommand" name="Metres" setting="un_coordUnit" value="0" group="unit"/>
+        <command class="SettingChoiceCommand" name="Feet" setting="un_coordUnit" value="1" group="unit"/>
+        </menu></main_frame>)");
+        QAction* const metres = shown.host.commands().action("Metres"_q);
+        QAction* const feet = shown.host.commands().action("Feet"_q);
+        QVERIFY(metres->actionGroup() != nullptr && metres->actionGroup()->isExclusive());
+        QCOMPARE(feet->actionGroup(), metres->actionGroup());
+        for (QAction* chosen : {feet, metres, feet}) {
+            chosen->trigger();
+            QCOMPARE(metres->actionGroup()->checkedAction(), chosen);
+        }
+        get_system_ini_parameter().dictionary().clear();
+    }
+
+    void theDocksShowWhereTheFocusIs()
+    {
+        ShownFrame shown;
+        shown.frame.activateWindow();
+        QTRY_VERIFY(shown.frame.isActiveWindow());
+        const auto focused = [&] {
+            QStringList names;
+            for (const char* name : {"DataMap", "Messages", "Layers"}) {
+                if (shown.dock(name)->dockAreaWidget()->property("focused").toBool())
+                    names << QString::fromUtf8(name);
+            }
+            return names.join(QLatin1Char(' '));
+        };
+        for (const char* name : {"Messages", "Layers", "DataMap"}) {
+            shown.host.windows().find(QString::fromUtf8(name))->widget()->setFocus();
+            QCOMPARE(focused(), QString::fromUtf8(name));
+        }
     }
 
     void survivesACommandThatThrows()
@@ -549,7 +609,10 @@ private Q_SLOTS:
             static const QRegularExpression icon("icon=\"([^\"]+)\""_q);
             for (auto match = icon.globalMatch(xml); match.hasNext();) {
                 const QString name = match.next().captured(1);
-                QVERIFY2(!QIcon::fromTheme(name).pixmap(22, 22).isNull(), qPrintable(theme + name));
+                const QIcon shown = QIcon::fromTheme(name);
+                QVERIFY2(!shown.pixmap(22, 22).isNull(), qPrintable(theme + name));
+                // The theme's own, or a drawing of ours; not another one of a similar name.
+                QVERIFY2(shown.name() == name || shown.name().isEmpty(), qPrintable(theme + name));
             }
         }
     }

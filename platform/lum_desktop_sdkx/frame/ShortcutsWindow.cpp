@@ -1,0 +1,118 @@
+#include "lum_desktop_sdkx/frame/ShortcutsWindow.h"
+
+#include "lum_desktop_sdkx/frame/Mnemonics.h"
+#include "lum_sdk/DpiScale.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScreen>
+#include <QSet>
+#include <QTextBrowser>
+#include <QTextDocumentFragment>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Builds the list from the menus, then from what has keys but no menu entry.
+class ShortcutList
+{
+public:
+    explicit ShortcutList(const QMainWindow& frame)
+    {
+        for (const QAction* top : frame.menuBar()->actions()) {
+            if (top->menu() == nullptr || !top->isVisible())
+                continue;
+            m_heading = desktop::withoutMnemonic(top->text());
+            addMenu(*top->menu());
+        }
+        m_heading = ShortcutsWindow::tr("Without a menu entry");
+        for (const QAction* action : frame.findChildren<QAction*>())
+            add(*action);
+    }
+
+    [[nodiscard]] QString html() const
+    {
+        return QStringLiteral("<table cellpadding=\"3\" cellspacing=\"0\">%1</table>").arg(m_rows);
+    }
+
+private:
+    void addMenu(const QMenu& menu)
+    {
+        for (const QAction* action : menu.actions()) {
+            if (action->menu() != nullptr)
+                addMenu(*action->menu());
+            else
+                add(*action);
+        }
+    }
+
+    void add(const QAction& action)
+    {
+        const QString keys =
+            QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText)
+                .replace(QLatin1String("; "), QLatin1String(", "));
+        if (keys.isEmpty() || !action.isVisible() || m_listed.contains(&action))
+            return;
+        m_listed.insert(&action);
+        if (!m_heading.isEmpty())
+            m_rows += QStringLiteral("<tr><td colspan=\"2\"><h4>%1</h4></td></tr>")
+                          .arg(m_heading.toHtmlEscaped());
+        m_heading.clear();
+        QString caption = desktop::withoutMnemonic(action.text());
+        caption.remove(QStringLiteral("..."));
+        m_rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>")
+                      .arg(caption.toHtmlEscaped(), keys.toHtmlEscaped());
+    }
+
+    QString m_rows;
+    QString m_heading; ///< written above the next row; empty when it was
+    QSet<const QAction*> m_listed;
+};
+
+} // namespace
+
+ShortcutsWindow::ShortcutsWindow(QMainWindow& frame)
+    : Dialog(&frame), m_text(new QTextBrowser(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("Shortcuts"));
+    const QSize room = screen()->availableSize() * 0.9;
+    resize(QSize(dpi_scaled(460), dpi_scaled(620)).boundedTo(room));
+    m_text->document()->setDocumentMargin(dpi_scaled(12));
+    m_text->setHtml(ShortcutList(frame).html());
+
+    auto* const buttons = new QDialogButtonBox(this);
+    QPushButton* const copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
+    QPushButton* const print = buttons->addButton(tr("&Print..."), QDialogButtonBox::ActionRole);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole)->setDefault(true);
+    connect(copy, &QPushButton::clicked, this, &ShortcutsWindow::copyAll);
+    connect(print, &QPushButton::clicked, this, &ShortcutsWindow::print);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    QVBoxLayout* const layout = makeMainLayout();
+    layout->addWidget(m_text, 1);
+    layout->addWidget(buttons);
+}
+
+void ShortcutsWindow::copyAll()
+{
+    const QTextCursor before = m_text->textCursor();
+    m_text->selectAll();
+    m_text->copy();
+    m_text->setTextCursor(before);
+}
+
+void ShortcutsWindow::print()
+{
+    QPrinter printer;
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() == QDialog::Accepted)
+        m_text->print(&printer);
+}

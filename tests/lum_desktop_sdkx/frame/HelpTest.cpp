@@ -1,0 +1,149 @@
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/frame/DesktopHost.h"
+#include "lum_desktop_sdkx/frame/FrameComponents.h"
+#include "lum_desktop_sdkx/frame/GuideText.h"
+#include "lum_desktop_sdkx/frame/GuideWindow.h"
+#include "lum_desktop_sdkx/frame/MainFrame.h"
+#include "lum_desktop_sdkx/frame/ShortcutsWindow.h"
+#include "tests/support/Literals.h"
+#include "tests/support/TestFolder.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace {
+
+constexpr const char* kLayout = R"(<main_frame>
+  <menu caption="&amp;Map">
+    <menu caption="&amp;Deep"><command class="ExitCommand" name="Zoom In" caption="Zoom &amp;In..."
+                                       shortcut="Ctrl++; Ctrl+="/></menu>
+    <command class="ExitCommand" name="No Key"/>
+  </menu>
+  <menu caption="&amp;Help">
+    <command class="GuideCommand" name="User Guide" shortcut="F1" file="Help/user-guide.md"/>
+    <command class="GuideCommand" name="Lost Guide" file="Help/none.md"/>
+    <command class="ShortcutsCommand" name="Shortcuts"/>
+  </menu></main_frame>)";
+
+FrameLayout testLayout()
+{
+    FrameLayout layout;
+    if (!desktop::readFrameLayout(kLayout, layout).isEmpty())
+        qFatal("the test's layout is broken");
+    return layout;
+}
+
+} // namespace
+
+class HelpTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { registerFrameComponents(); }
+
+    void theInstalledGuideOpensOnceWithItsPictures()
+    {
+        DesktopHost host;
+        MainFrame frame(host, testLayout());
+        QVERIFY(host.commands().execute("User Guide"_q));
+        QVERIFY(host.commands().execute("User Guide"_q));
+        const auto guides = frame.findChildren<GuideWindow*>();
+        QCOMPARE(guides.size(), 1);
+        auto* const text = guides[0]->findChild<GuideText*>();
+        QVERIFY(text->headings().size() > 5);
+        QVERIFY(text->headings().size() ==
+                static_cast<std::size_t>(guides[0]->findChild<QListWidget*>()->count()));
+
+        int pictures = 0;
+        for (QTextBlock block = text->document()->begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextImageFormat format = part.fragment().charFormat().toImageFormat();
+                if (!format.isValid())
+                    continue;
+                const QUrl name = QUrl(format.name());
+                const auto picture = text->document()->resource(QTextDocument::ImageResource, name);
+                QVERIFY2(!picture.value<QImage>().isNull(), qPrintable(format.name()));
+                QVERIFY(picture.value<QImage>().width() <= 700);
+                ++pictures;
+            }
+        }
+        QVERIFY(pictures >= 5);
+    }
+
+    void aGuideThatIsNotThereIsNamed()
+    {
+        DesktopHost host;
+        const MainFrame frame(host, testLayout());
+        QString told;
+        const LumMessageBox::Responder responder([&](const LumMessageBox::Message& message) {
+            told = message.text;
+            return LumMessageBox::Button::Ok;
+        });
+        QVERIFY(host.commands().execute("Lost Guide"_q));
+        QVERIFY2(told.contains("none.md"_q), qPrintable(told));
+    }
+
+    void findsWordsAndGoesRound()
+    {
+        const TestFolder folder;
+        const QString file = folder.write(
+            "guide.md", "# Points\n\nA point, two Points.\n\n## 限差\n\nNo more points.\n");
+        auto* const guide = new GuideWindow(nullptr, "Guide"_q, file);
+        guide->show();
+        guide->activateWindow();
+        QTRY_VERIFY(guide->isActiveWindow());
+        QTest::keyClick(guide, Qt::Key_F, Qt::ControlModifier);
+        auto* const field = guide->findChild<QLineEdit*>();
+        QTRY_VERIFY(field->hasFocus());
+        const auto placesShown = [&] {
+            QString shown;
+            for (const QLabel* label : guide->findChildren<QLabel*>())
+                shown += label->text();
+            return shown;
+        };
+        QTest::keyClicks(field, "point"_q);
+        QCOMPARE(placesShown(), "1 of 4"_q);
+        QTest::keyClick(field, Qt::Key_Return);
+        QTest::keyClick(guide, Qt::Key_F3);
+        QCOMPARE(placesShown(), "3 of 4"_q);
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(guide, Qt::Key_F3, Qt::ShiftModifier);
+        QCOMPARE(placesShown(), "4 of 4"_q);
+        QTest::keyClicks(field, "less"_q);
+        QCOMPARE(placesShown(), "not found"_q);
+
+        auto* const headings = guide->findChild<QListWidget*>();
+        QCOMPARE(headings->count(), 2);
+        headings->setCurrentRow(1);
+        QCOMPARE(guide->findChild<GuideText*>()->textCursor().block().text(), "限差"_q);
+        const QPointer<GuideWindow> alive(guide);
+        QTest::keyClick(guide, Qt::Key_Escape);
+        QTRY_VERIFY(alive.isNull());
+    }
+
+    void theShortcutsAreThoseOfTheActions()
+    {
+        DesktopHost host;
+        MainFrame frame(host, testLayout());
+        host.commands().action("No Key"_q)->setShortcut(QKeySequence("Alt+7"_q)); // since the start
+        QVERIFY(host.commands().execute("Shortcuts"_q));
+        auto* const window = frame.findChild<ShortcutsWindow*>();
+        window->findChild<QPushButton*>()->click(); // copies all
+        const QStringList lines = QGuiApplication::clipboard()
+                                      ->text()
+                                      .replace(QChar::Nbsp, QLatin1Char(' '))
+                                      .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QStringList words;
+        for (const QString& line : lines) {
+            if (!line.trimmed().isEmpty())
+                words << line.trimmed();
+        }
+        QCOMPARE(words.join(QLatin1Char('|')),
+                 "Map|Zoom In|Ctrl++, Ctrl+=|No Key|Alt+7|Help|User Guide|F1|"
+                 "Without a menu entry|Go to the menus|F10"_q);
+    }
+};
+
+QTEST_MAIN(HelpTest)
+#include "HelpTest.moc"
