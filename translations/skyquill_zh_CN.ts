@@ -542,6 +542,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Quality Check Complete!</source>
         <translation>质量检查完成！</translation>
     </message>
+    <message>
+        <source>Faults found: %1.</source>
+        <translation>发现问题：%1 条。</translation>
+    </message>
 </context>
 <context>
     <name>DataProcess5Assistant</name>
@@ -625,6 +629,40 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Without a datum shift, positions are taken as WGS 84.</source>
         <translation>不设基准转换时，位置按 WGS 84 处理。</translation>
+    </message>
+</context>
+<context>
+    <name>DemoProject</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>无法建立文件夹“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DemoSurveyCommand</name>
+    <message>
+        <source>Demo Survey</source>
+        <translation>示例工程</translation>
+    </message>
+    <message>
+        <source>The demo survey is open already.</source>
+        <translation>示例工程已经打开。</translation>
+    </message>
+    <message>
+        <source>Make the demo survey in the folder &quot;%1&quot;? With No you choose another place.</source>
+        <translation>要在文件夹“%1”中建立示例工程吗？选“否”可以另选位置。</translation>
+    </message>
+    <message>
+        <source>Two crews have staked 4,000 points in six days, and left faults to be found. The file csv/faults.csv lists them. The survey is yours to change: to begin anew, delete its folder.</source>
+        <translation>两个测量组用六天放样了 4,000 个点，留下了一些有待发现的错误，文件 csv/faults.csv 列出了它们。示例工程可以任意修改；要重新开始，删除它的文件夹即可。</translation>
+    </message>
+    <message>
+        <source>Folder for the Demo Survey</source>
+        <translation>选择存放示例工程的文件夹</translation>
+    </message>
+    <message>
+        <source>The demo survey could not be made.</source>
+        <translation>无法建立示例工程。</translation>
     </message>
 </context>
 <context>
@@ -795,6 +833,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>请确认输入的复测代码是不为&apos; C &apos;的单个字母</source>
         <translation>请确认输入的复测代码是不为&apos; C &apos;的单个字母</translation>
     </message>
+    <message>
+        <source>The limits cannot be shown, and stay as they are: the file &quot;%1&quot; cannot be read (%2).</source>
+        <translation>无法显示质量限差，限差保持不变：文件“%1”无法读取（%2）。</translation>
+    </message>
 </context>
 <context>
     <name>DlgQCResult</name>
@@ -859,6 +901,44 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>GuideCommand</name>
+    <message>
+        <source>User Guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>The guide &quot;%1&quot; is not installed.</source>
+        <translation>没有安装指南“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>GuideWindow</name>
+    <message>
+        <source>Find in the guide</source>
+        <translation>在指南中查找</translation>
+    </message>
+    <message>
+        <source>Find the place before</source>
+        <translation>查找上一处</translation>
+    </message>
+    <message>
+        <source>Find the next place</source>
+        <translation>查找下一处</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>没有找到</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 处，共 %2 处</translation>
+    </message>
+</context>
+<context>
     <name>ImportSummary</name>
     <message>
         <source>Line %1: %2</source>
@@ -886,10 +966,25 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>LumMessageBox</name>
+    <message>
+        <source>&amp;Do not show again</source>
+        <translation>不再显示(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>MainFrame</name>
     <message>
         <source>&quot;%1&quot; is not a project file.</source>
         <translation>“%1”不是工程文件。</translation>
+    </message>
+    <message>
+        <source>[read-only]</source>
+        <translation>[只读]</translation>
+    </message>
+    <message>
+        <source>Go to the menus</source>
+        <translation>进入菜单</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1100,26 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The project could not be saved. Close it all the same and lose the changes?</source>
         <translation>工程未能保存。仍要关闭并放弃更改吗？</translation>
+    </message>
+    <message>
+        <source>save project?</source>
+        <translation>是否保存工程？</translation>
+    </message>
+    <message>
+        <source>Save project failed!</source>
+        <translation>工程保存失败！</translation>
+    </message>
+    <message>
+        <source>&quot;Project &gt; Save a Copy As&quot; saves it, with all changes, in another folder.</source>
+        <translation type="unfinished">可用“工程 &gt; 另存副本”把工程连同全部更改保存到其他文件夹。</translation>
+    </message>
+    <message>
+        <source>success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Save project success!</source>
+        <translation>工程保存成功！</translation>
     </message>
 </context>
 <context>
@@ -1263,12 +1378,39 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Horizontal AND Vertical Accuracy Out-range.</source>
         <translation>平面和高程精度均超限。</translation>
     </message>
+    <message>
+        <source>The transversal deviation: how far the point lies beside its line.</source>
+        <translation>横向偏差：实测点偏离测线的距离。</translation>
+    </message>
+    <message>
+        <source>The longitudinal deviation: how far the point lies from its place, measured along its line.</source>
+        <translation>纵向偏差：实测点沿测线方向偏离设计位置的距离。</translation>
+    </message>
+    <message>
+        <source>The transversal and the longitudinal deviation: how far the point lies from its place, measured across and along its line.</source>
+        <translation>横向偏差和纵向偏差：实测点垂直于测线和沿测线方向偏离设计位置的距离。</translation>
+    </message>
+</context>
+<context>
+    <name>QualityLimits</name>
+    <message>
+        <source>The minimum is above this maximum: no value passes.</source>
+        <translation>下限大于此上限：任何值都不合格。</translation>
+    </message>
+    <message>
+        <source>With a minus every resurvey is out of range.</source>
+        <translation>限差为负时，所有复测点都会超限。</translation>
+    </message>
+    <message>
+        <source>The minus does not count: the limit is %1.</source>
+        <translation>负号不起作用：限差为 %1。</translation>
+    </message>
 </context>
 <context>
     <name>RecentProjectCommand</name>
     <message>
-        <source>No projects yet</source>
-        <translation>暂无工程</translation>
+        <source>&amp;No projects yet</source>
+        <translation>还没有工程(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -1281,16 +1423,16 @@ The positions stay the numbers that they are: nothing is converted. They then co
 <context>
     <name>ResultList</name>
     <message>
-        <source>Copy</source>
-        <translation>复制</translation>
-    </message>
-    <message>
-        <source>Save as CSV...</source>
-        <translation>另存为 CSV...</translation>
-    </message>
-    <message>
         <source>Save as CSV</source>
         <translation>另存为 CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation>另存为 CSV(&amp;S)...</translation>
     </message>
 </context>
 <context>
@@ -1335,10 +1477,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>副本将保存在“%1”。</translation>
     </message>
     <message>
-        <source>&quot;Project &gt; Save a Copy As&quot; saves it, with all changes, in another folder.</source>
-        <translation>可用“工程 &gt; 另存副本”把工程连同全部更改保存到其他文件夹。</translation>
-    </message>
-    <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
         <translation>无法创建文件夹“%1”。</translation>
     </message>
@@ -1369,33 +1507,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The copy cannot be opened.</source>
         <translation>无法打开副本。</translation>
-    </message>
-</context>
-<context>
-    <name>SaveProjectCommand</name>
-    <message>
-        <source>information</source>
-        <translation>提示</translation>
-    </message>
-    <message>
-        <source>save project?</source>
-        <translation>是否保存工程？</translation>
-    </message>
-    <message>
-        <source>success</source>
-        <translation>成功</translation>
-    </message>
-    <message>
-        <source>Save project success!</source>
-        <translation>工程保存成功！</translation>
-    </message>
-    <message>
-        <source>failed</source>
-        <translation>失败</translation>
-    </message>
-    <message>
-        <source>Save project failed!</source>
-        <translation>工程保存失败！</translation>
     </message>
 </context>
 <context>
@@ -1433,6 +1544,79 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsWindow</name>
+    <message>
+        <source>Without a menu entry</source>
+        <translation>不在菜单中</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ShowQuestionsCommand</name>
+    <message>
+        <source>All questions and messages are shown already.</source>
+        <translation>没有被隐藏的提问和消息。</translation>
+    </message>
+    <message>
+        <source>Questions and messages that are shown again: %1.</source>
+        <translation>恢复显示的提问和消息：%1 个。</translation>
+    </message>
+    <message>
+        <source>Questions</source>
+        <translation>提问</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>&amp;New Project...</source>
+        <translation>新建工程(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Make a folder for a survey and choose its coordinate system</source>
+        <translation>为测区建立工程文件夹并选择坐标系统</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project...</source>
+        <translation>打开工程(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Choose a project file</source>
+        <translation>选择一个工程文件</translation>
+    </message>
+    <message>
+        <source>Demo &amp;Survey...</source>
+        <translation>示例工程(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>An invented survey with known faults, to try everything on</source>
+        <translation>带有已知错误的虚构测量数据，用来试用各项功能</translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>最近的工程</translation>
     </message>
 </context>
 <context>
