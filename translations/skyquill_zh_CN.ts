@@ -1111,7 +1111,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>&quot;Project &gt; Save a Copy As&quot; saves it, with all changes, in another folder.</source>
-        <translation type="unfinished">可用“工程 &gt; 另存副本”把工程连同全部更改保存到其他文件夹。</translation>
+        <translation>可用“工程 &gt; 另存副本”把工程连同全部更改保存到其他文件夹。</translation>
     </message>
     <message>
         <source>success</source>
@@ -1368,15 +1368,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Horizontal Accuracy Out-range.</source>
-        <translation>平面精度超限。</translation>
+        <translation>横向偏差超限。</translation>
     </message>
     <message>
         <source>Vertical Accuracy Out-range.</source>
-        <translation>高程精度超限。</translation>
+        <translation>纵向偏差超限。</translation>
     </message>
     <message>
         <source>Horizontal AND Vertical Accuracy Out-range.</source>
-        <translation>平面和高程精度均超限。</translation>
+        <translation>横向和纵向偏差均超限。</translation>
     </message>
     <message>
         <source>The transversal deviation: how far the point lies beside its line.</source>
