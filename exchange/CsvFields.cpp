@@ -61,3 +61,9 @@ QString otherSeparator(char separator)
                                              "The fields are separated by \"%1\", not by commas.")
                      .arg(QLatin1Char(separator));
 }
+
+QString zeroBytes()
+{
+    return QCoreApplication::translate(
+        "CsvFields", "It holds zero bytes, as UTF-16 does. Save the file as UTF-8.");
+}

@@ -81,3 +81,4 @@ private:
 /// \param rest what stands behind the `count` fields that are read
 [[nodiscard]] QString surplusText(std::size_t count, std::string_view rest);
 [[nodiscard]] QString otherSeparator(char separator);
+[[nodiscard]] QString zeroBytes();

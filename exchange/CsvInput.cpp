@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <array>

@@ -4,14 +4,12 @@
 
 #include <QFile>
 #include <QString>
+#include <QTextCodec>
 
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-class QTextCodec;
-class QTextDecoder;
 
 /// The lines of a text file, as UTF-8.
 ///
