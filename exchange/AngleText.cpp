@@ -2,8 +2,6 @@
 
 #include "basalt_utilities/FixedDecimals.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -16,11 +14,6 @@ constexpr double kLargestAngle = 1e9; ///< its milliseconds of arc fit into 64 b
 constexpr std::int64_t kSecond = 1000;
 constexpr std::int64_t kMinute = 60 * kSecond;
 constexpr std::int64_t kDegree = 60 * kMinute;
-
-std::string unit(const char* text)
-{
-    return QCoreApplication::translate("AngleText", text).toStdString();
-}
 
 char* append(char* to, std::string_view text)
 {
@@ -45,11 +38,14 @@ bool cutPart(std::string_view& text, std::string_view unit, std::string_view& pa
 
 } // namespace
 
-AngleText::AngleText(int degreeFormat)
-    : m_isDecimal(degreeFormat == 0), m_degrees(unit(QT_TRANSLATE_NOOP("AngleText", "deg"))),
-      m_minutes(unit(QT_TRANSLATE_NOOP("AngleText", "min"))),
-      m_seconds(unit(QT_TRANSLATE_NOOP("AngleText", "sec")))
+AngleText::AngleText(int degreeFormat, const Language& language) : m_isDecimal(degreeFormat == 0)
 {
+    const auto unit = [&](const char* text) {
+        return language.text("AngleText", text).toStdString();
+    };
+    m_degrees = unit(QT_TRANSLATE_NOOP("AngleText", "deg"));
+    m_minutes = unit(QT_TRANSLATE_NOOP("AngleText", "min"));
+    m_seconds = unit(QT_TRANSLATE_NOOP("AngleText", "sec"));
 }
 
 char* AngleText::write(char* to, double degrees) const
@@ -64,8 +60,10 @@ char* AngleText::write(char* to, double degrees) const
     return append(to, m_seconds);
 }
 
-std::optional<double> AngleText::read(std::string_view text) const
+std::optional<double> AngleText::read(std::string_view text, bool* isWhole) const
 {
+    if (isWhole != nullptr)
+        *isWhole = true;
     const auto number = basalt::wholeDecimal(text);
     if (number)
         return number;
@@ -78,7 +76,11 @@ std::optional<double> AngleText::read(std::string_view text) const
         return {};
     text = text.substr(0, text.find(m_minutes));
     const std::string_view seconds = text.substr(0, text.find(m_seconds));
-    return basalt::wholeDecimal(degrees).value_or(0) +
-           basalt::wholeDecimal(minutes).value_or(0) / 60 +
-           basalt::wholeDecimal(seconds).value_or(0) / 3600;
+    const auto numberOf = [&](std::string_view part) {
+        const auto found = basalt::wholeDecimal(part);
+        if (isWhole != nullptr && !found && !part.empty())
+            *isWhole = false;
+        return found.value_or(0);
+    };
+    return numberOf(degrees) + numberOf(minutes) / 60 + numberOf(seconds) / 3600;
 }

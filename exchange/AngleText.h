@@ -1,11 +1,13 @@
 #pragma once
 
+#include "model/Language.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
 
 /// Angles as the user reads them: decimal degrees with 8 decimals, or degrees, minutes and seconds
-/// with 3 decimals, each followed by its unit in the user's language ("30deg30min0.000sec"). In a
+/// with 3 decimals, each followed by its unit in the language ("30deg30min0.000sec"). In a
 /// negative angle every part that is not 0 has the sign. Seconds are never written as 60.
 class AngleText
 {
@@ -13,7 +15,7 @@ public:
     static constexpr std::size_t kMostSize = 400;
 
     /// \param degreeFormat the status key "degree_format": 0 for decimal degrees
-    explicit AngleText(int degreeFormat);
+    explicit AngleText(int degreeFormat, const Language& language = {});
 
     /// \param to at least `kMostSize` bytes
     /// \returns the end of what was written
@@ -21,7 +23,8 @@ public:
 
     /// Reads both forms, whatever the format of this object; any other text gives no value. A part
     /// that is no number counts as 0.
-    [[nodiscard]] std::optional<double> read(std::string_view text) const;
+    /// \param isWhole becomes whether there is no such part; may be null
+    [[nodiscard]] std::optional<double> read(std::string_view text, bool* isWhole = nullptr) const;
 
 private:
     bool m_isDecimal;

@@ -41,11 +41,44 @@ public:
         return true;
     }
 
+    [[nodiscard]] bool isDone() const { return m_isDone; }
+
+    /// What stands behind the last comma that was passed.
+    [[nodiscard]] std::string_view rest() const
+    {
+        return {m_next, static_cast<std::size_t>(m_end - m_next)};
+    }
+
 private:
     const char* m_next;
     const char* m_end;
     bool m_isDone = false;
 };
 
-/// The beginning of a field for a message, without unprintable characters.
+/// Without the blanks of Unicode, such as the wide one of Chinese texts, too.
+[[nodiscard]] std::string_view withoutWideBlanks(std::string_view text);
+
+/// Without the blanks around it; inline, since a large file has ten million fields.
+[[nodiscard]] inline std::string_view withoutBlanks(std::string_view text)
+{
+    const auto isBlank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    const bool mayHaveWide = !text.empty() && (text.front() < 0 || text.back() < 0);
+    return mayHaveWide ? withoutWideBlanks(text) : text;
+}
+
+/// The field with this number, counted from 1; empty when there are fewer.
+[[nodiscard]] std::string_view fieldAt(std::string_view line, std::size_t number);
+
+/// The beginning of a text for a message, with blanks for tabs and without unprintable characters.
 [[nodiscard]] QString shownField(std::string_view field);
+
+// What a line has instead of the fields that an import expects, in whole sentences.
+
+/// \param rest what stands behind the `count` fields that are read
+[[nodiscard]] QString surplusText(std::size_t count, std::string_view rest);
+[[nodiscard]] QString otherSeparator(char separator);
+[[nodiscard]] QString zeroBytes();

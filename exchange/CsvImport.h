@@ -22,6 +22,9 @@ struct CsvBatch
     std::vector<std::size_t> lines;
 };
 
+/// Notes the fields of the input's last line that hold what is no character.
+void noteUndecoded(const CsvInput& input, std::string_view line, ImportSummary& summary);
+
 /// The points of the next lines; an empty batch at the end of the file.
 template <class Point, class Read>
 CsvBatch<Point> readBatch(CsvInput& input, Read& read, ImportSummary& summary)
@@ -30,6 +33,7 @@ CsvBatch<Point> readBatch(CsvInput& input, Read& read, ImportSummary& summary)
     std::string_view line;
     while (batch.points.size() < CsvBatch<Point>::kSize && input.next(line)) {
         ++summary.linesRead;
+        noteUndecoded(input, line, summary);
         Point& point = batch.points.emplace_back();
         if (read(line, point, summary))
             batch.lines.push_back(summary.linesRead);
@@ -115,6 +119,7 @@ Outcome importCsv(const CsvImportTask& task, Points& points, Points& staged, Rea
         CsvInput input;
         if (fault = input.open(task.path); !fault.isEmpty())
             return cannotRead(task.path, fault);
+        summary.encoding = nameOf(input.encoding());
         const std::size_t rows = stagePoints<Points>(input, task, read, file);
         fault = input.fault();
         if (fault.isEmpty()) {

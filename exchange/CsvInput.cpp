@@ -1,19 +1,22 @@
 #include "exchange/CsvInput.h"
 
-#include "basalt_utilities/Utf8.h"
+#include "exchange/CsvFields.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QTextCodec>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 
 namespace {
 
 constexpr std::size_t kBlockSize = std::size_t(512) * 1024;
+constexpr std::size_t kLeastRoom = 64; ///< that `read` is given
+constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD"; ///< U+FFFD
 
 /// The end of the last whole line; 0 when `text` holds none.
 std::size_t endOfLines(const char* text, std::size_t size)
@@ -42,6 +45,12 @@ QString CsvInput::open(const QString& path)
         return QCoreApplication::translate("CsvInput", "It is not a file.");
     if (!m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return m_file.errorString();
+    std::array<char, 4> start{};
+    const qint64 size = m_file.read(start.data(), start.size());
+    m_encoding =
+        encodingOfStart({start.data(), static_cast<std::size_t>(std::max(size, qint64(0)))});
+    if (!rewind())
+        return m_file.errorString();
     if (QString fault = lookThrough(); !fault.isEmpty())
         return fault;
     return rewind() ? QString() : m_file.errorString();
@@ -64,16 +73,22 @@ bool CsvInput::next(std::string_view& line)
 /// Counts the lines and finds out the encoding.
 QString CsvInput::lookThrough()
 {
-    bool isUtf8 = true;
-    bool isFirst = true;
-    while (nextBlock()) {
+    basalt::Utf8Count utf8;
+    bool hasReplacements = false;
+    for (bool isFirst = true; nextBlock(); isFirst = false) {
         m_hasMark = m_hasMark || (isFirst && m_blockSize != m_block.size());
-        isFirst = false;
         m_lineCount += countLines(m_block);
-        isUtf8 = isUtf8 && basalt::isUtf8(m_block);
+        basalt::countUtf8(m_block, utf8);
+        hasReplacements = hasReplacements || (m_decoder && m_block.find(kReplacement) != kNone);
     }
-    if (!isUtf8)
-        m_codec = QTextCodec::codecForName(m_hasMark ? "UTF-8" : "GB18030");
+    if (utf8.faults != 0 && !m_hasMark && m_fault.isEmpty() && rewind()) {
+        Gb18030Count gb; // a second look, which only a file with faults needs
+        while (nextBlock())
+            countGb18030(m_block, gb);
+        m_encoding = likelierEncoding(utf8, gb);
+    }
+    if (utf8.faults != 0 || hasReplacements)
+        m_codec = codecOf(m_encoding);
     return m_fault;
 }
 
@@ -82,8 +97,36 @@ bool CsvInput::rewind()
     m_kept = 0;
     m_blockSize = 0;
     m_block = {};
-    m_size = m_file.pos();
+    m_size = std::max(m_size, m_file.pos());
+    m_decoder.reset();
+    if (m_encoding == TextEncoding::Utf16LowByteFirst ||
+        m_encoding == TextEncoding::Utf16HighByteFirst)
+        m_decoder.reset(codecOf(m_encoding)->makeDecoder());
     return m_file.seek(0);
+}
+
+/// Bytes of the file as they stand, those of UTF-16 as UTF-8.
+/// \returns how many; 0 at the end of the file, -1 on failure
+qint64 CsvInput::read(char* to, std::size_t size)
+{
+    if (m_decoder == nullptr)
+        return m_file.read(to, static_cast<qint64>(size));
+    std::string text;
+    while (text.empty()) {
+        // Two bytes become three at most; some may wait from the last call.
+        const QByteArray bytes = m_file.read(static_cast<qint64>(size / 2 - 4));
+        if (bytes.isEmpty() && m_file.error() != QFileDevice::NoError)
+            return -1;
+        if (bytes.isEmpty() && !m_decoder->needsMoreData())
+            return 0;
+        text = m_decoder->toUnicode(bytes).toStdString();
+        if (bytes.isEmpty()) { // half a character at the end
+            m_decoder.reset(codecOf(m_encoding)->makeDecoder());
+            text += kReplacement;
+        }
+    }
+    std::copy(text.begin(), text.end(), to);
+    return static_cast<qint64>(text.size());
 }
 
 /// Reads until the buffer holds a whole line, or the file ends.
@@ -97,10 +140,9 @@ bool CsvInput::nextBlock()
     std::size_t filled = m_kept;
     bool isEnd = false;
     while (lines == 0 && !isEnd) {
-        if (filled == m_buffer.size())
+        if (m_buffer.size() - filled < kLeastRoom)
             m_buffer.resize(m_buffer.size() * 2);
-        const qint64 count =
-            m_file.read(m_buffer.data() + filled, static_cast<qint64>(m_buffer.size() - filled));
+        const qint64 count = read(m_buffer.data() + filled, m_buffer.size() - filled);
         if (count < 0)
             m_fault = m_file.errorString();
         isEnd = count <= 0;
@@ -119,10 +161,42 @@ bool CsvInput::nextBlock()
     return lines > 0 && m_fault.isEmpty();
 }
 
+/// Decodes field after field, so that a cut character never takes the comma behind it along.
 std::string_view CsvInput::decoded(std::string_view line)
 {
-    constexpr std::size_t kMost = std::numeric_limits<int>::max() / 4;
-    m_decoded = m_codec->toUnicode(line.data(), static_cast<int>(std::min(line.size(), kMost)))
-                    .toStdString();
+    m_undecoded.clear();
+    m_decoded.clear();
+    CsvFields fields(line);
+    std::string_view field;
+    for (std::size_t number = 1; fields.next(field); ++number) {
+        if (number > 1)
+            m_decoded += ',';
+        decodeField(field, number);
+    }
     return m_decoded;
+}
+
+void CsvInput::decodeField(std::string_view field, std::size_t number)
+{
+    constexpr std::size_t kMost = std::numeric_limits<int>::max() / 4;
+    const bool isAscii = std::all_of(field.begin(), field.end(), [](char c) { return c >= 0; });
+    if (isAscii || (m_encoding != TextEncoding::Gb18030 && basalt::isUtf8(field))) {
+        m_decoded += field;
+        if (m_decoder != nullptr && field.find(kReplacement) != kNone)
+            m_undecoded.push_back(number);
+        return;
+    }
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    QString text =
+        m_codec->toUnicode(field.data(), static_cast<int>(std::min(field.size(), kMost)), &state);
+    Gb18030Count gb;
+    if (m_encoding == TextEncoding::Gb18030)
+        countGb18030(field, gb);
+    const QChar replacement = QChar::ReplacementCharacter;
+    // Half a character at the end: not every codec tells of it.
+    if (state.remainingChars != 0 || (gb.faults != 0 && !text.contains(replacement)))
+        text += replacement;
+    if (text.contains(replacement))
+        m_undecoded.push_back(number);
+    m_decoded += text.toStdString();
 }

@@ -2,24 +2,17 @@
 
 #include "exchange/CsvExport.h"
 #include "exchange/CsvRow.h"
+#include "exchange/DesignHeading.h"
 
 #include <QCoreApplication>
 
 namespace {
 
-constexpr const char* kHeading[] = {
-    QT_TRANSLATE_NOOP("DesignCsv", "point_num"), QT_TRANSLATE_NOOP("DesignCsv", "line_num"),
-    QT_TRANSLATE_NOOP("DesignCsv", "north"),     QT_TRANSLATE_NOOP("DesignCsv", "east"),
-    QT_TRANSLATE_NOOP("DesignCsv", "elevation"), QT_TRANSLATE_NOOP("DesignCsv", "design code"),
-    QT_TRANSLATE_NOOP("DesignCsv", "azimuth"),   QT_TRANSLATE_NOOP("DesignCsv", "type"),
-    QT_TRANSLATE_NOOP("DesignCsv", "status"),
-};
-
 std::string_view headingLine(CsvRow& row)
 {
     row.clear();
-    for (const char* caption : kHeading)
-        row.addText(QCoreApplication::translate("DesignCsv", caption).toStdString());
+    for (const QString& caption : designCaptions())
+        row.addText(caption.toStdString());
     return row.finished();
 }
 

@@ -1,52 +1,109 @@
 #include "exchange/ImportSummary.h"
 
+#include "model/SurveyPoint.h"
+
 #include <QCoreApplication>
-#include <QStringList>
 
 namespace {
+
+using Findings = ImportSummary::Findings;
+
+/// How a kind of findings is told.
+struct Kind
+{
+    Findings ImportSummary::*findings;
+    const char* count;   ///< null when the first line of the summary has it
+    const char* further; ///< behind the first places
+};
+
+constexpr Kind kKinds[] = {
+    {&ImportSummary::skipped, nullptr,
+     QT_TRANSLATE_NOOP("ImportSummary", "Further lines skipped: %1.")},
+    {&ImportSummary::undecoded, nullptr,
+     QT_TRANSLATE_NOOP("ImportSummary", "Further fields with such bytes: %1.")},
+    {&ImportSummary::misread,
+     QT_TRANSLATE_NOOP("ImportSummary", "Fields that cannot be read and became 0: %1."),
+     QT_TRANSLATE_NOOP("ImportSummary", "Further fields that cannot be read: %1.")},
+    {&ImportSummary::changed,
+     QT_TRANSLATE_NOOP("ImportSummary", "Fields taken for something else: %1."),
+     QT_TRANSLATE_NOOP("ImportSummary", "Further fields taken for something else: %1.")},
+    {&ImportSummary::surplus,
+     QT_TRANSLATE_NOOP("ImportSummary",
+                       "Lines with too many fields, of which the last are cut off: %1. A comma in "
+                       "a text begins a new field."),
+     QT_TRANSLATE_NOOP("ImportSummary", "Further lines with too many fields: %1.")},
+    {&ImportSummary::shorter,
+     QT_TRANSLATE_NOOP("ImportSummary",
+                       "Lines with fewer fields than the heading: %1. What is missing is empty."),
+     QT_TRANSLATE_NOOP("ImportSummary", "Further lines with fewer fields: %1.")},
+};
 
 QString translated(const char* text)
 {
     return QCoreApplication::translate("ImportSummary", text);
 }
 
-/// The first lines with a fault, and how many there are more.
-void append(QStringList& lines, const std::vector<ImportSummary::Fault>& faults,
-            std::size_t furtherCount, const char* further)
+/// The file as a whole: its lines, its encoding.
+QStringList fileLines(const ImportSummary& summary)
 {
-    for (const ImportSummary::Fault& fault : faults)
-        lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"))
-                     .arg(QString::number(fault.line), fault.reason);
-    if (furtherCount != 0)
-        lines << translated(further).arg(furtherCount);
+    QStringList lines;
+    lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
+                                          "\"%1\": lines read: %2, points added: %3, points "
+                                          "replaced: %4, lines skipped: %5."))
+                 .arg(summary.path, QString::number(summary.linesRead),
+                      QString::number(summary.pointsNew), QString::number(summary.pointsReplaced),
+                      QString::number(summary.skipped.count));
+    if (summary.encoding != ImportSummary().encoding)
+        lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "The file's encoding is %1."))
+                     .arg(summary.encoding);
+    if (summary.undecoded.count != 0)
+        lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
+                                              "Fields with bytes that are no %1: %2. If the file "
+                                              "has another encoding, save it as UTF-8 and import "
+                                              "it again."))
+                     .arg(summary.encoding, QString::number(summary.undecoded.count));
+    return lines + summary.remarks;
+}
+
+/// What became of the points' rows, a number a line.
+QStringList rowLines(const ImportSummary& summary)
+{
+    QStringList lines;
+    if (summary.pointsRepeated != 0)
+        lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
+                                              "Rows replaced by a later row of the same point "
+                                              "in the file: %1."))
+                     .arg(summary.pointsRepeated);
+    if (summary.pointsWithoutLine != 0)
+        lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
+                                              "Rows without a line number: %1. A check point goes "
+                                              "to the line in its number, any other to \"%2\"."))
+                     .arg(QString::number(summary.pointsWithoutLine), QLatin1String(kEmptyLine));
+    for (const Kind& kind : kKinds) {
+        const std::size_t count = (summary.*kind.findings).count;
+        if (kind.count != nullptr && count != 0)
+            lines << translated(kind.count).arg(count);
+    }
+    if (summary.decimalsDropped != 0)
+        lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
+                                              "Fields of whole numbers whose decimals were "
+                                              "dropped: %1."))
+                     .arg(summary.decimalsDropped);
+    return lines;
 }
 
 } // namespace
 
 QString ImportSummary::toText() const
 {
-    QStringList lines;
-    lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
-                                          "\"%1\": lines read: %2, points added: %3, points "
-                                          "replaced: %4, lines skipped: %5."))
-                 .arg(path, QString::number(linesRead), QString::number(pointsNew),
-                      QString::number(pointsReplaced), QString::number(linesSkipped));
-    if (!remark.isEmpty())
-        lines << remark;
-    append(lines, faults, linesSkipped - faults.size(),
-           QT_TRANSLATE_NOOP("ImportSummary", "Further lines skipped: %1."));
-    if (pointsRepeated != 0)
-        lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
-                                              "Rows replaced by a later row of the same point "
-                                              "in the file: %1."))
-                     .arg(pointsRepeated);
-    if (fieldsMisread != 0)
-        lines << translated(
-                     QT_TRANSLATE_NOOP("ImportSummary",
-                                       "Fields of added points that cannot be read and are left "
-                                       "empty: %1."))
-                     .arg(fieldsMisread);
-    append(lines, misreadFields, fieldsMisread - misreadFields.size(),
-           QT_TRANSLATE_NOOP("ImportSummary", "Further fields that cannot be read: %1."));
+    QStringList lines = fileLines(*this) + rowLines(*this);
+    for (const Kind& kind : kKinds) {
+        const Findings& findings = this->*kind.findings;
+        for (const Findings::Place& place : findings.first)
+            lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"))
+                         .arg(QString::number(place.line), place.text);
+        if (findings.count > findings.first.size())
+            lines << translated(kind.further).arg(findings.count - findings.first.size());
+    }
     return lines.join(QLatin1Char('\n'));
 }

@@ -1,49 +1,55 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
 /// What an import found in a file that it has read.
 struct ImportSummary
 {
-    static constexpr std::size_t kMostFaults = 5;
-
-    struct Fault
+    /// Lines or fields of one kind: how many, and the first of them.
+    struct Findings
     {
-        std::size_t line; ///< counted from 1
-        QString reason;   ///< translated, a whole sentence
+        static constexpr std::size_t kMost = 5;
+
+        struct Place
+        {
+            std::size_t line; ///< counted from 1
+            QString text;     ///< translated, a whole sentence
+        };
+
+        std::size_t count = 0;
+        std::vector<Place> first;
     };
 
     QString path;
+    QString encoding = QStringLiteral("UTF-8");
     std::size_t linesRead = 0;
     std::size_t pointsNew = 0;
-    std::size_t pointsReplaced = 0;   ///< points of the project that got a new value
-    std::size_t pointsRepeated = 0;   ///< rows that a later row of the same point has replaced
-    std::size_t linesSkipped = 0;     ///< empty lines and the heading do not count
-    QString remark;                   ///< about the file as a whole; mostly empty
-    std::vector<Fault> faults;        ///< the first skipped lines
-    std::size_t fieldsMisread = 0;    ///< fields of points that cannot be read
-    std::vector<Fault> misreadFields; ///< the first of these
+    std::size_t pointsReplaced = 0;    ///< points of the project that got a new value
+    std::size_t pointsRepeated = 0;    ///< rows that a later row of the same point has replaced
+    std::size_t pointsWithoutLine = 0; ///< rows of results that name no line
+    std::size_t decimalsDropped = 0;   ///< fields of columns that are read as whole numbers
+    QStringList remarks;               ///< about the file as a whole; mostly none
 
-    /// Counts the last line as skipped.
-    /// \param reason `QString()`; called for the first few lines only
-    template <class Reason>
-    void skip(Reason reason)
+    Findings skipped;   ///< lines; empty ones and the heading do not count
+    Findings undecoded; ///< fields with bytes that are no character
+    Findings misread;   ///< fields of points that became 0
+    Findings changed;   ///< fields of points that became something else than they say
+    Findings surplus;   ///< lines of points, of which the last fields were cut off
+    Findings shorter;   ///< lines of points with fewer fields than the heading
+
+    /// Counts a finding in the last line.
+    /// \param text `QString()`; called for the first few only
+    template <class Text>
+    void note(Findings& findings, Text text)
     {
-        if (++linesSkipped <= kMostFaults)
-            faults.push_back({linesRead, reason()});
+        if (++findings.count <= Findings::kMost)
+            findings.first.push_back({linesRead, text()});
     }
 
-    /// Counts a field of the last line that cannot be read.
-    /// \param reason as for `skip`
-    template <class Reason>
-    void misread(Reason reason)
-    {
-        if (++fieldsMisread <= kMostFaults)
-            misreadFields.push_back({linesRead, reason()});
-    }
-
-    /// A few translated lines, without an end of the last.
+    /// A few translated lines, without an end of the last: numbers first, then the first places of
+    /// each finding.
     [[nodiscard]] QString toText() const;
 };

@@ -13,7 +13,7 @@ std::string_view SolutionTypeNames::name(int code)
     if (found == m_names.end()) {
         if (m_names.size() >= kMostRemembered)
             m_names.clear();
-        found = m_names.emplace(code, solutionTypeText(code).toStdString()).first;
+        found = m_names.emplace(code, solutionTypeText(code, m_language).toStdString()).first;
     }
     return found->second;
 }
@@ -24,7 +24,7 @@ int SolutionTypeNames::code(std::string_view name)
     if (found == m_codes.end()) {
         if (m_codes.size() >= kMostRemembered)
             m_codes.clear();
-        found = m_codes.emplace(name, solutionTypeCode(lum::toQString(name))).first;
+        found = m_codes.emplace(name, solutionTypeCode(lum::toQString(name), m_language)).first;
     }
     return found->second;
 }

@@ -2,7 +2,10 @@
 
 #include "basalt_utilities/FixedDecimals.h"
 #include "exchange/CsvFields.h"
+#include "lum_sdk/Text.h"
 #include "model/CodeTables.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +14,7 @@
 namespace {
 
 using Form = CsvForm;
-
-constexpr std::size_t kNowhere = std::string_view::npos;
+using Taken = SurveyRowReader::Taken;
 
 /// Whether the form is a number, so that the quick reading of a plain number may be tried.
 bool isDecimal(Form form)
@@ -20,127 +22,143 @@ bool isDecimal(Form form)
     return form == Form::Decimals4 || form == Form::Decimals6 || form == Form::Angle;
 }
 
-bool isBlank(char c)
+/// Sets the field to a number without its decimals.
+Taken takeWhole(std::string_view text, const SurveyColumn& column, SurveyPoint& point)
 {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-/// As `basalt::trimmed`, but inline, since a large file has ten million fields.
-std::string_view withoutBlanks(std::string_view text)
-{
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
-std::optional<double> withoutDecimals(std::optional<double> number)
-{
-    return number ? std::trunc(*number) : number;
-}
-
-std::optional<std::int64_t> wholePart(std::string_view text)
-{
-    if (const auto integer = basalt::wholeInteger64(text))
-        return integer;
-    const auto number = withoutDecimals(basalt::wholeDecimal(text));
-    constexpr double kLimit = 0x1p63;
-    if (number && *number >= -kLimit && *number < kLimit)
-        return static_cast<std::int64_t>(*number);
-    return {};
+    const auto number = basalt::wholeDecimal(text);
+    const double whole = std::trunc(number.value_or(0));
+    bool isTaken = number.has_value();
+    if (column.csv == Form::SixDigitsReadWhole) {
+        fieldOf<double>(point, column) = whole;
+    } else {
+        constexpr double kLimit = 0x1p63;
+        const auto integer = basalt::wholeInteger64(text); // exact where `whole` is not
+        isTaken = isTaken && (integer || (whole >= -kLimit && whole < kLimit));
+        fieldOf<std::int64_t>(point, column) =
+            integer ? *integer : static_cast<std::int64_t>(isTaken ? whole : 0);
+    }
+    if (!isTaken)
+        return Taken::AsZero;
+    return whole == *number ? Taken::AsItStands : Taken::WithoutDecimals;
 }
 
 } // namespace
 
-SurveyRowReader::SurveyRowReader() : m_loft(measureModeText(0).toStdString())
+SurveyRowReader::SurveyRowReader(const SurveyHeadings::Heading& heading)
+    : m_captions(heading.captions), m_fieldCount(heading.fieldCount),
+      m_captionCount(heading.captionCount), m_angles(0, heading.language),
+      m_solutions(heading.language), m_loft(measureModeText(0, heading.language).toStdString()),
+      m_survey(measureModeText(1, heading.language).toStdString())
 {
-    for (const QString& caption : surveyCaptions())
-        m_captions.push_back(caption.toStdString());
-}
-
-bool SurveyRowReader::readHeading(std::string_view line)
-{
-    const std::string& lineCaption = m_captions[0];
-    const std::string& pointCaption = m_captions[1];
-    if (line.find(lineCaption) == kNowhere || line.find(pointCaption) == kNowhere)
-        return false; // at once, since a large file of another kind has many lines
-    std::vector<std::size_t> indices(m_captions.size(), kNowhere);
-    CsvFields fields(line);
-    std::string_view field;
-    for (std::size_t index = 0; fields.next(field); ++index) {
-        const auto found = std::find(m_captions.begin(), m_captions.end(), withoutBlanks(field));
-        if (found != m_captions.end())
-            indices[static_cast<std::size_t>(found - m_captions.begin())] = index;
-    }
-    if (indices[0] == kNowhere || indices[1] == kNowhere)
-        return false;
-    m_places.clear();
-    for (std::size_t i = 0; i < indices.size(); ++i) {
+    for (std::size_t i = 0; i < heading.indices.size(); ++i) {
         const SurveyColumn& column = surveyColumns()[i];
-        if (indices[i] != kNowhere && column.isReadFromCsv)
-            m_places.push_back({indices[i], &column});
+        if (heading.indices[i] != SurveyHeadings::kNowhere && column.isReadFromCsv)
+            m_places.push_back({heading.indices[i], &column});
     }
     std::sort(m_places.begin(), m_places.end(),
               [](const Place& a, const Place& b) { return a.index < b.index; });
-    return true;
 }
 
 bool SurveyRowReader::read(std::string_view line, SurveyPoint& point)
 {
     CsvFields fields(line);
     std::string_view field;
-    std::size_t index = 0;
-    m_misread.clear();
+    std::size_t index = 0; // how many fields are passed
+    m_changes.clear();
     for (const Place& place : m_places) {
         while (index < place.index && fields.next(field))
             ++index;
-        ++index;
         const SurveyColumn& column = *place.column;
-        if (isDecimal(column.csv) && fields.nextNumber(fieldOf<double>(point, column)))
+        if (isDecimal(column.csv) && fields.nextNumber(fieldOf<double>(point, column))) {
+            ++index;
             continue;
-        fields.next(field);
+        }
+        index += fields.next(field) ? 1U : 0U;
         field = withoutBlanks(field);
-        if (!setField(field, column, point) && !field.empty())
-            m_misread.push_back({m_captions[std::size_t(&column - surveyColumns().data())], field});
+        const Taken taken = setField(field, column, point);
+        if (taken != Taken::AsItStands && !field.empty())
+            m_changes.push_back({&column, field, taken});
     }
+    while (index < m_fieldCount && fields.next(field))
+        ++index;
+    m_isShort = index < m_captionCount;
+    m_surplus.reset();
+    if (!fields.isDone())
+        m_surplus = fields.rest();
     return !point.pointNumber.empty();
 }
 
-bool SurveyRowReader::setField(std::string_view text, const SurveyColumn& column,
-                               SurveyPoint& point)
+SurveyRowReader::Taken SurveyRowReader::setField(std::string_view text, const SurveyColumn& column,
+                                                 SurveyPoint& point)
 {
     const auto set = [&]<class Value>(const std::optional<Value>& value) {
         fieldOf<Value>(point, column) = value.value_or(Value());
-        return value.has_value();
+        return value ? Taken::AsItStands : Taken::AsZero;
     };
+    const auto known = [](bool isKnown) { return isKnown ? Taken::AsItStands : Taken::AsAnother; };
     switch (column.csv) {
     case Form::Text:
     case Form::PointNumber:
         fieldOf<std::string>(point, column) = text;
-        return true;
+        break;
     case Form::PointMark:
         point.pointMark = text == "S" ? 0 : 1;
-        return true;
-    case Form::Angle:
-        return set(m_angles.read(text));
+        return known(text == "S" || text == "R");
+    case Form::Angle: {
+        bool isWhole = true;
+        const Taken taken = set(m_angles.read(text, &isWhole));
+        return isWhole ? taken : Taken::AsAnother;
+    }
     case Form::Decimals4:
     case Form::Decimals6:
         return set(basalt::wholeDecimal(text));
     case Form::SixDigitsReadWhole:
-        return set(withoutDecimals(basalt::wholeDecimal(text)));
+    case Form::WholePart:
+        return takeWhole(text, column, point);
     case Form::Integer:
         return set(std::optional<std::int32_t>(basalt::wholeInteger(text)));
-    case Form::WholePart:
-        return set(wholePart(text));
     case Form::Time:
         return set(m_times.read(text));
     case Form::MeasureMode:
         point.measureMode = text == m_loft ? 0 : 1;
-        return true;
+        return known(text == m_loft || text == m_survey);
     case Form::SolutionType:
         point.solutionType = m_solutions.code(text);
-        return point.solutionType >= 0 || text == m_solutions.name(point.solutionType);
+        return known(point.solutionType >= 0 || text == m_solutions.name(point.solutionType));
     }
-    return true;
+    return Taken::AsItStands;
+}
+
+QString SurveyRowReader::surplusText() const
+{
+    return ::surplusText(m_fieldCount, m_surplus.value_or(std::string_view()));
+}
+
+QString SurveyRowReader::toText(const Change& change, const SurveyPoint& point)
+{
+    const QString caption = lum::toQString(
+        m_captions[static_cast<std::size_t>(change.column - surveyColumns().data())]);
+    const QString text = shownField(change.text);
+    if (change.taken == Taken::AsZero)
+        return (change.column->csv == Form::Time
+                    ? QCoreApplication::translate(
+                          "SurveyCsv", "%1 \"%2\" is no time such as 2024/12/31 23:59:59.")
+                    : QCoreApplication::translate("SurveyCsv", "%1 \"%2\" cannot be read."))
+            .arg(caption, text);
+    return QCoreApplication::translate("SurveyCsv", "%1 \"%2\" is taken for \"%3\".")
+        .arg(caption, text, became(*change.column, point));
+}
+
+QString SurveyRowReader::became(const SurveyColumn& column, const SurveyPoint& point)
+{
+    switch (column.csv) {
+    case Form::SolutionType:
+        return lum::toQString(m_solutions.name(point.solutionType));
+    case Form::MeasureMode:
+        return QString::fromStdString(m_survey);
+    case Form::Angle:
+        return QString::number(fieldOf<double>(point, column), 'f', 8);
+    default:
+        return QStringLiteral("R"); // of a mark, the only form left
+    }
 }

@@ -1,7 +1,5 @@
 #include "model/CodeTables.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <array>
 
@@ -62,26 +60,27 @@ constexpr std::array<const char*, 34> kObstacles{
     QT_TRANSLATE_NOOP("CodeTables", "pipeline"),
 };
 
-QString translated(const char* name)
+QString translated(const char* name, const Language& language = {})
 {
-    return QCoreApplication::translate("CodeTables", name);
+    return language.text("CodeTables", name);
 }
 
 } // namespace
 
-QString solutionTypeText(int code)
+QString solutionTypeText(int code, const Language& language)
 {
     const auto* const found =
         std::find_if(kSolutionTypes.begin(), kSolutionTypes.end(),
                      [code](const SolutionType& type) { return type.code == code; });
-    return translated(found == kSolutionTypes.end() ? kUnknownSolution : found->name);
+    return translated(found == kSolutionTypes.end() ? kUnknownSolution : found->name, language);
 }
 
-int solutionTypeCode(const QString& text)
+int solutionTypeCode(const QString& text, const Language& language)
 {
     const auto* const found =
-        std::find_if(kSolutionTypes.begin(), kSolutionTypes.end(),
-                     [&](const SolutionType& type) { return translated(type.name) == text; });
+        std::find_if(kSolutionTypes.begin(), kSolutionTypes.end(), [&](const SolutionType& type) {
+            return translated(type.name, language) == text;
+        });
     return found == kSolutionTypes.end() ? -1 : found->code;
 }
 
@@ -91,8 +90,9 @@ QString obstacleText(int code)
     return translated(kObstacles[isKnown ? static_cast<std::size_t>(code) : 0]);
 }
 
-QString measureModeText(int mode)
+QString measureModeText(int mode, const Language& language)
 {
     return translated(mode == 0 ? QT_TRANSLATE_NOOP("CodeTables", "loft")
-                                : QT_TRANSLATE_NOOP("CodeTables", "survey"));
+                                : QT_TRANSLATE_NOOP("CodeTables", "survey"),
+                      language);
 }

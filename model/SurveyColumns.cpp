@@ -2,8 +2,6 @@
 
 #include "model/RecordTexts.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <array>
 
@@ -125,11 +123,11 @@ std::span<const SurveyColumn> surveyColumns()
     return kColumns;
 }
 
-QStringList surveyCaptions()
+QStringList surveyCaptions(const Language& language)
 {
     QStringList captions;
     for (const SurveyColumn& column : kColumns)
-        captions << QCoreApplication::translate("SurveyColumns", column.caption);
+        captions << language.text("SurveyColumns", column.caption);
     return captions;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Language.h"
 #include "model/SurveyPoint.h"
 
 #include <QString>
@@ -59,7 +60,7 @@ struct SurveyColumn
 [[nodiscard]] std::span<const SurveyColumn> surveyColumns();
 
 /// The captions of all fields, translated, in the same order.
-[[nodiscard]] QStringList surveyCaptions();
+[[nodiscard]] QStringList surveyCaptions(const Language& language = {});
 
 /// The field with a translated caption; null when there is none.
 [[nodiscard]] const SurveyColumn* surveyColumnOf(const QString& caption);

@@ -522,6 +522,32 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>CsvFields</name>
+    <message>
+        <source>It has %1 fields, of which %2 are read. Cut off: &quot;%3&quot;</source>
+        <translation>共有 %1 个字段，只读取前 %2 个。被截去的内容：“%3”</translation>
+    </message>
+    <message>
+        <source>The fields are separated by tabs, not by commas.</source>
+        <translation>字段以制表符分隔，而不是逗号。</translation>
+    </message>
+    <message>
+        <source>The fields are separated by &quot;%1&quot;, not by commas.</source>
+        <translation>字段以“%1”分隔，而不是逗号。</translation>
+    </message>
+    <message>
+        <source>It holds zero bytes, as UTF-16 does. Save the file as UTF-8.</source>
+        <translation>它含有零字节，与 UTF-16 相同。请将文件另存为 UTF-8。</translation>
+    </message>
+</context>
+<context>
+    <name>CsvImport</name>
+    <message>
+        <source>Field %1, &quot;%2&quot;, is damaged.</source>
+        <translation>第 %1 个字段“%2”已损坏。</translation>
+    </message>
+</context>
+<context>
     <name>CsvInput</name>
     <message>
         <source>It is not a file.</source>
@@ -722,6 +748,22 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Export Design Data</source>
         <translation>正在导出设计数据</translation>
+    </message>
+    <message>
+        <source>Field %1, &quot;%2&quot;, is no integer. A receiver has 1 there, a source 0.</source>
+        <translation>第 %1 个字段“%2”不是整数。接收点应填 1，激发点应填 0。</translation>
+    </message>
+    <message>
+        <source>This is an exported design file: it has nine fields, with the design code as the sixth. An import reads eight; take the design code out.</source>
+        <translation>这是导出的设计文件：共九个字段，第六个是设计编码。导入只读取八个字段，请先去掉设计编码。</translation>
+    </message>
+    <message>
+        <source>Line 1 is the heading of survey results. Import them as such.</source>
+        <translation>第 1 行是测量成果的列标题。请作为测量数据导入。</translation>
+    </message>
+    <message>
+        <source>It has the nine fields of an exported design file.</source>
+        <translation>它是导出设计文件的九个字段。</translation>
     </message>
 </context>
 <context>
@@ -957,12 +999,56 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>被文件中同一点的后续行取代的行：%1。</translation>
     </message>
     <message>
-        <source>Fields of added points that cannot be read and are left empty: %1.</source>
-        <translation>已导入的点中无法识别而留空的字段：%1。</translation>
-    </message>
-    <message>
         <source>Further fields that cannot be read: %1.</source>
         <translation>其余无法识别的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Further fields with such bytes: %1.</source>
+        <translation>其余含有此类字节的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Fields that cannot be read and became 0: %1.</source>
+        <translation>无法识别而取为 0 的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Fields taken for something else: %1.</source>
+        <translation>按其他内容处理的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Further fields taken for something else: %1.</source>
+        <translation>其余按其他内容处理的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Lines with too many fields, of which the last are cut off: %1. A comma in a text begins a new field.</source>
+        <translation>字段过多而截去末尾字段的行：%1。文本中的逗号会开始一个新字段。</translation>
+    </message>
+    <message>
+        <source>Further lines with too many fields: %1.</source>
+        <translation>其余字段过多的行：%1。</translation>
+    </message>
+    <message>
+        <source>Lines with fewer fields than the heading: %1. What is missing is empty.</source>
+        <translation>字段少于列标题的行：%1。缺少的字段留空。</translation>
+    </message>
+    <message>
+        <source>Further lines with fewer fields: %1.</source>
+        <translation>其余字段不足的行：%1。</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding is %1.</source>
+        <translation>文件的编码为 %1。</translation>
+    </message>
+    <message>
+        <source>Fields with bytes that are no %1: %2. If the file has another encoding, save it as UTF-8 and import it again.</source>
+        <translation>含有非 %1 字节的字段：%2。如果文件是其他编码，请另存为 UTF-8 后重新导入。</translation>
+    </message>
+    <message>
+        <source>Rows without a line number: %1. A check point goes to the line in its number, any other to &quot;%2&quot;.</source>
+        <translation>没有线号的行：%1。检查点归入其点号中的测线，其他点归入“%2”。</translation>
+    </message>
+    <message>
+        <source>Fields of whole numbers whose decimals were dropped: %1.</source>
+        <translation>舍去小数的整数字段：%1。</translation>
     </message>
 </context>
 <context>
@@ -1833,16 +1919,71 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>正在导入测量数据</translation>
     </message>
     <message>
-        <source>No line holds the captions of line number and point number.</source>
-        <translation>没有任何一行含有线号和点号的列标题。</translation>
-    </message>
-    <message>
         <source>Export Survey Data</source>
         <translation>正在导出测量数据</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be read.</source>
         <translation>%1“%2”无法识别。</translation>
+    </message>
+    <message>
+        <source>The heading is that of a design file, whose points were taken as results. Design points have an import of their own.</source>
+        <translation>列标题是设计文件的，其中的点被当作测量成果读入。设计点另有专门的导入。</translation>
+    </message>
+    <message>
+        <source>Columns that are not read: %1: %2.</source>
+        <translation>未读取的列 %1 个：%2。</translation>
+    </message>
+    <message>
+        <source>The last fields are missing.</source>
+        <translation>缺少末尾的字段。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is no time such as 2024/12/31 23:59:59.</source>
+        <translation>%1“%2”不是形如 2024/12/31 23:59:59 的时间。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is taken for &quot;%3&quot;.</source>
+        <translation>%1“%2”按“%3”处理。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyHeadings</name>
+    <message>
+        <source>Line %1 is: %2</source>
+        <translation>第 %1 行为：%2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>No line holds the captions of line number and point number: %1.</source>
+        <translation>没有任何一行含有线号和点号的列标题：%1。</translation>
+    </message>
+    <message>
+        <source>, or </source>
+        <translation>，或 </translation>
+    </message>
+    <message>
+        <source>It is the heading of a design file. Import it as design points.</source>
+        <translation>它是设计文件的列标题。请作为设计数据导入。</translation>
+    </message>
+    <message>
+        <source>Line %1 is no heading. %2</source>
+        <translation>第 %1 行不是列标题。%2</translation>
+    </message>
+    <message>
+        <source>The captions stand in quotes.</source>
+        <translation>列标题带有引号。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be written &quot;%2&quot;.</source>
+        <translation>“%1”应写作“%2”。</translation>
+    </message>
+    <message>
+        <source>It lacks the caption %1.</source>
+        <translation>它缺少列标题 %1。</translation>
     </message>
 </context>
 <context>

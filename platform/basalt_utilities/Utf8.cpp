@@ -53,6 +53,13 @@ std::size_t sequenceSize(std::string_view text)
 
 bool isUtf8(std::string_view text)
 {
+    Utf8Count count;
+    countUtf8(text, count);
+    return count.faults == 0;
+}
+
+void countUtf8(std::string_view text, Utf8Count& count)
+{
     std::size_t i = 0;
     while (i < text.size()) {
         if (text.size() - i >= kStride && areAscii(text.data() + i)) {
@@ -61,12 +68,10 @@ bool isUtf8(std::string_view text)
             ++i;
         } else {
             const std::size_t size = sequenceSize(text.substr(i));
-            if (size == 0)
-                return false;
-            i += size;
+            ++(size == 0 ? count.faults : count.characters);
+            i += size == 0 ? 1 : size;
         }
     }
-    return true;
 }
 
 } // namespace basalt

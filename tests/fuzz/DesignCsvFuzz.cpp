@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             isWhole(point);
     }
     hold(points.pointCount() == summary.pointsNew + 1, "the summary counts the points");
-    hold(summary.pointsNew + summary.pointsReplaced + summary.linesSkipped <= summary.linesRead,
+    hold(summary.pointsNew + summary.pointsReplaced + summary.skipped.count <= summary.linesRead,
          "a line becomes one point at most");
     hold(!summary.toText().isEmpty(), "there is always something to say");
     return 0;

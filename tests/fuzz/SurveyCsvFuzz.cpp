@@ -1,5 +1,5 @@
-#include "basalt_utilities/KeyList.h"
 #include "basalt_utilities/Utf8.h"
+#include "exchange/CsvFields.h"
 #include "exchange/ImportSummary.h"
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyRowReader.h"
@@ -35,14 +35,14 @@ struct IsWhole
 void comesBack(const SurveyPoint& point)
 {
     const std::string_view number = writtenPointNumber(point.pointNumber);
-    if (basalt::trimmed(number) != number || basalt::trimmed(point.lineNumber) != point.lineNumber)
+    if (withoutBlanks(number) != number || withoutBlanks(point.lineNumber) != point.lineNumber)
         return; // a check point's number that begins or ends with a blank, which reading drops
     static SurveyRowWriter writer(surveyCaptions(), 0);
     static SurveyRowReader reader = [] {
-        SurveyRowReader made;
         const std::string heading(writer.heading());
-        hold(made.readHeading(heading.substr(0, heading.size() - 1)), "the heading is known");
-        return made;
+        const auto found = SurveyHeadings().find(heading.substr(0, heading.size() - 1));
+        hold(found.has_value(), "the heading is known");
+        return SurveyRowReader(*found);
     }();
     const std::string row(writer.row(point));
     SurveyPoint again;

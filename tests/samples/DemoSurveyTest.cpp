@@ -125,7 +125,7 @@ double largestDifference(const SurveyPoint& a, const SurveyPoint& b)
 TEST(DemoSurvey, EveryLineIsReadAndEachKindIsThereAsPlanned)
 {
     for (const ImportSummary& summary : files().summaries) {
-        EXPECT_EQ(summary.linesSkipped, 0U) << summary.toText().toStdString();
+        EXPECT_EQ(summary.skipped.count, 0U) << summary.toText().toStdString();
         EXPECT_EQ(summary.pointsReplaced, 0U);
         EXPECT_EQ(summary.pointsNew, summary.linesRead - 1) << "all but the captions";
     }
