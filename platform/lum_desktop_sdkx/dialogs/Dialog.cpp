@@ -7,6 +7,7 @@
 #include <QHideEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -86,8 +87,10 @@ void Dialog::rememberSize(const QString& key)
 
 void Dialog::setVisible(bool visible)
 {
-    if (visible && !isVisible())
+    if (visible && !isVisible()) {
+        m_hasFrame = false;
         fit();
+    }
     QDialog::setVisible(visible);
 }
 
@@ -96,6 +99,10 @@ bool Dialog::event(QEvent* event)
     const bool handled = QDialog::event(event);
     if (event->type() == QEvent::LayoutRequest && isVisible())
         fit(); // a dialog may grow while it is shown
+    if (event->type() == QEvent::Paint && !m_hasFrame) {
+        m_hasFrame = true;
+        QTimer::singleShot(0, this, &Dialog::fit); // not inside of a paint
+    }
     return handled;
 }
 
@@ -109,8 +116,7 @@ void Dialog::fit()
         setMinimumSize(minimumSize().boundedTo(room));
     if (exceeds(size(), room))
         resize(size().boundedTo(room));
-    if (isVisible())
-        desktop::fitToScreen(*this);
+    desktop::fitToScreen(*this);
 }
 
 void Dialog::scrollContent(QVBoxLayout& rows)

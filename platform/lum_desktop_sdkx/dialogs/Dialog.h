@@ -40,4 +40,5 @@ private:
 
     QString m_sizeKey;
     bool m_scrolls = false;
+    bool m_hasFrame = false; ///< the window manager has given it one
 };

@@ -67,10 +67,13 @@ void fitToScreen(QWidget& window)
     window.resize(window.size().boundedTo(largestSize(window)));
     if (!window.isVisible() && !window.testAttribute(Qt::WA_Moved))
         return; // the window manager will find a place
-    const QRect screen = screenOf(window);
-    const QRect now = window.geometry().marginsAdded(frame);
-    window.move(std::max(screen.left(), std::min(now.left(), screen.right() + 1 - now.width())),
-                std::max(screen.top(), std::min(now.top(), screen.bottom() + 1 - now.height())));
+    const QRect room = screenOf(window).marginsRemoved(frame);
+    QRect place = window.geometry();
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveLeft(std::max(place.left(), room.left()));
+    place.moveTop(std::max(place.top(), room.top()));
+    window.setGeometry(place);
 }
 
 } // namespace desktop

@@ -34,6 +34,7 @@ constexpr int kUsualWidth = 1360;
 constexpr int kUsualHeight = 860;
 constexpr int kLeastLine = 18; // of the status bar
 constexpr int kStatusPadding = 8;
+constexpr int kDragPollMs = 50;
 
 ads::CDockManager* makeDockManager(QMainWindow* frame)
 {
@@ -74,6 +75,16 @@ void fixHeight(QStatusBar& bar)
     const QSize text = bar.fontMetrics().size(Qt::TextSingleLine, QStringLiteral("Ág测"));
     bar.setFixedHeight(std::max(text.height(), dpi_scaled(kLeastLine)) +
                        dpi_scaled(kStatusPadding));
+}
+
+/// Brings a window that has left the frame onto the screen, after the drag that it may have left
+/// by.
+void settle(QWidget& window)
+{
+    if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        desktop::fitToScreen(window);
+    else
+        QTimer::singleShot(kDragPollMs, &window, [&window] { settle(window); });
 }
 
 /// An assistant that throws keeps the frame open, since it may not have saved.
@@ -322,12 +333,7 @@ void MainFrame::adoptFloating(ads::CFloatingDockContainer* window)
         if (!action->shortcut().isEmpty())
             window->addAction(action); // its keys work in that window as well
     }
-    // It has its size and place when its maker returns; while the user drags it, its place is his.
-    QTimer::singleShot(0, window, [window] {
-        window->resize(window->size().boundedTo(desktop::largestSize(*window)));
-        if (QGuiApplication::mouseButtons() == Qt::NoButton)
-            desktop::fitToScreen(*window);
-    });
+    QTimer::singleShot(0, window, [window] { settle(*window); }); // it has no size and place yet
 }
 
 void MainFrame::saveArrangement()
