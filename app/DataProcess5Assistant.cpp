@@ -22,6 +22,7 @@
 #include <QPointF>
 
 #include <cstring>
+#include <string>
 
 namespace {
 
@@ -40,7 +41,9 @@ void openTable(IWindowRegistry& windows, const char* className, const char* titl
 
 DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHost* host)
     : m_host(*host),
-      m_subscription(*this, std::string(events::kXyChanged) + "," + events::kProjectModified,
+      m_subscription(*this,
+                     std::string(events::kXyChanged) + "," + events::kProjectModified + "," +
+                         events::kUpdateSystemStatus,
                      host->eventManager()),
       m_dataManager(std::make_unique<DataProcessDataManager>(host))
 {
@@ -102,9 +105,11 @@ int DataProcess5Assistant::openFile(const QString& path)
 void DataProcess5Assistant::handleEvent(const char* eventName, const char* payload,
                                         int /*reserved*/)
 {
-    if (std::strcmp(eventName, events::kXyChanged) == 0)
+    if (!ProjectState::isOpen()) // there is no grid to have a position on
+        m_host.eventManager().publish(events::kXyChangedText, "", 0);
+    else if (std::strcmp(eventName, events::kXyChanged) == 0)
         announcePosition(payload);
-    else
+    else if (std::strcmp(eventName, events::kProjectModified) == 0)
         ProjectState::showTitle(m_host);
 }
 

@@ -26,6 +26,7 @@ public:
 
     /// Shows in the frame's title what is open.
     virtual void setDocument(const DesktopDocument& document) = 0;
+    [[nodiscard]] virtual bool hasDocument() const = 0;
 };
 
 /// The helper of the host that converts project coordinates to map coordinates and back.

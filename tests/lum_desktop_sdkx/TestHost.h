@@ -59,6 +59,7 @@ public:
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return coordHelper; }
     [[nodiscard]] QWidget* dialogParent() override { return frame; }
     void setDocument(const DesktopDocument& open) override { document = open; }
+    [[nodiscard]] bool hasDocument() const override { return !document.name.isEmpty(); }
 
     EventManager events;
     TestWindowRegistry windowRegistry;

@@ -1,9 +1,11 @@
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 
+#include "lum_desktop_sdkx/DesktopDocument.h"
 #include "lum_desktop_sdkx/IMainFrame.h"
 
 void DesktopHost::setDocument(const DesktopDocument& document)
 {
+    m_hasDocument = !document.name.isEmpty();
     if (m_frame != nullptr)
         m_frame->setDocument(document);
 }

@@ -18,6 +18,7 @@ struct FrameState;
 
 namespace ads {
 class CDockManager;
+class CFloatingDockContainer;
 } // namespace ads
 
 /// The main window: menus, tool bars, docks, status bar and assistants by a layout. It remembers
@@ -35,7 +36,7 @@ public:
     /// Shows the frame in the arrangement of the last session.
     void show() override;
 
-    /// Moves tool bars and windows back to where the layout puts them.
+    /// Gives the frame, tool bars and windows the sizes and places of the first start.
     void resetArrangement();
 
     /// Hands a file to the assistants until one has opened it.
@@ -77,6 +78,8 @@ private:
     void restoreFrame(const FrameState& state);
     void saveArrangement();
     void openWaitingFile();
+    /// Makes the frame's shortcuts work in a window that has left the frame.
+    void adoptFloating(ads::CFloatingDockContainer* window);
 
     DesktopHost& m_host; // outlives the frame
     ads::CDockManager* m_docks;
@@ -86,6 +89,7 @@ private:
     DesktopDocument m_document;
     QByteArray m_defaultToolBars;
     QString m_waitingFile; ///< to be opened when no dialog is open any more
+    QSize m_usualSize;     ///< of the first start
     EventSubscription m_subscription;
     bool m_wasPainted = false;
 };
