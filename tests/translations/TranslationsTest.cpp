@@ -31,6 +31,9 @@ struct Text
     }
 };
 
+/// The choice of the language names it in its own words.
+const QString kOwnName = QStringLiteral("简体中文");
+
 bool isChinese(const QString& text)
 {
     static const QRegularExpression pattern(
@@ -146,7 +149,8 @@ private Q_SLOTS:
         for (const Text& text : m_texts) {
             known << text.name();
             const QString english = text.by(m_english);
-            if (isChinese(english.isEmpty() ? QString::fromUtf8(text.source) : english))
+            const QString shown = english.isEmpty() ? QString::fromUtf8(text.source) : english;
+            if (isChinese(shown) && !shown.startsWith(kOwnName))
                 chinese << text.name();
         }
         for (const Text& text :

@@ -85,7 +85,7 @@ QString numbered(int number, QString caption)
 /// again.
 void fixHeight(QStatusBar& bar)
 {
-    const QSize text = bar.fontMetrics().size(Qt::TextSingleLine, QStringLiteral("Ág测"));
+    const QSize text = bar.fontMetrics().size(Qt::TextSingleLine, QStringLiteral("\u00c1g\u6d4b"));
     bar.setFixedHeight(std::max(text.height(), dpi_scaled(kLeastLine)) +
                        dpi_scaled(kStatusPadding));
 }
