@@ -83,6 +83,9 @@ constexpr Sentence kSentences[] = {
                                       "centre (_7px, _7py, _7pz).")},
     {CoordResult::PlaneScale,
      QT_TRANSLATE_NOOP("CoordResult", "The scale of the plane shift (_4s) must not be negative.")},
+    {CoordResult::Axes,
+     QT_TRANSLATE_NOOP("CoordResult", "The direction of the axes (axis_direction) must be NE, NW, "
+                                      "SE or SW, not %1.")},
     {CoordResult::NoGeoidFile,
      QT_TRANSLATE_NOOP("CoordResult", "The geoid is switched on, but no geoid file (geoid_file) "
                                       "is given.")},

@@ -37,6 +37,7 @@ enum class CoordResult : std::int32_t
     UnknownDatumShift,
     DatumShiftPivot,
     PlaneScale,
+    Axes,
     NoGeoidFile,
     GeoidFile,
     Refused,
