@@ -129,7 +129,9 @@ TEST(EpsgSystem, RefusesWhatItCannotDescribeAndLeavesTheParameters)
 {
     basalt::Dictionary system = dictionaryOf("org_lon=117");
     for (const auto& [code, reason] :
-         {std::pair("99999", "no coordinate system"), std::pair("4326", "no projected"),
+         {std::pair("99999", "no coordinate system"),
+          std::pair("4326", "(WGS 84) is geographic; choose a projected system"),
+          std::pair("4978", "no projected"), // geocentric
           std::pair("3035", "Lambert Azimuthal Equal Area"), std::pair("2046", "South Orientated"),
           std::pair("5513", "Krovak")}) {
         const std::string fault = fillFromEpsg(code, system);
