@@ -128,10 +128,8 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
     Outcome reading = readDatabase(place.database(), coordSystem);
     if (!reading.isDone())
         return reading;
-    if (coordSystem.size() == 0) { // before the first save only the project file has it
-        dictionary_copy(project, coordSystem, CoordinateRecord::kKeys);
-        dictionary_copy(project, coordSystem, CoordinateRecord::kId);
-    }
+    if (coordSystem.size() == 0) // before the first save only the project file has it
+        CoordinateRecord::copy(project, coordSystem);
     setCoordSystem(coordSystem);
     dictionary_copy(quality, m_qualityParameters);
     dictionary_copy(design, m_designParameters);

@@ -17,7 +17,7 @@ constexpr const char* kDecimals =
     "cutting_radius,parallel_1_lat,parallel_2_lat,p_r,lon1,lon2,lat1,lat2,_7dx,_7dy,_7dz,_7rx,_7ry,"
     "_7rz,_7ppm,_7px,_7py,_7pz,_4dx,_4dy,_4r,_4s,_4x0,_4y0,correct_dx,correct_dy,correct_dh,"
     "fit_a0,fit_a1,fit_a2,fit_a3,fit_a4,fit_a5,fit_x0,fit_y0,ver_x_slope,ver_y_slope,ver_h,ver_x0,"
-    "ver_y0";
+    "ver_y0,unit_m";
 constexpr const char* kWholeNumbers =
     "project_type,_7type,geoid_valid,_4valid,correct_valid,fit_valid,ver_valid";
 

@@ -4,6 +4,7 @@
 #include "basalt_utilities/Numbers.h"
 #include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/EpsgDatumShift.h"
+#include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjHandles.h"
 
 #include <QCoreApplication>
@@ -275,6 +276,7 @@ std::string fillFromEpsg(std::string_view code, IDictionary& parameters)
     for (const char* key : {"_4valid", "correct_valid", "fit_valid", "ver_valid"})
         dic_set_value(filled, key, 0);
     dictionary_copy(filled, parameters);
+    setLengthUnit(lengthUnit(unitM), parameters);
     return {};
 }
 

@@ -10,7 +10,8 @@ class IDictionary;
 /// Ellipsoid, projection and datum shift are replaced, other corrections are switched off; other
 /// keys stay. The datum shift is the best of `epsgDatumShifts`, and _7type is 0 when there is none;
 /// PROJ itself may choose another one for a place, a grid or the shift of a smaller region. A
-/// system in feet gives coordinates in feet, by its factor and false origin; heights stay metres.
+/// system in feet gives coordinates in feet, by its factor and false origin, and has its unit as
+/// `kLengthUnitKey` (LengthUnit.h); heights stay metres.
 /// For an oblique Mercator projection the false origin is always written for the centre.
 ///
 /// \returns empty, or why the system cannot be described, in the user's language, UTF-8; then
