@@ -23,7 +23,8 @@ constexpr const char* kWholeNumbers =
     "project_type,_7type,geoid_valid,_4valid,correct_valid,fit_valid,ver_valid";
 
 /// The fault of the first of these keys whose value is not a number. An empty value is none.
-CoordParameterFault numberFault(const IDictionary& parameters, std::string_view keys, bool isWhole)
+CoordParameterFault numberFault(const IDictionary& parameters, std::string_view keys, bool isWhole,
+                                const ParameterName& nameOf)
 {
     while (!keys.empty()) {
         const std::string key(next_word3(keys, ','));
@@ -32,13 +33,14 @@ CoordParameterFault numberFault(const IDictionary& parameters, std::string_view 
         if (text.empty() || (number && (!isWhole || *number == parameters.integer(key))))
             continue;
         const QString sentence =
-            isWhole
-                ? QCoreApplication::translate(
-                      "CoordCheck", "The parameter %1 must be a whole number, not \"%2\".")
-                : QCoreApplication::translate(
-                      "CoordCheck", "The parameter %1 must be a decimal number, such as 298.257, "
-                                    "not \"%2\".");
-        return {key, sentence.arg(toQString(key), toQString(text)).toStdString()};
+            isWhole ? QCoreApplication::translate("CoordCheck",
+                                                  "\"{key}\" must be a whole number, not \"%1\".")
+                    : QCoreApplication::translate("CoordCheck",
+                                                  "\"{key}\" must be a decimal number, such as "
+                                                  "298.257, not \"%1\".");
+        const std::string name = nameOf ? nameOf(key) : key;
+        return {key, withParameterNames(sentence, std::string(text),
+                                        [&name](std::string_view) { return name; })};
     }
     return {};
 }
@@ -62,6 +64,7 @@ std::string keyAtFault(const CoordFault& fault)
     case CoordResult::OriginLongitude:
         return "org_lon";
     case CoordResult::Parallels:
+    case CoordResult::TrueScaleLatitude:
         return "parallel_1_lat";
     case CoordResult::Azimuth:
         return "p_r";
@@ -87,16 +90,16 @@ std::string keyAtFault(const CoordFault& fault)
 
 } // namespace
 
-CoordParameterFault checkCoordParameters(const IDictionary& parameters)
+CoordParameterFault checkCoordParameters(const IDictionary& parameters, const ParameterName& nameOf)
 {
-    if (auto fault = numberFault(parameters, kWholeNumbers, true))
+    if (auto fault = numberFault(parameters, kWholeNumbers, true, nameOf))
         return fault;
-    if (auto fault = numberFault(parameters, kDecimals, false))
+    if (auto fault = numberFault(parameters, kDecimals, false, nameOf))
         return fault;
     const CoordChain chain(parameters);
     if (!chain.fault())
         return {};
-    return {keyAtFault(chain.fault()), describe(chain.fault())};
+    return {keyAtFault(chain.fault()), describe(chain.fault(), nameOf)};
 }
 
 } // namespace lum

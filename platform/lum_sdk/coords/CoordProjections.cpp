@@ -173,8 +173,8 @@ std::string albers(Reader& reader)
 
 std::string mercator(Reader& reader)
 {
-    const double parallel = reader.latitude("parallel_1_lat", CoordResult::Parallels);
-    reader.check(std::abs(parallel) < 90, CoordResult::Parallels);
+    const double parallel = reader.latitude("parallel_1_lat", CoordResult::TrueScaleLatitude);
+    reader.check(std::abs(parallel) < 90, CoordResult::TrueScaleLatitude);
     return "+proj=merc" + Reader::item("lat_ts", parallel);
 }
 
@@ -203,8 +203,8 @@ std::string polarStereographic(Reader& reader)
     const double origin = reader.latitude("org_lat", CoordResult::OriginLatitude);
     reader.check(origin != 0, CoordResult::OriginLatitude);
     const double pole = std::copysign(90, origin);
-    const double parallel = reader.latitude("parallel_1_lat", CoordResult::Parallels);
-    reader.check(parallel * pole >= 0, CoordResult::Parallels);
+    const double parallel = reader.latitude("parallel_1_lat", CoordResult::TrueScaleLatitude);
+    reader.check(parallel * pole >= 0, CoordResult::TrueScaleLatitude);
     return "+proj=stere" + Reader::item("lat_0", pole) +
            Reader::item("lat_ts", parallel == 0 ? pole : parallel);
 }

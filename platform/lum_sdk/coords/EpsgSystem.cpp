@@ -198,7 +198,13 @@ std::string fillProjectionFromEpsg(std::string_view code, IDictionary& parameter
         return QCoreApplication::translate("EpsgSystem", "There is no coordinate system EPSG:%1.")
             .arg(shownCode)
             .toStdString();
-    if (proj_get_type(crs.get()) != PJ_TYPE_PROJECTED_CRS)
+    const PJ_TYPE type = proj_get_type(crs.get());
+    if (type == PJ_TYPE_GEOGRAPHIC_2D_CRS || type == PJ_TYPE_GEOGRAPHIC_3D_CRS)
+        return QCoreApplication::translate("EpsgSystem",
+                                           "EPSG:%1 (%2) is geographic; choose a projected system.")
+            .arg(shownCode, QString::fromUtf8(proj_get_name(crs.get())))
+            .toStdString();
+    if (type != PJ_TYPE_PROJECTED_CRS)
         return QCoreApplication::translate("EpsgSystem",
                                            "EPSG:%1 is no projected coordinate system.")
             .arg(shownCode)

@@ -155,7 +155,9 @@ TEST(EpsgSystem, RefusesWhatItCannotDescribeAndLeavesTheParameters)
 {
     basalt::Dictionary system = dictionaryOf("org_lon=117");
     for (const auto& [code, reason] :
-         {std::pair("99999", "no coordinate system"), std::pair("4326", "no projected"),
+         {std::pair("99999", "no coordinate system"),
+          std::pair("4326", "(WGS 84) is geographic; choose a projected system"),
+          std::pair("4978", "no projected"), // geocentric
           std::pair("27200", "New Zealand Map Grid"), std::pair("5515", "Krovak Modified")}) {
         const std::string fault = fillFromEpsg(code, system);
         EXPECT_NE(fault.find(reason), std::string::npos) << fault;
