@@ -30,7 +30,7 @@ lum::PlaneAxes axes()
 QPointF CoordTransformHelper::projectToMap(double north, double east) const
 {
     const lum::PlaneAxes grid = axes();
-    return {grid.isWest ? -east : east, grid.isSouth ? -north : north};
+    return {grid.eastSign() * east, grid.northSign() * north};
 }
 
 bool CoordTransformHelper::geodeticToMap(double latitudeDeg, double longitudeDeg,
