@@ -1,5 +1,7 @@
 #pragma once
 
+#include "basalt_utilities/Dictionary.h"
+
 /// The row of the table CoordinateSystemItem: the parameters of the project's coordinate system.
 namespace CoordinateRecord {
 
@@ -18,5 +20,18 @@ inline constexpr const char* kKeys =
 /// The name of the coordinate system, such as "EPSG:32650"; the last column.
 inline constexpr const char* kId = "coord_param_id";
 inline constexpr const char* kUndefinedId = "Undefined";
+
+/// Metres per unit of a system that is not in metres (lum_sdk/coords/LengthUnit.h). Only the
+/// databases of such systems have the column.
+inline constexpr const char* kUnit = "unit_m";
+
+/// Copies a coordinate system, with its name and unit, into a dictionary that may have another one.
+inline void copy(const IDictionary& from, IDictionary& to)
+{
+    if (!from.contains(kUnit))
+        to.remove(kUnit);
+    for (const char* keys : {kKeys, kId, kUnit})
+        dictionary_copy(from, to, keys);
+}
 
 } // namespace CoordinateRecord

@@ -10,6 +10,7 @@
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/ProgressReporter.h"
@@ -152,10 +153,8 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
     Outcome reading = readDatabase(place.database(), coordSystem);
     if (!reading.isDone())
         return reading;
-    if (coordSystem.size() == 0) { // before the first save only the project file has it
-        dictionary_copy(project, coordSystem, CoordinateRecord::kKeys);
-        dictionary_copy(project, coordSystem, CoordinateRecord::kId);
-    }
+    if (coordSystem.size() == 0) // before the first save only the project file has it
+        CoordinateRecord::copy(project, coordSystem);
     applyCoordSystem(coordSystem);
     dictionary_copy(quality, m_qualityParameters);
     dictionary_copy(design, m_designParameters);
@@ -349,7 +348,8 @@ void DataProcessDataManager::recomputeSeaHeights()
 
 CheckedData DataProcessDataManager::checkedData()
 {
-    return {m_design, m_survey, m_qualityParameters};
+    const IDictionary& coordSystem = get_project_coord_transform().parameters();
+    return {m_design, m_survey, m_qualityParameters, lum::lengthUnitOf(coordSystem).metres};
 }
 
 void DataProcessDataManager::run(const CheckKind& check)

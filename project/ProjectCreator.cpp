@@ -133,9 +133,8 @@ void describe(const ProjectPlace& place, IDictionary& project)
                 QLocale::c().toString(now, QStringLiteral("yyyy/MM/dd hh:mm:ss")).toStdString());
     project.set(ProjectFile::kVersion, get_system_config_parameter().dictionary().text("version"));
     const IDictionary& current = get_project_coord_transform().parameters();
-    dictionary_copy(current, project, CoordinateRecord::kKeys);
-    project.set(CoordinateRecord::kId,
-                current.text(CoordinateRecord::kId, CoordinateRecord::kUndefinedId));
+    project.set(CoordinateRecord::kId, CoordinateRecord::kUndefinedId);
+    CoordinateRecord::copy(current, project);
 }
 
 Outcome create(const ProjectPlace& place, const IDictionary& project,

@@ -118,6 +118,17 @@ bool ProjectSaver::addMissingColumns()
     return true;
 }
 
+bool ProjectSaver::addUnitColumn()
+{
+    RecordSet known;
+    if (!m_database.query("select name from pragma_table_info('CoordinateSystemItem') "
+                          "where name = 'unit_m'",
+                          known))
+        return false;
+    return !known.isEmpty() ||
+           m_database.execute("alter table CoordinateSystemItem add unit_m TEXT");
+}
+
 bool ProjectSaver::writeDesign(const DesignPoints& design)
 {
     const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::columns().c_str());
@@ -137,10 +148,10 @@ bool ProjectSaver::writeSurvey(const SurveyPoints& survey)
 bool ProjectSaver::writeCoordinateSystem(const IDictionary& parameters)
 {
     basalt::Dictionary record;
-    dictionary_copy(parameters, record, CoordinateRecord::kKeys);
-    record.set(CoordinateRecord::kId,
-               parameters.text(CoordinateRecord::kId, CoordinateRecord::kUndefinedId));
-    return m_database.insert(CoordinateRecord::kTable, nullptr, record);
+    record.set(CoordinateRecord::kId, CoordinateRecord::kUndefinedId);
+    CoordinateRecord::copy(parameters, record);
+    return (!record.contains(CoordinateRecord::kUnit) || addUnitColumn()) &&
+           m_database.insert(CoordinateRecord::kTable, nullptr, record);
 }
 
 Outcome ProjectSaver::undo(const std::string& path, const std::string& reason)

@@ -26,6 +26,7 @@ private:
                   const IDictionary& coordParameters);
     bool clearTables();
     bool addMissingColumns();
+    bool addUnitColumn();
     bool writeDesign(const DesignPoints& design);
     bool writeSurvey(const SurveyPoints& survey);
     bool writeCoordinateSystem(const IDictionary& parameters);

@@ -184,20 +184,56 @@
         <translation>瑞士斜轴墨卡托</translation>
     </message>
     <message>
+        <source>Hotine oblique Mercator (variant A)</source>
+        <translation>霍廷斜轴墨卡托（变体 A）</translation>
+    </message>
+    <message>
+        <source>Lambert azimuthal equal area</source>
+        <translation>兰勃特等积方位</translation>
+    </message>
+    <message>
+        <source>Colombia urban</source>
+        <translation>哥伦比亚城市</translation>
+    </message>
+    <message>
+        <source>Direction of the axes</source>
+        <translation>坐标轴方向</translation>
+    </message>
+    <message>
+        <source>Where coordinates grow. In some countries northings are counted to the south, eastings to the west.</source>
+        <translation>坐标增大的方向。有些国家的纵坐标向南计、横坐标向西计。</translation>
+    </message>
+    <message>
+        <source>North and east</source>
+        <translation>北、东</translation>
+    </message>
+    <message>
+        <source>North and west</source>
+        <translation>北、西</translation>
+    </message>
+    <message>
+        <source>South and east</source>
+        <translation>南、东</translation>
+    </message>
+    <message>
+        <source>South and west</source>
+        <translation>南、西</translation>
+    </message>
+    <message>
         <source>Central meridian</source>
         <translation>中央子午线</translation>
     </message>
     <message>
-        <source>Longitude of the origin, east positive; with UTM, any longitude in the zone.</source>
-        <translation>原点经度，东经为正；UTM 投影可填带内任意经度。</translation>
+        <source>Longitude of the origin, east positive; with UTM, any longitude in the zone. Such as 117.5, 117 30 00 or 117 30 00 E.</source>
+        <translation>原点经度，东经为正；UTM 投影可填带内任一经度。如 117.5、117 30 00 或 东经117度30分。</translation>
     </message>
     <message>
         <source>Latitude of origin</source>
         <translation>原点纬度</translation>
     </message>
     <message>
-        <source>Latitude of the origin or centre, north positive; its sign tells the pole of a polar projection.</source>
-        <translation>原点或投影中心的纬度，北纬为正；极投影由其正负号确定极点。</translation>
+        <source>Latitude of the origin or centre, north positive; its sign tells the pole of a polar projection. Such as 30.5, 30 30 00 or 30 30 00 N.</source>
+        <translation>原点或中心的纬度，北纬为正；极投影由其正负号决定是哪个极。如 30.5、30 30 00 或 北纬30度30分。</translation>
     </message>
     <message>
         <source>First standard parallel</source>
@@ -288,8 +324,8 @@
         <translation>平面比例真实处的椭球面以上高度。</translation>
     </message>
     <message>
-        <source>Datum shift</source>
-        <translation>基准转换（七参数）</translation>
+        <source>Datum shift, from WGS 84 to the system&apos;s datum</source>
+        <translation>基准转换（由 WGS 84 到本坐标系基准）</translation>
     </message>
     <message>
         <source>Model</source>

@@ -23,7 +23,8 @@ Outcome setParameters(const QStringList& pairs, IDictionary& project)
     // The pivot of a datum shift (_7p...) may be given, too: toStoredForm works it into the shift.
     static const QStringList known =
         QString::fromLatin1(CoordinateRecord::kKeys).split(QLatin1Char(',')) +
-        QStringList{QStringLiteral("_7px"), QStringLiteral("_7py"), QStringLiteral("_7pz")};
+        QStringList{QStringLiteral("_7px"), QStringLiteral("_7py"), QStringLiteral("_7pz"),
+                    QString::fromLatin1(CoordinateRecord::kUnit)};
     for (const QString& pair : pairs) {
         const QString key = pair.section(QLatin1Char('='), 0, 0);
         const QString value = pair.section(QLatin1Char('='), 1);

@@ -2,8 +2,10 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
+#include "basalt_utilities/Numbers.h"
 #include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Text.h"
 #include "model/CoordinateRecord.h"
@@ -39,6 +41,8 @@ void printSystem()
     print("coordinate_system", system.text(CoordinateRecord::kId, CoordinateRecord::kUndefinedId));
     print("ellipsoid", system.text("ellipsoid_name"));
     print("projection", projectionName(system));
+    if (const lum::LengthUnit unit = lum::lengthUnitOf(system); !lum::isMetre(unit))
+        print("unit", unit.name + ", " + basalt::formatShortest(unit.metres) + " m");
 }
 
 void printDesign(const DesignPoints& points)

@@ -123,8 +123,7 @@ QWidget* DlgProjectSet::makeGeneralPage()
 QWidget* DlgProjectSet::makeCoordPage()
 {
     basalt::Dictionary parameters;
-    dictionary_copy(m_project, parameters, CoordinateRecord::kKeys);
-    dictionary_copy(m_project, parameters, CoordinateRecord::kId);
+    CoordinateRecord::copy(m_project, parameters);
     m_coordSystem = new CoordSystemPanel(this);
     m_coordSystem->setParameters(parameters);
     return m_coordSystem;
@@ -150,8 +149,7 @@ void DlgProjectSet::writeBack()
     for (const char* shownOnly : {kUnit, kName, ProjectFile::kPath})
         values.remove(shownOnly);
     dictionary_copy(values, m_project);
-    dictionary_copy(m_coordSystem->parameters(), m_project, CoordinateRecord::kKeys);
-    dictionary_copy(m_coordSystem->parameters(), m_project, CoordinateRecord::kId);
+    CoordinateRecord::copy(m_coordSystem->parameters(), m_project);
     SystemParameter& settings = get_system_ini_parameter();
     if (settings.dictionary().text(settings::kCoordUnit, "0") != unit) {
         settings.dictionary().set(settings::kCoordUnit, unit);

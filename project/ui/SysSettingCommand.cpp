@@ -18,8 +18,7 @@ void SysSettingCommand::execute()
     project.set(ProjectFile::kPath, ProjectState::place().folder.toStdString());
     // The system in use comes from the database, which may be newer than the project file.
     const IDictionary& coordSystem = get_project_coord_transform().parameters();
-    dictionary_copy(coordSystem, project, CoordinateRecord::kKeys);
-    dictionary_copy(coordSystem, project, CoordinateRecord::kId);
+    CoordinateRecord::copy(coordSystem, project);
     const basalt::Dictionary before(project);
     DlgProjectSet dialog(host(), project);
     dialog.setInformationReadOnly(manager.projectFileFault());
@@ -28,9 +27,9 @@ void SysSettingCommand::execute()
     });
     QObject::connect(&dialog, &DlgProjectSet::applied, &dialog, [&] {
         dictionary_copy(project, manager.project());
+        CoordinateRecord::copy(project, manager.project());
         basalt::Dictionary parameters;
-        dictionary_copy(project, parameters, CoordinateRecord::kKeys);
-        dictionary_copy(project, parameters, CoordinateRecord::kId);
+        CoordinateRecord::copy(project, parameters);
         manager.setCoordSystem(parameters);
         if (!dictionary_same(before, project))
             manager.markChanged();

@@ -66,6 +66,24 @@ TEST_F(ProjectStore, BringsBackWhatWasSaved)
     EXPECT_FALSE(hasCopy());
 }
 
+/// The database of a system in metres has no column for the unit.
+TEST_F(ProjectStore, KeepsTheUnitOfACoordinateSystem)
+{
+    TestProject project = TestProject::made(1, 1, "");
+    expectDone(project.save(path));
+    project.coordParameters.set("unit_m", "0.3048006096012192");
+    for (const char* when : {"first", "again"}) {
+        expectDone(project.save(path));
+        TestProject loaded = TestProject::made(1, 1, "");
+        expectDone(loaded.load(path));
+        EXPECT_EQ(loaded.coordParameters.text("unit_m"), "0.3048006096012192") << when;
+    }
+    project.coordParameters.remove("unit_m");
+    expectDone(project.save(path));
+    expectDone(project.load(path));
+    EXPECT_FALSE(project.coordParameters.contains("unit_m"));
+}
+
 TEST_F(ProjectStore, ReportsLoadedRowsByHundredthsAndFiftiethsAndSavedLines)
 {
     expectDone(TestProject::made(2, 125, "").save(path)); // 250 design rows, 50 results

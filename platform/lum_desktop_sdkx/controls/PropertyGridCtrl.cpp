@@ -127,6 +127,12 @@ void PropertyGridCtrl::goToFault()
     m_view->setFocus();
 }
 
+QString PropertyGridCtrl::rowCaption(const QString& key) const
+{
+    const PropertyGridRow* const row = m_model->row(m_model->indexOfKey(key));
+    return row == nullptr ? QString() : row->caption;
+}
+
 void PropertyGridCtrl::setRowCaption(const QString& key, const QString& caption)
 {
     m_model->setCaption(key, caption);

@@ -62,6 +62,9 @@ public:
     /// Selects the topmost bad value and scrolls to it.
     void goToFault();
 
+    /// The caption of a row as it is shown; empty when no row has this key.
+    [[nodiscard]] QString rowCaption(const QString& key) const;
+
     /// Both replace the text of the control file. The text is in the user's language.
     void setRowCaption(const QString& key, const QString& caption);
     void setRowUnit(const QString& key, const QString& unit);

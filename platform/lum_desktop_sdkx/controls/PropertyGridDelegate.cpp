@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/PropertyGridDelegate.h"
 
+#include "lum_desktop_sdkx/controls/ChoiceBox.h"
 #include "lum_desktop_sdkx/controls/PropertyGridInput.h"
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
@@ -7,7 +8,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
@@ -50,7 +50,7 @@ QWidget* PropertyGridDelegate::createEditor(QWidget* parent, const QStyleOptionV
 
 QWidget* PropertyGridDelegate::makeChoiceEditor(QWidget* parent, const QModelIndex& index) const
 {
-    auto* const editor = new QComboBox(parent);
+    auto* const editor = new ChoiceBox(parent);
     editor->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     for (const PropertyGridChoice& choice : m_model.row(index)->choices)
         editor->addItem(choice.caption, choice.value);

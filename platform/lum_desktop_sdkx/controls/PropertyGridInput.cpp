@@ -44,6 +44,9 @@ QString limit(double value, const PropertyGridRow& row)
 QString wantedNumber(const PropertyGridRow& row)
 {
     const bool whole = row.editor == Editor::Integer;
+    if (row.editor == Editor::Angle && row.minimum && row.maximum)
+        return PropertyGrid::tr("Enter an angle from %1 to %2, such as 30.5 or 30 30 00.")
+            .arg(limit(*row.minimum, row), limit(*row.maximum, row));
     if (row.minimum && row.maximum)
         return (whole ? PropertyGrid::tr("Enter a whole number from %1 to %2.")
                       : PropertyGrid::tr("Enter a number from %1 to %2."))
@@ -100,7 +103,15 @@ PropertyGridInput readPropertyGridInput(const PropertyGridRow& row, const QStrin
 {
     if (!isNumeric(row))
         return {typed, {}};
-    const QString number = withPoint(typed);
+    QString number = withPoint(typed);
+    bool isNumber = false;
+    (void)number.toDouble(&isNumber);
+    const auto angle = row.editor == Editor::Angle && !isNumber ? readAngle(number, row.letters)
+                                                                : std::optional<double>();
+    if (angle) {
+        number = QString::fromStdString(basalt::formatShortest(*angle));
+        return {number, isInRange(row, number) ? QString() : wantedNumber(row)};
+    }
     QString fault = isInRange(row, number) ? QString() : wantedNumber(row);
     if (fault.isEmpty() && row.decimals && decimalsOf(number) > *row.decimals)
         fault = PropertyGrid::tr("Digits allowed after the point: %n.", nullptr, *row.decimals);

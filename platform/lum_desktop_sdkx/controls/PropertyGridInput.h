@@ -7,12 +7,14 @@ struct PropertyGridRow;
 /// The result of checking what was typed into a row.
 struct PropertyGridInput
 {
-    QString value; ///< to be stored; a number has no blanks around it, and a decimal point
+    QString value; ///< to be stored; a number has no blanks around it, and a decimal point; an
+                   ///< angle is in decimal degrees
     QString fault; ///< what is wrong, with range and unit; empty when `value` may be stored
 };
 
 /// Checks what was typed. A comma is read as the decimal point when the user's language writes it
-/// so, and the text holds no second comma and no point. An empty text is no number.
+/// so, and the text holds no second comma and no point. An empty text is no number. An angle may be
+/// given with minutes and seconds (`readAngle`).
 [[nodiscard]] PropertyGridInput readPropertyGridInput(const PropertyGridRow& row,
                                                       const QString& typed);
 

@@ -98,8 +98,8 @@ PropertyGridGroup LayoutReader::readGroup()
 PropertyGridRow LayoutReader::readRow()
 {
     static const QStringList attributes =
-        QStringLiteral("key,caption,editor,unit,min,max,decimals,default,filter,read_only,"
-                       "description")
+        QStringLiteral("key,caption,editor,unit,min,max,decimals,letters,default,filter,"
+                       "read_only,description")
             .split(QLatin1Char(','));
     allowAttributes(attributes);
     PropertyGridRow row;
@@ -133,6 +133,13 @@ void LayoutReader::readEditor(PropertyGridRow& row)
     row.unit = translated("unit");
     if (row.unit.isEmpty() && row.editor == Editor::Angle)
         row.unit = QStringLiteral("\u00b0");
+    const QString letters = text("letters");
+    if (letters == QLatin1String("NS"))
+        row.letters = AngleLetters::NorthSouth;
+    else if (letters == QLatin1String("EW"))
+        row.letters = AngleLetters::EastWest;
+    if (!letters.isEmpty() && (row.letters == AngleLetters::None || row.editor != Editor::Angle))
+        fail(QStringLiteral("letters=\"%1\" is neither NS nor EW of an angle").arg(letters));
 }
 
 void LayoutReader::readLimits(PropertyGridRow& row)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lum_desktop_sdkx/controls/AngleInput.h"
+
 #include <QString>
 
 #include <optional>
@@ -25,7 +27,8 @@ class QByteArray;
 //     text      any text; used when `editor` is missing
 //     number    a decimal number, with `min`, `max` and `decimals`, the most that may be typed
 //     integer   a whole number, with `min` and `max`
-//     angle     as number, in decimal degrees; its unit is "°" unless `unit` gives another
+//     angle     as number, in decimal degrees; its unit is "°" unless `unit` gives another. It may
+//               be typed with minutes and seconds, and with the letters of `letters`, "NS" or "EW"
 //     choice    one of its <choice> children: `value` is stored, `caption` is shown
 //     flag      a check box, stored as "1" or "0"
 //     file      a path, with a button that opens a file dialog; `filter` as in "csv file(*.csv)"
@@ -60,6 +63,7 @@ struct PropertyGridRow
     std::optional<double> minimum;
     std::optional<double> maximum;
     std::optional<int> decimals;
+    AngleLetters letters = AngleLetters::None;
     QString fallback; ///< the attribute `default`
     QString filter;
     bool readOnly = false;

@@ -180,9 +180,13 @@ void CoordSystemPanel::showRows()
 void CoordSystemPanel::judge()
 {
     const basalt::Dictionary values = m_grid->getData();
+    const auto nameOf = [this](std::string_view key) {
+        const QString caption = m_grid->rowCaption(lum::toQString(key));
+        return caption.isEmpty() ? std::string(key) : caption.toStdString();
+    };
     lum::CoordParameterFault fault;
     if (CoordSystemRows::isSet(values))
-        fault = lum::checkCoordParameters(values);
+        fault = lum::checkCoordParameters(values, nameOf);
     const QString key = lum::toQString(fault.key);
     const QString message = lum::toQString(fault.message);
     m_isUsable = !fault;

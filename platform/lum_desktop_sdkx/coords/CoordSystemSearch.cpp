@@ -1,6 +1,8 @@
 #include "lum_desktop_sdkx/coords/CoordSystemSearch.h"
 
+#include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/coords/CoordSystemTable.h"
+#include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/Text.h"
 
@@ -10,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -34,7 +37,6 @@ CoordSystemSearch::CoordSystemSearch(QWidget* parent)
     m_field->installEventFilter(this);
     setFocusProxy(m_field);
     makeList();
-    m_nothing->setText(tr("No coordinate system has this code or name."));
     m_nothing->setWordWrap(true);
     m_nothing->hide();
 
@@ -76,11 +78,32 @@ void CoordSystemSearch::find(const QString& text)
     const int rows = m_found->rowCount();
     m_list->setVisible(rows > 0);
     m_nothing->setVisible(rows == 0 && !wanted.isEmpty());
-    if (rows == 0)
+    if (rows == 0) {
+        tellNothing(wanted);
         return;
+    }
     m_list->setCurrentIndex(m_found->index(0, 0));
     m_list->scrollToTop();
     fitList();
+}
+
+/// Says why a code of the register is not in the list, or that nothing has the code or name.
+void CoordSystemSearch::tellNothing(const QString& wanted)
+{
+    static const QRegularExpression kCode(QStringLiteral("^(?:EPSG:)?\\s*([0-9]+)$"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    const std::string code = kCode.match(wanted).captured(1).toStdString();
+    const bool isRegistered = !code.empty() && !epsgName(code).empty();
+    QString text = tr("No coordinate system has this code or name.");
+    if (isRegistered) {
+        basalt::Dictionary unused;
+        const std::string reason = fillFromEpsg(code, unused);
+        text = reason.empty() ? tr("EPSG:%1 (%2) is no longer in use; choose the system that has "
+                                   "replaced it.")
+                                    .arg(lum::toQString(code), lum::toQString(epsgName(code)))
+                              : lum::toQString(reason);
+    }
+    m_nothing->setText(text);
 }
 
 /// Makes the list as high as its rows, up to a limit. Names get their width before the areas.

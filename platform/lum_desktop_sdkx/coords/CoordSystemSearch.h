@@ -13,8 +13,8 @@ class QTreeView;
 /// Searches the EPSG register while the user types: a field, and below it the list of what was
 /// found.
 ///
-/// The arrow keys move in the list, Enter or a click chooses, Escape clears the search. The
-/// register is read at the first search.
+/// The arrow keys move in the list, Enter or a click chooses, Escape clears the search. A code that
+/// is not in the list is answered with the reason. The register is read at the first search.
 class CoordSystemSearch : public QWidget
 {
     Q_OBJECT
@@ -34,6 +34,7 @@ protected:
 private:
     void makeList();
     void find(const QString& text);
+    void tellNothing(const QString& wanted);
     void fitList();
     void choose(const QModelIndex& index);
     [[nodiscard]] bool handleKey(QKeyEvent& event);

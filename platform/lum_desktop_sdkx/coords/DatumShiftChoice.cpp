@@ -1,10 +1,10 @@
 #include "lum_desktop_sdkx/coords/DatumShiftChoice.h"
 
+#include "lum_desktop_sdkx/controls/ChoiceBox.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/Text.h"
 
 #include <QAbstractItemView>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -15,19 +15,19 @@ namespace {
 
 constexpr int kNone = 0; ///< the item before the shifts
 
+/// Areas are compared by their bounds, which are rounded.
+constexpr double kWholeArea = 0.99;
+
 } // namespace
 
 DatumShiftChoice::DatumShiftChoice(QWidget* parent)
-    : QWidget(parent), m_row(new QWidget(this)), m_names(new QComboBox(m_row)),
+    : QWidget(parent), m_row(new QWidget(this)), m_names(new ChoiceBox(m_row)),
       m_notice(new QLabel(this))
 {
     auto* const caption = new QLabel(tr("&Datum shift:"), m_row);
     caption->setBuddy(m_names);
     m_names->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_names->view()->setTextElideMode(Qt::ElideRight);
-    m_names->setToolTip(tr("Datum shifts of the EPSG register for this system: name, accuracy, and "
-                           "the area that each is meant for. Those that suit the system's area "
-                           "best come first."));
     m_notice->setWordWrap(true);
 
     auto* const row = new QHBoxLayout(m_row);
@@ -63,9 +63,15 @@ void DatumShiftChoice::showShiftOf(const IDictionary& parameters)
     if (item == own)
         m_names->addItem(tr("By the parameters below"));
     m_names->setCurrentIndex(item);
+    m_names->setToolTip(
+        tr("<b>%1</b><p>Datum shifts of the EPSG register for this system: name, accuracy, and the "
+           "area that each is meant for. Those that suit the system's area best come first. Their "
+           "names say \"to WGS 84\"; the parameters below lead from WGS 84.")
+            .arg(m_names->currentText().toHtmlEscaped()));
     m_row->setVisible(!m_shifts.known.empty());
-    m_notice->setText(noticeWithoutShift());
-    m_notice->setVisible(item == kNone);
+    const QString text = notice(item);
+    m_notice->setText(text);
+    m_notice->setVisible(!text.isEmpty());
     setVisible(m_shifts.isNeeded && (!m_shifts.known.empty() || item == kNone));
 }
 
@@ -83,6 +89,23 @@ int DatumShiftChoice::itemOf(const lum::DatumShift& shift) const
         return kNone;
     const auto found = std::find_if(known.begin(), known.end(), isIt);
     return 1 + static_cast<int>(found - known.begin());
+}
+
+QString DatumShiftChoice::notice(int item) const
+{
+    if (item == kNone)
+        return noticeWithoutShift();
+    const auto& known = m_shifts.known;
+    const auto place = static_cast<std::size_t>(item - 1);
+    if (place >= known.size() || known[place].coverage >= kWholeArea)
+        return {};
+    const int percent = qRound(known[place].coverage * 100);
+    const QString area = lum::toQString(known[place].area);
+    if (percent == 0)
+        return tr("This datum shift does not cover this system's area. It is meant for: %1")
+            .arg(area);
+    return tr("This datum shift covers %1 % of this system's area. It is meant for: %2")
+        .arg(QString::number(percent), area);
 }
 
 QString DatumShiftChoice::noticeWithoutShift() const

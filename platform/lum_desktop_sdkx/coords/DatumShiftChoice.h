@@ -4,12 +4,12 @@
 
 #include <QWidget>
 
-class QComboBox;
+class ChoiceBox;
 class QLabel;
 
 /// Lets the user choose one of the datum shifts that the EPSG register has for a system. A text
-/// below says what it means to have none. Hidden for a system that is not of the register or needs
-/// no shift.
+/// below says what it means to have none, or how little of the system's area the chosen one covers.
+/// Hidden for a system that is not of the register or needs no shift.
 class DatumShiftChoice : public QWidget
 {
     Q_OBJECT
@@ -29,11 +29,12 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] int itemOf(const lum::DatumShift& shift) const;
+    [[nodiscard]] QString notice(int item) const;
     [[nodiscard]] QString noticeWithoutShift() const;
     void choose(int item);
 
     lum::EpsgDatumShifts m_shifts;
     QWidget* m_row;
-    QComboBox* m_names; ///< "None", the shifts, and an item for parameters that are none of them
+    ChoiceBox* m_names; ///< "None", the shifts, and an item for parameters that are none of them
     QLabel* m_notice;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lum_sdk/coords/CoordResult.h"
+
 #include <string>
 
 class IDictionary;
@@ -17,6 +19,8 @@ struct CoordParameterFault
 
 /// Checks that every number is one from its first to its last character, then sets up the whole
 /// system as the coordinate service would, geoid file included. Returns the first fault.
-[[nodiscard]] CoordParameterFault checkCoordParameters(const IDictionary& parameters);
+/// \param nameOf what the message calls the parameters; their keys without it
+[[nodiscard]] CoordParameterFault checkCoordParameters(const IDictionary& parameters,
+                                                       const ParameterName& nameOf = {});
 
 } // namespace lum

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
+
+class QString;
 
 namespace lum {
 
@@ -37,9 +41,12 @@ enum class CoordResult : std::int32_t
     UnknownDatumShift,
     DatumShiftPivot,
     PlaneScale,
+    Axes,
+    NoAzimuth,
     NoGeoidFile,
     GeoidFile,
     Refused,
+    TrueScaleLatitude,
 };
 
 /// A result code with the detail its message names: a key, a value, a file.
@@ -51,7 +58,15 @@ struct CoordFault
     explicit operator bool() const { return code != CoordResult::Success; }
 };
 
+/// What a sentence calls a parameter, UTF-8: its key on the command line, its caption in a window.
+using ParameterName = std::function<std::string(std::string_view key)>;
+
+/// A sentence with each "{key}" replaced by the name of that parameter, or by the key when there is
+/// no `nameOf`, and with "%1" replaced by `detail`.
+[[nodiscard]] std::string withParameterNames(const QString& sentence, const std::string& detail,
+                                             const ParameterName& nameOf);
+
 /// The fault as a sentence in the user's language, UTF-8; empty for success.
-[[nodiscard]] std::string describe(const CoordFault& fault);
+[[nodiscard]] std::string describe(const CoordFault& fault, const ParameterName& nameOf = {});
 
 } // namespace lum

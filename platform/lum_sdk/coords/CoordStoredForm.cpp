@@ -4,6 +4,7 @@
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/DatumShift.h"
+#include "lum_sdk/coords/LengthUnit.h"
 
 namespace lum {
 
@@ -73,6 +74,7 @@ void toStoredForm(IDictionary& parameters)
         setNumber(parameters, "org_lon", utmCentralMeridian(parameters.number("org_lon")));
     if (parameters.number("factor") == 0)
         setNumber(parameters, "factor", 1);
+    setLengthUnit(lengthUnitOf(parameters), parameters);
 }
 
 } // namespace lum

@@ -18,6 +18,7 @@ struct ProjDeleter
         proj_operation_factory_context_destroy(context);
     }
     void operator()(PROJ_CRS_INFO** list) const { proj_crs_info_list_destroy(list); }
+    void operator()(PROJ_UNIT_INFO** list) const { proj_unit_list_destroy(list); }
     void operator()(PROJ_CRS_LIST_PARAMETERS* parameters) const
     {
         proj_get_crs_list_parameters_destroy(parameters);

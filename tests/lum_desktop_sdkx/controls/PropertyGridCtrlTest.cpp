@@ -118,8 +118,21 @@ private Q_SLOTS:
         click(cell(1, 0));
         auto* const combo = qobject_cast<QComboBox*>(editor(cell(1, 0)));
         QVERIFY(combo != nullptr);
-        QTest::keyClick(combo, Qt::Key_Down);
-        QTest::keyClick(combo, Qt::Key_Return);
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End}) {
+            QTest::keyClick(combo, key); // opens the list
+            QTRY_VERIFY(combo->view()->isVisible());
+            QTest::keyClick(combo->view(), Qt::Key_Down);
+            QTest::keyClick(combo->view(), Qt::Key_Escape);
+            QTRY_VERIFY(!combo->view()->isVisible());
+            QCOMPARE(cell(1, 0).data().toString(), "Source"_q);
+            QCOMPARE(editor(cell(1, 0)), combo);
+        }
+        QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPoint(5, 5)), {}, {0, -120}, {}, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(combo, &wheel);
+        QCOMPARE(value("type"), "0"_q);
+        QTest::keyClicks(combo, "r"_q);
+        QTest::keyClick(combo->view(), Qt::Key_Return);
         QTRY_COMPARE(cell(1, 0).data().toString(), "Receiver"_q);
         QCOMPARE(value("type"), "1"_q);
 

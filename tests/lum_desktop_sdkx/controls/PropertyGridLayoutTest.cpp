@@ -110,6 +110,8 @@ private Q_SLOTS:
                  "line 3: min is above max");
         checkRow("<row key='a' caption='A' editor='number' decimals='1.5'/>",
                  "line 3: decimals=\"1.5\" is no count");
+        checkRow("<row key='a' caption='A' editor='number' letters='NS'/>",
+                 "line 3: letters=\"NS\" is neither NS nor EW of an angle");
         checkRow("<row key='a' caption='A' max='1'/>", "line 3: limits on a row");
         checkRow("<row key='a' caption='A' editor='choice'/>",
                  "line 3: a choice row without <choice>");

@@ -149,6 +149,56 @@ private Q_SLOTS:
         QCOMPARE(model.cell("note").data().toString(), "2e6"_q);
     }
 
+    void readsAnglesWithMinutesAndSeconds()
+    {
+        const QByteArray grid =
+            "<property_grid><group caption='G'>"
+            "<row key='lat' caption='Lat' editor='angle' letters='NS' min='-90' max='90'/>"
+            "<row key='lon' caption='Lon' editor='angle' letters='EW' min='-360' max='360'/>"
+            "<row key='turn' caption='Turn' editor='angle'/>"
+            "<row key='len' caption='Length' editor='number'/></group></property_grid>";
+        const struct
+        {
+            const char* row;
+            const char* typed;
+            const char* stored; ///< null: refused
+        } cases[] = {{"lon", "117 30 00", "117.5"},
+                     {"lon", " 117\u00b030'00\" ", "117.5"},
+                     {"lon", "117\u00b030\u203236.00\u2033E", "117.51"},
+                     {"lon", "117\u00b0 30\u2019 36\u201d", "117.51"}, // a Chinese keyboard's
+                     {"lon", "W 117:30", "-117.5"},
+                     {"lon", "\u2212117 30", "-117.5"}, // a printed minus
+                     {"lon", "117.250e", "117.25"},
+                     {"lon", "东经117度20分24秒", "117.34"},
+                     {"lat", "0 0 36 S", "-0.01"},
+                     {"lat", "南纬 40度", "-40"},
+                     {"lat", "40N", "40"},
+                     {"turn", "-0 30 00", "-0.5"},
+                     {"lat", "90 00 01", nullptr},
+                     {"lat", "40E", nullptr},
+                     {"lon", "117 60 00", nullptr},
+                     {"lon", "117 30 60", nullptr},
+                     {"lon", "117.5 30", nullptr},
+                     {"lon", "-117 30 W", nullptr},
+                     {"lon", "W117E", nullptr},
+                     {"lon", "117 30 00 00", nullptr},
+                     {"lon", "30''", nullptr},
+                     {"lon", "-", nullptr},
+                     {"turn", "5N", nullptr},
+                     {"len", "117 30", nullptr}};
+        for (const auto& [row, typed, stored] : cases) {
+            Model model("", grid);
+            QVERIFY2(model.type(row, typed), typed);
+            QCOMPARE(model.hasFaults(), stored == nullptr);
+            QCOMPARE(QByteArray::fromStdString(std::string(model.values().text(row))),
+                     QByteArray(stored == nullptr ? "" : stored));
+        }
+        Model model("", grid);
+        QVERIFY(model.type("lat", "91"));
+        QCOMPARE(model.fault(model.cell("lat")),
+                 "Enter an angle from -90\u00b0 to 90\u00b0, such as 30.5 or 30 30 00."_q);
+    }
+
     void tellsEditsButNotProgrammaticChanges()
     {
         Model model;

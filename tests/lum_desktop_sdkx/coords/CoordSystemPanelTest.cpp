@@ -94,6 +94,17 @@ private Q_SLOTS:
         QTest::keyClicks(m_field, " nowhere"_q);
         QVERIFY(!m_list->isVisible());
         QVERIFY(visibleTexts().contains("No coordinate system has this code or name."_q));
+        m_field->clear();
+        const std::pair<const char*, QString> refused[] = {
+            {"4326", "EPSG:4326 (WGS 84) is geographic; choose a projected system."_q},
+            {"epsg:4490", "EPSG:4490 (China Geodetic Coordinate System 2000) is geographic"_q},
+            {"2036", "is no longer in use"_q}, // replaced
+            {"99999", "No coordinate system has this code or name."_q}};
+        for (const auto& [code, answer] : refused) {
+            m_field->clear();
+            search(code);
+            QVERIFY2(visibleText().contains(answer), qPrintable(visibleText()));
+        }
         QTest::keyClick(m_field, Qt::Key_Return);
         QTest::keyClick(m_field, Qt::Key_Escape);
         QVERIFY(m_dialog->isVisible() && m_field->text().isEmpty());
@@ -120,27 +131,38 @@ private Q_SLOTS:
         QVERIFY(visibleText().contains("taken as WGS 84"_q));
         const QString ordos = "Beijing 1954 to WGS 84 (1), 1 m, China - Ordos basin"_q;
         const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
-        shifts()->setFocus();
-        while (shifts()->currentText() != ordos && changed.count() < 9)
-            QTest::keyClick(shifts(), Qt::Key_Down);
-        QCOMPARE(changed.count(), shifts()->currentIndex());
+        pickShift(ordos);
+        QCOMPARE(changed.count(), 1); // not for each item on the way
         QCOMPARE(shown("Model"), "Coordinate frame rotation"_q);
         QCOMPARE(shown("Shift dX"), "-12.646 m"_q);
         QVERIFY(!visibleText().contains("WGS 84."_q));
+        QVERIFY(
+            visibleText().contains("does not cover this system's area. It is meant for: China"_q));
 
         open(m_dialog->parameters()); // as when a project is opened again
         QCOMPARE(value("coord_param_id"), "EPSG:2436"_q);
         QCOMPARE(shifts()->currentText(), ordos);
+        QVERIFY(visibleText().contains("does not cover this system's area"_q));
         enter("False easting", "39500000"); // does not change the datum
         QCOMPARE(value("coord_param_id"), "Undefined"_q);
         QCOMPARE(shifts()->currentText(), ordos);
         enter("Shift dX", "-12.6");
         QCOMPARE(shifts()->currentText(), "By the parameters below"_q);
-        QTest::keyClick(shifts(), Qt::Key_Home);
+        QVERIFY(!visibleText().contains("this system's area"_q));
+        pickShift("None"_q);
         QCOMPARE(value("_7type"), "0"_q);
         QCOMPARE(shifts()->currentText(), "None"_q);
         pick("Ellipsoid", "WGS 84"); // changes the datum
         QVERIFY(shifts() == nullptr);
+    }
+
+    void tellsHowMuchOfTheAreaAShiftCovers()
+    {
+        open({});
+        choose("5514"); // two countries
+        QVERIFY(!visibleText().contains("this system's area"_q));
+        pickShift("S-JTSK to WGS 84 (4), 1 m, Slovakia"_q);
+        QVERIFY(visibleText().contains("covers 31 % of this system's area"_q)); // by its bounds
     }
 
     void tellsWhyThereIsNoDatumShift()
@@ -216,7 +238,7 @@ private Q_SLOTS:
         open(ownSystem());
         pick("Projection", "Albers equal area"); // both parallels are 0
         QVERIFY(isMarked("First standard parallel") && m_panel->hasFaults());
-        QVERIFY(visibleText().contains("(parallel_1_lat,"_q));
+        QVERIFY(visibleText().contains("\"First standard parallel\" and"_q));
         enter("First standard parallel", "x"); // a typed fault comes before the mark
         enter("Second standard parallel", "47");
         QVERIFY(isMarked("First standard parallel"));
@@ -415,6 +437,19 @@ private:
     {
         click(caption);
         QTest::keyClick(m_grid, Qt::Key_Space);
+    }
+    void pickShift(const QString& name)
+    {
+        shifts()->setFocus();
+        QTest::keyClick(shifts(), Qt::Key_Down); // opens the list
+        QAbstractItemView* const list = shifts()->view();
+        QTRY_VERIFY(list->isVisible());
+        QTest::keyClick(list, Qt::Key_Home);
+        for (int i = 0; i < 20 && list->currentIndex().data().toString() != name; ++i)
+            QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCoreApplication::processEvents(); // the notice below moves the grid
+        QCOMPARE(shifts()->currentText(), name);
     }
     /// The choice of datum shifts, which stands outside of the grid; null while there is none.
     [[nodiscard]] QComboBox* shifts() const

@@ -22,7 +22,7 @@ const FaultyParameters kCases[] = {
     {"_7type=1,_7ry=nan", CoordResult::NotANumber, "_7ry", nullptr},
     {"false_east=nan", CoordResult::NotANumber, "false_east", nullptr},
     {"project_type=0", CoordResult::NoProjection, "project_type", nullptr},
-    {"project_type=40", CoordResult::UnknownProjection, "project_type", "40"},
+    {"project_type=40", CoordResult::UnknownProjection, "project_type", nullptr},
     {"project_height=200000", CoordResult::ProjectHeight, "project_height", nullptr},
     {"org_lat=90.5", CoordResult::OriginLatitude, "org_lat", nullptr},
     {"org_lon=-361", CoordResult::OriginLongitude, "org_lon", nullptr},
@@ -32,6 +32,8 @@ const FaultyParameters kCases[] = {
     {"project_type=8", CoordResult::Parallels, "parallel_1_lat", nullptr},
     {"project_type=8,parallel_1_lat=-20,parallel_2_lat=20",
      CoordResult::Parallels, "parallel_1_lat", nullptr},
+    {"project_type=7,org_lat=90,parallel_1_lat=-70",
+     CoordResult::TrueScaleLatitude, "parallel_1_lat", nullptr},
     {"project_type=5,org_lat=4", CoordResult::Azimuth, "p_r", nullptr},
     {"project_type=11,org_lat=49.5", // the ellipsoid is chosen by its name
      CoordResult::KrovakEllipsoid, "ellipsoid_name", "Bessel 1841"},
@@ -41,6 +43,10 @@ const FaultyParameters kCases[] = {
     {"_7type=4", CoordResult::UnknownDatumShift, "_7type", nullptr},
     {"_7type=3,_7rz=1", CoordResult::DatumShiftPivot, "_7px", nullptr},
     {"_4valid=1,_4s=-1", CoordResult::PlaneScale, "_4s", nullptr},
+    {"axis_direction=WS", CoordResult::Axes, "axis_direction", nullptr},
+    {"axis_direction=1", CoordResult::Success, "", nullptr}, // of another program: north and east
+    {"project_type=13", CoordResult::NoAzimuth, "p_r", nullptr},
+    {"unit_m=feet", CoordResult::Success, "unit_m", nullptr},
     {"geoid_valid=1", CoordResult::NoGeoidFile, "geoid_file", nullptr},
     {"geoid_valid=1,geoid_file=/nowhere/a.gtx", CoordResult::GeoidFile, "geoid_file",
      "/nowhere/a.gtx"},
@@ -69,7 +75,13 @@ TEST(CoordCheck, NamesTheParameterAtFault)
         EXPECT_EQ(fault.key, key);
         EXPECT_EQ(bool(fault), fault.key != "");
         EXPECT_NE(fault.message.find(part), std::string::npos) << fault.message;
-        EXPECT_EQ(fault.message.find('%'), std::string::npos) << fault.message;
+        EXPECT_EQ(fault.message.find_first_of("%{}"), std::string::npos) << fault.message;
+        const auto shown = lum::checkCoordParameters(system, [](auto) { return "Row {%1"; });
+        EXPECT_EQ(shown.key, key);
+        EXPECT_EQ(shown.message.find('_'), std::string::npos) << shown.message;
+        EXPECT_EQ(fault && (named == nullptr || fault.key == "ellipsoid_name"),
+                  shown.message.find("Row {%1") != std::string::npos)
+            << shown.message;
         if (code != CoordResult::Success) {
             EXPECT_EQ(service.code, service.initCode);
             EXPECT_NE(service.message().find(part), std::string::npos);

@@ -1,0 +1,62 @@
+#include "lum_sdk/coords/LengthUnit.h"
+
+#include "lum_sdk/coords/CoordStoredForm.h"
+#include "lum_sdk/coords/EpsgSystem.h"
+#include "tests/lum_sdk/coords/CoordFixture.h"
+
+/// Parameters as older projects and users have them, without the key of the unit.
+TEST(LengthUnit, FollowsFromTheScaleOfThePlane)
+{
+    for (const auto& [parameters, name] :
+         {std::pair("", "metre"), std::pair("project_type=1,factor=0.9996", "metre"),
+          std::pair("project_type=1,factor=3.28083333333333", "US survey foot"),
+          std::pair("project_type=1,factor=3.2804", "US survey foot"), // typed
+          std::pair("project_type=1,factor=3.2808398950131235", "foot"),
+          std::pair("project_type=1,factor=3.28084", "foot"),
+          std::pair("project_type=1,factor=3.279521", "US survey foot"), // 0.9996
+          // 0.9999 in international feet, 0.999966667 in US survey feet
+          std::pair("project_type=1,factor=3.280511811023622", "foot"),
+          std::pair("project_type=1,factor=3.2807239733158333", "US survey foot"),
+          std::pair("project_type=9,factor=4.971014", "Clarke's link"),
+          std::pair("project_type=9,factor=4.9710141367676295", "Clarke's link"),
+          // the projection has a factor of its own, or another one counts
+          std::pair("project_type=2,factor=3.2808398950131235", "metre"),
+          std::pair("project_type=6,factor=3.2808398950131235,cutting_radius=200000", "metre"),
+          std::pair("project_type=1,factor=1,_4valid=1,_4s=3.2808398950131235", "foot"),
+          std::pair("project_type=1,factor=1,_4valid=0,_4s=3.2808398950131235", "metre"),
+          // a key that the scale contradicts is left from another system
+          std::pair("project_type=1,factor=1,unit_m=0.3048", "metre"),
+          std::pair("project_type=1,factor=3.28,unit_m=0.3048", "foot"),
+          std::pair("project_type=1,factor=3.28,unit_m=0.3047972654", "Clarke's foot"),
+          std::pair("project_type=1,factor=4,unit_m=0.25", "0.25 m")})
+        EXPECT_EQ(lum::lengthUnitOf(dictionaryOf(parameters)).name, name) << parameters;
+}
+
+TEST(LengthUnit, IsThatOfTheRegister)
+{
+    for (const auto& [code, text, name] :
+         {std::tuple("32650", "", "metre"),
+          std::tuple("32037", "0.3048006096012192", "US survey foot"),
+          std::tuple("2222", "0.3048", "foot"),
+          std::tuple("30200", "0.201166195164", "Clarke's link"),
+          std::tuple("2136", "0.304799710181509", "Gold Coast foot")}) {
+        SCOPED_TRACE(code);
+        basalt::Dictionary system = dictionaryOf("unit_m=0.25"); // of the system before
+        ASSERT_EQ(fillFromEpsg(code, system), "");
+        EXPECT_EQ(std::string(system.text("unit_m")).substr(0, 17),
+                  std::string(text).substr(0, 17));
+        EXPECT_EQ(lum::lengthUnitOf(system).name, name);
+        lum::toStoredForm(system);
+        EXPECT_EQ(system.contains("unit_m"), *text != '\0');
+        system.remove("unit_m");
+        EXPECT_EQ(lum::lengthUnitOf(system).name, name) << "of an older project";
+    }
+}
+
+TEST(LengthUnit, TellsBothFeetApartInItsSymbol)
+{
+    EXPECT_EQ(symbolOf(lum::lengthUnit(1)), "m");
+    EXPECT_EQ(symbolOf(lum::lengthUnit(0.3048)), "ft");
+    EXPECT_EQ(symbolOf(lum::lengthUnit(0.304800609601219)), "ftUS");
+    EXPECT_EQ(symbolOf(lum::lengthUnit(0.201166195164)), "Clarke's link");
+}
