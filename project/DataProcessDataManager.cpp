@@ -204,8 +204,8 @@ Outcome DataProcessDataManager::saveCopy(const ProjectPlace& copy)
     ProjectCreator::describe(copy, project);
     const basalt::Dictionary present(project);
     dictionary_copy(m_project, project);
-    for (const char* keys : {ProjectFile::kPath, CoordinateRecord::kKeys, CoordinateRecord::kId})
-        dictionary_copy(present, project, keys);
+    dictionary_copy(present, project, ProjectFile::kPath);
+    CoordinateRecord::copy(present, project);
     return logged(ProjectCreator::create(copy, project, [&] { return fillCopy(copy); }));
 }
 
