@@ -51,6 +51,9 @@ DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHos
 
 int DataProcess5Assistant::onMapViewCreated()
 {
+    if (IDictionary& values = get_system_status_dictionary();
+        !values.contains(status::kViewShowWhich))
+        values.set(status::kViewShowWhich, "1");
     addLayer("OnlineMap", "RasterLayerImp", "Online Map");
     addLayer("TifLayer", "TifLayer", "Overlay Image");
     addLayer("BoundaryLayer", "BoundaryLayer", "Survey Boundary");

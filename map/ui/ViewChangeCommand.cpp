@@ -11,28 +11,24 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 
-#include <string>
-
 void ViewChangeCommand::execute()
 {
     if (IMapWindow* const window = map()) {
-        get_system_status_dictionary().set(status::kViewShowWhich, std::to_string(view()));
+        const bool isDesign = parameters().text("caption") == "Design View";
+        get_system_status_dictionary().set(status::kViewShowWhich, isDesign ? "1" : "0");
         host().eventManager().publish(events::kPaintingLayerUpdate, nullptr, 0);
         host().windows().activate(QStringLiteral("DataMap"));
-        const auto* const layer =
-            dynamic_cast<IDataLayer*>(window->layers().find(QStringLiteral("DataProcessLayer")));
-        if (layer == nullptr || !layer->hasMarkIn(window->transform().visibleExtent()))
+        if (!mayStay(*window))
             window->zoomAll();
     }
     announceStatus();
 }
 
-bool ViewChangeCommand::isChecked() const
+bool ViewChangeCommand::mayStay(const IMapWindow& window) const
 {
-    return get_system_status_dictionary().integer(status::kViewShowWhich, 1) == view();
-}
-
-int ViewChangeCommand::view() const
-{
-    return parameters().text("caption") == "Design View" ? 1 : 0;
+    if (parameters().integer("keep_place") != 1)
+        return false;
+    const auto* const layer =
+        dynamic_cast<IDataLayer*>(window.layers().find(QStringLiteral("DataProcessLayer")));
+    return layer != nullptr && layer->hasMarkIn(window.transform().visibleExtent());
 }

@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/frame/Mnemonics.h"
 #include "lum_desktop_sdkx/ICommandExecuterx.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -14,6 +15,15 @@
 
 #include <algorithm>
 
+namespace {
+
+bool holds(const FrameLayout::StatusRule& rule)
+{
+    return get_system_status_dictionary().text(rule.key) == rule.value;
+}
+
+} // namespace
+
 ICommandExecuterx* CommandList::find(const QString& name) const
 {
     const Entry* found = entry(name);
@@ -22,10 +32,10 @@ ICommandExecuterx* CommandList::find(const QString& name) const
 
 bool CommandList::execute(const QString& name)
 {
-    ICommandExecuterx* command = find(name);
-    if (command == nullptr || !command->isEnabled())
+    const Entry* const found = entry(name);
+    if (found == nullptr || !isEnabled(*found))
         return false;
-    run(*command);
+    run(*found->command);
     return true;
 }
 
@@ -62,7 +72,8 @@ QAction* CommandList::add(const FrameLayout::Command& entry, IDesktopHost* host,
     }
     ICommandExecuterx* const target = command.get();
     QObject::connect(action, &QAction::triggered, action, [this, target] { run(*target); });
-    m_entries.push_back({entry.name, entry.caption, std::move(command), action});
+    m_entries.push_back({entry.name, entry.caption, std::move(command), action, entry.enabledWhile,
+                         entry.checkedWhile});
     return action;
 }
 
@@ -77,9 +88,12 @@ void CommandList::refresh()
     for (const Entry& each : m_entries) {
         each.action->setText(captionOf(each));
         each.action->setVisible(!each.action->text().isEmpty());
-        each.action->setEnabled(each.command->isEnabled());
-        each.action->setCheckable(each.command->isCheckable());
-        each.action->setChecked(each.command->isCheckable() && each.command->isChecked());
+        const bool isRuled = !each.checkedWhile.key.empty();
+        const bool isCheckable = isRuled || each.command->isCheckable();
+        each.action->setEnabled(isEnabled(each));
+        each.action->setCheckable(isCheckable);
+        each.action->setChecked(isCheckable &&
+                                (isRuled ? holds(each.checkedWhile) : each.command->isChecked()));
     }
 }
 
@@ -96,6 +110,12 @@ const CommandList::Entry* CommandList::entry(const QString& name) const
     const auto found = std::find_if(m_entries.begin(), m_entries.end(),
                                     [&](const Entry& each) { return each.name == name; });
     return found == m_entries.end() ? nullptr : &*found;
+}
+
+bool CommandList::isEnabled(const Entry& entry)
+{
+    const bool isRuled = !entry.enabledWhile.key.empty();
+    return entry.command->isEnabled() && (!isRuled || holds(entry.enabledWhile));
 }
 
 /// A caption that the command gives keeps the mnemonic of the layout.

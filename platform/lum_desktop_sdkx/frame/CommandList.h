@@ -39,9 +39,12 @@ private:
         QString caption; ///< of the layout, in English
         ICommandExecuterxFactory::Pointer command;
         QAction* action; ///< owned by the frame
+        FrameLayout::StatusRule enabledWhile;
+        FrameLayout::StatusRule checkedWhile;
     };
 
     [[nodiscard]] const Entry* entry(const QString& name) const;
+    [[nodiscard]] static bool isEnabled(const Entry& entry);
     [[nodiscard]] static QString captionOf(const Entry& entry);
     void run(ICommandExecuterx& command);
 

@@ -118,8 +118,20 @@ private:
         command.shortcut = attribute("shortcut");
         command.tip = attribute("tip");
         command.group = attribute("group");
+        command.enabledWhile = statusRule("enabled_while");
+        command.checkedWhile = statusRule("checked_while");
         command.config = config(desktop::withoutMnemonic(command.caption));
         return command;
+    }
+
+    FrameLayout::StatusRule statusRule(const char* name)
+    {
+        const std::string text = attribute(name).toStdString();
+        const std::size_t sign = text.find('=');
+        if (text.empty() || (sign != 0 && sign != std::string::npos))
+            return {text.substr(0, sign), text.empty() ? text : text.substr(sign + 1)};
+        m_xml.raiseError(QStringLiteral("\"%1\" is no key=value").arg(QString::fromLatin1(name)));
+        return {};
     }
 
     FrameLayout::ToolBar readToolBar()

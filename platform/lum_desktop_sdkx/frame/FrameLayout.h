@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <string>
 #include <vector>
 
 /// The main frame as its XML file describes it.
@@ -11,7 +12,7 @@
 ///       <assistant class="..."/>
 ///       <menu caption="...">
 ///         <command class="..." name="..." caption="..." icon="..." shortcut="..." tip="..."
-///                  group="..."/>
+///                  group="..." enabled_while="key=value" checked_while="key=value"/>
 ///         <separator/>  <docks/>  <menu caption="...">...</menu>
 ///       </menu>
 ///       <toolbar name="..." caption="..."> <command name="..."/> <separator/> </toolbar>
@@ -24,6 +25,9 @@
 ///   name is shown. A command with an empty caption is hidden, unless its class gives a caption.
 ///   A letter behind "&" opens an entry by the keyboard; components get the caption without it.
 /// - The entries of one "group" exclude one another and are marked as such.
+/// - "enabled_while" disables an entry, whatever its class says, while the system status has
+/// another
+///   value of the key; "checked_while" checks it while the status has this value.
 /// - "area" is center, left, right, bottom or status. A window becomes a tab beside the last window
 ///   of its area. With "place" below it stands under that window.
 /// - `<docks/>` stands for the list of windows that can be shown and hidden.
@@ -31,6 +35,12 @@
 /// All attributes of a command or window are handed to its component as its configuration.
 struct FrameLayout
 {
+    /// A key of the system status and the value that it is compared with; none without a key.
+    struct StatusRule
+    {
+        std::string key;
+        std::string value;
+    };
     struct Command
     {
         QString className;
@@ -40,6 +50,8 @@ struct FrameLayout
         QString shortcut; ///< portable key sequences, such as "Ctrl+N" or "Ctrl++; Ctrl+="
         QString tip;
         QString group;
+        StatusRule enabledWhile;
+        StatusRule checkedWhile;
         QByteArray config; ///< key list of all attributes
     };
 

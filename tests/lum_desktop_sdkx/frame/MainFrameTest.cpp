@@ -323,6 +323,25 @@ private Q_SLOTS:
         QCOMPARE(executions, 1);
     }
 
+    void theLayoutCanMakeAnEntryFollowTheStatus()
+    {
+        ShownFrame shown(R"(<main_frame><menu caption="M">
+        <command class="StatusCommand" name="Rows" enabled_by="open" enabled_while="view=1"/>
+        <command class="SettingChoiceCommand" name="A" setting="a" checked_while="view=1"/>
+        <command class="SettingChoiceCommand" name="B" setting="a" checked_while="view=0"/>
+        </menu></main_frame>)");
+        ICommandList& commands = shown.host.commands();
+        get_system_status_dictionary().set("open", "1");
+        for (const char* view : {"1", "0", "2", "1"}) {
+            get_system_status_dictionary().set("view", view);
+            shown.host.eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
+            QCOMPARE(commands.action("Rows"_q)->isEnabled(), *view == '1');
+            QCOMPARE(commands.execute("Rows"_q), *view == '1');
+            QCOMPARE(commands.action("A"_q)->isChecked(), *view == '1');
+            QCOMPARE(commands.action("B"_q)->isChecked(), *view == '0');
+        }
+    }
+
     void theEntriesOfAGroupExcludeOneAnother()
     {
         ShownFrame shown(R"(<main_frame><menu caption="M">
