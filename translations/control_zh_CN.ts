@@ -716,8 +716,8 @@
         <translation>坐标单位</translation>
     </message>
     <message>
-        <source>The unit of the cursor position; a setting of the program, not of the project.</source>
-        <translation>光标位置的单位；属于程序设置，不属于工程。</translation>
+        <source>The unit of the cursor position and the scale bar; a setting of the program, not of the project. Feet are those of the coordinate system, or international ones where it has none.</source>
+        <translation>光标位置和比例尺的单位；这是程序的设置，与工程无关。英尺采用坐标系自身的英尺，坐标系不用英尺时为国际英尺。</translation>
     </message>
     <message>
         <source>Metres</source>

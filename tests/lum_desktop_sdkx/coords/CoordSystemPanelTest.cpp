@@ -59,7 +59,7 @@ private Q_SLOTS:
             const char* falseEasting; ///< null: not shown
         } cases[] = {{"32650", "EPSG:32650", "WGS 84", "UTM", nullptr},
                      {"NAD27 / Texas South Central", "EPSG:32040", "Clarke 1866",
-                      "Lambert conformal conic", "2000000 ft"}};
+                      "Lambert conformal conic", "2000000 ftUS"}};
         for (const auto& [text, id, ellipsoid, projection, falseEasting] : cases) {
             open(ownSystem());
             const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
@@ -80,6 +80,26 @@ private Q_SLOTS:
             press(QDialogButtonBox::Ok);
             QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
         }
+    }
+
+    void namesTheUnitOfTheSystem()
+    {
+        const std::tuple<const char*, QString, QString> units[] = {
+            {"32037", "ftUS, US survey foot (0.3048006096 m)"_q, "2000000 ftUS"_q},
+            {"2222", "ft, international foot (0.3048 m)"_q, "700000 ft"_q},
+            {"2100", {}, "500000 m"_q}};
+        open({});
+        for (const auto& [code, unit, easting] : units) {
+            choose(code);
+            QVERIFY2(visibleText().contains(unit), code);
+            QCOMPARE(visibleText().contains("Coordinates are in"_q), !unit.isEmpty());
+            QCOMPARE(shown("False easting"), easting);
+        }
+        choose("32037");
+        open(m_dialog->parameters()); // as when a project is opened again
+        enter("Central meridian", "102 00 00 W");
+        QCOMPARE(value("org_lon"), "-102"_q);
+        QVERIFY(visibleText().contains("by the parameters below.\nCoordinates are in ftUS"_q));
     }
 
     void walksTheListAndDropsASearch()
