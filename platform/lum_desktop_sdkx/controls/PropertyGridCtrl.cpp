@@ -51,6 +51,7 @@ PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
     layout->addWidget(m_description);
 
     connect(m_model, &PropertyGridModel::valueEdited, this, &PropertyGridCtrl::valueChanged);
+    connect(m_model, &PropertyGridModel::faultChanged, this, &PropertyGridCtrl::faultChanged);
     connect(m_model, &PropertyGridModel::dataChanged, this,
             [this] { describe(m_view->currentIndex()); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -96,6 +97,13 @@ bool PropertyGridCtrl::hasFaults()
 {
     m_view->commitEditor();
     return m_model->hasFaults();
+}
+
+QString PropertyGridCtrl::faultText() const
+{
+    const QModelIndex cell = m_model->firstFault();
+    const PropertyGridRow* const row = m_model->row(cell);
+    return row == nullptr ? QString() : tr("\"%1\": %2").arg(row->caption, m_model->fault(cell));
 }
 
 void PropertyGridCtrl::markRow(const QString& key, const QString& message)

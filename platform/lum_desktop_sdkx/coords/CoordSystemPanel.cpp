@@ -91,6 +91,7 @@ CoordSystemPanel::CoordSystemPanel(QWidget* parent)
     connect(m_search, &CoordSystemSearch::chosen, this, &CoordSystemPanel::choose);
     connect(m_shift, &DatumShiftChoice::chosen, this, &CoordSystemPanel::takeShift);
     connect(m_grid, &PropertyGridCtrl::valueChanged, this, &CoordSystemPanel::takeEdit);
+    connect(m_grid, &PropertyGridCtrl::faultChanged, this, &CoordSystemPanel::showFault);
     setParameters(basalt::Dictionary());
 }
 
@@ -112,7 +113,7 @@ basalt::Dictionary CoordSystemPanel::parameters()
 bool CoordSystemPanel::hasFaults()
 {
     judge(); // a geoid file may have been made or deleted meanwhile
-    return m_grid->hasFaults() || !m_isUsable;
+    return m_grid->hasFaults() || !m_refusal.isEmpty();
 }
 
 void CoordSystemPanel::goToFault()
@@ -208,14 +209,20 @@ void CoordSystemPanel::judge()
     if (CoordSystemRows::isSet(values))
         fault = lum::checkCoordParameters(values, nameOf);
     const QString key = lum::toQString(fault.key);
-    const QString message = lum::toQString(fault.message);
-    m_isUsable = !fault;
+    m_refusal = lum::toQString(fault.message);
     if (fault)
         m_grid->setRowVisible(key, true); // the user must be able to correct it
-    m_grid->markRow(key, message);
-    m_fault->setText(message);
+    m_grid->markRow(key, m_refusal);
+    showFault();
+}
+
+/// Shows one fault: what keeps the parameters from working, or else the topmost bad value.
+void CoordSystemPanel::showFault()
+{
+    const QString text = m_refusal.isEmpty() ? m_grid->faultText() : m_refusal;
+    m_fault->setText(text);
     m_fault->setPalette(faultPalette(palette()));
-    m_fault->setVisible(!m_isUsable);
+    m_fault->setVisible(!text.isEmpty());
 }
 
 void CoordSystemPanel::showIdentity()

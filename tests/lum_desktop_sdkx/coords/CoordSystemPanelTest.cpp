@@ -239,6 +239,8 @@ private Q_SLOTS:
         QVERIFY(isMarked("Latitude of origin"));
         QCOMPARE(changed.count(), 0);
         m_grid->setCurrentIndex(cell("Projection"));
+        const QString reason = "\"Latitude of origin\": Enter an angle from -90\u00b0"_q;
+        QVERIFY(visibleText().contains(reason)); // also while another row is described
         press(QDialogButtonBox::Ok);
         QVERIFY(m_dialog->isVisible());
         QCOMPARE(m_grid->currentIndex(), cell("Latitude of origin"));
@@ -247,6 +249,7 @@ private Q_SLOTS:
 
         enter("Latitude of origin", "31");
         QVERIFY(!isMarked("Latitude of origin"));
+        QVERIFY(!visibleText().contains(reason));
         press(QDialogButtonBox::Ok);
         QVERIFY(!m_dialog->isVisible());
         QCOMPARE(value("org_lat"), "31"_q);
