@@ -1,6 +1,7 @@
 #include "exchange/SameCoordSystem.h"
 
 #include "basalt_utilities/IDictionary.h"
+#include "lum_sdk/coords/CoordProjections.h"
 
 #include <array>
 #include <cmath>
@@ -65,13 +66,21 @@ bool differInDatumShift(const IDictionary& first, const IDictionary& second)
            differInGroup(first, second, "_7type", kDatumShiftKeys);
 }
 
+/// An axis to the south or west changes the sign of every coordinate; it has no number.
+bool differInAxes(const IDictionary& first, const IDictionary& second)
+{
+    const auto axes = lum::planeAxes(first);
+    const auto other = lum::planeAxes(second);
+    return axes.isSouth != other.isSouth || axes.isWest != other.isWest;
+}
+
 } // namespace
 
 bool sameCoordSystem(const IDictionary& first, const IDictionary& second)
 {
     return !differInNumber(first, second, kProjectionKeys) &&
            first.integer("project_type") == second.integer("project_type") &&
-           !differInDatumShift(first, second) &&
+           !differInAxes(first, second) && !differInDatumShift(first, second) &&
            !differInGroup(first, second, "_4valid", kPlaneShiftKeys) &&
            !differInGroup(first, second, "correct_valid", kConstantKeys) &&
            !differInGroup(first, second, "fit_valid", kHeightFitKeys);

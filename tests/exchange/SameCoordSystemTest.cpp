@@ -52,6 +52,17 @@ TEST(SameCoordSystem, DespiteDifferencesWithoutEffect)
                {"constants off beside fit on", {{"correct_dh", 1}}, {{"fit_valid", 2}}}});
 }
 
+TEST(SameCoordSystem, NotWithAxesTheOtherWay)
+{
+    basalt::Dictionary turned = dictionaryOf({{"project_type", 11}});
+    const basalt::Dictionary usual = turned;
+    for (const auto& [axes, areSame] :
+         {std::pair("SW", false), std::pair("NE", true), std::pair("1", true)}) {
+        turned.set("axis_direction", axes);
+        EXPECT_EQ(sameCoordSystem(usual, turned), areSame) << axes;
+    }
+}
+
 TEST(SameCoordSystem, NotWithDifferencesThatShow)
 {
     expectAll(false, {{"tolerance", {{"false_east", 500000}}, {{"false_east", 500000.000002}}},

@@ -55,6 +55,7 @@ CoordChain::CoordChain(const IDictionary& parameters) : m_context(makeProjContex
                      " +step +inv +proj=cart" + text.ellipsoid + " +step " + text.projection;
     }
     m_plane = make(definition, CoordResult::Refused, {});
+    m_isInverseRough = text.isInverseRough;
     m_geocentric = make("+proj=cart +ellps=WGS84", CoordResult::Refused, {});
     if (!m_fault && parameters.integer("geoid_valid") != 0)
         makeGeoid(parameters);
@@ -127,9 +128,22 @@ void CoordChain::gridToGeodetic(std::span<PJ_COORD> points, std::span<std::int32
     }
 }
 
+PJ_COORD CoordChain::unprojected(const PJ_COORD& point) const
+{
+    const PJ_COORD found = proj_trans(m_plane.get(), PJ_INV, point);
+    if (!m_isInverseRough || !isFinite(found))
+        return found;
+    // PROJ's inverse misses by a millimetre or two; it misses a point close by in the same way.
+    const PJ_COORD missed = proj_trans(m_plane.get(), PJ_FWD, found);
+    PJ_COORD aim = point;
+    aim.xyz.x += point.xyz.x - missed.xyz.x;
+    aim.xyz.y += point.xyz.y - missed.xyz.y;
+    return proj_trans(m_plane.get(), PJ_INV, aim);
+}
+
 CoordResult CoordChain::undoProjection(PJ_COORD& point) const
 {
-    point = proj_trans(m_plane.get(), PJ_INV, point);
+    point = unprojected(point);
     return isFinite(point) ? CoordResult::Success : CoordResult::OutsideProjection;
 }
 

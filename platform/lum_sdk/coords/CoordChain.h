@@ -36,13 +36,16 @@ private:
     [[nodiscard]] ProjObject make(const std::string& definition, CoordResult codeOnFailure,
                                   const std::string& detail);
     void makeGeoid(const IDictionary& parameters);
+    /// The inverse of `m_plane`, to a nanometre.
+    [[nodiscard]] PJ_COORD unprojected(const PJ_COORD& point) const;
     [[nodiscard]] CoordResult undoProjection(PJ_COORD& point) const;
     [[nodiscard]] CoordResult undoWithGeoid(PJ_COORD& point) const;
 
     ProjContext m_context;
-    ProjObject m_plane;      ///< datum shift and projection
-    ProjObject m_geoid;      ///< null when heights are ellipsoidal
-    ProjObject m_geocentric; ///< on WGS 84
+    ProjObject m_plane;            ///< datum shift and projection
+    bool m_isInverseRough = false; ///< that of `m_plane`
+    ProjObject m_geoid;            ///< null when heights are ellipsoidal
+    ProjObject m_geocentric;       ///< on WGS 84
     CoordCorrections m_corrections;
     CoordFault m_fault;
 };

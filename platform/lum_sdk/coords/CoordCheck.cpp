@@ -4,6 +4,7 @@
 #include "basalt_utilities/IDictionary.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/coords/CoordChain.h"
+#include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/Text.h"
 
 #include <QCoreApplication>
@@ -77,6 +78,8 @@ std::string keyAtFault(const CoordFault& fault)
         return "_7px";
     case CoordResult::PlaneScale:
         return "_4s";
+    case CoordResult::Axes:
+        return kAxesKey;
     case CoordResult::NoGeoidFile:
     case CoordResult::GeoidFile:
         return "geoid_file";

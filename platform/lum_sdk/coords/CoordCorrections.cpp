@@ -22,7 +22,9 @@ double finite(const IDictionary& parameters, const char* key, CoordFault& fault)
 
 CoordCorrections::CoordCorrections(const IDictionary& parameters, const ProjectionText& projection,
                                    CoordFault& fault)
-    : m_north(projection.falseNorth), m_east(projection.falseEast), m_cos(projection.factor)
+    : m_north(projection.falseNorth), m_east(projection.falseEast),
+      m_nn(projection.axes.northSign() * projection.factor),
+      m_ee(projection.axes.eastSign() * projection.factor)
 {
     const auto read = [&](const char* key) { return finite(parameters, key, fault); };
     if (parameters.integer("_4valid") != 0)
@@ -66,16 +68,18 @@ void CoordCorrections::addPlaneShift(const IDictionary& parameters, CoordFault& 
     const double east = m_east - originEast;
     m_north = originNorth + read("_4dx") + cosine * north - sine * east;
     m_east = originEast + read("_4dy") + sine * north + cosine * east;
-    m_sin = sine * m_cos; // m_cos is the factor of the projection so far
-    m_cos = cosine * m_cos;
+    m_en = sine * m_nn; // so far the axes are not turned
+    m_nn = cosine * m_nn;
+    m_ne = -sine * m_ee;
+    m_ee = cosine * m_ee;
 }
 
 GridPosition CoordCorrections::undo(const GridPosition& position) const
 {
     const double north = position.north - m_north;
     const double east = position.east - m_east;
-    const double squared = m_cos * m_cos + m_sin * m_sin;
-    return {(m_cos * north + m_sin * east) / squared, (m_cos * east - m_sin * north) / squared,
+    const double determinant = m_nn * m_ee - m_ne * m_en;
+    return {(m_ee * north - m_ne * east) / determinant, (m_nn * east - m_en * north) / determinant,
             position.height - heightCorrection(position.north, position.east)};
 }
 

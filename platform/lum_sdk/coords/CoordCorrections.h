@@ -10,7 +10,7 @@ namespace lum {
 
 struct ProjectionText;
 
-/// A position on the project grid, metres.
+/// A position on the project grid, in the unit of the system; the height is metres.
 struct GridPosition
 {
     double north = 0;
@@ -18,8 +18,9 @@ struct GridPosition
     double height = 0;
 };
 
-/// The steps after the map projection: factor and false origin; the four-parameter plane shift; the
-/// constant correction; and for the height a polynomial, an inclined plane and a constant.
+/// The steps after the map projection: factor, direction of the axes and false origin; the
+/// four-parameter plane shift; the constant correction; and for the height a polynomial, an
+/// inclined plane and a constant.
 ///
 /// Plane shift: P' = P0 + T + s R (P - P0) with P0 (_4x0, _4y0), T (_4dx, _4dy), s "_4s" (0 counts
 /// as 1), and R turning azimuths clockwise by "_4r" degrees. In all keys x is north and y is east.
@@ -33,11 +34,11 @@ public:
     CoordCorrections(const IDictionary& parameters, const ProjectionText& projection,
                      CoordFault& fault);
 
-    /// \param position  as projected, before factor and false origin
+    /// \param position  as projected, before factor, axes and false origin
     [[nodiscard]] GridPosition apply(const GridPosition& position) const
     {
-        const double north = m_north + m_cos * position.north - m_sin * position.east;
-        const double east = m_east + m_sin * position.north + m_cos * position.east;
+        const double north = m_north + m_nn * position.north + m_ne * position.east;
+        const double east = m_east + m_en * position.north + m_ee * position.east;
         const double correction = m_isHeightFitted ? heightCorrection(north, east) : m_height;
         return {north, east, position.height + correction};
     }
@@ -47,11 +48,13 @@ private:
     void addPlaneShift(const IDictionary& parameters, CoordFault& fault);
     [[nodiscard]] double heightCorrection(double north, double east) const;
 
-    // north' = m_north + m_cos north - m_sin east, east' = m_east + m_sin north + m_cos east
+    // north' = m_north + m_nn north + m_ne east, east' = m_east + m_en north + m_ee east
     double m_north = 0;
     double m_east = 0;
-    double m_cos = 1;
-    double m_sin = 0;
+    double m_nn = 1;
+    double m_ne = 0;
+    double m_en = 0;
+    double m_ee = 1;
 
     bool m_isHeightFitted = false;
     std::array<double, 6> m_fit{};

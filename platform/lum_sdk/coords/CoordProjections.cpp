@@ -28,6 +28,9 @@ enum Code
     Polyconic,
     Krovak,
     SwissOblique,
+    HotineNaturalOrigin,
+    LambertAzimuthal,
+    ColombiaUrban,
 };
 
 // Each entry is one choice of the dialog.
@@ -57,6 +60,14 @@ constexpr std::array kProjections = {
     ProjectionKind{Krovak, QT_TRANSLATE_NOOP("CoordProjections", "Krovak (north and east)"),
                    "org_lon,org_lat,factor,false_east,false_north"},
     ProjectionKind{SwissOblique, QT_TRANSLATE_NOOP("CoordProjections", "Swiss oblique Mercator"),
+                   "org_lon,org_lat,factor,false_east,false_north"},
+    ProjectionKind{HotineNaturalOrigin,
+                   QT_TRANSLATE_NOOP("CoordProjections", "Hotine oblique Mercator (variant A)"),
+                   "org_lon,org_lat,p_r,parallel_1_lat,factor,false_east,false_north"},
+    ProjectionKind{LambertAzimuthal,
+                   QT_TRANSLATE_NOOP("CoordProjections", "Lambert azimuthal equal area"),
+                   "org_lon,org_lat,factor,false_east,false_north"},
+    ProjectionKind{ColombiaUrban, QT_TRANSLATE_NOOP("CoordProjections", "Colombia urban"),
                    "org_lon,org_lat,factor,false_east,false_north"},
 };
 
@@ -167,13 +178,15 @@ std::string mercator(Reader& reader)
     return "+proj=merc" + Reader::item("lat_ts", parallel);
 }
 
-std::string obliqueMercator(Reader& reader)
+std::string obliqueMercator(Reader& reader, bool isFromCentre)
 {
     const double origin = reader.latitude("org_lat", CoordResult::OriginLatitude);
     reader.check(std::abs(origin) < 90, CoordResult::OriginLatitude);
-    const std::string centre = "+proj=omerc" + Reader::item("lat_0", origin);
+    const std::string centre =
+        (isFromCentre ? "+proj=omerc" : "+proj=omerc +no_uoff") + Reader::item("lat_0", origin);
     const double azimuth = reader.number("p_r");
-    if (azimuth != 0) {
+    if (azimuth != 0 || !isFromCentre) {
+        reader.check(azimuth != 0, CoordResult::Azimuth);
         const double turn = reader.number("parallel_1_lat");
         return centre + Reader::item("lonc", reader.longitude("org_lon")) +
                Reader::item("alpha", azimuth) + Reader::item("gamma", turn == 0 ? azimuth : turn);
@@ -215,7 +228,9 @@ std::string specificText(int code, Reader& reader)
     case Mercator:
         return mercator(reader);
     case ObliqueMercator:
-        return obliqueMercator(reader);
+        return obliqueMercator(reader, true);
+    case HotineNaturalOrigin:
+        return obliqueMercator(reader, false);
     case ObliqueStereographic:
         return centred("sterea", reader);
     case PolarStereographic:
@@ -230,6 +245,10 @@ std::string specificText(int code, Reader& reader)
         return centred("krovak", reader);
     case SwissOblique:
         return centred("somerc", reader);
+    case LambertAzimuthal:
+        return centred("laea", reader);
+    case ColombiaUrban:
+        return centred("col_urban", reader) + Reader::item("h_0", reader.number("project_height"));
     default:
         reader.check(code != 0, CoordResult::NoProjection);
         reader.check(false, CoordResult::UnknownProjection, std::to_string(code));
@@ -247,6 +266,11 @@ double cuttingFactor(Reader& reader, double radiusM, double semiMajorM, double i
     const double sphereM = semiMajorM * std::sqrt(1 - e2) / (1 - e2 * sine * sine);
     reader.check(radiusM > 0 && radiusM < sphereM, CoordResult::CuttingRadius);
     return 1 - std::pow(radiusM / sphereM / 2, 2);
+}
+
+bool isAxes(std::string_view text)
+{
+    return text == "NE" || text == "NW" || text == "SE" || text == "SW";
 }
 
 std::string ellipsoidText(double semiMajorM, double inverseFlattening)
@@ -277,6 +301,12 @@ double utmCentralMeridian(double longitudeDeg)
     return std::remainder(meridianDeg, 360);
 }
 
+PlaneAxes planeAxes(const IDictionary& parameters)
+{
+    const std::string_view text = parameters.text(kAxesKey); // other programs have numbers in it
+    return isAxes(text) ? PlaneAxes{text[0] == 'S', text[1] == 'W'} : PlaneAxes();
+}
+
 std::span<const KnownEllipsoid> knownEllipsoids()
 {
     return kEllipsoids;
@@ -300,7 +330,12 @@ ProjectionText projectionText(const IDictionary& parameters, CoordFault& fault)
     reader.check(code != Krovak || (std::abs(axis - 6377397.155) < 0.01 &&
                                     std::abs(flattening - 299.1528128) < 1e-6),
                  CoordResult::KrovakEllipsoid);
-    const double stretch = 1 + height / axis;
+    text.isInverseRough = code == LambertAzimuthal || code == ColombiaUrban;
+    const std::string_view axesText = parameters.text(kAxesKey);
+    reader.check(axesText.size() != 2 || isAxes(axesText), CoordResult::Axes,
+                 std::string(axesText));
+    text.axes = planeAxes(parameters);
+    const double stretch = code == ColombiaUrban ? 1 : 1 + height / axis;
     text.falseNorth = reader.number("false_north");
     if (code == Utm) {
         const double longitude = reader.longitude("org_lon");
@@ -309,7 +344,7 @@ ProjectionText projectionText(const IDictionary& parameters, CoordFault& fault)
         text.falseEast = kUtmFalseEastM;
         return text;
     }
-    if (code != ObliqueMercator)
+    if (code != ObliqueMercator && code != HotineNaturalOrigin)
         text.projection += Reader::item("lon_0", reader.longitude("org_lon"));
     text.falseEast = reader.number("false_east");
     text.factor = reader.number("factor");

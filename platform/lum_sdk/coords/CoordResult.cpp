@@ -78,6 +78,8 @@ constexpr Sentence kSentences[] = {
                                       "centre: \"{_7px}\", \"{_7py}\", \"{_7pz}\".")},
     {CoordResult::PlaneScale,
      QT_TRANSLATE_NOOP("CoordResult", "\"{_4s}\" of the plane shift must not be negative.")},
+    {CoordResult::Axes, QT_TRANSLATE_NOOP("CoordResult", "\"{axis_direction}\" must be NE, NW, SE "
+                                                         "or SW, not %1.")},
     {CoordResult::NoGeoidFile,
      QT_TRANSLATE_NOOP("CoordResult", "The geoid is switched on, but \"{geoid_file}\" is empty.")},
     {CoordResult::GeoidFile,

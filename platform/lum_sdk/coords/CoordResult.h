@@ -41,6 +41,7 @@ enum class CoordResult : std::int32_t
     UnknownDatumShift,
     DatumShiftPivot,
     PlaneScale,
+    Axes,
     NoGeoidFile,
     GeoidFile,
     Refused,

@@ -1,38 +1,14 @@
 #include "lum_sdk/coords/CoordSystemCatalog.h"
 
+#include "lum_sdk/coords/EpsgMethods.h"
 #include "lum_sdk/coords/ProjHandles.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <cstring>
 #include <tuple>
 
 namespace {
-
-/// Methods of the register that the coordinate service computes.
-constexpr std::array<std::string_view, 14> kMethods = {
-    "Transverse Mercator",
-    "Lambert Conic Conformal (1SP)",
-    "Lambert Conic Conformal (2SP)",
-    "Mercator (variant A)",
-    "Mercator (variant B)",
-    "Popular Visualisation Pseudo Mercator",
-    "Hotine Oblique Mercator (variant A)",
-    "Hotine Oblique Mercator (variant B)",
-    "Oblique Stereographic",
-    "Polar Stereographic (variant A)",
-    "Polar Stereographic (variant B)",
-    "Albers Equal Area",
-    "Cassini-Soldner",
-    "American Polyconic",
-};
-
-bool isKnownMethod(std::string_view method)
-{
-    return method == "Krovak (North Orientated)" ||
-           std::find(kMethods.begin(), kMethods.end(), method) != kMethods.end();
-}
 
 std::string folded(std::string_view text)
 {
@@ -105,8 +81,11 @@ CoordSystemCatalog::CoordSystemCatalog()
         proj_get_crs_info_list_from_database(context.get(), "EPSG", wanted.get(), &count));
     for (int i = 0; list && i < count; ++i) {
         const PROJ_CRS_INFO& info = *list.get()[i];
-        if (info.projection_method_name == nullptr || !isKnownMethod(info.projection_method_name))
+        if (info.projection_method_name == nullptr ||
+            lum::findEpsgMethod(std::string_view(info.projection_method_name)) == nullptr)
             continue;
+        if (!m_entries.empty() && m_entries.back().code == info.code)
+            continue; // once for each area in which it is used
         m_entries.push_back({info.code, info.name, info.area_name != nullptr ? info.area_name : "",
                              info.west_lon_degree, info.south_lat_degree, info.east_lon_degree,
                              info.north_lat_degree});

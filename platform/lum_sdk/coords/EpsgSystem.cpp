@@ -4,13 +4,13 @@
 #include "basalt_utilities/Numbers.h"
 #include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/EpsgDatumShift.h"
+#include "lum_sdk/coords/EpsgMethods.h"
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjHandles.h"
 
 #include <QCoreApplication>
 #include <QString>
 
-#include <array>
 #include <cmath>
 #include <map>
 #include <numbers>
@@ -66,75 +66,46 @@ Conversion conversionOf(PJ_CONTEXT* context, const PJ* crs)
     return result;
 }
 
-/// The unit of the plane axes in metres; 0 when they do not point north and east.
-double planeUnitM(PJ_CONTEXT* context, const PJ* crs, bool isPolar)
+struct Axes
 {
+    double unitM = 0;
+    PlaneAxes directions;
+};
+
+/// \param isPolar  at a pole both axes are named after the same direction, and east is as usual
+Axes axesOf(PJ_CONTEXT* context, const PJ* crs, bool isPolar)
+{
+    Axes axes;
     const ProjObject system(proj_crs_get_coordinate_system(context, crs));
-    double unit = 0;
     for (int i = 0; i < 2; ++i) {
         const char* direction = nullptr;
-        if (!system || proj_cs_get_axis_info(context, system.get(), i, nullptr, nullptr, &direction,
-                                             &unit, nullptr, nullptr, nullptr) == 0)
-            return 0;
-        const std::string_view d(direction);
-        if (d != "north" && d != "east" && !(isPolar && d == "south"))
-            return 0;
+        if (system && proj_cs_get_axis_info(context, system.get(), i, nullptr, nullptr, &direction,
+                                            &axes.unitM, nullptr, nullptr, nullptr) != 0) {
+            axes.directions.isSouth |= !isPolar && std::string_view(direction) == "south";
+            axes.directions.isWest |= !isPolar && std::string_view(direction) == "west";
+        }
     }
-    return unit;
+    return axes;
 }
-
-constexpr int kTransverseMercator = 9807;
-constexpr int kLambertOneParallel = 9801;
-constexpr int kLambertTwoParallels = 9802;
-constexpr int kMercatorA = 9804;
-constexpr int kMercatorB = 9805;
-constexpr int kWebMercator = 1024;
-constexpr int kHotineA = 9812;
-constexpr int kHotineB = 9815;
-constexpr int kObliqueStereographic = 9809;
-constexpr int kPolarA = 9810;
-constexpr int kPolarB = 9829;
-constexpr int kAlbers = 9822;
-constexpr int kCassini = 9806;
-constexpr int kPolyconic = 9818;
-constexpr int kKrovakNorth = 1041;
 
 /// The code of "project_type"; 0 when the service has no such projection.
 int projectType(const Conversion& conversion)
 {
-    switch (conversion.method) {
-    case kTransverseMercator:
-        return 1;
-    case kLambertOneParallel:
-    case kLambertTwoParallels:
-        return 3;
-    case kMercatorA:
-    case kMercatorB:
-    case kWebMercator:
-        return 4;
-    case kHotineA:
-        return 5;
-    case kHotineB: // the Swiss form is the one along the parallel
-        return conversion.value({8813}) == 90 && conversion.value({8814}) == 90 ? 12 : 5;
-    case kObliqueStereographic:
-        return 6;
-    case kPolarA:
-    case kPolarB:
-        return 7;
-    case kAlbers:
-        return 8;
-    case kCassini:
-        return 9;
-    case kPolyconic:
-        return 10;
-    case kKrovakNorth: // cone axis and pseudo standard parallel are constants of the projection
-        return std::abs(conversion.value({1036}) - 30.2881397527778) < 1e-6 &&
-                       std::abs(conversion.value({8818}) - 78.5) < 1e-9
-                   ? 11
-                   : 0;
-    default:
+    using namespace epsg_method;
+    const EpsgMethod* const method = findEpsgMethod(conversion.method);
+    if (method == nullptr)
         return 0;
+    if (method->code == kHotineB) // the Swiss form is the one along the parallel
+        return conversion.value({8813}) == 90 && conversion.value({8814}) == 90
+                   ? 12
+                   : method->projectType;
+    if (method->code == kKrovak || method->code == kKrovakNorth) {
+        // cone axis and pseudo standard parallel are constants of the projection
+        const bool isUsual = std::abs(conversion.value({1036}) - 30.2881397527778) < 1e-6 &&
+                             std::abs(conversion.value({8818}) - 78.5) < 1e-9;
+        return isUsual ? method->projectType : 0;
     }
+    return method->projectType;
 }
 
 void fillEllipsoid(PJ_CONTEXT* context, const PJ* crs, bool isSphere, IDictionary& to)
@@ -159,58 +130,44 @@ double primeMeridianDeg(PJ_CONTEXT* context, const PJ* crs)
     return longitude * unit * 180 / std::numbers::pi;
 }
 
-/// Where the centre of an oblique Mercator lies from its natural origin, metres east and north.
-std::array<double, 2> hotineCentre(PJ_CONTEXT* context, const Conversion& conversion,
-                                   const IDictionary& ellipsoid)
+bool isAtPole(const Conversion& conversion)
 {
-    const auto item = [](const char* name, double value) {
-        return std::string(" +") + name + '=' + basalt::formatShortest(value);
-    };
-    const double latitude = conversion.value({8811});
-    const double longitude = conversion.value({8812});
-    const ProjObject projection(proj_create(
-        context,
-        ("+proj=omerc +no_uoff" + item("lat_0", latitude) + item("lonc", longitude) +
-         item("alpha", conversion.value({8813})) + item("gamma", conversion.value({8814})) +
-         item("k_0", conversion.value({8815})) + item("a", ellipsoid.number("ellipsoid_a")) +
-         item("rf", ellipsoid.number("ellipsoid_f")))
-            .c_str()));
-    constexpr double kDegree = std::numbers::pi / 180;
-    const PJ_COORD centre = proj_trans(projection.get(), PJ_FWD,
-                                       proj_coord(longitude * kDegree, latitude * kDegree, 0, 0));
-    return {centre.xy.x, centre.xy.y};
+    return projectType(conversion) == 7 || std::abs(conversion.value({8801})) == 90;
 }
 
-void fillProjection(PJ_CONTEXT* context, const PJ* crs, const Conversion& from, double unitM,
+void fillProjection(PJ_CONTEXT* context, const PJ* crs, const Conversion& from, const Axes& axes,
                     IDictionary& to)
 {
     const auto set = [&](const char* key, double value) { dic_set_value(to, key, value); };
     const int type = projectType(from);
-    double origin = from.value({8801, 8811, 8821});
-    double easting = from.value({8806, 8816, 8826});
-    double northing = from.value({8807, 8817, 8827});
-    if (from.method == kPolarB)
-        origin = std::copysign(90, from.value({8832}));
-    if (from.method == kHotineA) {
-        const auto [east, north] = hotineCentre(context, from, to);
-        easting += east;
-        northing += north;
-    }
+    const bool isPolarB = from.method == epsg_method::kPolarB;
     dic_set_value(to, "project_type", type);
-    set("org_lat", origin);
+    set("org_lat",
+        isPolarB ? std::copysign(90, from.value({8832})) : from.value({8801, 8811, 8821}));
     set("org_lon", from.value({8802, 8812, 8822, 8833}) + primeMeridianDeg(context, crs));
-    set("false_east", easting / unitM);
-    set("false_north", northing / unitM);
-    set("factor", from.value({8805, 8815, 8819}, 1) / unitM);
+    set("false_east", from.value({8806, 8816, 8826}) / axes.unitM);
+    set("false_north", from.value({8807, 8817, 8827}) / axes.unitM);
+    set("factor", from.value({8805, 8815, 8819, 1038}, 1) / axes.unitM);
     set("parallel_1_lat", from.value({8823, 8832}));
     set("parallel_2_lat", from.value({8824}));
     set("p_r", 0);
-    if (type == 5) {
+    if (type == 5 || type == 13) {
         set("p_r", from.value({8813}));
         set("parallel_1_lat", from.value({8814}));
     }
-    for (const char* key : {"project_height", "cutting_radius", "lon1", "lon2", "lat1", "lat2"})
+    set("project_height", from.value({1039}));
+    for (const char* key : {"cutting_radius", "lon1", "lon2", "lat1", "lat2"})
         set(key, 0);
+}
+
+void setAxes(const Axes& axes, IDictionary& parameters)
+{
+    const std::string directions{axes.directions.isSouth ? 'S' : 'N',
+                                 axes.directions.isWest ? 'W' : 'E'};
+    if (directions != "NE")
+        parameters.set(kAxesKey, directions);
+    else if (parameters.contains(kAxesKey))
+        parameters.set(kAxesKey, {}); // of the system before
 }
 
 /// Gives a UTM system its own code of "project_type".
@@ -229,7 +186,7 @@ void nameUtm(const char* name, IDictionary& to)
 
 } // namespace lum
 
-std::string fillFromEpsg(std::string_view code, IDictionary& parameters)
+std::string fillProjectionFromEpsg(std::string_view code, IDictionary& parameters)
 {
     using namespace lum;
     const ProjContext context = makeProjContext();
@@ -258,25 +215,29 @@ std::string fillFromEpsg(std::string_view code, IDictionary& parameters)
                    "EpsgSystem", "EPSG:%1 uses the map projection \"%2\", which is not supported.")
             .arg(shownCode, conversion.methodName)
             .toStdString();
-    const bool isPolar = projectType(conversion) == 7;
-    const double unitM = planeUnitM(context.get(), crs.get(), isPolar);
-    if (unitM <= 0)
-        return QCoreApplication::translate(
-                   "EpsgSystem",
-                   "The axes of EPSG:%1 do not point north and east, which is not supported.")
-            .arg(shownCode)
-            .toStdString();
 
+    const Axes axes = axesOf(context.get(), crs.get(), isAtPole(conversion));
     basalt::Dictionary filled;
-    fillEllipsoid(context.get(), crs.get(), conversion.method == kWebMercator, filled);
-    fillProjection(context.get(), crs.get(), conversion, unitM, filled);
+    const bool isSphere = conversion.method == epsg_method::kWebMercator;
+    fillEllipsoid(context.get(), crs.get(), isSphere, filled);
+    fillProjection(context.get(), crs.get(), conversion, axes, filled);
     nameUtm(proj_get_name(crs.get()), filled);
-    const EpsgDatumShifts shifts = epsgDatumShifts(code);
-    (shifts.best() != nullptr ? shifts.best()->shift : DatumShift()).toDictionary(filled);
-    for (const char* key : {"_4valid", "correct_valid", "fit_valid", "ver_valid"})
-        dic_set_value(filled, key, 0);
     dictionary_copy(filled, parameters);
-    setLengthUnit(lengthUnit(unitM), parameters);
+    setAxes(axes, parameters);
+    setLengthUnit(lengthUnit(axes.unitM), parameters);
+    return {};
+}
+
+std::string fillFromEpsg(std::string_view code, IDictionary& parameters)
+{
+    if (std::string reason = fillProjectionFromEpsg(code, parameters); !reason.empty())
+        return reason;
+    const lum::EpsgDatumShifts shifts = lum::epsgDatumShifts(code);
+    const lum::DatumShift shift =
+        shifts.best() != nullptr ? shifts.best()->shift : lum::DatumShift();
+    shift.toDictionary(parameters);
+    for (const char* key : {"_4valid", "correct_valid", "fit_valid", "ver_valid"})
+        dic_set_value(parameters, key, 0);
     return {};
 }
 

@@ -70,11 +70,12 @@ int decimalsOf(double value)
 }
 
 /// The unit of the fewest decimals in the scale: 3937/1200 leaves 1 for US survey feet and 0.999998
-/// for international feet. Null when none leaves a round scale.
+/// for international feet. Null when none has fewer than the factor itself, which was typed, such
+/// as 3.28083, and is no quotient.
 const LengthUnit* unitOfRoundScale(double scale)
 {
     const LengthUnit* best = nullptr;
-    int fewest = kMostDecimals + 1;
+    int fewest = decimalsOf(scale);
     for (const LengthUnit& unit : registerUnits()) {
         const int decimals =
             isScale(scale * unit.metres) ? decimalsOf(scale * unit.metres) : fewest;
@@ -102,8 +103,7 @@ LengthUnit nearestUnit(double scale)
 
 LengthUnit unitByScale(double scale)
 {
-    const bool isTyped = decimalsOf(scale) <= kMostDecimals; // such as 3.28083: no quotient
-    const LengthUnit* const unit = isTyped ? nullptr : unitOfRoundScale(scale);
+    const LengthUnit* const unit = unitOfRoundScale(scale);
     return unit != nullptr ? *unit : nearestUnit(scale);
 }
 

@@ -97,6 +97,15 @@ const ProjectionCase kCases[] = {
     // GN; the same
     {"Krovak", 11, kBessel, {dms(24, 50), 49.5, 0.9999},
      {dms(50, 12, 32.442), dms(16, 50, 59.179)}, -1050538.63, -568991.00, 0.02, {47, 12}, {52, 23}},
+    // GN; org_lon, org_lat, azimuth, angle of the grid, factor, false_east, false_north
+    {"HotineVariantA", 13, {6377298.556, 300.8017},
+     {115, 4, dms(53, 18, 56.9537), dms(53, 7, 48.3685), 0.99984},
+     {dms(5, 23, 14.1129), dms(115, 48, 19.8196)}, 596562.78, 679245.73, 0.01, {0, 109}, {8, 120}},
+    // GN; org_lon, org_lat, factor, false_east, false_north
+    {"LambertAzimuthal", 14, {6378137, 298.257222101}, {10, 52, 0, 4321000, 3210000},
+     {50, 5}, 2999718.85, 3962799.45, 0.01, {25, -40}, {84, 70}},
+    {"EquatorialStereographic", 6, kWgs84, {117, 0, 0.9999, 0, 500000},
+     {3, 119}, 331869.69, 722487.79, 0.01, {-5, 110}, {5, 124}},
     // Swiss Federal Office of Topography, "Formulas and constants for the calculation of the Swiss
     // conformal cylindrical projection", the point Rigi; the same
     {"SwissOblique", 12, kBessel, {dms(7, 26, 22.5), dms(46, 57, 8.66), 0, 600000, 200000},

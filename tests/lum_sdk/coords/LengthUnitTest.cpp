@@ -13,6 +13,7 @@ TEST(LengthUnit, FollowsFromTheScaleOfThePlane)
           std::pair("project_type=1,factor=3.2804", "US survey foot"), // typed
           std::pair("project_type=1,factor=3.2808398950131235", "foot"),
           std::pair("project_type=1,factor=3.28084", "foot"),
+          std::pair("project_type=1,factor=3.279521", "US survey foot"), // 0.9996
           // 0.9999 in international feet, 0.999966667 in US survey feet
           std::pair("project_type=1,factor=3.280511811023622", "foot"),
           std::pair("project_type=1,factor=3.2807239733158333", "US survey foot"),
