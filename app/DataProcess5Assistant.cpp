@@ -19,6 +19,7 @@
 #include <QPointF>
 
 #include <cstring>
+#include <string>
 
 namespace {
 
@@ -34,7 +35,9 @@ void openTable(IWindowRegistry& windows, const char* className, const char* titl
 } // namespace
 
 DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHost* host)
-    : m_host(*host), m_subscription(*this, events::kXyChanged, host->eventManager()),
+    : m_host(*host),
+      m_subscription(*this, std::string(events::kXyChanged) + "," + events::kUpdateSystemStatus,
+                     host->eventManager()),
       m_dataManager(std::make_unique<DataProcessDataManager>(host))
 {
 }
@@ -86,7 +89,9 @@ int DataProcess5Assistant::openFile(const QString& path)
 void DataProcess5Assistant::handleEvent(const char* eventName, const char* payload,
                                         int /*reserved*/)
 {
-    if (std::strcmp(eventName, events::kXyChanged) == 0)
+    if (!ProjectState::isOpen()) // there is no grid to have a position on
+        m_host.eventManager().publish(events::kXyChangedText, "", 0);
+    else if (std::strcmp(eventName, events::kXyChanged) == 0)
         announcePosition(payload);
 }
 

@@ -11,7 +11,7 @@ class IDesktopHost;
 
 /// The program's assistant, registered as "DataProcess5". It owns the data manager, adds the layers
 /// to the map, opens the tables, asks before the program closes, and turns the position of the
-/// map's cursor into the text of the status bar.
+/// map's cursor into the text of the status bar, which is empty without a project.
 class DataProcess5Assistant final : public GuiAssistantBase, public IEventHandler
 {
 public:

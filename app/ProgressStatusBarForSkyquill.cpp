@@ -12,11 +12,14 @@
 #include <QLabel>
 #include <QProgressBar>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
 constexpr int kFrameMs = 33;
-constexpr int kWidestLabel = 420; // pixels; the rest of the status bar needs its place
+// The rest of the status bar needs its place.
+constexpr int kWidestLabel = 420; // pixels
+constexpr int kLabelShare = 3;    // of the window's width, at most the third part
 } // namespace
 
 ProgressStatusBarForSkyquill::ProgressStatusBarForSkyquill(const char* config, IDesktopHost* host)
@@ -26,6 +29,7 @@ ProgressStatusBarForSkyquill::ProgressStatusBarForSkyquill(const char* config, I
 {
     m_label->setTextFormat(Qt::PlainText);
     m_label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_label->setMinimumWidth(1); // it must not push a small window wider
     m_bar->setFixedSize(200, 15);
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(10, 0, 10, 0);
@@ -70,7 +74,8 @@ void ProgressStatusBarForSkyquill::showPayload(const char* payload)
     payload::read(payload, m_values);
     const std::string_view text = m_values.text("text");
     m_label->setText(
-        m_label->fontMetrics().elidedText(lum::toQString(text), Qt::ElideMiddle, kWidestLabel));
+        m_label->fontMetrics().elidedText(lum::toQString(text), Qt::ElideMiddle,
+                                          std::min(kWidestLabel, window()->width() / kLabelShare)));
     if (m_values.integer("scroll", 0) != 0) {
         m_bar->setMaximum(0);
     } else {

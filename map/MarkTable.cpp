@@ -102,6 +102,15 @@ std::optional<MarkTable::Nearest> MarkTable::nearest(const GridPlace& to, double
     return best;
 }
 
+bool MarkTable::hasMarkIn(const QRectF& map) const
+{
+    return std::any_of(m_blocks.begin(), m_blocks.end(), [&](const Block& block) {
+        return block.seen.touches(map) &&
+               std::any_of(m_map.begin() + block.first, m_map.begin() + block.end,
+                           [&](const QPointF& place) { return map.contains(place); });
+    });
+}
+
 std::optional<MarkTable::Index> MarkTable::find(std::string_view name) const
 {
     for (const Line& line : m_lines) {

@@ -75,6 +75,8 @@ public:
 
     /// The nearest mark less than `reachM` away; of several equally near ones the first.
     [[nodiscard]] std::optional<Nearest> nearest(const GridPlace& to, double reachM) const;
+    /// Whether a mark lies in this rectangle, map coordinates.
+    [[nodiscard]] bool hasMarkIn(const QRectF& map) const;
     /// The first mark of this name.
     [[nodiscard]] std::optional<Index> find(std::string_view name) const;
     [[nodiscard]] const Line& lineOf(Index mark) const;

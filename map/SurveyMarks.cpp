@@ -1,5 +1,6 @@
 #include "map/SurveyMarks.h"
 
+#include <algorithm>
 #include <cmath>
 
 SurveyMarks::SurveyMarks(const SurveyPoints& points, const ToMap& toMap)
@@ -48,6 +49,13 @@ Bounds SurveyMarks::gridBounds() const
             all.add(base.north, base.east);
     }
     return all;
+}
+
+bool SurveyMarks::hasMarkIn(const QRectF& map) const
+{
+    return m_table.hasMarkIn(map) ||
+           std::any_of(m_basePlaces.begin(), m_basePlaces.end(),
+                       [&](const QPointF& place) { return map.contains(place); });
 }
 
 std::optional<std::size_t> SurveyMarks::nearestBase(const GridPlace& to, double reachM) const

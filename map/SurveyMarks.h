@@ -30,6 +30,8 @@ public:
     /// The bounds of all marks and base stations on the grid; x is northing, y is easting.
     [[nodiscard]] Bounds gridBounds() const;
 
+    /// Whether a result or a base station lies in this rectangle, map coordinates.
+    [[nodiscard]] bool hasMarkIn(const QRectF& map) const;
     /// The index of the nearest base station less than `reachM` away; of several equally near ones
     /// the first.
     [[nodiscard]] std::optional<std::size_t> nearestBase(const GridPlace& to, double reachM) const;

@@ -18,9 +18,6 @@
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
 
-#include <QGuiApplication>
-#include <QScreen>
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -165,60 +162,54 @@ void DataProcessLayerImp::clearOldHighlights()
 
 void DataProcessLayerImp::preparePaint()
 {
-    Surroundings now;
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        now.drawingArea = screen->geometry();
+    std::optional<double> spacingM;
     if (DataProcessDataManager::hasInstance())
-        now.spacingM = smallestSpacingM(DataProcessDataManager::instance().designParameters());
-    const std::lock_guard lock(m_surroundingsMutex);
-    m_surroundings = now;
+        spacingM = smallestSpacingM(DataProcessDataManager::instance().designParameters());
+    const std::lock_guard lock(m_spacingMutex);
+    m_spacingM = spacingM;
 }
 
 void DataProcessLayerImp::Paint(const PaintTarget& target, const QRectF& /*view*/,
                                 QPainter& painter)
 {
-    Surroundings surroundings;
-    {
-        const std::lock_guard lock(m_surroundingsMutex);
-        surroundings = m_surroundings;
-    }
     const int view = viewOf(target.status);
     if (view == kSurveyView)
-        paintSurveyPicture(target, surroundings, painter);
+        paintSurveyPicture(target, painter);
     else if (view == kDesignView)
-        paintDesignPicture(target, surroundings, painter);
+        paintDesignPicture(target, painter);
 }
 
-void DataProcessLayerImp::paintDesignPicture(const PaintTarget& target,
-                                             const Surroundings& surroundings, QPainter& painter)
+void DataProcessLayerImp::paintDesignPicture(const PaintTarget& target, QPainter& painter)
 {
-    if (!surroundings.spacingM)
+    std::optional<double> spacingM;
+    {
+        const std::lock_guard lock(m_spacingMutex);
+        spacingM = m_spacingM;
+    }
+    if (!spacingM)
         return;
     DesignPictureOptions options;
-    options.spacingM = *surroundings.spacingM;
+    options.spacingM = *spacingM;
     options.showsReceiverLines = target.status.integer(status::kShowReceiverLines, 1) != 0;
     options.showsSourceLines = target.status.integer(status::kShowSourceLines, 1) != 0;
     const auto marks = currentOf(m_design, m_designMutex);
-    paintDesign(*marks, frameOf(target, surroundings, LayerTexts::drawDesign()), options, painter);
+    paintDesign(*marks, frameOf(target, LayerTexts::drawDesign()), options, painter);
     m_host.eventManager().publish(events::kProgress, payload::kProgressEnd, 0);
 }
 
-void DataProcessLayerImp::paintSurveyPicture(const PaintTarget& target,
-                                             const Surroundings& surroundings, QPainter& painter)
+void DataProcessLayerImp::paintSurveyPicture(const PaintTarget& target, QPainter& painter)
 {
     const auto marks = currentOf(m_survey, m_surveyMutex);
-    paintSurvey(*marks, frameOf(target, surroundings, LayerTexts::drawSurvey()),
-                LayerTexts::baseLabel(), painter);
+    paintSurvey(*marks, frameOf(target, LayerTexts::drawSurvey()), LayerTexts::baseLabel(),
+                painter);
     m_host.eventManager().publish(events::kProgress, payload::kProgressEnd, 0);
 }
 
-PictureFrame DataProcessLayerImp::frameOf(const PaintTarget& target,
-                                          const Surroundings& surroundings,
-                                          const QString& caption) const
+PictureFrame DataProcessLayerImp::frameOf(const PaintTarget& target, const QString& caption) const
 {
     PictureFrame frame;
     frame.transform = target.transform;
-    frame.drawingArea = surroundings.drawingArea;
+    frame.drawingArea = frame.screenArea(0); // wherever the window stands
     frame.isStopped = [&target] { return target.isCancelled(); };
     frame.lineDone = [this, text = caption.toStdString()](double percent) {
         m_host.eventManager().publish(events::kProgress, payload::progress(text, percent).c_str(),
@@ -317,15 +308,45 @@ bool DataProcessLayerImp::GetBaseRecord(int index, BaseStation& record) const
     return true;
 }
 
+bool DataProcessLayerImp::hasMarkIn(const QRectF& map) const
+{
+    const int view = viewOf(get_system_status_dictionary());
+    if (view == kDesignView)
+        return m_design->table().hasMarkIn(map);
+    return view == kSurveyView && m_survey->hasMarkIn(map);
+}
+
 QString DataProcessLayerImp::tipAt(const QPointF& map) const
 {
     const int view = viewOf(get_system_status_dictionary());
     if (view == kDesignView)
-        return PickDesignPoint(map.x(), map.y());
-    if (view != kSurveyView)
+        return designTip(map);
+    return view == kSurveyView ? surveyTip(map) : QString();
+}
+
+QString DataProcessLayerImp::designTip(const QPointF& map) const
+{
+    const auto pick = pickDesign(map);
+    if (!pick)
         return {};
+    const MarkTable& marks = m_design->table();
+    const MarkTable::Line& line = marks.lineOf(pick->mark);
+    const int type = m_design->typeOf(static_cast<std::size_t>(&line - marks.lines().data()));
+    return LayerTexts::designTip(type, lum::toQString(line.number),
+                                 lum::toQString(marks.name(pick->mark)), marks.grid(pick->mark));
+}
+
+QString DataProcessLayerImp::surveyTip(const QPointF& map) const
+{
     const SurveyPick pick = pickSurvey(map);
-    if (pick.base)
-        return LayerTexts::baseLabel() + QLatin1Char('-') + QString::number(*pick.base + 1);
-    return pick.mark ? lum::toQString(m_survey->table().name(pick.mark->mark)) : QString();
+    if (pick.base) {
+        const BaseStation& base = m_survey->bases()[*pick.base];
+        return LayerTexts::baseTip(*pick.base, {base.north, base.east});
+    }
+    if (!pick.mark)
+        return {};
+    const MarkTable& marks = m_survey->table();
+    const MarkTable::Index mark = pick.mark->mark;
+    return LayerTexts::surveyTip(lum::toQString(marks.lineOf(mark).number),
+                                 lum::toQString(marks.name(mark)), marks.grid(mark));
 }

@@ -32,8 +32,7 @@ public:
     [[nodiscard]] std::string GetName() const override;
     [[nodiscard]] QRectF GetExtent() const override { return m_extent; }
     void SetTransform(const Transform* transform) override { m_transform = transform; }
-    /// Reads the screen and the spacings of the design. Without spacings there is no design
-    /// picture.
+    /// Reads the spacings of the design. Without spacings there is no design picture.
     void preparePaint() override;
     /// Publishes the progress after each line. It holds no lock while it paints or publishes.
     void Paint(const PaintTarget& target, const QRectF& view, QPainter& painter) override;
@@ -51,16 +50,12 @@ public:
                                       QPointF& position) const override;
     [[nodiscard]] bool GetBasePosition(int index, QPointF& position) const override;
     [[nodiscard]] bool GetBaseRecord(int index, BaseStation& record) const override;
-    /// The name of the point there, of the picture in view; for a base station its label.
+    [[nodiscard]] bool hasMarkIn(const QRectF& map) const override;
+    /// Line, number, kind and grid position of the point there, of the picture in view; of a base
+    /// station its label and position.
     [[nodiscard]] QString tipAt(const QPointF& map) const override;
 
 private:
-    /// What a paint needs and only the GUI thread may read.
-    struct Surroundings
-    {
-        QRectF drawingArea{0, 0, 1920, 1080};
-        std::optional<double> spacingM; ///< the smallest of the design; nothing without spacings
-    };
     struct SurveyPick
     {
         std::optional<MarkTable::Nearest> mark; ///< the nearest result
@@ -74,18 +69,17 @@ private:
     void handOverExtent();
     void clearOldHighlights();
 
-    void paintDesignPicture(const PaintTarget& target, const Surroundings& surroundings,
-                            QPainter& painter);
-    void paintSurveyPicture(const PaintTarget& target, const Surroundings& surroundings,
-                            QPainter& painter);
-    [[nodiscard]] PictureFrame frameOf(const PaintTarget& target, const Surroundings& surroundings,
-                                       const QString& caption) const;
+    void paintDesignPicture(const PaintTarget& target, QPainter& painter);
+    void paintSurveyPicture(const PaintTarget& target, QPainter& painter);
+    [[nodiscard]] PictureFrame frameOf(const PaintTarget& target, const QString& caption) const;
 
     [[nodiscard]] QPointF toMap(double north, double east) const;
     [[nodiscard]] double reachM() const;
     [[nodiscard]] GridPlace gridAt(const QPointF& map) const;
     [[nodiscard]] SurveyPick pickSurvey(const QPointF& map) const;
     [[nodiscard]] std::optional<MarkTable::Nearest> pickDesign(const QPointF& map) const;
+    [[nodiscard]] QString designTip(const QPointF& map) const;
+    [[nodiscard]] QString surveyTip(const QPointF& map) const;
 
     basalt::Dictionary m_properties;
     IDesktopHost& m_host; // outlives the layer
@@ -103,6 +97,6 @@ private:
     std::mutex m_designMutex;
     std::shared_ptr<const DesignMarks> m_design = std::make_shared<const DesignMarks>();
 
-    std::mutex m_surroundingsMutex;
-    Surroundings m_surroundings;
+    std::mutex m_spacingMutex;
+    std::optional<double> m_spacingM; ///< the smallest of the design; nothing without spacings
 };

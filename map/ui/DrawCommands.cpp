@@ -23,6 +23,11 @@ void LineToggleCommand::execute()
     announceStatus();
 }
 
+bool LineToggleCommand::isEnabled() const
+{
+    return get_system_status_dictionary().integer(status::kViewShowWhich, 1) == 1;
+}
+
 bool LineToggleCommand::isChecked() const
 {
     return get_system_status_dictionary().integer(m_statusKey, 1) == 1;

@@ -4,7 +4,8 @@
 
 // The commands that show or hide a part of the map, each by a system status.
 
-/// Shows or hides the design lines of one type.
+/// Shows or hides the design lines of one type. Enabled in the design view, since the survey view
+/// has no such lines.
 class LineToggleCommand : public MapCommandBase
 {
 public:
@@ -12,6 +13,7 @@ public:
     LineToggleCommand(const char* config, IDesktopHost* host, const char* statusKey);
 
     void execute() override;
+    [[nodiscard]] bool isEnabled() const override;
     [[nodiscard]] bool isCheckable() const override { return true; }
     [[nodiscard]] bool isChecked() const override;
 

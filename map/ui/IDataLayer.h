@@ -20,4 +20,6 @@ public:
                                               QPointF& position) const = 0;
     [[nodiscard]] virtual bool GetBasePosition(int index, QPointF& position) const = 0;
     [[nodiscard]] virtual bool GetBaseRecord(int index, BaseStation& record) const = 0;
+    /// Whether a mark of the picture in view lies in this part of the map.
+    [[nodiscard]] virtual bool hasMarkIn(const QRectF& map) const = 0;
 };

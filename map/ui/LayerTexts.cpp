@@ -1,6 +1,19 @@
 #include "map/ui/LayerTexts.h"
 
+#include "basalt_utilities/Numbers.h"
+#include "map/MarkTable.h"
+
 #include <QCoreApplication>
+
+namespace {
+
+QString withPosition(const QString& what, const GridPlace& grid)
+{
+    return what + QString::fromStdString("\nN=" + basalt::formatFixed(grid.north, 3) +
+                                         "    E=" + basalt::formatFixed(grid.east, 3));
+}
+
+} // namespace
 
 namespace LayerTexts {
 
@@ -22,6 +35,29 @@ QString drawDesign()
 QString drawSurvey()
 {
     return QCoreApplication::translate("DataProcessLayerImp", "Draw Survey Data");
+}
+
+QString designTip(int type, const QString& line, const QString& point, const GridPlace& grid)
+{
+    const char* const kind =
+        type == 1   ? QT_TRANSLATE_NOOP("DataProcessLayerImp", "Line %1, point %2 (receiver)")
+        : type == 0 ? QT_TRANSLATE_NOOP("DataProcessLayerImp", "Line %1, point %2 (source)")
+                    : QT_TRANSLATE_NOOP("DataProcessLayerImp", "Line %1, point %2 (design)");
+    return withPosition(QCoreApplication::translate("DataProcessLayerImp", kind).arg(line, point),
+                        grid);
+}
+
+QString surveyTip(const QString& line, const QString& point, const GridPlace& grid)
+{
+    const QString what =
+        QCoreApplication::translate("DataProcessLayerImp", "Line %1, point %2 (survey result)");
+    return withPosition(what.arg(line, point), grid);
+}
+
+QString baseTip(std::size_t index, const GridPlace& grid)
+{
+    const QString what = QCoreApplication::translate("DataProcessLayerImp", "%1-%2 (base station)");
+    return withPosition(what.arg(baseLabel()).arg(index + 1), grid);
 }
 
 } // namespace LayerTexts

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+
 class QString;
+struct GridPlace;
 
 /// The words of the data layer in the user's language. Any thread may ask.
 namespace LayerTexts {
@@ -12,5 +15,15 @@ namespace LayerTexts {
 /// The captions of the progress bar while a picture is drawn.
 [[nodiscard]] QString drawDesign();
 [[nodiscard]] QString drawSurvey();
+
+// What the resting cursor tells: what lies there, and below it the position on the grid, with the
+// numbers that lists and files have.
+
+/// \param type of the line: 1 receiver, 0 source
+[[nodiscard]] QString designTip(int type, const QString& line, const QString& point,
+                                const GridPlace& grid);
+[[nodiscard]] QString surveyTip(const QString& line, const QString& point, const GridPlace& grid);
+/// \param index counted from 0
+[[nodiscard]] QString baseTip(std::size_t index, const GridPlace& grid);
 
 } // namespace LayerTexts

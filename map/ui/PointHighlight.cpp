@@ -52,8 +52,11 @@ void show(IDesktopHost& host, const QPointF& measured, const QPointF& design)
     goTo(*map, measured, scaleFor(measured, design));
     basalt::Dictionary properties;
     properties.set("point_radius", "5");
+    properties.set("vertex_shapes", "cross ring"); // measured, designed
     QPolygonF positions;
-    positions << measured << design;
+    positions << measured;
+    if (design != measured)
+        positions << design;
     IOverlay& overlay = map->overlay(0);
     overlay.clear();
     overlay.setProperties(properties);

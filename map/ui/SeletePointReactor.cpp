@@ -97,6 +97,7 @@ void SeletePointReactor::highlight(const QColor& color, const QPolygonF& shape)
 {
     basalt::Dictionary properties;
     properties.set("point_radius", "5");
+    properties.set("vertex_shapes", "cross ring"); // measured, designed
     IOverlay& overlay = map().overlay(0);
     overlay.clear();
     overlay.setProperties(properties);

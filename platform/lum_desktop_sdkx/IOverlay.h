@@ -17,7 +17,9 @@ public:
     /// Removes all shapes, and sets properties, styles and colour back to their defaults.
     virtual void clear() = 0;
     /// Reads "point_radius", the radius of the point and of the vertices, screen pixels (default
-    /// 4).
+    /// 4), and "vertex_shapes", the shapes of the first vertices, separated by blanks: "cross",
+    /// "ring" or "disc" (the default). Crosses and rings have a white edge, so that they show on
+    /// any ground.
     virtual void setProperties(const IDictionary& properties) = 0;
     /// The number of a `Qt::PenStyle`: 1 solid (the default), 2 dashed, 3 dotted.
     virtual void setLineStyle(int style) = 0;

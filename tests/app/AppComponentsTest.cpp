@@ -1,3 +1,4 @@
+#include "lum_desktop_sdkx/frame/Appearance.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/FrameComponents.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
@@ -5,18 +6,24 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
+#include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/files/Translations.h"
 #include "lum_sdk/Transform.h"
+#include "project/DataProcessDataManager.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
+#include "protocol/StatusKeys.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QStatusBar>
+#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -108,6 +115,7 @@ private Q_SLOTS:
     void init()
     {
         get_system_status_dictionary().clear();
+        get_system_status_dictionary().set("project_open", "1");
         get_system_ini_parameter().dictionary().clear();
         get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
     }
@@ -222,6 +230,82 @@ private Q_SLOTS:
                 QCOMPARE(program.readout(), QString::fromUtf8(expected));
             }
         }
+    }
+
+    void aClosedProjectHasNoPosition()
+    {
+        const Program program;
+        program.publish(events::kXyChanged, "N=4411825.5 E=-200.25");
+        get_system_status_dictionary().set("project_open", "0");
+        program.publish(events::kUpdateSystemStatus, nullptr);
+        QCOMPARE(program.readout(), QString());
+        program.publish(events::kXyChanged, "N=4411825.5 E=-200.25");
+        QCOMPARE(program.readout(), QString());
+    }
+
+    void theWindowComesToRest_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("theme");
+        for (const char* language : {"en", "zh_CN"}) {
+            for (const char* theme : {"light", "dark"})
+                QTest::addRow("%s %s", language, theme)
+                    << QString::fromUtf8(language) << QString::fromUtf8(theme);
+        }
+    }
+
+    /// Showing the progress of a paint must not change the size of the map, which would paint anew.
+    void theWindowComesToRest()
+    {
+        QFETCH(const QString, language);
+        QFETCH(const QString, theme);
+        struct ResizeCounter : QObject
+        {
+            bool eventFilter(QObject* object, QEvent* event) override
+            {
+                resizes += event->type() == QEvent::Resize ? 1 : 0;
+                return QObject::eventFilter(object, event);
+            }
+            int resizes = 0;
+        };
+        lum::loadTranslations(language, QStringLiteral(LANGUAGE_FOLDER),
+                              QStringLiteral("skyquill"));
+        desktop::applyAppearance(theme);
+        const Program program;
+        for (const char* number : {"1", "2", "3"}) {
+            SurveyPoint point;
+            point.lineNumber = point.pointNumber = number;
+            DataProcessDataManager::instance().surveyPoints().set(point);
+        }
+        get_system_status_dictionary().set(status::kViewShowWhich, "0");
+        auto& map = dynamic_cast<MapWindow&>(*mapOf(program.host));
+        QTRY_VERIFY(map.isUpToDate());
+        ResizeCounter counter;
+        map.installEventFilter(&counter);
+        int pictures = 0;
+        QObject::connect(&map, &MapWindow::pictureChanged, &counter, [&] { ++pictures; });
+        const int height = program.frame->statusBar()->height();
+        program.publish(events::kRefreshSurveyLayer, nullptr);
+        program.progress(payload::progress("测线 Ág", 1).c_str());
+        QCOMPARE(program.frame->statusBar()->height(), height);
+        QTRY_VERIFY(pictures > 0 && map.isUpToDate());
+        QTest::qWait(150);
+        QVERIFY2(pictures <= 2, qPrintable(QString::number(pictures)));
+        QCOMPARE(counter.resizes, 0);
+        for (QTranslator* translator : qApp->findChildren<QTranslator*>())
+            QCoreApplication::removeTranslator(translator);
+    }
+
+    void aProgressTextLeavesANarrowWindowAsItIs()
+    {
+        const Program program;
+        program.frame->resize(600, 400);
+        QCoreApplication::processEvents();
+        const QSize before = program.frame->size();
+        program.progress(payload::progress(std::string(300, 'W'), 1).c_str());
+        QCoreApplication::processEvents();
+        QCOMPARE(program.frame->size(), before);
+        QVERIFY(program.bar()->isVisible());
     }
 
     void theCursorOverTheMapIsReadOut()

@@ -139,7 +139,9 @@ void ProgramTest::writesAPictureOfTheWindow()
         QCOMPARE(run(process, arguments, locale), 0);
         const QImage picture(path("图 picture.png"));
         QVERIFY(picture.width() >= 640 && picture.height() >= 400);
-        QVERIFY2(!log().contains("error"), log().constData());
+        // Nothing of it needs an action.
+        for (const char* line : {" info No texts", " warning ", " error "})
+            QVERIFY2(!log().contains(line), log().constData());
     }
 }
 

@@ -1,10 +1,17 @@
 #include "lum_desktop_sdkx/dialogs/Dialog.h"
 
+#include "lum_desktop_sdkx/dialogs/ScreenFit.h"
 #include "lum_sdk/DpiScale.h"
 
 #include <QHash>
 #include <QHideEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -15,6 +22,33 @@ QHash<QString, QSize>& rememberedSizes()
 {
     static QHash<QString, QSize> sizes;
     return sizes;
+}
+
+/// The least size with which nothing in the layout is cut off.
+QSize neededSize(const QLayout& layout, int width)
+{
+    QSize size = layout.totalMinimumSize();
+    if (layout.hasHeightForWidth()) // lines of text break
+        size.setHeight(layout.totalHeightForWidth(std::max(width, size.width())));
+    return size;
+}
+
+bool exceeds(const QSize& size, const QSize& room)
+{
+    return size.width() > room.width() || size.height() > room.height();
+}
+
+/// Appends the first item of a layout to another one.
+void moveFirstItem(QVBoxLayout& from, QVBoxLayout& to)
+{
+    const int stretch = from.stretch(0);
+    std::unique_ptr<QLayoutItem> item(from.takeAt(0));
+    if (item->widget() != nullptr)
+        to.addWidget(item->widget(), stretch, item->alignment()); // makes an item of its own
+    else if (item->layout() != nullptr)
+        to.addLayout(item.release()->layout(), stretch);
+    else
+        to.addItem(item.release());
 }
 
 } // namespace
@@ -49,6 +83,61 @@ void Dialog::rememberSize(const QString& key)
     const QSize size = rememberedSizes().value(key);
     if (size.isValid())
         resize(size);
+}
+
+void Dialog::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        m_hasFrame = false;
+        fit();
+    }
+    QDialog::setVisible(visible);
+}
+
+bool Dialog::event(QEvent* event)
+{
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        fit(); // a dialog may grow while it is shown
+    if (event->type() == QEvent::Paint && !m_hasFrame) {
+        m_hasFrame = true;
+        QTimer::singleShot(0, this, &Dialog::fit); // not inside of a paint
+    }
+    return handled;
+}
+
+void Dialog::fit()
+{
+    const QSize room = desktop::largestSize(*this);
+    auto* const rows = qobject_cast<QVBoxLayout*>(layout());
+    if (rows != nullptr && exceeds(neededSize(*rows, std::min(width(), room.width())), room))
+        scrollContent(*rows);
+    if (exceeds(minimumSize(), room))
+        setMinimumSize(minimumSize().boundedTo(room));
+    if (exceeds(size(), room))
+        resize(size().boundedTo(room));
+    desktop::fitToScreen(*this);
+}
+
+void Dialog::scrollContent(QVBoxLayout& rows)
+{
+    if (rows.count() < 2 || m_scrolls)
+        return;
+    m_scrolls = true;
+    const QSize wanted = rows.totalSizeHint();
+    auto* const content = new QWidget;
+    auto* const column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(rows.spacing());
+    while (rows.count() > 1)
+        moveFirstItem(rows, *column);
+    auto* const area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(content);
+    rows.insertWidget(0, area, 1);
+    const int bar = area->verticalScrollBar()->sizeHint().width();
+    resize(QSize(wanted.width() + bar, wanted.height()).expandedTo(size()));
 }
 
 void Dialog::hideEvent(QHideEvent* event)

@@ -6,6 +6,9 @@ class QVBoxLayout;
 
 /// The base of every dialog: the same margins, no context-help button, lengths scaled for the
 /// screen. Escape rejects.
+///
+/// A dialog is never larger than its screen. When its outermost layout, a box from top to bottom,
+/// needs more room than there is, all but its last row, the buttons, moves into a scroll area.
 class Dialog : public QDialog
 {
     Q_OBJECT
@@ -17,6 +20,8 @@ public:
     void setMinimumSizeScaled(int width, int height);
     void setFixedSizeScaled(int width, int height);
 
+    void setVisible(bool visible) override;
+
 protected:
     /// The outermost layout, with the margins and spacing that all dialogs share.
     QVBoxLayout* makeMainLayout();
@@ -26,8 +31,14 @@ protected:
     /// minimum size was set.
     void rememberSize(const QString& key);
 
+    bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void fit();
+    void scrollContent(QVBoxLayout& rows);
+
     QString m_sizeKey;
+    bool m_scrolls = false;
+    bool m_hasFrame = false; ///< the window manager has given it one
 };

@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/dialogs/ScreenFit.h"
 
 #include <QApplication>
 #include <QDir>
@@ -57,6 +58,7 @@ Choice show(QWidget* parent, const Request& request)
 {
     QFileDialog dialog(parent, request.title, startFolder(request.title), request.filter);
     prepare(dialog, request.kind);
+    dialog.resize(dialog.size().boundedTo(desktop::largestSize(dialog)));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {{}, {}, true};
     return {dialog.selectedFiles().constFirst(), dialog.selectedNameFilter(), true};

@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/dialogs/ScreenFit.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/DockStyle.h"
 #include "lum_desktop_sdkx/frame/FrameState.h"
@@ -18,9 +19,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 #include <QStatusBar>
 #include <qtadvanceddocking/DockManager.h>
+#include <qtadvanceddocking/FloatingDockContainer.h>
 #include <qtadvanceddocking/IconProvider.h>
 #include <QTimer>
 #include <QToolBar>
@@ -28,6 +29,12 @@
 #include <algorithm>
 
 namespace {
+
+constexpr int kUsualWidth = 1360;
+constexpr int kUsualHeight = 860;
+constexpr int kLeastLine = 18; // of the status bar
+constexpr int kStatusPadding = 8;
+constexpr int kDragPollMs = 50;
 
 ads::CDockManager* makeDockManager(QMainWindow* frame)
 {
@@ -60,6 +67,26 @@ QString droppedFile(const QDropEvent& event)
     return isOurs ? file : QString();
 }
 
+/// Keeps the height of the status bar. If a progress bar, or a text in the taller letters of
+/// another script, changed it, the map would get another size, paint anew and tell its progress
+/// again.
+void fixHeight(QStatusBar& bar)
+{
+    const QSize text = bar.fontMetrics().size(Qt::TextSingleLine, QStringLiteral("Ág测"));
+    bar.setFixedHeight(std::max(text.height(), dpi_scaled(kLeastLine)) +
+                       dpi_scaled(kStatusPadding));
+}
+
+/// Brings a window that has left the frame onto the screen, after the drag that it may have left
+/// by.
+void settle(QWidget& window)
+{
+    if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        desktop::fitToScreen(window);
+    else
+        QTimer::singleShot(kDragPollMs, &window, [&window] { settle(window); });
+}
+
 /// An assistant that throws keeps the frame open, since it may not have saved.
 bool mayClose(IGuiAssistant& assistant)
 {
@@ -83,6 +110,8 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
     setAcceptDrops(true);
     m_host.setFrame(this, this);
     m_host.windows().attach(m_docks, statusBar());
+    fixHeight(*statusBar());
+    connect(m_docks, &ads::CDockManager::floatingWidgetCreated, this, &MainFrame::adoptFloating);
     makeAssistants(layout);
     for (const FrameLayout::Menu& menu : layout.menus) {
         auto* const top = menuBar()->addMenu(desktop::layoutText(menu.caption));
@@ -133,6 +162,8 @@ void MainFrame::show()
     windows.activate(map); // the assistants may have opened tabs in front of it
     windows.rememberDefaultLayout();
     m_defaultToolBars = saveState();
+    m_usualSize = QSize(dpi_scaled(kUsualWidth), dpi_scaled(kUsualHeight))
+                      .boundedTo(desktop::largestSize(*this));
     const FrameState state = FrameState::load();
     restoreFrame(state);
     const bool wasRestored = windows.restoreState(state.docks);
@@ -145,6 +176,9 @@ void MainFrame::show()
 
 void MainFrame::resetArrangement()
 {
+    setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+    resize(m_usualSize);
+    desktop::fitToScreen(*this);
     restoreState(m_defaultToolBars);
     m_host.windows().resetLayout();
 }
@@ -191,7 +225,10 @@ bool MainFrame::event(QEvent* event)
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::Paint && !m_wasPainted) {
         m_wasPainted = true;
-        QTimer::singleShot(0, this, &MainFrame::firstShown); // after the children were painted
+        QTimer::singleShot(0, this, [this] { // after the children were painted
+            desktop::fitToScreen(*this);     // with the frame that it has got
+            Q_EMIT firstShown();
+        });
     }
     return handled;
 }
@@ -283,12 +320,20 @@ void MainFrame::addToolBar(const FrameLayout::ToolBar& bar)
 
 void MainFrame::restoreFrame(const FrameState& state)
 {
-    if (state.geometry.isEmpty() || !restoreGeometry(state.geometry)) {
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        resize(screen.size().boundedTo(QSize(dpi_scaled(1360), dpi_scaled(860))));
-    }
+    if (state.geometry.isEmpty() || !restoreGeometry(state.geometry))
+        resize(m_usualSize);
+    desktop::fitToScreen(*this); // the last session may have had a larger screen
     if (!state.toolBars.isEmpty())
         restoreState(state.toolBars);
+}
+
+void MainFrame::adoptFloating(ads::CFloatingDockContainer* window)
+{
+    for (QAction* action : findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!action->shortcut().isEmpty())
+            window->addAction(action); // its keys work in that window as well
+    }
+    QTimer::singleShot(0, window, [window] { settle(*window); }); // it has no size and place yet
 }
 
 void MainFrame::saveArrangement()

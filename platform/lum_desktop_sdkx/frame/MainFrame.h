@@ -17,6 +17,7 @@ struct FrameState;
 
 namespace ads {
 class CDockManager;
+class CFloatingDockContainer;
 } // namespace ads
 
 /// The main window: menus, tool bars, docks, status bar and assistants by a layout. It remembers
@@ -34,7 +35,7 @@ public:
     /// Shows the frame in the arrangement of the last session.
     void show() override;
 
-    /// Moves tool bars and windows back to where the layout puts them.
+    /// Gives the frame, tool bars and windows the sizes and places of the first start.
     void resetArrangement();
 
     /// Hands a file to the assistants until one has opened it.
@@ -63,6 +64,8 @@ private:
     void addToolBar(const FrameLayout::ToolBar& bar);
     void restoreFrame(const FrameState& state);
     void saveArrangement();
+    /// Makes the frame's shortcuts work in a window that has left the frame.
+    void adoptFloating(ads::CFloatingDockContainer* window);
 
     DesktopHost& m_host; // outlives the frame
     ads::CDockManager* m_docks;
@@ -71,6 +74,7 @@ private:
     QString m_title;
     QString m_document;
     QByteArray m_defaultToolBars;
+    QSize m_usualSize; ///< of the first start
     EventSubscription m_subscription;
     bool m_wasPainted = false;
 };

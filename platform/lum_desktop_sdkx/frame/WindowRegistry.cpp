@@ -22,6 +22,8 @@ using Area = FrameLayout::Area;
 
 namespace {
 
+constexpr int kLargestShare = 4; // a dock takes no more than the fourth part of a small frame
+
 /// Sets the width or height of a dock area. Its neighbour takes the difference.
 void giveSize(ads::CDockAreaWidget& area, Qt::Orientation orientation, int size)
 {
@@ -205,9 +207,11 @@ void WindowRegistry::applySizes()
         if (area == nullptr)
             continue;
         if (each.layout.width > 0)
-            giveSize(*area, Qt::Horizontal, dpi_scaled(each.layout.width));
+            giveSize(*area, Qt::Horizontal,
+                     std::min(dpi_scaled(each.layout.width), m_docks->width() / kLargestShare));
         if (each.layout.height > 0)
-            giveSize(*area, Qt::Vertical, dpi_scaled(each.layout.height));
+            giveSize(*area, Qt::Vertical,
+                     std::min(dpi_scaled(each.layout.height), m_docks->height() / kLargestShare));
     }
 }
 

@@ -18,6 +18,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -226,7 +227,7 @@ void MapWindow::handleEvent(const char* /*eventName*/, const char* /*payload*/, 
     const IDictionary& values = get_system_status_dictionary();
     if (values.integer(status::kDrawBoundaryRect) != m_boundaryState)
         redraw();
-    update(); // the unit of the scale bar may have changed
+    update(); // the scale bar may have come, gone or changed its unit
 }
 
 void MapWindow::refreshOverlay()
@@ -246,6 +247,8 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
     m_picture.draw(painter, m_transform, palette().color(QPalette::Base));
     m_overlays[1].draw(painter, m_transform);
     m_overlays[0].draw(painter, m_transform);
+    if (get_system_status_dictionary().integer(status::kProjectOpen) == 0)
+        return; // nothing here has a scale
     drawScaleBar(painter, m_transform, lum::shownUnit());
     drawNorthArrow(painter, m_transform);
 }
@@ -332,7 +335,9 @@ void MapWindow::showTip(const QPoint& screen)
 {
     const QString tip = m_layers.tipAt(m_transform.ScreenToSurvey(QPointF(screen)));
     const QRect nearby(screen - QPoint(3, 3), QSize(7, 7)); // outside it the tip is hidden
-    QToolTip::showText(mapToGlobal(screen), tip, this, nearby);
+    // A name from a file may look like markup.
+    const QString shown = Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
+    QToolTip::showText(mapToGlobal(screen), shown, this, nearby);
 }
 
 void MapWindow::announcePosition(const QPointF& screen)

@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/IDictionary.h"
 #include "lum_sdk/LineClip.h"
+#include "lum_sdk/Text.h"
 #include "lum_sdk/Transform.h"
 
 #include <QPainter>
@@ -14,7 +15,11 @@ namespace {
 
 constexpr double kMaxRadius = 200;
 constexpr int kMaxWidth = 32;
-constexpr int kBandAlpha = 28; // lets the map show through the rectangle
+constexpr int kBandAlpha = 28;      // lets the map show through the rectangle
+constexpr double kMarkWidth = 2;    // of a cross or ring, screen pixels
+constexpr double kMarkEdge = 1;     // its white edge, screen pixels
+constexpr double kArmFactor = 0.8;  // of the radius
+constexpr double kRingFactor = 1.6; // a cross at the same place fits into the ring
 
 } // namespace
 
@@ -27,6 +32,12 @@ void Overlay::setProperties(const IDictionary& properties)
 {
     const double radius = properties.number("point_radius", Drawing().pointRadius);
     m_next.pointRadius = radius > 0 ? std::min(radius, kMaxRadius) : Drawing().pointRadius;
+    const QString shapes = lum::toQString(properties.text("vertex_shapes"));
+    m_next.vertexShapes.clear();
+    for (const QString& name : shapes.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        m_next.vertexShapes.push_back(name == QLatin1String("cross")  ? Shape::Cross
+                                      : name == QLatin1String("ring") ? Shape::Ring
+                                                                      : Shape::Disc);
 }
 
 void Overlay::setLineStyle(int style)
@@ -80,8 +91,6 @@ void Overlay::draw(QPainter& painter, const Transform& view) const
     painter.setPen(QPen(m_shown.color, m_shown.lineWidth, m_shown.lineStyle));
     drawLine(painter, view, area);
     drawRectangle(painter, area);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_shown.color);
     drawPoints(painter, view, area);
     painter.restore();
 }
@@ -115,14 +124,42 @@ void Overlay::drawRectangle(QPainter& painter, const QRectF& area) const
 
 void Overlay::drawPoints(QPainter& painter, const Transform& view, const QRectF& area) const
 {
-    const auto drawPoint = [&](const QPointF& map) {
+    const auto drawPoint = [&](const QPointF& map, Shape shape) {
         const QPointF screen = view.SurveyToScreen(map);
         // `contains` is true for a place that is no number
         if (std::isfinite(screen.x()) && std::isfinite(screen.y()) && area.contains(screen))
-            painter.drawEllipse(screen, m_shown.pointRadius, m_shown.pointRadius);
+            drawShape(painter, shape, screen);
     };
-    for (const QPointF& vertex : m_shown.vertices)
-        drawPoint(vertex);
+    const auto& shapes = m_shown.vertexShapes;
+    for (int i = m_shown.vertices.size() - 1; i >= 0; --i) { // the first one lies on top
+        const auto index = static_cast<std::size_t>(i);
+        drawPoint(m_shown.vertices[i], index < shapes.size() ? shapes[index] : Shape::Disc);
+    }
     if (m_shown.point)
-        drawPoint(*m_shown.point);
+        drawPoint(*m_shown.point, Shape::Disc);
+}
+
+void Overlay::drawShape(QPainter& painter, Shape shape, const QPointF& screen) const
+{
+    const double radius = m_shown.pointRadius;
+    if (shape == Shape::Disc) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_shown.color);
+        painter.drawEllipse(screen, radius, radius);
+        return;
+    }
+    painter.setBrush(Qt::NoBrush);
+    const double arm = radius * kArmFactor;
+    const QPointF rise(arm, -arm);
+    const QPointF fall(arm, arm);
+    for (const QPen& pen :
+         {QPen(Qt::white, kMarkWidth + 2 * kMarkEdge, Qt::SolidLine, Qt::RoundCap),
+          QPen(m_shown.color, kMarkWidth, Qt::SolidLine, Qt::RoundCap)}) {
+        painter.setPen(pen);
+        if (shape == Shape::Ring)
+            painter.drawEllipse(screen, radius * kRingFactor, radius * kRingFactor);
+        else
+            painter.drawLines(
+                {QLineF(screen - rise, screen + rise), QLineF(screen - fall, screen + fall)});
+    }
 }

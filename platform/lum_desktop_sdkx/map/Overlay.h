@@ -7,6 +7,7 @@
 #include <QRectF>
 
 #include <optional>
+#include <vector>
 
 class QPainter;
 class Transform;
@@ -34,9 +35,16 @@ public:
     void draw(QPainter& painter, const Transform& view) const;
 
 private:
+    enum class Shape
+    {
+        Disc,
+        Ring,
+        Cross
+    };
     struct Drawing
     {
-        double pointRadius = 4; ///< screen pixels
+        double pointRadius = 4;          ///< screen pixels
+        std::vector<Shape> vertexShapes; ///< of the first vertices
         Qt::PenStyle lineStyle = Qt::SolidLine;
         int lineWidth = 1; ///< screen pixels
         QColor color = Qt::red;
@@ -49,6 +57,7 @@ private:
     void drawLine(QPainter& painter, const Transform& view, const QRectF& area) const;
     void drawRectangle(QPainter& painter, const QRectF& area) const;
     void drawPoints(QPainter& painter, const Transform& view, const QRectF& area) const;
+    void drawShape(QPainter& painter, Shape shape, const QPointF& screen) const;
 
     Drawing m_next;  ///< as it was set
     Drawing m_shown; ///< as it is drawn

@@ -17,8 +17,8 @@ void install(const QString& file, const QString& folder, const QLocale& locale)
     if (translator->load(locale, file, QStringLiteral("_"), folder))
         QCoreApplication::installTranslator(translator);
     else
-        basalt::logInfo("No texts in " + locale.name().toStdString() + ": " +
-                        (folder + QLatin1Char('/') + file).toStdString());
+        basalt::logDebug("No texts in " + locale.name().toStdString() + ": " +
+                         (folder + QLatin1Char('/') + file).toStdString());
 }
 
 } // namespace

@@ -24,6 +24,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
+#include <QSplitter>
 #include <qtadvanceddocking/DockAreaWidget.h>
 #include <qtadvanceddocking/DockManager.h>
 #include <qtadvanceddocking/DockWidget.h>
@@ -124,7 +126,8 @@ constexpr const char* kLayout = R"(<main_frame>
   <window class="TestWindow" name="Survey Data List" caption="Survey" area="left" width="200"/>
   <window class="UnknownWindow" name="Unknown" area="left"/>
   <window class="MessageWindow" name="Messages" area="bottom" height="100"/>
-  <window class="LayerWindow" name="Layers" area="left" place="below" width="200"/>
+  <window class="LayerWindow" name="Layers" area="left" place="below" width="200"
+          height="150"/>
   <window class="CoordinateReadout" name="Coordinates" area="status"/>
 </main_frame>)";
 
@@ -315,7 +318,7 @@ private Q_SLOTS:
             shown.dock("Messages")->toggleView(false);
             auto* const manager = shown.frame.findChild<ads::CDockManager*>();
             manager->addDockWidget(ads::RightDockWidgetArea, shown.dock("Survey Data List"));
-            shown.frame.resize(900, 500);
+            shown.frame.resize(700, 500);
             QVERIFY(shown.frame.close());
         }
         {
@@ -325,7 +328,7 @@ private Q_SLOTS:
                 return widget->mapToGlobal(widget->rect().center()).x();
             };
             QVERIFY(centerOf(again.dock("Survey Data List")) > centerOf(again.dock("DataMap")));
-            QCOMPARE(again.frame.size(), QSize(900, 500));
+            QCOMPARE(again.frame.size(), QSize(700, 500));
         }
         QByteArray more(kLayout); // the saved docks are of another set of windows
         more.replace("</main_frame>",
@@ -333,6 +336,79 @@ private Q_SLOTS:
         const ShownFrame other(more);
         QVERIFY(!other.dock("New")->isClosed());
         QVERIFY(!other.dock("Messages")->isClosed());
+    }
+
+    void aLargerScreensWindowIsCutToThisOne()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        {
+            ShownFrame shown;
+            QVERIFY(screen.contains(shown.frame.geometry())); // without a last session
+            shown.frame.setGeometry(screen.adjusted(300, 200, 900, 700));
+            QVERIFY(shown.frame.close());
+        }
+        ShownFrame again;
+        QVERIFY(screen.contains(again.frame.geometry()));
+
+        WindowRegistry& windows = again.host.windows();
+        again.dock("Messages")->setFloating();
+        again.dock("Messages")->window()->setGeometry(screen.adjusted(100, 100, 800, 50));
+        QVERIFY(windows.restoreState(windows.saveState()));
+        QVERIFY(again.dock("Messages")->isFloating());
+        QTRY_VERIFY(screen.contains(again.dock("Messages")->window()->geometry()));
+    }
+
+    void shortcutsWorkInAFloatingWindow()
+    {
+        ShownFrame shown;
+        get_system_status_dictionary().set("open", "1");
+        shown.host.eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
+        shown.dock("Messages")->setFloating();
+        QWidget* const floating = shown.dock("Messages")->window();
+        QVERIFY(floating != &shown.frame);
+        floating->activateWindow();
+        QTRY_VERIFY(floating->isActiveWindow());
+        QTest::keyClick(shown.dock("Messages")->widget(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(executions, 1);
+        shown.frame.activateWindow();
+        QTRY_VERIFY(shown.frame.isActiveWindow());
+        QTest::keyClick(&shown.frame, Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(executions, 2);
+    }
+
+    void resetGivesEverySizeBack()
+    {
+        ShownFrame shown;
+        const auto sizes = [&] {
+            QVector<QSize> all{shown.frame.size()};
+            for (const char* name : {"DataMap", "Survey Data List", "Messages", "Layers"})
+                all << shown.dock(name)->size();
+            return all;
+        };
+        const QVector<QSize> before = sizes();
+        for (QSplitter* splitter : shown.frame.findChildren<QSplitter*>())
+            splitter->setSizes({50, 500});
+        shown.dock("Layers")->setFloating();
+        shown.frame.resize(500, 400);
+        QCoreApplication::processEvents();
+        QVERIFY(sizes() != before);
+        for (const auto state : {Qt::WindowNoState, Qt::WindowMaximized, Qt::WindowFullScreen}) {
+            shown.frame.setWindowState(state);
+            QCoreApplication::processEvents();
+            shown.frame.resetArrangement();
+            QCoreApplication::processEvents();
+            const QVector<QSize> after = sizes();
+            for (int i = 0; i < before.size(); ++i)
+                QVERIFY2((after[i] - before[i]).width() < 3 && (before[i] - after[i]).width() < 3 &&
+                             (after[i] - before[i]).height() < 3 &&
+                             (before[i] - after[i]).height() < 3,
+                         qPrintable(QStringLiteral("%1: %2 x %3, was %4 x %5")
+                                        .arg(i)
+                                        .arg(after[i].width())
+                                        .arg(after[i].height())
+                                        .arg(before[i].width())
+                                        .arg(before[i].height())));
+        }
     }
 
     void resetsTheLayout()

@@ -4,7 +4,9 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 
 namespace {
 
@@ -156,13 +158,51 @@ private Q_SLOTS:
         map.addResult("1", "s", 200, 200, {210, 200});
         map.publish(events::kRefreshDesignLayer);
         map.showAll();
-        QCOMPARE(map.layer().tipAt({101, 101}), "d"_q);
+        map.addDesign("2", "e", 100, 300, 0);
+        map.addDesign("3", "f", 200, 300, 7);
+        map.publish(events::kRefreshDesignLayer);
+        const auto tip = [](const char* what, const char* position) {
+            return QString::fromUtf8(what) + QLatin1Char('\n') + QString::fromUtf8(position);
+        };
+        QCOMPARE(map.layer().tipAt({101, 101}),
+                 tip("Line 1, point d (receiver)", "N=100.000    E=100.000"));
+        QCOMPARE(map.layer().tipAt({301, 101}),
+                 tip("Line 2, point e (source)", "N=100.000    E=300.000"));
+        QCOMPARE(map.layer().tipAt({301, 201}),
+                 tip("Line 3, point f (design)", "N=200.000    E=300.000"));
         map.setStatus(status::kViewShowWhich, "0");
         map.publish(events::kRefreshSurveyLayer);
         map.showAll();
         QCOMPARE(map.layer().tipAt({101, 101}), QString());
-        QCOMPARE(map.layer().tipAt({201, 200}), "s"_q);
-        QCOMPARE(map.layer().tipAt({209, 200}), "Base-1"_q); // as on the map
+        QCOMPARE(map.layer().tipAt({201, 200}),
+                 tip("Line 1, point s (survey result)", "N=200.000    E=200.000"));
+        QCOMPARE(map.layer().tipAt({209, 200}), // counted as on the map
+                 tip("Base-1 (base station)", "N=200.000    E=210.000"));
+    }
+
+    /// A map on a second screen may be larger than the first one, or lie left of it.
+    void everyPixelOfTheMapIsDrawnOn()
+    {
+        TestMap map;
+        const QSize screen = QGuiApplication::primaryScreen()->size();
+        const QSize size(screen.width() + 200, 300);
+        map.window.setGeometry(QRect(QPoint(-2 * size.width(), 0), size));
+        map.window.zoomRect(0, 0, size.width(), size.height());
+        const int far = screen.width() + 100;
+        map.addDesign("1", "near", 100, 100);
+        map.addDesign("1", "far", 100, far);
+        map.addResult("1", "far", 200, far, {far + 50.0, 200});
+        map.publish(events::kRefreshDesignLayer);
+        map.window.zoomRect(0, 0, size.width(), size.height());
+        const auto colorAt = [&](double north) {
+            const QPointF place = map.window.transform().SurveyToScreen(far, north);
+            return map.picture().pixelColor((place + QPointF(0, 1)).toPoint());
+        };
+        QCOMPARE(colorAt(103), QColor(Qt::cyan)); // the circle beside the line
+        map.setStatus(status::kViewShowWhich, "0");
+        map.publish(events::kRefreshSurveyLayer);
+        map.window.zoomRect(0, 0, size.width(), size.height());
+        QCOMPARE(colorAt(200), QColor(Qt::red));
     }
 
     void progressTellsOfEachDrawnLine()

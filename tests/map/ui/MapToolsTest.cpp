@@ -121,13 +121,16 @@ private Q_SLOTS:
         map.click(201, 151);
         QCOMPARE(map.heard(), Heard{"ON_SURVEY_POINT_SELECTED pointName=10015001,lineName=1001"});
         QCOMPARE(map.shown(200, 150), QColor(Qt::blue));
-        QCOMPARE(map.shown(200, 107), QColor(Qt::blue)); // its design position
+        QCOMPARE(map.shown(202, 147), QColor(Qt::blue)); // a cross, empty between its arms
+        QVERIFY(map.shown(203, 150) != QColor(Qt::blue));
+        QCOMPARE(map.shown(192, 110), QColor(Qt::blue)); // its design position: a ring
+        QVERIFY(map.shown(196, 110) != QColor(Qt::blue));
         map.click(301, 151);
         QCOMPARE(map.heard(), Heard{"ON_STATION_POINT_SELECTED stationId=0"});
         QCOMPARE(map.shown(300, 153), QColor(Qt::blue));
-        QVERIFY(map.shown(200, 107) != QColor(Qt::blue));
+        QVERIFY(map.shown(192, 110) != QColor(Qt::blue));
         map.click(250, 150); // without a design position the line ends at (0, 0)
-        QCOMPARE(map.shown(0, 299), QColor(Qt::blue));
+        QCOMPARE(map.shown(0, 292), QColor(Qt::blue));
     }
 
     void theHighlightGoes()
@@ -160,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(map.picture().pixelColor(place), QColor(Qt::cyan)); // no highlight
     }
 
-    void restingCursorTellsTheName()
+    void restingCursorTellsWhatIsThere()
     {
         Tools map;
         const auto tipAt = [&map](const QPoint& place) {
@@ -168,15 +171,21 @@ private Q_SLOTS:
             QApplication::sendEvent(&map.window, &event);
             return QToolTip::isVisible() ? QToolTip::text() : QString();
         };
-        QCOMPARE(tipAt({105, 203}), "10015001"_q);
+        QCOMPARE(tipAt({105, 203}),
+                 "Line 1001, point 10015001 (receiver)\nN=100.000    E=100.000"_q);
         tipAt({150, 20});
         QTRY_VERIFY(!QToolTip::isVisible());
         tipAt({105, 203});
         QTest::keyClick(&map.window, Qt::Key_Home); // the point moves from under the cursor
         QTRY_VERIFY(!QToolTip::isVisible());
         map.showAll();
+        map.addDesign("<b>1</b>", "2", 50, 50);
+        map.publish(events::kRefreshDesignLayer);
+        map.showAll();
+        QVERIFY(tipAt({50, 250}).contains("&lt;b&gt;1"_q)); // a name is no markup
         map.layer().GetProperties().set("visible", "0");
-        QCOMPARE(tipAt({105, 203}), QString());
+        tipAt({105, 203});
+        QTRY_VERIFY(!QToolTip::isVisible());
     }
 
     void dragPansWhileMoving()
@@ -305,7 +314,10 @@ private Q_SLOTS:
         } toggles[] = {{map.command<DrawExcitationCommand>(), "show_s_line", "show s line"_q},
                        {map.command<DrawReceiverCommand>(), "show_r_line", "show r line"_q}};
         for (const auto& [command, key, caption] : toggles) {
-            QVERIFY(command->isCheckable() && command->isChecked());
+            QVERIFY(command->isCheckable() && command->isChecked() && command->isEnabled());
+            map.setStatus(status::kViewShowWhich, "0"); // the survey has no such lines
+            QVERIFY(!command->isEnabled());
+            map.setStatus(status::kViewShowWhich, "1");
             QCOMPARE(command->caption(), "not "_q + caption);
             command->execute();
             QVERIFY(!command->isChecked());
@@ -329,18 +341,37 @@ private Q_SLOTS:
         QCOMPARE(map.scale(), 200 / 360.0);
     }
 
-    void viewCommandsChangeThePicture()
+    void viewCommandsChangeThePictureAndKeepThePlace()
     {
         Tools map;
-        map.run<ViewChangeCommand>("caption=Survey View");
+        const auto survey = map.command<ViewChangeCommand>("caption=Survey View");
+        const auto design = map.command<ViewChangeCommand>("caption=Design View");
+        const auto isOn = [&](const auto& on, const auto& off) {
+            return on->isCheckable() && on->isChecked() && !off->isChecked();
+        };
+        QVERIFY(isOn(design, survey));
+        map.window.zoomRect(180, 80, 310, 210);
+        const QString place = map.view();
+        survey->execute();
+        QVERIFY(isOn(survey, design));
         QCOMPARE(map.status().text("view_show_which"), std::string_view("0"));
         QCOMPARE(map.heard(), (Heard{"ON_PAINTING_LAYER_UPDATE (null)", kStatus}));
         QCOMPARE(map.host.windowRegistry.activated, QStringList("DataMap"_q));
-        QCOMPARE(map.window.extent(), QRectF(200, 150, 100, 10));
-        QCOMPARE(map.center(), QPointF(250, 155)); // of the survey's extent, handed over before
-        map.run<ViewChangeCommand>("caption=Design View");
+        QCOMPARE(map.window.extent(), QRectF(200, 150, 100, 10)); // handed over
+        QCOMPARE(map.view(), place);
+        design->execute();
+        QVERIFY(isOn(design, survey));
+        QCOMPARE(map.view(), place);
+
+        map.window.zoomRect(90, 90, 130, 120); // a design point, no result
+        survey->execute();
+        QCOMPARE(map.center(), QPointF(250, 155));
+        map.window.zoomRect(280, 140, 320, 160); // the base station, no design point
+        const QString atBase = map.view();
+        survey->execute();
+        QCOMPARE(map.view(), atBase);
+        design->execute();
         QCOMPARE(map.center(), QPointF(200, 150));
-        QCOMPARE(map.status().text("view_show_which"), std::string_view("1"));
         map.run<ViewChangeCommand>("caption=Another");
         QCOMPARE(map.status().text("view_show_which"), std::string_view("0"));
     }
