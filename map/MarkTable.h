@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-/// A place on the project grid, metres.
+/// A place on the project grid, in its own unit.
 struct GridPlace
 {
     double north = 0;

@@ -4,5 +4,5 @@
 
 #include <functional>
 
-/// From the project grid (northing, easting, metres) to map coordinates.
+/// From the project grid (northing, easting, in its own unit) to map coordinates.
 using ToMap = std::function<QPointF(double north, double east)>;

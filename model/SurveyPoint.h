@@ -6,7 +6,9 @@
 /// The line of all points that were surveyed without a line number.
 inline constexpr const char* kEmptyLine = "EmptyLine";
 
-/// A GNSS result. Lengths are metres, angles decimal degrees, times milliseconds since 1970 UTC.
+/// A GNSS result. Positions on the plane, their differences and the deviations from a line are in
+/// the unit of the project's coordinate system, all other lengths in metres; angles are decimal
+/// degrees, times milliseconds since 1970 UTC.
 struct SurveyPoint
 {
     std::string lineNumber;

@@ -10,6 +10,7 @@
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/ProgressReporter.h"
@@ -255,7 +256,8 @@ void DataProcessDataManager::recomputeSeaHeights()
 
 CheckedData DataProcessDataManager::checkedData()
 {
-    return {m_design, m_survey, m_qualityParameters};
+    const IDictionary& coordSystem = get_project_coord_transform().parameters();
+    return {m_design, m_survey, m_qualityParameters, lum::lengthUnitOf(coordSystem).metres};
 }
 
 void DataProcessDataManager::run(const CheckKind& check)

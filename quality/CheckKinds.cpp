@@ -8,14 +8,15 @@
 #include <algorithm>
 #include <array>
 
-const CheckKind kQualityCheck{"quality",
-                              [](const CheckedData& data, ProgressReporter& progress) {
-                                  checkQuality(data.survey, data.parameters, progress);
-                              },
-                              [](const CheckedData& data) {
-                                  return makeQualityResultModel(
-                                      describeQuality(data.survey, data.parameters));
-                              }};
+const CheckKind kQualityCheck{
+    "quality",
+    [](const CheckedData& data, ProgressReporter& progress) {
+        checkQuality(data.survey, data.parameters, progress, data.planeUnitM);
+    },
+    [](const CheckedData& data) {
+        return makeQualityResultModel(
+            describeQuality(data.survey, data.parameters, data.planeUnitM));
+    }};
 
 namespace {
 

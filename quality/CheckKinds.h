@@ -16,6 +16,7 @@ struct CheckedData
     DesignPoints& design;
     SurveyPoints& survey;
     const IDictionary& parameters; ///< "qc_param.ini"
+    double planeUnitM = 1;         ///< metres a unit of the plane coordinates
 };
 
 /// A check of the open project with a list of what it finds.

@@ -67,8 +67,9 @@ private:
 
 int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
 {
-    const double north = point.north - point.designNorth;
-    const double east = point.east - point.designEast;
+    const double unitM = limits.planeUnitM;
+    const double north = (point.north - point.designNorth) * unitM;
+    const double east = (point.east - point.designEast) * unitM;
     const auto& line = limits.lineDeviation(point.pointMark);
     const int design =
         faults(std::sqrt(north * north + east * east) > limits.designHorizontalM,
@@ -78,17 +79,18 @@ int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
     const int dilution =
         faults(isOutside(point.pdop, limits.pdop), isOutside(point.hdop, limits.hdop)) +
         (isOutside(point.vdop, limits.vdop) ? 4 : 0);
-    const int deviation = faults(std::fabs(point.transversalDeviation) > line.acrossM,
-                                 std::fabs(point.longitudinalDeviation) > line.alongM);
+    const int deviation = faults(std::fabs(point.transversalDeviation * unitM) > line.acrossM,
+                                 std::fabs(point.longitudinalDeviation * unitM) > line.alongM);
     return design * kDesign + (point.referenceDistance > limits.baseDistanceM ? kReference : 0) +
            accuracy * kAccuracy + antennaFault(point.antennaHeight, limits.antennaM) * kAntenna +
            dilution * kDilution + (limits.satellites > point.satelliteNumber ? kSatellites : 0) +
            deviation * kLine;
 }
 
-void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress)
+void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress,
+                  double planeUnitM)
 {
-    const QualityLimits limits = QualityLimits::from(parameters);
+    const QualityLimits limits = QualityLimits::from(parameters, planeUnitM);
     const std::string caption =
         QCoreApplication::translate("QualityCheck", "Check Survey Line:").toStdString();
     Unplaced unplaced;

@@ -24,4 +24,6 @@ struct QualityLimits;
 /// Judges every result by `parameters` ("qc_param.ini") and writes the code on it, in place of the
 /// old one with its resurvey digit. Reports progress after each result, from 0 to 100 in every
 /// line. A result whose position is no number passes, and is named in the log.
-void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress);
+/// \param planeUnitM metres a unit of the plane coordinates
+void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress,
+                  double planeUnitM = 1);

@@ -70,8 +70,8 @@ double exceeded(double value, const QualityLimits::Range& range)
 
 void Description::describeDesign()
 {
-    const double horizontal =
-        length(m_point.north - m_point.designNorth, m_point.east - m_point.designEast);
+    const double horizontal = length((m_point.north - m_point.designNorth) * m_limits.planeUnitM,
+                                     (m_point.east - m_point.designEast) * m_limits.planeUnitM);
     const double vertical = std::fabs(m_point.elevation - m_point.designElevation);
     const double horizontalLimit = m_limits.designHorizontalM;
     const double verticalLimit = m_limits.designVerticalM;
@@ -172,8 +172,8 @@ void Description::describeSatellites()
 
 void Description::describeLine()
 {
-    const double across = m_point.transversalDeviation;
-    const double along = m_point.longitudinalDeviation;
+    const double across = m_point.transversalDeviation * m_limits.planeUnitM;
+    const double along = m_point.longitudinalDeviation * m_limits.planeUnitM;
     const QualityLimits::LineDeviation& limits = m_limits.receivers; // also of source points
     switch (digit(7)) {
     case 1:
@@ -206,9 +206,10 @@ void describeQuality(const SurveyPoint& point, const QualityLimits& limits,
     Description(point, limits, rows).describe();
 }
 
-std::vector<QualityRow> describeQuality(const SurveyPoints& points, const IDictionary& parameters)
+std::vector<QualityRow> describeQuality(const SurveyPoints& points, const IDictionary& parameters,
+                                        double planeUnitM)
 {
-    const QualityLimits limits = QualityLimits::from(parameters);
+    const QualityLimits limits = QualityLimits::from(parameters, planeUnitM);
     std::vector<QualityRow> rows;
     for (const auto& [number, line] : points) {
         for (const SurveyPoint& point : line)

@@ -16,7 +16,7 @@ struct QualityRow
     std::string pointNumber;
     std::string lineNumber;
     const char* description; ///< in English; `text` translates it
-    double value;            ///< -1 in the row of several dilutions, and so is the limit
+    double value; ///< lengths in metres; -1 in the row of several dilutions, and so is the limit
     double limit;
 
     [[nodiscard]] QString text() const;
@@ -29,5 +29,6 @@ void describeQuality(const SurveyPoint& point, const QualityLimits& limits,
 
 /// The rows of all results, in their order.
 /// \param parameters "qc_param.ini"
-[[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoints& points,
-                                                      const IDictionary& parameters);
+/// \param planeUnitM metres a unit of the plane coordinates
+[[nodiscard]] std::vector<QualityRow>
+describeQuality(const SurveyPoints& points, const IDictionary& parameters, double planeUnitM = 1);

@@ -66,7 +66,11 @@ struct QualityLimits
     LineDeviation receivers; ///< for results whose point mark is not 0
     LineDeviation sources;   ///< for results whose point mark is 0; read from the same keys
 
-    [[nodiscard]] static QualityLimits from(const IDictionary& parameters);
+    /// Metres a unit of the plane coordinates (lum_sdk/coords/LengthUnit.h), which is also that of
+    /// the deviations from a line: 1 for metres. All other lengths of a result are metres.
+    double planeUnitM = 1;
+
+    [[nodiscard]] static QualityLimits from(const IDictionary& parameters, double planeUnitM = 1);
 
     [[nodiscard]] const LineDeviation& lineDeviation(int pointMark) const
     {

@@ -184,6 +184,42 @@
         <translation>瑞士斜轴墨卡托</translation>
     </message>
     <message>
+        <source>Hotine oblique Mercator (variant A)</source>
+        <translation>霍廷斜轴墨卡托（变体 A）</translation>
+    </message>
+    <message>
+        <source>Lambert azimuthal equal area</source>
+        <translation>兰勃特等积方位</translation>
+    </message>
+    <message>
+        <source>Colombia urban</source>
+        <translation>哥伦比亚城市</translation>
+    </message>
+    <message>
+        <source>Direction of the axes</source>
+        <translation>坐标轴方向</translation>
+    </message>
+    <message>
+        <source>Where coordinates grow. In some countries northings are counted to the south, eastings to the west.</source>
+        <translation>坐标增大的方向。有些国家的纵坐标向南计、横坐标向西计。</translation>
+    </message>
+    <message>
+        <source>North and east</source>
+        <translation>北、东</translation>
+    </message>
+    <message>
+        <source>North and west</source>
+        <translation>北、西</translation>
+    </message>
+    <message>
+        <source>South and east</source>
+        <translation>南、东</translation>
+    </message>
+    <message>
+        <source>South and west</source>
+        <translation>南、西</translation>
+    </message>
+    <message>
         <source>Central meridian</source>
         <translation>中央子午线</translation>
     </message>

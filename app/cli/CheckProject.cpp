@@ -2,6 +2,9 @@
 
 #include "app/cli/CliArguments.h"
 #include "app/cli/CliProject.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/LengthUnit.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "protocol/Outcome.h"
 #include "quality/CheckKinds.h"
 #include "quality/ResultCsv.h"
@@ -25,6 +28,17 @@ Outcome print(const QAbstractTableModel& result, const QString& file)
                             : Outcome::failed(QString::fromStdString(outcome.detail()));
 }
 
+/// Says in which unit the lengths are, where it is not that of the coordinates.
+void tellUnit()
+{
+    const lum::LengthUnit unit = lum::lengthUnitOf(get_project_coord_transform().parameters());
+    if (!lum::isMetre(unit))
+        std::fprintf(stderr,
+                     "Lengths are in metres; coordinates and line deviations are in another unit: "
+                     "%s.\n",
+                     unit.name.c_str());
+}
+
 } // namespace
 
 Outcome checkProject(const CliArguments& arguments)
@@ -39,6 +53,7 @@ Outcome checkProject(const CliArguments& arguments)
         !opening.isDone())
         return opening;
     project.manager().run(*check);
+    tellUnit();
     const auto result = project.manager().resultOf(*check);
     if (Outcome saving = project.save(); !saving.isDone())
         return saving;

@@ -5,6 +5,9 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/LengthUnit.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Transform.h"
 
 #include <QColor>
@@ -19,12 +22,16 @@ constexpr double kApart = 12;    // pixels: this far apart, two circles are seen
 constexpr double kFinest = 0.05; // metres a pixel: the neighbouring points stay in sight
 constexpr double kCoarsest = 1;  // metres a pixel
 
-/// The scale, in metres a pixel, at which the two positions are seen as two.
+/// The scale, in map units a pixel, at which the two positions are seen as two.
 double scaleFor(const QPointF& measured, const QPointF& design)
 {
+    const IDictionary& system = get_project_coord_transform().parameters();
+    const double unitM = lum::lengthUnitOf(system).metres;
     const QPointF offset = design - measured;
-    const double length = std::hypot(offset.x(), offset.y());
-    return length > 0 ? std::clamp(length / kApart, kFinest, kCoarsest) : kCoarsest;
+    const double lengthM = std::hypot(offset.x(), offset.y()) * unitM;
+    const double scaleM =
+        lengthM > 0 ? std::clamp(lengthM / kApart, kFinest, kCoarsest) : kCoarsest;
+    return scaleM / unitM;
 }
 
 /// Centres the map on `place` and zooms in to `scale`, never out.

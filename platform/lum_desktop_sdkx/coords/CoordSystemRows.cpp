@@ -115,6 +115,7 @@ QString firstParallelCaption(const IDictionary& parameters)
     case 7:
         return Texts::tr("Latitude of true scale");
     case 5:
+    case 13:
         return Texts::tr("Rectified grid angle");
     default:
         return Texts::tr("First standard parallel");

@@ -164,10 +164,8 @@ void setAxes(const Axes& axes, IDictionary& parameters)
 {
     const std::string directions{axes.directions.isSouth ? 'S' : 'N',
                                  axes.directions.isWest ? 'W' : 'E'};
-    if (directions != "NE")
+    if (directions != "NE" || parameters.contains(kAxesKey))
         parameters.set(kAxesKey, directions);
-    else if (parameters.contains(kAxesKey))
-        parameters.set(kAxesKey, {}); // of the system before
 }
 
 /// Gives a UTM system its own code of "project_type".

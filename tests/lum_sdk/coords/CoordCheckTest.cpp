@@ -43,7 +43,7 @@ const FaultyParameters kCases[] = {
     {"_7type=4", CoordResult::UnknownDatumShift, "_7type", nullptr},
     {"_7type=3,_7rz=1", CoordResult::DatumShiftPivot, "_7px", nullptr},
     {"_4valid=1,_4s=-1", CoordResult::PlaneScale, "_4s", nullptr},
-    {"axis_direction=WS", CoordResult::Axes, "axis_direction", "WS"},
+    {"axis_direction=WS", CoordResult::Axes, "axis_direction", nullptr},
     {"axis_direction=1", CoordResult::Success, "", nullptr}, // of another program: north and east
     {"project_type=13", CoordResult::Azimuth, "p_r", nullptr},
     {"unit_m=feet", CoordResult::Success, "unit_m", nullptr},

@@ -3,6 +3,8 @@
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Transform.h"
 #include "map/ui/PointHighlight.h"
@@ -15,10 +17,12 @@
 #include "quality/ui/DlgQCResult.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
 #include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
 #include <QAbstractItemModelTester>
+#include <QLabel>
 #include <QtTest>
 
 #include <array>
@@ -77,6 +81,7 @@ private Q_SLOTS:
     void theCommandChecksTellsAndLists();
     void aClickShowsTheResult();
     void aClickComesNearEnough();
+    void tellsTheUnitOfItsLengthsWhereThatIsAQuestion();
     void copiesRowsWithCaptions();
     void savesAsCsvOrTellsWhyNot();
     void eachListHasAPlaceOfItsOwn();
@@ -210,6 +215,23 @@ void ResultListTest::aClickComesNearEnough()
     const Transform view = map.transform();
     PointHighlight::show(*m_host, {3000, std::nan("")}, {3000, 4000});
     QVERIFY2(map.transform() == view, "moved to a position that is no number");
+}
+
+void ResultListTest::tellsTheUnitOfItsLengthsWhereThatIsAQuestion()
+{
+    basalt::Dictionary system;
+    const auto note = [&] {
+        get_project_coord_transform().initialise(system, system);
+        const auto list = makeList();
+        const auto* const label = list->findChild<QLabel*>();
+        return label == nullptr ? QString() : label->text();
+    };
+    QCOMPARE(note(), QString());
+    system.set("factor", "3.2808333333333333");
+    QVERIFY2(note().contains("metres"_q) && note().contains("US survey foot"_q),
+             qPrintable(note()));
+    system.clear();
+    QCOMPARE(note(), QString());
 }
 
 void ResultListTest::copiesRowsWithCaptions()
