@@ -429,6 +429,7 @@ private:
     }
     void click(const char* caption)
     {
+        m_grid->scrollTo(cell(caption));
         QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {},
                           m_grid->visualRect(cell(caption)).center());
     }
