@@ -6,6 +6,7 @@
 /// platform's stand in the header above.
 namespace status {
 
+inline constexpr const char* kProjectOpen = "project_open";      ///< "1" while one is open; "0"
 inline constexpr const char* kProjectPath = "project_path";      ///< the project folder; ""
 inline constexpr const char* kProjectName = "project_name";      ///< without extension; ""
 inline constexpr const char* kViewShowWhich = "view_show_which"; ///< 0 survey, 1 design; "1"

@@ -540,6 +540,26 @@
         <source>Draw Survey Data</source>
         <translation>正在绘制测量数据</translation>
     </message>
+    <message>
+        <source>Line %1, point %2 (receiver)</source>
+        <translation>测线 %1，点 %2（接收点）</translation>
+    </message>
+    <message>
+        <source>Line %1, point %2 (source)</source>
+        <translation>测线 %1，点 %2（激发点）</translation>
+    </message>
+    <message>
+        <source>Line %1, point %2 (design)</source>
+        <translation>测线 %1，点 %2（设计点）</translation>
+    </message>
+    <message>
+        <source>Line %1, point %2 (survey result)</source>
+        <translation>测线 %1，点 %2（测量成果）</translation>
+    </message>
+    <message>
+        <source>%1-%2 (base station)</source>
+        <translation>%1-%2（基准站）</translation>
+    </message>
 </context>
 <context>
     <name>DatumShiftChoice</name>

@@ -27,6 +27,7 @@ public:
     /// Shows the name of what is open in the frame's title. An empty name means that nothing is
     /// open.
     virtual void setDocument(const QString& name) = 0;
+    [[nodiscard]] virtual bool hasDocument() const = 0;
 };
 
 /// The helper of the host that converts project coordinates to map coordinates and back.

@@ -95,7 +95,7 @@ void Countly::begin(const char* appKey, const char* version, const char* server,
     QNetworkReply* reply = m_network->get(QNetworkRequest(url));
     QObject::connect(reply, &QNetworkReply::finished, reply, [reply] {
         if (reply->error() != QNetworkReply::NoError)
-            basalt::logInfo("No analytics session: " + reply->errorString().toStdString());
+            basalt::logDebug("No analytics session: " + reply->errorString().toStdString());
         reply->deleteLater();
     });
 }

@@ -58,6 +58,7 @@ public:
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return coordHelper; }
     [[nodiscard]] QWidget* dialogParent() override { return frame; }
     void setDocument(const QString& name) override { document = name; }
+    [[nodiscard]] bool hasDocument() const override { return !document.isEmpty(); }
 
     EventManager events;
     TestWindowRegistry windowRegistry;

@@ -97,8 +97,9 @@ void Dialog::setVisible(bool visible)
 bool Dialog::event(QEvent* event)
 {
     const bool handled = QDialog::event(event);
-    if (event->type() == QEvent::LayoutRequest && isVisible())
-        fit(); // a dialog may grow while it is shown
+    if (event->type() == QEvent::LayoutRequest && isVisible() && layout() != nullptr &&
+        exceeds(neededSize(*layout(), width()), desktop::largestSize(*this)))
+        fit(); // it has grown
     if (event->type() == QEvent::Paint && !m_hasFrame) {
         m_hasFrame = true;
         QTimer::singleShot(0, this, &Dialog::fit); // not inside of a paint
@@ -125,6 +126,7 @@ void Dialog::scrollContent(QVBoxLayout& rows)
         return;
     m_scrolls = true;
     const QSize wanted = rows.totalSizeHint();
+    QWidget* const focused = focusWidget(); // it loses the focus when it gets another parent
     auto* const content = new QWidget;
     auto* const column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
@@ -136,6 +138,8 @@ void Dialog::scrollContent(QVBoxLayout& rows)
     area->setWidgetResizable(true);
     area->setWidget(content);
     rows.insertWidget(0, area, 1);
+    if (focused != nullptr)
+        focused->setFocus();
     const int bar = area->verticalScrollBar()->sizeHint().width();
     resize(QSize(wanted.width() + bar, wanted.height()).expandedTo(size()));
 }

@@ -4,6 +4,7 @@
 
 void DesktopHost::setDocument(const QString& name)
 {
+    m_hasDocument = !name.isEmpty();
     if (m_frame != nullptr)
         m_frame->setDocument(name);
 }

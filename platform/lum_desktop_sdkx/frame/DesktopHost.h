@@ -18,6 +18,7 @@ public:
     [[nodiscard]] ICoordTransformHelper& coordTransformHelper() override { return m_helper; }
     [[nodiscard]] QWidget* dialogParent() override { return m_dialogParent; }
     void setDocument(const QString& name) override;
+    [[nodiscard]] bool hasDocument() const override { return m_hasDocument; }
 
     /// Both parameters are the same window; null while there is none.
     void setFrame(IMainFrame* frame, QWidget* dialogParent);
@@ -29,4 +30,5 @@ private:
     CommandList m_commands;
     IMainFrame* m_frame = nullptr;
     QWidget* m_dialogParent = nullptr;
+    bool m_hasDocument = false;
 };

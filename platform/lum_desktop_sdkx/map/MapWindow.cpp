@@ -247,7 +247,7 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
     m_picture.draw(painter, m_transform, palette().color(QPalette::Base));
     m_overlays[1].draw(painter, m_transform);
     m_overlays[0].draw(painter, m_transform);
-    if (get_system_status_dictionary().integer(status::kProjectOpen) == 0)
+    if (!m_host.hasDocument())
         return; // nothing here has a scale
     drawScaleBar(painter, m_transform, lum::shownUnit());
     drawNorthArrow(painter, m_transform);

@@ -3,7 +3,6 @@
 /// The platform's own keys of the system status dictionary.
 namespace status {
 
-inline constexpr const char* kProjectOpen = "project_open"; ///< "1" while one is open; "0"
 inline constexpr const char* kDrawBoundaryRect = "draw_boundary_rect"; ///< 1 shows it; "0"
 
 } // namespace status

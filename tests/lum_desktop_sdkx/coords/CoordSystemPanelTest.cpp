@@ -393,10 +393,11 @@ private:
     void open(const basalt::Dictionary& values)
     {
         m_dialog = std::make_unique<DlgCoordParam>(nullptr, values);
-        m_dialog->resize(660, 1600); // all rows in view
         m_dialog->show();
         m_dialog->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        QCoreApplication::processEvents(); // it fits itself to the screen
+        m_dialog->resize(660, 1600);       // all rows in view
         m_panel = m_dialog->findChild<CoordSystemPanel*>();
         m_field = m_dialog->findChild<QLineEdit*>();
         for (QTreeView* const view : m_dialog->findChildren<QTreeView*>())

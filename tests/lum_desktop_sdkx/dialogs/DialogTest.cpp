@@ -87,13 +87,20 @@ private Q_SLOTS:
         Dialog dialog;
         auto* const rows = new QVBoxLayout(&dialog);
         auto* const faults = new QLabel(&dialog);
+        auto* const field = new QLineEdit(&dialog);
+        rows->addWidget(field);
         rows->addWidget(faults);
         rows->addWidget(new QPushButton(&dialog));
+        dialog.setMinimumSizeScaled(100, 50);
         dialog.show();
+        dialog.activateWindow();
+        field->setFocus();
+        QTRY_VERIFY(field->hasFocus());
         faults->setText("fault\n"_q.repeated(200));
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         QTRY_VERIFY(dialog.findChild<QScrollArea*>() != nullptr);
         QTRY_VERIFY(screen.contains(dialog.geometry()));
+        QVERIFY(field->hasFocus()); // the user types on
         QVERIFY(dialog.rect().contains(dialog.findChild<QPushButton*>()->geometry()));
     }
 

@@ -99,7 +99,7 @@ private Q_SLOTS:
     void init()
     {
         get_system_status_dictionary().clear();
-        get_system_status_dictionary().set(status::kProjectOpen, "1");
+        m_host.document = "open"_q;
         started = overtaken = 0;
         m_map = std::make_unique<MapWindow>("", &m_host);
         QPalette palette;
@@ -360,9 +360,9 @@ private Q_SLOTS:
                 count += picture.pixelColor(x, 276) == QColor(Qt::black) ? 1 : 0;
             return count;
         };
-        get_system_status_dictionary().set(status::kProjectOpen, "0");
+        m_host.document.clear();
         QCOMPARE(blackPixels(), 0);
-        get_system_status_dictionary().set(status::kProjectOpen, "1");
+        m_host.document = "open"_q;
         QCOMPARE(blackPixels(), 51); // half of 100 m
         get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "1");
         m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);

@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/DpiScale.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Transform.h"
 #include "map/ui/PointHighlight.h"
@@ -77,6 +78,7 @@ class ResultListTest : public QObject
 
 private Q_SLOTS:
     void init();
+    void cleanup() { lum::setDpiScale(1); }
     void theModelHoldsItsRows();
     void theCommandChecksTellsAndLists();
     void aClickShowsTheResult();
@@ -293,8 +295,9 @@ void ResultListTest::savesAsCsvOrTellsWhyNot()
 
 void ResultListTest::eachListHasAPlaceOfItsOwn()
 {
+    lum::setDpiScale(0.6); // they fit side by side on the screen
     QWidget frame;
-    frame.resize(1200, 800);
+    frame.resize(780, 560);
     m_host->frame = &frame;
     std::array<std::unique_ptr<DlgQCResult>, 3> lists;
     for (auto& list : lists)
