@@ -11,7 +11,7 @@ QRectF markExtent(const Bounds& grid, const ToMap& toMap)
 {
     const QPointF low = grid.isEmpty() ? toMap(0, 0) : toMap(grid.minX, grid.minY);
     const QPointF high = grid.isEmpty() ? low : toMap(grid.maxX, grid.maxY);
-    QRectF extent(low, high);
+    QRectF extent = QRectF(low, high).normalized();
     if (std::abs(extent.width()) < kShortest)
         extent.setWidth(kInstead);
     if (std::abs(extent.height()) < kShortest)

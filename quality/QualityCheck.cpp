@@ -90,7 +90,8 @@ int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
 void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressReporter& progress,
                   double planeUnitM)
 {
-    const QualityLimits limits = QualityLimits::from(parameters, planeUnitM);
+    QualityLimits limits = QualityLimits::from(parameters);
+    limits.planeUnitM = planeUnitM;
     const std::string caption =
         QCoreApplication::translate("QualityCheck", "Check Survey Line:").toStdString();
     Unplaced unplaced;

@@ -209,7 +209,8 @@ void describeQuality(const SurveyPoint& point, const QualityLimits& limits,
 std::vector<QualityRow> describeQuality(const SurveyPoints& points, const IDictionary& parameters,
                                         double planeUnitM)
 {
-    const QualityLimits limits = QualityLimits::from(parameters, planeUnitM);
+    QualityLimits limits = QualityLimits::from(parameters);
+    limits.planeUnitM = planeUnitM;
     std::vector<QualityRow> rows;
     for (const auto& [number, line] : points) {
         for (const SurveyPoint& point : line)

@@ -36,7 +36,7 @@ std::string_view qualityParameter(const IDictionary& parameters, std::string_vie
     return parameter != nullptr ? parameters.text(key, parameter->fallback) : std::string_view();
 }
 
-QualityLimits QualityLimits::from(const IDictionary& parameters, double planeUnitM)
+QualityLimits QualityLimits::from(const IDictionary& parameters)
 {
     const auto read = [&](const char* key) { return limit(parameters, key); };
     QualityLimits limits;
@@ -52,6 +52,5 @@ QualityLimits QualityLimits::from(const IDictionary& parameters, double planeUni
     limits.satellites = read("sat_num_min");
     limits.receivers = ::lineDeviation(parameters);
     limits.sources = ::lineDeviation(parameters);
-    limits.planeUnitM = planeUnitM;
     return limits;
 }

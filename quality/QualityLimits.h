@@ -70,7 +70,7 @@ struct QualityLimits
     /// the deviations from a line: 1 for metres. All other lengths of a result are metres.
     double planeUnitM = 1;
 
-    [[nodiscard]] static QualityLimits from(const IDictionary& parameters, double planeUnitM = 1);
+    [[nodiscard]] static QualityLimits from(const IDictionary& parameters);
 
     [[nodiscard]] const LineDeviation& lineDeviation(int pointMark) const
     {

@@ -2,6 +2,9 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
+#include "lum_sdk/coords/CoordProjections.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/WholeFile.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
@@ -26,7 +29,8 @@ constexpr int kLargest = 20000;
 
 QPointF toMap(double north, double east)
 {
-    return {east, north};
+    const lum::PlaneAxes axes = lum::planeAxes(get_project_coord_transform().parameters());
+    return {axes.eastSign() * east, axes.northSign() * north};
 }
 
 /// \returns an empty size for a text that is not a size

@@ -69,6 +69,9 @@ TEST(MarkExtent, IsTheMappedRectangle)
     for (const auto& [name, points, expected] : kCases)
         EXPECT_EQ(markExtent(marksOf(pointsOf(points)).table().gridBounds(), kTurned), expected)
             << name;
+    const ToMap southAndWest = [](double north, double east) { return QPointF(-east, -north); };
+    EXPECT_EQ(markExtent(marksOf(pointsOf(kCases[2].points)).table().gridBounds(), southAndWest),
+              QRectF(-20, -80, 10, 150));
 }
 
 TEST(MarkTableNearest, KeepsTheFirstOfEqualsAndTheLimit)

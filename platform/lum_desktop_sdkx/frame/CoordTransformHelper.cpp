@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/CoordTransformHelper.h"
 
 #include "lum_sdk/coords/Angles.h"
+#include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 
@@ -19,11 +20,17 @@ bool transform(int from, int to, const CoordTriple& in, CoordTriple& out)
                &out.first, &out.second, &out.third) == 0;
 }
 
+lum::PlaneAxes axes()
+{
+    return lum::planeAxes(get_project_coord_transform().parameters());
+}
+
 } // namespace
 
 QPointF CoordTransformHelper::projectToMap(double north, double east) const
 {
-    return {east, north};
+    const lum::PlaneAxes grid = axes();
+    return {grid.eastSign() * east, grid.northSign() * north};
 }
 
 bool CoordTransformHelper::geodeticToMap(double latitudeDeg, double longitudeDeg,
@@ -51,6 +58,7 @@ bool CoordTransformHelper::mapToGeodetic(const QPointF& map, double& latitudeDeg
 
 void CoordTransformHelper::mapToProject(const QPointF& map, double& north, double& east) const
 {
-    north = map.y();
-    east = map.x();
+    const QPointF grid = projectToMap(map.y(), map.x()); // turning an axis twice leaves it
+    north = grid.y();
+    east = grid.x();
 }

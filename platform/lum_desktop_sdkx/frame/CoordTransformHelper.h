@@ -2,7 +2,8 @@
 
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 
-/// The map shows the project grid itself: x is easting, y is northing. The geodetic operations use
+/// The map shows the project grid itself: x is easting, y is northing, and those of a system whose
+/// axes point south or west are turned, so that north is up. The geodetic operations use
 /// the project's coordinate system, and answer false without one.
 class CoordTransformHelper final : public ICoordTransformHelper
 {
