@@ -21,7 +21,7 @@
 namespace {
 
 constexpr int kMostRows = 8;
-constexpr double kMostOfWidth = 0.5; ///< share of the width that names may take
+constexpr double kMostOfWidth = 0.7; ///< share of the width that names may take
 
 } // namespace
 
