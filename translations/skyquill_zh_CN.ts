@@ -239,12 +239,12 @@
 <context>
     <name>CoordCheck</name>
     <message>
-        <source>The parameter %1 must be a whole number, not &quot;%2&quot;.</source>
-        <translation>参数 %1 必须是整数，而不是“%2”。</translation>
+        <source>&quot;{key}&quot; must be a whole number, not &quot;%1&quot;.</source>
+        <translation>“{key}”必须是整数，不能是“%1”。</translation>
     </message>
     <message>
-        <source>The parameter %1 must be a decimal number, such as 298.257, not &quot;%2&quot;.</source>
-        <translation>参数 %1 必须是十进制数，例如 298.257，而不是“%2”。</translation>
+        <source>&quot;{key}&quot; must be a decimal number, such as 298.257, not &quot;%1&quot;.</source>
+        <translation>“{key}”必须是小数，例如 298.257，不能是“%1”。</translation>
     </message>
 </context>
 <context>
@@ -297,6 +297,18 @@
         <source>Swiss oblique Mercator</source>
         <translation>瑞士斜轴墨卡托</translation>
     </message>
+    <message>
+        <source>Hotine oblique Mercator (variant A)</source>
+        <translation>霍廷斜轴墨卡托（变体 A）</translation>
+    </message>
+    <message>
+        <source>Lambert azimuthal equal area</source>
+        <translation>兰勃特等积方位</translation>
+    </message>
+    <message>
+        <source>Colombia urban</source>
+        <translation>哥伦比亚城市</translation>
+    </message>
 </context>
 <context>
     <name>CoordResult</name>
@@ -333,84 +345,92 @@
         <translation>该位置在大地水准面文件范围之外。</translation>
     </message>
     <message>
-        <source>The parameter %1 is not a finite number.</source>
-        <translation>参数 %1 不是有限的数。</translation>
-    </message>
-    <message>
-        <source>The semi-major axis of the ellipsoid (ellipsoid_a) must be positive, in metres.</source>
-        <translation>椭球长半轴（ellipsoid_a）必须为正，单位米。</translation>
-    </message>
-    <message>
-        <source>The flattening of the ellipsoid (ellipsoid_f) must be inverse, like 298.257, or 0 for a sphere.</source>
-        <translation>椭球扁率（ellipsoid_f）须为扁率倒数，如 298.257；球体为 0。</translation>
-    </message>
-    <message>
-        <source>The Krovak projection needs the ellipsoid Bessel 1841 (ellipsoid_a 6377397.155, ellipsoid_f 299.1528128).</source>
-        <translation>克罗瓦克投影需要 Bessel 1841 椭球（ellipsoid_a 6377397.155，ellipsoid_f 299.1528128）。</translation>
-    </message>
-    <message>
-        <source>The height of the projection surface (project_height) must lie within 100 km, in metres.</source>
-        <translation>投影面高程（project_height）须在 100 千米以内，单位米。</translation>
-    </message>
-    <message>
-        <source>The coordinate system has no map projection (project_type).</source>
-        <translation>坐标系统没有地图投影（project_type）。</translation>
-    </message>
-    <message>
-        <source>The map projection %1 is unknown (project_type).</source>
-        <translation>未知的地图投影 %1（project_type）。</translation>
-    </message>
-    <message>
-        <source>The origin latitude (org_lat) does not suit the map projection.</source>
-        <translation>原点纬度（org_lat）不适合该地图投影。</translation>
-    </message>
-    <message>
-        <source>The origin longitude (org_lon) must lie within 360 degrees.</source>
-        <translation>原点经度（org_lon）须在 360 度以内。</translation>
-    </message>
-    <message>
-        <source>The standard parallels (parallel_1_lat, parallel_2_lat) do not suit the map projection.</source>
-        <translation>标准纬线（parallel_1_lat、parallel_2_lat）不适合该地图投影。</translation>
-    </message>
-    <message>
-        <source>The oblique projection needs the azimuth of its central line (p_r), or two points on it (lat1, lon1, lat2, lon2).</source>
-        <translation>斜轴投影需要中心线方位角（p_r），或中心线上两点（lat1、lon1、lat2、lon2）。</translation>
-    </message>
-    <message>
-        <source>The scale factor (factor) must not be negative.</source>
-        <translation>尺度因子（factor）不能为负。</translation>
-    </message>
-    <message>
-        <source>The cutting radius (cutting_radius) must be smaller than the ellipsoid, and not negative.</source>
-        <translation>割圆半径（cutting_radius）须小于椭球半径，且不能为负。</translation>
-    </message>
-    <message>
-        <source>The datum shift %1 is unknown (_7type).</source>
-        <translation>未知的七参数模型 %1（_7type）。</translation>
-    </message>
-    <message>
-        <source>The Molodensky-Badekas datum shift needs its rotation centre (_7px, _7py, _7pz).</source>
-        <translation>莫洛坚斯基-巴德卡斯模型需要旋转中心（_7px、_7py、_7pz）。</translation>
-    </message>
-    <message>
-        <source>The scale of the plane shift (_4s) must not be negative.</source>
-        <translation>四参数的尺度（_4s）不能为负。</translation>
-    </message>
-    <message>
-        <source>The geoid is switched on, but no geoid file (geoid_file) is given.</source>
-        <translation>已启用大地水准面，但未给出大地水准面文件（geoid_file）。</translation>
-    </message>
-    <message>
-        <source>The geoid file %1 (geoid_file) is missing or cannot be read.</source>
-        <translation>大地水准面文件 %1（geoid_file）不存在或无法读取。</translation>
-    </message>
-    <message>
         <source>The parameters describe no coordinate system: %1.</source>
         <translation>这些参数不能构成坐标系统：%1。</translation>
     </message>
     <message>
         <source>The result code %1 is unknown.</source>
         <translation>未知的结果代码 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number.</source>
+        <translation>“%1”不是有限的数值。</translation>
+    </message>
+    <message>
+        <source>&quot;{ellipsoid_a}&quot; must be positive, in metres.</source>
+        <translation>“{ellipsoid_a}”必须为正数，单位为米。</translation>
+    </message>
+    <message>
+        <source>&quot;{ellipsoid_f}&quot; must be a number like 298.257, or 0 for a sphere.</source>
+        <translation>“{ellipsoid_f}”必须是 298.257 之类的数值，球体为 0。</translation>
+    </message>
+    <message>
+        <source>The Krovak projection needs the ellipsoid Bessel 1841: &quot;{ellipsoid_a}&quot; 6377397.155, &quot;{ellipsoid_f}&quot; 299.1528128.</source>
+        <translation>克罗瓦克投影需要贝塞尔 1841 椭球：“{ellipsoid_a}”6377397.155，“{ellipsoid_f}”299.1528128。</translation>
+    </message>
+    <message>
+        <source>&quot;{project_height}&quot; must lie within 100 km, in metres.</source>
+        <translation>“{project_height}”必须在 100 千米以内，单位为米。</translation>
+    </message>
+    <message>
+        <source>The coordinate system has no map projection (&quot;{project_type}&quot;).</source>
+        <translation>坐标系没有地图投影（“{project_type}”）。</translation>
+    </message>
+    <message>
+        <source>&quot;{project_type}&quot; has the unknown value %1.</source>
+        <translation>“{project_type}”的值 %1 未知。</translation>
+    </message>
+    <message>
+        <source>&quot;{org_lat}&quot; does not suit the map projection.</source>
+        <translation>“{org_lat}”不适合该地图投影。</translation>
+    </message>
+    <message>
+        <source>&quot;{org_lon}&quot; must lie within 360 degrees.</source>
+        <translation>“{org_lon}”必须在 360 度以内。</translation>
+    </message>
+    <message>
+        <source>&quot;{parallel_1_lat}&quot; and &quot;{parallel_2_lat}&quot; do not suit the map projection: they must not be opposite, nor both 0.</source>
+        <translation>“{parallel_1_lat}”和“{parallel_2_lat}”不适合该地图投影：两者不能互为相反数，也不能同时为 0。</translation>
+    </message>
+    <message>
+        <source>&quot;{parallel_1_lat}&quot; does not suit the map projection.</source>
+        <translation>“{parallel_1_lat}”不适合该地图投影。</translation>
+    </message>
+    <message>
+        <source>The oblique projection needs &quot;{p_r}&quot;, or two points on its central line: &quot;{lat1}&quot;, &quot;{lon1}&quot;, &quot;{lat2}&quot;, &quot;{lon2}&quot;.</source>
+        <translation>斜轴投影需要“{p_r}”，或其中心线上的两点：“{lat1}”、“{lon1}”、“{lat2}”、“{lon2}”。</translation>
+    </message>
+    <message>
+        <source>&quot;{factor}&quot; must not be negative.</source>
+        <translation>“{factor}”不能为负数。</translation>
+    </message>
+    <message>
+        <source>&quot;{cutting_radius}&quot; must be smaller than the ellipsoid, and not negative.</source>
+        <translation>“{cutting_radius}”必须小于椭球，且不能为负数。</translation>
+    </message>
+    <message>
+        <source>&quot;{_7type}&quot; has the unknown value %1.</source>
+        <translation>“{_7type}”的值 %1 未知。</translation>
+    </message>
+    <message>
+        <source>The Molodensky-Badekas datum shift needs its rotation centre: &quot;{_7px}&quot;, &quot;{_7py}&quot;, &quot;{_7pz}&quot;.</source>
+        <translation>莫洛金斯基-巴代卡斯基准转换需要旋转中心：“{_7px}”、“{_7py}”、“{_7pz}”。</translation>
+    </message>
+    <message>
+        <source>&quot;{_4s}&quot; of the plane shift must not be negative.</source>
+        <translation>平面转换的“{_4s}”不能为负数。</translation>
+    </message>
+    <message>
+        <source>&quot;{axis_direction}&quot; must be NE, NW, SE or SW, not %1.</source>
+        <translation>“{axis_direction}”必须是 NE、NW、SE 或 SW，不能是 %1。</translation>
+    </message>
+    <message>
+        <source>The geoid is switched on, but &quot;{geoid_file}&quot; is empty.</source>
+        <translation>大地水准面已启用，但“{geoid_file}”为空。</translation>
+    </message>
+    <message>
+        <source>The geoid file %1 is missing or cannot be read.</source>
+        <translation>大地水准面文件 %1 不存在或无法读取。</translation>
     </message>
 </context>
 <context>
@@ -456,6 +476,10 @@
     <message>
         <source>No coordinate system has this code or name.</source>
         <translation>没有此代码或名称的坐标系统。</translation>
+    </message>
+    <message>
+        <source>EPSG:%1 (%2) is no longer in use; choose the system that has replaced it.</source>
+        <translation>EPSG:%1（%2）已停用；请选择取代它的坐标系。</translation>
     </message>
 </context>
 <context>
@@ -568,10 +592,6 @@
         <translation>基准转换(&amp;D)：</translation>
     </message>
     <message>
-        <source>Datum shifts of the EPSG register for this system: name, accuracy, and the area that each is meant for. Those that suit the system&apos;s area best come first.</source>
-        <translation>EPSG 库中适用于该坐标系统的基准转换：名称、精度和适用地区。最符合该系统使用范围的排在最前。</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>无</translation>
     </message>
@@ -590,6 +610,18 @@
     <message>
         <source>Without a datum shift, positions are taken as WGS 84.</source>
         <translation>不设基准转换时，位置按 WGS 84 处理。</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt;&lt;p&gt;Datum shifts of the EPSG register for this system: name, accuracy, and the area that each is meant for. Those that suit the system&apos;s area best come first. Their names say &quot;to WGS 84&quot;; the parameters below lead from WGS 84.</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt;&lt;p&gt;EPSG 数据库中用于该坐标系的基准转换：名称、精度及适用区域，最适合该坐标系区域的排在最前。名称中写的是“to WGS 84”；下面的参数则从 WGS 84 出发。</translation>
+    </message>
+    <message>
+        <source>This datum shift does not cover this system&apos;s area. It is meant for: %1</source>
+        <translation>该基准转换不覆盖此坐标系的区域，其适用区域为：%1</translation>
+    </message>
+    <message>
+        <source>This datum shift covers %1 % of this system&apos;s area. It is meant for: %2</source>
+        <translation>该基准转换覆盖此坐标系区域的 %1 %，其适用区域为：%2</translation>
     </message>
 </context>
 <context>
@@ -748,6 +780,10 @@
         <source>Quality Check Result</source>
         <translation>质量检查结果</translation>
     </message>
+    <message>
+        <source>Lengths in this list are metres, as the limits are. The project&apos;s coordinates and line deviations are in another unit: %1.</source>
+        <translation>此列表中的长度与限差一样，单位为米。工程的坐标和横向、纵向偏差采用另一单位：%1。</translation>
+    </message>
 </context>
 <context>
     <name>DrawExcitationCommand</name>
@@ -793,8 +829,8 @@
         <translation>EPSG:%1 使用的地图投影“%2”不受支持。</translation>
     </message>
     <message>
-        <source>The axes of EPSG:%1 do not point north and east, which is not supported.</source>
-        <translation>EPSG:%1 的坐标轴不指向北和东，不受支持。</translation>
+        <source>EPSG:%1 (%2) is geographic; choose a projected system.</source>
+        <translation>EPSG:%1（%2）是地理坐标系；请选择投影坐标系。</translation>
     </message>
 </context>
 <context>
@@ -1088,6 +1124,10 @@
         <translation>
             <numerusform>小数点后最多 %n 位。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Enter an angle from %1 to %2, such as 30.5 or 30 30 00.</source>
+        <translation>请输入 %1 到 %2 之间的角度，例如 30.5 或 30 30 00。</translation>
     </message>
 </context>
 <context>

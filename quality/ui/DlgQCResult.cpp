@@ -23,7 +23,7 @@ DlgQCResult::DlgQCResult(IDesktopHost& host, std::unique_ptr<QAbstractTableModel
         return;
     const QString text = tr("Lengths in this list are metres, as the limits are. The project's "
                             "coordinates and line deviations are in another unit: %1.");
-    auto* const note = new QLabel(text.arg(lum::toQString(unit.name)), this);
+    auto* const note = new QLabel(text.arg(lum::toQString(lum::symbolOf(unit))), this);
     note->setWordWrap(true);
     layout()->addWidget(note);
 }
