@@ -374,7 +374,7 @@
     </message>
     <message>
         <source>The coordinate system has no map projection (&quot;{project_type}&quot;).</source>
-        <translation>坐标系没有地图投影（“{project_type}”）。</translation>
+        <translation>坐标系统没有地图投影（“{project_type}”）。</translation>
     </message>
     <message>
         <source>&quot;{project_type}&quot; has the unknown value %1.</source>
@@ -447,6 +447,18 @@
         <source>The coordinate system is defined by the parameters below.</source>
         <translation>坐标系统由下列参数定义。</translation>
     </message>
+    <message>
+        <source>ft, international foot</source>
+        <translation>ft，国际英尺</translation>
+    </message>
+    <message>
+        <source>ftUS, US survey foot</source>
+        <translation>ftUS，美国测量英尺</translation>
+    </message>
+    <message>
+        <source>Coordinates are in %1 (%2 m); heights are in metres.</source>
+        <translation>坐标单位：%1（%2 m）；高程单位：米。</translation>
+    </message>
 </context>
 <context>
     <name>CoordSystemRows</name>
@@ -479,7 +491,7 @@
     </message>
     <message>
         <source>EPSG:%1 (%2) is no longer in use; choose the system that has replaced it.</source>
-        <translation>EPSG:%1（%2）已停用；请选择取代它的坐标系。</translation>
+        <translation>EPSG:%1（%2）已停用；请选择取代它的坐标系统。</translation>
     </message>
 </context>
 <context>
@@ -612,16 +624,16 @@
         <translation>不设基准转换时，位置按 WGS 84 处理。</translation>
     </message>
     <message>
-        <source>&lt;b&gt;%1&lt;/b&gt;&lt;p&gt;Datum shifts of the EPSG register for this system: name, accuracy, and the area that each is meant for. Those that suit the system&apos;s area best come first. Their names say &quot;to WGS 84&quot;; the parameters below lead from WGS 84.</source>
-        <translation>&lt;b&gt;%1&lt;/b&gt;&lt;p&gt;EPSG 数据库中用于该坐标系的基准转换：名称、精度及适用区域，最适合该坐标系区域的排在最前。名称中写的是“to WGS 84”；下面的参数则从 WGS 84 出发。</translation>
-    </message>
-    <message>
         <source>This datum shift does not cover this system&apos;s area. It is meant for: %1</source>
-        <translation>该基准转换不覆盖此坐标系的区域，其适用区域为：%1</translation>
+        <translation>该基准转换不覆盖此坐标系统的区域，其适用区域为：%1</translation>
     </message>
     <message>
         <source>This datum shift covers %1 % of this system&apos;s area. It is meant for: %2</source>
-        <translation>该基准转换覆盖此坐标系区域的 %1 %，其适用区域为：%2</translation>
+        <translation>该基准转换只覆盖此坐标系统区域的 %1 %，其适用区域为：%2</translation>
+    </message>
+    <message>
+        <source>Datum shifts of the EPSG register for this system: name, accuracy, and the area that each is meant for. Those that suit the system&apos;s area best come first. Their names say &quot;to WGS 84&quot;; the parameters below lead from WGS 84.</source>
+        <translation>EPSG 库中适用于该坐标系统的基准转换：名称、精度和适用地区。最符合该系统使用范围的排在最前。名称写的是“到 WGS 84”的方向；下面的参数是由 WGS 84 出发的。</translation>
     </message>
 </context>
 <context>
@@ -830,7 +842,7 @@
     </message>
     <message>
         <source>EPSG:%1 (%2) is geographic; choose a projected system.</source>
-        <translation>EPSG:%1（%2）是地理坐标系；请选择投影坐标系。</translation>
+        <translation>EPSG:%1（%2）是地理坐标系统；请选择投影坐标系统。</translation>
     </message>
 </context>
 <context>
@@ -1131,6 +1143,13 @@
     </message>
 </context>
 <context>
+    <name>PropertyGridCtrl</name>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>“%1”：%2</translation>
+    </message>
+</context>
+<context>
     <name>PropertyGridDelegate</name>
     <message>
         <source>Browse</source>
@@ -1312,21 +1331,6 @@
     <message>
         <source>Save project failed!</source>
         <translation>工程保存失败！</translation>
-    </message>
-</context>
-<context>
-    <name>ScaleBar</name>
-    <message>
-        <source>%1 ft</source>
-        <translation>%1 英尺</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>%1 km</source>
-        <translation>%1 km</translation>
     </message>
 </context>
 <context>
