@@ -53,6 +53,7 @@ CoordSystemSearch::~CoordSystemSearch() = default;
 void CoordSystemSearch::makeList()
 {
     m_list->setModel(m_found);
+    m_list->setFrameStyle(QFrame::Box); // it lies over other texts
     m_list->setHeaderHidden(true);
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);

@@ -105,8 +105,15 @@ private Q_SLOTS:
     void walksTheListAndDropsASearch()
     {
         open({});
+        const QRect before = m_grid->geometry();
         search("utm zone");
         QCOMPARE(m_list->model()->rowCount(), 100);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_grid->geometry(), before); // the list lies over the page
+        m_grid->setFocus();
+        QVERIFY(!m_list->isVisible());
+        m_field->setFocus();
+        QVERIFY(m_list->isVisible());
         QTest::keyClick(m_field, Qt::Key_Down);
         QTest::keyClick(m_field, Qt::Key_Down);
         QTest::keyClick(m_field, Qt::Key_Up);
