@@ -36,7 +36,7 @@ QString codeOf(const QString& registeredId)
 /// Symbol and name, such as "ftUS, US survey foot".
 QString unitName(const lum::LengthUnit& unit)
 {
-    const QString symbol = lum::toQString(lum::symbolOf(unit));
+    QString symbol = lum::toQString(lum::symbolOf(unit));
     if (symbol == QLatin1String("ft"))
         return CoordSystemPanel::tr("ft, international foot");
     if (symbol == QLatin1String("ftUS"))
