@@ -432,6 +432,10 @@
         <source>The geoid file %1 is missing or cannot be read.</source>
         <translation>大地水准面文件 %1 不存在或无法读取。</translation>
     </message>
+    <message>
+        <source>&quot;{p_r}&quot; must not be 0.</source>
+        <translation>“{p_r}”不能为 0。</translation>
+    </message>
 </context>
 <context>
     <name>CoordSystemPanel</name>

@@ -67,6 +67,7 @@ std::string keyAtFault(const CoordFault& fault)
     case CoordResult::TrueScaleLatitude:
         return "parallel_1_lat";
     case CoordResult::Azimuth:
+    case CoordResult::NoAzimuth:
         return "p_r";
     case CoordResult::Factor:
         return "factor";

@@ -186,7 +186,7 @@ std::string obliqueMercator(Reader& reader, bool isFromCentre)
         (isFromCentre ? "+proj=omerc" : "+proj=omerc +no_uoff") + Reader::item("lat_0", origin);
     const double azimuth = reader.number("p_r");
     if (azimuth != 0 || !isFromCentre) {
-        reader.check(azimuth != 0, CoordResult::Azimuth);
+        reader.check(azimuth != 0, CoordResult::NoAzimuth);
         const double turn = reader.number("parallel_1_lat");
         return centre + Reader::item("lonc", reader.longitude("org_lon")) +
                Reader::item("alpha", azimuth) + Reader::item("gamma", turn == 0 ? azimuth : turn);

@@ -78,6 +78,7 @@ constexpr Sentence kSentences[] = {
                                       "centre: \"{_7px}\", \"{_7py}\", \"{_7pz}\".")},
     {CoordResult::PlaneScale,
      QT_TRANSLATE_NOOP("CoordResult", "\"{_4s}\" of the plane shift must not be negative.")},
+    {CoordResult::NoAzimuth, QT_TRANSLATE_NOOP("CoordResult", "\"{p_r}\" must not be 0.")},
     {CoordResult::Axes, QT_TRANSLATE_NOOP("CoordResult", "\"{axis_direction}\" must be NE, NW, SE "
                                                          "or SW, not %1.")},
     {CoordResult::NoGeoidFile,

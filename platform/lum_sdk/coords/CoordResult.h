@@ -42,6 +42,7 @@ enum class CoordResult : std::int32_t
     DatumShiftPivot,
     PlaneScale,
     Axes,
+    NoAzimuth,
     NoGeoidFile,
     GeoidFile,
     Refused,

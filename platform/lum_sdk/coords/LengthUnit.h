@@ -8,8 +8,8 @@ class IDictionary;
 /// is computed from them. Heights are metres in every system.
 ///
 /// The scale bar and the read-out of the cursor turn plane coordinates into the unit that the user
-/// wants to see; the coordinate page names the unit; the quality check turns its limits,
-/// which are metres, into this unit before it compares distances with them.
+/// wants to see; the coordinate page names the unit; the quality check turns distances on the plane
+/// into metres, the unit of its limits; a point that is shown on the map is zoomed to by metres.
 namespace lum {
 
 /// A linear unit, named as in the EPSG register.

@@ -45,7 +45,7 @@ const FaultyParameters kCases[] = {
     {"_4valid=1,_4s=-1", CoordResult::PlaneScale, "_4s", nullptr},
     {"axis_direction=WS", CoordResult::Axes, "axis_direction", nullptr},
     {"axis_direction=1", CoordResult::Success, "", nullptr}, // of another program: north and east
-    {"project_type=13", CoordResult::Azimuth, "p_r", nullptr},
+    {"project_type=13", CoordResult::NoAzimuth, "p_r", nullptr},
     {"unit_m=feet", CoordResult::Success, "unit_m", nullptr},
     {"geoid_valid=1", CoordResult::NoGeoidFile, "geoid_file", nullptr},
     {"geoid_valid=1,geoid_file=/nowhere/a.gtx", CoordResult::GeoidFile, "geoid_file",
