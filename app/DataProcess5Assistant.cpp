@@ -8,8 +8,8 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/coords/ShownUnit.h"
 #include "lum_sdk/events/Payload.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
 #include "project/ui/ProjectState.h"
@@ -25,8 +25,6 @@
 #include <string>
 
 namespace {
-
-constexpr double kFootM = 0.3048;
 
 void openTable(IWindowRegistry& windows, const char* className, const char* title)
 {
@@ -135,11 +133,8 @@ void DataProcess5Assistant::announcePosition(const char* payload)
     double east = 0;
     get_instance_ICoordTransformHelper(&m_host)->mapToProject(
         {values.number("E"), values.number("N")}, north, east);
-    if (get_system_ini_parameter().dictionary().integer(settings::kCoordUnit) != 0) {
-        north = north * 1.0 / kFootM;
-        east = east * 1.0 / kFootM;
-    }
-    const std::string text =
-        "N=" + basalt::formatFixed(north, 3) + "    E=" + basalt::formatFixed(east, 3);
+    const lum::ShownUnit unit = lum::shownUnit();
+    const std::string text = "N=" + basalt::formatFixed(unit.toShown(north), 3) +
+                             "    E=" + basalt::formatFixed(unit.toShown(east), 3);
     m_host.eventManager().publish(events::kXyChangedText, text.c_str(), 0);
 }

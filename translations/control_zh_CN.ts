@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>Datum shift, from WGS 84 to the system&apos;s datum</source>
-        <translation>基准转换（由 WGS 84 到本坐标系基准）</translation>
+        <translation>基准转换（由 WGS 84 到本坐标系统的基准）</translation>
     </message>
     <message>
         <source>Model</source>
@@ -752,8 +752,8 @@
         <translation>坐标单位</translation>
     </message>
     <message>
-        <source>The unit of the cursor position; a setting of the program, not of the project.</source>
-        <translation>光标位置的单位；属于程序设置，不属于工程。</translation>
+        <source>The unit of the cursor position and the scale bar; a setting of the program, not of the project. Feet are those of the coordinate system, or international ones where it has none.</source>
+        <translation>光标位置和比例尺的单位；这是程序的设置，与工程无关。英尺采用坐标系统自身的英尺；坐标系统不用英尺时为国际英尺。</translation>
     </message>
     <message>
         <source>Metres</source>

@@ -1,6 +1,7 @@
 #include "map/ui/LayerTexts.h"
 
 #include "basalt_utilities/Numbers.h"
+#include "lum_sdk/coords/ShownUnit.h"
 #include "map/MarkTable.h"
 
 #include <QCoreApplication>
@@ -9,8 +10,11 @@ namespace {
 
 QString withPosition(const QString& what, const GridPlace& grid)
 {
-    return what + QString::fromStdString("\nN=" + basalt::formatFixed(grid.north, 3) +
-                                         "    E=" + basalt::formatFixed(grid.east, 3));
+    const lum::LengthUnit unit = lum::shownUnit().grid;
+    const std::string position =
+        "\nN=" + basalt::formatFixed(grid.north, 3) + "    E=" + basalt::formatFixed(grid.east, 3);
+    return what + QString::fromStdString(
+                      lum::isMetre(unit) ? position : position + "    " + lum::symbolOf(unit));
 }
 
 } // namespace

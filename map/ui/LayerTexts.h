@@ -5,7 +5,8 @@
 class QString;
 struct GridPlace;
 
-/// The words of the data layer in the user's language. Any thread may ask.
+/// The words of the data layer in the user's language. Any thread may ask for those without a
+/// position.
 namespace LayerTexts {
 
 /// The word in the label of a base station, as in "Base-1". Labels count from 1.
@@ -17,7 +18,7 @@ namespace LayerTexts {
 [[nodiscard]] QString drawSurvey();
 
 // What the resting cursor tells: what lies there, and below it the position on the grid, with the
-// numbers that lists and files have.
+// numbers that lists and files have, and their unit when it is not the metre.
 
 /// \param type of the line: 1 receiver, 0 source
 [[nodiscard]] QString designTip(int type, const QString& line, const QString& point,

@@ -5,14 +5,14 @@ class QPointF;
 /// Converts between the coordinates of the project and those of the map. The order of the
 /// operations is fixed.
 ///
-/// The map shows the project grid with x = easting and y = northing, in metres, so that the two
+/// The map shows the project grid with x = easting and y = northing, in its unit, so that the two
 /// plane operations never fail. The two geodetic operations need a coordinate system.
 class ICoordTransformHelper
 {
 public:
     virtual ~ICoordTransformHelper() = default;
 
-    /// \param north,east metres on the project grid
+    /// \param north,east in the unit of the project grid
     [[nodiscard]] virtual QPointF projectToMap(double north, double east) const = 0;
 
     /// \param latitudeDeg,longitudeDeg geodetic WGS 84

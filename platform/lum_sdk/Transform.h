@@ -11,7 +11,8 @@ namespace lum {
 
 } // namespace lum
 
-/// Map coordinates (metres, x to the east, y to the north) to screen pixels (y downwards) and back.
+/// Map coordinates (x to the east, y to the north, in the unit of the grid) to screen pixels (y
+/// downwards) and back.
 ///
 /// This arithmetic stands nowhere else. A transform is a value of centre, scale and screen size: a
 /// paint on another thread works on a copy. Centre and scale are always finite.

@@ -7,6 +7,9 @@
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_sdk/coords/EpsgSystem.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/Translations.h"
 #include "lum_sdk/Transform.h"
@@ -14,6 +17,7 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
+#include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
 
 #include <QLabel>
@@ -113,6 +117,7 @@ private Q_SLOTS:
         get_system_status_dictionary().clear();
         get_system_status_dictionary().set(status::kProjectOpen, "1"); // else a page is on the map
         get_system_ini_parameter().dictionary().clear();
+        get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
     }
 
     void aProgressEventShowsMovesAndHidesTheBar()
@@ -189,15 +194,42 @@ private Q_SLOTS:
     void theReadoutIsInMetresOrFeet()
     {
         const Program program;
+        const EventLog log(program.host.eventManager(), events::kXyChangedText);
         program.publish(events::kXyChanged, "N=4411825.5 E=-200.25");
-        QCOMPARE(program.readout(), QStringLiteral("N=4411825.500    E=-200.250"));
+        QCOMPARE(program.readout(), QStringLiteral("N=4411825.500    E=-200.250    m"));
+        QCOMPARE(log.payloads().front(), std::string("N=4411825.500    E=-200.250"));
         get_system_ini_parameter().dictionary().set("un_coordUnit", "1");
         program.publish(events::kXyChanged, "N=304.8 E=-0.3048");
-        QCOMPARE(program.readout(), QStringLiteral("N=1000.000    E=-1.000"));
+        QCOMPARE(program.readout(), QStringLiteral("N=1000.000    E=-1.000    ft"));
         program.publish(events::kXyChanged, "E=0.3048");
-        QCOMPARE(program.readout(), QStringLiteral("N=0.000    E=1.000"));
+        QCOMPARE(program.readout(), QStringLiteral("N=0.000    E=1.000    ft"));
         program.publish(events::kXyChanged, nullptr);
-        QCOMPARE(program.readout(), QStringLiteral("N=0.000    E=0.000"));
+        QCOMPARE(program.readout(), QStringLiteral("N=0.000    E=0.000    ft"));
+    }
+
+    void theReadoutIsRightForASystemInFeet()
+    {
+        const struct
+        {
+            const char* code;
+            const char* metres;
+            const char* feet;
+        } systems[] = {
+            {"32037", "N=1200.000    E=609601.219    m", "N=3937.000    E=2000000.000    ftUS"},
+            {"2222", "N=1199.998    E=609600.000    m", "N=3937.000    E=2000000.000    ft"},
+            {"32650", "N=3937.000    E=2000000.000    m", "N=12916.667    E=6561679.790    ft"}};
+        for (const auto& [code, metres, feet] : systems) {
+            basalt::Dictionary system;
+            QCOMPARE(fillFromEpsg(code, system), std::string());
+            get_project_coord_transform().initialise(system, system);
+            const Program program;
+            for (const char* const expected : {metres, feet}) {
+                get_system_ini_parameter().dictionary().set("un_coordUnit",
+                                                            expected == feet ? "1" : "0");
+                program.publish(events::kXyChanged, "N=3937 E=2000000");
+                QCOMPARE(program.readout(), QString::fromUtf8(expected));
+            }
+        }
     }
 
     void aClosedProjectHasNoPosition()
@@ -284,7 +316,7 @@ private Q_SLOTS:
         const QPoint cursor(120, 80);
         QTest::mouseMove(program.widget("DataMap"), cursor);
         const QPointF position = map->transform().ScreenToSurvey(QPointF(cursor));
-        QTRY_COMPARE(program.readout(), QStringLiteral("N=%1    E=%2")
+        QTRY_COMPARE(program.readout(), QStringLiteral("N=%1    E=%2    m")
                                             .arg(QString::number(position.y(), 'f', 3),
                                                  QString::number(position.x(), 'f', 3)));
     }

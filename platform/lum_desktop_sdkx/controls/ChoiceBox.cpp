@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 namespace {
@@ -13,6 +14,19 @@ bool isMove(int key)
 }
 
 } // namespace
+
+void ChoiceBox::paintEvent(QPaintEvent* /*event*/)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect place =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText =
+        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, place.width());
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
 
 void ChoiceBox::keyPressEvent(QKeyEvent* event)
 {

@@ -57,6 +57,7 @@ PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
         if (const PropertyGridRow* const row = m_model->row(m_view->currentIndex()))
             Q_EMIT valueShown(row->key, m_model->value(*row));
     });
+    connect(m_model, &PropertyGridModel::faultChanged, this, &PropertyGridCtrl::faultChanged);
     connect(m_model, &PropertyGridModel::dataChanged, this,
             [this] { describe(m_view->currentIndex()); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -103,6 +104,13 @@ bool PropertyGridCtrl::hasFaults()
 {
     m_view->commitEditor();
     return m_model->hasFaults();
+}
+
+QString PropertyGridCtrl::faultText() const
+{
+    const QModelIndex cell = m_model->firstFault();
+    const PropertyGridRow* const row = m_model->row(cell);
+    return row == nullptr ? QString() : tr("\"%1\": %2").arg(row->caption, m_model->fault(cell));
 }
 
 void PropertyGridCtrl::markRow(const QString& key, const QString& message)

@@ -50,6 +50,9 @@ public:
     /// True while a row holds a bad value. It takes the text of an open editor first.
     [[nodiscard]] bool hasFaults();
 
+    /// The caption of the topmost bad value and what is wrong with it; empty when nothing is.
+    [[nodiscard]] QString faultText() const;
+
     /// Marks the value of a row as bad for a reason that only the caller knows. There is one such
     /// mark: it replaces the one before, and an empty key removes it. It counts as a fault until it
     /// is removed or the value is edited.
@@ -85,6 +88,8 @@ public:
 Q_SIGNALS:
     /// The user has entered a good value that differs from the one before.
     void valueChanged(const QString& key, const QString& value);
+    /// The user has entered a bad value, or a good one in its place.
+    void faultChanged();
 
     /// The good value that the row shows: while the user types in its editor, and once more when
     /// the editor is closed.

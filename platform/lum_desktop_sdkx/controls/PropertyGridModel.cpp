@@ -304,13 +304,16 @@ bool PropertyGridModel::enter(const QModelIndex& index, const QString& typed)
     if (!message.isEmpty()) {
         m_faults.insert(at.key, {typed, message, false});
         tellChanged(index);
+        Q_EMIT faultChanged();
         return true;
     }
-    m_faults.remove(at.key);
+    const bool isMended = m_faults.remove(at.key) > 0;
     const bool isNew = entered != value(at);
     if (isNew)
         m_values.set(toStd(at.key), toStd(entered));
     tellChanged(index);
+    if (isMended)
+        Q_EMIT faultChanged();
     if (isNew)
         Q_EMIT valueEdited(QString(at.key), entered); // a copy: a listener may change the layout
     return true;

@@ -79,6 +79,8 @@ public:
 Q_SIGNALS:
     /// The user has entered a good value that differs from the one before.
     void valueEdited(const QString& key, const QString& value);
+    /// The user has entered a bad value, or a good one in its place.
+    void faultChanged();
 
 private:
     struct Fault

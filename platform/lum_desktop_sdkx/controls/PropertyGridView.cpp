@@ -8,9 +8,12 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kIndent = 14;
+constexpr int kFewRows = 3;
 
 bool isGroup(const QModelIndex& index)
 {
@@ -59,6 +62,12 @@ void PropertyGridView::spanGroups()
     for (int i = 0; i < model()->rowCount(); ++i)
         setFirstColumnSpanned(i, {}, true);
     expandAll();
+}
+
+QSize PropertyGridView::sizeHint() const
+{
+    const int row = std::max(sizeHintForRow(0), fontMetrics().height());
+    return {QTreeView::sizeHint().width(), kFewRows * row + 2 * frameWidth()};
 }
 
 void PropertyGridView::handleClick(const QModelIndex& index)

@@ -20,6 +20,9 @@ public:
     /// Opens the groups and lets them span both columns. Called after the model got new rows.
     void spanGroups();
 
+    /// A few rows: the grid takes the room that is there, but a low dialog need not scroll for it.
+    [[nodiscard]] QSize sizeHint() const override;
+
 protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;

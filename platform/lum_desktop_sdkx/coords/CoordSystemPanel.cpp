@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/coords/CoordSystemPanel.h"
 
+#include "basalt_utilities/Numbers.h"
 #include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/coords/CoordSystemRows.h"
@@ -9,6 +10,7 @@
 #include "lum_sdk/coords/CoordCheck.h"
 #include "lum_sdk/coords/CoordStoredForm.h"
 #include "lum_sdk/coords/EpsgSystem.h"
+#include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/Text.h"
 
@@ -29,6 +31,23 @@ QString id(const IDictionary& parameters)
 QString codeOf(const QString& registeredId)
 {
     return registeredId.mid(static_cast<int>(qstrlen(kRegister)));
+}
+
+/// Symbol and name, such as "ftUS, US survey foot".
+QString unitName(const lum::LengthUnit& unit)
+{
+    QString symbol = lum::toQString(lum::symbolOf(unit));
+    if (symbol == QLatin1String("ft"))
+        return CoordSystemPanel::tr("ft, international foot");
+    if (symbol == QLatin1String("ftUS"))
+        return CoordSystemPanel::tr("ftUS, US survey foot");
+    return symbol;
+}
+
+QString metres(const lum::LengthUnit& unit)
+{
+    constexpr int kDigits = 10; // both feet differ in the sixth
+    return QString::fromStdString(basalt::formatGeneral(unit.metres, kDigits));
 }
 
 QLabel* makeText(QWidget* parent)
@@ -72,6 +91,7 @@ CoordSystemPanel::CoordSystemPanel(QWidget* parent)
     connect(m_search, &CoordSystemSearch::chosen, this, &CoordSystemPanel::choose);
     connect(m_shift, &DatumShiftChoice::chosen, this, &CoordSystemPanel::takeShift);
     connect(m_grid, &PropertyGridCtrl::valueChanged, this, &CoordSystemPanel::takeEdit);
+    connect(m_grid, &PropertyGridCtrl::faultChanged, this, &CoordSystemPanel::showFault);
     setParameters(basalt::Dictionary());
 }
 
@@ -93,7 +113,7 @@ basalt::Dictionary CoordSystemPanel::parameters()
 bool CoordSystemPanel::hasFaults()
 {
     judge(); // a geoid file may have been made or deleted meanwhile
-    return m_grid->hasFaults() || !m_isUsable;
+    return m_grid->hasFaults() || !m_refusal.isEmpty();
 }
 
 void CoordSystemPanel::goToFault()
@@ -173,8 +193,9 @@ void CoordSystemPanel::showRows()
         m_grid->setRowVisible(key, isShown);
     m_grid->setRowCaption(QStringLiteral("parallel_1_lat"),
                           CoordSystemRows::firstParallelCaption(values));
+    const QString unit = lum::toQString(lum::symbolOf(lum::lengthUnitOf(values)));
     for (const QString& key : CoordSystemRows::planeLengths())
-        m_grid->setRowUnit(key, CoordSystemRows::planeUnit(values));
+        m_grid->setRowUnit(key, unit);
 }
 
 void CoordSystemPanel::judge()
@@ -188,26 +209,36 @@ void CoordSystemPanel::judge()
     if (CoordSystemRows::isSet(values))
         fault = lum::checkCoordParameters(values, nameOf);
     const QString key = lum::toQString(fault.key);
-    const QString message = lum::toQString(fault.message);
-    m_isUsable = !fault;
+    m_refusal = lum::toQString(fault.message);
     if (fault)
         m_grid->setRowVisible(key, true); // the user must be able to correct it
-    m_grid->markRow(key, message);
-    m_fault->setText(message);
+    m_grid->markRow(key, m_refusal);
+    showFault();
+}
+
+/// Shows one fault: what keeps the parameters from working, or else the topmost bad value.
+void CoordSystemPanel::showFault()
+{
+    const QString text = m_refusal.isEmpty() ? m_grid->faultText() : m_refusal;
+    m_fault->setText(text);
     m_fault->setPalette(faultPalette(palette()));
-    m_fault->setVisible(!m_isUsable);
+    m_fault->setVisible(!text.isEmpty());
 }
 
 void CoordSystemPanel::showIdentity()
 {
     const basalt::Dictionary values = m_grid->getData();
     const QString current = id(values);
+    QString text = tr("The coordinate system is defined by the parameters below.");
     if (!CoordSystemRows::isSet(values))
-        m_identity->setText(tr("No coordinate system is set. Search for one, or choose ellipsoid "
-                               "and projection."));
+        text = tr("No coordinate system is set. Search for one, or choose ellipsoid and "
+                  "projection.");
     else if (current.startsWith(QLatin1String(kRegister)))
-        m_identity->setText(QStringLiteral("%1   %2").arg(
-            current, QString::fromStdString(epsgName(codeOf(current).toStdString()))));
-    else
-        m_identity->setText(tr("The coordinate system is defined by the parameters below."));
+        text = QStringLiteral("%1   %2").arg(
+            current, QString::fromStdString(epsgName(codeOf(current).toStdString())));
+    const lum::LengthUnit unit = lum::lengthUnitOf(values);
+    if (!lum::isMetre(unit))
+        text += QLatin1Char('\n') + tr("Coordinates are in %1 (%2 m); heights are in metres.")
+                                        .arg(unitName(unit), metres(unit));
+    m_identity->setText(text);
 }

@@ -55,6 +55,7 @@ private:
     void showAll();
     void showRows();
     void judge();
+    void showFault();
     void showIdentity();
 
     CoordSystemSearch* m_search;
@@ -62,5 +63,6 @@ private:
     DatumShiftChoice* m_shift;
     PropertyGridCtrl* m_grid;
     QLabel* m_fault;
-    bool m_isUsable = true; ///< the coordinate service accepts the parameters, or none are set
+    QString
+        m_refusal; ///< why the coordinate service refuses the parameters; empty when it does not
 };

@@ -122,15 +122,6 @@ QString firstParallelCaption(const IDictionary& parameters)
     }
 }
 
-QString planeUnit(const IDictionary& parameters)
-{
-    const double factor = parameters.number("factor");
-    const bool hasOwnFactor = parameters.integer("project_type") == lum::kUtmCode;
-    if (hasOwnFactor || factor == 0 || (factor > 0.5 && factor < 2))
-        return QStringLiteral("m");
-    return factor > 3.2 && factor < 3.4 ? QStringLiteral("ft") : QString();
-}
-
 const std::vector<QString>& planeLengths()
 {
     static const std::vector<QString> keys = [] {

@@ -34,10 +34,6 @@ bool fillEllipsoid(std::string_view name, IDictionary& parameters);
 /// The caption of "parallel_1_lat", which has another meaning in some projections.
 [[nodiscard]] QString firstParallelCaption(const IDictionary& parameters);
 
-/// The unit of plane coordinates: "m", "ft", or empty for a rarer unit. It follows from the scale
-/// factor, which includes the conversion from metres.
-[[nodiscard]] QString planeUnit(const IDictionary& parameters);
-
 /// The keys whose values are in the unit of plane coordinates.
 [[nodiscard]] const std::vector<QString>& planeLengths();
 

@@ -21,13 +21,13 @@
 namespace {
 
 constexpr int kMostRows = 8;
-constexpr double kMostOfWidth = 0.5; ///< share of the width that names may take
+constexpr double kMostOfWidth = 0.7; ///< share of the width that names may take
 
 } // namespace
 
 CoordSystemSearch::CoordSystemSearch(QWidget* parent)
     : QWidget(parent), m_found(new CoordSystemTable(this)), m_field(new QLineEdit(this)),
-      m_list(new QTreeView(this)), m_nothing(new QLabel(this))
+      m_list(new QTreeView(parent)), m_nothing(new QLabel(this))
 {
     m_field->setPlaceholderText(tr("EPSG code or name"));
     m_field->setToolTip(tr("Search the EPSG register by code or by words of the name or area, such "
@@ -44,7 +44,6 @@ CoordSystemSearch::CoordSystemSearch(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(dpi_scaled(4));
     layout->addWidget(m_field);
-    layout->addWidget(m_list);
     layout->addWidget(m_nothing);
     connect(m_field, &QLineEdit::textChanged, this, &CoordSystemSearch::find);
 }
@@ -54,6 +53,7 @@ CoordSystemSearch::~CoordSystemSearch() = default;
 void CoordSystemSearch::makeList()
 {
     m_list->setModel(m_found);
+    m_list->setFrameStyle(QFrame::Box); // it lies over other texts
     m_list->setHeaderHidden(true);
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
@@ -76,7 +76,7 @@ void CoordSystemSearch::find(const QString& text)
     m_found->setEntries(wanted.isEmpty() ? std::vector<const CoordSystemEntry*>()
                                          : m_catalog->search(wanted.toStdString()));
     const int rows = m_found->rowCount();
-    m_list->setVisible(rows > 0);
+    m_list->setVisible(rows > 0 && m_field->hasFocus());
     m_nothing->setVisible(rows == 0 && !wanted.isEmpty());
     if (rows == 0) {
         tellNothing(wanted);
@@ -110,7 +110,11 @@ void CoordSystemSearch::tellNothing(const QString& wanted)
 void CoordSystemSearch::fitList()
 {
     const int rows = std::min(m_found->rowCount(), kMostRows);
-    m_list->setFixedHeight(rows * m_list->sizeHintForRow(0) + 2 * m_list->frameWidth());
+    const int height = rows * m_list->sizeHintForRow(0) + 2 * m_list->frameWidth();
+    const QPoint place = m_field->mapTo(parentWidget(), QPoint(0, m_field->height()));
+    const int room = parentWidget()->height() - place.y();
+    m_list->setGeometry(QRect(place, QSize(m_field->width(), std::min(height, room))));
+    m_list->raise();
     m_list->resizeColumnToContents(CoordSystemTable::Name);
     const int widest = static_cast<int>(m_field->width() * kMostOfWidth);
     if (m_list->columnWidth(CoordSystemTable::Name) > widest)
@@ -129,10 +133,20 @@ void CoordSystemSearch::choose(const QModelIndex& index)
 
 bool CoordSystemSearch::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_field && event->type() == QEvent::FocusIn)
+        find(m_field->text());
+    if (watched == m_field && event->type() == QEvent::FocusOut)
+        m_list->hide();
     if (watched == m_field && event->type() == QEvent::KeyPress &&
         handleKey(static_cast<QKeyEvent&>(*event)))
         return true;
     return QWidget::eventFilter(watched, event);
+}
+
+void CoordSystemSearch::resizeEvent(QResizeEvent* /*event*/)
+{
+    if (m_list->isVisible())
+        fitList();
 }
 
 /// \returns true when the key was for the list and not for the text

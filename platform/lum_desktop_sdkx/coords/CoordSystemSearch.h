@@ -11,7 +11,7 @@ class QLineEdit;
 class QTreeView;
 
 /// Searches the EPSG register while the user types: a field, and below it the list of what was
-/// found.
+/// found. The list lies over the other widgets of the parent while the field has the focus.
 ///
 /// The arrow keys move in the list, Enter or a click chooses, Escape clears the search. A code that
 /// is not in the list is answered with the reason. The register is read at the first search.
@@ -20,7 +20,7 @@ class CoordSystemSearch : public QWidget
     Q_OBJECT
 
 public:
-    explicit CoordSystemSearch(QWidget* parent = nullptr);
+    explicit CoordSystemSearch(QWidget* parent);
     ~CoordSystemSearch() override;
 
 Q_SIGNALS:
@@ -30,6 +30,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeList();

@@ -63,11 +63,12 @@ void DatumShiftChoice::showShiftOf(const IDictionary& parameters)
     if (item == own)
         m_names->addItem(tr("By the parameters below"));
     m_names->setCurrentIndex(item);
-    m_names->setToolTip(
-        tr("<b>%1</b><p>Datum shifts of the EPSG register for this system: name, accuracy, and the "
-           "area that each is meant for. Those that suit the system's area best come first. Their "
-           "names say \"to WGS 84\"; the parameters below lead from WGS 84.")
-            .arg(m_names->currentText().toHtmlEscaped()));
+    const QString help =
+        tr("Datum shifts of the EPSG register for this system: name, accuracy, and the area that "
+           "each is meant for. Those that suit the system's area best come first. Their names say "
+           "\"to WGS 84\"; the parameters below lead from WGS 84.");
+    m_names->setToolTip(QStringLiteral("<b>%1</b><p>%2")
+                            .arg(m_names->currentText().toHtmlEscaped(), help.toHtmlEscaped()));
     m_row->setVisible(!m_shifts.known.empty());
     const QString text = notice(item);
     m_notice->setText(text);

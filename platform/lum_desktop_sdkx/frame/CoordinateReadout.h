@@ -9,7 +9,8 @@
 
 class IDesktopHost;
 
-/// Shows the position of the cursor in the status bar: the payload of "ON_XY_CHANGED_X", unchanged.
+/// Shows the position of the cursor in the status bar: the payload of "ON_XY_CHANGED_X", and the
+/// unit of its coordinates. An empty payload clears it.
 class CoordinateReadout final : public QLabel, public IWindowx, public IEventHandler
 {
 public:

@@ -6,6 +6,7 @@
 #include "lum_desktop_sdkx/map/NorthArrow.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
+#include "lum_sdk/coords/ShownUnit.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/files/SystemDictionaries.h"
@@ -44,12 +45,6 @@ bool isWorthFinishing(const Transform& made, const Transform& live)
     const QPointF shift = (made.center() - live.center()) / live.GetScale();
     return std::abs(shift.x()) <= live.size().width() / 2.0 &&
            std::abs(shift.y()) <= live.size().height() / 2.0;
-}
-
-LengthUnit unitInUse()
-{
-    const IDictionary& choices = get_system_ini_parameter().dictionary();
-    return choices.integer(settings::kCoordUnit) != 0 ? LengthUnit::Feet : LengthUnit::Metres;
 }
 
 } // namespace
@@ -254,7 +249,7 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
     m_overlays[0].draw(painter, m_transform);
     if (!m_host.hasDocument())
         return; // nothing here has a scale
-    drawScaleBar(painter, m_transform, unitInUse());
+    drawScaleBar(painter, m_transform, lum::shownUnit());
     drawNorthArrow(painter, m_transform);
 }
 

@@ -1,17 +1,17 @@
 #include "lum_desktop_sdkx/map/ScaleBar.h"
 
 #include "basalt_utilities/Numbers.h"
+#include "lum_sdk/coords/ShownUnit.h"
 #include "lum_sdk/Transform.h"
 
-#include <QCoreApplication>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace {
 
-constexpr double kFootM = 0.3048;
 constexpr double kEarthM = 4e7; // circumference of the earth
 
 // screen pixels
@@ -47,30 +47,25 @@ double roundLength(double limit)
     return power;
 }
 
-QString lengthText(double length, LengthUnit unit)
+QString lengthText(double length, const lum::LengthUnit& unit)
 {
-    const auto number = [](double value) {
-        return QString::fromStdString(basalt::formatShortest(value));
-    };
-    if (unit == LengthUnit::Feet)
-        return QCoreApplication::translate("ScaleBar", "%1 ft").arg(number(length));
-    if (length < 1000)
-        return QCoreApplication::translate("ScaleBar", "%1 m").arg(number(length));
-    return QCoreApplication::translate("ScaleBar", "%1 km").arg(number(length / 1000));
+    const bool isKilometres = lum::isMetre(unit) && length >= 1000;
+    const std::string number = basalt::formatShortest(isKilometres ? length / 1000 : length);
+    const std::string symbol = isKilometres ? "km" : lum::symbolOf(unit);
+    return QString::fromStdString(number + ' ' + symbol);
 }
 
-void drawScaleBar(QPainter& painter, const Transform& view, LengthUnit unit)
+void drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUnit& unit)
 {
     const QSize screen = view.size();
     if (screen.width() < kSmallestScreen || screen.height() < kSmallestScreen / 2)
         return;
     const double longest = std::min(kLongest, screen.width() / 3.0);
-    if (longest * view.GetScale() > kEarthM)
+    if (longest * view.GetScale() * unit.grid.metres > kEarthM)
         return;
-    const double unitM = unit == LengthUnit::Feet ? kFootM : 1;
-    const double unitsPerPixel = view.GetScale() / unitM;
+    const double unitsPerPixel = unit.toShown(view.GetScale());
     const double length = roundLength(longest * unitsPerPixel);
-    const QString text = lengthText(length, unit);
+    const QString text = lengthText(length, unit.shown);
 
     painter.save();
     const QSize textSize = painter.fontMetrics().size(Qt::TextSingleLine, text);

@@ -59,7 +59,7 @@ private Q_SLOTS:
             const char* falseEasting; ///< null: not shown
         } cases[] = {{"32650", "EPSG:32650", "WGS 84", "UTM", nullptr},
                      {"NAD27 / Texas South Central", "EPSG:32040", "Clarke 1866",
-                      "Lambert conformal conic", "2000000 ft"}};
+                      "Lambert conformal conic", "2000000 ftUS"}};
         for (const auto& [text, id, ellipsoid, projection, falseEasting] : cases) {
             open(ownSystem());
             const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
@@ -82,11 +82,38 @@ private Q_SLOTS:
         }
     }
 
+    void namesTheUnitOfTheSystem()
+    {
+        const std::tuple<const char*, QString, QString> units[] = {
+            {"32037", "ftUS, US survey foot (0.3048006096 m)"_q, "2000000 ftUS"_q},
+            {"2222", "ft, international foot (0.3048 m)"_q, "700000 ft"_q},
+            {"2100", {}, "500000 m"_q}};
+        open({});
+        for (const auto& [code, unit, easting] : units) {
+            choose(code);
+            QVERIFY2(visibleText().contains(unit), code);
+            QCOMPARE(visibleText().contains("Coordinates are in"_q), !unit.isEmpty());
+            QCOMPARE(shown("False easting"), easting);
+        }
+        choose("32037");
+        open(m_dialog->parameters()); // as when a project is opened again
+        enter("Central meridian", "102 00 00 W");
+        QCOMPARE(value("org_lon"), "-102"_q);
+        QVERIFY(visibleText().contains("by the parameters below.\nCoordinates are in ftUS"_q));
+    }
+
     void walksTheListAndDropsASearch()
     {
         open({});
+        const QRect before = m_grid->geometry();
         search("utm zone");
         QCOMPARE(m_list->model()->rowCount(), 100);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_grid->geometry(), before); // the list lies over the page
+        m_grid->setFocus();
+        QVERIFY(!m_list->isVisible());
+        m_field->setFocus();
+        QVERIFY(m_list->isVisible());
         QTest::keyClick(m_field, Qt::Key_Down);
         QTest::keyClick(m_field, Qt::Key_Down);
         QTest::keyClick(m_field, Qt::Key_Up);
@@ -219,6 +246,8 @@ private Q_SLOTS:
         QVERIFY(isMarked("Latitude of origin"));
         QCOMPARE(changed.count(), 0);
         m_grid->setCurrentIndex(cell("Projection"));
+        const QString reason = "\"Latitude of origin\": Enter an angle from -90\u00b0"_q;
+        QVERIFY(visibleText().contains(reason)); // also while another row is described
         press(QDialogButtonBox::Ok);
         QVERIFY(m_dialog->isVisible());
         QCOMPARE(m_grid->currentIndex(), cell("Latitude of origin"));
@@ -227,6 +256,7 @@ private Q_SLOTS:
 
         enter("Latitude of origin", "31");
         QVERIFY(!isMarked("Latitude of origin"));
+        QVERIFY(!visibleText().contains(reason));
         press(QDialogButtonBox::Ok);
         QVERIFY(!m_dialog->isVisible());
         QCOMPARE(value("org_lat"), "31"_q);
@@ -407,6 +437,7 @@ private:
     }
     void click(const char* caption)
     {
+        m_grid->scrollTo(cell(caption));
         QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {},
                           m_grid->visualRect(cell(caption)).center());
     }

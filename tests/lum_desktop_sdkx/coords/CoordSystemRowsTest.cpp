@@ -65,14 +65,8 @@ TEST(CoordSystemRows, EllipsoidIsNamedByAxisAndFlattening)
         EXPECT_EQ(CoordSystemRows::ellipsoidName(parameters(list)).toStdString(), name) << list;
 }
 
-TEST(CoordSystemRows, UnitFollowsTheFactorAndCaptionTheProjection)
+TEST(CoordSystemRows, CaptionFollowsTheProjection)
 {
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=0.9996")), "m"_q);
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("")), "m"_q);
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=3.280833333")), "ft"_q);
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("factor=4.97")), QString()); // links
-    EXPECT_EQ(CoordSystemRows::planeUnit(parameters("project_type=2,factor=3.2808")),
-              "m"_q); // UTM has a factor of its own
     EXPECT_EQ(CoordSystemRows::firstParallelCaption(parameters("project_type=5")),
               "Rectified grid angle"_q);
 }

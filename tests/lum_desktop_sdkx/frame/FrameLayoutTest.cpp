@@ -169,6 +169,9 @@ TEST(FrameLayoutXml, IsRefusedWholeWithItsLine)
          "line 2: unknown element <button>"},
         {"<main_frame><menu caption=\"a\"><command name=\"n\"/></menu></main_frame>",
          "<command> without class"},
+        {"<main_frame><menu caption=\"a\"><command class=\"c\" name=\"n\" enabled_while=\"k\"/>"
+         "</menu></main_frame>",
+         "\"enabled_while\" is no key=value"},
         {"<main_frame><window class=\"a\" name=\"b\"/></main_frame>", "<window> without area"},
         {"<main_frame><window class=\"a\" name=\"b\" area=\"top\"/></main_frame>", "\"top\""},
         {"<main_frame>" + QByteArray("<menu caption=\"a\">").repeated(5000) +

@@ -4,6 +4,10 @@
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_desktop_sdkx/Registration.h"
+#include "lum_sdk/coords/EpsgSystem.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/LengthUnit.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/LineClip.h"
 #include "protocol/Events.h"
@@ -113,6 +117,7 @@ private Q_SLOTS:
     {
         m_map.reset();
         ProbeLayer::onPaint = nullptr;
+        get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
     }
 
     void layersArePaintedAtTheirPlaceBottomToTop()
@@ -342,10 +347,11 @@ private Q_SLOTS:
         for (const auto& [limit, length] :
              {std::pair(1.99, 1.), {4.9, 2.}, {5., 5.}, {0.02, 0.02}, {0.0199, 0.01}})
             QCOMPARE(roundLength(limit), length);
-        QCOMPARE(lengthText(500, LengthUnit::Metres), "500 m"_q);
-        QCOMPARE(lengthText(2e7, LengthUnit::Metres), "20000 km"_q);
-        QCOMPARE(lengthText(1e8, LengthUnit::Feet), "100000000 ft"_q);
-        QCOMPARE(lengthText(5e-5, LengthUnit::Metres), "0.00005 m"_q);
+        QCOMPARE(lengthText(500, lum::kMetre), "500 m"_q);
+        QCOMPARE(lengthText(2e7, lum::kMetre), "20000 km"_q);
+        QCOMPARE(lengthText(1e8, lum::kFoot), "100000000 ft"_q);
+        QCOMPARE(lengthText(5e-5, lum::kMetre), "0.00005 m"_q);
+        QCOMPARE(lengthText(2000, lum::kUsSurveyFoot), "2000 ftUS"_q);
 
         const auto blackPixels = [this] { // in a row through the bar, left of its text
             const QImage picture = shown();
@@ -360,7 +366,14 @@ private Q_SLOTS:
         QCOMPARE(blackPixels(), 51); // half of 100 m
         get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "1");
         m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
-        QCOMPARE(blackPixels(), 31);      // half of 200 ft
+        QCOMPARE(blackPixels(), 31); // half of 200 ft
+
+        basalt::Dictionary inFeet;
+        QCOMPARE(fillFromEpsg("32037", inFeet), std::string());
+        get_project_coord_transform().initialise(inFeet, inFeet);
+        QCOMPARE(blackPixels(), 51); // half of 100 ftUS
+        get_system_ini_parameter().dictionary().set(settings::kCoordUnit, "0");
+        QCOMPARE(blackPixels(), 34);      // half of 20 m
         m_map->zoomAbout(200, 150, 1e-6); // a bar of 150,000 km is too long
         QCOMPARE(blackPixels(), 0);
         get_system_ini_parameter().dictionary().clear();

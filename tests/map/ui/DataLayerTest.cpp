@@ -1,3 +1,6 @@
+#include "lum_sdk/coords/EpsgSystem.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
@@ -168,8 +171,12 @@ private Q_SLOTS:
                  tip("Line 1, point d (receiver)", "N=100.000    E=100.000"));
         QCOMPARE(map.layer().tipAt({301, 101}),
                  tip("Line 2, point e (source)", "N=100.000    E=300.000"));
+        basalt::Dictionary inFeet;
+        QCOMPARE(fillFromEpsg("32037", inFeet), std::string());
+        get_project_coord_transform().initialise(inFeet, inFeet);
         QCOMPARE(map.layer().tipAt({301, 201}),
-                 tip("Line 3, point f (design)", "N=200.000    E=300.000"));
+                 tip("Line 3, point f (design)", "N=200.000    E=300.000    ftUS"));
+        get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
         map.setStatus(status::kViewShowWhich, "0");
         map.publish(events::kRefreshSurveyLayer);
         map.showAll();
