@@ -10,6 +10,7 @@
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/coords/ShownUnit.h"
 #include "lum_sdk/events/Payload.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
 #include "project/ui/ProjectState.h"

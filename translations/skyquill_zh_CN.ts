@@ -26,28 +26,8 @@
 <context>
     <name>Applicationx</name>
     <message>
-        <source>Print the CPU time to the shown window, and leave.</source>
-        <translation>输出到窗口显示为止所用的 CPU 时间，然后退出。</translation>
-    </message>
-    <message>
-        <source>Write a picture of the window to &lt;file&gt;, and leave.</source>
-        <translation>把窗口图像写入 &lt;file&gt;，然后退出。</translation>
-    </message>
-    <message>
         <source>The window layout &quot;%1&quot; cannot be read (%2). The program has started with the map alone.</source>
         <translation>无法读取窗口布局“%1”（%2）。程序已启动，只有地图窗口。</translation>
-    </message>
-    <message>
-        <source>List the components that a window layout can name, and leave.</source>
-        <translation>列出窗口布局可用的组件，然后退出。</translation>
-    </message>
-    <message>
-        <source>The project file to open.</source>
-        <translation>要打开的工程文件。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a project file.</source>
-        <translation>“%1”不是工程文件。</translation>
     </message>
 </context>
 <context>
@@ -223,6 +203,33 @@
     <message>
         <source>survey</source>
         <translation>测量</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Print this text.</source>
+        <translation>显示本帮助。</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Print the CPU time to the shown window, and leave.</source>
+        <translation>输出到窗口显示为止所用的 CPU 时间，然后退出。</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to &lt;file&gt;, and leave.</source>
+        <translation>把窗口图像写入 &lt;file&gt;，然后退出。</translation>
+    </message>
+    <message>
+        <source>List the components that a window layout can name, and leave.</source>
+        <translation>列出窗口布局可用的组件，然后退出。</translation>
+    </message>
+    <message>
+        <source>The project file to open.</source>
+        <translation>要打开的工程文件。</translation>
     </message>
 </context>
 <context>
@@ -465,6 +472,43 @@
     </message>
 </context>
 <context>
+    <name>CoordSystemQuestions</name>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>by its own parameters</source>
+        <translation>按自身参数定义</translation>
+    </message>
+    <message>
+        <source>No coordinate system is chosen. Make the project without one?</source>
+        <translation>尚未选择坐标系统。是否建立没有坐标系统的工程？</translation>
+    </message>
+    <message>
+        <source>Without one, latitude and longitude cannot be turned into north and east, nor back. It can be chosen later in the project settings.</source>
+        <translation>没有坐标系统，就无法在经纬度与北、东坐标之间换算。以后可在工程设置中选择。</translation>
+    </message>
+    <message>
+        <source>This project holds points (designed: %1, survey results: %2). Change its coordinate system?</source>
+        <translation>本工程中已有点（设计点：%1，测量成果：%2）。是否更改坐标系统？</translation>
+    </message>
+    <message>
+        <source>Now: %1.
+Then: %2.
+
+The positions stay the numbers that they are: nothing is converted. They then count as positions in the new system, which is another place on the ground. Sea heights are computed anew.</source>
+        <translation>现在：%1。
+更改后：%2。
+
+坐标数值保持不变，不做任何转换；之后它们将作为新坐标系统中的坐标，对应地面上的另一位置。海拔高将重新计算。</translation>
+    </message>
+</context>
+<context>
     <name>CoordSystemRows</name>
     <message>
         <source>Latitude of true scale</source>
@@ -518,6 +562,32 @@
     </message>
 </context>
 <context>
+    <name>CsvFields</name>
+    <message>
+        <source>It has %1 fields, of which %2 are read. Cut off: &quot;%3&quot;</source>
+        <translation>共有 %1 个字段，只读取前 %2 个。被截去的内容：“%3”</translation>
+    </message>
+    <message>
+        <source>The fields are separated by tabs, not by commas.</source>
+        <translation>字段以制表符分隔，而不是逗号。</translation>
+    </message>
+    <message>
+        <source>The fields are separated by &quot;%1&quot;, not by commas.</source>
+        <translation>字段以“%1”分隔，而不是逗号。</translation>
+    </message>
+    <message>
+        <source>It holds zero bytes, as UTF-16 does. Save the file as UTF-8.</source>
+        <translation>它含有零字节，与 UTF-16 相同。请将文件另存为 UTF-8。</translation>
+    </message>
+</context>
+<context>
+    <name>CsvImport</name>
+    <message>
+        <source>Field %1, &quot;%2&quot;, is damaged.</source>
+        <translation>第 %1 个字段“%2”已损坏。</translation>
+    </message>
+</context>
+<context>
     <name>CsvInput</name>
     <message>
         <source>It is not a file.</source>
@@ -537,6 +607,21 @@
     <message>
         <source>Quality Check Complete!</source>
         <translation>质量检查完成！</translation>
+    </message>
+    <message>
+        <source>Faults found: %1.</source>
+        <translation>发现问题：%1 条。</translation>
+    </message>
+</context>
+<context>
+    <name>DataProcess5Assistant</name>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>是否退出程序？</source>
+        <translation>是否退出程序？</translation>
     </message>
 </context>
 <context>
@@ -641,6 +726,40 @@
     </message>
 </context>
 <context>
+    <name>DemoProject</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>无法建立文件夹“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DemoSurveyCommand</name>
+    <message>
+        <source>Demo Survey</source>
+        <translation>示例工程</translation>
+    </message>
+    <message>
+        <source>The demo survey is open already.</source>
+        <translation>示例工程已经打开。</translation>
+    </message>
+    <message>
+        <source>Make the demo survey in the folder &quot;%1&quot;? With No you choose another place.</source>
+        <translation>要在文件夹“%1”中建立示例工程吗？选“否”可以另选位置。</translation>
+    </message>
+    <message>
+        <source>Two crews have staked 4,000 points in six days, and left faults to be found. The file csv/faults.csv lists them. The survey is yours to change: to begin anew, delete its folder.</source>
+        <translation>两个测量组用六天放样了 4,000 个点，留下了一些有待发现的错误，文件 csv/faults.csv 列出了它们。示例工程可以任意修改；要重新开始，删除它的文件夹即可。</translation>
+    </message>
+    <message>
+        <source>Folder for the Demo Survey</source>
+        <translation>选择存放示例工程的文件夹</translation>
+    </message>
+    <message>
+        <source>The demo survey could not be made.</source>
+        <translation>无法建立示例工程。</translation>
+    </message>
+</context>
+<context>
     <name>DesignCsv</name>
     <message>
         <source>Field %1, &quot;%2&quot;, is no integer.</source>
@@ -698,6 +817,22 @@
         <source>Export Design Data</source>
         <translation>正在导出设计数据</translation>
     </message>
+    <message>
+        <source>Field %1, &quot;%2&quot;, is no integer. A receiver has 1 there, a source 0.</source>
+        <translation>第 %1 个字段“%2”不是整数。接收点应填 1，激发点应填 0。</translation>
+    </message>
+    <message>
+        <source>This is an exported design file: it has nine fields, with the design code as the sixth. An import reads eight; take the design code out.</source>
+        <translation>这是导出的设计文件：共九个字段，第六个是设计编码。导入只读取八个字段，请先去掉设计编码。</translation>
+    </message>
+    <message>
+        <source>Line 1 is the heading of survey results. Import them as such.</source>
+        <translation>第 1 行是测量成果的列标题。请作为测量数据导入。</translation>
+    </message>
+    <message>
+        <source>It has the nine fields of an exported design file.</source>
+        <translation>它是导出设计文件的九个字段。</translation>
+    </message>
 </context>
 <context>
     <name>DlgAbout</name>
@@ -728,6 +863,13 @@
         <translation>新建工程</translation>
     </message>
     <message>
+        <source>The project will be in &quot;%1&quot;.</source>
+        <translation>工程将保存在“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DlgProjectPlace</name>
+    <message>
         <source>Project Name:</source>
         <translation>工程名称：</translation>
     </message>
@@ -752,8 +894,12 @@
         <translation>选择工程目录</translation>
     </message>
     <message>
-        <source>The project will be in &quot;%1&quot;.</source>
-        <translation>工程将保存在“%1”。</translation>
+        <source>The open project itself is in this folder. Choose another name or folder.</source>
+        <translation>当前打开的工程就在此文件夹中。请另选名称或文件夹。</translation>
+    </message>
+    <message>
+        <source>Use &quot;%1&quot;</source>
+        <translation>使用“%1”</translation>
     </message>
 </context>
 <context>
@@ -788,6 +934,18 @@
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>The limits cannot be shown, and stay as they are: the file &quot;%1&quot; cannot be read (%2).</source>
+        <translation>无法显示质量限差，限差保持不变：文件“%1”无法读取（%2）。</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>请确认输入的复测代码是不为&apos; C &apos;的单个字母</source>
+        <translation>请确认输入的复测代码是不为' C '的单个字母</translation>
     </message>
 </context>
 <context>
@@ -857,6 +1015,44 @@
     </message>
 </context>
 <context>
+    <name>GuideCommand</name>
+    <message>
+        <source>User Guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>The guide &quot;%1&quot; is not installed.</source>
+        <translation>没有安装指南“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>GuideWindow</name>
+    <message>
+        <source>Find in the guide</source>
+        <translation>在指南中查找</translation>
+    </message>
+    <message>
+        <source>Find the place before</source>
+        <translation>查找上一处</translation>
+    </message>
+    <message>
+        <source>Find the next place</source>
+        <translation>查找下一处</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>没有找到</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 处，共 %2 处</translation>
+    </message>
+</context>
+<context>
     <name>ImportSummary</name>
     <message>
         <source>Line %1: %2</source>
@@ -875,12 +1071,78 @@
         <translation>被文件中同一点的后续行取代的行：%1。</translation>
     </message>
     <message>
-        <source>Fields of added points that cannot be read and are left empty: %1.</source>
-        <translation>已导入的点中无法识别而留空的字段：%1。</translation>
-    </message>
-    <message>
         <source>Further fields that cannot be read: %1.</source>
         <translation>其余无法识别的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Further fields with such bytes: %1.</source>
+        <translation>其余含有此类字节的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Fields that cannot be read and became 0: %1.</source>
+        <translation>无法识别而取为 0 的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Fields taken for something else: %1.</source>
+        <translation>按其他内容处理的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Further fields taken for something else: %1.</source>
+        <translation>其余按其他内容处理的字段：%1。</translation>
+    </message>
+    <message>
+        <source>Lines with too many fields, of which the last are cut off: %1. A comma in a text begins a new field.</source>
+        <translation>字段过多而截去末尾字段的行：%1。文本中的逗号会开始一个新字段。</translation>
+    </message>
+    <message>
+        <source>Further lines with too many fields: %1.</source>
+        <translation>其余字段过多的行：%1。</translation>
+    </message>
+    <message>
+        <source>Lines with fewer fields than the heading: %1. What is missing is empty.</source>
+        <translation>字段少于列标题的行：%1。缺少的字段留空。</translation>
+    </message>
+    <message>
+        <source>Further lines with fewer fields: %1.</source>
+        <translation>其余字段不足的行：%1。</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding is %1.</source>
+        <translation>文件的编码为 %1。</translation>
+    </message>
+    <message>
+        <source>Fields with bytes that are no %1: %2. If the file has another encoding, save it as UTF-8 and import it again.</source>
+        <translation>含有非 %1 字节的字段：%2。如果文件是其他编码，请另存为 UTF-8 后重新导入。</translation>
+    </message>
+    <message>
+        <source>Rows without a line number: %1. A check point goes to the line in its number, any other to &quot;%2&quot;.</source>
+        <translation>没有线号的行：%1。检查点归入其点号中的测线，其他点归入“%2”。</translation>
+    </message>
+    <message>
+        <source>Fields of whole numbers whose decimals were dropped: %1.</source>
+        <translation>舍去小数的整数字段：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>LumMessageBox</name>
+    <message>
+        <source>&amp;Do not show again</source>
+        <translation>不再显示(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>MainFrame</name>
+    <message>
+        <source>&quot;%1&quot; is not a project file.</source>
+        <translation>“%1”不是工程文件。</translation>
+    </message>
+    <message>
+        <source>[read-only]</source>
+        <translation>[只读]</translation>
+    </message>
+    <message>
+        <source>Go to the menus</source>
+        <translation>进入菜单</translation>
     </message>
 </context>
 <context>
@@ -966,6 +1228,14 @@
         <source>The folder &quot;%1&quot; cannot be written.</source>
         <translation>文件夹“%1”不可写。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no project file: its name would end in &quot;.%2&quot;.</source>
+        <translation>“%1”不是工程文件：工程文件名应以“.%2”结尾。</translation>
+    </message>
+    <message>
+        <source>Open &quot;%1&quot; instead.</source>
+        <translation>请打开“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>ProjectSession</name>
@@ -988,6 +1258,26 @@
     <message>
         <source>The project could not be saved. Close it all the same and lose the changes?</source>
         <translation>工程未能保存。仍要关闭并放弃更改吗？</translation>
+    </message>
+    <message>
+        <source>save project?</source>
+        <translation>是否保存工程？</translation>
+    </message>
+    <message>
+        <source>Save project failed!</source>
+        <translation>工程保存失败！</translation>
+    </message>
+    <message>
+        <source>&quot;Project &gt; Save a Copy As&quot; saves it, with all changes, in another folder.</source>
+        <translation>可用“工程 &gt; 另存副本”把工程连同全部更改保存到其他文件夹。</translation>
+    </message>
+    <message>
+        <source>success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Save project success!</source>
+        <translation>工程保存成功！</translation>
     </message>
 </context>
 <context>
@@ -1069,10 +1359,6 @@
         <translation>该工程的文件夹不可写：更改无法保存。</translation>
     </message>
     <message>
-        <source>The project file &quot;%1&quot; cannot be read: what it says about the project is neither shown nor saved.</source>
-        <translation>工程文件“%1”无法读取：其中的工程信息既不显示也不保存。</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; cannot be written: %2.</source>
         <translation>文件“%1”无法写入：%2。</translation>
     </message>
@@ -1091,6 +1377,10 @@
     <message>
         <source>Another program has changed the project since it was opened here without a lock.</source>
         <translation>该工程在此处未加锁打开之后，已被另一个程序更改。</translation>
+    </message>
+    <message>
+        <source>The project file &quot;%1&quot; cannot be read (%2): what it says about the project is neither shown nor saved.</source>
+        <translation>无法读取工程文件“%1”（%2）：其中的工程信息既不显示也不保存。</translation>
     </message>
 </context>
 <context>
@@ -1247,22 +1537,49 @@
     </message>
     <message>
         <source>Horizontal Accuracy Out-range.</source>
-        <translation>平面精度超限。</translation>
+        <translation>横向偏差超限。</translation>
     </message>
     <message>
         <source>Vertical Accuracy Out-range.</source>
-        <translation>高程精度超限。</translation>
+        <translation>纵向偏差超限。</translation>
     </message>
     <message>
         <source>Horizontal AND Vertical Accuracy Out-range.</source>
-        <translation>平面和高程精度均超限。</translation>
+        <translation>横向和纵向偏差均超限。</translation>
+    </message>
+    <message>
+        <source>The transversal deviation: how far the point lies beside its line.</source>
+        <translation>横向偏差：实测点偏离测线的距离。</translation>
+    </message>
+    <message>
+        <source>The longitudinal deviation: how far the point lies from its place, measured along its line.</source>
+        <translation>纵向偏差：实测点沿测线方向偏离设计位置的距离。</translation>
+    </message>
+    <message>
+        <source>The transversal and the longitudinal deviation: how far the point lies from its place, measured across and along its line.</source>
+        <translation>横向偏差和纵向偏差：实测点垂直于测线和沿测线方向偏离设计位置的距离。</translation>
+    </message>
+</context>
+<context>
+    <name>QualityLimits</name>
+    <message>
+        <source>The minimum is above this maximum: no value passes.</source>
+        <translation>下限大于此上限：任何值都不合格。</translation>
+    </message>
+    <message>
+        <source>With a minus every resurvey is out of range.</source>
+        <translation>限差为负时，所有复测点都会超限。</translation>
+    </message>
+    <message>
+        <source>The minus does not count: the limit is %1.</source>
+        <translation>负号不起作用：限差为 %1。</translation>
     </message>
 </context>
 <context>
     <name>RecentProjectCommand</name>
     <message>
-        <source>No projects yet</source>
-        <translation>暂无工程</translation>
+        <source>&amp;No projects yet</source>
+        <translation>还没有工程(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -1275,16 +1592,16 @@
 <context>
     <name>ResultList</name>
     <message>
-        <source>Copy</source>
-        <translation>复制</translation>
-    </message>
-    <message>
-        <source>Save as CSV...</source>
-        <translation>另存为 CSV...</translation>
-    </message>
-    <message>
         <source>Save as CSV</source>
         <translation>另存为 CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation>另存为 CSV(&amp;S)...</translation>
     </message>
 </context>
 <context>
@@ -1311,30 +1628,65 @@
     </message>
 </context>
 <context>
-    <name>SaveProjectCommand</name>
+    <name>SaveCopyCommand</name>
     <message>
-        <source>information</source>
-        <translation>提示</translation>
+        <source>Save a Copy As</source>
+        <translation>另存副本</translation>
     </message>
     <message>
-        <source>save project?</source>
-        <translation>是否保存工程？</translation>
+        <source>The folder &quot;%1&quot; exists already. Save the copy there?</source>
+        <translation>文件夹“%1”已存在。是否把副本保存在那里？</translation>
     </message>
     <message>
-        <source>success</source>
-        <translation>成功</translation>
+        <source>Its files stay; those of the same names get the present time behind their names.</source>
+        <translation>其中的文件会保留；同名文件的名称后将加上当前时间。</translation>
     </message>
     <message>
-        <source>Save project success!</source>
-        <translation>工程保存成功！</translation>
+        <source>The copy will be in &quot;%1&quot;.</source>
+        <translation>副本将保存在“%1”。</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>失败</translation>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>无法创建文件夹“%1”。</translation>
     </message>
     <message>
-        <source>Save project failed!</source>
-        <translation>工程保存失败！</translation>
+        <source>The copy cannot be saved.</source>
+        <translation>无法保存副本。</translation>
+    </message>
+    <message>
+        <source>The copy is in &quot;%1&quot;.</source>
+        <translation>副本已保存在“%1”。</translation>
+    </message>
+    <message>
+        <source>The folder of the open project, &quot;%1&quot;, is gone.</source>
+        <translation>当前打开工程的文件夹“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>The open project cannot be saved in its own folder, &quot;%1&quot;.</source>
+        <translation>当前打开的工程无法保存在原文件夹“%1”中。</translation>
+    </message>
+    <message>
+        <source>Go on with the copy?</source>
+        <translation>是否改用副本继续工作？</translation>
+    </message>
+    <message>
+        <source>The open project stays in &quot;%1&quot;.</source>
+        <translation>当前打开的工程仍在“%1”。</translation>
+    </message>
+    <message>
+        <source>The copy cannot be opened.</source>
+        <translation>无法打开副本。</translation>
+    </message>
+</context>
+<context>
+    <name>SeaHeights</name>
+    <message>
+        <source>Geoid file &quot;%1&quot;: %2</source>
+        <translation>大地水准面文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>Results whose sea height is their elevation: %1 of %2. %3</source>
+        <translation>海拔高取自高程的成果：%1 个，共 %2 个。%3</translation>
     </message>
 </context>
 <context>
@@ -1346,6 +1698,79 @@
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsWindow</name>
+    <message>
+        <source>Without a menu entry</source>
+        <translation>不在菜单中</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ShowQuestionsCommand</name>
+    <message>
+        <source>All questions and messages are shown already.</source>
+        <translation>没有被隐藏的提问和消息。</translation>
+    </message>
+    <message>
+        <source>Questions and messages that are shown again: %1.</source>
+        <translation>恢复显示的提问和消息：%1 个。</translation>
+    </message>
+    <message>
+        <source>Questions</source>
+        <translation>提问</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>&amp;New Project...</source>
+        <translation>新建工程(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Make a folder for a survey and choose its coordinate system</source>
+        <translation>为测区建立工程文件夹并选择坐标系统</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project...</source>
+        <translation>打开工程(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Choose a project file</source>
+        <translation>选择一个工程文件</translation>
+    </message>
+    <message>
+        <source>Demo &amp;Survey...</source>
+        <translation>示例工程(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>An invented survey with known faults, to try everything on</source>
+        <translation>带有已知错误的虚构测量数据，用来试用各项功能</translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>最近的工程</translation>
     </message>
 </context>
 <context>
@@ -1562,16 +1987,71 @@
         <translation>正在导入测量数据</translation>
     </message>
     <message>
-        <source>No line holds the captions of line number and point number.</source>
-        <translation>没有任何一行含有线号和点号的列标题。</translation>
-    </message>
-    <message>
         <source>Export Survey Data</source>
         <translation>正在导出测量数据</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be read.</source>
         <translation>%1“%2”无法识别。</translation>
+    </message>
+    <message>
+        <source>The heading is that of a design file, whose points were taken as results. Design points have an import of their own.</source>
+        <translation>列标题是设计文件的，其中的点被当作测量成果读入。设计点另有专门的导入。</translation>
+    </message>
+    <message>
+        <source>Columns that are not read: %1: %2.</source>
+        <translation>未读取的列 %1 个：%2。</translation>
+    </message>
+    <message>
+        <source>The last fields are missing.</source>
+        <translation>缺少末尾的字段。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is no time such as 2024/12/31 23:59:59.</source>
+        <translation>%1“%2”不是形如 2024/12/31 23:59:59 的时间。</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is taken for &quot;%3&quot;.</source>
+        <translation>%1“%2”按“%3”处理。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyHeadings</name>
+    <message>
+        <source>&quot;%1&quot; must be written &quot;%2&quot;.</source>
+        <translation>“%1”应写作“%2”。</translation>
+    </message>
+    <message>
+        <source>Line %1 is: %2</source>
+        <translation>第 %1 行为：%2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>No line holds the captions of line number and point number: %1.</source>
+        <translation>没有任何一行含有线号和点号的列标题：%1。</translation>
+    </message>
+    <message>
+        <source>, or </source>
+        <translation>，或 </translation>
+    </message>
+    <message>
+        <source>It is the heading of a design file. Import it as design points.</source>
+        <translation>它是设计文件的列标题。请作为设计数据导入。</translation>
+    </message>
+    <message>
+        <source>Line %1 is no heading. %2</source>
+        <translation>第 %1 行不是列标题。%2</translation>
+    </message>
+    <message>
+        <source>The captions stand in quotes.</source>
+        <translation>列标题带有引号。</translation>
+    </message>
+    <message>
+        <source>It lacks the caption %1.</source>
+        <translation>它缺少列标题 %1。</translation>
     </message>
 </context>
 <context>

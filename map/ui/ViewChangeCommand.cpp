@@ -24,7 +24,7 @@ void ViewChangeCommand::execute()
     announceStatus();
 }
 
-bool ViewChangeCommand::mayStay(const IMapWindow& window) const
+bool ViewChangeCommand::mayStay(IMapWindow& window) const
 {
     if (parameters().integer("keep_place") != 1)
         return false;

@@ -12,5 +12,5 @@ public:
     void execute() override;
 
 private:
-    [[nodiscard]] bool mayStay(const IMapWindow& window) const;
+    [[nodiscard]] bool mayStay(IMapWindow& window) const;
 };

@@ -7,14 +7,13 @@
 
 namespace {
 
-/// The letters of the positive half, each with that of the negative one behind it: also the Chinese
-/// words for north, south, east and west.
+/// The letters of the positive half, then those of the negative one.
 QString knownLetters(AngleLetters letters)
 {
     if (letters == AngleLetters::None)
         return {};
-    return letters == AngleLetters::NorthSouth ? QStringLiteral("NSns\u5317\u5357")
-                                               : QStringLiteral("EWew\u4e1c\u897f");
+    return letters == AngleLetters::NorthSouth ? QStringLiteral("NSns北南")
+                                               : QStringLiteral("EWew东西");
 }
 
 /// Cuts a sign or a letter off. \returns 1 or -1; nothing when there is more than one of them
@@ -31,7 +30,7 @@ std::optional<int> takeSign(QString& text, AngleLetters letters)
     int sign = 1;
     if (isBefore) {
         sign = signOf(text.at(0));
-        const bool isWord = text.size() > 1 && QStringLiteral("\u7eac\u7ecf").contains(text.at(1));
+        const bool isWord = text.size() > 1 && QStringLiteral("纬经").contains(text.at(1));
         text.remove(0, isWord && signs.indexOf(text.at(0)) > 1 ? 2 : 1);
     } else if (isBehind) {
         sign = signOf(last);
@@ -51,11 +50,11 @@ std::optional<double> readAngle(const QString& text, AngleLetters letters)
                        "(?:([0-9]+)(?:\\s*['′’分:]\\s*|\\s+))?)?"
                        "([0-9]+\\.?[0-9]*)\\s*([°º度'′’分\"″”秒]|''|′′)?$"));
     static const std::array<QStringList, 3> kMarks = {
-        QStringList{QStringLiteral("°"), QStringLiteral("º"), QStringLiteral("\u5ea6")},
+        QStringList{QStringLiteral("°"), QStringLiteral("º"), QStringLiteral("度")},
         QStringList{QStringLiteral("'"), QStringLiteral("′"), QStringLiteral("’"),
-                    QStringLiteral("\u5206")},
+                    QStringLiteral("分")},
         QStringList{QStringLiteral("\""), QStringLiteral("″"), QStringLiteral("”"),
-                    QStringLiteral("''"), QStringLiteral("′′"), QStringLiteral("\u79d2")}};
+                    QStringLiteral("''"), QStringLiteral("′′"), QStringLiteral("秒")}};
     QString rest = text.trimmed();
     const auto sign = rest.isEmpty() ? std::nullopt : takeSign(rest, letters);
     const auto form = kForm.match(rest);

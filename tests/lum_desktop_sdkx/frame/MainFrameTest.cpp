@@ -330,7 +330,7 @@ private Q_SLOTS:
         <command class="SettingChoiceCommand" name="A" setting="a" checked_while="view=1"/>
         <command class="SettingChoiceCommand" name="B" setting="a" checked_while="view=0"/>
         </menu></main_frame>)");
-        ICommandList& commands = shown.host.commands();
+        auto& commands = shown.host.commands();
         get_system_status_dictionary().set("open", "1");
         for (const char* view : {"1", "0", "2", "1"}) {
             get_system_status_dictionary().set("view", view);
