@@ -215,7 +215,7 @@ private Q_SLOTS:
             QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"),
                      QStringLiteral("Cancel"));
             QVERIFY2(log.lines(ILogger::Level::Info).empty(), log.text().c_str());
-            qDeleteAll(qApp->findChildren<QTranslator*>());
+            qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
         }
         lum::loadTranslations(QStringLiteral("zh_CN"), kFolder, QStringLiteral("skyquill"));
         QCOMPARE(QCoreApplication::translate("TimeZomeDlg", "确认"), QStringLiteral("确认"));

@@ -64,6 +64,11 @@ PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
             [this](const QModelIndex& current) { describe(current); });
 }
 
+PropertyGridCtrl::~PropertyGridCtrl()
+{
+    m_view->itemDelegate()->disconnect(this); // an open editor closes when this is a grid no more
+}
+
 bool PropertyGridCtrl::init(const QString& controlXmlPath, const IDictionary& values)
 {
     QByteArray xml;

@@ -31,6 +31,7 @@ public:
     };
 
     explicit PropertyGridCtrl(QWidget* parent = nullptr);
+    ~PropertyGridCtrl() override;
 
     /// Shows `values` in the rows of the control file. When it is the same file as before, only the
     /// values are replaced: scroll position, closed groups and hidden rows stay.
