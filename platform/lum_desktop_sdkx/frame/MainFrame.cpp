@@ -6,7 +6,6 @@
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/DockStyle.h"
 #include "lum_desktop_sdkx/frame/FrameState.h"
-#include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
@@ -19,16 +18,12 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QStatusBar>
 #include <qtadvanceddocking/DockManager.h>
-#include <qtadvanceddocking/DockWidget.h>
 #include <qtadvanceddocking/FloatingDockContainer.h>
 #include <qtadvanceddocking/IconProvider.h>
 #include <QTimer>
-#include <QToolBar>
 
 #include <algorithm>
 #include <utility>
@@ -73,13 +68,6 @@ QString droppedFile(const QDropEvent& event)
     return isOurs ? file : QString();
 }
 
-/// A caption whose number is its mnemonic, as far as there are digits.
-QString numbered(int number, QString caption)
-{
-    caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
-    return number < 10 ? QStringLiteral("&%1  %2").arg(number).arg(caption) : caption;
-}
-
 /// Keeps the height of the status bar. If a progress bar, or a text in the taller letters of
 /// another script, changed it, the map would get another size, paint anew and tell its progress
 /// again.
@@ -114,7 +102,7 @@ bool mayClose(IGuiAssistant& assistant)
 } // namespace
 
 MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
-    : m_host(host), m_docks(makeDockManager(this)),
+    : m_host(host), m_docks(makeDockManager(this)), m_menus(*this, host),
       m_subscription(*this,
                      std::string(events::kUpdateSystemStatus) + "," + events::kProjectChanged,
                      host.eventManager())
@@ -126,14 +114,7 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
     fixHeight(*statusBar());
     connect(m_docks, &ads::CDockManager::floatingWidgetCreated, this, &MainFrame::adoptFloating);
     makeAssistants(layout);
-    for (const FrameLayout::Menu& menu : layout.menus) {
-        auto* const top = menuBar()->addMenu(desktop::layoutText(menu.caption));
-        fillMenu(*top, menu.items);
-        top->menuAction()->setVisible(!isDispensable(*top));
-    }
-    addMenuKey();
-    for (const FrameLayout::ToolBar& bar : layout.toolBars)
-        addToolBar(bar);
+    m_menus.add(layout);
     for (const FrameLayout::Window& window : layout.windows)
         m_host.windows().openWindow(window);
     for (const auto& assistant : m_assistants)
@@ -293,113 +274,6 @@ void MainFrame::makeAssistants(const FrameLayout& layout)
         auto assistant = extensible_factory_IGuiAssistant().make(name.toStdString(), "", &m_host);
         if (assistant)
             m_assistants.push_back(std::move(assistant));
-    }
-}
-
-void MainFrame::fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items)
-{
-    using Kind = FrameLayout::MenuItem::Kind;
-    bool separatorDue = false; // added before the next entry: none at the ends, never two
-    const auto add = [&](QAction* action) {
-        if (separatorDue && menu.actions().size() > 1)
-            menu.insertSeparator(action);
-        separatorDue = false;
-    };
-    for (const FrameLayout::MenuItem& item : items) {
-        switch (item.kind) {
-        case Kind::Separator:
-            separatorDue = true;
-            break;
-        case Kind::Docks:
-            m_dockMenus.push_back(&menu);
-            connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { listDocks(menu); });
-            break;
-        case Kind::Command:
-            if (QAction* action = m_host.commands().add(item.command, &m_host, this)) {
-                menu.addAction(action);
-                add(action);
-            }
-            break;
-        case Kind::Submenu: {
-            auto* const submenu =
-                new QMenu(desktop::layoutText(item.submenu.front().caption), &menu);
-            fillMenu(*submenu, item.submenu.front().items);
-            if (!isDispensable(*submenu)) {
-                menu.addMenu(submenu);
-                add(submenu->menuAction());
-            }
-            break;
-        }
-        }
-    }
-}
-
-void MainFrame::listDocks(QMenu& menu)
-{
-    const QList<QAction*> listed = menu.actions();
-    int number = 0;
-    for (QAction* toggle : m_host.windows().toggleActions()) {
-        if (!listed.contains(toggle)) // the window was opened since the menu was shown
-            menu.addAction(toggle);
-        const auto* const dock = qobject_cast<ads::CDockWidget*>(toggle->parent());
-        toggle->setText(numbered(++number, dock->windowTitle()));
-    }
-}
-
-void MainFrame::addMenuKey()
-{
-    auto* const key = new QAction(tr("Go to the menus"), this);
-    key->setShortcut(Qt::Key_F10);
-    key->setShortcutContext(Qt::ApplicationShortcut); // also from a floating window
-    connect(key, &QAction::triggered, this, &MainFrame::openFirstMenu);
-    addAction(key);
-}
-
-void MainFrame::openFirstMenu()
-{
-    activateWindow();
-    const QList<QAction*> tops = menuBar()->actions();
-    const auto isUsable = [](const QAction* action) {
-        return action->isVisible() && action->isEnabled() && !action->isSeparator();
-    };
-    const auto top = std::find_if(tops.begin(), tops.end(), isUsable);
-    if (top == tops.end() || (*top)->menu() == nullptr)
-        return;
-    menuBar()->setActiveAction(*top);
-    const QList<QAction*> entries = (*top)->menu()->actions();
-    const auto first = std::find_if(entries.begin(), entries.end(), isUsable);
-    if (first != entries.end())
-        (*top)->menu()->setActiveAction(*first);
-}
-
-bool MainFrame::isDispensable(const QMenu& menu) const
-{
-    return menu.isEmpty() &&
-           std::find(m_dockMenus.begin(), m_dockMenus.end(), &menu) == m_dockMenus.end();
-}
-
-void MainFrame::addToolBar(const FrameLayout::ToolBar& bar)
-{
-    std::vector<QAction*> actions; // a null action is a separator
-    for (const QString& name : bar.commands) {
-        QAction* const action = name.isEmpty() ? nullptr : m_host.commands().action(name);
-        const bool isDouble = actions.empty() || actions.back() == nullptr;
-        if (action != nullptr || (name.isEmpty() && !isDouble))
-            actions.push_back(action); // a missing command is in the log already
-    }
-    if (!actions.empty() && actions.back() == nullptr)
-        actions.pop_back();
-    if (actions.empty())
-        return;
-    QToolBar* const toolBar = QMainWindow::addToolBar(desktop::layoutText(bar.caption));
-    toolBar->setObjectName(bar.name);
-    const auto bars = findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);
-    toolBar->toggleViewAction()->setText(numbered(bars.size(), toolBar->windowTitle()));
-    for (QAction* action : actions) {
-        if (action != nullptr)
-            toolBar->addAction(action);
-        else
-            toolBar->addSeparator();
     }
 }
 

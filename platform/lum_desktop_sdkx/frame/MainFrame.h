@@ -2,7 +2,7 @@
 
 #include "lum_desktop_sdkx/ComponentKinds.h"
 #include "lum_desktop_sdkx/DesktopDocument.h"
-#include "lum_desktop_sdkx/frame/FrameLayout.h"
+#include "lum_desktop_sdkx/frame/FrameMenus.h"
 #include "lum_desktop_sdkx/IMainFrame.h"
 #include "lum_sdk/events/EventSubscription.h"
 #include "lum_sdk/events/IEventManager.h"
@@ -13,7 +13,7 @@
 #include <vector>
 
 class DesktopHost;
-class QMenu;
+struct FrameLayout;
 struct FrameState;
 
 namespace ads {
@@ -66,15 +66,6 @@ protected:
 private:
     void showTitle();
     void makeAssistants(const FrameLayout& layout);
-    void fillMenu(QMenu& menu, const std::vector<FrameLayout::MenuItem>& items);
-    /// Lists the docks with their numbers as mnemonics.
-    void listDocks(QMenu& menu);
-    void addMenuKey();
-    /// Opens the first menu with its first entry chosen.
-    void openFirstMenu();
-    /// True for a menu whose entries were all left out.
-    [[nodiscard]] bool isDispensable(const QMenu& menu) const;
-    void addToolBar(const FrameLayout::ToolBar& bar);
     void restoreFrame(const FrameState& state);
     void saveArrangement();
     void openWaitingFile();
@@ -83,8 +74,8 @@ private:
 
     DesktopHost& m_host; // outlives the frame
     ads::CDockManager* m_docks;
+    FrameMenus m_menus;
     std::vector<IGuiAssistantFactory::Pointer> m_assistants;
-    std::vector<QMenu*> m_dockMenus; ///< they list the windows, filled each time they open
     QString m_title;
     DesktopDocument m_document;
     QByteArray m_defaultToolBars;
