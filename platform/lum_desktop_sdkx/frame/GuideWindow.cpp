@@ -4,13 +4,11 @@
 #include "lum_sdk/DpiScale.h"
 
 #include <QAction>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QScreen>
 #include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -22,8 +20,7 @@ GuideWindow::GuideWindow(QWidget* parent, const QString& title, const QString& f
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(title);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
-    const QSize room = screen()->availableSize() * 0.9;
-    resize(QSize(dpi_scaled(980), dpi_scaled(720)).boundedTo(room));
+    resize(dpi_scaled(980), dpi_scaled(720));
 
     QVBoxLayout* const layout = makeMainLayout();
     layout->addLayout(makeFindRow());

@@ -8,7 +8,8 @@
 void ShortcutsCommand::execute()
 {
     auto* const frame = qobject_cast<QMainWindow*>(host().dialogParent());
-    delete frame->findChild<ShortcutsWindow*>(); // its list may be old
+    if (auto* const old = frame->findChild<ShortcutsWindow*>())
+        old->close(); // the keys may have changed since
     auto* const window = new ShortcutsWindow(*frame);
     window->show();
 }

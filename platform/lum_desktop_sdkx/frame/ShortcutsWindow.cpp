@@ -5,14 +5,12 @@
 
 #include <QAction>
 #include <QDialogButtonBox>
-#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QScreen>
 #include <QSet>
 #include <QTextBrowser>
 #include <QTextDocumentFragment>
@@ -83,8 +81,7 @@ ShortcutsWindow::ShortcutsWindow(QMainWindow& frame)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Shortcuts"));
-    const QSize room = screen()->availableSize() * 0.9;
-    resize(QSize(dpi_scaled(460), dpi_scaled(620)).boundedTo(room));
+    resize(dpi_scaled(460), dpi_scaled(620));
     m_text->document()->setDocumentMargin(dpi_scaled(12));
     m_text->setHtml(ShortcutList(frame).html());
 
