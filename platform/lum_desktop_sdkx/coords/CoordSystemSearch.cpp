@@ -97,7 +97,7 @@ void CoordSystemSearch::tellNothing(const QString& wanted)
     QString text = tr("No coordinate system has this code or name.");
     if (isRegistered) {
         basalt::Dictionary unused;
-        const std::string reason = fillFromEpsg(code, unused);
+        const std::string reason = fillProjectionFromEpsg(code, unused);
         text = reason.empty() ? tr("EPSG:%1 (%2) is no longer in use; choose the system that has "
                                    "replaced it.")
                                     .arg(lum::toQString(code), lum::toQString(epsgName(code)))

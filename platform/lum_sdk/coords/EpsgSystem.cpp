@@ -68,7 +68,7 @@ Conversion conversionOf(PJ_CONTEXT* context, const PJ* crs)
 
 struct Axes
 {
-    double unitM = 0;
+    double unitM = 1;
     PlaneAxes directions;
 };
 
