@@ -19,7 +19,6 @@
 #include "protocol/StatusKeys.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QPointF>
 
 #include <cstring>
@@ -94,12 +93,9 @@ int DataProcess5Assistant::queryClose()
 
 int DataProcess5Assistant::openFile(const QString& path)
 {
-    const QFileInfo file(path);
-    if (file.suffix().compare(projectExtension(), Qt::CaseInsensitive) != 0)
+    if (!hasProjectSuffix(path))
         return 0;
-    if (ProjectState::isOpen() && file == QFileInfo(ProjectState::place().file))
-        return 1; // it is open here already
-    if (ProjectSession::closeCurrent(m_host))
+    if (!ProjectState::isOpen(path) && ProjectSession::closeCurrent(m_host))
         ProjectSession::openFile(m_host, path);
     return 1;
 }

@@ -27,12 +27,7 @@ QString translated(const char* text)
     return QCoreApplication::translate("DemoSurveyCommand", text);
 }
 
-QString title()
-{
-    return translated(QT_TRANSLATE_NOOP("DemoSurveyCommand", "Demo Survey"));
-}
-
-/// The project's name, which is that of its folder, too.
+/// The title of the boxes, and the name of the project and its folder.
 QString demoName()
 {
     return translated(QT_TRANSLATE_NOOP("DemoSurveyCommand", "Demo Survey"));
@@ -57,9 +52,9 @@ void remember(const QString& file)
 void DemoSurveyCommand::execute()
 {
     QString file = knownDemo();
-    if (!file.isEmpty() && ProjectState::isOpen() && ProjectState::place().file == file) {
+    if (!file.isEmpty() && ProjectState::isOpen(file)) {
         LumMessageBox::information(
-            host().dialogParent(), title(),
+            host().dialogParent(), demoName(),
             translated(QT_TRANSLATE_NOOP("DemoSurveyCommand", "The demo survey is open already.")));
         return;
     }
@@ -80,7 +75,7 @@ QString DemoSurveyCommand::chooseLocation()
         const QString folder =
             QDir::toNativeSeparators(ProjectPlace::planned(location, demoName()).folder);
         const Button answer = LumMessageBox::question(
-            host().dialogParent(), title(),
+            host().dialogParent(), demoName(),
             translated(QT_TRANSLATE_NOOP("DemoSurveyCommand",
                                          "Make the demo survey in the folder \"%1\"? "
                                          "With No you choose another place."))
@@ -116,7 +111,7 @@ QString DemoSurveyCommand::make()
         const Outcome making = makeDemoProject(place);
         if (!making.isDone()) {
             basalt::logError("No demo survey was made: " + making.detail());
-            LumMessageBox::warning(host().dialogParent(), title(),
+            LumMessageBox::warning(host().dialogParent(), demoName(),
                                    translated(QT_TRANSLATE_NOOP(
                                        "DemoSurveyCommand", "The demo survey could not be made.")),
                                    Button::Ok, making.text());

@@ -96,9 +96,14 @@ QString projectNameProposal(const QString& name)
     return projectNameFault(proposal).isEmpty() ? proposal : QString();
 }
 
+bool hasProjectSuffix(const QString& file)
+{
+    return QFileInfo(file).suffix().compare(projectExtension(), Qt::CaseInsensitive) == 0;
+}
+
 QString projectSuffixFault(const QString& file)
 {
-    if (QFileInfo(file).suffix().compare(projectExtension(), Qt::CaseInsensitive) == 0)
+    if (hasProjectSuffix(file))
         return {};
     QString fault =
         translated(QT_TRANSLATE_NOOP("ProjectPlace",

@@ -33,6 +33,9 @@ struct ProjectPlace
 /// none.
 [[nodiscard]] QString projectNameProposal(const QString& name);
 
+/// Whether the file is named as project files are.
+[[nodiscard]] bool hasProjectSuffix(const QString& file);
+
 /// Why a file of this name is no project file, a translated sentence; empty when it may be one.
 [[nodiscard]] QString projectSuffixFault(const QString& file);
 

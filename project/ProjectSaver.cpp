@@ -120,13 +120,15 @@ bool ProjectSaver::addMissingColumns()
 
 bool ProjectSaver::addUnitColumn()
 {
+    const std::string table = CoordinateRecord::kTable;
+    const std::string column = CoordinateRecord::kUnit;
     RecordSet known;
-    if (!m_database.query("select name from pragma_table_info('CoordinateSystemItem') "
-                          "where name = 'unit_m'",
-                          known))
+    const std::string question =
+        "select name from pragma_table_info('" + table + "') where name = '" + column + "'";
+    if (!m_database.query(question.c_str(), known))
         return false;
     return !known.isEmpty() ||
-           m_database.execute("alter table CoordinateSystemItem add unit_m TEXT");
+           m_database.execute(("alter table " + table + " add " + column + " TEXT").c_str());
 }
 
 bool ProjectSaver::writeDesign(const DesignPoints& design)

@@ -33,7 +33,7 @@ QStringList list()
     QStringList files;
     for (int place = 0; place < kMost; ++place) {
         const QString file = lum::toQString(settings.text(keyOf(place)));
-        if (!file.isEmpty() && projectSuffixFault(file).isEmpty())
+        if (hasProjectSuffix(file))
             files.append(file);
     }
     return files;

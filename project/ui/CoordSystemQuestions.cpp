@@ -46,8 +46,7 @@ bool isSame(const IDictionary& present, const IDictionary& chosen)
 {
     basalt::Dictionary stored(present);
     lum::toStoredForm(stored);
-    const char* const axes = "axis_direction"; // `sameCoordSystem` passes it over
-    return sameCoordSystem(stored, chosen) && stored.integer(axes) == chosen.integer(axes);
+    return sameCoordSystem(stored, chosen);
 }
 
 } // namespace

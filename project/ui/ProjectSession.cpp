@@ -33,7 +33,7 @@ void reportFailure(IDesktopHost& host, const ProjectPlace& place, const QString&
 }
 
 /// The question before the project is saved. Enter saves.
-Button askToSave(IDesktopHost& host, LumMessageBox::Buttons buttons, const char* silenceKey)
+Button askToSave(IDesktopHost& host, Buttons buttons, const char* silenceKey)
 {
     return LumMessageBox::ask(
         host.dialogParent(),

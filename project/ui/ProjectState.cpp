@@ -10,6 +10,8 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 
+#include <QFileInfo>
+
 namespace ProjectState {
 
 namespace {
@@ -41,6 +43,11 @@ ProjectPlace place()
     if (name.isEmpty())
         name = folder.section(QLatin1Char('/'), -1);
     return ProjectPlace::in(folder, name);
+}
+
+bool isOpen(const QString& file)
+{
+    return isOpen() && QFileInfo(file) == QFileInfo(place().file);
 }
 
 void showTitle(IDesktopHost& host)

@@ -1,6 +1,7 @@
 #pragma once
 
 class IDesktopHost;
+class QString;
 struct ProjectPlace;
 
 /// Which project is open, as the whole program sees it: the status keys "project_open",
@@ -11,6 +12,9 @@ namespace ProjectState {
 [[nodiscard]] bool isOpen();
 /// The open project.
 [[nodiscard]] ProjectPlace place();
+
+/// Whether this project file is the one that is open, by whatever path it is named.
+[[nodiscard]] bool isOpen(const QString& file);
 
 /// Shows in the title what is open, whether it is changed, and whether it can only be read.
 void showTitle(IDesktopHost& host);

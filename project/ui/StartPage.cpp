@@ -21,6 +21,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <memory>
+
 namespace {
 
 constexpr int kColumnWidth = 560;
@@ -119,10 +121,9 @@ void StartPage::listRecentProjects()
     if (files == m_listed)
         return;
     m_listed = files;
-    while (QLayoutItem* const item = m_recent->takeAt(0)) {
+    while (const auto item = std::unique_ptr<QLayoutItem>(m_recent->takeAt(0))) {
         if (item->widget() != nullptr)
             item->widget()->deleteLater(); // it may be the button that was pressed
-        delete item;
     }
     if (files.isEmpty())
         return;
