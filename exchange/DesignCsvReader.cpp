@@ -151,7 +151,7 @@ public:
                 "DesignCsv",
                 "This is an exported design file: it has nine fields, with the design "
                 "code as the sixth. An import reads eight; take the design code out."));
-        else if (m_isSurvey && summary.pointsNew + summary.pointsReplaced == 0)
+        else if (m_isSurvey && !summary.hasPoints())
             summary.remarks << translated(QT_TRANSLATE_NOOP(
                 "DesignCsv", "Line 1 is the heading of survey results. Import them as such."));
     }

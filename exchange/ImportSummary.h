@@ -49,6 +49,9 @@ struct ImportSummary
             findings.first.push_back({linesRead, text()});
     }
 
+    /// Whether the project has got points.
+    [[nodiscard]] bool hasPoints() const { return pointsNew + pointsReplaced != 0; }
+
     /// A few translated lines, without an end of the last: numbers first, then the first places of
     /// each finding.
     [[nodiscard]] QString toText() const;

@@ -77,12 +77,6 @@ Outcome withSummary(const Outcome& outcome, const ImportSummary& summary, Import
     return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
 }
 
-/// Whether an import has put points into the project.
-bool hasPoints(const Outcome& outcome, const ImportSummary& summary)
-{
-    return outcome.isDone() && summary.pointsNew + summary.pointsReplaced > 0;
-}
-
 /// What the checks have found in each result.
 std::vector<int> verdicts(const SurveyPoints& points)
 {
@@ -290,7 +284,7 @@ int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcom
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
     const Outcome reading = readDesignCsv(path, m_design, progress, summary);
-    if (hasPoints(reading, summary))
+    if (reading.isDone() && summary.hasPoints())
         markChanged();
     return answered(withSummary(reading, summary, counts), outcome);
 }
@@ -312,7 +306,7 @@ int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcom
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
     const Outcome reading = readSurveyCsv(path, m_survey, progress, summary);
-    if (hasPoints(reading, summary))
+    if (reading.isDone() && summary.hasPoints())
         markChanged();
     return answered(withSummary(reading, summary, counts), outcome);
 }

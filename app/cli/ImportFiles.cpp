@@ -21,7 +21,7 @@ Outcome importFile(const CliArguments& arguments, Import import)
     Outcome outcome = project.open(arguments.places[0], ProjectAccess::Change);
     if (!outcome.isDone() || (project.manager().*import)(file, &outcome, &counts) == 0)
         return outcome;
-    if (counts.pointsNew + counts.pointsReplaced == 0)
+    if (!counts.hasPoints())
         return Outcome::failed(
             QStringLiteral("No point was imported, the project is unchanged.\n") + outcome.text());
     if (Outcome saving = project.save(); !saving.isDone())
