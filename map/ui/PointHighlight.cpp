@@ -1,6 +1,5 @@
 #include "map/ui/PointHighlight.h"
 
-#include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
@@ -50,6 +49,14 @@ void goTo(IMapWindow& map, const QPointF& place, double scale)
 
 namespace PointHighlight {
 
+basalt::Dictionary properties()
+{
+    basalt::Dictionary values;
+    values.set("point_radius", "5");
+    values.set("vertex_shapes", "cross ring");
+    return values;
+}
+
 void show(IDesktopHost& host, const QPointF& measured, const QPointF& design)
 {
     auto* const map = host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
@@ -57,16 +64,13 @@ void show(IDesktopHost& host, const QPointF& measured, const QPointF& design)
         return;
     host.windows().activate(QStringLiteral("DataMap"));
     goTo(*map, measured, scaleFor(measured, design));
-    basalt::Dictionary properties;
-    properties.set("point_radius", "5");
-    properties.set("vertex_shapes", "cross ring"); // measured, designed
     QPolygonF positions;
     positions << measured;
     if (design != measured)
         positions << design;
     IOverlay& overlay = map->overlay(0);
     overlay.clear();
-    overlay.setProperties(properties);
+    overlay.setProperties(properties());
     overlay.setLineWidth(2);
     overlay.setColor(Qt::blue);
     overlay.setLine(positions);

@@ -1,6 +1,5 @@
 #include "map/ui/SeletePointReactor.h"
 
-#include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
@@ -10,6 +9,7 @@
 #include "lum_sdk/IHost.h"
 #include "map/ui/IDataLayer.h"
 #include "map/ui/LayerTexts.h"
+#include "map/ui/PointHighlight.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
@@ -95,12 +95,9 @@ int SeletePointReactor::dblClick(const MouseKeyEventParameters& /*event*/)
 
 void SeletePointReactor::highlight(const QColor& color, const QPolygonF& shape)
 {
-    basalt::Dictionary properties;
-    properties.set("point_radius", "5");
-    properties.set("vertex_shapes", "cross ring"); // measured, designed
     IOverlay& overlay = map().overlay(0);
     overlay.clear();
-    overlay.setProperties(properties);
+    overlay.setProperties(PointHighlight::properties());
     overlay.setLineStyle(Qt::DashLine);
     overlay.setColor(color);
     if (shape.size() == 1) {
