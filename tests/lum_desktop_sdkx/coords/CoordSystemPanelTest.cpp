@@ -353,24 +353,6 @@ private Q_SLOTS:
                               "2 Coordinate frame rotation"_q, "3 Molodensky-Badekas"_q}));
     }
 
-    void controlFileIsTranslated()
-    {
-        QTranslator chinese;
-        QVERIFY(loadChinese(chinese));
-        QXmlStreamReader rows(contentOf(kControlFile));
-        int count = 0;
-        while (!rows.atEnd()) {
-            rows.readNext();
-            for (const char* const name : {"caption", "description", "unit"}) {
-                const QByteArray text = rows.attributes().value(QLatin1String(name)).toUtf8();
-                QVERIFY2(text.isEmpty() || !chinese.translate("ControlXml", text).isEmpty(),
-                         text.constData());
-                count += text.isEmpty() ? 0 : 1;
-            }
-        }
-        QVERIFY(count > 100);
-    }
-
     void speaksChinese()
     {
         QTranslator chinese;
