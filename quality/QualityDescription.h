@@ -18,8 +18,8 @@ struct QualityRow
     const char* description; ///< in English; `text` translates it
     double value; ///< lengths in metres; -1 in the row of several dilutions, and so is the limit
     double limit;
-    const char* explanation =
-        ""; ///< in English, of a description that says too little; mostly empty
+    /// In English, of a description that says too little; mostly empty.
+    const char* explanation = "";
 
     [[nodiscard]] QString text() const;
     [[nodiscard]] QString explanationText() const; ///< translated

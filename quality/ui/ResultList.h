@@ -12,9 +12,9 @@ class IDesktopHost;
 class QAbstractTableModel;
 class QModelIndex;
 
-/// The result of a check, a row each: see quality/ResultModel.h. A click on a row, or
-/// going there by key, selects its point in the list of points and shows it on the map. A menu
-/// copies rows and saves them as CSV.
+/// The result of a check, a row each: see quality/ResultModel.h. A click on a row, or going there
+/// by key, selects its point in the list of points and shows it on the map. A menu copies rows and
+/// saves them as CSV.
 ///
 /// The rows are those of one run; the next run makes a new list. The list deletes itself when it is
 /// closed, and closes when its project is closed.

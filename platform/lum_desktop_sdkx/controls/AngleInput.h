@@ -14,5 +14,6 @@ enum class AngleLetters
 
 /// Reads an angle with its minutes and seconds: 117°30'00", 117 30 00, 117:30, 117度30分00秒. It
 /// may have a sign before it or one of the letters before or behind it, and decimals in its last
-/// part. \returns degrees; nothing for any other text
+/// part.
+/// \returns degrees; nothing for any other text
 [[nodiscard]] std::optional<double> readAngle(const QString& text, AngleLetters letters);

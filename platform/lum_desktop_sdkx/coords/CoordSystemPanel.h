@@ -63,6 +63,5 @@ private:
     DatumShiftChoice* m_shift;
     PropertyGridCtrl* m_grid;
     QLabel* m_fault;
-    QString
-        m_refusal; ///< why the coordinate service refuses the parameters; empty when it does not
+    QString m_refusal; ///< why the coordinate service refuses the parameters; mostly empty
 };

@@ -25,9 +25,8 @@
 ///   name is shown. A command with an empty caption is hidden, unless its class gives a caption.
 ///   A letter behind "&" opens an entry by the keyboard; components get the caption without it.
 /// - The entries of one "group" exclude one another and are marked as such.
-/// - "enabled_while" disables an entry, whatever its class says, while the system status has
-/// another
-///   value of the key; "checked_while" checks it while the status has this value.
+/// - "enabled_while" disables an entry, whatever its class says, while the key has another value in
+///   the system status; "checked_while" checks the entry while the key has this value.
 /// - "area" is center, left, right, bottom or status. A window becomes a tab beside the last window
 ///   of its area. With "place" below it stands under that window.
 /// - `<docks/>` stands for the list of windows that can be shown and hidden.
