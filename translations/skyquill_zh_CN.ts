@@ -945,7 +945,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>请确认输入的复测代码是不为&apos; C &apos;的单个字母</source>
-        <translation>请确认输入的复测代码是不为' C '的单个字母</translation>
+        <translation>请确认输入的复测代码是不为&apos; C &apos;的单个字母</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1012,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The file &quot;%1&quot; exists already. Replace it?</source>
         <translation>文件“%1”已经存在，是否替换？</translation>
+    </message>
+</context>
+<context>
+    <name>FrameMenus</name>
+    <message>
+        <source>Go to the menus</source>
+        <translation>进入菜单</translation>
     </message>
 </context>
 <context>
@@ -1139,10 +1146,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>[read-only]</source>
         <translation>[只读]</translation>
-    </message>
-    <message>
-        <source>Go to the menus</source>
-        <translation>进入菜单</translation>
     </message>
 </context>
 <context>
