@@ -41,7 +41,7 @@ public:
         : m_design(marks), m_marks(marks.table()), m_frame(frame), m_options(options),
           m_painter(painter), m_names(painter.font()), m_parts(frame.screenArea(kLineMargin))
     {
-        const double spacing = options.spacingM / frame.transform.GetScale();
+        const double spacing = options.spacing / frame.transform.GetScale();
         m_showsPoints = spacing >= dpi_scaled(kRoomForPoints);
         m_showsLabels = m_showsPoints && spacing >= dpi_scaled(kRoomForLabels);
         // A label of two coordinates may be longer than any name.

@@ -6,7 +6,7 @@ struct PictureFrame;
 
 struct DesignPictureOptions
 {
-    double spacingM = 10; ///< the smallest of the design's spacings
+    double spacing = 10; ///< the smallest of the design, in the unit of the grid
     bool showsReceiverLines = true;
     bool showsSourceLines = true;
 };

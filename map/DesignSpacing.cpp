@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-std::optional<double> smallestSpacingM(const IDictionary& designParameters)
+std::optional<double> smallestSpacing(const IDictionary& designParameters)
 {
     if (designParameters.size() == 0)
         return std::nullopt;

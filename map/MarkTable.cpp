@@ -82,10 +82,10 @@ Bounds MarkTable::gridBounds() const
     return all;
 }
 
-std::optional<MarkTable::Nearest> MarkTable::nearest(const GridPlace& to, double reachM) const
+std::optional<MarkTable::Nearest> MarkTable::nearest(const GridPlace& to, double reach) const
 {
     std::optional<Nearest> best;
-    double limit = reachM;
+    double limit = reach;
     for (const Block& block : m_blocks) {
         if (gap(to.north, block.grid.minX, block.grid.maxX) >= limit ||
             gap(to.east, block.grid.minY, block.grid.maxY) >= limit)

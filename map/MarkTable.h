@@ -43,7 +43,7 @@ public:
     struct Nearest
     {
         Index mark = 0;
-        double distanceM = 0;
+        double distance = 0; ///< in the unit of the grid
     };
 
     void reserve(std::size_t marks);
@@ -73,8 +73,8 @@ public:
     /// The bounds of all marks on the grid; x is northing, y is easting.
     [[nodiscard]] Bounds gridBounds() const;
 
-    /// The nearest mark less than `reachM` away; of several equally near ones the first.
-    [[nodiscard]] std::optional<Nearest> nearest(const GridPlace& to, double reachM) const;
+    /// The nearest mark less than `reach` away; of several equally near ones the first.
+    [[nodiscard]] std::optional<Nearest> nearest(const GridPlace& to, double reach) const;
     /// Whether a mark lies in this rectangle, map coordinates.
     [[nodiscard]] bool hasMarkIn(const QRectF& map) const;
     /// The first mark of this name.

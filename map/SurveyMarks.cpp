@@ -58,10 +58,10 @@ bool SurveyMarks::hasMarkIn(const QRectF& map) const
                        [&](const QPointF& place) { return map.contains(place); });
 }
 
-std::optional<std::size_t> SurveyMarks::nearestBase(const GridPlace& to, double reachM) const
+std::optional<std::size_t> SurveyMarks::nearestBase(const GridPlace& to, double reach) const
 {
     std::optional<std::size_t> best;
-    double limit = reachM;
+    double limit = reach;
     for (std::size_t i = 0; i < bases().size(); ++i) {
         const double distance = std::hypot(bases()[i].north - to.north, bases()[i].east - to.east);
         if (distance < limit) {

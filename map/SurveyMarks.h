@@ -32,9 +32,9 @@ public:
 
     /// Whether a result or a base station lies in this rectangle, map coordinates.
     [[nodiscard]] bool hasMarkIn(const QRectF& map) const;
-    /// The index of the nearest base station less than `reachM` away; of several equally near ones
+    /// The index of the nearest base station less than `reach` away; of several equally near ones
     /// the first.
-    [[nodiscard]] std::optional<std::size_t> nearestBase(const GridPlace& to, double reachM) const;
+    [[nodiscard]] std::optional<std::size_t> nearestBase(const GridPlace& to, double reach) const;
 
 private:
     void add(const SurveyPoint& point, const ToMap& toMap);

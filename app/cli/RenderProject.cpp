@@ -57,7 +57,7 @@ void paintDesignOf(DataProcessDataManager& manager, QImage& image)
 {
     const DesignMarks marks(manager.designPoints(), toMap);
     DesignPictureOptions options;
-    options.spacingM = smallestSpacingM(manager.designParameters()).value_or(options.spacingM);
+    options.spacing = smallestSpacing(manager.designParameters()).value_or(options.spacing);
     QPainter painter(&image);
     paintDesign(marks, frameFor(image.size(), markExtent(marks.table().gridBounds(), toMap)),
                 options, painter);

@@ -162,11 +162,11 @@ void DataProcessLayerImp::clearOldHighlights()
 
 void DataProcessLayerImp::preparePaint()
 {
-    std::optional<double> spacingM;
+    std::optional<double> spacing;
     if (DataProcessDataManager::hasInstance())
-        spacingM = smallestSpacingM(DataProcessDataManager::instance().designParameters());
+        spacing = smallestSpacing(DataProcessDataManager::instance().designParameters());
     const std::lock_guard lock(m_spacingMutex);
-    m_spacingM = spacingM;
+    m_spacing = spacing;
 }
 
 void DataProcessLayerImp::Paint(const PaintTarget& target, const QRectF& /*view*/,
@@ -181,15 +181,15 @@ void DataProcessLayerImp::Paint(const PaintTarget& target, const QRectF& /*view*
 
 void DataProcessLayerImp::paintDesignPicture(const PaintTarget& target, QPainter& painter)
 {
-    std::optional<double> spacingM;
+    std::optional<double> spacing;
     {
         const std::lock_guard lock(m_spacingMutex);
-        spacingM = m_spacingM;
+        spacing = m_spacing;
     }
-    if (!spacingM)
+    if (!spacing)
         return;
     DesignPictureOptions options;
-    options.spacingM = *spacingM;
+    options.spacing = *spacing;
     options.showsReceiverLines = target.status.integer(status::kShowReceiverLines, 1) != 0;
     options.showsSourceLines = target.status.integer(status::kShowSourceLines, 1) != 0;
     const auto marks = currentOf(m_design, m_designMutex);
@@ -225,7 +225,7 @@ QPointF DataProcessLayerImp::toMap(double north, double east) const
     return m_helper.projectToMap(north, east);
 }
 
-double DataProcessLayerImp::reachM() const
+double DataProcessLayerImp::reach() const
 {
     return m_transform != nullptr ? kPickPixels * m_transform->GetScale() : 0;
 }
@@ -241,8 +241,8 @@ DataProcessLayerImp::SurveyPick DataProcessLayerImp::pickSurvey(const QPointF& m
 {
     const GridPlace grid = gridAt(map);
     SurveyPick pick;
-    pick.mark = m_survey->table().nearest(grid, reachM());
-    pick.base = m_survey->nearestBase(grid, pick.mark ? pick.mark->distanceM : reachM());
+    pick.mark = m_survey->table().nearest(grid, reach());
+    pick.base = m_survey->nearestBase(grid, pick.mark ? pick.mark->distance : reach());
     return pick;
 }
 
@@ -269,7 +269,7 @@ bool DataProcessLayerImp::GetSurveyPoint(const QString& name, QString& line, QPo
 
 std::optional<MarkTable::Nearest> DataProcessLayerImp::pickDesign(const QPointF& map) const
 {
-    return m_design->table().nearest(gridAt(map), reachM());
+    return m_design->table().nearest(gridAt(map), reach());
 }
 
 QString DataProcessLayerImp::PickDesignPoint(double x, double y) const

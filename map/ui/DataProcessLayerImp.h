@@ -74,7 +74,7 @@ private:
     [[nodiscard]] PictureFrame frameOf(const PaintTarget& target, const QString& caption) const;
 
     [[nodiscard]] QPointF toMap(double north, double east) const;
-    [[nodiscard]] double reachM() const;
+    [[nodiscard]] double reach() const;
     [[nodiscard]] GridPlace gridAt(const QPointF& map) const;
     [[nodiscard]] SurveyPick pickSurvey(const QPointF& map) const;
     [[nodiscard]] std::optional<MarkTable::Nearest> pickDesign(const QPointF& map) const;
@@ -98,5 +98,5 @@ private:
     std::shared_ptr<const DesignMarks> m_design = std::make_shared<const DesignMarks>();
 
     std::mutex m_spacingMutex;
-    std::optional<double> m_spacingM; ///< the smallest of the design; nothing without spacings
+    std::optional<double> m_spacing; ///< the smallest of the design; nothing without spacings
 };

@@ -43,7 +43,7 @@ void paintDesignPoint(const DesignPoint& point, const QPointF& place, bool isLab
 void paintDesignPlainly(const DesignPoints& points, const PictureFrame& frame,
                         const DesignPictureOptions& options, QPainter& painter)
 {
-    const double spacing = options.spacingM / frame.transform.GetScale();
+    const double spacing = options.spacing / frame.transform.GetScale();
     for (const auto& [number, line] : points) {
         const int type = line.begin()->type;
         if ((type == 1 && !options.showsReceiverLines) || (type == 0 && !options.showsSourceLines))
