@@ -78,7 +78,10 @@ private:
         dialog.resize(dialog.minimumSize());
         dialog.show();
         dialog.findChild<QListWidget*>()->setCurrentRow(1);
-        dialog.findChild<QLineEdit*>()->setText(QStringLiteral("utm 50n"));
+        auto* const field = dialog.findChild<QLineEdit*>();
+        dialog.activateWindow();
+        field->setFocus(); // what is found is shown while the field has it
+        field->setText(QStringLiteral("utm 50n"));
         letItPaint();
         save(dialog.grab(), "guide-coordinate-system");
     }
