@@ -233,6 +233,7 @@ void DataProcessDataManager::clear()
     m_project.clear();
     m_projectFile.clear();
     m_projectFileFault.clear();
+    m_seaHeightNotice.clear();
     m_qualityParameters.clear();
     m_designParameters.clear();
     m_database.close();
