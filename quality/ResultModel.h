@@ -21,8 +21,8 @@ inline constexpr int kEnglish = Qt::UserRole;         ///< of a header: its capt
 template <class Row>
 struct ResultColumn
 {
-    const char* caption; ///< in English; its translation has the context "ResultModel"
-    QString (*text)(const Row& row);
+    const char* caption = nullptr; ///< in English; its translation has the context "ResultModel"
+    QString (*text)(const Row& row) = nullptr;
     QString (*toolTip)(const Row& row) = nullptr;
 };
 

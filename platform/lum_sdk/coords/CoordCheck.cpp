@@ -38,7 +38,7 @@ CoordParameterFault numberFault(const IDictionary& parameters, std::string_view 
                     : QCoreApplication::translate("CoordCheck",
                                                   "\"{key}\" must be a decimal number, such as "
                                                   "298.257, not \"%1\".");
-        const std::string name = nameOf ? nameOf(key) : key;
+        std::string name = nameOf ? nameOf(key) : key;
         return {key, withParameterNames(sentence, std::string(text),
                                         [&name](std::string_view) { return name; })};
     }

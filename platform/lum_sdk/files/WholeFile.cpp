@@ -15,9 +15,9 @@ QString writeWholeFile(const QString& path, const QByteArray& content)
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return file.errorString();
     if (file.write(content) != content.size() || ::fsync(file.handle()) != 0) {
-        const QString fault = file.error() == QFileDevice::NoError
-                                  ? QStringLiteral("No space left on device")
-                                  : file.errorString();
+        QString fault = file.error() == QFileDevice::NoError
+                            ? QStringLiteral("No space left on device")
+                            : file.errorString();
         file.cancelWriting(); // replaces the error by its own
         return fault;
     }
