@@ -1,6 +1,8 @@
 #include "lum_desktop_sdkx/frame/DesktopStyle.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QPolygonF>
 #include <QStyleOption>
 #include <QWidget>
 #include <QWindow>
@@ -73,6 +75,24 @@ void drawMenuCircle(QPainter& painter, const QStyleOptionMenuItem& item)
                isChosen ? item.palette.color(QPalette::HighlightedText) : outlineOf(item.palette));
 }
 
+/// The two arrow heads of a tool bar that has more buttons than room. Fusion's are black for ever.
+QPixmap moreButtons(int side, bool isVertical, const QColor& ink)
+{
+    constexpr double kReach = 0.22; // of an arrow head, as a share of the side
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, side / 10.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(side / 2.0, side / 2.0);
+    if (isVertical)
+        painter.rotate(90);
+    const double reach = side * kReach;
+    for (const double tip : {0.0, 1.6 * reach})
+        painter.drawPolyline(QPolygonF({{tip - reach, -reach}, {tip, 0}, {tip - reach, reach}}));
+    return pixmap;
+}
+
 /// The picture with its dark grey parts in another colour. What has a hue stays as it is.
 QPixmap withInk(const QPixmap& pixmap, const QColor& ink)
 {
@@ -137,8 +157,20 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         drawOutline(*painter, *option);
         break;
     case PE_IndicatorCheckBox:
-    case PE_PanelButtonCommand:
         drawRing(*painter, option->rect, outlineOf(option->palette), 1);
+        break;
+    case PE_PanelButtonCommand: // also around the icon of a checked entry of a menu
+        drawRing(*painter, option->rect,
+                 option->state.testFlag(State_Selected)
+                     ? option->palette.color(QPalette::HighlightedText)
+                     : outlineOf(option->palette),
+                 1);
+        break;
+    case PE_PanelMenu:
+        painter->save();
+        painter->setPen(option->palette.color(QPalette::Mid));
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        painter->restore();
         break;
     case PE_IndicatorRadioButton:
         drawCircle(*painter, QRectF(option->rect).center(), (option->rect.width() - 1) / 2.0,
@@ -158,6 +190,13 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
 {
     const auto* const item =
         element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    if (item != nullptr && item->checkType == QStyleOptionMenuItem::Exclusive) {
+        QStyleOptionMenuItem choice(*item);
+        choice.icon = {}; // the mark stands in its place
+        QProxyStyle::drawControl(element, &choice, painter, widget);
+        drawMenuCircle(*painter, *item);
+        return;
+    }
     const bool isChosen = item != nullptr && item->state.testFlag(State_Selected) &&
                           item->state.testFlag(State_Enabled) && !item->icon.isNull();
     if (isChosen) {
@@ -172,8 +211,6 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
     if (element == CE_TabBarTabLabel && hasFocus(*option))
         drawRing(*painter, option->rect.adjusted(3, 3, -3, -3),
                  option->palette.color(QPalette::Highlight), kFocusLine);
-    if (item != nullptr && item->checkType == QStyleOptionMenuItem::Exclusive)
-        drawMenuCircle(*painter, *item);
 }
 
 void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -185,6 +222,27 @@ void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOption
     if ((control == CC_ComboBox && combo != nullptr && combo->frame) ||
         (control == CC_SpinBox && spin != nullptr && spin->frame))
         drawOutline(*painter, *option);
+}
+
+QRect DesktopStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                   const QWidget* widget) const
+{
+    if (element == SE_ItemViewItemFocusRect) // Fusion leaves icon and box outside
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QIcon DesktopStyle::standardIcon(StandardPixmap standard, const QStyleOption* option,
+                                 const QWidget* widget) const
+{
+    const bool isVertical = standard == SP_ToolBarVerticalExtensionButton;
+    if (!isVertical && standard != SP_ToolBarHorizontalExtensionButton)
+        return QProxyStyle::standardIcon(standard, option, widget);
+    QIcon icon;
+    for (const int side : {12, 16, 24, 32, 48})
+        icon.addPixmap(
+            moreButtons(side, isVertical, QGuiApplication::palette().color(QPalette::ButtonText)));
+    return icon;
 }
 
 QPixmap DesktopStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
