@@ -141,7 +141,9 @@ private Q_SLOTS:
         }
         QCOMPARE(words.join(QLatin1Char('|')),
                  "Map|Zoom In|Ctrl++, Ctrl+=|No Key|Alt+7|Help|User Guide|F1|"
-                 "Without a menu entry|Go to the menus|F10"_q);
+                 "Without a menu entry|Go to the menus|F10|While the map has the focus|"
+                 "Come nearer, step back|+, -|Move the map|Arrow keys; farther with Shift|"
+                 "Show everything|Home"_q);
     }
 };
 
