@@ -40,6 +40,16 @@ void drawRing(QPainter& painter, const QRect& rect, const QColor& color, double 
     painter.restore();
 }
 
+/// Draws a line along the inner side of `rect`.
+void drawEdge(QPainter& painter, const QRect& rect, const QColor& color)
+{
+    painter.save();
+    painter.setPen(color);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(rect.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 /// The outline of a field or box; of the focus when the field has it.
 void drawOutline(QPainter& painter, const QStyleOption& option)
 {
@@ -167,18 +177,15 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
                  1);
         break;
     case PE_PanelMenu:
-        painter->save();
-        painter->setPen(option->palette.color(QPalette::Mid));
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-        painter->restore();
+        drawEdge(*painter, option->rect, option->palette.color(QPalette::Mid));
         break;
     case PE_IndicatorRadioButton:
         drawCircle(*painter, QRectF(option->rect).center(), (option->rect.width() - 1) / 2.0,
                    outlineOf(option->palette));
         break;
-    case PE_Frame:
-        if (hasFocus(*option))
-            drawRing(*painter, option->rect, option->palette.color(QPalette::Highlight), 1);
+    case PE_Frame: // of a view, a text; Fusion's has two sides of four
+        drawEdge(*painter, option->rect,
+                 option->palette.color(hasFocus(*option) ? QPalette::Highlight : QPalette::Mid));
         break;
     default:
         break;
@@ -205,6 +212,15 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
         QProxyStyle::drawControl(element, &light, painter, widget);
         return;
     }
+    if (item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator &&
+        item->text.isEmpty()) {
+        constexpr int kMargin = 5;
+        const int y = item->rect.center().y();
+        painter->fillRect(
+            QRect(QPoint(item->rect.left() + kMargin, y), QPoint(item->rect.right() - kMargin, y)),
+            item->palette.color(QPalette::Mid));
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element == CE_PushButton && hasFocus(*option))
         drawRing(*painter, option->rect, option->palette.color(QPalette::Highlight), kFocusLine);
@@ -222,6 +238,14 @@ void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOption
     if ((control == CC_ComboBox && combo != nullptr && combo->frame) ||
         (control == CC_SpinBox && spin != nullptr && spin->frame))
         drawOutline(*painter, *option);
+}
+
+int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const
+{
+    if (hint == SH_EtchDisabledText) // a second print beside the text, which blurs it in the dark
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 QRect DesktopStyle::subElementRect(SubElement element, const QStyleOption* option,

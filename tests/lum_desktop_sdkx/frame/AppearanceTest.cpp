@@ -193,6 +193,21 @@ private Q_SLOTS:
         QVERIFY(best > 4.5);
     }
 
+    void aViewHasAFrameOfFourSides()
+    {
+        for (const char* theme : {"light", "dark"}) {
+            desktop::applyAppearance(QString::fromUtf8(theme));
+            QListWidget list;
+            const QImage picture = list.grab().toImage();
+            const QColor edge = list.palette().color(QPalette::Mid);
+            const int right = picture.width() - 1;
+            const int bottom = picture.height() - 1;
+            for (const QPoint place : {QPoint(0, bottom / 2), QPoint(right, bottom / 2),
+                                       QPoint(right / 2, 0), QPoint(right / 2, bottom)})
+                QCOMPARE(picture.pixelColor(place), edge);
+        }
+    }
+
     void theRingGoesAroundTheWholeEntryOfAList()
     {
         desktop::applyAppearance("light"_q);
