@@ -76,10 +76,11 @@ QVariant GuideText::loadResource(int type, const QUrl& name)
     if (type != QTextDocument::ImageResource)
         return content;
     QImage picture = QImage::fromData(content.toByteArray());
-    const int width = qRound(dpi_scaled(kPictureWidth) * devicePixelRatioF());
-    if (picture.width() <= width)
-        return picture;
-    picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(devicePixelRatioF());
+    const int shown = std::min(picture.width(), dpi_scaled(kPictureWidth));
+    const int pixels = qRound(shown * devicePixelRatioF());
+    if (picture.width() > pixels)
+        picture = picture.scaledToWidth(pixels, Qt::SmoothTransformation);
+    if (shown > 0)
+        picture.setDevicePixelRatio(double(picture.width()) / shown);
     return picture;
 }
