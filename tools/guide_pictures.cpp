@@ -78,9 +78,9 @@ private:
         dialog.resize(dialog.minimumSize());
         dialog.show();
         dialog.findChild<QListWidget*>()->setCurrentRow(1);
+        QApplication::setActiveWindow(&dialog); // the list of found systems is there for typing
         auto* const field = dialog.findChild<QLineEdit*>();
-        dialog.activateWindow();
-        field->setFocus(); // what is found is shown while the field has it
+        field->setFocus();
         field->setText(QStringLiteral("utm 50n"));
         letItPaint();
         save(dialog.grab(), "guide-coordinate-system");
@@ -110,9 +110,11 @@ private:
         letItPaint();
         QPixmap picture = m_frame.grab();
         QPainter painter(&picture);
-        painter.drawPixmap(m_frame.rect().bottomRight() - list.rect().bottomRight() -
-                               QPoint(kMargin, kMargin),
-                           list.grab());
+        const QPoint place =
+            m_frame.rect().bottomRight() - list.rect().bottomRight() - QPoint(kMargin, kMargin);
+        painter.drawPixmap(place, list.grab());
+        painter.setPen(list.palette().color(QPalette::WindowText)); // the edge of the window
+        painter.drawRect(list.rect().translated(place).adjusted(-1, -1, 0, 0));
         painter.end();
         save(picture, "guide-faults");
     }

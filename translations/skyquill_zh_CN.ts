@@ -1725,6 +1725,26 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>While the map has the focus</source>
+        <translation>焦点在地图上时</translation>
+    </message>
+    <message>
+        <source>Come nearer, step back</source>
+        <translation>放大、缩小</translation>
+    </message>
+    <message>
+        <source>Move the map</source>
+        <translation>移动地图</translation>
+    </message>
+    <message>
+        <source>Arrow keys; farther with Shift</source>
+        <translation>方向键；按住 Shift 移动更远</translation>
+    </message>
+    <message>
+        <source>Show everything</source>
+        <translation>显示全图</translation>
+    </message>
 </context>
 <context>
     <name>ShowQuestionsCommand</name>

@@ -66,7 +66,7 @@ StartPage::StartPage(IDesktopHost& host, QWidget& place)
     addCommand("New Project", tr("&New Project..."),
                tr("Make a folder for a survey and choose its coordinate system"), "document-new");
     addCommand("Open Project", tr("&Open Project..."), tr("Choose a project file"),
-               "document-open");
+               "document-open-folder");
     addCommand("Demo Survey", tr("Demo &Survey..."),
                tr("An invented survey with known faults, to try everything on"), "games-hint");
     place.installEventFilter(this);

@@ -1,6 +1,8 @@
 #include "lum_desktop_sdkx/frame/DesktopStyle.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QPolygonF>
 #include <QStyleOption>
 #include <QWidget>
 #include <QWindow>
@@ -38,6 +40,18 @@ void drawRing(QPainter& painter, const QRect& rect, const QColor& color, double 
     painter.restore();
 }
 
+/// Draws a line along the inner side of `rect`. It is smoothed: at a scale like 1.25 a sharp one
+/// falls behind the content on two sides.
+void drawEdge(QPainter& painter, const QRect& rect, const QColor& color)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(color);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
 /// The outline of a field or box; of the focus when the field has it.
 void drawOutline(QPainter& painter, const QStyleOption& option)
 {
@@ -71,6 +85,24 @@ void drawMenuCircle(QPainter& painter, const QStyleOptionMenuItem& item)
     const bool isChosen = item.state.testFlag(QStyle::State_Selected);
     drawCircle(painter, center, kMenuRadius,
                isChosen ? item.palette.color(QPalette::HighlightedText) : outlineOf(item.palette));
+}
+
+/// The two arrow heads of a tool bar that has more buttons than room. Fusion's are black for ever.
+QPixmap moreButtons(int side, bool isVertical, const QColor& ink)
+{
+    constexpr double kReach = 0.22; // of an arrow head, as a share of the side
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, side / 10.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(side / 2.0, side / 2.0);
+    if (isVertical)
+        painter.rotate(90);
+    const double reach = side * kReach;
+    for (const double tip : {0.0, 1.6 * reach})
+        painter.drawPolyline(QPolygonF({{tip - reach, -reach}, {tip, 0}, {tip - reach, reach}}));
+    return pixmap;
 }
 
 /// The picture with its dark grey parts in another colour. What has a hue stays as it is.
@@ -137,16 +169,25 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         drawOutline(*painter, *option);
         break;
     case PE_IndicatorCheckBox:
-    case PE_PanelButtonCommand:
         drawRing(*painter, option->rect, outlineOf(option->palette), 1);
+        break;
+    case PE_PanelButtonCommand: // also around the icon of a checked entry of a menu
+        drawRing(*painter, option->rect,
+                 option->state.testFlag(State_Selected)
+                     ? option->palette.color(QPalette::HighlightedText)
+                     : outlineOf(option->palette),
+                 1);
+        break;
+    case PE_PanelMenu:
+        drawEdge(*painter, option->rect, option->palette.color(QPalette::Mid));
         break;
     case PE_IndicatorRadioButton:
         drawCircle(*painter, QRectF(option->rect).center(), (option->rect.width() - 1) / 2.0,
                    outlineOf(option->palette));
         break;
-    case PE_Frame:
-        if (hasFocus(*option))
-            drawRing(*painter, option->rect, option->palette.color(QPalette::Highlight), 1);
+    case PE_Frame: // of a view or a text
+        drawEdge(*painter, option->rect,
+                 option->palette.color(hasFocus(*option) ? QPalette::Highlight : QPalette::Mid));
         break;
     default:
         break;
@@ -158,6 +199,13 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
 {
     const auto* const item =
         element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    if (item != nullptr && item->checkType == QStyleOptionMenuItem::Exclusive) {
+        QStyleOptionMenuItem choice(*item);
+        choice.icon = {}; // the mark stands in its place
+        QProxyStyle::drawControl(element, &choice, painter, widget);
+        drawMenuCircle(*painter, *item);
+        return;
+    }
     const bool isChosen = item != nullptr && item->state.testFlag(State_Selected) &&
                           item->state.testFlag(State_Enabled) && !item->icon.isNull();
     if (isChosen) {
@@ -166,14 +214,21 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
         QProxyStyle::drawControl(element, &light, painter, widget);
         return;
     }
+    if (item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator &&
+        item->text.isEmpty()) {
+        constexpr int kMargin = 5;
+        const int y = item->rect.center().y();
+        painter->fillRect(
+            QRect(QPoint(item->rect.left() + kMargin, y), QPoint(item->rect.right() - kMargin, y)),
+            item->palette.color(QPalette::Mid));
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element == CE_PushButton && hasFocus(*option))
         drawRing(*painter, option->rect, option->palette.color(QPalette::Highlight), kFocusLine);
     if (element == CE_TabBarTabLabel && hasFocus(*option))
         drawRing(*painter, option->rect.adjusted(3, 3, -3, -3),
                  option->palette.color(QPalette::Highlight), kFocusLine);
-    if (item != nullptr && item->checkType == QStyleOptionMenuItem::Exclusive)
-        drawMenuCircle(*painter, *item);
 }
 
 void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -185,6 +240,35 @@ void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOption
     if ((control == CC_ComboBox && combo != nullptr && combo->frame) ||
         (control == CC_SpinBox && spin != nullptr && spin->frame))
         drawOutline(*painter, *option);
+}
+
+int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const
+{
+    if (hint == SH_EtchDisabledText) // a second print beside the text, which blurs it in the dark
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QRect DesktopStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                   const QWidget* widget) const
+{
+    if (element == SE_ItemViewItemFocusRect) // Fusion leaves icon and box outside
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QIcon DesktopStyle::standardIcon(StandardPixmap standard, const QStyleOption* option,
+                                 const QWidget* widget) const
+{
+    const bool isVertical = standard == SP_ToolBarVerticalExtensionButton;
+    if (!isVertical && standard != SP_ToolBarHorizontalExtensionButton)
+        return QProxyStyle::standardIcon(standard, option, widget);
+    QIcon icon;
+    for (const int side : {12, 16, 24, 32, 48})
+        icon.addPixmap(
+            moreButtons(side, isVertical, QGuiApplication::palette().color(QPalette::ButtonText)));
+    return icon;
 }
 
 QPixmap DesktopStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,

@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr int kPictureWidth = 620; // logical pixels
+constexpr int kPictureWidth = 620;  // logical pixels
+constexpr int kBesidePicture = 300; // the list of headings and the margins
 
 } // namespace
 
@@ -23,6 +24,17 @@ std::vector<GuideText::Heading> GuideText::headings() const
             found.push_back({level, block.text(), block.position()});
     }
     return found;
+}
+
+void GuideText::breakLongLines()
+{
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        if (!format.nonBreakableLines())
+            continue;
+        format.setNonBreakableLines(false);
+        QTextCursor(block).setBlockFormat(format);
+    }
 }
 
 void GuideText::goTo(int position)
@@ -76,10 +88,12 @@ QVariant GuideText::loadResource(int type, const QUrl& name)
     if (type != QTextDocument::ImageResource)
         return content;
     QImage picture = QImage::fromData(content.toByteArray());
-    const int width = qRound(dpi_scaled(kPictureWidth) * devicePixelRatioF());
-    if (picture.width() <= width)
-        return picture;
-    picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(devicePixelRatioF());
+    const int room = window()->width() - dpi_scaled(kBesidePicture);
+    const int shown = std::min({picture.width(), dpi_scaled(kPictureWidth), room});
+    const int pixels = qRound(shown * devicePixelRatioF());
+    if (picture.width() > pixels)
+        picture = picture.scaledToWidth(pixels, Qt::SmoothTransformation);
+    if (shown > 0)
+        picture.setDevicePixelRatio(double(picture.width()) / shown);
     return picture;
 }

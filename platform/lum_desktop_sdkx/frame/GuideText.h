@@ -22,6 +22,9 @@ public:
     };
     [[nodiscard]] std::vector<Heading> headings() const;
 
+    /// Lets lines of commands break, so that nothing has to be scrolled sideways.
+    void breakLongLines();
+
     /// Goes to a position, which is then the first line shown.
     void goTo(int position);
 

@@ -28,6 +28,9 @@ GuideWindow::GuideWindow(QWidget* parent, const QString& title, const QString& f
 
     m_text->document()->setDocumentMargin(dpi_scaled(16));
     m_text->setSource(QUrl::fromLocalFile(file), QTextDocument::MarkdownResource);
+    m_text->breakLongLines();
+    m_text->setHorizontalScrollBarPolicy(
+        Qt::ScrollBarAlwaysOff); // Chinese stops hang over the margin
     listHeadings();
     m_text->setFocus();
 }

@@ -18,7 +18,8 @@
 
 namespace {
 
-/// Builds the list from the menus, then from what has keys but no menu entry.
+/// Builds the list from the menus, then from what has keys but no menu entry; last come the keys
+/// that the map itself takes (`ReactorDefault`).
 class ShortcutList
 {
 public:
@@ -33,6 +34,7 @@ public:
         m_heading = ShortcutsWindow::tr("Without a menu entry");
         for (const QAction* action : frame.findChildren<QAction*>())
             add(*action);
+        addMapKeys();
     }
 
     [[nodiscard]] QString html() const
@@ -59,12 +61,27 @@ private:
         if (keys.isEmpty() || !action.isVisible() || m_listed.contains(&action))
             return;
         m_listed.insert(&action);
+        QString caption = desktop::withoutMnemonic(action.text());
+        caption.remove(QStringLiteral("..."));
+        addRow(caption, keys);
+    }
+
+    void addMapKeys()
+    {
+        m_heading = ShortcutsWindow::tr("While the map has the focus");
+        addRow(ShortcutsWindow::tr("Come nearer, step back"), QStringLiteral("+, -"));
+        addRow(ShortcutsWindow::tr("Move the map"),
+               ShortcutsWindow::tr("Arrow keys; farther with Shift"));
+        addRow(ShortcutsWindow::tr("Show everything"),
+               QKeySequence(Qt::Key_Home).toString(QKeySequence::NativeText));
+    }
+
+    void addRow(const QString& caption, const QString& keys)
+    {
         if (!m_heading.isEmpty())
             m_rows += QStringLiteral("<tr><td colspan=\"2\"><h4>%1</h4></td></tr>")
                           .arg(m_heading.toHtmlEscaped());
         m_heading.clear();
-        QString caption = desktop::withoutMnemonic(action.text());
-        caption.remove(QStringLiteral("..."));
         m_rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>")
                       .arg(caption.toHtmlEscaped(), keys.toHtmlEscaped());
     }

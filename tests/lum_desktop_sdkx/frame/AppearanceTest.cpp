@@ -152,6 +152,75 @@ private Q_SLOTS:
         menu.setActiveAction(entry);
         QCOMPARE(inkOfRow(), 0);
     }
+
+    void exclusiveEntriesHaveTheMarkInPlaceOfAnIcon()
+    {
+        desktop::applyAppearance("light"_q);
+        QMenu menu;
+        QActionGroup group(&menu);
+        QAction* entries[] = {menu.addAction("a"_q), menu.addAction("a"_q)};
+        for (QAction* entry : entries) {
+            entry->setCheckable(true);
+            group.addAction(entry);
+        }
+        entries[0]->setIcon(QIcon::fromTheme("document-new"_q));
+        menu.popup(QPoint(0, 0));
+        const auto ink = [&](int i) { return inkOf(menu.grab(menu.actionGeometry(entries[i]))); };
+        QCOMPARE(ink(0), ink(1));
+    }
+
+    void menusAndHiddenButtonsAreSeenInTheDark()
+    {
+        desktop::applyAppearance("dark"_q);
+        QMenu menu;
+        menu.addAction("a"_q);
+        menu.popup(QPoint(0, 0));
+        const QImage picture = menu.grab().toImage();
+        QVERIFY(contrast(picture.pixelColor(0, picture.height() / 2),
+                         menu.palette().color(QPalette::Window)) > 1.5);
+
+        const QColor ground = QApplication::palette().color(QPalette::Window);
+        const QImage more = QApplication::style()
+                                ->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton)
+                                .pixmap(16, 16)
+                                .toImage();
+        double best = 1;
+        for (int x = 0; x < more.width(); ++x) {
+            const QColor pixel = more.pixelColor(x, more.height() / 2);
+            if (pixel.alpha() > 200)
+                best = std::max(best, contrast(pixel, ground));
+        }
+        QVERIFY(best > 4.5);
+    }
+
+    void aViewHasAFrameOfFourSides()
+    {
+        for (const char* theme : {"light", "dark"}) {
+            desktop::applyAppearance(QString::fromUtf8(theme));
+            QListWidget list;
+            const QImage picture = list.grab().toImage();
+            const QColor edge = list.palette().color(QPalette::Mid);
+            const int right = picture.width() - 1;
+            const int bottom = picture.height() - 1;
+            for (const QPoint place : {QPoint(0, bottom / 2), QPoint(right, bottom / 2),
+                                       QPoint(right / 2, 0), QPoint(right / 2, bottom)})
+                QCOMPARE(picture.pixelColor(place), edge);
+        }
+    }
+
+    void theRingGoesAroundTheWholeEntryOfAList()
+    {
+        desktop::applyAppearance("light"_q);
+        QListWidget list;
+        list.addItem(new QListWidgetItem(QIcon::fromTheme("document-new"_q), "a"_q));
+        list.setCurrentRow(0);
+        list.show();
+        list.activateWindow();
+        QTRY_VERIFY(list.hasFocus());
+        const QRect row = list.visualItemRect(list.item(0));
+        const QPoint left = list.viewport()->mapTo(&list, QPoint(row.left() + 1, row.center().y()));
+        QCOMPARE(list.grab().toImage().pixelColor(left), QColor(Qt::white));
+    }
 };
 
 QTEST_MAIN(AppearanceTest)
