@@ -41,7 +41,7 @@ DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHos
     : m_host(*host),
       m_subscription(*this,
                      std::string(events::kXyChanged) + "," + events::kProjectModified + "," +
-                         events::kUpdateSystemStatus,
+                         events::kUpdateSystemStatus + "," + events::kProjectChanged,
                      host->eventManager()),
       m_dataManager(std::make_unique<DataProcessDataManager>(host))
 {
@@ -103,12 +103,19 @@ int DataProcess5Assistant::openFile(const QString& path)
 void DataProcess5Assistant::handleEvent(const char* eventName, const char* payload,
                                         int /*reserved*/)
 {
-    if (!ProjectState::isOpen()) // there is no grid to have a position on
+    const auto is = [&](const char* name) { return std::strcmp(eventName, name) == 0; };
+    // There is no grid to have a position on, or the grid is another.
+    if (!ProjectState::isOpen() || is(events::kProjectChanged)) {
+        m_position.clear();
         m_host.eventManager().publish(events::kXyChangedText, "", 0);
-    else if (std::strcmp(eventName, events::kXyChanged) == 0)
-        announcePosition(payload);
-    else if (std::strcmp(eventName, events::kProjectModified) == 0)
+    } else if (is(events::kXyChanged)) {
+        m_position = payload == nullptr ? "" : payload;
+        announcePosition();
+    } else if (is(events::kProjectModified)) {
         ProjectState::showTitle(m_host);
+    } else if (!m_position.empty()) {
+        announcePosition(); // perhaps in another unit
+    }
 }
 
 void DataProcess5Assistant::addLayer(const char* name, const char* className, const char* caption)
@@ -122,10 +129,10 @@ void DataProcess5Assistant::addLayer(const char* name, const char* className, co
     map->addLayer(QString::fromLatin1(className), properties);
 }
 
-void DataProcess5Assistant::announcePosition(const char* payload)
+void DataProcess5Assistant::announcePosition()
 {
     basalt::Dictionary values;
-    payload::read(payload, values, ' ');
+    payload::read(m_position.c_str(), values, ' ');
     double north = 0;
     double east = 0;
     get_instance_ICoordTransformHelper(&m_host)->mapToProject(

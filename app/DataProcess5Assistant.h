@@ -6,6 +6,7 @@
 #include "project/DataProcessDataManager.h"
 
 #include <memory>
+#include <string>
 
 class IDesktopHost;
 
@@ -29,9 +30,10 @@ public:
 
 private:
     void addLayer(const char* name, const char* className, const char* caption);
-    void announcePosition(const char* payload);
+    void announcePosition();
 
     IDesktopHost& m_host; // outlives the assistant
     EventSubscription m_subscription;
+    std::string m_position; ///< as last told by the map; empty when it does not count any more
     std::unique_ptr<DataProcessDataManager> m_dataManager;
 };

@@ -43,6 +43,18 @@ QString translated(const char* text)
     return QCoreApplication::translate("ImportSummary", text);
 }
 
+/// Why a file without a fault gave no point; null when it gave one, or when something else tells
+/// it.
+QString whyNoPoint(const ImportSummary& summary)
+{
+    if (summary.linesRead == 0)
+        return translated(QT_TRANSLATE_NOOP("ImportSummary", "The file is empty."));
+    const std::size_t points = summary.pointsNew + summary.pointsReplaced;
+    if (points != 0 || summary.skipped.count != 0 || !summary.remarks.isEmpty())
+        return {};
+    return translated(QT_TRANSLATE_NOOP("ImportSummary", "The file holds no row of a point."));
+}
+
 /// The file as a whole: its lines, its encoding.
 QStringList fileLines(const ImportSummary& summary)
 {
@@ -62,6 +74,8 @@ QStringList fileLines(const ImportSummary& summary)
                                               "has another encoding, save it as UTF-8 and import "
                                               "it again."))
                      .arg(summary.encoding, QString::number(summary.undecoded.count));
+    if (const QString why = whyNoPoint(summary); !why.isEmpty())
+        lines << why;
     return lines + summary.remarks;
 }
 

@@ -11,16 +11,15 @@ struct ImportSummary
     /// Lines or fields of one kind: how many, and the first of them.
     struct Findings
     {
-        static constexpr std::size_t kMost = 5;
-
         struct Place
         {
             std::size_t line; ///< counted from 1
             QString text;     ///< translated, a whole sentence
         };
 
+        std::size_t mostPlaces = 5;
         std::size_t count = 0;
-        std::vector<Place> first;
+        std::vector<Place> first; ///< at most `mostPlaces`
     };
 
     QString path;
@@ -33,19 +32,21 @@ struct ImportSummary
     std::size_t decimalsDropped = 0;   ///< fields of columns that are read as whole numbers
     QStringList remarks;               ///< about the file as a whole; mostly none
 
-    Findings skipped;   ///< lines; empty ones and the heading do not count
-    Findings undecoded; ///< fields with bytes that are no character
-    Findings misread;   ///< fields of points that became 0
-    Findings changed;   ///< fields of points that became something else than they say
-    Findings surplus;   ///< lines of points, of which the last fields were cut off
-    Findings shorter;   ///< lines of points with fewer fields than the heading
+    Findings skipped; ///< lines; empty ones and the heading do not count
+    /// Fields with bytes that are no character. Each has to be mended by hand: all are named,
+    /// unless the whole file has an unknown encoding.
+    Findings undecoded{100, 0, {}};
+    Findings misread; ///< fields of points that became 0
+    Findings changed; ///< fields of points that became something else than they say
+    Findings surplus; ///< lines of points, of which the last fields were cut off
+    Findings shorter; ///< lines of points with fewer fields than the heading
 
     /// Counts a finding in the last line.
     /// \param text `QString()`; called for the first few only
     template <class Text>
     void note(Findings& findings, Text text)
     {
-        if (++findings.count <= Findings::kMost)
+        if (++findings.count <= findings.mostPlaces)
             findings.first.push_back({linesRead, text()});
     }
 

@@ -507,6 +507,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
 
 坐标数值保持不变，不做任何转换；之后它们将作为新坐标系统中的坐标，对应地面上的另一位置。海拔高将重新计算。</translation>
     </message>
+    <message>
+        <source>Their unit is another: what is %1 now will count as %2.</source>
+        <translation>单位随之改变：现在以 %1 为单位的数值将按 %2 计。</translation>
+    </message>
 </context>
 <context>
     <name>CoordSystemRows</name>
@@ -1129,6 +1133,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Fields of whole numbers whose decimals were dropped: %1.</source>
         <translation>舍去小数的整数字段：%1。</translation>
     </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件为空。</translation>
+    </message>
+    <message>
+        <source>The file holds no row of a point.</source>
+        <translation>文件中没有测点数据行。</translation>
+    </message>
 </context>
 <context>
     <name>LumMessageBox</name>
@@ -1295,15 +1307,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>The project database &quot;%1&quot; cannot be read: %2.</source>
-        <translation>无法读取项目数据库“%1”：%2。</translation>
+        <translation>无法读取工程数据库“%1”：%2。</translation>
     </message>
     <message>
         <source>The project database &quot;%1&quot; cannot be written: %2. It is as it was before.</source>
-        <translation>无法写入项目数据库“%1”：%2。数据库保持原样。</translation>
+        <translation>无法写入工程数据库“%1”：%2。数据库保持原样。</translation>
     </message>
     <message>
         <source>Saving this project was interrupted. It is as it was last saved.</source>
-        <translation>此项目的保存曾被中断，现为上次保存时的内容。</translation>
+        <translation>此工程的保存曾被中断，现为上次保存时的内容。</translation>
     </message>
     <message>
         <source>An interrupted save of &quot;%1&quot; cannot be undone: %2.</source>
@@ -1311,7 +1323,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Saving was interrupted; the project as it was before stands in &quot;%1&quot;, which cannot be put in its place: %2.</source>
-        <translation>保存被中断；保存前的项目在“%1”中，但无法将其放回原处：%2。</translation>
+        <translation>保存被中断；保存前的工程在“%1”中，但无法将其放回原处：%2。</translation>
     </message>
     <message>
         <source>another program is using it</source>
@@ -1323,7 +1335,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>the file is no project database</source>
-        <translation>该文件不是项目数据库</translation>
+        <translation>该文件不是工程数据库</translation>
     </message>
     <message>
         <source>the disk is full</source>

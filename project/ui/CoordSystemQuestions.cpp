@@ -6,6 +6,7 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_sdk/coords/CoordStoredForm.h"
 #include "lum_sdk/coords/EpsgSystem.h"
+#include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/Text.h"
 #include "model/CoordinateRecord.h"
 #include "project/DataProcessDataManager.h"
@@ -39,6 +40,19 @@ QString nameOf(const IDictionary& system)
     if (code.isEmpty())
         return translated(QT_TRANSLATE_NOOP("CoordSystemQuestions", "by its own parameters"));
     return id + QLatin1Char(' ') + QString::fromStdString(epsgName(code.toStdString()));
+}
+
+/// What becomes of the numbers' unit; null when it stays.
+QString unitChange(const IDictionary& present, const IDictionary& chosen)
+{
+    const std::string before = lum::symbolOf(lum::lengthUnitOf(present));
+    const std::string after = lum::symbolOf(lum::lengthUnitOf(chosen));
+    if (before == after)
+        return {};
+    return QStringLiteral("\n\n") +
+           translated(QT_TRANSLATE_NOOP("CoordSystemQuestions",
+                                        "Their unit is another: what is %1 now will count as %2."))
+               .arg(lum::toQString(before), lum::toQString(after));
 }
 
 /// \param chosen  in stored form, as the panel gives it
@@ -88,7 +102,8 @@ bool mayChange(QWidget* parent, const IDictionary& present, const IDictionary& c
                 "Now: %1.\nThen: %2.\n\nThe positions stay the numbers that they are: nothing "
                 "is converted. They then count as positions in the new system, which "
                 "is another place on the ground. Sea heights are computed anew."))
-            .arg(nameOf(present), nameOf(chosen)));
+                .arg(nameOf(present), nameOf(chosen)) +
+            unitChange(present, chosen));
 }
 
 } // namespace CoordSystemQuestions

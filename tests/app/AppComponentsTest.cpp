@@ -232,6 +232,19 @@ private Q_SLOTS:
         }
     }
 
+    void theReadoutFollowsTheUnitAndNotAFormerSystem()
+    {
+        const Program program;
+        program.publish(events::kXyChanged, "N=304.8 E=-0.3048");
+        get_system_ini_parameter().dictionary().set("un_coordUnit", "1");
+        program.publish(events::kUpdateSystemStatus, nullptr);
+        QCOMPARE(program.readout(), QStringLiteral("N=1000.000    E=-1.000    ft"));
+        program.publish(events::kProjectChanged, nullptr);
+        QCOMPARE(program.readout(), QString());
+        program.publish(events::kUpdateSystemStatus, nullptr);
+        QCOMPARE(program.readout(), QString());
+    }
+
     void aClosedProjectHasNoPosition()
     {
         const Program program;

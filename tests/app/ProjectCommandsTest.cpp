@@ -622,9 +622,10 @@ private Q_SLOTS:
         expectAsked("Coordinate System: " + question + '\n');
         const std::string chosen = coordParameter("org_lon");
         answerNo(question);
-        whenDialog("DlgProjectSet", [](QDialog& settings) {
-            applySystem(settings, "32650");
+        whenDialog("DlgProjectSet", [this](QDialog& settings) {
+            applySystem(settings, "32037");
             QVERIFY(settings.isVisible());
+            QVERIFY(m_details.contains(QStringLiteral("what is m now will count as ftUS")));
             press(settings, "Cancel");
         });
         run("Project Settings");
