@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/frame/DesktopStyle.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
@@ -195,6 +196,19 @@ QPixmap DesktopStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixma
     if (mode == QIcon::Disabled)
         return faded(pixmap);
     return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+}
+
+QIcon DesktopStyle::standardIcon(StandardPixmap kind, const QStyleOption* option,
+                                 const QWidget* widget) const
+{
+    const QIcon icon = QProxyStyle::standardIcon(kind, option, widget);
+    if (kind != SP_ToolBarHorizontalExtensionButton && kind != SP_ToolBarVerticalExtensionButton)
+        return icon;
+    QIcon inked;
+    for (const QSize& size : icon.availableSizes())
+        inked.addPixmap(
+            withInk(icon.pixmap(size), QGuiApplication::palette().color(QPalette::ButtonText)));
+    return inked;
 }
 
 } // namespace desktop

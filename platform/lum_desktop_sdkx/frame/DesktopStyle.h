@@ -4,9 +4,9 @@
 
 namespace desktop {
 
-/// Fusion, with what it leaves unclear: who has the keyboard focus, the outlines of fields, boxes
-/// and buttons on a dark ground, icons on the colour of a selection and disabled ones, and which
-/// entries of a menu exclude one another.
+/// Fusion, with what it leaves unclear: who has the keyboard focus, the outlines of fields, boxes,
+/// buttons and the arrow of a short tool bar on a dark ground, icons on the colour of a selection
+/// and disabled ones, and which entries of a menu exclude one another.
 class DesktopStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -22,6 +22,8 @@ public:
                             QPainter* painter, const QWidget* widget = nullptr) const override;
     [[nodiscard]] QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
                                               const QStyleOption* option) const override;
+    [[nodiscard]] QIcon standardIcon(StandardPixmap kind, const QStyleOption* option = nullptr,
+                                     const QWidget* widget = nullptr) const override;
 };
 
 } // namespace desktop

@@ -152,6 +152,28 @@ private Q_SLOTS:
         menu.setActiveAction(entry);
         QCOMPARE(inkOfRow(), 0);
     }
+
+    void theArrowOfAShortToolBarIsSeen()
+    {
+        for (const char* theme : {"light", "dark"}) {
+            desktop::applyAppearance(QString::fromUtf8(theme));
+            QMainWindow window;
+            QToolBar* const bar = window.addToolBar("tools"_q);
+            for (int i = 0; i < 9; ++i)
+                bar->addAction("a long caption"_q);
+            window.resize(200, 100);
+            window.show();
+            auto* const arrow = bar->findChild<QToolButton*>("qt_toolbar_ext_button"_q);
+            QVERIFY(arrow != nullptr);
+            QTRY_VERIFY(arrow->isVisible());
+            const QImage shown = arrow->grab().toImage();
+            const QColor ground = window.palette().color(QPalette::Window);
+            double best = 1;
+            for (int x = 2; x < shown.width() - 2; ++x)
+                best = std::max(best, contrast(shown.pixelColor(x, shown.height() / 2), ground));
+            QVERIFY2(best >= 4, qPrintable("%1: %2"_q.arg(QLatin1String(theme)).arg(best)));
+        }
+    }
 };
 
 QTEST_MAIN(AppearanceTest)
