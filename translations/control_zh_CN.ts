@@ -696,6 +696,10 @@
         <translation>测量</translation>
     </message>
     <message>
+        <source>Survey name</source>
+        <translation>测量名称</translation>
+    </message>
+    <message>
         <source>The survey as the contract names it.</source>
         <translation>合同中的测量项目名称。</translation>
     </message>

@@ -61,6 +61,8 @@ void CoordSystemSearch::makeList()
     m_list->setFocusPolicy(Qt::NoFocus);       // the field keeps the focus
     m_list->setTextElideMode(Qt::ElideMiddle); // names of zones differ at their end
     m_list->header()->setSectionResizeMode(CoordSystemTable::Code, QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(CoordSystemTable::Area, QHeaderView::Stretch);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->hide();
     connect(m_list, &QTreeView::clicked, this, &CoordSystemSearch::choose);
 }

@@ -149,4 +149,7 @@ void Dialog::hideEvent(QHideEvent* event)
     if (!m_sizeKey.isEmpty() && !event->spontaneous()) // false for a window that was minimised
         rememberedSizes().insert(m_sizeKey, size());
     QDialog::hideEvent(event);
+    // Some window managers lose the focus when a question and its dialog close at once.
+    if (isModal() && !event->spontaneous() && parentWidget() != nullptr)
+        parentWidget()->activateWindow();
 }
