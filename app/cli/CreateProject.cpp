@@ -100,6 +100,14 @@ Outcome make(const ProjectPlace& place, const IDictionary& project)
     return making;
 }
 
+/// Why a project cannot have the name, with one that it can have.
+QString nameFault(const QString& name)
+{
+    const QString fault = projectNameFault(name);
+    const QString proposal = fault.isEmpty() ? QString() : projectNameProposal(name);
+    return proposal.isEmpty() ? fault : fault + QStringLiteral(" Try \"%1\".").arg(proposal);
+}
+
 } // namespace
 
 Outcome createProject(const CliArguments& arguments)
@@ -108,8 +116,7 @@ Outcome createProject(const CliArguments& arguments)
         return Outcome::refused(QStringLiteral("--epsg and --set exclude each other"));
     const QString location = QDir::cleanPath(QFileInfo(arguments.places[0]).absoluteFilePath());
     const QString& name = arguments.places[1];
-    for (const QString& fault :
-         {projectLocationFault(existingFolder(location)), projectNameFault(name)}) {
+    for (const QString& fault : {projectLocationFault(existingFolder(location)), nameFault(name)}) {
         if (!fault.isEmpty())
             return Outcome::failed(fault);
     }
