@@ -74,18 +74,21 @@ QString DemoSurveyCommand::chooseLocation()
     if (projectLocationFault(location).isEmpty()) {
         const QString folder =
             QDir::toNativeSeparators(ProjectPlace::planned(location, demoName()).folder);
-        const Button answer = LumMessageBox::question(
-            host().dialogParent(), demoName(),
-            translated(QT_TRANSLATE_NOOP("DemoSurveyCommand",
-                                         "Make the demo survey in the folder \"%1\"? "
-                                         "With No you choose another place."))
-                .arg(folder),
-            LumMessageBox::Buttons(Button::Yes) | Button::No | Button::Cancel,
-            translated(QT_TRANSLATE_NOOP(
-                "DemoSurveyCommand",
-                "Two crews have staked 4,000 points in six days, and left faults to be found. The "
-                "file csv/faults.csv lists them. The survey is yours to change: to begin anew, "
-                "delete its folder.")));
+        const Button answer = LumMessageBox::ask(
+            host().dialogParent(),
+            {.kind = LumMessageBox::Kind::Question,
+             .title = demoName(),
+             .text = translated(QT_TRANSLATE_NOOP("DemoSurveyCommand",
+                                                  "Make the demo survey in the folder \"%1\"? "
+                                                  "With No you choose another place."))
+                         .arg(folder),
+             .buttons = LumMessageBox::Buttons(Button::Yes) | Button::No | Button::Cancel,
+             .details = translated(QT_TRANSLATE_NOOP(
+                 "DemoSurveyCommand",
+                 "Two crews have staked 4,000 points in six days, and left faults to be found. The "
+                 "file csv/faults.csv lists them. The survey is yours to change: to begin anew, "
+                 "delete its folder.")),
+             .defaultButton = Button::Yes}); // nothing can be lost
         if (answer == Button::Yes)
             return location;
         if (answer == Button::Cancel)

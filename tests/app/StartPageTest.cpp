@@ -51,7 +51,7 @@ class StartPageTest : public QObject
     std::unique_ptr<DesktopHost> m_host;
     std::unique_ptr<MainFrame> m_frame;
     QStringList m_asked;
-    Button m_answer = Button::Yes;
+    std::optional<Button> m_answer = Button::Yes; ///< none presses Enter
     int m_filesAsked = 0;
     std::unique_ptr<LumMessageBox::Responder> m_messages;
     std::unique_ptr<FileDialog::Responder> m_files;
@@ -103,7 +103,9 @@ private Q_SLOTS:
         m_filesAsked = 0;
         m_messages = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
             m_asked << message.text;
-            return message.buttons & Button::Yes ? m_answer : Button::Ok;
+            return message.buttons & Button::Yes
+                       ? m_answer.value_or(message.defaultButton.value_or(Button::Cancel))
+                       : Button::Ok;
         });
         m_files = std::make_unique<FileDialog::Responder>([this](const auto&) {
             ++m_filesAsked;
@@ -155,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(m_filesAsked, 1);
         QVERIFY(!ProjectState::isOpen());
 
-        m_answer = Button::Yes;
+        m_answer.reset();
         QVERIFY(m_host->commands().execute(QStringLiteral("Demo Survey")));
         QVERIFY(ProjectState::isOpen());
         QVERIFY(page()->isHidden());
