@@ -17,6 +17,8 @@
 #include <QCommandLinkButton>
 #include <QtTest>
 
+#include <optional>
+
 namespace {
 
 using Button = LumMessageBox::Button;

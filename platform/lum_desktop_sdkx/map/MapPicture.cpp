@@ -39,7 +39,8 @@ void MapPicture::set(const QImage& image, const Transform& view)
 
 void MapPicture::draw(QPainter& painter, const Transform& live, const QColor& background) const
 {
-    const QRectF area(QPointF(0, 0), QSizeF(live.size()));
+    // At a scale that is no whole number the window reaches into one pixel more.
+    const QRectF area(QPointF(0, 0), QSizeF(live.size()) + QSizeF(1, 1));
     const QRectF target = place(live);
     if (target.isNull()) {
         painter.fillRect(area, background);

@@ -1,6 +1,7 @@
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
+#include "lum_desktop_sdkx/map/MapPicture.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_desktop_sdkx/Registration.h"
@@ -340,6 +341,30 @@ private Q_SLOTS:
         job.target.mapExtent = QRectF();
         job.target.transform.setView({0, 0}, 1);
         QCOMPARE(paintPicture(job), blank);
+    }
+
+    void everyDevicePixelIsDrawnAtAScaleThatIsNoWholeNumber()
+    {
+        Transform view;
+        view.setSize({33, 33}); // 41.25 device pixels
+        view.setView({0, 0}, 1);
+        QImage painted(41, 41, QImage::Format_ARGB32_Premultiplied);
+        painted.setDevicePixelRatio(1.25);
+        painted.fill(Qt::blue);
+        MapPicture picture;
+        for (const bool isPainted : {false, true}) {
+            if (isPainted)
+                picture.set(painted, view);
+            QImage window(42, 42, QImage::Format_ARGB32_Premultiplied);
+            window.setDevicePixelRatio(1.25);
+            window.fill(Qt::red);
+            QPainter painter(&window);
+            picture.draw(painter, view, kPaper);
+            painter.end();
+            QCOMPARE(window.pixelColor(20, 20), isPainted ? QColor(Qt::blue) : QColor(kPaper));
+            QCOMPARE(window.pixelColor(20, 41), QColor(kPaper));
+            QCOMPARE(window.pixelColor(41, 20), QColor(kPaper));
+        }
     }
 
     void scaleBarHasARoundLengthAndIsAsLongAsItSays()
