@@ -114,10 +114,10 @@ QString DemoSurveyCommand::make()
         const Outcome making = makeDemoProject(place);
         if (!making.isDone()) {
             basalt::logError("No demo survey was made: " + making.detail());
-            LumMessageBox::warning(host().dialogParent(), demoName(),
-                                   translated(QT_TRANSLATE_NOOP(
-                                       "DemoSurveyCommand", "The demo survey could not be made.")),
-                                   Button::Ok, making.text());
+            LumMessageBox::error(host().dialogParent(), demoName(),
+                                 translated(QT_TRANSLATE_NOOP(
+                                     "DemoSurveyCommand", "The demo survey could not be made.")),
+                                 making.text());
             return {};
         }
     }

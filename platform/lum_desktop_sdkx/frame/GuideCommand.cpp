@@ -23,7 +23,7 @@ void GuideCommand::execute()
     QWidget* const frame = host().dialogParent();
     if (!QFileInfo::exists(path)) {
         basalt::logError("There is no guide \"" + path.toStdString() + "\"");
-        LumMessageBox::warning(
+        LumMessageBox::error(
             frame, title,
             QCoreApplication::translate("GuideCommand", "The guide \"%1\" is not installed.")
                 .arg(QDir::toNativeSeparators(path)));
