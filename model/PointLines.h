@@ -4,13 +4,16 @@
 #include "model/PointLine.h"
 #include "model/SurveyPoint.h"
 
+#include <atomic>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 /// All points of one kind, line by line. Lines are ordered by the bytes of their numbers ("10"
-/// comes before "9"), and no line is empty.
+/// comes before "9"), and no line is empty. Values of points may be changed in place; which points
+/// there are is changed by the functions of this class alone.
 ///
 ///     for (const auto& [lineNumber, line] : points)
 ///         for (const Point& point : line)
@@ -29,8 +32,18 @@ public:
     PointLines& operator=(PointLines other) noexcept
     {
         m_lines.swap(other.m_lines);
-        m_last = nullptr;
+        setChanged();
         return *this;
+    }
+
+    /// A number that changes whenever points come, go or are replaced, and that no other container
+    /// of the process ever has. While it is the same, pointers to points are valid. For one thread.
+    [[nodiscard]] std::uint64_t revision() const
+    {
+        static std::atomic<std::uint64_t> last{0};
+        if (m_revision == 0)
+            m_revision = ++last;
+        return m_revision;
     }
 
     [[nodiscard]] auto begin() { return m_lines.begin(); }
@@ -77,6 +90,7 @@ public:
         // The next point is mostly of the same line.
         if (m_last == nullptr || m_last->first != point.lineNumber)
             m_last = &*m_lines.try_emplace(point.lineNumber).first;
+        m_revision = 0;
         return m_last->second.set(std::move(point));
     }
     Point& set(const Point& point) { return set(Point(point)); }
@@ -88,6 +102,7 @@ public:
         Line* const line = findLine(lineNumber);
         if (line == nullptr || !line->erase(pointNumber))
             return false;
+        m_revision = 0;
         if (line->empty())
             eraseLine(lineNumber);
         return true;
@@ -97,15 +112,15 @@ public:
         const auto found = m_lines.find(lineNumber);
         if (found == m_lines.end())
             return false;
-        m_last = nullptr;
         m_lines.erase(found);
+        setChanged();
         return true;
     }
 
     void clear()
     {
         m_lines.clear();
-        m_last = nullptr;
+        setChanged();
     }
 
     /// Takes over all points of `later`, over those that stand here. An exception (no memory)
@@ -127,13 +142,20 @@ public:
             ++next;
         }
         later.clear();
-        m_last = nullptr;
+        setChanged();
         return replaced;
     }
 
 private:
+    void setChanged()
+    {
+        m_last = nullptr;
+        m_revision = 0;
+    }
+
     Map m_lines;
     typename Map::value_type* m_last = nullptr; ///< the line that got the last point
+    mutable std::uint64_t m_revision = 0;       ///< 0 after a change, until somebody asks
 };
 
 using DesignPoints = PointLines<DesignPoint>;

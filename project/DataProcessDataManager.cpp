@@ -20,6 +20,7 @@
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
 #include "project/ParameterFiles.h"
+#include "project/PointCorrection.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectLoader.h"
@@ -310,6 +311,66 @@ int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcom
     if (reading.isDone() && summary.hasPoints())
         markChanged();
     return answered(withSummary(reading, summary, counts), outcome);
+}
+
+int DataProcessDataManager::exportDesignDatabase(const QStringList& /*lines*/,
+                                                 const QString& /*path*/, bool /*onlyUnsurveyed*/,
+                                                 Outcome* outcome)
+{
+    return answered(Outcome::failed({}), outcome);
+}
+
+int DataProcessDataManager::exportDesignKml(const QStringList& /*lines*/, const QString& /*path*/,
+                                            bool /*onlyUnsurveyed*/, Outcome* outcome)
+{
+    return answered(Outcome::failed({}), outcome);
+}
+
+int DataProcessDataManager::exportSurveyKml(const QStringList& /*lines*/, const QString& /*path*/,
+                                            Outcome* outcome)
+{
+    return answered(Outcome::failed({}), outcome);
+}
+
+int DataProcessDataManager::importSurveyDatabase(const QString& /*path*/, Outcome* outcome,
+                                                 ImportSummary* /*counts*/)
+{
+    return answered(Outcome::failed({}), outcome);
+}
+
+std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointName>& points)
+{
+    std::size_t deleted = 0;
+    for (const PointName& name : points)
+        deleted += m_survey.erase(name.line, name.point) ? 1U : 0U;
+    if (deleted != 0)
+        markChanged();
+    return deleted;
+}
+
+std::size_t DataProcessDataManager::deleteSurveyLines(const QStringList& lines)
+{
+    const std::size_t before = m_survey.pointCount();
+    for (const QString& line : lines)
+        m_survey.eraseLine(line.toStdString());
+    const std::size_t deleted = before - m_survey.pointCount();
+    if (deleted != 0)
+        markChanged();
+    return deleted;
+}
+
+int DataProcessDataManager::correctSurveyPoint(const PointName& /*name*/,
+                                               const SurveyCorrection& /*correction*/,
+                                               Outcome* outcome)
+{
+    return answered(Outcome::failed({}), outcome);
+}
+
+int DataProcessDataManager::correctDesignPoint(const PointName& /*name*/,
+                                               const DesignCorrection& /*correction*/,
+                                               Outcome* outcome)
+{
+    return answered(Outcome::failed({}), outcome);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)

@@ -4,6 +4,7 @@
 #include "lum_sdk/events/EventSubscription.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "model/PointLines.h"
+#include "model/PointName.h"
 #include "project/DBAdapter.h"
 #include "project/ProjectLock.h"
 #include "protocol/Outcome.h"
@@ -17,9 +18,11 @@ class IHost;
 class QAbstractTableModel;
 struct CheckedData;
 struct CheckKind;
+struct DesignCorrection;
 struct ImportSummary;
 struct ProjectPlace;
 struct QualityRow;
+struct SurveyCorrection;
 
 /// What a project is opened for.
 enum class ProjectAccess
@@ -99,6 +102,31 @@ public:
                         const QStringList& captions = {}, Outcome* outcome = nullptr);
     int importSurveyCsv(const QString& path, Outcome* outcome = nullptr,
                         ImportSummary* counts = nullptr);
+
+    // Databases and KML files, see exchange/.
+
+    /// Writes the points into a new database with the project's coordinate system, over a file
+    /// that is there.
+    int exportDesignDatabase(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
+                             Outcome* outcome = nullptr);
+    int exportDesignKml(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
+                        Outcome* outcome = nullptr);
+    int exportSurveyKml(const QStringList& lines, const QString& path, Outcome* outcome = nullptr);
+    /// Adds the results of another project's database. One of another coordinate system is refused.
+    int importSurveyDatabase(const QString& path, Outcome* outcome = nullptr,
+                             ImportSummary* counts = nullptr);
+
+    // Changes by hand. What is not there is passed over.
+
+    /// \returns how many results are gone
+    std::size_t deleteSurveyPoints(const std::vector<PointName>& points);
+    std::size_t deleteSurveyLines(const QStringList& lines);
+    /// Refused when the point does not exist. A result that gets the name of another one takes its
+    /// place.
+    int correctSurveyPoint(const PointName& name, const SurveyCorrection& correction,
+                           Outcome* outcome = nullptr);
+    int correctDesignPoint(const PointName& name, const DesignCorrection& correction,
+                           Outcome* outcome = nullptr);
 
     // The checks of quality/CheckKinds.h.
 

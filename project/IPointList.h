@@ -8,7 +8,11 @@ class IPointList
 public:
     virtual ~IPointList() = default;
 
-    /// Shows this point and selects it.
-    /// \returns false when the list does not have it
+    /// Shows this point, selects its row and announces it, as a click on the row does. A list of
+    /// another line goes over to the point's line.
+    /// \returns false when the project does not have the point
     virtual bool selectPoint(const QString& lineNumber, const QString& pointNumber) = 0;
+
+    /// The same without announcing it: the answer to a selection that was made elsewhere.
+    virtual bool followPoint(const QString& lineNumber, const QString& pointNumber) = 0;
 };

@@ -23,10 +23,12 @@ inline constexpr const char* kProjectModified = "ON_PROJECT_MODIFIED";
 
 // --- tables ---
 
-/// Checks -> design table. No payload.
+/// Checks, corrected points -> design table. No payload.
 inline constexpr const char* kRefreshDesignTable = "REFRESH_DESIGN_TABLE";
-/// Coordinate format, quality check, time zone -> survey table. No payload.
+/// Coordinate format, quality check, time zone, corrected points -> survey table. No payload.
 inline constexpr const char* kRefreshSurveyTable = "REFRESH_SURVEY_TABLE";
+/// The dialog of the survey columns, the table's header -> survey table. No payload.
+inline constexpr const char* kSurveyColumnsChanged = "ON_SURVEY_COLUMNS_CHANGED";
 /// Design tree -> design table. No payload.
 inline constexpr const char* kClearDesignTable = "ON_CLEAR_DESIGN_TABLE";
 /// Coordinate format, survey tree -> survey table. No payload.
@@ -44,9 +46,9 @@ inline constexpr const char* kSurveyTableSelectPoint = "ON_SURVEY_TABLE_SELECT_P
 
 // --- selection ---
 
-/// Design table, map pick -> attribute panel. "pointName=...,lineName=...".
+/// Design table, map pick -> attribute panel, selection follower. "pointName=...,lineName=...".
 inline constexpr const char* kDesignPointSelected = "ON_DESIGN_POINT_SELECTED";
-/// Survey table, map pick -> attribute panel. "pointName=...,lineName=...".
+/// Survey table, map pick -> attribute panel, selection follower. "pointName=...,lineName=...".
 inline constexpr const char* kSurveyPointSelected = "ON_SURVEY_POINT_SELECTED";
 /// Map pick of a base station -> attribute panel. "stationId=...", counted from 0.
 inline constexpr const char* kStationPointSelected = "ON_STATION_POINT_SELECTED";

@@ -15,6 +15,16 @@ QByteArray quoted(const QString& text)
 
 namespace payload {
 
+QByteArray line(const QString& lineNumber)
+{
+    return "line_num=" + quoted(lineNumber);
+}
+
+QByteArray linePoint(const QString& lineNumber, const QString& pointNumber)
+{
+    return line(lineNumber) + ",point_num=" + quoted(pointNumber);
+}
+
 QByteArray selectedPoint(const QString& pointNumber, const QString& lineNumber)
 {
     return "pointName=" + quoted(pointNumber) + ",lineName=" + quoted(lineNumber);

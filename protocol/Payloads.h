@@ -9,6 +9,10 @@ class QString;
 /// The payloads of the product's events.
 namespace payload {
 
+/// "line_num=LINE"
+[[nodiscard]] QByteArray line(const QString& lineNumber);
+/// "line_num=LINE,point_num=POINT"
+[[nodiscard]] QByteArray linePoint(const QString& lineNumber, const QString& pointNumber);
 /// "pointName=POINT,lineName=LINE"
 [[nodiscard]] QByteArray selectedPoint(const QString& pointNumber, const QString& lineNumber);
 /// "stationId=INDEX"

@@ -1,5 +1,6 @@
 #include "map/ui/PointHighlight.h"
 
+#include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
@@ -8,6 +9,8 @@
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Transform.h"
+#include "model/DesignPoint.h"
+#include "model/SurveyPoint.h"
 
 #include <QColor>
 #include <QPolygonF>
@@ -76,6 +79,31 @@ void show(IDesktopHost& host, const QPointF& measured, const QPointF& design)
     overlay.setLine(positions);
     overlay.setVertices(positions);
     map->refreshOverlay();
+}
+
+void mark(IDesktopHost& host, const SurveyPoint& point)
+{
+    zoomTo(host, point);
+}
+
+void mark(IDesktopHost& host, const DesignPoint& point)
+{
+    zoomTo(host, point);
+}
+
+void zoomTo(IDesktopHost& host, const SurveyPoint& point)
+{
+    const ICoordTransformHelper& helper = host.coordTransformHelper();
+    const QPointF measured = helper.projectToMap(point.north, point.east);
+    const bool hasDesign = point.designNorth != 0 && point.designEast != 0;
+    show(host, measured,
+         hasDesign ? helper.projectToMap(point.designNorth, point.designEast) : measured);
+}
+
+void zoomTo(IDesktopHost& host, const DesignPoint& point)
+{
+    const QPointF place = host.coordTransformHelper().projectToMap(point.north, point.east);
+    show(host, place, place);
 }
 
 } // namespace PointHighlight

@@ -4,6 +4,8 @@
 
 class IDesktopHost;
 class QPointF;
+struct DesignPoint;
+struct SurveyPoint;
 
 /// Highlights one measured point on the map "DataMap".
 namespace PointHighlight {
@@ -19,5 +21,14 @@ namespace PointHighlight {
 /// \param design where the point was designed, map coordinates; the measured position again for a
 ///        point without a design position, which gets no ring
 void show(IDesktopHost& host, const QPointF& measured, const QPointF& design);
+
+/// Marks the point. The map moves, at its scale, only when the point is outside its view; it is not
+/// brought to the front.
+void mark(IDesktopHost& host, const SurveyPoint& point);
+void mark(IDesktopHost& host, const DesignPoint& point);
+
+/// Marks the point and zooms the map to it.
+void zoomTo(IDesktopHost& host, const SurveyPoint& point);
+void zoomTo(IDesktopHost& host, const DesignPoint& point);
 
 } // namespace PointHighlight

@@ -22,6 +22,12 @@ public:
     /// \returns false when no such window is open
     virtual bool activate(const QString& name) = 0;
 
+    /// Brings the window to the front of its tabs when it is open in the frame and would not cover
+    /// `uncovered`. Nothing else changes: a window that the user has closed stays closed, and the
+    /// focus stays where it is.
+    /// \returns whether the window can be seen now
+    virtual bool reveal(const QString& name, const QString& uncovered) = 0;
+
     /// Opens a window of a registered class, or returns the one that is open.
     /// \param parameters all are passed on to a new window. Read here are "caption", the name of a
     ///        new window; "title", the text of its tab; and "isSetActive", which brings the window

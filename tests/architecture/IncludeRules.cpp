@@ -39,9 +39,10 @@ const Floors& floors()
         {Room::WithWidgets, {"platform/lum_desktop_sdkx/coords"}},
         {Room::WithWidgets, {"platform/lum_desktop_sdkx/map"}},
         {Room::WithWidgets, {"platform/lum_desktop_sdkx/frame"}},
-        {Room::WithWidgets, {"project/ui"}}, // what all user interface shares: the open project,
-        {Room::WithWidgets, {"map/ui"}},     // and a point shown on the map
-        {Room::WithWidgets, {"exchange/ui", "quality/ui", "design/ui", "views"}},
+        {Room::WithWidgets, {"project/ui"}},  // what all user interface shares: the open project,
+        {Room::WithWidgets, {"map/ui"}},      // a point shown on the map, and files
+        {Room::WithWidgets, {"exchange/ui"}}, // that are read and written
+        {Room::WithWidgets, {"quality/ui", "design/ui", "views", "views/tables", "views/trees"}},
         {Room::WithWidgets, {"app"}},
     };
     return kFloors;

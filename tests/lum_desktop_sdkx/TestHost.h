@@ -20,6 +20,10 @@ public:
         activated.append(name);
         return windows.contains(name);
     }
+    bool reveal(const QString& name, const QString& /*uncovered*/) override
+    {
+        return find(name) != nullptr;
+    }
     IWindow* open(const QString& className, const IDictionary& /*parameters*/) override
     {
         opened.append(className);

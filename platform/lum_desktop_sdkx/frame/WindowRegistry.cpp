@@ -65,6 +65,19 @@ bool WindowRegistry::activate(const QString& name)
     return true;
 }
 
+bool WindowRegistry::reveal(const QString& name, const QString& uncovered)
+{
+    const Entry* const found = entry(name);
+    if (found == nullptr || found->dock == nullptr || found->dock->isClosed())
+        return false;
+    const Entry* const other = entry(uncovered);
+    const bool isBehind = other != nullptr && other->dock != nullptr && !other->dock->isClosed() &&
+                          other->dock->dockAreaWidget() == found->dock->dockAreaWidget();
+    if (!isBehind)
+        found->dock->setAsCurrentTab();
+    return found->dock->isCurrentTab();
+}
+
 IWindow* WindowRegistry::open(const QString& className, const IDictionary& parameters)
 {
     const auto text = [&](const char* key, const QString& fallback) {

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QStringList>
+
+class IDesktopHost;
+
+/// Exports with their questions and messages, for the trees and the menu. Each is for an open
+/// project, asks for the file, tells what came of it, and offers to open what was written where
+/// another program can.
+namespace FileExports {
+
+enum class Form
+{
+    Csv,
+    Database, ///< of the design only
+    Kml
+};
+
+void exportDesign(IDesktopHost& host, Form form, const QStringList& lines, bool onlyUnsurveyed);
+void exportSurvey(IDesktopHost& host, Form form, const QStringList& lines);
+
+/// "Export Succeed, Open it?"; on yes the file is opened by the desktop. Also for tables.
+void offerToOpen(IDesktopHost& host, const QString& path);
+
+} // namespace FileExports
