@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 
+#include "lum_desktop_sdkx/controls/FilterHeader.h"
 #include "lum_sdk/DpiScale.h"
 
 #include <QClipboard>
@@ -11,7 +12,6 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
-#include <vector>
 
 namespace {
 
@@ -19,23 +19,7 @@ constexpr int kSampleRows = 50;
 constexpr int kRowPadding = 8;   ///< above and below the text, together
 constexpr int kCellPadding = 18; ///< left and right of the text, together
 constexpr int kMaxInitialWidth = 320;
-
-/// First and last row of each run of selected rows, in order and without repetition.
-std::vector<std::pair<int, int>> selectedRuns(const QItemSelection& selection)
-{
-    std::vector<std::pair<int, int>> runs;
-    for (const QItemSelectionRange& range : selection)
-        runs.emplace_back(range.top(), range.bottom());
-    std::sort(runs.begin(), runs.end());
-    std::vector<std::pair<int, int>> merged;
-    for (const auto& [first, last] : runs) {
-        if (merged.empty() || first > merged.back().second + 1)
-            merged.emplace_back(first, last);
-        else
-            merged.back().second = std::max(merged.back().second, last);
-    }
-    return merged;
-}
+constexpr int kMinColumnWidth = 36;
 
 void blankBreaks(QString& text)
 {
@@ -49,7 +33,7 @@ void blankBreaks(QString& text)
 
 CustomTableWidget::CustomTableWidget(QWidget* parent) : QTableView(parent)
 {
-    setSelectionBehavior(SelectRows);
+    setSelectionBehavior(SelectItems); // of whole rows, but for rectangles: see selectionCommand
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setAlternatingRowColors(true);
@@ -60,12 +44,66 @@ CustomTableWidget::CustomTableWidget(QWidget* parent) : QTableView(parent)
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    setUpHeader();
+    fitRowHeight();
+}
+
+void CustomTableWidget::setUpHeader()
+{
     QHeaderView* const header = horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Interactive);
+    header->setMinimumSectionSize(dpi_scaled(kMinColumnWidth));
     header->setTextElideMode(Qt::ElideRight);
     header->setHighlightSections(false); // it would look at every selected row
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    fitRowHeight();
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& pos) {
+        const int column = header->logicalIndexAt(pos);
+        if (column >= 0)
+            Q_EMIT headerMenuRequestedAt(column, header->mapToGlobal(pos));
+    });
+    // The base class selects a column when its caption is pressed.
+    disconnect(header, SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
+    disconnect(header, SIGNAL(sectionEntered(int)), this, SLOT(_q_selectColumn(int)));
+    connect(header, &QHeaderView::sectionClicked, this, &CustomTableWidget::requestOrder);
+    if (m_isSortable)
+        enableSorting();
+}
+
+void CustomTableWidget::enableSorting()
+{
+    m_isSortable = true;
+    QHeaderView* const header = horizontalHeader();
+    header->setSectionsClickable(true);
+    header->setSortIndicator(m_orderColumn, m_order);
+    header->setSortIndicatorShown(true);
+}
+
+FilterHeader& CustomTableWidget::addFilterRow()
+{
+    auto* const header = new FilterHeader(this);
+    setHorizontalHeader(header);
+    setUpHeader();
+    header->show();
+    updateGeometries();
+    return *header;
+}
+
+void CustomTableWidget::requestOrder(int column)
+{
+    if (!m_isSortable)
+        return;
+    if (column != m_orderColumn) {
+        m_orderColumn = column;
+        m_order = Qt::AscendingOrder;
+    } else if (m_order == Qt::AscendingOrder) {
+        m_order = Qt::DescendingOrder;
+    } else {
+        m_orderColumn = -1;
+        m_order = Qt::AscendingOrder;
+    }
+    horizontalHeader()->setSortIndicator(m_orderColumn, m_order); // the click has changed it
+    Q_EMIT orderRequested(m_orderColumn, m_order);
 }
 
 void CustomTableWidget::setModel(QAbstractItemModel* model)
@@ -73,6 +111,8 @@ void CustomTableWidget::setModel(QAbstractItemModel* model)
     if (QAbstractItemModel* const old = QTableView::model()) {
         disconnect(old, &QAbstractItemModel::modelReset, this, &CustomTableWidget::hideColumns);
         disconnect(old, &QAbstractItemModel::modelReset, this, &CustomTableWidget::fitColumnsOnce);
+        disconnect(old, &QAbstractItemModel::layoutChanged, this,
+                   &CustomTableWidget::fitColumnsOnce);
         disconnect(old, &QAbstractItemModel::rowsInserted, this,
                    &CustomTableWidget::fitColumnsOnce);
     }
@@ -82,17 +122,75 @@ void CustomTableWidget::setModel(QAbstractItemModel* model)
         return;
     connect(model, &QAbstractItemModel::modelReset, this, &CustomTableWidget::hideColumns);
     connect(model, &QAbstractItemModel::modelReset, this, &CustomTableWidget::fitColumnsOnce);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &CustomTableWidget::fitColumnsOnce);
     connect(model, &QAbstractItemModel::rowsInserted, this, &CustomTableWidget::fitColumnsOnce);
     fitColumnsOnce();
 }
 
-QString CustomTableWidget::selectedRowsText() const
+CustomTableWidget::Runs CustomTableWidget::selectedRuns() const
+{
+    Runs runs;
+    if (selectionModel() == nullptr)
+        return runs;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        runs.emplace_back(range.top(), range.bottom());
+    std::sort(runs.begin(), runs.end());
+    Runs merged;
+    for (const auto& [first, last] : runs) {
+        if (merged.empty() || first > merged.back().second + 1)
+            merged.emplace_back(first, last);
+        else
+            merged.back().second = std::max(merged.back().second, last);
+    }
+    return merged;
+}
+
+std::vector<int> CustomTableWidget::selectedRows() const
+{
+    std::vector<int> rows;
+    for (const auto& [first, last] : selectedRuns()) {
+        for (int row = first; row <= last; ++row)
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+int CustomTableWidget::selectedRowCount() const
+{
+    int count = 0;
+    for (const auto& [first, last] : selectedRuns())
+        count += last - first + 1;
+    return count;
+}
+
+QString CustomTableWidget::selectedRowsText(Captions captions) const
+{
+    return textOf(shownColumns(), captions);
+}
+
+void CustomTableWidget::copySelection(Captions captions)
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString text = textOf(selectedColumns(), captions);
+    if (!text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
+    QGuiApplication::restoreOverrideCursor();
+}
+
+QString CustomTableWidget::textOf(const std::vector<int>& columns, Captions captions) const
 {
     QString text;
-    if (selectionModel() == nullptr)
+    const Runs runs = selectedRuns();
+    if (runs.empty() || columns.empty())
         return text;
-    const std::vector<int> columns = shownColumns();
-    for (const auto& [first, last] : selectedRuns(selectionModel()->selection())) {
+    if (captions == Captions::With) {
+        for (const int column : columns) {
+            text += model()->headerData(column, Qt::Horizontal).toString();
+            text += QLatin1Char('\t');
+        }
+        text.back() = QLatin1Char('\n');
+    }
+    for (const auto& [first, last] : runs) {
         for (int row = first; row <= last; ++row) {
             if (isRowHidden(row))
                 continue;
@@ -100,21 +198,10 @@ QString CustomTableWidget::selectedRowsText() const
                 text += cellText(model()->index(row, column, rootIndex()));
                 text += QLatin1Char('\t');
             }
-            if (columns.empty())
-                continue;
             text.back() = QLatin1Char('\n');
         }
     }
     return text;
-}
-
-void CustomTableWidget::copySelection()
-{
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString text = selectedRowsText();
-    if (!text.isEmpty())
-        QGuiApplication::clipboard()->setText(text);
-    QGuiApplication::restoreOverrideCursor();
 }
 
 void CustomTableWidget::showRow(int row)
@@ -122,7 +209,12 @@ void CustomTableWidget::showRow(int row)
     if (model() == nullptr || row < 0 || row >= model()->rowCount(rootIndex()))
         return;
     const int left = horizontalScrollBar()->value();
-    const QModelIndex index = model()->index(row, 0, rootIndex());
+    int column = currentIndex().column();
+    if (column < 0 || isColumnHidden(column)) {
+        const std::vector<int> columns = shownColumns();
+        column = columns.empty() ? 0 : columns.front();
+    }
+    const QModelIndex index = model()->index(row, column, rootIndex());
     selectionModel()->setCurrentIndex( // selectRow() would add rows while a modifier key is held
         index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
@@ -161,6 +253,11 @@ void CustomTableWidget::keyPressEvent(QKeyEvent* event)
         copySelection(); // the base class copies one cell only
         return;
     }
+    if (event->key() == Qt::Key_C &&
+        event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier)) {
+        copySelection(Captions::With);
+        return;
+    }
     const int before = currentIndex().row();
     const bool isArrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -171,6 +268,23 @@ void CustomTableWidget::keyPressEvent(QKeyEvent* event)
         QTableView::keyPressEvent(event);
     if (currentIndex().isValid() && (isFirst || isEnter || currentIndex().row() != before))
         Q_EMIT reachedByKey(currentIndex());
+}
+
+void CustomTableWidget::mousePressEvent(QMouseEvent* event)
+{
+    m_pressedColumn = columnAt(event->pos().x());
+    QTableView::mousePressEvent(event);
+}
+
+QItemSelectionModel::SelectionFlags CustomTableWidget::selectionCommand(const QModelIndex& index,
+                                                                        const QEvent* event) const
+{
+    const QItemSelectionModel::SelectionFlags command = QTableView::selectionCommand(index, event);
+    const bool isDrag = event != nullptr && event->type() == QEvent::MouseMove;
+    const bool isRectangle = isDrag && index.isValid() && index.column() != m_pressedColumn;
+    if (command == QItemSelectionModel::NoUpdate || isRectangle)
+        return command;
+    return command | QItemSelectionModel::Rows;
 }
 
 void CustomTableWidget::fitRowHeight()
@@ -222,6 +336,24 @@ std::vector<int> CustomTableWidget::shownColumns() const
         if (!header->isSectionHidden(column))
             columns.push_back(column);
     }
+    return columns;
+}
+
+/// The shown columns, from left to right, in which a cell is selected.
+std::vector<int> CustomTableWidget::selectedColumns() const
+{
+    std::vector<int> columns = shownColumns();
+    if (selectionModel() == nullptr)
+        return {};
+    const QItemSelection selection = selectionModel()->selection();
+    const auto isSelected = [&](int column) {
+        return std::any_of(selection.begin(), selection.end(), [column](const auto& range) {
+            return range.left() <= column && column <= range.right();
+        });
+    };
+    columns.erase(std::remove_if(columns.begin(), columns.end(),
+                                 [&](int column) { return !isSelected(column); }),
+                  columns.end());
     return columns;
 }
 

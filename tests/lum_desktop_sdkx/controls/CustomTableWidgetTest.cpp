@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 
+#include "lum_desktop_sdkx/controls/FilterHeader.h"
 #include "tests/support/Literals.h"
 
 #include <QtTest>
@@ -54,6 +55,47 @@ void fill(QStandardItemModel& model)
     row("A", 1.5, "树 tree");
     row("B", 2.5, "two\tcells\nor lines");
     row("C", 3.5, "");
+}
+
+QString clipboardText()
+{
+    return QGuiApplication::clipboard()->text();
+}
+
+/// A table of 20 rows and 4 columns that can be seen as a whole.
+struct WideTable
+{
+    WideTable() : model(20, 4)
+    {
+        table.setModel(&model);
+        table.resize(600, 600);
+        for (int column = 0; column < 4; ++column)
+            table.setColumnWidth(column, 100);
+        table.show();
+    }
+    [[nodiscard]] QPoint at(int row, int column) const
+    {
+        return table.visualRect(model.index(row, column)).center();
+    }
+    void drag(const QPoint& from, const QList<QPoint>& over)
+    {
+        QWidget* const view = table.viewport();
+        QTest::mousePress(view, Qt::LeftButton, {}, from);
+        for (const QPoint& place : over) {
+            QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::LeftButton, {});
+            QApplication::sendEvent(view, &move);
+        }
+        QTest::mouseRelease(view, Qt::LeftButton, {}, over.back());
+    }
+
+    WideModel model;
+    CustomTableWidget table;
+};
+
+/// The field that shows its column at a place of the strip, from the left; null for none.
+QLineEdit* fieldAt(const FilterHeader& header, int x)
+{
+    return qobject_cast<QLineEdit*>(header.childAt(x, header.height() - 5));
 }
 
 } // namespace
@@ -185,6 +227,126 @@ private Q_SLOTS:
         QVERIFY(table.selectionModel()->isRowSelected(1, {}));
         rightClick(table.viewport()->rect().bottomRight() - QPoint(5, 5)); // below the last row
         QCOMPARE(asked.count(), 1);
+    }
+
+    void aDragSelectsRowsInItsColumnAndElseARectangle()
+    {
+        WideTable wide;
+        wide.drag(wide.at(2, 1), {wide.at(3, 1), wide.at(4, 1)});
+        QTest::keyClick(&wide.table, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(clipboardText(), "2/0\t2/1\t2/2\t2/3\n3/0\t3/1\t3/2\t3/3\n"
+                                  "4/0\t4/1\t4/2\t4/3\n"_q);
+
+        wide.table.horizontalHeader()->moveSection(2, 1); // 0 2 1 3
+        wide.drag(wide.at(6, 2), {wide.at(7, 1), wide.at(7, 3)});
+        QTest::keyClick(&wide.table, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(clipboardText(), "6/2\t6/1\t6/3\n7/2\t7/1\t7/3\n"_q);
+        QTest::keyClick(&wide.table, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(clipboardText(), "3\t2\t4\n6/2\t6/1\t6/3\n7/2\t7/1\t7/3\n"_q);
+        QCOMPARE(wide.table.selectedRows(), (std::vector<int>{6, 7}));
+        QCOMPARE(wide.table.selectedRowsText(), "6/0\t6/2\t6/1\t6/3\n7/0\t7/2\t7/1\t7/3\n"_q);
+
+        wide.drag(wide.at(6, 2), {wide.at(7, 1), wide.at(7, 2)}); // there and back
+        QVERIFY(wide.table.selectionModel()->isRowSelected(7, {}));
+        QTest::keyClick(&wide.table, Qt::Key_Down);
+        QCOMPARE(wide.table.selectedRows(), std::vector<int>{8});
+        QVERIFY(wide.table.selectionModel()->isRowSelected(8, {}));
+        QTest::keyClick(&wide.table, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(wide.table.selectedRowCount(), 20);
+    }
+
+    void aCaptionSortsUpDownAndNotAtAll()
+    {
+        WideTable wide;
+        QHeaderView& header = *wide.table.horizontalHeader();
+        QList<std::pair<int, Qt::SortOrder>> asked;
+        connect(&wide.table, &CustomTableWidget::orderRequested, this,
+                [&](int column, Qt::SortOrder order) {
+                    asked.append({column, order});
+                });
+        const auto click = [&](int column) {
+            QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                              {header.sectionViewportPosition(column) + 20, 5});
+        };
+        click(1);
+        QVERIFY2(asked.isEmpty() && !wide.table.selectionModel()->hasSelection(),
+                 "without sorting a click on a caption does nothing");
+        wide.table.enableSorting();
+        QCOMPARE(header.sortIndicatorSection(), -1);
+        for (const int column : {1, 1, 1, 1, 2}) {
+            click(column);
+            QCOMPARE(header.sortIndicatorSection(), asked.back().first);
+            QCOMPARE(header.sortIndicatorOrder(), asked.back().second);
+        }
+        const auto up = Qt::AscendingOrder;
+        const auto down = Qt::DescendingOrder;
+        QVERIFY((asked == QList<std::pair<int, Qt::SortOrder>>{
+                              {1, up}, {1, down}, {-1, up}, {1, up}, {2, up}}));
+        QVERIFY(!wide.table.selectionModel()->hasSelection());
+    }
+
+    void filterFieldsKeepToTheirColumns()
+    {
+        WideTable wide;
+        FilterHeader& header = wide.table.addFilterRow();
+        wide.table.resize(250, 300);
+        QCoreApplication::processEvents();
+        const auto widths = [&](int column) { return header.sectionSize(column); };
+        header.resizeSection(0, 120);
+        QLineEdit* const first = fieldAt(header, 60);
+        QVERIFY(first != nullptr && qAbs(first->width() - widths(0)) < 5);
+        QVERIFY(first->mapTo(&wide.table, QPoint()).y() < wide.table.viewport()->y());
+        header.moveSection(0, 1);
+        QLineEdit* const second = fieldAt(header, 10);
+        QVERIFY(second != first && fieldAt(header, widths(1) + 60) == first);
+        wide.table.setHiddenColumns({"2"_q}); // column 1
+        QCOMPARE(fieldAt(header, 10), first);
+        QVERIFY(!second->isVisible());
+
+        first->setFocus();
+        QTest::keyClick(first, Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // to the last, beyond the edge
+        QWidget* const last = QApplication::focusWidget();
+        QVERIFY(qobject_cast<QLineEdit*>(last) != nullptr && last != first);
+        QVERIFY(wide.table.horizontalScrollBar()->value() > 0);
+        QVERIFY(last->mapTo(&header, last->rect().topRight()).x() <= header.viewport()->width());
+        QTest::keyClick(last, Qt::Key_Down);
+        QVERIFY(wide.table.hasFocus());
+    }
+
+    void filterFieldsAnnounceWhatIsTyped()
+    {
+        WideTable wide;
+        FilterHeader& header = wide.table.addFilterRow();
+        QCoreApplication::processEvents();
+        QStringList heard;
+        connect(&header, &FilterHeader::filterEdited, this, [&](int column, const QString& text) {
+            heard << QString::number(column) + QLatin1Char(':') + text;
+        });
+        QLineEdit* const first = fieldAt(header, 10);
+        QLineEdit* const second = fieldAt(header, header.sectionSize(0) + 10);
+        first->setFocus();
+        QTest::keyClicks(first, "> 5"_q);
+        QVERIFY(heard.isEmpty());
+        QTRY_COMPARE(heard, QStringList("0:> 5"_q)); // once, after the last key
+        QTest::keyClicks(first, "0"_q);
+        second->setFocus();
+        QTest::keyClicks(second, "a"_q);
+        QTest::keyClick(second, Qt::Key_Return);
+        QCOMPARE(heard, (QStringList{"0:> 5"_q, "0:> 50"_q, "1:a"_q}));
+        header.setFault(1, "no number"_q);
+        QCOMPARE(second->toolTip(), "no number"_q);
+        QVERIFY(second->palette().color(QPalette::Text) != first->palette().color(QPalette::Text));
+        QTest::keyClick(second, Qt::Key_Escape);
+        QCOMPARE(heard.back(), "1:"_q);
+        QVERIFY(second->text().isEmpty() && second->hasFocus());
+        QTest::keyClick(second, Qt::Key_Escape);
+        QVERIFY(wide.table.hasFocus());
+        QTest::keyClicks(first, "1"_q);
+        header.setFilter(0, "other"_q); // the program was faster than the delay
+        QTest::qWait(300);
+        QCOMPARE(header.filter(0), "other"_q);
+        QVERIFY(!heard.contains("0:other"_q));
     }
 };
 
