@@ -1,7 +1,10 @@
 #pragma once
 
 #include "model/PointLines.h"
+#include "model/PointName.h"
 #include "protocol/Outcome.h"
+
+#include <vector>
 
 class ProgressReporter;
 class QString;
@@ -19,3 +22,9 @@ struct SurveyCsvChoice
 /// \returns why the file cannot be written; it is then as it was before
 Outcome writeSurveyCsv(const QString& path, const SurveyPoints& points, const QStringList& lines,
                        const SurveyCsvChoice& choice, ProgressReporter& progress);
+
+/// The same for single points, in the order of their names; those that do not exist are passed
+/// over.
+Outcome writeSurveyCsv(const QString& path, const SurveyPoints& points,
+                       const std::vector<PointName>& names, const SurveyCsvChoice& choice,
+                       ProgressReporter& progress);

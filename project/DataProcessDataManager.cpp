@@ -302,6 +302,17 @@ int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QStr
     return answered(writeSurveyCsv(path, m_survey, lines, choice, progress), outcome);
 }
 
+int DataProcessDataManager::exportSurveyPoints(const std::vector<PointName>& points,
+                                               const QString& path, Outcome* outcome)
+{
+    if (m_exportCaptions.isEmpty())
+        m_exportCaptions = m_surveyCaptions;
+    const SurveyCsvChoice choice{m_exportCaptions,
+                                 get_system_status_dictionary().integer(status::kDegreeFormat)};
+    ProgressReporter progress(&m_host.eventManager());
+    return answered(writeSurveyCsv(path, m_survey, points, choice, progress), outcome);
+}
+
 int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome,
                                             ImportSummary* counts)
 {

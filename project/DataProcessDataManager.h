@@ -100,6 +100,9 @@ public:
     ///                  become all columns when they are empty
     int exportSurveyCsv(const QStringList& lines, const QString& path,
                         const QStringList& captions = {}, Outcome* outcome = nullptr);
+    /// The same for single points, in the columns of `exportCaptions`.
+    int exportSurveyPoints(const std::vector<PointName>& points, const QString& path,
+                           Outcome* outcome = nullptr);
     int importSurveyCsv(const QString& path, Outcome* outcome = nullptr,
                         ImportSummary* counts = nullptr);
 
