@@ -25,6 +25,8 @@
 #include "project/ui/TimeZomeDlgCommand.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
+#include "views/tables/DesignLineTable.h"
+#include "views/tables/SurveyDataTable.h"
 
 namespace {
 
@@ -34,6 +36,8 @@ using namespace desktop::registration;
 [[maybe_unused]] const bool kRegistered[] = {
     assistant<DataProcess5Assistant>    ("DataProcess5",                 "助手"),
     window<ProgressStatusBarForSkyquill>("ProgressStatusBarForSkyquill", "Progress"),
+    window<DesignLineTable>             ("DesignLineTable",              "设计测线列表"),
+    window<SurveyDataTable>             ("SurveyDataTable",              "勘察数据列表"),
     layer<DataProcessLayerImp>          ("DataProcessLayer",             "矢量图层"),
     reactor<ReactorMoveTrans>           ("ReactorMoveTrans",             "平移"),
     reactor<ReactorZoomRectTrans>       ("ReactorZoomRectTrans",         "局部矩形放大"),
