@@ -1,10 +1,7 @@
 #pragma once
 
-#include "basalt_utilities/LocalTimes.h"
-#include "exchange/AngleText.h"
 #include "exchange/CsvRow.h"
-#include "exchange/SolutionTypeNames.h"
-#include "model/SurveyColumns.h"
+#include "exchange/SurveyFieldTexts.h"
 
 #include <QStringList>
 
@@ -25,15 +22,9 @@ public:
     [[nodiscard]] std::string_view row(const SurveyPoint& point);
 
 private:
-    void addField(const SurveyPoint& point, const SurveyColumn& column);
-
     QStringList m_captions;
     std::vector<const SurveyColumn*> m_columns; ///< null for an unknown caption
     bool m_hasNumbers;                          ///< line and point number are among the columns
-    AngleText m_angles;
-    basalt::LocalTimes m_times;
-    SolutionTypeNames m_solutions;
-    std::string m_loft;
-    std::string m_survey;
+    SurveyFieldTexts m_fields;
     CsvRow m_row;
 };

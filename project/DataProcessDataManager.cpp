@@ -439,10 +439,17 @@ int DataProcessDataManager::checkQuality()
     return 1;
 }
 
+QualityLimits DataProcessDataManager::qualityLimits() const
+{
+    QualityLimits limits = QualityLimits::from(m_qualityParameters);
+    limits.planeUnitM = lum::lengthUnitOf(get_project_coord_transform().parameters()).metres;
+    return limits;
+}
+
 std::vector<QualityRow> DataProcessDataManager::describeQuality(const SurveyPoint& point) const
 {
     std::vector<QualityRow> rows;
-    ::describeQuality(point, QualityLimits::from(m_qualityParameters), rows);
+    ::describeQuality(point, qualityLimits(), rows);
     return rows;
 }
 

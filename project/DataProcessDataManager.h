@@ -21,6 +21,7 @@ struct CheckKind;
 struct DesignCorrection;
 struct ImportSummary;
 struct ProjectPlace;
+struct QualityLimits;
 struct QualityRow;
 struct SurveyCorrection;
 
@@ -140,6 +141,8 @@ public:
 
     /// Judges every survey result by the quality parameters. \returns 1
     int checkQuality();
+    /// The limits of the quality check in force, for coordinates in the project's unit.
+    [[nodiscard]] QualityLimits qualityLimits() const;
     /// The faults that the last quality check found in one result.
     [[nodiscard]] std::vector<QualityRow> describeQuality(const SurveyPoint& point) const;
 

@@ -1,15 +1,15 @@
 #include "quality/QualityDescription.h"
 
 #include "quality/QualityLimits.h"
+#include "quality/QualityTests.h"
 
 #include <QCoreApplication>
 
-#include <array>
 #include <cmath>
 
 namespace {
 
-constexpr double kNone = -1; // value and limit of a row about several values
+constexpr JudgedValue kSeveral{-1, -1}; // of a row about several dilutions
 
 /// Adds the rows of one point.
 class Description
@@ -35,15 +35,17 @@ public:
 private:
     [[nodiscard]] int digit(int power) const
     {
-        static constexpr std::array<int, 8> kPowers{1,     10,     100,     1000,
-                                                    10000, 100000, 1000000, 10000000};
-        return m_point.qualityStandard / kPowers[static_cast<std::size_t>(power)] % 10;
+        return qualityDigit(m_point.qualityStandard, power);
+    }
+    [[nodiscard]] JudgedValue judged(const QualityTest& test) const
+    {
+        return test.judge(m_point, m_limits);
     }
 
-    void add(const char* description, double value, double limit, const char* explanation = "")
+    void add(const char* description, const JudgedValue& judged, const char* explanation = "")
     {
-        m_rows.push_back(
-            {m_point.pointNumber, m_point.lineNumber, description, value, limit, explanation});
+        m_rows.push_back({m_point.pointNumber, m_point.lineNumber, description, judged.value,
+                          judged.limit, explanation});
     }
 
     void describeDesign();
@@ -59,36 +61,30 @@ private:
     std::vector<QualityRow>& m_rows;
 };
 
-double length(double first, double second)
+/// The row of two values that failed together.
+JudgedValue both(const JudgedValue& first, const JudgedValue& second)
 {
-    return std::sqrt(first * first + second * second);
-}
-
-double exceeded(double value, const QualityLimits::Range& range)
-{
-    return value > range.max ? range.max : range.min;
+    const auto length = [](double a, double b) { return std::sqrt(a * a + b * b); };
+    return {length(first.value, second.value), length(first.limit, second.limit)};
 }
 
 void Description::describeDesign()
 {
-    const double horizontal = length((m_point.north - m_point.designNorth) * m_limits.planeUnitM,
-                                     (m_point.east - m_point.designEast) * m_limits.planeUnitM);
-    const double vertical = std::fabs(m_point.elevation - m_point.designElevation);
-    const double horizontalLimit = m_limits.designHorizontalM;
-    const double verticalLimit = m_limits.designVerticalM;
+    const JudgedValue horizontal = judged(quality_test::kDesignHorizontal);
+    const JudgedValue vertical = judged(quality_test::kDesignVertical);
     switch (digit(0)) {
     case 1:
         add(QT_TRANSLATE_NOOP("QualityCheck", "Design-Measure Horizontal Coord Out-range."),
-            horizontal, horizontalLimit);
+            horizontal);
         break;
     case 2:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "Design-Measure Vertical Coord Out-range."), vertical,
-            verticalLimit);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "Design-Measure Vertical Coord Out-range."),
+            vertical);
         break;
     case 3:
         add(QT_TRANSLATE_NOOP("QualityCheck",
                               "Design-Measure Horizontal AND Vertical Coord Out-range."),
-            length(horizontal, vertical), length(horizontalLimit, verticalLimit));
+            both(horizontal, vertical));
         break;
     default:
         break;
@@ -99,23 +95,23 @@ void Description::describeReference()
 {
     if (digit(2) == 1)
         add(QT_TRANSLATE_NOOP("QualityCheck", "Reference Station Dist Out-range."),
-            m_point.referenceDistance, m_limits.baseDistanceM);
+            judged(quality_test::kBaseDistance));
 }
 
 void Description::describeAccuracy()
 {
-    const double hrms = m_point.horizontalAccuracy;
-    const double vrms = m_point.verticalAccuracy;
+    const JudgedValue hrms = judged(quality_test::kHrms);
+    const JudgedValue vrms = judged(quality_test::kVrms);
     switch (digit(3)) {
     case 1:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "HRMS Out-range."), hrms, m_limits.hrmsM);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "HRMS Out-range."), hrms);
         break;
     case 2:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "VRMS Accuracy Out-range."), vrms, m_limits.vrmsM);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "VRMS Accuracy Out-range."), vrms);
         break;
     case 3:
         add(QT_TRANSLATE_NOOP("QualityCheck", "HRMS AND VRMS Accuracy Out-range."),
-            length(hrms, vrms), length(m_limits.hrmsM, m_limits.vrmsM));
+            both(hrms, vrms));
         break;
     default:
         break;
@@ -125,39 +121,36 @@ void Description::describeAccuracy()
 void Description::describeAntenna()
 {
     if (digit(4) == 1)
-        add(QT_TRANSLATE_NOOP("QualityCheck", "Antenna Too High."), m_point.antennaHeight,
-            m_limits.antennaM.max);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "Antenna Too High."),
+            judged(quality_test::kAntennaHigh));
     else if (digit(4) == 2)
-        add(QT_TRANSLATE_NOOP("QualityCheck", "Antenna Too Low."), m_point.antennaHeight,
-            m_limits.antennaM.min);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "Antenna Too Low."),
+            judged(quality_test::kAntennaLow));
 }
 
 void Description::describeDilution()
 {
     switch (digit(5)) {
     case 1:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP Out-range."), m_point.pdop,
-            exceeded(m_point.pdop, m_limits.pdop));
+        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP Out-range."), judged(quality_test::kPdop));
         break;
     case 2:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "HDOP Out-range."), m_point.hdop,
-            exceeded(m_point.hdop, m_limits.hdop));
+        add(QT_TRANSLATE_NOOP("QualityCheck", "HDOP Out-range."), judged(quality_test::kHdop));
         break;
     case 3:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP AND HDOP Out-range."), kNone, kNone);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP AND HDOP Out-range."), kSeveral);
         break;
     case 4:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "VDOP Out-range."), m_point.vdop,
-            exceeded(m_point.vdop, m_limits.vdop));
+        add(QT_TRANSLATE_NOOP("QualityCheck", "VDOP Out-range."), judged(quality_test::kVdop));
         break;
     case 5:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP AND VDOP Out-range."), kNone, kNone);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP AND VDOP Out-range."), kSeveral);
         break;
     case 6:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "HDOP AND VDOP Out-range."), kNone, kNone);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "HDOP AND VDOP Out-range."), kSeveral);
         break;
     case 7:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP, HDOP AND VDOP Out-range."), kNone, kNone);
+        add(QT_TRANSLATE_NOOP("QualityCheck", "PDOP, HDOP AND VDOP Out-range."), kSeveral);
         break;
     default:
         break;
@@ -168,30 +161,28 @@ void Description::describeSatellites()
 {
     if (digit(6) == 1)
         add(QT_TRANSLATE_NOOP("QualityCheck", "Satellite Number Insufficient."),
-            m_point.satelliteNumber, m_limits.satellites);
+            judged(quality_test::kSatellites));
 }
 
 void Description::describeLine()
 {
-    const double across = m_point.transversalDeviation * m_limits.planeUnitM;
-    const double along = m_point.longitudinalDeviation * m_limits.planeUnitM;
-    const QualityLimits::LineDeviation& limits = m_limits.receivers; // also of source points
+    const JudgedValue across = judged(quality_test::kAcross);
+    const JudgedValue along = judged(quality_test::kAlong);
     switch (digit(7)) {
     case 1:
         add(QT_TRANSLATE_NOOP("QualityCheck", "Horizontal Accuracy Out-range."), across,
-            limits.acrossM,
             QT_TRANSLATE_NOOP(
                 "QualityCheck",
                 "The transversal deviation: how far the point lies beside its line."));
         break;
     case 2:
-        add(QT_TRANSLATE_NOOP("QualityCheck", "Vertical Accuracy Out-range."), along, limits.alongM,
+        add(QT_TRANSLATE_NOOP("QualityCheck", "Vertical Accuracy Out-range."), along,
             QT_TRANSLATE_NOOP("QualityCheck", "The longitudinal deviation: how far the point lies "
                                               "from its place, measured along its line."));
         break;
     case 3:
         add(QT_TRANSLATE_NOOP("QualityCheck", "Horizontal AND Vertical Accuracy Out-range."),
-            length(across, along), length(limits.acrossM, limits.alongM),
+            both(across, along),
             QT_TRANSLATE_NOOP("QualityCheck", "The transversal and the longitudinal deviation: how "
                                               "far the point lies from its place, measured across "
                                               "and along its line."));

@@ -13,6 +13,7 @@
 #include "project/ui/ProjectState.h"
 #include "protocol/Payloads.h"
 #include "views/tables/PointTableModel.h"
+#include "views/tables/RowFilter.h"
 #include "views/tables/TableCountLine.h"
 
 #include <QClipboard>
@@ -67,8 +68,7 @@ PointTableWindow::PointTableWindow(const char* config, IDesktopHost& host,
     m_table->enableSorting();
     m_table->setFrameStyle(QFrame::NoFrame);
     m_table->setModel(m_model.get());
-    m_header->setHint(tr("Shows the rows that match: a part of the text, > 0.05, 1001..1040, "
-                         "fixed, !fixed. Esc clears the field."));
+    m_header->setHint(rowFilterHelp());
     makeLayout();
     connectParts();
 }

@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/FilterHeader.h"
 
+#include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_sdk/DpiScale.h"
 
 #include <QKeyEvent>
@@ -14,13 +15,6 @@ namespace {
 
 constexpr int kDelayMs = 200; // from the last key to the filtered table
 constexpr int kMargin = 1;
-
-/// Red that can be read on the ground of a field.
-QColor faultColor(const QPalette& palette)
-{
-    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
-    return isDark ? QColor(0xFF, 0x7B, 0x72) : QColor(0xC6, 0x28, 0x28);
-}
 
 } // namespace
 
@@ -62,7 +56,7 @@ void FilterHeader::setFault(int column, const QString& reason)
     m_faults[static_cast<std::size_t>(column)] = reason;
     QPalette palette;
     if (!reason.isEmpty())
-        palette.setColor(QPalette::Text, faultColor(palette));
+        palette.setColor(QPalette::Text, faultText(palette));
     field.setPalette(palette);
     field.setToolTip(reason.isEmpty() ? m_hint : reason);
 }

@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 
+#include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_desktop_sdkx/controls/PropertyGridInput.h"
 #include "lum_sdk/Text.h"
 
@@ -8,9 +9,6 @@
 namespace {
 
 using Editor = PropertyGridRow::Editor;
-
-/// Half transparent, so that it suits light and dark rows.
-constexpr QRgb kFaultColor = qRgba(0xe0, 0x30, 0x30, 0x60);
 
 /// The internal id of a group. That of a row is the number of its group + 1.
 constexpr quintptr kGroup = 0;
@@ -232,7 +230,7 @@ QVariant PropertyGridModel::valueData(const PropertyGridRow& row, int role) cons
     case Qt::ToolTipRole:
         return m_faults.contains(row.key) ? m_faults.value(row.key).message : row.description;
     case Qt::BackgroundRole:
-        return m_faults.contains(row.key) ? QColor::fromRgba(kFaultColor) : QVariant();
+        return m_faults.contains(row.key) ? faultBackground() : QVariant();
     case Qt::CheckStateRole:
         if (row.editor != Editor::Flag)
             return {};

@@ -296,10 +296,10 @@ void PointTablesTest::aRowAnnouncesItsPoint()
     seen.click(1, 2);
     seen.click(3, 2, Qt::ControlModifier); // the first of the selected rows is told
     const std::string odd = "pointName=\"%2 \"\"7\"\"\",lineName=\"L \"\"1\"\", 北 %1\"";
-    QCOMPARE(log.payloads(), (std::vector<std::string>{"pointName=C10010001_0,lineName=1001",
-                                                       "pointName=C10010001_1,lineName=1001", odd,
-                                                       odd, "pointName=2,lineName=1001",
-                                                       "pointName=2,lineName=1001"}));
+    QCOMPARE(log.payloads(),
+             (std::vector<std::string>{"pointName=C10010001_0,lineName=1001",
+                                       "pointName=C10010001_1,lineName=1001", odd, odd,
+                                       "pointName=2,lineName=1001", "pointName=2,lineName=1001"}));
     QCOMPARE(seen.selected(), (QStringList{"1001/2"_q, "1001/4"_q}));
     QVERIFY(seen.label("Points: 7").endsWith("Selected: 2"_q));
 }
@@ -441,9 +441,8 @@ void PointTablesTest::copiesRows()
     seen.click(0);
     seen.click(1, 1, Qt::ShiftModifier);
     seen.choose("copy", 1);
-    const QString rows =
-        "1\t1001\t0.000\t0.000\t0.000\t1\t0\tS\tnot surveyed\n"
-        "2\t1001\t0.000\t0.000\t0.000\t2\t0\tS\tnot surveyed\n"_q;
+    const QString rows = "1\t1001\t0.000\t0.000\t0.000\t1\t0\tS\tnot surveyed\n"
+                         "2\t1001\t0.000\t0.000\t0.000\t2\t0\tS\tnot surveyed\n"_q;
     QCOMPARE(QGuiApplication::clipboard()->text(), rows);
     QCOMPARE(m_told, QStringList("Success|Copied to Clipboard."_q));
     seen.choose("Copy with Headers", 1);
@@ -530,8 +529,8 @@ void PointTablesTest::deletesOnlyAfterAYes()
     QVERIFY(log.events.empty() && !m_manager->isChanged());
     m_answer = Button::Yes;
     seen.choose("delete", 2);
-    QCOMPARE(seen.rows(), (QStringList{"1001/1"_q, "1001/4"_q, "1001/C10010001_0"_q,
-                                       "1001/C10010001_1"_q}));
+    QCOMPARE(seen.rows(),
+             (QStringList{"1001/1"_q, "1001/4"_q, "1001/C10010001_0"_q, "1001/C10010001_1"_q}));
     QVERIFY(seen.selected().isEmpty() && m_manager->isChanged());
     QCOMPARE(log.events.size(), 1U);
     QTest::keyClick(&seen.table(), Qt::Key_Down);
@@ -564,8 +563,7 @@ void PointTablesTest::theHeaderChoosesColumns()
     other.hidden.removeOne("rms"_q);
     setColumnChoice(get_system_ini_parameter().dictionary(), other);
     publish("ON_SURVEY_COLUMNS_CHANGED");
-    QCOMPARE(seen.table().horizontalHeader()->hiddenSectionCount(),
-             seen.model().columnCount() - 1);
+    QCOMPARE(seen.table().horizontalHeader()->hiddenSectionCount(), seen.model().columnCount() - 1);
     seen.chooseOfHeader("Hide This Column", seen.column("rms")); // the last one stays
     QVERIFY(!seen.table().isColumnHidden(seen.column("rms")));
 }

@@ -1,0 +1,139 @@
+#include "views/tables/DesignTableModel.h"
+
+#include "basalt_utilities/FixedDecimals.h"
+#include "basalt_utilities/Numbers.h"
+#include "lum_desktop_sdkx/controls/FaultColors.h"
+#include "project/DataProcessDataManager.h"
+#include "views/tables/PointTable.h"
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <array>
+
+namespace {
+
+using Column = TableColumn<DesignPoint>;
+
+constexpr int kDecimals = 3;
+constexpr int kSurveyed = 1;
+constexpr int kStatusColumn = 8;
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("DesignTable", text);
+}
+
+std::vector<Column> makeColumns()
+{
+    using Kind = ColumnKind;
+    struct Plan
+    {
+        const char* key;
+        const char* caption;
+        Kind kind;
+        Column::Field field;
+        int decimals = -1;
+    };
+    const Plan plans[] = {
+        {"point_num", QT_TRANSLATE_NOOP("DesignTable", "point num"), Kind::Name,
+         &DesignPoint::pointNumber},
+        {"line_num", QT_TRANSLATE_NOOP("DesignTable", "line num"), Kind::Name,
+         &DesignPoint::lineNumber},
+        {"north", QT_TRANSLATE_NOOP("DesignTable", "north"), Kind::Number, &DesignPoint::north,
+         kDecimals},
+        {"east", QT_TRANSLATE_NOOP("DesignTable", "east"), Kind::Number, &DesignPoint::east,
+         kDecimals},
+        {"elevation", QT_TRANSLATE_NOOP("DesignTable", "elevation"), Kind::Number,
+         &DesignPoint::elevation, kDecimals},
+        {"design_code", QT_TRANSLATE_NOOP("DesignTable", "design code"), Kind::Name,
+         &DesignPoint::pointNumber}, // points have no code of their own
+        {"azimuth", QT_TRANSLATE_NOOP("DesignTable", "azimuth"), Kind::Number,
+         &DesignPoint::azimuth},
+        {"type", QT_TRANSLATE_NOOP("DesignTable", "type"), Kind::Text, &DesignPoint::type},
+        {"status", QT_TRANSLATE_NOOP("DesignTable", "status"), Kind::Text, &DesignPoint::status},
+    };
+    std::vector<Column> columns;
+    for (const Plan& plan : plans)
+        columns.push_back({QString::fromLatin1(plan.key), translated(plan.caption), plan.kind,
+                           plan.field, plan.decimals});
+    return columns;
+}
+
+class DesignTableModel final : public PointTable<DesignPoint>
+{
+public:
+    DesignTableModel() : PointTable(makeColumns()) {}
+
+protected:
+    [[nodiscard]] const DesignPoints* points() const override
+    {
+        return DataProcessDataManager::hasInstance()
+                   ? &DataProcessDataManager::instance().designPoints()
+                   : nullptr;
+    }
+    void renewTexts() override
+    {
+        m_surveyed = translated(QT_TRANSLATE_NOOP("DesignTable", "surveyed")).toStdString();
+        m_notSurveyed = translated(QT_TRANSLATE_NOOP("DesignTable", "not surveyed")).toStdString();
+        m_lineStart = nullptr;
+    }
+    [[nodiscard]] std::string_view text(const DesignPoint& point, int column) const override
+    {
+        switch (column) {
+        case 0:
+        case 5:
+            return point.pointNumber;
+        case 1:
+            return point.lineNumber;
+        case 2:
+            return fixed(point.north);
+        case 3:
+            return fixed(point.east);
+        case 4:
+            return fixed(point.elevation);
+        case 6:
+            return m_number = basalt::formatShortest(point.azimuth);
+        case 7:
+            return lineType(point) == 0 ? "S" : "R";
+        default:
+            return point.status == kSurveyed ? m_surveyed : m_notSurveyed;
+        }
+    }
+    [[nodiscard]] QVariant look(const DesignPoint& point, int column, int role) const override
+    {
+        const bool isMissing = column == kStatusColumn && point.status != kSurveyed;
+        return isMissing && role == Qt::ForegroundRole
+                   ? QVariant(faultText(QGuiApplication::palette()))
+                   : QVariant();
+    }
+
+private:
+    [[nodiscard]] std::string_view fixed(double value) const
+    {
+        const char* const end = basalt::writeFixed(m_buffer.data(), value, kDecimals);
+        return {m_buffer.data(), static_cast<std::size_t>(end - m_buffer.data())};
+    }
+    /// That of its first point. The next point is mostly of the same line.
+    [[nodiscard]] int lineType(const DesignPoint& point) const
+    {
+        if (m_lineStart == nullptr || m_lineStart->lineNumber != point.lineNumber)
+            m_lineStart = &*points()->findLine(point.lineNumber)->begin();
+        return m_lineStart->type;
+    }
+
+    std::string m_surveyed;
+    std::string m_notSurveyed;
+    mutable std::array<char, basalt::kFixedSize> m_buffer{};
+    mutable std::string m_number;
+    mutable const DesignPoint* m_lineStart = nullptr;
+};
+
+} // namespace
+
+std::unique_ptr<PointTableModel> makeDesignTableModel()
+{
+    return std::make_unique<DesignTableModel>();
+}
