@@ -187,9 +187,10 @@ void BM_Filter(benchmark::State& state)
             [&] {
                 model->clearFilters();
                 const double least = plain();
-                return bench::secondsOf(
-                           [&] { model->setFilter(column, QStringLiteral("> 0.5")); }) /
-                       least;
+                const double seconds =
+                    bench::secondsOf([&] { model->setFilter(column, QStringLiteral("> 0.5")); });
+                std::printf("filter %.5f s, plain %.5f s\n", seconds, least);
+                return seconds / least;
             },
             9);
         if (static_cast<std::size_t>(model->rowCount()) != found)

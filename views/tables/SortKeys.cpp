@@ -26,13 +26,13 @@ std::uint64_t prefixKey(std::string_view name)
     return key;
 }
 
-/// A radix sort: by the last byte of the keys first, by the first one last. Each pass keeps the
+/// A radix sort: by the last bits of the keys first, by the first ones last. Each pass keeps the
 /// order of the one before. Several times as fast as a sort that compares.
 void sortByDigits(std::vector<SortItem>& items)
 {
-    constexpr unsigned kBits = 8;
+    constexpr unsigned kBits = 11;
     constexpr std::size_t kValues = std::size_t(1) << kBits;
-    constexpr unsigned kDigits = 64 / kBits;
+    constexpr unsigned kDigits = 64 / kBits + 1;
     const auto digit = [](const SortItem& item, unsigned place) {
         return static_cast<std::size_t>(item.key >> (place * kBits)) % kValues;
     };
