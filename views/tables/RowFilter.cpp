@@ -275,6 +275,16 @@ RowFilter::RowFilter(const QString& expression, FilteredValue value, double tole
     RowFilterReader(expression, value, tolerance).read(*this);
 }
 
+std::optional<std::pair<double, double>> RowFilter::range() const
+{
+    if (m_alternatives.size() != 1 || m_alternatives.front().size() != 1)
+        return std::nullopt;
+    const Condition& condition = m_alternatives.front().front();
+    if (condition.kind != Condition::Kind::Numbers || condition.isNegated)
+        return std::nullopt;
+    return std::pair(condition.from, condition.to);
+}
+
 bool RowFilter::Condition::meets(std::string_view shown) const
 {
     if (kind == Kind::Between) {

@@ -4,8 +4,10 @@
 #include <QStringMatcher>
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// What stands in a filtered column.
@@ -43,6 +45,10 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_alternatives.empty(); }
     /// Why the expression cannot be read, translated; empty when it can.
     [[nodiscard]] const QString& fault() const { return m_fault; }
+
+    /// The least and the greatest number that it shows, when it is a plain range of numbers: a long
+    /// column is walked faster so.
+    [[nodiscard]] std::optional<std::pair<double, double>> range() const;
 
     /// \param number returns the value as a double; not a number when it is none
     /// \param text   returns the shown text (UTF-8)

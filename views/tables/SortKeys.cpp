@@ -5,8 +5,10 @@
 #include <QCollator>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
+#include <numeric>
 #include <string>
 #include <unordered_map>
 
@@ -22,6 +24,33 @@ std::uint64_t prefixKey(std::string_view name)
     for (std::size_t i = 0; i < kPrefix; ++i)
         key = key << 8U | (i < name.size() ? static_cast<unsigned char>(name[i]) : 0U);
     return key;
+}
+
+/// A radix sort: by the last bits of the keys first, by the first ones last. Each pass keeps the
+/// order of the one before. Several times as fast as a sort that compares.
+void sortByDigits(std::vector<SortItem>& items)
+{
+    constexpr unsigned kBits = 11;
+    constexpr std::size_t kValues = std::size_t(1) << kBits;
+    constexpr unsigned kDigits = 64 / kBits + 1;
+    const auto digit = [](const SortItem& item, unsigned place) {
+        return static_cast<std::size_t>(item.key >> (place * kBits)) % kValues;
+    };
+    std::array<std::array<std::uint32_t, kValues>, kDigits> counts{};
+    for (const SortItem& item : items) {
+        for (unsigned place = 0; place < kDigits; ++place)
+            ++counts[place][digit(item, place)];
+    }
+    std::vector<SortItem> sorted(items.size());
+    for (unsigned place = 0; place < kDigits; ++place) {
+        auto& starts = counts[place];
+        if (items.empty() || starts[digit(items.front(), place)] == items.size())
+            continue; // all have this digit
+        std::exclusive_scan(starts.begin(), starts.end(), starts.begin(), 0U);
+        for (const SortItem& item : items)
+            sorted[starts[digit(item, place)]++] = item;
+        items.swap(sorted);
+    }
 }
 
 struct TextHash
@@ -69,8 +98,7 @@ void sortByKeys(std::vector<SortItem>& items, bool isDescending)
         for (SortItem& item : items)
             item.key = item.key == kNoValueKey ? item.key : ~item.key;
     }
-    std::stable_sort(items.begin(), items.end(),
-                     [](const SortItem& a, const SortItem& b) { return a.key < b.key; });
+    sortByDigits(items);
 }
 
 void sortByNames(std::vector<SortItem>& items, bool isDescending,
