@@ -1,0 +1,24 @@
+#pragma once
+
+#include "lum_sdk/events/EventSubscription.h"
+#include "lum_sdk/events/IEventManager.h"
+
+class IDesktopHost;
+
+/// Shows what was selected in one window in all the others: the row of the table, the line of the
+/// tree and the mark on the map. A table comes to the front of its tabs unless it would cover the
+/// map. Nothing is opened, and the focus stays where it is.
+///
+/// A selection of a point that the project does not have is passed over.
+class SelectionFollower final : public IEventHandler
+{
+public:
+    explicit SelectionFollower(IDesktopHost& host);
+
+    void handleEvent(const char* eventName, const char* payload, int reserved) override;
+
+private:
+    IDesktopHost& m_host;       // outlives the follower
+    bool m_isFollowing = false; ///< the events of this time are its own doing
+    EventSubscription m_subscription;
+};
