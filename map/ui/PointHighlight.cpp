@@ -151,6 +151,12 @@ void clear(IMapWindow& map)
     map.refreshOverlay();
 }
 
+void clear(IDesktopHost& host)
+{
+    if (IMapWindow* const map = mapOf(host))
+        clear(*map);
+}
+
 void mark(IDesktopHost& host, const SurveyPoint& point)
 {
     if (IMapWindow* const map = mapOf(host))

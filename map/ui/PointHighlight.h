@@ -23,6 +23,7 @@ enum class Kind
 ///        designed one
 void draw(IMapWindow& map, Kind kind, const QPolygonF& positions);
 void clear(IMapWindow& map);
+void clear(IDesktopHost& host);
 
 /// Marks the point. The map moves, at its scale, only when the point is outside its view, and is
 /// not brought to the front. A point whose position is no number leaves the map without a mark.

@@ -116,6 +116,22 @@ private Q_SLOTS:
         QVERIFY(place.host.windowRegistry.activated.isEmpty());
     }
 
+    void theMarkOfADeletedPointGoes()
+    {
+        Place place;
+        const auto hasMark = [&] {
+            const QImage picture = place.map.grab().toImage();
+            return picture.pixelColor(picture.rect().center()) != QColor(Qt::white);
+        };
+        place.select(events::kSurveyPointSelected, "线 1, \"a\""_q, "7_0"_q);
+        place.manager.designPoints().clear();
+        place.host.events.publish(events::kRefreshDesignLayer, nullptr, 0);
+        QVERIFY(hasMark());
+        place.manager.surveyPoints().clear();
+        place.host.events.publish(events::kRefreshSurveyLayer, nullptr, 0);
+        QVERIFY(!hasMark());
+    }
+
     void whatIsNotThereIsPassedOver()
     {
         Place place;
