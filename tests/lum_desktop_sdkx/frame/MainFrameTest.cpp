@@ -187,7 +187,7 @@ struct ShownFrame
 
 /// A table's header, its filters, the line with the count, twelve rows and a scroll bar, in pixels,
 /// with the letters of a usual desktop.
-constexpr int kTwelveRows = 350;
+constexpr int kTwelveRows = 345;
 
 /// The map on top in the middle, the tables below it, trees on the left, attributes on the right.
 void checkPlaces(const ShownFrame& shown)
