@@ -43,7 +43,7 @@ DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHos
                      std::string(events::kXyChanged) + "," + events::kProjectModified + "," +
                          events::kUpdateSystemStatus + "," + events::kProjectChanged,
                      host->eventManager()),
-      m_dataManager(std::make_unique<DataProcessDataManager>(host))
+      m_dataManager(std::make_unique<DataProcessDataManager>(host)), m_follower(*host)
 {
 }
 

@@ -4,6 +4,7 @@
 #include "lum_sdk/events/EventSubscription.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "project/DataProcessDataManager.h"
+#include "views/SelectionFollower.h"
 
 #include <memory>
 #include <string>
@@ -11,9 +12,9 @@
 class IDesktopHost;
 
 /// The program's assistant, registered as "DataProcess5". It owns the data manager, adds the layers
-/// to the map, opens the tables, asks before the program closes, keeps the title true, and turns
-/// the position of the map's cursor into the text of the status bar, which is empty without a
-/// project.
+/// to the map, opens the tables, shows a selection in all windows, asks before the program closes,
+/// keeps the title true, and turns the position of the map's cursor into the text of the status
+/// bar, which is empty without a project.
 class DataProcess5Assistant final : public GuiAssistantBase, public IEventHandler
 {
 public:
@@ -36,4 +37,5 @@ private:
     EventSubscription m_subscription;
     std::string m_position; ///< as last told by the map; empty when it does not count any more
     std::unique_ptr<DataProcessDataManager> m_dataManager;
+    SelectionFollower m_follower;
 };

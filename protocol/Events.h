@@ -46,11 +46,14 @@ inline constexpr const char* kSurveyTableSelectPoint = "ON_SURVEY_TABLE_SELECT_P
 
 // --- selection ---
 
-/// Design table, map pick -> attribute panel, selection follower. "pointName=...,lineName=...".
+/// Design table, map pick, results of checks while the table is missing -> attribute panel,
+/// selection follower. "pointName=...,lineName=...".
 inline constexpr const char* kDesignPointSelected = "ON_DESIGN_POINT_SELECTED";
-/// Survey table, map pick -> attribute panel, selection follower. "pointName=...,lineName=...".
+/// Survey table, map pick, results of checks while the table is missing -> attribute panel,
+/// selection follower. "pointName=...,lineName=...".
 inline constexpr const char* kSurveyPointSelected = "ON_SURVEY_POINT_SELECTED";
-/// Map pick of a base station -> attribute panel. "stationId=...", counted from 0.
+/// Map pick of a base station -> attribute panel, selection follower. "stationId=...", counted from
+/// 0.
 inline constexpr const char* kStationPointSelected = "ON_STATION_POINT_SELECTED";
 
 } // namespace events

@@ -144,6 +144,34 @@
         <translation>窗口(&amp;W)</translation>
     </message>
     <message>
+        <source>Go to &amp;Map</source>
+        <translation>转到地图(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Survey Table</source>
+        <translation>转到测量数据列表(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Design Table</source>
+        <translation>转到设计测线列表(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Go to Survey &amp;Lines</source>
+        <translation>转到测量测线(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Go to Design L&amp;ines</source>
+        <translation>转到设计测线(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Go to &amp;Attributes</source>
+        <translation>转到属性(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Go to M&amp;essages</source>
+        <translation>转到消息(&amp;E)</translation>
+    </message>
+    <message>
         <source>Reset &amp;Layout</source>
         <translation>恢复默认布局(&amp;L)</translation>
     </message>

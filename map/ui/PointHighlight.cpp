@@ -1,7 +1,9 @@
 #include "map/ui/PointHighlight.h"
 
+#include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
@@ -9,6 +11,7 @@
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Transform.h"
+#include "map/ui/IDataLayer.h"
 #include "model/DesignPoint.h"
 #include "model/SurveyPoint.h"
 
@@ -23,6 +26,7 @@ namespace {
 constexpr double kApart = 12;    // pixels: this far apart, two circles are seen as two
 constexpr double kFinest = 0.05; // metres a pixel: the neighbouring points stay in sight
 constexpr double kCoarsest = 1;  // metres a pixel
+constexpr double kEdge = 8;      // pixels: the reach of a mark
 
 /// The scale, in map units a pixel, at which the two positions are seen as two.
 double scaleFor(const QPointF& measured, const QPointF& design)
@@ -36,11 +40,23 @@ double scaleFor(const QPointF& measured, const QPointF& design)
     return scaleM / unitM;
 }
 
+bool isFinite(const QPointF& place)
+{
+    return std::isfinite(place.x()) && std::isfinite(place.y());
+}
+
+/// Whether a mark at `place` can be seen whole.
+bool isInView(const IMapWindow& map, const QPointF& place)
+{
+    const Transform& view = map.transform();
+    return QRectF(QPointF(0, 0), QSizeF(view.size()))
+        .adjusted(kEdge, kEdge, -kEdge, -kEdge)
+        .contains(view.SurveyToScreen(place));
+}
+
 /// Centres the map on `place` and zooms in to `scale`, never out.
 void goTo(IMapWindow& map, const QPointF& place, double scale)
 {
-    if (!std::isfinite(place.x()) || !std::isfinite(place.y()))
-        return;
     map.centerOn(place.x(), place.y());
     const Transform& view = map.transform();
     if (view.GetScale() > scale)
@@ -48,62 +64,131 @@ void goTo(IMapWindow& map, const QPointF& place, double scale)
                       view.GetScale() / scale);
 }
 
+/// A mark that is to be drawn. The first position is the one that the map moves to.
+struct Mark
+{
+    PointHighlight::Kind kind;
+    QPolygonF positions;
+};
+
+Mark markOf(IDesktopHost& host, const SurveyPoint& point)
+{
+    const ICoordTransformHelper& helper = host.coordTransformHelper();
+    Mark mark{PointHighlight::Kind::Result, {}};
+    mark.positions << helper.projectToMap(point.north, point.east);
+    if (point.designNorth != 0 && point.designEast != 0)
+        mark.positions << helper.projectToMap(point.designNorth, point.designEast);
+    return mark;
+}
+
+Mark markOf(IDesktopHost& host, const DesignPoint& point)
+{
+    QPolygonF place;
+    place << host.coordTransformHelper().projectToMap(point.north, point.east);
+    return {PointHighlight::Kind::Design, place};
+}
+
+IMapWindow* mapOf(IDesktopHost& host)
+{
+    return host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+}
+
+/// Draws the mark on the map.
+/// \returns false, and draws nothing, when its position is no number
+bool show(IMapWindow& map, const Mark& mark)
+{
+    const bool hasPlace = isFinite(mark.positions.first());
+    if (hasPlace)
+        PointHighlight::draw(map, mark.kind, mark.positions);
+    else
+        PointHighlight::clear(map);
+    return hasPlace;
+}
+
+void showInView(IMapWindow& map, const Mark& mark)
+{
+    const QPointF& place = mark.positions.first();
+    if (show(map, mark) && !isInView(map, place))
+        map.centerOn(place.x(), place.y());
+}
+
+/// \param list the window that the map must not cover
+void showNear(IDesktopHost& host, const Mark& mark, const char* list)
+{
+    IMapWindow* const map = mapOf(host);
+    if (map == nullptr || !show(*map, mark))
+        return;
+    host.windows().reveal(QStringLiteral("DataMap"), QLatin1String(list));
+    goTo(*map, mark.positions.first(), scaleFor(mark.positions.first(), mark.positions.last()));
+}
+
 } // namespace
 
 namespace PointHighlight {
 
-basalt::Dictionary properties()
+void draw(IMapWindow& map, Kind kind, const QPolygonF& positions)
 {
-    basalt::Dictionary values;
-    values.set("point_radius", "5");
-    values.set("vertex_shapes", "cross ring");
-    return values;
+    basalt::Dictionary properties;
+    properties.set("point_radius", "5");
+    properties.set("vertex_shapes", "cross ring");
+    IOverlay& overlay = map.overlay(0);
+    overlay.clear();
+    overlay.setProperties(properties);
+    overlay.setLineStyle(Qt::DashLine);
+    overlay.setColor(kind == Kind::Design ? Qt::red : Qt::blue);
+    if (kind == Kind::Result) {
+        overlay.setLine(positions);
+        overlay.setVertices(positions);
+    } else {
+        overlay.setPoint(positions.first());
+    }
+    map.refreshOverlay();
 }
 
-void show(IDesktopHost& host, const QPointF& measured, const QPointF& design)
+void clear(IMapWindow& map)
 {
-    auto* const map = host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
-    if (map == nullptr)
-        return;
-    host.windows().activate(QStringLiteral("DataMap"));
-    goTo(*map, measured, scaleFor(measured, design));
-    QPolygonF positions;
-    positions << measured;
-    if (design != measured)
-        positions << design;
-    IOverlay& overlay = map->overlay(0);
-    overlay.clear();
-    overlay.setProperties(properties());
-    overlay.setLineWidth(2);
-    overlay.setColor(Qt::blue);
-    overlay.setLine(positions);
-    overlay.setVertices(positions);
-    map->refreshOverlay();
+    map.overlay(0).clear();
+    map.refreshOverlay();
+}
+
+void clear(IDesktopHost& host)
+{
+    if (IMapWindow* const map = mapOf(host))
+        clear(*map);
 }
 
 void mark(IDesktopHost& host, const SurveyPoint& point)
 {
-    zoomTo(host, point);
+    if (IMapWindow* const map = mapOf(host))
+        showInView(*map, markOf(host, point));
 }
 
 void mark(IDesktopHost& host, const DesignPoint& point)
 {
-    zoomTo(host, point);
+    if (IMapWindow* const map = mapOf(host))
+        showInView(*map, markOf(host, point));
+}
+
+void markStation(IDesktopHost& host, int index)
+{
+    IMapWindow* const map = mapOf(host);
+    const auto* const layer =
+        map == nullptr
+            ? nullptr
+            : dynamic_cast<IDataLayer*>(map->layers().find(QStringLiteral("DataProcessLayer")));
+    QPointF place;
+    if (layer != nullptr && layer->GetBasePosition(index, place))
+        showInView(*map, {Kind::Station, QPolygonF(QVector<QPointF>{place})});
 }
 
 void zoomTo(IDesktopHost& host, const SurveyPoint& point)
 {
-    const ICoordTransformHelper& helper = host.coordTransformHelper();
-    const QPointF measured = helper.projectToMap(point.north, point.east);
-    const bool hasDesign = point.designNorth != 0 && point.designEast != 0;
-    show(host, measured,
-         hasDesign ? helper.projectToMap(point.designNorth, point.designEast) : measured);
+    showNear(host, markOf(host, point), "Survey Data List");
 }
 
 void zoomTo(IDesktopHost& host, const DesignPoint& point)
 {
-    const QPointF place = host.coordTransformHelper().projectToMap(point.north, point.east);
-    show(host, place, place);
+    showNear(host, markOf(host, point), "Design Data List");
 }
 
 } // namespace PointHighlight

@@ -1,33 +1,40 @@
 #pragma once
 
-#include "basalt_utilities/Dictionary.h"
-
 class IDesktopHost;
-class QPointF;
+class IMapWindow;
+class QPolygonF;
 struct DesignPoint;
 struct SurveyPoint;
 
-/// Highlights one measured point on the map "DataMap".
+/// The mark of the selected point on the map "DataMap": a blue cross on a measured position, a blue
+/// ring around its designed one and a line between them; a red disc on a design point; a blue disc
+/// on a base station.
 namespace PointHighlight {
 
-/// Of an overlay whose first vertex is a measured position, the second the designed one.
-[[nodiscard]] basalt::Dictionary properties();
+enum class Kind
+{
+    Result,
+    Design,
+    Station
+};
 
-/// Draws a blue cross on the measured position, a blue ring around the designed one and a line
-/// between them, and puts the measured position in the middle of the map. The map zooms in until
-/// the two positions can be told apart, at least to 1 m a pixel. A map that is finer already keeps
-/// its scale.
-/// \param measured where the point was measured, map coordinates
-/// \param design where the point was designed, map coordinates; the measured position again for a
-///        point without a design position, which gets no ring
-void show(IDesktopHost& host, const QPointF& measured, const QPointF& design);
+/// Draws the mark in place of the present one.
+/// \param positions map coordinates; of a result the measured one and, if there is one, the
+///        designed one
+void draw(IMapWindow& map, Kind kind, const QPolygonF& positions);
+void clear(IMapWindow& map);
+void clear(IDesktopHost& host);
 
-/// Marks the point. The map moves, at its scale, only when the point is outside its view; it is not
-/// brought to the front.
+/// Marks the point. The map moves, at its scale, only when the point is outside its view, and is
+/// not brought to the front. A point whose position is no number leaves the map without a mark.
 void mark(IDesktopHost& host, const SurveyPoint& point);
 void mark(IDesktopHost& host, const DesignPoint& point);
+/// The same for a base station, counted from 0.
+void markStation(IDesktopHost& host, int index);
 
-/// Marks the point and zooms the map to it.
+/// Marks the point in the middle of the map. The map zooms in until the measured and the designed
+/// position can be told apart, at least to 1 m a pixel; a map that is finer already keeps its
+/// scale. It comes to the front unless it would cover the list of such points.
 void zoomTo(IDesktopHost& host, const SurveyPoint& point);
 void zoomTo(IDesktopHost& host, const DesignPoint& point);
 

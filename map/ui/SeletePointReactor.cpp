@@ -2,7 +2,6 @@
 
 #include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
-#include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/MouseKeyEventParameters.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "lum_sdk/files/SystemDictionaries.h"
@@ -14,7 +13,7 @@
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
 
-#include <QColor>
+#include <QPolygonF>
 
 SeletePointReactor::SeletePointReactor(const char* /*config*/, IMapWindow* map) : ReactorBase(map)
 {
@@ -49,8 +48,9 @@ int SeletePointReactor::pickSurvey(const IDataLayer& layer, const QPointF& place
     QPointF design;
     if (!layer.GetSurveyPoint(name, line, measured, design))
         return 0;
-    highlight(Qt::blue, QPolygonF(QVector<QPointF>{measured, design}));
     publish(events::kSurveyPointSelected, payload::selectedPoint(name, line));
+    PointHighlight::draw(map(), PointHighlight::Kind::Result,
+                         QPolygonF(QVector<QPointF>{measured, design}));
     return 1;
 }
 
@@ -61,8 +61,9 @@ int SeletePointReactor::selectBase(const IDataLayer& layer, const QString& name)
     QPointF position;
     if (!isNumber || !layer.GetBasePosition(index, position))
         return 0;
-    highlight(Qt::blue, QPolygonF(QVector<QPointF>{position}));
     publish(events::kStationPointSelected, payload::station(index));
+    PointHighlight::draw(map(), PointHighlight::Kind::Station,
+                         QPolygonF(QVector<QPointF>{position}));
     return 1;
 }
 
@@ -73,40 +74,23 @@ int SeletePointReactor::pickDesign(const IDataLayer& layer, const QPointF& place
     QPointF position;
     if (name.isEmpty() || !layer.GetDesignPoint(name, line, position))
         return 0;
-    highlight(Qt::red, QPolygonF(QVector<QPointF>{position}));
     publish(events::kDesignPointSelected, payload::selectedPoint(name, line));
+    PointHighlight::draw(map(), PointHighlight::Kind::Design,
+                         QPolygonF(QVector<QPointF>{position}));
     return 1;
 }
 
 int SeletePointReactor::rButtonUp(const MouseKeyEventParameters& /*event*/)
 {
-    map().overlay(0).clear();
-    map().refreshOverlay();
+    PointHighlight::clear(map());
     return 1;
 }
 
 int SeletePointReactor::dblClick(const MouseKeyEventParameters& /*event*/)
 {
-    map().overlay(0).clear();
-    map().refreshOverlay();
+    PointHighlight::clear(map());
     map().zoomAll();
     return 1;
-}
-
-void SeletePointReactor::highlight(const QColor& color, const QPolygonF& shape)
-{
-    IOverlay& overlay = map().overlay(0);
-    overlay.clear();
-    overlay.setProperties(PointHighlight::properties());
-    overlay.setLineStyle(Qt::DashLine);
-    overlay.setColor(color);
-    if (shape.size() == 1) {
-        overlay.setPoint(shape.first());
-    } else {
-        overlay.setLine(shape);
-        overlay.setVertices(shape);
-    }
-    map().refreshOverlay();
 }
 
 void SeletePointReactor::publish(const char* eventName, const QByteArray& payload)

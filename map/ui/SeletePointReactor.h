@@ -2,13 +2,14 @@
 
 #include "lum_desktop_sdkx/ReactorBase.h"
 
-#include <QPolygonF>
-
 class IDataLayer;
-class QColor;
+class QByteArray;
+class QPointF;
+class QString;
 
-/// Picks the point under a left click, highlights it and publishes the selection. A right click or
-/// Escape removes the highlight, a double click shows the full extent.
+/// Picks the point under a left click, publishes the selection and then highlights it, so that its
+/// own mark is the one that stays. A right click or Escape removes the highlight, a double click
+/// shows the full extent.
 class SeletePointReactor final : public ReactorBase // spelled as registered
 {
 public:
@@ -23,7 +24,5 @@ private:
     [[nodiscard]] int pickDesign(const IDataLayer& layer, const QPointF& place);
     /// \param name as the layer picked it, such as "base-0"
     [[nodiscard]] int selectBase(const IDataLayer& layer, const QString& name);
-    /// \param shape one point, or a line whose ends are marked too; map coordinates
-    void highlight(const QColor& color, const QPolygonF& shape);
     void publish(const char* eventName, const QByteArray& payload);
 };

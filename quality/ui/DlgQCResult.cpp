@@ -14,7 +14,7 @@
 
 DlgQCResult::DlgQCResult(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> result)
     : ResultList(host, std::move(result),
-                 {tr("Quality Check Result"), QSize(750, 450), "Survey Data List"})
+                 {tr("Quality Check Result"), QSize(750, 450), Points::Survey})
 {
     table().horizontalHeader()->setSectionResizeMode(kQualityDescribeColumn,
                                                      QHeaderView::ResizeToContents);

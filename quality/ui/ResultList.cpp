@@ -4,7 +4,6 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/DpiScale.h"
@@ -13,6 +12,7 @@
 #include "project/DataProcessDataManager.h"
 #include "project/IPointList.h"
 #include "protocol/Events.h"
+#include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
 #include "quality/ResultCsv.h"
 #include "quality/ResultModel.h"
@@ -22,7 +22,6 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPointer>
-#include <QPointF>
 
 #include <algorithm>
 
@@ -49,12 +48,22 @@ QString captionLine(const QAbstractItemModel& model)
     return captions.join(QLatin1Char('\t')) + QLatin1Char('\n');
 }
 
+QString lineOf(const QModelIndex& index)
+{
+    return index.siblingAtColumn(0).data(result_role::kLineNumber).toString();
+}
+
+QString pointOf(const QModelIndex& index)
+{
+    return index.siblingAtColumn(0).data(result_role::kPointNumber).toString();
+}
+
 } // namespace
 
 ResultList::ResultList(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> result,
                        const Setup& setup)
     : Dialog(host.dialogParent()), m_host(host), m_table(new CustomTableWidget(this)),
-      m_pointList(setup.pointList), m_project(openProject()),
+      m_points(setup.points), m_project(openProject()),
       m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
 {
     setWindowTitle(setup.title);
@@ -62,8 +71,9 @@ ResultList::ResultList(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> 
     setAttribute(Qt::WA_DeleteOnClose);
     result->setParent(m_table);
     m_table->setModel(result.release());
-    connect(m_table, &QAbstractItemView::clicked, this, &ResultList::showPoint);
-    connect(m_table, &CustomTableWidget::reachedByKey, this, &ResultList::showPoint);
+    connect(m_table, &QAbstractItemView::clicked, this, &ResultList::selectPoint);
+    connect(m_table, &QAbstractItemView::doubleClicked, this, &ResultList::zoomToPoint);
+    connect(m_table, &CustomTableWidget::reachedByKey, this, &ResultList::selectPoint);
     addMenu();
     makeMainLayout()->addWidget(m_table);
     resize(minimumSize());
@@ -84,7 +94,7 @@ void ResultList::moveIntoCorner()
     const QWidget* const frame = parentWidget();
     if (frame == nullptr)
         return;
-    // The lower right corner: a clicked point appears in the middle of the map.
+    // The lower right corner: it leaves the map and the first columns of the tables free.
     const QPoint corner = frame->mapToGlobal(frame->rect().bottomRight());
     QPoint place = corner - rect().bottomRight() - QPoint(kMargin, kMargin);
     const QPoint step(dpi_scaled(kStep), dpi_scaled(kStep));
@@ -106,28 +116,31 @@ void ResultList::handleEvent(const char* /*eventName*/, const char* /*payload*/,
         close();
 }
 
-void ResultList::showPoint(const QModelIndex& index)
+void ResultList::selectPoint(const QModelIndex& index)
 {
-    const QModelIndex first = index.siblingAtColumn(0);
-    const QString point = first.data(result_role::kPointNumber).toString();
-    const QString line = first.data(result_role::kLineNumber).toString();
-    if (auto* const list = m_host.windows().findAs<IPointList>(QLatin1String(m_pointList)))
-        list->selectPoint(line, point);
-    showOnMap(line, point);
+    const QString line = lineOf(index);
+    const QString point = pointOf(index);
+    const bool isDesign = m_points == Points::Design;
+    if (auto* const list = m_host.windows().findAs<IPointList>(
+            isDesign ? QStringLiteral("Design Data List") : QStringLiteral("Survey Data List")))
+        list->selectPoint(line, point); // announces it
+    else
+        m_host.eventManager().publish(isDesign ? events::kDesignPointSelected
+                                               : events::kSurveyPointSelected,
+                                      payload::selectedPoint(point, line).constData(), 0);
 }
 
-void ResultList::showOnMap(const QString& lineNumber, const QString& pointNumber)
+void ResultList::zoomToPoint(const QModelIndex& index)
 {
-    const SurveyPoint* const point = DataProcessDataManager::instance().surveyPoints().find(
-        lineNumber.toStdString(), pointNumber.toStdString());
-    if (point == nullptr)
-        return;
-    const ICoordTransformHelper& helper = m_host.coordTransformHelper();
-    const QPointF measured = helper.projectToMap(point->north, point->east);
-    const bool hasDesign = point->designNorth != 0 && point->designEast != 0;
-    PointHighlight::show(m_host, measured,
-                         hasDesign ? helper.projectToMap(point->designNorth, point->designEast)
-                                   : measured);
+    const std::string line = lineOf(index).toStdString();
+    const std::string number = pointOf(index).toStdString();
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
+    if (m_points == Points::Design) {
+        if (const DesignPoint* const point = manager.designPoints().find(line, number))
+            PointHighlight::zoomTo(m_host, *point);
+    } else if (const SurveyPoint* const point = manager.surveyPoints().find(line, number)) {
+        PointHighlight::zoomTo(m_host, *point);
+    }
 }
 
 void ResultList::copyRows()

@@ -22,7 +22,7 @@ constexpr const char* kComponents =
     " CoordFormatCommand 坐标格式, DataInspectionCommand 数据检查, DemoSurveyCommand 示例工程,"
     " DrawBoundaryCommand 绘制边界, DrawExcitationCommand 绘制激发线,"
     " DrawReceiverCommand 绘制接收线, ExitCommand 退出, FullScreenCommand 全屏,"
-    " GuideCommand 用户指南, NewProjectCommand 新建工程, OpenProjectCommand 打开工程, "
+    " GoToWindowCommand 转到窗口, GuideCommand 用户指南, NewProjectCommand 新建工程, OpenProjectCommand 打开工程, "
     "PPKMoveCommand 地图移动,"
     " PPKZoomAllCommand 全图, PPKZoomInCommand 地图放大, PPKZoomOutCommand 地图缩小,"
     " PPKZoomRectCommand 局部矩形放大, QualitySpecificateCommand 质量规范,"

@@ -20,8 +20,9 @@ public:
         activated.append(name);
         return windows.contains(name);
     }
-    bool reveal(const QString& name, const QString& /*uncovered*/) override
+    bool reveal(const QString& name, const QString& uncovered) override
     {
+        revealed.append(name + QStringLiteral(" beside ") + uncovered);
         return find(name) != nullptr;
     }
     IWindow* open(const QString& className, const IDictionary& /*parameters*/) override
@@ -32,6 +33,7 @@ public:
 
     QHash<QString, IWindow*> windows;
     QStringList activated;
+    QStringList revealed;
     QStringList opened;
 };
 

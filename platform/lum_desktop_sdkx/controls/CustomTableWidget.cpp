@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kSampleRows = 50;
-constexpr int kRowPadding = 8;   ///< above and below the text, together
+constexpr int kRowPadding = 6;   ///< above and below the text, together
 constexpr int kCellPadding = 18; ///< left and right of the text, together
 constexpr int kMaxInitialWidth = 320;
 constexpr int kMinColumnWidth = 36;

@@ -3,6 +3,7 @@
 #include "lum_desktop_sdkx/frame/CoordinateReadout.h"
 #include "lum_desktop_sdkx/frame/ExitCommand.h"
 #include "lum_desktop_sdkx/frame/FullScreenCommand.h"
+#include "lum_desktop_sdkx/frame/GoToWindowCommand.h"
 #include "lum_desktop_sdkx/frame/GuideCommand.h"
 #include "lum_desktop_sdkx/frame/LayerWindow.h"
 #include "lum_desktop_sdkx/frame/MessageWindow.h"
@@ -22,6 +23,7 @@ void registerFrameComponents()
         window<MessageWindow>("MessageWindow", "消息窗口");
         command<ExitCommand>("ExitCommand", "退出");
         command<FullScreenCommand>("FullScreenCommand", "全屏");
+        command<GoToWindowCommand>("GoToWindowCommand", "转到窗口");
         command<GuideCommand>("GuideCommand", "用户指南");
         command<ResetLayoutCommand>("ResetLayoutCommand", "恢复布局");
         command<SettingChoiceCommand>("SettingChoiceCommand", "系统设置选项");

@@ -30,8 +30,6 @@
 
 namespace {
 
-constexpr int kUsualWidth = 1360;
-constexpr int kUsualHeight = 860;
 constexpr int kLeastLine = 18; // of the status bar
 constexpr int kStatusPadding = 8;
 constexpr int kDragPollMs = 50;
@@ -183,8 +181,6 @@ void MainFrame::show()
     windows.activate(map); // the assistants may have opened tabs in front of it
     windows.rememberDefaultLayout();
     m_defaultToolBars = saveState();
-    m_usualSize = QSize(dpi_scaled(kUsualWidth), dpi_scaled(kUsualHeight))
-                      .boundedTo(desktop::largestSize(*this));
     const FrameState state = FrameState::load();
     restoreFrame(state);
     const bool wasRestored = windows.restoreState(state.docks);
@@ -197,9 +193,7 @@ void MainFrame::show()
 
 void MainFrame::resetArrangement()
 {
-    setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
-    resize(m_usualSize);
-    desktop::fitToScreen(*this);
+    fillScreen();
     restoreState(m_defaultToolBars);
     m_host.windows().resetLayout();
 }
@@ -280,10 +274,21 @@ void MainFrame::makeAssistants(const FrameLayout& layout)
 void MainFrame::restoreFrame(const FrameState& state)
 {
     if (state.geometry.isEmpty() || !restoreGeometry(state.geometry))
-        resize(m_usualSize);
+        fillScreen();
     desktop::fitToScreen(*this); // the last session may have had a larger screen
     if (!state.toolBars.isEmpty())
         restoreState(state.toolBars);
+}
+
+void MainFrame::fillScreen()
+{
+    // The size at once, since the docks are given theirs before the window manager has answered; a
+    // screen without one is filled as well.
+    if (!isMaximized() && !isFullScreen()) {
+        resize(desktop::largestSize(*this));
+        desktop::fitToScreen(*this);
+    }
+    setWindowState((windowState() & ~Qt::WindowFullScreen) | Qt::WindowMaximized);
 }
 
 void MainFrame::adoptFloating(ads::CFloatingDockContainer* window)

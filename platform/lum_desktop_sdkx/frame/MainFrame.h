@@ -67,6 +67,8 @@ private:
     void showTitle();
     void makeAssistants(const FrameLayout& layout);
     void restoreFrame(const FrameState& state);
+    /// The size of the first start.
+    void fillScreen();
     void saveArrangement();
     void openWaitingFile();
     /// Makes the frame's shortcuts work in a window that has left the frame.
@@ -80,7 +82,6 @@ private:
     DesktopDocument m_document;
     QByteArray m_defaultToolBars;
     QString m_waitingFile; ///< to be opened when no dialog is open any more
-    QSize m_usualSize;     ///< of the first start
     EventSubscription m_subscription;
     bool m_wasPainted = false;
 };

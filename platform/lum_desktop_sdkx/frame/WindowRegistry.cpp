@@ -22,7 +22,9 @@ using Area = FrameLayout::Area;
 
 namespace {
 
-constexpr int kLargestShare = 4; // a dock takes no more than the fourth part of a small frame
+// The parts of a small frame that a dock takes at most.
+constexpr double kWidestShare = 0.25;
+constexpr double kHighestShare = 0.42;
 
 /// Sets the width or height of a dock area. Its neighbour takes the difference.
 void giveSize(ads::CDockAreaWidget& area, Qt::Orientation orientation, int size)
@@ -219,12 +221,15 @@ void WindowRegistry::applySizes()
             each.dock != nullptr ? each.dock->dockAreaWidget() : nullptr;
         if (area == nullptr)
             continue;
+        const auto atMost = [](int wanted, double share) {
+            return std::min(dpi_scaled(wanted), static_cast<int>(share));
+        };
         if (each.layout.width > 0)
             giveSize(*area, Qt::Horizontal,
-                     std::min(dpi_scaled(each.layout.width), m_docks->width() / kLargestShare));
+                     atMost(each.layout.width, m_docks->width() * kWidestShare));
         if (each.layout.height > 0)
             giveSize(*area, Qt::Vertical,
-                     std::min(dpi_scaled(each.layout.height), m_docks->height() / kLargestShare));
+                     atMost(each.layout.height, m_docks->height() * kHighestShare));
     }
 }
 

@@ -8,7 +8,6 @@
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Transform.h"
-#include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
 #include "project/IPointList.h"
 #include "protocol/Events.h"
@@ -28,7 +27,6 @@
 #include <QtTest>
 
 #include <array>
-#include <cmath>
 #include <memory>
 
 namespace {
@@ -86,10 +84,9 @@ private Q_SLOTS:
     void cleanup() { lum::setDpiScale(1); }
     void theModelHoldsItsRows();
     void theCommandChecksTellsAndLists();
-    void aClickShowsTheResult();
-    void theKeyboardShowsTheResult();
+    void aClickSelectsTheResult();
+    void theKeyboardSelectsTheResult();
     void lineDeviationsAreNamedAsSuch();
-    void aClickComesNearEnough();
     void tellsTheUnitOfItsLengthsWhereThatIsAQuestion();
     void copiesRowsWithCaptions();
     void savesAsCsvOrTellsWhyNot();
@@ -173,34 +170,43 @@ void ResultListTest::theCommandChecksTellsAndLists()
     QTRY_VERIFY(list == nullptr);
 }
 
-void ResultListTest::aClickShowsTheResult()
+void ResultListTest::aClickSelectsTheResult()
 {
     NotingList points;
     MapWindow map("name=DataMap", m_host.get());
     map.resize(400, 300);
-    m_host->windowRegistry.windows[QStringLiteral("DataMap")] = &map;
-    m_host->windowRegistry.windows[QStringLiteral("Survey Data List")] = &points;
+    TestWindowRegistry& windows = m_host->windowRegistry;
+    windows.windows[QStringLiteral("DataMap")] = &map;
+    windows.windows[QStringLiteral("Survey Data List")] = &points;
     DataProcessDataManager manager(m_host.get());
     manager.surveyPoints().set(weakPoint("8"));
+    const EventLog log(m_host->events, "ON_SURVEY_POINT_SELECTED");
     const auto list = makeList();
     auto* const table = list->findChild<CustomTableWidget*>();
-    const auto click = [&] {
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
-                          table->visualRect(table->model()->index(2, 2)).center());
-    };
-    click();
+    const auto place = [&] { return table->visualRect(table->model()->index(2, 2)).center(); };
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place());
     QCOMPARE(points.asked, QStringList(QStringLiteral("1001/8")));
+    QCOMPARE(log.events.size(), 0U); // the window announces it
+    QCOMPARE(map.transform().center(), QPointF(0, 0));
+    QVERIFY(windows.activated.isEmpty());
+
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, place());
     QCOMPARE(map.transform().center(), QPointF(3000, 4000));
-    const QImage picture = map.grab().toImage();
-    QCOMPARE(picture.pixelColor(picture.width() / 2, picture.height() / 2), QColor(Qt::blue));
+    QCOMPARE(windows.revealed, QStringList("DataMap beside Survey Data List"_q));
 
     manager.surveyPoints().clear();
     map.centerOn(0, 0);
-    click();
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, place());
     QCOMPARE(map.transform().center(), QPointF(0, 0)); // the result was deleted
+
+    windows.windows.remove(QStringLiteral("Survey Data List"));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                      table->visualRect(table->model()->index(1, 0)).center());
+    QCOMPARE(log.payloads(),
+             std::vector<std::string>{"pointName=7,lineName=\"L \"\"1\"\", north\""});
 }
 
-void ResultListTest::theKeyboardShowsTheResult()
+void ResultListTest::theKeyboardSelectsTheResult()
 {
     NotingList points;
     m_host->windowRegistry.windows[QStringLiteral("Survey Data List")] = &points;
@@ -243,32 +249,6 @@ void ResultListTest::lineDeviationsAreNamedAsSuch()
                  qPrintable(shown(row, Qt::DisplayRole)));
         QVERIFY(shown(row, Qt::ToolTipRole).contains(deviation));
     }
-}
-
-void ResultListTest::aClickComesNearEnough()
-{
-    struct Case
-    {
-        double offset; // metres from the design
-        double before; // metres a pixel
-        double after;
-    };
-    MapWindow map("name=DataMap", m_host.get());
-    map.resize(400, 300);
-    m_host->windowRegistry.windows[QStringLiteral("DataMap")] = &map;
-    map.show();
-    for (const auto& [offset, before, after] :
-         {Case{50, 100, 1}, {6, 100, 0.5}, {0.01, 100, 0.05}, {0, 100, 1}, {6, 0.3, 0.3}}) {
-        map.zoomRect(0, 0, 400 * before, 300 * before);
-        QCOMPARE(map.transform().GetScale(), before);
-        PointHighlight::show(*m_host, {3000, 4000}, {3000, 4000 + offset});
-        QCOMPARE(map.transform().center(), QPointF(3000, 4000));
-        QCOMPARE(map.transform().GetScale(), after);
-    }
-    map.zoomAbout(200, 150, 0.01);
-    const Transform view = map.transform();
-    PointHighlight::show(*m_host, {3000, std::nan("")}, {3000, 4000});
-    QVERIFY2(map.transform() == view, "moved to a position that is no number");
 }
 
 void ResultListTest::tellsTheUnitOfItsLengthsWhereThatIsAQuestion()

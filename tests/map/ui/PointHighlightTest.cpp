@@ -1,0 +1,131 @@
+#include "map/ui/PointHighlight.h"
+
+#include "lum_sdk/Transform.h"
+#include "map/ui/IDataLayer.h"
+#include "protocol/Events.h"
+#include "protocol/StatusKeys.h"
+#include "tests/map/ui/TestMap.h"
+
+#include <cmath>
+
+namespace {
+
+SurveyPoint result(double north, double east, double designNorth = 0, double designEast = 0)
+{
+    SurveyPoint point;
+    point.north = north;
+    point.east = east;
+    point.designNorth = designNorth;
+    point.designEast = designEast;
+    return point;
+}
+
+DesignPoint design(double north, double east)
+{
+    DesignPoint point;
+    point.north = north;
+    point.east = east;
+    return point;
+}
+
+} // namespace
+
+class PointHighlightTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { TestMap::registerComponents(); }
+
+    void theMapMovesOnlyToAPointOutsideItsView()
+    {
+        struct Case
+        {
+            double east;
+            double north;
+            bool moves;
+        };
+        TestMap map; // 400 x 300 metres
+        for (const auto& [east, north, moves] : {Case{12, 12, false},
+                                                 {388, 288, false},
+                                                 {200, 150, false},
+                                                 {3, 150, true},
+                                                 {200, 297, true},
+                                                 {-1, 150, true},
+                                                 {5000, 7000, true}}) {
+            for (const bool isDesign : {false, true}) {
+                map.window.zoomRect(0, 0, 400, 300);
+                if (isDesign)
+                    PointHighlight::mark(map.host, design(north, east));
+                else // its design position outside does not count
+                    PointHighlight::mark(map.host, result(north, east, 9000, 9000));
+                const QPointF middle = moves ? QPointF(east, north) : QPointF(200, 150);
+                QCOMPARE(map.window.transform().center(), middle);
+                QCOMPARE(map.window.transform().GetScale(), 1.0);
+                const QPoint place = map.window.transform().SurveyToScreen(east, north).toPoint();
+                QCOMPARE(map.picture().pixelColor(place), QColor(isDesign ? Qt::red : Qt::blue));
+            }
+        }
+        QVERIFY(map.host.windowRegistry.activated.isEmpty());
+        QVERIFY(map.host.windowRegistry.revealed.isEmpty());
+    }
+
+    void aResultHasARingOnlyWhereItWasDesigned()
+    {
+        TestMap map;
+        const QPoint besideTheCross(208, 150); // on a ring around the measured position
+        PointHighlight::mark(map.host, result(150, 200));
+        QCOMPARE(map.picture().pixelColor(200, 150), QColor(Qt::blue));
+        QCOMPARE(map.picture().pixelColor(besideTheCross), QColor(Qt::white));
+        PointHighlight::mark(map.host, result(150, 200, 150, 300));
+        QVERIFY(map.picture().pixelColor(308, 150).red() < 64); // the ring
+        PointHighlight::mark(map.host, result(std::nan(""), 200, 150, 300));
+        QCOMPARE(map.picture().pixelColor(200, 150), QColor(Qt::white)); // not the one before
+        QCOMPARE(map.window.transform().center(), QPointF(200, 150));
+    }
+
+    void aBaseStationIsMarkedByItsNumber()
+    {
+        TestMap map;
+        map.setStatus(status::kViewShowWhich, "0");
+        map.addResult("1", "1", 150, 200, {300, 150});
+        map.addResult("1", "2", 150, 250, {900, 150});
+        map.publish(events::kRefreshSurveyLayer);
+        map.window.zoomRect(0, 0, 400, 300);
+        map.picture();
+        PointHighlight::markStation(map.host, 7);
+        QCOMPARE(map.window.transform().center(), QPointF(200, 150));
+        PointHighlight::markStation(map.host, 1);
+        QCOMPARE(map.window.transform().center(), QPointF(900, 150));
+        QCOMPARE(map.picture().pixelColor(203, 150), QColor(Qt::blue)); // a disc
+    }
+
+    void zoomComesNearEnough()
+    {
+        struct Case
+        {
+            double offset; // metres from the design
+            double before; // metres a pixel
+            double after;
+        };
+        TestMap map;
+        for (const auto& [offset, before, after] :
+             {Case{50, 100, 1}, {6, 100, 0.5}, {0.01, 100, 0.05}, {0, 100, 1}, {6, 0.3, 0.3}}) {
+            map.window.zoomRect(0, 0, 400 * before, 300 * before);
+            QCOMPARE(map.window.transform().GetScale(), before);
+            PointHighlight::zoomTo(map.host, result(4000, 3000, 4000 + offset, 3000));
+            QCOMPARE(map.window.transform().center(), QPointF(3000, 4000));
+            QCOMPARE(map.window.transform().GetScale(), after);
+        }
+        map.window.zoomAbout(200, 150, 0.01);
+        const Transform view = map.window.transform();
+        PointHighlight::zoomTo(map.host, result(std::nan(""), 3000));
+        QVERIFY2(map.window.transform() == view, "moved to a position that is no number");
+        PointHighlight::zoomTo(map.host, design(1, 2));
+        QCOMPARE(map.host.windowRegistry.revealed.last(), "DataMap beside Design Data List"_q);
+        QVERIFY(map.host.windowRegistry.activated.isEmpty());
+    }
+};
+
+QTEST_MAIN(PointHighlightTest)
+#include "PointHighlightTest.moc"

@@ -1,0 +1,103 @@
+#include "views/SelectionFollower.h"
+
+#include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/events/Payload.h"
+#include "lum_sdk/Text.h"
+#include "map/ui/PointHighlight.h"
+#include "project/DataProcessDataManager.h"
+#include "project/ILineList.h"
+#include "project/IPointList.h"
+#include "protocol/Events.h"
+
+#include <QScopedValueRollback>
+
+#include <cstring>
+#include <string>
+
+namespace {
+
+/// Shows a point in the windows of these names.
+/// \returns false, and changes nothing, when there is no such point
+template <class Points>
+bool show(IDesktopHost& host, const Points& points, const PointName& name, const char* pointList,
+          const char* lineList)
+{
+    const auto* const point = points.find(name.line, name.point);
+    if (point == nullptr)
+        return false;
+    IWindowRegistry& windows = host.windows();
+    if (auto* const list = windows.findAs<IPointList>(QLatin1String(pointList))) {
+        windows.reveal(QLatin1String(pointList), QStringLiteral("DataMap"));
+        list->followPoint(lum::toQString(name.line), lum::toQString(name.point));
+    }
+    if (auto* const list = windows.findAs<ILineList>(QLatin1String(lineList)))
+        list->followLine(lum::toQString(name.line));
+    PointHighlight::mark(host, *point);
+    return true;
+}
+
+std::string eventNames()
+{
+    std::string names = events::kSurveyPointSelected;
+    for (const char* name : {events::kDesignPointSelected, events::kStationPointSelected,
+                             events::kRefreshSurveyLayer, events::kRefreshDesignLayer})
+        names.append(",").append(name);
+    return names;
+}
+
+} // namespace
+
+SelectionFollower::SelectionFollower(IDesktopHost& host)
+    : m_host(host), m_subscription(*this, eventNames(), host.eventManager())
+{
+}
+
+void SelectionFollower::handleEvent(const char* eventName, const char* payload, int /*reserved*/)
+{
+    if (m_isFollowing || !DataProcessDataManager::hasInstance())
+        return;
+    const QScopedValueRollback<bool> following(m_isFollowing, true);
+    basalt::Dictionary names;
+    payload::read(payload, names);
+    follow(eventName, names);
+}
+
+void SelectionFollower::follow(const char* eventName, const IDictionary& names)
+{
+    const auto is = [&](const char* name) { return std::strcmp(eventName, name) == 0; };
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
+    const PointName name{std::string(names.text("lineName")), std::string(names.text("pointName"))};
+    if (is(events::kSurveyPointSelected)) {
+        if (show(m_host, manager.surveyPoints(), name, "Survey Data List", "Survey Lines"))
+            remember(Points::Survey, name);
+    } else if (is(events::kDesignPointSelected)) {
+        if (show(m_host, manager.designPoints(), name, "Design Data List", "Design Lines"))
+            remember(Points::Design, name);
+    } else if (is(events::kStationPointSelected)) {
+        PointHighlight::markStation(m_host, names.integer("stationId", -1));
+        m_marked = Points::None;
+    } else {
+        clearLostMark();
+    }
+}
+
+void SelectionFollower::remember(Points points, const PointName& name)
+{
+    m_marked = points;
+    m_markedName = name;
+}
+
+void SelectionFollower::clearLostMark()
+{
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
+    const auto isLost = [this](const auto& points) {
+        return points.find(m_markedName.line, m_markedName.point) == nullptr;
+    };
+    if ((m_marked == Points::Survey && isLost(manager.surveyPoints())) ||
+        (m_marked == Points::Design && isLost(manager.designPoints()))) {
+        PointHighlight::clear(m_host);
+        m_marked = Points::None;
+    }
+}
