@@ -67,7 +67,7 @@ QString amountOf(const Points& points, const QStringList& lines, IsWritten isWri
         pointCount += written;
         lineCount += written != 0 ? 1 : 0;
     }
-    return translated(QT_TRANSLATE_NOOP("FileExports", "Points written: %1, of lines: %2."))
+    return translated(QT_TRANSLATE_NOOP("FileExports", "Points: %1, lines: %2."))
         .arg(QString::number(pointCount), QString::number(lineCount));
 }
 

@@ -70,7 +70,7 @@ LineItem& SurveyDataControl::makeRoot()
 
 void SurveyDataControl::rebuild()
 {
-    const Place before = place();
+    const Place before = place(); // before the table is told to show all lines
     m_project = get_system_status_dictionary().text(status::kProjectPath);
     LineItem& root = makeRoot();
     if (DataProcessDataManager::instance().surveyPoints().lineCount() == 0) {
@@ -110,7 +110,8 @@ SurveyDataControl::Place SurveyDataControl::place() const
     const LineItem* const current = view().current();
     return {m_project, view().selectedLines(),
             current != nullptr && current->isSelected() ? current->lineNumber() : QString(),
-            m_showsAll, view().verticalScrollBar()->value()};
+            get_system_status_dictionary().integer(status::kShowAllLines) != 0,
+            view().verticalScrollBar()->value()};
 }
 
 void SurveyDataControl::goBackTo(const Place& place)
@@ -131,11 +132,10 @@ void SurveyDataControl::goBackTo(const Place& place)
 
 void SurveyDataControl::announce(const LineItem& item)
 {
-    m_showsAll = !item.isLine();
-    if (m_showsAll)
-        publish(events::kShowAllSurveyTable);
-    else
+    if (item.isLine())
         publish(events::kSurveyLineSwitched, payload::line(item.lineNumber()));
+    else
+        publish(events::kShowAllSurveyTable);
 }
 
 void SurveyDataControl::fillMenu(QMenu& menu, const LineItem& first)
@@ -161,25 +161,10 @@ void SurveyDataControl::fillMenu(QMenu& menu, const LineItem& first)
     addExport(tr("Export All"), Form::Csv);
     addExport(tr("Export All Kml"), Form::Kml);
     menu.addSeparator();
-    addEntry(menu, "document-import", tr("Import Csv"), [this] {
-        if (FileImports::importSurveyCsv(host()))
-            showLineAfterImport();
-    });
-    addEntry(menu, "document-import", tr("Import DB"), [this] {
-        if (FileImports::importSurveyDatabase(host()))
-            showLineAfterImport();
-    });
-}
-
-void SurveyDataControl::showLineAfterImport()
-{
-    LineItem* line = view().current();
-    if (line == nullptr || !line->isLine())
-        line = static_cast<LineItem*>(view().root()->child(0));
-    if (line == nullptr)
-        return;
-    view().selectOnly(*line);
-    announce(*line);
+    addEntry(menu, "document-import", tr("Import Csv"),
+             [this] { FileImports::importSurveyCsv(host()); });
+    addEntry(menu, "document-import", tr("Import DB"),
+             [this] { FileImports::importSurveyDatabase(host()); });
 }
 
 void SurveyDataControl::deleteSelection()

@@ -25,7 +25,7 @@ private:
         std::string project; ///< its folder
         QStringList selected;
         QString current; ///< the number of the current line; empty for the root
-        bool showsAll;   ///< in the table
+        bool showsAll;   ///< in the table, which says so
         int scrolled;
     };
 
@@ -33,8 +33,6 @@ private:
     void goBackTo(const Place& place);
     LineItem& makeRoot(); ///< without a line
     void addLines(LineItem& root);
-    void showLineAfterImport();
 
     std::string m_project; ///< the folder of the project whose lines the tree has
-    bool m_showsAll = true;
 };

@@ -412,6 +412,7 @@ void LineTreesTest::aMarkFromElsewhereDoesNotSwitchTheTable()
     shown.events();
     shown.tree.followLine("1002"_q);
     shown.tree.followLine("none"_q);
+    get_system_status_dictionary().set(status::kShowAllLines, "1"); // the table shows all lines
     QCOMPARE(shown.view->selectedLines(), QStringList("1002"_q));
     refresh("REFRESH_SURVEY_LAYER");
     QCOMPARE(shown.events(), Events{"ON_SHOW_ALL_SURVEY_TABLE"}); // not the line alone
