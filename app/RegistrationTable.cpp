@@ -6,6 +6,7 @@
 #include "app/DataProcess5Assistant.h"
 #include "app/DemoSurveyCommand.h"
 #include "app/ProgressStatusBarForSkyquill.h"
+#include "exchange/ui/ExportCommands.h"
 #include "lum_desktop_sdkx/Registration.h"
 #include "map/ui/DataProcessLayerImp.h"
 #include "map/ui/DrawCommands.h"
@@ -27,6 +28,8 @@
 #include "quality/ui/QualitySpecificateCommand.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/SurveyDataTable.h"
+#include "views/trees/DesignLineControl.h"
+#include "views/trees/SurveyDataControl.h"
 
 namespace {
 
@@ -38,6 +41,8 @@ using namespace desktop::registration;
     window<ProgressStatusBarForSkyquill>("ProgressStatusBarForSkyquill", "Progress"),
     window<DesignLineTable>             ("DesignLineTable",              "设计测线列表"),
     window<SurveyDataTable>             ("SurveyDataTable",              "勘察数据列表"),
+    window<DesignLineControl>           ("DesignLineControl",            "设计测线控制窗口"),
+    window<SurveyDataControl>           ("SurveyDataControl",            "勘察数据控制窗口"),
     layer<DataProcessLayerImp>          ("DataProcessLayer",             "矢量图层"),
     reactor<ReactorMoveTrans>           ("ReactorMoveTrans",             "平移"),
     reactor<ReactorZoomRectTrans>       ("ReactorZoomRectTrans",         "局部矩形放大"),
@@ -55,6 +60,8 @@ using namespace desktop::registration;
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
+    command<ExportDesignCommand>        ("ExportDesignCommand",          "导出设计数据"),
+    command<ExportSurveyCommand>        ("ExportSurveyCommand",          "导出测量数据"),
     command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),

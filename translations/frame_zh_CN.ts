@@ -256,6 +256,70 @@
         <translation>把质量、统计、流动站和成果报告写成工作簿</translation>
     </message>
     <message>
+        <source>Export Desi&amp;gn</source>
+        <translation>导出设计数据(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;CSV File...</source>
+        <translation>CSV 文件(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Write all points of the design as a CSV file</source>
+        <translation>把全部设计点写成 CSV 文件</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>数据库(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Write all points of the design into a new project database</source>
+        <translation>把全部设计点写入新的工程数据库</translation>
+    </message>
+    <message>
+        <source>&amp;KML File...</source>
+        <translation>KML 文件(&amp;K)...</translation>
+    </message>
+    <message>
+        <source>Write all points of the design for viewing on a globe</source>
+        <translation>把全部设计点写成可在三维地球上查看的文件</translation>
+    </message>
+    <message>
+        <source>&amp;Unsurveyed as CSV File...</source>
+        <translation>未测点 CSV 文件(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Write the points that are not surveyed yet as a CSV file</source>
+        <translation>把尚未测量的设计点写成 CSV 文件</translation>
+    </message>
+    <message>
+        <source>Unsurveyed as D&amp;atabase...</source>
+        <translation>未测点数据库(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Write the points that are not surveyed yet into a new project database</source>
+        <translation>把尚未测量的设计点写入新的工程数据库</translation>
+    </message>
+    <message>
+        <source>Unsurveyed as K&amp;ML File...</source>
+        <translation>未测点 KML 文件(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Write the points that are not surveyed yet for viewing on a globe</source>
+        <translation>把尚未测量的设计点写成可在三维地球上查看的文件</translation>
+    </message>
+    <message>
+        <source>Export S&amp;urvey Results</source>
+        <translation>导出测量成果(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Write all survey results, with the chosen columns, as a CSV file</source>
+        <translation>把全部测量成果按所选列写成 CSV 文件</translation>
+    </message>
+    <message>
+        <source>Write all survey results for viewing on a globe</source>
+        <translation>把全部测量成果写成可在三维地球上查看的文件</translation>
+    </message>
+    <message>
         <source>&amp;Map</source>
         <translation>地图(&amp;M)</translation>
     </message>

@@ -839,6 +839,81 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DesignLineControl</name>
+    <message>
+        <source>Export All</source>
+        <translation>导出全部</translation>
+    </message>
+    <message>
+        <source>Export Selected</source>
+        <translation>导出所选</translation>
+    </message>
+    <message>
+        <source>Export All Empty</source>
+        <translation>导出全部未测点</translation>
+    </message>
+    <message>
+        <source>Export Selected Empty</source>
+        <translation>导出所选未测点</translation>
+    </message>
+    <message>
+        <source>Export All DB</source>
+        <translation>导出全部到数据库</translation>
+    </message>
+    <message>
+        <source>Export Selected DB</source>
+        <translation>导出所选到数据库</translation>
+    </message>
+    <message>
+        <source>Export All Empty DB</source>
+        <translation>导出全部未测点到数据库</translation>
+    </message>
+    <message>
+        <source>Export Selected Empty DB</source>
+        <translation>导出所选未测点到数据库</translation>
+    </message>
+    <message>
+        <source>Export All Kml</source>
+        <translation>导出全部为 KML</translation>
+    </message>
+    <message>
+        <source>Export Selected Kml</source>
+        <translation>导出所选为 KML</translation>
+    </message>
+    <message>
+        <source>Export All Empty Kml</source>
+        <translation>导出全部未测点为 KML</translation>
+    </message>
+    <message>
+        <source>Export Selected Empty Kml</source>
+        <translation>导出所选未测点为 KML</translation>
+    </message>
+    <message>
+        <source>Points: %1, surveyed: %2</source>
+        <translation>点数：%1，已测：%2</translation>
+    </message>
+    <message>
+        <source>Clears the selection of the groups. To go to a point, use Find.</source>
+        <translation>清除对分组的选择。要转到某个点，请使用查找。</translation>
+    </message>
+    <message>
+        <source>design data (%1)</source>
+        <translation>设计数据 (%1)</translation>
+    </message>
+    <message>
+        <source>Send data (%1)</source>
+        <translation>激发数据 (%1)</translation>
+    </message>
+    <message>
+        <source>Recv data (%1)</source>
+        <translation>接收数据 (%1)</translation>
+    </message>
+    <message>
+        <source>Import Csv</source>
+        <translation>导入 CSV</translation>
+    </message>
+</context>
+<context>
     <name>DlgAbout</name>
     <message>
         <source>About %1</source>
@@ -1019,6 +1094,45 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>FileExports</name>
+    <message>
+        <source>Input Saving File Name</source>
+        <translation>输入保存文件名</translation>
+    </message>
+    <message>
+        <source>Points: %1, lines: %2.</source>
+        <translation>点数：%1，测线数：%2。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Export Failed!</source>
+        <translation>导出失败！</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Export Succeed!</source>
+        <translation>导出成功！</translation>
+    </message>
+    <message>
+        <source>&quot;View &gt; Survey Columns&quot; leaves out the line number or the point number of exported files. Without both no point is written.</source>
+        <translation>“视图 &gt; 测量列表列”中导出列缺少测线号或点号。两者缺一，就不会写出任何点。</translation>
+    </message>
+    <message>
+        <source>Export Succeed, Open it?</source>
+        <translation>导出成功，是否打开？</translation>
+    </message>
+    <message>
+        <source>The desktop has no program that opens &quot;%1&quot;.</source>
+        <translation>桌面没有可以打开“%1”的程序。</translation>
+    </message>
+</context>
+<context>
     <name>FrameMenus</name>
     <message>
         <source>Go to the menus</source>
@@ -1140,6 +1254,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The file holds no row of a point.</source>
         <translation>文件中没有测点数据行。</translation>
+    </message>
+</context>
+<context>
+    <name>LineTree</name>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Expand All</source>
+        <translation>全部展开</translation>
+    </message>
+    <message>
+        <source>Collapse All</source>
+        <translation>全部折叠</translation>
     </message>
 </context>
 <context>
@@ -2051,6 +2180,65 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>SurveyDataControl</name>
+    <message>
+        <source>Results: %1</source>
+        <translation>测量成果：%1</translation>
+    </message>
+    <message>
+        <source>Point number</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>A point number whose first four characters are its line, such as 10051234 or R10051234.</source>
+        <translation>前四个字符为测线号的点号，例如 10051234 或 R10051234。</translation>
+    </message>
+    <message>
+        <source>survey data (%1)</source>
+        <translation>测量数据 (%1)</translation>
+    </message>
+    <message>
+        <source>Export Selected</source>
+        <translation>导出所选</translation>
+    </message>
+    <message>
+        <source>Export Selected Kml</source>
+        <translation>导出所选为 KML</translation>
+    </message>
+    <message>
+        <source>Delete Line</source>
+        <translation>删除测线</translation>
+    </message>
+    <message>
+        <source>Export All</source>
+        <translation>导出全部</translation>
+    </message>
+    <message>
+        <source>Export All Kml</source>
+        <translation>导出全部为 KML</translation>
+    </message>
+    <message>
+        <source>Import Csv</source>
+        <translation>导入 CSV</translation>
+    </message>
+    <message>
+        <source>Import DB</source>
+        <translation>导入数据库</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete these records?</source>
+        <translation>确定要删除这些记录吗？</translation>
+    </message>
+    <message>
+        <source>Lines: %1, results: %2. The next save takes them out of the project&apos;s files, too.</source>
+        <translation>测线：%1，测量成果：%2。下次保存时，它们也会从工程文件中删除。</translation>
+    </message>
+</context>
+<context>
     <name>SurveyHeadings</name>
     <message>
         <source>&quot;%1&quot; must be written &quot;%2&quot;.</source>
@@ -2087,6 +2275,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>It lacks the caption %1.</source>
         <translation>它缺少列标题 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyTable</name>
+    <message>
+        <source>base id</source>
+        <translation>基站号</translation>
     </message>
 </context>
 <context>

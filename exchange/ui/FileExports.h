@@ -19,7 +19,12 @@ enum class Form
 void exportDesign(IDesktopHost& host, Form form, const QStringList& lines, bool onlyUnsurveyed);
 void exportSurvey(IDesktopHost& host, Form form, const QStringList& lines);
 
+/// The numbers of all lines of the project, in their order.
+[[nodiscard]] QStringList allDesignLines();
+[[nodiscard]] QStringList allSurveyLines();
+
 /// "Export Succeed, Open it?"; on yes the file is opened by the desktop. Also for tables.
-void offerToOpen(IDesktopHost& host, const QString& path);
+/// \param details what was written
+void offerToOpen(IDesktopHost& host, const QString& path, const QString& details = {});
 
 } // namespace FileExports

@@ -13,15 +13,17 @@ constexpr const char* kToolFolder = "程序 dir/etc/Tarvona/config/Skyquill/Tool
 
 /// Every component that is registered, as "--components" prints them: kind, name, caption.
 constexpr const char* kComponents =
-    "IWindow: CoordinateReadout 坐标显示, LayerWindow 图层窗口, MapWindow 地图,"
-    " MessageWindow 消息窗口, ProgressStatusBarForSkyquill Progress\n"
+    "IWindow: CoordinateReadout 坐标显示, DesignLineControl 设计测线控制窗口,"
+    " LayerWindow 图层窗口, MapWindow 地图, MessageWindow 消息窗口,"
+    " ProgressStatusBarForSkyquill Progress, SurveyDataControl 勘察数据控制窗口\n"
     "ILayerViewer: BoundaryLayer 边界图层, DataProcessLayer 矢量图层\n"
     "IReactor: ReactorDefault 默认, ReactorMoveTrans 平移, ReactorZoomRectTrans 局部矩形放大,"
     " SeletePointReactor 属性查看\n"
     "ICommandExecuterx: AboutCommand 关于, CloseProjectCommand 关闭工程,"
     " CoordFormatCommand 坐标格式, DataInspectionCommand 数据检查, DemoSurveyCommand 示例工程,"
     " DrawBoundaryCommand 绘制边界, DrawExcitationCommand 绘制激发线,"
-    " DrawReceiverCommand 绘制接收线, ExitCommand 退出, FullScreenCommand 全屏,"
+    " DrawReceiverCommand 绘制接收线, ExitCommand 退出,"
+    " ExportDesignCommand 导出设计数据, ExportSurveyCommand 导出测量数据, FullScreenCommand 全屏,"
     " GoToWindowCommand 转到窗口, GuideCommand 用户指南, NewProjectCommand 新建工程, OpenProjectCommand 打开工程, "
     "PPKMoveCommand 地图移动,"
     " PPKZoomAllCommand 全图, PPKZoomInCommand 地图放大, PPKZoomOutCommand 地图缩小,"
