@@ -2190,8 +2190,8 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>点号</translation>
     </message>
     <message>
-        <source>A point number whose first four characters are its line, such as 10051234 or R10051234.</source>
-        <translation>前四个字符为测线号的点号，例如 10051234 或 R10051234。</translation>
+        <source>A point number whose first four characters are its line, such as 10051234 or C10051234.</source>
+        <translation>前四个字符为测线号的点号，例如 10051234 或 C10051234。</translation>
     </message>
     <message>
         <source>survey data (%1)</source>

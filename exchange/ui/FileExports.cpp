@@ -7,6 +7,7 @@
 #include "project/DataProcessDataManager.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QDesktopServices>
 #include <QDir>
 #include <QGuiApplication>

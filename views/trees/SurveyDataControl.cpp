@@ -53,7 +53,7 @@ SurveyDataControl::SurveyDataControl(const char* config, IDesktopHost* host)
     searchField().setPlaceholderText(tr("Point number"));
     searchField().setToolTip(
         tr("A point number whose first four characters are its line, such as 10051234 or "
-           "R10051234."));
+           "C10051234."));
     makeRoot();
     if (ProjectState::isOpen())
         rebuild();
