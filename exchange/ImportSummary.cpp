@@ -47,6 +47,8 @@ QString translated(const char* text)
 /// it.
 QString whyNoPoint(const ImportSummary& summary)
 {
+    if (summary.linesRead == 0 && summary.isDatabase)
+        return translated(QT_TRANSLATE_NOOP("ImportSummary", "The database holds no result."));
     if (summary.linesRead == 0)
         return translated(QT_TRANSLATE_NOOP("ImportSummary", "The file is empty."));
     const std::size_t points = summary.pointsNew + summary.pointsReplaced;
@@ -59,12 +61,17 @@ QString whyNoPoint(const ImportSummary& summary)
 QStringList fileLines(const ImportSummary& summary)
 {
     QStringList lines;
-    lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
-                                          "\"%1\": lines read: %2, points added: %3, points "
-                                          "replaced: %4, lines skipped: %5."))
-                 .arg(summary.path, QString::number(summary.linesRead),
-                      QString::number(summary.pointsNew), QString::number(summary.pointsReplaced),
-                      QString::number(summary.skipped.count));
+    const char* const counts =
+        summary.isDatabase
+            ? QT_TRANSLATE_NOOP("ImportSummary",
+                                "\"%1\": results read: %2, points added: %3, points replaced: %4, "
+                                "results skipped: %5.")
+            : QT_TRANSLATE_NOOP("ImportSummary",
+                                "\"%1\": lines read: %2, points added: %3, points replaced: %4, "
+                                "lines skipped: %5.");
+    lines << translated(counts).arg(
+        summary.path, QString::number(summary.linesRead), QString::number(summary.pointsNew),
+        QString::number(summary.pointsReplaced), QString::number(summary.skipped.count));
     if (summary.encoding != ImportSummary().encoding)
         lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "The file's encoding is %1."))
                      .arg(summary.encoding);
@@ -111,11 +118,13 @@ QStringList rowLines(const ImportSummary& summary)
 QString ImportSummary::toText() const
 {
     QStringList lines = fileLines(*this) + rowLines(*this);
+    const QString place = isDatabase
+                              ? translated(QT_TRANSLATE_NOOP("ImportSummary", "Result %1: %2"))
+                              : translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"));
     for (const Kind& kind : kKinds) {
         const Findings& findings = this->*kind.findings;
-        for (const Findings::Place& place : findings.first)
-            lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"))
-                         .arg(QString::number(place.line), place.text);
+        for (const Findings::Place& found : findings.first)
+            lines << place.arg(QString::number(found.line), found.text);
         if (findings.count > findings.first.size())
             lines << translated(kind.further).arg(findings.count - findings.first.size());
     }

@@ -23,6 +23,7 @@ struct ImportSummary
     };
 
     QString path;
+    bool isDatabase = false; ///< the lines are rows of its table of results
     QString encoding = QStringLiteral("UTF-8");
     std::size_t linesRead = 0;
     std::size_t pointsNew = 0;
