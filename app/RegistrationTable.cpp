@@ -30,6 +30,8 @@
 #include "views/tables/SurveyDataTable.h"
 #include "views/trees/DesignLineControl.h"
 #include "views/trees/SurveyDataControl.h"
+#include "views/find/FindCommand.h"
+#include "views/tables/SurveyTableHideCommand.h"
 
 namespace {
 
@@ -62,6 +64,8 @@ using namespace desktop::registration;
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
     command<ExportDesignCommand>        ("ExportDesignCommand",          "导出设计数据"),
     command<ExportSurveyCommand>        ("ExportSurveyCommand",          "导出测量数据"),
+    command<FindCommand>                ("FindCommand",                  "查找"),
+    command<SurveyTableHideCommand>     ("SurveyTableHideCommand",       "勘察列表隐藏"),
     command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),
