@@ -45,7 +45,6 @@ protected:
 
 private:
     void addMenu();
-    void moveIntoCorner();
     void showPoint(const QModelIndex& index);
     void copyRows();
     void saveRows();
