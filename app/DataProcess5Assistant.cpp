@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Numbers.h"
+#include "exchange/ui/FileImports.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
@@ -91,10 +92,19 @@ int DataProcess5Assistant::queryClose()
     return 1;
 }
 
+bool DataProcess5Assistant::canOpen(const QString& path) const
+{
+    return hasProjectSuffix(path) || FileImports::canImport(path);
+}
+
 int DataProcess5Assistant::openFile(const QString& path)
 {
-    if (!hasProjectSuffix(path))
+    if (!canOpen(path))
         return 0;
+    if (!hasProjectSuffix(path)) {
+        FileImports::importFile(m_host, path);
+        return 1;
+    }
     if (!ProjectState::isOpen(path) && ProjectSession::closeCurrent(m_host))
         ProjectSession::openFile(m_host, path);
     return 1;

@@ -25,6 +25,8 @@ public:
     /// Offers to save an open project, then asks whether to exit. After a yes the project is closed
     /// and the data manager ended.
     int queryClose() override;
+    /// A project, or points for the open one.
+    [[nodiscard]] bool canOpen(const QString& path) const override;
     int openFile(const QString& path) override;
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;

@@ -7,6 +7,7 @@
 #include "app/DemoSurveyCommand.h"
 #include "app/ProgressStatusBarForSkyquill.h"
 #include "exchange/ui/ExportCommands.h"
+#include "exchange/ui/ImportCommand.h"
 #include "lum_desktop_sdkx/Registration.h"
 #include "map/ui/DataProcessLayerImp.h"
 #include "map/ui/DrawCommands.h"
@@ -59,6 +60,7 @@ using namespace desktop::registration;
     command<TimeZomeDlgCommand>         ("TimeZomeDlgCommand",           "时区修改"),
     command<QualitySpecificateCommand>  ("QualitySpecificateCommand",    "质量规范"),
     command<DataInspectionCommand>      ("DataInspectionCommand",        "数据检查"),
+    command<ImportCommand>              ("ImportCommand",                "导入数据"),
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),

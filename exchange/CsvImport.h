@@ -3,6 +3,7 @@
 #include "exchange/BatchQueue.h"
 #include "exchange/CsvFaults.h"
 #include "exchange/CsvInput.h"
+#include "exchange/FiledRows.h"
 #include "exchange/ImportSummary.h"
 #include "lum_sdk/events/ProgressReporter.h"
 
@@ -20,6 +21,7 @@ struct CsvBatch
 
     std::vector<Point> points;
     std::vector<std::size_t> lines;
+    std::vector<std::size_t> noted; ///< indexes of the points that the summary has places of
 };
 
 /// Notes the fields of the input's last line that hold what is no character.
@@ -33,12 +35,16 @@ CsvBatch<Point> readBatch(CsvInput& input, Read& read, ImportSummary& summary)
     std::string_view line;
     while (batch.points.size() < CsvBatch<Point>::kSize && input.next(line)) {
         ++summary.linesRead;
+        const std::size_t places = summary.places;
         noteUndecoded(input, line, summary);
         Point& point = batch.points.emplace_back();
-        if (read(line, point, summary))
-            batch.lines.push_back(summary.linesRead);
-        else
+        if (!read(line, point, summary)) {
             batch.points.pop_back();
+            continue;
+        }
+        batch.lines.push_back(summary.linesRead);
+        if (summary.places != places)
+            batch.noted.push_back(batch.points.size() - 1);
     }
     return batch;
 }
@@ -79,17 +85,24 @@ struct CsvImportTask
     QString caption;        ///< of the progress
 };
 
-/// Reads the file's points into `staged`. \returns how many rows gave a point
+/// Reads the file's points into a container of their own. \returns how many rows gave a point
 template <class Points, class Read, class File>
-std::size_t stagePoints(CsvInput& input, const CsvImportTask& task, Read& read, File& file)
+std::size_t stagePoints(CsvInput& input, const CsvImportTask& task, Read& read, File& file,
+                        FiledRows<Points>& filed)
 {
     using Point = typename Points::Point;
     const std::size_t step = input.lineCount() / 100;
     std::size_t reported = 0;
     std::size_t count = 0;
     readBatches<Point>(input, read, task.summary, [&](CsvBatch<Point>& batch) {
+        auto noted = batch.noted.begin();
         for (std::size_t i = 0; i < batch.points.size(); ++i) {
-            file(std::move(batch.points[i]));
+            const Point& point = file(std::move(batch.points[i]));
+            filed.add(point, batch.lines[i]);
+            if (noted != batch.noted.end() && *noted == i) {
+                filed.keepName(point, batch.lines[i]);
+                ++noted;
+            }
             if (batch.lines[i] - reported < step)
                 continue;
             reported = batch.lines[i];
@@ -106,7 +119,7 @@ std::size_t stagePoints(CsvInput& input, const CsvImportTask& task, Read& read, 
 /// \param read   `bool(line, point, summary)`, called on another thread: fills the point from the
 ///               line number `summary.linesRead`; or answers false and, when the line should have
 ///               been a point, counts it as skipped
-/// \param file   `void(Point&&)`, called in the order of the file: puts a point into `staged`
+/// \param file   `Point&(Point&&)`, called in the order of the file: puts a point into `staged`
 /// \returns why it failed; `points` is then as it was before
 template <class Points, class Read, class File>
 Outcome importCsv(const CsvImportTask& task, Points& points, Points& staged, Read read, File file)
@@ -120,13 +133,16 @@ Outcome importCsv(const CsvImportTask& task, Points& points, Points& staged, Rea
         if (fault = input.open(task.path); !fault.isEmpty())
             return cannotRead(task.path, fault);
         summary.encoding = nameOf(input.encoding());
-        const std::size_t rows = stagePoints<Points>(input, task, read, file);
+        FiledRows<Points> filed(points, staged);
+        const std::size_t rows = stagePoints<Points>(input, task, read, file, filed);
         fault = input.fault();
         if (fault.isEmpty()) {
+            filed.tell(summary);
             const std::size_t distinct = staged.pointCount();
             summary.pointsRepeated = rows - distinct;
             summary.pointsReplaced = points.merge(std::move(staged));
             summary.pointsNew = distinct - summary.pointsReplaced;
+            summary.replaced.count = summary.pointsReplaced;
         }
     } catch (const std::exception& exception) {
         fault = reasonOf(exception);

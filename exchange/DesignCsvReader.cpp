@@ -169,12 +169,15 @@ private:
     {
         const bool hasCode = isExported(line);
         m_exportedLines += hasCode ? 1U : 0U;
-        summary.note(summary.skipped, [&] {
-            return hasCode ? translated(QT_TRANSLATE_NOOP("DesignCsv",
-                                                          "It has the nine fields of an exported "
-                                                          "design file."))
-                           : numberFault(fields);
-        });
+        summary.note(summary.skipped,
+                     [&] {
+                         return hasCode
+                                    ? translated(QT_TRANSLATE_NOOP("DesignCsv",
+                                                                   "It has the nine fields of an "
+                                                                   "exported design file."))
+                                    : numberFault(fields);
+                     },
+                     {std::string(fields[1]), std::string(fields[0])});
     }
 
     void noteSurplus(std::string_view line, std::string_view rest, ImportSummary& summary)
@@ -192,6 +195,14 @@ private:
 
 } // namespace
 
+bool isDesignRow(std::string_view line)
+{
+    Fields fields;
+    CsvFields rest(line);
+    DesignPoint point;
+    return (split(rest, fields) && convert(fields, point)) || isExported(line);
+}
+
 Outcome readDesignCsv(const QString& path, DesignPoints& points, ProgressReporter& progress,
                       ImportSummary& summary)
 {
@@ -203,7 +214,7 @@ Outcome readDesignCsv(const QString& path, DesignPoints& points, ProgressReporte
         [&](std::string_view line, DesignPoint& point, ImportSummary& counts) {
             return rows.read(line, point, counts);
         },
-        [&](DesignPoint&& point) { staged.set(std::move(point)); });
+        [&](DesignPoint&& point) -> DesignPoint& { return staged.set(std::move(point)); });
     if (outcome.isDone())
         rows.addRemarks(summary);
     return outcome;

@@ -3,6 +3,8 @@
 #include "model/PointLines.h"
 #include "protocol/Outcome.h"
 
+#include <string_view>
+
 class ProgressReporter;
 class QString;
 struct ImportSummary;
@@ -14,3 +16,6 @@ struct ImportSummary;
 /// \returns why the file cannot be read; `points` is then as it was before
 Outcome readDesignCsv(const QString& path, DesignPoints& points, ProgressReporter& progress,
                       ImportSummary& summary);
+
+/// Whether a line holds a design point, in the eight fields of an import or the nine of an export.
+[[nodiscard]] bool isDesignRow(std::string_view line);

@@ -4,38 +4,45 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 using Findings = ImportSummary::Findings;
 
 /// How a kind of findings is told.
-struct Kind
+struct KindTexts
 {
     Findings ImportSummary::*findings;
-    const char* count;   ///< null when the first line of the summary has it
-    const char* further; ///< behind the first places
+    const char* caption; ///< in a list
+    const char* count;   ///< null when another line of the numbers has it
+    const char* further; ///< behind the first places; null when the text names none of them
 };
 
-constexpr Kind kKinds[] = {
-    {&ImportSummary::skipped, nullptr,
+constexpr KindTexts kKinds[] = {
+    {&ImportSummary::skipped, QT_TRANSLATE_NOOP("ImportSummary", "Skipped line"), nullptr,
      QT_TRANSLATE_NOOP("ImportSummary", "Further lines skipped: %1.")},
-    {&ImportSummary::undecoded, nullptr,
+    {&ImportSummary::undecoded, QT_TRANSLATE_NOOP("ImportSummary", "Damaged bytes"), nullptr,
      QT_TRANSLATE_NOOP("ImportSummary", "Further fields with such bytes: %1.")},
-    {&ImportSummary::misread,
+    {&ImportSummary::misread, QT_TRANSLATE_NOOP("ImportSummary", "Unread field"),
      QT_TRANSLATE_NOOP("ImportSummary", "Fields that cannot be read and became 0: %1."),
      QT_TRANSLATE_NOOP("ImportSummary", "Further fields that cannot be read: %1.")},
-    {&ImportSummary::changed,
+    {&ImportSummary::changed, QT_TRANSLATE_NOOP("ImportSummary", "Changed field"),
      QT_TRANSLATE_NOOP("ImportSummary", "Fields taken for something else: %1."),
      QT_TRANSLATE_NOOP("ImportSummary", "Further fields taken for something else: %1.")},
-    {&ImportSummary::surplus,
+    {&ImportSummary::surplus, QT_TRANSLATE_NOOP("ImportSummary", "Cut off fields"),
      QT_TRANSLATE_NOOP("ImportSummary",
                        "Lines with too many fields, of which the last are cut off: %1. A comma in "
                        "a text begins a new field."),
      QT_TRANSLATE_NOOP("ImportSummary", "Further lines with too many fields: %1.")},
-    {&ImportSummary::shorter,
+    {&ImportSummary::shorter, QT_TRANSLATE_NOOP("ImportSummary", "Missing fields"),
      QT_TRANSLATE_NOOP("ImportSummary",
                        "Lines with fewer fields than the heading: %1. What is missing is empty."),
      QT_TRANSLATE_NOOP("ImportSummary", "Further lines with fewer fields: %1.")},
+    {&ImportSummary::repeated, QT_TRANSLATE_NOOP("ImportSummary", "Repeated row"), nullptr,
+     nullptr},
+    {&ImportSummary::replaced, QT_TRANSLATE_NOOP("ImportSummary", "Replaced point"), nullptr,
+     nullptr},
 };
 
 QString translated(const char* text)
@@ -100,7 +107,7 @@ QStringList rowLines(const ImportSummary& summary)
                                               "Rows without a line number: %1. A check point goes "
                                               "to the line in its number, any other to \"%2\"."))
                      .arg(QString::number(summary.pointsWithoutLine), QLatin1String(kEmptyLine));
-    for (const Kind& kind : kKinds) {
+    for (const KindTexts& kind : kKinds) {
         const std::size_t count = (summary.*kind.findings).count;
         if (kind.count != nullptr && count != 0)
             lines << translated(kind.count).arg(count);
@@ -115,18 +122,37 @@ QStringList rowLines(const ImportSummary& summary)
 
 } // namespace
 
+QStringList ImportSummary::numbers() const
+{
+    return fileLines(*this) + rowLines(*this);
+}
+
 QString ImportSummary::toText() const
 {
-    QStringList lines = fileLines(*this) + rowLines(*this);
+    QStringList lines = numbers();
     const QString place = isDatabase
                               ? translated(QT_TRANSLATE_NOOP("ImportSummary", "Result %1: %2"))
                               : translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"));
-    for (const Kind& kind : kKinds) {
+    for (const KindTexts& kind : kKinds) {
+        if (kind.further == nullptr)
+            continue;
         const Findings& findings = this->*kind.findings;
-        for (const Findings::Place& found : findings.first)
-            lines << place.arg(QString::number(found.line), found.text);
-        if (findings.count > findings.first.size())
-            lines << translated(kind.further).arg(findings.count - findings.first.size());
+        const std::size_t shown = std::min(findings.mostShown, findings.first.size());
+        for (std::size_t i = 0; i < shown; ++i)
+            lines << place.arg(QString::number(findings.first[i].line), findings.first[i].text);
+        if (findings.count > shown)
+            lines << translated(kind.further).arg(findings.count - shown);
     }
     return lines.join(QLatin1Char('\n'));
+}
+
+std::vector<ImportSummary::Kind> ImportSummary::kinds() const
+{
+    std::vector<Kind> kinds;
+    for (const KindTexts& kind : kKinds) {
+        const Findings& findings = this->*kind.findings;
+        if (findings.count != 0)
+            kinds.push_back({translated(kind.caption), findings});
+    }
+    return kinds;
 }

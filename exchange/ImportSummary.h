@@ -1,25 +1,42 @@
 #pragma once
 
+#include "model/PointName.h"
+
 #include <QString>
 #include <QStringList>
 
+#include <utility>
 #include <vector>
 
 /// What an import found in a file that it has read.
 struct ImportSummary
 {
-    /// Lines or fields of one kind: how many, and the first of them.
+    /// Lines, fields or points of one kind: how many, and the first of them.
     struct Findings
     {
+        static constexpr std::size_t kMostPlaces = 1000;
+
         struct Place
         {
-            std::size_t line; ///< counted from 1
-            QString text;     ///< translated, a whole sentence
+            std::size_t line;     ///< counted from 1
+            QString text;         ///< translated, a whole sentence
+            PointName point = {}; ///< as the project knows it; empty where there is none
         };
 
-        std::size_t mostPlaces = 5;
+        std::size_t mostShown = 5; ///< in `toText`
         std::size_t count = 0;
-        std::vector<Place> first; ///< at most `mostPlaces`
+        std::vector<Place> first; ///< at most `kMostPlaces`
+
+        /// \param text `QString()`; called for the first ones only
+        /// \returns whether it is one of the first
+        template <class Text>
+        bool add(std::size_t line, Text text, PointName point = {})
+        {
+            const bool isKept = ++count <= kMostPlaces;
+            if (isKept)
+                first.push_back({line, text(), std::move(point)});
+            return isKept;
+        }
     };
 
     QString path;
@@ -42,19 +59,37 @@ struct ImportSummary
     Findings surplus; ///< lines of points, of which the last fields were cut off
     Findings shorter; ///< lines of points with fewer fields than the heading
 
-    /// Counts a finding in the last line.
+    Findings repeated; ///< the later rows of points that stand in the file more than once
+    Findings replaced; ///< points of the project, with the row whose values they have now
+
+    std::string firstLine;  ///< of the points of the file, in the order of line numbers
+    std::size_t places = 0; ///< how often `note` has kept a place
+
+    /// Counts a finding in the last line. Without a name it gets that of the line's point, when the
+    /// line gives one.
     /// \param text `QString()`; called for the first few only
     template <class Text>
-    void note(Findings& findings, Text text)
+    void note(Findings& findings, Text text, PointName point = {})
     {
-        if (++findings.count <= findings.mostPlaces)
-            findings.first.push_back({linesRead, text()});
+        places += findings.add(linesRead, text, std::move(point)) ? 1U : 0U;
     }
 
     /// Whether the project has got points.
     [[nodiscard]] bool hasPoints() const { return pointsNew + pointsReplaced != 0; }
 
-    /// A few translated lines, without an end of the last: numbers first, then the first places of
+    /// What became of the file in numbers, a translated line each.
+    [[nodiscard]] QStringList numbers() const;
+
+    /// A few translated lines, without an end of the last: the numbers, then the first places of
     /// each finding.
     [[nodiscard]] QString toText() const;
+
+    /// A kind of findings, as a list of them shows it.
+    struct Kind
+    {
+        QString caption; ///< translated
+        const Findings& findings;
+    };
+    /// All kinds with findings, the worst first.
+    [[nodiscard]] std::vector<Kind> kinds() const;
 };

@@ -115,7 +115,7 @@ Outcome readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporte
         [&](std::string_view line, SurveyPoint& point, ImportSummary& counts) {
             return rows.read(line, point, counts);
         },
-        [&](SurveyPoint&& point) { filer.file(std::move(point)); });
+        [&](SurveyPoint&& point) -> SurveyPoint& { return filer.file(std::move(point)); });
     if (outcome.isDone())
         rows.addRemarks(summary);
     return outcome;

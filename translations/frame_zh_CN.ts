@@ -276,6 +276,30 @@
         <translation>数据交换(&amp;X)</translation>
     </message>
     <message>
+        <source>Import &amp;Design CSV...</source>
+        <translation>导入设计 CSV(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Add the design points of a CSV file to the project</source>
+        <translation>把 CSV 文件中的设计点加入工程</translation>
+    </message>
+    <message>
+        <source>&amp;Import Survey CSV...</source>
+        <translation>导入测量 CSV(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Add the survey results of a CSV file to the project</source>
+        <translation>把 CSV 文件中的测量成果加入工程</translation>
+    </message>
+    <message>
+        <source>Import Survey Data&amp;base...</source>
+        <translation>导入测量数据库(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Add the survey results of another project&apos;s database to the project</source>
+        <translation>把另一工程数据库中的测量成果加入工程</translation>
+    </message>
+    <message>
         <source>&amp;Export Report...</source>
         <translation>导出报告(&amp;E)...</translation>
     </message>

@@ -15,6 +15,8 @@ public:
     virtual int openMainWindows() = 0;
     /// Asked before the application closes; 0 keeps it open.
     virtual int queryClose() = 0;
+    /// Whether `openFile` takes a file of this name; asked while it is dragged over the window.
+    [[nodiscard]] virtual bool canOpen(const QString& path) const = 0;
     /// Opens a file that the user dropped on the window or named on the command line. Answers 0 for
     /// a file of another kind.
     virtual int openFile(const QString& path) = 0;
@@ -27,5 +29,6 @@ public:
     int onMapViewCreated() override { return 1; }
     int openMainWindows() override { return 1; }
     int queryClose() override { return 1; }
+    [[nodiscard]] bool canOpen(const QString& /*path*/) const override { return false; }
     int openFile(const QString& /*path*/) override { return 0; }
 };

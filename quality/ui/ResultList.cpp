@@ -6,7 +6,6 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_sdk/DpiScale.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
@@ -23,12 +22,7 @@
 #include <QMenu>
 #include <QPointer>
 
-#include <algorithm>
-
 namespace {
-
-constexpr int kMargin = 10;
-constexpr int kStep = 36; // from one list to the next: a title bar and its frame
 
 /// The folder of the open project; empty without one.
 std::string openProject()
@@ -77,7 +71,7 @@ ResultList::ResultList(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> 
     addMenu();
     makeMainLayout()->addWidget(m_table);
     resize(minimumSize());
-    moveIntoCorner();
+    moveIntoCorner(); // a clicked point appears in the middle of the map
 }
 
 void ResultList::addMenu()
@@ -87,27 +81,6 @@ void ResultList::addMenu()
     menu->addAction(tr("&Save as CSV..."), this, &ResultList::saveRows);
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, menu,
             [menu](const QModelIndex& /*index*/, const QPoint& place) { menu->popup(place); });
-}
-
-void ResultList::moveIntoCorner()
-{
-    const QWidget* const frame = parentWidget();
-    if (frame == nullptr)
-        return;
-    // The lower right corner: it leaves the map and the first columns of the tables free.
-    const QPoint corner = frame->mapToGlobal(frame->rect().bottomRight());
-    QPoint place = corner - rect().bottomRight() - QPoint(kMargin, kMargin);
-    const QPoint step(dpi_scaled(kStep), dpi_scaled(kStep));
-    const auto others = frame->findChildren<ResultList*>();
-    const auto isTaken = [&] {
-        return std::any_of(others.begin(), others.end(), [&](const ResultList* other) {
-            return other->isVisible() &&
-                   (other->pos() - place).manhattanLength() < step.manhattanLength();
-        });
-    };
-    while (isTaken()) // ends, since the places move away from every list
-        place -= step;
-    move(place);
 }
 
 void ResultList::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)

@@ -46,7 +46,6 @@ protected:
 
 private:
     void addMenu();
-    void moveIntoCorner();
     void selectPoint(const QModelIndex& index);
     /// Does nothing when the point was deleted after the check.
     void zoomToPoint(const QModelIndex& index);

@@ -685,14 +685,14 @@ private Q_SLOTS:
         makeProject("a");
         makeProject("b");
         open("a");
-        m_frame->openWhenFree(place("a").file);
+        m_frame->openWhenFree({place("a").file});
         expectAsked(""); // it is open already
         answerNo("close current project?");
-        m_frame->openWhenFree(place("b").file);
+        m_frame->openWhenFree({place("b").file});
         expectAsked("information: close current project?\n");
         QVERIFY(isOpen("a"));
         m_answers.clear();
-        m_frame->openWhenFree(place("b").file);
+        m_frame->openWhenFree({place("b").file});
         QVERIFY(isOpen("b"));
     }
 

@@ -35,9 +35,9 @@ protected:
                     point = {"L", std::to_string(counts.linesRead), 9, 9, 9, 9, 9, 9};
                     return true;
                 },
-                [&](DesignPoint&& point) {
+                [&](DesignPoint&& point) -> DesignPoint& {
                     filing(staged.pointCount());
-                    staged.set(std::move(point));
+                    return staged.set(std::move(point));
                 });
         });
         if (outcome.wait_for(std::chrono::seconds(60)) != std::future_status::ready)

@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Files, TextEncoding, testing::Values(
     [](const auto& test) { return test.param.name; });
 // clang-format on
 
-TEST_F(CsvFixture, FaultsFarBehindInALargeFileAreCountedAndAHundredNamed)
+TEST_F(CsvFixture, FaultsFarBehindInALargeFileAreCountedAndNamed)
 {
     QByteArray text = kHeading;
     for (int i = 0; i < 60000; ++i)
@@ -93,7 +93,7 @@ TEST_F(CsvFixture, FaultsFarBehindInALargeFileAreCountedAndAHundredNamed)
     ASSERT_TRUE(readSurveyCsv(file(text), points, progress, summary).isDone());
     EXPECT_EQ(points.lineCount(), 2U);
     EXPECT_EQ(summary.undecoded.count, 107U);
-    ASSERT_EQ(summary.undecoded.first.size(), 100U);
+    ASSERT_EQ(summary.undecoded.first.size(), 107U);
     EXPECT_EQ(summary.undecoded.first[0].line, 60002U);
     EXPECT_EQ(summary.undecoded.first[0].text.toStdString(), "Field 3, \"石�\", is damaged.");
 }

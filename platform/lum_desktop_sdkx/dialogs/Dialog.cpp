@@ -17,6 +17,8 @@ namespace {
 
 constexpr int kMargin = 12;
 constexpr int kSpacing = 10;
+constexpr int kCornerGap = 10;
+constexpr int kCornerStep = 36; // from one dialog to the next: a title bar and its frame
 
 QHash<QString, QSize>& rememberedSizes()
 {
@@ -75,6 +77,28 @@ QVBoxLayout* Dialog::makeMainLayout()
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(dpi_scaled(kSpacing));
     return layout;
+}
+
+void Dialog::moveIntoCorner()
+{
+    const QWidget* const parent = parentWidget();
+    if (parent == nullptr)
+        return;
+    const int gap = dpi_scaled(kCornerGap);
+    const QPoint corner = parent->mapToGlobal(parent->rect().bottomRight());
+    QPoint place = corner - rect().bottomRight() - QPoint(gap, gap);
+    const QPoint step(dpi_scaled(kCornerStep), dpi_scaled(kCornerStep));
+    const auto others = parent->findChildren<Dialog*>();
+    const auto isTaken = [&] {
+        return std::any_of(others.begin(), others.end(), [&](const Dialog* other) {
+            const QPoint away = other->geometry().bottomRight() - rect().bottomRight() - place;
+            return other != this && other->isVisible() &&
+                   away.manhattanLength() < step.manhattanLength();
+        });
+    };
+    while (isTaken()) // ends, since the places move away from every dialog
+        place -= step;
+    move(place);
 }
 
 void Dialog::rememberSize(const QString& key)

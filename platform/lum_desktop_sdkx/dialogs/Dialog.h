@@ -23,6 +23,10 @@ public:
     void setVisible(bool visible) override;
 
 protected:
+    /// For a window beside the work, of a known size: puts it into the lower right corner of its
+    /// parent, away from other dialogs that are there already.
+    void moveIntoCorner();
+
     /// The outermost layout, with the margins and spacing that all dialogs share.
     QVBoxLayout* makeMainLayout();
 

@@ -185,7 +185,7 @@ void Applicationx::receiveLaterStarts(const QString& program)
                 return;
             m_mainFrame->comeToFront();
             if (!file.isEmpty())
-                m_mainFrame->openWhenFree(file);
+                m_mainFrame->openWhenFree({file});
         },
         Qt::QueuedConnection);
 }
@@ -204,7 +204,7 @@ void Applicationx::reportShown()
     if (!picture.isEmpty())
         m_mainFrame->resize(dpi_scaled(1280), dpi_scaled(800)); // the same on every screen
     if (!fileToOpen().isEmpty())
-        m_mainFrame->openWhenFree(fileToOpen());
+        m_mainFrame->openWhenFree({fileToOpen()});
     if (!picture.isEmpty()) {
         QTimer::singleShot(500, this, [this] { // enough time for the map's worker
             const QString& file = m_commandLine.screenshotFile;

@@ -10,15 +10,13 @@
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/events/PlatformEvents.h"
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "lum_sdk/Text.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <qtadvanceddocking/DockManager.h>
 #include <qtadvanceddocking/FloatingDockContainer.h>
@@ -26,7 +24,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -50,20 +47,6 @@ ads::CDockManager* makeDockManager(QMainWindow* frame)
     CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon, desktop::dockCloseIcon());
     desktop::showDockFocus(*docks);
     return docks;
-}
-
-/// The path of the dragged file; empty unless it is a single file of the program's kind.
-QString droppedFile(const QDropEvent& event)
-{
-    const QList<QUrl> urls = event.mimeData()->urls();
-    if (urls.size() != 1 || !urls.constFirst().isLocalFile())
-        return {};
-    const std::string_view extension =
-        get_system_config_parameter().dictionary().text("extension", "kelx");
-    const QString file = urls.constFirst().toLocalFile();
-    const bool isOurs =
-        QFileInfo(file).suffix().compare(lum::toQString(extension), Qt::CaseInsensitive) == 0;
-    return isOurs ? file : QString();
 }
 
 /// Keeps the height of the status bar. If a progress bar, or a text in the taller letters of
@@ -148,20 +131,40 @@ bool MainFrame::openFile(const QString& path)
                        [&](const auto& assistant) { return assistant->openFile(path) != 0; });
 }
 
-void MainFrame::openWhenFree(const QString& path)
+void MainFrame::openWhenFree(const QStringList& paths)
 {
-    m_waitingFile = path;
-    openWaitingFile();
+    m_waitingFiles += paths;
+    openWaitingFiles();
 }
 
-void MainFrame::openWaitingFile()
+void MainFrame::openWaitingFiles()
 {
-    if (m_waitingFile.isEmpty() || QApplication::activeModalWidget() != nullptr)
+    if (m_opensFiles) // what is opened now has asked something, and was answered
         return;
-    const QString file = std::exchange(m_waitingFile, {});
-    if (!openFile(file))
-        LumMessageBox::warning(this, QCoreApplication::applicationName(),
-                               tr("\"%1\" is not a project file.").arg(file));
+    const QScopedValueRollback<bool> opening(m_opensFiles, true);
+    while (!m_waitingFiles.isEmpty() && QApplication::activeModalWidget() == nullptr) {
+        const QString file = m_waitingFiles.takeFirst();
+        if (!openFile(file))
+            LumMessageBox::warning(this, QCoreApplication::applicationName(),
+                                   tr("\"%1\" is not a file that can be opened here.").arg(file));
+    }
+}
+
+bool MainFrame::canOpen(const QString& path) const
+{
+    return std::any_of(m_assistants.begin(), m_assistants.end(),
+                       [&](const auto& assistant) { return assistant->canOpen(path); });
+}
+
+QStringList MainFrame::droppedFiles(const QDropEvent& event) const
+{
+    QStringList files;
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (!url.isLocalFile() || !canOpen(url.toLocalFile()))
+            return {};
+        files << url.toLocalFile();
+    }
+    return files;
 }
 
 void MainFrame::comeToFront()
@@ -221,17 +224,17 @@ void MainFrame::showTitle()
 
 void MainFrame::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!droppedFile(*event).isEmpty())
+    if (!droppedFiles(*event).isEmpty())
         event->acceptProposedAction();
 }
 
 void MainFrame::dropEvent(QDropEvent* event)
 {
-    const QString file = droppedFile(*event);
+    const QStringList files = droppedFiles(*event);
     event->acceptProposedAction();
     // Not at once: the program that the file comes from waits until this returns, and opening may
     // ask the user.
-    QTimer::singleShot(0, this, [this, file] { openFile(file); });
+    QTimer::singleShot(0, this, [this, files] { openWhenFree(files); });
 }
 
 void MainFrame::closeEvent(QCloseEvent* event)
@@ -258,7 +261,7 @@ bool MainFrame::event(QEvent* event)
     }
     // A zero timer fires when the command that had the dialog open is through with it.
     if (event->type() == QEvent::WindowUnblocked)
-        QTimer::singleShot(0, this, &MainFrame::openWaitingFile);
+        QTimer::singleShot(0, this, &MainFrame::openWaitingFiles);
     return handled;
 }
 

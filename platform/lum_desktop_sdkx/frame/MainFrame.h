@@ -8,6 +8,7 @@
 #include "lum_sdk/events/IEventManager.h"
 
 #include <QMainWindow>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -43,9 +44,9 @@ public:
     /// \returns false when none has
     bool openFile(const QString& path);
 
-    /// The same, and says so when none has. While a dialog is open the file waits for its end; of
-    /// several that wait the latest is opened.
-    void openWhenFree(const QString& path);
+    /// The same for several, one after the other, and says so when none has opened one. While a
+    /// dialog is open the files wait for its end.
+    void openWhenFree(const QStringList& paths);
 
     /// Raises the frame above other programs, also when it is minimised, with an open dialog on
     /// top.
@@ -70,7 +71,10 @@ private:
     /// The size of the first start.
     void fillScreen();
     void saveArrangement();
-    void openWaitingFile();
+    void openWaitingFiles();
+    [[nodiscard]] bool canOpen(const QString& path) const;
+    /// The paths of dragged files; none unless all of them can be opened.
+    [[nodiscard]] QStringList droppedFiles(const QDropEvent& event) const;
     /// Makes the frame's shortcuts work in a window that has left the frame.
     void adoptFloating(ads::CFloatingDockContainer* window);
 
@@ -81,7 +85,8 @@ private:
     QString m_title;
     DesktopDocument m_document;
     QByteArray m_defaultToolBars;
-    QString m_waitingFile; ///< to be opened when no dialog is open any more
+    QStringList m_waitingFiles; ///< to be opened when no dialog is open any more
+    bool m_opensFiles = false;
     EventSubscription m_subscription;
     bool m_wasPainted = false;
 };

@@ -292,14 +292,14 @@ private Q_SLOTS:
         ShownFrame shown;
         Told told;
         openedFiles.clear();
-        shown.frame.openWhenFree("/a.x"_q);
+        shown.frame.openWhenFree({"/a.x"_q});
         QCOMPARE(openedFiles.join(QLatin1Char(' ')), "/a.x"_q);
 
         QDialog second(&shown.frame);
         QDialog first(&shown.frame);
         QTimer::singleShot(0, [&] {
-            shown.frame.openWhenFree("/b.x"_q);
-            shown.frame.openWhenFree("/c.x"_q); // the latest counts
+            shown.frame.openWhenFree({"/b.x"_q});
+            shown.frame.openWhenFree({"/c.x"_q, "/d.x"_q});
             first.accept();
         });
         QTimer::singleShot(50, [&] {
@@ -309,11 +309,12 @@ private Q_SLOTS:
         first.exec();
         second.exec(); // what the same command asks next
         QCOMPARE(openedFiles.size(), 1);
-        QTRY_COMPARE(openedFiles.join(QLatin1Char(' ')), "/a.x /c.x"_q);
+        QTRY_COMPARE(openedFiles.join(QLatin1Char(' ')), "/a.x /b.x /c.x /d.x"_q);
 
         QVERIFY(told.texts.isEmpty());
-        shown.frame.openWhenFree("/d.txt"_q);
-        QCOMPARE(told.texts, QStringList("\"/d.txt\" is not a project file."_q));
+        shown.frame.openWhenFree({"/d.txt"_q, "/e.x"_q});
+        QCOMPARE(told.texts, QStringList("\"/d.txt\" is not a file that can be opened here."_q));
+        QCOMPARE(openedFiles.last(), "/e.x"_q);
     }
 
     void comesToTheFrontFromTheTaskBar()
