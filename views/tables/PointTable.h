@@ -9,10 +9,12 @@
 #include "views/tables/ShownRows.h"
 #include "views/tables/SortKeys.h"
 
-#include <QCollator>
-
+#include <algorithm>
+#include <cmath>
 #include <limits>
 #include <numeric>
+#include <optional>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -206,6 +208,8 @@ QVariant PointTable<Point>::data(const QModelIndex& index, int role) const
     case Qt::BackgroundRole:
     case Qt::ToolTipRole:
         return look(*point, index.column(), role);
+    case Qt::AccessibleDescriptionRole: // a colour alone tells too few
+        return look(*point, index.column(), Qt::ToolTipRole);
     case kPointNumberRole:
         return index.column() == 0 ? lum::toQString(point->pointNumber) : QVariant();
     case kLineNumberRole:
@@ -374,7 +378,7 @@ void PointTable<Point>::sort(std::vector<std::uint32_t>& places) const
         sortByNames(items, isDescending,
                     [&](std::uint32_t row) { return std::string_view(m_rows[row].*name); });
     } else if (column.kind == ColumnKind::Text) {
-        sortByTexts(items, isDescending, QCollator(),
+        sortByTexts(items, isDescending,
                     [&](std::uint32_t row) { return text(m_rows[row], m_sortColumn); });
     } else {
         std::visit(
