@@ -650,6 +650,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Save Survey Data</source>
         <translation>正在保存测量数据</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the open project; please choose another file.</source>
+        <translation>“%1”是打开的工程的文件；请选择另一个文件。</translation>
+    </message>
 </context>
 <context>
     <name>DataProcessLayerImp</name>
@@ -1140,6 +1144,89 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The file holds no row of a point.</source>
         <translation>文件中没有测点数据行。</translation>
+    </message>
+    <message>
+        <source>The database holds no result.</source>
+        <translation>数据库中没有成果。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: results read: %2, points added: %3, points replaced: %4, results skipped: %5.</source>
+        <translation>“%1”：读取 %2 个成果，新增 %3 个点，替换 %4 个点，跳过 %5 个成果。</translation>
+    </message>
+    <message>
+        <source>Result %1: %2</source>
+        <translation>成果 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Kml</name>
+    <message>
+        <source>point &quot;%1&quot; of line &quot;%2&quot;</source>
+        <translation>测线“%2”的点“%1”</translation>
+    </message>
+    <message>
+        <source>Points that have no place on the globe and were left out: %1. The first is %2: %3</source>
+        <translation>在地球上没有位置而被略去的点：%1 个。第一个是%2：%3</translation>
+    </message>
+    <message>
+        <source>the project has no usable coordinate system. %1</source>
+        <translation>工程没有可用的坐标系统。%1</translation>
+    </message>
+    <message>
+        <source>the library GDAL has no driver for KML here</source>
+        <translation>此处的 GDAL 库没有 KML 驱动</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>测线</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>receiver</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>激发点</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Solution</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
     </message>
 </context>
 <context>
@@ -2051,6 +2138,25 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>SurveyDatabase</name>
+    <message>
+        <source>Saving that project was interrupted. The results are those that were saved before.</source>
+        <translation>那个工程的保存曾被中断。成果是此前保存的。</translation>
+    </message>
+    <message>
+        <source>%1 (%2, there %3)</source>
+        <translation>%1（本工程 %2，对方 %3）</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另有 %1 项</translation>
+    </message>
+    <message>
+        <source>The results of &quot;%1&quot; were not imported: their coordinate system is not the project&apos;s. It differs in %2.</source>
+        <translation>“%1”的成果没有导入：其坐标系统与本工程不同。不同的参数：%2。</translation>
+    </message>
+</context>
+<context>
     <name>SurveyHeadings</name>
     <message>
         <source>&quot;%1&quot; must be written &quot;%2&quot;.</source>
@@ -2087,6 +2193,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>It lacks the caption %1.</source>
         <translation>它缺少列标题 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyTable</name>
+    <message>
+        <source>base id</source>
+        <translation>基准站号</translation>
     </message>
 </context>
 <context>
