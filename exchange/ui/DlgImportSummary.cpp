@@ -31,7 +31,8 @@ namespace {
 constexpr int kWidth = 760;
 constexpr int kHeight = 460;
 constexpr int kHeightAlone = 240; ///< without a table
-constexpr int kMostLines = 7;     ///< of the numbers, before they scroll
+constexpr int kColumnGap = 12;
+constexpr int kMostNumbers = 160; ///< height of the numbers, before they scroll
 
 QString openProject()
 {
@@ -124,7 +125,10 @@ void DlgImportSummary::addFindings(const ImportSummary& summary, QVBoxLayout& ro
 {
     m_table = new CustomTableWidget(this);
     m_table->setModel(new ImportFindingsModel(summary, m_table));
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    QHeaderView& header = *m_table->horizontalHeader();
+    header.setStretchLastSection(true);
+    for (int column = 0; column < header.count() - 1; ++column) // a caption in Chinese is wider
+        header.resizeSection(column, header.sectionSize(column) + dpi_scaled(kColumnGap));
     connect(m_table, &QAbstractItemView::clicked, this, &DlgImportSummary::showFinding);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &DlgImportSummary::showFinding);
     auto* const menu = new QMenu(this);
@@ -182,9 +186,11 @@ void DlgImportSummary::showEvent(QShowEvent* event)
     if (m_table == nullptr)
         return; // the numbers have all the room
     layout()->activate();
-    const int lines = std::min(kMostLines, int(m_numbers->document()->size().height()));
-    const int margin = 2 * int(m_numbers->document()->documentMargin());
-    m_numbers->setFixedHeight(lines * m_numbers->fontMetrics().lineSpacing() + margin + 2);
+    QTextCursor end(m_numbers->document());
+    end.movePosition(QTextCursor::End);
+    const int margin = int(m_numbers->document()->documentMargin());
+    m_numbers->setFixedHeight(
+        std::min(m_numbers->cursorRect(end).bottom() + 2 * margin, dpi_scaled(kMostNumbers)));
 }
 
 void DlgImportSummary::showFinding(const QModelIndex& index)
