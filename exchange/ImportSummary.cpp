@@ -54,6 +54,8 @@ QString translated(const char* text)
 /// it.
 QString whyNoPoint(const ImportSummary& summary)
 {
+    if (summary.linesRead == 0 && summary.isDatabase)
+        return translated(QT_TRANSLATE_NOOP("ImportSummary", "The database holds no result."));
     if (summary.linesRead == 0)
         return translated(QT_TRANSLATE_NOOP("ImportSummary", "The file is empty."));
     const std::size_t points = summary.pointsNew + summary.pointsReplaced;
@@ -66,12 +68,17 @@ QString whyNoPoint(const ImportSummary& summary)
 QStringList fileLines(const ImportSummary& summary)
 {
     QStringList lines;
-    lines << translated(QT_TRANSLATE_NOOP("ImportSummary",
-                                          "\"%1\": lines read: %2, points added: %3, points "
-                                          "replaced: %4, lines skipped: %5."))
-                 .arg(summary.path, QString::number(summary.linesRead),
-                      QString::number(summary.pointsNew), QString::number(summary.pointsReplaced),
-                      QString::number(summary.skipped.count));
+    const char* const counts =
+        summary.isDatabase
+            ? QT_TRANSLATE_NOOP("ImportSummary",
+                                "\"%1\": results read: %2, points added: %3, points replaced: %4, "
+                                "results skipped: %5.")
+            : QT_TRANSLATE_NOOP("ImportSummary",
+                                "\"%1\": lines read: %2, points added: %3, points replaced: %4, "
+                                "lines skipped: %5.");
+    lines << translated(counts).arg(
+        summary.path, QString::number(summary.linesRead), QString::number(summary.pointsNew),
+        QString::number(summary.pointsReplaced), QString::number(summary.skipped.count));
     if (summary.encoding != ImportSummary().encoding)
         lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "The file's encoding is %1."))
                      .arg(summary.encoding);
@@ -123,14 +130,16 @@ QStringList ImportSummary::numbers() const
 QString ImportSummary::toText() const
 {
     QStringList lines = numbers();
+    const QString place = isDatabase
+                              ? translated(QT_TRANSLATE_NOOP("ImportSummary", "Result %1: %2"))
+                              : translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"));
     for (const KindTexts& kind : kKinds) {
         if (kind.further == nullptr)
             continue;
         const Findings& findings = this->*kind.findings;
         const std::size_t shown = std::min(findings.mostShown, findings.first.size());
         for (std::size_t i = 0; i < shown; ++i)
-            lines << translated(QT_TRANSLATE_NOOP("ImportSummary", "Line %1: %2"))
-                         .arg(QString::number(findings.first[i].line), findings.first[i].text);
+            lines << place.arg(QString::number(findings.first[i].line), findings.first[i].text);
         if (findings.count > shown)
             lines << translated(kind.further).arg(findings.count - shown);
     }

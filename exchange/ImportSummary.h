@@ -18,7 +18,7 @@ struct ImportSummary
 
         struct Place
         {
-            std::size_t line;     ///< counted from 1
+            std::size_t line;     ///< counted from 1; 0 where it is not known
             QString text;         ///< translated, a whole sentence
             PointName point = {}; ///< as the project knows it; empty where there is none
         };
@@ -40,6 +40,7 @@ struct ImportSummary
     };
 
     QString path;
+    bool isDatabase = false; ///< the lines are rows of its table of results
     QString encoding = QStringLiteral("UTF-8");
     std::size_t linesRead = 0;
     std::size_t pointsNew = 0;

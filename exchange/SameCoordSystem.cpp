@@ -28,14 +28,10 @@ constexpr std::array kHeightFitKeys = {
 
 using Keys = std::span<const char* const>;
 
-bool differInNumber(const IDictionary& first, const IDictionary& second, Keys keys)
+bool isSameNumber(const IDictionary& first, const IDictionary& second, const char* key)
 {
-    for (const char* key : keys) {
-        // A number that is NaN differs from all.
-        if (!(std::abs(first.number(key) - second.number(key)) <= kTolerance))
-            return true;
-    }
-    return false;
+    // A number that is NaN differs from all.
+    return std::abs(first.number(key) - second.number(key)) <= kTolerance;
 }
 
 bool hasEffect(const IDictionary& parameters, Keys keys)
@@ -46,25 +42,53 @@ bool hasEffect(const IDictionary& parameters, Keys keys)
     return !(sum <= kTolerance);
 }
 
-/// Compares a group of parameters that `flag` switches on.
-bool differInGroup(const IDictionary& first, const IDictionary& second, const char* flag, Keys keys)
+/// Collects the keys of what differs between two systems.
+class Comparison
 {
-    const bool isFirstOn = first.integer(flag) != 0;
-    const bool isSecondOn = second.integer(flag) != 0;
-    if (isFirstOn && isSecondOn)
-        return differInNumber(first, second, keys);
-    if (isFirstOn)
-        return hasEffect(first, keys);
-    return isSecondOn && hasEffect(second, keys);
-}
+public:
+    Comparison(const IDictionary& first, const IDictionary& second)
+        : m_first(first), m_second(second)
+    {
+    }
 
-bool differInDatumShift(const IDictionary& first, const IDictionary& second)
-{
-    const int kind = first.integer("_7type");
-    const int otherKind = second.integer("_7type");
-    return (kind != 0 && otherKind != 0 && kind != otherKind) ||
-           differInGroup(first, second, "_7type", kDatumShiftKeys);
-}
+    void numbers(Keys keys)
+    {
+        for (const char* key : keys)
+            note(key, !isSameNumber(m_first, m_second, key));
+    }
+
+    /// A group of parameters that `flag` switches on.
+    void group(const char* flag, Keys keys)
+    {
+        const bool isFirstOn = m_first.integer(flag) != 0;
+        const bool isSecondOn = m_second.integer(flag) != 0;
+        if (isFirstOn && isSecondOn)
+            numbers(keys);
+        else if (isFirstOn || isSecondOn)
+            note(flag, hasEffect(isFirstOn ? m_first : m_second, keys));
+    }
+
+    void datumShift()
+    {
+        const int kind = m_first.integer("_7type");
+        const int otherKind = m_second.integer("_7type");
+        note("_7type", kind != 0 && otherKind != 0 && kind != otherKind);
+        group("_7type", kDatumShiftKeys);
+    }
+
+    void note(const char* key, bool isDifferent)
+    {
+        if (isDifferent)
+            m_keys.emplace_back(key);
+    }
+
+    [[nodiscard]] std::vector<std::string> keys() && { return std::move(m_keys); }
+
+private:
+    const IDictionary& m_first;
+    const IDictionary& m_second;
+    std::vector<std::string> m_keys;
+};
 
 /// An axis to the south or west changes the sign of every coordinate; it has no number.
 bool differInAxes(const IDictionary& first, const IDictionary& second)
@@ -76,12 +100,21 @@ bool differInAxes(const IDictionary& first, const IDictionary& second)
 
 } // namespace
 
+std::vector<std::string> differingParameters(const IDictionary& first, const IDictionary& second)
+{
+    Comparison comparison(first, second);
+    comparison.note("project_type",
+                    first.integer("project_type") != second.integer("project_type"));
+    comparison.note(lum::kAxesKey, differInAxes(first, second));
+    comparison.numbers(kProjectionKeys);
+    comparison.datumShift();
+    comparison.group("_4valid", kPlaneShiftKeys);
+    comparison.group("correct_valid", kConstantKeys);
+    comparison.group("fit_valid", kHeightFitKeys);
+    return std::move(comparison).keys();
+}
+
 bool sameCoordSystem(const IDictionary& first, const IDictionary& second)
 {
-    return !differInNumber(first, second, kProjectionKeys) &&
-           first.integer("project_type") == second.integer("project_type") &&
-           !differInAxes(first, second) && !differInDatumShift(first, second) &&
-           !differInGroup(first, second, "_4valid", kPlaneShiftKeys) &&
-           !differInGroup(first, second, "correct_valid", kConstantKeys) &&
-           !differInGroup(first, second, "fit_valid", kHeightFitKeys);
+    return differingParameters(first, second).empty();
 }

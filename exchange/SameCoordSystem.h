@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 class IDictionary;
 
 /// Whether two coordinate-parameter dictionaries describe the same coordinate system.
@@ -9,3 +12,8 @@ class IDictionary;
 /// equals one that is off. The kind of the datum shift counts, the other switches only as on or
 /// off; the geoid does not count.
 [[nodiscard]] bool sameCoordSystem(const IDictionary& first, const IDictionary& second);
+
+/// The keys of the parameters by which they differ; none for the same system. Of a group that only
+/// one of them has switched on it is the switch.
+[[nodiscard]] std::vector<std::string> differingParameters(const IDictionary& first,
+                                                           const IDictionary& second);

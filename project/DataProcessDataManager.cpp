@@ -4,11 +4,13 @@
 #include "basalt_utilities/ILogger.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
+#include "exchange/DesignKml.h"
 #include "exchange/ExportColumns.h"
 #include "exchange/ImportSummary.h"
 #include "exchange/SeaHeights.h"
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
+#include "exchange/SurveyKml.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
@@ -19,12 +21,12 @@
 #include "model/CodeTables.h"
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
+#include "project/DesignDatabase.h"
 #include "project/ParameterFiles.h"
 #include "project/PointCorrection.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectLoader.h"
-#include "project/ProjectPlace.h"
 #include "project/ProjectSaver.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
@@ -76,6 +78,14 @@ Outcome withSummary(const Outcome& outcome, const ImportSummary& summary, Import
     if (counts != nullptr)
         *counts = summary;
     return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
+}
+
+Outcome ownFile(const QString& path)
+{
+    return Outcome::failed(QCoreApplication::translate(
+                               "DataProcessDataManager",
+                               "\"%1\" belongs to the open project; please choose another file.")
+                               .arg(path));
 }
 
 /// What the checks have found in each result.
@@ -156,6 +166,7 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
     m_project = std::move(project);
     m_projectFile = projectFile.isDone() ? place.file : QString();
     m_projectFileFault = projectFile.text();
+    m_place = place;
     reading.add(m_projectFileFault);
     return reading;
 }
@@ -234,6 +245,7 @@ void DataProcessDataManager::clear()
     m_project.clear();
     m_projectFile.clear();
     m_projectFileFault.clear();
+    m_place = {};
     m_seaHeightNotice.clear();
     m_qualityParameters.clear();
     m_designParameters.clear();
@@ -273,11 +285,21 @@ Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QStrin
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters());
 }
 
+template <class Write>
+int DataProcessDataManager::exportTo(const QString& path, Outcome* outcome, Write write)
+{
+    if (m_place.owns(path))
+        return answered(ownFile(path), outcome);
+    ProgressReporter progress(&m_host.eventManager());
+    return answered(write(progress), outcome);
+}
+
 int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QString& path,
                                             bool onlyUnsurveyed, Outcome* outcome)
 {
-    ProgressReporter progress(&m_host.eventManager());
-    return answered(writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress), outcome);
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress);
+    });
 }
 
 int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcome,
@@ -298,8 +320,9 @@ int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QStr
         m_exportCaptions = m_surveyCaptions;
     const SurveyCsvChoice choice{captions.isEmpty() ? m_exportCaptions : captions,
                                  get_system_status_dictionary().integer(status::kDegreeFormat)};
-    ProgressReporter progress(&m_host.eventManager());
-    return answered(writeSurveyCsv(path, m_survey, lines, choice, progress), outcome);
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return writeSurveyCsv(path, m_survey, lines, choice, progress);
+    });
 }
 
 int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome,
@@ -313,29 +336,62 @@ int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcom
     return answered(withSummary(reading, summary, counts), outcome);
 }
 
-int DataProcessDataManager::exportDesignDatabase(const QStringList& /*lines*/,
-                                                 const QString& /*path*/, bool /*onlyUnsurveyed*/,
-                                                 Outcome* outcome)
+int DataProcessDataManager::exportDesignDatabase(const QStringList& lines, const QString& path,
+                                                 bool onlyUnsurveyed, Outcome* outcome)
 {
-    return answered(Outcome::failed({}), outcome);
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return writeDesignDatabase(path, {m_design, lines, onlyUnsurveyed},
+                                   get_project_coord_transform().parameters(), progress);
+    });
 }
 
-int DataProcessDataManager::exportDesignKml(const QStringList& /*lines*/, const QString& /*path*/,
-                                            bool /*onlyUnsurveyed*/, Outcome* outcome)
+int DataProcessDataManager::exportDesignKml(const QStringList& lines, const QString& path,
+                                            bool onlyUnsurveyed, Outcome* outcome)
 {
-    return answered(Outcome::failed({}), outcome);
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return writeDesignKml(path, {m_design, lines, onlyUnsurveyed},
+                              get_project_coord_transform(), progress);
+    });
 }
 
-int DataProcessDataManager::exportSurveyKml(const QStringList& /*lines*/, const QString& /*path*/,
+int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QString& path,
                                             Outcome* outcome)
 {
-    return answered(Outcome::failed({}), outcome);
+    const auto words = [limits =
+                            QualityLimits::from(m_qualityParameters)](const SurveyPoint& point) {
+        std::vector<QualityRow> rows;
+        ::describeQuality(point, limits, rows);
+        QStringList texts;
+        for (const QualityRow& row : rows)
+            texts << row.text();
+        return texts.join(QLatin1Char(' '));
+    };
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return writeSurveyKml(path, {m_survey, lines, words}, get_project_coord_transform(),
+                              progress);
+    });
 }
 
-int DataProcessDataManager::importSurveyDatabase(const QString& /*path*/, Outcome* outcome,
-                                                 ImportSummary* /*counts*/)
+int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* outcome,
+                                                 ImportSummary* counts)
 {
-    return answered(Outcome::failed({}), outcome);
+    if (m_place.owns(path))
+        return answered(ownFile(path), outcome);
+    ProgressReporter progress(&m_host.eventManager());
+    ImportSummary summary;
+    const Outcome reading = readSurveyDatabase(
+        path, {m_survey, get_project_coord_transform().parameters(), m_onOtherSystem}, progress,
+        summary);
+    if (reading.isDone() && summary.hasPoints()) {
+        recomputeSeaHeights();
+        markChanged();
+    }
+    return answered(withSummary(reading, summary, counts), outcome);
+}
+
+void DataProcessDataManager::setOtherSystemHandler(OtherSystemHandler handler)
+{
+    m_onOtherSystem = std::move(handler);
 }
 
 std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointName>& points)

@@ -7,6 +7,8 @@
 #include "model/PointName.h"
 #include "project/DBAdapter.h"
 #include "project/ProjectLock.h"
+#include "project/ProjectPlace.h"
+#include "project/SurveyDatabase.h"
 #include "protocol/Outcome.h"
 
 #include <QStringList>
@@ -20,7 +22,6 @@ struct CheckedData;
 struct CheckKind;
 struct DesignCorrection;
 struct ImportSummary;
-struct ProjectPlace;
 struct QualityRow;
 struct SurveyCorrection;
 
@@ -103,18 +104,23 @@ public:
     int importSurveyCsv(const QString& path, Outcome* outcome = nullptr,
                         ImportSummary* counts = nullptr);
 
-    // Databases and KML files, see exchange/.
+    // Databases and KML files, see DesignDatabase.h, SurveyDatabase.h and exchange/. Lines are
+    // written in the order of the list. No export replaces a file of the open project.
 
     /// Writes the points into a new database with the project's coordinate system, over a file
     /// that is there.
     int exportDesignDatabase(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
                              Outcome* outcome = nullptr);
+    /// A point without a place on the globe is left out; the outcome has a notice then.
     int exportDesignKml(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
                         Outcome* outcome = nullptr);
     int exportSurveyKml(const QStringList& lines, const QString& path, Outcome* outcome = nullptr);
-    /// Adds the results of another project's database. One of another coordinate system is refused.
+    /// Adds the results of another project's database. One of another coordinate system is refused,
+    /// after the handler of `setOtherSystemHandler` has got it.
     int importSurveyDatabase(const QString& path, Outcome* outcome = nullptr,
                              ImportSummary* counts = nullptr);
+    /// For the user interface, which then shows both systems.
+    void setOtherSystemHandler(OtherSystemHandler handler);
 
     // Changes by hand. What is not there is passed over.
 
@@ -179,11 +185,16 @@ private:
     [[nodiscard]] Outcome readDatabase(const QString& path, IDictionary& coordSystem);
     [[nodiscard]] Outcome writeDatabase(IDBAdapter& database, const QString& path);
     [[nodiscard]] Outcome fillCopy(const ProjectPlace& copy);
+    /// Calls `write` unless `path` is a file of the open project.
+    template <class Write>
+    int exportTo(const QString& path, Outcome* outcome, Write write);
 
     IHost& m_host; // outlives the manager
     EventSubscription m_subscription;
     DBAdapter m_database;
     ProjectLock m_lock;
+    ProjectPlace m_place; ///< of the open project
+    OtherSystemHandler m_onOtherSystem;
     DesignPoints m_design;
     SurveyPoints m_survey;
     basalt::Dictionary m_project;

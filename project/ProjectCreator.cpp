@@ -86,13 +86,9 @@ public:
 
     Outcome copyTemplate(const char* name, const QString& to)
     {
-        const std::string path = basalt::toolFolder() + '/' + name;
-        QFile source(QString::fromStdString(path));
-        if (source.open(QIODevice::ReadOnly))
-            return write(to, source.readAll());
-        return Outcome::failed(
-            QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be read: %2.")
-                .arg(source.fileName(), source.errorString()));
+        QByteArray content;
+        const Outcome reading = readTemplate(name, content);
+        return reading.isDone() ? write(to, content) : reading;
     }
 
 private:
@@ -125,6 +121,18 @@ Outcome moveOldFiles(NewFiles& files, const ProjectPlace& place)
 
 } // namespace
 
+Outcome readTemplate(const char* name, QByteArray& content)
+{
+    QFile source(QString::fromStdString(basalt::toolFolder() + '/' + name));
+    if (source.open(QIODevice::ReadOnly)) {
+        content = source.readAll();
+        return Outcome::done();
+    }
+    return Outcome::failed(
+        QCoreApplication::translate("ProjectStore", "The file \"%1\" cannot be read: %2.")
+            .arg(source.fileName(), source.errorString()));
+}
+
 void describe(const ProjectPlace& place, IDictionary& project)
 {
     project.set(ProjectFile::kPath, place.folder.toStdString());
@@ -146,7 +154,7 @@ Outcome create(const ProjectPlace& place, const IDictionary& project,
     NewFiles files;
     Outcome making = moveOldFiles(files, place);
     const std::pair<const char*, QString> templates[] = {
-        {"template.db", place.database()},
+        {kDatabase, place.database()},
         {"design_param.ini", place.folder + QLatin1String(ParameterFiles::kDesignFile)},
         {"qc_param.ini", place.folder + QLatin1String(ParameterFiles::kQualityFile)}};
     for (const auto& [name, target] : templates) {
@@ -168,7 +176,7 @@ Outcome replaceDatabase(const ProjectPlace& place)
     if (QFile::exists(database) || QFile::exists(database + QStringLiteral(".saved")))
         return Outcome::done();
     NewFiles files;
-    Outcome making = files.copyTemplate("template.db", database);
+    Outcome making = files.copyTemplate(kDatabase, database);
     if (making.isDone())
         files.keep();
     return making;

@@ -5,6 +5,7 @@
 #include <functional>
 
 class IDictionary;
+class QByteArray;
 struct ProjectPlace;
 
 /// Makes the files of a new project in an existing folder: project file, an empty database, and
@@ -14,6 +15,11 @@ struct ProjectPlace;
 /// their ending, such as ".20260131-174500". On a failure they get their names back, and the files
 /// of the new project are removed.
 namespace ProjectCreator {
+
+inline constexpr const char* kDatabase = "template.db";
+
+/// Reads a file of the installation that new projects begin with.
+[[nodiscard]] Outcome readTemplate(const char* name, QByteArray& content);
 
 /// Fills the dictionary of a new project: where, when and by which version it was made, and the
 /// current coordinate system, from which it starts.

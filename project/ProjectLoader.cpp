@@ -24,6 +24,11 @@ QString caption(const char* text)
     return QCoreApplication::translate("DataProcessDataManager", text);
 }
 
+QString surveyCaption()
+{
+    return caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Import Survey Data"));
+}
+
 /// Reports after every so many rows, on whichever of the two threads they were read.
 class RowProgress
 {
@@ -63,6 +68,10 @@ struct SurveyPart
         SurveyPoint point = reader.read(row);
         if (point.lineNumber.empty())
             point.lineNumber = kEmptyLine;
+        file(std::move(point));
+    }
+    void file(SurveyPoint&& point)
+    {
         if (isCheckPoint(point.pointNumber))
             checkPoints.push_back(std::move(point));
         else
@@ -74,18 +83,52 @@ struct SurveyPart
     std::vector<SurveyPoint> checkPoints; ///< get their counters when both halves are together
 };
 
+/// The same for an import, which passes over points without a number, and gives check points
+/// without a line the one that their number names.
+struct ImportedPart : SurveyPart
+{
+    void add(const IDictionary& row)
+    {
+        SurveyPoint point = reader.read(row);
+        ++rows.read;
+        if (point.pointNumber.empty()) {
+            rows.withoutNumber.push_back(rows.read);
+            return;
+        }
+        rows.withoutLine += point.lineNumber.empty() ? 1U : 0U;
+        if (point.lineNumber.empty() && !isCheckPoint(point.pointNumber))
+            point.lineNumber = kEmptyLine;
+        file(std::move(point));
+    }
+
+    ProjectLoader::ResultRows rows;
+};
+
+/// Puts both halves of a table together.
+template <class Part>
+void join(std::array<Part, 2>& parts, SurveyPoints& survey, const SurveyPoints* standing)
+{
+    survey = std::move(parts[0].points);
+    survey.merge(std::move(parts[1].points));
+    SurveyPointFiler filer(survey, standing);
+    for (Part& part : parts) {
+        for (SurveyPoint& point : part.checkPoints)
+            filer.file(std::move(point));
+    }
+}
+
 /// The upper half of a table, read on a thread and a connection of its own: two connections read in
 /// half the time of one, as measured.
 class OtherHalf
 {
 public:
-    explicit OtherHalf(const std::string& path) : m_path(path) {}
+    explicit OtherHalf(const std::string& connection) : m_connection(connection) {}
 
     template <class Part>
     void start(const std::string& statement, Part& part)
     {
         m_job = std::async(std::launch::async, [this, statement, &part] {
-            return m_database.open(lum::databaseConnection(m_path).c_str()) &&
+            return m_database.open(m_connection.c_str()) &&
                    m_database.forEachRow(statement.c_str(), [&](const IDictionary& row) {
                        part.add(row);
                        m_rowsRead.fetch_add(1, std::memory_order_relaxed);
@@ -103,7 +146,7 @@ public:
     [[nodiscard]] std::string lastError() const { return m_database.lastError(); }
 
 private:
-    std::string m_path;
+    std::string m_connection;
     DBAdapter m_database;
     std::atomic<std::size_t> m_rowsRead{0};
     std::future<bool> m_job; // last, so that the thread ends before what it works with
@@ -122,33 +165,46 @@ Outcome ProjectLoader::load(const std::string& path, DesignPoints& design, Surve
     m_database.close();
     design.clear();
     survey.clear();
-    m_path = path;
     Outcome recovery = SafetyCopy(path).recover(m_database);
-    if (!recovery.isDone() || readAll(design, survey, coordParameters))
+    if (!recovery.isDone())
         return recovery;
-    return Outcome::failed(QCoreApplication::translate(
-                               "ProjectStore", "The project database \"%1\" cannot be read: %2.")
-                               .arg(QString::fromStdString(path), databaseReason(m_reason)),
-                           "Cannot load \"" + path + "\": " + m_reason);
+    const Outcome reading = readAs(path, lum::databaseConnection(path), [&] {
+        m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
+        return readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters);
+    });
+    m_progress.finish();
+    return reading.isDone() ? recovery : reading;
 }
 
-bool ProjectLoader::readAll(DesignPoints& design, SurveyPoints& survey,
-                            IDictionary& coordParameters)
+Outcome ProjectLoader::readResults(const std::string& path, const SurveyPoints& standing,
+                                   SurveyPoints& survey, IDictionary& coordParameters,
+                                   ResultRows& rows)
 {
-    if (!m_database.open(lum::databaseConnection(m_path).c_str()))
-        return fail(m_database.lastError());
-    m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
+    return readAs(path, lum::readOnlyConnection(path), [&] {
+        return readSurvey(survey, standing, rows) && readCoordinateSystem(coordParameters);
+    });
+}
+
+template <class Read>
+Outcome ProjectLoader::readAs(const std::string& path, const std::string& connection, Read read)
+{
+    m_connection = connection;
     bool isRead = false;
     try {
         // While this transaction lasts nobody else can commit: both connections see the same rows.
-        isRead = (m_database.execute("begin") || fail(m_database.lastError())) &&
-                 readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters);
+        isRead = ((m_database.open(connection.c_str()) && m_database.execute("begin")) ||
+                  fail(m_database.lastError())) &&
+                 read();
     } catch (const std::exception& fault) { // of either thread, such as no memory
         isRead = fail(fault.what());
     }
     m_database.rollback();
-    m_progress.finish();
-    return isRead;
+    if (isRead)
+        return Outcome::done();
+    return Outcome::failed(QCoreApplication::translate(
+                               "ProjectStore", "The project database \"%1\" cannot be read: %2.")
+                               .arg(QString::fromStdString(path), databaseReason(m_reason)),
+                           "Cannot load \"" + path + "\": " + m_reason);
 }
 
 bool ProjectLoader::readDesign(DesignPoints& design)
@@ -165,16 +221,21 @@ bool ProjectLoader::readDesign(DesignPoints& design)
 bool ProjectLoader::readSurvey(SurveyPoints& survey)
 {
     std::array<SurveyPart, 2> parts;
-    const bool isRead = readTable(
-        SurveyRecord::kTable,
-        caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Import Survey Data")), 50, parts);
-    survey = std::move(parts[0].points);
-    survey.merge(std::move(parts[1].points));
-    SurveyPointFiler filer(survey);
-    for (SurveyPart& part : parts) {
-        for (SurveyPoint& point : part.checkPoints)
-            filer.file(std::move(point));
-    }
+    const bool isRead = readTable(SurveyRecord::kTable, surveyCaption(), 50, parts);
+    join(parts, survey, nullptr);
+    return isRead;
+}
+
+bool ProjectLoader::readSurvey(SurveyPoints& survey, const SurveyPoints& standing, ResultRows& rows)
+{
+    std::array<ImportedPart, 2> parts;
+    const bool isRead = readTable(SurveyRecord::kTable, surveyCaption(), 50, parts);
+    join(parts, survey, &standing);
+    rows = std::move(parts[0].rows);
+    for (const std::size_t place : parts[1].rows.withoutNumber)
+        rows.withoutNumber.push_back(rows.read + place);
+    rows.read += parts[1].rows.read;
+    rows.withoutLine += parts[1].rows.withoutLine;
     return isRead;
 }
 
@@ -220,7 +281,7 @@ bool ProjectLoader::readTable(const char* table, const QString& caption, std::si
     if (!this->plan(table, plan))
         return false;
     RowProgress progress(m_progress, caption, plan.count, reports);
-    OtherHalf other(m_path);
+    OtherHalf other(m_connection);
     if (!plan.statements[1].empty())
         other.start(plan.statements[1], parts[1]);
     std::size_t rowsRead = 0;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 class IDBAdapter;
 class IDictionary;
@@ -25,6 +26,18 @@ public:
     Outcome load(const std::string& path, DesignPoints& design, SurveyPoints& survey,
                  IDictionary& coordParameters);
 
+    /// What became of the rows of `readResults`.
+    struct ResultRows
+    {
+        std::size_t read = 0;
+        std::size_t withoutLine = 0;
+        std::vector<std::size_t> withoutNumber; ///< their places, from 1; they give no point
+    };
+    /// Reads the results and the coordinate system alone, and never writes. They are filed as an
+    /// import files them: a check point gets a counter that is free in `standing`, too.
+    Outcome readResults(const std::string& path, const SurveyPoints& standing, SurveyPoints& survey,
+                        IDictionary& coordParameters, ResultRows& rows);
+
 private:
     /// How a table is read: the lower half of the rows by one statement, the upper by another.
     struct Plan
@@ -33,9 +46,12 @@ private:
         std::array<std::string, 2> statements; ///< the second is empty when the first reads all
     };
 
-    bool readAll(DesignPoints& design, SurveyPoints& survey, IDictionary& coordParameters);
+    /// Opens the database and reads it by `read`, in one transaction.
+    template <class Read>
+    Outcome readAs(const std::string& path, const std::string& connection, Read read);
     bool readDesign(DesignPoints& design);
     bool readSurvey(SurveyPoints& survey);
+    bool readSurvey(SurveyPoints& survey, const SurveyPoints& standing, ResultRows& rows);
     bool readCoordinateSystem(IDictionary& coordParameters);
     bool plan(const char* table, Plan& plan);
     /// \param reports how many progress reports there are, about
@@ -47,6 +63,6 @@ private:
 
     IDBAdapter& m_database;
     ProgressReporter& m_progress;
-    std::string m_path;
+    std::string m_connection;
     std::string m_reason; ///< of a failure, in the database's words
 };

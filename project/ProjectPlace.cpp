@@ -2,11 +2,15 @@
 
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
+#include "project/ParameterFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+
+#include <algorithm>
+#include <filesystem>
 
 namespace {
 
@@ -20,6 +24,22 @@ QString translated(const char* text)
 QString joined(const QString& folder, const QString& name)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
+/// The one path of a file, which need not exist.
+std::filesystem::path resolved(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString target = info.isSymLink() ? info.symLinkTarget() : info.absoluteFilePath();
+    std::error_code fault;
+    return std::filesystem::weakly_canonical(target.toStdString(), fault);
+}
+
+bool isSameFile(const QString& first, const QString& second)
+{
+    std::error_code fault;
+    return std::filesystem::equivalent(first.toStdString(), second.toStdString(), fault) ||
+           resolved(first) == resolved(second);
 }
 
 const QRegularExpression& badCharacters()
@@ -57,6 +77,16 @@ ProjectPlace ProjectPlace::in(const QString& folder, const QString& name)
 QString ProjectPlace::database() const
 {
     return joined(folder, name) + QStringLiteral(".db");
+}
+
+bool ProjectPlace::owns(const QString& path) const
+{
+    if (name.isEmpty())
+        return false;
+    const QString own[] = {file, database(), folder + QLatin1String(ParameterFiles::kQualityFile),
+                           folder + QLatin1String(ParameterFiles::kDesignFile)};
+    return std::any_of(std::begin(own), std::end(own),
+                       [&](const QString& mine) { return isSameFile(path, mine); });
 }
 
 QString projectExtension()

@@ -19,6 +19,10 @@ struct ProjectPlace
     [[nodiscard]] static ProjectPlace in(const QString& folder, const QString& name);
 
     [[nodiscard]] QString database() const;
+
+    /// Whether `path` names one of the project's files, in whatever spelling and through whatever
+    /// links. False of an empty place.
+    [[nodiscard]] bool owns(const QString& path) const;
 };
 
 /// The extension of project files in the system configuration, without a dot.

@@ -1,6 +1,5 @@
 #include "project/ProjectSaver.h"
 
-#include "basalt_utilities/Dictionary.h"
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/database/RecordSet.h"
 #include "lum_sdk/events/ProgressReporter.h"
@@ -10,41 +9,16 @@
 #include "model/RowNumbers.h"
 #include "model/SurveyRecord.h"
 #include "project/DatabaseReason.h"
-#include "project/RowFormatter.h"
 #include "project/SafetyCopy.h"
+#include "project/TableRows.h"
 
 #include <QCoreApplication>
-
-#include <array>
 
 namespace {
 
 QString caption(const char* text)
 {
     return QCoreApplication::translate("DataProcessDataManager", text);
-}
-
-/// Inserts a row for every point, in order, and reports after each line.
-template <class Points, class Write>
-bool insertPoints(IBulkInsert& rows, const Points& points, Write write, ProgressReporter& progress,
-                  const QString& caption)
-{
-    RowFormatter formatter(points, write);
-    std::array<std::string_view, RecordTexts::kMostColumns> values;
-    std::size_t linesDone = 0;
-    for (RowBatch batch = formatter.next(); batch.size() != 0; batch = formatter.next()) {
-        auto lineEnd = batch.lineEnds().begin();
-        for (std::size_t row = 0; row < batch.size(); ++row) {
-            batch.copyRow(row, values.data());
-            if (!rows.add(values.data()))
-                return false;
-            if (lineEnd == batch.lineEnds().end() || *lineEnd != row + 1)
-                continue;
-            progress.report(caption, ++linesDone, points.lineCount());
-            ++lineEnd;
-        }
-    }
-    return true;
 }
 
 } // namespace
@@ -82,8 +56,15 @@ Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
 bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& survey,
                             const IDictionary& coordParameters)
 {
-    return m_database.beginTransaction() && addMissingColumns() && writeDesign(design) &&
-           writeSurvey(survey) && writeCoordinateSystem(coordParameters) &&
+    using namespace TableRows;
+    return m_database.beginTransaction() && addMissingColumns() &&
+           addDesign(m_database, linesOf(design), false,
+                     {m_progress,
+                      caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Design Data"))}) &&
+           addSurvey(m_database, linesOf(survey),
+                     {m_progress,
+                      caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Survey Data"))}) &&
+           addCoordinateSystem(m_database, coordParameters) &&
            m_database.execute(SafetyCopy::kUnmark) && m_database.commit();
 }
 
@@ -116,44 +97,6 @@ bool ProjectSaver::addMissingColumns()
             return false;
     }
     return true;
-}
-
-bool ProjectSaver::addUnitColumn()
-{
-    const std::string table = CoordinateRecord::kTable;
-    const std::string column = CoordinateRecord::kUnit;
-    RecordSet known;
-    const std::string question =
-        "select name from pragma_table_info('" + table + "') where name = '" + column + "'";
-    if (!m_database.query(question.c_str(), known))
-        return false;
-    return !known.isEmpty() ||
-           m_database.execute(("alter table " + table + " add " + column + " TEXT").c_str());
-}
-
-bool ProjectSaver::writeDesign(const DesignPoints& design)
-{
-    const auto rows = m_database.bulkInsert(DesignRecord::kTable, DesignRecord::columns().c_str());
-    return rows &&
-           insertPoints(*rows, design, DesignRecord::write, m_progress,
-                        caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Design Data")));
-}
-
-bool ProjectSaver::writeSurvey(const SurveyPoints& survey)
-{
-    const auto rows = m_database.bulkInsert(SurveyRecord::kTable, SurveyRecord::columns().c_str());
-    return rows &&
-           insertPoints(*rows, survey, SurveyRecord::write, m_progress,
-                        caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Survey Data")));
-}
-
-bool ProjectSaver::writeCoordinateSystem(const IDictionary& parameters)
-{
-    basalt::Dictionary record;
-    record.set(CoordinateRecord::kId, CoordinateRecord::kUndefinedId);
-    CoordinateRecord::copy(parameters, record);
-    return (!record.contains(CoordinateRecord::kUnit) || addUnitColumn()) &&
-           m_database.insert(CoordinateRecord::kTable, nullptr, record);
 }
 
 Outcome ProjectSaver::undo(const std::string& path, const std::string& reason)

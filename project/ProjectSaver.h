@@ -26,10 +26,6 @@ private:
                   const IDictionary& coordParameters);
     bool clearTables();
     bool addMissingColumns();
-    bool addUnitColumn();
-    bool writeDesign(const DesignPoints& design);
-    bool writeSurvey(const SurveyPoints& survey);
-    bool writeCoordinateSystem(const IDictionary& parameters);
     /// Puts the file back as it was. \returns the failure, for the user
     Outcome undo(const std::string& path, const std::string& reason);
 

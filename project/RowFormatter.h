@@ -13,6 +13,12 @@
 class RowBatch
 {
 public:
+    struct LineEnd
+    {
+        std::size_t rows;      ///< of the batch before it
+        std::size_t linesDone; ///< of all lines
+    };
+
     void add(const RecordTexts& row)
     {
         m_columns = row.size();
@@ -21,14 +27,15 @@ public:
             m_ends.push_back(m_text.size());
         }
     }
-    void endLine() { m_lineEnds.push_back(size()); }
+    void endLine(std::size_t linesDone) { m_lineEnds.push_back({size(), linesDone}); }
+    [[nodiscard]] bool isEmpty() const { return size() == 0 && m_lineEnds.empty(); }
 
     [[nodiscard]] std::size_t size() const
     {
         return m_columns == 0 ? 0 : m_ends.size() / m_columns;
     }
-    /// For each line that ends in the batch: how many rows of the batch are done with it.
-    [[nodiscard]] const std::vector<std::size_t>& lineEnds() const { return m_lineEnds; }
+    /// Of the lines that end in the batch.
+    [[nodiscard]] const std::vector<LineEnd>& lineEnds() const { return m_lineEnds; }
 
     /// Puts the texts of one row into `values`, which has room for them.
     void copyRow(std::size_t row, std::string_view* values) const
@@ -43,25 +50,27 @@ private:
     std::size_t m_columns = 0;
     std::string m_text;
     std::vector<std::size_t> m_ends; ///< of each cell in the text
-    std::vector<std::size_t> m_lineEnds;
+    std::vector<LineEnd> m_lineEnds;
 };
 
 /// Writes points as text on a thread of its own, while the caller inserts the batch before: as
 /// measured, formatting then costs a save no time. The points must not change meanwhile.
-template <class Points, class Write>
+template <class Line, class Write>
 class RowFormatter
 {
     static constexpr std::size_t kBatchSize = 4096;
 
 public:
-    RowFormatter(const Points& points, Write write)
-        : m_line(points.begin()), m_end(points.end()), m_write(write)
+    using Lines = std::vector<const Line*>; ///< null for a line that does not exist
+
+    /// \param write `bool(point, texts)`; false leaves the point out
+    RowFormatter(Lines lines, Write write) : m_lines(std::move(lines)), m_write(write)
     {
-        startLine();
+        startLine(0);
         startNext();
     }
 
-    /// The batches in the order of the points; an empty one after the last. Throws what the thread
+    /// The batches in the order of the lines; an empty one after the last. Throws what the thread
     /// threw.
     RowBatch next()
     {
@@ -79,29 +88,31 @@ private:
     RowBatch formatBatch()
     {
         RowBatch batch;
-        while (m_line != m_end && batch.size() < kBatchSize) {
-            m_write(*m_points[m_next], *m_texts);
-            batch.add(*m_texts);
-            if (++m_next != m_points.size())
+        while (m_line < m_lines.size() && batch.size() < kBatchSize) {
+            if (m_next < m_points.size() && m_write(*m_points[m_next], *m_texts))
+                batch.add(*m_texts);
+            if (++m_next < m_points.size())
                 continue;
-            batch.endLine();
-            ++m_line;
-            startLine();
+            batch.endLine(m_line + 1);
+            startLine(m_line + 1);
         }
         return batch;
     }
 
-    void startLine()
+    void startLine(std::size_t line)
     {
+        while (line < m_lines.size() && m_lines[line] == nullptr)
+            ++line;
+        m_line = line;
         m_next = 0;
-        if (m_line != m_end)
-            m_points = writtenOrder(m_line->second);
+        if (m_line < m_lines.size())
+            m_points = writtenOrder(*m_lines[m_line]);
     }
 
-    decltype(std::declval<const Points&>().begin()) m_line;
-    decltype(m_line) m_end;
-    std::vector<const typename Points::Point*> m_points; ///< of the line, in the order of writing
-    std::size_t m_next = 0;                              ///< in `m_points`
+    Lines m_lines;
+    std::size_t m_line = 0;
+    decltype(writtenOrder(std::declval<const Line&>())) m_points; ///< of the line
+    std::size_t m_next = 0;                                       ///< in `m_points`
     Write m_write;
     std::unique_ptr<RecordTexts> m_texts = std::make_unique<RecordTexts>();
     std::future<RowBatch> m_coming; // last, so that the thread ends before what it works with

@@ -650,6 +650,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Save Survey Data</source>
         <translation>正在保存测量数据</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the open project; please choose another file.</source>
+        <translation>“%1”是打开的工程的文件；请选择另一个文件。</translation>
+    </message>
 </context>
 <context>
     <name>DataProcessLayerImp</name>
@@ -861,72 +865,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
-    <name>DlgCsvKind</name>
-    <message>
-        <source>The heading of &quot;%1&quot; does not tell what the file holds. Are these design points or survey results?</source>
-        <translation>从表头看不出“%1”的内容。这些是设计点还是测量成果？</translation>
-    </message>
-    <message>
-        <source>The first lines of the file</source>
-        <translation>文件的前几行</translation>
-    </message>
-    <message>
-        <source>&amp;Design Points</source>
-        <translation>设计点(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Survey Results</source>
-        <translation>测量成果(&amp;S)</translation>
-    </message>
-</context>
-<context>
-    <name>DlgImportSummary</name>
-    <message>
-        <source>Success</source>
-        <translation>成功</translation>
-    </message>
-    <message>
-        <source>Import Success!</source>
-        <translation>导入成功！</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>复制(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Copy &amp;All</source>
-        <translation>全部复制(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Of each kind the first %1 are listed.</source>
-        <translation>每类只列出前 %1 条。</translation>
-    </message>
-    <message>
-        <source>Click a row to see its point, or where it stands in the file.</source>
-        <translation>单击一行可查看对应的点或其在文件中的位置。</translation>
-    </message>
-    <message>
-        <source>&amp;Open the File</source>
-        <translation>打开文件(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Line %1 of &quot;%2&quot;: %3</source>
-        <translation>“%2”第 %1 行：%3</translation>
-    </message>
-    <message>
-        <source>The project does not have the point.</source>
-        <translation>工程中没有该点。</translation>
-    </message>
-    <message>
-        <source>Open the File</source>
-        <translation>打开文件</translation>
-    </message>
-    <message>
-        <source>No program could be started that opens &quot;%1&quot;.</source>
-        <translation>无法启动打开“%1”的程序。</translation>
-    </message>
-</context>
-<context>
     <name>DlgNewProject</name>
     <message>
         <source>New Project</source>
@@ -1085,33 +1023,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
-    <name>FileImports</name>
-    <message>
-        <source>Success</source>
-        <translation>成功</translation>
-    </message>
-    <message>
-        <source>Import Success!</source>
-        <translation>导入成功！</translation>
-    </message>
-    <message>
-        <source>Choose Open File</source>
-        <translation>选择要打开的文件</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>错误</translation>
-    </message>
-    <message>
-        <source>Import Failed!</source>
-        <translation>导入失败！</translation>
-    </message>
-    <message>
-        <source>A file of points is imported into a project. Open or create the project first, then import the file.</source>
-        <translation>点数据文件只能导入到工程中。请先打开或新建工程，再导入该文件。</translation>
-    </message>
-</context>
-<context>
     <name>FrameMenus</name>
     <message>
         <source>Go to the menus</source>
@@ -1154,29 +1065,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 of %2</source>
         <translation>第 %1 处，共 %2 处</translation>
-    </message>
-</context>
-<context>
-    <name>ImportFindingsModel</name>
-    <message>
-        <source>Finding</source>
-        <translation>类别</translation>
-    </message>
-    <message>
-        <source>Line of the File</source>
-        <translation>文件行号</translation>
-    </message>
-    <message>
-        <source>Line Num</source>
-        <translation>线号</translation>
-    </message>
-    <message>
-        <source>Point Num</source>
-        <translation>点号</translation>
-    </message>
-    <message>
-        <source>What Was Found</source>
-        <translation>说明</translation>
     </message>
 </context>
 <context>
@@ -1258,44 +1146,87 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>文件中没有测点数据行。</translation>
     </message>
     <message>
-        <source>The point stands in the file before; the later row counts.</source>
-        <translation>文件前面已有该点，以后面的行为准。</translation>
+        <source>The database holds no result.</source>
+        <translation>数据库中没有成果。</translation>
     </message>
     <message>
-        <source>The project had the point; it has this row&apos;s values now.</source>
-        <translation>工程中原有该点，现已采用此行的值。</translation>
+        <source>&quot;%1&quot;: results read: %2, points added: %3, points replaced: %4, results skipped: %5.</source>
+        <translation>“%1”：读取 %2 个成果，新增 %3 个点，替换 %4 个点，跳过 %5 个成果。</translation>
     </message>
     <message>
-        <source>Skipped line</source>
-        <translation>跳过的行</translation>
+        <source>Result %1: %2</source>
+        <translation>成果 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Kml</name>
+    <message>
+        <source>point &quot;%1&quot; of line &quot;%2&quot;</source>
+        <translation>测线“%2”的点“%1”</translation>
     </message>
     <message>
-        <source>Damaged bytes</source>
-        <translation>损坏的字节</translation>
+        <source>Points that have no place on the globe and were left out: %1. The first is %2: %3</source>
+        <translation>在地球上没有位置而被略去的点：%1 个。第一个是%2：%3</translation>
     </message>
     <message>
-        <source>Unread field</source>
-        <translation>无法读取的字段</translation>
+        <source>the project has no usable coordinate system. %1</source>
+        <translation>工程没有可用的坐标系统。%1</translation>
     </message>
     <message>
-        <source>Changed field</source>
-        <translation>改动的字段</translation>
+        <source>the library GDAL has no driver for KML here</source>
+        <translation>此处的 GDAL 库没有 KML 驱动</translation>
     </message>
     <message>
-        <source>Cut off fields</source>
-        <translation>截去的字段</translation>
+        <source>Line</source>
+        <translation>测线</translation>
     </message>
     <message>
-        <source>Missing fields</source>
-        <translation>缺少的字段</translation>
+        <source>Kind</source>
+        <translation>类型</translation>
     </message>
     <message>
-        <source>Repeated row</source>
-        <translation>重复的行</translation>
+        <source>receiver</source>
+        <translation>接收点</translation>
     </message>
     <message>
-        <source>Replaced point</source>
-        <translation>被替换的点</translation>
+        <source>source</source>
+        <translation>激发点</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Solution</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
     </message>
 </context>
 <context>
@@ -1308,12 +1239,12 @@ The positions stay the numbers that they are: nothing is converted. They then co
 <context>
     <name>MainFrame</name>
     <message>
-        <source>[read-only]</source>
-        <translation>[只读]</translation>
+        <source>&quot;%1&quot; is not a project file.</source>
+        <translation>“%1”不是工程文件。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a file that can be opened here.</source>
-        <translation>“%1”不是可以在此打开的文件。</translation>
+        <source>[read-only]</source>
+        <translation>[只读]</translation>
     </message>
 </context>
 <context>
@@ -2207,6 +2138,25 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>SurveyDatabase</name>
+    <message>
+        <source>Saving that project was interrupted. The results are those that were saved before.</source>
+        <translation>那个工程的保存曾被中断。成果是此前保存的。</translation>
+    </message>
+    <message>
+        <source>%1 (%2, there %3)</source>
+        <translation>%1（本工程 %2，对方 %3）</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另有 %1 项</translation>
+    </message>
+    <message>
+        <source>The results of &quot;%1&quot; were not imported: their coordinate system is not the project&apos;s. It differs in %2.</source>
+        <translation>“%1”的成果没有导入：其坐标系统与本工程不同。不同的参数：%2。</translation>
+    </message>
+</context>
+<context>
     <name>SurveyHeadings</name>
     <message>
         <source>&quot;%1&quot; must be written &quot;%2&quot;.</source>
@@ -2249,7 +2199,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>SurveyTable</name>
     <message>
         <source>base id</source>
-        <translation>基站编号</translation>
+        <translation>基准站号</translation>
     </message>
 </context>
 <context>

@@ -11,11 +11,14 @@ namespace {
 using Import = int (DataProcessDataManager::*)(const QString& path, Outcome* outcome,
                                                ImportSummary* counts);
 
+bool endsIn(const QString& file, const char* ending)
+{
+    return file.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+}
+
 Outcome importFile(const CliArguments& arguments, Import import)
 {
     const QString& file = arguments.places[1];
-    if (!file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-        return Outcome::refused(QStringLiteral("\"%1\" does not end in .csv").arg(file));
     CliProject project;
     ImportSummary counts;
     Outcome outcome = project.open(arguments.places[0], ProjectAccess::Change);
@@ -34,10 +37,18 @@ Outcome importFile(const CliArguments& arguments, Import import)
 
 Outcome importDesign(const CliArguments& arguments)
 {
+    const QString& file = arguments.places[1];
+    if (!endsIn(file, ".csv"))
+        return Outcome::refused(QStringLiteral("\"%1\" does not end in .csv").arg(file));
     return importFile(arguments, &DataProcessDataManager::importDesignCsv);
 }
 
 Outcome importSurvey(const CliArguments& arguments)
 {
-    return importFile(arguments, &DataProcessDataManager::importSurveyCsv);
+    const QString& file = arguments.places[1];
+    if (endsIn(file, ".db"))
+        return importFile(arguments, &DataProcessDataManager::importSurveyDatabase);
+    if (endsIn(file, ".csv"))
+        return importFile(arguments, &DataProcessDataManager::importSurveyCsv);
+    return Outcome::refused(QStringLiteral("\"%1\" ends neither in .csv nor in .db").arg(file));
 }

@@ -8,5 +8,6 @@ struct CliArguments;
 /// point.
 Outcome importDesign(const CliArguments& arguments);
 
-/// "import-survey PROJECT FILE": the same for survey results.
+/// "import-survey PROJECT FILE": the same for survey results, of a CSV file or of another project's
+/// database.
 Outcome importSurvey(const CliArguments& arguments);

@@ -95,8 +95,8 @@ QString tableText(const QAbstractItemModel& model)
 
 DlgImportSummary::DlgImportSummary(IDesktopHost& host, const ImportSummary& summary,
                                    const char* pointList)
-    : Dialog(host.dialogParent()), m_host(host), m_path(summary.path), m_pointList(pointList),
-      m_project(openProject()),
+    : Dialog(host.dialogParent()), m_host(host), m_path(summary.path),
+      m_isDatabase(summary.isDatabase), m_pointList(pointList), m_project(openProject()),
       m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
 {
     setObjectName(QStringLiteral("DlgImportSummary"));
@@ -167,7 +167,8 @@ void DlgImportSummary::addButtons(QVBoxLayout& rows)
         connect(button, &QPushButton::clicked, this, action);
     };
     add(tr("Copy &All"), &DlgImportSummary::copyAll);
-    add(tr("&Open the File"), &DlgImportSummary::openFile);
+    if (!m_isDatabase)
+        add(tr("&Open the File"), &DlgImportSummary::openFile);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     rows.addWidget(buttons);
@@ -196,16 +197,25 @@ void DlgImportSummary::showEvent(QShowEvent* event)
 void DlgImportSummary::showFinding(const QModelIndex& index)
 {
     const QModelIndex first = index.siblingAtColumn(0);
-    const QModelIndex last = index.siblingAtColumn(m_table->model()->columnCount() - 1);
     const QString point = first.data(ImportFindingsModel::kPointNumber).toString();
-    QString text = tr("Line %1 of \"%2\": %3")
-                       .arg(first.data(ImportFindingsModel::kFileLine).toString(), m_path,
-                            last.data().toString());
+    QString text = placeText(first);
     auto* const list = m_host.windows().findAs<IPointList>(QLatin1String(m_pointList));
     if (!point.isEmpty() && list != nullptr &&
         !list->selectPoint(first.data(ImportFindingsModel::kLineNumber).toString(), point))
         text += QLatin1Char(' ') + tr("The project does not have the point.");
     m_place->setText(text);
+}
+
+/// Where a finding stands, and what it is.
+QString DlgImportSummary::placeText(const QModelIndex& first) const
+{
+    const int last = m_table->model()->columnCount() - 1;
+    const QString found = first.siblingAtColumn(last).data().toString();
+    const QString line = first.data(ImportFindingsModel::kFileLine).toString();
+    if (line == QLatin1String("0"))
+        return found;
+    return (m_isDatabase ? tr("Result %1 of \"%2\": %3") : tr("Line %1 of \"%2\": %3"))
+        .arg(line, m_path, found);
 }
 
 void DlgImportSummary::copyAll()

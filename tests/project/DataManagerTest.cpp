@@ -3,6 +3,7 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Host.h"
 #include "project/DataProcessDataManager.h"
+#include "project/ProjectCreator.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/project/ExpectOutcome.h"
@@ -10,6 +11,8 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/TestFolder.h"
+
+#include <QFileInfo>
 
 #include <functional>
 
@@ -87,6 +90,8 @@ TEST_F(DataManager, WhatCannotBeDoneIsToldAndLogged)
     expectToldOf([&] { return manager.importDesignCsv(path, &outcome); });
     expectToldOf([&] { return manager.exportSurveyCsv({}, path, {}, &outcome); });
     expectToldOf([&] { return manager.exportDesignCsv({}, path, false, &outcome); });
+    expectToldOf([&] { return manager.exportDesignDatabase({}, path, false, &outcome); });
+    expectToldOf([&] { return manager.importSurveyDatabase(path, &outcome); });
 }
 
 TEST_F(DataManager, KnowsWhatIsNotSaved)
@@ -115,6 +120,52 @@ TEST_F(DataManager, KnowsWhatIsNotSaved)
     manager.checkQuality();
     manager.markChanged();
     EXPECT_EQ(changes.names().size(), 5U) << "told once";
+}
+
+TEST_F(DataManager, ImportedResultsHaveSeaHeightsAndAreNotSaved)
+{
+    SurveyPoint theirs = surveyPoint("L", "theirs");
+    theirs.elevation = 5.5;
+    TestProject project;
+    project.survey.set(theirs);
+    const QString database = folder.path("theirs.db");
+    ASSERT_TRUE(makeDatabase(database.toStdString()));
+    expectDone(project.save(database.toStdString()));
+    basalt::Dictionary none;
+    manager.setCoordSystem(none);
+    const EventLog changes(host.eventManager(), events::kProjectModified);
+    manager.clear();
+    EXPECT_EQ(manager.importSurveyDatabase(database, &outcome), 1);
+    expectNotice(outcome, "points added: 1");
+    EXPECT_EQ(manager.surveyPoints().find("L", "theirs")->seaHeight, 5.5);
+    EXPECT_TRUE(manager.isChanged());
+    EXPECT_EQ(changes.names().size(), 1U);
+}
+
+TEST_F(DataManager, NoExportReplacesAFileOfTheOpenProject)
+{
+    const ProjectPlace place = ProjectPlace::in(folder.path(), QStringLiteral("测区"));
+    basalt::Dictionary project;
+    ProjectCreator::describe(place, project);
+    expectDone(ProjectCreator::create(place, project));
+    expectDone(manager.openProject(place));
+    const QByteArray before = TestFolder::read(place.database());
+    const QString link = folder.path("link.db");
+    ASSERT_TRUE(QFile::link(place.database(), link));
+    const QString spelled =
+        folder.path("../") + QFileInfo(folder.path()).fileName() + QStringLiteral("/./测区.db");
+    for (const QString& path : {place.database(), link, spelled, place.file}) {
+        EXPECT_EQ(manager.exportDesignDatabase({}, path, false, &outcome), 0);
+        expectFailure(outcome, "belongs to the open project");
+        EXPECT_EQ(manager.exportSurveyKml({}, path), 0);
+        EXPECT_EQ(manager.exportDesignCsv({}, path, false), 0);
+        EXPECT_EQ(manager.importSurveyDatabase(path), 0);
+    }
+    EXPECT_EQ(TestFolder::read(place.database()), before);
+    QFile::remove(place.database());
+    EXPECT_EQ(manager.exportDesignDatabase({}, link, false), 0) << "also where it is missing";
+    manager.clear();
+    EXPECT_EQ(manager.exportDesignDatabase({}, link, false), 1);
 }
 
 TEST_F(DataManager, DatabaseQueriesBecomeProgress)

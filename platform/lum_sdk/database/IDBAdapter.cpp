@@ -49,3 +49,8 @@ std::string lum::databaseConnection(std::string_view path)
         text.append(c == '"' ? 2 : 1, c);
     return text + '"';
 }
+
+std::string lum::readOnlyConnection(std::string_view path)
+{
+    return databaseConnection(path) + ",readOnly=1";
+}

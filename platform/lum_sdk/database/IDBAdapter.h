@@ -36,6 +36,7 @@ public:
 
     /// Opens what `connection` names, after closing what was open. A key list:
     /// - dbPath: the file, in quotes; it must be there, and be a database
+    /// - readOnly: 1 never writes to it (0); after a write that was cut off it cannot be read then
     /// - create: 1 makes the file when it is missing (0)
     /// - exclusive: 1 keeps everybody else out until `close` (0)
     /// - busyTimeout: how long to wait for another program's lock, milliseconds (2000)
@@ -112,5 +113,7 @@ namespace lum {
 
 /// The connection text that opens the database at `path`.
 [[nodiscard]] std::string databaseConnection(std::string_view path);
+/// The same, for reading alone.
+[[nodiscard]] std::string readOnlyConnection(std::string_view path);
 
 } // namespace lum

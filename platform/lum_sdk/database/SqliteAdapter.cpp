@@ -141,8 +141,10 @@ bool SqliteAdapter::open(const char* connection)
 
 bool SqliteAdapter::openFile(const std::string& path, const IDictionary& options)
 {
-    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX |
-                      (options.integer("create") != 0 ? SQLITE_OPEN_CREATE : 0);
+    const int access =
+        options.integer("readOnly") != 0 ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    const int flags =
+        access | SQLITE_OPEN_NOMUTEX | (options.integer("create") != 0 ? SQLITE_OPEN_CREATE : 0);
     sqlite3* database = nullptr;
     const int result = sqlite3_open_v2(path.c_str(), &database, flags, nullptr);
     m_database.reset(database);

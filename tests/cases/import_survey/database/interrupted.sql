@@ -1,0 +1,3 @@
+create table ExplorationResultItem (line_num TEXT, point_num TEXT);
+create table CoordinateSystemItem (coord_param_id TEXT);
+create table SaveUnderWay (x);

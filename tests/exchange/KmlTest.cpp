@@ -1,0 +1,160 @@
+#include "basalt_utilities/KeyList.h"
+#include "CsvFixture.h"
+#include "exchange/DesignKml.h"
+#include "exchange/SurveyKml.h"
+#include "lum_sdk/coords/CoordWjl.h"
+#include "tests/support/SmallFiles.h"
+
+#include <QDir>
+
+#include <gdal.h>
+#include <ogr_api.h>
+
+namespace {
+
+struct Feature
+{
+    std::string name;
+    std::string description;
+    std::vector<CoordTriple> positions; ///< latitude, longitude, height
+};
+
+class Kml : public CsvFixture
+{
+protected:
+    Kml()
+    {
+        GDALAllRegister();
+        basalt::Dictionary system; // with a datum shift, so that height and position depend
+        csa_to_dictionary(system,
+                          "ellipsoid_a=6378245,ellipsoid_f=298.3,project_type=1,org_lon=117,"
+                          "false_east=500000,factor=1,_7type=1,_7dx=15.8,_7dy=-154.4,"
+                          "_7dz=-82.3");
+        EXPECT_EQ(transform.initialise(system, system), 0);
+    }
+
+    Outcome writeDesign(const QStringList& lines, bool onlyUnsurveyed = false)
+    {
+        return writeDesignKml(path(), {design, lines, onlyUnsurveyed}, transform, progress);
+    }
+
+    [[nodiscard]] std::vector<Feature> read(int layerIndex) const
+    {
+        std::vector<Feature> features;
+        const char* const drivers[] = {"KML", nullptr}; // the name ends in .csv
+        const GDALDatasetH dataset =
+            GDALOpenEx(path().toUtf8().constData(), GDAL_OF_VECTOR, drivers, nullptr, nullptr);
+        const OGRLayerH layer = GDALDatasetGetLayer(dataset, layerIndex);
+        while (const OGRFeatureH feature = OGR_L_GetNextFeature(layer)) {
+            Feature& read = features.emplace_back();
+            read.name = OGR_F_GetFieldAsString(feature, 0);
+            read.description = OGR_F_GetFieldAsString(feature, 1);
+            const OGRGeometryH geometry = OGR_F_GetGeometryRef(feature);
+            for (int i = 0; i < OGR_G_GetPointCount(geometry); ++i)
+                read.positions.push_back(
+                    {OGR_G_GetY(geometry, i), OGR_G_GetX(geometry, i), OGR_G_GetZ(geometry, i)});
+            OGR_F_Destroy(feature);
+        }
+        GDALClose(dataset);
+        return features;
+    }
+
+    /// Whether `position` is what the coordinate service makes of these plane coordinates.
+    template <class Point>
+    void expectAt(const Point& point, const CoordTriple& position)
+    {
+        CoordTriple right;
+        ASSERT_EQ(transform.transform(2, 4, 1, 1, point.north, point.east, point.elevation,
+                                      &right.first, &right.second, &right.third),
+                  0);
+        EXPECT_NEAR(position.first, right.first, 1e-8);
+        EXPECT_NEAR(position.second, right.second, 1e-8);
+        EXPECT_NEAR(position.third, right.third, 1e-4);
+    }
+
+    CoordWjl transform;
+    DesignPoints design;
+};
+
+} // namespace
+
+TEST_F(Kml, HoldsEveryPointWhereTheCoordinateServicePutsIt)
+{
+    const std::string names[] = {"<a href=\"x\">&amp;</a>", "测点 100%", std::string(1000, 'n'),
+                                 "007"};
+    double place = 0;
+    for (const char* line : {"L\"1\"", "测线"}) {
+        for (const std::string& name : names) {
+            place += 1234.5678;
+            design.set({line, name, 4400000 + place, 480000 + 3 * place, place / 7, 1, 1, 0});
+        }
+    }
+    ASSERT_TRUE(writeDesign({QStringLiteral("测线"), QStringLiteral("L\"1\"")}).isDone());
+    const std::vector<Feature> points = read(0);
+    const std::vector<Feature> lines = read(1);
+    ASSERT_EQ(points.size(), 8U);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[1].name, "L\"1\"");
+    std::size_t next = 0;
+    for (const Feature& line : lines) {
+        ASSERT_EQ(line.positions.size(), 4U);
+        for (const CoordTriple& position : line.positions) {
+            const Feature& point = points[next++];
+            const DesignPoint* const right = design.find(line.name, point.name);
+            ASSERT_NE(right, nullptr) << point.name;
+            expectAt(*right, position);
+            expectAt(*right, point.positions[0]);
+        }
+    }
+}
+
+TEST_F(Kml, ResultsArePlacedByTheirPlaneCoordinates)
+{
+    SurveyPoints survey;
+    SurveyPoint point;
+    point.lineNumber = "1";
+    point.pointNumber = "C12345678_3";
+    point.latitude = -33;
+    point.longitude = 18;
+    point.north = 4400000;
+    point.east = 510000;
+    survey.set(point);
+    ASSERT_TRUE(
+        writeSurveyKml(path(), {survey, {QStringLiteral("1")}, {}}, transform, progress).isDone());
+    const std::vector<Feature> points = read(0);
+    ASSERT_EQ(points.size(), 1U);
+    EXPECT_EQ(points[0].name, "C12345678") << "without the counter";
+    expectAt(point, points[0].positions[0]);
+}
+
+TEST_F(Kml, ProgressFollowsTheLinesThatThereAre)
+{
+    design.set({"1", "1", 4400000, 500000, 1, 0, 0, 1});
+    design.set({"2", "1", 4400000, 500000, 1, 0, 0, 0});
+    const QStringList lines{QStringLiteral("2"), QStringLiteral("none"), QStringLiteral("1"),
+                            QStringLiteral("none")};
+    ASSERT_TRUE(writeDesign(lines, true).isDone());
+    EXPECT_EQ(heard.payloads(),
+              (std::vector<std::string>{"text=Export Design Data,value=25,is_exec=0",
+                                        "text=Export Design Data,value=75,is_exec=0", "show=0"}));
+    EXPECT_EQ(read(0).size(), 1U);
+    EXPECT_EQ(read(1).size(), 1U) << "no line without a point";
+}
+
+// GDAL tells of a full disk late or never; it is full at one place after the other.
+TEST_F(Kml, AFullDiskLeavesTheFileAsItWas)
+{
+    for (int i = 0; i < 5000; ++i)
+        design.set({"1", std::to_string(i), 4400000.0 + i, 500000, 1, 0, 0, 0});
+    const QString name = file("before");
+    for (const rlim_t kilobytes : {0U, 1U, 300U, 900U}) {
+        const SmallFiles limit(kilobytes * 1024);
+        const Outcome writing = writeDesign({QStringLiteral("1")});
+        EXPECT_FALSE(writing.isDone()) << kilobytes;
+        EXPECT_TRUE(writing.text().contains(path())) << qPrintable(writing.text());
+    }
+    EXPECT_EQ(TestFolder::read(name), "before");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+    EXPECT_TRUE(writeDesign({QStringLiteral("1")}).isDone());
+    EXPECT_EQ(read(0).size(), 5000U);
+}

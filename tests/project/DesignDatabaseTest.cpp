@@ -1,0 +1,124 @@
+#include "project/DesignDatabase.h"
+
+#include "lum_sdk/events/EventManager.h"
+#include "project/ProjectLock.h"
+#include "project/ProjectPlace.h"
+#include "protocol/Events.h"
+#include "tests/project/ExpectOutcome.h"
+#include "tests/project/OrdinaryUser.h"
+#include "tests/project/TestProject.h"
+#include "tests/support/EventLog.h"
+#include "tests/support/SmallFiles.h"
+#include "tests/support/TestFolder.h"
+
+#include <QDir>
+
+namespace {
+
+class DesignDatabase : public testing::Test
+{
+protected:
+    Outcome write(const QString& to, const QStringList& lines, bool onlyUnsurveyed = false)
+    {
+        ProgressReporter progress(&events);
+        return writeDesignDatabase(to, {project.design, lines, onlyUnsurveyed},
+                                   project.coordParameters, progress);
+    }
+    /// The rows of a table, in their order.
+    [[nodiscard]] static std::string rows(const QString& path, const char* table)
+    {
+        DBAdapter database;
+        EXPECT_TRUE(database.open(lum::databaseConnection(path.toStdString()).c_str()))
+            << database.lastError();
+        std::string all;
+        database.forEachRow((std::string("select * from ") + table).c_str(),
+                            [&](const IDictionary& row) {
+                                for (std::size_t i = 0; i < row.size(); ++i)
+                                    all += std::string(row.valueAt(i)) + '|';
+                                all += '\n';
+                                return true;
+                            });
+        return all;
+    }
+    [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files); }
+
+    TestFolder folder;
+    QString path = folder.path("测 区.db");
+    EventManager events;
+    TestProject project = TestProject::made(3, 3000, "第 1");
+};
+
+} // namespace
+
+TEST_F(DesignDatabase, HoldsTheRowsThatASaveWrites)
+{
+    project.coordParameters.set("unit_m", "0.3048");
+    const QString saved = folder.path("saved.db");
+    ASSERT_TRUE(makeDatabase(saved.toStdString()));
+    project.survey.clear();
+    expectDone(project.save(saved.toStdString()));
+    expectDone(
+        write(path, {QStringLiteral("1000"), QStringLiteral("1001"), QStringLiteral("1002")}));
+    for (const char* table : {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem"})
+        EXPECT_EQ(rows(path, table), rows(saved, table)) << table;
+    EXPECT_EQ(files().size(), 2) << "nothing beside it";
+}
+
+TEST_F(DesignDatabase, LinesComeInTheOrderOfTheListWithProgress)
+{
+    const EventLog heard(events, events::kProgress);
+    const QStringList lines{QStringLiteral("1001"), QStringLiteral("none"), QStringLiteral("1002"),
+                            QStringLiteral("1000"), QStringLiteral("none")};
+    expectDone(write(path, lines, true)); // line 1001 is surveyed
+    const std::string written = rows(path, "SurveyLineItem");
+    EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 6000);
+    EXPECT_EQ(written.find("1002|"), 0U);
+    EXPECT_LT(written.rfind("1002|10027999"), written.find("1000|1000"));
+    EXPECT_EQ(heard.payloads(),
+              (std::vector<std::string>{"text=Export Design Data,value=20,is_exec=0",
+                                        "text=Export Design Data,value=60,is_exec=0",
+                                        "text=Export Design Data,value=80,is_exec=0", "show=0"}));
+}
+
+TEST_F(DesignDatabase, WhatCannotBeWrittenStaysAsItWas)
+{
+    folder.write("测 区.db", "old");
+    const QStringList lines{QStringLiteral("1000"), QStringLiteral("1002")};
+    for (const rlim_t kilobytes : {1U, 30U, 100U, 300U}) {
+        const SmallFiles limit(kilobytes * 1024);
+        expectFailure(write(path, lines), path.toUtf8());
+    }
+    expectFailure(write(folder.path(), lines), folder.path().toUtf8());
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+    {
+        const OrdinaryUser user;
+        expectFailure(write(path, lines), "Permission denied");
+    }
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(TestFolder::read(path), "old");
+    EXPECT_EQ(files().size(), 1);
+}
+
+/// SQLite would play the journal into the new database, and opening would bring the copy back.
+TEST_F(DesignDatabase, NothingIsLeftOfTheDatabaseBefore)
+{
+    for (const char* ending : {"", "-journal", "-wal", "-shm", ".saved"})
+        folder.write(QStringLiteral("测 区.db") + QLatin1String(ending), QByteArray(9000, 'x'));
+    expectDone(write(path, {QStringLiteral("1000")}));
+    EXPECT_EQ(files().size(), 1);
+    expectDone(TestProject().load(path.toStdString()));
+}
+
+TEST_F(DesignDatabase, AProjectInUseIsNotReplaced)
+{
+    const ProjectPlace place = ProjectPlace::in(folder.path(), QStringLiteral("测 区"));
+    folder.write("测 区.kelx", "");
+    folder.write("测 区.db", "in use");
+    ProjectLock lock;
+    ASSERT_TRUE(lock.take(place).isDone());
+    expectFailure(write(path, {}), "open in another program");
+    EXPECT_EQ(TestFolder::read(path), "in use");
+    lock.release();
+    expectDone(write(path, {}));
+    EXPECT_EQ(files().size(), 2);
+}
