@@ -12,8 +12,8 @@ QString repeatedRowText()
 
 QString replacedPointText()
 {
-    return QCoreApplication::translate("ImportSummary",
-                                       "The project had the point; it has this row's values now.");
+    return QCoreApplication::translate(
+        "ImportSummary", "The project had the point; it has the values of the file now.");
 }
 
 void namePlaces(ImportSummary& summary, const std::vector<std::pair<std::size_t, PointName>>& names)

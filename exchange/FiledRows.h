@@ -17,6 +17,22 @@
 void namePlaces(ImportSummary& summary,
                 const std::vector<std::pair<std::size_t, PointName>>& names);
 
+/// Lists points of the project that others are about to replace, for a source without lines. It
+/// also names the first line.
+template <class Points>
+void tellReplaced(const Points& project, const Points& staged, ImportSummary& summary)
+{
+    for (const auto& [number, line] : staged) {
+        const auto* const own = project.findLine(number);
+        for (auto point = line.begin(); own != nullptr && point != line.end(); ++point) {
+            if (own->find(point->pointNumber) != nullptr)
+                summary.replaced.add(0, replacedPointText, {number, point->pointNumber});
+        }
+    }
+    if (!staged.empty())
+        summary.firstLine = staged.begin()->first;
+}
+
 /// Follows the points of a file into their container, and notes which of them replace another.
 template <class Points>
 class FiledRows

@@ -22,7 +22,9 @@ constexpr Column kColumns[] = {
     {QT_TRANSLATE_NOOP("ImportFindingsModel", "Finding"),
      [](const QString& kind, const Place& /*place*/) { return kind; }},
     {QT_TRANSLATE_NOOP("ImportFindingsModel", "Line of the File"),
-     [](const QString& /*kind*/, const Place& place) { return QString::number(place.line); },
+     [](const QString& /*kind*/, const Place& place) {
+         return place.line == 0 ? QString() : QString::number(place.line);
+     },
      Qt::AlignRight},
     {QT_TRANSLATE_NOOP("ImportFindingsModel", "Line Num"),
      [](const QString& /*kind*/, const Place& place) { return lum::toQString(place.point.line); }},
@@ -34,10 +36,12 @@ constexpr Column kColumns[] = {
      [](const QString& /*kind*/, const Place& place) { return place.text; }},
 };
 
+constexpr int kFileLineColumn = 1;
+
 } // namespace
 
 ImportFindingsModel::ImportFindingsModel(const ImportSummary& summary, QObject* parent)
-    : QAbstractTableModel(parent)
+    : QAbstractTableModel(parent), m_isDatabase(summary.isDatabase)
 {
     for (const ImportSummary::Kind& kind : summary.kinds()) {
         for (const Place& place : kind.findings.first)
@@ -86,5 +90,8 @@ QVariant ImportFindingsModel::headerData(int section, Qt::Orientation orientatio
     if (role != Qt::DisplayRole || orientation != Qt::Horizontal || section < 0 ||
         section >= columnCount())
         return QAbstractTableModel::headerData(section, orientation, role);
-    return QCoreApplication::translate("ImportFindingsModel", kColumns[section].caption);
+    const char* const caption = section == kFileLineColumn && m_isDatabase
+                                    ? QT_TRANSLATE_NOOP("ImportFindingsModel", "Result")
+                                    : kColumns[section].caption;
+    return QCoreApplication::translate("ImportFindingsModel", caption);
 }

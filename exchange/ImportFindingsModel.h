@@ -5,7 +5,8 @@
 #include <QAbstractTableModel>
 
 /// The findings of an import, a row for each place that its summary has kept: kind, line of the
-/// file, line and point as the project has them, sentence. The worst kinds stand first.
+/// file or result of the database, line and point as the project has them, sentence. The worst
+/// kinds stand first.
 class ImportFindingsModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -32,4 +33,5 @@ private:
     };
 
     std::vector<Row> m_rows;
+    bool m_isDatabase;
 };

@@ -18,7 +18,7 @@ struct ImportSummary
 
         struct Place
         {
-            std::size_t line;     ///< counted from 1
+            std::size_t line;     ///< counted from 1; 0 where it is not known
             QString text;         ///< translated, a whole sentence
             PointName point = {}; ///< as the project knows it; empty where there is none
         };

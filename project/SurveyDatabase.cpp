@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "exchange/CsvFaults.h"
+#include "exchange/FiledRows.h"
 #include "exchange/ImportSummary.h"
 #include "exchange/SameCoordSystem.h"
 #include "lum_sdk/events/ProgressReporter.h"
@@ -150,6 +151,7 @@ Outcome addResults(const QString& path, const SurveyImport& import, ProgressRepo
     sumUp(content.rows, summary);
     const std::size_t distinct = content.points.pointCount();
     summary.pointsRepeated = summary.linesRead - summary.skipped.count - distinct;
+    tellReplaced(import.points, content.points, summary);
     summary.pointsReplaced = import.points.merge(std::move(content.points));
     summary.pointsNew = distinct - summary.pointsReplaced;
     return reading;

@@ -1,11 +1,15 @@
 #include "exchange/ui/DlgCsvKind.h"
 
+#include "lum_sdk/DpiScale.h"
+
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -47,7 +51,8 @@ DlgCsvKind::DlgCsvKind(QWidget* parent, const QString& path, const QStringList& 
     rows->addWidget(head);
     rows->addStretch();
     addButtons();
-    setMinimumSizeScaled(kLeastWidth, 0);
+    const int width = std::max(dpi_scaled(kLeastWidth), sizeHint().width());
+    resize(width, layout()->totalHeightForWidth(width)); // the lines of text break
 }
 
 void DlgCsvKind::addButtons()

@@ -31,7 +31,8 @@ namespace {
 constexpr int kWidth = 760;
 constexpr int kHeight = 460;
 constexpr int kHeightAlone = 240; ///< without a table
-constexpr int kMostLines = 7;     ///< of the numbers, before they scroll
+constexpr int kColumnGap = 12;
+constexpr int kMostNumbers = 160; ///< height of the numbers, before they scroll
 
 QString openProject()
 {
@@ -94,8 +95,8 @@ QString tableText(const QAbstractItemModel& model)
 
 DlgImportSummary::DlgImportSummary(IDesktopHost& host, const ImportSummary& summary,
                                    const char* pointList)
-    : Dialog(host.dialogParent()), m_host(host), m_path(summary.path), m_pointList(pointList),
-      m_project(openProject()),
+    : Dialog(host.dialogParent()), m_host(host), m_path(summary.path),
+      m_isDatabase(summary.isDatabase), m_pointList(pointList), m_project(openProject()),
       m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
 {
     setObjectName(QStringLiteral("DlgImportSummary"));
@@ -124,11 +125,15 @@ void DlgImportSummary::addFindings(const ImportSummary& summary, QVBoxLayout& ro
 {
     m_table = new CustomTableWidget(this);
     m_table->setModel(new ImportFindingsModel(summary, m_table));
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    QHeaderView& header = *m_table->horizontalHeader();
+    header.setStretchLastSection(true);
+    for (int column = 0; column < header.count() - 1; ++column) // a caption in Chinese is wider
+        header.resizeSection(column, header.sectionSize(column) + dpi_scaled(kColumnGap));
     connect(m_table, &QAbstractItemView::clicked, this, &DlgImportSummary::showFinding);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &DlgImportSummary::showFinding);
     auto* const menu = new QMenu(this);
-    menu->addAction(tr("&Copy"), m_table, &CustomTableWidget::copySelection, QKeySequence::Copy);
+    menu->addAction(
+        tr("&Copy"), m_table, [this] { m_table->copySelection(); }, QKeySequence::Copy);
     menu->addAction(tr("Copy &All"), this, &DlgImportSummary::copyAll);
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, menu,
             [menu](const QModelIndex& /*index*/, const QPoint& place) { menu->popup(place); });
@@ -163,7 +168,8 @@ void DlgImportSummary::addButtons(QVBoxLayout& rows)
         connect(button, &QPushButton::clicked, this, action);
     };
     add(tr("Copy &All"), &DlgImportSummary::copyAll);
-    add(tr("&Open the File"), &DlgImportSummary::openFile);
+    if (!m_isDatabase)
+        add(tr("&Open the File"), &DlgImportSummary::openFile);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     rows.addWidget(buttons);
@@ -182,24 +188,35 @@ void DlgImportSummary::showEvent(QShowEvent* event)
     if (m_table == nullptr)
         return; // the numbers have all the room
     layout()->activate();
-    const int lines = std::min(kMostLines, int(m_numbers->document()->size().height()));
-    const int margin = 2 * int(m_numbers->document()->documentMargin());
-    m_numbers->setFixedHeight(lines * m_numbers->fontMetrics().lineSpacing() + margin + 2);
+    QTextCursor end(m_numbers->document());
+    end.movePosition(QTextCursor::End);
+    const int margin = int(m_numbers->document()->documentMargin());
+    m_numbers->setFixedHeight(
+        std::min(m_numbers->cursorRect(end).bottom() + 2 * margin, dpi_scaled(kMostNumbers)));
 }
 
 void DlgImportSummary::showFinding(const QModelIndex& index)
 {
     const QModelIndex first = index.siblingAtColumn(0);
-    const QModelIndex last = index.siblingAtColumn(m_table->model()->columnCount() - 1);
     const QString point = first.data(ImportFindingsModel::kPointNumber).toString();
-    QString text = tr("Line %1 of \"%2\": %3")
-                       .arg(first.data(ImportFindingsModel::kFileLine).toString(), m_path,
-                            last.data().toString());
+    QString text = placeText(first);
     auto* const list = m_host.windows().findAs<IPointList>(QLatin1String(m_pointList));
     if (!point.isEmpty() && list != nullptr &&
         !list->selectPoint(first.data(ImportFindingsModel::kLineNumber).toString(), point))
         text += QLatin1Char(' ') + tr("The project does not have the point.");
     m_place->setText(text);
+}
+
+/// Where a finding stands, and what it is.
+QString DlgImportSummary::placeText(const QModelIndex& first) const
+{
+    const int last = m_table->model()->columnCount() - 1;
+    const QString found = first.siblingAtColumn(last).data().toString();
+    const QString line = first.data(ImportFindingsModel::kFileLine).toString();
+    if (line == QLatin1String("0"))
+        return found;
+    return (m_isDatabase ? tr("Result %1 of \"%2\": %3") : tr("Line %1 of \"%2\": %3"))
+        .arg(line, m_path, found);
 }
 
 void DlgImportSummary::copyAll()

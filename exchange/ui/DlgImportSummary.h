@@ -35,11 +35,13 @@ private:
     void addFindings(const ImportSummary& summary, QVBoxLayout& rows);
     void addButtons(QVBoxLayout& rows);
     void showFinding(const QModelIndex& index);
+    [[nodiscard]] QString placeText(const QModelIndex& first) const;
     void copyAll();
     void openFile();
 
     IDesktopHost& m_host; // outlives the dialog
     QString m_path;
+    bool m_isDatabase; ///< which is not opened to be read
     const char* m_pointList;
     QPlainTextEdit* m_numbers = nullptr;
     CustomTableWidget* m_table = nullptr; ///< null without a finding

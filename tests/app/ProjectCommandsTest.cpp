@@ -678,6 +678,14 @@ private Q_SLOTS:
         QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, {});
         QApplication::sendEvent(m_frame.get(), &drop);
         QTRY_VERIFY(isOpen());
+
+        const QByteArray rows = "1,L,1,2,3,4,1,0\n";
+        files.setUrls({QUrl::fromLocalFile(m_folder->write("1.csv", rows)),
+                       QUrl::fromLocalFile(m_folder->write("2.CSV", "2" + rows))});
+        QDropEvent points(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, {});
+        QApplication::sendEvent(m_frame.get(), &points);
+        QTRY_COMPARE(manager().designPoints().pointCount(), std::size_t(2));
+        expectAsked("Success: Import Success!\nSuccess: Import Success!\n");
     }
 
     void aFileFromOutsideAsksAsTheCommandDoes()
