@@ -24,6 +24,11 @@ public:
     {
         return find(name) != nullptr;
     }
+    bool close(const QString& name) override
+    {
+        closed.append(name);
+        return windows.contains(name);
+    }
     IWindow* open(const QString& className, const IDictionary& /*parameters*/) override
     {
         opened.append(className);
@@ -32,6 +37,7 @@ public:
 
     QHash<QString, IWindow*> windows;
     QStringList activated;
+    QStringList closed;
     QStringList opened;
 };
 
