@@ -25,6 +25,7 @@
 #include "project/ui/TimeZomeDlgCommand.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
+#include "views/AttributeControl.h"
 
 namespace {
 
@@ -34,6 +35,7 @@ using namespace desktop::registration;
 [[maybe_unused]] const bool kRegistered[] = {
     assistant<DataProcess5Assistant>    ("DataProcess5",                 "助手"),
     window<ProgressStatusBarForSkyquill>("ProgressStatusBarForSkyquill", "Progress"),
+    window<AttributeControl>            ("AttributeControl",             "属性编辑窗口"),
     layer<DataProcessLayerImp>          ("DataProcessLayer",             "矢量图层"),
     reactor<ReactorMoveTrans>           ("ReactorMoveTrans",             "平移"),
     reactor<ReactorZoomRectTrans>       ("ReactorZoomRectTrans",         "局部矩形放大"),

@@ -13,7 +13,8 @@ constexpr const char* kToolFolder = "程序 dir/etc/Tarvona/config/Skyquill/Tool
 
 /// Every component that is registered, as "--components" prints them: kind, name, caption.
 constexpr const char* kComponents =
-    "IWindow: CoordinateReadout 坐标显示, LayerWindow 图层窗口, MapWindow 地图,"
+    "IWindow: AttributeControl 属性编辑窗口, CoordinateReadout 坐标显示, LayerWindow 图层窗口, "
+    "MapWindow 地图,"
     " MessageWindow 消息窗口, ProgressStatusBarForSkyquill Progress\n"
     "ILayerViewer: BoundaryLayer 边界图层, DataProcessLayer 矢量图层\n"
     "IReactor: ReactorDefault 默认, ReactorMoveTrans 平移, ReactorZoomRectTrans 局部矩形放大,"
