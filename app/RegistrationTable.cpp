@@ -33,6 +33,7 @@
 #include "views/trees/SurveyDataControl.h"
 #include "views/find/FindCommand.h"
 #include "views/tables/SurveyTableHideCommand.h"
+#include "views/AttributeControl.h"
 
 namespace {
 
@@ -46,6 +47,7 @@ using namespace desktop::registration;
     window<SurveyDataTable>             ("SurveyDataTable",              "勘察数据列表"),
     window<DesignLineControl>           ("DesignLineControl",            "设计测线控制窗口"),
     window<SurveyDataControl>           ("SurveyDataControl",            "勘察数据控制窗口"),
+    window<AttributeControl>            ("AttributeControl",             "属性编辑窗口"),
     layer<DataProcessLayerImp>          ("DataProcessLayer",             "矢量图层"),
     reactor<ReactorMoveTrans>           ("ReactorMoveTrans",             "平移"),
     reactor<ReactorZoomRectTrans>       ("ReactorZoomRectTrans",         "局部矩形放大"),

@@ -88,6 +88,14 @@ Outcome ownFile(const QString& path)
                                .arg(path));
 }
 
+Outcome noSuchPoint(const PointName& name)
+{
+    return Outcome::refused(
+        QCoreApplication::translate("DataProcessDataManager",
+                                    "Line %1 has no point %2 any more: nothing was changed.")
+            .arg(QString::fromStdString(name.line), QString::fromStdString(name.point)));
+}
+
 /// What the checks have found in each result.
 std::vector<int> verdicts(const SurveyPoints& points)
 {
@@ -426,18 +434,33 @@ std::size_t DataProcessDataManager::deleteSurveyLines(const QStringList& lines)
     return deleted;
 }
 
-int DataProcessDataManager::correctSurveyPoint(const PointName& /*name*/,
-                                               const SurveyCorrection& /*correction*/,
-                                               Outcome* outcome)
+int DataProcessDataManager::correctSurveyPoint(const PointName& name,
+                                               const SurveyCorrection& correction, Outcome* outcome,
+                                               PointName* filedAs)
 {
-    return answered(Outcome::failed({}), outcome);
+    if (m_survey.find(name.line, name.point) == nullptr)
+        return answered(noSuchPoint(name), outcome);
+    if (const auto fault = faultOf(correction))
+        return answered(Outcome::refused(fault->text), outcome);
+    PointName place = name;
+    if (correct(m_survey, place, correction))
+        markChanged();
+    if (filedAs != nullptr)
+        *filedAs = std::move(place);
+    return answered(Outcome::done(), outcome);
 }
 
-int DataProcessDataManager::correctDesignPoint(const PointName& /*name*/,
-                                               const DesignCorrection& /*correction*/,
-                                               Outcome* outcome)
+int DataProcessDataManager::correctDesignPoint(const PointName& name,
+                                               const DesignCorrection& correction, Outcome* outcome)
 {
-    return answered(Outcome::failed({}), outcome);
+    DesignPoint* const point = m_design.find(name.line, name.point);
+    if (point == nullptr)
+        return answered(noSuchPoint(name), outcome);
+    if (const auto fault = faultOf(correction))
+        return answered(Outcome::refused(fault->text), outcome);
+    if (correct(*point, correction))
+        markChanged();
+    return answered(Outcome::done(), outcome);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)

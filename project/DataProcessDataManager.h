@@ -131,10 +131,10 @@ public:
     /// \returns how many results are gone
     std::size_t deleteSurveyPoints(const std::vector<PointName>& points);
     std::size_t deleteSurveyLines(const QStringList& lines);
-    /// Refused when the point does not exist. A result that gets the name of another one takes its
-    /// place.
+    /// Refused when the point does not exist or the correction has a fault. A result that gets the
+    /// name of another one takes its place. `filedAs` gets its name in memory.
     int correctSurveyPoint(const PointName& name, const SurveyCorrection& correction,
-                           Outcome* outcome = nullptr);
+                           Outcome* outcome = nullptr, PointName* filedAs = nullptr);
     int correctDesignPoint(const PointName& name, const DesignCorrection& correction,
                            Outcome* outcome = nullptr);
 

@@ -23,9 +23,10 @@ inline constexpr const char* kProjectModified = "ON_PROJECT_MODIFIED";
 
 // --- tables ---
 
-/// Checks, corrected points -> design table. No payload.
+/// Checks, corrected points -> design table, attribute panel. No payload.
 inline constexpr const char* kRefreshDesignTable = "REFRESH_DESIGN_TABLE";
-/// Coordinate format, quality check, time zone, corrected points -> survey table. No payload.
+/// Coordinate format, quality check, time zone, corrected points -> survey table, attribute panel.
+/// No payload.
 inline constexpr const char* kRefreshSurveyTable = "REFRESH_SURVEY_TABLE";
 /// The dialog of the survey columns, the table's header -> survey table. No payload.
 inline constexpr const char* kSurveyColumnsChanged = "ON_SURVEY_COLUMNS_CHANGED";

@@ -28,6 +28,10 @@ public:
     /// \returns whether the window can be seen now
     virtual bool reveal(const QString& name, const QString& uncovered) = 0;
 
+    /// Closes a window as its cross does: the View menu and `activate` bring it back.
+    /// \returns false when there is no such window, or it is in no dock
+    virtual bool close(const QString& name) = 0;
+
     /// Opens a window of a registered class, or returns the one that is open.
     /// \param parameters all are passed on to a new window. Read here are "caption", the name of a
     ///        new window; "title", the text of its tab; and "isSetActive", which brings the window

@@ -13,9 +13,10 @@ constexpr const char* kToolFolder = "程序 dir/etc/Tarvona/config/Skyquill/Tool
 
 /// Every component that is registered, as "--components" prints them: kind, name, caption.
 constexpr const char* kComponents =
-    "IWindow: CoordinateReadout 坐标显示, DesignLineControl 设计测线控制窗口,"
-    " LayerWindow 图层窗口, MapWindow 地图, MessageWindow 消息窗口,"
-    " ProgressStatusBarForSkyquill Progress, SurveyDataControl 勘察数据控制窗口\n"
+    "IWindow: AttributeControl 属性编辑窗口, CoordinateReadout 坐标显示,"
+    " DesignLineControl 设计测线控制窗口, DesignLineTable 设计测线列表, LayerWindow 图层窗口,"
+    " MapWindow 地图, MessageWindow 消息窗口, ProgressStatusBarForSkyquill Progress,"
+    " SurveyDataControl 勘察数据控制窗口, SurveyDataTable 勘察数据列表\n"
     "ILayerViewer: BoundaryLayer 边界图层, DataProcessLayer 矢量图层\n"
     "IReactor: ReactorDefault 默认, ReactorMoveTrans 平移, ReactorZoomRectTrans 局部矩形放大,"
     " SeletePointReactor 属性查看\n"
@@ -32,7 +33,7 @@ constexpr const char* kComponents =
     " PPKZoomRectCommand 局部矩形放大, QualitySpecificateCommand 质量规范,"
     " RecentProjectCommand 最近工程, ResetLayoutCommand 恢复布局, SaveCopyCommand 工程另存副本,"
     " SaveProjectCommand 保存工程, SettingChoiceCommand 系统设置选项, ShortcutsCommand 快捷键,"
-    " ShowQuestionsCommand 重新显示提示, SurveyTableHideCommand 测量列显示, SysSettingCommand "
+    " ShowQuestionsCommand 重新显示提示, SurveyTableHideCommand 勘察列表隐藏, SysSettingCommand "
     "设置, TimeZomeDlgCommand 时区修改,"
     " ViewChangeCommand 更改视图\n"
     "IGuiAssistant: DataProcess5 助手\n";

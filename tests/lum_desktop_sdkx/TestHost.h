@@ -25,6 +25,11 @@ public:
         revealed.append(name + QStringLiteral(" beside ") + uncovered);
         return find(name) != nullptr;
     }
+    bool close(const QString& name) override
+    {
+        closed.append(name);
+        return windows.contains(name);
+    }
     IWindow* open(const QString& className, const IDictionary& /*parameters*/) override
     {
         opened.append(className);
@@ -34,6 +39,7 @@ public:
     QHash<QString, IWindow*> windows;
     QStringList activated;
     QStringList revealed;
+    QStringList closed;
     QStringList opened;
 };
 

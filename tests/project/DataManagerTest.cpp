@@ -6,6 +6,7 @@
 #include "project/ProjectCreator.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
+#include "quality/QualityDescription.h"
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/EventLog.h"
@@ -73,6 +74,21 @@ TEST_F(DataManager, AMissingGeoidIsLoggedOncePerOperation)
     system.set("geoid_valid", "0");
     manager.setCoordSystem(system);
     EXPECT_TRUE(manager.seaHeightNotice().isEmpty());
+}
+
+TEST_F(DataManager, FaultsAreToldInMetres)
+{
+    basalt::Dictionary feet;
+    feet.set("unit_m", "0.3048");
+    feet.set("factor", "3.280839895");
+    manager.setCoordSystem(feet);
+    SurveyPoint& point = *manager.surveyPoints().find("L", "P");
+    point.qualityStandard = 1;
+    point.north = 100;
+    const auto rows = manager.describeQuality(point);
+    manager.setCoordSystem(basalt::Dictionary());
+    ASSERT_EQ(rows.size(), 1U);
+    EXPECT_DOUBLE_EQ(rows[0].value, 30.48);
 }
 
 TEST_F(DataManager, WhatCannotBeDoneIsToldAndLogged)

@@ -6,6 +6,7 @@
 #include "lum_desktop_sdkx/controls/PropertyGridView.h"
 #include "lum_sdk/DpiScale.h"
 
+#include <QAction>
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
@@ -51,6 +52,7 @@ PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
     layout->addWidget(m_view, 1);
     layout->addWidget(m_description);
 
+    makeCopyActions();
     connect(m_model, &PropertyGridModel::valueEdited, this, &PropertyGridCtrl::valueChanged);
     connect(delegate, &PropertyGridDelegate::typed, this, &PropertyGridCtrl::valueShown);
     connect(delegate, &QAbstractItemDelegate::closeEditor, this, [this] {
@@ -62,6 +64,22 @@ PropertyGridCtrl::PropertyGridCtrl(QWidget* parent)
             [this] { describe(m_view->currentIndex()); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { describe(current); });
+}
+
+void PropertyGridCtrl::makeCopyActions()
+{
+    const auto add = [this](const QString& text, const QKeySequence& keys, auto copy) {
+        auto* const action = new QAction(text, m_view);
+        action->setShortcut(keys);
+        action->setShortcutContext(Qt::WidgetShortcut); // the editors have their own
+        action->setShortcutVisibleInContextMenu(true);
+        connect(action, &QAction::triggered, m_view, copy);
+        m_view->addAction(action);
+    };
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    add(tr("&Copy Value"), QKeySequence::Copy, &PropertyGridView::copyValue);
+    add(tr("Copy &All Rows"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C),
+        &PropertyGridView::copyAll);
 }
 
 PropertyGridCtrl::~PropertyGridCtrl()
@@ -154,6 +172,17 @@ void PropertyGridCtrl::setRowCaption(const QString& key, const QString& caption)
 void PropertyGridCtrl::setRowUnit(const QString& key, const QString& unit)
 {
     m_model->setUnit(key, unit);
+}
+
+void PropertyGridCtrl::addRowChoices(const QString& key,
+                                     const std::vector<PropertyGridChoice>& choices)
+{
+    m_model->addChoices(key, choices);
+}
+
+void PropertyGridCtrl::setEditableMarked(bool marked)
+{
+    m_model->setEditableMarked(marked);
 }
 
 void PropertyGridCtrl::setReadOnlyBut(const QStringList& keys)

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "basalt_utilities/Dictionary.h"
+#include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 
 #include <QByteArray>
 #include <QWidget>
+
+#include <vector>
 
 class PropertyGridModel;
 class PropertyGridView;
@@ -15,7 +18,8 @@ class QModelIndex;
 ///
 /// A value is checked when the user enters it. A bad value is marked in its row, and no signal is
 /// sent for it: `getData` keeps the last good value. A text that was not edited comes out byte for
-/// byte as it came in.
+/// byte as it came in. Ctrl+C copies the value of a row, Ctrl+Shift+C all rows; so does the context
+/// menu.
 class PropertyGridCtrl : public QWidget
 {
     Q_OBJECT
@@ -73,6 +77,12 @@ public:
     void setRowCaption(const QString& key, const QString& caption);
     void setRowUnit(const QString& key, const QString& unit);
 
+    /// Adds choices to those that the control file gives a row. Values that it has are passed over.
+    void addRowChoices(const QString& key, const std::vector<PropertyGridChoice>& choices);
+
+    /// Shows a pencil in the rows that can be edited, for a grid in which most cannot.
+    void setEditableMarked(bool marked);
+
     /// Shows the values of all rows without letting the user change them, but for those of `keys`.
     void setReadOnlyBut(const QStringList& keys);
 
@@ -97,6 +107,7 @@ Q_SIGNALS:
     void valueShown(const QString& key, const QString& value);
 
 private:
+    void makeCopyActions();
     void describe(const QModelIndex& index);
 
     PropertyGridModel* m_model;

@@ -8,10 +8,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
 #include <QStyle>
+#include <QToolTip>
 #include <QTreeView>
 
 namespace {
@@ -114,6 +116,22 @@ QSize PropertyGridDelegate::sizeHint(const QStyleOptionViewItem& option,
                 (view != nullptr ? noteHeight(*view, index) : 0)};
 }
 
+bool PropertyGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                     const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    QStyleOptionViewItem cell(option);
+    initStyleOption(&cell, index);
+    const QRect room = view->style()->subElementRect(QStyle::SE_ItemViewItemText, &cell, view);
+    if (event->type() != QEvent::ToolTip ||
+        cell.fontMetrics.horizontalAdvance(cell.text) <= room.width())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QString tip = cell.text;
+    if (const QString more = index.data(Qt::ToolTipRole).toString(); !more.isEmpty())
+        tip += QLatin1Char('\n') + more;
+    QToolTip::showText(event->globalPos(), tip, view);
+    return true;
+}
+
 void PropertyGridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                                 const QModelIndex& index) const
 {
@@ -144,6 +162,7 @@ void PropertyGridDelegate::initStyleOption(QStyleOptionViewItem* option,
                                            const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    option->decorationPosition = QStyleOptionViewItem::Right;
     if (option->backgroundBrush.style() != Qt::NoBrush)
         option->state &= ~QStyle::State_Selected; // the selection must not hide the mark of a fault
 }

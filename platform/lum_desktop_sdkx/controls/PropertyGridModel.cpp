@@ -5,6 +5,9 @@
 #include "lum_sdk/Text.h"
 
 #include <QColor>
+#include <QIcon>
+
+#include <algorithm>
 
 namespace {
 
@@ -102,6 +105,22 @@ void PropertyGridModel::setUnit(const QString& key, const QString& unit)
         row->unit = unit;
         tellChanged(indexOfKey(key));
     }
+}
+
+void PropertyGridModel::addChoices(const QString& key,
+                                   const std::vector<PropertyGridChoice>& choices)
+{
+    PropertyGridRow* const row = rowOfKey(key);
+    if (row == nullptr)
+        return;
+    for (const PropertyGridChoice& choice : choices) {
+        const bool isKnown =
+            std::any_of(row->choices.begin(), row->choices.end(),
+                        [&](const auto& other) { return other.value == choice.value; });
+        if (!isKnown)
+            row->choices.push_back(choice);
+    }
+    tellChanged(indexOfKey(key));
 }
 
 void PropertyGridModel::setReadOnlyBut(const QStringList& keys)
@@ -231,6 +250,10 @@ QVariant PropertyGridModel::valueData(const PropertyGridRow& row, int role) cons
         return m_faults.contains(row.key) ? m_faults.value(row.key).message : row.description;
     case Qt::BackgroundRole:
         return m_faults.contains(row.key) ? faultBackground() : QVariant();
+    case Qt::DecorationRole:
+        if (!m_isEditableMarked || row.readOnly || row.editor == Editor::Flag)
+            return {};
+        return QIcon::fromTheme(QStringLiteral("document-edit"));
     case Qt::CheckStateRole:
         if (row.editor != Editor::Flag)
             return {};

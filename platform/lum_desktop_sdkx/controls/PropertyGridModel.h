@@ -47,6 +47,12 @@ public:
     void setCaption(const QString& key, const QString& caption);
     void setUnit(const QString& key, const QString& unit);
 
+    /// Values that the row has are passed over.
+    void addChoices(const QString& key, const std::vector<PropertyGridChoice>& choices);
+
+    /// Shows a pencil in the rows that can be edited.
+    void setEditableMarked(bool marked) { m_isEditableMarked = marked; }
+
     /// Makes all rows read-only but those of some keys.
     void setReadOnlyBut(const QStringList& keys);
 
@@ -101,4 +107,5 @@ private:
     basalt::Dictionary m_values;
     QHash<QString, Fault> m_faults;  ///< by row key
     QHash<QString, QString> m_notes; ///< by row key
+    bool m_isEditableMarked = false;
 };

@@ -4,6 +4,8 @@
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 #include "lum_sdk/DpiScale.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -18,6 +20,14 @@ constexpr int kFewRows = 3;
 bool isGroup(const QModelIndex& index)
 {
     return index.isValid() && !index.parent().isValid();
+}
+
+/// The value of a row; that of a check box as it is stored.
+QString copiedText(const QModelIndex& row)
+{
+    const QModelIndex value = row.siblingAtColumn(PropertyGridModel::Value);
+    const bool isFlag = value.data(Qt::CheckStateRole).isValid();
+    return value.data(isFlag ? Qt::EditRole : Qt::DisplayRole).toString();
 }
 
 bool isEnterable(const QModelIndex& index)
@@ -55,6 +65,27 @@ void PropertyGridView::commitEditor()
     QWidget* const editor = indexWidget(currentIndex());
     if (delegate != nullptr && editor != nullptr)
         Q_EMIT delegate->commitData(editor);
+}
+
+void PropertyGridView::copyValue()
+{
+    if (currentIndex().isValid() && !isGroup(currentIndex()))
+        QGuiApplication::clipboard()->setText(copiedText(currentIndex()));
+}
+
+void PropertyGridView::copyAll()
+{
+    QString text;
+    for (int g = 0; g < model()->rowCount(); ++g) {
+        const QModelIndex group = model()->index(g, 0);
+        for (int r = 0; r < model()->rowCount(group); ++r) {
+            const QModelIndex caption = model()->index(r, PropertyGridModel::Caption, group);
+            if (!isRowHidden(r, group))
+                text += caption.data().toString() + QLatin1Char('\t') +
+                        copiedText(caption).simplified() + QLatin1Char('\n');
+        }
+    }
+    QGuiApplication::clipboard()->setText(text);
 }
 
 void PropertyGridView::spanGroups()

@@ -17,6 +17,11 @@ public:
     /// Enters the text of an open editor and leaves the editor open.
     void commitEditor();
 
+    /// The value of the current row to the clipboard, as it is shown.
+    void copyValue();
+    /// All rows that are shown, in open groups or not: caption, tab, value.
+    void copyAll();
+
     /// Opens the groups and lets them span both columns. Called after the model got new rows.
     void spanGroups();
 

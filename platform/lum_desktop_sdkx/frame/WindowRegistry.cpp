@@ -80,6 +80,15 @@ bool WindowRegistry::reveal(const QString& name, const QString& uncovered)
     return found->dock->isCurrentTab();
 }
 
+bool WindowRegistry::close(const QString& name)
+{
+    const Entry* const found = entry(name);
+    if (found == nullptr || found->dock == nullptr)
+        return false;
+    found->dock->toggleView(false);
+    return true;
+}
+
 IWindow* WindowRegistry::open(const QString& className, const IDictionary& parameters)
 {
     const auto text = [&](const char* key, const QString& fallback) {

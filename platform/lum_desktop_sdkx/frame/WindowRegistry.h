@@ -25,6 +25,7 @@ public:
     [[nodiscard]] IWindow* find(const QString& name) const override;
     bool activate(const QString& name) override;
     bool reveal(const QString& name, const QString& uncovered) override;
+    bool close(const QString& name) override;
     IWindow* open(const QString& className, const IDictionary& parameters) override;
 
     /// Sets the frame's docks and status bar. They must live until `clear` was called.

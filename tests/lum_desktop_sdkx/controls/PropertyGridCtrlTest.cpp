@@ -220,6 +220,33 @@ private Q_SLOTS:
         QCOMPARE(m_grid->getData().size(), std::size_t(1));
     }
 
+    void addsChoicesThatTheFileCannotKnow()
+    {
+        for (int round = 0; round < 2; ++round)
+            m_grid->addRowChoices("type"_q, {{"1"_q, "Other"_q}, {"Well 7"_q, "Well 7"_q}});
+        click(cell(1, 0));
+        auto* const combo = qobject_cast<QComboBox*>(editor(cell(1, 0)));
+        QCOMPARE(combo->count(), 3);
+        QCOMPARE(combo->itemText(1), "Receiver"_q);
+        QCOMPARE(combo->itemData(2).toString(), "Well 7"_q);
+    }
+
+    void copiesAValueOrAllRows()
+    {
+        m_grid->setValue("note"_q, "two\nlines"_q);
+        m_grid->setRowVisible("file"_q, false);
+        m_grid->setEditableMarked(true);
+        QVERIFY(!cell(0, 1).data(Qt::DecorationRole).isValid()); // read-only
+        QVERIFY(cell(0, 0).data(Qt::DecorationRole).isValid());
+        m_view->setCurrentIndex(cell(0, 0));
+        QTest::keyClick(m_view, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), "0.50000000000000001 m"_q);
+        m_view->collapse(m_view->model()->index(1, 0));
+        QTest::keyClick(m_view, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 "Horizontal\t0.50000000000000001 m\nNote\ttwo lines\nType\tSource\nGeoid\t0\n"_q);
+    }
+
 private:
     [[nodiscard]] QModelIndex cell(int group, int row) const
     {

@@ -425,8 +425,10 @@ private Q_SLOTS:
         QCOMPARE(windows.find("survey"_q), nullptr);
         QVERIFY(!windows.activate("Unknown"_q));
 
-        shown.dock("Survey Data List")->toggleView(false);
+        QVERIFY(!windows.close("Unknown"_q));
+        QVERIFY(windows.close("Survey"_q));
         QVERIFY(!window->widget()->isVisible());
+        QVERIFY(!shown.dock("Survey Data List")->toggleViewAction()->isChecked());
         QVERIFY(windows.activate("Survey"_q));
         QVERIFY(window->widget()->isVisible());
     }

@@ -1,0 +1,189 @@
+#include "project/PointCorrection.h"
+
+#include "basalt_utilities/Numbers.h"
+#include "lum_sdk/Host.h"
+#include "project/DataProcessDataManager.h"
+#include "protocol/Events.h"
+#include "tests/project/TestProject.h"
+#include "tests/support/EventLog.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using Field = CorrectionFault::Field;
+
+namespace {
+
+/// A result whose heights have four decimals.
+SurveyPoint highPoint()
+{
+    SurveyPoint point = surveyPoint("R1", "10012034");
+    point.antennaHeight = 2;
+    point.elevation = 123.4567;
+    point.altitude = 130.1;
+    point.seaHeight = -0.2;
+    return point;
+}
+
+std::optional<Field> fieldAtFault(const SurveyCorrection& correction)
+{
+    const auto fault = faultOf(correction);
+    EXPECT_TRUE(!fault || !fault->text.isEmpty());
+    return fault ? std::optional(fault->field) : std::nullopt;
+}
+
+class PointCorrection : public testing::Test
+{
+protected:
+    int correct(const PointName& name, const SurveyCorrection& correction)
+    {
+        filedAs = {};
+        return manager.correctSurveyPoint(name, correction, &outcome, &filedAs);
+    }
+    SurveyPoints& points = manager.surveyPoints();
+
+    Host host;
+    DataProcessDataManager manager{&host};
+    Outcome outcome = Outcome::done();
+    PointName filedAs;
+};
+
+} // namespace
+
+TEST_F(PointCorrection, AHigherAntennaLowersTheHeightsToTheLastDigit)
+{
+    manager.surveyPoints().set(highPoint());
+    const EventLog changes(host.eventManager(), events::kProjectModified);
+    SurveyCorrection correction;
+    correction.antennaHeightM = 1.8;
+    EXPECT_EQ(correct({"R1", "10012034"}, correction), 1);
+    const SurveyPoint& point = *manager.surveyPoints().find("R1", "10012034");
+    EXPECT_EQ(basalt::formatShortest(point.elevation), "123.6567");
+    EXPECT_EQ(basalt::formatShortest(point.altitude), "130.3");
+    EXPECT_EQ(basalt::formatShortest(point.seaHeight), "0") << "and no -0";
+    EXPECT_EQ(changes.events.size(), 1U);
+
+    correction.antennaHeightM = 2;
+    EXPECT_EQ(correct({"R1", "10012034"}, correction), 1);
+    EXPECT_EQ(point.elevation, 123.4567) << "back where it was";
+    correction.antennaHeightM = 3;
+    correction.movesHeights = false;
+    EXPECT_EQ(correct({"R1", "10012034"}, correction), 1);
+    EXPECT_EQ(point.elevation, 123.4567);
+    EXPECT_EQ(point.antennaHeight, 3);
+}
+
+TEST_F(PointCorrection, WhatIsAsItWasIsNoChange)
+{
+    SurveyPoint standing = surveyPoint("R1", "C10012034_3", "near the well");
+    standing.remarks = "near, the well"; // of a database: no fault while nobody changes it
+    manager.surveyPoints().set(standing);
+    const auto revision = manager.surveyPoints().revision();
+    SurveyCorrection correction;
+    correction.lineNumber = " R1 ";
+    correction.pointNumber = "C10012034";
+    correction.pointMark = 0;
+    correction.antennaHeightM = 0;
+    correction.surveyor = "";
+    EXPECT_EQ(correct({"R1", "C10012034_3"}, correction), 1);
+    EXPECT_FALSE(manager.isChanged());
+    EXPECT_EQ(manager.surveyPoints().revision(), revision);
+    EXPECT_EQ(filedAs, (PointName{"R1", "C10012034_3"}));
+}
+
+TEST_F(PointCorrection, ANewNameMovesTheResultAndReplacesTheOneThere)
+{
+    manager.surveyPoints().set(surveyPoint("R1", "1", "moved"));
+    manager.surveyPoints().set(surveyPoint("R2", "2", "replaced"));
+    SurveyCorrection correction;
+    correction.lineNumber = "R2";
+    EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), nullptr);
+    correction.pointNumber = "2";
+    EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), points.find("R2", "2"));
+    correction.remarks = "by hand ";
+    EXPECT_EQ(correct({"R1", "1"}, correction), 1);
+    EXPECT_EQ(points.findLine("R1"), nullptr) << "its last point has left";
+    ASSERT_EQ(points.pointCount(), 1U);
+    EXPECT_EQ(points.find("R2", "2")->remarks, "by hand");
+    EXPECT_EQ(points.find("R2", "2")->lineNumber, "R2");
+    EXPECT_EQ(filedAs, (PointName{"R2", "2"}));
+    EXPECT_TRUE(manager.isChanged());
+}
+
+TEST_F(PointCorrection, ACheckPointGetsAFreeCounterAndReplacesNone)
+{
+    for (const char* number : {"C10012034_0", "C10012034_1", "C10012035_0", "7"})
+        manager.surveyPoints().set(surveyPoint("R1", number, number));
+    SurveyCorrection correction;
+    correction.pointNumber = "C10012034";
+    EXPECT_EQ(replacedBy(points, {"R1", "7"}, correction), nullptr);
+    EXPECT_EQ(correct({"R1", "7"}, correction), 1);
+    EXPECT_EQ(filedAs.point, "C10012034_2");
+    EXPECT_EQ(correct({"R1", "C10012035_0"}, correction), 1);
+    EXPECT_EQ(filedAs.point, "C10012034_3");
+
+    SurveyCorrection toOtherLine;
+    toOtherLine.lineNumber = "R2";
+    EXPECT_EQ(correct({"R1", "C10012034_1"}, toOtherLine), 1);
+    EXPECT_EQ(filedAs, (PointName{"R2", "C10012034_0"}));
+    EXPECT_EQ(points.find("R2", "C10012034_0")->remarks, "C10012034_1");
+    EXPECT_EQ(points.pointCount(), 4U);
+}
+
+TEST_F(PointCorrection, FaultsAreToldAndChangeNothing)
+{
+    const auto name = [](const char* line, const char* point) {
+        SurveyCorrection correction;
+        correction.lineNumber = line;
+        correction.pointNumber = point;
+        return correction;
+    };
+    for (const char* bad : {"", "  ", "R,1", "R\"1", "R\n1", "R\r1", "R\t1"}) {
+        EXPECT_EQ(fieldAtFault(name(bad, "1")), Field::LineNumber) << bad;
+        EXPECT_EQ(fieldAtFault(name("R1", bad)), Field::PointNumber) << bad;
+    }
+    EXPECT_EQ(fieldAtFault(name("R1", "C10012034_0")), Field::PointNumber);
+    for (const char* good : {"R 1", "测线 1%", "C1001", "C1001203四", "1e5"})
+        EXPECT_EQ(fieldAtFault(name(good, good)), std::nullopt) << good;
+    SurveyCorrection height;
+    for (const double bad : {10.0001, -10.0001, std::nan(""), HUGE_VAL}) {
+        height.antennaHeightM = bad;
+        EXPECT_EQ(fieldAtFault(height), Field::AntennaHeight) << bad;
+    }
+    for (const double good : {10.0, -10.0}) {
+        height.antennaHeightM = good;
+        EXPECT_EQ(fieldAtFault(height), std::nullopt) << good;
+    }
+    SurveyCorrection text;
+    text.remarks = "dry, stony";
+    EXPECT_EQ(fieldAtFault(text), Field::Remarks);
+    text.remarks = "\"dry\"; 干，";
+    EXPECT_EQ(fieldAtFault(text), std::nullopt);
+
+    manager.surveyPoints().set(highPoint());
+    EXPECT_EQ(correct({"R1", "10012034"}, name("", "")), 0);
+    EXPECT_EQ(outcome.kind(), Outcome::Kind::Refused);
+    EXPECT_EQ(correct({"R1", "gone"}, {}), 0);
+    EXPECT_TRUE(outcome.text().contains(QStringLiteral("gone")));
+    EXPECT_FALSE(manager.isChanged());
+}
+
+TEST_F(PointCorrection, ADesignPointGetsHeightAndAzimuth)
+{
+    manager.designPoints().set({"R1", "1", 1, 2, 3, 45, 1, 0});
+    DesignCorrection correction;
+    correction.elevationM = 3;
+    EXPECT_EQ(manager.correctDesignPoint({"R1", "1"}, correction), 1);
+    EXPECT_FALSE(manager.isChanged());
+    correction.elevationM = 3.5;
+    correction.azimuthDeg = 90;
+    EXPECT_EQ(manager.correctDesignPoint({"R1", "1"}, correction), 1);
+    EXPECT_TRUE(manager.isChanged());
+    const DesignPoint& point = *manager.designPoints().find("R1", "1");
+    EXPECT_EQ(point.elevation, 3.5);
+    EXPECT_EQ(point.azimuth, 90);
+    correction.azimuthDeg = HUGE_VAL;
+    EXPECT_EQ(manager.correctDesignPoint({"R1", "1"}, correction), 0);
+    EXPECT_EQ(manager.correctDesignPoint({"R1", "2"}, {}), 0);
+}

@@ -1,0 +1,388 @@
+#include "../lum_desktop_sdkx/TestHost.h"
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/Text.h"
+#include "project/DataProcessDataManager.h"
+#include "project/PointCorrection.h"
+#include "project/ui/DlgSurveyPoint.h"
+#include "protocol/Events.h"
+#include "protocol/Payloads.h"
+#include "protocol/StatusKeys.h"
+#include "views/AttributeControl.h"
+#include "views/SelectionFollower.h"
+#include "views/tables/DesignLineTable.h"
+#include "views/tables/PointTableModel.h"
+#include "views/tables/SurveyDataTable.h"
+#include "views/trees/DesignLineControl.h"
+#include "views/trees/SurveyDataControl.h"
+
+#include <QTest>
+#include <QTreeWidget>
+
+#include <random>
+
+namespace {
+
+constexpr int kSteps = 3000;
+constexpr int kLines = 6;
+constexpr int kPointsPerLine = 12;
+
+std::string name(int number)
+{
+    // Among them numbers that sort oddly, and names that no file would have.
+    static const char* const kNames[] = {"1001", "10", "9", "线一", "L \"1\", north", "%1"};
+    return number < kLines ? kNames[number] : std::to_string(1000 + number);
+}
+
+/// The windows of the working place, and their points.
+struct Place
+{
+    Place()
+    {
+        const std::pair<const char*, IWindow*> kWindows[] = {
+            {"DataMap", &map},
+            {"DesignLineTable", &designTable},
+            {"Design Data List", &designTable},
+            {"SurveyDataTable", &surveyTable},
+            {"Survey Data List", &surveyTable},
+            {"Design Lines", &designTree},
+            {"Survey Lines", &surveyTree},
+        };
+        for (const auto& [title, window] : kWindows)
+            host.windowRegistry.windows[QString::fromLatin1(title)] = window;
+        for (QWidget* widget : std::initializer_list<QWidget*>{
+                 &map, &designTable, &surveyTable, &designTree, &surveyTree, &attributes}) {
+            widget->resize(600, 300);
+            widget->show();
+        }
+    }
+
+    void publish(const char* event, const QByteArray& payload = {})
+    {
+        host.events.publish(event, payload.isNull() ? nullptr : payload.constData(), 0);
+    }
+
+    TestHost host;
+    std::unique_ptr<DataProcessDataManager> manager =
+        std::make_unique<DataProcessDataManager>(&host);
+    MapWindow map{"name=DataMap", &host};
+    DesignLineTable designTable{"", &host};
+    SurveyDataTable surveyTable{"", &host};
+    DesignLineControl designTree{"", &host};
+    SurveyDataControl surveyTree{"", &host};
+    AttributeControl attributes{"", &host};
+    SelectionFollower follower{host};
+};
+
+} // namespace
+
+/// A random walk over the windows of the working place, while the points change below them, with
+/// the event that tells of it and without. What a row holds must be the project's, or nothing; the
+/// sanitizers see the rest.
+class WorkingPlaceWalkTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noRowPointsToNothing_data();
+    void noRowPointsToNothing();
+
+private:
+    using Step = void (WorkingPlaceWalkTest::*)();
+
+    int anyOf(int count) { return std::uniform_int_distribution<int>(0, count - 1)(m_random); }
+    PointName anyPoint() { return {name(anyOf(kLines + 1)), name(anyOf(kPointsPerLine + 1))}; }
+    PointTableWindow& anyTable();
+    CustomTableWidget& rowsOf(PointTableWindow& table);
+    void tellNewPoints();
+
+    void addPoints();
+    void openProject();
+    void closeProject();
+    void renewManager();
+    void removeQuietly();
+    void check();
+    void correct();
+    void showSomething();
+    void selectByEvent();
+    void clickRow();
+    void deleteRows();
+    void editRow();
+    void sortRows();
+    void filterRows();
+    void clickTree();
+    void deleteLine();
+
+    void look(PointTableWindow& table, bool isDesign);
+
+    std::unique_ptr<Place> m_place;
+    std::mt19937 m_random;
+};
+
+PointTableWindow& WorkingPlaceWalkTest::anyTable()
+{
+    if (anyOf(2) == 0)
+        return m_place->designTable;
+    return m_place->surveyTable;
+}
+
+CustomTableWidget& WorkingPlaceWalkTest::rowsOf(PointTableWindow& table)
+{
+    return *table.findChild<CustomTableWidget*>();
+}
+
+void WorkingPlaceWalkTest::tellNewPoints()
+{
+    m_place->publish(events::kRefreshDesignLayer);
+    m_place->publish(events::kRefreshSurveyLayer);
+}
+
+void WorkingPlaceWalkTest::addPoints()
+{
+    for (int i = anyOf(40); i > 0; --i) {
+        const PointName at = anyPoint();
+        DesignPoint design;
+        design.lineNumber = at.line;
+        design.pointNumber = at.point;
+        design.type = anyOf(2);
+        m_place->manager->designPoints().set(std::move(design));
+        SurveyPoint result;
+        result.lineNumber = at.line;
+        result.pointNumber = at.point;
+        result.north = anyOf(1000);
+        result.pdop = anyOf(20);
+        m_place->manager->surveyPoints().set(std::move(result));
+    }
+    if (anyOf(3) != 0)
+        tellNewPoints();
+}
+
+void WorkingPlaceWalkTest::openProject()
+{
+    get_system_status_dictionary().set(status::kProjectOpen, "1");
+    get_system_status_dictionary().set(status::kProjectPath, std::to_string(anyOf(3)));
+    m_place->publish(events::kUpdateSystemStatus);
+    tellNewPoints();
+}
+
+void WorkingPlaceWalkTest::closeProject()
+{
+    m_place->manager->clear();
+    get_system_status_dictionary().set(status::kProjectOpen, "0");
+    if (anyOf(2) == 0)
+        tellNewPoints();
+    m_place->publish(events::kUpdateSystemStatus);
+}
+
+void WorkingPlaceWalkTest::renewManager()
+{
+    m_place->manager.reset();
+    look(m_place->designTable, true);
+    look(m_place->surveyTable, false);
+    if (anyOf(2) == 0)
+        tellNewPoints();
+    m_place->manager = std::make_unique<DataProcessDataManager>(&m_place->host);
+}
+
+/// Nobody tells the windows.
+void WorkingPlaceWalkTest::removeQuietly()
+{
+    const PointName at = anyPoint();
+    m_place->manager->designPoints().erase(at.line, at.point);
+    m_place->manager->surveyPoints().eraseLine(anyPoint().line);
+    if (anyOf(10) == 0)
+        m_place->manager->surveyPoints() = SurveyPoints();
+}
+
+void WorkingPlaceWalkTest::check()
+{
+    m_place->manager->checkQuality();
+    m_place->publish(events::kRefreshDesignTable);
+    m_place->publish(events::kRefreshSurveyTable);
+}
+
+void WorkingPlaceWalkTest::correct()
+{
+    SurveyCorrection correction;
+    correction.antennaHeightM = anyOf(3);
+    if (anyOf(2) == 0)
+        correction.lineNumber = "moved";
+    m_place->manager->correctSurveyPoint(anyPoint(), correction);
+    m_place->manager->correctDesignPoint(anyPoint(), {.elevationM = anyOf(9), .azimuthDeg = {}});
+    m_place->publish(anyOf(2) == 0 ? events::kRefreshSurveyTable : events::kRefreshSurveyLayer);
+}
+
+void WorkingPlaceWalkTest::showSomething()
+{
+    const QByteArray line = payload::line(lum::toQString(anyPoint().line));
+    static constexpr const char* kEvents[] = {
+        events::kDesignLineSwitched, events::kSurveyLineSwitched, events::kShowAllSurveyTable,
+        events::kShowAllSurveyTable, events::kClearDesignTable,   events::kClearSurveyTable};
+    m_place->publish(kEvents[anyOf(6)], line);
+}
+
+void WorkingPlaceWalkTest::selectByEvent()
+{
+    const PointName at = anyPoint();
+    const QString line = lum::toQString(at.line);
+    const QString point = lum::toQString(at.point);
+    const QByteArray table = payload::linePoint(line, point);
+    const QByteArray map = payload::selectedPoint(point, line);
+    switch (anyOf(6)) {
+    case 0:
+        return m_place->publish(events::kDesignTableSelectPoint, table);
+    case 1:
+        return m_place->publish(events::kSurveyTableSelectPoint, table);
+    case 2:
+        return m_place->publish(events::kDesignPointSelected, map);
+    case 3:
+        return m_place->publish(events::kSurveyPointSelected, map);
+    case 4:
+        static_cast<void>(m_place->designTable.selectPoint(line, point));
+        return;
+    default:
+        static_cast<void>(m_place->surveyTable.selectPoint(line, point));
+    }
+}
+
+void WorkingPlaceWalkTest::clickRow()
+{
+    CustomTableWidget& rows = rowsOf(anyTable());
+    if (rows.model()->rowCount() == 0)
+        return;
+    const QModelIndex cell = rows.model()->index(anyOf(rows.model()->rowCount()), anyOf(3));
+    rows.scrollTo(cell);
+    const auto modifiers = anyOf(3) == 0 ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, modifiers, rows.visualRect(cell).center());
+    if (anyOf(4) == 0)
+        QTest::mouseDClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(cell).center());
+}
+
+void WorkingPlaceWalkTest::deleteRows()
+{
+    clickRow();
+    QTest::keyClick(&rowsOf(m_place->surveyTable), Qt::Key_Delete);
+}
+
+/// While the editor is open its result may go.
+void WorkingPlaceWalkTest::editRow()
+{
+    DlgSurveyPoint editor(nullptr, anyPoint());
+    editor.show();
+    if (anyOf(2) == 0)
+        removeQuietly();
+    if (auto* const field = editor.findChild<QLineEdit*>())
+        field->setText(lum::toQString(anyPoint().line));
+    QTest::keyClick(&editor, anyOf(3) == 0 ? Qt::Key_Escape : Qt::Key_Return);
+    m_place->publish(events::kRefreshSurveyLayer);
+}
+
+void WorkingPlaceWalkTest::sortRows()
+{
+    auto& model = static_cast<PointTableModel&>(*rowsOf(anyTable()).model());
+    model.sortBy(anyOf(model.columnCount() + 1) - 1,
+                 anyOf(2) == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+void WorkingPlaceWalkTest::filterRows()
+{
+    static const char* const kFilters[] = {"", "> 300", "1001..1004", "!1", "> x", "线"};
+    auto& model = static_cast<PointTableModel&>(*rowsOf(anyTable()).model());
+    model.setFilter(anyOf(model.columnCount()), QString::fromUtf8(kFilters[anyOf(6)]));
+    if (anyOf(3) == 0)
+        model.clearFilters();
+}
+
+void WorkingPlaceWalkTest::clickTree()
+{
+    auto* const tree = (anyOf(2) == 0 ? static_cast<QWidget&>(m_place->designTree)
+                                      : static_cast<QWidget&>(m_place->surveyTree))
+                           .findChild<QTreeWidget*>();
+    QTreeWidgetItem* item = tree->topLevelItem(0);
+    for (int steps = anyOf(kLines + 3); item != nullptr && steps > 0; --steps)
+        item = tree->itemBelow(item);
+    if (item == nullptr)
+        return;
+    tree->scrollToItem(item);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(item).center());
+}
+
+void WorkingPlaceWalkTest::deleteLine()
+{
+    clickTree();
+    QTest::keyClick(m_place->surveyTree.findChild<QTreeWidget*>(), Qt::Key_Delete);
+}
+
+/// Reads what the table shows, as its view does, and compares its rows with the project.
+void WorkingPlaceWalkTest::look(PointTableWindow& table, bool isDesign)
+{
+    CustomTableWidget& rows = rowsOf(table);
+    auto& model = static_cast<PointTableModel&>(*rows.model());
+    table.grab();
+    QVERIFY(model.rowCount() <= model.unfilteredCount());
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (const int role : {int(Qt::DisplayRole), int(Qt::ToolTipRole), int(Qt::BackgroundRole),
+                               PointTableModel::kPointNumberRole})
+            static_cast<void>(model.index(row, row % model.columnCount()).data(role));
+        const PointName at = model.pointAt(row);
+        if (at.line.empty())
+            continue; // the points have changed, and nobody has told the table
+        QVERIFY(m_place->manager != nullptr);
+        const bool isThere =
+            isDesign ? m_place->manager->designPoints().find(at.line, at.point) != nullptr
+                     : m_place->manager->surveyPoints().find(at.line, at.point) != nullptr;
+        QVERIFY2(isThere, (at.line + '/' + at.point).c_str());
+        QCOMPARE(model.rowOf(at), row);
+    }
+}
+
+void WorkingPlaceWalkTest::noRowPointsToNothing_data()
+{
+    QTest::addColumn<unsigned>("seed");
+    for (unsigned seed = 1; seed <= 3; ++seed)
+        QTest::newRow(std::to_string(seed).c_str()) << seed;
+}
+
+void WorkingPlaceWalkTest::noRowPointsToNothing()
+{
+    QFETCH(unsigned, seed);
+    m_random.seed(seed);
+    const LumMessageBox::Responder answers([this](const auto& message) {
+        if (anyOf(4) == 0)
+            removeQuietly(); // while the user thinks
+        return anyOf(2) == 0 && message.buttons & LumMessageBox::Button::Yes
+                   ? LumMessageBox::Button::Yes
+                   : LumMessageBox::Button::No;
+    });
+    const FileDialog::Responder noFile([](const auto& /*request*/) { return QString(); });
+    m_place = std::make_unique<Place>();
+    static constexpr Step kWalk[] = {
+        &WorkingPlaceWalkTest::addPoints,     &WorkingPlaceWalkTest::addPoints,
+        &WorkingPlaceWalkTest::openProject,   &WorkingPlaceWalkTest::removeQuietly,
+        &WorkingPlaceWalkTest::check,         &WorkingPlaceWalkTest::correct,
+        &WorkingPlaceWalkTest::showSomething, &WorkingPlaceWalkTest::selectByEvent,
+        &WorkingPlaceWalkTest::clickRow,      &WorkingPlaceWalkTest::deleteRows,
+        &WorkingPlaceWalkTest::editRow,       &WorkingPlaceWalkTest::sortRows,
+        &WorkingPlaceWalkTest::filterRows,    &WorkingPlaceWalkTest::clickTree,
+        &WorkingPlaceWalkTest::deleteLine};
+    for (int step = 0; step < kSteps && !QTest::currentTestFailed(); ++step) {
+        if (anyOf(60) == 0)
+            closeProject();
+        else if (anyOf(200) == 0)
+            renewManager();
+        else
+            (this->*kWalk[anyOf(int(std::size(kWalk)))])();
+        if (anyOf(3) == 0)
+            QCoreApplication::processEvents();
+        look(m_place->designTable, true);
+        look(m_place->surveyTable, false);
+    }
+    m_place->manager.reset(); // as at the program's end, before the windows
+    m_place.reset();
+}
+
+QTEST_MAIN(WorkingPlaceWalkTest)
+#include "WorkingPlaceWalkTest.moc"
