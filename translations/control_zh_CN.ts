@@ -871,5 +871,277 @@
         <source>km</source>
         <translation>km</translation>
     </message>
+    <message>
+        <source>Survey result</source>
+        <translation>测量成果</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Point mark</source>
+        <translation>点标识</translation>
+    </message>
+    <message>
+        <source>Whether a receiver or a source stands there.</source>
+        <translation>该处是接收点还是激发点。</translation>
+    </message>
+    <message>
+        <source>R (receiver)</source>
+        <translation>R（接收点）</translation>
+    </message>
+    <message>
+        <source>S (source)</source>
+        <translation>S（激发点）</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>In the time zone of the menu Tools.</source>
+        <translation>按“工具”菜单中所选的时区显示。</translation>
+    </message>
+    <message>
+        <source>Measure mode</source>
+        <translation>测量模式</translation>
+    </message>
+    <message>
+        <source>Loft is a stake-out of a design point.</source>
+        <translation>“放样”即对设计点的放样。</translation>
+    </message>
+    <message>
+        <source>Solution type</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>The code of the last quality check, a digit a family of tests; 0 when all passed, and before the check.</source>
+        <translation>最近一次质量检查的代码，每位数字对应一类检查；全部合格或尚未检查时为 0。</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Sea height</source>
+        <translation>海拔高</translation>
+    </message>
+    <message>
+        <source>By the geoid of the coordinate system; the elevation without one.</source>
+        <translation>按坐标系的大地水准面计算；没有时等于高程。</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>纬度</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>经度</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>大地高</translation>
+    </message>
+    <message>
+        <source>Antenna</source>
+        <translation>天线</translation>
+    </message>
+    <message>
+        <source>The height of the pole as the crew typed it.</source>
+        <translation>作业组输入的对中杆高度。</translation>
+    </message>
+    <message>
+        <source>Moves heights</source>
+        <translation>同时改正高程</translation>
+    </message>
+    <message>
+        <source>A changed antenna height moves the heights: elevation, altitude and sea height are lowered by what is added to it.</source>
+        <translation>修改天线高时同时改正高程：天线高增加多少，高程、大地高和海拔高就降低多少。</translation>
+    </message>
+    <message>
+        <source>Field notes</source>
+        <translation>野外记录</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Obstacle</source>
+        <translation>障碍物</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>The file of the photo.</source>
+        <translation>照片文件。</translation>
+    </message>
+    <message>
+        <source>Design north</source>
+        <translation>设计北坐标</translation>
+    </message>
+    <message>
+        <source>Design east</source>
+        <translation>设计东坐标</translation>
+    </message>
+    <message>
+        <source>Design elev.</source>
+        <translation>设计高程</translation>
+    </message>
+    <message>
+        <source>Transversal</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>How far the point lies beside its line.</source>
+        <translation>点偏离测线的距离。</translation>
+    </message>
+    <message>
+        <source>Longitudinal</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>How far the point lies from its place, measured along its line.</source>
+        <translation>沿测线方向点偏离其设计位置的距离。</translation>
+    </message>
+    <message>
+        <source>HRMS</source>
+        <translation>HRMS</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy.</source>
+        <translation>水平精度。</translation>
+    </message>
+    <message>
+        <source>VRMS</source>
+        <translation>VRMS</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy.</source>
+        <translation>垂直精度。</translation>
+    </message>
+    <message>
+        <source>PDOP</source>
+        <translation>PDOP</translation>
+    </message>
+    <message>
+        <source>HDOP</source>
+        <translation>HDOP</translation>
+    </message>
+    <message>
+        <source>VDOP</source>
+        <translation>VDOP</translation>
+    </message>
+    <message>
+        <source>Epochs</source>
+        <translation>历元数</translation>
+    </message>
+    <message>
+        <source>Correction age</source>
+        <translation>差分龄期</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>The age of the differential corrections.</source>
+        <translation>差分改正数的龄期。</translation>
+    </message>
+    <message>
+        <source>Satellite info</source>
+        <translation>卫星详情</translation>
+    </message>
+    <message>
+        <source>Base station</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>Base north</source>
+        <translation>基站北坐标</translation>
+    </message>
+    <message>
+        <source>Base east</source>
+        <translation>基站东坐标</translation>
+    </message>
+    <message>
+        <source>Base latitude</source>
+        <translation>基站纬度</translation>
+    </message>
+    <message>
+        <source>Base longitude</source>
+        <translation>基站经度</translation>
+    </message>
+    <message>
+        <source>Base altitude</source>
+        <translation>基站大地高</translation>
+    </message>
+    <message>
+        <source>Above the ellipsoid.</source>
+        <translation>椭球面以上的高度。</translation>
+    </message>
+    <message>
+        <source>Base distance</source>
+        <translation>基站距离</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>仪器型号</translation>
+    </message>
+    <message>
+        <source>Serial no.</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Design point</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>Of the line at the point, clockwise from grid north.</source>
+        <translation>测线在该点的方位角，从坐标北顺时针计。</translation>
+    </message>
+    <message>
+        <source>Deviation from the design</source>
+        <translation>相对设计的偏差</translation>
+    </message>
 </context>
 </TS>

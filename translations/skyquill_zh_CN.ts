@@ -31,6 +31,48 @@
     </message>
 </context>
 <context>
+    <name>AttributeControl</name>
+    <message>
+        <source>%1: %2 (limit %3)</source>
+        <translation>%1：%2（限差 %3）</translation>
+    </message>
+    <message>
+        <source>Select a point on the map or in a table.</source>
+        <translation>请在地图或表格中选择一个点。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>The heights have stayed as they were.</source>
+        <translation>高程保持不变。</translation>
+    </message>
+    <message>
+        <source>The heights are %1 m lower now. The quality is that of the last check.</source>
+        <translation>各高程已降低 %1 m。质量仍为上次检查的结果。</translation>
+    </message>
+    <message>
+        <source>The heights are %1 m higher now. The quality is that of the last check.</source>
+        <translation>各高程已升高 %1 m。质量仍为上次检查的结果。</translation>
+    </message>
+    <message>
+        <source>surveyed</source>
+        <translation>已测</translation>
+    </message>
+    <message>
+        <source>not surveyed</source>
+        <translation>未测</translation>
+    </message>
+</context>
+<context>
+    <name>AttributePage</name>
+    <message>
+        <source>The attributes cannot be shown: the file &quot;%1&quot; cannot be read (%2).</source>
+        <translation>无法显示属性：不能读取文件“%1”（%2）。</translation>
+    </message>
+</context>
+<context>
     <name>CodeTables</name>
     <message>
         <source>invalid</source>
@@ -650,6 +692,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Save Survey Data</source>
         <translation>正在保存测量数据</translation>
     </message>
+    <message>
+        <source>Line %1 has no point %2 any more: nothing was changed.</source>
+        <translation>测线 %1 上已没有点 %2，未作任何修改。</translation>
+    </message>
 </context>
 <context>
     <name>DataProcessLayerImp</name>
@@ -964,6 +1010,97 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgSurveyPoint</name>
+    <message>
+        <source>&amp;Move the heights by the difference</source>
+        <translation>按差值同时改正高程(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Modify Survey Result</source>
+        <translation>修改测量成果</translation>
+    </message>
+    <message>
+        <source>A pole that is higher than the crew has typed makes the point lower by as much.</source>
+        <translation>对中杆比作业组输入的高多少，点的高程就低多少。</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>&amp;Line:</source>
+        <translation>线号(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;Point:</source>
+        <translation>点号(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Antenna height:</source>
+        <translation>天线高(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Remarks:</source>
+        <translation>备注(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Line %1 has no point %2 any more.</source>
+        <translation>测线 %1 上已没有点 %2。</translation>
+    </message>
+    <message>
+        <source>The heights stay as they are.</source>
+        <translation>高程保持不变。</translation>
+    </message>
+    <message>
+        <source>Elevation %1 → %2 m</source>
+        <translation>高程 %1 → %2 m</translation>
+    </message>
+    <message>
+        <source>Altitude %1 → %2 m</source>
+        <translation>大地高 %1 → %2 m</translation>
+    </message>
+    <message>
+        <source>Sea height %1 → %2 m</source>
+        <translation>海拔高 %1 → %2 m</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Antenna height: %1</source>
+        <translation>天线高：%1</translation>
+    </message>
+    <message>
+        <source>Input Correct Param!</source>
+        <translation>请输入正确的参数！</translation>
+    </message>
+    <message>
+        <source>Line %1, point %2, measured %3, would be replaced.</source>
+        <translation>测线 %1 的点 %2（测量时间 %3）将被替换。</translation>
+    </message>
+    <message>
+        <source>Its surveyor: %1</source>
+        <translation>其测量员：%1</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>New Point Name Exist, Want to Overload?</source>
+        <translation>新点名已存在，是否覆盖？</translation>
+    </message>
+</context>
+<context>
     <name>DrawExcitationCommand</name>
     <message>
         <source>not show s line</source>
@@ -1195,6 +1332,41 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Open Project</source>
         <translation>打开工程</translation>
+    </message>
+</context>
+<context>
+    <name>PointCorrection</name>
+    <message>
+        <source>A comma cannot stand here: it separates the fields of CSV files. Write a semicolon.</source>
+        <translation>此处不能有英文逗号：它是 CSV 文件的字段分隔符。请改用分号或中文逗号。</translation>
+    </message>
+    <message>
+        <source>A line break, a tab or another control character cannot stand here.</source>
+        <translation>此处不能有换行、制表符或其他控制字符。</translation>
+    </message>
+    <message>
+        <source>A line or point number has no comma and no quote.</source>
+        <translation>线号和点号不能含有逗号和引号。</translation>
+    </message>
+    <message>
+        <source>The line number is missing.</source>
+        <translation>缺少线号。</translation>
+    </message>
+    <message>
+        <source>The point number is missing.</source>
+        <translation>缺少点号。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins as the number of a check point, which is a C and eight characters: files hold no more of it than &quot;%2&quot;.</source>
+        <translation>“%1”以检查点点号的形式开头；检查点点号是 C 加八个字符，文件中只能保存“%2”。</translation>
+    </message>
+    <message>
+        <source>The antenna height is a number from -%1 to %1 metres.</source>
+        <translation>天线高应为 -%1 到 %1 米之间的数。</translation>
+    </message>
+    <message>
+        <source>This is no number.</source>
+        <translation>这不是数。</translation>
     </message>
 </context>
 <context>
@@ -1456,6 +1628,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&quot;%1&quot;: %2</source>
         <translation>“%1”：%2</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>复制值(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;All Rows</source>
+        <translation>复制全部行(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -2087,6 +2267,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>It lacks the caption %1.</source>
         <translation>它缺少列标题 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyTable</name>
+    <message>
+        <source>base id</source>
+        <translation>基站编号</translation>
     </message>
 </context>
 <context>
