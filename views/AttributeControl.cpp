@@ -130,6 +130,12 @@ AttributeControl::AttributeControl(const char* config, IDesktopHost* host)
     layout->addLayout(buttons);
 }
 
+AttributeControl::~AttributeControl()
+{
+    m_survey->disconnect(this); // an open editor closes when this is a panel no more
+    m_design->disconnect(this);
+}
+
 void AttributeControl::handleEvent(const char* eventName, const char* payload, int /*reserved*/)
 {
     basalt::Dictionary values;

@@ -25,6 +25,7 @@ class AttributeControl final : public QWidget, public IWindowx, public IEventHan
 
 public:
     AttributeControl(const char* config, IDesktopHost* host);
+    ~AttributeControl() override;
 
     [[nodiscard]] QWidget* widget() override { return this; }
     [[nodiscard]] IDictionary& parameters() override { return m_parameters; }

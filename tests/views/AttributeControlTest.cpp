@@ -312,6 +312,9 @@ void AttributeControlTest::anEditBelongsToThePointItWasTypedFor()
     selectResult();
     QVERIFY(!isMarked("antenna_height"));
     QCOMPARE(point().antennaHeight, 2.0);
+    type("remarks", "of a panel that ends"_q);
+    m_panel.reset();
+    QCOMPARE(point().remarks, std::string("of the first"));
 }
 
 void AttributeControlTest::anObstacleIsChosenAndAnUnknownOneKept()
