@@ -65,7 +65,7 @@ Outcome repairCopy(const QString& path, const QString& copy, ImportSummary& summ
         QFile::setPermissions(copy + QLatin1String(ending), QFile::ReadOwner | QFile::WriteOwner);
     }
     DBAdapter database;
-    const Outcome recovery = SafetyCopy(copy.toStdString()).recover(database);
+    Outcome recovery = SafetyCopy(copy.toStdString()).recover(database);
     if (recovery.isDone() && !recovery.text().isEmpty())
         summary.remarks << translated(
             QT_TRANSLATE_NOOP("SurveyDatabase", "Saving that project was interrupted. The results "
