@@ -79,7 +79,7 @@ private:
     struct Line
     {
         KmlLabel label;
-        std::size_t end;
+        std::size_t end = 0; ///< in the positions
     };
     std::vector<CoordTriple> m_positions;
     std::vector<Line> m_lines;

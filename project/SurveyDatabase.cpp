@@ -63,9 +63,10 @@ Outcome repairCopy(const QString& path, const QString& copy, ImportSummary& summ
         QFile file(path + QLatin1String(ending));
         if ((*ending == '\0' || file.exists()) && !file.copy(copy + QLatin1String(ending)))
             return cannotRead(file.fileName(), file.errorString());
+        QFile::setPermissions(copy + QLatin1String(ending), QFile::ReadOwner | QFile::WriteOwner);
     }
     DBAdapter database;
-    const Outcome recovery = SafetyCopy(copy.toStdString()).recover(database);
+    Outcome recovery = SafetyCopy(copy.toStdString()).recover(database);
     if (recovery.isDone() && !recovery.text().isEmpty())
         summary.remarks << translated(
             QT_TRANSLATE_NOOP("SurveyDatabase", "Saving that project was interrupted. The results "

@@ -19,8 +19,8 @@ using DesignExport = int (DataProcessDataManager::*)(const QStringList& lines, c
 /// A kind of export: of the design by an operation of the manager, otherwise of results.
 struct ExportKind
 {
-    const char* name;
-    DesignExport design;
+    const char* name = nullptr;
+    DesignExport design = nullptr;
     bool hasColumns = false;
 };
 

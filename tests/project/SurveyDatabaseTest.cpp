@@ -4,6 +4,7 @@
 #include "lum_sdk/events/EventManager.h"
 #include "protocol/Events.h"
 #include "tests/project/ExpectOutcome.h"
+#include "tests/project/OrdinaryUser.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/TestFolder.h"
@@ -107,12 +108,14 @@ TEST_F(SurveyDatabase, IsOnlyReadAlsoWhileAnotherProgramHasIt)
 /// A write that was cut off is undone in a copy; changes that stand in a log are read.
 TEST_F(SurveyDatabase, IsReadAsItWasSavedAndLeftAlone)
 {
+    const OrdinaryUser user; // who cannot write to a file that is only read
     const QString whole = path;
     /// Goes on with a copy, as it is left when the power goes.
     const auto cutOff = [&](const char* name, const char* beside) {
         path = folder.path(name);
         ASSERT_TRUE(QFile::copy(whole, path));
         ASSERT_TRUE(QFile::copy(whole + QLatin1String(beside), path + QLatin1String(beside)));
+        QFile::setPermissions(path, QFile::ReadOwner);
     };
     const auto expectRead = [&](std::size_t count) {
         const auto before = content();
