@@ -865,6 +865,76 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgCsvKind</name>
+    <message>
+        <source>The heading of &quot;%1&quot; does not tell what the file holds. Are these design points or survey results?</source>
+        <translation>从表头看不出“%1”的内容。这些是设计点还是测量成果？</translation>
+    </message>
+    <message>
+        <source>The first lines of the file</source>
+        <translation>文件的前几行</translation>
+    </message>
+    <message>
+        <source>&amp;Design Points</source>
+        <translation>设计点(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Survey Results</source>
+        <translation>测量成果(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>DlgImportSummary</name>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Import Success!</source>
+        <translation>导入成功！</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;All</source>
+        <translation>全部复制(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Of each kind the first %1 are listed.</source>
+        <translation>每类只列出前 %1 条。</translation>
+    </message>
+    <message>
+        <source>Click a row to see its point, or where it stands in the file.</source>
+        <translation>单击一行可查看对应的点或其在文件中的位置。</translation>
+    </message>
+    <message>
+        <source>&amp;Open the File</source>
+        <translation>打开文件(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The project does not have the point.</source>
+        <translation>工程中没有该点。</translation>
+    </message>
+    <message>
+        <source>Result %1 of &quot;%2&quot;: %3</source>
+        <translation>“%2”第 %1 个成果：%3</translation>
+    </message>
+    <message>
+        <source>Line %1 of &quot;%2&quot;: %3</source>
+        <translation>“%2”第 %1 行：%3</translation>
+    </message>
+    <message>
+        <source>Open the File</source>
+        <translation>打开文件</translation>
+    </message>
+    <message>
+        <source>No program could be started that opens &quot;%1&quot;.</source>
+        <translation>无法启动打开“%1”的程序。</translation>
+    </message>
+</context>
+<context>
     <name>DlgNewProject</name>
     <message>
         <source>New Project</source>
@@ -1023,6 +1093,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>FileImports</name>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Import Success!</source>
+        <translation>导入成功！</translation>
+    </message>
+    <message>
+        <source>Choose Open File</source>
+        <translation>选择要打开的文件</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Import Failed!</source>
+        <translation>导入失败！</translation>
+    </message>
+    <message>
+        <source>A file of points is imported into a project. Open or create the project first, then import the file.</source>
+        <translation>点数据文件只能导入到工程中。请先打开或新建工程，再导入该文件。</translation>
+    </message>
+</context>
+<context>
     <name>FrameMenus</name>
     <message>
         <source>Go to the menus</source>
@@ -1065,6 +1162,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 of %2</source>
         <translation>第 %1 处，共 %2 处</translation>
+    </message>
+</context>
+<context>
+    <name>ImportFindingsModel</name>
+    <message>
+        <source>Finding</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Line of the File</source>
+        <translation>文件行号</translation>
+    </message>
+    <message>
+        <source>Line Num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point Num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>What Was Found</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>成果</translation>
     </message>
 </context>
 <context>
@@ -1157,6 +1281,46 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Result %1: %2</source>
         <translation>成果 %1：%2</translation>
     </message>
+    <message>
+        <source>The point stands in the file before; the later row counts.</source>
+        <translation>文件前面已有该点，以后面的行为准。</translation>
+    </message>
+    <message>
+        <source>The project had the point; it has the values of the file now.</source>
+        <translation>工程中原有该点，现已采用文件中的值。</translation>
+    </message>
+    <message>
+        <source>Skipped line</source>
+        <translation>跳过的行</translation>
+    </message>
+    <message>
+        <source>Damaged bytes</source>
+        <translation>损坏的字节</translation>
+    </message>
+    <message>
+        <source>Unread field</source>
+        <translation>无法读取的字段</translation>
+    </message>
+    <message>
+        <source>Changed field</source>
+        <translation>改动的字段</translation>
+    </message>
+    <message>
+        <source>Cut off fields</source>
+        <translation>截去的字段</translation>
+    </message>
+    <message>
+        <source>Missing fields</source>
+        <translation>缺少的字段</translation>
+    </message>
+    <message>
+        <source>Repeated row</source>
+        <translation>重复的行</translation>
+    </message>
+    <message>
+        <source>Replaced point</source>
+        <translation>被替换的点</translation>
+    </message>
 </context>
 <context>
     <name>Kml</name>
@@ -1239,12 +1403,12 @@ The positions stay the numbers that they are: nothing is converted. They then co
 <context>
     <name>MainFrame</name>
     <message>
-        <source>&quot;%1&quot; is not a project file.</source>
-        <translation>“%1”不是工程文件。</translation>
-    </message>
-    <message>
         <source>[read-only]</source>
         <translation>[只读]</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be opened here.</source>
+        <translation>“%1”不是可以在此打开的文件。</translation>
     </message>
 </context>
 <context>
