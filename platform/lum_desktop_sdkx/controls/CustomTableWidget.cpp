@@ -23,10 +23,11 @@ constexpr int kMinColumnWidth = 36;
 
 void blankBreaks(QString& text)
 {
-    for (QChar& c : text) {
-        if (c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r'))
-            c = QLatin1Char(' ');
-    }
+    const auto isBreak = [](QChar c) {
+        return c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
+    };
+    if (std::any_of(text.cbegin(), text.cend(), isBreak)) // else the text stays shared
+        std::replace_if(text.begin(), text.end(), isBreak, QLatin1Char(' '));
 }
 
 } // namespace
