@@ -1,9 +1,11 @@
 #include "lum_desktop_sdkx/frame/DesktopStyle.h"
 
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyleOption>
+#include <QTableView>
 #include <QWidget>
 #include <QWindow>
 
@@ -240,6 +242,17 @@ void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOption
     if ((control == CC_ComboBox && combo != nullptr && combo->frame) ||
         (control == CC_SpinBox && spin != nullptr && spin->frame))
         drawOutline(*painter, *option);
+}
+
+int DesktopStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                              const QWidget* widget) const
+{
+    constexpr int kMoreBesideCells = 3;
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool isOfCells = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
+    const bool isTable = isOfCells && (qobject_cast<const QTableView*>(widget) != nullptr ||
+                                       qobject_cast<const QHeaderView*>(widget) != nullptr);
+    return isTable ? usual + kMoreBesideCells : usual;
 }
 
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -6,7 +6,8 @@ namespace desktop {
 
 /// Fusion, with what it leaves unclear: who has the keyboard focus, the outlines of fields, boxes,
 /// buttons and menus on a dark ground, icons on the colour of a selection and disabled ones, that a
-/// tool bar has more buttons, and which entries of a menu exclude one another.
+/// tool bar has more buttons, which entries of a menu exclude one another, and where a column of
+/// numbers ends beside one of names.
 class DesktopStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -20,6 +21,8 @@ public:
                      const QWidget* widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget = nullptr) const override;
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                                  const QWidget* widget = nullptr) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option = nullptr,
                                 const QWidget* widget = nullptr,
                                 QStyleHintReturn* returned = nullptr) const override;
