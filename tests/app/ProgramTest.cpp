@@ -13,8 +13,9 @@ constexpr const char* kToolFolder = "程序 dir/etc/Tarvona/config/Skyquill/Tool
 
 /// Every component that is registered, as "--components" prints them: kind, name, caption.
 constexpr const char* kComponents =
-    "IWindow: CoordinateReadout 坐标显示, LayerWindow 图层窗口, MapWindow 地图,"
-    " MessageWindow 消息窗口, ProgressStatusBarForSkyquill Progress\n"
+    "IWindow: CoordinateReadout 坐标显示, DesignLineTable 设计测线列表, LayerWindow 图层窗口,"
+    " MapWindow 地图, MessageWindow 消息窗口, ProgressStatusBarForSkyquill Progress,"
+    " SurveyDataTable 勘察数据列表\n"
     "ILayerViewer: BoundaryLayer 边界图层, DataProcessLayer 矢量图层\n"
     "IReactor: ReactorDefault 默认, ReactorMoveTrans 平移, ReactorZoomRectTrans 局部矩形放大,"
     " SeletePointReactor 属性查看\n"
