@@ -87,15 +87,14 @@ void BM_AllLines(benchmark::State& state)
     manager();
     for (auto _ : state) {
         const double before = usedMiB();
-        const double seconds = bench::medianOf([&] {
-            design->showNothing();
-            survey->showNothing();
-            return bench::secondsOf([&] {
-                design->showAllLines();
-                survey->showAllLines();
-            });
-        });
-        bench::report(state, "all lines of 1,000,000 + 200,000 points shown", seconds * 1000, 50,
+        const auto shown = [](PointTableModel& model) {
+            return 1000 * bench::medianOf([&] {
+                       model.showNothing();
+                       return bench::secondsOf([&] { model.showAllLines(); });
+                   });
+        };
+        bench::report(state, "all lines of 200,000 results shown", shown(*survey), 50, "ms");
+        bench::report(state, "all lines of 1,000,000 design points shown", shown(*design), 50,
                       "ms");
         bench::report(state, "memory of both tables", usedMiB() - before, 60, "MiB");
         const double again = bench::medianOf([&] {

@@ -182,7 +182,7 @@ QString translated(const char* text)
 std::pair<QString, QString> textsOf(const JudgedValue& judged)
 {
     constexpr int kFewest = 2;
-    constexpr int kMost = 6;
+    constexpr int kMost = 9;
     const bool areWhole =
         std::trunc(judged.value) == judged.value && std::trunc(judged.limit) == judged.limit;
     std::string value;

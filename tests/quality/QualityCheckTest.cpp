@@ -8,6 +8,7 @@
 #include "protocol/Events.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
+#include "quality/QualityTests.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
 
@@ -55,6 +56,50 @@ TEST(QualityCheck, EachFamilyOfFaultsHasItsDigitAndARow)
         describeQuality(point, limits, rows);
         EXPECT_EQ(rows.size(), 1U) << code;
     }
+}
+
+TEST(QualityCheck, EachFieldOfACommonFaultHasItsOwnSentence)
+{
+    SurveyPoint point = soundPoint();
+    point.north = point.transversalDeviation = 2; // feet
+    point.elevation = -2000;
+    point.longitudinalDeviation = -1.64042;
+    point.horizontalAccuracy = -0.50004;
+    point.antennaHeight = 3;
+    point.hdop = 0.4;
+    point.vdop = 4;
+    point.satelliteNumber = 3;
+    QualityLimits limits = QualityLimits::from(basalt::Dictionary());
+    limits.planeUnitM = 0.3048;
+    point.qualityStandard = qualityCode(point, limits) + 20;
+    const std::pair<SurveyColumn::Member, const char*> sentences[] = {
+        {&SurveyPoint::north,
+         "Horizontal distance from the design 0.61 m is over its limit 0.50 m."},
+        {&SurveyPoint::east,
+         "Horizontal distance from the design 0.61 m is over its limit 0.50 m."},
+        {&SurveyPoint::elevation,
+         "Difference in height from the design 2000 m is over its limit 1000 m."},
+        {&SurveyPoint::transversalDeviation,
+         "Transversal deviation 0.61 m is over its limit 0.50 m."},
+        {&SurveyPoint::longitudinalDeviation,
+         "Longitudinal deviation 0.50000002 m is over its limit 0.50000000 m."},
+        {&SurveyPoint::horizontalAccuracy,
+         "Horizontal accuracy 0.50004 m is over its limit 0.50000 m."},
+        {&SurveyPoint::antennaHeight, "Antenna height 3.00 m is over its limit 2.50 m."},
+        {&SurveyPoint::hdop, "HDOP 0.40 is under its limit 0.50."},
+        {&SurveyPoint::vdop, "VDOP 4 is over its limit 3."},
+        {&SurveyPoint::satelliteNumber, "Number of satellites 3 is under its limit 6."},
+    };
+    for (const auto& [field, sentence] : sentences) {
+        const QualityTest* const failed = failedTest(point, field);
+        ASSERT_NE(failed, nullptr) << sentence;
+        EXPECT_EQ(failureText(*failed, point, limits).toStdString(), sentence);
+    }
+    for (const SurveyColumn::Member& field :
+         {SurveyColumn::Member(&SurveyPoint::pdop), SurveyColumn::Member(&SurveyPoint::remarks),
+          SurveyColumn::Member(&SurveyPoint::verticalAccuracy),
+          SurveyColumn::Member(&SurveyPoint::designNorth)})
+        EXPECT_EQ(failedTest(point, field), nullptr);
 }
 
 TEST(QualityCheck, TheLogNamesResultsWhosePositionIsNoNumber)

@@ -9,8 +9,6 @@
 #include "views/tables/ShownRows.h"
 #include "views/tables/SortKeys.h"
 
-#include <QCollator>
-
 #include <limits>
 #include <numeric>
 #include <utility>
@@ -374,7 +372,7 @@ void PointTable<Point>::sort(std::vector<std::uint32_t>& places) const
         sortByNames(items, isDescending,
                     [&](std::uint32_t row) { return std::string_view(m_rows[row].*name); });
     } else if (column.kind == ColumnKind::Text) {
-        sortByTexts(items, isDescending, QCollator(),
+        sortByTexts(items, isDescending,
                     [&](std::uint32_t row) { return text(m_rows[row], m_sortColumn); });
     } else {
         std::visit(

@@ -1,8 +1,11 @@
 #include "views/tables/SortKeys.h"
 
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/Text.h"
 
 #include <QCollator>
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -63,9 +66,16 @@ struct TextHash
 };
 using Ranks = std::unordered_map<std::string, std::uint64_t, TextHash, std::equal_to<>>;
 
-/// Numbers the texts in the order of the language; equal ones for it have one number.
-void rank(Ranks& texts, const QCollator& collator)
+QCollator collatorOfLanguage()
 {
+    const auto language = get_system_ini_parameter().dictionary().text(settings::kLanguage);
+    return QCollator(language.empty() ? QLocale::system() : QLocale(lum::toQString(language)));
+}
+
+/// Numbers the texts in the order of the language; equal ones for it have one number.
+void rank(Ranks& texts)
+{
+    const QCollator collator = collatorOfLanguage();
     std::vector<std::pair<QCollatorSortKey, std::uint64_t*>> keys;
     keys.reserve(texts.size());
     for (auto& [text, place] : texts)
@@ -118,7 +128,7 @@ void sortByNames(std::vector<SortItem>& items, bool isDescending,
     }
 }
 
-void sortByTexts(std::vector<SortItem>& items, bool isDescending, const QCollator& collator,
+void sortByTexts(std::vector<SortItem>& items, bool isDescending,
                  const std::function<std::string_view(std::uint32_t row)>& textOf)
 {
     Ranks texts;
@@ -131,7 +141,7 @@ void sortByTexts(std::vector<SortItem>& items, bool isDescending, const QCollato
             found = texts.emplace(text, 0).first;
         ranks.push_back(&found->second);
     }
-    rank(texts, collator);
+    rank(texts);
     for (std::size_t i = 0; i < items.size(); ++i)
         items[i].key = *ranks[i];
     sortByKeys(items, isDescending);

@@ -5,8 +5,6 @@
 #include <string_view>
 #include <vector>
 
-class QCollator;
-
 // Rows in the order of a column. Every value becomes a whole number once, and these are sorted.
 
 /// A row, and a number that is ordered as the row's value.
@@ -30,8 +28,8 @@ void sortByKeys(std::vector<SortItem>& items, bool isDescending);
 void sortByNames(std::vector<SortItem>& items, bool isDescending,
                  const std::function<std::string_view(std::uint32_t row)>& nameOf);
 
-/// Sorts by texts as a language does, with keys of its own. Each text is looked at once; made for
-/// columns with few different ones.
-/// \param textOf the text of a row, valid until the next call
-void sortByTexts(std::vector<SortItem>& items, bool isDescending, const QCollator& collator,
+/// Sorts by texts as the program's language does, with keys of its own. Each text is looked at
+/// once; made for columns with few different ones. \param textOf the text of a row, valid until the
+/// next call
+void sortByTexts(std::vector<SortItem>& items, bool isDescending,
                  const std::function<std::string_view(std::uint32_t row)>& textOf);
