@@ -890,6 +890,53 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DesignTable</name>
+    <message>
+        <source>point num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>line num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>design code</source>
+        <translation>设计编码</translation>
+    </message>
+    <message>
+        <source>azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>surveyed</source>
+        <translation>已测</translation>
+    </message>
+    <message>
+        <source>not surveyed</source>
+        <translation>未测</translation>
+    </message>
+</context>
+<context>
     <name>DlgAbout</name>
     <message>
         <source>About %1</source>
@@ -1773,6 +1820,57 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>QualityTests</name>
+    <message>
+        <source>Horizontal distance from the design</source>
+        <translation>与设计点的水平距离</translation>
+    </message>
+    <message>
+        <source>Difference in height from the design</source>
+        <translation>与设计点的高差</translation>
+    </message>
+    <message>
+        <source>Distance from the base station</source>
+        <translation>与基站的距离</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>Antenna height</source>
+        <translation>天线高</translation>
+    </message>
+    <message>
+        <source>Number of satellites</source>
+        <translation>卫星数</translation>
+    </message>
+    <message>
+        <source>Transversal deviation</source>
+        <translation>横向偏差</translation>
+    </message>
+    <message>
+        <source>Longitudinal deviation</source>
+        <translation>纵向偏差</translation>
+    </message>
+    <message>
+        <source>%1 %2 was out of range in the last check. Its limit is now %3.</source>
+        <translation>%1 %2 在上次检查时超限，现在的限差为 %3。</translation>
+    </message>
+    <message>
+        <source>%1 %2 is over its limit %3.</source>
+        <translation>%1 %2 超过上限 %3。</translation>
+    </message>
+    <message>
+        <source>%1 %2 is under its limit %3.</source>
+        <translation>%1 %2 低于下限 %3。</translation>
+    </message>
+</context>
+<context>
     <name>RecentProjectCommand</name>
     <message>
         <source>&amp;No projects yet</source>
@@ -1822,6 +1920,43 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Limit</source>
         <translation>限值</translation>
+    </message>
+</context>
+<context>
+    <name>RowFilter</name>
+    <message>
+        <source>What is not shown stands behind &quot;!&quot;.</source>
+        <translation>请在“!”后面写出不显示的内容。</translation>
+    </message>
+    <message>
+        <source>A value to compare with stands behind the sign.</source>
+        <translation>请在比较符号后面写出要比较的值。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time such as 2024/05/01 12:30.</source>
+        <translation>“%1”不是时间，时间的写法如 2024/05/01 12:30。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number. Decimals follow a point.</source>
+        <translation>“%1”不是数字，小数点请用“.”。</translation>
+    </message>
+    <message>
+        <source>A range has two ends, such as 1001..1040 or 2024/05/01..2024/05/07.</source>
+        <translation>范围要写出首尾，如 1001..1040 或 2024/05/01..2024/05/07。</translation>
+    </message>
+    <message>
+        <source>1001: what has this text
+&gt; 0.05, &gt;= 0.05, &lt; 3, &lt;= 3, = 4: numbers and times
+1001..1040: from the first to the last
+!fixed: all others
+&gt; 1 &amp; &lt; 2: both; 1001; 1005: one of them
+&quot;&gt; 5&quot;: this text as it stands</source>
+        <translation>1001：含有这段文字的行
+&gt; 0.05、&gt;= 0.05、&lt; 3、&lt;= 3、= 4：比较数字和时间
+1001..1040：从前者到后者
+!固定解：其余各行
+&gt; 1 &amp; &lt; 2：两个条件都满足；1001; 1005：满足其中之一
+&quot;&gt; 5&quot;：按原样查找这段文字</translation>
     </message>
 </context>
 <context>
@@ -2275,7 +2410,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>SurveyTable</name>
     <message>
         <source>base id</source>
-        <translation>基准站编号</translation>
+        <translation>基站编号</translation>
     </message>
 </context>
 <context>

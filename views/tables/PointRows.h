@@ -3,7 +3,9 @@
 #include "model/PointLines.h"
 #include "model/PointName.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <tuple>

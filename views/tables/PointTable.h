@@ -9,8 +9,12 @@
 #include "views/tables/ShownRows.h"
 #include "views/tables/SortKeys.h"
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 #include <numeric>
+#include <optional>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -204,6 +208,8 @@ QVariant PointTable<Point>::data(const QModelIndex& index, int role) const
     case Qt::BackgroundRole:
     case Qt::ToolTipRole:
         return look(*point, index.column(), role);
+    case Qt::AccessibleDescriptionRole: // a colour alone tells too few
+        return look(*point, index.column(), Qt::ToolTipRole);
     case kPointNumberRole:
         return index.column() == 0 ? lum::toQString(point->pointNumber) : QVariant();
     case kLineNumberRole:
