@@ -890,6 +890,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DesignLineTable</name>
+    <message>
+        <source>Export Selected Design Point</source>
+        <translation>导出选中的设计点</translation>
+    </message>
+    <message>
+        <source>The project has no design points yet.</source>
+        <translation>工程中还没有设计点。</translation>
+    </message>
+    <message>
+        <source>No line is shown. &lt;a href=&quot;#&quot;&gt;Show the first line&lt;/a&gt;</source>
+        <translation>没有显示测线。&lt;a href=&quot;#&quot;&gt;显示第一条测线&lt;/a&gt;</translation>
+    </message>
+</context>
+<context>
     <name>DesignTable</name>
     <message>
         <source>point num</source>
@@ -1424,6 +1439,61 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Open Project</source>
         <translation>打开工程</translation>
+    </message>
+</context>
+<context>
+    <name>PointTableWindow</name>
+    <message>
+        <source>export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <translation>连同表头复制</translation>
+    </message>
+    <message>
+        <source>Filter by This Value</source>
+        <translation>按此值筛选</translation>
+    </message>
+    <message>
+        <source>Show on the Map</source>
+        <translation>在地图上显示</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Copied to Clipboard.</source>
+        <translation>已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Export Failed!</source>
+        <translation>导出失败！</translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>No point passes the filters. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
+        <translation>没有符合筛选条件的点。&lt;a href=&quot;#&quot;&gt;清除所有筛选&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Filter of &quot;%1&quot;: %2</source>
+        <translation>“%1”的筛选条件：%2</translation>
+    </message>
+    <message>
+        <source>The filters hide the selected point %1. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
+        <translation>选中的点 %1 被筛选条件隐藏。&lt;a href=&quot;#&quot;&gt;清除所有筛选&lt;/a&gt;</translation>
     </message>
 </context>
 <context>
@@ -2366,6 +2436,60 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>%1 &quot;%2&quot; is taken for &quot;%3&quot;.</source>
         <translation>%1“%2”按“%3”处理。</translation>
     </message>
+    <message>
+        <source>The columns of exported files lack the line number or the point number. Choose them at View &gt; Survey Columns.</source>
+        <translation>导出的列中缺少线号或点号。请在“视图 &gt; 测量列表列”中选择。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyDataTable</name>
+    <message>
+        <source>modify</source>
+        <translation>修改</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Export Selected Survey Point</source>
+        <translation>导出选中的测量点</translation>
+    </message>
+    <message>
+        <source>The project has no survey results yet.</source>
+        <translation>工程中还没有测量成果。</translation>
+    </message>
+    <message>
+        <source>No line is shown. &lt;a href=&quot;#&quot;&gt;Show all lines&lt;/a&gt;</source>
+        <translation>没有显示测线。&lt;a href=&quot;#&quot;&gt;显示所有测线&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete these records?</source>
+        <translation>确定要删除这些记录吗？</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>记录数：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyHeaderMenu</name>
+    <message>
+        <source>Hide This Column</source>
+        <translation>隐藏此列</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Survey Columns...</source>
+        <translation>测量列表列...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyHeadings</name>
@@ -2411,6 +2535,25 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>base id</source>
         <translation>基站编号</translation>
+    </message>
+</context>
+<context>
+    <name>TableCountLine</name>
+    <message>
+        <source>Clear All Filters</source>
+        <translation>清除所有筛选</translation>
+    </message>
+    <message>
+        <source>Points: %1 of %2</source>
+        <translation>点数：%1 / %2</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>点数：%1</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>已选：%1</translation>
     </message>
 </context>
 <context>
