@@ -151,7 +151,7 @@ private:
     }
     static void chooseIn(const char* entry, const char* subEntry = nullptr)
     {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        const QPointer<QMenu> menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         QVERIFY(menu != nullptr);
         for (QAction* const action : menu->actions()) {
             if (action->text() != QLatin1String(entry))
@@ -160,7 +160,8 @@ private:
                 chooseFrom(*action->menu(), subEntry);
             else
                 chooseFrom(*menu, entry);
-            menu->close();
+            if (menu != nullptr)
+                menu->close();
             return;
         }
         QFAIL("no such entry");
@@ -171,8 +172,7 @@ private:
             if (action->text() == QLatin1String(entry)) {
                 menu.popup({});
                 menu.setActiveAction(action);
-                QTest::keyClick(&menu, Qt::Key_Return);
-                menu.close();
+                QTest::keyEvent(QTest::Press, &menu, Qt::Key_Return); // a dialog may follow
                 return;
             }
         }
