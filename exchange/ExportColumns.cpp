@@ -33,7 +33,8 @@ QStringList exportColumns(const IDictionary& settings)
 
 void setExportColumns(IDictionary& settings, const QStringList& keys)
 {
-    settings.set(settings::kExportColumns, keys.join(QLatin1Char(',')).toStdString());
+    const bool isAll = keys == allKeys(); // those of a later version, too
+    settings.set(settings::kExportColumns, isAll ? "" : keys.join(QLatin1Char(',')).toStdString());
 }
 
 QStringList exportCaptions(const QStringList& keys)
