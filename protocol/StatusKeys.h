@@ -23,5 +23,8 @@ namespace settings {
 
 inline constexpr const char* kTimeZone = "time_zone"; ///< hours east of Greenwich; "8"
 inline constexpr const char* kExportColumns = "survey_export_columns"; ///< keys; "" is all
+inline constexpr const char* kTableColumns =
+    "survey_table_columns"; ///< keys in order; "" is theirs
+inline constexpr const char* kHiddenColumns = "survey_table_hidden"; ///< keys; ""
 
 } // namespace settings
