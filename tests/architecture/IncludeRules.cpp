@@ -42,7 +42,8 @@ const Floors& floors()
         {Room::WithWidgets, {"project/ui"}},  // what all user interface shares: the open project,
         {Room::WithWidgets, {"map/ui"}},      // a point shown on the map, and files
         {Room::WithWidgets, {"exchange/ui"}}, // that are read and written
-        {Room::WithWidgets, {"quality/ui", "design/ui", "views", "views/tables", "views/trees"}},
+        {Room::WithWidgets,
+         {"quality/ui", "design/ui", "views", "views/find", "views/tables", "views/trees"}},
         {Room::WithWidgets, {"app"}},
     };
     return kFloors;
