@@ -25,6 +25,8 @@
 #include "project/ui/TimeZomeDlgCommand.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
+#include "views/find/FindCommand.h"
+#include "views/tables/SurveyTableHideCommand.h"
 
 namespace {
 
@@ -51,6 +53,8 @@ using namespace desktop::registration;
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
+    command<FindCommand>                ("FindCommand",                  "查找"),
+    command<SurveyTableHideCommand>     ("SurveyTableHideCommand",       "测量列显示"),
     command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),

@@ -21,14 +21,15 @@ constexpr const char* kComponents =
     "ICommandExecuterx: AboutCommand 关于, CloseProjectCommand 关闭工程,"
     " CoordFormatCommand 坐标格式, DataInspectionCommand 数据检查, DemoSurveyCommand 示例工程,"
     " DrawBoundaryCommand 绘制边界, DrawExcitationCommand 绘制激发线,"
-    " DrawReceiverCommand 绘制接收线, ExitCommand 退出, FullScreenCommand 全屏,"
+    " DrawReceiverCommand 绘制接收线, ExitCommand 退出, FindCommand 查找, FullScreenCommand 全屏,"
     " GuideCommand 用户指南, NewProjectCommand 新建工程, OpenProjectCommand 打开工程, "
     "PPKMoveCommand 地图移动,"
     " PPKZoomAllCommand 全图, PPKZoomInCommand 地图放大, PPKZoomOutCommand 地图缩小,"
     " PPKZoomRectCommand 局部矩形放大, QualitySpecificateCommand 质量规范,"
     " RecentProjectCommand 最近工程, ResetLayoutCommand 恢复布局, SaveCopyCommand 工程另存副本,"
     " SaveProjectCommand 保存工程, SettingChoiceCommand 系统设置选项, ShortcutsCommand 快捷键,"
-    " ShowQuestionsCommand 重新显示提示, SysSettingCommand 设置, TimeZomeDlgCommand 时区修改,"
+    " ShowQuestionsCommand 重新显示提示, SurveyTableHideCommand 测量列显示, SysSettingCommand "
+    "设置, TimeZomeDlgCommand 时区修改,"
     " ViewChangeCommand 更改视图\n"
     "IGuiAssistant: DataProcess5 助手\n";
 
