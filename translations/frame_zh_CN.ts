@@ -68,6 +68,34 @@
         <translation>退出程序</translation>
     </message>
     <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>查找(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Find lines and points by their numbers, in design and survey</source>
+        <translation>按线号、点号在设计和测量数据中查找</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>查找下一个(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Go to the next line or point found</source>
+        <translation>转到下一个找到的测线或点</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>查找上一个(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Go to the line or point found before</source>
+        <translation>转到上一个找到的测线或点</translation>
+    </message>
+    <message>
         <source>&amp;View</source>
         <translation>视图(&amp;V)</translation>
     </message>
@@ -216,8 +244,8 @@
         <translation>由少量参数生成接收线和激发线</translation>
     </message>
     <message>
-        <source>&amp;Exchange</source>
-        <translation>数据交换(&amp;E)</translation>
+        <source>E&amp;xchange</source>
+        <translation>数据交换(&amp;X)</translation>
     </message>
     <message>
         <source>&amp;Export Report...</source>

@@ -206,6 +206,57 @@
     </message>
 </context>
 <context>
+    <name>ColumnListPanel</name>
+    <message>
+        <source>Search columns</source>
+        <translation>查找列</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>All columns, in their first order</source>
+        <translation>全部列，按最初的顺序</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>All Shown</source>
+        <translation>全选列出的</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>None Shown</source>
+        <translation>不选列出的</translation>
+    </message>
+    <message>
+        <source>%1 of %2 columns checked</source>
+        <translation>已选 %1 列，共 %2 列</translation>
+    </message>
+    <message>
+        <source>No column has this name.</source>
+        <translation>没有此名称的列。</translation>
+    </message>
+    <message>
+        <source>%1; %2 shown</source>
+        <translation>%1；列出 %2 列</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Print this text.</source>
@@ -964,6 +1015,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgSurveyColumns</name>
+    <message>
+        <source>Survey Columns</source>
+        <translation>测量列表列</translation>
+    </message>
+    <message>
+        <source>In the &amp;table</source>
+        <translation>列表中显示(&amp;T)</translation>
+    </message>
+    <message>
+        <source>In &amp;exported files</source>
+        <translation>导出文件中写出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>The columns hold until the program ends: the settings cannot be saved. The window Messages says why.</source>
+        <translation>设置无法保存，所选的列只在程序退出前有效。原因见“消息”窗口。</translation>
+    </message>
+    <message>
+        <source>At least one column stays in the table.</source>
+        <translation>列表中至少保留一列。</translation>
+    </message>
+    <message>
+        <source>Line and point number are always written.</source>
+        <translation>线号和点号总是写出。</translation>
+    </message>
+</context>
+<context>
     <name>DrawExcitationCommand</name>
     <message>
         <source>not show s line</source>
@@ -1016,6 +1094,113 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The file &quot;%1&quot; exists already. Replace it?</source>
         <translation>文件“%1”已经存在，是否替换？</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Line or point, or line/point</source>
+        <translation>线号或点号，或 线号/点号</translation>
+    </message>
+    <message>
+        <source>Find lines and points</source>
+        <translation>查找测线和点</translation>
+    </message>
+    <message>
+        <source>Previous match (Shift+F3)</source>
+        <translation>上一个 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Next match (F3)</source>
+        <translation>下一个 (F3)</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>关闭 (Esc)</translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>The project has no points.</source>
+        <translation>工程中没有点。</translation>
+    </message>
+    <message>
+        <source>No match.</source>
+        <translation>没有找到。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
+    <message>
+        <source>(%1 found)</source>
+        <translation>（找到 %1 个）</translation>
+    </message>
+    <message>
+        <source>The best %1 matches are listed. Type more of the number to see others.</source>
+        <translation>只列出最符合的 %1 个。多输入几位可看到其他的。</translation>
+    </message>
+    <message>
+        <source>survey line %1</source>
+        <translation>测量测线 %1</translation>
+    </message>
+    <message>
+        <source>design line %1</source>
+        <translation>设计测线 %1</translation>
+    </message>
+    <message>
+        <source>survey result %1/%2</source>
+        <translation>测量成果 %1/%2</translation>
+    </message>
+    <message>
+        <source>design point %1/%2</source>
+        <translation>设计点 %1/%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>3 of 50: survey line 1001</comment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FoundList</name>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>设计</translation>
+    </message>
+    <message>
+        <source>receiver</source>
+        <translation>接收</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>激发</translation>
+    </message>
+    <message>
+        <source>whole line, points: %1</source>
+        <translation>整条测线，点数：%1</translation>
     </message>
 </context>
 <context>
@@ -2087,6 +2272,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>It lacks the caption %1.</source>
         <translation>它缺少列标题 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyTable</name>
+    <message>
+        <source>base id</source>
+        <translation>基准站编号</translation>
     </message>
 </context>
 <context>
