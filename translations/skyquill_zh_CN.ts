@@ -1181,38 +1181,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>关闭 (Esc)</translation>
     </message>
     <message>
-        <source>Data</source>
-        <translation>数据</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>线号</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>点号</translation>
-    </message>
-    <message>
-        <source>Survey</source>
-        <translation>测量</translation>
-    </message>
-    <message>
-        <source>Design</source>
-        <translation>设计</translation>
-    </message>
-    <message>
-        <source>receiver</source>
-        <translation>接收</translation>
-    </message>
-    <message>
-        <source>source</source>
-        <translation>激发</translation>
-    </message>
-    <message>
         <source>No project is open.</source>
         <translation>没有打开的工程。</translation>
     </message>
@@ -1256,6 +1224,41 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>%1: %2</source>
         <comment>3 of 50: survey line 1001</comment>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FoundList</name>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>设计</translation>
+    </message>
+    <message>
+        <source>receiver</source>
+        <translation>接收</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>激发</translation>
     </message>
     <message>
         <source>whole line, points: %1</source>
@@ -2534,26 +2537,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>SurveyTable</name>
     <message>
         <source>base id</source>
-        <translation>基站编号</translation>
-    </message>
-</context>
-<context>
-    <name>TableCountLine</name>
-    <message>
-        <source>Clear All Filters</source>
-        <translation>清除所有筛选</translation>
-    </message>
-    <message>
-        <source>Points: %1 of %2</source>
-        <translation>点数：%1 / %2</translation>
-    </message>
-    <message>
-        <source>Points: %1</source>
-        <translation>点数：%1</translation>
-    </message>
-    <message>
-        <source>Selected: %1</source>
-        <translation>已选：%1</translation>
+        <translation>基准站编号</translation>
     </message>
 </context>
 <context>

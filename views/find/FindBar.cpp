@@ -12,10 +12,10 @@
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
+#include "views/find/FoundList.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
@@ -24,18 +24,15 @@
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QToolButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <memory>
 #include <string>
 
 namespace {
 
 constexpr int kWidth = 460;
 constexpr int kMargin = 6;
-constexpr int kMostRows = 12;      ///< that are seen at once
 constexpr int kLongestText = 4000; ///< of a line and a point
 constexpr int kTellMs = 8000;
 
@@ -85,7 +82,7 @@ FindBar* FindBar::of(IDesktopHost& host)
 
 FindBar::FindBar(IDesktopHost& host, QWidget& frame)
     : QFrame(&frame), m_host(host), m_field(new QLineEdit(this)), m_told(new QLabel(this)),
-      m_list(new QTreeWidget(this)), m_subscription(*this, changes(), host.eventManager())
+      m_list(new FoundList(this)), m_subscription(*this, changes(), host.eventManager())
 {
     setObjectName(QStringLiteral("FindBar"));
     setFrameShape(QFrame::StyledPanel);
@@ -93,7 +90,10 @@ FindBar::FindBar(IDesktopHost& host, QWidget& frame)
     setAutoFillBackground(true);
     setAttribute(Qt::WA_NoMousePropagation);
     setCursor(Qt::ArrowCursor);
-    makeList();
+    connect(m_list, &FoundList::rowClicked, this, [this](int row) {
+        setCurrent(row);
+        goToCurrent();
+    });
     auto* const column = new QVBoxLayout(this);
     const int margin = dpi_scaled(kMargin);
     column->setContentsMargins(margin, margin, margin, margin);
@@ -103,7 +103,7 @@ FindBar::FindBar(IDesktopHost& host, QWidget& frame)
     column->setSizeConstraint(QLayout::SetNoConstraint);
     frame.installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
-        if (now != nullptr && now != this && !isAncestorOf(now))
+        if (!isHidden() && now != nullptr && now != this && !isAncestorOf(now))
             unfold(false); // what the user turns to must be seen
     });
     hide();
@@ -146,23 +146,6 @@ QWidget* FindBar::makeFieldRow()
     return rowWidget;
 }
 
-void FindBar::makeList()
-{
-    m_list->setColumnCount(4);
-    m_list->setHeaderLabels({tr("Data"), tr("Kind"), tr("Line"), tr("Point")});
-    m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
-    m_list->setAllColumnsShowFocus(true);
-    m_list->setFocusPolicy(Qt::NoFocus); // the field keeps it
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setTextElideMode(Qt::ElideMiddle);
-    m_list->header()->setSectionsMovable(false);
-    connect(m_list, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-        setCurrent(m_list->indexOfTopLevelItem(item));
-        goToCurrent();
-    });
-}
-
 void FindBar::open()
 {
     QWidget* const focused = QApplication::focusWidget();
@@ -171,7 +154,7 @@ void FindBar::open()
     searchWhenChanged();
     show();
     raise();
-    place();
+    lieOverMap();
     window()->activateWindow(); // the key may come from a window that left the frame
     m_field->setFocus(Qt::ShortcutFocusReason);
     m_field->selectAll();
@@ -199,7 +182,9 @@ void FindBar::search()
                              m_field->text().toStdString());
     }
     m_current = std::clamp(m_current, 0, std::max(0, static_cast<int>(m_found.places.size()) - 1));
-    listPlaces();
+    m_list->setPlaces(m_found.places);
+    m_list->setCurrentRow(m_current);
+    lieOverMap();
     tell();
 }
 
@@ -209,45 +194,24 @@ void FindBar::searchWhenChanged()
         return;
     const std::vector<FoundPlace> before = std::move(m_found.places);
     const auto current = static_cast<std::size_t>(m_current);
+    const bool wasThere = m_isThere;
     search();
     const auto same = current < before.size()
                           ? std::find(m_found.places.begin(), m_found.places.end(), before[current])
                           : m_found.places.end();
-    if (same == m_found.places.end())
-        m_isThere = false;
-    else
+    const bool isLeft = same != m_found.places.end();
+    if (isLeft)
         setCurrent(static_cast<int>(same - m_found.places.begin()));
-    tell();
-}
-
-void FindBar::listPlaces()
-{
-    m_list->clear();
-    QList<QTreeWidgetItem*> rows;
-    const QIcon design = QIcon::fromTheme(QStringLiteral("view-grid"));
-    const QIcon survey = QIcon::fromTheme(QStringLiteral("flag"));
-    for (const FoundPlace& place : m_found.places) {
-        auto row = std::make_unique<QTreeWidgetItem>(QStringList{
-            place.isSurvey ? tr("Survey") : tr("Design"),
-            place.isReceiver ? tr("receiver") : tr("source"), lum::toQString(place.line),
-            place.isLine() ? tr("whole line, points: %1").arg(static_cast<int>(place.lineSize))
-                           : lum::toQString(place.point)});
-        row->setIcon(0, place.isSurvey ? survey : design);
-        rows << row.release();
-    }
-    m_list->addTopLevelItems(rows); // the list owns them
-    if (!rows.isEmpty())
-        m_list->setCurrentItem(rows[m_current]);
-    place();
+    m_isThere = wasThere && isLeft;
 }
 
 void FindBar::unfold(bool isUnfolded)
 {
     m_list->setVisible(isUnfolded && !m_found.places.empty());
-    place();
+    lieOverMap();
 }
 
-void FindBar::place()
+void FindBar::lieOverMap()
 {
     QWidget& frame = *parentWidget();
     QRect room = frame.rect();
@@ -263,11 +227,8 @@ void FindBar::place()
     const int width = std::min(dpi_scaled(kWidth), frame.width());
     int height = m_field->sizeHint().height() + 2 * (margin + frameWidth());
     if (!m_list->isHidden()) {
-        const int rows = std::min(kMostRows, m_list->topLevelItemCount());
-        height += margin + m_list->header()->sizeHint().height() + 2 * m_list->frameWidth() +
-                  rows * std::max(1, m_list->sizeHintForRow(0));
-        for (int column = 0; column < 3; ++column)
-            m_list->header()->resizeSection(column, width * (column == 2 ? 28 : 18) / 100);
+        m_list->shareWidth(width);
+        height += margin + m_list->neededHeight();
     }
     const int left = room.center().x() - width / 2;
     setGeometry(std::max(0, left), room.top(), width,
@@ -278,8 +239,7 @@ void FindBar::setCurrent(int index)
 {
     m_current = index;
     m_isThere = false;
-    if (QTreeWidgetItem* const row = m_list->topLevelItem(index))
-        m_list->setCurrentItem(row);
+    m_list->setCurrentRow(index);
     tell();
 }
 
@@ -306,20 +266,20 @@ void FindBar::goToCurrent()
         return;
     const FoundPlace place = m_found.places[static_cast<std::size_t>(m_current)];
     const bool hadFocus = isAncestorOf(QApplication::focusWidget());
-    m_isThere = goTo(place);
+    goTo(place);
+    m_isThere = true;
     unfold(false);
     if (hadFocus)
         m_field->setFocus();
     tell();
 }
 
-bool FindBar::goTo(const FoundPlace& place)
+void FindBar::goTo(const FoundPlace& place)
 {
     const QString table =
         place.isSurvey ? QStringLiteral("Survey Data List") : QStringLiteral("Design Data List");
     const QString line = lum::toQString(place.line);
     IWindowRegistry& windows = m_host.windows();
-    bool isThere = true;
     if (place.isLine()) {
         m_host.eventManager().publish(place.isSurvey ? events::kSurveyLineSwitched
                                                      : events::kDesignLineSwitched,
@@ -328,10 +288,9 @@ bool FindBar::goTo(const FoundPlace& place)
                 place.isSurvey ? QStringLiteral("Survey Lines") : QStringLiteral("Design Lines")))
             tree->followLine(line);
     } else if (auto* const list = windows.findAs<IPointList>(table)) {
-        isThere = list->selectPoint(line, lum::toQString(place.point));
+        list->selectPoint(line, lum::toQString(place.point));
     }
     windows.reveal(table, QStringLiteral("DataMap"));
-    return isThere;
 }
 
 void FindBar::tell()
@@ -386,7 +345,7 @@ void FindBar::handleEvent(const char* /*eventName*/, const char* /*payload*/, in
 bool FindBar::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == parentWidget() && event->type() == QEvent::Resize && !isHidden())
-        place();
+        lieOverMap();
     return QFrame::eventFilter(watched, event);
 }
 
@@ -414,10 +373,10 @@ void FindBar::keyPressEvent(QKeyEvent* event)
         move(1);
         break;
     case Qt::Key_PageUp:
-        move(1 - kMostRows);
+        move(1 - FoundList::kMostRows);
         break;
     case Qt::Key_PageDown:
-        move(kMostRows - 1);
+        move(FoundList::kMostRows - 1);
         break;
     default:
         break;

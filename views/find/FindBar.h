@@ -10,10 +10,10 @@
 #include <cstdint>
 #include <utility>
 
+class FoundList;
 class IDesktopHost;
 class QLabel;
 class QLineEdit;
-class QTreeWidget;
 
 /// The bar over the map in which lines and points are found by their numbers.
 ///
@@ -45,17 +45,15 @@ private:
     FindBar(IDesktopHost& host, QWidget& frame);
 
     [[nodiscard]] QWidget* makeFieldRow();
-    void makeList();
 
     void search();
     /// Searches again when the points have changed since the last time.
     void searchWhenChanged();
-    void listPlaces();
     void unfold(bool isUnfolded);
-    void place();
+    void lieOverMap();
     void setCurrent(int index);
     void goToCurrent();
-    bool goTo(const FoundPlace& place);
+    void goTo(const FoundPlace& place);
     void tell();
     [[nodiscard]] QString said() const;
     void giveBack();
@@ -63,7 +61,7 @@ private:
     IDesktopHost& m_host; // outlives every window
     QLineEdit* m_field;
     QLabel* m_told;
-    QTreeWidget* m_list;
+    FoundList* m_list;
     QPointer<QWidget> m_before; ///< had the focus before the bar
     FoundPlaces m_found;
     int m_current = 0;

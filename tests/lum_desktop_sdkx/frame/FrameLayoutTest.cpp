@@ -89,7 +89,7 @@ TEST(InstalledLayout, IsReadWhole)
 {
     const FrameLayout layout =
         layoutOf(contentOf("/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml"_q));
-    EXPECT_EQ(layout.menus.size(), 8U);
+    EXPECT_EQ(layout.menus.size(), 9U);
     std::vector<FrameLayout::Command> commands;
     collect(layout.menus, commands);
     QSet<QString> names;

@@ -226,6 +226,8 @@ void FindBarTest::theListFollowsTheData()
     add("1001", "1042", true);
     m_host->events.publish(events::kRefreshDesignLayer, nullptr, 0);
     QCOMPARE(told(bar), "3 of 4"_q); // still the same point
+    run("what=next");
+    QCOMPARE(NotingList::asked.takeLast(), "S:1001/1042"_q);
     m_manager->designPoints().clear();
     m_manager->surveyPoints().clear();
     m_host->events.publish(events::kRefreshSurveyLayer, nullptr, 0);
