@@ -26,6 +26,8 @@
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
 #include "views/find/FindCommand.h"
+#include "views/tables/DesignLineTable.h"
+#include "views/tables/SurveyDataTable.h"
 #include "views/tables/SurveyTableHideCommand.h"
 
 namespace {

@@ -2537,7 +2537,26 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>SurveyTable</name>
     <message>
         <source>base id</source>
-        <translation>基准站编号</translation>
+        <translation>基站编号</translation>
+    </message>
+</context>
+<context>
+    <name>TableCountLine</name>
+    <message>
+        <source>Clear All Filters</source>
+        <translation>清除所有筛选</translation>
+    </message>
+    <message>
+        <source>Points: %1 of %2</source>
+        <translation>点数：%1 / %2</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>点数：%1</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>已选：%1</translation>
     </message>
 </context>
 <context>
