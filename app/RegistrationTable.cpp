@@ -27,6 +27,7 @@
 #include "project/ui/TimeZomeDlgCommand.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
+#include "views/find/FindCommand.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/SurveyDataTable.h"
 #include "views/trees/DesignLineControl.h"

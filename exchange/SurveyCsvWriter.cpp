@@ -35,8 +35,14 @@ Outcome writeSurveyCsv(const QString& path, const SurveyPoints& points,
     file.write(rows.heading());
     std::size_t done = 0;
     for (const PointName& name : names) {
-        if (const SurveyPoint* const point = points.find(name.line, name.point))
-            file.write(rows.row(*point));
+        if (const SurveyPoint* const point = points.find(name.line, name.point)) {
+            const std::string_view row = rows.row(*point);
+            if (row.empty())
+                return Outcome::refused(QCoreApplication::translate(
+                    "SurveyCsv", "The columns of exported files lack the line number or the point "
+                                 "number. Choose them at View > Survey Columns."));
+            file.write(row);
+        }
         if (!file.fault().isEmpty())
             break;
         if (++done % kPointsAStep == 0)

@@ -24,7 +24,7 @@ Outcome writeSurveyCsv(const QString& path, const SurveyPoints& points, const QS
                        const SurveyCsvChoice& choice, ProgressReporter& progress);
 
 /// The same for single points, in the order of their names; those that do not exist are passed
-/// over.
+/// over. Refused when line or point number is not among the columns: no row could be written.
 Outcome writeSurveyCsv(const QString& path, const SurveyPoints& points,
                        const std::vector<PointName>& names, const SurveyCsvChoice& choice,
                        ProgressReporter& progress);

@@ -23,6 +23,7 @@ ColumnListModel* makeTableColumns(QObject* parent)
 {
     std::vector<ColumnListModel::Column> columns;
     const QStringList captions = surveyTableCaptions();
+    columns.reserve(static_cast<std::size_t>(captions.size()));
     for (int i = 0; i < captions.size(); ++i)
         columns.push_back({surveyTableKeys()[i], captions[i]});
     return new ColumnListModel(std::move(columns), parent);

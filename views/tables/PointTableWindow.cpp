@@ -100,7 +100,7 @@ void PointTableWindow::connectParts()
     connect(m_table, &QAbstractItemView::clicked, this, &PointTableWindow::announceRow);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &PointTableWindow::announceRow);
     connect(m_table, &QAbstractItemView::doubleClicked, this,
-            [this](const QModelIndex& cell) { zoomTo(m_model->pointAt(cell.row())); });
+            [this](const QModelIndex& cell) { zoomToRow(cell.row()); });
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, this, &PointTableWindow::showMenu);
     connect(m_table, &CustomTableWidget::orderRequested, this, &PointTableWindow::sort);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -296,15 +296,20 @@ void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
     const QString text = cell.data().toString();
     menu->addAction(tr("Filter by This Value"), this,
                     [this, column = cell.column(), text] { setFilter(column, filterOf(text)); });
-    menu->addAction(tr("Show on the Map"), this, [this, at = QPersistentModelIndex(cell)] {
-        if (at.isValid())
-            zoomTo(m_model->pointAt(at.row()));
-    });
+    menu->addAction(tr("Show on the Map"), this,
+                    [this, at = QPersistentModelIndex(cell)] { zoomToRow(at.row()); });
     if (m_table->selectedRowCount() == 0) {
         for (QAction* const action : menu->actions())
             action->setEnabled(false);
     }
     menu->popup(place);
+}
+
+void PointTableWindow::zoomToRow(int row)
+{
+    const PointName point = m_model->pointAt(row);
+    if (isProjectOpen() && !point.point.empty())
+        zoomTo(point);
 }
 
 void PointTableWindow::copyRows()
@@ -341,6 +346,8 @@ void PointTableWindow::exportRows()
 
 void PointTableWindow::followLink()
 {
+    if (!isProjectOpen())
+        return;
     if (m_model->unfilteredCount() > 0)
         clearFilters();
     else

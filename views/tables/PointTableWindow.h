@@ -93,6 +93,7 @@ private:
     void setFilter(int column, const QString& text);
     void clearFilters();
     void showMenu(const QModelIndex& cell, const QPoint& place);
+    void zoomToRow(int row);
     void copyRows();
     void exportRows();
     void followLink();

@@ -141,12 +141,8 @@ void SurveyDataTable::showSomething()
 
 void SurveyDataTable::linesChanged()
 {
-    IDictionary& values = get_system_status_dictionary();
-    const char* const shown = model().showsAllLines() ? "1" : "0";
-    if (values.text(status::kShowAllLines) == shown)
-        return;
-    values.set(status::kShowAllLines, shown);
-    m_host.eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
+    // Nothing in the frame depends on it, so that nobody has to be told.
+    get_system_status_dictionary().set(status::kShowAllLines, model().showsAllLines() ? "1" : "0");
 }
 
 void SurveyDataTable::modify()

@@ -4,6 +4,7 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
+#include "project/ui/DlgSurveyPoint.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
@@ -150,7 +151,7 @@ private:
     }
     static void chooseIn(const char* entry, const char* subEntry = nullptr)
     {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        const QPointer<QMenu> menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         QVERIFY(menu != nullptr);
         for (QAction* const action : menu->actions()) {
             if (action->text() != QLatin1String(entry))
@@ -159,7 +160,8 @@ private:
                 chooseFrom(*action->menu(), subEntry);
             else
                 chooseFrom(*menu, entry);
-            menu->close();
+            if (menu != nullptr)
+                menu->close();
             return;
         }
         QFAIL("no such entry");
@@ -170,8 +172,7 @@ private:
             if (action->text() == QLatin1String(entry)) {
                 menu.popup({});
                 menu.setActiveAction(action);
-                QTest::keyClick(&menu, Qt::Key_Return);
-                menu.close();
+                QTest::keyEvent(QTest::Press, &menu, Qt::Key_Return); // a dialog may follow
                 return;
             }
         }
@@ -200,6 +201,7 @@ private Q_SLOTS:
     void exportsDesignRowsWithNumbersForTypeAndStatus();
     void exportsSurveyRowsOrTellsWhyNot();
     void deletesOnlyAfterAYes();
+    void modifiesTheFirstOfTheSelectedRows();
     void theHeaderChoosesColumns();
     void nothingIsLeftOfAClosedProject();
     void survivesWhateverChangesUnderIt();
@@ -506,10 +508,15 @@ void PointTablesTest::exportsSurveyRowsOrTellsWhyNot()
     seen.choose("export", 5);
     QCOMPARE(TestFolder::read(path),
              QByteArray("point num,line num,rms\n4,1001,14.0000\nC10010001,1001,9.5000\n"));
+    m_manager->exportCaptions().removeFirst();
+    m_answer = Button::Yes; // files may be replaced
+    seen.choose("export", 5);
+    QCOMPARE(m_told.back(), "Error|Export Failed!"_q);
+    QVERIFY2(TestFolder::read(path).endsWith("9.5000\n"), "a file without rows replaced the old");
+    m_manager->exportCaptions().prepend("point num"_q);
     m_told.clear();
     path = folder.path("folder.csv");
     QVERIFY(QDir().mkdir(path));
-    m_answer = Button::Yes; // it may be replaced
     seen.choose("export", 5);
     QCOMPARE(m_told.back(), "Error|Export Failed!"_q);
     path.clear(); // cancelled
@@ -553,6 +560,27 @@ void PointTablesTest::deletesOnlyAfterAYes()
     QTest::keyClick(&seen.table(), Qt::Key_Delete);
     QVERIFY(results().findLine("1001") == nullptr);
     QCOMPARE(seen.rows().size(), 1); // the line is gone; the tree's answer holds
+}
+
+void PointTablesTest::modifiesTheFirstOfTheSelectedRows()
+{
+    SurveyDataTable window("", m_host.get());
+    const Seen seen(window);
+    publish("ON_SHOW_ALL_SURVEY_TABLE");
+    const EventLog log(m_host->events, events::kRefreshSurveyLayer);
+    QStringList edited;
+    QTimer::singleShot(0, this, [&] {
+        auto* const dialog = qobject_cast<DlgSurveyPoint*>(QApplication::activeModalWidget());
+        QVERIFY(dialog != nullptr);
+        edited << QString::fromStdString(dialog->point().point);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    seen.click(4);
+    seen.click(2, 1, Qt::ControlModifier);
+    seen.choose("modify", 4);
+    QCOMPARE(edited, QStringList("3"_q));
+    QVERIFY(log.events.empty() && !m_manager->isChanged());
+    QCOMPARE(seen.selected(), (QStringList{"1001/3"_q, "1001/C10010001_0"_q}));
 }
 
 void PointTablesTest::theHeaderChoosesColumns()
