@@ -31,6 +31,48 @@
     </message>
 </context>
 <context>
+    <name>AttributeControl</name>
+    <message>
+        <source>%1: %2 (limit %3)</source>
+        <translation>%1：%2（限差 %3）</translation>
+    </message>
+    <message>
+        <source>Select a point on the map or in a table.</source>
+        <translation>请在地图或表格中选择一个点。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>The heights have stayed as they were.</source>
+        <translation>高程保持不变。</translation>
+    </message>
+    <message>
+        <source>The heights are %1 m lower now. The quality is that of the last check.</source>
+        <translation>各高程已降低 %1 m。质量仍为上次检查的结果。</translation>
+    </message>
+    <message>
+        <source>The heights are %1 m higher now. The quality is that of the last check.</source>
+        <translation>各高程已升高 %1 m。质量仍为上次检查的结果。</translation>
+    </message>
+    <message>
+        <source>surveyed</source>
+        <translation>已测</translation>
+    </message>
+    <message>
+        <source>not surveyed</source>
+        <translation>未测</translation>
+    </message>
+</context>
+<context>
+    <name>AttributePage</name>
+    <message>
+        <source>The attributes cannot be shown: the file &quot;%1&quot; cannot be read (%2).</source>
+        <translation>无法显示属性：不能读取文件“%1”（%2）。</translation>
+    </message>
+</context>
+<context>
     <name>CodeTables</name>
     <message>
         <source>invalid</source>
@@ -203,6 +245,57 @@
     <message>
         <source>survey</source>
         <translation>测量</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnListPanel</name>
+    <message>
+        <source>Search columns</source>
+        <translation>查找列</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>All columns, in their first order</source>
+        <translation>全部列，按最初的顺序</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>All Shown</source>
+        <translation>全选列出的</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>None Shown</source>
+        <translation>不选列出的</translation>
+    </message>
+    <message>
+        <source>%1 of %2 columns checked</source>
+        <translation>已选 %1 列，共 %2 列</translation>
+    </message>
+    <message>
+        <source>No column has this name.</source>
+        <translation>没有此名称的列。</translation>
+    </message>
+    <message>
+        <source>%1; %2 shown</source>
+        <translation>%1；列出 %2 列</translation>
     </message>
 </context>
 <context>
@@ -650,6 +743,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Save Survey Data</source>
         <translation>正在保存测量数据</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the open project; please choose another file.</source>
+        <translation>“%1”是打开的工程的文件；请选择另一个文件。</translation>
+    </message>
+    <message>
+        <source>Line %1 has no point %2 any more: nothing was changed.</source>
+        <translation>测线 %1 上已没有点 %2，未作任何修改。</translation>
+    </message>
 </context>
 <context>
     <name>DataProcessLayerImp</name>
@@ -914,6 +1015,68 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DesignLineTable</name>
+    <message>
+        <source>Export Selected Design Point</source>
+        <translation>导出选中的设计点</translation>
+    </message>
+    <message>
+        <source>The project has no design points yet.</source>
+        <translation>工程中还没有设计点。</translation>
+    </message>
+    <message>
+        <source>No line is shown. &lt;a href=&quot;#&quot;&gt;Show the first line&lt;/a&gt;</source>
+        <translation>没有显示测线。&lt;a href=&quot;#&quot;&gt;显示第一条测线&lt;/a&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>DesignTable</name>
+    <message>
+        <source>point num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>line num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>design code</source>
+        <translation>设计编码</translation>
+    </message>
+    <message>
+        <source>azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>surveyed</source>
+        <translation>已测</translation>
+    </message>
+    <message>
+        <source>not surveyed</source>
+        <translation>未测</translation>
+    </message>
+</context>
+<context>
     <name>DlgAbout</name>
     <message>
         <source>About %1</source>
@@ -933,6 +1096,76 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Coordinate System</source>
         <translation>坐标系统</translation>
+    </message>
+</context>
+<context>
+    <name>DlgCsvKind</name>
+    <message>
+        <source>The heading of &quot;%1&quot; does not tell what the file holds. Are these design points or survey results?</source>
+        <translation>从表头看不出“%1”的内容。这些是设计点还是测量成果？</translation>
+    </message>
+    <message>
+        <source>The first lines of the file</source>
+        <translation>文件的前几行</translation>
+    </message>
+    <message>
+        <source>&amp;Design Points</source>
+        <translation>设计点(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Survey Results</source>
+        <translation>测量成果(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>DlgImportSummary</name>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Import Success!</source>
+        <translation>导入成功！</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;All</source>
+        <translation>全部复制(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Of each kind the first %1 are listed.</source>
+        <translation>每类只列出前 %1 条。</translation>
+    </message>
+    <message>
+        <source>Click a row to see its point, or where it stands in the file.</source>
+        <translation>单击一行可查看对应的点或其在文件中的位置。</translation>
+    </message>
+    <message>
+        <source>&amp;Open the File</source>
+        <translation>打开文件(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The project does not have the point.</source>
+        <translation>工程中没有该点。</translation>
+    </message>
+    <message>
+        <source>Result %1 of &quot;%2&quot;: %3</source>
+        <translation>“%2”第 %1 个成果：%3</translation>
+    </message>
+    <message>
+        <source>Line %1 of &quot;%2&quot;: %3</source>
+        <translation>“%2”第 %1 行：%3</translation>
+    </message>
+    <message>
+        <source>Open the File</source>
+        <translation>打开文件</translation>
+    </message>
+    <message>
+        <source>No program could be started that opens &quot;%1&quot;.</source>
+        <translation>无法启动打开“%1”的程序。</translation>
     </message>
 </context>
 <context>
@@ -1039,6 +1272,124 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgSurveyColumns</name>
+    <message>
+        <source>Survey Columns</source>
+        <translation>测量列表列</translation>
+    </message>
+    <message>
+        <source>In the &amp;table</source>
+        <translation>列表中显示(&amp;T)</translation>
+    </message>
+    <message>
+        <source>At least one column stays in the table.</source>
+        <translation>列表中至少保留一列。</translation>
+    </message>
+    <message>
+        <source>In &amp;exported files</source>
+        <translation>导出文件中写出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Line and point number are always written.</source>
+        <translation>线号和点号总是写出。</translation>
+    </message>
+    <message>
+        <source>The columns hold until the program ends: the settings cannot be saved. The window Messages says why.</source>
+        <translation>设置无法保存，所选的列只在程序退出前有效。原因见“消息”窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>DlgSurveyPoint</name>
+    <message>
+        <source>&amp;Move the heights by the difference</source>
+        <translation>按差值同时改正高程(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Modify Survey Result</source>
+        <translation>修改测量成果</translation>
+    </message>
+    <message>
+        <source>A pole that is higher than the crew has typed makes the point lower by as much.</source>
+        <translation>对中杆比作业组输入的高多少，点的高程就低多少。</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>&amp;Line:</source>
+        <translation>线号(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;Point:</source>
+        <translation>点号(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Antenna height:</source>
+        <translation>天线高(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Remarks:</source>
+        <translation>备注(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Line %1 has no point %2 any more.</source>
+        <translation>测线 %1 上已没有点 %2。</translation>
+    </message>
+    <message>
+        <source>The heights stay as they are.</source>
+        <translation>高程保持不变。</translation>
+    </message>
+    <message>
+        <source>Elevation %1 → %2 m</source>
+        <translation>高程 %1 → %2 m</translation>
+    </message>
+    <message>
+        <source>Altitude %1 → %2 m</source>
+        <translation>大地高 %1 → %2 m</translation>
+    </message>
+    <message>
+        <source>Sea height %1 → %2 m</source>
+        <translation>海拔高 %1 → %2 m</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Antenna height: %1</source>
+        <translation>天线高：%1</translation>
+    </message>
+    <message>
+        <source>Input Correct Param!</source>
+        <translation>请输入正确的参数！</translation>
+    </message>
+    <message>
+        <source>Line %1, point %2, measured %3, would be replaced.</source>
+        <translation>测线 %1 的点 %2（测量时间 %3）将被替换。</translation>
+    </message>
+    <message>
+        <source>Its surveyor: %1</source>
+        <translation>其测量员：%1</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>New Point Name Exist, Want to Overload?</source>
+        <translation>新点名已存在，是否覆盖？</translation>
+    </message>
+</context>
+<context>
     <name>DrawExcitationCommand</name>
     <message>
         <source>not show s line</source>
@@ -1133,6 +1484,140 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>FileImports</name>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Import Success!</source>
+        <translation>导入成功！</translation>
+    </message>
+    <message>
+        <source>Choose Open File</source>
+        <translation>选择要打开的文件</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Import Failed!</source>
+        <translation>导入失败！</translation>
+    </message>
+    <message>
+        <source>A file of points is imported into a project. Open or create the project first, then import the file.</source>
+        <translation>点数据文件只能导入到工程中。请先打开或新建工程，再导入该文件。</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Line or point, or line/point</source>
+        <translation>线号或点号，或 线号/点号</translation>
+    </message>
+    <message>
+        <source>Find lines and points</source>
+        <translation>查找测线和点</translation>
+    </message>
+    <message>
+        <source>Previous match (Shift+F3)</source>
+        <translation>上一个 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Next match (F3)</source>
+        <translation>下一个 (F3)</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>关闭 (Esc)</translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>The project has no points.</source>
+        <translation>工程中没有点。</translation>
+    </message>
+    <message>
+        <source>No match.</source>
+        <translation>没有找到。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
+    <message>
+        <source>(%1 found)</source>
+        <translation>（找到 %1 个）</translation>
+    </message>
+    <message>
+        <source>The best %1 matches are listed. Type more of the number to see others.</source>
+        <translation>只列出最符合的 %1 个。多输入几位可看到其他的。</translation>
+    </message>
+    <message>
+        <source>survey line %1</source>
+        <translation>测量测线 %1</translation>
+    </message>
+    <message>
+        <source>design line %1</source>
+        <translation>设计测线 %1</translation>
+    </message>
+    <message>
+        <source>survey result %1/%2</source>
+        <translation>测量成果 %1/%2</translation>
+    </message>
+    <message>
+        <source>design point %1/%2</source>
+        <translation>设计点 %1/%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>3 of 50: survey line 1001</comment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FoundList</name>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Survey</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>设计</translation>
+    </message>
+    <message>
+        <source>receiver</source>
+        <translation>接收</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>激发</translation>
+    </message>
+    <message>
+        <source>whole line, points: %1</source>
+        <translation>整条测线，点数：%1</translation>
+    </message>
+</context>
+<context>
     <name>FrameMenus</name>
     <message>
         <source>Go to the menus</source>
@@ -1175,6 +1660,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 of %2</source>
         <translation>第 %1 处，共 %2 处</translation>
+    </message>
+</context>
+<context>
+    <name>ImportFindingsModel</name>
+    <message>
+        <source>Finding</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Line of the File</source>
+        <translation>文件行号</translation>
+    </message>
+    <message>
+        <source>Line Num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point Num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>What Was Found</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>成果</translation>
     </message>
 </context>
 <context>
@@ -1255,6 +1767,129 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>The file holds no row of a point.</source>
         <translation>文件中没有测点数据行。</translation>
     </message>
+    <message>
+        <source>The point stands in the file before; the later row counts.</source>
+        <translation>文件前面已有该点，以后面的行为准。</translation>
+    </message>
+    <message>
+        <source>The project had the point; it has the values of the file now.</source>
+        <translation>工程中原有该点，现已采用文件中的值。</translation>
+    </message>
+    <message>
+        <source>Skipped line</source>
+        <translation>跳过的行</translation>
+    </message>
+    <message>
+        <source>Damaged bytes</source>
+        <translation>损坏的字节</translation>
+    </message>
+    <message>
+        <source>Unread field</source>
+        <translation>无法读取的字段</translation>
+    </message>
+    <message>
+        <source>Changed field</source>
+        <translation>改动的字段</translation>
+    </message>
+    <message>
+        <source>Cut off fields</source>
+        <translation>截去的字段</translation>
+    </message>
+    <message>
+        <source>Missing fields</source>
+        <translation>缺少的字段</translation>
+    </message>
+    <message>
+        <source>Repeated row</source>
+        <translation>重复的行</translation>
+    </message>
+    <message>
+        <source>Replaced point</source>
+        <translation>被替换的点</translation>
+    </message>
+    <message>
+        <source>The database holds no result.</source>
+        <translation>数据库中没有成果。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: results read: %2, points added: %3, points replaced: %4, results skipped: %5.</source>
+        <translation>“%1”：读取 %2 个成果，新增 %3 个点，替换 %4 个点，跳过 %5 个成果。</translation>
+    </message>
+    <message>
+        <source>Result %1: %2</source>
+        <translation>成果 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Kml</name>
+    <message>
+        <source>point &quot;%1&quot; of line &quot;%2&quot;</source>
+        <translation>测线“%2”的点“%1”</translation>
+    </message>
+    <message>
+        <source>Points that have no place on the globe and were left out: %1. The first is %2: %3</source>
+        <translation>在地球上没有位置而被略去的点：%1 个。第一个是%2：%3</translation>
+    </message>
+    <message>
+        <source>the project has no usable coordinate system. %1</source>
+        <translation>工程没有可用的坐标系统。%1</translation>
+    </message>
+    <message>
+        <source>the library GDAL has no driver for KML here</source>
+        <translation>此处的 GDAL 库没有 KML 驱动</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>测线</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>receiver</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>激发点</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Solution</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
 </context>
 <context>
     <name>LineTree</name>
@@ -1281,12 +1916,12 @@ The positions stay the numbers that they are: nothing is converted. They then co
 <context>
     <name>MainFrame</name>
     <message>
-        <source>&quot;%1&quot; is not a project file.</source>
-        <translation>“%1”不是工程文件。</translation>
-    </message>
-    <message>
         <source>[read-only]</source>
         <translation>[只读]</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be opened here.</source>
+        <translation>“%1”不是可以在此打开的文件。</translation>
     </message>
 </context>
 <context>
@@ -1324,6 +1959,96 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Open Project</source>
         <translation>打开工程</translation>
+    </message>
+</context>
+<context>
+    <name>PointCorrection</name>
+    <message>
+        <source>A comma cannot stand here: it separates the fields of CSV files. Write a semicolon.</source>
+        <translation>此处不能有英文逗号：它是 CSV 文件的字段分隔符。请改用分号或中文逗号。</translation>
+    </message>
+    <message>
+        <source>A line break, a tab or another control character cannot stand here.</source>
+        <translation>此处不能有换行、制表符或其他控制字符。</translation>
+    </message>
+    <message>
+        <source>A line or point number has no comma and no quote.</source>
+        <translation>线号和点号不能含有逗号和引号。</translation>
+    </message>
+    <message>
+        <source>The line number is missing.</source>
+        <translation>缺少线号。</translation>
+    </message>
+    <message>
+        <source>The point number is missing.</source>
+        <translation>缺少点号。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins as the number of a check point, which is a C and eight characters: files hold no more of it than &quot;%2&quot;.</source>
+        <translation>“%1”以检查点点号的形式开头；检查点点号是 C 加八个字符，文件中只能保存“%2”。</translation>
+    </message>
+    <message>
+        <source>The antenna height is a number from -%1 to %1 metres.</source>
+        <translation>天线高应为 -%1 到 %1 米之间的数。</translation>
+    </message>
+    <message>
+        <source>This is no number.</source>
+        <translation>这不是数。</translation>
+    </message>
+</context>
+<context>
+    <name>PointTableWindow</name>
+    <message>
+        <source>export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <translation>连同表头复制</translation>
+    </message>
+    <message>
+        <source>Filter by This Value</source>
+        <translation>按此值筛选</translation>
+    </message>
+    <message>
+        <source>Show on the Map</source>
+        <translation>在地图上显示</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Copied to Clipboard.</source>
+        <translation>已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Export Failed!</source>
+        <translation>导出失败！</translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>No point passes the filters. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
+        <translation>没有符合筛选条件的点。&lt;a href=&quot;#&quot;&gt;清除所有筛选&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Filter of &quot;%1&quot;: %2</source>
+        <translation>“%1”的筛选条件：%2</translation>
+    </message>
+    <message>
+        <source>The filters hide the selected point %1. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
+        <translation>选中的点 %1 被筛选条件隐藏。&lt;a href=&quot;#&quot;&gt;清除所有筛选&lt;/a&gt;</translation>
     </message>
 </context>
 <context>
@@ -1586,6 +2311,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>&quot;%1&quot;: %2</source>
         <translation>“%1”：%2</translation>
     </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>复制值(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;All Rows</source>
+        <translation>复制全部行(&amp;A)</translation>
+    </message>
 </context>
 <context>
     <name>PropertyGridDelegate</name>
@@ -1720,6 +2453,57 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>QualityTests</name>
+    <message>
+        <source>Horizontal distance from the design</source>
+        <translation>与设计点的水平距离</translation>
+    </message>
+    <message>
+        <source>Difference in height from the design</source>
+        <translation>与设计点的高差</translation>
+    </message>
+    <message>
+        <source>Distance from the base station</source>
+        <translation>与基站的距离</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>Antenna height</source>
+        <translation>天线高</translation>
+    </message>
+    <message>
+        <source>Number of satellites</source>
+        <translation>卫星数</translation>
+    </message>
+    <message>
+        <source>Transversal deviation</source>
+        <translation>横向偏差</translation>
+    </message>
+    <message>
+        <source>Longitudinal deviation</source>
+        <translation>纵向偏差</translation>
+    </message>
+    <message>
+        <source>%1 %2 was out of range in the last check. Its limit is now %3.</source>
+        <translation>%1 %2 在上次检查时超限，现在的限差为 %3。</translation>
+    </message>
+    <message>
+        <source>%1 %2 is over its limit %3.</source>
+        <translation>%1 %2 超过上限 %3。</translation>
+    </message>
+    <message>
+        <source>%1 %2 is under its limit %3.</source>
+        <translation>%1 %2 低于下限 %3。</translation>
+    </message>
+</context>
+<context>
     <name>RecentProjectCommand</name>
     <message>
         <source>&amp;No projects yet</source>
@@ -1769,6 +2553,43 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Limit</source>
         <translation>限值</translation>
+    </message>
+</context>
+<context>
+    <name>RowFilter</name>
+    <message>
+        <source>What is not shown stands behind &quot;!&quot;.</source>
+        <translation>请在“!”后面写出不显示的内容。</translation>
+    </message>
+    <message>
+        <source>A value to compare with stands behind the sign.</source>
+        <translation>请在比较符号后面写出要比较的值。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time such as 2024/05/01 12:30.</source>
+        <translation>“%1”不是时间，时间的写法如 2024/05/01 12:30。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number. Decimals follow a point.</source>
+        <translation>“%1”不是数字，小数点请用“.”。</translation>
+    </message>
+    <message>
+        <source>A range has two ends, such as 1001..1040 or 2024/05/01..2024/05/07.</source>
+        <translation>范围要写出首尾，如 1001..1040 或 2024/05/01..2024/05/07。</translation>
+    </message>
+    <message>
+        <source>1001: what has this text
+&gt; 0.05, &gt;= 0.05, &lt; 3, &lt;= 3, = 4: numbers and times
+1001..1040: from the first to the last
+!fixed: all others
+&gt; 1 &amp; &lt; 2: both; 1001; 1005: one of them
+&quot;&gt; 5&quot;: this text as it stands</source>
+        <translation>1001：含有这段文字的行
+&gt; 0.05、&gt;= 0.05、&lt; 3、&lt;= 3、= 4：比较数字和时间
+1001..1040：从前者到后者
+!固定解：其余各行
+&gt; 1 &amp; &lt; 2：两个条件都满足；1001; 1005：满足其中之一
+&quot;&gt; 5&quot;：按原样查找这段文字</translation>
     </message>
 </context>
 <context>
@@ -2178,6 +2999,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>%1 &quot;%2&quot; is taken for &quot;%3&quot;.</source>
         <translation>%1“%2”按“%3”处理。</translation>
     </message>
+    <message>
+        <source>The columns of exported files lack the line number or the point number. Choose them at View &gt; Survey Columns.</source>
+        <translation>导出的列中缺少线号或点号。请在“视图 &gt; 测量列表列”中选择。</translation>
+    </message>
 </context>
 <context>
     <name>SurveyDataControl</name>
@@ -2239,6 +3064,75 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>SurveyDataTable</name>
+    <message>
+        <source>modify</source>
+        <translation>修改</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Export Selected Survey Point</source>
+        <translation>导出选中的测量点</translation>
+    </message>
+    <message>
+        <source>The project has no survey results yet.</source>
+        <translation>工程中还没有测量成果。</translation>
+    </message>
+    <message>
+        <source>No line is shown. &lt;a href=&quot;#&quot;&gt;Show all lines&lt;/a&gt;</source>
+        <translation>没有显示测线。&lt;a href=&quot;#&quot;&gt;显示所有测线&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete these records?</source>
+        <translation>确定要删除这些记录吗？</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>记录数：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyDatabase</name>
+    <message>
+        <source>Saving that project was interrupted. The results are those that were saved before.</source>
+        <translation>那个工程的保存曾被中断。成果是此前保存的。</translation>
+    </message>
+    <message>
+        <source>%1 (%2, there %3)</source>
+        <translation>%1（本工程 %2，对方 %3）</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另有 %1 项</translation>
+    </message>
+    <message>
+        <source>The results of &quot;%1&quot; were not imported: their coordinate system is not the project&apos;s. It differs in %2.</source>
+        <translation>“%1”的成果没有导入：其坐标系统与本工程不同。不同的参数：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyHeaderMenu</name>
+    <message>
+        <source>Hide This Column</source>
+        <translation>隐藏此列</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Survey Columns...</source>
+        <translation>测量列表列...</translation>
+    </message>
+</context>
+<context>
     <name>SurveyHeadings</name>
     <message>
         <source>&quot;%1&quot; must be written &quot;%2&quot;.</source>
@@ -2282,6 +3176,25 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>base id</source>
         <translation>基站号</translation>
+    </message>
+</context>
+<context>
+    <name>TableCountLine</name>
+    <message>
+        <source>Clear All Filters</source>
+        <translation>清除所有筛选</translation>
+    </message>
+    <message>
+        <source>Points: %1 of %2</source>
+        <translation>点数：%1 / %2</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>点数：%1</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>已选：%1</translation>
     </message>
 </context>
 <context>

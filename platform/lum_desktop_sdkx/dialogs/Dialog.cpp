@@ -84,6 +84,8 @@ void Dialog::moveIntoCorner()
     const QWidget* const parent = parentWidget();
     if (parent == nullptr)
         return;
+    if (layout() != nullptr) // the size that it is shown in
+        resize(size().expandedTo(layout()->totalMinimumSize()));
     const int gap = dpi_scaled(kCornerGap);
     const QPoint corner = parent->mapToGlobal(parent->rect().bottomRight());
     QPoint place = corner - rect().bottomRight() - QPoint(gap, gap);
