@@ -680,6 +680,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isOpen());
 
         const QByteArray rows = "1,L,1,2,3,4,1,0\n";
+        QVERIFY(enter(m_folder->path("1.csv")));
         files.setUrls({QUrl::fromLocalFile(m_folder->write("1.csv", rows)),
                        QUrl::fromLocalFile(m_folder->write("2.CSV", "2" + rows))});
         QDropEvent points(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, {});

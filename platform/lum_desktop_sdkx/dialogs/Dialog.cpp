@@ -93,7 +93,8 @@ void Dialog::moveIntoCorner()
     const auto others = parent->findChildren<Dialog*>();
     const auto isTaken = [&] {
         return std::any_of(others.begin(), others.end(), [&](const Dialog* other) {
-            const QPoint away = other->geometry().bottomRight() - rect().bottomRight() - place;
+            const QPoint larger = other->rect().bottomRight() - rect().bottomRight();
+            const QPoint away = other->pos() + larger - place; // of the lower right corners
             return other != this && other->isVisible() &&
                    away.manhattanLength() < step.manhattanLength();
         });
