@@ -1,7 +1,6 @@
 #include "lum_desktop_sdkx/frame/DesktopStyle.h"
 
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyleOption>
@@ -249,10 +248,9 @@ int DesktopStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 {
     constexpr int kMoreBesideCells = 3;
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    const bool isOfCells = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
-    const bool isTable = isOfCells && (qobject_cast<const QTableView*>(widget) != nullptr ||
-                                       qobject_cast<const QHeaderView*>(widget) != nullptr);
-    return isTable ? usual + kMoreBesideCells : usual;
+    const bool isOfCells =
+        metric == PM_FocusFrameHMargin && qobject_cast<const QTableView*>(widget) != nullptr;
+    return isOfCells ? usual + kMoreBesideCells : usual;
 }
 
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -172,7 +172,12 @@ private:
             if (action->text() == QLatin1String(entry)) {
                 menu.popup({});
                 menu.setActiveAction(action);
-                QTest::keyEvent(QTest::Press, &menu, Qt::Key_Return); // a dialog may follow
+                QEventLoop loop; // as the program has; without one, a dialog's would end the menu
+                QTimer::singleShot(0, &loop, [&] {
+                    QTest::keyEvent(QTest::Press, &menu, Qt::Key_Return);
+                    loop.quit();
+                });
+                loop.exec();
                 return;
             }
         }
@@ -556,6 +561,8 @@ void PointTablesTest::deletesOnlyAfterAYes()
     QCOMPARE(log.events.size(), 1U);
     QTest::keyClick(&seen.table(), Qt::Key_Down);
     QCOMPARE(seen.selected(), QStringList("1001/4"_q)); // the keys go on from there
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
     QTest::keyClick(&seen.table(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&seen.table(), Qt::Key_Delete);
     QVERIFY(results().findLine("1001") == nullptr);
@@ -569,12 +576,15 @@ void PointTablesTest::modifiesTheFirstOfTheSelectedRows()
     publish("ON_SHOW_ALL_SURVEY_TABLE");
     const EventLog log(m_host->events, events::kRefreshSurveyLayer);
     QStringList edited;
-    QTimer::singleShot(0, this, [&] {
+    QTimer asks;
+    connect(&asks, &QTimer::timeout, this, [&] {
         auto* const dialog = qobject_cast<DlgSurveyPoint*>(QApplication::activeModalWidget());
-        QVERIFY(dialog != nullptr);
+        if (dialog == nullptr)
+            return;
         edited << QString::fromStdString(dialog->point().point);
-        QTest::keyClick(dialog, Qt::Key_Escape);
+        dialog->reject();
     });
+    asks.start(5);
     seen.click(4);
     seen.click(2, 1, Qt::ControlModifier);
     seen.choose("modify", 4);
