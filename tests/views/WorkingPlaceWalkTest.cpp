@@ -26,7 +26,7 @@
 
 namespace {
 
-constexpr int kSteps = 3000;
+constexpr int kSteps = 1200;
 constexpr int kLines = 6;
 constexpr int kPointsPerLine = 12;
 
