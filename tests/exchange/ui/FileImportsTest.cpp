@@ -45,6 +45,7 @@ public:
     {
         return true;
     }
+    void deselect() override {}
     QStringList asked;
 
 private:
