@@ -13,10 +13,12 @@
 #include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/Text.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegion>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QToolTip>
@@ -92,6 +94,21 @@ void MapWindow::centerOn(double x, double y)
     m_transform.setView({x, y}, m_transform.GetScale());
     m_fitUntilSeen.reset();
     onViewMoved();
+}
+
+QRegion MapWindow::uncovered() const
+{
+    QRegion free(rect());
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* each : windows) {
+        const QWidget* const parent = each->parentWidget(); // its window is always below
+        const bool isWindow = each->windowType() == Qt::Dialog ||
+                              each->windowType() == Qt::Window || each->windowType() == Qt::Tool;
+        if (isWindow && each->isVisible() && !each->isMinimized() && parent != nullptr &&
+            parent->window() == window())
+            free -= each->frameGeometry().translated(-mapToGlobal(QPoint(0, 0)));
+    }
+    return free;
 }
 
 void MapWindow::zoomIn()
