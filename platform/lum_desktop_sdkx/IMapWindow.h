@@ -49,7 +49,7 @@ public:
     virtual void refreshOverlay() = 0;
 
     [[nodiscard]] virtual const Transform& transform() const = 0;
-    /// The part of the map that dialogs and floating windows over it leave free, screen points.
+    /// The part of the map that dialogs, and the floating window in use, leave free, screen points.
     [[nodiscard]] virtual QRegion uncovered() const = 0;
     [[nodiscard]] virtual ILayerRegistry& layers() = 0;
     /// Adds a layer of a registered class on top. `properties` holds its "layer_name".

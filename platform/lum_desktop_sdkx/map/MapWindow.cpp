@@ -101,11 +101,13 @@ QRegion MapWindow::uncovered() const
     QRegion free(rect());
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget* each : windows) {
-        const QWidget* const parent = each->parentWidget(); // its window is always below
-        const bool isWindow = each->windowType() == Qt::Dialog ||
-                              each->windowType() == Qt::Window || each->windowType() == Qt::Tool;
-        if (isWindow && each->isVisible() && !each->isMinimized() && parent != nullptr &&
-            parent->window() == window())
+        const QWidget* const parent = each->parentWidget();
+        if (parent == nullptr || parent->window() != window() || !each->isVisible())
+            continue;
+        const Qt::WindowType type = each->windowType();
+        const bool isAbove = type == Qt::Dialog || type == Qt::Tool ||
+                             (type == Qt::Window && each->isActiveWindow()); // or maybe behind
+        if (isAbove && !each->isMinimized())
             free -= each->frameGeometry().translated(-mapToGlobal(QPoint(0, 0)));
     }
     return free;
