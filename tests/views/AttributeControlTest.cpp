@@ -375,6 +375,13 @@ void AttributeControlTest::aDesignPointCanBeCorrected()
     QCOMPARE(designed.elevation, 12.345);
     QCOMPARE(designed.azimuth, 30.5);
     QCOMPARE(shown("azimuth"), "30.500000°"_q);
+    QWidget* const readOnly = click("north");
+    for (const char key : {'3', '0', '4'}) // a search for the azimuth would go there
+        QTest::keyClick(QApplication::focusWidget(), key);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(QApplication::focusWidget(), readOnly);
+    QCOMPARE(designed.azimuth, 30.5);
     QVERIFY(
         (log.names() == std::vector<std::string>{"REFRESH_DESIGN_TABLE", "REFRESH_DESIGN_TABLE"}));
 }
