@@ -113,6 +113,7 @@ AttributeControl::AttributeControl(const char* config, IDesktopHost* host)
     for (QWidget* each : std::initializer_list<QWidget*>{m_empty, m_survey, m_design, m_station})
         m_pages->addWidget(each);
     auto* const close = new QPushButton(tr("Close"), this);
+    close->setFocusPolicy(Qt::TabFocus); // a click does not leave the keys with it
     connect(close, &QPushButton::clicked, this,
             [this] { m_host.windows().close(QStringLiteral("AttributeControl")); });
     connect(m_survey, &AttributePage::edited, this, &AttributeControl::editSurvey);

@@ -18,6 +18,9 @@
 
 namespace {
 
+constexpr const char* kResults = "Survey Data List";
+constexpr const char* kDesign = "Design Data List";
+
 /// Shows a point in the windows of these names.
 /// \returns false, and changes nothing, when there is no such point
 template <class Points>
@@ -36,6 +39,12 @@ bool show(IDesktopHost& host, const Points& points, const PointName& name, const
         list->followLine(lum::toQString(name.line));
     PointHighlight::mark(host, *point);
     return true;
+}
+
+void deselect(IDesktopHost& host, const char* pointList)
+{
+    if (auto* const list = host.windows().findAs<IPointList>(QLatin1String(pointList)))
+        list->deselect();
 }
 
 std::string eventNames()
@@ -70,14 +79,20 @@ void SelectionFollower::follow(const char* eventName, const IDictionary& names)
     DataProcessDataManager& manager = DataProcessDataManager::instance();
     const PointName name{std::string(names.text("lineName")), std::string(names.text("pointName"))};
     if (is(events::kSurveyPointSelected)) {
-        if (show(m_host, manager.surveyPoints(), name, "Survey Data List", "Survey Lines"))
-            remember(Points::Survey, name);
+        if (!show(m_host, manager.surveyPoints(), name, kResults, "Survey Lines"))
+            return;
+        deselect(m_host, kDesign);
+        remember(Points::Survey, name);
     } else if (is(events::kDesignPointSelected)) {
-        if (show(m_host, manager.designPoints(), name, "Design Data List", "Design Lines"))
-            remember(Points::Design, name);
+        if (!show(m_host, manager.designPoints(), name, kDesign, "Design Lines"))
+            return;
+        deselect(m_host, kResults);
+        remember(Points::Design, name);
     } else if (is(events::kStationPointSelected)) {
         PointHighlight::markStation(m_host, names.integer("stationId", -1));
         m_marked = Points::None;
+        deselect(m_host, kResults);
+        deselect(m_host, kDesign);
     } else {
         clearLostMark();
     }

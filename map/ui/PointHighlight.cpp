@@ -17,6 +17,7 @@
 
 #include <QColor>
 #include <QPolygonF>
+#include <QRegion>
 
 #include <algorithm>
 #include <cmath>
@@ -49,19 +50,54 @@ bool isFinite(const QPointF& place)
 bool isInView(const IMapWindow& map, const QPointF& place)
 {
     const Transform& view = map.transform();
-    return QRectF(QPointF(0, 0), QSizeF(view.size()))
-        .adjusted(kEdge, kEdge, -kEdge, -kEdge)
-        .contains(view.SurveyToScreen(place));
+    const QPointF screen = view.SurveyToScreen(place);
+    const bool isInside = QRectF(QPointF(0, 0), QSizeF(view.size()))
+                              .adjusted(kEdge, kEdge, -kEdge, -kEdge)
+                              .contains(screen);
+    if (!isInside)
+        return false;
+    const QRectF mark(screen - QPointF(kEdge, kEdge), QSizeF(2 * kEdge, 2 * kEdge));
+    return (QRegion(mark.toAlignedRect()) - map.uncovered()).isEmpty();
 }
 
-/// Centres the map on `place` and zooms in to `scale`, never out.
+/// The middle of what the user sees of the map: of the largest part beside the windows over it.
+QPointF visibleMiddle(const IMapWindow& map)
+{
+    const QRect whole(QPoint(0, 0), map.transform().size());
+    const QRect covered = (QRegion(whole) - map.uncovered()).boundingRect();
+    if (covered.isEmpty())
+        return QRectF(whole).center();
+    QRect left = whole;
+    left.setRight(covered.left() - 1);
+    QRect right = whole;
+    right.setLeft(covered.right() + 1);
+    QRect above = whole;
+    above.setBottom(covered.top() - 1);
+    QRect below = whole;
+    below.setTop(covered.bottom() + 1);
+    const auto area = [](const QRect& part) { return qint64(part.width()) * part.height(); };
+    const QRect largest = std::max({left, right, above, below},
+                                   [&](const auto& a, const auto& b) { return area(a) < area(b); });
+    return QRectF(area(largest) > 0 ? largest : whole).center();
+}
+
+/// Moves the map so that `place` comes to the middle of what the user sees. \returns that middle
+QPointF moveTo(IMapWindow& map, const QPointF& place)
+{
+    const Transform& view = map.transform();
+    const QPointF middle = visibleMiddle(map);
+    const QPointF aside = view.ScreenToSurvey(QRectF(QPointF(0, 0), QSizeF(view.size())).center()) -
+                          view.ScreenToSurvey(middle);
+    map.centerOn(place.x() + aside.x(), place.y() + aside.y());
+    return middle;
+}
+
+/// Moves the map to `place` and zooms in to `scale`, never out.
 void goTo(IMapWindow& map, const QPointF& place, double scale)
 {
-    map.centerOn(place.x(), place.y());
-    const Transform& view = map.transform();
-    if (view.GetScale() > scale)
-        map.zoomAbout(view.size().width() / 2.0, view.size().height() / 2.0,
-                      view.GetScale() / scale);
+    const QPointF middle = moveTo(map, place);
+    if (map.transform().GetScale() > scale)
+        map.zoomAbout(middle.x(), middle.y(), map.transform().GetScale() / scale);
 }
 
 /// A mark that is to be drawn. The first position is the one that the map moves to.
@@ -109,7 +145,7 @@ void showInView(IMapWindow& map, const Mark& mark)
 {
     const QPointF& place = mark.positions.first();
     if (show(map, mark) && !isInView(map, place))
-        map.centerOn(place.x(), place.y());
+        moveTo(map, place);
 }
 
 /// \param list the window that the map must not cover

@@ -25,8 +25,9 @@ void draw(IMapWindow& map, Kind kind, const QPolygonF& positions);
 void clear(IMapWindow& map);
 void clear(IDesktopHost& host);
 
-/// Marks the point. The map moves, at its scale, only when the point is outside its view, and is
-/// not brought to the front. A point whose position is no number leaves the map without a mark.
+/// Marks the point. The map moves, at its scale, only when the point is outside its view or under
+/// another window, and is not brought to the front. A point whose position is no number leaves the
+/// map without a mark.
 void mark(IDesktopHost& host, const SurveyPoint& point);
 void mark(IDesktopHost& host, const DesignPoint& point);
 /// The same for a base station, counted from 0.

@@ -147,10 +147,7 @@ PropertyGridInput DlgSurveyPoint::antennaInput() const
     row.minimum = -kMostAntennaHeightM;
     row.maximum = kMostAntennaHeightM;
     row.decimals = kStoredDecimals;
-    QString text = m_antenna->text();
-    if (text.count(QLatin1Char(',')) == 1) // there is no height of thousands of metres
-        text.replace(QLatin1Char(','), QLatin1Char('.'));
-    return readPropertyGridInput(row, text);
+    return readPropertyGridInput(row, m_antenna->text());
 }
 
 SurveyCorrection DlgSurveyPoint::correction() const

@@ -128,6 +128,13 @@ bool PointTableWindow::followPoint(const QString& lineNumber, const QString& poi
     return goTo(point);
 }
 
+void PointTableWindow::deselect()
+{
+    m_selected = {};
+    m_table->clearSelection(); // the keys go on from its row
+    showState();
+}
+
 /// Shows the point and selects its row, unless a filter hides it.
 bool PointTableWindow::goTo(const PointName& point)
 {
@@ -285,6 +292,9 @@ void PointTableWindow::addCopyEntry(QMenu& menu)
 
 void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
 {
+    const std::vector<int> rows = m_table->selectedRows();
+    if (rows.size() == 1 && m_model->pointAt(rows.front()) != m_selected)
+        announceRow(); // the right click has selected another point
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     addEntries(*menu);

@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/controls/OpenEdit.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/dialogs/ScreenFit.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
@@ -239,6 +240,7 @@ void MainFrame::dropEvent(QDropEvent* event)
 
 void MainFrame::closeEvent(QCloseEvent* event)
 {
+    desktop::enterOpenEdit();
     if (!std::all_of(m_assistants.begin(), m_assistants.end(),
                      [](const auto& assistant) { return mayClose(*assistant); })) {
         event->ignore();

@@ -13,10 +13,12 @@
 #include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/Text.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegion>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QToolTip>
@@ -92,6 +94,23 @@ void MapWindow::centerOn(double x, double y)
     m_transform.setView({x, y}, m_transform.GetScale());
     m_fitUntilSeen.reset();
     onViewMoved();
+}
+
+QRegion MapWindow::uncovered() const
+{
+    QRegion free(rect());
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* each : windows) {
+        const QWidget* const parent = each->parentWidget();
+        if (parent == nullptr || parent->window() != window() || !each->isVisible())
+            continue;
+        const Qt::WindowType type = each->windowType();
+        const bool isAbove = type == Qt::Dialog || type == Qt::Tool ||
+                             (type == Qt::Window && each->isActiveWindow()); // or maybe behind
+        if (isAbove && !each->isMinimized())
+            free -= each->frameGeometry().translated(-mapToGlobal(QPoint(0, 0)));
+    }
+    return free;
 }
 
 void MapWindow::zoomIn()
