@@ -141,11 +141,16 @@ bool show(IMapWindow& map, const Mark& mark)
     return hasPlace;
 }
 
+void bringIntoView(IMapWindow& map, const QPointF& place)
+{
+    if (isFinite(place) && !isInView(map, place))
+        moveTo(map, place);
+}
+
 void showInView(IMapWindow& map, const Mark& mark)
 {
-    const QPointF& place = mark.positions.first();
-    if (show(map, mark) && !isInView(map, place))
-        moveTo(map, place);
+    if (show(map, mark))
+        bringIntoView(map, mark.positions.first());
 }
 
 /// \param list the window that the map must not cover
@@ -215,6 +220,18 @@ void markStation(IDesktopHost& host, int index)
     QPointF place;
     if (layer != nullptr && layer->GetBasePosition(index, place))
         showInView(*map, {Kind::Station, QPolygonF(QVector<QPointF>{place})});
+}
+
+void bringIntoView(IDesktopHost& host, const SurveyPoint& point)
+{
+    if (IMapWindow* const map = mapOf(host))
+        ::bringIntoView(*map, markOf(host, point).positions.first());
+}
+
+void bringIntoView(IDesktopHost& host, const DesignPoint& point)
+{
+    if (IMapWindow* const map = mapOf(host))
+        ::bringIntoView(*map, markOf(host, point).positions.first());
 }
 
 void zoomTo(IDesktopHost& host, const SurveyPoint& point)

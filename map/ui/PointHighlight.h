@@ -33,6 +33,10 @@ void mark(IDesktopHost& host, const DesignPoint& point);
 /// The same for a base station, counted from 0.
 void markStation(IDesktopHost& host, int index);
 
+/// Moves the map alone, and only when the point is outside its view.
+void bringIntoView(IDesktopHost& host, const SurveyPoint& point);
+void bringIntoView(IDesktopHost& host, const DesignPoint& point);
+
 /// Marks the point in the middle of the map. The map zooms in until the measured and the designed
 /// position can be told apart, at least to 1 m a pixel; a map that is finer already keeps its
 /// scale. It comes to the front unless it would cover the list of such points.

@@ -6,6 +6,7 @@
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/Text.h"
+#include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ILineList.h"
 #include "project/IPointList.h"
@@ -27,6 +28,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -60,6 +62,15 @@ std::pair<std::uint64_t, std::uint64_t> revisions()
         return {};
     DataProcessDataManager& manager = DataProcessDataManager::instance();
     return {manager.designPoints().revision(), manager.surveyPoints().revision()};
+}
+
+/// Moves the map to the middle of the line.
+template <class Line>
+void bringIntoView(IDesktopHost& host, const Line* line)
+{
+    if (line != nullptr && line->size() > 0)
+        PointHighlight::bringIntoView(
+            host, *std::next(line->begin(), static_cast<std::ptrdiff_t>(line->size() / 2)));
 }
 
 /// A count with its thousands told apart, alike on every desktop.
@@ -287,6 +298,11 @@ void FindBar::goTo(const FoundPlace& place)
         if (auto* const tree = windows.findAs<ILineList>(
                 place.isSurvey ? QStringLiteral("Survey Lines") : QStringLiteral("Design Lines")))
             tree->followLine(line);
+        DataProcessDataManager& manager = DataProcessDataManager::instance();
+        if (place.isSurvey)
+            bringIntoView(m_host, manager.surveyPoints().findLine(place.line));
+        else
+            bringIntoView(m_host, manager.designPoints().findLine(place.line));
     } else if (auto* const list = windows.findAs<IPointList>(table)) {
         list->selectPoint(line, lum::toQString(place.point));
     }

@@ -20,6 +20,8 @@ using Column = TableColumn<DesignPoint>;
 constexpr int kDecimals = 3;
 constexpr int kSurveyed = 1;
 constexpr int kStatusColumn = 8;
+constexpr const char* kSurveyedText = QT_TRANSLATE_NOOP("DesignTable", "surveyed");
+constexpr const char* kNotSurveyedText = QT_TRANSLATE_NOOP("DesignTable", "not surveyed");
 
 QString translated(const char* text)
 {
@@ -59,6 +61,8 @@ std::vector<Column> makeColumns()
     for (const Plan& plan : plans)
         columns.push_back({QString::fromLatin1(plan.key), translated(plan.caption), plan.kind,
                            plan.field, plan.decimals});
+    columns[kStatusColumn].longestTexts << translated(kSurveyedText)
+                                        << translated(kNotSurveyedText);
     return columns;
 }
 
@@ -76,8 +80,8 @@ protected:
     }
     void renewTexts() override
     {
-        m_surveyed = translated(QT_TRANSLATE_NOOP("DesignTable", "surveyed")).toStdString();
-        m_notSurveyed = translated(QT_TRANSLATE_NOOP("DesignTable", "not surveyed")).toStdString();
+        m_surveyed = translated(kSurveyedText).toStdString();
+        m_notSurveyed = translated(kNotSurveyedText).toStdString();
         m_lineStart = nullptr;
     }
     [[nodiscard]] std::string_view text(const DesignPoint& point, int column) const override

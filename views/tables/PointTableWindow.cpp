@@ -99,6 +99,7 @@ void PointTableWindow::connectParts()
 {
     connect(m_table, &QAbstractItemView::clicked, this, &PointTableWindow::announceRow);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &PointTableWindow::announceRow);
+    connect(m_table, &CustomTableWidget::selectedByDrag, this, &PointTableWindow::announceRow);
     connect(m_table, &QAbstractItemView::doubleClicked, this,
             [this](const QModelIndex& cell) { zoomToRow(cell.row()); });
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, this, &PointTableWindow::showMenu);
@@ -292,9 +293,8 @@ void PointTableWindow::addCopyEntry(QMenu& menu)
 
 void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
 {
-    const std::vector<int> rows = m_table->selectedRows();
-    if (rows.size() == 1 && m_model->pointAt(rows.front()) != m_selected)
-        announceRow(); // the right click has selected another point
+    if (m_table->selectedRowCount() == 1 && m_model->pointAt(cell.row()) != m_selected)
+        announceRow(); // the right click has selected it
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     addEntries(*menu);

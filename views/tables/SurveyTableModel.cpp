@@ -4,6 +4,7 @@
 #include "exchange/SurveyFieldTexts.h"
 #include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "model/CodeTables.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/StatusKeys.h"
 #include "quality/QualityLimits.h"
@@ -16,6 +17,7 @@
 namespace {
 
 constexpr int kBeijingHours = 8;
+constexpr int kUnknownSolution = 8; // the first code without a name of its own
 
 using Column = TableColumn<SurveyPoint>;
 
@@ -40,6 +42,15 @@ void setKind(Column& column, CsvForm form)
         break;
     case CsvForm::PointNumber:
         column.kind = ColumnKind::Name;
+        break;
+    case CsvForm::SolutionType:
+        column.kind = ColumnKind::Text;
+        for (int code = 0; code <= kUnknownSolution; ++code)
+            column.longestTexts << solutionTypeText(code);
+        break;
+    case CsvForm::MeasureMode:
+        column.kind = ColumnKind::Text;
+        column.longestTexts << measureModeText(0) << measureModeText(1);
         break;
     default:
         column.kind = ColumnKind::Text;

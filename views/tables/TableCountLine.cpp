@@ -52,7 +52,7 @@ void TableCountLine::setCounts(const Counts& counts)
     if (counts.selected > 0)
         text += QStringLiteral("    ") + tr("Selected: %1").arg(grouped(counts.selected));
     m_counts->setText(text);
-    m_clear->setEnabled(counts.isFiltered);
+    m_clear->setEnabled(counts.isFiltered || !m_note->text().isEmpty()); // or an unreadable one
 }
 
 void TableCountLine::setNote(const QString& html)

@@ -67,6 +67,13 @@ private Q_SLOTS:
                 const QPoint place = map.window.transform().SurveyToScreen(east, north).toPoint();
                 QCOMPARE(map.picture().pixelColor(place), QColor(isDesign ? Qt::red : Qt::blue));
             }
+            PointHighlight::clear(map.host);
+            map.window.zoomRect(0, 0, 400, 300);
+            PointHighlight::bringIntoView(map.host, design(north, east));
+            QCOMPARE(map.window.transform().center(),
+                     moves ? QPointF(east, north) : QPointF(200, 150));
+            const QPoint place = map.window.transform().SurveyToScreen(east, north).toPoint();
+            QCOMPARE(map.picture().pixelColor(place), QColor(Qt::white));
         }
         QVERIFY(map.host.windowRegistry.activated.isEmpty());
         QVERIFY(map.host.windowRegistry.revealed.isEmpty());

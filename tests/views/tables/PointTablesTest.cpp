@@ -95,12 +95,24 @@ public:
     /// Chooses an entry of the menu that a right click on a cell opens.
     void choose(const char* entry, int row, int column = 1) const
     {
+        rightClick(row, column);
+        chooseIn(entry);
+    }
+    void rightClick(int row, int column = 1) const
+    {
         QWidget* const view = table().viewport();
         QTest::mousePress(view, Qt::RightButton, {}, place(row, column));
         QContextMenuEvent event(QContextMenuEvent::Mouse, place(row, column),
                                 view->mapToGlobal(place(row, column)));
         QApplication::sendEvent(view, &event);
-        chooseIn(entry);
+    }
+    void drag(int fromRow, int toRow, int column = 1) const
+    {
+        QWidget* const view = table().viewport();
+        QTest::mousePress(view, Qt::LeftButton, {}, place(fromRow, column));
+        QMouseEvent move(QEvent::MouseMove, place(toRow, column), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(view, &move);
+        QTest::mouseRelease(view, Qt::LeftButton, {}, place(toRow, column));
     }
     /// The same on the caption of a column.
     void chooseOfHeader(const char* entry, int column, const char* subEntry = nullptr) const
@@ -187,6 +199,13 @@ private:
     QWidget& m_window;
 };
 
+/// The announcement of the point of a row.
+std::string announcementOf(const Seen& seen, int row)
+{
+    const PointName name = seen.model().pointAt(row);
+    return "pointName=" + name.point + ",lineName=" + name.line;
+}
+
 } // namespace
 
 class PointTablesTest : public QObject
@@ -202,6 +221,7 @@ private Q_SLOTS:
     void aHiddenPointStaysTheSelectedOne();
     void longListsKeepTheirPlace();
     void sortsAndFiltersFromTheHeader();
+    void anglesHaveRoomInEitherForm();
     void copiesRows();
     void exportsDesignRowsWithNumbersForTypeAndStatus();
     void exportsSurveyRowsOrTellsWhyNot();
@@ -312,6 +332,17 @@ void PointTablesTest::aRowAnnouncesItsPoint()
     QCOMPARE(log.payloads().front(), std::string("pointName=C10010001_0,lineName=1001"));
     QCOMPARE(seen.selected(), (QStringList{"1001/2"_q, "1001/4"_q}));
     QVERIFY(seen.label("Points: 7").endsWith("Selected: 2"_q));
+
+    // What is selected by a drag or a right click is the point of the other windows, too.
+    seen.drag(2, 4);
+    QCOMPARE(seen.table().selectedRows(), (std::vector<int>{2, 3, 4}));
+    QCOMPARE(log.payloads().back(), announcementOf(seen, 2));
+    seen.rightClick(3); // within the selection, which stays
+    QApplication::activePopupWidget()->close();
+    QCOMPARE(log.payloads().back(), announcementOf(seen, 2));
+    seen.rightClick(0);
+    QApplication::activePopupWidget()->close();
+    QCOMPARE(log.payloads().back(), announcementOf(seen, 0));
 }
 
 void PointTablesTest::aPointIsSelectedFromElsewhere()
@@ -449,6 +480,20 @@ void PointTablesTest::sortsAndFiltersFromTheHeader()
     seen.choose("Filter by This Value", 6, seen.column("line_num"));
     QCOMPARE(seen.rows().size(), 1); // quotes, comma and blanks of its name are taken as they are
     QVERIFY(seen.rows().front().startsWith(QString::fromUtf8(kOddLine)));
+}
+
+void PointTablesTest::anglesHaveRoomInEitherForm()
+{
+    SurveyDataTable window("", m_host.get());
+    const Seen seen(window);
+    publish("ON_SHOW_ALL_SURVEY_TABLE");
+    const int latitude = seen.column("latitude");
+    const int before = seen.table().columnWidth(latitude);
+    get_system_status_dictionary().set(status::kDegreeFormat, "1");
+    publish("ON_CLEAR_SURVEY_TABLE");
+    seen.followLink("Show all lines");
+    get_system_status_dictionary().remove(status::kDegreeFormat);
+    QVERIFY(seen.table().columnWidth(latitude) > before);
 }
 
 void PointTablesTest::copiesRows()
