@@ -1,6 +1,7 @@
 #include "views/tables/SurveyTableModel.h"
 
 #include "exchange/CsvRow.h"
+#include "exchange/ShownTimes.h"
 #include "exchange/SurveyFieldTexts.h"
 #include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_sdk/files/SystemDictionaries.h"
@@ -14,8 +15,6 @@
 #include <QColor>
 
 namespace {
-
-constexpr int kBeijingHours = 8;
 
 using Column = TableColumn<SurveyPoint>;
 
@@ -63,10 +62,8 @@ std::vector<Column> makeColumns()
 
 SurveyFieldTexts makeTexts()
 {
-    const int hours =
-        get_system_ini_parameter().dictionary().integer(settings::kTimeZone, kBeijingHours);
     return SurveyFieldTexts(get_system_status_dictionary().integer(status::kDegreeFormat),
-                            basalt::LocalTimes(hours));
+                            shownTimes());
 }
 
 class SurveyTableModel final : public PointTable<SurveyPoint>
