@@ -288,6 +288,8 @@ void AttributeControl::editSurvey(const QString& key, const QString& value)
     if (height)
         noteMove(*point, before);
     m_host.eventManager().publish(events::kRefreshSurveyTable, nullptr, 0);
+    if (correction.pointMark) // the tree shows the kind of a line
+        m_host.eventManager().publish(events::kRefreshSurveyLayer, nullptr, 0);
     refresh();
 }
 

@@ -197,7 +197,7 @@ void DlgImportSummary::showFinding(const QModelIndex& index)
 QString DlgImportSummary::placeText(const QModelIndex& first) const
 {
     const int last = m_table->model()->columnCount() - 1;
-    const QString found = first.siblingAtColumn(last).data().toString();
+    QString found = first.siblingAtColumn(last).data().toString();
     const QString line = first.data(ImportFindingsModel::kFileLine).toString();
     if (line == QLatin1String("0"))
         return found;
