@@ -37,7 +37,7 @@ struct TableColumn
 
     QString key;
     QString caption;
-    ColumnKind kind;
+    ColumnKind kind = ColumnKind::Text;
     Field field;
     int decimals = -1; ///< shown of a number; -1 for all
 };
@@ -276,6 +276,7 @@ void PointTable<Point>::relayout()
     constexpr auto kGone = std::numeric_limits<std::uint32_t>::max();
     if (!isFresh()) {
         std::vector<typename PointRows<Point>::Key> keys;
+        keys.reserve(places.size());
         for (const std::uint32_t place : places)
             keys.push_back(m_rows.keyAt(place));
         readPoints();
