@@ -567,10 +567,8 @@ void PointTablesTest::deletesOnlyAfterAYes()
     QCOMPARE(log.events.size(), 1U);
     QTest::keyClick(&seen.table(), Qt::Key_Down);
     QCOMPARE(seen.selected(), QStringList("1001/4"_q)); // the keys go on from there
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
     QTest::keyClick(&seen.table(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&seen.table(), Qt::Key_Delete);
+    seen.choose("delete", 0);
     QVERIFY(results().findLine("1001") == nullptr);
     QCOMPARE(seen.rows().size(), 1); // the line is gone; the tree's answer holds
 }
