@@ -3,6 +3,7 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/Text.h"
 #include "map/ui/PointHighlight.h"
@@ -10,11 +11,11 @@
 #include "project/ILineList.h"
 #include "project/IPointList.h"
 #include "protocol/Events.h"
+#include "views/SelectedPoint.h"
 
 #include <QScopedValueRollback>
 
 #include <cstring>
-#include <string>
 
 namespace {
 
@@ -47,19 +48,15 @@ void deselect(IDesktopHost& host, const char* pointList)
         list->deselect();
 }
 
-std::string eventNames()
-{
-    std::string names = events::kSurveyPointSelected;
-    for (const char* name : {events::kDesignPointSelected, events::kStationPointSelected,
-                             events::kRefreshSurveyLayer, events::kRefreshDesignLayer})
-        names.append(",").append(name);
-    return names;
-}
-
 } // namespace
 
 SelectionFollower::SelectionFollower(IDesktopHost& host)
-    : m_host(host), m_subscription(*this, eventNames(), host.eventManager())
+    : m_host(host),
+      m_subscription(*this,
+                     lum::eventNames({events::kSurveyPointSelected, events::kDesignPointSelected,
+                                      events::kStationPointSelected, events::kRefreshSurveyLayer,
+                                      events::kRefreshDesignLayer}),
+                     host.eventManager())
 {
 }
 
@@ -77,7 +74,7 @@ void SelectionFollower::follow(const char* eventName, const IDictionary& names)
 {
     const auto is = [&](const char* name) { return std::strcmp(eventName, name) == 0; };
     DataProcessDataManager& manager = DataProcessDataManager::instance();
-    const PointName name{std::string(names.text("lineName")), std::string(names.text("pointName"))};
+    const PointName name = selectedPoint(names);
     if (is(events::kSurveyPointSelected)) {
         if (!show(m_host, manager.surveyPoints(), name, kResults, "Survey Lines"))
             return;

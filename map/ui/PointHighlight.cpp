@@ -3,7 +3,6 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
@@ -11,6 +10,7 @@
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Transform.h"
+#include "map/ui/FindDataLayer.h"
 #include "map/ui/IDataLayer.h"
 #include "model/DesignPoint.h"
 #include "model/SurveyPoint.h"
@@ -212,14 +212,10 @@ void mark(IDesktopHost& host, const DesignPoint& point)
 
 void markStation(IDesktopHost& host, int index)
 {
-    IMapWindow* const map = mapOf(host);
-    const auto* const layer =
-        map == nullptr
-            ? nullptr
-            : dynamic_cast<IDataLayer*>(map->layers().find(QStringLiteral("DataProcessLayer")));
+    const IDataLayer* const layer = findDataLayer(host);
     QPointF place;
     if (layer != nullptr && layer->GetBasePosition(index, place))
-        showInView(*map, {Kind::Station, QPolygonF(QVector<QPointF>{place})});
+        showInView(*mapOf(host), {Kind::Station, QPolygonF(QVector<QPointF>{place})});
 }
 
 void bringIntoView(IDesktopHost& host, const SurveyPoint& point)

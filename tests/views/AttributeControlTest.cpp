@@ -354,10 +354,12 @@ void AttributeControlTest::anObstacleIsChosenAndAnUnknownOneKept()
     box->setCurrentIndex(box->findText("iron tower"_q));
     QTest::keyClick(box, Qt::Key_Tab);
     QCOMPARE(point().obstacle, std::string("iron tower"));
+    const EventLog layer(m_map->host.events, events::kRefreshSurveyLayer);
     auto* const mark = qobject_cast<QComboBox*>(click("point_mark"));
     mark->setCurrentIndex(0);
     QTest::keyClick(mark, Qt::Key_Tab);
     QCOMPARE(point().pointMark, 1);
+    QCOMPARE(layer.events.size(), std::size_t(1));
     QCOMPARE(point().elevation, 123.4567);
 }
 

@@ -38,7 +38,7 @@ struct TableColumn
 
     QString key;
     QString caption;
-    ColumnKind kind;
+    ColumnKind kind = ColumnKind::Text;
     Field field;
     int decimals = -1;             ///< shown of a number; -1 for all
     QStringList longestTexts = {}; ///< that its cells may have, where these are known
@@ -280,6 +280,7 @@ void PointTable<Point>::relayout()
     constexpr auto kGone = std::numeric_limits<std::uint32_t>::max();
     if (!isFresh()) {
         std::vector<typename PointRows<Point>::Key> keys;
+        keys.reserve(places.size());
         for (const std::uint32_t place : places)
             keys.push_back(m_rows.keyAt(place));
         readPoints();

@@ -3,6 +3,7 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
@@ -41,7 +42,7 @@ SurveyDataTable::SurveyDataTable(const char* config, IDesktopHost* host)
     : PointTableWindow(config, *host, makeSurveyTableModel(), events::kSurveyPointSelected),
       m_headerMenu(*host, table(), model()), m_subscription(*this, kEvents, host->eventManager()),
       m_otherSubscription(
-          *this, std::string(events::kSurveyColumnsChanged) + "," + events::kUpdateSystemStatus,
+          *this, lum::eventNames({events::kSurveyColumnsChanged, events::kUpdateSystemStatus}),
           host->eventManager())
 {
     auto* const deletes = new QAction(this);

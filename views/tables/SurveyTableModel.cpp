@@ -1,6 +1,7 @@
 #include "views/tables/SurveyTableModel.h"
 
 #include "exchange/CsvRow.h"
+#include "exchange/ShownTimes.h"
 #include "exchange/SurveyFieldTexts.h"
 #include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_sdk/files/SystemDictionaries.h"
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr int kBeijingHours = 8;
 constexpr int kUnknownSolution = 8; // the first code without a name of its own
 
 using Column = TableColumn<SurveyPoint>;
@@ -74,10 +74,8 @@ std::vector<Column> makeColumns()
 
 SurveyFieldTexts makeTexts()
 {
-    const int hours =
-        get_system_ini_parameter().dictionary().integer(settings::kTimeZone, kBeijingHours);
     return SurveyFieldTexts(get_system_status_dictionary().integer(status::kDegreeFormat),
-                            basalt::LocalTimes(hours));
+                            shownTimes());
 }
 
 class SurveyTableModel final : public PointTable<SurveyPoint>

@@ -10,6 +10,7 @@
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/PlatformEvents.h"
 
 #include <QAction>
@@ -85,8 +86,7 @@ bool mayClose(IGuiAssistant& assistant)
 
 MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
     : m_host(host), m_docks(makeDockManager(this)), m_menus(*this, host),
-      m_subscription(*this,
-                     std::string(events::kUpdateSystemStatus) + "," + events::kProjectChanged,
+      m_subscription(*this, lum::eventNames({events::kUpdateSystemStatus, events::kProjectChanged}),
                      host.eventManager())
 {
     setObjectName(QStringLiteral("MainFrame"));

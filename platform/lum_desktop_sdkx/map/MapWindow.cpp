@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_sdk/coords/ShownUnit.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/files/SystemDictionaries.h"
@@ -54,7 +55,7 @@ bool isWorthFinishing(const Transform& made, const Transform& live)
 MapWindow::MapWindow(const char* config, IDesktopHost* host)
     : m_host(*host), m_reactors(*this),
       m_subscription(*this,
-                     std::string(events::kUpdateSystemStatus) + "," + events::kInitBoundaryRect,
+                     lum::eventNames({events::kUpdateSystemStatus, events::kInitBoundaryRect}),
                      host->eventManager())
 {
     csa_to_dictionary(m_parameters, config != nullptr ? config : "");

@@ -21,8 +21,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include <random>
-
 namespace {
 
 using Button = LumMessageBox::Button;
@@ -229,7 +227,6 @@ private Q_SLOTS:
     void modifiesTheFirstOfTheSelectedRows();
     void theHeaderChoosesColumns();
     void nothingIsLeftOfAClosedProject();
-    void survivesWhateverChangesUnderIt();
 
 private:
     void publish(const char* event, const QByteArray& payload = {})
@@ -530,18 +527,27 @@ void PointTablesTest::exportsDesignRowsWithNumbersForTypeAndStatus()
     const Seen seen(window);
     publish("ON_DESIGN_LINE_SWITCHED", payload::line("1001"_q));
     const TestFolder folder;
+    QString path = folder.path("点 a.csv");
     const FileDialog::Responder files([&](const auto& request) {
         m_told << request.title;
-        return folder.path("点 a.csv");
+        return path;
     });
     seen.click(1);
     seen.click(3, 1, Qt::ControlModifier);
     seen.choose("export", 3);
     QCOMPARE(m_told.front(), "Export Selected Design Point"_q);
-    QCOMPARE(TestFolder::read(folder.path("点 a.csv")),
+    QCOMPARE(TestFolder::read(path),
              QByteArray("point_num,line_num,north,east,elevation,design code,azimuth,type,status\n"
                         "2,1001,0.000,0.000,0.000,2,0,0,0\n"
                         "a, b,1001,1234567.892,0.000,0.000,a, b,12.5,1,1\n"));
+
+    path = folder.write("project.db", "of the open project");
+    get_system_status_dictionary().set(status::kProjectPath, folder.path().toStdString());
+    get_system_status_dictionary().set(status::kProjectName, "project");
+    m_answer = Button::Yes; // files may be replaced
+    seen.choose("export", 3);
+    QCOMPARE(m_told.back(), "Error|Export Failed!"_q);
+    QCOMPARE(TestFolder::read(path), QByteArray("of the open project"));
 }
 
 void PointTablesTest::exportsSurveyRowsOrTellsWhyNot()
@@ -681,47 +687,6 @@ void PointTablesTest::nothingIsLeftOfAClosedProject()
     publish("ON_SHOW_ALL_SURVEY_TABLE");
     QCOMPARE(seen.model().rowCount(), 0);
     survey.grab();
-}
-
-void PointTablesTest::survivesWhateverChangesUnderIt()
-{
-    SurveyDataTable survey("", m_host.get());
-    DesignLineTable lines("", m_host.get());
-    const Seen seen(survey);
-    const Seen seenLines(lines);
-    m_answer = Button::Yes;
-    std::mt19937 random(7); // the same walk each time
-    const auto pick = [&](int below) { return int(random() % unsigned(below)); };
-    const auto name = [&] { return QString::number(pick(30)); };
-    const QList<std::function<void()>> steps{
-        [&] { results().set(result(std::to_string(pick(4)), name().toStdString(), pick(9))); },
-        [&] { results().erase(std::to_string(pick(4)), name().toStdString()); },
-        [&] { results().eraseLine(std::to_string(pick(4))); },
-        [&] { design().set(designed(std::to_string(pick(4)), name().toStdString())); },
-        [&] { publish("ON_SHOW_ALL_SURVEY_TABLE"); },
-        [&] { publish("ON_SURVEY_LINE_SWITCHED", payload::line(QString::number(pick(4)))); },
-        [&] { publish("ON_DESIGN_LINE_SWITCHED", payload::line(QString::number(pick(4)))); },
-        [&] { publish("REFRESH_SURVEY_TABLE"); },
-        [&] { publish("REFRESH_DESIGN_TABLE"); },
-        [&] { survey.selectPoint(QString::number(pick(4)), name()); },
-        [&] { lines.followPoint(QString::number(pick(4)), name()); },
-        [&] { QTest::keyClick(&seen.table(), pick(2) != 0 ? Qt::Key_Down : Qt::Key_Up); },
-        [&] { QTest::keyClick(&seen.table(), Qt::Key_Down, Qt::ShiftModifier); },
-        [&] { QTest::keyClick(&seen.table(), Qt::Key_C, Qt::ControlModifier); },
-        [&] { QTest::keyClick(&seen.table(), Qt::Key_Delete); },
-        [&] { seen.click(pick(10)); },
-        [&] { seen.filter(1, pick(2) != 0 ? "1" : ""); },
-        [&] { seen.model().sortBy(pick(5) - 1, Qt::DescendingOrder); },
-        [&] { m_manager->clear(); },
-        [&] { survey.grab(); },
-    };
-    for (int step = 0; step < 3000; ++step) {
-        steps.at(pick(steps.size()))();
-        for (int row = 0; row < seen.model().rowCount(); ++row) {
-            const PointName point = seen.model().pointAt(row);
-            QVERIFY(point.point.empty() || results().find(point.line, point.point) != nullptr);
-        }
-    }
 }
 
 QTEST_MAIN(PointTablesTest)
