@@ -24,6 +24,7 @@
 #include "views/trees/SurveyDataControl.h"
 
 #include <QAbstractItemModel>
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QLineEdit>
@@ -142,6 +143,7 @@ private:
     void showSomething();
     void selectByEvent();
     void clickRow();
+    void pressKeys();
     void deleteRows();
     void chooseOfMenu();
     void answerEditor();
@@ -153,9 +155,11 @@ private:
     void deleteLine();
 
     void look(PointTableWindow& table, bool isDesign);
+    void watchModels();
 
     TestFolder m_folder;
     std::unique_ptr<Place> m_place;
+    std::vector<std::unique_ptr<QAbstractItemModelTester>> m_testers;
     std::mt19937 m_random;
 };
 
@@ -341,6 +345,14 @@ void WorkingPlaceWalkTest::clickRow()
         QTest::mouseDClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(cell).center());
 }
 
+void WorkingPlaceWalkTest::pressKeys()
+{
+    CustomTableWidget& rows = rowsOf(anyTable());
+    QTest::keyClick(&rows, anyOf(2) == 0 ? Qt::Key_Down : Qt::Key_Up,
+                    anyOf(3) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+    QTest::keyClick(&rows, anyOf(4) == 0 ? Qt::Key_A : Qt::Key_C, Qt::ControlModifier);
+}
+
 void WorkingPlaceWalkTest::deleteRows()
 {
     clickRow();
@@ -447,6 +459,15 @@ void WorkingPlaceWalkTest::deleteLine()
     QTest::keyClick(&treeOf(false), Qt::Key_Delete);
 }
 
+/// For a while: a tester looks at every cell again and again.
+void WorkingPlaceWalkTest::watchModels()
+{
+    for (PointTableWindow* const table :
+         std::initializer_list<PointTableWindow*>{&m_place->designTable, &m_place->surveyTable})
+        m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
+            rowsOf(*table).model(), QAbstractItemModelTester::FailureReportingMode::QtTest));
+}
+
 /// Reads what the table shows, as its view does, and compares its rows with the project.
 void WorkingPlaceWalkTest::look(PointTableWindow& table, bool isDesign)
 {
@@ -491,6 +512,7 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
     });
     const FileDialog::Responder noFile([](const auto& /*request*/) { return QString(); });
     m_place = std::make_unique<Place>();
+    watchModels();
     static constexpr Step kWalk[] = {
         &WorkingPlaceWalkTest::addPoints,     &WorkingPlaceWalkTest::addPoints,
         &WorkingPlaceWalkTest::openProject,   &WorkingPlaceWalkTest::removeQuietly,
@@ -501,8 +523,11 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
         &WorkingPlaceWalkTest::chooseOfMenu,  &WorkingPlaceWalkTest::chooseOfMenu,
         &WorkingPlaceWalkTest::editAttribute, &WorkingPlaceWalkTest::find,
         &WorkingPlaceWalkTest::sortRows,      &WorkingPlaceWalkTest::filterRows,
-        &WorkingPlaceWalkTest::clickTree,     &WorkingPlaceWalkTest::deleteLine};
+        &WorkingPlaceWalkTest::clickTree,     &WorkingPlaceWalkTest::deleteLine,
+        &WorkingPlaceWalkTest::pressKeys};
     for (int step = 0; step < kSteps && !QTest::currentTestFailed(); ++step) {
+        if (step == 100)
+            m_testers.clear();
         if (anyOf(60) == 0)
             closeProject();
         else if (anyOf(200) == 0)
@@ -516,6 +541,7 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
         look(m_place->designTable, true);
         look(m_place->surveyTable, false);
     }
+    m_testers.clear();
     m_place->manager.reset(); // as at the program's end, before the windows
     m_place.reset();
 }
