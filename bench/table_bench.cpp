@@ -47,6 +47,15 @@ void BM_SurveyTable(benchmark::State& state)
     QApplication::processEvents();
     auto& table = *window.findChild<CustomTableWidget*>();
     for (auto _ : state) {
+        const double all = bench::medianOf([&] {
+            host.events.publish("ON_CLEAR_SURVEY_TABLE", nullptr, 0);
+            QApplication::processEvents();
+            return bench::secondsOf([&] {
+                host.events.publish("ON_SHOW_ALL_SURVEY_TABLE", nullptr, 0);
+                QApplication::processEvents();
+            });
+        });
+        bench::report(state, "all lines shown in the window and painted", all * 1000, 50, "ms");
         int last = 0;
         const double select = bench::medianOf([&] {
             last = (last + 137) % kLines;

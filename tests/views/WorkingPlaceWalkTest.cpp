@@ -10,8 +10,12 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
+#include "quality/CheckKinds.h"
+#include "quality/ui/DlgQCResult.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/support/TestFolder.h"
 #include "views/AttributeControl.h"
+#include "views/find/FindBar.h"
 #include "views/SelectionFollower.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/PointTableModel.h"
@@ -19,8 +23,17 @@
 #include "views/trees/DesignLineControl.h"
 #include "views/trees/SurveyDataControl.h"
 
+#include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
+#include <QTreeView>
 #include <QTreeWidget>
 
 #include <random>
@@ -28,13 +41,14 @@
 namespace {
 
 constexpr int kSteps = 1200;
-constexpr int kLines = 6;
+constexpr int kLines = 9;
 constexpr int kPointsPerLine = 12;
 
 std::string name(int number)
 {
     // Among them numbers that sort oddly, and names that no file would have.
-    static const char* const kNames[] = {"1001", "10", "9", "线一", "L \"1\", north", "%1"};
+    static const std::string kNames[kLines] = {
+        "1001", "10", "9", "线一", "L \"1\", north", "%1", "1e3", " 10 ", std::string(1000, '%')};
     return number < kLines ? kNames[number] : std::to_string(1000 + number);
 }
 
@@ -54,19 +68,34 @@ struct Place
         };
         for (const auto& [title, window] : kWindows)
             host.windowRegistry.windows[QString::fromLatin1(title)] = window;
+        host.frame = &frame;
         for (QWidget* widget : std::initializer_list<QWidget*>{
-                 &map, &designTable, &surveyTable, &designTree, &surveyTree, &attributes}) {
+                 &frame, &map, &designTable, &surveyTable, &designTree, &surveyTree, &attributes}) {
             widget->resize(600, 300);
             widget->show();
         }
+        FindBar::of(host)->open();
+    }
+    ~Place()
+    {
+        closeResults();
+        host.frame = nullptr;
     }
 
+    void closeResults()
+    {
+        if (results != nullptr)
+            results->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
     void publish(const char* event, const QByteArray& payload = {})
     {
         host.events.publish(event, payload.isNull() ? nullptr : payload.constData(), 0);
     }
 
     TestHost host;
+    QMainWindow frame;
+    QPointer<DlgQCResult> results;
     std::unique_ptr<DataProcessDataManager> manager =
         std::make_unique<DataProcessDataManager>(&host);
     MapWindow map{"name=DataMap", &host};
@@ -98,6 +127,7 @@ private:
     PointName anyPoint() { return {name(anyOf(kLines + 1)), name(anyOf(kPointsPerLine + 1))}; }
     PointTableWindow& anyTable();
     CustomTableWidget& rowsOf(PointTableWindow& table);
+    QTreeWidget& treeOf(bool isDesign);
     void tellNewPoints();
 
     void addPoints();
@@ -105,14 +135,20 @@ private:
     void closeProject();
     void renewManager();
     void removeQuietly();
+    void importFile();
+    void disturb();
     void check();
+    void clickResult();
     void correct();
     void showSomething();
     void selectByEvent();
     void clickRow();
     void pressKeys();
     void deleteRows();
-    void editRow();
+    void chooseOfMenu();
+    void answerEditor();
+    void editAttribute();
+    void find();
     void sortRows();
     void filterRows();
     void clickTree();
@@ -121,6 +157,7 @@ private:
     void look(PointTableWindow& table, bool isDesign);
     void watchModels();
 
+    TestFolder m_folder;
     std::unique_ptr<Place> m_place;
     std::vector<std::unique_ptr<QAbstractItemModelTester>> m_testers;
     std::mt19937 m_random;
@@ -136,6 +173,12 @@ PointTableWindow& WorkingPlaceWalkTest::anyTable()
 CustomTableWidget& WorkingPlaceWalkTest::rowsOf(PointTableWindow& table)
 {
     return *table.findChild<CustomTableWidget*>();
+}
+
+QTreeWidget& WorkingPlaceWalkTest::treeOf(bool isDesign)
+{
+    QWidget& window = isDesign ? static_cast<QWidget&>(m_place->designTree) : m_place->surveyTree;
+    return *window.findChild<QTreeWidget*>();
 }
 
 void WorkingPlaceWalkTest::tellNewPoints()
@@ -201,11 +244,46 @@ void WorkingPlaceWalkTest::removeQuietly()
         m_place->manager->surveyPoints() = SurveyPoints();
 }
 
+void WorkingPlaceWalkTest::importFile()
+{
+    const QString path = m_folder.write(
+        "results.csv", "line num,point num,pdop\n1001,10,3\n1001,10,4\n%1,%1,5\n线一,9,1\n");
+    m_place->manager->importSurveyCsv(path);
+    tellNewPoints();
+}
+
+/// What may happen while the user thinks.
+void WorkingPlaceWalkTest::disturb()
+{
+    static constexpr Step kWays[] = {
+        &WorkingPlaceWalkTest::removeQuietly, &WorkingPlaceWalkTest::addPoints,
+        &WorkingPlaceWalkTest::correct, &WorkingPlaceWalkTest::closeProject};
+    if (anyOf(2) == 0)
+        (this->*kWays[anyOf(int(std::size(kWays)))])();
+}
+
 void WorkingPlaceWalkTest::check()
 {
-    m_place->manager->checkQuality();
+    m_place->manager->run(kQualityCheck);
     m_place->publish(events::kRefreshDesignTable);
     m_place->publish(events::kRefreshSurveyTable);
+    m_place->closeResults();
+    m_place->results = new DlgQCResult(m_place->host, m_place->manager->resultOf(kQualityCheck));
+    m_place->results->show();
+}
+
+void WorkingPlaceWalkTest::clickResult()
+{
+    auto* const list =
+        m_place->results == nullptr ? nullptr : m_place->results->findChild<CustomTableWidget*>();
+    if (list == nullptr || list->model()->rowCount() == 0)
+        return;
+    const QModelIndex cell = list->model()->index(anyOf(list->model()->rowCount()), 0);
+    list->scrollTo(cell);
+    const QPoint at = list->visualRect(cell).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
+    if (anyOf(3) == 0)
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
 }
 
 void WorkingPlaceWalkTest::correct()
@@ -260,6 +338,8 @@ void WorkingPlaceWalkTest::clickRow()
     const QModelIndex cell = rows.model()->index(anyOf(rows.model()->rowCount()), anyOf(3));
     rows.scrollTo(cell);
     const auto modifiers = anyOf(3) == 0 ? Qt::ShiftModifier : Qt::NoModifier;
+    if (anyOf(10) == 0)
+        QTest::keyClick(&rows, Qt::Key_A, Qt::ControlModifier);
     QTest::mouseClick(rows.viewport(), Qt::LeftButton, modifiers, rows.visualRect(cell).center());
     if (anyOf(4) == 0)
         QTest::mouseDClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(cell).center());
@@ -279,17 +359,70 @@ void WorkingPlaceWalkTest::deleteRows()
     QTest::keyClick(&rowsOf(m_place->surveyTable), Qt::Key_Delete);
 }
 
-/// While the editor is open its result may go.
-void WorkingPlaceWalkTest::editRow()
+/// Any entry of the menu of a table or a tree, while the menu is open and things change.
+void WorkingPlaceWalkTest::chooseOfMenu()
 {
-    DlgSurveyPoint editor(nullptr, anyPoint());
-    editor.show();
-    if (anyOf(2) == 0)
-        removeQuietly();
-    if (auto* const field = editor.findChild<QLineEdit*>())
-        field->setText(lum::toQString(anyPoint().line));
-    QTest::keyClick(&editor, anyOf(3) == 0 ? Qt::Key_Escape : Qt::Key_Return);
-    m_place->publish(events::kRefreshSurveyLayer);
+    clickRow();
+    clickTree();
+    const bool isTable = anyOf(3) != 0;
+    QAbstractItemView* const view = isTable
+                                        ? &rowsOf(m_place->surveyTable)
+                                        : static_cast<QAbstractItemView*>(&treeOf(anyOf(2) == 0));
+    const QPoint at = view->visualRect(view->currentIndex()).center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, view->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(view->viewport(), &event);
+    const QPointer<QMenu> menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr)
+        return;
+    disturb();
+    QTimer::singleShot(0, this, &WorkingPlaceWalkTest::answerEditor);
+    menu->actions().at(anyOf(menu->actions().size()))->trigger();
+    if (menu != nullptr)
+        menu->close();
+    QCoreApplication::processEvents();
+}
+
+void WorkingPlaceWalkTest::answerEditor()
+{
+    auto* const editor = qobject_cast<DlgSurveyPoint*>(QApplication::activeModalWidget());
+    if (editor == nullptr)
+        return;
+    disturb();
+    const QList<QLineEdit*> fields = editor->findChildren<QLineEdit*>();
+    fields.at(anyOf(fields.size()))->setText(lum::toQString(anyPoint().line).left(20));
+    editor->grab();
+    QTest::keyClick(editor, anyOf(3) == 0 ? Qt::Key_Escape : Qt::Key_Return);
+    if (editor->isVisible()) // what it was given is refused
+        editor->reject();
+}
+
+void WorkingPlaceWalkTest::editAttribute()
+{
+    for (QTreeView* const grid : m_place->attributes.findChildren<QTreeView*>()) {
+        if (!grid->isVisible() || grid->model()->rowCount() == 0)
+            continue;
+        const QModelIndex group = grid->model()->index(anyOf(grid->model()->rowCount()), 0);
+        const QModelIndex row = grid->model()->index(anyOf(6), 1, group);
+        grid->scrollTo(row);
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(row).center());
+        const QPointer<QLineEdit> editor = grid->findChild<QLineEdit*>();
+        if (editor == nullptr)
+            continue;
+        editor->setText(QString::number(anyOf(12)));
+        disturb();
+        if (editor != nullptr)
+            QTest::keyClick(editor, anyOf(4) == 0 ? Qt::Key_Escape : Qt::Key_Return);
+        QCoreApplication::processEvents(); // the editor enters its text later
+    }
+}
+
+void WorkingPlaceWalkTest::find()
+{
+    FindBar& bar = *FindBar::of(m_place->host);
+    bar.findChild<QLineEdit*>()->setText(lum::toQString(anyPoint().point));
+    disturb();
+    bar.step(anyOf(2) == 0);
+    bar.grab();
 }
 
 void WorkingPlaceWalkTest::sortRows()
@@ -310,22 +443,20 @@ void WorkingPlaceWalkTest::filterRows()
 
 void WorkingPlaceWalkTest::clickTree()
 {
-    auto* const tree = (anyOf(2) == 0 ? static_cast<QWidget&>(m_place->designTree)
-                                      : static_cast<QWidget&>(m_place->surveyTree))
-                           .findChild<QTreeWidget*>();
-    QTreeWidgetItem* item = tree->topLevelItem(0);
+    QTreeWidget& tree = treeOf(anyOf(2) == 0);
+    QTreeWidgetItem* item = tree.topLevelItem(0);
     for (int steps = anyOf(kLines + 3); item != nullptr && steps > 0; --steps)
-        item = tree->itemBelow(item);
+        item = tree.itemBelow(item);
     if (item == nullptr)
         return;
-    tree->scrollToItem(item);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(item).center());
+    tree.scrollToItem(item);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(item).center());
 }
 
 void WorkingPlaceWalkTest::deleteLine()
 {
     clickTree();
-    QTest::keyClick(m_place->surveyTree.findChild<QTreeWidget*>(), Qt::Key_Delete);
+    QTest::keyClick(&treeOf(false), Qt::Key_Delete);
 }
 
 /// For a while: a tester looks at every cell again and again.
@@ -342,7 +473,8 @@ void WorkingPlaceWalkTest::look(PointTableWindow& table, bool isDesign)
 {
     CustomTableWidget& rows = rowsOf(table);
     auto& model = static_cast<PointTableModel&>(*rows.model());
-    table.grab();
+    if (anyOf(3) == 0)
+        table.grab();
     QVERIFY(model.rowCount() <= model.unfilteredCount());
     for (int row = 0; row < model.rowCount(); ++row) {
         for (const int role : {int(Qt::DisplayRole), int(Qt::ToolTipRole), int(Qt::BackgroundRole),
@@ -372,8 +504,8 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
     QFETCH(unsigned, seed);
     m_random.seed(seed);
     const LumMessageBox::Responder answers([this](const auto& message) {
-        if (anyOf(4) == 0)
-            removeQuietly(); // while the user thinks
+        if (anyOf(2) == 0)
+            disturb();
         return anyOf(2) == 0 && message.buttons & LumMessageBox::Button::Yes
                    ? LumMessageBox::Button::Yes
                    : LumMessageBox::Button::No;
@@ -387,9 +519,12 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
         &WorkingPlaceWalkTest::check,         &WorkingPlaceWalkTest::correct,
         &WorkingPlaceWalkTest::showSomething, &WorkingPlaceWalkTest::selectByEvent,
         &WorkingPlaceWalkTest::clickRow,      &WorkingPlaceWalkTest::deleteRows,
-        &WorkingPlaceWalkTest::editRow,       &WorkingPlaceWalkTest::sortRows,
-        &WorkingPlaceWalkTest::filterRows,    &WorkingPlaceWalkTest::clickTree,
-        &WorkingPlaceWalkTest::deleteLine,    &WorkingPlaceWalkTest::pressKeys};
+        &WorkingPlaceWalkTest::importFile,    &WorkingPlaceWalkTest::clickResult,
+        &WorkingPlaceWalkTest::chooseOfMenu,  &WorkingPlaceWalkTest::chooseOfMenu,
+        &WorkingPlaceWalkTest::editAttribute, &WorkingPlaceWalkTest::find,
+        &WorkingPlaceWalkTest::sortRows,      &WorkingPlaceWalkTest::filterRows,
+        &WorkingPlaceWalkTest::clickTree,     &WorkingPlaceWalkTest::deleteLine,
+        &WorkingPlaceWalkTest::pressKeys};
     for (int step = 0; step < kSteps && !QTest::currentTestFailed(); ++step) {
         if (step == 100)
             m_testers.clear();
@@ -399,8 +534,10 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
             renewManager();
         else
             (this->*kWalk[anyOf(int(std::size(kWalk)))])();
-        if (anyOf(3) == 0)
+        if (anyOf(3) == 0) {
             QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
         look(m_place->designTable, true);
         look(m_place->surveyTable, false);
     }

@@ -117,7 +117,12 @@ void CustomTableWidget::setModel(QAbstractItemModel* model)
                    &CustomTableWidget::fitColumnsOnce);
         disconnect(old, &QAbstractItemModel::rowsInserted, this,
                    &CustomTableWidget::fitColumnsOnce);
+        disconnect(old, &QAbstractItemModel::layoutAboutToBeChanged, this,
+                   &CustomTableWidget::halveFullSelection);
     }
+    if (model != nullptr) // before the selection model hears of it
+        connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this,
+                &CustomTableWidget::halveFullSelection);
     QTableView::setModel(model);
     m_fittedColumns = 0;
     if (model == nullptr)
@@ -315,6 +320,23 @@ void CustomTableWidget::fitColumnsOnce()
     for (int column = 0; column < columns; ++column)
         setColumnWidth(column, wantedWidth(column));
     m_fittedColumns = model()->rowCount(rootIndex()) > 0 ? columns : 0;
+}
+
+/// A selection of all rows in one range follows a new layout by its corners alone: when a filter
+/// goes, it would take in every row between them. Two ranges are followed row by row.
+void CustomTableWidget::halveFullSelection()
+{
+    const QItemSelection all = selectionModel()->selection();
+    if (all.size() != 1 || all.front().height() != model()->rowCount(rootIndex()) ||
+        all.front().height() < 2)
+        return;
+    const QItemSelectionRange& range = all.front();
+    const int middle = range.top() + range.height() / 2;
+    const QModelIndex end = range.bottomRight().sibling(middle - 1, range.right());
+    const QModelIndex start = range.topLeft().sibling(middle, range.left());
+    QItemSelection halves(range.topLeft(), end);
+    halves.append(QItemSelectionRange(start, range.bottomRight()));
+    selectionModel()->select(halves, QItemSelectionModel::ClearAndSelect);
 }
 
 void CustomTableWidget::widenColumn(int column)

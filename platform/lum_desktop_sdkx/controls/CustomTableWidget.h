@@ -94,6 +94,7 @@ private:
     void setUpHeader();
     void fitRowHeight();
     void fitColumnsOnce();
+    void halveFullSelection();
     void hideColumns();
     void requestOrder(int column);
     [[nodiscard]] int wantedWidth(int column) const;

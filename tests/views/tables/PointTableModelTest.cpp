@@ -11,6 +11,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <limits>
 
 class PointTableModelTest : public QObject
 {
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void designIsShown();
     void rowsAreFoundInAnyOrder();
     void equalRowsKeepTheLinesOrder();
+    void nearlyEqualNumbersAreOrdered();
     void namesAndTextsHaveTheirOrders();
     void filtersNarrow();
     void pointsThatChangedAreEmptyRows();
@@ -185,6 +187,19 @@ void PointTableModelTest::equalRowsKeepTheLinesOrder()
     m_model->sortBy(column("pdop"), Qt::AscendingOrder);
     m_model->sortBy(-1, Qt::AscendingOrder);
     QCOMPARE(order(), std::string("a b c d e f g h i"));
+}
+
+void PointTableModelTest::nearlyEqualNumbersAreOrdered()
+{
+    const double least = 1 + std::numeric_limits<double>::epsilon();
+    const double pdops[] = {1e300, least, 1, -1e-300, std::nextafter(1, 0), -least, 1e-300, 1};
+    for (std::size_t i = 0; i < std::size(pdops); ++i)
+        add("L", std::string(1, static_cast<char>('a' + i)), pdops[i]);
+    showSurvey();
+    m_model->sortBy(column("pdop"), Qt::AscendingOrder);
+    QCOMPARE(order(), std::string("f d g e c h b a"));
+    m_model->sortBy(column("pdop"), Qt::DescendingOrder);
+    QCOMPARE(order(), std::string("a b c h e g d f"));
 }
 
 void PointTableModelTest::namesAndTextsHaveTheirOrders()

@@ -219,6 +219,7 @@ private Q_SLOTS:
     void aHiddenPointStaysTheSelectedOne();
     void longListsKeepTheirPlace();
     void sortsAndFiltersFromTheHeader();
+    void allFilteredRowsStayTheSelectedOnes();
     void anglesHaveRoomInEitherForm();
     void copiesRows();
     void exportsDesignRowsWithNumbersForTypeAndStatus();
@@ -477,6 +478,28 @@ void PointTablesTest::sortsAndFiltersFromTheHeader()
     seen.choose("Filter by This Value", 6, seen.column("line_num"));
     QCOMPARE(seen.rows().size(), 1); // quotes, comma and blanks of its name are taken as they are
     QVERIFY(seen.rows().front().startsWith(QString::fromUtf8(kOddLine)));
+}
+
+void PointTablesTest::allFilteredRowsStayTheSelectedOnes()
+{
+    for (int number = 100; number < 200; ++number)
+        results().set(result("5", std::to_string(number), number % 2));
+    SurveyDataTable window("", m_host.get());
+    const Seen seen(window);
+    publish("ON_SURVEY_LINE_SWITCHED", payload::line("5"_q));
+    const int rms = seen.column("rms");
+    seen.table().scrollTo(seen.model().index(0, rms));
+    seen.filter(rms, "= 1");
+    QTest::keyClick(&seen.table(), Qt::Key_A, Qt::ControlModifier);
+    const QStringList odd = seen.selected();
+    QCOMPARE(odd.size(), 50);
+    seen.filter(rms, "");
+    QCOMPARE(seen.selected(), odd);
+    QTest::keyClick(&seen.table(), Qt::Key_A, Qt::ControlModifier);
+    results().set(result("5", "105a", 0)); // by an import
+    publish("REFRESH_SURVEY_TABLE");
+    QCOMPARE(seen.selected().size(), 100);
+    QVERIFY(!seen.selected().contains("5/105a"_q));
 }
 
 void PointTablesTest::anglesHaveRoomInEitherForm()
