@@ -10,6 +10,7 @@
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/coords/ShownUnit.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ProjectPlace.h"
@@ -41,8 +42,8 @@ void openTable(IWindowRegistry& windows, const char* className, const char* titl
 DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHost* host)
     : m_host(*host),
       m_subscription(*this,
-                     std::string(events::kXyChanged) + "," + events::kProjectModified + "," +
-                         events::kUpdateSystemStatus + "," + events::kProjectChanged,
+                     lum::eventNames({events::kXyChanged, events::kProjectModified,
+                                      events::kUpdateSystemStatus, events::kProjectChanged}),
                      host->eventManager()),
       m_dataManager(std::make_unique<DataProcessDataManager>(host)), m_follower(*host)
 {

@@ -27,14 +27,13 @@
 #include "project/ui/TimeZomeDlgCommand.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
+#include "views/AttributeControl.h"
 #include "views/find/FindCommand.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/SurveyDataTable.h"
+#include "views/tables/SurveyTableHideCommand.h"
 #include "views/trees/DesignLineControl.h"
 #include "views/trees/SurveyDataControl.h"
-#include "views/find/FindCommand.h"
-#include "views/tables/SurveyTableHideCommand.h"
-#include "views/AttributeControl.h"
 
 namespace {
 

@@ -7,11 +7,14 @@
 
 namespace {
 
-constexpr std::int32_t kReceiver = 1;
+bool isReceiver(const DesignPoint& point)
+{
+    return point.type != 0;
+}
 
 const KmlStyle& styleOf(const DesignPoint& point)
 {
-    return point.type == kReceiver ? kKmlReceiver : kKmlSource;
+    return isReceiver(point) ? kKmlReceiver : kKmlSource;
 }
 
 } // namespace
@@ -28,11 +31,11 @@ Outcome writeDesignKml(const QString& path, const DesignChoice& choice, ICoordTr
         [&](const DesignPoint& point) { return !choice.onlyUnsurveyed || point.status == 0; },
         [&](const DesignPoint& point, KmlLabel& label) {
             label.name = point.pointNumber;
-            text.begin(point, point.type == kReceiver, label.description);
+            text.begin(point, isReceiver(point), label.description);
             label.style = &styleOf(point);
         },
         [&](const DesignPoint& first, std::size_t points) {
-            return KmlLabel{first.lineNumber, text.ofLine(first.type == kReceiver, points),
+            return KmlLabel{first.lineNumber, text.ofLine(isReceiver(first), points),
                             &styleOf(first)};
         });
 }

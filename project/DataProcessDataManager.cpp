@@ -22,6 +22,7 @@
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
 #include "project/DesignDatabase.h"
+#include "project/OwnFile.h"
 #include "project/ParameterFiles.h"
 #include "project/PointCorrection.h"
 #include "project/ProjectCreator.h"
@@ -78,14 +79,6 @@ Outcome withSummary(const Outcome& outcome, const ImportSummary& summary, Import
     if (counts != nullptr)
         *counts = summary;
     return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
-}
-
-Outcome ownFile(const QString& path)
-{
-    return Outcome::failed(QCoreApplication::translate(
-                               "DataProcessDataManager",
-                               "\"%1\" belongs to the open project; please choose another file.")
-                               .arg(path));
 }
 
 Outcome noSuchPoint(const PointName& name)
@@ -296,8 +289,8 @@ Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QStrin
 template <class Write>
 int DataProcessDataManager::exportTo(const QString& path, Outcome* outcome, Write write)
 {
-    if (m_place.owns(path))
-        return answered(ownFile(path), outcome);
+    if (const Outcome check = checkNotOwn(m_place, path); !check.isDone())
+        return answered(check, outcome);
     ProgressReporter progress(&m_host.eventManager());
     return answered(write(progress), outcome);
 }
@@ -340,8 +333,9 @@ int DataProcessDataManager::exportSurveyPoints(const std::vector<PointName>& poi
         m_exportCaptions = m_surveyCaptions;
     const SurveyCsvChoice choice{m_exportCaptions,
                                  get_system_status_dictionary().integer(status::kDegreeFormat)};
-    ProgressReporter progress(&m_host.eventManager());
-    return answered(writeSurveyCsv(path, m_survey, points, choice, progress), outcome);
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return writeSurveyCsv(path, m_survey, points, choice, progress);
+    });
 }
 
 int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome,
@@ -376,8 +370,7 @@ int DataProcessDataManager::exportDesignKml(const QStringList& lines, const QStr
 int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QString& path,
                                             Outcome* outcome)
 {
-    const auto words = [limits =
-                            QualityLimits::from(m_qualityParameters)](const SurveyPoint& point) {
+    const auto words = [limits = qualityLimits()](const SurveyPoint& point) {
         std::vector<QualityRow> rows;
         ::describeQuality(point, limits, rows);
         QStringList texts;
@@ -394,8 +387,8 @@ int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QStr
 int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* outcome,
                                                  ImportSummary* counts)
 {
-    if (m_place.owns(path))
-        return answered(ownFile(path), outcome);
+    if (const Outcome check = checkNotOwn(m_place, path); !check.isDone())
+        return answered(check, outcome);
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
     const Outcome reading = readSurveyDatabase(

@@ -15,4 +15,7 @@ public:
 
     /// The same without announcing it: the answer to a selection that was made elsewhere.
     virtual bool followPoint(const QString& lineNumber, const QString& pointNumber) = 0;
+
+    /// Selects no row: what was selected elsewhere is no point of this list.
+    virtual void deselect() = 0;
 };

@@ -27,11 +27,11 @@ struct JudgedValue
 /// One test of the quality check.
 struct QualityTest
 {
-    int power;  ///< its digit of the quality code (QualityCheck.h), counted from the units
-    int weight; ///< what its failure adds to the digit
-    JudgedValue (*judge)(const SurveyPoint& point, const QualityLimits& limits);
+    int power = 0;  ///< its digit of the quality code (QualityCheck.h), counted from the units
+    int weight = 0; ///< what its failure adds to the digit
+    JudgedValue (*judge)(const SurveyPoint& point, const QualityLimits& limits) = nullptr;
     std::array<SurveyColumn::Member, 2> fields; ///< what is wrong when it fails; may be one field
-    const char* name;                           ///< of the value, in English
+    const char* name = "";                      ///< of the value, in English
     const char* unit = "";
 };
 

@@ -71,6 +71,10 @@
         <source>The attributes cannot be shown: the file &quot;%1&quot; cannot be read (%2).</source>
         <translation>无法显示属性：不能读取文件“%1”（%2）。</translation>
     </message>
+    <message>
+        <source>Esc brings the value back.</source>
+        <translation>按 Esc 恢复原值。</translation>
+    </message>
 </context>
 <context>
     <name>CodeTables</name>

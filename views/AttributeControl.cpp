@@ -4,15 +4,15 @@
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_desktop_sdkx/ILayerRegistry.h"
-#include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
+#include "map/ui/FindDataLayer.h"
 #include "map/ui/IDataLayer.h"
 #include "model/CodeTables.h"
 #include "project/DataProcessDataManager.h"
@@ -23,6 +23,7 @@
 #include "quality/QualityDescription.h"
 #include "views/AttributePage.h"
 #include "views/AttributeValues.h"
+#include "views/SelectedPoint.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -38,15 +39,7 @@ constexpr int kMargin = 4;
 constexpr int kLastObstacle = 33;
 constexpr const char* kSelections =
     "ON_SURVEY_POINT_SELECTED,ON_DESIGN_POINT_SELECTED,ON_STATION_POINT_SELECTED";
-constexpr const char* kChanges =
-    "REFRESH_SURVEY_TABLE,REFRESH_DESIGN_TABLE,ON_CLEAR_SURVEY_TABLE,REFRESH_SURVEY_LAYER,"
-    "REFRESH_DESIGN_LAYER,ON_PROJECT_CHANGED,ON_SETTING_VIEW_FINISHED,UPDATE_SYSTEM_STATUS_EVENT";
 constexpr const char* kAntennaHeight = "antenna_height";
-
-PointName pointIn(const IDictionary& values)
-{
-    return {std::string(values.text("lineName")), std::string(values.text("pointName"))};
-}
 
 std::vector<PropertyGridChoice> obstacles()
 {
@@ -102,7 +95,13 @@ QString faultsOf(const SurveyPoint& point)
 AttributeControl::AttributeControl(const char* config, IDesktopHost* host)
     : m_host(*host), m_parameters(desktop::componentParameters(config)),
       m_selections(*this, kSelections, host->eventManager()),
-      m_changes(*this, kChanges, host->eventManager()), m_pages(new QStackedWidget(this)),
+      m_changes(*this,
+                lum::eventNames({events::kRefreshSurveyTable, events::kRefreshDesignTable,
+                                 events::kClearSurveyTable, events::kRefreshSurveyLayer,
+                                 events::kRefreshDesignLayer, events::kProjectChanged,
+                                 events::kSettingViewFinished, events::kUpdateSystemStatus}),
+                host->eventManager()),
+      m_pages(new QStackedWidget(this)),
       m_empty(new QLabel(tr("Select a point on the map or in a table."), m_pages)),
       m_survey(new AttributePage(QStringLiteral("SurveyAttribute"), m_pages)),
       m_design(new AttributePage(QStringLiteral("DesignAttribute"), m_pages)),
@@ -113,6 +112,7 @@ AttributeControl::AttributeControl(const char* config, IDesktopHost* host)
     for (QWidget* each : std::initializer_list<QWidget*>{m_empty, m_survey, m_design, m_station})
         m_pages->addWidget(each);
     auto* const close = new QPushButton(tr("Close"), this);
+    close->setFocusPolicy(Qt::TabFocus); // a click does not leave the keys with it
     connect(close, &QPushButton::clicked, this,
             [this] { m_host.windows().close(QStringLiteral("AttributeControl")); });
     connect(m_survey, &AttributePage::edited, this, &AttributeControl::editSurvey);
@@ -141,9 +141,9 @@ void AttributeControl::handleEvent(const char* eventName, const char* payload, i
     basalt::Dictionary values;
     payload::read(payload, values);
     if (std::strcmp(eventName, events::kSurveyPointSelected) == 0)
-        select({Kind::Survey, pointIn(values)});
+        select({Kind::Survey, selectedPoint(values)});
     else if (std::strcmp(eventName, events::kDesignPointSelected) == 0)
-        select({Kind::Design, pointIn(values)});
+        select({Kind::Design, selectedPoint(values)});
     else if (std::strcmp(eventName, events::kStationPointSelected) == 0)
         select({Kind::Station, {}, values.integer("stationId", -1)});
     else
@@ -230,11 +230,7 @@ std::optional<basalt::Dictionary> AttributeControl::values() const
 
 std::optional<basalt::Dictionary> AttributeControl::stationValues() const
 {
-    auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
-    const auto* const layer =
-        map == nullptr
-            ? nullptr
-            : dynamic_cast<IDataLayer*>(map->layers().find(QStringLiteral("DataProcessLayer")));
+    const IDataLayer* const layer = findDataLayer(m_host);
     BaseStation station;
     if (layer == nullptr || !layer->GetBaseRecord(m_shown.station, station))
         return {};
@@ -293,6 +289,8 @@ void AttributeControl::editSurvey(const QString& key, const QString& value)
     if (height)
         noteMove(*point, before);
     m_host.eventManager().publish(events::kRefreshSurveyTable, nullptr, 0);
+    if (correction.pointMark) // the tree shows the kind of a line
+        m_host.eventManager().publish(events::kRefreshSurveyLayer, nullptr, 0);
     refresh();
 }
 

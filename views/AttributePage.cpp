@@ -5,6 +5,7 @@
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/Text.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -31,8 +32,14 @@ QLabel* makeLabel(QWidget* parent)
 AttributePage::AttributePage(const QString& controlFile, QWidget* parent)
     : QWidget(parent),
       m_file(QString::fromStdString(basalt::controlFile(controlFile.toStdString()))),
-      m_grid(new PropertyGridCtrl(this)), m_problem(makeLabel(this)), m_fault(makeLabel(this))
+      m_grid(new PropertyGridCtrl(this)), m_problem(makeLabel(this)), m_fault(makeLabel(this)),
+      m_drop(new QAction(this))
 {
+    m_drop->setShortcut(Qt::Key_Escape); // of an open editor it closes the editor
+    m_drop->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_drop->setEnabled(false);
+    connect(m_drop, &QAction::triggered, this, &AttributePage::dropBadEdits);
+    addAction(m_drop);
     m_grid->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);
     m_grid->setHeaderVisible(false);
     m_grid->setDescriptionVisible(false);
@@ -97,9 +104,15 @@ void AttributePage::restore(const QString& key)
     tellFault();
 }
 
+void AttributePage::dropBadEdits()
+{
+    showPoint(basalt::Dictionary(m_values));
+}
+
 void AttributePage::tellFault()
 {
     const QString fault = m_grid->faultText();
-    m_fault->setText(fault);
+    m_fault->setText(fault + QLatin1Char('\n') + tr("Esc brings the value back."));
     m_fault->setHidden(fault.isEmpty());
+    m_drop->setEnabled(!fault.isEmpty());
 }

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class PropertyGridCtrl;
+class QAction;
 class QLabel;
 
 /// The attributes of one kind of point in a property grid, or why that cannot be shown.
@@ -35,12 +36,14 @@ Q_SIGNALS:
 private:
     void takeEdit(const QString& key, const QString& value);
     void restore(const QString& key);
+    void dropBadEdits();
     void tellFault();
 
     QString m_file;
     PropertyGridCtrl* m_grid;
     QLabel* m_problem;           ///< why there is no grid
     QLabel* m_fault;             ///< what is wrong with the topmost bad edit
+    QAction* m_drop;             ///< Escape, while there is a bad edit
     basalt::Dictionary m_values; ///< of the point, as they were shown last
     QString m_refused;           ///< the row with an edit that was not taken over
 };

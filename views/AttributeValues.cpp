@@ -1,8 +1,8 @@
 #include "views/AttributeValues.h"
 
-#include "basalt_utilities/LocalTimes.h"
 #include "basalt_utilities/Numbers.h"
 #include "exchange/AngleText.h"
+#include "exchange/ShownTimes.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "map/ui/LayerTexts.h"
 #include "model/BaseStation.h"
@@ -15,10 +15,10 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <utility>
 
 namespace {
 
-constexpr int kBeijingHours = 8; // the time zone of settings without one
 constexpr int kLengthDecimals = 3;
 constexpr int kAzimuthDecimals = 6;
 
@@ -52,11 +52,7 @@ public:
     }
     Values& time(const char* key, std::int64_t milliseconds)
     {
-        basalt::LocalTimes times(
-            get_system_ini_parameter().dictionary().integer(settings::kTimeZone, kBeijingHours));
-        std::array<char, basalt::LocalTimes::kTextSize> buffer{};
-        const char* const end = times.write(buffer.data(), milliseconds);
-        return text(key, {buffer.data(), static_cast<std::size_t>(end - buffer.data())});
+        return text(key, std::string_view(shownTime(milliseconds)));
     }
     [[nodiscard]] basalt::Dictionary take() { return std::move(m_values); }
 

@@ -3,6 +3,7 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/Text.h"
 #include "map/ui/PointHighlight.h"
@@ -10,13 +11,16 @@
 #include "project/ILineList.h"
 #include "project/IPointList.h"
 #include "protocol/Events.h"
+#include "views/SelectedPoint.h"
 
 #include <QScopedValueRollback>
 
 #include <cstring>
-#include <string>
 
 namespace {
+
+constexpr const char* kResults = "Survey Data List";
+constexpr const char* kDesign = "Design Data List";
 
 /// Shows a point in the windows of these names.
 /// \returns false, and changes nothing, when there is no such point
@@ -38,19 +42,21 @@ bool show(IDesktopHost& host, const Points& points, const PointName& name, const
     return true;
 }
 
-std::string eventNames()
+void deselect(IDesktopHost& host, const char* pointList)
 {
-    std::string names = events::kSurveyPointSelected;
-    for (const char* name : {events::kDesignPointSelected, events::kStationPointSelected,
-                             events::kRefreshSurveyLayer, events::kRefreshDesignLayer})
-        names.append(",").append(name);
-    return names;
+    if (auto* const list = host.windows().findAs<IPointList>(QLatin1String(pointList)))
+        list->deselect();
 }
 
 } // namespace
 
 SelectionFollower::SelectionFollower(IDesktopHost& host)
-    : m_host(host), m_subscription(*this, eventNames(), host.eventManager())
+    : m_host(host),
+      m_subscription(*this,
+                     lum::eventNames({events::kSurveyPointSelected, events::kDesignPointSelected,
+                                      events::kStationPointSelected, events::kRefreshSurveyLayer,
+                                      events::kRefreshDesignLayer}),
+                     host.eventManager())
 {
 }
 
@@ -68,16 +74,22 @@ void SelectionFollower::follow(const char* eventName, const IDictionary& names)
 {
     const auto is = [&](const char* name) { return std::strcmp(eventName, name) == 0; };
     DataProcessDataManager& manager = DataProcessDataManager::instance();
-    const PointName name{std::string(names.text("lineName")), std::string(names.text("pointName"))};
+    const PointName name = selectedPoint(names);
     if (is(events::kSurveyPointSelected)) {
-        if (show(m_host, manager.surveyPoints(), name, "Survey Data List", "Survey Lines"))
-            remember(Points::Survey, name);
+        if (!show(m_host, manager.surveyPoints(), name, kResults, "Survey Lines"))
+            return;
+        deselect(m_host, kDesign);
+        remember(Points::Survey, name);
     } else if (is(events::kDesignPointSelected)) {
-        if (show(m_host, manager.designPoints(), name, "Design Data List", "Design Lines"))
-            remember(Points::Design, name);
+        if (!show(m_host, manager.designPoints(), name, kDesign, "Design Lines"))
+            return;
+        deselect(m_host, kResults);
+        remember(Points::Design, name);
     } else if (is(events::kStationPointSelected)) {
         PointHighlight::markStation(m_host, names.integer("stationId", -1));
         m_marked = Points::None;
+        deselect(m_host, kResults);
+        deselect(m_host, kDesign);
     } else {
         clearLostMark();
     }

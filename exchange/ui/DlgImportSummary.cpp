@@ -6,10 +6,8 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "project/IPointList.h"
-#include "project/ProjectPlace.h"
-#include "project/ui/ProjectState.h"
-#include "protocol/Events.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -33,11 +31,6 @@ constexpr int kHeight = 460;
 constexpr int kHeightAlone = 240; ///< without a table
 constexpr int kColumnGap = 12;
 constexpr int kMostNumbers = 160; ///< height of the numbers, before they scroll
-
-QString openProject()
-{
-    return ProjectState::isOpen() ? ProjectState::place().folder : QString();
-}
 
 /// Whether the user has something to look at, beside points that were replaced as wished.
 bool isClean(const ImportSummary& summary)
@@ -96,8 +89,8 @@ QString tableText(const QAbstractItemModel& model)
 DlgImportSummary::DlgImportSummary(IDesktopHost& host, const ImportSummary& summary,
                                    const char* pointList)
     : Dialog(host.dialogParent()), m_host(host), m_path(summary.path),
-      m_isDatabase(summary.isDatabase), m_pointList(pointList), m_project(openProject()),
-      m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
+      m_isDatabase(summary.isDatabase), m_pointList(pointList),
+      m_closing(*this, host.eventManager())
 {
     setObjectName(QStringLiteral("DlgImportSummary"));
     setWindowTitle(tr("Success"));
@@ -150,12 +143,12 @@ void DlgImportSummary::addFindings(const ImportSummary& summary, QVBoxLayout& ro
     m_place->setWordWrap(true);
     m_place->setMinimumHeight(2 * m_place->fontMetrics().lineSpacing());
     m_place->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_place->setText(
-        (isCut ? tr("Of each kind the first %1 are listed.")
-                         .arg(QLocale().toString(int(ImportSummary::Findings::kMostPlaces))) +
-                     QLatin1Char(' ')
-               : QString()) +
-        tr("Click a row to see its point, or where it stands in the file."));
+    m_place->setText((isCut
+                          ? tr("Of each kind the first %1 are listed.")
+                                    .arg(lum::groupedNumber(ImportSummary::Findings::kMostPlaces)) +
+                                QLatin1Char(' ')
+                          : QString()) +
+                     tr("Click a row to see its point, or where it stands in the file."));
     rows.addWidget(m_place);
 }
 
@@ -173,13 +166,6 @@ void DlgImportSummary::addButtons(QVBoxLayout& rows)
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     rows.addWidget(buttons);
-}
-
-void DlgImportSummary::handleEvent(const char* /*eventName*/, const char* /*payload*/,
-                                   int /*reserved*/)
-{
-    if (openProject() != m_project)
-        close();
 }
 
 void DlgImportSummary::showEvent(QShowEvent* event)
@@ -211,7 +197,7 @@ void DlgImportSummary::showFinding(const QModelIndex& index)
 QString DlgImportSummary::placeText(const QModelIndex& first) const
 {
     const int last = m_table->model()->columnCount() - 1;
-    const QString found = first.siblingAtColumn(last).data().toString();
+    QString found = first.siblingAtColumn(last).data().toString();
     const QString line = first.data(ImportFindingsModel::kFileLine).toString();
     if (line == QLatin1String("0"))
         return found;

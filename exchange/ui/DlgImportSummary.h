@@ -2,8 +2,7 @@
 
 #include "exchange/ImportSummary.h"
 #include "lum_desktop_sdkx/dialogs/Dialog.h"
-#include "lum_sdk/events/EventSubscription.h"
-#include "lum_sdk/events/IEventManager.h"
+#include "project/ui/ClosesWithProject.h"
 
 class CustomTableWidget;
 class IDesktopHost;
@@ -17,15 +16,13 @@ class QVBoxLayout;
 /// tells the line of the file. All can be copied.
 ///
 /// The window deletes itself when it is closed, and closes when its project is closed.
-class DlgImportSummary final : public Dialog, public IEventHandler
+class DlgImportSummary final : public Dialog
 {
     Q_OBJECT
 
 public:
     /// \param pointList the name of the window that lists the imported points
     DlgImportSummary(IDesktopHost& host, const ImportSummary& summary, const char* pointList);
-
-    void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -46,6 +43,5 @@ private:
     QPlainTextEdit* m_numbers = nullptr;
     CustomTableWidget* m_table = nullptr; ///< null without a finding
     QLabel* m_place = nullptr;            ///< where the chosen finding stands
-    QString m_project;                    ///< the folder of the project
-    EventSubscription m_subscription;
+    ClosesWithProject m_closing;
 };

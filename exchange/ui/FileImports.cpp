@@ -7,8 +7,10 @@
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/Text.h"
 #include "project/DataProcessDataManager.h"
+#include "project/ILineList.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
@@ -24,6 +26,10 @@ namespace {
 using Operation = int (DataProcessDataManager::*)(const QString& path, Outcome* outcome,
                                                   ImportSummary* counts);
 
+constexpr const char* kMap = "DataMap";
+constexpr const char* kDesignTable = "Design Data List";
+constexpr const char* kSurveyTable = "Survey Data List";
+
 struct ImportKind
 {
     Operation operation;
@@ -32,12 +38,15 @@ struct ImportKind
     const char* pointList; ///< the window that lists the points
 };
 
-void announceDesign(IDesktopHost& host, const ImportSummary& /*summary*/)
+void announceDesign(IDesktopHost& host, const ImportSummary& summary)
 {
     host.eventManager().publish(events::kRefreshDesignLayer, nullptr, 0);
+    if (summary.hasPoints())
+        host.windows().reveal(QLatin1String(kDesignTable), QLatin1String(kMap));
 }
 
-/// The tree shows all lines at first; the line that has got points stands after it.
+/// The line that has got points is shown by the table, and marked in the tree, which is on all
+/// lines at first.
 void announceSurvey(IDesktopHost& host, const ImportSummary& summary)
 {
     host.eventManager().publish(events::kRefreshSurveyLayer, nullptr, 0);
@@ -45,16 +54,27 @@ void announceSurvey(IDesktopHost& host, const ImportSummary& summary)
     if (!summary.hasPoints() || points.empty())
         return;
     const std::string& line = summary.firstLine.empty() ? points.begin()->first : summary.firstLine;
-    host.eventManager().publish(events::kSurveyLineSwitched,
-                                payload::line(lum::toQString(line)).constData(), 0);
+    const QString shown = lum::toQString(line);
+    host.eventManager().publish(events::kSurveyLineSwitched, payload::line(shown).constData(), 0);
+    if (auto* const tree = host.windows().findAs<ILineList>(QStringLiteral("Survey Lines")))
+        tree->followLine(shown);
+    host.windows().reveal(QLatin1String(kSurveyTable), QLatin1String(kMap));
+}
+
+/// A file has no sea heights: they are computed before they are shown.
+void announceSurveyFile(IDesktopHost& host, const ImportSummary& summary)
+{
+    if (summary.hasPoints())
+        DataProcessDataManager::instance().recomputeSeaHeights();
+    announceSurvey(host, summary);
 }
 
 constexpr ImportKind kDesignCsv = {&DataProcessDataManager::importDesignCsv, "csv file(*.csv)",
-                                   announceDesign, "Design Data List"};
+                                   announceDesign, kDesignTable};
 constexpr ImportKind kSurveyCsv = {&DataProcessDataManager::importSurveyCsv, "csv file(*.csv)",
-                                   announceSurvey, "Survey Data List"};
+                                   announceSurveyFile, kSurveyTable};
 constexpr ImportKind kSurveyDatabase = {&DataProcessDataManager::importSurveyDatabase,
-                                        "db file(*.db)", announceSurvey, "Survey Data List"};
+                                        "db file(*.db)", announceSurvey, kSurveyTable};
 
 QString translated(const char* text)
 {

@@ -3,7 +3,6 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
@@ -11,12 +10,14 @@
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Transform.h"
+#include "map/ui/FindDataLayer.h"
 #include "map/ui/IDataLayer.h"
 #include "model/DesignPoint.h"
 #include "model/SurveyPoint.h"
 
 #include <QColor>
 #include <QPolygonF>
+#include <QRegion>
 
 #include <algorithm>
 #include <cmath>
@@ -49,19 +50,54 @@ bool isFinite(const QPointF& place)
 bool isInView(const IMapWindow& map, const QPointF& place)
 {
     const Transform& view = map.transform();
-    return QRectF(QPointF(0, 0), QSizeF(view.size()))
-        .adjusted(kEdge, kEdge, -kEdge, -kEdge)
-        .contains(view.SurveyToScreen(place));
+    const QPointF screen = view.SurveyToScreen(place);
+    const bool isInside = QRectF(QPointF(0, 0), QSizeF(view.size()))
+                              .adjusted(kEdge, kEdge, -kEdge, -kEdge)
+                              .contains(screen);
+    if (!isInside)
+        return false;
+    const QRectF mark(screen - QPointF(kEdge, kEdge), QSizeF(2 * kEdge, 2 * kEdge));
+    return (QRegion(mark.toAlignedRect()) - map.uncovered()).isEmpty();
 }
 
-/// Centres the map on `place` and zooms in to `scale`, never out.
+/// The middle of what the user sees of the map: of the largest part beside the windows over it.
+QPointF visibleMiddle(const IMapWindow& map)
+{
+    const QRect whole(QPoint(0, 0), map.transform().size());
+    const QRect covered = (QRegion(whole) - map.uncovered()).boundingRect();
+    if (covered.isEmpty())
+        return QRectF(whole).center();
+    QRect left = whole;
+    left.setRight(covered.left() - 1);
+    QRect right = whole;
+    right.setLeft(covered.right() + 1);
+    QRect above = whole;
+    above.setBottom(covered.top() - 1);
+    QRect below = whole;
+    below.setTop(covered.bottom() + 1);
+    const auto area = [](const QRect& part) { return qint64(part.width()) * part.height(); };
+    const QRect largest = std::max({left, right, above, below},
+                                   [&](const auto& a, const auto& b) { return area(a) < area(b); });
+    return QRectF(area(largest) > 0 ? largest : whole).center();
+}
+
+/// Moves the map so that `place` comes to the middle of what the user sees. \returns that middle
+QPointF moveTo(IMapWindow& map, const QPointF& place)
+{
+    const Transform& view = map.transform();
+    const QPointF middle = visibleMiddle(map);
+    const QPointF aside = view.ScreenToSurvey(QRectF(QPointF(0, 0), QSizeF(view.size())).center()) -
+                          view.ScreenToSurvey(middle);
+    map.centerOn(place.x() + aside.x(), place.y() + aside.y());
+    return middle;
+}
+
+/// Moves the map to `place` and zooms in to `scale`, never out.
 void goTo(IMapWindow& map, const QPointF& place, double scale)
 {
-    map.centerOn(place.x(), place.y());
-    const Transform& view = map.transform();
-    if (view.GetScale() > scale)
-        map.zoomAbout(view.size().width() / 2.0, view.size().height() / 2.0,
-                      view.GetScale() / scale);
+    const QPointF middle = moveTo(map, place);
+    if (map.transform().GetScale() > scale)
+        map.zoomAbout(middle.x(), middle.y(), map.transform().GetScale() / scale);
 }
 
 /// A mark that is to be drawn. The first position is the one that the map moves to.
@@ -105,11 +141,16 @@ bool show(IMapWindow& map, const Mark& mark)
     return hasPlace;
 }
 
+void bringIntoView(IMapWindow& map, const QPointF& place)
+{
+    if (isFinite(place) && !isInView(map, place))
+        moveTo(map, place);
+}
+
 void showInView(IMapWindow& map, const Mark& mark)
 {
-    const QPointF& place = mark.positions.first();
-    if (show(map, mark) && !isInView(map, place))
-        map.centerOn(place.x(), place.y());
+    if (show(map, mark))
+        bringIntoView(map, mark.positions.first());
 }
 
 /// \param list the window that the map must not cover
@@ -171,14 +212,22 @@ void mark(IDesktopHost& host, const DesignPoint& point)
 
 void markStation(IDesktopHost& host, int index)
 {
-    IMapWindow* const map = mapOf(host);
-    const auto* const layer =
-        map == nullptr
-            ? nullptr
-            : dynamic_cast<IDataLayer*>(map->layers().find(QStringLiteral("DataProcessLayer")));
+    const IDataLayer* const layer = findDataLayer(host);
     QPointF place;
     if (layer != nullptr && layer->GetBasePosition(index, place))
-        showInView(*map, {Kind::Station, QPolygonF(QVector<QPointF>{place})});
+        showInView(*mapOf(host), {Kind::Station, QPolygonF(QVector<QPointF>{place})});
+}
+
+void bringIntoView(IDesktopHost& host, const SurveyPoint& point)
+{
+    if (IMapWindow* const map = mapOf(host))
+        ::bringIntoView(*map, markOf(host, point).positions.first());
+}
+
+void bringIntoView(IDesktopHost& host, const DesignPoint& point)
+{
+    if (IMapWindow* const map = mapOf(host))
+        ::bringIntoView(*map, markOf(host, point).positions.first());
 }
 
 void zoomTo(IDesktopHost& host, const SurveyPoint& point)

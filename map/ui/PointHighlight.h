@@ -25,12 +25,17 @@ void draw(IMapWindow& map, Kind kind, const QPolygonF& positions);
 void clear(IMapWindow& map);
 void clear(IDesktopHost& host);
 
-/// Marks the point. The map moves, at its scale, only when the point is outside its view, and is
-/// not brought to the front. A point whose position is no number leaves the map without a mark.
+/// Marks the point. The map moves, at its scale, only when the point is outside its view or under
+/// another window, and is not brought to the front. A point whose position is no number leaves the
+/// map without a mark.
 void mark(IDesktopHost& host, const SurveyPoint& point);
 void mark(IDesktopHost& host, const DesignPoint& point);
 /// The same for a base station, counted from 0.
 void markStation(IDesktopHost& host, int index);
+
+/// Moves the map alone, and only when the point is outside its view.
+void bringIntoView(IDesktopHost& host, const SurveyPoint& point);
+void bringIntoView(IDesktopHost& host, const DesignPoint& point);
 
 /// Marks the point in the middle of the map. The map zooms in until the measured and the designed
 /// position can be told apart, at least to 1 m a pixel; a map that is finer already keeps its

@@ -9,6 +9,7 @@ class ILayerViewer;
 class IOverlay;
 class QCursor;
 class QRectF;
+class QRegion;
 class Transform;
 
 /// The map. `IWindowRegistry` finds it by the name "DataMap".
@@ -48,6 +49,8 @@ public:
     virtual void refreshOverlay() = 0;
 
     [[nodiscard]] virtual const Transform& transform() const = 0;
+    /// The part of the map that dialogs, and the floating window in use, leave free, screen points.
+    [[nodiscard]] virtual QRegion uncovered() const = 0;
     [[nodiscard]] virtual ILayerRegistry& layers() = 0;
     /// Adds a layer of a registered class on top. `properties` holds its "layer_name".
     /// \returns null, and a line in the log, when the class is not registered or the name is taken

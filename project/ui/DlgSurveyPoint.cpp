@@ -1,15 +1,13 @@
 #include "project/ui/DlgSurveyPoint.h"
 
-#include "basalt_utilities/LocalTimes.h"
 #include "basalt_utilities/Numbers.h"
+#include "exchange/ShownTimes.h"
 #include "lum_desktop_sdkx/controls/PropertyGridInput.h"
 #include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "model/PointNumber.h"
 #include "project/DataProcessDataManager.h"
-#include "protocol/StatusKeys.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -20,14 +18,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <array>
 #include <cmath>
 
 namespace {
 
 constexpr int kStoredDecimals = 4;
 constexpr int kWidth = 420;
-constexpr int kBeijingHours = 8; // the time zone of settings without one
 
 QString shown(const std::string& text)
 {
@@ -46,15 +42,6 @@ std::optional<std::string> edited(const QLineEdit& edit, const QString& before)
 QString writtenNumber(const PointName& name)
 {
     return shown(std::string(writtenPointNumber(name.point)));
-}
-
-QString timeOf(const SurveyPoint& point)
-{
-    basalt::LocalTimes times(
-        get_system_ini_parameter().dictionary().integer(settings::kTimeZone, kBeijingHours));
-    std::array<char, basalt::LocalTimes::kTextSize> buffer{};
-    return QString::fromLatin1(buffer.data(),
-                               int(times.write(buffer.data(), point.dateTime) - buffer.data()));
 }
 
 /// One height, before and after.
@@ -147,10 +134,7 @@ PropertyGridInput DlgSurveyPoint::antennaInput() const
     row.minimum = -kMostAntennaHeightM;
     row.maximum = kMostAntennaHeightM;
     row.decimals = kStoredDecimals;
-    QString text = m_antenna->text();
-    if (text.count(QLatin1Char(',')) == 1) // there is no height of thousands of metres
-        text.replace(QLatin1Char(','), QLatin1Char('.'));
-    return readPropertyGridInput(row, text);
+    return readPropertyGridInput(row, m_antenna->text());
 }
 
 SurveyCorrection DlgSurveyPoint::correction() const
@@ -243,7 +227,8 @@ bool DlgSurveyPoint::mayReplace(const SurveyCorrection& correction)
     if (other == nullptr)
         return true;
     QString details = tr("Line %1, point %2, measured %3, would be replaced.")
-                          .arg(shown(other->lineNumber), shown(other->pointNumber), timeOf(*other));
+                          .arg(shown(other->lineNumber), shown(other->pointNumber),
+                               shown(shownTime(other->dateTime)));
     if (!other->surveyor.empty())
         details += QLatin1Char('\n') + tr("Its surveyor: %1").arg(shown(other->surveyor));
     const auto answer = LumMessageBox::warning(

@@ -35,6 +35,11 @@ bool isOpen()
     return get_system_status_dictionary().integer(status::kProjectOpen) != 0;
 }
 
+bool hasData()
+{
+    return isOpen() && DataProcessDataManager::hasInstance();
+}
+
 ProjectPlace place()
 {
     const IDictionary& values = get_system_status_dictionary();

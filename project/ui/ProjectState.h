@@ -10,6 +10,8 @@ struct ProjectPlace;
 namespace ProjectState {
 
 [[nodiscard]] bool isOpen();
+/// The same, for who asks the data manager next: it may be gone while the program ends.
+[[nodiscard]] bool hasData();
 /// The open project.
 [[nodiscard]] ProjectPlace place();
 

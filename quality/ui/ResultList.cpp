@@ -6,13 +6,14 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
 #include "project/IPointList.h"
+#include "project/OwnFile.h"
+#include "project/ProjectPlace.h"
+#include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
-#include "protocol/StatusKeys.h"
 #include "quality/ResultCsv.h"
 #include "quality/ResultModel.h"
 
@@ -23,15 +24,6 @@
 #include <QPointer>
 
 namespace {
-
-/// The folder of the open project; empty without one.
-std::string openProject()
-{
-    const IDictionary& values = get_system_status_dictionary();
-    return values.integer(status::kProjectOpen) != 0
-               ? std::string(values.text(status::kProjectPath))
-               : std::string();
-}
 
 /// The captions of all columns, separated by tabs.
 QString captionLine(const QAbstractItemModel& model)
@@ -57,8 +49,7 @@ QString pointOf(const QModelIndex& index)
 ResultList::ResultList(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> result,
                        const Setup& setup)
     : Dialog(host.dialogParent()), m_host(host), m_table(new CustomTableWidget(this)),
-      m_points(setup.points), m_project(openProject()),
-      m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
+      m_points(setup.points), m_closing(*this, host.eventManager())
 {
     setWindowTitle(setup.title);
     setMinimumSizeScaled(setup.smallest.width(), setup.smallest.height());
@@ -81,12 +72,6 @@ void ResultList::addMenu()
     menu->addAction(tr("&Save as CSV..."), this, &ResultList::saveRows);
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, menu,
             [menu](const QModelIndex& /*index*/, const QPoint& place) { menu->popup(place); });
-}
-
-void ResultList::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
-{
-    if (openProject() != m_project)
-        close();
 }
 
 void ResultList::selectPoint(const QModelIndex& index)
@@ -133,8 +118,10 @@ void ResultList::saveRows()
     if (self == nullptr || file.isEmpty())
         return;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const Outcome outcome = writeResultCsv(
-        file, static_cast<const QAbstractTableModel&>(*m_table->model()), Qt::DisplayRole);
+    Outcome outcome = checkNotOwn(ProjectState::place(), file);
+    if (outcome.isDone())
+        outcome = writeResultCsv(file, static_cast<const QAbstractTableModel&>(*m_table->model()),
+                                 Qt::DisplayRole);
     QGuiApplication::restoreOverrideCursor();
     if (outcome.isDone())
         return;

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "lum_desktop_sdkx/dialogs/Dialog.h"
-#include "lum_sdk/events/EventSubscription.h"
-#include "lum_sdk/events/IEventManager.h"
+#include "project/ui/ClosesWithProject.h"
 
 #include <memory>
-#include <string>
 
 class CustomTableWidget;
 class IDesktopHost;
@@ -18,12 +16,9 @@ class QModelIndex;
 ///
 /// The rows are those of one run; the next run makes a new list. The list deletes itself when it is
 /// closed, and closes when its project is closed.
-class ResultList : public Dialog, public IEventHandler
+class ResultList : public Dialog
 {
     Q_OBJECT
-
-public:
-    void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 protected:
     enum class Points
@@ -54,6 +49,5 @@ private:
 
     CustomTableWidget* m_table;
     Points m_points;
-    std::string m_project; ///< the folder of the project that was checked
-    EventSubscription m_subscription;
+    ClosesWithProject m_closing;
 };

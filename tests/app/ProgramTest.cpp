@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int kStartMs =
+    30000; // the sanitizers' program takes its time, on a busy machine above all
 constexpr const char* kToolFolder = "程序 dir/etc/Tarvona/config/Skyquill/Tool/DataProcess5/";
 
 /// Every component that is registered, as "--components" prints them: kind, name, caption.
@@ -202,7 +204,7 @@ void ProgramTest::aSecondInstanceLeavesSilentlyAtOnce()
 {
     QProcess first;
     start(first);
-    QTRY_VERIFY(log().contains("Window shown"));
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("Window shown"), kStartMs);
 
     QProcess second;
     QCOMPARE(run(second, {}), 0);
@@ -227,7 +229,7 @@ void ProgramTest::aSecondStartHandsItsFileOver()
 
     QProcess first;
     start(first);
-    QTRY_VERIFY(log().contains("Window shown"));
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("Window shown"), kStartMs);
     QProcess second;
     second.setProcessEnvironment(environment());
     second.setWorkingDirectory(path("测区 a"));
@@ -236,7 +238,8 @@ void ProgramTest::aSecondStartHandsItsFileOver()
     QCOMPARE(second.exitCode(), 0);
     QCOMPARE(second.readAllStandardOutput() + second.readAllStandardError(), QByteArray());
     // The first has it open: in the list of recent projects, and locked.
-    QTRY_VERIFY(TestFolder::read(path("config/Tarvona/Skyquill/settings.xml")).contains(project));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        TestFolder::read(path("config/Tarvona/Skyquill/settings.xml")).contains(project), kStartMs);
     QProcess changing;
     changing.start(
         QStringLiteral(CLI_FILE),
@@ -311,7 +314,7 @@ void ProgramTest::beginsASessionWhereAServerIsConfigured()
             "\"/><entry key=\"countlyAppKey\" value=\"k1\"/></dictionary>");
     QProcess process;
     start(process);
-    QTRY_VERIFY(server.hasPendingConnections());
+    QTRY_VERIFY_WITH_TIMEOUT(server.hasPendingConnections(), kStartMs);
     QTcpSocket* const socket = server.nextPendingConnection();
     QTRY_VERIFY(socket->peek(5000).contains("\r\n\r\n"));
     const QByteArray request = socket->readAll();
@@ -322,7 +325,7 @@ void ProgramTest::beginsASessionWhereAServerIsConfigured()
 
     QProcess orderly; // leaves with the request under way
     start(orderly, {QStringLiteral("--startup-time")});
-    QTRY_COMPARE(orderly.state(), QProcess::NotRunning);
+    QTRY_COMPARE_WITH_TIMEOUT(orderly.state(), QProcess::NotRunning, kStartMs);
     QCOMPARE(orderly.exitStatus(), QProcess::NormalExit);
     QCOMPARE(orderly.exitCode(), 0);
     QVERIFY(server.hasPendingConnections());

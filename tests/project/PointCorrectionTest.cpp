@@ -41,10 +41,10 @@ protected:
         filedAs = {};
         return manager.correctSurveyPoint(name, correction, &outcome, &filedAs);
     }
-    SurveyPoints& points = manager.surveyPoints();
 
     Host host;
     DataProcessDataManager manager{&host};
+    SurveyPoints& points = manager.surveyPoints();
     Outcome outcome = Outcome::done();
     PointName filedAs;
 };

@@ -1,6 +1,7 @@
 #include "views/AttributeControl.h"
 
 #include "basalt_utilities/Product.h"
+#include "lum_desktop_sdkx/controls/OpenEdit.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
@@ -81,6 +82,8 @@ private Q_SLOTS:
     void aCorrectedAntennaMovesTheHeights();
     void heightsStayWhenTheUserSaysSo();
     void aBadEditIsMarkedAndNotWritten();
+    void escapeBringsTheValueBack();
+    void aCommandFindsWhatIsBeingTyped();
     void whatWasMeasuredCannotBeEdited();
     void anEditBelongsToThePointItWasTypedFor();
     void anObstacleIsChosenAndAnUnknownOneKept();
@@ -279,6 +282,29 @@ void AttributeControlTest::aBadEditIsMarkedAndNotWritten()
     QVERIFY(point().remarks.empty());
 }
 
+void AttributeControlTest::escapeBringsTheValueBack()
+{
+    selectResult();
+    const QString before = shown("antenna_height");
+    enter("antenna_height", "18"_q);
+    enter("remarks", "dry, stony"_q);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(!isMarked("antenna_height") && !isMarked("remarks") && !says("\": "_q));
+    QCOMPARE(shown("antenna_height"), before);
+    QVERIFY(shown("remarks").isEmpty() && !m_map->manager.isChanged());
+}
+
+void AttributeControlTest::aCommandFindsWhatIsBeingTyped()
+{
+    selectResult();
+    desktop::enterOpenEdit(); // there is none
+    type("antenna_height", "1.9"_q);
+    QVERIFY(point().antennaHeight != 1.9);
+    desktop::enterOpenEdit();
+    QCOMPARE(point().antennaHeight, 1.9);
+    QVERIFY(m_map->manager.isChanged());
+}
+
 void AttributeControlTest::whatWasMeasuredCannotBeEdited()
 {
     selectResult();
@@ -328,10 +354,12 @@ void AttributeControlTest::anObstacleIsChosenAndAnUnknownOneKept()
     box->setCurrentIndex(box->findText("iron tower"_q));
     QTest::keyClick(box, Qt::Key_Tab);
     QCOMPARE(point().obstacle, std::string("iron tower"));
+    const EventLog layer(m_map->host.events, events::kRefreshSurveyLayer);
     auto* const mark = qobject_cast<QComboBox*>(click("point_mark"));
     mark->setCurrentIndex(0);
     QTest::keyClick(mark, Qt::Key_Tab);
     QCOMPARE(point().pointMark, 1);
+    QCOMPARE(layer.events.size(), std::size_t(1));
     QCOMPARE(point().elevation, 123.4567);
 }
 
@@ -349,6 +377,13 @@ void AttributeControlTest::aDesignPointCanBeCorrected()
     QCOMPARE(designed.elevation, 12.345);
     QCOMPARE(designed.azimuth, 30.5);
     QCOMPARE(shown("azimuth"), "30.500000°"_q);
+    QWidget* const readOnly = click("north");
+    for (const char key : {'3', '0', '4'}) // a search for the azimuth would go there
+        QTest::keyClick(QApplication::focusWidget(), key);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(QApplication::focusWidget(), readOnly);
+    QCOMPARE(designed.azimuth, 30.5);
     QVERIFY(
         (log.names() == std::vector<std::string>{"REFRESH_DESIGN_TABLE", "REFRESH_DESIGN_TABLE"}));
 }

@@ -35,6 +35,7 @@ public:
         m_events.publish(m_event, payload::selectedPoint(point, line).constData(), 0);
         return true;
     }
+    void deselect() override { told << "nothing"_q; }
     void followLine(const QString& line) override { told << line; }
 
     QStringList told;
@@ -103,13 +104,15 @@ private Q_SLOTS:
         QCOMPARE(place.surveyTree.told, QStringList("线 1, \"a\""_q));
         QCOMPARE(place.map.transform().center(), QPointF(3000, 4000));
         QCOMPARE(log.events.size(), 2U); // the selection, and what the table makes of it
-        QVERIFY(place.designTable.told.isEmpty() && place.designTree.told.isEmpty());
+        QCOMPARE(place.designTable.told, QStringList("nothing"_q)); // it had another point's row
+        QVERIFY(place.designTree.told.isEmpty());
 
         place.select(events::kDesignPointSelected, "1001"_q, "10015001"_q);
-        QCOMPARE(place.designTable.told, QStringList("1001/10015001"_q));
+        QCOMPARE(place.designTable.told.last(), "1001/10015001"_q);
         QCOMPARE(place.designTree.told, QStringList("1001"_q));
         QCOMPARE(place.map.transform().center(), QPointF(50, 100));
-        QCOMPARE(place.surveyTable.told.size(), 1);
+        QCOMPARE(place.surveyTable.told.last(), "nothing"_q);
+        QCOMPARE(place.surveyTree.told.size(), 1); // its table still shows that line
         QCOMPARE(place.host.windowRegistry.revealed,
                  QStringList(
                      {"Survey Data List beside DataMap"_q, "Design Data List beside DataMap"_q}));
@@ -137,10 +140,12 @@ private Q_SLOTS:
         Place place;
         place.select(events::kSurveyPointSelected, "1001"_q, "10015001"_q); // a design point
         place.host.events.publish(events::kDesignPointSelected, nullptr, 0);
-        place.host.events.publish(events::kStationPointSelected, "stationId=0", 0);
         QVERIFY(place.surveyTable.told.isEmpty() && place.designTable.told.isEmpty());
         QVERIFY(place.host.windowRegistry.revealed.isEmpty());
         QCOMPARE(place.map.transform().center(), QPointF(0, 0));
+        place.host.events.publish(events::kStationPointSelected, "stationId=0", 0);
+        QCOMPARE(place.surveyTable.told, QStringList("nothing"_q)); // a station is in no table
+        QCOMPARE(place.designTable.told, QStringList("nothing"_q));
 
         place.windows.remove("Survey Data List"_q);
         place.windows.remove("Survey Lines"_q);

@@ -1,4 +1,3 @@
-#include "../lum_desktop_sdkx/TestHost.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
@@ -11,6 +10,7 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
+#include "tests/lum_desktop_sdkx/TestHost.h"
 #include "views/AttributeControl.h"
 #include "views/SelectionFollower.h"
 #include "views/tables/DesignLineTable.h"
@@ -19,6 +19,7 @@
 #include "views/trees/DesignLineControl.h"
 #include "views/trees/SurveyDataControl.h"
 
+#include <QAbstractItemModelTester>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -109,6 +110,7 @@ private:
     void showSomething();
     void selectByEvent();
     void clickRow();
+    void pressKeys();
     void deleteRows();
     void editRow();
     void sortRows();
@@ -117,8 +119,10 @@ private:
     void deleteLine();
 
     void look(PointTableWindow& table, bool isDesign);
+    void watchModels();
 
     std::unique_ptr<Place> m_place;
+    std::vector<std::unique_ptr<QAbstractItemModelTester>> m_testers;
     std::mt19937 m_random;
 };
 
@@ -261,6 +265,14 @@ void WorkingPlaceWalkTest::clickRow()
         QTest::mouseDClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(cell).center());
 }
 
+void WorkingPlaceWalkTest::pressKeys()
+{
+    CustomTableWidget& rows = rowsOf(anyTable());
+    QTest::keyClick(&rows, anyOf(2) == 0 ? Qt::Key_Down : Qt::Key_Up,
+                    anyOf(3) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+    QTest::keyClick(&rows, anyOf(4) == 0 ? Qt::Key_A : Qt::Key_C, Qt::ControlModifier);
+}
+
 void WorkingPlaceWalkTest::deleteRows()
 {
     clickRow();
@@ -316,6 +328,15 @@ void WorkingPlaceWalkTest::deleteLine()
     QTest::keyClick(m_place->surveyTree.findChild<QTreeWidget*>(), Qt::Key_Delete);
 }
 
+/// For a while: a tester looks at every cell again and again.
+void WorkingPlaceWalkTest::watchModels()
+{
+    for (PointTableWindow* const table :
+         std::initializer_list<PointTableWindow*>{&m_place->designTable, &m_place->surveyTable})
+        m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
+            rowsOf(*table).model(), QAbstractItemModelTester::FailureReportingMode::QtTest));
+}
+
 /// Reads what the table shows, as its view does, and compares its rows with the project.
 void WorkingPlaceWalkTest::look(PointTableWindow& table, bool isDesign)
 {
@@ -359,6 +380,7 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
     });
     const FileDialog::Responder noFile([](const auto& /*request*/) { return QString(); });
     m_place = std::make_unique<Place>();
+    watchModels();
     static constexpr Step kWalk[] = {
         &WorkingPlaceWalkTest::addPoints,     &WorkingPlaceWalkTest::addPoints,
         &WorkingPlaceWalkTest::openProject,   &WorkingPlaceWalkTest::removeQuietly,
@@ -367,8 +389,10 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
         &WorkingPlaceWalkTest::clickRow,      &WorkingPlaceWalkTest::deleteRows,
         &WorkingPlaceWalkTest::editRow,       &WorkingPlaceWalkTest::sortRows,
         &WorkingPlaceWalkTest::filterRows,    &WorkingPlaceWalkTest::clickTree,
-        &WorkingPlaceWalkTest::deleteLine};
+        &WorkingPlaceWalkTest::deleteLine,    &WorkingPlaceWalkTest::pressKeys};
     for (int step = 0; step < kSteps && !QTest::currentTestFailed(); ++step) {
+        if (step == 100)
+            m_testers.clear();
         if (anyOf(60) == 0)
             closeProject();
         else if (anyOf(200) == 0)
@@ -380,6 +404,7 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
         look(m_place->designTable, true);
         look(m_place->surveyTable, false);
     }
+    m_testers.clear();
     m_place->manager.reset(); // as at the program's end, before the windows
     m_place.reset();
 }

@@ -4,8 +4,11 @@
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/PlatformEvents.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
+#include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ILineList.h"
 #include "project/IPointList.h"
@@ -20,14 +23,13 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <string>
+#include <iterator>
 
 namespace {
 
@@ -36,36 +38,21 @@ constexpr int kMargin = 6;
 constexpr int kLongestText = 4000; ///< of a line and a point
 constexpr int kTellMs = 8000;
 
-/// The events behind which points may have come or gone.
-std::string changes()
-{
-    std::string names;
-    for (const char* name :
-         {events::kUpdateSystemStatus, events::kRefreshDesignLayer, events::kRefreshSurveyLayer,
-          events::kRefreshDesignTable, events::kRefreshSurveyTable}) {
-        names += name;
-        names += ',';
-    }
-    return names;
-}
-
-bool hasProject()
-{
-    return ProjectState::isOpen() && DataProcessDataManager::hasInstance();
-}
-
 std::pair<std::uint64_t, std::uint64_t> revisions()
 {
-    if (!hasProject())
+    if (!ProjectState::hasData())
         return {};
     DataProcessDataManager& manager = DataProcessDataManager::instance();
     return {manager.designPoints().revision(), manager.surveyPoints().revision()};
 }
 
-/// A count with its thousands told apart, alike on every desktop.
-QString grouped(std::size_t count)
+/// Moves the map to the middle of the line.
+template <class Line>
+void bringIntoView(IDesktopHost& host, const Line* line)
 {
-    return QLocale(QLocale::English).toString(static_cast<qulonglong>(count));
+    if (line != nullptr && line->size() > 0)
+        PointHighlight::bringIntoView(
+            host, *std::next(line->begin(), static_cast<std::ptrdiff_t>(line->size() / 2)));
 }
 
 } // namespace
@@ -82,7 +69,12 @@ FindBar* FindBar::of(IDesktopHost& host)
 
 FindBar::FindBar(IDesktopHost& host, QWidget& frame)
     : QFrame(&frame), m_host(host), m_field(new QLineEdit(this)), m_told(new QLabel(this)),
-      m_list(new FoundList(this)), m_subscription(*this, changes(), host.eventManager())
+      m_list(new FoundList(this)),
+      m_subscription(*this,
+                     lum::eventNames({events::kUpdateSystemStatus, events::kRefreshDesignLayer,
+                                      events::kRefreshSurveyLayer, events::kRefreshDesignTable,
+                                      events::kRefreshSurveyTable}),
+                     host.eventManager())
 {
     setObjectName(QStringLiteral("FindBar"));
     setFrameShape(QFrame::StyledPanel);
@@ -176,7 +168,7 @@ void FindBar::search()
 {
     m_revisions = revisions();
     m_found = {};
-    if (hasProject()) {
+    if (ProjectState::hasData()) {
         DataProcessDataManager& manager = DataProcessDataManager::instance();
         m_found = findPlaces(manager.designPoints(), manager.surveyPoints(),
                              m_field->text().toStdString());
@@ -287,6 +279,11 @@ void FindBar::goTo(const FoundPlace& place)
         if (auto* const tree = windows.findAs<ILineList>(
                 place.isSurvey ? QStringLiteral("Survey Lines") : QStringLiteral("Design Lines")))
             tree->followLine(line);
+        DataProcessDataManager& manager = DataProcessDataManager::instance();
+        if (place.isSurvey)
+            bringIntoView(m_host, manager.surveyPoints().findLine(place.line));
+        else
+            bringIntoView(m_host, manager.designPoints().findLine(place.line));
     } else if (auto* const list = windows.findAs<IPointList>(table)) {
         list->selectPoint(line, lum::toQString(place.point));
     }
@@ -298,7 +295,7 @@ void FindBar::tell()
     const auto shown = static_cast<int>(m_found.places.size());
     QString text;
     QString details;
-    if (!hasProject()) {
+    if (!ProjectState::hasData()) {
         text = tr("No project is open.");
     } else if (m_field->text().trimmed().isEmpty()) {
         text.clear();
@@ -309,7 +306,7 @@ void FindBar::tell()
     } else {
         text = tr("%1 of %2").arg(m_current + 1).arg(shown);
         if (m_found.count > m_found.places.size()) {
-            text += QLatin1String(" ") + tr("(%1 found)").arg(grouped(m_found.count));
+            text += QLatin1String(" ") + tr("(%1 found)").arg(lum::groupedNumber(m_found.count));
             details = tr("The best %1 matches are listed. Type more of the number to see others.")
                           .arg(shown);
         }

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::array kShares = {18, 18, 28}; ///< of the columns, percent; the last has the rest
+constexpr std::array kShares = {16, 16, 24}; ///< of the columns, percent; the last has the rest
 
 } // namespace
 

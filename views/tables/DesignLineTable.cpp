@@ -8,6 +8,9 @@
 #include "lum_sdk/Text.h"
 #include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
+#include "project/OwnFile.h"
+#include "project/ProjectPlace.h"
+#include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "views/tables/DesignTableModel.h"
@@ -20,8 +23,6 @@ namespace {
 
 constexpr const char* kEvents = "ON_DESIGN_LINE_SWITCHED,REFRESH_DESIGN_TABLE,"
                                 "ON_CLEAR_DESIGN_TABLE,ON_DESIGN_TABLE_SELECT_POINT";
-constexpr int kTypeColumn = 7;
-constexpr int kStatusColumn = 8;
 
 DesignPoints& designPoints()
 {
@@ -31,9 +32,10 @@ DesignPoints& designPoints()
 void addCells(CsvRow& line, const PointTableModel& model, int row, const DesignPoint& point)
 {
     for (int column = 0; column < model.columnCount(); ++column) {
-        if (column == kTypeColumn)
+        const QString key = model.columnKey(column);
+        if (key == QLatin1String("type"))
             line.addInteger(point.type == 0 ? 0 : 1);
-        else if (column == kStatusColumn)
+        else if (key == QLatin1String("status"))
             line.addInteger(point.status == 1 ? 1 : 0);
         else
             line.addText(model.index(row, column).data().toString().toStdString());
@@ -92,6 +94,8 @@ QString DesignLineTable::exportTitle() const
 
 Outcome DesignLineTable::exportPoints(const std::vector<PointName>& points, const QString& path)
 {
+    if (Outcome check = checkNotOwn(ProjectState::place(), path); !check.isDone())
+        return check;
     lum::WholeFileWriter file(path);
     CsvRow line;
     for (const QString& caption : designCaptions())

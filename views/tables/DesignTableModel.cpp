@@ -20,6 +20,8 @@ using Column = TableColumn<DesignPoint>;
 constexpr int kDecimals = 3;
 constexpr int kSurveyed = 1;
 constexpr int kStatusColumn = 8;
+constexpr const char* kSurveyedText = QT_TRANSLATE_NOOP("DesignTable", "surveyed");
+constexpr const char* kNotSurveyedText = QT_TRANSLATE_NOOP("DesignTable", "not surveyed");
 
 QString translated(const char* text)
 {
@@ -33,32 +35,34 @@ std::vector<Column> makeColumns()
     {
         const char* key;
         const char* caption;
-        Kind kind;
         Column::Field field;
+        Kind kind;
         int decimals = -1;
     };
     const Plan plans[] = {
-        {"point_num", QT_TRANSLATE_NOOP("DesignTable", "point num"), Kind::Name,
-         &DesignPoint::pointNumber},
-        {"line_num", QT_TRANSLATE_NOOP("DesignTable", "line num"), Kind::Name,
-         &DesignPoint::lineNumber},
-        {"north", QT_TRANSLATE_NOOP("DesignTable", "north"), Kind::Number, &DesignPoint::north,
+        {"point_num", QT_TRANSLATE_NOOP("DesignTable", "point num"), &DesignPoint::pointNumber,
+         Kind::Name},
+        {"line_num", QT_TRANSLATE_NOOP("DesignTable", "line num"), &DesignPoint::lineNumber,
+         Kind::Name},
+        {"north", QT_TRANSLATE_NOOP("DesignTable", "north"), &DesignPoint::north, Kind::Number,
          kDecimals},
-        {"east", QT_TRANSLATE_NOOP("DesignTable", "east"), Kind::Number, &DesignPoint::east,
+        {"east", QT_TRANSLATE_NOOP("DesignTable", "east"), &DesignPoint::east, Kind::Number,
          kDecimals},
-        {"elevation", QT_TRANSLATE_NOOP("DesignTable", "elevation"), Kind::Number,
-         &DesignPoint::elevation, kDecimals},
-        {"design_code", QT_TRANSLATE_NOOP("DesignTable", "design code"), Kind::Name,
-         &DesignPoint::pointNumber}, // points have no code of their own
-        {"azimuth", QT_TRANSLATE_NOOP("DesignTable", "azimuth"), Kind::Number,
-         &DesignPoint::azimuth},
-        {"type", QT_TRANSLATE_NOOP("DesignTable", "type"), Kind::Text, &DesignPoint::type},
-        {"status", QT_TRANSLATE_NOOP("DesignTable", "status"), Kind::Text, &DesignPoint::status},
+        {"elevation", QT_TRANSLATE_NOOP("DesignTable", "elevation"), &DesignPoint::elevation,
+         Kind::Number, kDecimals},
+        {"design_code", QT_TRANSLATE_NOOP("DesignTable", "design code"), &DesignPoint::pointNumber,
+         Kind::Name}, // points have no code of their own
+        {"azimuth", QT_TRANSLATE_NOOP("DesignTable", "azimuth"), &DesignPoint::azimuth,
+         Kind::Number},
+        {"type", QT_TRANSLATE_NOOP("DesignTable", "type"), &DesignPoint::type, Kind::Text},
+        {"status", QT_TRANSLATE_NOOP("DesignTable", "status"), &DesignPoint::status, Kind::Text},
     };
     std::vector<Column> columns;
     for (const Plan& plan : plans)
         columns.push_back({QString::fromLatin1(plan.key), translated(plan.caption), plan.kind,
                            plan.field, plan.decimals});
+    columns[kStatusColumn].longestTexts << translated(kSurveyedText)
+                                        << translated(kNotSurveyedText);
     return columns;
 }
 
@@ -76,8 +80,8 @@ protected:
     }
     void renewTexts() override
     {
-        m_surveyed = translated(QT_TRANSLATE_NOOP("DesignTable", "surveyed")).toStdString();
-        m_notSurveyed = translated(QT_TRANSLATE_NOOP("DesignTable", "not surveyed")).toStdString();
+        m_surveyed = translated(kSurveyedText).toStdString();
+        m_notSurveyed = translated(kNotSurveyedText).toStdString();
         m_lineStart = nullptr;
     }
     [[nodiscard]] std::string_view text(const DesignPoint& point, int column) const override

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "basalt_utilities/FixedDecimals.h"
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_sdk/Text.h"
 #include "model/PointLines.h"
 #include "views/tables/PointRows.h"
@@ -37,9 +38,10 @@ struct TableColumn
 
     QString key;
     QString caption;
-    ColumnKind kind;
+    ColumnKind kind = ColumnKind::Text;
     Field field;
-    int decimals = -1; ///< shown of a number; -1 for all
+    int decimals = -1;             ///< shown of a number; -1 for all
+    QStringList longestTexts = {}; ///< that its cells may have, where these are known
 };
 
 /// A table over the points of a container: all but the texts and looks of its cells.
@@ -225,6 +227,8 @@ QVariant PointTable<Point>::headerData(int section, Qt::Orientation orientation,
     if (orientation == Qt::Horizontal && isColumn(section)) {
         if (role == Qt::DisplayRole)
             return columnAt(section).caption;
+        if (role == CustomTableWidget::kLongestTextsRole)
+            return columnAt(section).longestTexts;
         if (role == Qt::TextAlignmentRole)
             return alignment(section);
     }
@@ -276,6 +280,7 @@ void PointTable<Point>::relayout()
     constexpr auto kGone = std::numeric_limits<std::uint32_t>::max();
     if (!isFresh()) {
         std::vector<typename PointRows<Point>::Key> keys;
+        keys.reserve(places.size());
         for (const std::uint32_t place : places)
             keys.push_back(m_rows.keyAt(place));
         readPoints();

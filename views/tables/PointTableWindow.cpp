@@ -1,6 +1,5 @@
 #include "views/tables/PointTableWindow.h"
 
-#include "basalt_utilities/ILogger.h"
 #include "exchange/ui/FileExports.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
@@ -9,7 +8,6 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/Text.h"
-#include "project/DataProcessDataManager.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Payloads.h"
 #include "views/tables/PointTableModel.h"
@@ -29,11 +27,6 @@
 namespace {
 
 constexpr int kLongestName = 40; // of a point, in a sentence
-
-bool isProjectOpen()
-{
-    return ProjectState::isOpen() && DataProcessDataManager::hasInstance();
-}
 
 /// The filter that shows exactly the cells with this text; see RowFilter.h.
 QString filterOf(QString text)
@@ -99,6 +92,7 @@ void PointTableWindow::connectParts()
 {
     connect(m_table, &QAbstractItemView::clicked, this, &PointTableWindow::announceRow);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &PointTableWindow::announceRow);
+    connect(m_table, &CustomTableWidget::selectedByDrag, this, &PointTableWindow::announceRow);
     connect(m_table, &QAbstractItemView::doubleClicked, this,
             [this](const QModelIndex& cell) { zoomToRow(cell.row()); });
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, this, &PointTableWindow::showMenu);
@@ -128,10 +122,17 @@ bool PointTableWindow::followPoint(const QString& lineNumber, const QString& poi
     return goTo(point);
 }
 
+void PointTableWindow::deselect()
+{
+    m_selected = {};
+    m_table->clearSelection(); // the keys go on from its row
+    showState();
+}
+
 /// Shows the point and selects its row, unless a filter hides it.
 bool PointTableWindow::goTo(const PointName& point)
 {
-    if (!isProjectOpen() || !isInProject(point))
+    if (!ProjectState::hasData() || !isInProject(point))
         return false;
     const QString line = lum::toQString(point.line);
     if (!m_model->showsAllLines() && m_model->line() != line)
@@ -209,14 +210,14 @@ void PointTableWindow::refresh()
     const QPersistentModelIndex top = m_model->index(m_table->rowAt(0), 0);
     m_model->refresh();
     bar.setValue(top.isValid() ? top.row() : place);
-    if (!isProjectOpen() || !isInProject(m_selected))
+    if (!ProjectState::hasData() || !isInProject(m_selected))
         m_selected = {};
     showState();
 }
 
 void PointTableWindow::followProject()
 {
-    if (!isProjectOpen()) {
+    if (!ProjectState::hasData()) {
         clearFilters();
         showNothing();
     }
@@ -285,6 +286,8 @@ void PointTableWindow::addCopyEntry(QMenu& menu)
 
 void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
 {
+    if (m_table->selectedRowCount() == 1 && m_model->pointAt(cell.row()) != m_selected)
+        announceRow(); // the right click has selected it
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     addEntries(*menu);
@@ -308,7 +311,7 @@ void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
 void PointTableWindow::zoomToRow(int row)
 {
     const PointName point = m_model->pointAt(row);
-    if (isProjectOpen() && !point.point.empty())
+    if (ProjectState::hasData() && !point.point.empty())
         zoomTo(point);
 }
 
@@ -332,7 +335,7 @@ void PointTableWindow::exportRows()
         return;
     const QString path = FileDialog::getSaveFileName(m_host.dialogParent(), exportTitle(),
                                                      QStringLiteral("csv file(*.csv)"));
-    if (path.isEmpty() || !isProjectOpen())
+    if (path.isEmpty() || !ProjectState::hasData())
         return;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const Outcome outcome = exportPoints(points, path);
@@ -346,7 +349,7 @@ void PointTableWindow::exportRows()
 
 void PointTableWindow::followLink()
 {
-    if (!isProjectOpen())
+    if (!ProjectState::hasData())
         return;
     if (m_model->unfilteredCount() > 0)
         clearFilters();
@@ -358,7 +361,7 @@ void PointTableWindow::showState()
 {
     const bool isEmpty = m_model->rowCount() == 0;
     m_empty->setVisible(isEmpty);
-    if (isEmpty && !isProjectOpen())
+    if (isEmpty && !ProjectState::hasData())
         m_empty->setText(tr("No project is open."));
     else if (isEmpty && m_model->unfilteredCount() > 0)
         m_empty->setText(tr("No point passes the filters. <a href=\"#\">Clear all filters</a>"));

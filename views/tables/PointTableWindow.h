@@ -38,6 +38,7 @@ public:
 
     bool selectPoint(const QString& lineNumber, const QString& pointNumber) override;
     bool followPoint(const QString& lineNumber, const QString& pointNumber) override;
+    void deselect() override;
 
 protected:
     /// \param selectedEvent announces a selected point

@@ -3,16 +3,19 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 #include "map/ui/PointHighlight.h"
 #include "model/PointNumber.h"
+#include "model/SurveyColumns.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ui/DlgSurveyPoint.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
+#include "views/tables/SurveyTableColumns.h"
 #include "views/tables/SurveyTableModel.h"
 
 #include <QAction>
@@ -39,7 +42,7 @@ SurveyDataTable::SurveyDataTable(const char* config, IDesktopHost* host)
     : PointTableWindow(config, *host, makeSurveyTableModel(), events::kSurveyPointSelected),
       m_headerMenu(*host, table(), model()), m_subscription(*this, kEvents, host->eventManager()),
       m_otherSubscription(
-          *this, std::string(events::kSurveyColumnsChanged) + "," + events::kUpdateSystemStatus,
+          *this, lum::eventNames({events::kSurveyColumnsChanged, events::kUpdateSystemStatus}),
           host->eventManager())
 {
     auto* const deletes = new QAction(this);
@@ -60,7 +63,7 @@ void SurveyDataTable::handleEvent(const char* eventName, const char* payload, in
     if (is(events::kSurveyLineSwitched))
         showLine(line);
     else if (is(events::kRefreshSurveyTable))
-        refresh();
+        refreshTexts();
     else if (is(events::kClearSurveyTable))
         showNothing();
     else if (is(events::kSurveyTableSelectPoint))
@@ -71,6 +74,25 @@ void SurveyDataTable::handleEvent(const char* eventName, const char* payload, in
         m_headerMenu.apply();
     else if (is(events::kUpdateSystemStatus))
         followProject();
+}
+
+void SurveyDataTable::refreshTexts()
+{
+    refresh();
+    widenAngles();
+}
+
+/// Degrees, minutes and seconds are longer than degrees alone.
+void SurveyDataTable::widenAngles()
+{
+    const int format = get_system_status_dictionary().integer(status::kDegreeFormat);
+    if (format == m_degreeFormat || model().rowCount() == 0)
+        return;
+    m_degreeFormat = format;
+    for (int column = 0; column < model().columnCount(); ++column) {
+        if (surveyTableColumn(column).csv == CsvForm::Angle)
+            table().widenColumn(column);
+    }
 }
 
 /// Selects a point of the lines that are shown, by its number as it is shown: that of a check point
@@ -143,6 +165,7 @@ void SurveyDataTable::linesChanged()
 {
     // Nothing in the frame depends on it, so that nobody has to be told.
     get_system_status_dictionary().set(status::kShowAllLines, model().showsAllLines() ? "1" : "0");
+    widenAngles();
 }
 
 void SurveyDataTable::modify()

@@ -27,6 +27,8 @@ protected:
     void linesChanged() override;
 
 private:
+    void refreshTexts();
+    void widenAngles();
     void selectShown(const QString& lineNumber, const QString& pointNumber);
     void modify();
     void askToDelete();
@@ -35,4 +37,5 @@ private:
     SurveyHeaderMenu m_headerMenu;
     EventSubscription m_subscription;
     EventSubscription m_otherSubscription;
+    int m_degreeFormat = 0; ///< for which the columns of angles are wide enough
 };

@@ -1,9 +1,11 @@
 #include "views/tables/SurveyTableModel.h"
 
 #include "exchange/CsvRow.h"
+#include "exchange/ShownTimes.h"
 #include "exchange/SurveyFieldTexts.h"
 #include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "model/CodeTables.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/StatusKeys.h"
 #include "quality/QualityLimits.h"
@@ -15,7 +17,7 @@
 
 namespace {
 
-constexpr int kBeijingHours = 8;
+constexpr int kUnknownSolution = 8; // the first code without a name of its own
 
 using Column = TableColumn<SurveyPoint>;
 
@@ -41,6 +43,15 @@ void setKind(Column& column, CsvForm form)
     case CsvForm::PointNumber:
         column.kind = ColumnKind::Name;
         break;
+    case CsvForm::SolutionType:
+        column.kind = ColumnKind::Text;
+        for (int code = 0; code <= kUnknownSolution; ++code)
+            column.longestTexts << solutionTypeText(code);
+        break;
+    case CsvForm::MeasureMode:
+        column.kind = ColumnKind::Text;
+        column.longestTexts << measureModeText(0) << measureModeText(1);
+        break;
     default:
         column.kind = ColumnKind::Text;
     }
@@ -63,10 +74,8 @@ std::vector<Column> makeColumns()
 
 SurveyFieldTexts makeTexts()
 {
-    const int hours =
-        get_system_ini_parameter().dictionary().integer(settings::kTimeZone, kBeijingHours);
     return SurveyFieldTexts(get_system_status_dictionary().integer(status::kDegreeFormat),
-                            basalt::LocalTimes(hours));
+                            shownTimes());
 }
 
 class SurveyTableModel final : public PointTable<SurveyPoint>

@@ -1,24 +1,17 @@
 #include "views/tables/TableCountLine.h"
 
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/GroupedNumber.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QLocale>
 #include <QToolButton>
 
 namespace {
 
 constexpr int kSideMargin = 6;
 constexpr int kGap = 16; // between the counts and the note
-
-/// 200000 as "200,000", whatever the desktop's locale.
-QString grouped(int number)
-{
-    static const QLocale kEnglish(QLocale::English, QLocale::UnitedStates);
-    return kEnglish.toString(number);
-}
 
 } // namespace
 
@@ -47,12 +40,14 @@ TableCountLine::TableCountLine(QWidget* parent)
 void TableCountLine::setCounts(const Counts& counts)
 {
     QString text = counts.isFiltered
-                       ? tr("Points: %1 of %2").arg(grouped(counts.shown), grouped(counts.all))
-                       : tr("Points: %1").arg(grouped(counts.all));
+                       ? tr("Points: %1 of %2")
+                             .arg(lum::groupedNumber(counts.shown), lum::groupedNumber(counts.all))
+                       : tr("Points: %1").arg(lum::groupedNumber(counts.all));
     if (counts.selected > 0)
-        text += QStringLiteral("    ") + tr("Selected: %1").arg(grouped(counts.selected));
+        text +=
+            QStringLiteral("    ") + tr("Selected: %1").arg(lum::groupedNumber(counts.selected));
     m_counts->setText(text);
-    m_clear->setEnabled(counts.isFiltered);
+    m_clear->setEnabled(counts.isFiltered || !m_note->text().isEmpty()); // or an unreadable one
 }
 
 void TableCountLine::setNote(const QString& html)

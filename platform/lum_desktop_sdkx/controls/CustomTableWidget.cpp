@@ -18,6 +18,7 @@ namespace {
 constexpr int kSampleRows = 50;
 constexpr int kRowPadding = 6;   ///< above and below the text, together
 constexpr int kCellPadding = 18; ///< left and right of the text, together
+constexpr int kArrowRoom = 14;   ///< of the sign for the order, beside a caption
 constexpr int kMaxInitialWidth = 320;
 constexpr int kMinColumnWidth = 36;
 
@@ -273,8 +274,18 @@ void CustomTableWidget::keyPressEvent(QKeyEvent* event)
 
 void CustomTableWidget::mousePressEvent(QMouseEvent* event)
 {
+    m_pressedRow = rowAt(event->pos().y());
     m_pressedColumn = columnAt(event->pos().x());
     QTableView::mousePressEvent(event);
+}
+
+void CustomTableWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    QTableView::mouseReleaseEvent(event);
+    const bool isElsewhere =
+        rowAt(event->pos().y()) != m_pressedRow || columnAt(event->pos().x()) != m_pressedColumn;
+    if (event->button() == Qt::LeftButton && m_pressedRow >= 0 && isElsewhere)
+        Q_EMIT selectedByDrag(); // no click for the base class
 }
 
 QItemSelectionModel::SelectionFlags CustomTableWidget::selectionCommand(const QModelIndex& index,
@@ -306,6 +317,12 @@ void CustomTableWidget::fitColumnsOnce()
     m_fittedColumns = model()->rowCount(rootIndex()) > 0 ? columns : 0;
 }
 
+void CustomTableWidget::widenColumn(int column)
+{
+    if (m_fittedColumns > 0 && !isColumnHidden(column))
+        setColumnWidth(column, std::max(columnWidth(column), wantedWidth(column)));
+}
+
 void CustomTableWidget::hideColumns()
 {
     if (model() == nullptr)
@@ -318,12 +335,24 @@ void CustomTableWidget::hideColumns()
 
 int CustomTableWidget::wantedWidth(int column) const
 {
-    int width = horizontalHeader()->sectionSizeHint(column);
+    const QAbstractItemModel& cells = *model();
     const QFontMetrics metrics = fontMetrics();
-    const int rows = std::min(model()->rowCount(rootIndex()), kSampleRows);
-    for (int row = 0; row < rows; ++row) {
-        const QString text = cellText(model()->index(row, column, rootIndex()));
+    int width =
+        horizontalHeader()->sectionSizeHint(column) + (m_isSortable ? dpi_scaled(kArrowRoom) : 0);
+    const auto widen = [&](const QString& text) {
         width = std::max(width, metrics.horizontalAdvance(text) + dpi_scaled(kCellPadding));
+    };
+    for (const QString& text :
+         cells.headerData(column, Qt::Horizontal, kLongestTextsRole).toStringList())
+        widen(text);
+    const QModelIndex first = cells.index(0, column, rootIndex());
+    const bool isNumber = (first.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0;
+    const QString more = isNumber ? QStringLiteral("-0") : QString(); // the worst are longer
+    const int rows = cells.rowCount(rootIndex());
+    const int samples = std::min(rows, kSampleRows);
+    for (int i = 0; i < samples; ++i) {
+        const auto row = static_cast<int>(static_cast<qint64>(rows) * i / samples);
+        widen(cellText(cells.index(row, column, rootIndex())) + more);
     }
     return std::min(width, dpi_scaled(kMaxInitialWidth));
 }

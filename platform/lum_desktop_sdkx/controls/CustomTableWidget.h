@@ -8,8 +8,8 @@
 
 class FilterHeader;
 
-/// A table for record models of up to half a million rows. All rows have one height. Header and
-/// first rows decide the column widths.
+/// A table for record models of up to half a million rows. All rows have one height. Captions, rows
+/// from all over the table and the longest texts that the model names decide the column widths.
 ///
 /// Clicks and keys select whole rows, and so does a drag within a column; a drag to another column
 /// selects the rectangle of cells. Ctrl+C copies what is selected, Ctrl+Shift+C the captions of its
@@ -24,6 +24,9 @@ public:
         Without,
         With
     };
+
+    /// The role of a heading: texts that its column always has room for (QStringList).
+    static constexpr int kLongestTextsRole = Qt::UserRole + 32;
 
     explicit CustomTableWidget(QWidget* parent = nullptr);
 
@@ -46,6 +49,9 @@ public:
     /// exist.
     void showRow(int row);
 
+    /// Gives a column more room when its texts have become longer than it is wide.
+    void widenColumn(int column);
+
     /// Hides the columns with these captions and shows all others, also after a reset of the model.
     void setHiddenColumns(const QStringList& captions);
 
@@ -67,6 +73,9 @@ Q_SIGNALS:
     /// The user has gone to a cell of another row by key, or pressed Enter on a cell.
     void reachedByKey(const QModelIndex& index);
 
+    /// The user has selected cells of several rows with the mouse held down.
+    void selectedByDrag();
+
     /// \param column -1 for the model's own order
     void orderRequested(int column, Qt::SortOrder order);
 
@@ -75,6 +84,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     [[nodiscard]] QItemSelectionModel::SelectionFlags
     selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
@@ -98,5 +108,6 @@ private:
     bool m_isSortable = false;
     int m_orderColumn = -1;
     Qt::SortOrder m_order = Qt::AscendingOrder;
-    int m_pressedColumn = -1; ///< where a drag began
+    int m_pressedRow = -1; ///< where a drag began
+    int m_pressedColumn = -1;
 };

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QTableView>
 
+#include <algorithm>
 #include <utility>
 
 namespace {

@@ -6,6 +6,7 @@
 #include <vector>
 
 class QLineEdit;
+class QTableView;
 
 /// The header of a table with a row of filter fields under the captions, one a column, which keep
 /// to their columns when these are moved, resized, hidden or scrolled. What a filter means is the

@@ -87,12 +87,19 @@ int decimalsOf(const QString& number)
     return static_cast<int>(last - first);
 }
 
-QString withPoint(const QString& typed)
+/// Whether a comma can only be the decimal point, since the row takes no thousands.
+bool isBelowThousand(const PropertyGridRow& row)
+{
+    return row.editor == Editor::Number && row.minimum && row.maximum && *row.minimum > -1000 &&
+           *row.maximum < 1000;
+}
+
+QString withPoint(const PropertyGridRow& row, const QString& typed)
 {
     QString number = typed.trimmed();
     const QChar comma = QLatin1Char(',');
-    if (QLocale().decimalPoint() == comma && number.count(comma) == 1 &&
-        !number.contains(QLatin1Char('.')))
+    const bool isPoint = isBelowThousand(row) || QLocale().decimalPoint() == comma;
+    if (isPoint && number.count(comma) == 1 && !number.contains(QLatin1Char('.')))
         number.replace(comma, QLatin1Char('.'));
     return number;
 }
@@ -103,7 +110,7 @@ PropertyGridInput readPropertyGridInput(const PropertyGridRow& row, const QStrin
 {
     if (!isNumeric(row))
         return {typed, {}};
-    QString number = withPoint(typed);
+    QString number = withPoint(row, typed);
     bool isNumber = false;
     (void)number.toDouble(&isNumber);
     const auto angle = row.editor == Editor::Angle && !isNumber ? readAngle(number, row.letters)

@@ -13,8 +13,8 @@ struct PropertyGridInput
 };
 
 /// Checks what was typed. A comma is read as the decimal point when the user's language writes it
-/// so, and the text holds no second comma and no point. An empty text is no number. An angle may be
-/// given with minutes and seconds (`readAngle`).
+/// so, or the range of a number has no thousands, and the text holds no second comma and no point.
+/// An empty text is no number. An angle may be given with minutes and seconds (`readAngle`).
 [[nodiscard]] PropertyGridInput readPropertyGridInput(const PropertyGridRow& row,
                                                       const QString& typed);
 

@@ -28,6 +28,9 @@ public:
     /// A few rows: the grid takes the room that is there, but a low dialog need not scroll for it.
     [[nodiscard]] QSize sizeHint() const override;
 
+    /// None: what is typed into a read-only row would go on into the editor of the row it finds.
+    void keyboardSearch(const QString& /*text*/) override {}
+
 protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;

@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/CommandList.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/controls/OpenEdit.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/LayoutText.h"
 #include "lum_desktop_sdkx/frame/Mnemonics.h"
@@ -129,6 +130,7 @@ QString CommandList::captionOf(const Entry& entry)
 
 void CommandList::run(ICommandExecuterx& command)
 {
+    desktop::enterOpenEdit();
     try {
         command.execute();
     } catch (const std::exception& fault) {

@@ -9,12 +9,19 @@
 
 namespace {
 
+/// What has had the focus last, or the first list; of a window with pages on the page that it
+/// shows.
 QWidget& keyboardPart(QWidget& window)
 {
-    if (QWidget* const last = window.focusWidget())
+    QWidget* const last = window.focusWidget();
+    if (last != nullptr && last->isVisibleTo(&window))
         return *last;
-    auto* const list = window.findChild<QAbstractItemView*>();
-    return list != nullptr ? *list : window;
+    const auto lists = window.findChildren<QAbstractItemView*>();
+    for (QAbstractItemView* const list : lists) {
+        if (list->isVisibleTo(&window) && list->focusPolicy() != Qt::NoFocus)
+            return *list;
+    }
+    return window;
 }
 
 } // namespace

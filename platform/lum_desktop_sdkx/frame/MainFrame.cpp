@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_desktop_sdkx/controls/OpenEdit.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/dialogs/ScreenFit.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
@@ -9,6 +10,7 @@
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/PlatformEvents.h"
 
 #include <QAction>
@@ -84,8 +86,7 @@ bool mayClose(IGuiAssistant& assistant)
 
 MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
     : m_host(host), m_docks(makeDockManager(this)), m_menus(*this, host),
-      m_subscription(*this,
-                     std::string(events::kUpdateSystemStatus) + "," + events::kProjectChanged,
+      m_subscription(*this, lum::eventNames({events::kUpdateSystemStatus, events::kProjectChanged}),
                      host.eventManager())
 {
     setObjectName(QStringLiteral("MainFrame"));
@@ -239,6 +240,7 @@ void MainFrame::dropEvent(QDropEvent* event)
 
 void MainFrame::closeEvent(QCloseEvent* event)
 {
+    desktop::enterOpenEdit();
     if (!std::all_of(m_assistants.begin(), m_assistants.end(),
                      [](const auto& assistant) { return mayClose(*assistant); })) {
         event->ignore();

@@ -7,16 +7,19 @@
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_sdk/coords/ShownUnit.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/Text.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegion>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QToolTip>
@@ -52,7 +55,7 @@ bool isWorthFinishing(const Transform& made, const Transform& live)
 MapWindow::MapWindow(const char* config, IDesktopHost* host)
     : m_host(*host), m_reactors(*this),
       m_subscription(*this,
-                     std::string(events::kUpdateSystemStatus) + "," + events::kInitBoundaryRect,
+                     lum::eventNames({events::kUpdateSystemStatus, events::kInitBoundaryRect}),
                      host->eventManager())
 {
     csa_to_dictionary(m_parameters, config != nullptr ? config : "");
@@ -92,6 +95,23 @@ void MapWindow::centerOn(double x, double y)
     m_transform.setView({x, y}, m_transform.GetScale());
     m_fitUntilSeen.reset();
     onViewMoved();
+}
+
+QRegion MapWindow::uncovered() const
+{
+    QRegion free(rect());
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* each : windows) {
+        const QWidget* const parent = each->parentWidget();
+        if (parent == nullptr || parent->window() != window() || !each->isVisible())
+            continue;
+        const Qt::WindowType type = each->windowType();
+        const bool isAbove = type == Qt::Dialog || type == Qt::Tool ||
+                             (type == Qt::Window && each->isActiveWindow()); // or maybe behind
+        if (isAbove && !each->isMinimized())
+            free -= each->frameGeometry().translated(-mapToGlobal(QPoint(0, 0)));
+    }
+    return free;
 }
 
 void MapWindow::zoomIn()

@@ -53,6 +53,7 @@ public:
     void redraw() override;
     void refreshOverlay() override;
     [[nodiscard]] const Transform& transform() const override { return m_transform; }
+    [[nodiscard]] QRegion uncovered() const override;
     [[nodiscard]] ILayerRegistry& layers() override { return m_layers; }
     ILayerViewer* addLayer(const QString& className, const IDictionary& properties) override;
     [[nodiscard]] IOverlay& overlay(int number) override;

@@ -138,14 +138,15 @@ private Q_SLOTS:
             }
         };
         const QByteArray metres = "editor='number' min='0' max='100' decimals='3' unit='m'";
-        check(metres, "0,5", "0.5");
+        check(metres, "0,5", "0.5", "0.5"); // no thousands: the comma is the point
+        check("editor='number' min='0' max='5000'", "0,5", "0.5");
         check(metres, " 7 ", "7", "7");
         check(metres, "0", "0", "0");
         check(metres, "-0.001");
         check(metres, "100.000", "100.000", "100.000");
         check(metres, "100.001");
-        check(metres, "0,125", "0.125"); // as many decimals as allowed
-        check(metres, "0.1250");         // one decimal too many
+        check(metres, "0,125", "0.125", "0.125"); // as many decimals as allowed
+        check(metres, "0.1250");                  // one decimal too many
         check(metres, "");
         check(metres, "5 m");
         check("editor='number'", "nan");

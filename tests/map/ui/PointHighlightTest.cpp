@@ -6,6 +6,8 @@
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 
+#include <QDialog>
+
 #include <cmath>
 
 namespace {
@@ -65,9 +67,39 @@ private Q_SLOTS:
                 const QPoint place = map.window.transform().SurveyToScreen(east, north).toPoint();
                 QCOMPARE(map.picture().pixelColor(place), QColor(isDesign ? Qt::red : Qt::blue));
             }
+            PointHighlight::clear(map.host);
+            map.window.zoomRect(0, 0, 400, 300);
+            PointHighlight::bringIntoView(map.host, design(north, east));
+            QCOMPARE(map.window.transform().center(),
+                     moves ? QPointF(east, north) : QPointF(200, 150));
+            const QPoint place = map.window.transform().SurveyToScreen(east, north).toPoint();
+            QCOMPARE(map.picture().pixelColor(place), QColor(Qt::white));
         }
         QVERIFY(map.host.windowRegistry.activated.isEmpty());
         QVERIFY(map.host.windowRegistry.revealed.isEmpty());
+    }
+
+    void aPointUnderAWindowComesOut()
+    {
+        TestMap map; // 400 x 300 metres
+        QDialog list(&map.window);
+        list.setGeometry(QRect(map.window.mapToGlobal(QPoint(150, 100)), QSize(300, 250)));
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        const auto placeOf = [&](double north, double east) {
+            return map.window.transform().SurveyToScreen(east, north);
+        };
+        PointHighlight::mark(map.host, result(250, 300)); // above the list
+        QCOMPARE(map.window.transform().center(), QPointF(200, 150));
+        PointHighlight::mark(map.host, result(100, 300));
+        QVERIFY(placeOf(100, 300).x() < 140); // beside it, where most room is
+        map.window.zoomRect(0, 0, 4000, 3000);
+        PointHighlight::zoomTo(map.host, result(1000, 3000));
+        QVERIFY(map.window.transform().GetScale() <= 1.0);
+        QVERIFY(placeOf(1000, 3000).x() < 140);
+        list.setGeometry(QRect(map.window.mapToGlobal(QPoint(-10, -50)), QSize(450, 400)));
+        PointHighlight::mark(map.host, result(5000, 7000)); // nothing is free
+        QCOMPARE(map.window.transform().center(), QPointF(7000, 5000));
     }
 
     void aResultHasARingOnlyWhereItWasDesigned()

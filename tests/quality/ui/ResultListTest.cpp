@@ -46,6 +46,7 @@ public:
     {
         return true;
     }
+    void deselect() override {}
     QStringList asked;
 
 private:

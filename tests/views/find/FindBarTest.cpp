@@ -36,6 +36,7 @@ public:
         return true;
     }
     bool followPoint(const QString& /*line*/, const QString& /*point*/) override { return true; }
+    void deselect() override {}
     static inline QStringList asked;
 
 private:

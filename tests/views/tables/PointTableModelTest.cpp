@@ -11,7 +11,6 @@
 #include <QtTest>
 
 #include <cmath>
-#include <random>
 
 class PointTableModelTest : public QObject
 {
@@ -31,7 +30,6 @@ private Q_SLOTS:
     void selectionFollowsItsPoints();
     void failedCellsSayWhy();
     void survivesTheManager();
-    void staysInStepOnARandomWalk();
 
 private:
     SurveyPoint& add(const char* line, const std::string& number, double pdop = 1)
@@ -328,85 +326,6 @@ void PointTableModelTest::survivesTheManager()
     add("L", "2");
     m_model->refresh();
     QCOMPARE(order(), std::string("2"));
-}
-
-void PointTableModelTest::staysInStepOnARandomWalk()
-{
-    std::mt19937 random(7);
-    const auto upTo = [&](int count) {
-        return std::uniform_int_distribution<int>(0, count - 1)(random);
-    };
-    const auto number = [&] { return std::to_string(upTo(60)); };
-    const char* const lines[] = {"1", "2", "石 \"L\"", "100%"};
-    const char* const expressions[] = {"", "> 1", "!2..3", "> x", "1", "= 3; < 1"};
-    const auto change = [&] {
-        SurveyPoints& points = m_manager->surveyPoints();
-        switch (upTo(6)) {
-        case 0:
-            points.erase(lines[upTo(4)], number());
-            break;
-        case 1:
-            points.eraseLine(lines[upTo(4)]);
-            break;
-        case 2:
-            m_manager->checkQuality();
-            break;
-        default:
-            for (int i = 0; i < 20; ++i)
-                add(lines[upTo(4)], number(), upTo(5));
-        }
-    };
-    showSurvey();
-    QItemSelectionModel selection(m_model.get());
-    for (int step = 0; step < 4000; ++step) {
-        if (step == 200)
-            m_tester.reset(); // it looks at every cell again and again
-        const int column = upTo(m_model->columnCount());
-        switch (upTo(12)) {
-        case 0:
-            m_model->sortBy(column, upTo(2) == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
-            break;
-        case 1:
-            m_model->setFilter(column, QString::fromUtf8(expressions[upTo(6)]));
-            break;
-        case 2:
-            m_model->clearFilters();
-            break;
-        case 3:
-            m_model->showLine(QString::fromUtf8(lines[upTo(4)]));
-            break;
-        case 4:
-            m_model->showAllLines();
-            break;
-        case 5:
-            if (upTo(50) == 0) {
-                m_manager.reset();
-                m_model->refresh();
-                m_manager = std::make_unique<DataProcessDataManager>(&m_host);
-            }
-            break;
-        case 6:
-            m_model->refresh();
-            break;
-        case 7:
-            selection.select({m_model->index(upTo(20), 0), m_model->index(20 + upTo(60), 42)},
-                             QItemSelectionModel::Toggle);
-            break;
-        default:
-            change();
-        }
-        for (const QModelIndex& index : selection.selectedRows())
-            Q_UNUSED(index.data());
-        const int row = upTo(std::max(m_model->rowCount(), 1));
-        const PointName name = m_model->pointAt(row);
-        QVERIFY(name.line.empty() || m_model->rowOf(name) == row);
-        for (const int role : {Qt::DisplayRole, Qt::BackgroundRole, Qt::ToolTipRole})
-            Q_UNUSED(m_model->index(row, column).data(role));
-    }
-    m_model->clearFilters();
-    m_model->showAllLines();
-    m_model->refresh();
-    QCOMPARE(m_model->rowCount(), int(m_manager->surveyPoints().pointCount()));
 }
 
 QTEST_MAIN(PointTableModelTest)

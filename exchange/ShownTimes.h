@@ -1,0 +1,12 @@
+#pragma once
+
+#include "basalt_utilities/LocalTimes.h"
+
+#include <string>
+
+/// The time zone of the settings, in which the program shows moments.
+[[nodiscard]] basalt::LocalTimes shownTimes();
+
+/// A moment in that zone, "yyyy/MM/dd hh:mm:ss". For many of them use `shownTimes`.
+/// \param milliseconds since 1970 UTC
+[[nodiscard]] std::string shownTime(std::int64_t milliseconds);
