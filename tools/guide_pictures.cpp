@@ -33,6 +33,7 @@
 namespace {
 
 constexpr int kMargin = 20;
+constexpr int kSmallest = 0;   // the "quality" of the best compressed PNG
 constexpr int kPaintMs = 1500; // longer than the map's worker needs
 constexpr QSize kFrameSize{1440, 900};
 
@@ -87,18 +88,22 @@ class Guide
 public:
     Guide(MainFrame& frame, DesktopHost& host, QString folder)
         : m_frame(frame), m_host(host), m_folder(std::move(folder)),
-          m_table(*m_host.windows().findAs<QWidget>(QStringLiteral("Survey Data List"))->findChild<CustomTableWidget*>())
+          m_table(*m_host.windows()
+                       .findAs<QWidget>(QStringLiteral("Survey Data List"))
+                       ->findChild<CustomTableWidget*>())
     {
     }
 
     void paintAll()
     {
-        paintMap("Design View", "guide-design");
-        paintMap("Survey View", "guide-survey");
+        paintMap("guide-design");
         paintSystem();
         paintLimits();
         DataProcessDataManager::instance().run(kQualityCheck);
         paintFaults();
+        m_host.commands().execute(QStringLiteral("Survey View"));
+        paintMap("guide-survey"); // near the fault; from afar it is a maze
+        m_host.commands().execute(QStringLiteral("Design View"));
         paintWorkingPlace();
         paintColumns();
         paintPoint();
@@ -110,13 +115,12 @@ private:
     {
         const QString file =
             m_folder + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png");
-        m_isComplete = picture.save(file) && m_isComplete;
+        m_isComplete = picture.save(file, "PNG", kSmallest) && m_isComplete;
         std::printf("%s\n", qUtf8Printable(file));
     }
 
-    void paintMap(const char* command, const char* name)
+    void paintMap(const char* name)
     {
-        m_host.commands().execute(QString::fromLatin1(command));
         letItPaint();
         save(m_host.windows().findAs<QWidget>(QStringLiteral("DataMap"))->grab(), name);
     }
@@ -169,14 +173,14 @@ private:
     void paintWorkingPlace()
     {
         auto* const header = m_table.findChild<FilterHeader*>();
-        Q_EMIT header->filterEdited(columnOf("solution_type"), QStringLiteral("float"));
+        Q_EMIT header->filterEdited(columnOf("solution_type"),
+                                    QCoreApplication::translate("CodeTables", "float"));
         const int accuracy = columnOf("horizontal_accuracy");
         for (int click = 0; click < 2; ++click)
             Q_EMIT header->sectionClicked(accuracy);
         const QModelIndex worst = m_table.model()->index(0, accuracy);
         m_table.setCurrentIndex(worst);
         Q_EMIT m_table.clicked(worst);
-        Q_EMIT m_table.doubleClicked(worst);
         letItPaint();
         save(m_frame.grab(), "guide-working-place");
     }
