@@ -13,8 +13,8 @@ using Place = ImportSummary::Findings::Place;
 
 struct Column
 {
-    const char* caption;
-    QString (*shown)(const QString& kind, const Place& place);
+    const char* caption = "";
+    QString (*shown)(const QString& kind, const Place& place) = nullptr;
     Qt::Alignment alignment = Qt::AlignLeft;
 };
 
