@@ -3,6 +3,7 @@
 
 #include "app/ProgramIcon.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/controls/FilterHeader.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
@@ -11,11 +12,15 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ui/DlgProjectSet.h"
+#include "project/ui/DlgSurveyPoint.h"
 #include "protocol/ProductName.h"
 #include "protocol/StatusKeys.h"
 #include "quality/CheckKinds.h"
 #include "quality/ui/DlgQCParamSet.h"
 #include "quality/ui/DlgQCResult.h"
+#include "views/tables/ColumnChoice.h"
+#include "views/tables/DlgSurveyColumns.h"
+#include "views/tables/SurveyTableColumns.h"
 
 #include <QAbstractTableModel>
 #include <QElapsedTimer>
@@ -28,7 +33,48 @@
 namespace {
 
 constexpr int kMargin = 20;
+constexpr int kSmallest = 0;   // the "quality" of the best compressed PNG
 constexpr int kPaintMs = 1500; // longer than the map's worker needs
+constexpr QSize kFrameSize{1440, 900};
+
+/// What the pictures show of the survey table, in this order.
+const QStringList& shownColumns()
+{
+    static const QStringList keys = {
+        QStringLiteral("line_num"),
+        QStringLiteral("point_num"),
+        QStringLiteral("solution_type"),
+        QStringLiteral("horizontal_accuracy"),
+        QStringLiteral("vertical_accuracy"),
+        QStringLiteral("transversal_deviation"),
+        QStringLiteral("longitudinal_deviation"),
+        QStringLiteral("antenna_height"),
+        QStringLiteral("satellite_number"),
+        QStringLiteral("north"),
+        QStringLiteral("east"),
+        QStringLiteral("surveyor"),
+        QStringLiteral("remarks"),
+    };
+    return keys;
+}
+
+void chooseColumns()
+{
+    ColumnChoice choice{shownColumns(), {}};
+    for (const QString& key : surveyTableKeys()) {
+        if (!shownColumns().contains(key)) {
+            choice.order << key;
+            choice.hidden << key;
+        }
+    }
+    setColumnChoice(get_system_ini_parameter().dictionary(), choice);
+}
+
+/// Where the table has a column that the pictures show.
+int columnOf(const char* key)
+{
+    return static_cast<int>(surveyTableKeys().indexOf(QLatin1String(key)));
+}
 
 void letItPaint()
 {
@@ -41,17 +87,26 @@ class Guide
 {
 public:
     Guide(MainFrame& frame, DesktopHost& host, QString folder)
-        : m_frame(frame), m_host(host), m_folder(std::move(folder))
+        : m_frame(frame), m_host(host), m_folder(std::move(folder)),
+          m_table(*m_host.windows()
+                       .findAs<QWidget>(QStringLiteral("Survey Data List"))
+                       ->findChild<CustomTableWidget*>())
     {
     }
 
     void paintAll()
     {
-        paintView("Design View", "guide-design");
-        paintView("Survey View", "guide-survey");
+        paintMap("guide-design");
         paintSystem();
         paintLimits();
+        DataProcessDataManager::instance().run(kQualityCheck);
         paintFaults();
+        m_host.commands().execute(QStringLiteral("Survey View"));
+        paintMap("guide-survey"); // near the fault; from afar it is a maze
+        m_host.commands().execute(QStringLiteral("Design View"));
+        paintWorkingPlace();
+        paintColumns();
+        paintPoint();
     }
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
 
@@ -60,15 +115,14 @@ private:
     {
         const QString file =
             m_folder + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png");
-        m_isComplete = picture.save(file) && m_isComplete;
+        m_isComplete = picture.save(file, "PNG", kSmallest) && m_isComplete;
         std::printf("%s\n", qUtf8Printable(file));
     }
 
-    void paintView(const char* command, const char* name)
+    void paintMap(const char* name)
     {
-        m_host.commands().execute(QString::fromLatin1(command));
         letItPaint();
-        save(m_frame.grab(), name);
+        save(m_host.windows().findAs<QWidget>(QStringLiteral("DataMap"))->grab(), name);
     }
 
     void paintSystem()
@@ -89,24 +143,20 @@ private:
     void paintLimits()
     {
         DlgQCParamSet dialog(&m_frame, DataProcessDataManager::instance().qualityParameters());
-        dialog.show();
-        letItPaint();
-        save(dialog.grab(), "guide-limits");
+        show(dialog, "guide-limits");
     }
 
-    /// The list of faults over the map, which shows the result of the clicked row.
+    /// The list of faults over the frame, which shows the result of the clicked row everywhere.
     void paintFaults()
     {
-        DataProcessDataManager& manager = DataProcessDataManager::instance();
-        manager.run(kQualityCheck);
-        m_frame.resize(1560, 980);
-        DlgQCResult list(m_host, manager.resultOf(kQualityCheck));
+        DlgQCResult list(m_host, DataProcessDataManager::instance().resultOf(kQualityCheck));
         list.setAttribute(Qt::WA_DeleteOnClose, false);
         list.resize(list.minimumSize());
         list.show();
         auto* const table = list.findChild<CustomTableWidget*>();
         table->selectRow(0);
         Q_EMIT table->clicked(table->model()->index(0, 0));
+        Q_EMIT table->doubleClicked(table->model()->index(0, 0));
         letItPaint();
         QPixmap picture = m_frame.grab();
         QPainter painter(&picture);
@@ -119,9 +169,50 @@ private:
         save(picture, "guide-faults");
     }
 
+    /// The float solutions of all lines, the least accurate first and selected.
+    void paintWorkingPlace()
+    {
+        auto* const header = m_table.findChild<FilterHeader*>();
+        Q_EMIT header->filterEdited(columnOf("solution_type"),
+                                    QCoreApplication::translate("CodeTables", "float"));
+        const int accuracy = columnOf("horizontal_accuracy");
+        for (int click = 0; click < 2; ++click)
+            Q_EMIT header->sectionClicked(accuracy);
+        const QModelIndex worst = m_table.model()->index(0, accuracy);
+        m_table.setCurrentIndex(worst);
+        Q_EMIT m_table.clicked(worst);
+        letItPaint();
+        save(m_frame.grab(), "guide-working-place");
+    }
+
+    void paintColumns()
+    {
+        DlgSurveyColumns dialog(&m_frame, m_host.eventManager());
+        show(dialog, "guide-columns");
+    }
+
+    /// The editor of the result in the first row, with another antenna height.
+    void paintPoint()
+    {
+        const auto text = [this](const char* key) {
+            return m_table.model()->index(0, columnOf(key)).data().toString().toStdString();
+        };
+        DlgSurveyPoint dialog(&m_frame, {text("line_num"), text("point_num")});
+        dialog.findChildren<QLineEdit*>()[2]->setText(QStringLiteral("1.8"));
+        show(dialog, "guide-point");
+    }
+
+    void show(QDialog& dialog, const char* name)
+    {
+        dialog.show();
+        letItPaint();
+        save(dialog.grab(), name);
+    }
+
     MainFrame& m_frame;
     DesktopHost& m_host;
     QString m_folder;
+    CustomTableWidget& m_table; ///< of the results
     bool m_isComplete = true;
 };
 
@@ -145,10 +236,11 @@ int main(int argc, char* argv[])
                                                             : LumMessageBox::Button::Ok;
     });
     get_system_ini_parameter().load(basalt::toolFolder() + "/data_process_5.sys");
+    chooseColumns();
     MainFrame& frame = application.mainFrame();
     frame.setTitle(QLatin1String(kProductName));
     frame.show();
-    frame.resize(1280, 800);
+    frame.resize(kFrameSize);
     letItPaint();
     if (!frame.openFile(project))
         return 1;
