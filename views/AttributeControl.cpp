@@ -260,6 +260,8 @@ void AttributeControl::writeNotes()
         m_shown.point.line, m_shown.point.point);
     PropertyGridCtrl& grid = m_survey->grid();
     grid.setRowNote(QStringLiteral("quality_standard"), faultsOf(*point));
+    if (!isSameLength(point->elevation, m_notedElevationM))
+        m_antennaNote.clear(); // something else has changed the result since
     grid.setRowNote(QString::fromLatin1(kAntennaHeight), m_antennaNote);
 }
 
@@ -298,6 +300,7 @@ void AttributeControl::noteMove(const SurveyPoint& point, double elevationBefore
 {
     const double moved = point.elevation - elevationBefore;
     const QString amount = fixed(std::fabs(moved));
+    m_notedElevationM = point.elevation;
     m_antennaNote =
         moved == 0  ? tr("The heights have stayed as they were.")
         : moved < 0 ? tr("The heights are %1 m lower now. The quality is that of the last check.")

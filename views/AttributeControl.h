@@ -73,5 +73,6 @@ private:
     Shown m_shown;
     bool m_movesHeights = true;
     bool m_isRefreshDue = false;
-    QString m_antennaNote; ///< what the last corrected antenna height has done
+    QString m_antennaNote;        ///< what the last corrected antenna height has done
+    double m_notedElevationM = 0; ///< to this elevation
 };
