@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 
+#include "lum_desktop_sdkx/controls/CellDelegate.h"
 #include "lum_desktop_sdkx/controls/FilterHeader.h"
 #include "lum_sdk/DpiScale.h"
 
@@ -44,6 +45,7 @@ CustomTableWidget::CustomTableWidget(QWidget* parent) : QTableView(parent)
     setCornerButtonEnabled(false);
     setTabKeyNavigation(false);
     setHorizontalScrollMode(ScrollPerPixel);
+    setItemDelegate(new CellDelegate(this));
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setUpHeader();
