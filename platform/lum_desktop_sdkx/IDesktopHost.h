@@ -10,6 +10,7 @@ class ICoordTransformHelper;
 class IDictionary;
 class IGuiAssistant;
 class IWindowRegistry;
+class QString;
 class QWidget;
 struct DesktopDocument;
 
@@ -27,6 +28,9 @@ public:
     /// Shows in the frame's title what is open.
     virtual void setDocument(const DesktopDocument& document) = 0;
     [[nodiscard]] virtual bool hasDocument() const = 0;
+
+    /// Shows a sentence in the status bar until the next one comes or another document is open.
+    virtual void tell(const QString& sentence) = 0;
 };
 
 /// The helper of the host that converts project coordinates to map coordinates and back.

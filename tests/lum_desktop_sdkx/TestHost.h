@@ -72,11 +72,13 @@ public:
     [[nodiscard]] QWidget* dialogParent() override { return frame; }
     void setDocument(const DesktopDocument& open) override { document = open; }
     [[nodiscard]] bool hasDocument() const override { return !document.name.isEmpty(); }
+    void tell(const QString& sentence) override { told = sentence; }
 
     EventManager events;
     TestWindowRegistry windowRegistry;
     QWidget* frame = nullptr;
     DesktopDocument document; ///< as the title shows it
+    QString told;             ///< the sentence in the status bar
     TestCommandList commandList;
     CoordTransformHelper coordHelper;
 };

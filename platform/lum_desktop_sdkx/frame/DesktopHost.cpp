@@ -10,6 +10,12 @@ void DesktopHost::setDocument(const DesktopDocument& document)
         m_frame->setDocument(document);
 }
 
+void DesktopHost::tell(const QString& sentence)
+{
+    if (m_frame != nullptr)
+        m_frame->tell(sentence);
+}
+
 void DesktopHost::setFrame(IMainFrame* frame, QWidget* dialogParent)
 {
     m_frame = frame;

@@ -19,6 +19,7 @@ public:
     [[nodiscard]] QWidget* dialogParent() override { return m_dialogParent; }
     void setDocument(const DesktopDocument& document) override;
     [[nodiscard]] bool hasDocument() const override { return m_hasDocument; }
+    void tell(const QString& sentence) override;
 
     /// Both parameters are the same window; null while there is none.
     void setFrame(IMainFrame* frame, QWidget* dialogParent);

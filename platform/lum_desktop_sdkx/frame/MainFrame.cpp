@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/DockStyle.h"
 #include "lum_desktop_sdkx/frame/FrameState.h"
+#include "lum_desktop_sdkx/frame/StatusText.h"
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "lum_sdk/DpiScale.h"
@@ -85,7 +86,8 @@ bool mayClose(IGuiAssistant& assistant)
 } // namespace
 
 MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
-    : m_host(host), m_docks(makeDockManager(this)), m_menus(*this, host),
+    : m_host(host), m_docks(makeDockManager(this)), m_statusText(new StatusText(this)),
+      m_menus(*this, host),
       m_subscription(*this, lum::eventNames({events::kUpdateSystemStatus, events::kProjectChanged}),
                      host.eventManager())
 {
@@ -94,6 +96,7 @@ MainFrame::MainFrame(DesktopHost& host, const FrameLayout& layout)
     m_host.setFrame(this, this);
     m_host.windows().attach(m_docks, statusBar());
     fixHeight(*statusBar());
+    statusBar()->addWidget(m_statusText, 1); // the tips of menus cover it for a while
     connect(m_docks, &ads::CDockManager::floatingWidgetCreated, this, &MainFrame::adoptFloating);
     makeAssistants(layout);
     m_menus.add(layout);
@@ -122,8 +125,15 @@ void MainFrame::setTitle(const QString& title)
 
 void MainFrame::setDocument(const DesktopDocument& document)
 {
+    if (document.name != m_document.name)
+        tell({});
     m_document = document;
     showTitle();
+}
+
+void MainFrame::tell(const QString& sentence)
+{
+    m_statusText->setText(sentence);
 }
 
 bool MainFrame::openFile(const QString& path)

@@ -14,6 +14,7 @@
 #include <vector>
 
 class DesktopHost;
+class StatusText;
 struct FrameLayout;
 struct FrameState;
 
@@ -34,6 +35,7 @@ public:
 
     void setTitle(const QString& title) override;
     void setDocument(const DesktopDocument& document) override;
+    void tell(const QString& sentence) override;
     /// Shows the frame in the arrangement of the last session.
     void show() override;
 
@@ -80,6 +82,7 @@ private:
 
     DesktopHost& m_host; // outlives the frame
     ads::CDockManager* m_docks;
+    StatusText* m_statusText;
     FrameMenus m_menus;
     std::vector<IGuiAssistantFactory::Pointer> m_assistants;
     QString m_title;
