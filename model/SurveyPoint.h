@@ -54,8 +54,9 @@ struct SurveyPoint
     double resurveyXDiff = 0;
     double resurveyYDiff = 0;
     double resurveyHDiff = 0;
-    double seaHeight = 0; ///< derived from the position, never stored
-    double ageOfDiff = 0; ///< age of the differential corrections, seconds
+    std::string pairedNumber; ///< of its resurvey, or of what it resurveys; never stored
+    double seaHeight = 0;     ///< derived from the position, never stored
+    double ageOfDiff = 0;     ///< age of the differential corrections, seconds
     std::string satDetail;
     std::int64_t startTime = 0;
     std::int64_t endTime = 0;

@@ -1,8 +1,8 @@
 #include "quality/QualityCheck.h"
 
-#include "basalt_utilities/ILogger.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/QualityLimits.h"
+#include "quality/UnplacedResults.h"
 
 #include <QCoreApplication>
 
@@ -36,33 +36,6 @@ int faults(bool first, bool second)
     return (first ? 1 : 0) + (second ? 2 : 0);
 }
 
-/// Names the results whose position is not a number in the log. A comparison with such a position
-/// is always false, so the check finds no fault in them.
-class Unplaced
-{
-public:
-    void examine(const SurveyPoint& point)
-    {
-        if (!std::isnan(point.north) && !std::isnan(point.east) && !std::isnan(point.elevation))
-            return;
-        if (++m_count <= kNamed)
-            m_names += (m_count == 1 ? "" : ", ") + point.lineNumber + '/' + point.pointNumber;
-    }
-    void warn() const
-    {
-        if (m_count == 0)
-            return;
-        basalt::logWarning(
-            "Results whose position is no number, and so passes: " + std::to_string(m_count) +
-            " (" + m_names + (m_count > kNamed ? ", ...)" : ")"));
-    }
-
-private:
-    static constexpr std::size_t kNamed = 5;
-    std::size_t m_count = 0;
-    std::string m_names;
-};
-
 } // namespace
 
 int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
@@ -71,9 +44,9 @@ int qualityCode(const SurveyPoint& point, const QualityLimits& limits)
     const double north = (point.north - point.designNorth) * unitM;
     const double east = (point.east - point.designEast) * unitM;
     const auto& line = limits.lineDeviation(point.pointMark);
-    const int design =
-        faults(std::sqrt(north * north + east * east) > limits.designHorizontalM,
-               std::fabs(point.elevation - point.designElevation) > limits.designVerticalM);
+    const int design = faults(
+        std::sqrt(north * north + east * east) > limits.designHorizontalM + kRoundingM,
+        std::fabs(point.elevation - point.designElevation) > limits.designVerticalM + kRoundingM);
     const int accuracy = faults(std::fabs(point.horizontalAccuracy) > limits.hrmsM,
                                 std::fabs(point.verticalAccuracy) > limits.vrmsM);
     const int dilution =
@@ -94,7 +67,7 @@ void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressR
     limits.planeUnitM = planeUnitM;
     const std::string caption =
         QCoreApplication::translate("QualityCheck", "Check Survey Line:").toStdString();
-    Unplaced unplaced;
+    UnplacedResults unplaced;
     for (auto& [number, line] : points) {
         ProgressSteps steps(progress, caption + number, line.size());
         for (SurveyPoint& point : line) {

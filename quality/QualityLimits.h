@@ -44,6 +44,10 @@ inline constexpr std::array<QualityParameter, 20> kQualityParameters{{
 /// below its minimum, or a minus. Empty when there is nothing to say.
 [[nodiscard]] QString qualityParameterNote(const IDictionary& parameters, std::string_view key);
 
+/// What a difference of coordinates may exceed its limit by and still be on it: 4000000.3 and
+/// 4000000 differ by a little more than 0.3 in memory. Far below the last digit of a measurement.
+inline constexpr double kRoundingM = 1e-6;
+
 /// The limits of the quality check. The minus of a negative limit is ignored. A limit that is not a
 /// number is 0.
 struct QualityLimits

@@ -1,36 +1,24 @@
 #include "quality/QualityResultModel.h"
 
-#include "basalt_utilities/Numbers.h"
-#include "model/PointNumber.h"
 #include "quality/ResultModel.h"
 
 #include <array>
 
 namespace {
 
-constexpr int kDecimals = 3;
-
-QString number(double value)
-{
-    return QString::fromStdString(basalt::formatFixed(value, kDecimals));
-}
-
 using Column = ResultColumn<QualityRow>;
 
 // The whole table: one line here is one column on the screen and in a file.
 constexpr std::array kColumns{
-    Column{
-        QT_TRANSLATE_NOOP("ResultModel", "Point Num"),
-        [](const QualityRow& row) { return lum::toQString(writtenPointNumber(row.pointNumber)); }},
-    Column{QT_TRANSLATE_NOOP("ResultModel", "Line Num"),
-           [](const QualityRow& row) { return lum::toQString(row.lineNumber); }},
+    Column{QT_TRANSLATE_NOOP("ResultModel", "Point Num"), result_text::pointNumber<QualityRow>},
+    Column{QT_TRANSLATE_NOOP("ResultModel", "Line Num"), result_text::lineNumber<QualityRow>},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Describe"),
            [](const QualityRow& row) { return row.text(); },
            [](const QualityRow& row) { return row.explanationText(); }},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Value"),
-           [](const QualityRow& row) { return number(row.value); }},
+           [](const QualityRow& row) { return result_text::number(row.value); }},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Limit"),
-           [](const QualityRow& row) { return number(row.limit); }},
+           [](const QualityRow& row) { return result_text::number(row.limit); }},
 };
 
 } // namespace

@@ -23,6 +23,11 @@ JudgedValue atMost(double value, double limit)
     return {value, limit, value > limit ? Verdict::IsOver : Verdict::Passes};
 }
 
+JudgedValue atMostFromDesign(double value, double limit)
+{
+    return {value, limit, value > limit + kRoundingM ? Verdict::IsOver : Verdict::Passes};
+}
+
 JudgedValue atMostEitherWay(double value, double limit)
 {
     return {value, limit, std::fabs(value) > limit ? Verdict::IsOver : Verdict::Passes};
@@ -49,7 +54,7 @@ constexpr QualityTest kDesignHorizontal{
     [](const Point& point, const Limits& limits) {
         const double north = (point.north - point.designNorth) * limits.planeUnitM;
         const double east = (point.east - point.designEast) * limits.planeUnitM;
-        return atMost(std::sqrt(north * north + east * east), limits.designHorizontalM);
+        return atMostFromDesign(std::sqrt(north * north + east * east), limits.designHorizontalM);
     },
     {&Point::north, &Point::east},
     QT_TRANSLATE_NOOP("QualityTests", "Horizontal distance from the design"),
@@ -59,7 +64,8 @@ constexpr QualityTest kDesignVertical{
     0,
     2,
     [](const Point& point, const Limits& limits) {
-        return atMost(std::fabs(point.elevation - point.designElevation), limits.designVerticalM);
+        return atMostFromDesign(std::fabs(point.elevation - point.designElevation),
+                                limits.designVerticalM);
     },
     {&Point::elevation, &Point::elevation},
     QT_TRANSLATE_NOOP("QualityTests", "Difference in height from the design"),

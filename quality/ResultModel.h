@@ -1,6 +1,8 @@
 #pragma once
 
+#include "basalt_utilities/Numbers.h"
 #include "lum_sdk/Text.h"
+#include "model/PointNumber.h"
 
 #include <QAbstractTableModel>
 #include <QCoreApplication>
@@ -15,7 +17,38 @@ namespace result_role {
 inline constexpr int kPointNumber = Qt::UserRole + 5; ///< of a cell
 inline constexpr int kLineNumber = Qt::UserRole + 6;  ///< of a cell
 inline constexpr int kEnglish = Qt::UserRole;         ///< of a header: its caption in English
+inline constexpr int kIsFault = Qt::UserRole + 1;     ///< of a cell: its value is out of range
 } // namespace result_role
+
+/// The texts of cells.
+namespace result_text {
+
+/// Without the counter of a check point.
+template <class Row>
+QString pointNumber(const Row& row)
+{
+    return lum::toQString(writtenPointNumber(row.pointNumber));
+}
+
+template <class Row>
+QString lineNumber(const Row& row)
+{
+    return lum::toQString(row.lineNumber);
+}
+
+/// Of a receiver or a source.
+inline QString kind(bool isReceiver)
+{
+    return isReceiver ? QStringLiteral("R") : QStringLiteral("S");
+}
+
+/// With three decimals, as every number of a result.
+inline QString number(double value)
+{
+    return QString::fromStdString(basalt::formatFixed(value, 3));
+}
+
+} // namespace result_text
 
 /// A column of a check's result.
 template <class Row>
@@ -24,6 +57,7 @@ struct ResultColumn
     const char* caption = nullptr; ///< in English; its translation has the context "ResultModel"
     QString (*text)(const Row& row) = nullptr;
     QString (*toolTip)(const Row& row) = nullptr;
+    bool (*isFault)(const Row& row) = nullptr;
 };
 
 /// The result of a check as a table of centred texts. A cell is formatted when it is asked for.
@@ -57,6 +91,8 @@ public:
             return column.text(row);
         if (role == Qt::ToolTipRole && column.toolTip != nullptr)
             return column.toolTip(row);
+        if (role == result_role::kIsFault && column.isFault != nullptr)
+            return column.isFault(row);
         if (role == Qt::TextAlignmentRole)
             return int(Qt::AlignCenter);
         if (index.column() == 0 && role == result_role::kPointNumber)

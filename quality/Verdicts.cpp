@@ -1,0 +1,22 @@
+#include "quality/Verdicts.h"
+
+Verdicts verdictsOf(const DesignPoints& design, const SurveyPoints& survey)
+{
+    Verdicts found;
+    const std::size_t results = survey.pointCount();
+    found.codes.reserve(design.pointCount() + 2 * results);
+    found.differences.reserve(3 * results);
+    for (const auto& [number, line] : design) {
+        for (const DesignPoint& point : line)
+            found.codes.push_back(point.status);
+    }
+    for (const auto& [number, line] : survey) {
+        for (const SurveyPoint& point : line) {
+            found.codes.insert(found.codes.end(), {point.qualityStandard, point.isResurvey});
+            found.differences.insert(
+                found.differences.end(),
+                {point.resurveyXDiff, point.resurveyYDiff, point.resurveyHDiff});
+        }
+    }
+    return found;
+}
