@@ -26,7 +26,10 @@
 #include "project/ui/SysSettingCommand.h"
 #include "project/ui/TimeZomeDlgCommand.h"
 #include "quality/ui/DataInspectionCommand.h"
+#include "quality/ui/EmptyPointCheckCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
+#include "quality/ui/RepeatPointCheckCommand.h"
+#include "quality/ui/ReSurveyPointCheckCommand.h"
 #include "views/AttributeControl.h"
 #include "views/find/FindCommand.h"
 #include "views/tables/DesignLineTable.h"
@@ -62,6 +65,9 @@ using namespace desktop::registration;
     command<TimeZomeDlgCommand>         ("TimeZomeDlgCommand",           "时区修改"),
     command<QualitySpecificateCommand>  ("QualitySpecificateCommand",    "质量规范"),
     command<DataInspectionCommand>      ("DataInspectionCommand",        "数据检查"),
+    command<EmptyPointCheckCommand>     ("EmptyPointCheckCommand",       "空点检查"),
+    command<ReSurveyPointCheckCommand>  ("ReSurveyPointCheckCommand",    "复测点检查"),
+    command<RepeatPointCheckCommand>    ("RepeatPointCheckCommand",      "重复点检查"),
     command<ImportCommand>              ("ImportCommand",                "导入数据"),
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),

@@ -34,8 +34,9 @@
 #include "quality/CheckKinds.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
+#include "quality/ResurveyResult.h"
+#include "quality/Verdicts.h"
 
-#include <QAbstractTableModel>
 #include <QCoreApplication>
 #include <QFile>
 
@@ -89,17 +90,6 @@ Outcome noSuchPoint(const PointName& name)
             .arg(QString::fromStdString(name.line), QString::fromStdString(name.point)));
 }
 
-/// What the checks have found in each result.
-std::vector<int> verdicts(const SurveyPoints& points)
-{
-    std::vector<int> codes;
-    codes.reserve(points.pointCount());
-    for (const auto& [number, line] : points) {
-        for (const SurveyPoint& point : line)
-            codes.push_back(point.qualityStandard);
-    }
-    return codes;
-}
 } // namespace
 
 DataProcessDataManager::DataProcessDataManager(IHost* host)
@@ -376,6 +366,8 @@ int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QStr
         QStringList texts;
         for (const QualityRow& row : rows)
             texts << row.text();
+        if (const QString fault = resurveyFault(point); !fault.isEmpty())
+            texts << fault;
         return texts.join(QLatin1Char(' '));
     };
     return exportTo(path, outcome, [&](ProgressReporter& progress) {
@@ -493,14 +485,16 @@ CheckedData DataProcessDataManager::checkedData()
 
 void DataProcessDataManager::run(const CheckKind& check)
 {
+    if (check.run == nullptr)
+        return;
     ProgressReporter progress(&m_host.eventManager());
-    const std::vector<int> before = verdicts(m_survey);
+    const Verdicts before = verdictsOf(m_design, m_survey);
     check.run(checkedData(), progress);
-    if (verdicts(m_survey) != before)
+    if (verdictsOf(m_design, m_survey) != before)
         markChanged();
 }
 
-std::unique_ptr<QAbstractTableModel> DataProcessDataManager::resultOf(const CheckKind& check)
+CheckResult DataProcessDataManager::resultOf(const CheckKind& check)
 {
     return check.result(checkedData());
 }
@@ -508,6 +502,18 @@ std::unique_ptr<QAbstractTableModel> DataProcessDataManager::resultOf(const Chec
 int DataProcessDataManager::checkQuality()
 {
     run(kQualityCheck);
+    return 1;
+}
+
+int DataProcessDataManager::checkEmptyPoints()
+{
+    run(kEmptyPointCheck);
+    return 1;
+}
+
+int DataProcessDataManager::checkResurveys()
+{
+    run(kResurveyCheck);
     return 1;
 }
 

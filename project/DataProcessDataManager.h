@@ -17,9 +17,9 @@
 #include <vector>
 
 class IHost;
-class QAbstractTableModel;
 struct CheckedData;
 struct CheckKind;
+struct CheckResult;
 struct DesignCorrection;
 struct ImportSummary;
 struct QualityLimits;
@@ -140,13 +140,18 @@ public:
 
     // The checks of quality/CheckKinds.h.
 
-    /// Runs a check; it writes its verdicts on the points in memory.
+    /// Runs a check, which writes its verdicts on the points in memory; one that only lists does
+    /// nothing.
     void run(const CheckKind& check);
-    /// What the last run of a check found, a row each.
-    [[nodiscard]] std::unique_ptr<QAbstractTableModel> resultOf(const CheckKind& check);
+    /// What the last run of a check found.
+    [[nodiscard]] CheckResult resultOf(const CheckKind& check);
 
     /// Judges every survey result by the quality parameters. \returns 1
     int checkQuality();
+    /// Writes on every design point whether it is surveyed. \returns 1
+    int checkEmptyPoints();
+    /// Compares every resurvey with the first result. \returns 1
+    int checkResurveys();
     /// The limits of the quality check in force, for coordinates in the project's unit.
     [[nodiscard]] QualityLimits qualityLimits() const;
     /// The faults that the last quality check found in one result.

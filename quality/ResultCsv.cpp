@@ -1,6 +1,7 @@
 #include "quality/ResultCsv.h"
 
 #include "lum_sdk/files/WholeFileWriter.h"
+#include "quality/ResultModel.h"
 
 #include <QAbstractTableModel>
 #include <QCoreApplication>
@@ -17,9 +18,12 @@ QByteArray field(const QVariant& value)
 
 } // namespace
 
-void formatResultCsv(const QAbstractTableModel& result, int captionRole,
+void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind,
                      const std::function<void(std::string_view line)>& write)
 {
+    const bool isForScripts = kind == ResultCsv::ForScripts;
+    const int captionRole = isForScripts ? result_role::kEnglish : Qt::DisplayRole;
+    const int numberRole = isForScripts ? result_role::kPointNumber : Qt::DisplayRole;
     const int columns = result.columnCount();
     QByteArray line;
     const auto writeLine = [&](const auto& valueOf) {
@@ -30,14 +34,16 @@ void formatResultCsv(const QAbstractTableModel& result, int captionRole,
     };
     writeLine([&](int column) { return result.headerData(column, Qt::Horizontal, captionRole); });
     for (int row = 0; row < result.rowCount(); ++row)
-        writeLine([&](int column) { return result.index(row, column).data(); });
+        writeLine([&](int column) {
+            return result.index(row, column).data(column == 0 ? numberRole : Qt::DisplayRole);
+        });
 }
 
-Outcome writeResultCsv(const QString& file, const QAbstractTableModel& result, int captionRole)
+Outcome writeResultCsv(const QString& file, const QAbstractTableModel& result, ResultCsv kind)
 {
     lum::WholeFileWriter writer(file);
     if (writer.fault().isEmpty())
-        formatResultCsv(result, captionRole, [&](std::string_view line) { writer.write(line); });
+        formatResultCsv(result, kind, [&](std::string_view line) { writer.write(line); });
     const QString reason = writer.commit();
     if (reason.isEmpty())
         return Outcome::done();

@@ -21,6 +21,7 @@
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
 #include "quality/QualityDescription.h"
+#include "quality/ResurveyResult.h"
 #include "views/AttributePage.h"
 #include "views/AttributeValues.h"
 #include "views/SelectedPoint.h"
@@ -87,6 +88,8 @@ QString faultsOf(const SurveyPoint& point)
         lines << AttributeControl::tr("%1: %2 (limit %3)")
                      .arg(text, fixed(row.value), fixed(row.limit));
     }
+    if (const QString fault = resurveyFault(point); !fault.isEmpty())
+        lines << fault;
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -98,8 +101,9 @@ AttributeControl::AttributeControl(const char* config, IDesktopHost* host)
       m_changes(*this,
                 lum::eventNames({events::kRefreshSurveyTable, events::kRefreshDesignTable,
                                  events::kClearSurveyTable, events::kRefreshSurveyLayer,
-                                 events::kRefreshDesignLayer, events::kProjectChanged,
-                                 events::kSettingViewFinished, events::kUpdateSystemStatus}),
+                                 events::kRefreshDesignLayer, events::kResurveysChecked,
+                                 events::kProjectChanged, events::kSettingViewFinished,
+                                 events::kUpdateSystemStatus}),
                 host->eventManager()),
       m_pages(new QStackedWidget(this)),
       m_empty(new QLabel(tr("Select a point on the map or in a table."), m_pages)),

@@ -2,13 +2,9 @@
 
 #include "app/cli/CliArguments.h"
 #include "app/cli/CliProject.h"
-#include "lum_sdk/coords/ICoordTransform.h"
-#include "lum_sdk/coords/LengthUnit.h"
-#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "protocol/Outcome.h"
 #include "quality/CheckKinds.h"
 #include "quality/ResultCsv.h"
-#include "quality/ResultModel.h"
 
 #include <cstdio>
 
@@ -18,25 +14,14 @@ namespace {
 Outcome print(const QAbstractTableModel& result, const QString& file)
 {
     if (file.isEmpty()) {
-        formatResultCsv(result, result_role::kEnglish, [](std::string_view line) {
+        formatResultCsv(result, ResultCsv::ForScripts, [](std::string_view line) {
             std::fwrite(line.data(), 1, line.size(), stdout);
         });
         return Outcome::done();
     }
-    const Outcome outcome = writeResultCsv(file, result, result_role::kEnglish);
+    const Outcome outcome = writeResultCsv(file, result, ResultCsv::ForScripts);
     return outcome.isDone() ? Outcome::done()
                             : Outcome::failed(QString::fromStdString(outcome.detail()));
-}
-
-/// Says in which unit the lengths are, where it is not that of the coordinates.
-void tellUnit()
-{
-    const lum::LengthUnit unit = lum::lengthUnitOf(get_project_coord_transform().parameters());
-    if (!lum::isMetre(unit))
-        std::fprintf(stderr,
-                     "Lengths are in metres; coordinates and line deviations are in another unit: "
-                     "%s.\n",
-                     unit.name.c_str());
 }
 
 } // namespace
@@ -48,14 +33,23 @@ Outcome checkProject(const CliArguments& arguments)
     if (check == nullptr)
         return Outcome::refused(QStringLiteral("there is no check \"%1\"; there is %2")
                                     .arg(name, QString::fromStdString(checkNames(", "))));
+    const bool writes = check->run != nullptr;
     CliProject project;
-    if (Outcome opening = project.open(arguments.places[0], ProjectAccess::Change);
+    if (Outcome opening =
+            project.open(arguments.places[0], writes ? ProjectAccess::Change : ProjectAccess::Look);
         !opening.isDone())
         return opening;
     project.manager().run(*check);
-    tellUnit();
-    const auto result = project.manager().resultOf(*check);
-    if (Outcome saving = project.save(); !saving.isDone())
-        return saving;
-    return print(*result, arguments.option(QStringLiteral("--out")));
+    const CheckResult result = project.manager().resultOf(*check);
+    if (const QString note = unitNoteOf(*check); !note.isEmpty())
+        std::fprintf(stderr, "%s\n", note.toUtf8().constData());
+    if (writes) {
+        if (Outcome saving = project.save(); !saving.isDone())
+            return saving;
+    }
+    const QString file = arguments.option(QStringLiteral("--out"));
+    Outcome printing = print(*result.rows, file);
+    if (printing.isDone() && !file.isEmpty())
+        std::printf("%s.\n", result.finding.toUtf8().constData());
+    return printing;
 }

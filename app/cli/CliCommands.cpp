@@ -43,7 +43,7 @@ constexpr std::array kCommands{
                "paint the whole map into a picture",
                3, 3, "--size", "", renderProject, true},
     CliCommand{"check", "PROJECT CHECK [--out FILE]",
-               "check the survey results, print the faults as CSV",
+               "check the project, print what is found as CSV (repeat only lists, and changes nothing)",
                2, 2, "--out", "", checkProject},
 };
 // clang-format on

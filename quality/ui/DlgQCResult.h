@@ -8,5 +8,5 @@ class DlgQCResult final : public ResultList
     Q_OBJECT
 
 public:
-    DlgQCResult(IDesktopHost& host, std::unique_ptr<QAbstractTableModel> result);
+    DlgQCResult(IDesktopHost& host, CheckResult result);
 };

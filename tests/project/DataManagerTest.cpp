@@ -122,7 +122,9 @@ TEST_F(DataManager, KnowsWhatIsNotSaved)
     using Operation = std::function<void()>;
     for (const Operation& change : {Operation([&] { manager.importDesignCsv(design); }),
                                     Operation([&] { manager.importSurveyCsv(survey); }),
-                                    Operation([&] { manager.checkQuality(); }), Operation([&] {
+                                    Operation([&] { manager.checkQuality(); }),
+                                    Operation([&] { manager.checkEmptyPoints(); }),
+                                    Operation([&] { manager.checkResurveys(); }), Operation([&] {
                                         basalt::Dictionary system;
                                         system.set("org_lon", "117");
                                         manager.setCoordSystem(system);
@@ -130,12 +132,16 @@ TEST_F(DataManager, KnowsWhatIsNotSaved)
         change();
         EXPECT_TRUE(manager.isChanged());
         manager.clear();
-        manager.surveyPoints().set(surveyPoint("L", "P"));
+        manager.surveyPoints().set(surveyPoint("L", "PF"));
+        DesignPoint surveyed;
+        surveyed.lineNumber = "L";
+        surveyed.pointNumber = "PF";
+        manager.designPoints().set(surveyed);
     }
-    EXPECT_EQ(changes.names().size(), 4U);
+    EXPECT_EQ(changes.names().size(), 6U);
     manager.checkQuality();
     manager.markChanged();
-    EXPECT_EQ(changes.names().size(), 5U) << "told once";
+    EXPECT_EQ(changes.names().size(), 7U) << "told once";
 }
 
 TEST_F(DataManager, ImportedResultsHaveSeaHeightsAndAreNotSaved)

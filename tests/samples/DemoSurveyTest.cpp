@@ -10,8 +10,12 @@
 #include "lum_sdk/files/DictionaryXml.h"
 #include "model/CodeTables.h"
 #include "model/PointNumber.h"
+#include "quality/EmptyPointCheck.h"
 #include "quality/QualityCheck.h"
 #include "quality/QualityLimits.h"
+#include "quality/RepeatPoints.h"
+#include "quality/ResurveyCheck.h"
+#include "quality/ResurveyResult.h"
 #include "samples/DemoFiles.h"
 #include "samples/ResultCompleter.h"
 #include "samples/Terrain.h"
@@ -113,13 +117,6 @@ void forEachResult(Use use)
     }
 }
 
-/// The largest of the three differences between two results of one stake, metres.
-double largestDifference(const SurveyPoint& a, const SurveyPoint& b)
-{
-    return std::max({std::fabs(a.north - b.north), std::fabs(a.east - b.east),
-                     std::fabs(a.elevation - b.elevation)});
-}
-
 } // namespace
 
 TEST(DemoSurvey, EveryLineIsReadAndEachKindIsThereAsPlanned)
@@ -162,18 +159,23 @@ TEST(DemoSurvey, QualityCheckFindsWhatIsPlantedAndNothingElse)
     EXPECT_TRUE(expected.empty()) << expected.begin()->first << " does not exist";
 }
 
-TEST(DemoSurvey, MissingPointsAreTheDesignPointsWithoutResult)
+TEST(DemoSurvey, EmptyPointCheckFindsWhatIsPlantedAndNothingElse)
 {
-    Places withoutResult;
-    for (const auto& [number, line] : files().design) {
-        for (const DesignPoint& point : line) {
-            const bool isSurveyed = files().survey.find(number, point.pointNumber) != nullptr;
-            EXPECT_EQ(point.status, isSurveyed ? 1 : 0) << point.pointNumber;
-            if (!isSurveyed)
-                withoutResult.insert(number + '/' + point.pointNumber);
-        }
+    DesignPoints design = files().design;
+    for (auto& [number, line] : design) {
+        for (DesignPoint& point : line)
+            point.status = 1 - point.status;
     }
-    EXPECT_EQ(withoutResult, planted("missing"));
+    ProgressReporter nobody(nullptr);
+    checkEmptyPoints(design, files().survey, nobody);
+    Places found;
+    for (const DesignPoint& point : emptyPoints(design))
+        found.insert(point.lineNumber + '/' + point.pointNumber);
+    EXPECT_EQ(found, planted("missing"));
+    for (const auto& [number, line] : files().design) {
+        for (const DesignPoint& point : line)
+            EXPECT_EQ(design.find(number, point.pointNumber)->status, point.status);
+    }
 }
 
 TEST(DemoSurvey, SkidsLeaveWhatIsInTheWay)
@@ -195,32 +197,46 @@ TEST(DemoSurvey, SkidsLeaveWhatIsInTheWay)
     });
 }
 
-TEST(DemoSurvey, ResurveysAndRepeatsAreNumberedByTheirPoint)
+TEST(DemoSurvey, ResurveyCheckFindsWhatIsPlantedAndNothingElse)
 {
+    SurveyPoints survey = files().survey;
+    ProgressReporter nobody(nullptr);
+    checkResurveys(survey, basalt::Dictionary(), nobody);
     Places good;
     Places bad;
     Places orphans;
-    Places repeats;
-    std::size_t second = 0;
-    forEachResult([&](const SurveyPoint& point) {
-        const std::string& number = point.pointNumber;
-        const bool isRepeat = isCheckPoint(number);
-        if (!isRepeat && number.find('F') == std::string::npos)
-            return;
-        const SurveyPoint* const first = files().survey.find(
-            point.lineNumber, isRepeat ? number.substr(1, 8) : number.substr(0, number.size() - 1));
-        const bool isNear = first != nullptr && largestDifference(point, *first) <= 0.03;
-        second += isRepeat && number.substr(9) == "_1" ? 1U : 0U;
-        EXPECT_TRUE(isNear || !isRepeat);
-        EXPECT_TRUE(isRepeat || first == nullptr || point.dateTime > first->dateTime);
-        Places& found = isRepeat ? repeats : first == nullptr ? orphans : isNear ? good : bad;
-        found.insert(placeOf(point));
-    });
+    for (const auto& [number, line] : survey) {
+        for (const SurveyPoint& point : line) {
+            if (point.isResurvey == resurvey::kAlone)
+                orphans.insert(placeOf(point));
+            if (point.isResurvey != resurvey::kAgain)
+                continue;
+            const SurveyPoint& first = *line.find(point.pairedNumber);
+            EXPECT_GT(point.dateTime, first.dateTime);
+            (resurveyDigit(first) == 0 ? good : bad).insert(placeOf(point));
+        }
+    }
     EXPECT_EQ(good, planted("resurvey good"));
     EXPECT_EQ(bad, planted("resurvey bad"));
     EXPECT_EQ(orphans, planted("resurvey orphan"));
+    EXPECT_EQ(resurveyRows(survey, basalt::Dictionary()).size(), bad.size() + orphans.size());
+}
+
+TEST(DemoSurvey, RepeatPointCheckFindsWhatIsPlantedAndNothingElse)
+{
+    const RepeatPoints found = findRepeatPoints(files().survey);
+    Places repeats;
+    for (const RepeatRow& row : found.rows) {
+        if (!row.difference)
+            continue;
+        repeats.insert(row.lineNumber + '/' + std::string(writtenPointNumber(row.pointNumber)));
+        for (const double difference : *row.difference)
+            EXPECT_LE(std::fabs(difference), 0.03) << row.pointNumber;
+    }
     EXPECT_EQ(repeats, planted("repeat"));
-    EXPECT_EQ(second, 4U);
+    EXPECT_EQ(found.repeats, 24U);
+    EXPECT_EQ(found.alone, 0U);
+    EXPECT_EQ(found.rows.size(), found.repeats + repeats.size());
 }
 
 TEST(DemoSurvey, CrewsMeasureOneAfterTheOtherInWorkingHours)

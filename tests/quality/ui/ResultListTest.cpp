@@ -14,7 +14,6 @@
 #include "protocol/StatusKeys.h"
 #include "quality/QualityLimits.h"
 #include "quality/QualityResultModel.h"
-#include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/DlgQCResult.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
 #include "tests/support/EventLog.h"
@@ -84,7 +83,6 @@ private Q_SLOTS:
     void init();
     void cleanup() { lum::setDpiScale(1); }
     void theModelHoldsItsRows();
-    void theCommandChecksTellsAndLists();
     void aClickSelectsTheResult();
     void theKeyboardSelectsTheResult();
     void lineDeviationsAreNamedAsSuch();
@@ -97,7 +95,8 @@ private Q_SLOTS:
 private:
     std::unique_ptr<DlgQCResult> makeList()
     {
-        auto list = std::make_unique<DlgQCResult>(*m_host, makeQualityResultModel(someRows()));
+        auto list = std::make_unique<DlgQCResult>(
+            *m_host, CheckResult{makeQualityResultModel(someRows()), "3 faults"_q});
         list->setAttribute(Qt::WA_DeleteOnClose, false);
         list->show();
         return list;
@@ -138,37 +137,6 @@ void ResultListTest::theModelHoldsItsRows()
     QCOMPARE(first.data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignCenter));
     QCOMPARE(model->index(0, 1).data(261), QVariant());
     QCOMPARE(model->headerData(5, Qt::Horizontal, Qt::DisplayRole).toInt(), 6); // Qt's own
-}
-
-void ResultListTest::theCommandChecksTellsAndLists()
-{
-    QWidget frame;
-    m_host->frame = &frame;
-    DataProcessDataManager manager(m_host.get());
-    manager.surveyPoints().set(weakPoint("C10015001_0"));
-    const EventLog log(m_host->events, "REFRESH_DESIGN_TABLE,REFRESH_SURVEY_TABLE");
-    QStringList told;
-    const LumMessageBox::Responder responder([&](const auto& message) {
-        told << message.title << message.text;
-        return LumMessageBox::Button::Ok;
-    });
-    DataInspectionCommand command("", m_host.get());
-    QVERIFY(command.isEnabled());
-    command.execute();
-    QCOMPARE(told,
-             (QStringList{QStringLiteral("success"), QStringLiteral("Quality Check Complete!")}));
-    QVERIFY(
-        (log.names() == std::vector<std::string>{"REFRESH_DESIGN_TABLE", "REFRESH_SURVEY_TABLE"}));
-    const QPointer<DlgQCResult> list = frame.findChild<DlgQCResult*>();
-    QVERIFY(list != nullptr && list->isVisible() && !list->isModal());
-    QCOMPARE(list->windowTitle(), QStringLiteral("Quality Check Result"));
-    const QAbstractItemModel& model = *list->findChild<CustomTableWidget*>()->model();
-    QCOMPARE(model.rowCount(), 1);
-    QCOMPARE(model.index(0, 2).data().toString(), QStringLiteral("Satellite Number Insufficient."));
-    QCOMPARE(model.index(0, 3).data().toString(), QStringLiteral("3.000"));
-    QCOMPARE(model.index(0, 4).data().toString(), QStringLiteral("6.000"));
-    list->close();
-    QTRY_VERIFY(list == nullptr);
 }
 
 void ResultListTest::aClickSelectsTheResult()
@@ -257,15 +225,13 @@ void ResultListTest::tellsTheUnitOfItsLengthsWhereThatIsAQuestion()
     basalt::Dictionary system;
     const auto note = [&] {
         get_project_coord_transform().initialise(system, system);
-        const auto list = makeList();
-        const auto* const label = list->findChild<QLabel*>();
-        return label == nullptr ? QString() : label->text();
+        return makeList()->findChild<QLabel*>()->text();
     };
-    QCOMPARE(note(), QString());
+    QCOMPARE(note(), "3 faults"_q);
     system.set("factor", "3.2808333333333333");
     QVERIFY2(note().contains("metres"_q) && note().contains("ftUS"_q), qPrintable(note()));
     system.clear();
-    QCOMPARE(note(), QString());
+    QCOMPARE(note(), "3 faults"_q);
 }
 
 void ResultListTest::copiesRowsWithCaptions()
