@@ -38,7 +38,7 @@ constexpr int kListRows = 500000;
 constexpr double kListSeconds = 2;
 constexpr int kRuns = 25; // a run takes some milliseconds, so that single runs differ much
 
-/// Results of which every tenth has a resurvey, and every tenth a repeat.
+/// Results of which every twentieth is a resurvey, and every twentieth a repeat.
 SurveyPoints makePoints()
 {
     SurveyPoints points;
@@ -46,10 +46,10 @@ SurveyPoints makePoints()
         for (int place = 0; place < kPointsALine; ++place) {
             SurveyPoint point;
             point.lineNumber = std::to_string(1000 + line);
-            const std::string number = point.lineNumber + std::to_string(5000 + place / 10 * 10);
+            const std::string number = point.lineNumber + std::to_string(5000 + place / 20 * 20);
             const std::string own = point.lineNumber + std::to_string(5000 + place);
-            point.pointNumber = place % 10 == 1   ? number + "F"
-                                : place % 10 == 2 ? "C" + number + "_0"
+            point.pointNumber = place % 20 == 1   ? number + "F"
+                                : place % 20 == 2 ? "C" + number + "_0"
                                                   : own;
             point.pdop = 1 + place % 4;
             point.satelliteNumber = place % 20;

@@ -14,6 +14,9 @@ struct SurveyPoint
     std::string lineNumber;
     std::string pointNumber;
     std::int32_t pointMark = 0; ///< 0 source, otherwise receiver
+    // What the checks have found; beside the numbers, since they walk over all results.
+    std::int32_t qualityStandard = 0; ///< see QualityCheck.h
+    std::int32_t isResurvey = 0;      ///< see ResurveyCheck.h
     double latitude = 0;
     double longitude = 0;
     double altitude = 0; ///< above the ellipsoid
@@ -39,7 +42,6 @@ struct SurveyPoint
     std::int32_t solutionType = 0; ///< see CodeTables.h
     std::string instrumentType;
     std::string instrumentSerialNumber;
-    std::int32_t qualityStandard = 0; ///< what the quality check found, see QualityCheck.h
     double designNorth = 0;
     double designEast = 0;
     double designElevation = 0;
@@ -50,7 +52,6 @@ struct SurveyPoint
     std::string remarks;
     std::string obstacle; ///< its name, see CodeTables.h
     std::string photoPath;
-    std::int32_t isResurvey = 0; ///< what the resurvey check found, 0 to 3; 0 before it
     double resurveyXDiff = 0;
     double resurveyYDiff = 0;
     double resurveyHDiff = 0;

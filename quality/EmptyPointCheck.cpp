@@ -15,9 +15,12 @@ void markSurveyed(DesignPoints::Line& design, const SurveyPoints::Line* results)
     auto result = line.begin();
     const auto end = line.end();
     for (DesignPoint& point : design) {
+        fetchAhead(point);
         int order = 1;
-        while (result != end && (order = result->pointNumber.compare(point.pointNumber)) < 0)
+        while (result != end && (order = result->pointNumber.compare(point.pointNumber)) < 0) {
+            fetchAhead(*result);
             ++result;
+        }
         point.status = result != end && order == 0 ? 1 : 0;
     }
 }

@@ -71,6 +71,7 @@ void checkQuality(SurveyPoints& points, const IDictionary& parameters, ProgressR
     for (auto& [number, line] : points) {
         ProgressSteps steps(progress, caption + number, line.size());
         for (SurveyPoint& point : line) {
+            fetchAhead(point);
             point.qualityStandard = qualityCode(point, limits);
             unplaced.examine(point);
             steps.next();

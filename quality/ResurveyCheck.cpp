@@ -19,6 +19,17 @@ void setDigit(SurveyPoint& point, int digit)
     point.qualityStandard += (digit - resurveyDigit(point)) * kDigit;
 }
 
+/// Removes what an earlier run has written; most results have nothing, and are not touched.
+void forget(SurveyPoint& point)
+{
+    if (resurveyDigit(point) != 0)
+        setDigit(point, 0);
+    if (point.isResurvey == resurvey::kNone)
+        return;
+    point.isResurvey = resurvey::kNone;
+    point.pairedNumber.clear();
+}
+
 /// The number without every occurrence of the code.
 std::string withoutCode(std::string number, std::string_view code)
 {
@@ -43,7 +54,6 @@ public:
 
     void check(SurveyPoints::Line& line, SurveyPoint& point)
     {
-        m_unplaced.examine(point);
         if (point.pointNumber.find(m_code) == std::string::npos)
             return;
         point.isResurvey = resurvey::kAgain;
@@ -57,8 +67,10 @@ public:
     void warn() const { m_unplaced.warn(); }
 
 private:
-    void compare(SurveyPoint& first, SurveyPoint& again) const
+    void compare(SurveyPoint& first, SurveyPoint& again)
     {
+        m_unplaced.examine(first);
+        m_unplaced.examine(again);
         first.isResurvey = resurvey::kFirst;
         first.resurveyXDiff = again.north - first.north;
         first.resurveyYDiff = again.east - first.east;
@@ -90,9 +102,8 @@ void checkResurveys(SurveyPoints& points, const IDictionary& parameters, Progres
     ResurveyCheck check(parameters, planeUnitM);
     for (auto& [number, line] : points) {
         for (SurveyPoint& point : line) { // all of them first: a result may change one before it
-            setDigit(point, 0);
-            point.isResurvey = resurvey::kNone;
-            point.pairedNumber.clear();
+            fetchAhead(point);
+            forget(point);
         }
         ProgressSteps steps(progress, caption + number, line.size());
         for (SurveyPoint& point : line) {

@@ -10,8 +10,11 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
-#include "quality/CheckKinds.h"
-#include "quality/ui/DlgQCResult.h"
+#include "quality/ui/DataInspectionCommand.h"
+#include "quality/ui/DlgRepeatPtCheck.h"
+#include "quality/ui/EmptyPointCheckCommand.h"
+#include "quality/ui/RepeatPointCheckCommand.h"
+#include "quality/ui/ReSurveyPointCheckCommand.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
 #include "tests/support/TestFolder.h"
 #include "views/AttributeControl.h"
@@ -50,6 +53,12 @@ std::string name(int number)
     static const std::string kNames[kLines] = {
         "1001", "10", "9", "线一", "L \"1\", north", "%1", "1e3", " 10 ", std::string(1000, '%')};
     return number < kLines ? kNames[number] : std::to_string(1000 + number);
+}
+
+template <class Command>
+void execute(IDesktopHost& host)
+{
+    Command("", &host).execute();
 }
 
 /// The windows of the working place, and their points.
@@ -95,7 +104,7 @@ struct Place
 
     TestHost host;
     QMainWindow frame;
-    QPointer<DlgQCResult> results;
+    QPointer<ResultList> results;
     std::unique_ptr<DataProcessDataManager> manager =
         std::make_unique<DataProcessDataManager>(&host);
     MapWindow map{"name=DataMap", &host};
@@ -198,7 +207,8 @@ void WorkingPlaceWalkTest::addPoints()
         m_place->manager->designPoints().set(std::move(design));
         SurveyPoint result;
         result.lineNumber = at.line;
-        result.pointNumber = at.point;
+        const int kind = anyOf(4);
+        result.pointNumber = kind == 0 ? 'C' + at.point : kind == 1 ? at.point + 'F' : at.point;
         result.north = anyOf(1000);
         result.pdop = anyOf(20);
         m_place->manager->surveyPoints().set(std::move(result));
@@ -264,12 +274,13 @@ void WorkingPlaceWalkTest::disturb()
 
 void WorkingPlaceWalkTest::check()
 {
-    m_place->manager->run(kQualityCheck);
-    m_place->publish(events::kRefreshDesignTable);
-    m_place->publish(events::kRefreshSurveyTable);
+    static constexpr void (*kChecks[])(IDesktopHost & host) = {
+        execute<DataInspectionCommand>, execute<EmptyPointCheckCommand>,
+        execute<ReSurveyPointCheckCommand>, execute<RepeatPointCheckCommand>};
     m_place->closeResults();
-    m_place->results = new DlgQCResult(m_place->host, m_place->manager->resultOf(kQualityCheck));
-    m_place->results->show();
+    kChecks[anyOf(int(std::size(kChecks)))](m_place->host);
+    m_place->results = m_place->frame.findChild<ResultList*>();
+    QVERIFY(m_place->results != nullptr);
 }
 
 void WorkingPlaceWalkTest::clickResult()
@@ -284,6 +295,17 @@ void WorkingPlaceWalkTest::clickResult()
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
     if (anyOf(3) == 0)
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+    if (anyOf(2) != 0 || qobject_cast<DlgRepeatPtCheck*>(m_place->results) == nullptr)
+        return;
+    disturb();
+    if (m_place->results == nullptr || !m_place->results->isVisible()) // its project was closed
+        return;
+    QContextMenuEvent request(QContextMenuEvent::Mouse, at, list->viewport()->mapToGlobal(at));
+    QCoreApplication::sendEvent(list->viewport(), &request);
+    if (QWidget* const menu = QApplication::activePopupWidget()) {
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return); // deletes
+    }
 }
 
 void WorkingPlaceWalkTest::correct()
