@@ -77,6 +77,40 @@
     </message>
 </context>
 <context>
+    <name>CheckKinds</name>
+    <message>
+        <source>Quality Check: %1 of %2 results with faults, %3 in all</source>
+        <translation>数据检查：%2 个成果中有 %1 个存在错误，共 %3 处</translation>
+    </message>
+    <message>
+        <source>Empty Point Check: %1 of %2 points not surveyed</source>
+        <translation>空点检查：%2 个点中有 %1 个未测量</translation>
+    </message>
+    <message>
+        <source>Resurvey Check: %1 of %2 resurveyed points out of range, resurveys without their point: %3</source>
+        <translation>复测点检查：%2 个复测点中有 %1 个超限，没有对应点的复测：%3</translation>
+    </message>
+    <message>
+        <source>Repeat Point Check: %1 of %2 results are repeats, repeats without their point: %3</source>
+        <translation>重复点检查：%2 个成果中有 %1 个重复测量，没有对应点的重复测量：%3</translation>
+    </message>
+    <message>
+        <source>Lengths in this list are metres, as the limits are. The project&apos;s coordinates and line deviations are in another unit: %1.</source>
+        <translation>列表中的长度以米为单位，与限差相同。工程的坐标和横向、纵向偏差使用另一单位：%1。</translation>
+    </message>
+    <message>
+        <source>North and east are in the unit of the project: %1. Heights and limits are metres.</source>
+        <translation>北和东使用工程的单位：%1。高程和限差以米为单位。</translation>
+    </message>
+</context>
+<context>
+    <name>CheckRun</name>
+    <message>
+        <source>success</source>
+        <translation>成功</translation>
+    </message>
+</context>
+<context>
     <name>CodeTables</name>
     <message>
         <source>invalid</source>
@@ -702,16 +736,8 @@ The positions stay the numbers that they are: nothing is converted. They then co
 <context>
     <name>DataInspectionCommand</name>
     <message>
-        <source>success</source>
-        <translation>成功</translation>
-    </message>
-    <message>
         <source>Quality Check Complete!</source>
         <translation>质量检查完成！</translation>
-    </message>
-    <message>
-        <source>Faults found: %1.</source>
-        <translation>发现问题：%1 条。</translation>
     </message>
 </context>
 <context>
@@ -1122,6 +1148,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgEmptyPtResult</name>
+    <message>
+        <source>Empty Point Check Result</source>
+        <translation>空点检查结果</translation>
+    </message>
+</context>
+<context>
     <name>DlgImportSummary</name>
     <message>
         <source>Success</source>
@@ -1270,9 +1303,27 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Quality Check Result</source>
         <translation>质量检查结果</translation>
     </message>
+</context>
+<context>
+    <name>DlgRepeatPtCheck</name>
     <message>
-        <source>Lengths in this list are metres, as the limits are. The project&apos;s coordinates and line deviations are in another unit: %1.</source>
-        <translation>此列表中的长度与限差一样，单位为米。工程的坐标和横向、纵向偏差采用另一单位：%1。</translation>
+        <source>Repeat Point Check</source>
+        <translation>重复点检查</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Results deleted: %1. %2</source>
+        <translation>已删除的成果：%1。%2</translation>
+    </message>
+</context>
+<context>
+    <name>DlgResurveyCheckResult</name>
+    <message>
+        <source>Resurvey Check Result</source>
+        <translation>复测点检查结果</translation>
     </message>
 </context>
 <context>
@@ -1413,6 +1464,20 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>show r line</source>
         <translation>显示接收线</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyPointCheck</name>
+    <message>
+        <source>Empty Check</source>
+        <translation>空点检查</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyPointCheckCommand</name>
+    <message>
+        <source>Empty Check Complete!</source>
+        <translation>空点检查完成！</translation>
     </message>
 </context>
 <context>
@@ -2508,6 +2573,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>ReSurveyPointCheckCommand</name>
+    <message>
+        <source>Resurvey Check Complete!</source>
+        <translation>复测点检查完成！</translation>
+    </message>
+</context>
+<context>
     <name>RecentProjectCommand</name>
     <message>
         <source>&amp;No projects yet</source>
@@ -2535,6 +2607,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>&amp;Save as CSV...</source>
         <translation>另存为 CSV(&amp;S)...</translation>
     </message>
+    <message>
+        <source>Point %1 of line %2 is not in the project any more.</source>
+        <translation>测线 %2 的点 %1 已不在工程中。</translation>
+    </message>
 </context>
 <context>
     <name>ResultModel</name>
@@ -2557,6 +2633,101 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Limit</source>
         <translation>限值</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>北</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>东</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Not Surveyed</source>
+        <translation>未测量</translation>
+    </message>
+    <message>
+        <source>From what it repeats: north %1, east %2, height %3.</source>
+        <translation>与所重复的点相差：北 %1，东 %2，高 %3。</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Its resurvey is %1.</source>
+        <translation>它的复测点是 %1。</translation>
+    </message>
+    <message>
+        <source>Beyond the tolerance of %1 m.</source>
+        <translation>超过限差 %1 m。</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>北</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>东</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>re north</source>
+        <translation>复测北</translation>
+    </message>
+    <message>
+        <source>re east</source>
+        <translation>复测东</translation>
+    </message>
+    <message>
+        <source>re elevation</source>
+        <translation>复测高程</translation>
+    </message>
+    <message>
+        <source>north diff</source>
+        <translation>北差</translation>
+    </message>
+    <message>
+        <source>east diff</source>
+        <translation>东差</translation>
+    </message>
+    <message>
+        <source>elevation diff</source>
+        <translation>高差</translation>
+    </message>
+</context>
+<context>
+    <name>ResurveyCheck</name>
+    <message>
+        <source>Resurvey Check Survey Line:</source>
+        <translation>复测检查测线：</translation>
+    </message>
+    <message>
+        <source>Resurvey Coord Out-range.</source>
+        <translation>复测坐标超限。</translation>
+    </message>
+    <message>
+        <source>Resurvey Point No Corresponding Point.</source>
+        <translation>复测点没有对应点。</translation>
     </message>
 </context>
 <context>

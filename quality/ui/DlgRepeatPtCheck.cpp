@@ -32,7 +32,7 @@ void DlgRepeatPtCheck::deleteSelected()
     const std::size_t deleted = manager.deleteSurveyPoints(names);
     CheckResult left = manager.resultOf(kRepeatPointCheck);
     const QString told =
-        tr("Results deleted: %1. ").arg(lum::groupedNumber(deleted)) + left.finding;
+        tr("Results deleted: %1. %2").arg(lum::groupedNumber(deleted), left.finding);
     setResult(std::move(left));
     m_host.eventManager().publish(events::kRefreshSurveyLayer, nullptr, 0);
     m_host.tell(told);
