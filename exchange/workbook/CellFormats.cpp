@@ -22,7 +22,7 @@ std::string numberFormat(CellFormats::Form form, int decimals)
     return form == Form::Percent ? format + '%' : format;
 }
 
-void setBody(lxw_format* format, CellFormats::Form form, int decimals)
+void setBody(lxw_format* format, CellFormats::Form form)
 {
     using Form = CellFormats::Form;
     format_set_border(format, LXW_BORDER_THIN);
@@ -30,9 +30,6 @@ void setBody(lxw_format* format, CellFormats::Form form, int decimals)
     format_set_align(format, LXW_ALIGN_VERTICAL_CENTER);
     if (form == Form::Code || form == Form::Time)
         format_set_align(format, LXW_ALIGN_CENTER);
-    const std::string numbers = numberFormat(form, decimals);
-    if (!numbers.empty())
-        format_set_num_format(format, numbers.c_str());
 }
 
 void setHeading(lxw_format* format)
@@ -79,8 +76,11 @@ lxw_format* CellFormats::get(Role role, Form form, int decimals)
     // A font whose widths every system has, under this name or another.
     format_set_font_name(format, "Arial");
     format_set_font_size(format, 10);
+    const std::string numbers = numberFormat(form, decimals);
+    if (!numbers.empty())
+        format_set_num_format(format, numbers.c_str());
     if (role == Role::Body)
-        setBody(format, form, decimals);
+        setBody(format, form);
     else if (role == Role::Heading)
         setHeading(format);
     else

@@ -27,7 +27,7 @@ public:
         Title,   ///< of a page
         Chapter, ///< a heading on a page
         Label,   ///< the name of a value on a page
-        Value    ///< a value on a page, which may take several lines
+        Value    ///< a value or a sentence on a page, which may take several lines
     };
     /// The colours of conditional formats; they differ printed in black and white, too.
     enum class Colour
@@ -36,6 +36,8 @@ public:
         Warning,
         Good
     };
+
+    static constexpr double kLineHeight = 13.5; ///< of a line of text, in points
 
     explicit CellFormats(lxw_workbook* book) : m_book(book) {}
 

@@ -11,9 +11,7 @@
 
 namespace {
 
-using Role = CellFormats::Role;
-
-constexpr std::uint32_t kMostRows = LXW_ROW_MAX;
+constexpr lxw_row_t kFirstRow = 1;  // below the headings
 constexpr double kFilterButton = 3; // characters
 constexpr double kMargin = 1.5;     // characters
 constexpr double kNarrowest = 7;
@@ -27,45 +25,32 @@ double numberWidth(double value, int decimals)
     return QString::number(value, 'f', decimals).size();
 }
 
-lxw_row_t firstRow()
-{
-    return 1;
-}
-
 } // namespace
 
 Sheet::Sheet(Workbook& book, const QString& name, std::vector<SheetColumn> columns,
              const SheetLook& look)
-    : m_book(book), m_name(name), m_columns(std::move(columns)), m_look(look)
+    : RowCells(book), m_name(name), m_look(look)
 {
-    for (const SheetColumn& column : m_columns)
-        m_formats.push_back(book.formats().get(Role::Body, column.form, column.decimals));
+    setColumns(std::move(columns));
     begin(m_name);
 }
 
 void Sheet::begin(const QString& name)
 {
     m_sheet = m_book.addWorksheet(name, m_sheetName);
-    m_widths.assign(m_columns.size(), {});
+    if (m_sheet == nullptr)
+        return;
     m_row = 0;
-    m_column = 0;
-    if (m_sheet != nullptr)
-        writeHeadings();
+    m_widths.assign(m_columns.size(), {});
+    writeHeadings([this](std::size_t column) { return widthOf(column) - kMargin; });
+    worksheet_freeze_panes(m_sheet, kFirstRow, static_cast<lxw_col_t>(m_look.frozenColumns));
+    setUpPrinting();
 }
 
-void Sheet::writeHeadings()
+void Sheet::continueOn()
 {
-    lxw_format* const format = m_book.formats().get(Role::Heading);
-    int lines = 1;
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-        lines = std::max(lines, lineCount(m_columns[i].caption, widthOf(i) - kMargin));
-    m_book.check(worksheet_set_row(m_sheet, 0, lines * kLineHeight + 4, nullptr));
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-        m_book.check(worksheet_write_string(m_sheet, 0, static_cast<lxw_col_t>(i),
-                                            m_columns[i].caption.toUtf8().constData(), format));
-    worksheet_freeze_panes(m_sheet, firstRow(), static_cast<lxw_col_t>(m_look.frozenColumns));
-    setUpPrinting();
-    m_row = firstRow();
+    finish();
+    begin(QStringLiteral("%1 (%2)").arg(m_name).arg(++m_part));
 }
 
 void Sheet::setUpPrinting()
@@ -77,74 +62,6 @@ void Sheet::setUpPrinting()
     worksheet_fit_to_pages(m_sheet, 1, 0);
     m_book.check(worksheet_repeat_rows(m_sheet, 0, 0));
     m_book.setFooter(m_sheet);
-}
-
-Sheet& Sheet::text(std::string_view utf8)
-{
-    if (utf8.empty())
-        return blank();
-    if (!beginCell())
-        return *this;
-    toCellText(utf8, m_text);
-    m_book.check(
-        worksheet_write_string(m_sheet, m_row, m_column, m_text.c_str(), m_formats[m_column]));
-    Width& width = m_widths[m_column];
-    width.text = std::max(width.text, textWidth(m_text));
-    ++m_column;
-    return *this;
-}
-
-Sheet& Sheet::text(const QString& text)
-{
-    const QByteArray utf8 = text.toUtf8();
-    return this->text(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
-}
-
-Sheet& Sheet::number(double value)
-{
-    if (!std::isfinite(value)) // the library would write it, and damage the file
-        return blank();
-    if (!beginCell())
-        return *this;
-    m_book.check(worksheet_write_number(m_sheet, m_row, m_column, value, m_formats[m_column]));
-    Width& width = m_widths[m_column];
-    width.smallest = std::min(width.smallest, value);
-    width.largest = std::max(width.largest, value);
-    ++m_column;
-    return *this;
-}
-
-Sheet& Sheet::time(std::int64_t milliseconds)
-{
-    return number(m_book.excelTime(milliseconds));
-}
-
-Sheet& Sheet::blank()
-{
-    if (!beginCell())
-        return *this;
-    m_book.check(worksheet_write_blank(m_sheet, m_row, m_column, m_formats[m_column]));
-    ++m_column;
-    return *this;
-}
-
-bool Sheet::beginCell()
-{
-    Q_ASSERT(m_column < m_columns.size());
-    if (m_row == kMostRows && m_column == 0) {
-        finish();
-        begin(QStringLiteral("%1 (%2)").arg(m_name).arg(++m_part));
-    }
-    return m_sheet != nullptr;
-}
-
-void Sheet::endRow()
-{
-    while (m_sheet != nullptr && m_column < m_columns.size())
-        blank();
-    m_column = 0;
-    ++m_row;
-    ++m_rowCount;
 }
 
 void Sheet::colourAbove(std::size_t column, double limit, Colour colour)
@@ -177,7 +94,7 @@ void Sheet::addPickList(std::size_t column, const QStringList& choices)
 
 CellRange Sheet::cells(std::size_t column) const
 {
-    return {m_sheetName, firstRow(), std::max(m_row, firstRow() + 1) - 1,
+    return {m_sheetName, kFirstRow, std::max(m_row, kFirstRow + 1) - 1,
             static_cast<std::uint16_t>(column)};
 }
 
@@ -189,8 +106,8 @@ void Sheet::finish()
     const auto lastColumn = static_cast<lxw_col_t>(m_columns.size() - 1);
     if (m_look.hasFilter)
         m_book.check(
-            worksheet_autofilter(m_sheet, 0, 0, std::max(m_row, firstRow() + 1) - 1, lastColumn));
-    if (m_row > firstRow()) {
+            worksheet_autofilter(m_sheet, 0, 0, std::max(m_row, kFirstRow + 1) - 1, lastColumn));
+    if (m_row > kFirstRow) {
         applyRules();
         applyPickLists();
     }
@@ -226,13 +143,13 @@ void Sheet::applyRules()
     for (const Rule& rule : m_rules) {
         const auto column = static_cast<lxw_col_t>(rule.column);
         std::array<char, LXW_MAX_CELL_NAME_LENGTH> cell{};
-        lxw_rowcol_to_cell(cell.data(), firstRow(), column);
+        lxw_rowcol_to_cell(cell.data(), kFirstRow, column);
         QByteArray formula = rule.condition.arg(QLatin1String(cell.data())).toUtf8();
         lxw_conditional_format format{};
         format.type = LXW_CONDITIONAL_TYPE_FORMULA;
         format.value_string = formula.data();
         format.format = m_book.formats().get(rule.colour);
-        m_book.check(worksheet_conditional_format_range(m_sheet, firstRow(), column, m_row - 1,
+        m_book.check(worksheet_conditional_format_range(m_sheet, kFirstRow, column, m_row - 1,
                                                         column, &format));
     }
 }
@@ -251,7 +168,7 @@ void Sheet::applyPickLists()
         validation.validate = LXW_VALIDATION_TYPE_LIST;
         validation.value_list = choices.data();
         const auto column = static_cast<lxw_col_t>(list.column);
-        m_book.check(worksheet_data_validation_range(m_sheet, firstRow(), column, m_row - 1, column,
+        m_book.check(worksheet_data_validation_range(m_sheet, kFirstRow, column, m_row - 1, column,
                                                      &validation));
     }
 }

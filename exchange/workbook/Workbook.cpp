@@ -2,6 +2,7 @@
 
 #include "exchange/CsvFaults.h"
 #include "exchange/ShownTimes.h"
+#include "exchange/workbook/ChartMaking.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -96,6 +97,16 @@ Sheet& Workbook::addSheet(const QString& name, std::vector<SheetColumn> columns,
                           const SheetLook& look)
 {
     return *m_sheets.emplace_back(std::make_unique<Sheet>(*this, name, std::move(columns), look));
+}
+
+Page& Workbook::addPage(const QString& name)
+{
+    return *m_pages.emplace_back(std::make_unique<Page>(*this, name));
+}
+
+lxw_chart* Workbook::makeChart(const Chart& chart)
+{
+    return m_book != nullptr ? ::makeChart(m_book, chart) : nullptr;
 }
 
 lxw_worksheet* Workbook::addWorksheet(const QString& name, QString& takenName)

@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/LocalTimes.h"
 #include "exchange/workbook/CellFormats.h"
+#include "exchange/workbook/Page.h"
 #include "exchange/workbook/Sheet.h"
 #include "lum_sdk/files/FileAside.h"
 #include "protocol/Outcome.h"
@@ -12,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+struct lxw_chart;
 struct lxw_workbook;
 struct lxw_worksheet;
 
@@ -50,6 +52,9 @@ public:
     Sheet& addSheet(const QString& name, std::vector<SheetColumn> columns,
                     const SheetLook& look = {});
 
+    /// Adds an empty page behind the sheets that there are. Valid as long as the workbook.
+    Page& addPage(const QString& name);
+
     /// Whether writing on is in vain; `commit` says why.
     [[nodiscard]] bool hasFailed() const { return !m_fault.isEmpty(); }
 
@@ -60,6 +65,8 @@ public:
 
     /// A new empty sheet of the library; null after a fault.
     [[nodiscard]] lxw_worksheet* addWorksheet(const QString& name, QString& takenName);
+    /// Null after a fault.
+    [[nodiscard]] lxw_chart* makeChart(const Chart& chart);
     [[nodiscard]] CellFormats& formats() { return m_formats; }
     /// A moment as Excel counts: days since 1900 in the zone in which the program shows times. NaN
     /// for one that Excel does not know.
@@ -103,4 +110,5 @@ private:
     basalt::LocalTimes m_times;
     std::vector<QString> m_names;
     std::vector<std::unique_ptr<Sheet>> m_sheets;
+    std::vector<std::unique_ptr<Page>> m_pages;
 };
