@@ -16,7 +16,7 @@ std::string numberFormat(CellFormats::Form form, int decimals)
     using Form = CellFormats::Form;
     if (form == Form::Time)
         return kTimeFormat;
-    if (form != Form::Number && form != Form::Percent)
+    if ((form != Form::Number && form != Form::Percent) || decimals == CellFormats::kAsNeeded)
         return {};
     std::string format = decimals > 0 ? "0." + std::string(std::size_t(decimals), '0') : "0";
     return form == Form::Percent ? format + '%' : format;

@@ -37,6 +37,7 @@ public:
         Good
     };
 
+    static constexpr int kAsNeeded = -1;        ///< as many decimals as a number has
     static constexpr double kLineHeight = 13.5; ///< of a line of text, in points
 
     explicit CellFormats(lxw_workbook* book) : m_book(book) {}

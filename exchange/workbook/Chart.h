@@ -21,6 +21,6 @@ struct Chart
     Kind kind = Kind::Columns;
     QString title;
     std::vector<Series> series;
-    QString categoryAxis; ///< what the categories are; may be empty
-    QString valueAxis;    ///< with its unit; may be empty
+    QString categoryAxis{}; ///< what the categories are; may be empty
+    QString valueAxis{};    ///< with its unit; may be empty
 };

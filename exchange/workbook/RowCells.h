@@ -19,7 +19,7 @@ struct SheetColumn
 
     QString caption; ///< translated, with its unit: "Distance (m)"
     Form form = Form::Text;
-    int decimals = 0; ///< of a number or percentage
+    int decimals = 0; ///< of a number or percentage; `CellFormats::kAsNeeded` for what it has
     double width = 0; ///< in characters; 0 for as wide as the widest cell
 };
 
@@ -44,12 +44,18 @@ public:
 
     RowCells& text(std::string_view utf8);
     RowCells& text(const QString& text);
+    RowCells& text(const char* utf8) { return text(std::string_view(utf8)); }
     /// A number that is not finite leaves the cell empty.
     RowCells& number(double value);
     RowCells& integer(std::int64_t value) { return number(static_cast<double>(value)); }
     /// \param milliseconds since 1970 UTC; the cell is a date in the zone in which the program
     ///                     shows times, and empty for a moment that Excel does not know
     RowCells& time(std::int64_t milliseconds);
+    /// The same for a moment that is 0 when nobody noted it.
+    RowCells& timeOrBlank(std::int64_t milliseconds)
+    {
+        return milliseconds == 0 ? blank() : time(milliseconds);
+    }
     RowCells& blank();
     /// The cells that the row has not got are empty.
     void endRow();

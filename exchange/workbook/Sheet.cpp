@@ -20,9 +20,13 @@ constexpr double kTimeWidth = 19;
 constexpr double kLineHeight = 13.5;  // points
 constexpr std::size_t kMostOnA4 = 20; // columns
 
-double numberWidth(double value, int decimals)
+double numberWidth(double value, const SheetColumn& column)
 {
-    return QString::number(value, 'f', decimals).size();
+    if (column.decimals == CellFormats::kAsNeeded)
+        return QString::number(value, 'g', 11).size();
+    const bool isPercent = column.form == SheetColumn::Form::Percent;
+    return QString::number(isPercent ? value * 100 : value, 'f', column.decimals).size() +
+           (isPercent ? 1 : 0);
 }
 
 } // namespace
@@ -44,6 +48,9 @@ void Sheet::begin(const QString& name)
     m_widths.assign(m_columns.size(), {});
     writeHeadings([this](std::size_t column) { return widthOf(column) - kMargin; });
     worksheet_freeze_panes(m_sheet, kFirstRow, static_cast<lxw_col_t>(m_look.frozenColumns));
+    // Line and point numbers are texts and look like numbers: that is no mistake.
+    m_book.check(
+        worksheet_ignore_errors(m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT, "A1:XFD1048576"));
     setUpPrinting();
 }
 
@@ -123,8 +130,8 @@ double Sheet::widthOf(std::size_t index) const
     if (column.form == SheetColumn::Form::Time)
         width = std::max(width, kTimeWidth);
     else
-        width = std::max({width, numberWidth(cells.smallest, column.decimals),
-                          numberWidth(cells.largest, column.decimals)});
+        width = std::max(
+            {width, numberWidth(cells.smallest, column), numberWidth(cells.largest, column)});
     width =
         std::max(width, longestWord(column.caption) * 1.1 + (m_look.hasFilter ? kFilterButton : 0));
     return std::min(width, kWidest) + kMargin;

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include <xlsxwriter.h>
 
@@ -157,16 +158,18 @@ void Workbook::keepError(int error)
         m_fault = QString::fromUtf8(lxw_strerror(static_cast<lxw_error>(error)));
 }
 
-/// The library does not notice a disk that is full while it writes rows.
+/// The library does not notice a disk that is full while it writes rows, or while it copies them
+/// for the package.
 void Workbook::checkTemporaryFiles()
 {
+    const qint64 room = QStorageInfo(QFileInfo(m_file.path()).absolutePath()).bytesAvailable();
     lxw_worksheet* sheet = nullptr;
     STAILQ_FOREACH(sheet, m_book->worksheets, list_pointers)
     {
         errno = 0;
         FILE* const rows = sheet->optimize_tmpfile;
         const bool isWhole = rows != nullptr && std::fflush(rows) == 0 && std::ferror(rows) == 0;
-        if (!isWhole && m_fault.isEmpty())
+        if ((!isWhole || std::ftell(rows) > room) && m_fault.isEmpty())
             m_fault = qt_error_string(errno != 0 ? errno : ENOSPC);
     }
 }
