@@ -106,7 +106,7 @@ void addLimitsSheet(Workbook& book, const ReportInput& input,
                                   {Texts::tr("Key")},
                                   {Texts::tr("Value"), Form::Number, CellFormats::kAsNeeded},
                                   {Texts::tr("Unit"), Form::Code},
-                                  {Texts::tr("Meaning")}});
+                                  {Texts::tr("Meaning"), Form::Text, 0, 95}});
     const std::vector<ControlRow> rows = readControlRows("QCParam");
     for (const QualityParameter& parameter : kQualityParameters) {
         const ControlRow* const row = findControlRow(rows, parameter.key);

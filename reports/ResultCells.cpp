@@ -6,6 +6,8 @@
 #include "model/CodeTables.h"
 #include "model/PointNumber.h"
 
+#include <algorithm>
+
 namespace {
 
 // The units of fields, by their keys.
@@ -76,6 +78,16 @@ std::vector<SheetColumn> ResultCells::columns(const IDictionary& coordParameters
             column.caption += QStringLiteral(" (%1)").arg(unit);
     }
     return columns;
+}
+
+std::size_t ResultCells::indexOf(std::string_view key)
+{
+    const auto columns = surveyColumns();
+    const auto found =
+        std::find_if(columns.begin(), columns.end(),
+                     [key](const SurveyColumn& column) { return column.key == key; });
+    Q_ASSERT(found != columns.end());
+    return static_cast<std::size_t>(found - columns.begin());
 }
 
 void ResultCells::add(RowCells& row, const SurveyPoint& point)

@@ -15,6 +15,10 @@ public:
     /// A column for each field, with its unit.
     [[nodiscard]] static std::vector<SheetColumn> columns(const IDictionary& coordParameters);
 
+    /// The column of a field that there is.
+    [[nodiscard]] static std::size_t indexOf(std::string_view key);
+
+    /// Writes a row.
     void add(RowCells& row, const SurveyPoint& point);
 
 private:

@@ -142,6 +142,7 @@ bool Report::writeResults()
 {
     Sheet& sheet =
         m_book.addSheet(Texts::tr("Results"), ResultCells::columns(m_input.coordParameters), {2});
+    sheet.colourAbove(ResultCells::indexOf("quality_standard"), 0, Sheet::Colour::Warning);
     ResultCells cells;
     return forEachResult([&](const SurveyPoint& point) {
         ++m_tallies[point.pointMark != 0 ? 1 : 0].results;

@@ -30,6 +30,8 @@ void setBody(lxw_format* format, CellFormats::Form form)
     format_set_align(format, LXW_ALIGN_VERTICAL_CENTER);
     if (form == Form::Code || form == Form::Time)
         format_set_align(format, LXW_ALIGN_CENTER);
+    else if (form == Form::Text)
+        format_set_indent(format, 1); // away from a number to the left of it
 }
 
 void setHeading(lxw_format* format)
@@ -47,9 +49,7 @@ void setPageText(lxw_format* format, CellFormats::Role role)
 {
     using Role = CellFormats::Role;
     format_set_align(format, LXW_ALIGN_LEFT);
-    format_set_align(format, role == Role::Value || role == Role::Label
-                                 ? LXW_ALIGN_VERTICAL_TOP
-                                 : LXW_ALIGN_VERTICAL_CENTER);
+    format_set_align(format, LXW_ALIGN_VERTICAL_CENTER);
     if (role == Role::Value || role == Role::Label) {
         format_set_text_wrap(format);
         return;
@@ -76,6 +76,8 @@ lxw_format* CellFormats::get(Role role, Form form, int decimals)
     // A font whose widths every system has, under this name or another.
     format_set_font_name(format, "Arial");
     format_set_font_size(format, 10);
+    if (form == Form::Number && role == Role::Body)
+        format_set_align(format, LXW_ALIGN_RIGHT); // a text among numbers, too
     const std::string numbers = numberFormat(form, decimals);
     if (!numbers.empty())
         format_set_num_format(format, numbers.c_str());

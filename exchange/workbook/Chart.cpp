@@ -86,10 +86,14 @@ lxw_chart* makeChart(lxw_workbook* book, const Chart& chart)
         chart_legend_set_position(made, LXW_CHART_LEGEND_NONE);
     else
         chart_legend_set_position(made, LXW_CHART_LEGEND_BOTTOM);
-    // Of lying bars, too, the first axis is that of the categories.
-    nameAxis(made->x_axis, chart.categoryAxis);
-    nameAxis(made->y_axis, chart.valueAxis);
-    if (chart.kind == Chart::Kind::Bars)
-        chart_axis_set_reverse(made->x_axis);
+    const bool isLying = chart.kind == Chart::Kind::Bars;
+    lxw_chart_axis* const categories = isLying ? made->y_axis : made->x_axis;
+    lxw_chart_axis* const values = isLying ? made->x_axis : made->y_axis;
+    nameAxis(categories, chart.categoryAxis);
+    nameAxis(values, chart.valueAxis);
+    if (isLying) { // the first category on top, and yet the numbers at the foot
+        chart_axis_set_reverse(categories);
+        chart_axis_set_label_position(values, LXW_CHART_AXIS_LABEL_POSITION_HIGH);
+    }
     return made;
 }

@@ -13,11 +13,12 @@ namespace {
 using Role = CellFormats::Role;
 using Form = CellFormats::Form;
 
-constexpr double kFirstWidth = 34; // characters
+constexpr double kFirstWidth = 28; // characters
 constexpr double kOtherWidth = 12;
 constexpr double kWholeWidth = kFirstWidth + (Page::kColumns - 1) * kOtherWidth;
 constexpr lxw_col_t kLastColumn = Page::kColumns - 1;
-constexpr double kMargin = 1.5; // characters
+constexpr double kMargin = 1.5;         // characters
+constexpr double kLettersADigit = 1.15; // that are as wide, in sentences
 constexpr std::uint32_t kRowsOfChart = 16;
 
 /// Of columns on the screen, as Excel has them.
@@ -78,10 +79,9 @@ void Page::writeLine(const QString& label, const QString& value)
         return;
     const lxw_col_t first = label.isEmpty() ? 0 : 1;
     const double width = label.isEmpty() ? kWholeWidth : kWholeWidth - kFirstWidth;
-    const int lines =
-        std::max(lineCount(value, width - 2 * kMargin), lineCount(label, kFirstWidth - kMargin));
-    m_book.check(
-        worksheet_set_row(m_sheet, m_row, lines * CellFormats::kLineHeight + 1.5, nullptr));
+    const int lines = std::max(lineCount(value, (width - 2 * kMargin) * kLettersADigit),
+                               lineCount(label, kFirstWidth - kMargin));
+    m_book.check(worksheet_set_row(m_sheet, m_row, lines * CellFormats::kLineHeight + 3, nullptr));
     if (!label.isEmpty())
         m_book.check(worksheet_write_string(m_sheet, m_row, 0, label.toUtf8().constData(),
                                             m_book.formats().get(Role::Label)));

@@ -13,12 +13,11 @@ namespace {
 
 constexpr lxw_row_t kFirstRow = 1;  // below the headings
 constexpr double kFilterButton = 3; // characters
-constexpr double kMargin = 1.5;     // characters
+constexpr double kMargin = 2.5;     // characters
 constexpr double kNarrowest = 7;
 constexpr double kWidest = 60;
 constexpr double kTimeWidth = 19;
-constexpr double kLineHeight = 13.5;  // points
-constexpr std::size_t kMostOnA4 = 20; // columns
+constexpr double kLineHeight = 13.5; // points
 
 double numberWidth(double value, const SheetColumn& column)
 {
@@ -51,7 +50,6 @@ void Sheet::begin(const QString& name)
     // Line and point numbers are texts and look like numbers: that is no mistake.
     m_book.check(
         worksheet_ignore_errors(m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT, "A1:XFD1048576"));
-    setUpPrinting();
 }
 
 void Sheet::continueOn()
@@ -60,14 +58,29 @@ void Sheet::continueOn()
     begin(QStringLiteral("%1 (%2)").arg(m_name).arg(++m_part));
 }
 
+/// On one page wide when that can be read; otherwise the pages stand side by side, each with the
+/// columns that stay in view.
 void Sheet::setUpPrinting()
 {
     constexpr std::uint8_t kA3 = 8;
     constexpr std::uint8_t kA4 = 9;
+    constexpr double kMostOnA4 = 260; // characters
+    constexpr double kMostOnA3 = 380;
+    double width = 0;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        width += widthOf(i);
     worksheet_set_landscape(m_sheet);
-    worksheet_set_paper(m_sheet, m_columns.size() > kMostOnA4 ? kA3 : kA4);
-    worksheet_fit_to_pages(m_sheet, 1, 0);
+    worksheet_set_paper(m_sheet, width > kMostOnA4 ? kA3 : kA4);
+    worksheet_fit_to_pages(m_sheet, static_cast<std::uint16_t>(std::ceil(width / kMostOnA3)), 0);
     m_book.check(worksheet_repeat_rows(m_sheet, 0, 0));
+    if (width > kMostOnA3 && m_look.frozenColumns > 0) {
+        worksheet_print_across(m_sheet);
+        m_book.check(
+            worksheet_repeat_columns(m_sheet, 0, static_cast<lxw_col_t>(m_look.frozenColumns - 1)));
+    }
+    constexpr double kPaperEdge = 0.4; // inches
+    constexpr double kFoot = 0.7;
+    worksheet_set_margins(m_sheet, kPaperEdge, kPaperEdge, kPaperEdge, kFoot);
     m_book.setFooter(m_sheet);
 }
 
@@ -110,6 +123,7 @@ void Sheet::finish()
     if (m_sheet == nullptr)
         return;
     setWidths();
+    setUpPrinting();
     const auto lastColumn = static_cast<lxw_col_t>(m_columns.size() - 1);
     if (m_look.hasFilter)
         m_book.check(
