@@ -57,7 +57,8 @@ void writeCoordSystem(Page& page, const IDictionary& parameters)
     const std::vector<ParameterGroup> groups = coordSystemWords(parameters);
     const QString name =
         lum::toQString(parameters.text(CoordinateRecord::kId, CoordinateRecord::kUndefinedId));
-    page.addValue(Texts::tr("Name"), groups.empty() ? Texts::tr("none") : name);
+    if (groups.empty() || name != QLatin1String(CoordinateRecord::kUndefinedId))
+        page.addValue(Texts::tr("Name"), groups.empty() ? Texts::tr("none") : name);
     for (const ParameterGroup& group : groups)
         page.addValue(group.caption, group.text);
     page.addValue(Texts::tr("Heights"), heightKind(parameters));

@@ -140,8 +140,8 @@ Outcome Report::write()
 
 bool Report::writeResults()
 {
-    Sheet& sheet =
-        m_book.addSheet(Texts::tr("Results"), ResultCells::columns(m_input.coordParameters), {2});
+    Sheet& sheet = m_book.addSheet(
+        Texts::tr("Results"), ResultCells::columns(m_input.coordParameters), {.frozenColumns = 2});
     sheet.colourAbove(ResultCells::indexOf("quality_standard"), 0, Sheet::Colour::Warning);
     ResultCells cells;
     return forEachResult([&](const SurveyPoint& point) {
@@ -166,7 +166,7 @@ bool Report::writeNotStaked()
                                     {inPlaneUnit(Texts::tr("North")), Form::Number, kDecimals},
                                     {inPlaneUnit(Texts::tr("East")), Form::Number, kDecimals},
                                     {Texts::tr("Elevation (m)"), Form::Number, kDecimals}},
-                                   {2});
+                                   {.frozenColumns = 2});
     for (const auto& [number, line] : m_input.design) {
         const auto* const results = m_input.survey.findLine(number);
         for (const DesignPoint& point : line) {
@@ -250,7 +250,7 @@ bool Report::writeMoved()
           Texts::tr("Design elevation (m)"), inPlaneUnit(Texts::tr("North")),
           inPlaneUnit(Texts::tr("East")), Texts::tr("Elevation (m)")})
         columns.push_back({name, Form::Number, kDecimals});
-    Sheet& sheet = m_book.addSheet(Texts::tr("Moved"), std::move(columns), {2});
+    Sheet& sheet = m_book.addSheet(Texts::tr("Moved"), std::move(columns), {.frozenColumns = 2});
     sheet.colourAbove(kDistance, m_limits.designHorizontalM);
     sheet.colourAbove(kUp, m_limits.designVerticalM);
     return forEachResult([&](const SurveyPoint& point) {

@@ -45,6 +45,14 @@ void setHeading(lxw_format* format)
     format_set_border_color(format, kLines);
 }
 
+void setTableTitle(lxw_format* format)
+{
+    format_set_bold(format);
+    format_set_font_size(format, 16);
+    format_set_align(format, LXW_ALIGN_CENTER);
+    format_set_align(format, LXW_ALIGN_VERTICAL_CENTER);
+}
+
 void setPageText(lxw_format* format, CellFormats::Role role)
 {
     using Role = CellFormats::Role;
@@ -73,8 +81,7 @@ lxw_format* CellFormats::get(Role role, Form form, int decimals)
     if (format != nullptr)
         return format;
     format = workbook_add_format(m_book);
-    // A font whose widths every system has, under this name or another.
-    format_set_font_name(format, "Arial");
+    format_set_font_name(format, m_font.c_str());
     format_set_font_size(format, 10);
     if (form == Form::Number && role == Role::Body)
         format_set_align(format, LXW_ALIGN_RIGHT); // a text among numbers, too
@@ -85,6 +92,8 @@ lxw_format* CellFormats::get(Role role, Form form, int decimals)
         setBody(format, form);
     else if (role == Role::Heading)
         setHeading(format);
+    else if (role == Role::TableTitle)
+        setTableTitle(format);
     else
         setPageText(format, role);
     return format;

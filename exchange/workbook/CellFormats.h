@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QString>
+
 #include <map>
+#include <string>
 #include <tuple>
 
 struct lxw_format;
@@ -22,12 +25,13 @@ public:
     };
     enum class Role
     {
-        Body,    ///< a cell of a table
-        Heading, ///< the head of a table's column
-        Title,   ///< of a page
-        Chapter, ///< a heading on a page
-        Label,   ///< the name of a value on a page
-        Value    ///< a value or a sentence on a page, which may take several lines
+        Body,       ///< a cell of a table
+        Heading,    ///< the head of a table's column, or of several
+        TableTitle, ///< above a table
+        Title,      ///< of a page
+        Chapter,    ///< a heading on a page
+        Label,      ///< the name of a value on a page
+        Value       ///< a value or a sentence on a page, which may take several lines
     };
     /// The colours of conditional formats; they differ printed in black and white, too.
     enum class Colour
@@ -40,7 +44,9 @@ public:
     static constexpr int kAsNeeded = -1;        ///< as many decimals as a number has
     static constexpr double kLineHeight = 13.5; ///< of a line of text, in points
 
-    explicit CellFormats(lxw_workbook* book) : m_book(book) {}
+    CellFormats(lxw_workbook* book, const QString& font) : m_book(book), m_font(font.toStdString())
+    {
+    }
 
     /// Null in a workbook that has failed.
     [[nodiscard]] lxw_format* get(Role role, Form form = Form::Text, int decimals = 0);
@@ -48,6 +54,7 @@ public:
 
 private:
     lxw_workbook* m_book;
+    std::string m_font;
     std::map<std::tuple<Role, Form, int>, lxw_format*> m_formats;
     std::map<Colour, lxw_format*> m_colours;
 };

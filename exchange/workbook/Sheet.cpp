@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr lxw_row_t kFirstRow = 1;  // below the headings
 constexpr double kFilterButton = 3; // characters
 constexpr double kMargin = 2.5;     // characters
 constexpr double kNarrowest = 7;
@@ -45,11 +44,55 @@ void Sheet::begin(const QString& name)
         return;
     m_row = 0;
     m_widths.assign(m_columns.size(), {});
+    writeTitle();
+    writeGroups();
     writeHeadings([this](std::size_t column) { return widthOf(column) - kMargin; });
-    worksheet_freeze_panes(m_sheet, kFirstRow, static_cast<lxw_col_t>(m_look.frozenColumns));
+    worksheet_freeze_panes(m_sheet, firstRow(), static_cast<lxw_col_t>(m_look.frozenColumns));
     // Line and point numbers are texts and look like numbers: that is no mistake.
     m_book.check(
         worksheet_ignore_errors(m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT, "A1:XFD1048576"));
+}
+
+std::uint32_t Sheet::firstRow() const
+{
+    return 1U + (m_look.title.isEmpty() ? 0U : 1U) + (m_look.groups.empty() ? 0U : 1U);
+}
+
+void Sheet::writeTitle()
+{
+    if (m_look.title.isEmpty())
+        return;
+    constexpr double kHeight = 26; // points
+    m_book.check(worksheet_set_row(m_sheet, m_row, kHeight, nullptr));
+    writeAcross(0, m_columns.size(), m_look.title,
+                m_book.formats().get(CellFormats::Role::TableTitle));
+    ++m_row;
+}
+
+void Sheet::writeGroups()
+{
+    if (m_look.groups.empty())
+        return;
+    std::size_t first = 0;
+    for (const SheetGroup& group : m_look.groups) {
+        const auto count = static_cast<std::size_t>(group.columns);
+        writeAcross(first, count, group.caption, m_book.formats().get(CellFormats::Role::Heading));
+        first += count;
+    }
+    ++m_row;
+}
+
+void Sheet::writeAcross(std::size_t first, std::size_t count, const QString& caption,
+                        lxw_format* format)
+{
+    const auto from = static_cast<lxw_col_t>(first);
+    const QByteArray text = caption.toUtf8();
+    if (count > 1)
+        m_book.check(worksheet_merge_range(m_sheet, m_row, from, m_row,
+                                           static_cast<lxw_col_t>(first + count - 1),
+                                           text.constData(), format));
+    else
+        m_book.check(worksheet_write_string(m_sheet, m_row, from, text.constData(), format));
 }
 
 void Sheet::continueOn()
@@ -72,7 +115,7 @@ void Sheet::setUpPrinting()
     worksheet_set_landscape(m_sheet);
     worksheet_set_paper(m_sheet, width > kMostOnA4 ? kA3 : kA4);
     worksheet_fit_to_pages(m_sheet, static_cast<std::uint16_t>(std::ceil(width / kMostOnA3)), 0);
-    m_book.check(worksheet_repeat_rows(m_sheet, 0, 0));
+    m_book.check(worksheet_repeat_rows(m_sheet, 0, firstRow() - 1));
     if (width > kMostOnA3 && m_look.frozenColumns > 0) {
         worksheet_print_across(m_sheet);
         m_book.check(
@@ -114,7 +157,7 @@ void Sheet::addPickList(std::size_t column, const QStringList& choices)
 
 CellRange Sheet::cells(std::size_t column) const
 {
-    return {m_sheetName, kFirstRow, std::max(m_row, kFirstRow + 1) - 1,
+    return {m_sheetName, firstRow(), std::max(m_row, firstRow() + 1) - 1,
             static_cast<std::uint16_t>(column)};
 }
 
@@ -126,9 +169,9 @@ void Sheet::finish()
     setUpPrinting();
     const auto lastColumn = static_cast<lxw_col_t>(m_columns.size() - 1);
     if (m_look.hasFilter)
-        m_book.check(
-            worksheet_autofilter(m_sheet, 0, 0, std::max(m_row, kFirstRow + 1) - 1, lastColumn));
-    if (m_row > kFirstRow) {
+        m_book.check(worksheet_autofilter(m_sheet, firstRow() - 1, 0,
+                                          std::max(m_row, firstRow() + 1) - 1, lastColumn));
+    if (m_row > firstRow()) {
         applyRules();
         applyPickLists();
     }
@@ -164,13 +207,13 @@ void Sheet::applyRules()
     for (const Rule& rule : m_rules) {
         const auto column = static_cast<lxw_col_t>(rule.column);
         std::array<char, LXW_MAX_CELL_NAME_LENGTH> cell{};
-        lxw_rowcol_to_cell(cell.data(), kFirstRow, column);
+        lxw_rowcol_to_cell(cell.data(), firstRow(), column);
         QByteArray formula = rule.condition.arg(QLatin1String(cell.data())).toUtf8();
         lxw_conditional_format format{};
         format.type = LXW_CONDITIONAL_TYPE_FORMULA;
         format.value_string = formula.data();
         format.format = m_book.formats().get(rule.colour);
-        m_book.check(worksheet_conditional_format_range(m_sheet, kFirstRow, column, m_row - 1,
+        m_book.check(worksheet_conditional_format_range(m_sheet, firstRow(), column, m_row - 1,
                                                         column, &format));
     }
 }
@@ -189,7 +232,7 @@ void Sheet::applyPickLists()
         validation.validate = LXW_VALIDATION_TYPE_LIST;
         validation.value_list = choices.data();
         const auto column = static_cast<lxw_col_t>(list.column);
-        m_book.check(worksheet_data_validation_range(m_sheet, kFirstRow, column, m_row - 1, column,
+        m_book.check(worksheet_data_validation_range(m_sheet, firstRow(), column, m_row - 1, column,
                                                      &validation));
     }
 }

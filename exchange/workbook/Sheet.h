@@ -4,9 +4,18 @@
 
 #include <QStringList>
 
+/// A caption above those of some neighbouring columns.
+struct SheetGroup
+{
+    QString caption;
+    int columns = 1;
+};
+
 /// What is not the same for all sheets.
 struct SheetLook
 {
+    QString title = {};                  ///< above the whole table; none when it is empty
+    std::vector<SheetGroup> groups = {}; ///< from the left; none when it is empty
     int frozenColumns = 0; ///< how many columns stay in view when the user scrolls to the right
     bool hasFilter = true;
 };
@@ -59,6 +68,13 @@ private:
 
     void begin(const QString& name);
     void continueOn() override;
+    void writeTitle();
+    void writeGroups();
+    /// Writes a caption over some columns of the row.
+    void writeAcross(std::size_t first, std::size_t count, const QString& caption,
+                     lxw_format* format);
+    /// Of the rows below the headings.
+    [[nodiscard]] std::uint32_t firstRow() const;
     void setUpPrinting();
     void setWidths();
     void applyRules();

@@ -68,7 +68,7 @@ Workbook::PlainNumbers::~PlainNumbers()
 
 Workbook::Workbook(const QString& path, const WorkbookInfo& info)
     : m_path(path), m_info(info), m_file(path), m_fault(m_file.fault()), m_book(makeBook(m_file)),
-      m_formats(m_book), m_times(shownTimes())
+      m_formats(m_book, info.font), m_times(shownTimes())
 {
     if (m_book == nullptr && m_fault.isEmpty())
         m_fault = qt_error_string(ENOMEM);

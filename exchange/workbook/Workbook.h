@@ -23,6 +23,8 @@ struct WorkbookInfo
     QString title;   ///< also at the foot of every printed page
     QString subject; ///< such as the project's name
     QString author;
+    /// Of all cells. Every system has the widths of this one, under its name or another.
+    QString font = QStringLiteral("Arial");
 };
 
 /// An Excel workbook (.xlsx) that is written row by row and never held in memory.

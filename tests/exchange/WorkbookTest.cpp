@@ -116,7 +116,8 @@ TEST_F(WorkbookFile, MakesColumnsWideEnoughAndPrintsHeadings)
 {
     Workbook book(path(), m_info);
     Sheet& sheet = book.addSheet(
-        "S"_q, {{"N"_q, Form::Number, 4}, {"Name"_q}, {"T"_q, Form::Time}, {"Decision"_q}}, {2});
+        "S"_q, {{"N"_q, Form::Number, 4}, {"Name"_q}, {"T"_q, Form::Time}, {"Decision"_q}},
+        {"Title"_q, {{"A"_q, 1}, {"B"_q, 3}}, 2});
     sheet.number(1).text("abc").time(1700000000000).endRow();
     sheet.number(-12345678.99996).text("十个汉字十个汉字十个").time(0).endRow();
     sheet.colourAbove(0, 0.5);
@@ -130,16 +131,17 @@ TEST_F(WorkbookFile, MakesColumnsWideEnoughAndPrintsHeadings)
     EXPECT_GE(widths.at(1), 20);
     EXPECT_GE(widths.at(2), 19);
     EXPECT_EQ(reader.texts("S"_q, "formula"),
-              (QStringList{"AND(ISNUMBER(A2),ABS(A2)>0.5)"_q, "AND(ISNUMBER(A2),A2<-7.25)"_q,
-                           "B2=\"a\"\"b\""_q}));
+              (QStringList{"AND(ISNUMBER(A4),ABS(A4)>0.5)"_q, "AND(ISNUMBER(A4),A4<-7.25)"_q,
+                           "B4=\"a\"\"b\""_q}));
     EXPECT_EQ(reader.attributes("S"_q, "conditionalFormatting", "sqref"),
-              (QStringList{"A2:A3"_q, "B2:B3"_q}));
+              (QStringList{"A4:A5"_q, "B4:B5"_q}));
     EXPECT_EQ(reader.texts("S"_q, "formula1"), QStringList{"\"keep,重测\""_q});
-    EXPECT_EQ(reader.attributes("S"_q, "autoFilter", "ref"), QStringList{"A1:D3"_q});
-    EXPECT_EQ(reader.attributes("S"_q, "pane", "topLeftCell"), QStringList{"C2"_q});
+    EXPECT_EQ(reader.attributes("S"_q, "mergeCell", "ref"), (QStringList{"A1:D1"_q, "B2:D2"_q}));
+    EXPECT_EQ(reader.attributes("S"_q, "autoFilter", "ref"), QStringList{"A3:D5"_q});
+    EXPECT_EQ(reader.attributes("S"_q, "pane", "topLeftCell"), QStringList{"C4"_q});
     EXPECT_EQ(reader.attributes("S"_q, "pageSetup", "orientation"), QStringList{"landscape"_q});
     EXPECT_EQ(reader.texts("S"_q, "oddFooter"), QStringList{"&LA && B&C&A&R&P / &N"_q});
-    EXPECT_TRUE(reader.part("xl/workbook.xml"_q).contains("S!$1:$1"));
+    EXPECT_TRUE(reader.part("xl/workbook.xml"_q).contains("S!$1:$3"));
 }
 
 TEST_F(WorkbookFile, HasPagesWithTablesAndCharts)
