@@ -5,11 +5,25 @@
 
 #include <array>
 
-basalt::LocalTimes shownTimes()
+namespace {
+
+int hoursEast()
 {
     constexpr int kBeijingHours = 8; // of settings without a time zone
-    return basalt::LocalTimes(
-        get_system_ini_parameter().dictionary().integer(settings::kTimeZone, kBeijingHours));
+    return get_system_ini_parameter().dictionary().integer(settings::kTimeZone, kBeijingHours);
+}
+
+} // namespace
+
+basalt::LocalTimes shownTimes()
+{
+    return basalt::LocalTimes(hoursEast());
+}
+
+QString shownZone()
+{
+    const int hours = hoursEast();
+    return QLatin1String(hours < 0 ? "UTC" : "UTC+") + QString::number(hours);
 }
 
 std::string shownTime(std::int64_t milliseconds)

@@ -24,7 +24,7 @@ void SurveyMarks::add(const SurveyPoint& point, const ToMap& toMap)
     Ties ties;
     ties.design = toMap(point.designNorth, point.designEast);
     ties.base = base;
-    ties.hasDesign = point.designNorth != 0 && point.designEast != 0;
+    ties.hasDesign = hasDesignPosition(point);
     m_ties.push_back(ties);
     m_table.alsoSeenAt(m_basePlaces[base]);
     if (ties.hasDesign)

@@ -64,3 +64,9 @@ struct SurveyPoint
     std::int64_t rawOffset = 0;
     std::string baseStationId;
 };
+
+/// Whether the result says where its point was designed.
+[[nodiscard]] inline bool hasDesignPosition(const SurveyPoint& point)
+{
+    return point.designNorth != 0 && point.designEast != 0;
+}

@@ -18,6 +18,7 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/IHost.h"
+#include "lum_sdk/Text.h"
 #include "model/CodeTables.h"
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
@@ -36,6 +37,8 @@
 #include "quality/QualityLimits.h"
 #include "quality/ResurveyResult.h"
 #include "quality/Verdicts.h"
+#include "reports/ReportInput.h"
+#include "reports/ReportKinds.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -391,6 +394,20 @@ int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* o
         markChanged();
     }
     return answered(withSummary(reading, summary, counts), outcome);
+}
+
+int DataProcessDataManager::writeReport(const ReportKind& kind, const QString& path,
+                                        const ReportChoice& choice, Outcome* outcome)
+{
+    const IDictionary& program = get_system_config_parameter().dictionary();
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return kind.write(path,
+                          {m_design, m_survey, m_qualityParameters,
+                           get_project_coord_transform().parameters(), m_place.name, m_place.file,
+                           lum::toQString(program.text("name")) + QLatin1Char(' ') +
+                               lum::toQString(program.text("version")),
+                           choice, progress});
+    });
 }
 
 void DataProcessDataManager::setOtherSystemHandler(OtherSystemHandler handler)

@@ -24,6 +24,8 @@ struct DesignCorrection;
 struct ImportSummary;
 struct QualityLimits;
 struct QualityRow;
+struct ReportChoice;
+struct ReportKind;
 struct SurveyCorrection;
 
 /// What a project is opened for.
@@ -125,6 +127,11 @@ public:
                              ImportSummary* counts = nullptr);
     /// For the user interface, which then shows both systems.
     void setOtherSystemHandler(OtherSystemHandler handler);
+
+    /// Writes a workbook about the project, see reports/ReportKinds.h. The outcome has a notice in
+    /// numbers.
+    int writeReport(const ReportKind& kind, const QString& path, const ReportChoice& choice,
+                    Outcome* outcome = nullptr);
 
     // Changes by hand. What is not there is passed over.
 

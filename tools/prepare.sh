@@ -4,9 +4,10 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 build_packages=(
-    g++ cmake ninja-build ccache
+    g++ cmake ninja-build ccache pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt-advanced-docking-system-dev
-    libspdlog-dev libsqlite3-dev libproj-dev proj-data libgdal-dev libgtest-dev libbenchmark-dev
+    libspdlog-dev libsqlite3-dev libproj-dev proj-data libgdal-dev libxlsxwriter-dev
+    libgtest-dev libbenchmark-dev
 )
 run_packages=(
     libqt5svg5 qttranslations5-l10n breeze-icon-theme fonts-dejavu-core fonts-noto-cjk

@@ -2587,6 +2587,144 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>ReportKinds</name>
+    <message>
+        <source>Survey results</source>
+        <translation>测量成果</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Elevation as measured; no geoid is in use, so the sea height is the same.</source>
+        <translation>高程为实测值；未使用大地水准面，海拔高与高程相同。</translation>
+    </message>
+    <message>
+        <source>Elevation as measured; the sea height is by the geoid &quot;%1&quot;.</source>
+        <translation>高程为实测值；海拔高由大地水准面“%1”求得。</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>自 %1 起</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>至 %1 止</translation>
+    </message>
+    <message>
+        <source>all results</source>
+        <translation>全部成果</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>时段</translation>
+    </message>
+    <message>
+        <source>Surveyors</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>in the zone %1</source>
+        <translation>时区 %1</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>软件</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Heights</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>汇总</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限差</translation>
+    </message>
+    <message>
+        <source>Signs</source>
+        <translation>符号约定</translation>
+    </message>
+    <message>
+        <source>Differences are measured minus design: positive to the north, to the east and upwards.</source>
+        <translation>差值为实测减设计：向北、向东、向上为正。</translation>
+    </message>
+    <message>
+        <source>Points judged</source>
+        <translation>参与评定的点数</translation>
+    </message>
+    <message>
+        <source>Points not judged</source>
+        <translation>未评定的点数</translation>
+    </message>
+    <message>
+        <source>Why not judged</source>
+        <translation>未评定的原因</translation>
+    </message>
+    <message>
+        <source>Limit or figure</source>
+        <translation>限差或指标</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Writing the report</source>
+        <translation>正在写报告</translation>
+    </message>
+    <message>
+        <source>The report was cancelled; no file was written.</source>
+        <translation>报告已取消，未写入文件。</translation>
+    </message>
+</context>
+<context>
     <name>ResultCsv</name>
     <message>
         <source>The file &quot;%1&quot; cannot be written: %2.</source>
@@ -3344,6 +3482,181 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>It lacks the caption %1.</source>
         <translation>它缺少列标题 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyResultsReport</name>
+    <message>
+        <source>Results</source>
+        <translation>成果</translation>
+    </message>
+    <message>
+        <source>Not staked</source>
+        <translation>未放样</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>北坐标</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>东坐标</translation>
+    </message>
+    <message>
+        <source>Elevation (m)</source>
+        <translation>高程 (m)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>距离 (m)</translation>
+    </message>
+    <message>
+        <source>Bearing (%1)</source>
+        <translation>方位角 (%1)</translation>
+    </message>
+    <message>
+        <source>dN (m)</source>
+        <translation>dN (m)</translation>
+    </message>
+    <message>
+        <source>dE (m)</source>
+        <translation>dE (m)</translation>
+    </message>
+    <message>
+        <source>dH (m)</source>
+        <translation>dH (m)</translation>
+    </message>
+    <message>
+        <source>Obstacle</source>
+        <translation>障碍物</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Design north</source>
+        <translation>设计北坐标</translation>
+    </message>
+    <message>
+        <source>Design east</source>
+        <translation>设计东坐标</translation>
+    </message>
+    <message>
+        <source>Design elevation (m)</source>
+        <translation>设计高程 (m)</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>偏移</translation>
+    </message>
+    <message>
+        <source>These results have no design position, or their position is no number.</source>
+        <translation>这些成果没有设计坐标，或者其坐标不是数字。</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Design points</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>Staked</source>
+        <translation>已放样</translation>
+    </message>
+    <message>
+        <source>Staked (%)</source>
+        <translation>放样率 (%)</translation>
+    </message>
+    <message>
+        <source>Farther than the limit</source>
+        <translation>超出限差</translation>
+    </message>
+    <message>
+        <source>Farther (%)</source>
+        <translation>超限率 (%)</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>激发点</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>A design point counts as staked whenever and by whomever it was staked; results are those of the period and surveyors above.</source>
+        <translation>设计点无论何时由何人放样均计为已放样；成果仅限上述时段和测量员。</translation>
+    </message>
+    <message>
+        <source>Farthest from the design</source>
+        <translation>偏离设计最远的点</translation>
+    </message>
+    <message>
+        <source>Points farther than the limit, by obstacle</source>
+        <translation>偏移超限的点（按障碍物）</translation>
+    </message>
+    <message>
+        <source>none given</source>
+        <translation>未注明</translation>
+    </message>
+    <message>
+        <source>Design points without a result of the same line and point number.</source>
+        <translation>没有相同线号和点号成果的设计点。</translation>
+    </message>
+    <message>
+        <source>dN, dE, dH</source>
+        <translation>dN、dE、dH</translation>
+    </message>
+    <message>
+        <source>Measured minus design, in metres: to the north, to the east, upwards.</source>
+        <translation>实测减设计，单位为米：向北、向东、向上。</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>距离</translation>
+    </message>
+    <message>
+        <source>In the plane from the design to the measured position, in metres; red when it is above the limit design_hor_diff.</source>
+        <translation>设计位置到实测位置的平面距离，单位为米；大于限差 design_hor_diff 时为红色。</translation>
+    </message>
+    <message>
+        <source>Bearing</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>The direction from the design to the measured position, in degrees clockwise from grid north.</source>
+        <translation>从设计位置到实测位置的方向，自坐标北顺时针量取，单位为度。</translation>
+    </message>
+    <message>
+        <source>Results: %1, design points not staked: %2, farther from the design than the limit: %3.</source>
+        <translation>成果：%1，未放样的设计点：%2，偏离设计超出限差：%3。</translation>
     </message>
 </context>
 <context>

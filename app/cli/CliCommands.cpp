@@ -7,7 +7,9 @@
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
 #include "app/cli/RenderProject.h"
+#include "app/cli/WriteReport.h"
 #include "quality/CheckKinds.h"
+#include "reports/ReportKinds.h"
 
 #include <algorithm>
 #include <array>
@@ -33,6 +35,9 @@ constexpr std::array kCommands{
     CliCommand{"export", "PROJECT design-csv|design-db|design-kml|survey-csv|survey-kml FILE [--lines A,B] [--columns A,B] [--only-unsurveyed]",
                "write design points, or survey results (CSV: by default in the columns of the settings)",
                3, 3, "--lines,--columns", "--only-unsurveyed", exportFile},
+    CliCommand{"report", "PROJECT REPORT FILE.xlsx",
+               "write an Excel workbook about the project",
+               3, 3, "", "", writeReport},
     CliCommand{"set-quality", "PROJECT key=value ...",
                "set limits of the quality check",
                2, kAny, "", "", setQuality},
@@ -57,6 +62,7 @@ QString usageOf(const CliCommand& command)
 {
     QString usage = QString::fromLatin1(command.usage);
     usage.replace(QLatin1String("CHECK"), QString::fromStdString(checkNames("|")));
+    usage.replace(QLatin1String("REPORT"), QString::fromStdString(reportNames("|")));
     return QStringLiteral("skyquill-cli %1 %2").arg(QLatin1String(command.name), usage);
 }
 

@@ -112,7 +112,7 @@ Mark markOf(IDesktopHost& host, const SurveyPoint& point)
     const ICoordTransformHelper& helper = host.coordTransformHelper();
     Mark mark{PointHighlight::Kind::Result, {}};
     mark.positions << helper.projectToMap(point.north, point.east);
-    if (point.designNorth != 0 && point.designEast != 0)
+    if (hasDesignPosition(point))
         mark.positions << helper.projectToMap(point.designNorth, point.designEast);
     return mark;
 }

@@ -116,8 +116,7 @@ LocalTimes::LocalTimes(int hours)
 
 char* LocalTimes::write(char* to, std::int64_t milliseconds)
 {
-    const std::int64_t utc = floorDivide(milliseconds, 1000);
-    const std::int64_t local = utc + offsetAt(utc);
+    const std::int64_t local = toLocal(milliseconds);
     const std::int64_t day = floorDivide(local, kDay);
     if (!m_hasDay || day != m_day) {
         writeDay(m_dayText, std::clamp<std::int64_t>(day, -1000000, 10000000));
@@ -134,6 +133,12 @@ char* LocalTimes::write(char* to, std::int64_t milliseconds)
     writeDigits(to + 14, 2, second / 60 % 60);
     writeDigits(to + 17, 2, second % 60);
     return to + kTextSize;
+}
+
+std::int64_t LocalTimes::toLocal(std::int64_t milliseconds)
+{
+    const std::int64_t utc = floorDivide(milliseconds, 1000);
+    return utc + offsetAt(utc);
 }
 
 std::optional<std::int64_t> LocalTimes::read(std::string_view text)

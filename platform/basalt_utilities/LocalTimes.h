@@ -29,7 +29,10 @@ public:
     /// \returns the end of what was written: `to` itself for a year that has not four digits
     char* write(char* to, std::int64_t milliseconds);
 
-    /// The reverse; no value for a text of another form, or one that names no day or time of a day.
+    /// The same moment as seconds, counted as if the zone's clocks were those of UTC.
+    [[nodiscard]] std::int64_t toLocal(std::int64_t milliseconds);
+
+    /// The reverse of `write`; no value for a text of another form, or one that names no day or time of a day.
     /// When clocks are set back, a time occurs twice: the first is taken. When they are set
     /// forward, a time is left out: it is read as one that is later by as much.
     [[nodiscard]] std::optional<std::int64_t> read(std::string_view text);

@@ -4,6 +4,7 @@
 #include "basalt_utilities/KeyList.h"
 #include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/DatumShift.h"
+#include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/Text.h"
 
 #include <QCoreApplication>
@@ -126,9 +127,7 @@ const std::vector<QString>& planeLengths()
 {
     static const std::vector<QString> keys = [] {
         std::vector<QString> result;
-        for (const std::string_view key :
-             words("false_east,false_north,_4dx,_4dy,_4x0,_4y0,correct_dx,correct_dy,fit_x0,fit_y0,"
-                   "ver_x0,ver_y0"))
+        for (const std::string_view key : words(lum::kPlaneLengths))
             result.push_back(lum::toQString(key));
         return result;
     }();

@@ -43,6 +43,10 @@ inline constexpr const char* kLengthUnitKey = "unit_m";
 /// Writes `kLengthUnitKey`, or removes it for metres.
 void setLengthUnit(const LengthUnit& unit, IDictionary& coordParameters);
 
+/// The parameters of a coordinate system that are in its unit, comma-separated.
+inline constexpr const char* kPlaneLengths =
+    "false_east,false_north,_4dx,_4dy,_4x0,_4y0,correct_dx,correct_dy,fit_x0,fit_y0,ver_x0,ver_y0";
+
 [[nodiscard]] bool isMetre(const LengthUnit& unit);
 
 /// "m", "ft" for the international foot, "ftUS", otherwise the name.

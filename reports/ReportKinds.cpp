@@ -1,0 +1,43 @@
+#include "reports/ReportKinds.h"
+
+#include "reports/SurveyResultsReport.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// All reports: a new one is a line here.
+constexpr std::array kKinds{
+    ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
+               writeSurveyResults},
+};
+
+} // namespace
+
+QString ReportKind::captionText() const
+{
+    return QCoreApplication::translate("ReportKinds", caption);
+}
+
+std::span<const ReportKind> reportKinds()
+{
+    return kKinds;
+}
+
+const ReportKind* findReportKind(std::string_view name)
+{
+    const auto* const found = std::find_if(
+        kKinds.begin(), kKinds.end(), [&](const ReportKind& kind) { return name == kind.name; });
+    return found == kKinds.end() ? nullptr : found;
+}
+
+std::string reportNames(std::string_view separator)
+{
+    std::string names;
+    for (const ReportKind& kind : kKinds)
+        names.append(names.empty() ? "" : separator).append(kind.name);
+    return names;
+}
