@@ -34,6 +34,11 @@ public:
     /// forward, a time is left out: it is read as one that is later by as much.
     [[nodiscard]] std::optional<std::int64_t> read(std::string_view text);
 
+    /// The seconds that the clocks of the zone show at a moment, counted from their own 1970/01/01
+    /// 00:00:00: divided by the seconds of a day they are the day, and the time of the day.
+    /// \param milliseconds since 1970 UTC; parts of a second are cut off
+    [[nodiscard]] std::int64_t clockSeconds(std::int64_t milliseconds);
+
 private:
     /// A time in which the zone's offset does not change, in seconds since 1970 UTC.
     struct Span
