@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <vector>
+#include <span>
 
 namespace statistics {
 
@@ -66,7 +66,7 @@ private:
 /// The smallest value that at least 95 % of the values do not exceed: by nearest rank, the value of
 /// number ceil(0.95 n), counted from 1. `kUnknown` of no values.
 /// \param values finite; their order changes
-[[nodiscard]] double percentile95(std::vector<double>& values);
+[[nodiscard]] double percentile95(std::span<double> values);
 
 /// Whether the mean tells of a constant shift, such as that of a wrong base position or pole
 /// height: it is farther from 0 than 3 standard deviations / sqrt(n), and than 0.02.
