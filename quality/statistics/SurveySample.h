@@ -66,7 +66,12 @@ struct Observation
     double eastM = 0;
     double northM = 0;
     double heightM = 0;
-    double distanceM = 0;    ///< on the plane
+    double distanceM = 0; ///< on the plane
+    double horizontalAccuracyM = 0;
+    double verticalAccuracyM = 0;
+    double pdop = 0;
+    int satellites = 0;
+    bool isFixed = false;    ///< of a fixed solution
     std::int64_t timeMs = 0; ///< since 1970 UTC; 0 when it is missing
     int code = 0;            ///< its quality code by the sample's limits; see `sampleOf`
     std::array<std::uint32_t, kGroupKeys> keys{}; ///< places in `SurveySample::values`
@@ -109,8 +114,8 @@ struct SampleInput
 struct SurveySample
 {
     std::vector<Observation> results; ///< in the order of the container
-    /// By group key, all values that occur, ascending (texts by their bytes); of lines, also those
-    /// of the design.
+    /// By group key, all values of the results, ascending (texts by their bytes); of lines, also
+    /// those of the design, and always both kinds of points.
     std::array<std::vector<KeyValue>, kGroupKeys> values;
     DesignCount design;
     std::vector<DesignCount> designOfLine;   ///< by value of `GroupKey::Line`
