@@ -27,10 +27,10 @@ void add(Figures& figures, const Observation& result, std::size_t number)
     figures.north.add(result.northM, number);
     figures.height.add(result.heightM, number);
     figures.distance.add(result.distanceM, number);
-    figures.horizontalAccuracy.add(result.horizontalAccuracyM, number);
-    figures.verticalAccuracy.add(result.verticalAccuracyM, number);
-    figures.pdop.add(result.pdop, number);
-    figures.satellites.add(result.satellites, number);
+    figures.horizontalAccuracy.add(result.horizontalAccuracyM);
+    figures.verticalAccuracy.add(result.verticalAccuracyM);
+    figures.pdop.add(result.pdop);
+    figures.satellites.add(result.satellites);
     figures.fixed += result.isFixed ? 1U : 0U;
 }
 

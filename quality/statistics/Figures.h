@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quality/statistics/Average.h"
 #include "quality/statistics/Grouping.h"
 #include "quality/statistics/Moments.h"
 
@@ -25,10 +26,10 @@ struct Figures
     Moments height;
     Moments distance; ///< on the plane: its `rms` is the RMS 2D, its `largest` the maximum
     double distanceP95 = kUnknown;
-    Moments horizontalAccuracy;
-    Moments verticalAccuracy;
-    Moments pdop;       ///< `maximum` is the worst
-    Moments satellites; ///< `minimum` is the fewest
+    Average horizontalAccuracy; ///< metres
+    Average verticalAccuracy;
+    Average pdop;       ///< `maximum` is the worst
+    Average satellites; ///< `minimum` is the fewest
     std::size_t fixed = 0;
 
     [[nodiscard]] std::size_t of(ResultKind kind) const;

@@ -12,7 +12,8 @@ double Moments::standardDeviation() const
 
 double Moments::rms() const
 {
-    return known(std::sqrt(m_mean * m_mean + m_squares / static_cast<double>(m_count)));
+    const double mean = m_first + m_mean;
+    return known(std::sqrt(mean * mean + m_squares / static_cast<double>(m_count)));
 }
 
 double percentile95(std::span<double> values)

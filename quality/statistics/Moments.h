@@ -24,10 +24,12 @@ public:
             ++m_leftOut;
             return;
         }
-        ++m_count;
-        const double fromMean = value - m_mean;
+        if (m_count++ == 0)
+            m_first = value;
+        const double fromFirst = value - m_first;
+        const double fromMean = fromFirst - m_mean;
         m_mean += fromMean / static_cast<double>(m_count);
-        m_squares += fromMean * (value - m_mean);
+        m_squares += fromMean * (fromFirst - m_mean);
         m_minimum = value < m_minimum ? value : m_minimum;
         m_maximum = value > m_maximum ? value : m_maximum;
         if (std::fabs(value) > std::fabs(m_largest) || m_count == 1) {
@@ -38,7 +40,7 @@ public:
 
     [[nodiscard]] std::size_t count() const { return m_count; }
     [[nodiscard]] std::size_t leftOut() const { return m_leftOut; }
-    [[nodiscard]] double mean() const { return known(m_mean); }
+    [[nodiscard]] double mean() const { return known(m_first + m_mean); }
     /// Of a sample, with n - 1; known of two values and more.
     [[nodiscard]] double standardDeviation() const;
     /// The square root of the mean of the squares, with n.
@@ -55,7 +57,8 @@ private:
 
     std::size_t m_count = 0;
     std::size_t m_leftOut = 0;
-    double m_mean = 0;
+    double m_first = 0;
+    double m_mean = 0;    ///< from the first value, so that it has the digits of the spread
     double m_squares = 0; ///< the sum of the squares of the distances from the mean
     double m_minimum = std::numeric_limits<double>::infinity();
     double m_maximum = -std::numeric_limits<double>::infinity();

@@ -54,7 +54,7 @@ void setTimes(RoverSession& session, const Members& members)
 {
     session.firstMs = members.front()->timeMs;
     session.lastMs = members.back()->timeMs;
-    Moments gaps;
+    Average gaps;
     for (std::size_t i = 1; i < members.size(); ++i)
         gaps.add(minutesBetween(members[i - 1]->timeMs, members[i]->timeMs));
     session.longestGapMinutes = gaps.maximum();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quality/statistics/Moments.h"
+#include "quality/statistics/Average.h"
 #include "quality/statistics/SurveySample.h"
 
 #include <map>
@@ -28,11 +28,11 @@ struct RoverSession
     std::size_t failed = 0;
     std::size_t notJudged = 0;
 
-    Moments pdop;
-    Moments satellites;
-    Moments horizontalAccuracyM;
-    Moments verticalAccuracyM;
-    Moments baseDistanceM;
+    Average pdop;
+    Average satellites;
+    Average horizontalAccuracyM;
+    Average verticalAccuracyM;
+    Average baseDistanceM;
     std::map<int, std::size_t> solutions; ///< results by the code of their solution type
     std::vector<double> antennaHeightsM;  ///< those used, ascending
     std::size_t antennaChanges = 0;       ///< in the order of the times
@@ -73,7 +73,7 @@ struct BaseUse
     std::size_t results = 0;
     std::size_t days = 0;
     std::size_t rovers = 0;
-    Moments distanceM;
+    Average distanceM;
     /// How far other results put the base from where `first` does: the largest distance on the
     /// plane and the largest difference in height. Results without a position of the base are left
     /// out.
