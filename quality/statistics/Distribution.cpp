@@ -6,6 +6,13 @@
 
 namespace statistics {
 
+namespace {
+
+/// 500000.2 and 500000 differ by a little more than 0.2 in memory.
+constexpr double kNoiseM = 1e-6;
+
+} // namespace
+
 std::size_t Distribution::judged() const
 {
     return std::accumulate(counts.begin(), counts.end(), std::size_t(0));
@@ -27,8 +34,8 @@ Distribution distributionOf(const SurveySample& sample)
             ++distribution.notJudged;
             continue;
         }
-        const auto* const end =
-            std::lower_bound(kDistanceClassesM.begin(), kDistanceClassesM.end(), result.distanceM);
+        const auto* const end = std::lower_bound(kDistanceClassesM.begin(), kDistanceClassesM.end(),
+                                                 result.distanceM - kNoiseM);
         ++distribution.counts[static_cast<std::size_t>(end - kDistanceClassesM.begin())];
     }
     return distribution;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
+#include <utility>
 
 namespace statistics {
 
@@ -56,16 +57,16 @@ const KeyValue& Grouping::value(const SurveySample& sample, std::size_t group, G
     return sample.valuesOf(key)[places[group * keys.size() + place]];
 }
 
-Grouping groupBy(const SurveySample& sample, std::initializer_list<GroupKey> keys)
+Grouping groupBy(const SurveySample& sample, std::vector<GroupKey> keys)
 {
     Grouping grouping;
-    grouping.keys = keys;
+    grouping.keys = std::move(keys);
     grouping.groupCount = 1;
     grouping.groupOf.resize(sample.results.size());
-    if (keys.size() == 1) {
-        groupByOne(sample, *keys.begin(), grouping);
-    } else if (keys.size() > 1) {
-        for (const GroupKey key : keys)
+    if (grouping.keys.size() == 1) {
+        groupByOne(sample, grouping.keys.front(), grouping);
+    } else if (grouping.keys.size() > 1) {
+        for (const GroupKey key : grouping.keys)
             split(sample, key, grouping);
         setPlaces(sample, grouping);
     }

@@ -3,7 +3,6 @@
 #include "quality/statistics/SurveySample.h"
 
 #include <cstdint>
-#include <initializer_list>
 #include <vector>
 
 namespace statistics {
@@ -25,7 +24,7 @@ struct Grouping
 /// Groups by any keys together, ordered by the values of the first key, then of the second, and so
 /// on. By one key, every value has its group: so a line without a result is there, too. By no key,
 /// all results are one group.
-[[nodiscard]] Grouping groupBy(const SurveySample& sample, std::initializer_list<GroupKey> keys);
+[[nodiscard]] Grouping groupBy(const SurveySample& sample, std::vector<GroupKey> keys);
 
 /// The results of each group, as places in `SurveySample::results`, ascending.
 [[nodiscard]] std::vector<std::vector<std::uint32_t>> membersOf(const Grouping& grouping);

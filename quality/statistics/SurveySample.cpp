@@ -89,8 +89,10 @@ private:
     [[nodiscard]] ResultKind kindOf(const SurveyPoint& point, bool isPlanned) const;
     void setKeys(Observation& result);
 
+    /// Puts the values of a key in order.
+    /// \returns for each place in the results' keys the one that it has now
     template <class Value>
-    void sortKeys(GroupKey key, KeyTable<Value>& table);
+    [[nodiscard]] std::vector<std::uint32_t> sortValues(GroupKey key, KeyTable<Value>& table);
 
     SampleInput& m_input;
     SurveySample m_sample;
@@ -108,8 +110,9 @@ void SampleReader::readLine(const std::string& number, const PointLine<DesignPoi
     static const PointLine<SurveyPoint> kNoSurvey;
     const PointLine<DesignPoint>& planned = design != nullptr ? *design : kNoDesign;
     valuesOf(GroupKey::Line).push_back({number, 0});
-    m_sample.designOfLine.emplace_back();
+    DesignCount& count = m_sample.designOfLine.emplace_back(DesignCount{planned.size(), 0});
     const std::size_t before = m_sample.results.size();
+    std::size_t staked = 0;
     auto next = planned.begin();
     for (const SurveyPoint& point : survey != nullptr ? *survey : kNoSurvey) {
         int order = 1;
@@ -119,9 +122,13 @@ void SampleReader::readLine(const std::string& number, const PointLine<DesignPoi
         addResult(point, isPlanned);
         if (isPlanned)
             countDesign(*next++, true);
+        staked += isPlanned ? 1U : 0U;
     }
     for (; next != planned.end(); ++next)
         countDesign(*next, false);
+    count.left = count.designed - staked;
+    m_sample.design.designed += count.designed;
+    m_sample.design.left += count.left;
     if (design == nullptr && m_sample.results.size() == before) {
         valuesOf(GroupKey::Line).pop_back();
         m_sample.designOfLine.pop_back();
@@ -130,11 +137,9 @@ void SampleReader::readLine(const std::string& number, const PointLine<DesignPoi
 
 void SampleReader::countDesign(const DesignPoint& point, bool isStaked)
 {
-    for (DesignCount* const count : {&m_sample.design, &m_sample.designOfLine.back(),
-                                     &m_sample.designOfKind[kindPlace(point.type)]}) {
-        ++count->designed;
-        count->left += isStaked ? 0U : 1U;
-    }
+    DesignCount& count = m_sample.designOfKind[kindPlace(point.type)];
+    ++count.designed;
+    count.left += isStaked ? 0U : 1U;
 }
 
 void SampleReader::addResult(const SurveyPoint& point, bool isPlanned)
@@ -184,28 +189,32 @@ void SampleReader::setKeys(Observation& result)
 }
 
 template <class Value>
-void SampleReader::sortKeys(GroupKey key, KeyTable<Value>& table)
+std::vector<std::uint32_t> SampleReader::sortValues(GroupKey key, KeyTable<Value>& table)
 {
-    const std::vector<std::uint32_t> now = table.sort();
-    for (Observation& result : m_sample.results) {
-        std::uint32_t& place = result.keys[static_cast<std::size_t>(key)];
-        place = now[place];
-    }
+    std::vector<std::uint32_t> now = table.sort();
     for (const Value& value : table.values()) {
         if constexpr (std::is_integral_v<Value>)
             valuesOf(key).push_back({"", value});
         else
             valuesOf(key).push_back({std::string(value), 0});
     }
+    return now;
 }
 
 SurveySample SampleReader::finish()
 {
-    sortKeys(GroupKey::Day, m_days);
-    sortKeys(GroupKey::Rover, m_rovers);
-    sortKeys(GroupKey::Surveyor, m_surveyors);
-    sortKeys(GroupKey::Base, m_bases);
-    sortKeys(GroupKey::Hour, m_hours);
+    const std::pair<GroupKey, std::vector<std::uint32_t>> sorted[] = {
+        {GroupKey::Day, sortValues(GroupKey::Day, m_days)},
+        {GroupKey::Rover, sortValues(GroupKey::Rover, m_rovers)},
+        {GroupKey::Surveyor, sortValues(GroupKey::Surveyor, m_surveyors)},
+        {GroupKey::Base, sortValues(GroupKey::Base, m_bases)},
+        {GroupKey::Hour, sortValues(GroupKey::Hour, m_hours)}};
+    for (Observation& result : m_sample.results) {
+        for (const auto& [key, now] : sorted) {
+            std::uint32_t& place = result.keys[static_cast<std::size_t>(key)];
+            place = now[place];
+        }
+    }
     return std::move(m_sample);
 }
 
