@@ -141,6 +141,7 @@ TEST(TestFigures, CountEachTestByKindOfPoint)
     survey.limits.antennaM = {3, 2.5}; // turned about: 2.75 is too high, and so not too low
     survey.measure("1", "1").antennaHeight = 2.75;
     survey.measure("1", "2").antennaHeight = 2.5;
+    survey.results.find("1", "2")->pdop = INFINITY; // failed, though it is no number
     SurveyPoint& source = survey.measure("1", "3");
     source.pointMark = 0;
     source.pdop = NAN;
@@ -156,7 +157,7 @@ TEST(TestFigures, CountEachTestByKindOfPoint)
     using Counts = std::vector<std::size_t>;
     EXPECT_EQ(counts(quality_test::kAntennaHigh, 1), (Counts{3, 1, 0}));
     EXPECT_EQ(counts(quality_test::kAntennaLow, 1), (Counts{3, 2, 0}));
-    EXPECT_EQ(counts(quality_test::kPdop, 1), (Counts{3, 1, 0}));
+    EXPECT_EQ(counts(quality_test::kPdop, 1), (Counts{3, 2, 0}));
     EXPECT_EQ(counts(quality_test::kPdop, 0), (Counts{0, 0, 1}));
     EXPECT_EQ(counts(quality_test::kDesignHorizontal, 0), (Counts{0, 0, 1}));
     EXPECT_EQ(tests.at(&quality_test::kAntennaLow).all().failed, 3U);
@@ -189,6 +190,7 @@ TEST(StakingProgress, CumulatesTheDaysInTheirOrder)
         survey.plan("1", number);
     survey.measure("1", "1").dateTime += 2 * kDayMs;
     survey.measure("1", "1F"); // another day, but no staked point
+    survey.measure("1", "6");  // nor this
     survey.measure("1", "2").pointMark = 0;
     survey.results.find("1", "2")->dateTime += 2 * kDayMs;
     survey.measure("1", "3").dateTime += kDayMs;
