@@ -204,6 +204,11 @@ std::pair<QString, QString> textsOf(const JudgedValue& judged)
 
 } // namespace
 
+std::span<const QualityTest* const> qualityTests()
+{
+    return kAll;
+}
+
 int qualityDigit(int code, int power)
 {
     static constexpr std::array<int, 8> kPowers{1, 10, 100, 1000, 10000, 100000, 1000000, 10000000};

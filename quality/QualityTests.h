@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <array>
+#include <span>
 
 struct QualityLimits;
 
@@ -52,6 +53,9 @@ extern const QualityTest kAcross;
 extern const QualityTest kAlong;
 
 } // namespace quality_test
+
+/// All tests, by their digits, counted from the units.
+[[nodiscard]] std::span<const QualityTest* const> qualityTests();
 
 /// A digit of the quality code; 0 of a code that is negative.
 /// \param power counted from the units

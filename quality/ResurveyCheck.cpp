@@ -3,6 +3,7 @@
 #include "basalt_utilities/ILogger.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/QualityLimits.h"
+#include "quality/ResurveyCode.h"
 #include "quality/ResurveyTolerances.h"
 #include "quality/UnplacedResults.h"
 
@@ -28,16 +29,6 @@ void forget(SurveyPoint& point)
         return;
     point.isResurvey = resurvey::kNone;
     point.pairedNumber.clear();
-}
-
-/// The number without every occurrence of the code.
-std::string withoutCode(std::string number, std::string_view code)
-{
-    if (code.empty())
-        return number;
-    for (auto at = number.find(code); at != std::string::npos; at = number.find(code, at))
-        number.erase(at, code.size());
-    return number;
 }
 
 /// Pairs the results of one line after the other.

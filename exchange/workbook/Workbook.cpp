@@ -148,7 +148,7 @@ void Workbook::setFooter(lxw_worksheet* sheet)
 double Workbook::excelTime(std::int64_t milliseconds)
 {
     const double day =
-        kExcelDayOf1970 + static_cast<double>(m_times.toLocal(milliseconds)) / kSecondsADay;
+        kExcelDayOf1970 + static_cast<double>(m_times.clockSeconds(milliseconds)) / kSecondsADay;
     return day >= kFirstDay && day < kLastDay ? day : std::numeric_limits<double>::quiet_NaN();
 }
 

@@ -116,7 +116,7 @@ LocalTimes::LocalTimes(int hours)
 
 char* LocalTimes::write(char* to, std::int64_t milliseconds)
 {
-    const std::int64_t local = toLocal(milliseconds);
+    const std::int64_t local = clockSeconds(milliseconds);
     const std::int64_t day = floorDivide(local, kDay);
     if (!m_hasDay || day != m_day) {
         writeDay(m_dayText, std::clamp<std::int64_t>(day, -1000000, 10000000));
@@ -135,18 +135,18 @@ char* LocalTimes::write(char* to, std::int64_t milliseconds)
     return to + kTextSize;
 }
 
-std::int64_t LocalTimes::toLocal(std::int64_t milliseconds)
-{
-    const std::int64_t utc = floorDivide(milliseconds, 1000);
-    return utc + offsetAt(utc);
-}
-
 std::optional<std::int64_t> LocalTimes::read(std::string_view text)
 {
     const auto local = readClock(text);
     if (!local)
         return std::nullopt;
     return toUtc(*local) * 1000;
+}
+
+std::int64_t LocalTimes::clockSeconds(std::int64_t milliseconds)
+{
+    const std::int64_t utc = floorDivide(milliseconds, 1000);
+    return utc + offsetAt(utc);
 }
 
 std::int64_t LocalTimes::offsetAt(std::int64_t utc)

@@ -29,13 +29,15 @@ public:
     /// \returns the end of what was written: `to` itself for a year that has not four digits
     char* write(char* to, std::int64_t milliseconds);
 
-    /// The same moment as seconds, counted as if the zone's clocks were those of UTC.
-    [[nodiscard]] std::int64_t toLocal(std::int64_t milliseconds);
-
-    /// The reverse of `write`; no value for a text of another form, or one that names no day or time of a day.
-    /// When clocks are set back, a time occurs twice: the first is taken. When they are set
-    /// forward, a time is left out: it is read as one that is later by as much.
+    /// The reverse of `write`; no value for a text of another form, or one that names no day or
+    /// time of a day. When clocks are set back, a time occurs twice: the first is taken. When they
+    /// are set forward, a time is left out: it is read as one that is later by as much.
     [[nodiscard]] std::optional<std::int64_t> read(std::string_view text);
+
+    /// The seconds that the clocks of the zone show at a moment, counted from their own 1970/01/01
+    /// 00:00:00: divided by the seconds of a day they are the day, and the time of the day.
+    /// \param milliseconds since 1970 UTC; parts of a second are cut off
+    [[nodiscard]] std::int64_t clockSeconds(std::int64_t milliseconds);
 
 private:
     /// A time in which the zone's offset does not change, in seconds since 1970 UTC.

@@ -99,6 +99,8 @@ TEST(LocalTimes, KeepAFixedOffset)
     EXPECT_EQ(written(east, 1719828000000), "2024/07/01 18:00:00");
     EXPECT_EQ(east.read("2024/07/01 18:00:00"), 1719828000000);
     EXPECT_EQ(written(west, 1719828000000), "2024/06/30 23:00:00");
+    EXPECT_EQ(east.clockSeconds(1719828000999), 1719828000 + 8 * 3600);
+    EXPECT_EQ(west.clockSeconds(-1), -1 - 11 * 3600);
 }
 
 TEST(LocalTimes, ReadAndWriteNothingElse)

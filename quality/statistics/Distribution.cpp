@@ -1,0 +1,39 @@
+#include "quality/statistics/Distribution.h"
+
+#include "quality/QualityLimits.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace statistics {
+
+std::size_t Distribution::judged() const
+{
+    return std::accumulate(counts.begin(), counts.end(), std::size_t(0));
+}
+
+std::size_t Distribution::cumulated(std::size_t distanceClass) const
+{
+    const auto end = counts.begin() + static_cast<std::ptrdiff_t>(distanceClass) + 1;
+    return std::accumulate(counts.begin(), end, std::size_t(0));
+}
+
+Distribution distributionOf(const SurveySample& sample)
+{
+    Distribution distribution;
+    for (const Observation& result : sample.results) {
+        if (!result.isFirst())
+            continue;
+        if (!std::isfinite(result.distanceM)) {
+            ++distribution.notJudged;
+            continue;
+        }
+        const auto* const end = std::lower_bound(kDistanceClassesM.begin(), kDistanceClassesM.end(),
+                                                 result.distanceM - kRoundingM);
+        ++distribution.counts[static_cast<std::size_t>(end - kDistanceClassesM.begin())];
+    }
+    return distribution;
+}
+
+} // namespace statistics
