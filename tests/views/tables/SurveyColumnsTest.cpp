@@ -3,17 +3,17 @@
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Product.h"
 #include "exchange/ExportColumns.h"
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "project/DataProcessDataManager.h"
-#include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/project/OpenProject.h"
+#include "tests/support/Boxes.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 #include "views/tables/ColumnChoice.h"
+#include "views/tables/ColumnListModel.h"
 #include "views/tables/DlgSurveyColumns.h"
 #include "views/tables/SurveyTableColumns.h"
 #include "views/tables/SurveyTableHideCommand.h"
 
+#include <QAbstractItemModelTester>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
@@ -61,32 +61,27 @@ class SurveyColumnsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { m_project.emplace(); }
     void settingsOfAnyKindGiveAChoice();
     void okStoresBothLists();
     void escapeChangesNothing();
     void typingNarrowsWhatAllAndNoneConcern();
     void theKeyboardOrders();
+    void rowsAreMovedTogether();
     void aLostSettingsFileIsTold();
 
 private:
     std::unique_ptr<DlgSurveyColumns> show()
     {
-        auto dialog = std::make_unique<DlgSurveyColumns>(nullptr, m_host->events);
+        auto dialog = std::make_unique<DlgSurveyColumns>(nullptr, m_project->host.events);
         dialog->show();
         [[maybe_unused]] const bool isActive = QTest::qWaitForWindowActive(dialog.get());
         return dialog;
     }
-    [[nodiscard]] static IDictionary& settings() { return get_system_ini_parameter().dictionary(); }
+    [[nodiscard]] static IDictionary& settings() { return OpenProject::settings(); }
 
-    std::unique_ptr<TestHost> m_host;
+    std::optional<OpenProject> m_project;
 };
-
-void SurveyColumnsTest::init()
-{
-    m_host = std::make_unique<TestHost>();
-    settings().clear();
-}
 
 void SurveyColumnsTest::settingsOfAnyKindGiveAChoice()
 {
@@ -114,8 +109,7 @@ void SurveyColumnsTest::settingsOfAnyKindGiveAChoice()
 
 void SurveyColumnsTest::okStoresBothLists()
 {
-    const DataProcessDataManager manager(m_host.get());
-    const EventLog log(m_host->events, "ON_SURVEY_COLUMNS_CHANGED");
+    const EventLog log(m_project->host.events, "ON_SURVEY_COLUMNS_CHANGED");
     settings().set("survey_table_hidden", "north");
     const auto dialog = show();
     const Panel table(*dialog, 0);
@@ -142,7 +136,7 @@ void SurveyColumnsTest::okStoresBothLists()
 
 void SurveyColumnsTest::escapeChangesNothing()
 {
-    const EventLog log(m_host->events, "ON_SURVEY_COLUMNS_CHANGED");
+    const EventLog log(m_project->host.events, "ON_SURVEY_COLUMNS_CHANGED");
     const auto dialog = show();
     Panel(*dialog, 0).press("None");
     Panel(*dialog, 1).press("None");
@@ -150,7 +144,7 @@ void SurveyColumnsTest::escapeChangesNothing()
     QVERIFY(!dialog->isVisible());
     QCOMPARE(settings().size(), std::size_t(0));
     QVERIFY(log.events.empty());
-    QVERIFY(SurveyTableHideCommand("", m_host.get()).isEnabled());
+    QVERIFY(SurveyTableHideCommand("", &m_project->host).isEnabled());
 }
 
 void SurveyColumnsTest::typingNarrowsWhatAllAndNoneConcern()
@@ -172,6 +166,9 @@ void SurveyColumnsTest::typingNarrowsWhatAllAndNoneConcern()
     QTest::keyClick(table.search, Qt::Key_Up, Qt::AltModifier);
     table.search->clear();
     table.press("None");
+    QCOMPARE(table.said(), "1 of 43 columns checked"_q);
+    table.list->setCurrentIndex(table.list->model()->index(0, 0));
+    QTest::keyClick(table.list, Qt::Key_Space); // the last one stays
     QCOMPARE(table.said(), "1 of 43 columns checked"_q);
     table.press("Default");
     QCOMPARE(table.said(), "43 of 43 columns checked"_q);
@@ -196,19 +193,40 @@ void SurveyColumnsTest::theKeyboardOrders()
     QCOMPARE(columnChoice(settings()).order.indexOf("line_num"_q), 18);
 }
 
+/// As a drag moves them.
+void SurveyColumnsTest::rowsAreMovedTogether()
+{
+    ColumnListModel model({{"a"_q, "A"_q, true},
+                           {"b"_q, "B"_q, false},
+                           {"c"_q, "C"_q, false},
+                           {"d"_q, "D"_q, false},
+                           {"e"_q, "E"_q, false},
+                           {"f"_q, "F"_q, false}});
+    const QAbstractItemModelTester tester(&model);
+    const auto order = [&] { return model.allKeys().join(QString()); };
+    QVERIFY(model.moveRows({}, 1, 2, {}, 6)); // down
+    QCOMPARE(order(), "adefbc"_q);
+    QVERIFY(model.moveRows({}, 4, 2, {}, 1)); // up again
+    QCOMPARE(order(), "abcdef"_q);
+    for (const auto& [from, count, to] :
+         {std::tuple(-1, 1, 3), std::tuple(5, 2, 0), std::tuple(3, 2, 4), std::tuple(3, 0, 5),
+          std::tuple(3, 1, 7), std::tuple(6, 1, 0)})
+        QVERIFY(!model.moveRows({}, from, count, {}, to));
+    model.set({"e"_q, "gone"_q, "c"_q}, {"c"_q, "gone"_q, "d"_q});
+    QCOMPARE(order(), "ecabdf"_q);
+    QCOMPARE(model.checkedKeys().join(QString()), "cad"_q); // "a" is needed
+}
+
 void SurveyColumnsTest::aLostSettingsFileIsTold()
 {
     const QString file = QString::fromStdString(basalt::settingsFolder() + "/settings.xml");
     QFile::remove(file);
     QVERIFY(QDir().mkpath(file)); // a folder cannot be written
-    QStringList told;
-    const LumMessageBox::Responder responder([&](const auto& message) {
-        told << message.text;
-        return LumMessageBox::Button::Ok;
-    });
+    Boxes boxes;
     const auto dialog = show();
     press(*dialog, QDialogButtonBox::Ok);
     QVERIFY(QDir().rmdir(file));
+    const QStringList told = boxes.told();
     QCOMPARE(told.size(), 1);
     QVERIFY(told.first().contains("cannot be saved"_q));
     QVERIFY(!dialog->isVisible());
