@@ -10,16 +10,17 @@ class OnEvent final : public IEventHandler
 {
 public:
     /// \param names comma-separated
-    OnEvent(IEventManager& manager, std::string_view names, std::function<void()> call)
+    OnEvent(IEventManager& manager, std::string_view names,
+            std::function<void(const char* name)> call)
         : m_call(std::move(call)), m_subscription(*this, names, manager)
     {
     }
-    void handleEvent(const char* /*name*/, const char* /*payload*/, int /*reserved*/) override
+    void handleEvent(const char* name, const char* /*payload*/, int /*reserved*/) override
     {
-        m_call();
+        m_call(name);
     }
 
 private:
-    std::function<void()> m_call;
+    std::function<void(const char*)> m_call;
     EventSubscription m_subscription;
 };

@@ -159,7 +159,7 @@ private Q_SLOTS:
 
         // Who follows the selection gives the answer to the table itself, too.
         const OnEvent follower(project.host.events, events::kSurveyPointSelected,
-                               [&] { seen.window.followPoint("1001"_q, "1"_q); });
+                               [&](auto*) { seen.window.followPoint("1001"_q, "1"_q); });
         seen.click(0);
         seen.click(2, 1, Qt::ControlModifier);
         QCOMPARE(seen.selected(), (QStringList{"1001/1"_q, "1001/3"_q}));
@@ -369,7 +369,7 @@ private Q_SLOTS:
         SurveyTable seen(project, kResultsOf, line("1001"));
         // As the tree does, which shows all lines when the points have changed.
         const OnEvent tree(project.host.events, events::kRefreshSurveyLayer,
-                           [&] { project.publish(kAll); });
+                           [&](auto*) { project.publish(kAll); });
         QVERIFY(QTest::qWaitForWindowActive(&seen.window));
         seen.click(1);
         seen.click(2, 1, Qt::ShiftModifier);
