@@ -3,6 +3,7 @@
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "model/SurveyColumns.h"
+#include "tests/support/Literals.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -114,10 +115,9 @@ TEST_F(SurveyCsv, EachValueIsWrittenInItsForm)
     point.ageOfDiff = 2.5;
     point.isResurvey = 1;
     points.set(std::move(point));
-    QStringList captions =
-        exportCaptions(QStringLiteral("point_num,line_num,latitude,age_of_diff,is_resurvey")
-                           .split(QLatin1Char(',')));
-    captions << QStringLiteral("unknown");
+    QStringList captions = exportCaptions(
+        "point_num,line_num,latitude,age_of_diff,is_resurvey"_q.split(QLatin1Char(',')));
+    captions << "unknown"_q;
     EXPECT_EQ(written(captions, 1), "point num,line num,latitude,age of diff,resurvey,unknown\n"
                                     "8,7,30deg30min0.000sec,2.5,1,\n");
 }
@@ -125,8 +125,7 @@ TEST_F(SurveyCsv, EachValueIsWrittenInItsForm)
 TEST_F(SurveyCsv, WithoutLineAndPointNumberNoRowIsWritten)
 {
     points.set(pointOf("L", "P"));
-    EXPECT_EQ(written({QStringLiteral("point num"), QStringLiteral("north")}, 0),
-              "point num,north\n");
+    EXPECT_EQ(written({"point num"_q, "north"_q}, 0), "point num,north\n");
     EXPECT_EQ(heard.payloads(),
               (std::vector<std::string>{"text=Export Survey Data,value=100,is_exec=0", "show=0"}));
 }

@@ -6,6 +6,7 @@
 #include "protocol/Events.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 
 #include <gtest/gtest.h>
 
@@ -165,7 +166,7 @@ TEST_F(PointCorrection, FaultsAreToldAndChangeNothing)
     EXPECT_EQ(correct({"R1", "10012034"}, name("", "")), 0);
     EXPECT_EQ(outcome.kind(), Outcome::Kind::Refused);
     EXPECT_EQ(correct({"R1", "gone"}, {}), 0);
-    EXPECT_TRUE(outcome.text().contains(QStringLiteral("gone")));
+    EXPECT_TRUE(outcome.text().contains("gone"_q));
     EXPECT_FALSE(manager.isChanged());
 }
 

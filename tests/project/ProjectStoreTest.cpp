@@ -4,6 +4,7 @@
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
@@ -38,7 +39,7 @@ protected:
         }
         return all;
     }
-    [[nodiscard]] bool hasCopy() const { return QFile::exists(file + QStringLiteral(".saved")); }
+    [[nodiscard]] bool hasCopy() const { return QFile::exists(file + ".saved"_q); }
 
     TestFolder folder;
     QString file = folder.path("p.db");
