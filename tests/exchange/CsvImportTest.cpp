@@ -1,7 +1,6 @@
 #include "exchange/CsvImport.h"
 
 #include "CsvFixture.h"
-#include "exchange/DesignCsvReader.h"
 #include "model/PointLines.h"
 #include "tests/support/Literals.h"
 
@@ -87,13 +86,4 @@ TEST_F(FailedImport, ChangesNothing)
                       },
                       nothing),
                   "It became shorter meanwhile.");
-}
-
-TEST_F(CsvFixture, ADeviceIsRefusedWithoutProgress)
-{
-    DesignPoints points;
-    const QString name = "/dev/null"_q;
-    EXPECT_EQ(readDesignCsv(name, points, progress, summary).text(),
-              "\"/dev/null\" cannot be read: It is not a file."_q);
-    EXPECT_TRUE(heard.events.empty());
 }

@@ -1,7 +1,6 @@
 #include "basalt_utilities/KeyList.h"
 #include "CsvFixture.h"
 #include "exchange/DesignKml.h"
-#include "exchange/SurveyKml.h"
 #include "lum_sdk/coords/CoordWjl.h"
 #include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
@@ -107,24 +106,6 @@ TEST_F(Kml, HoldsEveryPointWhereTheCoordinateServicePutsIt)
             expectAt(*right, point.positions[0]);
         }
     }
-}
-
-TEST_F(Kml, ResultsArePlacedByTheirPlaneCoordinates)
-{
-    SurveyPoints survey;
-    SurveyPoint point;
-    point.lineNumber = "1";
-    point.pointNumber = "C12345678_3";
-    point.latitude = -33;
-    point.longitude = 18;
-    point.north = 4400000;
-    point.east = 510000;
-    survey.set(point);
-    ASSERT_TRUE(writeSurveyKml(path(), {survey, {"1"_q}, {}}, transform, progress).isDone());
-    const std::vector<Feature> points = read(0);
-    ASSERT_EQ(points.size(), 1U);
-    EXPECT_EQ(points[0].name, "C12345678") << "without the counter";
-    expectAt(point, points[0].positions[0]);
 }
 
 TEST_F(Kml, ProgressFollowsTheLinesThatThereAre)
