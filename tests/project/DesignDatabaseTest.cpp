@@ -25,22 +25,6 @@ protected:
         return writeDesignDatabase(to, {project.design, lines, onlyUnsurveyed},
                                    project.coordParameters, progress);
     }
-    /// The rows of a table, in their order.
-    [[nodiscard]] static std::string rows(const QString& path, const char* table)
-    {
-        DBAdapter database;
-        EXPECT_TRUE(database.open(lum::databaseConnection(path.toStdString()).c_str()))
-            << database.lastError();
-        std::string all;
-        database.forEachRow((std::string("select * from ") + table).c_str(),
-                            [&](const IDictionary& row) {
-                                for (std::size_t i = 0; i < row.size(); ++i)
-                                    all += std::string(row.valueAt(i)) + '|';
-                                all += '\n';
-                                return true;
-                            });
-        return all;
-    }
     [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files); }
 
     TestFolder folder;
@@ -60,7 +44,7 @@ TEST_F(DesignDatabase, HoldsTheRowsThatASaveWrites)
     expectDone(project.save(saved.toStdString()));
     expectDone(write(path, {"1000"_q, "1001"_q, "1002"_q}));
     for (const char* table : {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem"})
-        EXPECT_EQ(rows(path, table), rows(saved, table)) << table;
+        EXPECT_EQ(rowsOf(path.toStdString(), table), rowsOf(saved.toStdString(), table)) << table;
     EXPECT_EQ(files().size(), 2) << "nothing beside it";
 }
 
@@ -69,7 +53,7 @@ TEST_F(DesignDatabase, LinesComeInTheOrderOfTheListWithProgress)
     const EventLog heard(events, events::kProgress);
     const QStringList lines{"1001"_q, "none"_q, "1002"_q, "1000"_q, "none"_q};
     expectDone(write(path, lines, true)); // line 1001 is surveyed
-    const std::string written = rows(path, "SurveyLineItem");
+    const std::string written = rowsOf(path.toStdString(), "SurveyLineItem");
     EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 6000);
     EXPECT_EQ(written.find("1002|"), 0U);
     EXPECT_LT(written.rfind("1002|10027999"), written.find("1000|1000"));

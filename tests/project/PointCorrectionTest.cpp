@@ -100,7 +100,7 @@ TEST_F(PointCorrection, ANewNameMovesTheResultAndReplacesTheOneThere)
     SurveyCorrection correction;
     correction.lineNumber = "R2";
     EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), nullptr);
-    correction.pointNumber = "2";
+    correction.pointNumber = " 2 ";
     EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), points.find("R2", "2"));
     correction.remarks = "by hand ";
     EXPECT_EQ(correct({"R1", "1"}, correction), 1);

@@ -198,18 +198,6 @@ TEST_F(ProjectLife, AMissingDatabaseIsMadeBySavingAlone)
     EXPECT_EQ(files("*.lock"), QStringList()) << "a project that is not open has no lock";
 }
 
-TEST_F(ProjectLife, TheProjectFileThatWasOpenedIsWritten)
-{
-    create();
-    const QString renamed = place.folder + "/测区 1.old.kelx"_q;
-    ASSERT_TRUE(QFile::rename(place.file, renamed));
-    expectDone(manager.openProject(ProjectPlace::ofFile(renamed)));
-    manager.project().set("crew", "second");
-    expectDone(manager.saveProject(ProjectPlace::in(place.folder, place.name)));
-    EXPECT_TRUE(TestFolder::read(renamed).contains("second"));
-    EXPECT_FALSE(QFile::exists(place.file));
-}
-
 TEST_F(ProjectLife, ParametersEndWithTheirProject)
 {
     createAndOpen();
@@ -288,19 +276,6 @@ TEST_F(ProjectLife, AReadOnlyInstallationIsNotedOnce)
     basalt::setProduct(usual);
     EXPECT_EQ(log.lines().size(), 1U);
     EXPECT_EQ(log.text(ILogger::Level::Warning), "");
-}
-
-TEST_F(ProjectLife, OnlyAProjectFileIsOpened)
-{
-    createAndOpen();
-    manager.surveyPoints().set(surveyPoint("L1", "7"));
-    expectDone(manager.saveProject(place));
-    manager.clear();
-    for (const QString& file : {database, place.folder + "/qc_param.ini"_q})
-        expectFailure(manager.openProject(ProjectPlace::ofFile(file)), "no project file");
-    expectFailure(manager.openProject(ProjectPlace::ofFile(database)), place.file.toUtf8());
-    EXPECT_TRUE(manager.surveyPoints().empty());
-    EXPECT_EQ(files("*.lock"), QStringList());
 }
 
 TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)

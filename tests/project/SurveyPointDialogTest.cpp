@@ -24,7 +24,6 @@ private Q_SLOTS:
     void whatItRefusesHasAReasonAndTheFocus();
     void aCommaIsNeverReadAsNothing();
     void asksBeforeItReplacesAResult();
-    void aNameWithBlanksIsTakenWithoutThem();
     void withoutAChangeNothingHappens();
     void aResultThatIsGoneIsTold();
 
@@ -168,15 +167,6 @@ void SurveyPointDialogTest::asksBeforeItReplacesAResult()
     QVERIFY((m_dialog->point() == PointName{"R2", "2"}));
     QCOMPARE(find("R2", "2")->remarks, std::string("dry"));
     QVERIFY(m_manager->surveyPoints().findLine("R1") == nullptr);
-}
-
-void SurveyPointDialogTest::aNameWithBlanksIsTakenWithoutThem()
-{
-    open("R1", "1");
-    type(1, " a 3% "_q);
-    pressEnter();
-    QVERIFY(find("R1", "a 3%") != nullptr);
-    QCOMPARE(m_told, QStringList());
 }
 
 void SurveyPointDialogTest::withoutAChangeNothingHappens()

@@ -6,6 +6,7 @@
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
+#include "tests/support/OnEvent.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -14,25 +15,6 @@
 namespace {
 
 using Payloads = std::vector<std::string>;
-
-/// At each event, empties the survey and lets the layer rebuild its cache.
-class Emptier final : public IEventHandler
-{
-public:
-    explicit Emptier(TestMap& map)
-        : m_map(map), m_subscription(*this, events::kProgress, map.host.events)
-    {
-    }
-    void handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/) override
-    {
-        m_map.manager.surveyPoints().clear();
-        m_map.publish(events::kRefreshSurveyLayer);
-    }
-
-private:
-    TestMap& m_map;
-    EventSubscription m_subscription;
-};
 
 } // namespace
 
@@ -262,7 +244,10 @@ private Q_SLOTS:
             map.addResult(line, line, 100, 100, {150, 100});
         map.publish(events::kRefreshSurveyLayer);
         map.picture();
-        const Emptier emptier(map);
+        const OnEvent emptier(map.host.events, events::kProgress, [&](auto*) {
+            map.manager.surveyPoints().clear();
+            map.publish(events::kRefreshSurveyLayer);
+        });
         const EventLog progress(map.host.events, events::kProgress);
         paint(map);
         QCOMPARE(progress.events.size(), 4U); // the paint finishes with its own cache
