@@ -8,6 +8,7 @@
 #include "tests/project/OpenProject.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
+#include "tests/support/LogCapture.h"
 #include "tests/support/Points.h"
 
 #include <QtTest>
@@ -109,8 +110,10 @@ private Q_SLOTS:
         place.host.windowRegistry.windows.remove("Survey Lines"_q);
         place.selectResult();
         QCOMPARE(place.map.transform().center(), QPointF(3000, 4000));
-        place.manager.reset();
-        place.selectResult(); // at the program's end
+        place.manager.reset(); // at the program's end
+        const LogCapture log;
+        place.selectResult();
+        QCOMPARE(log.text(), std::string()); // what a handler throws would be logged
     }
 };
 
