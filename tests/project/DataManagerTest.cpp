@@ -50,13 +50,6 @@ TEST_F(DataManager, FilesGoOutAndComeBack)
     EXPECT_EQ(manager.exportSurveyCsv(lines, path, manager.surveyCaptions().mid(0, 2)), 1);
     EXPECT_EQ(TestFolder::read(path), "line num,point num\nL,P\n");
     EXPECT_EQ(manager.exportCaptions(), manager.surveyCaptions()) << "the user's choice stays";
-
-    const QString database = folder.path("p.db");
-    ASSERT_TRUE(makeDatabase(database.toStdString()));
-    EXPECT_EQ(manager.save(database), 1);
-    manager.clear();
-    EXPECT_EQ(manager.load(database), 1);
-    EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
 }
 
 TEST_F(DataManager, AMissingGeoidIsLoggedOncePerOperation)
