@@ -110,30 +110,16 @@ private Q_SLOTS:
         map.window.zoomRect(0, 0, 800, 600);
         QCOMPARE(layer.PickSurveyPoint(80.2, 100), "s1"_q);
         QCOMPARE(layer.PickSurveyPoint(80, 100), QString());
-    }
-
-    void lookUpsOfTheUnknownLeaveTheOutputsAlone()
-    {
-        TestMap map;
-        map.addDesign("1", "d", 1, 2);
-        map.publish(events::kRefreshDesignLayer);
-        map.setStatus(status::kViewShowWhich, "0");
-        map.addResult("1", "s", 1, 2, {3, 4});
-        map.addResult("1", "t", 1, 2, {30, 40});
-        map.publish(events::kRefreshSurveyLayer);
-        const IDataLayer& layer = map.layer();
         QString line = "kept"_q;
-        QPointF a(7, 8);
-        QPointF b(9, 10);
-        QVERIFY(!layer.GetDesignPoint("s"_q, line, a));
-        QVERIFY(!layer.GetSurveyPoint("d"_q, line, a, b));
+        QPointF place(7, 8);
+        QPointF design = place;
+        QVERIFY(!layer.GetDesignPoint("s1"_q, line, place));
+        QVERIFY(!layer.GetSurveyPoint("d"_q, line, place, design));
         for (const int index : {-1, 2})
-            QVERIFY(!layer.GetBasePosition(index, a));
-        QCOMPARE(line, "kept"_q);
-        QCOMPARE(a, QPointF(7, 8));
-        QCOMPARE(b, QPointF(9, 10));
-        QVERIFY(layer.GetBasePosition(1, a));
-        QCOMPARE(a, QPointF(30, 40));
+            QVERIFY(!layer.GetBasePosition(index, place));
+        QVERIFY(line == "kept"_q && place == QPointF(7, 8) && design == place);
+        QVERIFY(layer.GetBasePosition(1, place));
+        QCOMPARE(place, QPointF(200, 100));
     }
 
     void tipsNameWhatIsInView()
@@ -209,6 +195,10 @@ private Q_SLOTS:
                            "text=Draw Design Data,value=75,is_exec=0",
                            "text=Draw Design Data,value=100,is_exec=0", "show=0"}));
         progress.events.clear();
+        const std::atomic<bool> cancelled = true;
+        paint(map, &cancelled);
+        QCOMPARE(progress.payloads(), Payloads{"show=0"});
+        progress.events.clear();
         map.setStatus(status::kShowSourceLines, "1");
         map.setStatus(status::kShowReceiverLines, "0");
         paint(map);
@@ -222,7 +212,6 @@ private Q_SLOTS:
         QCOMPARE(progress.payloads(),
                  (Payloads{"text=Draw Survey Data,value=100,is_exec=0", "show=0"}));
         progress.events.clear();
-        const std::atomic<bool> cancelled = true;
         paint(map, &cancelled);
         QCOMPARE(progress.payloads(), Payloads{"show=0"});
 
