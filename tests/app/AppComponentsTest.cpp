@@ -5,7 +5,6 @@
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/Translations.h"
-#include "lum_sdk/Transform.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
@@ -268,17 +267,6 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(m_frame->size(), before);
         QVERIFY(bar()->isVisible());
-    }
-
-    void theCursorOverTheMapIsReadOut()
-    {
-        start();
-        map().setExtent(500000, 4400000, 501000, 4401000);
-        const QPoint cursor(120, 80);
-        QTest::mouseMove(&map(), cursor);
-        const QPointF position = map().transform().ScreenToSurvey(QPointF(cursor));
-        QTRY_COMPARE(readout(), "N=%1    E=%2    m"_q.arg(QString::number(position.y(), 'f', 3),
-                                                          QString::number(position.x(), 'f', 3)));
     }
 
     void layersAreAddedAroundTheEvent()
