@@ -457,6 +457,7 @@ private Q_SLOTS:
         QVERIFY(!seen.window.selectPoint("1001"_q, "1"_q));
         project.manager.reset(); // the program ends
         const LogCapture log;
+        project.tellProject("/a"); // a status that is late
         project.publish("REFRESH_SURVEY_TABLE");
         project.publish(kAll);
         QCOMPARE(log.text(), std::string()); // what a handler throws would be logged
