@@ -3,22 +3,9 @@
 #include "lum_desktop_sdkx/controls/PropertyGridInput.h"
 #include "tests/support/Literals.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 namespace {
-
-class ControlXmlTranslator : public QTranslator
-{
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char* context, const char* source, const char* /*hint*/,
-                                    int /*n*/) const override
-    {
-        const bool isOurs = qstrcmp(context, "ControlXml") == 0 && qstrcmp(source, "Height") == 0;
-        return isOurs ? "高程"_q : QString();
-    }
-};
 
 QByteArray inGrid(const QByteArray& rows)
 {
@@ -40,41 +27,6 @@ class PropertyGridLayoutTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsGroupsRowsAndChoicesInOrder()
-    {
-        PropertyGridLayout layout;
-        QCOMPARE(readPropertyGridLayout(
-                     "<property_grid><!-- limits -->"
-                     "<group caption='One'><row key='b' caption='B' editor='number' min='-1.5'"
-                     " max='1e3' decimals='2' unit='m' default='7' description='why'/></group>"
-                     "<group caption='Two'><row key='a' caption='A' editor='choice' read_only='1'>"
-                     "<choice value='' caption='none'/><choice value='2' caption='two'/></row>"
-                     "<row key='c' caption='C' editor='angle'/></group></property_grid>",
-                     layout),
-                 QString());
-
-        QCOMPARE(layout.groups.size(), std::size_t(2));
-        const PropertyGridRow& number = layout.groups[0].rows.at(0);
-        QCOMPARE(number.key, "b"_q);
-        QCOMPARE(number.minimum.value(), -1.5);
-        QCOMPARE(number.maximum.value(), 1000.0);
-        QCOMPARE(number.decimals.value(), 2);
-        QCOMPARE(number.fallback, "7"_q);
-        QVERIFY(!number.readOnly);
-        QCOMPARE(layout.groups[1].caption, "Two"_q);
-        const PropertyGridRow& choice = layout.groups[1].rows.at(0);
-        QVERIFY(choice.readOnly);
-        QCOMPARE(choice.choices.at(1).value, "2"_q);
-        QCOMPARE(layout.groups[1].rows.at(1).unit, "°"_q);
-    }
-
-    void translatesCaptions()
-    {
-        ControlXmlTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        QCOMPARE(rowOf("<row key='h' caption='Height'/>").caption, "高程"_q);
-    }
-
     void refusesWhatItCannotRead()
     {
         const auto check = [](const QByteArray& xml, const char* fault) {
