@@ -74,13 +74,6 @@ TEST(CoordCorrection, HeightFollowsPolynomialAndInclinedPlane)
     expectBack(service, 40, 117.5, 30);
 }
 
-TEST(CoordCorrection, GroupsThatAreOffAreNotRead)
-{
-    const auto off = gaussKruger("_7dx=100,_4dx=100,correct_dx=100,fit_a0=100,ver_h=100");
-    expectNear(CoordService(off).toGrid(40, 118, 30),
-               CoordService(gaussKruger()).toGrid(40, 118, 30), 0);
-}
-
 TEST(CoordGeoid, TakesTheUndulationOffTheWgs84Height)
 {
     const TestFolder folder;
@@ -189,15 +182,4 @@ TEST(CoordPoints, OutOfReachGetACodeInBothDirections)
     EXPECT_EQ(service.code, static_cast<int>(CoordResult::OutsideProjection));
     service.toGrid(40, 117);
     EXPECT_EQ(service.code, 0) << "a fault must not stay";
-}
-
-TEST(CoordFactory, GivesTheServiceByItsName)
-{
-    registerCoordComponents();
-    registerCoordComponents();
-    ICoordTransform* service = extensible_factory_get_ICoordTransform("coord_wjl", nullptr);
-    ASSERT_NE(service, nullptr);
-    EXPECT_FALSE(service->isValid(2));
-    extensible_factory_release_ICoordTransform(service);
-    EXPECT_EQ(extensible_factory_get_ICoordTransform("coord_abc", nullptr), nullptr);
 }
