@@ -48,6 +48,29 @@ QString nextRequest(QTcpServer& server)
     return QString::fromLatin1(line);
 }
 
+/// The other process; it is killed with the object.
+struct Holder : QProcess
+{
+    Holder()
+    {
+        start(QCoreApplication::applicationFilePath(), {QStringLiteral("hold")});
+        isReady = waitForReadyRead() && readLine() == "free\n";
+    }
+    ~Holder() override
+    {
+        kill();
+        waitForFinished();
+    }
+    void send(int signal) const { ::kill(static_cast<pid_t>(processId()), signal); }
+    QByteArray nextLine()
+    {
+        while (!canReadLine() && waitForReadyRead())
+            ;
+        return readLine();
+    }
+    bool isReady = false;
+};
+
 } // namespace
 
 void SessionTest::beginsWithOneRequest()
@@ -57,9 +80,7 @@ void SessionTest::beginsWithOneRequest()
     Countly session;
     session.begin("key & co", "1.0", "127.0.0.1", server.serverPort());
 
-    const QString line = nextRequest(server);
-
-    const QStringList words = line.split(QLatin1Char(' '));
+    const QStringList words = nextRequest(server).split(QLatin1Char(' '));
     QCOMPARE(words.value(0), QStringLiteral("GET"));
     const QUrl url(words.value(1));
     QCOMPARE(url.path(), QStringLiteral("/i"));
@@ -106,46 +127,15 @@ void SessionTest::givesUpAServerThatDoesNotAnswer()
 
 void SessionTest::aSecondProcessIsToldAndACrashFreesTheLock()
 {
-    QProcess holder;
-    holder.start(QCoreApplication::applicationFilePath(), {QStringLiteral("hold")});
-    QVERIFY(holder.waitForReadyRead());
-    QCOMPARE(holder.readLine().trimmed(), QByteArray("free"));
-
+    Holder holder;
+    QVERIFY(holder.isReady);
     // By another path to the same program, only looking.
     QVERIFY(instance_is_run(QStringLiteral("./") + QFileInfo(holder.program()).fileName(), 0));
     QVERIFY(!instance_is_run(QStringLiteral("/another/program"), 0));
-
-    ::kill(static_cast<pid_t>(holder.processId()), SIGKILL);
+    holder.send(SIGKILL);
     QVERIFY(holder.waitForFinished());
     QVERIFY(!instance_is_run(holder.program(), 0));
 }
-
-namespace {
-
-/// The other process; it is killed with the object.
-struct Holder : QProcess
-{
-    Holder()
-    {
-        start(QCoreApplication::applicationFilePath(), {QStringLiteral("hold")});
-        isReady = waitForReadyRead() && readLine() == "free\n";
-    }
-    ~Holder() override
-    {
-        kill();
-        waitForFinished();
-    }
-    void send(int signal) const { ::kill(static_cast<pid_t>(processId()), signal); }
-    QByteArray nextLine()
-    {
-        while (!canReadLine() && waitForReadyRead())
-            ;
-        return readLine();
-    }
-    bool isReady = false;
-};
-
-} // namespace
 
 void SessionTest::aFileIsHandedToTheProcessThatHoldsTheLock()
 {

@@ -36,25 +36,6 @@ TEST(Transform, NorthIsUpAboutTheCentreThereAndBack)
         expectNear(view.SurveyToScreen(view.ScreenToSurvey(screen)), screen, 1e-6);
 }
 
-TEST(Transform, RectanglesKeepTheDirectionTheyWereDrawnIn)
-{
-    const Transform view = sampleView();
-    EXPECT_EQ(view.ScreenToSurvey(QRectF(400, 300, 50, 25)), QRectF(500000, 4400000, 100, -50));
-    EXPECT_EQ(view.ScreenToSurvey(QRectF(400, 300, -50, -25)), QRectF(500000, 4400000, -100, 50));
-}
-
-TEST(Transform, PansByPixelsAndResizesAboutTheCentre)
-{
-    Transform view = sampleView();
-    const QPointF grabbed = view.ScreenToSurvey(QPointF(10, 20));
-    view.panBy({30, -7});
-    expectNear(view.SurveyToScreen(grabbed), {40, 13}, 1e-9);
-
-    view.setSize({0, -5});
-    EXPECT_EQ(view.size(), QSize(1, 1));
-    EXPECT_EQ(view.GetScale(), 2);
-}
-
 TEST(Transform, ZoomKeepsThePointUnderTheCursorUpToTheLimits)
 {
     for (const double factor : {1.25, 0.1, 1e9, 1e-20}) {
