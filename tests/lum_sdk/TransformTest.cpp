@@ -25,17 +25,6 @@ void expectNear(const QPointF& actual, const QPointF& expected, double tolerance
     EXPECT_NEAR(actual.y(), expected.y(), tolerance);
 }
 
-TEST(Transform, NorthIsUpAboutTheCentreThereAndBack)
-{
-    const Transform view = sampleView();
-    expectNear(view.SurveyToScreen(500000, 4400000), {400, 300}, 1e-9);
-    expectNear(view.SurveyToScreen({500100, 4400100}), {450, 250}, 1e-9);
-    expectNear(view.ScreenToSurvey(QPointF(0, 0)), {499200, 4400600}, 1e-9);
-    EXPECT_EQ(view.visibleExtent(), QRectF(499200, 4399400, 1600, 1200));
-    for (const QPointF& screen : {QPointF(0, 0), QPointF(799.5, 0.25), QPointF(-3000, 12345)})
-        expectNear(view.SurveyToScreen(view.ScreenToSurvey(screen)), screen, 1e-6);
-}
-
 TEST(Transform, ZoomKeepsThePointUnderTheCursorUpToTheLimits)
 {
     for (const double factor : {1.25, 0.1, 1e9, 1e-20}) {

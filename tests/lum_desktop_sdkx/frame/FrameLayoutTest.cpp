@@ -91,7 +91,8 @@ TEST(InstalledLayout, EveryEntryHasANameAndInBothLanguagesAMnemonicOfItsOwn)
         EXPECT_EQ(names.removeDuplicates(), 0);
         for (const FrameLayout::ToolBar& toolBar : layout.toolBars) {
             for (const QString& name : toolBar.commands)
-                EXPECT_TRUE(name.isEmpty() || names.contains(name)) << "in no menu: " << name.toStdString();
+                EXPECT_TRUE(name.isEmpty() || names.contains(name))
+                    << "in no menu: " << name.toStdString();
         }
     }
 }

@@ -319,18 +319,6 @@ private Q_SLOTS:
         inTheWay.remove();
         QVERIFY2(log.holds(folder.toStdString()), log.text().c_str());
     }
-
-    void endsItsWindowsOnce()
-    {
-        for (int round = 0; round < 3; ++round) {
-            ShownFrame shown(kLayout);
-            shown.dock("Survey Data List")->setFloating();
-            shown.dock("Messages")->toggleView(false);
-            QCOMPARE(TestWindow::alive, 1);
-            QVERIFY(shown.frame.close());
-        }
-        QCOMPARE(TestWindow::alive, 0);
-    }
 };
 
 QTEST_MAIN(MainFrameTest)

@@ -26,15 +26,9 @@ public:
     TestWindow(const char* config, IDesktopHost* /*host*/)
         : m_parameters(desktop::componentParameters(config))
     {
-        ++alive;
     }
-    ~TestWindow() override { --alive; }
-    TestWindow(const TestWindow&) = delete;
-    TestWindow& operator=(const TestWindow&) = delete;
     QWidget* widget() override { return this; }
     IDictionary& parameters() override { return m_parameters; }
-
-    static inline int alive = 0;
 
 private:
     basalt::Dictionary m_parameters;

@@ -135,7 +135,7 @@ TEST(EpsgRegister, EverySystemAgreesWithProjOrIsRefusedWithItsReason)
     for (int i = 0; i < count; ++i) {
         const PROJ_CRS_INFO& info = *list.get()[i];
         SCOPED_TRACE(std::string(info.code) + ' ' + info.name);
-        basalt::Dictionary system;
+        basalt::Dictionary system = dictionaryOf("unit_m=0.25"); // of the system before
         const std::string reason = fillProjectionFromEpsg(info.code, system);
         if (!reason.empty()) {
             EXPECT_NE(reason.find(info.projection_method_name), std::string::npos) << reason;
