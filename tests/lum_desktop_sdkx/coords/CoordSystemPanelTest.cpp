@@ -184,7 +184,7 @@ private Q_SLOTS:
         pick("Projection", "Lambert conformal conic");
         enter("First standard parallel", "30");
         pick("Projection", "UTM");
-        QVERIFY(!isShown("First standard parallel"));
+        QVERIFY(!isShown("First standard parallel") && !isShown("False easting"));
         enter("Central meridian", "115");
         QCOMPARE(value("parallel_1_lat"), "0"_q);
         QCOMPARE(value("factor"), "0.9996"_q);
@@ -207,6 +207,11 @@ private Q_SLOTS:
         QCOMPARE(value("ellipsoid_name"), "IAG 1975"_q);
         pick("Ellipsoid", "Custom");
         QCOMPARE(value("ellipsoid_a"), "6378140"_q);
+        for (const char* name : {"CGCS2000", "GRS 1980"}) { // both have the same figures
+            pick("Ellipsoid", name);
+            enter("Semi-major axis a", "6378137.0");
+            QCOMPARE(shown("Ellipsoid"), QLatin1String(name));
+        }
     }
 
     void refusesABadNumberWhereItStands()
@@ -256,9 +261,28 @@ private Q_SLOTS:
         QVERIFY(!m_panel->hasFaults());
     }
 
+    void aGroupThatIsOffShowsNoRows()
+    {
+        open(ownSystem());
+        const std::pair<const char*, const char*> groups[] = {
+            {"Use plane shift", "Shift north"},
+            {"Use correction", "Correction north"},
+            {"Use height fitting", "Coefficient a0"},
+            {"Use vertical slope", "Height at origin"},
+            {"Use geoid", "Geoid file"}};
+        for (const auto& [group, row] : groups) {
+            QVERIFY2(!isShown(row), row);
+            check(group);
+            QVERIFY2(isShown(row), row);
+        }
+    }
+
     void storesAShiftAboutAPivotWithoutIt()
     {
         open(ownSystem());
+        QVERIFY(!isShown("Rotation rZ"));
+        pick("Model", "Coordinate frame rotation");
+        QVERIFY(isShown("Rotation rZ") && !isShown("Rotation centre X"));
         pick("Model", "Molodensky-Badekas");
         enter("Rotation rZ", "1");
         QVERIFY(isMarked("Rotation centre X") && m_panel->hasFaults());

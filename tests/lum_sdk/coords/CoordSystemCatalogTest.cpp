@@ -96,19 +96,3 @@ TEST(EpsgSystem, CountsWestings)
     ASSERT_EQ(fillFromEpsg("32734", system), "");
     EXPECT_EQ(system.text("axis_direction"), "NE") << "not that of the system before";
 }
-
-TEST(EpsgSystem, RefusesWhatItCannotDescribeAndLeavesTheParameters)
-{
-    basalt::Dictionary system = dictionaryOf("org_lon=117");
-    for (const auto& [code, reason] :
-         {std::pair("99999", "no coordinate system"),
-          std::pair("4326", "(WGS 84) is geographic; choose a projected system"),
-          std::pair("4978", "no projected"), // geocentric
-          std::pair("27200", "New Zealand Map Grid"), std::pair("5515", "Krovak Modified")}) {
-        const std::string fault = fillFromEpsg(code, system);
-        EXPECT_NE(fault.find(reason), std::string::npos) << fault;
-    }
-    EXPECT_EQ(system.size(), 1U);
-    EXPECT_EQ(fillFromEpsg("32650", system), "");
-    EXPECT_EQ(system.integer("_7type", -1), 0);
-}
