@@ -224,6 +224,18 @@ private Q_SLOTS:
         QCOMPARE(table.currentIndex().row(), 250'000);
     }
 
+    void asksForAMenuOnACellOnly()
+    {
+        WideTable wide;
+        const QSignalSpy asked(&wide.table, &CustomTableWidget::contextMenuRequestedAt);
+        for (const QPoint& place : {wide.at(1, 1), QPoint(5, 590)}) {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, place, {});
+            QApplication::sendEvent(wide.table.viewport(), &event);
+        }
+        QCOMPARE(asked.count(), 1);
+        QCOMPARE(asked.at(0).at(0).toModelIndex(), wide.model.index(1, 1));
+    }
+
     void aDragSelectsRowsInItsColumnAndElseARectangle()
     {
         WideTable wide;
