@@ -55,6 +55,8 @@ TEST(Transform, FitsTheTighterSideOfAnyExtentWithItsMargin)
     view.fit(QRectF(7, 8, 0, 0), 0);
     EXPECT_DOUBLE_EQ(view.GetScale(), 10);
     expectNear(view.center(), {7, 8}, 0);
+    view.setSize({0, -5});
+    EXPECT_EQ(view.size(), QSize(1, 1));
 }
 
 TEST(Transform, WhatIsNotFiniteChangesNothing)

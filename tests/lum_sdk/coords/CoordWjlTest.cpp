@@ -73,6 +73,13 @@ TEST(CoordCorrection, HeightFollowsPolynomialAndInclinedPlane)
     expectBack(service, 40, 117.5, 30);
 }
 
+TEST(CoordCorrection, GroupsThatAreOffAreNotRead)
+{
+    const auto off = gaussKruger("_7dx=100,_4dx=100,correct_dx=100,fit_a0=100,ver_h=100");
+    expectNear(CoordService(off).toGrid(40, 118, 30),
+               CoordService(gaussKruger()).toGrid(40, 118, 30), 0);
+}
+
 TEST(CoordGeoid, TakesTheUndulationOffTheWgs84Height)
 {
     const TestFolder folder;

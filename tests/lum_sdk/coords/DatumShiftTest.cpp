@@ -34,5 +34,8 @@ TEST(DatumShift, AgreesWithThePublishedExampleAndComesBack)
         const DatumShift shift = DatumShift::fromDictionary(dictionaryOf(keys), fault);
         expectNear(shifted(shift, from), to, 0.01);
         expectNear(shifted(shift.inverse(), shifted(shift, from)), from, 0.01);
+        basalt::Dictionary written;
+        shift.toDictionary(written);
+        EXPECT_EQ(DatumShift::fromDictionary(written, fault).projStep(), shift.projStep());
     }
 }
