@@ -10,7 +10,6 @@
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/SystemDictionaries.h"
-#include "lum_sdk/LineClip.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/lum_desktop_sdkx/MapMouse.h"
@@ -384,22 +383,6 @@ private Q_SLOTS:
         m_map->zoomAbout(200, 150, 1e-6); // a bar of 150,000 km is too long
         QCOMPARE(blackPixels(), 0);
         get_system_ini_parameter().dictionary().clear();
-    }
-
-    void clipsLinesToAnArea()
-    {
-        const double nan = std::numeric_limits<double>::quiet_NaN();
-        const std::pair<QLineF, QLineF> cases[] = {
-            {{1, 2, 8, 9}, {1, 2, 8, 9}},        // inside
-            {{-10, -5, 30, 15}, {0, 0, 20, 10}}, // across
-            {{25, 5, 10, 5}, {20, 5, 10, 5}},    // backwards
-            {{-5, 10, 5, 10}, {0, 10, 5, 10}},   // along the edge
-            {{-4, 8, 2, 14}, {}},                // past a corner
-            {{-1, -1, -1, 20}, {}},              // beside
-            {{nan, 0, 5, 5}, {}},
-        };
-        for (const auto& [line, expected] : cases)
-            QCOMPARE(clippedLine(line, QRectF(0, 0, 20, 10)).value_or(QLineF()), expected);
     }
 
 private:

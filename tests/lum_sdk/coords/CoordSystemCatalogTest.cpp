@@ -1,5 +1,6 @@
 #include "lum_sdk/coords/CoordSystemCatalog.h"
 
+#include "lum_sdk/coords/EpsgDatumShift.h"
 #include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ProjHandles.h"
 #include "tests/lum_sdk/coords/CoordFixture.h"
@@ -23,6 +24,12 @@ PJ_COORD byProj(const std::string& code, double latitude, double longitude)
         proj_create_crs_to_crs(context.get(), "EPSG:4326", target.c_str(), nullptr));
     const lum::ProjObject ordered(proj_normalize_for_visualization(context.get(), plain.get()));
     return proj_trans(ordered.get(), PJ_FWD, proj_coord(longitude, latitude, 0, HUGE_VAL));
+}
+
+std::string nameOfBest(const char* code)
+{
+    const lum::EpsgDatumShifts shifts = lum::epsgDatumShifts(code);
+    return shifts.best() == nullptr ? "none" : shifts.best()->name;
 }
 
 } // namespace
@@ -95,4 +102,19 @@ TEST(EpsgSystem, CountsWestings)
     expectNear(faroe, {usual.first, 2 * falseWesting - usual.second, 0}, 1e-9);
     ASSERT_EQ(fillFromEpsg("32734", system), "");
     EXPECT_EQ(system.text("axis_direction"), "NE") << "not that of the system before";
+}
+
+TEST(EpsgDatumShift, IsTakenOnlyWhereItBelongs)
+{
+    // Beijing 1954 has shifts of a few basins only; those at sea touch the zones on land.
+    for (const char* code : {"2436", "2437", "2438", "2439", "2441"}) {
+        EXPECT_EQ(nameOfBest(code), "none") << code;
+        basalt::Dictionary system;
+        ASSERT_EQ(fillFromEpsg(code, system), "");
+        EXPECT_EQ(system.integer("_7type", -1), 0) << code;
+    }
+    EXPECT_EQ(nameOfBest("2100"), "GGRS87 to WGS 84 (1)");
+    EXPECT_EQ(nameOfBest("32040"), "NAD27 to WGS 84 (6)");    // the most accurate that contains it
+    EXPECT_EQ(nameOfBest("5514"), "S-JTSK to WGS 84 (3)");    // the other ones cover one country
+    EXPECT_EQ(nameOfBest("3460"), "Fiji 1986 to WGS 84 (1)"); // across the date line
 }
