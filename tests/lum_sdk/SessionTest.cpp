@@ -13,22 +13,6 @@
 #include <csignal>
 #include <thread>
 
-/// The analytics session against a server of its own, and the lock of the single instance against
-/// a second process: this program again, started with "hold", which prints what it receives.
-class SessionTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void beginsWithOneRequest();
-    void sendsNothingWithoutAServer();
-    void givesUpAServerThatDoesNotAnswer();
-    void aFileIsHandedToTheProcessThatHoldsTheLock();
-    void aProcessThatHangsGetsItsFileLater();
-    void aSecondProcessIsToldAndACrashFreesTheLock();
-    void aProcessThatEndsLeavesTheLock(); // the last: this process has the lock then
-};
-
 namespace {
 
 /// The first line of the next request, which is answered; nothing when none comes.
@@ -69,108 +53,118 @@ struct Holder : QProcess
 
 } // namespace
 
-void SessionTest::beginsWithOneRequest()
+/// The analytics session against a server of its own, and the lock of the single instance against
+/// a second process: this program again, started with "hold", which prints what it receives.
+class SessionTest : public QObject
 {
-    QTcpServer server;
-    QVERIFY(server.listen(QHostAddress::LocalHost));
-    Countly session;
-    session.begin("key & co", "1.0", "127.0.0.1", server.serverPort());
+    Q_OBJECT
 
-    const QString line = nextRequest(server);
-    for (const char* part : {"GET /i?app_key=key%20%26%20co&", "&begin_session=1", "_app_version"})
-        QVERIFY2(line.contains(QLatin1String(part)), qPrintable(line));
-    QTest::qWait(50);
-    QVERIFY(!server.hasPendingConnections());
-}
-
-void SessionTest::sendsNothingWithoutAServer()
-{
-    QTcpServer server; // as the proxy of this process, it would see a request to anywhere
-    QVERIFY(server.listen(QHostAddress::LocalHost));
-    QNetworkProxy::setApplicationProxy(
-        {QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), server.serverPort()});
-    Countly session;
-    session.begin("key", "1.0", "", server.serverPort());
-    session.begin("key", "1.0", nullptr, server.serverPort());
-    session.begin("key", "1.0", "not a host:", server.serverPort());
-    QTest::qWait(100);
-    QVERIFY(!server.hasPendingConnections());
-    session.begin("key", "1.0", "analytics.invalid", 8081);
-    QTRY_VERIFY(server.hasPendingConnections());
-    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
-}
-
-void SessionTest::givesUpAServerThatDoesNotAnswer()
-{
-    const LogCapture log;
-    QTcpServer server;
-    QVERIFY(server.listen(QHostAddress::LocalHost));
-    Countly session(100);
-    session.begin("key", "1.0", "127.0.0.1", server.serverPort()); // returns without an answer
-    QTRY_VERIFY(log.holds("No analytics session"));
-    session.begin("key", "1.0", "127.0.0.1", server.serverPort());
-} // ends with a request under way
-
-void SessionTest::aSecondProcessIsToldAndACrashFreesTheLock()
-{
-    Holder holder;
-    QVERIFY(holder.isReady);
-    // By another path to the same program, only looking.
-    QVERIFY(instance_is_run(QStringLiteral("./") + QFileInfo(holder.program()).fileName(), 0));
-    QVERIFY(!instance_is_run(QStringLiteral("/another/program"), 0));
-    holder.send(SIGKILL);
-    QVERIFY(holder.waitForFinished());
-    QVERIFY(!instance_is_run(holder.program(), 0));
-}
-
-void SessionTest::aFileIsHandedToTheProcessThatHoldsTheLock()
-{
+private Q_SLOTS:
+    void beginsWithOneRequest()
     {
-        Holder first; // leaves a socket behind, as a crash does
-        QVERIFY(first.isReady);
-    }
-    Holder holder;
-    QVERIFY(holder.isReady);
-    for (const char* file : {"/测区 1/a\\b.kelx", "", "/测区 1/a\\b.kelx"}) {
-        QVERIFY(lum::handToInstance(holder.program(), QString::fromUtf8(file)));
-        QCOMPARE(holder.nextLine(), QByteArray("got ") + file + '\n');
-    }
-    // What is no message, or half of one, is passed over.
-    QLocalSocket stranger;
-    QString path = lum::instanceFile(holder.program(), QStringLiteral(".socket"));
-    stranger.connectToServer(path);
-    if (stranger.waitForConnected()) {
-        stranger.write("GET / HTTP/1.1\r\n");
-        QVERIFY(stranger.waitForBytesWritten());
-    }
-    QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/after")));
-    QCOMPARE(holder.nextLine(), QByteArray("got /after\n"));
-}
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        Countly session;
+        session.begin("key & co", "1.0", "127.0.0.1", server.serverPort());
 
-void SessionTest::aProcessThatHangsGetsItsFileLater()
-{
-    Holder holder;
-    QVERIFY(holder.isReady);
-    holder.send(SIGSTOP);
-    QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/later"), 200));
-    holder.send(SIGCONT);
-    QCOMPARE(holder.nextLine(), QByteArray("got /later\n"));
-}
+        const QString line = nextRequest(server);
+        for (const char* part :
+             {"GET /i?app_key=key%20%26%20co&", "&begin_session=1", "_app_version"})
+            QVERIFY2(line.contains(QLatin1String(part)), qPrintable(line));
+        QTest::qWait(50);
+        QVERIFY(!server.hasPendingConnections());
+    }
 
-void SessionTest::aProcessThatEndsLeavesTheLock()
-{
-    Holder holder;
-    QVERIFY(holder.isReady);
-    holder.send(SIGSTOP);
-    std::thread killer([&] {
-        QThread::msleep(200);
+    void sendsNothingWithoutAServer()
+    {
+        QTcpServer server; // as the proxy of this process, it would see a request to anywhere
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        QNetworkProxy::setApplicationProxy(
+            {QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), server.serverPort()});
+        Countly session;
+        session.begin("key", "1.0", "", server.serverPort());
+        session.begin("key", "1.0", nullptr, server.serverPort());
+        session.begin("key", "1.0", "not a host:", server.serverPort());
+        QTest::qWait(100);
+        QVERIFY(!server.hasPendingConnections());
+        session.begin("key", "1.0", "analytics.invalid", 8081);
+        QTRY_VERIFY(server.hasPendingConnections());
+        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    }
+
+    void givesUpAServerThatDoesNotAnswer()
+    {
+        const LogCapture log;
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        Countly session(100);
+        session.begin("key", "1.0", "127.0.0.1", server.serverPort()); // returns without an answer
+        QTRY_VERIFY(log.holds("No analytics session"));
+        session.begin("key", "1.0", "127.0.0.1", server.serverPort());
+    } // ends with a request under way
+
+    void aFileIsHandedToTheProcessThatHoldsTheLock()
+    {
+        {
+            Holder first; // leaves a socket behind, as a crash does
+            QVERIFY(first.isReady);
+        }
+        Holder holder;
+        QVERIFY(holder.isReady);
+        for (const char* file : {"/测区 1/a\\b.kelx", "", "/测区 1/a\\b.kelx"}) {
+            QVERIFY(lum::handToInstance(holder.program(), QString::fromUtf8(file)));
+            QCOMPARE(holder.nextLine(), QByteArray("got ") + file + '\n');
+        }
+        // What is no message, or half of one, is passed over.
+        QLocalSocket stranger;
+        QString path = lum::instanceFile(holder.program(), QStringLiteral(".socket"));
+        stranger.connectToServer(path);
+        if (stranger.waitForConnected()) {
+            stranger.write("GET / HTTP/1.1\r\n");
+            QVERIFY(stranger.waitForBytesWritten());
+        }
+        QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/after")));
+        QCOMPARE(holder.nextLine(), QByteArray("got /after\n"));
+    }
+
+    void aProcessThatHangsGetsItsFileLater()
+    {
+        Holder holder;
+        QVERIFY(holder.isReady);
+        holder.send(SIGSTOP);
+        QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/later"), 200));
+        holder.send(SIGCONT);
+        QCOMPARE(holder.nextLine(), QByteArray("got /later\n"));
+    }
+
+    void aSecondProcessIsToldAndACrashFreesTheLock()
+    {
+        Holder holder;
+        QVERIFY(holder.isReady);
+        // By another path to the same program, only looking.
+        QVERIFY(instance_is_run(QStringLiteral("./") + QFileInfo(holder.program()).fileName(), 0));
+        QVERIFY(!instance_is_run(QStringLiteral("/another/program"), 0));
         holder.send(SIGKILL);
-    });
-    QVERIFY(!lum::handToInstance(holder.program(), QStringLiteral("/a")));
-    killer.join();
-    QVERIFY(!instance_is_run(holder.program(), 1)); // its own lock is no other instance
-    QVERIFY(!Holder().isReady);
-}
+        QVERIFY(holder.waitForFinished());
+        QVERIFY(!instance_is_run(holder.program(), 0));
+    }
+
+    // The last: this process has the lock then.
+    void aProcessThatEndsLeavesTheLock()
+    {
+        Holder holder;
+        QVERIFY(holder.isReady);
+        holder.send(SIGSTOP);
+        std::thread killer([&] {
+            QThread::msleep(200);
+            holder.send(SIGKILL);
+        });
+        QVERIFY(!lum::handToInstance(holder.program(), QStringLiteral("/a")));
+        killer.join();
+        QVERIFY(!instance_is_run(holder.program(), 1)); // its own lock is no other instance
+        QVERIFY(!Holder().isReady);
+    }
+};
 
 int main(int argc, char* argv[])
 {

@@ -360,12 +360,12 @@ private:
     [[nodiscard]] QModelIndex cell(const char* caption) const
     {
         const QAbstractItemModel& model = *m_grid->model();
-        for (int g = 0; g < model.rowCount(); ++g) {
-            const QModelIndex group = model.index(g, 0);
-            for (int r = 0; r < model.rowCount(group); ++r) {
-                if (model.index(r, 0, group).data().toString() == QString::fromUtf8(caption))
-                    return model.index(r, 1, group);
-            }
+        for (int group = 0; group < model.rowCount(); ++group) {
+            const QModelIndex first = model.index(0, 0, model.index(group, 0));
+            const auto found = model.match(first, Qt::DisplayRole, QString::fromUtf8(caption), 1,
+                                           Qt::MatchExactly | Qt::MatchCaseSensitive);
+            if (!found.isEmpty())
+                return found.front().siblingAtColumn(1);
         }
         return {};
     }
