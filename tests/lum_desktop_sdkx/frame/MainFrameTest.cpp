@@ -1,6 +1,7 @@
 #include "basalt_utilities/Files.h"
 #include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
+#include "lum_desktop_sdkx/frame/StatusText.h"
 #include "lum_desktop_sdkx/IGuiAssistant.h"
 #include "tests/lum_desktop_sdkx/frame/ShownFrame.h"
 #include "tests/support/LogCapture.h"
@@ -289,6 +290,18 @@ private Q_SLOTS:
         shown.host.setDocument({});
         QCOMPARE(shown.frame.windowTitle(), "Program"_q);
         QVERIFY(!shown.frame.isWindowModified());
+    }
+
+    void tellsASentenceUntilAnotherDocumentIsOpen()
+    {
+        ShownFrame shown(kLayout);
+        shown.host.setDocument({.name = "a"_q});
+        shown.host.tell("38 of 4,000 points"_q);
+        const auto told = [&] { return shown.frame.findChild<StatusText*>()->accessibleName(); };
+        shown.host.setDocument({.name = "a"_q, .isChanged = true});
+        QCOMPARE(told(), "38 of 4,000 points"_q);
+        shown.host.setDocument({.name = "b"_q});
+        QCOMPARE(told(), QString());
     }
 
     void staysOpenWhenTheAssistantRefuses()
