@@ -178,10 +178,16 @@ void offerToOpen(IDesktopHost& host, const QString& path, const QString& details
         host.dialogParent(), translated(QT_TRANSLATE_NOOP("FileExports", "Success")),
         translated(QT_TRANSLATE_NOOP("FileExports", "Export Succeed, Open it?")),
         LumMessageBox::Buttons(Button::Yes) | Button::No, details);
-    if (answer != Button::Yes || QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+    if (answer == Button::Yes)
+        open(host.dialogParent(), path);
+}
+
+void open(QWidget* parent, const QString& path)
+{
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
         return;
     LumMessageBox::error(
-        host.dialogParent(), translated(QT_TRANSLATE_NOOP("FileExports", "Error")),
+        parent, translated(QT_TRANSLATE_NOOP("FileExports", "Error")),
         translated(
             QT_TRANSLATE_NOOP("FileExports", "The desktop has no program that opens \"%1\"."))
             .arg(QDir::toNativeSeparators(path)));
