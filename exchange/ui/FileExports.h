@@ -27,6 +27,8 @@ void exportSurvey(IDesktopHost& host, Form form, const QStringList& lines);
 /// "Export Succeed, Open it?"; on yes the file is opened by the desktop. Also for tables.
 /// \param details what was written
 void offerToOpen(IDesktopHost& host, const QString& path, const QString& details = {});
+/// The same with a text of its own, above a dialog.
+void offerToOpen(QWidget* parent, const QString& path, const QString& text, const QString& details);
 
 /// Has the desktop open a file or a folder. Tells when it cannot.
 void open(QWidget* parent, const QString& path);
