@@ -91,8 +91,10 @@ QString DlgExportReport::existingNotice() const
     const auto existing = std::count_if(chosen.begin(), chosen.end(), [](const ReportFile& file) {
         return QFileInfo::exists(file.path);
     });
-    return existing == 0
-               ? QString()
+    if (existing == 0)
+        return {};
+    return chosen.size() == 1
+               ? tr("The file exists and will be replaced.")
                : tr("%1 of %2 files exist and will be replaced.").arg(existing).arg(chosen.size());
 }
 
@@ -114,8 +116,7 @@ void DlgExportReport::accept()
         return;
     const QString existing = existingNotice();
     if (!existing.isEmpty() &&
-        LumMessageBox::question(this, windowTitle(),
-                                existing + QLatin1Char(' ') + tr("Replace them?")) !=
+        LumMessageBox::question(this, windowTitle(), existing + QLatin1Char(' ') + tr("Go on?")) !=
             LumMessageBox::Button::Yes)
         return;
     m_files->remember();

@@ -38,7 +38,7 @@ bool isWritten(const ReportResult& result)
 
 QString reportSentence(const std::vector<ReportResult>& results)
 {
-    return QCoreApplication::translate("DlgReportResults", "%1 of %2 reports are written.")
+    return QCoreApplication::translate("DlgReportResults", "Reports written: %1 of %2.")
         .arg(std::count_if(results.begin(), results.end(), isWritten))
         .arg(results.size());
 }
@@ -51,7 +51,7 @@ DlgReportResults::DlgReportResults(QWidget* parent, const std::vector<ReportResu
     auto* const rows = makeMainLayout();
     rows->addWidget(
         plainLabel(reportSentence(results) + QLatin1Char(' ') +
-                       tr("Their folder is \"%1\".").arg(QDir::toNativeSeparators(folder)),
+                       tr("Their folder: \"%1\".").arg(QDir::toNativeSeparators(folder)),
                    this));
     auto* const grid = new QGridLayout;
     grid->setColumnStretch(1, 1);

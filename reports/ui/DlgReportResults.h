@@ -15,7 +15,7 @@ struct ReportResult
     Outcome outcome;
 };
 
-/// Which reports were written in how many words, such as "3 of 4 reports are written."
+/// How many reports were written: "Reports written: 3 of 4."
 [[nodiscard]] QString reportSentence(const std::vector<ReportResult>& results);
 
 /// Tells of each report what it has found or why it was not written, and opens files and their

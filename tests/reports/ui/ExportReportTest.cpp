@@ -30,10 +30,10 @@ using Button = LumMessageBox::Button;
 constexpr std::int64_t kDayMs = 86400000;
 constexpr std::int64_t kNoonMs = 1700020800000; // 2023/11/15 12:00 in UTC+8
 
-/// Calls `act` with the next modal dialog of this class.
-void whenDialog(const char* className, std::function<void(QDialog&)> act)
+/// Calls `act` with the next modal dialog of this class, while `context` lives.
+void whenDialog(QObject& context, const char* className, std::function<void(QDialog&)> act)
 {
-    auto* const timer = new QTimer(qApp);
+    auto* const timer = new QTimer(&context);
     QObject::connect(timer, &QTimer::timeout, timer, [=] {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr || qstrcmp(dialog->metaObject()->className(), className) != 0)
@@ -147,8 +147,9 @@ void ExportReportTest::open(const char* project)
 QStringList ExportReportTest::run(std::function<void(QDialog&)> choose)
 {
     QStringList texts;
-    whenDialog("DlgExportReport", std::move(choose));
-    whenDialog("DlgReportResults", [&](QDialog& dialog) {
+    QObject context;
+    whenDialog(context, "DlgExportReport", std::move(choose));
+    whenDialog(context, "DlgReportResults", [&](QDialog& dialog) {
         for (const ReportKind& kind : reportKinds()) {
             if (const auto* const label = dialog.findChild<QLabel*>(QLatin1String(kind.name)))
                 texts << label->text();
@@ -181,7 +182,7 @@ void ExportReportTest::whatWasChosenIsWrittenAndRemembered()
     QCOMPARE(texts.size(), 1);
     QVERIFY2(texts[0].startsWith("block 7 final.xlsx\n"_q) && texts[0].contains(": 2"_q),
              qPrintable(texts[0]));
-    QCOMPARE(m_host->told, "1 of 1 reports are written."_q);
+    QCOMPARE(m_host->told, "Reports written: 1 of 1."_q);
     // The heading, and the results of Wu on the later day.
     QCOMPARE(WorkbookReader(file("block 7/block 7 final.xlsx")).rows("Results"_q).size(),
              std::size_t(3));
@@ -253,10 +254,11 @@ void ExportReportTest::existingFilesAreAskedAboutOnce()
         return answer;
     });
     const QStringList texts = run([&](QDialog& dialog) {
-        const QString told = "1 of %1 files exist and will be replaced."_q.arg(count);
+        const QString told = count == 1 ? "The file exists and will be replaced."_q
+                                        : "1 of %1 files exist and will be replaced."_q.arg(count);
         QVERIFY2(hint(dialog).endsWith(told), qPrintable(hint(dialog)));
         QTest::keyClick(&dialog, Qt::Key_Return);
-        QCOMPARE(asked, QStringList(told + " Replace them?"_q));
+        QCOMPARE(asked, QStringList(told + " Go on?"_q));
         QVERIFY(dialog.isVisible());
         QCOMPARE(TestFolder::read(kept), "kept");
         answer = Button::Yes;
@@ -272,7 +274,7 @@ void ExportReportTest::cancellingLeavesNothing()
     for (int number = 100; number < 60000; ++number)
         m_manager->surveyPoints().set(result(number, "Li", kNoonMs));
     bool wasModal = false;
-    whenDialog("QProgressDialog", [&](QDialog& dialog) {
+    whenDialog(*m_frame, "QProgressDialog", [&](QDialog& dialog) {
         wasModal = dialog.windowModality() == Qt::ApplicationModal;
         QTest::keyClick(&dialog, Qt::Key_Return); // as after a key held down
         QVERIFY(dialog.isVisible());
@@ -299,7 +301,7 @@ void ExportReportTest::aFailureIsNamedAndStopsNoOther()
     const QStringList texts =
         run([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
     const auto count = static_cast<int>(reportKinds().size());
-    QCOMPARE(m_host->told, "%1 of %2 reports are written."_q.arg(count - 1).arg(count));
+    QCOMPARE(m_host->told, "Reports written: %1 of %2."_q.arg(count - 1).arg(count));
     QVERIFY2(texts.first().section(QLatin1Char('\n'), 1).contains(QFileInfo(path).fileName()),
              qPrintable(texts.first()));
     QCOMPARE(QDir(file("block 7")).entryList(QDir::Files).size(), count - 1);
