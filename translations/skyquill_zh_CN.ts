@@ -2446,7 +2446,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>This &amp;day:</source>
-        <translation>当天(&amp;D)：</translation>
+        <translation>某一天(&amp;D)：</translation>
     </message>
     <message>
         <source>&amp;From:</source>

@@ -35,15 +35,14 @@ DlgExportReport::DlgExportReport(QWidget* parent, const ProjectPlace& project,
     QVBoxLayout* const rows = makeMainLayout();
     rows->addWidget(m_files);
     rows->addLayout(selection, 1);
-    rows->addWidget(m_hint);
-    addButtons();
+    addLastRow(*rows);
     connect(m_files, &ReportFilesPanel::changed, this, &DlgExportReport::judge);
     connect(m_period, &PeriodPanel::changed, this, &DlgExportReport::judge);
     connect(m_crews, &CrewPanel::changed, this, &DlgExportReport::judge);
     judge();
 }
 
-void DlgExportReport::addButtons()
+void DlgExportReport::addLastRow(QVBoxLayout& rows)
 {
     auto* const buttons = new QDialogButtonBox(this);
     m_export = buttons->addButton(tr("E&xport"), QDialogButtonBox::AcceptRole);
@@ -53,7 +52,10 @@ void DlgExportReport::addButtons()
     m_export->setFocus();
     connect(buttons, &QDialogButtonBox::accepted, this, &DlgExportReport::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    layout()->addWidget(buttons);
+    auto* const row = new QHBoxLayout; // the one row that never scrolls
+    row->addWidget(m_hint, 1);
+    row->addWidget(buttons, 0, Qt::AlignBottom);
+    rows.addLayout(row);
 }
 
 ReportChoice DlgExportReport::choice() const

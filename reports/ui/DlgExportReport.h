@@ -9,6 +9,7 @@ class CrewPanel;
 class PeriodPanel;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 /// Asks which reports to write: reports and files, the period and the surveyors of the results. It
 /// says while the user chooses what is wrong, how many results there are, and which files exist.
@@ -29,7 +30,7 @@ public:
     void accept() override;
 
 private:
-    void addButtons();
+    void addLastRow(QVBoxLayout& rows);
     void judge();
     [[nodiscard]] QString fault() const;
     /// How many results there are, and which files.

@@ -50,7 +50,7 @@ DlgReportResults::DlgReportResults(QWidget* parent, const std::vector<ReportResu
     const QString folder = QFileInfo(results.front().file.path).absolutePath();
     auto* const rows = makeMainLayout();
     rows->addWidget(
-        plainLabel(reportSentence(results) + QLatin1Char(' ') +
+        plainLabel(reportSentence(results) + QLatin1Char('\n') +
                        tr("Their folder: \"%1\".").arg(QDir::toNativeSeparators(folder)),
                    this));
     auto* const grid = new QGridLayout;
