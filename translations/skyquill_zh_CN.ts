@@ -886,6 +886,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>CrewPanel</name>
+    <message>
+        <source>Crews</source>
+        <translation>测量组</translation>
+    </message>
+    <message>
+        <source>All &amp;crews</source>
+        <translation>全部测量组(&amp;C)</translation>
+    </message>
+    <message>
+        <source>no surveyor given</source>
+        <translation>未填测量员</translation>
+    </message>
+    <message>
+        <source>Results of this surveyor: %1</source>
+        <translation>该测量员的成果：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Single crews:</source>
+        <translation>单个测量组(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Please choose a crew.</source>
+        <translation>请选择一个测量组。</translation>
+    </message>
+</context>
+<context>
     <name>CsvFaults</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -1470,6 +1497,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgExportReport</name>
+    <message>
+        <source>Export Report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>E&amp;xport</source>
+        <translation>导出(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>取消(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Results in the reports: %1 of %2.</source>
+        <translation>报告中的成果：%1 个，共 %2 个。</translation>
+    </message>
+    <message>
+        <source>The file exists and will be replaced.</source>
+        <translation>该文件已存在，将被替换。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files exist and will be replaced.</source>
+        <translation>%2 个文件中有 %1 个已存在，将被替换。</translation>
+    </message>
+    <message>
+        <source>Go on?</source>
+        <translation>要继续吗？</translation>
+    </message>
+</context>
+<context>
     <name>DlgImportSummary</name>
     <message>
         <source>Success</source>
@@ -1632,6 +1690,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Results deleted: %1. %2</source>
         <translation>已删除的成果：%1。%2</translation>
+    </message>
+</context>
+<context>
+    <name>DlgReportResults</name>
+    <message>
+        <source>Reports written: %1 of %2.</source>
+        <translation>已写出报告：%1 个，共 %2 个。</translation>
+    </message>
+    <message>
+        <source>Export Report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>Their folder: &quot;%1&quot;.</source>
+        <translation>所在文件夹：“%1”。</translation>
+    </message>
+    <message>
+        <source>Open (&amp;%1)</source>
+        <translation>打开(&amp;%1)</translation>
+    </message>
+    <message>
+        <source>Open &quot;%1&quot;</source>
+        <translation>打开“%1”</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
     </message>
 </context>
 <context>
@@ -2346,6 +2435,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>PeriodPanel</name>
+    <message>
+        <source>Period (%1)</source>
+        <translation>时段（%1）</translation>
+    </message>
+    <message>
+        <source>&amp;All results</source>
+        <translation>全部成果(&amp;A)</translation>
+    </message>
+    <message>
+        <source>This &amp;day:</source>
+        <translation>某一天(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>从(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;to:</source>
+        <translation>到(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>The period ends before it begins.</source>
+        <translation>时段的结束早于开始。</translation>
+    </message>
+</context>
+<context>
     <name>PointCorrection</name>
     <message>
         <source>A comma cannot stand here: it separates the fields of CSV files. Write a semicolon.</source>
@@ -2488,6 +2604,30 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Open &quot;%1&quot; instead.</source>
         <translation>请打开“%1”。</translation>
+    </message>
+    <message>
+        <source>Please enter a file name.</source>
+        <translation>请输入文件名。</translation>
+    </message>
+    <message>
+        <source>A file name cannot contain &quot;%1&quot;.</source>
+        <translation>文件名不能含有“%1”。</translation>
+    </message>
+    <message>
+        <source>A file name cannot contain control characters.</source>
+        <translation>文件名不能含有控制字符。</translation>
+    </message>
+    <message>
+        <source>A file name cannot begin or end with a blank or a dot.</source>
+        <translation>文件名不能以空格或点开头或结尾。</translation>
+    </message>
+    <message>
+        <source>The file name is too long.</source>
+        <translation>文件名太长。</translation>
+    </message>
+    <message>
+        <source>Please choose a folder.</source>
+        <translation>请选择一个文件夹。</translation>
     </message>
 </context>
 <context>
@@ -2902,10 +3042,69 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>ReportFilesPanel</name>
+    <message>
+        <source>File &amp;names:</source>
+        <translation>文件名(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Reports:</source>
+        <translation>报告：</translation>
+    </message>
+    <message>
+        <source>&amp;%1 %2</source>
+        <comment>number and name of a report</comment>
+        <translation>&amp;%1 %2</translation>
+    </message>
+    <message>
+        <source>File name: %1</source>
+        <translation>文件名：%1</translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation>文件夹(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Folder of the Reports</source>
+        <translation>报告的文件夹</translation>
+    </message>
+    <message>
+        <source>Please choose a report.</source>
+        <translation>请选择一个报告。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder.</source>
+        <translation>“%1”是一个文件夹。</translation>
+    </message>
+    <message>
+        <source>Two reports have the file name &quot;%1&quot;.</source>
+        <translation>两个报告的文件名都是“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>ReportKinds</name>
     <message>
         <source>Survey results</source>
         <translation>测量成果</translation>
+    </message>
+</context>
+<context>
+    <name>ReportProgress</name>
+    <message>
+        <source>Export Report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Report %1 of %2: %3</source>
+        <translation>第 %1 个报告，共 %2 个：%3</translation>
     </message>
 </context>
 <context>
