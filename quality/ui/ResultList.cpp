@@ -22,6 +22,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QIdentityProxyModel>
 #include <QLabel>
 #include <QMenu>
@@ -79,8 +80,17 @@ ResultList::ResultList(IDesktopHost& host, const CheckKind& kind, CheckResult re
     QVBoxLayout* const rows = makeMainLayout();
     rows->addWidget(m_table);
     rows->addWidget(m_finding);
-    resize(minimumSize());
+    resize(std::max(minimumWidth(), neededWidth()), minimumHeight());
+    m_table->horizontalHeader()->setStretchLastSection(true);
     moveIntoCorner(); // a clicked point appears in the middle of the map
+}
+
+int ResultList::neededWidth() const
+{
+    const QMargins margins = layout()->contentsMargins();
+    return m_table->horizontalHeader()->length() +
+           m_table->verticalScrollBar()->sizeHint().width() + 2 * m_table->frameWidth() +
+           margins.left() + margins.right();
 }
 
 void ResultList::addMenu()
@@ -102,7 +112,8 @@ void ResultList::showRows(CheckResult result)
 void ResultList::setResult(CheckResult result)
 {
     const int place = m_table->verticalScrollBar()->value();
-    const int row = m_table->currentIndex().row();
+    const std::vector<int> selected = m_table->selectedRows();
+    const int row = selected.empty() ? m_table->currentIndex().row() : selected.front();
     showRows(std::move(result));
     m_table->verticalScrollBar()->setValue(place);
     const QModelIndex next = m_table->model()->index(std::min(row, m_rows->rowCount() - 1), 0);

@@ -52,6 +52,8 @@ protected:
 
 private:
     void addMenu();
+    /// Of all columns side by side.
+    [[nodiscard]] int neededWidth() const;
     void showRows(CheckResult result);
     /// A point that was deleted after the check is told in the status bar.
     void selectPoint(const QModelIndex& index);
