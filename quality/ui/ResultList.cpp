@@ -80,17 +80,21 @@ ResultList::ResultList(IDesktopHost& host, const CheckKind& kind, CheckResult re
     QVBoxLayout* const rows = makeMainLayout();
     rows->addWidget(m_table);
     rows->addWidget(m_finding);
-    resize(std::max(minimumWidth(), neededWidth()), minimumHeight());
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    fitWidth();
     moveIntoCorner(); // a clicked point appears in the middle of the map
 }
 
-int ResultList::neededWidth() const
+void ResultList::fitWidth()
 {
+    QHeaderView& header = *m_table->horizontalHeader();
     const QMargins margins = layout()->contentsMargins();
-    return m_table->horizontalHeader()->length() +
-           m_table->verticalScrollBar()->sizeHint().width() + 2 * m_table->frameWidth() +
-           margins.left() + margins.right();
+    const int needed = header.length() + m_table->verticalScrollBar()->sizeHint().width() +
+                       2 * m_table->frameWidth() + margins.left() + margins.right();
+    resize(std::max(minimumWidth(), needed), minimumHeight());
+    const int more = std::max(0, minimumWidth() - needed) / header.count();
+    for (int column = 0; column < header.count(); ++column)
+        header.resizeSection(column, header.sectionSize(column) + more);
+    header.setStretchLastSection(true); // what is left over
 }
 
 void ResultList::addMenu()
