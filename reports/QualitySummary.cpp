@@ -108,11 +108,8 @@ void addTestChart(Page& page, const std::vector<TestFigures>& tests)
     CellRange names = page.cells(0);
     CellRange counts = page.cells(kFailedColumn);
     names.lastRow = counts.lastRow = names.firstRow + std::uint32_t(failed) - 1;
-    page.addCharts({{Chart::Kind::Bars,
-                     Texts::tr("Failed results by test"),
-                     {{{}, names, counts}},
-                     {},
-                     Texts::tr("Results")}});
+    page.addCharts(
+        {{Chart::Kind::Bars, Texts::tr("Failed results by test"), {{{}, names, counts}}}});
 }
 
 /// In two columns, so that the summary stays a page that can be read.
