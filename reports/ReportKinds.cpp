@@ -1,5 +1,6 @@
 #include "reports/ReportKinds.h"
 
+#include "reports/QualityReport.h"
 #include "reports/SurveyResultsReport.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,8 @@ namespace {
 
 // All reports: a new one is a line here.
 constexpr std::array kKinds{
+    ReportKind{"quality", "quality-check", QT_TRANSLATE_NOOP("ReportKinds", "Quality check"),
+               writeQualityReport},
     ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
                writeSurveyResults},
 };

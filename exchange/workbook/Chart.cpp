@@ -93,6 +93,7 @@ lxw_chart* makeChart(lxw_workbook* book, const Chart& chart)
     nameAxis(values, chart.valueAxis);
     if (isLying) { // the first category on top, and yet the numbers at the foot
         chart_axis_set_reverse(categories);
+        chart_axis_set_interval_unit(categories, 1); // each has its name, however tall the font
         chart_axis_set_label_position(values, LXW_CHART_AXIS_LABEL_POSITION_HIGH);
     }
     return made;
