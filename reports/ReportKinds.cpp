@@ -1,5 +1,6 @@
 #include "reports/ReportKinds.h"
 
+#include "reports/RoverReport.h"
 #include "reports/SurveyResultsReport.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,7 @@ namespace {
 
 // All reports: a new one is a line here.
 constexpr std::array kKinds{
+    ReportKind{"rover", "rover-log", QT_TRANSLATE_NOOP("ReportKinds", "Rover log"), writeRoverLog},
     ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
                writeSurveyResults},
 };
