@@ -2907,6 +2907,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Survey results</source>
         <translation>测量成果</translation>
     </message>
+    <message>
+        <source>Rover log</source>
+        <translation>流动站日志</translation>
+    </message>
 </context>
 <context>
     <name>Reports</name>
@@ -3181,6 +3185,421 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Resurvey Point No Corresponding Point.</source>
         <translation>复测点没有对应点。</translation>
+    </message>
+</context>
+<context>
+    <name>RoverReport</name>
+    <message>
+        <source>Bases</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Rovers</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>天数</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>首点时间</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>末点时间</translation>
+    </message>
+    <message>
+        <source>North (%1)</source>
+        <translation>北 (%1)</translation>
+    </message>
+    <message>
+        <source>East (%1)</source>
+        <translation>东 (%1)</translation>
+    </message>
+    <message>
+        <source>Height (m)</source>
+        <translation>高程 (m)</translation>
+    </message>
+    <message>
+        <source>Latitude (%1)</source>
+        <translation>纬度 (%1)</translation>
+    </message>
+    <message>
+        <source>Longitude (%1)</source>
+        <translation>经度 (%1)</translation>
+    </message>
+    <message>
+        <source>Line / point</source>
+        <translation>线号 / 点号</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>移动过</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>成果数</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>起始时间</translation>
+    </message>
+    <message>
+        <source>On the plane (m)</source>
+        <translation>平面 (m)</translation>
+    </message>
+    <message>
+        <source>In height (m)</source>
+        <translation>高程 (m)</translation>
+    </message>
+    <message>
+        <source>Nearest</source>
+        <translation>最近</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Farthest</source>
+        <translation>最远</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>Used by</source>
+        <translation>使用情况</translation>
+    </message>
+    <message>
+        <source>Position in its first result</source>
+        <translation>首个成果中的位置</translation>
+    </message>
+    <message>
+        <source>Put elsewhere by other results</source>
+        <translation>其他成果中的不同位置</translation>
+    </message>
+    <message>
+        <source>Distance of the points (km)</source>
+        <translation>点到基站的距离 (km)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Rover</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>距离 (m)</translation>
+    </message>
+    <message>
+        <source>Gaps over %1 minutes</source>
+        <translation>超过 %1 分钟的间断</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>间断</translation>
+    </message>
+    <message>
+        <source>Last point before it</source>
+        <translation>间断前最后一点</translation>
+    </message>
+    <message>
+        <source>First point after it</source>
+        <translation>间断后第一点</translation>
+    </message>
+    <message>
+        <source>Between them</source>
+        <translation>两点之间</translation>
+    </message>
+    <message>
+        <source>These results have no design position, or a value that is no number.</source>
+        <translation>这些成果没有设计坐标，或者有的值不是数字。</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>作业概况</translation>
+    </message>
+    <message>
+        <source>Surveyors</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>时段</translation>
+    </message>
+    <message>
+        <source>Gaps over %1 min</source>
+        <translation>间断 (&gt;%1 分钟)</translation>
+    </message>
+    <message>
+        <source>Bases moved</source>
+        <translation>移动过的基站</translation>
+    </message>
+    <message>
+        <source>Others (%1)</source>
+        <translation>其他 (%1)</translation>
+    </message>
+    <message>
+        <source>Points by day and rover</source>
+        <translation>各日各流动站的点数</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>Earlier days (%1)</source>
+        <translation>更早的日期（%1 天）</translation>
+    </message>
+    <message>
+        <source>Without a time</source>
+        <translation>没有时间</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>超限</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>小时</translation>
+    </message>
+    <message>
+        <source>Points an hour</source>
+        <translation>每小时点数</translation>
+    </message>
+    <message>
+        <source>The last %1 days with points are shown, and the sum of the earlier ones; the sheet &quot;Sessions&quot; has all.</source>
+        <translation>只列出最近 %1 个有点的日期和更早日期的合计；全部日期见工作表“时段”。</translation>
+    </message>
+    <message>
+        <source>Results without a time: %1. They belong to no day and no gap; their sessions have no hours.</source>
+        <translation>没有时间的成果：%1 个。它们不属于任何日期，也不计间断；其时段没有小时数。</translation>
+    </message>
+    <message>
+        <source>Points a day by rover</source>
+        <translation>各流动站每日点数</translation>
+    </message>
+    <message>
+        <source>Sessions: %1, gaps over %2 minutes: %3, bases: %4, of these moved: %5.</source>
+        <translation>时段：%1，超过 %2 分钟的间断：%3，基站：%4，其中移动过的：%5。</translation>
+    </message>
+    <message>
+        <source>Results without a time: %1.</source>
+        <translation>没有时间的成果：%1。</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>时段</translation>
+    </message>
+    <message>
+        <source>The results of a day, a rover, a surveyor and a base. Days begin at midnight in the zone of the times. Results without a time are sessions without hours.</source>
+        <translation>同一天、同一流动站、同一测量员、同一基站的成果。日期从时间所在时区的零点开始。没有时间的成果单独成为没有小时数的时段。</translation>
+    </message>
+    <message>
+        <source>From the first to the last result of a session; 0 of a single one.</source>
+        <translation>从时段的第一个成果到最后一个成果；只有一个成果时为 0。</translation>
+    </message>
+    <message>
+        <source>Results of all kinds, also resurveys (the code re_code in the number) and repeats (a number that begins with C). R is receivers, S sources.</source>
+        <translation>所有种类的成果，包括复测点（点号中有代码 re_code）和重复点（点号以 C 开头）。R 为检波点，S 为炮点。</translation>
+    </message>
+    <message>
+        <source>Points / hours. On the summary, the hours of a rover are those from its first to its last result of each day, whatever the base.</source>
+        <translation>点数 / 小时数。摘要页上流动站的小时数为每天从其第一个成果到最后一个成果的时间，不分基站。</translation>
+    </message>
+    <message>
+        <source>Longest gap</source>
+        <translation>最长间断</translation>
+    </message>
+    <message>
+        <source>The longest time between two results of a session, in minutes.</source>
+        <translation>一个时段内相邻两个成果之间的最长时间，单位为分钟。</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>间断</translation>
+    </message>
+    <message>
+        <source>Times of more than %1 minutes without a result of a rover and surveyor on a day, whatever the base. The distance tells a drive from a rest.</source>
+        <translation>同一天同一流动站同一测量员超过 %1 分钟没有成果的时间，不分基站。由距离可以区分转移和休息。</translation>
+    </message>
+    <message>
+        <source>Failed, not judged</source>
+        <translation>超限、未评定</translation>
+    </message>
+    <message>
+        <source>Failed: out of at least one limit above. Not judged: no design position, or a value that is no number, and out of no limit.</source>
+        <translation>超限：至少超出上面的一项限差。未评定：没有设计坐标，或者有的值不是数字，且没有超出任何限差。</translation>
+    </message>
+    <message>
+        <source>Mean, worst, fewest</source>
+        <translation>平均、最差、最少</translation>
+    </message>
+    <message>
+        <source>Of all results of the session whose value is a number; red when it is out of its limit above.</source>
+        <translation>时段内值为数字的所有成果的平均值、最差值、最小值；超出上面的限差时为红色。</translation>
+    </message>
+    <message>
+        <source>Antenna height</source>
+        <translation>天线高</translation>
+    </message>
+    <message>
+        <source>The different heights used, and how often the height changed from a result to the next.</source>
+        <translation>用过的各个天线高，以及相邻成果之间天线高改变的次数。</translation>
+    </message>
+    <message>
+        <source>Results put the base more than %1 m from where its first result does, on the plane or in height. Nothing is said of results that name no base.</source>
+        <translation>有成果给出的基站位置与首个成果给出的位置相差超过 %1 m（平面或高程）。没有注明基站的成果不作判断。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Longest gap (min)</source>
+        <translation>最长间断 (分钟)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Resurveys</source>
+        <translation>复测点</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <translation>重复点</translation>
+    </message>
+    <message>
+        <source>An hour</source>
+        <translation>每小时</translation>
+    </message>
+    <message>
+        <source>Not judged</source>
+        <translation>未评定</translation>
+    </message>
+    <message>
+        <source>PDOP</source>
+        <translation>PDOP</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>最差</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>卫星数</translation>
+    </message>
+    <message>
+        <source>Fewest</source>
+        <translation>最少</translation>
+    </message>
+    <message>
+        <source>HRMS (m)</source>
+        <translation>HRMS (m)</translation>
+    </message>
+    <message>
+        <source>VRMS (m)</source>
+        <translation>VRMS (m)</translation>
+    </message>
+    <message>
+        <source>Solutions</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Antenna height (m)</source>
+        <translation>天线高 (m)</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>用过</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>最低</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>最高</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>改变次数</translation>
+    </message>
+    <message>
+        <source>Base distance (km)</source>
+        <translation>到基站的距离 (km)</translation>
+    </message>
+    <message>
+        <source>Largest</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>without a time</source>
+        <translation>没有时间</translation>
+    </message>
+    <message>
+        <source>none given</source>
+        <translation>未注明</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 等，另有 %2 个</translation>
     </message>
 </context>
 <context>
