@@ -249,9 +249,9 @@ std::vector<FigureDefinition> Report::definitions() const
     return {
         {Texts::tr("Session"),
          Texts::tr("The results of a day, a rover, a surveyor and a base. Days begin at midnight "
-                   "in the zone of the times. Results without a time are sessions without hours.")},
+                   "in the zone of the times.")},
         {Texts::tr("Hours"), Texts::tr("From the first to the last result of a session; 0 of a "
-                                       "single one.")},
+                                       "single one, and none of results without a time.")},
         {Texts::tr("Points"),
          Texts::tr("Results of all kinds, also resurveys (the code re_code in the number) and "
                    "repeats (a number that begins with C). R is receivers, S sources.")},
