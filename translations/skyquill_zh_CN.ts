@@ -3371,7 +3371,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Sessions</source>
-        <translation>时段</translation>
+        <translation>作业段</translation>
     </message>
     <message>
         <source>Gaps over %1 min</source>
@@ -3415,11 +3415,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>The last %1 days with points are shown, and the sum of the earlier ones; the sheet &quot;Sessions&quot; has all.</source>
-        <translation>只列出最近 %1 个有点的日期和更早日期的合计；全部日期见工作表“时段”。</translation>
+        <translation>只列出最近 %1 个有点的日期和更早日期的合计；全部日期见工作表“作业段”。</translation>
     </message>
     <message>
         <source>Results without a time: %1. They belong to no day and no gap; their sessions have no hours.</source>
-        <translation>没有时间的成果：%1 个。它们不属于任何日期，也不计间断；其时段没有小时数。</translation>
+        <translation>没有时间的成果：%1 个。它们不属于任何日期，也不计间断；其作业段没有小时数。</translation>
     </message>
     <message>
         <source>Points a day by rover</source>
@@ -3427,7 +3427,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Sessions: %1, gaps over %2 minutes: %3, bases: %4, of these moved: %5.</source>
-        <translation>时段：%1，超过 %2 分钟的间断：%3，基站：%4，其中移动过的：%5。</translation>
+        <translation>作业段：%1，超过 %2 分钟的间断：%3，基站：%4，其中移动过的：%5。</translation>
     </message>
     <message>
         <source>Results without a time: %1.</source>
@@ -3435,15 +3435,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Session</source>
-        <translation>时段</translation>
+        <translation>作业段</translation>
     </message>
     <message>
-        <source>The results of a day, a rover, a surveyor and a base. Days begin at midnight in the zone of the times. Results without a time are sessions without hours.</source>
-        <translation>同一天、同一流动站、同一测量员、同一基站的成果。日期从时间所在时区的零点开始。没有时间的成果单独成为没有小时数的时段。</translation>
+        <source>The results of a day, a rover, a surveyor and a base. Days begin at midnight in the zone of the times.</source>
+        <translation>同一天、同一流动站、同一测量员、同一基站的成果。日期从时间所在时区的零点开始。</translation>
     </message>
     <message>
-        <source>From the first to the last result of a session; 0 of a single one.</source>
-        <translation>从时段的第一个成果到最后一个成果；只有一个成果时为 0。</translation>
+        <source>From the first to the last result of a session; 0 of a single one, and none of results without a time.</source>
+        <translation>从作业段的第一个成果到最后一个成果；只有一个成果时为 0，没有时间的成果没有小时数。</translation>
     </message>
     <message>
         <source>Results of all kinds, also resurveys (the code re_code in the number) and repeats (a number that begins with C). R is receivers, S sources.</source>
@@ -3451,7 +3451,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Points / hours. On the summary, the hours of a rover are those from its first to its last result of each day, whatever the base.</source>
-        <translation>点数 / 小时数。摘要页上流动站的小时数为每天从其第一个成果到最后一个成果的时间，不分基站。</translation>
+        <translation>点数 / 小时数。汇总页上流动站的小时数为每天从其第一个成果到最后一个成果的时间，不分基站。</translation>
     </message>
     <message>
         <source>Longest gap</source>
@@ -3459,7 +3459,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>The longest time between two results of a session, in minutes.</source>
-        <translation>一个时段内相邻两个成果之间的最长时间，单位为分钟。</translation>
+        <translation>一个作业段内相邻两个成果之间的最长时间，单位为分钟。</translation>
     </message>
     <message>
         <source>Gaps</source>
@@ -3483,7 +3483,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Of all results of the session whose value is a number; red when it is out of its limit above.</source>
-        <translation>时段内值为数字的所有成果的平均值、最差值、最小值；超出上面的限差时为红色。</translation>
+        <translation>作业段内值为数字的所有成果的平均值、最差值、最小值；超出上面的限差时为红色。</translation>
     </message>
     <message>
         <source>Antenna height</source>
