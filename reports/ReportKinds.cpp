@@ -1,6 +1,7 @@
 #include "reports/ReportKinds.h"
 
 #include "reports/QualityReport.h"
+#include "reports/RoverReport.h"
 #include "reports/SurveyResultsReport.h"
 
 #include <QCoreApplication>
@@ -14,6 +15,7 @@ namespace {
 constexpr std::array kKinds{
     ReportKind{"quality", "quality-check", QT_TRANSLATE_NOOP("ReportKinds", "Quality check"),
                writeQualityReport},
+    ReportKind{"rover", "rover-log", QT_TRANSLATE_NOOP("ReportKinds", "Rover log"), writeRoverLog},
     ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
                writeSurveyResults},
 };

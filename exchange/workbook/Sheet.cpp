@@ -14,8 +14,10 @@ namespace {
 constexpr double kFilterButton = 3; // characters
 constexpr double kMargin = 2.5;     // characters
 constexpr double kNarrowest = 7;
+constexpr double kBold = 1.1; // bold letters are wider
 constexpr double kWidest = 60;
 constexpr double kTimeWidth = 19;
+constexpr double kDateWidth = 10;
 constexpr double kLineHeight = 13.5; // points
 
 double numberWidth(double value, const SheetColumn& column)
@@ -186,12 +188,25 @@ double Sheet::widthOf(std::size_t index) const
     double width = std::max(kNarrowest, cells.text);
     if (column.form == SheetColumn::Form::Time)
         width = std::max(width, kTimeWidth);
+    else if (column.form == SheetColumn::Form::Date)
+        width = std::max(width, kDateWidth);
     else
         width = std::max(
             {width, numberWidth(cells.smallest, column), numberWidth(cells.largest, column)});
-    width =
-        std::max(width, longestWord(column.caption) * 1.1 + (m_look.hasFilter ? kFilterButton : 0));
-    return std::min(width, kWidest) + kMargin;
+    width = std::max(width,
+                     longestWord(column.caption) * kBold + (m_look.hasFilter ? kFilterButton : 0));
+    return std::min(std::max(width, widthOfGroup(index)), kWidest) + kMargin;
+}
+
+double Sheet::widthOfGroup(std::size_t column) const
+{
+    std::size_t end = 0;
+    for (const SheetGroup& group : m_look.groups) {
+        end += static_cast<std::size_t>(group.columns);
+        if (column < end)
+            return textWidth(group.caption.toStdString()) * kBold / group.columns;
+    }
+    return 0;
 }
 
 void Sheet::setWidths()

@@ -81,6 +81,8 @@ private:
     void applyPickLists();
     /// Of what the column has shown so far, in characters.
     [[nodiscard]] double widthOf(std::size_t column) const;
+    /// What a column needs so that the caption above it and its neighbours is whole.
+    [[nodiscard]] double widthOfGroup(std::size_t column) const;
 
     QString m_name; ///< as it was asked for
     QString m_sheetName;
