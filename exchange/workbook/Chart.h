@@ -7,8 +7,9 @@ struct Chart
 {
     enum class Kind
     {
-        Columns, ///< upright
-        Bars,    ///< lying, the first category on top
+        Columns,        ///< upright, beside each other
+        StackedColumns, ///< upright, on each other: their sum is seen, too
+        Bars,           ///< lying, the first category on top
         Lines
     };
     struct Series
