@@ -1,5 +1,6 @@
 #include "reports/ReportKinds.h"
 
+#include "reports/StatisticsReport.h"
 #include "reports/SurveyResultsReport.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,8 @@ namespace {
 
 // All reports: a new one is a line here.
 constexpr std::array kKinds{
+    ReportKind{"statistics", "quality-statistics",
+               QT_TRANSLATE_NOOP("ReportKinds", "Quality statistics"), writeQualityStatistics},
     ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
                writeSurveyResults},
 };
