@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Numbers.h"
+#include "exchange/ui/DlgCoordCompare.h"
 #include "exchange/ui/FileImports.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/ICoordTransformHelper.h"
@@ -47,6 +48,9 @@ DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHos
                      host->eventManager()),
       m_dataManager(std::make_unique<DataProcessDataManager>(host)), m_follower(*host)
 {
+    m_dataManager->setOtherSystemHandler([host](const QString& path, SurveyRecords other) {
+        DlgCoordCompare::tell(*host, path, std::move(other));
+    });
 }
 
 int DataProcess5Assistant::onMapViewCreated()

@@ -1,4 +1,7 @@
 #include "bench/Limits.h"
+#include "exchange/CoordAgreement.h"
+#include "exchange/CoordCompare.h"
+#include "exchange/CoordDifferences.h"
 #include "exchange/ImportSummary.h"
 #include "exchange/SurveyKml.h"
 #include "lum_sdk/coords/ICoordTransform.h"
@@ -17,10 +20,12 @@
 
 #include <array>
 #include <cstdlib>
+#include <optional>
 
 // What goes to other projects and programs: a million design points as a database against a loop
 // that inserts ready texts, 200,000 results from a database against loading them, 200,000 results
-// on 1,000 lines as KML against a loop that gives ready features to the same driver.
+// on 1,000 lines as KML against a loop that gives ready features to the same driver, and 200,000
+// results compared with the project's coordinate system against their transformation alone.
 
 namespace {
 
@@ -263,9 +268,54 @@ void BM_Kml(benchmark::State& state)
     }
 }
 
+/// Results whose plane coordinates are nearly those of zone 50, so that every step of the judgement
+/// is made.
+std::vector<SurveyPoint> otherResults()
+{
+    std::vector<SurveyPoint> records;
+    for (const auto& [number, line] : project().survey) {
+        for (SurveyPoint point : line) {
+            point.latitude = 38 + static_cast<double>(records.size() % 1000) * 0.0005;
+            point.longitude = 116.5 + static_cast<double>(records.size()) * 2.5e-6;
+            records.push_back(point);
+        }
+    }
+    return records;
+}
+
+void BM_Comparison(benchmark::State& state)
+{
+    const std::vector<SurveyPoint> records = otherResults();
+    ICoordTransform& transform = zone50();
+    std::vector<CoordTriple> positions;
+    for (const SurveyPoint& record : records)
+        positions.push_back({record.latitude, record.longitude, record.altitude});
+    std::vector<CoordTriple> plane(positions.size());
+    std::vector<std::int32_t> codes(positions.size());
+    for (auto _ : state) {
+        const double ratio = bench::medianOf([&] {
+            const double limit = bench::secondsOf(
+                [&] { transform.transformMany(1, 1, 2, 4, positions, plane, codes); });
+            std::vector<SurveyPoint> moved = records;
+            std::optional<CoordCompare> comparison;
+            std::size_t compared = 0;
+            const double comparing = bench::secondsOf([&] {
+                comparison.emplace(transform.parameters(), transform.parameters(),
+                                   std::move(moved));
+                compared = differenceFigures(comparison->pairs()).count +
+                           coordAgreement(comparison->pairs()).count;
+            });
+            std::printf("compare %.3f s, transform %.3f s\n", comparing, limit);
+            return compared == 2 * records.size() ? comparing / limit : 1e9;
+        });
+        bench::report(state, "comparison of 200,000 / their transformation", ratio, 1.3);
+    }
+}
+
 BENCHMARK(BM_DatabaseExport)->Iterations(1);
 BENCHMARK(BM_DatabaseImport)->Iterations(1);
 BENCHMARK(BM_Kml)->Iterations(1);
+BENCHMARK(BM_Comparison)->Iterations(1);
 
 } // namespace
 

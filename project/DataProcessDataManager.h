@@ -121,11 +121,11 @@ public:
     int exportDesignKml(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
                         Outcome* outcome = nullptr);
     int exportSurveyKml(const QStringList& lines, const QString& path, Outcome* outcome = nullptr);
-    /// Adds the results of another project's database. One of another coordinate system is refused,
-    /// after the handler of `setOtherSystemHandler` has got it.
+    /// Adds the results of another project's database. One of another coordinate system goes to the
+    /// handler of `setOtherSystemHandler` instead; the outcome has no text then.
     int importSurveyDatabase(const QString& path, Outcome* outcome = nullptr,
                              ImportSummary* counts = nullptr);
-    /// For the user interface, which then shows both systems.
+    /// For the user interface, which then shows how far the systems disagree.
     void setOtherSystemHandler(OtherSystemHandler handler);
 
     /// Writes a workbook about the project, see reports/ReportKinds.h. The outcome has a notice in

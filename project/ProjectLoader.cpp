@@ -104,6 +104,15 @@ struct ImportedPart : SurveyPart
     ProjectLoader::ResultRows rows;
 };
 
+/// The same for a comparison, which takes the rows as they are.
+struct RecordPart
+{
+    void add(const IDictionary& row) { records.push_back(reader.read(row)); }
+
+    SurveyRecord::Reader reader;
+    std::vector<SurveyPoint> records;
+};
+
 /// Puts both halves of a table together.
 template <class Part>
 void join(std::array<Part, 2>& parts, SurveyPoints& survey, const SurveyPoints* standing)
@@ -185,6 +194,19 @@ Outcome ProjectLoader::readResults(const std::string& path, const SurveyPoints& 
     });
 }
 
+Outcome ProjectLoader::readRecords(const std::string& path, std::vector<SurveyPoint>& records,
+                                   IDictionary& coordParameters)
+{
+    return readAs(path, lum::readOnlyConnection(path),
+                  [&] { return readSurvey(records) && readCoordinateSystem(coordParameters); });
+}
+
+Outcome ProjectLoader::readSystem(const std::string& path, IDictionary& coordParameters)
+{
+    return readAs(path, lum::readOnlyConnection(path),
+                  [&] { return readCoordinateSystem(coordParameters); });
+}
+
 template <class Read>
 Outcome ProjectLoader::readAs(const std::string& path, const std::string& connection, Read read)
 {
@@ -236,6 +258,16 @@ bool ProjectLoader::readSurvey(SurveyPoints& survey, const SurveyPoints& standin
         rows.withoutNumber.push_back(rows.read + place);
     rows.read += parts[1].rows.read;
     rows.withoutLine += parts[1].rows.withoutLine;
+    return isRead;
+}
+
+bool ProjectLoader::readSurvey(std::vector<SurveyPoint>& records)
+{
+    std::array<RecordPart, 2> parts;
+    const bool isRead = readTable(SurveyRecord::kTable, surveyCaption(), 50, parts);
+    records = std::move(parts[0].records);
+    records.insert(records.end(), std::make_move_iterator(parts[1].records.begin()),
+                   std::make_move_iterator(parts[1].records.end()));
     return isRead;
 }
 

@@ -37,6 +37,11 @@ public:
     /// import files them: a check point gets a counter that is free in `standing`, too.
     Outcome readResults(const std::string& path, const SurveyPoints& standing, SurveyPoints& survey,
                         IDictionary& coordParameters, ResultRows& rows);
+    /// The same, with the results as they stand in the table, in its order.
+    Outcome readRecords(const std::string& path, std::vector<SurveyPoint>& records,
+                        IDictionary& coordParameters);
+    /// Reads the coordinate system alone, and never writes.
+    Outcome readSystem(const std::string& path, IDictionary& coordParameters);
 
 private:
     /// How a table is read: the lower half of the rows by one statement, the upper by another.
@@ -52,6 +57,7 @@ private:
     bool readDesign(DesignPoints& design);
     bool readSurvey(SurveyPoints& survey);
     bool readSurvey(SurveyPoints& survey, const SurveyPoints& standing, ResultRows& rows);
+    bool readSurvey(std::vector<SurveyPoint>& records);
     bool readCoordinateSystem(IDictionary& coordParameters);
     bool plan(const char* table, Plan& plan);
     /// \param reports how many progress reports there are, about

@@ -15,6 +15,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <optional>
+
 namespace {
 
 /// What a database holds that an import is for.
@@ -57,7 +59,7 @@ bool needsRepair(const QString& path)
 }
 
 /// Copies the database with what was left beside it, and undoes in the copy what was cut off.
-Outcome repairCopy(const QString& path, const QString& copy, ImportSummary& summary)
+Outcome repairCopy(const QString& path, const QString& copy, QStringList& remarks)
 {
     for (const char* ending : {"", "-journal", "-wal", ".saved"}) {
         QFile file(path + QLatin1String(ending));
@@ -68,7 +70,7 @@ Outcome repairCopy(const QString& path, const QString& copy, ImportSummary& summ
     DBAdapter database;
     Outcome recovery = SafetyCopy(copy.toStdString()).recover(database);
     if (recovery.isDone() && !recovery.text().isEmpty())
-        summary.remarks << translated(
+        remarks << translated(
             QT_TRANSLATE_NOOP("SurveyDatabase", "Saving that project was interrupted. The results "
                                                 "are those that were saved before."));
     // SQLite undoes in the copy what was cut off, and takes over what stands in a log.
@@ -77,31 +79,46 @@ Outcome repairCopy(const QString& path, const QString& copy, ImportSummary& summ
     return recovery;
 }
 
-Outcome readContent(const QString& path, const SurveyPoints& standing, ProgressReporter& progress,
-                    Content& content)
+/// The file that is read: the database, or for the time of this object a copy of it in which is
+/// undone what was cut off.
+class Source
 {
-    DBAdapter database;
-    return ProjectLoader(database, progress)
-        .readResults(path.toStdString(), standing, content.points, content.coordParameters,
-                     content.rows);
-}
+public:
+    explicit Source(const QString& path) : m_path(path), m_file(path) {}
 
-Outcome readRepaired(const QString& path, const SurveyPoints& standing, ProgressReporter& progress,
-                     Content& content, ImportSummary& summary)
-{
-    if (!needsRepair(path))
-        return readContent(path, standing, progress, content);
-    const QTemporaryDir folder;
-    const QString copy = folder.filePath(QStringLiteral("copy.db"));
-    Outcome reading = repairCopy(path, copy, summary);
-    if (reading.isDone())
-        reading = readContent(copy, standing, progress, content);
-    if (reading.isDone())
-        return reading;
-    return Outcome::failed(QString(reading.text()).replace(copy, path), reading.detail());
-}
+    Outcome prepare(QStringList& remarks)
+    {
+        if (!needsRepair(m_path))
+            return Outcome::done();
+        m_folder.emplace();
+        m_file = m_folder->filePath(QStringLiteral("copy.db"));
+        return named(repairCopy(m_path, m_file, remarks));
+    }
 
-/// "org_lon (117, in the file 120)" of each parameter that differs, as far as there are few.
+    /// \param read an operation of ProjectLoader
+    template <class Read>
+    Outcome read(ProgressReporter& progress, Read read) const
+    {
+        DBAdapter database;
+        ProjectLoader loader(database, progress);
+        return named(read(loader, m_file.toStdString()));
+    }
+
+private:
+    /// A failure tells of the database, not of its copy.
+    [[nodiscard]] Outcome named(const Outcome& reading) const
+    {
+        return reading.isDone() ? reading
+                                : Outcome::failed(QString(reading.text()).replace(m_file, m_path),
+                                                  reading.detail());
+    }
+
+    QString m_path;
+    QString m_file;
+    std::optional<QTemporaryDir> m_folder;
+};
+
+/// "org_lon (117, there 120)" of each parameter that differs, as far as there are few.
 QString differences(const IDictionary& own, const IDictionary& other)
 {
     constexpr std::size_t kMostShown = 6;
@@ -129,26 +146,66 @@ void sumUp(const ProjectLoader::ResultRows& rows, ImportSummary& summary)
     summary.pointsWithoutLine = rows.withoutLine;
 }
 
+bool isOther(const SurveyImport& import, const IDictionary& coordParameters)
+{
+    return coordParameters.size() != 0 &&
+           !sameCoordSystem(import.coordParameters, coordParameters);
+}
+
+/// \param isTold the handler has told the user
+Outcome notImported(const QString& path, const SurveyImport& import,
+                    const IDictionary& coordParameters, bool isTold)
+{
+    const QString reason =
+        translated(QT_TRANSLATE_NOOP("SurveyDatabase",
+                                     "The results of \"%1\" were not imported: their "
+                                     "coordinate system is not the project's. It differs in "
+                                     "%2."))
+            .arg(path, differences(import.coordParameters, coordParameters));
+    return Outcome::failed(isTold ? QString() : reason, reason.toStdString());
+}
+
+/// Hands over what is in a database of another coordinate system.
+Outcome handOver(const QString& path, const Source& source, const SurveyImport& import,
+                 SurveyRecords&& other, ProgressReporter& progress)
+{
+    if (!import.onOtherSystem)
+        return notImported(path, import, other.coordParameters, false);
+    Outcome reading = source.read(progress, [&](ProjectLoader& loader, const std::string& file) {
+        return loader.readRecords(file, other.records, other.coordParameters);
+    });
+    progress.hide();
+    if (!reading.isDone())
+        return reading;
+    reading = notImported(path, import, other.coordParameters, true);
+    import.onOtherSystem(path, std::move(other));
+    return reading;
+}
+
 /// Reads the database and adds its results.
 Outcome addResults(const QString& path, const SurveyImport& import, ProgressReporter& progress,
                    ImportSummary& summary)
 {
+    Source source(path);
+    SurveyRecords other;
+    Outcome reading = source.prepare(summary.remarks);
+    if (reading.isDone())
+        reading = source.read(progress, [&](ProjectLoader& loader, const std::string& file) {
+            return loader.readSystem(file, other.coordParameters);
+        });
+    if (reading.isDone() && isOther(import, other.coordParameters))
+        return handOver(path, source, import, std::move(other), progress);
     Content content;
-    Outcome reading = readRepaired(path, import.points, progress, content, summary);
+    if (reading.isDone())
+        reading = source.read(progress, [&](ProjectLoader& loader, const std::string& file) {
+            return loader.readResults(file, import.points, content.points, content.coordParameters,
+                                      content.rows);
+        });
     progress.hide();
     if (!reading.isDone())
         return reading;
-    if (content.coordParameters.size() != 0 &&
-        !sameCoordSystem(import.coordParameters, content.coordParameters)) {
-        if (import.onOtherSystem)
-            import.onOtherSystem(content.coordParameters, content.points);
-        return Outcome::failed(
-            translated(QT_TRANSLATE_NOOP("SurveyDatabase",
-                                         "The results of \"%1\" were not imported: their "
-                                         "coordinate system is not the project's. It differs in "
-                                         "%2."))
-                .arg(path, differences(import.coordParameters, content.coordParameters)));
-    }
+    if (isOther(import, content.coordParameters)) // another program has changed it meanwhile
+        return notImported(path, import, content.coordParameters, false);
     sumUp(content.rows, summary);
     const std::size_t distinct = content.points.pointCount();
     summary.pointsRepeated = summary.linesRead - summary.skipped.count - distinct;
@@ -178,5 +235,23 @@ Outcome readSurveyDatabase(const QString& path, const SurveyImport& import,
         summary.path = path;
         summary.isDatabase = true;
     }
+    return reading;
+}
+
+Outcome readSurveyRecords(const QString& path, SurveyRecords& other, QStringList& remarks,
+                          ProgressReporter& progress)
+{
+    Outcome reading = Outcome::done();
+    try {
+        Source source(path);
+        reading = source.prepare(remarks);
+        if (reading.isDone())
+            reading = source.read(progress, [&](ProjectLoader& loader, const std::string& file) {
+                return loader.readRecords(file, other.records, other.coordParameters);
+            });
+    } catch (const std::exception& fault) {
+        reading = readingBrokeOff(path, reasonOf(fault));
+    }
+    progress.finish();
     return reading;
 }

@@ -1,17 +1,26 @@
 #pragma once
 
+#include "basalt_utilities/Dictionary.h"
 #include "model/PointLines.h"
 #include "protocol/Outcome.h"
 
-#include <functional>
+#include <QStringList>
 
-class IDictionary;
+#include <functional>
+#include <vector>
+
 class ProgressReporter;
 struct ImportSummary;
 
-/// Gets the coordinate system and the results of a database whose system is not the project's.
-using OtherSystemHandler =
-    std::function<void(const IDictionary& coordParameters, const SurveyPoints& results)>;
+/// What a project's database holds of its results, as it stands there.
+struct SurveyRecords
+{
+    basalt::Dictionary coordParameters; ///< empty when the database has no coordinate system
+    std::vector<SurveyPoint> records;   ///< all rows, in the order of the table
+};
+
+/// Gets what is in a database whose coordinate system is not the project's, and tells the user.
+using OtherSystemHandler = std::function<void(const QString& path, SurveyRecords other)>;
 
 /// Where results of another project come to.
 struct SurveyImport
@@ -24,9 +33,16 @@ struct SurveyImport
 /// Adds the results of another project's database to the points, all of them or none, over those of
 /// the same numbers. Nothing is written to the database, and other programs may have it open.
 ///
-/// A database of another coordinate system goes to the handler and is refused, naming the
-/// parameters that differ. One without a coordinate system is taken as it is. After an interrupted
-/// save the results are those that were saved before.
+/// A database of another coordinate system goes to the handler, and nothing is imported; the outcome
+/// has no text then, since the user has been told. Without a handler it names the parameters that
+/// differ. A database without a coordinate system is taken as it is. After an interrupted save the
+/// results are those that were saved before.
 /// \param summary its lines are rows of the table; of a failed import it holds the path alone
 Outcome readSurveyDatabase(const QString& path, const SurveyImport& import,
                            ProgressReporter& progress, ImportSummary& summary);
+
+/// Reads the results of another project's database without importing them. Nothing is written to
+/// it.
+/// \param remarks gets what the user should know of the results
+Outcome readSurveyRecords(const QString& path, SurveyRecords& other, QStringList& remarks,
+                          ProgressReporter& progress);

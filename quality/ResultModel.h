@@ -105,6 +105,8 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role) const override
     {
+        if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal)
+            return int(Qt::AlignCenter);
         const bool isCaption = role == Qt::DisplayRole || role == result_role::kEnglish;
         if (orientation != Qt::Horizontal || section < 0 || section >= columnCount() || !isCaption)
             return QAbstractTableModel::headerData(section, orientation, role);

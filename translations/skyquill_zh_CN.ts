@@ -375,6 +375,85 @@
     </message>
 </context>
 <context>
+    <name>CoordAgreement</name>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>%1 至 %2 %3</translation>
+    </message>
+    <message>
+        <source>north %1, east %2</source>
+        <translation>北 %1，东 %2</translation>
+    </message>
+    <message>
+        <source>A wrong datum or projection: the survey is turned clockwise by %1″ and scaled by %2 ppm, and its middle shifted by %3; %4 remain</source>
+        <translation>基准或投影有误：测区顺时针旋转 %1″，缩放 %2 ppm，中部平移 %3，余差 %4</translation>
+    </message>
+    <message>
+        <source>The survey is turned clockwise by %1″ and scaled by %2 ppm, and its middle shifted by %3; %4 remain</source>
+        <translation>测区顺时针旋转 %1″，缩放 %2 ppm，中部平移 %3，余差 %4</translation>
+    </message>
+    <message>
+        <source>The positions on the plane are in different units, %1 here and %2 in the file</source>
+        <translation>平面坐标的单位不同，本工程为 %1，文件为 %2</translation>
+    </message>
+    <message>
+        <source>North and east are the same in both systems</source>
+        <translation>两个坐标系统的北坐标和东坐标相同</translation>
+    </message>
+    <message>
+        <source>A constant shift on the plane: %1</source>
+        <translation>平面上有固定的平移：%1</translation>
+    </message>
+    <message>
+        <source>A wrong datum or projection: positions on the plane differ by %1, and shift, rotation and scale leave %2 of it</source>
+        <translation>基准或投影有误：平面位置相差 %1，平移、旋转和缩放后仍余 %2</translation>
+    </message>
+    <message>
+        <source>the heights are the same</source>
+        <translation>高程相同</translation>
+    </message>
+    <message>
+        <source>the heights differ by a constant %1</source>
+        <translation>高程相差固定值 %1</translation>
+    </message>
+    <message>
+        <source>the heights differ by %1</source>
+        <translation>高程相差 %1</translation>
+    </message>
+    <message>
+        <source>Only the heights differ, by a constant %1: another geoid, or another kind of height.</source>
+        <translation>仅高程不同，相差固定值 %1：大地水准面不同，或高程种类不同。</translation>
+    </message>
+    <message>
+        <source>Only the heights differ, by %1: another geoid or height fitting.</source>
+        <translation>仅高程不同，相差 %1：大地水准面或高程拟合不同。</translation>
+    </message>
+    <message>
+        <source>Both systems give the same positions.</source>
+        <translation>两个坐标系统给出相同的位置。</translation>
+    </message>
+    <message>
+        <source>%1; %2.</source>
+        <translation>%1；%2。</translation>
+    </message>
+    <message>
+        <source>Results that do not follow this: %1, by up to %2 m (line %3, point %4).</source>
+        <translation>与此不符的成果：%1 个，最多相差 %2 m（测线 %3，测点 %4）。</translation>
+    </message>
+    <message>
+        <source>Their coordinates are not numbers.</source>
+        <translation>坐标不是数值。</translation>
+    </message>
+    <message>
+        <source>Results that could not be compared: %1. The first: %2</source>
+        <translation>无法对比的成果：%1 个。第一个：%2</translation>
+    </message>
+    <message>
+        <source>The file has no results to compare.</source>
+        <translation>文件中没有可对比的成果。</translation>
+    </message>
+</context>
+<context>
     <name>CoordCheck</name>
     <message>
         <source>&quot;{key}&quot; must be a whole number, not &quot;%1&quot;.</source>
@@ -383,6 +462,135 @@
     <message>
         <source>&quot;{key}&quot; must be a decimal number, such as 298.257, not &quot;%1&quot;.</source>
         <translation>“{key}”必须是小数，例如 298.257，不能是“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>CoordCompareCsv</name>
+    <message>
+        <source>trans north</source>
+        <translation>转换北坐标</translation>
+    </message>
+    <message>
+        <source>trans east</source>
+        <translation>转换东坐标</translation>
+    </message>
+    <message>
+        <source>trans height</source>
+        <translation>转换高程</translation>
+    </message>
+    <message>
+        <source>north diff</source>
+        <translation>北差</translation>
+    </message>
+    <message>
+        <source>east diff</source>
+        <translation>东差</translation>
+    </message>
+    <message>
+        <source>height diff</source>
+        <translation>高差</translation>
+    </message>
+    <message>
+        <source>trans fault</source>
+        <translation>转换错误</translation>
+    </message>
+    <message>
+        <source>Export Comparison</source>
+        <translation>导出坐标对比</translation>
+    </message>
+</context>
+<context>
+    <name>CoordCompareModel</name>
+    <message>
+        <source>Line Num</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point Num</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Org Lat</source>
+        <translation>原纬度</translation>
+    </message>
+    <message>
+        <source>Org Lon</source>
+        <translation>原经度</translation>
+    </message>
+    <message>
+        <source>Org Alt</source>
+        <translation>原大地高</translation>
+    </message>
+    <message>
+        <source>Org North</source>
+        <translation>原北坐标</translation>
+    </message>
+    <message>
+        <source>Org East</source>
+        <translation>原东坐标</translation>
+    </message>
+    <message>
+        <source>Org Height</source>
+        <translation>原高程</translation>
+    </message>
+    <message>
+        <source>Trans North</source>
+        <translation>转换北坐标</translation>
+    </message>
+    <message>
+        <source>Trans East</source>
+        <translation>转换东坐标</translation>
+    </message>
+    <message>
+        <source>Trans Height</source>
+        <translation>转换高程</translation>
+    </message>
+    <message>
+        <source>North Diff</source>
+        <translation>北差</translation>
+    </message>
+    <message>
+        <source>East Diff</source>
+        <translation>东差</translation>
+    </message>
+    <message>
+        <source>Height Diff</source>
+        <translation>高差</translation>
+    </message>
+</context>
+<context>
+    <name>CoordParameterModel</name>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>Unit of coordinates</source>
+        <translation>坐标单位</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>File Coord Sys</source>
+        <translation>文件坐标系统</translation>
+    </message>
+    <message>
+        <source>Proj Coord Sys</source>
+        <translation>工程坐标系统</translation>
     </message>
 </context>
 <context>
@@ -1119,6 +1327,113 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Version %1</source>
         <translation>版本 %1</translation>
+    </message>
+</context>
+<context>
+    <name>DlgCoordCompare</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy with &amp;Headings</source>
+        <translation>连同列标题复制(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Coordinate Comparison</source>
+        <translation>坐标对比</translation>
+    </message>
+    <message>
+        <source>Nothing was imported from &quot;%1&quot;: its coordinate system is not the project&apos;s. Parameters that differ: %2.</source>
+        <translation>未从“%1”导入任何内容：它的坐标系统与本工程不同。不同的参数：%2 个。</translation>
+    </message>
+    <message>
+        <source>Coord Params</source>
+        <translation>坐标参数</translation>
+    </message>
+    <message>
+        <source>Data Table</source>
+        <translation>数据表</translation>
+    </message>
+    <message>
+        <source>Results compared: %1</source>
+        <translation>已对比的成果：%1</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Standard Deviation</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>均方根</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>At Line / Point</source>
+        <translation>所在测线 / 测点</translation>
+    </message>
+    <message>
+        <source>North Diff (%1)</source>
+        <translation>北差（%1）</translation>
+    </message>
+    <message>
+        <source>East Diff (%1)</source>
+        <translation>东差（%1）</translation>
+    </message>
+    <message>
+        <source>Height Diff (m)</source>
+        <translation>高差（m）</translation>
+    </message>
+    <message>
+        <source>Show the row of this point</source>
+        <translation>显示该点所在的行</translation>
+    </message>
+    <message>
+        <source>Export To Excel Success!</source>
+        <translation>导出到 Excel 成功！</translation>
+    </message>
+    <message>
+        <source>Export To Excel Failed!</source>
+        <translation>导出到 Excel 失败！</translation>
+    </message>
+    <message>
+        <source>Export To Csv Success!</source>
+        <translation>导出到 CSV 成功！</translation>
+    </message>
+    <message>
+        <source>Export To Csv Failed!</source>
+        <translation>导出到 CSV 失败！</translation>
+    </message>
+    <message>
+        <source>Export To Excel</source>
+        <translation>导出到 Excel</translation>
+    </message>
+    <message>
+        <source>Export To Csv</source>
+        <translation>导出到 CSV</translation>
+    </message>
+    <message>
+        <source>Get Save File Name</source>
+        <translation>选择保存的文件名</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the database that is compared.</source>
+        <translation>“%1”就是正在对比的数据库。</translation>
+    </message>
+    <message>
+        <source>Open the file?</source>
+        <translation>打开该文件吗？</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation>失败</translation>
     </message>
 </context>
 <context>

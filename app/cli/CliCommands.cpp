@@ -1,6 +1,7 @@
 #include "app/cli/CliCommands.h"
 
 #include "app/cli/CheckProject.h"
+#include "app/cli/CompareProject.h"
 #include "app/cli/CreateProject.h"
 #include "app/cli/ExportFile.h"
 #include "app/cli/ImportFiles.h"
@@ -35,6 +36,9 @@ constexpr std::array kCommands{
     CliCommand{"export", "PROJECT design-csv|design-db|design-kml|survey-csv|survey-kml FILE [--lines A,B] [--columns A,B] [--only-unsurveyed]",
                "write design points, or survey results (CSV: by default in the columns of the settings)",
                3, 3, "--lines,--columns", "--only-unsurveyed", exportFile},
+    CliCommand{"compare", "PROJECT OTHER.db [--csv FILE] [--xlsx FILE]",
+               "print how far the coordinate system of another project's results is from the project's",
+               2, 2, "--csv,--xlsx", "", compareProject},
     CliCommand{"report", "PROJECT REPORT FILE.xlsx",
                "write an Excel workbook about the project",
                3, 3, "", "", writeReport},

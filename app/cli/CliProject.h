@@ -17,6 +17,7 @@ public:
     [[nodiscard]] Outcome save() { return m_manager.saveProject(m_place); }
 
     [[nodiscard]] DataProcessDataManager& manager() { return m_manager; }
+    [[nodiscard]] IEventManager& events() { return m_host.eventManager(); }
     [[nodiscard]] const ProjectPlace& place() const { return m_place; }
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;

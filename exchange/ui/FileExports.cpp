@@ -174,14 +174,19 @@ QStringList allSurveyLines()
 
 void offerToOpen(IDesktopHost& host, const QString& path, const QString& details)
 {
-    const Button answer = LumMessageBox::question(
-        host.dialogParent(), translated(QT_TRANSLATE_NOOP("FileExports", "Success")),
-        translated(QT_TRANSLATE_NOOP("FileExports", "Export Succeed, Open it?")),
-        LumMessageBox::Buttons(Button::Yes) | Button::No, details);
+    offerToOpen(host.dialogParent(), path,
+                translated(QT_TRANSLATE_NOOP("FileExports", "Export Succeed, Open it?")), details);
+}
+
+void offerToOpen(QWidget* parent, const QString& path, const QString& text, const QString& details)
+{
+    const Button answer =
+        LumMessageBox::question(parent, translated(QT_TRANSLATE_NOOP("FileExports", "Success")),
+                                text, LumMessageBox::Buttons(Button::Yes) | Button::No, details);
     if (answer != Button::Yes || QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
         return;
     LumMessageBox::error(
-        host.dialogParent(), translated(QT_TRANSLATE_NOOP("FileExports", "Error")),
+        parent, translated(QT_TRANSLATE_NOOP("FileExports", "Error")),
         translated(
             QT_TRANSLATE_NOOP("FileExports", "The desktop has no program that opens \"%1\"."))
             .arg(QDir::toNativeSeparators(path)));

@@ -3,6 +3,7 @@
 #include <QStringList>
 
 class IDesktopHost;
+class QWidget;
 
 /// Exports with their questions and messages, for the trees and the menu. Each is for an open
 /// project, asks for the file, tells what came of it, and offers to open what was written where
@@ -26,5 +27,7 @@ void exportSurvey(IDesktopHost& host, Form form, const QStringList& lines);
 /// "Export Succeed, Open it?"; on yes the file is opened by the desktop. Also for tables.
 /// \param details what was written
 void offerToOpen(IDesktopHost& host, const QString& path, const QString& details = {});
+/// The same with a text of its own, above a dialog.
+void offerToOpen(QWidget* parent, const QString& path, const QString& text, const QString& details);
 
 } // namespace FileExports

@@ -116,7 +116,7 @@ bool import(IDesktopHost& host, const ImportKind& kind, const QString& path)
     QGuiApplication::restoreOverrideCursor();
     if (isDone)
         tell(host, summary, kind.pointList);
-    else
+    else if (!outcome.text().isEmpty()) // otherwise the user has been told
         LumMessageBox::error(
             host.dialogParent(), translated(QT_TRANSLATE_NOOP("FileImports", "Error")),
             translated(QT_TRANSLATE_NOOP("FileImports", "Import Failed!")), outcome.text());

@@ -22,6 +22,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QIdentityProxyModel>
 #include <QLabel>
 #include <QMenu>
@@ -79,8 +80,21 @@ ResultList::ResultList(IDesktopHost& host, const CheckKind& kind, CheckResult re
     QVBoxLayout* const rows = makeMainLayout();
     rows->addWidget(m_table);
     rows->addWidget(m_finding);
-    resize(minimumSize());
+    fitWidth();
     moveIntoCorner(); // a clicked point appears in the middle of the map
+}
+
+void ResultList::fitWidth()
+{
+    QHeaderView& header = *m_table->horizontalHeader();
+    const QMargins margins = layout()->contentsMargins();
+    const int needed = header.length() + m_table->verticalScrollBar()->sizeHint().width() +
+                       2 * m_table->frameWidth() + margins.left() + margins.right();
+    resize(std::max(minimumWidth(), needed), minimumHeight());
+    const int more = std::max(0, minimumWidth() - needed) / header.count();
+    for (int column = 0; column < header.count(); ++column)
+        header.resizeSection(column, header.sectionSize(column) + more);
+    header.setStretchLastSection(true); // what is left over
 }
 
 void ResultList::addMenu()
@@ -102,7 +116,8 @@ void ResultList::showRows(CheckResult result)
 void ResultList::setResult(CheckResult result)
 {
     const int place = m_table->verticalScrollBar()->value();
-    const int row = m_table->currentIndex().row();
+    const std::vector<int> selected = m_table->selectedRows();
+    const int row = selected.empty() ? m_table->currentIndex().row() : selected.front();
     showRows(std::move(result));
     m_table->verticalScrollBar()->setValue(place);
     const QModelIndex next = m_table->model()->index(std::min(row, m_rows->rowCount() - 1), 0);

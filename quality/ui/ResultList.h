@@ -52,6 +52,8 @@ protected:
 
 private:
     void addMenu();
+    /// Makes the list as wide as its columns, and these as wide as a list of the smallest size.
+    void fitWidth();
     void showRows(CheckResult result);
     /// A point that was deleted after the check is told in the status bar.
     void selectPoint(const QModelIndex& index);

@@ -1,259 +1,222 @@
 #include "lum_desktop_sdkx/frame/Appearance.h"
-#include "lum_desktop_sdkx/frame/DesktopHost.h"
-#include "lum_desktop_sdkx/frame/FrameComponents.h"
-#include "lum_desktop_sdkx/frame/MainFrame.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
-#include "lum_desktop_sdkx/IMapWindow.h"
-#include "lum_desktop_sdkx/IWindow.h"
-#include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/Translations.h"
-#include "lum_sdk/Transform.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
+#include "tests/app/FrameTest.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
-
-#include <QLabel>
-#include <QProgressBar>
-#include <QStatusBar>
-#include <QTranslator>
-#include <QtTest>
+#include "tests/support/OnEvent.h"
+#include "tests/support/Points.h"
 
 namespace {
 
+using Names = std::vector<std::string>;
+
 constexpr const char* kLayout = R"(<main_frame>
   <assistant class="DataProcess5"/>
+  <menu caption="Settings">
+    <command class="TimeZomeDlgCommand" name="Time Zone"/>
+    <command class="CoordFormatCommand" name="Degree Format"/>
+    <command class="CoordFormatCommand" name="Degree-minute-second Format"/>
+  </menu>
   <window class="MapWindow" name="DataMap" caption="Map" area="center" closable="0"/>
   <window class="ProgressStatusBarForSkyquill" name="Progress" area="status"/>
   <window class="CoordinateReadout" name="Coordinates" area="status"/>
 </main_frame>)";
 
-FrameLayout testLayout()
-{
-    FrameLayout layout;
-    if (!desktop::readFrameLayout(kLayout, layout).isEmpty())
-        qFatal("the test's layout is broken");
-    return layout;
-}
-
-IMapWindow* mapOf(IDesktopHost& host)
-{
-    return host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
-}
-
-/// Whether the map has its boundary and its data layer whenever an event comes: "10" for the first.
-class LayerWatch final : public IEventHandler
+/// Counts the events of a kind that a widget gets.
+class EventCounter : public QObject
 {
 public:
-    LayerWatch(IDesktopHost& host, const char* event)
-        : m_host(host), m_subscription(*this, event, host.eventManager())
+    EventCounter(QObject& object, QEvent::Type type) : m_type(type)
     {
+        object.installEventFilter(this);
     }
-    void handleEvent(const char* /*name*/, const char* payload, int /*reserved*/) override
+    bool eventFilter(QObject* object, QEvent* event) override
     {
-        QVERIFY(payload == nullptr);
-        for (const char* name : {"BoundaryLayer", "DataProcessLayer"}) {
-            const auto* const layer = mapOf(m_host)->layers().find(QString::fromUtf8(name));
-            seen += layer != nullptr ? '1' : '0';
-        }
+        count += event->type() == m_type ? 1 : 0;
+        return QObject::eventFilter(object, event);
     }
-    QByteArray seen;
+    int count = 0;
 
 private:
-    IDesktopHost& m_host;
-    EventSubscription m_subscription;
-};
-
-class Program
-{
-public:
-    Program()
-    {
-        frame = std::make_unique<MainFrame>(host, testLayout());
-        frame->resize(900, 600);
-        frame->show();
-        QCoreApplication::processEvents();
-    }
-
-    void publish(const char* name, const char* payload) const
-    {
-        host.eventManager().publish(name, payload, 0);
-    }
-    void progress(const char* payload) const { publish(events::kProgress, payload); }
-    QWidget* widget(const char* name) const
-    {
-        return host.windows().find(QString::fromUtf8(name))->widget();
-    }
-    QProgressBar* bar() const { return widget("Progress")->findChild<QProgressBar*>(); }
-    QString barText() const { return widget("Progress")->findChild<QLabel*>()->text(); }
-    QString readout() const { return qobject_cast<QLabel*>(widget("Coordinates"))->text(); }
-
-    mutable DesktopHost host;
-    std::unique_ptr<MainFrame> frame;
+    QEvent::Type m_type;
 };
 
 } // namespace
 
-class AppComponentsTest : public QObject
+class AppComponentsTest : public FrameTest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase()
+    void start()
     {
-        registerMapComponents();
-        registerFrameComponents();
+        startProgram(layoutOf(kLayout));
+        m_frame->resize(900, 600);
+        m_frame->show();
+        QCoreApplication::processEvents();
+    }
+    void publish(const char* name, const char* payload = nullptr)
+    {
+        m_host->eventManager().publish(name, payload, 0);
+    }
+    void progress(const char* payload) { publish(events::kProgress, payload); }
+    [[nodiscard]] QWidget* widget(const char* name) const
+    {
+        return m_host->windows().find(QString::fromUtf8(name))->widget();
+    }
+    [[nodiscard]] QProgressBar* bar() const
+    {
+        return widget("Progress")->findChild<QProgressBar*>();
+    }
+    [[nodiscard]] QString barText() const
+    {
+        return widget("Progress")->findChild<QLabel*>()->text();
+    }
+    [[nodiscard]] QString readout() const
+    {
+        return qobject_cast<QLabel*>(widget("Coordinates"))->text();
+    }
+    [[nodiscard]] MapWindow& map() const { return dynamic_cast<MapWindow&>(*widget("DataMap")); }
+    static void setUnit(const char* unit)
+    {
+        get_system_ini_parameter().dictionary().set("un_coordUnit", unit);
+    }
+    static void setSystem(const basalt::Dictionary& system)
+    {
+        get_project_coord_transform().initialise(system, system);
     }
 
+private Q_SLOTS:
     void init()
     {
-        get_system_status_dictionary().clear();
+        prepare();
         get_system_status_dictionary().set(status::kProjectOpen, "1"); // else a page is on the map
-        get_system_ini_parameter().dictionary().clear();
-        get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
+        setSystem({});
     }
+    void cleanup() { endProgram(); }
 
     void aProgressEventShowsMovesAndHidesTheBar()
     {
-        const Program program;
-        QWidget* const bar = program.widget("Progress");
-        QVERIFY(!bar->isVisible());
-        QCOMPARE(program.bar()->size(), QSize(200, 15));
+        start();
+        QWidget* const window = widget("Progress");
+        QVERIFY(!window->isVisible());
+        QCOMPARE(bar()->size(), QSize(200, 15));
 
-        program.progress("text=Loading Database,value=12.5,is_exec=0");
-        QVERIFY(bar->isVisible());
-        QCOMPARE(program.barText(), QStringLiteral("Loading Database"));
-        QCOMPARE(program.bar()->value(), 12);
+        progress("text=Loading Database,value=12.5,is_exec=0");
+        QVERIFY(window->isVisible());
+        QCOMPARE(barText(), "Loading Database"_q);
+        QCOMPARE(bar()->value(), 12);
 
-        program.progress(payload::progress("导入, 设计", 50).c_str());
-        QTRY_COMPARE(program.bar()->value(), 50);
-        QCOMPARE(program.barText(), QStringLiteral("导入, 设计"));
+        progress(payload::progress("导入, 设计", 50).c_str());
+        QTRY_COMPARE(bar()->value(), 50);
+        QCOMPARE(barText(), "导入, 设计"_q);
 
-        program.progress(payload::busy("Reading").c_str());
-        QTRY_COMPARE(program.bar()->maximum(), 0);
+        progress(payload::busy("Reading").c_str());
+        QTRY_COMPARE(bar()->maximum(), 0);
 
-        program.progress(nullptr);
-        QTRY_COMPARE(program.barText(), QString());
-        QVERIFY(bar->isVisible());
+        progress(nullptr);
+        QTRY_COMPARE(barText(), QString());
+        QVERIFY(window->isVisible());
         QTest::qWait(40);
-        program.progress("text=\"no end,value=7");
-        QCOMPARE(program.barText(), QStringLiteral("no end,value=7"));
+        progress("text=\"no end,value=7");
+        QCOMPARE(barText(), "no end,value=7"_q);
 
-        program.progress("value=75");
-        program.progress(payload::kProgressEnd);
-        QVERIFY(!bar->isVisible());
+        progress("value=75");
+        progress(payload::kProgressEnd);
+        QVERIFY(!window->isVisible());
         QTest::qWait(60); // nothing that waited brings it back
-        QVERIFY(!bar->isVisible());
+        QVERIFY(!window->isVisible());
     }
 
     void payloadsWithinAFrameAreNotReadButTheLastIs()
     {
-        const Program program;
+        start();
         const LogCapture log;
-        program.progress("value=1");
+        progress("value=1");
         for (int i = 0; i < 20; ++i)
-            program.progress("value=2,text=\"unclosed"); // reading it would be logged
-        program.progress("value=99");
-        QTRY_COMPARE(program.bar()->value(), 99);
+            progress("value=2,text=\"unclosed"); // reading it would be logged
+        progress("value=99");
+        QTRY_COMPARE(bar()->value(), 99);
         QVERIFY2(log.text().empty(), log.text().c_str());
     }
 
     void theBarIsPaintedWhileTheGuiThreadWorks()
     {
-        struct PaintCounter : QObject
-        {
-            bool eventFilter(QObject* object, QEvent* event) override
-            {
-                paints += event->type() == QEvent::Paint ? 1 : 0;
-                return QObject::eventFilter(object, event);
-            }
-            int paints = 0;
-        };
-        const Program program;
-        PaintCounter counter;
-        program.bar()->installEventFilter(&counter);
+        start();
+        const EventCounter paints(*bar(), QEvent::Paint);
         QElapsedTimer clock;
         clock.start();
         int published = 0;
         while (clock.elapsed() < 330) { // no event loop in here
-            program.progress(payload::progress("Check Survey Line:1001", published % 100).c_str());
+            progress(payload::progress("Check Survey Line:1001", published % 100).c_str());
             ++published;
         }
-        QVERIFY2(counter.paints >= 2, "the bar must move during the work");
-        QVERIFY2(counter.paints <= 40, "and not be painted at every step");
+        QVERIFY2(paints.count >= 2, "the bar must move during the work");
+        QVERIFY2(paints.count <= 40, "and not be painted at every step");
         QVERIFY(published > 1000);
     }
 
-    void theReadoutIsInMetresOrFeet()
-    {
-        const Program program;
-        const EventLog log(program.host.eventManager(), events::kXyChangedText);
-        program.publish(events::kXyChanged, "N=4411825.5 E=-200.25");
-        QCOMPARE(program.readout(), QStringLiteral("N=4411825.500    E=-200.250    m"));
-        QCOMPARE(log.payloads().front(), std::string("N=4411825.500    E=-200.250"));
-        get_system_ini_parameter().dictionary().set("un_coordUnit", "1");
-        program.publish(events::kXyChanged, "N=304.8 E=-0.3048");
-        QCOMPARE(program.readout(), QStringLiteral("N=1000.000    E=-1.000    ft"));
-        program.publish(events::kXyChanged, "E=0.3048");
-        QCOMPARE(program.readout(), QStringLiteral("N=0.000    E=1.000    ft"));
-        program.publish(events::kXyChanged, nullptr);
-        QCOMPARE(program.readout(), QStringLiteral("N=0.000    E=0.000    ft"));
-    }
-
-    void theReadoutIsRightForASystemInFeet()
+    void theReadoutIsRightInEachSystemAndUnit()
     {
         const struct
         {
-            const char* code;
+            const char* code; ///< of the system; in metres without one
+            const char* position;
             const char* metres;
             const char* feet;
-        } systems[] = {
-            {"32037", "N=1200.000    E=609601.219    m", "N=3937.000    E=2000000.000    ftUS"},
-            {"2222", "N=1199.998    E=609600.000    m", "N=3937.000    E=2000000.000    ft"},
-            {"32650", "N=3937.000    E=2000000.000    m", "N=12916.667    E=6561679.790    ft"}};
-        for (const auto& [code, metres, feet] : systems) {
+        } cases[] = {
+            {"", "N=4411825.5 E=-200.25", "N=4411825.500    E=-200.250    m",
+             "N=14474493.110    E=-656.988    ft"},
+            {"", "N=304.8 E=-0.3048", "N=304.800    E=-0.305    m", "N=1000.000    E=-1.000    ft"},
+            {"", "E=0.3048", "N=0.000    E=0.305    m", "N=0.000    E=1.000    ft"},
+            {"32037", "N=3937 E=2000000", "N=1200.000    E=609601.219    m",
+             "N=3937.000    E=2000000.000    ftUS"},
+            {"2222", "N=3937 E=2000000", "N=1199.998    E=609600.000    m",
+             "N=3937.000    E=2000000.000    ft"},
+            {"32650", "N=3937 E=2000000", "N=3937.000    E=2000000.000    m",
+             "N=12916.667    E=6561679.790    ft"}};
+        start();
+        const EventLog log(m_host->eventManager(), events::kXyChangedText);
+        for (const auto& [code, position, metres, feet] : cases) {
             basalt::Dictionary system;
-            QCOMPARE(fillFromEpsg(code, system), std::string());
-            get_project_coord_transform().initialise(system, system);
-            const Program program;
-            for (const char* const expected : {metres, feet}) {
-                get_system_ini_parameter().dictionary().set("un_coordUnit",
-                                                            expected == feet ? "1" : "0");
-                program.publish(events::kXyChanged, "N=3937 E=2000000");
-                QCOMPARE(program.readout(), QString::fromUtf8(expected));
-            }
+            if (*code != '\0')
+                QCOMPARE(fillFromEpsg(code, system), std::string());
+            setSystem(system);
+            setUnit("0");
+            publish(events::kXyChanged, position);
+            QCOMPARE(readout(), QString::fromUtf8(metres));
+            setUnit("1");
+            publish(events::kUpdateSystemStatus);
+            QCOMPARE(readout(), QString::fromUtf8(feet));
         }
+        publish(events::kXyChanged);
+        QCOMPARE(readout(), "N=0.000    E=0.000    ft"_q);
+        QCOMPARE(log.payloads().front(), std::string("N=4411825.500    E=-200.250"));
     }
 
-    void theReadoutFollowsTheUnitAndNotAFormerSystem()
+    void theReadoutIsNotOfAFormerSystemOrProject()
     {
-        const Program program;
-        program.publish(events::kXyChanged, "N=304.8 E=-0.3048");
-        get_system_ini_parameter().dictionary().set("un_coordUnit", "1");
-        program.publish(events::kUpdateSystemStatus, nullptr);
-        QCOMPARE(program.readout(), QStringLiteral("N=1000.000    E=-1.000    ft"));
-        program.publish(events::kProjectChanged, nullptr);
-        QCOMPARE(program.readout(), QString());
-        program.publish(events::kUpdateSystemStatus, nullptr);
-        QCOMPARE(program.readout(), QString());
-    }
-
-    void aClosedProjectHasNoPosition()
-    {
-        const Program program;
-        program.publish(events::kXyChanged, "N=4411825.5 E=-200.25");
+        start();
+        publish(events::kXyChanged, "N=304.8 E=-0.3048");
+        for (const char* event : {events::kProjectChanged, events::kUpdateSystemStatus}) {
+            publish(event);
+            QCOMPARE(readout(), QString());
+        }
+        publish(events::kXyChanged, "N=304.8 E=-0.3048");
+        QVERIFY(!readout().isEmpty());
         get_system_status_dictionary().set("project_open", "0");
-        program.publish(events::kUpdateSystemStatus, nullptr);
-        QCOMPARE(program.readout(), QString());
-        program.publish(events::kXyChanged, "N=4411825.5 E=-200.25");
-        QCOMPARE(program.readout(), QString());
+        publish(events::kUpdateSystemStatus);
+        QCOMPARE(readout(), QString());
+        publish(events::kXyChanged, "N=4411825.5 E=-200.25");
+        QCOMPARE(readout(), QString());
     }
 
     void theWindowComesToRest_data()
@@ -272,75 +235,97 @@ private Q_SLOTS:
     {
         QFETCH(const QString, language);
         QFETCH(const QString, theme);
-        struct ResizeCounter : QObject
-        {
-            bool eventFilter(QObject* object, QEvent* event) override
-            {
-                resizes += event->type() == QEvent::Resize ? 1 : 0;
-                return QObject::eventFilter(object, event);
-            }
-            int resizes = 0;
-        };
-        lum::loadTranslations(language, QStringLiteral(LANGUAGE_FOLDER),
-                              QStringLiteral("skyquill"));
+        lum::loadTranslations(language, QStringLiteral(LANGUAGE_FOLDER), "skyquill"_q);
         desktop::applyAppearance(theme);
-        const Program program;
-        for (const char* number : {"1", "2", "3"}) {
-            SurveyPoint point;
-            point.lineNumber = point.pointNumber = number;
-            DataProcessDataManager::instance().surveyPoints().set(point);
-        }
+        start();
+        for (const char* number : {"1", "2", "3"})
+            DataProcessDataManager::instance().surveyPoints().set(surveyPoint(number, number));
         get_system_status_dictionary().set(status::kViewShowWhich, "0");
-        auto& map = dynamic_cast<MapWindow&>(*mapOf(program.host));
-        QTRY_VERIFY(map.isUpToDate());
-        ResizeCounter counter;
-        map.installEventFilter(&counter);
+        QTRY_VERIFY(map().isUpToDate());
+        EventCounter resizes(map(), QEvent::Resize);
         int pictures = 0;
-        QObject::connect(&map, &MapWindow::pictureChanged, &counter, [&] { ++pictures; });
-        const int height = program.frame->statusBar()->height();
-        program.publish(events::kRefreshSurveyLayer, nullptr);
-        program.progress(payload::progress("测线 Ág", 1).c_str());
-        QCOMPARE(program.frame->statusBar()->height(), height);
-        QTRY_VERIFY(pictures > 0 && map.isUpToDate());
+        connect(&map(), &MapWindow::pictureChanged, &resizes, [&] { ++pictures; });
+        const int height = m_frame->statusBar()->height();
+        publish(events::kRefreshSurveyLayer);
+        progress(payload::progress("测线 Ág", 1).c_str());
+        QCOMPARE(m_frame->statusBar()->height(), height);
+        QTRY_VERIFY(pictures > 0 && map().isUpToDate());
         QTest::qWait(150);
         QVERIFY2(pictures <= 2, qPrintable(QString::number(pictures)));
-        QCOMPARE(counter.resizes, 0);
+        QCOMPARE(resizes.count, 0);
         for (QTranslator* translator : qApp->findChildren<QTranslator*>())
             QCoreApplication::removeTranslator(translator);
     }
 
     void aProgressTextLeavesANarrowWindowAsItIs()
     {
-        const Program program;
-        program.frame->resize(600, 400);
+        start();
+        m_frame->resize(600, 400);
         QCoreApplication::processEvents();
-        const QSize before = program.frame->size();
-        program.progress(payload::progress(std::string(300, 'W'), 1).c_str());
+        const QSize before = m_frame->size();
+        progress(payload::progress(std::string(300, 'W'), 1).c_str());
         QCoreApplication::processEvents();
-        QCOMPARE(program.frame->size(), before);
-        QVERIFY(program.bar()->isVisible());
-    }
-
-    void theCursorOverTheMapIsReadOut()
-    {
-        const Program program;
-        IMapWindow* const map = mapOf(program.host);
-        map->setExtent(500000, 4400000, 501000, 4401000);
-        const QPoint cursor(120, 80);
-        QTest::mouseMove(program.widget("DataMap"), cursor);
-        const QPointF position = map->transform().ScreenToSurvey(QPointF(cursor));
-        QTRY_COMPARE(program.readout(), QStringLiteral("N=%1    E=%2    m")
-                                            .arg(QString::number(position.y(), 'f', 3),
-                                                 QString::number(position.x(), 'f', 3)));
+        QCOMPARE(m_frame->size(), before);
+        QVERIFY(bar()->isVisible());
     }
 
     void layersAreAddedAroundTheEvent()
     {
-        DesktopHost host;
-        const LayerWatch watch(host, events::kSettingViewFinished);
-        const MainFrame frame(host, testLayout());
-        QCOMPARE(watch.seen, QByteArray("10")); // heard once
-        QVERIFY(mapOf(host)->layers().find(QStringLiteral("DataProcessLayer")) != nullptr);
+        m_host = std::make_unique<DesktopHost>();
+        const auto layers = [this] {
+            const auto& found = m_host->windows().findAs<IMapWindow>("DataMap"_q)->layers();
+            return QList{found.find("BoundaryLayer"_q) != nullptr,
+                         found.find("DataProcessLayer"_q) != nullptr};
+        };
+        QList<QList<bool>> seen;
+        const OnEvent watch(m_host->eventManager(), events::kSettingViewFinished,
+                            [&](auto*) { seen << layers(); });
+        m_frame = std::make_unique<MainFrame>(*m_host, layoutOf(kLayout));
+        QCOMPARE(seen, (QList<QList<bool>>{{true, false}})); // heard once
+        QCOMPARE(layers(), (QList{true, true}));
+    }
+
+    void choosesATimeZone()
+    {
+        start();
+        const EventLog log(m_host->eventManager(), "REFRESH_SURVEY_TABLE");
+        const auto choose = [&](int radio, int index, const char* button) {
+            whenDialog("TimeZomeDlg", [=](QDialog& dialog) {
+                QCOMPARE(dialog.windowTitle(), "时区修改"_q);
+                auto* const list = dialog.findChild<QComboBox*>();
+                QCOMPARE(list->count(), 25);
+                QCOMPARE(list->itemText(0), "UTC-12"_q);
+                QCOMPARE(list->itemText(12), "UTC"_q);
+                QCOMPARE(list->itemText(24), "UTC+12"_q);
+                QTest::mouseClick(dialog.findChildren<QRadioButton*>()[radio], Qt::LeftButton, {},
+                                  QPoint(8, 8));
+                QCOMPARE(list->isEnabled(), radio == 2);
+                list->setCurrentIndex(index);
+                press(dialog, button);
+            });
+            run("Time Zone");
+            return get_system_ini_parameter().dictionary().integer(settings::kTimeZone, -99);
+        };
+        QCOMPARE(choose(0, 5, "取消"), -99);
+        QVERIFY(log.events.empty());
+        QCOMPARE(choose(1, 5, "确认"), 0);
+        QCOMPARE(log.events.size(), 1U);
+        QCOMPARE(choose(2, 3, "确认"), -9);
+        QCOMPARE(choose(0, 3, "确认"), 8);
+    }
+
+    void choosesACoordinateFormat()
+    {
+        start();
+        const EventLog log(m_host->eventManager(), "REFRESH_SURVEY_TABLE,ON_CLEAR_SURVEY_TABLE");
+        run("Degree Format"); // is in use already
+        QVERIFY(log.events.empty());
+        run("Degree-minute-second Format");
+        QCOMPARE(get_system_status_dictionary().integer(status::kDegreeFormat), 1);
+        QVERIFY(m_host->commands().action("Degree-minute-second Format"_q)->isChecked());
+        get_system_status_dictionary().set(status::kShowAllLines, "1");
+        run("Degree Format");
+        QCOMPARE(log.names(), (Names{"REFRESH_SURVEY_TABLE", "ON_CLEAR_SURVEY_TABLE"}));
     }
 };
 

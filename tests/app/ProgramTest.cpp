@@ -1,3 +1,4 @@
+#include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
 
 #include <QDir>
@@ -8,6 +9,8 @@
 #include <QtTest>
 
 namespace {
+
+using Variables = std::vector<std::pair<const char*, const char*>>; // of the environment
 
 constexpr int kStartMs =
     30000; // the sanitizers' program takes its time, on a busy machine above all
@@ -56,8 +59,7 @@ private Q_SLOTS:
     void answersOnTheCommandLine();
     void writesAPictureOfTheWindow();
     void bothProgramsAnswerWithoutADisplay();
-    void aSecondInstanceLeavesSilentlyAtOnce();
-    void aSecondStartHandsItsFileOver();
+    void aSecondStartLeavesAtOnceAndHandsItsFileOver();
     void lightChineseTextIsNotBold();
     void aMissingSystemFileIsFatalAndReported();
     void aBrokenLayoutLeavesTheMap();
@@ -84,9 +86,14 @@ private:
         return TestFolder::read(path("state/Tarvona/Skyquill/skyquill.log"));
     }
     [[nodiscard]] QProcessEnvironment environment() const;
-    void start(QProcess& process, const QStringList& arguments = {}, const char* locale = "") const;
+    void start(QProcess& process, const QStringList& arguments = {},
+               const Variables& variables = {}) const;
     /// To its end. \returns the exit status; -1 after a crash
-    int run(QProcess& process, const QStringList& arguments, const char* locale = "") const;
+    int run(QProcess& process, const QStringList& arguments, const Variables& variables = {}) const;
+    static int runCli(const QStringList& arguments)
+    {
+        return QProcess::execute(QStringLiteral(CLI_FILE), arguments);
+    }
 
     std::unique_ptr<TestFolder> m_folder;
 };
@@ -99,33 +106,35 @@ void ProgramTest::init()
     QVERIFY(
         QFile::setPermissions(path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FILE), path("程序 dir/bin/skyquill")));
-    const QStringList configuration{QStringLiteral("-r"), QStringLiteral(CONFIGURATION_FOLDER),
+    const QStringList configuration{"-r"_q, QStringLiteral(CONFIGURATION_FOLDER),
                                     path("程序 dir/etc")};
-    QCOMPARE(QProcess::execute(QStringLiteral("cp"), configuration), 0);
+    QCOMPARE(QProcess::execute("cp"_q, configuration), 0);
 }
 
 QProcessEnvironment ProgramTest::environment() const
 {
     QProcessEnvironment values = QProcessEnvironment::systemEnvironment();
-    values.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
-    values.insert(QStringLiteral("XDG_STATE_HOME"), path("state"));
-    values.insert(QStringLiteral("XDG_RUNTIME_DIR"), path("run"));
+    values.insert("XDG_CONFIG_HOME"_q, path("config"));
+    values.insert("XDG_STATE_HOME"_q, path("state"));
+    values.insert("XDG_RUNTIME_DIR"_q, path("run"));
     return values;
 }
 
-void ProgramTest::start(QProcess& process, const QStringList& arguments, const char* locale) const
+void ProgramTest::start(QProcess& process, const QStringList& arguments,
+                        const Variables& variables) const
 {
     QProcessEnvironment values = environment();
-    if (*locale != '\0')
-        values.insert(QStringLiteral("LC_ALL"), QString::fromLatin1(locale));
+    for (const auto& [name, value] : variables)
+        values.insert(QString::fromLatin1(name), QString::fromLatin1(value));
     process.setProcessEnvironment(values);
     process.setWorkingDirectory(m_folder->path());
     process.start(path("程序 dir/bin/skyquill"), arguments);
 }
 
-int ProgramTest::run(QProcess& process, const QStringList& arguments, const char* locale) const
+int ProgramTest::run(QProcess& process, const QStringList& arguments,
+                     const Variables& variables) const
 {
-    start(process, arguments, locale);
+    start(process, arguments, variables);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
         return -1;
     return process.exitCode();
@@ -134,15 +143,14 @@ int ProgramTest::run(QProcess& process, const QStringList& arguments, const char
 void ProgramTest::answersOnTheCommandLine()
 {
     QProcess process;
-    QCOMPARE(run(process, {QStringLiteral("--startup-time")}), 0);
-    static const QRegularExpression report(
-        QStringLiteral("^\\d+ ms of CPU time to the shown window\n$"));
+    QCOMPARE(run(process, {"--startup-time"_q}), 0);
+    static const QRegularExpression report("^\\d+ ms of CPU time to the shown window\n$"_q);
     QVERIFY(report.match(QString::fromUtf8(process.readAllStandardOutput())).hasMatch());
 
-    QVERIFY(run(process, {QStringLiteral("--no-such-option")}) > 0);
+    QVERIFY(run(process, {"--no-such-option"_q}) > 0);
     QVERIFY(process.readAllStandardError().contains("no-such-option"));
 
-    QCOMPARE(run(process, {QStringLiteral("--components")}), 0);
+    QCOMPARE(run(process, {"--components"_q}), 0);
     QMap<QString, QStringList> found;
     while (process.canReadLine()) {
         const QString line = QString::fromUtf8(process.readLine()).simplified();
@@ -151,8 +159,7 @@ void ProgramTest::answersOnTheCommandLine()
     QString components;
     for (const char* kind :
          {"IWindow", "ILayerViewer", "IReactor", "ICommandExecuterx", "IGuiAssistant"})
-        components += QLatin1String(kind) + QStringLiteral(": ") +
-                      found.take(QLatin1String(kind)).join(QStringLiteral(", ")) +
+        components += QLatin1String(kind) + ": "_q + found.take(QLatin1String(kind)).join(", "_q) +
                       QLatin1Char('\n');
     QCOMPARE(components, QString::fromUtf8(kComponents));
     QVERIFY(found.isEmpty());
@@ -161,10 +168,10 @@ void ProgramTest::answersOnTheCommandLine()
 void ProgramTest::writesAPictureOfTheWindow()
 {
     QProcess process;
-    for (const char* locale : {"", "C"}) {
+    for (const Variables& variables : {Variables{}, Variables{{"LC_ALL", "C"}}}) {
         QFile::remove(path("图 picture.png"));
-        const QStringList arguments{QStringLiteral("--screenshot"), path("图 picture.png")};
-        QCOMPARE(run(process, arguments, locale), 0);
+        const QStringList arguments{"--screenshot"_q, path("图 picture.png")};
+        QCOMPARE(run(process, arguments, variables), 0);
         const QImage picture(path("图 picture.png"));
         QVERIFY(picture.width() >= 640 && picture.height() >= 400);
         // Nothing of it needs an action.
@@ -176,24 +183,24 @@ void ProgramTest::writesAPictureOfTheWindow()
 void ProgramTest::bothProgramsAnswerWithoutADisplay()
 {
     QProcessEnvironment values = environment();
-    values.remove(QStringLiteral("DISPLAY"));
-    values.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    values.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    values.remove("DISPLAY"_q);
+    values.remove("WAYLAND_DISPLAY"_q);
+    values.remove("QT_QPA_PLATFORM"_q);
     QProcessEnvironment broken = values;
-    broken.insert(QStringLiteral("DISPLAY"), QStringLiteral(":no"));
-    broken.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("no such"));
-    static const QRegularExpression version(QStringLiteral("^\\S+ \\d+\\.\\d+\\.\\d+\n$"));
+    broken.insert("DISPLAY"_q, ":no"_q);
+    broken.insert("QT_QPA_PLATFORM"_q, "no such"_q);
+    static const QRegularExpression version("^\\S+ \\d+\\.\\d+\\.\\d+\n$"_q);
     for (const QProcessEnvironment& used : {values, broken}) {
         for (const QString& program : {path("程序 dir/bin/skyquill"), QStringLiteral(CLI_FILE)}) {
             QProcess process;
             process.setProcessEnvironment(used);
-            process.start(program, {QStringLiteral("--help")});
+            process.start(program, {"--help"_q});
             QVERIFY(process.waitForFinished());
             QCOMPARE(process.exitStatus(), QProcess::NormalExit);
             QCOMPARE(process.exitCode(), 0);
             QCOMPARE(process.readAllStandardError(), QByteArray());
             QVERIFY(process.readAllStandardOutput().contains("--version"));
-            process.start(program, {QStringLiteral("--version")});
+            process.start(program, {"--version"_q});
             QVERIFY(process.waitForFinished());
             QCOMPARE(process.exitCode(), 0);
             const QString answer = QString::fromUtf8(process.readAll());
@@ -202,55 +209,31 @@ void ProgramTest::bothProgramsAnswerWithoutADisplay()
     }
 }
 
-void ProgramTest::aSecondInstanceLeavesSilentlyAtOnce()
+void ProgramTest::aSecondStartLeavesAtOnceAndHandsItsFileOver()
 {
+    QCOMPARE(runCli({"new"_q, path("测区 a"), "one"_q}), 0);
+    const QByteArray project = path("测区 a/one/one.kelx").toUtf8();
     QProcess first;
     start(first);
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("Window shown"), kStartMs);
-
     QProcess second;
     QCOMPARE(run(second, {}), 0);
-    QCOMPARE(second.readAllStandardOutput() + second.readAllStandardError(), QByteArray());
-    QCOMPARE(log().count("Window shown"), 1);
-
-    first.kill(); // a crash leaves no lock behind
-    QVERIFY(first.waitForFinished());
-    QProcess third;
-    QCOMPARE(run(third, {QStringLiteral("--startup-time")}), 0);
-    QVERIFY(third.readAllStandardOutput().contains("shown window"));
-}
-
-void ProgramTest::aSecondStartHandsItsFileOver()
-{
-    QProcess making;
-    making.start(QStringLiteral(CLI_FILE),
-                 {QStringLiteral("new"), path("测区 a"), QStringLiteral("one")});
-    QVERIFY(making.waitForFinished());
-    QCOMPARE(making.exitCode(), 0);
-    const QByteArray project = path("测区 a/one/one.kelx").toUtf8();
-
-    QProcess first;
-    start(first);
-    QTRY_VERIFY_WITH_TIMEOUT(log().contains("Window shown"), kStartMs);
-    QProcess second;
-    second.setProcessEnvironment(environment());
-    second.setWorkingDirectory(path("测区 a"));
-    second.start(path("程序 dir/bin/skyquill"), {QStringLiteral("./one/../one/one.kelx")});
+    second.setWorkingDirectory(path("测区 a")); // not that of the first
+    second.start(path("程序 dir/bin/skyquill"), {"./one/../one/one.kelx"_q});
     QVERIFY(second.waitForFinished());
     QCOMPARE(second.exitCode(), 0);
     QCOMPARE(second.readAllStandardOutput() + second.readAllStandardError(), QByteArray());
     // The first has it open: in the list of recent projects, and locked.
     QTRY_VERIFY_WITH_TIMEOUT(
         TestFolder::read(path("config/Tarvona/Skyquill/settings.xml")).contains(project), kStartMs);
-    QProcess changing;
-    changing.start(
-        QStringLiteral(CLI_FILE),
-        {QStringLiteral("set-quality"), QString::fromUtf8(project), QStringLiteral("pdop_max=3")});
-    QVERIFY(changing.waitForFinished());
-    QCOMPARE(changing.exitCode(), 1);
+    QCOMPARE(runCli({"set-quality"_q, QString::fromUtf8(project), "pdop_max=3"_q}), 1);
     QCOMPARE(log().count("Window shown"), 1);
-    first.kill();
+
+    first.kill(); // a crash leaves no lock behind
     QVERIFY(first.waitForFinished());
+    QProcess third;
+    QCOMPARE(run(third, {"--startup-time"_q}), 0);
+    QVERIFY(third.readAllStandardOutput().contains("shown window"));
 }
 
 /// The menus and tool bars of the Chinese dark window, as the font engine paints them when it is
@@ -258,15 +241,10 @@ void ProgramTest::aSecondStartHandsItsFileOver()
 void ProgramTest::lightChineseTextIsNotBold()
 {
     writeSettings("<entry key=\"language\" value=\"zh_CN\"/><entry key=\"theme\" value=\"dark\"/>");
-    const auto ink = [&](const char* strokes) {
+    constexpr const char* kStrokes = "FREETYPE_PROPERTIES";
+    const auto ink = [&](const Variables& strokes) {
         QProcess process;
-        QProcessEnvironment values = environment();
-        if (strokes != nullptr)
-            values.insert(QStringLiteral("FREETYPE_PROPERTIES"), QString::fromLatin1(strokes));
-        process.setProcessEnvironment(values);
-        process.start(path("程序 dir/bin/skyquill"),
-                      {QStringLiteral("--screenshot"), path("menu.png")});
-        if (!process.waitForFinished() || process.exitCode() != 0)
+        if (run(process, {"--screenshot"_q, path("menu.png")}, strokes) != 0)
             qFatal("no picture");
         const QImage picture(path("menu.png"));
         double sum = 0;
@@ -276,11 +254,11 @@ void ProgramTest::lightChineseTextIsNotBold()
         }
         return sum;
     };
-    const double plain = ink("cff:darkening-parameters=500,0,1000,0,2500,0,4000,0");
-    const double heavy = ink("");
+    const double plain = ink({{kStrokes, "cff:darkening-parameters=500,0,1000,0,2500,0,4000,0"}});
+    const double heavy = ink({{kStrokes, ""}});
     if (heavy < plain * 1.001)
         QSKIP("no Chinese font here has strokes that are thickened");
-    QVERIFY(ink(nullptr) < (plain + heavy) / 2);
+    QVERIFY(ink({}) < (plain + heavy) / 2);
 }
 
 void ProgramTest::aMissingSystemFileIsFatalAndReported()
@@ -298,7 +276,7 @@ void ProgramTest::aBrokenLayoutLeavesTheMap()
 {
     writeToolFile("main_frame.xml", "<main_frame>\n<menu caption=\"x\">\n<oops/>");
     QProcess process; // no message box: nobody could answer it
-    QCOMPARE(run(process, {QStringLiteral("--screenshot"), path("broken.png")}), 0);
+    QCOMPARE(run(process, {"--screenshot"_q, path("broken.png")}), 0);
     QVERIFY(QFileInfo::exists(path("broken.png")));
     QVERIFY2(log().contains("line 3: unknown element <oops>"), log().constData());
     QVERIFY(log().contains("main_frame.xml"));
@@ -326,7 +304,7 @@ void ProgramTest::beginsASessionWhereAServerIsConfigured()
     QVERIFY(process.waitForFinished());
 
     QProcess orderly; // leaves with the request under way
-    start(orderly, {QStringLiteral("--startup-time")});
+    start(orderly, {"--startup-time"_q});
     QTRY_COMPARE_WITH_TIMEOUT(orderly.state(), QProcess::NotRunning, kStartMs);
     QCOMPARE(orderly.exitStatus(), QProcess::NormalExit);
     QCOMPARE(orderly.exitCode(), 0);

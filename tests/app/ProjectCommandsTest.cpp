@@ -1,35 +1,15 @@
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
-#include "lum_desktop_sdkx/dialogs/FileDialog.h"
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_desktop_sdkx/frame/DesktopHost.h"
-#include "lum_desktop_sdkx/frame/FrameComponents.h"
-#include "lum_desktop_sdkx/frame/MainFrame.h"
-#include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "lum_sdk/events/EventSubscription.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectPlace.h"
 #include "project/RecentProjects.h"
+#include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
-#include "tests/support/TestFolder.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QDragEnterEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMimeData>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTreeView>
-#include <QtTest>
+#include "tests/app/FrameTest.h"
+#include "tests/support/OnEvent.h"
 
 namespace {
 
@@ -39,16 +19,10 @@ constexpr const char* kLayout =
 /// The menus and tool bars as they are installed, without the windows.
 FrameLayout installedMenus()
 {
-    FrameLayout layout;
-    QFile file(QString::fromUtf8(kLayout));
-    if (!file.open(QIODevice::ReadOnly) ||
-        !desktop::readFrameLayout(file.readAll(), layout).isEmpty())
-        qFatal("no layout in %s", kLayout);
+    FrameLayout layout = layoutOf(TestFolder::read(QString::fromUtf8(kLayout)));
     layout.windows.clear();
     return layout;
 }
-
-using Button = LumMessageBox::Button;
 
 /// Events of these names as they are heard: a line each, with the state that their handlers see,
 /// the status keys and the title of the frame. `project` is the open one; none when it is empty.
@@ -69,59 +43,15 @@ QByteArray changeTo(const QByteArray& project)
                  project);
 }
 
-class Heard final : public IEventHandler
+/// An event of this name as it is heard now.
+QByteArray heardNow(const char* name, const QWidget& frame)
 {
-public:
-    Heard(IEventManager& manager, const QWidget& frame)
-        : m_frame(frame),
-          m_subscription(*this,
-                         "REFRESH_DESIGN_LAYER,REFRESH_SURVEY_LAYER,UPDATE_SYSTEM_STATUS_EVENT,"
-                         "ON_PROJECT_CHANGED,ON_SETTING_VIEW_FINISHED,REFRESH_SURVEY_TABLE,"
-                         "ON_CLEAR_SURVEY_TABLE",
-                         manager)
-    {
-    }
-    void handleEvent(const char* name, const char* /*payload*/, int /*reserved*/) override
-    {
-        const IDictionary& values = get_system_status_dictionary();
-        const std::string folder(values.text(status::kProjectPath));
-        lines += name + QByteArray(" ") +
-                 std::to_string(values.integer(status::kProjectOpen)).c_str() + '|' +
-                 folder.substr(folder.rfind('/') + 1).c_str() + '|' +
-                 std::string(values.text(status::kProjectName)).c_str() + '|' +
-                 m_frame.windowTitle().toUtf8() + '\n';
-    }
-    QByteArray lines;
-
-private:
-    const QWidget& m_frame;
-    EventSubscription m_subscription;
-};
-
-/// The dialog that stands in front, once there is one; then `act` is called with it.
-void whenDialog(const char* className, std::function<void(QDialog&)> act)
-{
-    auto* const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [=] {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || qstrcmp(dialog->metaObject()->className(), className) != 0)
-            return;
-        timer->deleteLater();
-        timer->stop();
-        act(*dialog);
-    });
-    timer->start(5);
-}
-
-void press(QDialog& dialog, const char* text)
-{
-    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
-        if (button->text() == QString::fromUtf8(text)) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            return;
-        }
-    }
-    QFAIL(text);
+    const IDictionary& values = get_system_status_dictionary();
+    const QByteArray folder = std::string(values.text(status::kProjectPath)).c_str();
+    return name + QByteArray(" ") + QByteArray::number(values.integer(status::kProjectOpen)) + '|' +
+           folder.mid(folder.lastIndexOf('/') + 1) + '|' +
+           std::string(values.text(status::kProjectName)).c_str() + '|' +
+           frame.windowTitle().toUtf8() + '\n';
 }
 
 void apply(QDialog& settings)
@@ -160,26 +90,13 @@ std::string coordParameter(const char* key)
 } // namespace
 
 /// The life of a project through the commands of a whole frame.
-class ProjectCommandsTest : public QObject
+class ProjectCommandsTest : public FrameTest
 {
     Q_OBJECT
 
-    std::unique_ptr<TestFolder> m_folder;
-    std::unique_ptr<DesktopHost> m_host;
-    std::unique_ptr<MainFrame> m_frame;
-    std::unique_ptr<Heard> m_heard;
-    QByteArray m_asked;               ///< a line "title: text" for each message box
-    QString m_details;                ///< of the last one
-    Button m_onEnter = Button::Ok;    ///< its default button; Ok without a named one
-    QHash<QString, Button> m_answers; ///< by text; Yes, else Ok
-    QString m_chosenFile;
-    std::unique_ptr<LumMessageBox::Responder> m_messages;
-    std::unique_ptr<FileDialog::Responder> m_files;
+    QByteArray m_heard;
+    std::unique_ptr<OnEvent> m_listener;
 
-    void run(const char* command)
-    {
-        QVERIFY(m_host->commands().execute(QString::fromUtf8(command)));
-    }
     [[nodiscard]] ProjectPlace place(const char* name) const
     {
         return ProjectPlace::planned(m_folder->path(), QString::fromUtf8(name));
@@ -195,8 +112,18 @@ class ProjectCommandsTest : public QObject
     {
         QVERIFY(m_frame->openFile(place(name).file));
         QVERIFY(isOpen());
-        m_asked.clear();
-        m_heard->lines.clear();
+        m_boxes->told();
+        m_heard.clear();
+    }
+    void openNew(const char* name)
+    {
+        makeProject(name);
+        open(name);
+    }
+    void changeSettings(std::function<void(QDialog&)> act)
+    {
+        whenDialog("DlgProjectSet", act);
+        run("Project Settings");
     }
     void newProject(const char* name, std::function<void(QDialog&)> inSettings = apply)
     {
@@ -212,18 +139,17 @@ class ProjectCommandsTest : public QObject
     void saveCopy(const QString& location)
     {
         whenDialog("DlgProjectPlace", [&](QDialog& dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Save a Copy As"));
+            QCOMPARE(dialog.windowTitle(), "Save a Copy As"_q);
             type(dialog, "path", location);
             press(dialog, "OK");
         });
         run("Save a Copy As");
     }
-    void answerNo(const char* question) { m_answers[QString::fromUtf8(question)] = Button::No; }
-    void expectAsked(const char* lines) { QCOMPARE(std::exchange(m_asked, {}), QByteArray(lines)); }
-    void expectHeard(const QByteArray& lines)
+    void answerNo(const char* question)
     {
-        QCOMPARE(std::exchange(m_heard->lines, {}), lines);
+        m_boxes->answers[QString::fromUtf8(question)] = Button::No;
     }
+    void expectHeard(const QByteArray& lines) { QCOMPARE(std::exchange(m_heard, {}), lines); }
     [[nodiscard]] QAction* action(const char* command) const
     {
         return m_host->commands().action(QString::fromUtf8(command));
@@ -237,43 +163,26 @@ class ProjectCommandsTest : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        registerFrameComponents();
-        registerMapComponents();
-    }
-
     void init()
     {
-        m_folder = std::make_unique<TestFolder>();
-        get_system_status_dictionary().clear();
-        get_system_ini_parameter().dictionary().clear();
         const basalt::Dictionary none;
         get_project_coord_transform().initialise(none, none);
-        m_host = std::make_unique<DesktopHost>();
-        m_frame = std::make_unique<MainFrame>(*m_host, installedMenus());
-        m_frame->setTitle(QStringLiteral("Program"));
-        m_heard = std::make_unique<Heard>(m_host->eventManager(), *m_frame);
-        m_asked.clear();
-        m_answers.clear();
-        m_messages = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
-            m_asked += (message.title + QStringLiteral(": ") + message.text).toUtf8() + '\n';
-            m_details = message.details;
-            m_onEnter = message.defaultButton.value_or(Button::Ok);
-            return m_answers.value(message.text,
-                                   message.buttons & Button::Yes ? Button::Yes : Button::Ok);
-        });
-        m_files =
-            std::make_unique<FileDialog::Responder>([this](const auto&) { return m_chosenFile; });
+        prepare();
+        startProgram(installedMenus());
+        m_boxes->answer = Button::Yes;
+        m_frame->setTitle("Program"_q);
+        m_heard.clear();
+        m_listener = std::make_unique<OnEvent>(
+            m_host->eventManager(),
+            "REFRESH_DESIGN_LAYER,REFRESH_SURVEY_LAYER,UPDATE_SYSTEM_STATUS_EVENT,"
+            "ON_PROJECT_CHANGED,ON_SETTING_VIEW_FINISHED",
+            [this](const char* name) { m_heard += heardNow(name, *m_frame); });
     }
 
     void cleanup()
     {
-        m_files.reset();
-        m_messages.reset();
-        m_heard.reset();
-        m_frame.reset();
-        m_host.reset();
+        m_listener.reset();
+        endProgram();
     }
 
     void everyCommandStandsInAMenu()
@@ -295,7 +204,7 @@ private Q_SLOTS:
     void makesAProject()
     {
         newProject("测区 7", [](QDialog& settings) {
-            QCOMPARE(settings.windowTitle(), QStringLiteral("Project Settings"));
+            QCOMPARE(settings.windowTitle(), "Project Settings"_q);
             applySystem(settings, "32650");
         });
         QVERIFY(coordParameter("coord_param_id") == "EPSG:32650");
@@ -313,13 +222,12 @@ private Q_SLOTS:
             };
             type(dialog, "path", m_folder->path());
             QVERIFY(isRefused()); // no name
-            type(dialog, "name", QStringLiteral("a/b"));
+            type(dialog, "name", "a/b"_q);
             QVERIFY(isRefused());
-            type(dialog, "name", QStringLiteral("Block 3.2"));
+            type(dialog, "name", "Block 3.2"_q);
             press(dialog, "Use \"Block 3-2\"");
-            QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("name"))->text(),
-                     QStringLiteral("Block 3-2"));
-            type(dialog, "name", QStringLiteral("good"));
+            QCOMPARE(dialog.findChild<QLineEdit*>("name"_q)->text(), "Block 3-2"_q);
+            type(dialog, "name", "good"_q);
             type(dialog, "path", m_folder->path("missing"));
             QVERIFY(isRefused());
             m_chosenFile = m_folder->path();
@@ -337,11 +245,11 @@ private Q_SLOTS:
         makeProject("old");
         newProject("old");
         QVERIFY(isOpen("old"));
-        expectAsked("information: project path exist, override?\n"
-                    "Coordinate System: No coordinate system is chosen. Make the project without "
-                    "one?\n");
+        expectAsked("information|project path exist, override?\n"
+                    "Coordinate System|No coordinate system is chosen. Make the project without "
+                    "one?");
         const QDir folder(place("old").folder);
-        QCOMPARE(folder.entryList({QStringLiteral("old.db.2*")}, QDir::Files).size(), 1);
+        QCOMPARE(folder.entryList({"old.db.2*"_q}, QDir::Files).size(), 1);
     }
 
     void withoutASystemAProjectIsMadeOnlyWhenTheUserWantsIt()
@@ -363,9 +271,9 @@ private Q_SLOTS:
         m_chosenFile = place("a").database();
         run("Open Project");
         QVERIFY(!isOpen());
-        expectAsked("failed: failed to open project!\n");
-        QVERIFY(m_details.contains(QStringLiteral("is no project file")));
-        QVERIFY(m_details.contains(place("a").file));
+        expectAsked("failed|failed to open project!");
+        QVERIFY(m_boxes->last.details.contains("is no project file"_q));
+        QVERIFY(m_boxes->last.details.contains(place("a").file));
         QVERIFY(RecentProjects::list().isEmpty());
         get_system_ini_parameter().dictionary().set("recent_project_1", m_chosenFile.toStdString());
         QVERIFY(RecentProjects::list().isEmpty());
@@ -374,39 +282,31 @@ private Q_SLOTS:
     void whatWouldBeStoredNowhereCannotBeChanged()
     {
         makeProject("a");
+        QString reason;
         const auto isEditable = [&](const char* row) {
-            bool isFound = false;
+            QModelIndexList found;
             Qt::ItemFlags flags;
-            whenDialog("DlgProjectSet", [&](QDialog& settings) {
-                const QAbstractItemModel& rows =
-                    *settings.findChild<QWidget*>(QStringLiteral("CommInfoSet"))
-                         ->findChild<QTreeView*>()
-                         ->model();
-                for (int group = 0; group < rows.rowCount(); ++group) {
-                    const QModelIndex first = rows.index(0, 0, rows.index(group, 0));
-                    for (const QModelIndex& found :
-                         rows.match(first, Qt::DisplayRole, QString::fromUtf8(row))) {
-                        isFound = true;
-                        flags = found.siblingAtColumn(1).flags();
-                    }
-                }
-                const auto* const reason = settings.findChild<QLabel*>(QStringLiteral("reason"));
-                m_details = reason->isVisible() ? reason->text() : QString();
+            changeSettings([&](QDialog& settings) {
+                const QAbstractItemModel& rows = *settings.findChild<QWidget*>("CommInfoSet"_q)
+                                                      ->findChild<QTreeView*>()
+                                                      ->model();
+                found = rows.match(rows.index(0, 0), Qt::DisplayRole, QString::fromUtf8(row), 1,
+                                   Qt::MatchStartsWith | Qt::MatchRecursive);
+                flags = found.value(0).siblingAtColumn(1).flags();
+                const auto* const label = settings.findChild<QLabel*>("reason"_q);
+                reason = label->isVisible() ? label->text() : QString();
                 press(settings, "Cancel");
             });
-            run("Project Settings");
-            return isFound && (flags & Qt::ItemIsEditable) != 0;
+            return !found.isEmpty() && (flags & Qt::ItemIsEditable) != 0;
         };
         open("a");
         QVERIFY(isEditable("Crew"));
-        QCOMPARE(m_details, QString());
+        QCOMPARE(reason, QString());
         run("Close Project");
-        QFile file(place("a").file);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no dictionary") > 0);
-        file.close();
+        m_folder->write("a/a.kelx", "no dictionary");
         open("a");
         QVERIFY(!isEditable("Crew"));
-        QVERIFY(m_details.contains(place("a").file));
+        QVERIFY(reason.contains(place("a").file));
         QVERIFY2(isEditable("Coordinate unit"), "a setting of the program");
     }
 
@@ -416,19 +316,19 @@ private Q_SLOTS:
         DataProcessDataManager other(m_host.get());
         QVERIFY(other.openProject(place("a")).isDone());
         newProject("a");
-        QVERIFY(m_asked.endsWith("\nError: Failed to create project file!\n"));
-        QVERIFY(m_details.contains(QStringLiteral("another program")));
+        QCOMPARE(m_boxes->told().last(), "Error|Failed to create project file!"_q);
+        QVERIFY(m_boxes->last.details.contains("another program"_q));
         other.clear();
-        m_asked.clear();
-        m_heard->lines.clear();
+        m_boxes->told();
+        m_heard.clear();
 
         QVERIFY(QFile::remove(place("a").database()));
         m_chosenFile = place("a").file;
         RecentProjects::add(m_chosenFile);
         run("Open Project");
         QVERIFY(!isOpen());
-        expectAsked("failed: failed to open project!\n");
-        QVERIFY(m_details.contains(QStringLiteral("a.db")));
+        expectAsked("failed|failed to open project!");
+        QVERIFY(m_boxes->last.details.contains("a.db"_q));
         expectHeard("");
         QVERIFY(RecentProjects::list().isEmpty());
     }
@@ -444,13 +344,19 @@ private Q_SLOTS:
 
         manager().designPoints().set({"1001", "10015001", 1, 2, 3, 4, 1, 0});
         run("Close Project");
-        expectAsked("information: save project?\nsuccess: Save project success!\n");
+        expectAsked("information|save project?\nsuccess|Save project success!");
         QVERIFY(manager().designPoints().empty());
         expectHeard(changeTo(""));
         open("a");
         QVERIFY(manager().designPoints().find("1001", "10015001") != nullptr);
-        answerNo("save project?");
         manager().designPoints().clear();
+        m_boxes->answers["save project?"_q] = Button::Cancel;
+        run("Close Project");
+        expectAsked("information|save project?");
+        QVERIFY(!m_frame->close());
+        expectAsked("information|save project?"); // and not whether to leave the program
+        QVERIFY(isOpen("a"));
+        answerNo("save project?");
         run("Close Project");
         open("a");
         QVERIFY2(!manager().designPoints().empty(), "the user did not want to save");
@@ -465,50 +371,39 @@ private Q_SLOTS:
         m_chosenFile = place("b").file;
         for (const char* command : {"Open Project", "New Project", "Recent Project 1"}) {
             run(command);
-            expectAsked("information: close current project?\n");
+            expectAsked("information|close current project?");
         }
+        m_frame->openWhenFree({place("b").file}); // from outside
+        expectAsked("information|close current project?");
+        m_frame->openWhenFree({place("a").file}); // it is open already
+        expectAsked("");
         QVERIFY(isOpen("a"));
         expectHeard("");
-        m_answers.clear();
+        m_boxes->answers.clear();
         run("Open Project");
         QVERIFY(isOpen("b"));
-    }
-
-    void staysWhenTheQuestionIsCancelled()
-    {
-        makeProject("a");
-        open("a");
-        manager().markChanged();
-        m_answers[QStringLiteral("save project?")] = Button::Cancel;
-        run("Close Project");
-        expectAsked("information: save project?\n");
-        QVERIFY(!m_frame->close());
-        expectAsked("information: save project?\n"); // and not whether to leave the program
+        m_frame->openWhenFree({place("a").file});
         QVERIFY(isOpen("a"));
     }
 
     /// The title has an asterisk as long as something is not saved.
     void marksUnsavedChanges()
     {
-        makeProject("a");
-        open("a");
+        openNew("a");
         const auto expectMark = [&](bool isExpected) {
             QCOMPARE(m_frame->isWindowModified(), isExpected);
             run("Save Project");
             QVERIFY(!m_frame->isWindowModified());
         };
-        whenDialog("DlgProjectSet", apply);
-        run("Project Settings");
+        changeSettings(apply);
         expectMark(false);
-        whenDialog("DlgProjectSet", [](QDialog& settings) { applySystem(settings, "21417"); });
-        run("Project Settings");
+        changeSettings([](QDialog& settings) { applySystem(settings, "21417"); });
         expectMark(true);
         whenDialog("DlgQCParamSet", [](QDialog& limits) { press(limits, "OK"); });
         run("Quality Limits");
         expectMark(false);
         whenDialog("DlgQCParamSet", [](QDialog& limits) {
-            limits.findChild<PropertyGridCtrl*>()->setValue(QStringLiteral("pdop_max"),
-                                                            QStringLiteral("4"));
+            limits.findChild<PropertyGridCtrl*>()->setValue("pdop_max"_q, "4"_q);
             press(limits, "OK");
         });
         run("Quality Limits");
@@ -521,33 +416,32 @@ private Q_SLOTS:
 
     void doesNotLoseWhatCannotBeSaved()
     {
-        makeProject("a");
-        open("a");
+        openNew("a");
         manager().designPoints().set({"1001", "10015001", 1, 2, 3, 4, 1, 0});
         QVERIFY(QDir(place("a").folder).removeRecursively());
         answerNo("The project could not be saved. Close it all the same and lose the changes?");
         run("Close Project");
-        QVERIFY(m_asked.startsWith("information: save project?\nfailed: Save project failed!\n"));
-        QCOMPARE(m_onEnter, Button::No);
+        QCOMPARE(m_boxes->told().mid(0, 2),
+                 (QStringList{"information|save project?"_q, "failed|Save project failed!"_q}));
+        QCOMPARE(m_boxes->last.defaultButton.value_or(Button::Ok), Button::No);
         QVERIFY(isOpen() && m_frame->isWindowModified());
         QVERIFY(!manager().designPoints().empty());
         run("Save Project");
-        QVERIFY(m_details.contains(QStringLiteral("Save a Copy As")));
-        m_asked.clear();
+        QVERIFY(m_boxes->last.details.contains("Save a Copy As"_q));
+        m_boxes->told();
         answerNo("save project?");
         answerNo("是否退出程序？");
         QVERIFY(!m_frame->close());
-        QCOMPARE(m_onEnter, Button::No);
-        expectAsked("information: save project?\n提示: 是否退出程序？\n"); // nothing has failed now
-        m_answers.clear();
+        QCOMPARE(m_boxes->last.defaultButton.value_or(Button::Ok), Button::No);
+        expectAsked("information|save project?\n提示|是否退出程序？"); // nothing has failed now
+        m_boxes->answers.clear();
         run("Close Project");
         QVERIFY(!isOpen());
     }
 
     void savesACopyAndKeepsTheProject()
     {
-        makeProject("a");
-        open("a");
+        openNew("a");
         manager().designPoints().set({"1001", "10015001", 1, 2, 3, 4, 1, 0});
         const QString elsewhere = m_folder->path("elsewhere");
         QVERIFY(QDir().mkpath(elsewhere));
@@ -555,16 +449,15 @@ private Q_SLOTS:
             type(dialog, "path", m_folder->path());
             QTest::keyClick(&dialog, Qt::Key_Return); // the open project is there
             QVERIFY(dialog.isVisible());
-            QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("name"))->text(),
-                     QStringLiteral("a 2"));
-            type(dialog, "name", QStringLiteral("a"));
+            QCOMPARE(dialog.findChild<QLineEdit*>("name"_q)->text(), "a 2"_q);
+            type(dialog, "name", "a"_q);
             type(dialog, "path", elsewhere);
             press(dialog, "OK");
         });
         run("Save a Copy As");
-        const ProjectPlace copy = ProjectPlace::planned(elsewhere, QStringLiteral("a"));
-        expectAsked("Save a Copy As: The copy is in \"" + copy.folder.toUtf8() + "\".\n");
-        QVERIFY(m_details.contains(place("a").folder));
+        const ProjectPlace copy = ProjectPlace::planned(elsewhere, "a"_q);
+        expectAsked("Save a Copy As|The copy is in \"" + copy.folder.toUtf8() + "\".");
+        QVERIFY(m_boxes->last.details.contains(place("a").folder));
         QVERIFY(isOpen("a"));
         expectHeard("");
         DataProcessDataManager other(m_host.get());
@@ -576,8 +469,7 @@ private Q_SLOTS:
 
     void goesOnWithTheCopyOfAProjectWhoseFolderIsGone()
     {
-        makeProject("a");
-        open("a");
+        openNew("a");
         manager().designPoints().set({"1001", "10015001", 1, 2, 3, 4, 1, 0});
         const QString gone = place("a").folder;
         QVERIFY(QDir(gone).removeRecursively());
@@ -588,50 +480,42 @@ private Q_SLOTS:
         const auto copyTo = [&](const char* name) {
             QDir(m_folder->path()).mkdir(QString::fromUtf8(name));
             saveCopy(m_folder->path(name));
-            expectAsked("Save a Copy As: " + question(name) + '\n');
-            QVERIFY(m_details.contains(gone));
+            expectAsked("Save a Copy As|" + question(name));
+            QVERIFY(m_boxes->last.details.contains(gone));
         };
         answerNo(question("1"));
         copyTo("1");
         expectHeard("");
         copyTo("2");
         expectHeard(changeTo("a"));
-        QCOMPARE(QString::fromStdString(
-                     std::string(get_system_status_dictionary().text(status::kProjectPath))),
-                 m_folder->path("2/a"));
+        QCOMPARE(ProjectState::place().folder, m_folder->path("2/a"));
         QCOMPARE(manager().designPoints().pointCount(), 1U);
         run("Save Project");
-        expectAsked("information: save project?\nsuccess: Save project success!\n");
+        expectAsked("information|save project?\nsuccess|Save project success!");
     }
 
     void changesTheSettingsOfTheOpenProject()
     {
-        makeProject("a");
-        open("a");
-        SurveyPoint point;
-        point.elevation = 4;
-        manager().surveyPoints().set(point);
-        whenDialog("DlgProjectSet", [](QDialog& settings) { applySystem(settings, "21417"); });
-        run("Project Settings");
+        openNew("a");
+        manager().surveyPoints().set({}).elevation = 4;
+        changeSettings([](QDialog& settings) { applySystem(settings, "21417"); });
         QVERIFY(coordParameter("coord_param_id") != "Undefined");
         QCOMPARE(manager().surveyPoints().find("", "")->seaHeight, 4.0);
         expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "a"));
         const QByteArray question =
             "This project holds points (designed: 0, survey results: 1). Change its coordinate "
             "system?";
-        expectAsked("Coordinate System: " + question + '\n');
+        expectAsked("Coordinate System|" + question);
         const std::string chosen = coordParameter("org_lon");
         answerNo(question);
-        whenDialog("DlgProjectSet", [this](QDialog& settings) {
+        changeSettings([this](QDialog& settings) {
             applySystem(settings, "32037");
             QVERIFY(settings.isVisible());
-            QVERIFY(m_details.contains(QStringLiteral("what is m now will count as ftUS")));
+            QVERIFY(m_boxes->last.details.contains("what is m now will count as ftUS"_q));
             press(settings, "Cancel");
         });
-        run("Project Settings");
-        whenDialog("DlgProjectSet", apply); // nothing is changed, and nothing asked
-        m_asked.clear();
-        run("Project Settings");
+        m_boxes->told();
+        changeSettings(apply); // nothing is changed, and nothing asked
         expectAsked("");
         QVERIFY(coordParameter("org_lon") == chosen);
         run("Close Project"); // saves
@@ -649,9 +533,7 @@ private Q_SLOTS:
         makeProject("b&c");
         open("a");
         open("b&c");
-        QCOMPARE(first->text(),
-                 QStringLiteral("&1  ") +
-                     place("b&c").file.replace(QLatin1Char('&'), QStringLiteral("&&")));
+        QCOMPARE(first->text(), "&1  "_q + place("b&c").file.replace(QLatin1Char('&'), "&&"_q));
         QVERIFY(second->isVisible());
         run("Close Project");
         run("Recent Project 2");
@@ -662,106 +544,50 @@ private Q_SLOTS:
     void opensADroppedFile()
     {
         makeProject("a");
-        const auto enter = [&](const QString& file) {
-            QMimeData files;
-            files.setUrls({QUrl::fromLocalFile(file)});
-            QDragEnterEvent event(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, {});
+        QMimeData files;
+        const auto enter = [&](const QStringList& paths) {
+            QList<QUrl> urls;
+            for (const QString& path : paths)
+                urls << QUrl::fromLocalFile(path);
+            files.setUrls(urls);
+            QDragEnterEvent event({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
             event.ignore();
             QApplication::sendEvent(m_frame.get(), &event);
             return event.isAccepted();
         };
-        QVERIFY(!enter(QStringLiteral("/a.txt")));
-        QVERIFY(!m_frame->openFile(QStringLiteral("/a.txt")));
-        QVERIFY(enter(place("a").file));
-        QMimeData files;
-        files.setUrls({QUrl::fromLocalFile(place("a").file)});
-        QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, {});
-        QApplication::sendEvent(m_frame.get(), &drop);
+        const auto drop = [&] {
+            QDropEvent event({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
+            QApplication::sendEvent(m_frame.get(), &event);
+        };
+        QVERIFY(!enter({"/a.txt"_q}));
+        QVERIFY(!m_frame->openFile("/a.txt"_q));
+        QVERIFY(enter({place("a").file}));
+        drop();
         QTRY_VERIFY(isOpen());
 
         const QByteArray rows = "1,L,1,2,3,4,1,0\n";
-        QVERIFY(enter(m_folder->path("1.csv")));
-        files.setUrls({QUrl::fromLocalFile(m_folder->write("1.csv", rows)),
-                       QUrl::fromLocalFile(m_folder->write("2.CSV", "2" + rows))});
-        QDropEvent points(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, {});
-        QApplication::sendEvent(m_frame.get(), &points);
+        QVERIFY(enter({m_folder->write("1.csv", rows), m_folder->write("2.CSV", "2" + rows)}));
+        drop();
         QTRY_COMPARE(manager().designPoints().pointCount(), std::size_t(2));
-        expectAsked("Success: Import Success!\nSuccess: Import Success!\n");
-    }
-
-    void aFileFromOutsideAsksAsTheCommandDoes()
-    {
-        makeProject("a");
-        makeProject("b");
-        open("a");
-        m_frame->openWhenFree({place("a").file});
-        expectAsked(""); // it is open already
-        answerNo("close current project?");
-        m_frame->openWhenFree({place("b").file});
-        expectAsked("information: close current project?\n");
-        QVERIFY(isOpen("a"));
-        m_answers.clear();
-        m_frame->openWhenFree({place("b").file});
-        QVERIFY(isOpen("b"));
-    }
-
-    void choosesATimeZone()
-    {
-        const auto choose = [&](int radio, int index, const char* button) {
-            whenDialog("TimeZomeDlg", [=](QDialog& dialog) {
-                QCOMPARE(dialog.windowTitle(), QStringLiteral("时区修改"));
-                const auto radios = dialog.findChildren<QRadioButton*>();
-                auto* const list = dialog.findChild<QComboBox*>();
-                QCOMPARE(list->count(), 25);
-                QCOMPARE(list->itemText(0), QStringLiteral("UTC-12"));
-                QCOMPARE(list->itemText(12), QStringLiteral("UTC"));
-                QCOMPARE(list->itemText(24), QStringLiteral("UTC+12"));
-                QTest::mouseClick(radios[radio], Qt::LeftButton, {}, QPoint(8, 8));
-                QCOMPARE(list->isEnabled(), radio == 2);
-                list->setCurrentIndex(index);
-                press(dialog, button);
-            });
-            run("Time Zone");
-            return get_system_ini_parameter().dictionary().integer(settings::kTimeZone, -99);
-        };
-        QCOMPARE(choose(0, 5, "取消"), -99);
-        expectHeard("");
-        QCOMPARE(choose(1, 5, "确认"), 0);
-        expectHeard(heard({"REFRESH_SURVEY_TABLE"}, ""));
-        QCOMPARE(choose(2, 3, "确认"), -9);
-        QCOMPARE(choose(0, 3, "确认"), 8);
-    }
-
-    void choosesACoordinateFormat()
-    {
-        run("Degree Format"); // is in use already
-        expectHeard("");
-        run("Degree-minute-second Format");
-        QCOMPARE(get_system_status_dictionary().integer(status::kDegreeFormat), 1);
-        expectHeard(heard({"REFRESH_SURVEY_TABLE"}, ""));
-        QVERIFY(action("Degree-minute-second Format")->isChecked());
-        get_system_status_dictionary().set(status::kShowAllLines, "1");
-        run("Degree Format");
-        expectHeard(heard({"ON_CLEAR_SURVEY_TABLE"}, ""));
+        expectAsked("Success|Import Success!\nSuccess|Import Success!");
     }
 
     // Last: the program quits, and every later dialog would end at once.
     void theProgramClosesItsProjectFirst()
     {
-        makeProject("a");
-        open("a");
+        openNew("a");
         answerNo("是否退出程序？");
         QVERIFY(!m_frame->close());
-        expectAsked("information: save project?\nsuccess: Save project success!\n"
-                    "提示: 是否退出程序？\n");
+        expectAsked("information|save project?\nsuccess|Save project success!\n"
+                    "提示|是否退出程序？");
         QVERIFY(isOpen("a") && DataProcessDataManager::hasInstance());
-        m_answers.clear();
+        m_boxes->answers.clear();
         QVERIFY(m_frame->close());
         expectHeard(changeTo(""));
         QVERIFY(!isOpen() && !DataProcessDataManager::hasInstance());
-        m_asked.clear();
+        m_boxes->told();
         QVERIFY(m_frame->close()); // without a project and its manager
-        expectAsked("提示: 是否退出程序？\n");
+        expectAsked("提示|是否退出程序？");
     }
 };
 

@@ -1,27 +1,13 @@
 #include "project/ui/StartPage.h"
 
-#include "lum_desktop_sdkx/dialogs/FileDialog.h"
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_desktop_sdkx/frame/DesktopHost.h"
-#include "lum_desktop_sdkx/frame/FrameComponents.h"
-#include "lum_desktop_sdkx/frame/MainFrame.h"
 #include "lum_desktop_sdkx/IWindow.h"
-#include "lum_desktop_sdkx/map/MapComponents.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "project/RecentProjects.h"
 #include "project/ui/ProjectState.h"
-#include "tests/support/TestFolder.h"
-
-#include <QCommandLinkButton>
-#include <QtTest>
-
-#include <optional>
+#include "tests/app/FrameTest.h"
 
 namespace {
-
-using Button = LumMessageBox::Button;
 
 constexpr const char* kLayout = R"(<main_frame>
   <assistant class="DataProcess5"/>
@@ -34,35 +20,15 @@ constexpr const char* kLayout = R"(<main_frame>
   <window class="MapWindow" name="DataMap" caption="Map" area="center" closable="0"/>
 </main_frame>)";
 
-FrameLayout testLayout()
-{
-    FrameLayout layout;
-    if (!desktop::readFrameLayout(kLayout, layout).isEmpty())
-        qFatal("the test's layout is broken");
-    return layout;
-}
-
 } // namespace
 
 /// What stands in the map's place while no project is open.
-class StartPageTest : public QObject
+class StartPageTest : public FrameTest
 {
     Q_OBJECT
 
-    std::unique_ptr<TestFolder> m_folder;
-    std::unique_ptr<DesktopHost> m_host;
-    std::unique_ptr<MainFrame> m_frame;
-    QStringList m_asked;
-    std::optional<Button> m_answer = Button::Yes; ///< none presses Enter
-    int m_filesAsked = 0;
-    std::unique_ptr<LumMessageBox::Responder> m_messages;
-    std::unique_ptr<FileDialog::Responder> m_files;
-
     [[nodiscard]] StartPage* page() const { return m_frame->findChild<StartPage*>(); }
-    [[nodiscard]] QWidget* map() const
-    {
-        return m_host->windows().find(QStringLiteral("DataMap"))->widget();
-    }
+    [[nodiscard]] QWidget* map() const { return m_host->windows().find("DataMap"_q)->widget(); }
     /// The captions of the page's buttons without their marks, in their order.
     [[nodiscard]] QStringList offered() const
     {
@@ -76,69 +42,34 @@ class StartPageTest : public QObject
         const auto* const button = qobject_cast<QCommandLinkButton*>(m_frame->focusWidget());
         return button != nullptr ? button->text().remove(QLatin1Char('&')) : QString();
     }
-    void startProgram()
+    void key(Qt::Key key) { QTest::keyClick(m_frame->focusWidget(), key); }
+    void start()
     {
-        m_host = std::make_unique<DesktopHost>();
-        m_frame = std::make_unique<MainFrame>(*m_host, testLayout());
+        startProgram(layoutOf(kLayout));
         m_frame->resize(900, 600);
         m_frame->show();
         m_frame->activateWindow();
         QTRY_VERIFY(m_frame->isActiveWindow());
     }
 
-    void key(Qt::Key key) { QTest::keyClick(m_frame->focusWidget(), key); }
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        registerFrameComponents();
-        registerMapComponents();
-    }
-
-    void init()
-    {
-        m_folder = std::make_unique<TestFolder>();
-        qputenv("HOME", m_folder->path().toUtf8());
-        get_system_status_dictionary().clear();
-        get_system_ini_parameter().dictionary().clear();
-        m_asked.clear();
-        m_filesAsked = 0;
-        m_messages = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
-            m_asked << message.text;
-            return message.buttons & Button::Yes
-                       ? m_answer.value_or(message.defaultButton.value_or(Button::Cancel))
-                       : Button::Ok;
-        });
-        m_files = std::make_unique<FileDialog::Responder>([this](const auto&) {
-            ++m_filesAsked;
-            return QString();
-        });
-    }
-
-    void cleanup()
-    {
-        m_files.reset();
-        m_messages.reset();
-        m_frame.reset();
-        m_host.reset();
-    }
+    void init() { prepare(); }
+    void cleanup() { endProgram(); }
 
     void isWalkedAndUsedByTheKeyboard()
     {
         RecentProjects::add(m_folder->path("测区 & B.kelx"));
-        startProgram();
+        start();
         QCOMPARE(page()->size(), map()->size());
-        QCOMPARE(offered(),
-                 QStringList({QStringLiteral("Open Project..."), QStringLiteral("Demo Survey..."),
-                              QStringLiteral("1  测区  B")}));
-        QTRY_COMPARE(focused(), QStringLiteral("Open Project..."));
+        QCOMPARE(offered(), QStringList({"Open Project..."_q, "Demo Survey..."_q, "1  测区  B"_q}));
+        QTRY_COMPARE(focused(), "Open Project..."_q);
         key(Qt::Key_Return);
         QCOMPARE(m_filesAsked, 1);
         key(Qt::Key_Down);
         key(Qt::Key_Tab);
-        QCOMPARE(focused(), QStringLiteral("1  测区  B"));
+        QCOMPARE(focused(), "1  测区  B"_q);
         key(Qt::Key_Return); // the file is gone: that is said, and the list forgets it
-        QCOMPARE(m_asked.size(), 1);
+        QCOMPARE(m_boxes->told().size(), 1);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(offered().size(), 2);
         QVERIFY(!page()->isHidden());
@@ -148,53 +79,50 @@ private Q_SLOTS:
 
     void theDemoSurveyIsMadeOpenedAndFoundAgain()
     {
-        startProgram();
-        m_answer = Button::Cancel;
-        QVERIFY(m_host->commands().execute(QStringLiteral("Demo Survey")));
-        QVERIFY2(m_asked.value(0).contains(QStringLiteral("Documents")), qPrintable(m_asked[0]));
+        start();
+        m_boxes->answer = Button::Cancel;
+        run("Demo Survey");
+        QVERIFY(m_boxes->last.text.contains("Documents"_q));
         QVERIFY(!ProjectState::isOpen());
 
-        m_answer = Button::No; // another place, and then none
-        QVERIFY(m_host->commands().execute(QStringLiteral("Demo Survey")));
+        m_boxes->answer = Button::No; // another place, and then none
+        run("Demo Survey");
         QCOMPARE(m_filesAsked, 1);
         QVERIFY(!ProjectState::isOpen());
 
-        m_answer.reset();
-        QVERIFY(m_host->commands().execute(QStringLiteral("Demo Survey")));
+        m_boxes->answer.reset();
+        run("Demo Survey");
         QVERIFY(ProjectState::isOpen());
         QVERIFY(page()->isHidden());
         const ProjectPlace place = ProjectState::place();
         QCOMPARE(place.folder, m_folder->path("Documents/Demo Survey"));
-        const DataProcessDataManager& manager = DataProcessDataManager::instance();
-        std::size_t points = 0;
-        for (const auto& [number, line] : DataProcessDataManager::instance().designPoints())
-            points += line.size();
-        QCOMPARE(points, std::size_t(4000));
+        DataProcessDataManager& manager = DataProcessDataManager::instance();
+        QCOMPARE(manager.designPoints().pointCount(), std::size_t(4000));
         QVERIFY(!manager.isSaveOwed());
-        QVERIFY(QFile::exists(place.folder + QStringLiteral("/csv/faults.csv")));
+        QVERIFY(QFile::exists(place.folder + "/csv/faults.csv"_q));
 
-        m_asked.clear();
-        QVERIFY(m_host->commands().execute(QStringLiteral("Demo Survey")));
-        QCOMPARE(m_asked, QStringList(QStringLiteral("The demo survey is open already.")));
+        m_boxes->told();
+        run("Demo Survey");
+        QCOMPARE(m_boxes->last.text, "The demo survey is open already."_q);
 
-        QVERIFY(m_host->commands().execute(QStringLiteral("Close Project")));
+        run("Close Project");
         QVERIFY(!page()->isHidden());
-        QCOMPARE(offered().last(), QStringLiteral("1  Demo Survey"));
-        m_asked.clear();
-        QVERIFY(m_host->commands().execute(QStringLiteral("Demo Survey")));
+        QCOMPARE(offered().last(), "1  Demo Survey"_q);
+        m_boxes->told();
+        run("Demo Survey");
         QVERIFY(ProjectState::isOpen());
-        QVERIFY2(m_asked.isEmpty(), "what was made before is opened without a question");
-        QVERIFY(m_host->commands().execute(QStringLiteral("Close Project")));
+        expectAsked(""); // what was made before is opened without a question
+        run("Close Project");
     }
 
     void aDemoSurveyThatCannotBeMadeLeavesNothing()
     {
         QVERIFY(QDir().mkpath(m_folder->path("Documents")));
         m_folder->write("Documents/Demo Survey", "a file in the way of the folder");
-        startProgram();
-        m_answer = Button::Yes;
-        QVERIFY(m_host->commands().execute(QStringLiteral("Demo Survey")));
-        QCOMPARE(m_asked.last(), QStringLiteral("The demo survey could not be made."));
+        start();
+        m_boxes->answer = Button::Yes;
+        run("Demo Survey");
+        QCOMPARE(m_boxes->last.text, "The demo survey could not be made."_q);
         QVERIFY(!ProjectState::isOpen());
         QVERIFY(!page()->isHidden());
         QVERIFY(RecentProjects::list().isEmpty());

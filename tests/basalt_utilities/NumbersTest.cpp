@@ -83,16 +83,6 @@ TEST(Numbers, IntegersStopAtTheirLimits)
         EXPECT_EQ(parseInteger(text), value) << text;
 }
 
-TEST(Numbers, FormatAsPrintfDoes)
-{
-    EXPECT_EQ(formatGeneral(100.0 / 3), "33.3333");
-    EXPECT_EQ(formatGeneral(100), "100");
-    EXPECT_EQ(formatGeneral(1234567), "1.23457e+06");
-    EXPECT_EQ(formatFixed(-0.00004, 4), "-0.0000");
-    EXPECT_EQ(formatFixed(std::numeric_limits<double>::max(), 2).size(), 312U);
-    EXPECT_EQ(formatFixed(2.5, 0), "2"); // ties go to even, as in printf
-}
-
 TEST(FixedDecimals, WriteWhatTheGeneralWayWrites)
 {
     using Limits = std::numeric_limits<double>;

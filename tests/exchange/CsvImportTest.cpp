@@ -1,8 +1,8 @@
 #include "exchange/CsvImport.h"
 
 #include "CsvFixture.h"
-#include "exchange/DesignCsvReader.h"
 #include "model/PointLines.h"
+#include "tests/support/Literals.h"
 
 #include <chrono>
 #include <functional>
@@ -49,8 +49,8 @@ protected:
     {
         EXPECT_EQ(outcome.kind(), Outcome::Kind::Failed);
         EXPECT_EQ(outcome.text(),
-                  QStringLiteral("\"%1\" cannot be read: %2\nThe points are as they were before.")
-                      .arg(path(), QString::fromUtf8(reason)));
+                  "\"%1\" cannot be read: %2\nThe points are as they were before."_q.arg(
+                      path(), QString::fromUtf8(reason)));
         EXPECT_EQ(summary.pointsNew + summary.pointsReplaced + summary.linesRead, 0U);
         EXPECT_EQ(points.pointCount(), 2U);
         EXPECT_EQ(points.find("L", "1")->north, 1);
@@ -86,13 +86,4 @@ TEST_F(FailedImport, ChangesNothing)
                       },
                       nothing),
                   "It became shorter meanwhile.");
-}
-
-TEST_F(CsvFixture, ADeviceIsRefusedWithoutProgress)
-{
-    DesignPoints points;
-    const QString name = QStringLiteral("/dev/null");
-    EXPECT_EQ(readDesignCsv(name, points, progress, summary).text(),
-              QStringLiteral("\"/dev/null\" cannot be read: It is not a file."));
-    EXPECT_TRUE(heard.events.empty());
 }

@@ -1,6 +1,7 @@
 #include "CsvFixture.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
+#include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
 
 #include <QDir>
@@ -62,8 +63,7 @@ TEST_F(DesignCsv, LinesAreWrittenAsTheyAreNamedWithProgress)
     points.set({"L1", "9", 1, 2, 3, 4, 0, 0});
     points.set({"L1", "10", 1, 2, 3, 4, 0, 2});
     points.set({"L2", "7", 1, 2, 3, 4, 0, 0});
-    EXPECT_TRUE(
-        write({QStringLiteral("L2"), QStringLiteral("none"), QStringLiteral("L1")}).isDone());
+    EXPECT_TRUE(write({"L2"_q, "none"_q, "L1"_q}).isDone());
     EXPECT_TRUE(TestFolder::read(path()).endsWith("status\n"
                                                   "7,L2,1.0000,2.0000,3.0000,7,4.000000,0,0\n"
                                                   "10,L1,1.0000,2.0000,3.0000,10,4.000000,0,2\n"
@@ -80,9 +80,7 @@ TEST_F(DesignCsv, AFileThatCannotBeWrittenStaysAsItWas)
     const QString name = file("before");
     {
         const SmallFiles limit(300000);
-        EXPECT_TRUE(write({QStringLiteral("L")})
-                        .text()
-                        .startsWith(QStringLiteral("Cannot write \"%1\": ").arg(name)));
+        EXPECT_TRUE(write({"L"_q}).text().startsWith("Cannot write \"%1\": "_q.arg(name)));
     }
     EXPECT_EQ(TestFolder::read(name), "before");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1); // nothing lies beside it

@@ -1,8 +1,8 @@
 #include "basalt_utilities/KeyList.h"
 #include "CsvFixture.h"
 #include "exchange/DesignKml.h"
-#include "exchange/SurveyKml.h"
 #include "lum_sdk/coords/CoordWjl.h"
+#include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
 
 #include <QDir>
@@ -89,7 +89,7 @@ TEST_F(Kml, HoldsEveryPointWhereTheCoordinateServicePutsIt)
             design.set({line, name, 4400000 + place, 480000 + 3 * place, place / 7, 1, 1, 0});
         }
     }
-    ASSERT_TRUE(writeDesign({QStringLiteral("测线"), QStringLiteral("L\"1\"")}).isDone());
+    ASSERT_TRUE(writeDesign({"测线"_q, "L\"1\""_q}).isDone());
     const std::vector<Feature> points = read(0);
     const std::vector<Feature> lines = read(1);
     ASSERT_EQ(points.size(), 8U);
@@ -108,31 +108,11 @@ TEST_F(Kml, HoldsEveryPointWhereTheCoordinateServicePutsIt)
     }
 }
 
-TEST_F(Kml, ResultsArePlacedByTheirPlaneCoordinates)
-{
-    SurveyPoints survey;
-    SurveyPoint point;
-    point.lineNumber = "1";
-    point.pointNumber = "C12345678_3";
-    point.latitude = -33;
-    point.longitude = 18;
-    point.north = 4400000;
-    point.east = 510000;
-    survey.set(point);
-    ASSERT_TRUE(
-        writeSurveyKml(path(), {survey, {QStringLiteral("1")}, {}}, transform, progress).isDone());
-    const std::vector<Feature> points = read(0);
-    ASSERT_EQ(points.size(), 1U);
-    EXPECT_EQ(points[0].name, "C12345678") << "without the counter";
-    expectAt(point, points[0].positions[0]);
-}
-
 TEST_F(Kml, ProgressFollowsTheLinesThatThereAre)
 {
     design.set({"1", "1", 4400000, 500000, 1, 0, 0, 1});
     design.set({"2", "1", 4400000, 500000, 1, 0, 0, 0});
-    const QStringList lines{QStringLiteral("2"), QStringLiteral("none"), QStringLiteral("1"),
-                            QStringLiteral("none")};
+    const QStringList lines{"2"_q, "none"_q, "1"_q, "none"_q};
     ASSERT_TRUE(writeDesign(lines, true).isDone());
     EXPECT_EQ(heard.payloads(),
               (std::vector<std::string>{"text=Export Design Data,value=25,is_exec=0",
@@ -149,12 +129,12 @@ TEST_F(Kml, AFullDiskLeavesTheFileAsItWas)
     const QString name = file("before");
     for (const rlim_t kilobytes : {0U, 1U, 300U, 900U}) {
         const SmallFiles limit(kilobytes * 1024);
-        const Outcome writing = writeDesign({QStringLiteral("1")});
+        const Outcome writing = writeDesign({"1"_q});
         EXPECT_FALSE(writing.isDone()) << kilobytes;
         EXPECT_TRUE(writing.text().contains(path())) << qPrintable(writing.text());
     }
     EXPECT_EQ(TestFolder::read(name), "before");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
-    EXPECT_TRUE(writeDesign({QStringLiteral("1")}).isDone());
+    EXPECT_TRUE(writeDesign({"1"_q}).isDone());
     EXPECT_EQ(read(0).size(), 5000U);
 }

@@ -1,21 +1,14 @@
 #include "CsvFixture.h"
-#include "exchange/ExportColumns.h"
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "model/SurveyColumns.h"
+#include "tests/support/Literals.h"
+#include "tests/support/Points.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
 
 namespace {
-
-SurveyPoint pointOf(const char* line, const char* number)
-{
-    SurveyPoint point;
-    point.lineNumber = line;
-    point.pointNumber = number;
-    return point;
-}
 
 /// Gives each field of a point another value, by its type.
 struct Filling
@@ -52,7 +45,7 @@ SurveyPoints fullPoints()
         points.set(std::move(point));
     }
     for (const char* number : {"C10015000_0", "C10015000_1", "C10015000_2"})
-        points.set(pointOf("1001", number));
+        points.set(surveyPoint("1001", number));
     return points;
 }
 
@@ -107,26 +100,11 @@ TEST_F(SurveyCsv, AnExportInDegreesComesBackAsTheSameFileInEachLanguage)
     EXPECT_EQ(written(surveyCaptions(), 1), english);
 }
 
-TEST_F(SurveyCsv, EachValueIsWrittenInItsForm)
+TEST_F(SurveyCsv, ALineOfTheFileFollowsTheCaptionsThatAreKnown)
 {
-    SurveyPoint point = pointOf("7", "8");
-    point.latitude = 30.5;
-    point.ageOfDiff = 2.5;
-    point.isResurvey = 1;
-    points.set(std::move(point));
-    QStringList captions =
-        exportCaptions(QStringLiteral("point_num,line_num,latitude,age_of_diff,is_resurvey")
-                           .split(QLatin1Char(',')));
-    captions << QStringLiteral("unknown");
-    EXPECT_EQ(written(captions, 1), "point num,line num,latitude,age of diff,resurvey,unknown\n"
-                                    "8,7,30deg30min0.000sec,2.5,1,\n");
-}
-
-TEST_F(SurveyCsv, WithoutLineAndPointNumberNoRowIsWritten)
-{
-    points.set(pointOf("L", "P"));
-    EXPECT_EQ(written({QStringLiteral("point num"), QStringLiteral("north")}, 0),
-              "point num,north\n");
+    points.set(surveyPoint("7", "8"));
+    EXPECT_EQ(written({"point num"_q, "unknown"_q, "line num"_q, "age of diff"_q}, 0),
+              "point num,unknown,line num,age of diff\n8,,7,0\n");
     EXPECT_EQ(heard.payloads(),
               (std::vector<std::string>{"text=Export Survey Data,value=100,is_exec=0", "show=0"}));
 }

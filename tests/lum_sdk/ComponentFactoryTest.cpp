@@ -51,18 +51,14 @@ TEST_F(Factory, TheFirstClassKeepsATakenName)
               (std::vector<std::pair<std::string, std::string>>{{"Pan", "平移"}}));
 }
 
-TEST_F(Factory, AnUnknownNameIsNullAndLoggedWithTheName)
-{
-    EXPECT_EQ(m_factory.make("pan", ""), nullptr);
-    EXPECT_TRUE(m_log.holds("No ITool is registered as \"pan\""));
-}
-
-TEST_F(Factory, AClassThatCannotBeMadeIsNullAndLogged)
+TEST_F(Factory, WhatCannotBeMadeIsNullAndLoggedWithItsName)
 {
     m_factory.add(
         "Pan", "", [](const char*) -> Tool* { throw std::runtime_error("no memory"); }, destroy);
     EXPECT_EQ(m_factory.make("Pan", ""), nullptr);
     EXPECT_TRUE(m_log.holds("\"Pan\" cannot be made: no memory"));
+    EXPECT_EQ(m_factory.make("pan", ""), nullptr);
+    EXPECT_TRUE(m_log.holds("No ITool is registered as \"pan\""));
 }
 
 TEST_F(Factory, WhatIsLentIsEndedOnceByItsOwnClass)
@@ -70,9 +66,8 @@ TEST_F(Factory, WhatIsLentIsEndedOnceByItsOwnClass)
     m_factory.add("Pan", "", create<1>, destroy);
     Tool* const tool = m_factory.get("Pan", "");
     EXPECT_EQ(alive, 1);
-    m_factory.release(tool);
-    EXPECT_EQ(alive, 0);
-    m_factory.release(tool); // a second time, and null, are left alone
-    m_factory.release(nullptr);
-    EXPECT_EQ(alive, 0);
+    for (Tool* ended : {tool, tool, static_cast<Tool*>(nullptr)}) {
+        m_factory.release(ended);
+        EXPECT_EQ(alive, 0);
+    }
 }

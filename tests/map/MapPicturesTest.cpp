@@ -205,22 +205,6 @@ private Q_SLOTS:
                  QColor(Qt::blue)); // of that base
     }
 
-    void linesReportAndStopEndsThePaint()
-    {
-        const DesignMarks marks(TestSurvey().design(4, 10, 2), kToMap);
-        std::vector<double> percents;
-        PictureFrame frame = frameAt(0, 0, 1); // everything is out of sight
-        frame.lineDone = [&](double percent) { percents.push_back(percent); };
-        pictureOf([&](QPainter& painter) {
-            paintDesign(marks, frame, {25, false, true}, painter);
-        });
-        QCOMPARE(percents, (std::vector<double>{75, 100})); // hidden lines count silently
-
-        frame.isStopped = [&] { return percents.size() >= 3; };
-        pictureOf([&](QPainter& painter) { paintDesign(marks, frame, {25}, painter); });
-        QCOMPARE(percents, (std::vector<double>{75, 100, 25}));
-    }
-
     void brokenPlacesDoNoHarm()
     {
         DesignPoints design = TestSurvey().design(1, 3, 1);

@@ -14,16 +14,6 @@ namespace {
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 const ToMap kTurned = [](double north, double east) { return QPointF(east, north); };
 
-DesignPoint at(const char* line, const char* number, double north, double east)
-{
-    DesignPoint point;
-    point.lineNumber = line;
-    point.pointNumber = number;
-    point.north = north;
-    point.east = east;
-    return point;
-}
-
 DesignPoints pointsOf(const std::vector<DesignPoint>& list)
 {
     DesignPoints points;
@@ -54,17 +44,18 @@ TEST(MarkExtent, IsTheMappedRectangle)
         QRectF expected;
     } kCases[] = {
         {"nothing stands at the origin", {}, {0, 0, 10, 10}},
-        {"one place", {at("1", "1", 70, 20), at("2", "1", 70, 20)}, {20, 70, 10, 10}},
-        {"a north-south line", {at("1", "1", -70, 20), at("1", "2", 80, 20)}, {20, -70, 10, 150}},
+        {"one place", {{"1", "1", 70, 20}, {"2", "1", 70, 20}}, {20, 70, 10, 10}},
+        {"a north-south line", {{"1", "1", -70, 20}, {"1", "2", 80, 20}}, {20, -70, 10, 150}},
         {"below a tenth of a micrometre is nothing",
-         {at("1", "1", 0, 0), at("1", "2", 1.1e-7, 0.9e-7)},
+         {{"1", "1", 0, 0}, {"1", "2", 1.1e-7, 0.9e-7}},
          {0, 0, 10, 1.1e-7}},
-        {"far points count",
-         {at("1", "1", 0, 0), at("2", "1", 1e12, -1e12)},
-         {-1e12, 0, 1e12, 1e12}},
+        {"far points count", {{"1", "1", 0, 0}, {"2", "1", 1e12, -1e12}}, {-1e12, 0, 1e12, 1e12}},
         {"broken points do not",
-         {at("1", "1", kNaN, 5), at("1", "2", 30, 40), at("1", "3", 50, -kNaN),
-          at("1", "4", 60, 80), at("1", "5", HUGE_VAL, 80)},
+         {{"1", "1", kNaN, 5},
+          {"1", "2", 30, 40},
+          {"1", "3", 50, -kNaN},
+          {"1", "4", 60, 80},
+          {"1", "5", HUGE_VAL, 80}},
          {40, 30, 40, 30}}};
     for (const auto& [name, points, expected] : kCases)
         EXPECT_EQ(markExtent(marksOf(pointsOf(points)).table().gridBounds(), kTurned), expected)
@@ -78,7 +69,7 @@ TEST(MarkTableNearest, KeepsTheFirstOfEqualsAndTheLimit)
 {
     // In the order of bytes line "10" comes before line "9".
     const DesignMarks marks =
-        marksOf(pointsOf({at("9", "a", 0, 100), at("10", "b", 0, 300), at("9", "c", 1000, 0)}));
+        marksOf(pointsOf({{"9", "a", 0, 100}, {"10", "b", 0, 300}, {"9", "c", 1000, 0}}));
     EXPECT_EQ(nameOf(marks, 0, 200, 101), "b");
     EXPECT_EQ(nameOf(marks, 0, 199.9, 101), "a");
     EXPECT_EQ(nameOf(marks, 0, 200, 100), "") << "at the limit is outside";
@@ -96,8 +87,8 @@ TEST(MarkTableNearest, FindsWhatALookAtEveryPointFinds)
     std::uniform_int_distribution<int> coarse(0, 60); // many ties
     DesignPoints points;
     for (int i = 0; i < 2000; ++i)
-        points.set(at(std::to_string(i % 17).c_str(), std::to_string(i).c_str(), coarse(random),
-                      coarse(random)));
+        points.set({std::to_string(i % 17), std::to_string(i), double(coarse(random)),
+                    double(coarse(random))});
     const DesignMarks marks = marksOf(points);
     for (int i = 0; i < 500; ++i) {
         const double north = coarse(random) + 0.5;
@@ -120,8 +111,8 @@ TEST(MarkTableNearest, FindsWhatALookAtEveryPointFinds)
 TEST(MarkTableFind, FindsTheFirstOfThatNameWithItsLine)
 {
     DesignPoints points = TestSurvey().design(3, 200, 1);
-    points.set(at("0999", "10021077", 1, 2));
-    points.set(at("9", "broken", kNaN, 2));
+    points.set({"0999", "10021077", 1, 2});
+    points.set({"9", "broken", kNaN, 2});
     const DesignMarks marks = marksOf(points);
     const MarkTable& table = marks.table();
     ASSERT_EQ(table.lines().size(), 4U) << "a line of broken points is none";

@@ -1,6 +1,7 @@
 #include "tests/map/PlainPictures.h"
 
 #include "map/PictureFrame.h"
+#include "tests/support/Literals.h"
 
 #include <QPainter>
 
@@ -33,9 +34,8 @@ void paintDesignPoint(const DesignPoint& point, const QPointF& place, bool isLab
     if (!isLabelled)
         return;
     painter.drawText(place + QPointF(0, -10), text(point.pointNumber));
-    painter.drawText(
-        place + QPointF(0, 10),
-        QStringLiteral("(%1, %2)").arg(point.north, 0, 'f', 1).arg(point.east, 0, 'f', 1));
+    painter.drawText(place + QPointF(0, 10),
+                     "(%1, %2)"_q.arg(point.north, 0, 'f', 1).arg(point.east, 0, 'f', 1));
 }
 
 } // namespace
@@ -107,7 +107,7 @@ void paintSurveyPlainly(const SurveyPoints& points, const PictureFrame& frame, Q
                 painter.setBrush(Qt::blue);
                 painter.drawEllipse(b, 2, 2);
                 if (!isLabelled[base])
-                    painter.drawText(b + QPointF(14, 4), QStringLiteral("Base-%1").arg(base + 1));
+                    painter.drawText(b + QPointF(14, 4), "Base-%1"_q.arg(base + 1));
                 isLabelled[base] = true;
             }
             if (isFirst) {

@@ -8,6 +8,7 @@
 #include "tests/project/OrdinaryUser.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
@@ -23,22 +24,6 @@ protected:
         ProgressReporter progress(&events);
         return writeDesignDatabase(to, {project.design, lines, onlyUnsurveyed},
                                    project.coordParameters, progress);
-    }
-    /// The rows of a table, in their order.
-    [[nodiscard]] static std::string rows(const QString& path, const char* table)
-    {
-        DBAdapter database;
-        EXPECT_TRUE(database.open(lum::databaseConnection(path.toStdString()).c_str()))
-            << database.lastError();
-        std::string all;
-        database.forEachRow((std::string("select * from ") + table).c_str(),
-                            [&](const IDictionary& row) {
-                                for (std::size_t i = 0; i < row.size(); ++i)
-                                    all += std::string(row.valueAt(i)) + '|';
-                                all += '\n';
-                                return true;
-                            });
-        return all;
     }
     [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files); }
 
@@ -57,20 +42,18 @@ TEST_F(DesignDatabase, HoldsTheRowsThatASaveWrites)
     ASSERT_TRUE(makeDatabase(saved.toStdString()));
     project.survey.clear();
     expectDone(project.save(saved.toStdString()));
-    expectDone(
-        write(path, {QStringLiteral("1000"), QStringLiteral("1001"), QStringLiteral("1002")}));
+    expectDone(write(path, {"1000"_q, "1001"_q, "1002"_q}));
     for (const char* table : {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem"})
-        EXPECT_EQ(rows(path, table), rows(saved, table)) << table;
+        EXPECT_EQ(rowsOf(path.toStdString(), table), rowsOf(saved.toStdString(), table)) << table;
     EXPECT_EQ(files().size(), 2) << "nothing beside it";
 }
 
 TEST_F(DesignDatabase, LinesComeInTheOrderOfTheListWithProgress)
 {
     const EventLog heard(events, events::kProgress);
-    const QStringList lines{QStringLiteral("1001"), QStringLiteral("none"), QStringLiteral("1002"),
-                            QStringLiteral("1000"), QStringLiteral("none")};
+    const QStringList lines{"1001"_q, "none"_q, "1002"_q, "1000"_q, "none"_q};
     expectDone(write(path, lines, true)); // line 1001 is surveyed
-    const std::string written = rows(path, "SurveyLineItem");
+    const std::string written = rowsOf(path.toStdString(), "SurveyLineItem");
     EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 6000);
     EXPECT_EQ(written.find("1002|"), 0U);
     EXPECT_LT(written.rfind("1002|10027999"), written.find("1000|1000"));
@@ -83,7 +66,7 @@ TEST_F(DesignDatabase, LinesComeInTheOrderOfTheListWithProgress)
 TEST_F(DesignDatabase, WhatCannotBeWrittenStaysAsItWas)
 {
     folder.write("测 区.db", "old");
-    const QStringList lines{QStringLiteral("1000"), QStringLiteral("1002")};
+    const QStringList lines{"1000"_q, "1002"_q};
     for (const rlim_t kilobytes : {1U, 30U, 100U, 300U}) {
         const SmallFiles limit(kilobytes * 1024);
         expectFailure(write(path, lines), path.toUtf8());
@@ -103,15 +86,15 @@ TEST_F(DesignDatabase, WhatCannotBeWrittenStaysAsItWas)
 TEST_F(DesignDatabase, NothingIsLeftOfTheDatabaseBefore)
 {
     for (const char* ending : {"", "-journal", "-wal", "-shm", ".saved"})
-        folder.write(QStringLiteral("测 区.db") + QLatin1String(ending), QByteArray(9000, 'x'));
-    expectDone(write(path, {QStringLiteral("1000")}));
+        folder.write("测 区.db"_q + QLatin1String(ending), QByteArray(9000, 'x'));
+    expectDone(write(path, {"1000"_q}));
     EXPECT_EQ(files().size(), 1);
     expectDone(TestProject().load(path.toStdString()));
 }
 
 TEST_F(DesignDatabase, AProjectInUseIsNotReplaced)
 {
-    const ProjectPlace place = ProjectPlace::in(folder.path(), QStringLiteral("测 区"));
+    const ProjectPlace place = ProjectPlace::in(folder.path(), "测 区"_q);
     folder.write("测 区.kelx", "");
     folder.write("测 区.db", "in use");
     ProjectLock lock;

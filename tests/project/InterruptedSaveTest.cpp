@@ -1,5 +1,6 @@
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
+#include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
 
 #include <sys/wait.h>
@@ -69,7 +70,7 @@ TEST(InterruptedSave, LosesNoPoint)
         const std::string mark = markOf(found);
         ASSERT_TRUE(mark == "one" || mark == "two") << "half a save at " << patience.count();
         ASSERT_TRUE(!isSaved || (mark == "two") == (present == 0)) << "a finished save is lost";
-        interrupted += loading.text().contains(QStringLiteral("interrupted")) ? 1 : 0;
+        interrupted += loading.text().contains("interrupted"_q) ? 1 : 0;
         expectDone(found.load(path)); // which was told once
         present = mark == "two" ? 1 : 0;
     }

@@ -6,6 +6,7 @@
 #include "protocol/Events.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 
 #include <gtest/gtest.h>
 
@@ -99,7 +100,7 @@ TEST_F(PointCorrection, ANewNameMovesTheResultAndReplacesTheOneThere)
     SurveyCorrection correction;
     correction.lineNumber = "R2";
     EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), nullptr);
-    correction.pointNumber = "2";
+    correction.pointNumber = " 2 ";
     EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), points.find("R2", "2"));
     correction.remarks = "by hand ";
     EXPECT_EQ(correct({"R1", "1"}, correction), 1);
@@ -165,7 +166,7 @@ TEST_F(PointCorrection, FaultsAreToldAndChangeNothing)
     EXPECT_EQ(correct({"R1", "10012034"}, name("", "")), 0);
     EXPECT_EQ(outcome.kind(), Outcome::Kind::Refused);
     EXPECT_EQ(correct({"R1", "gone"}, {}), 0);
-    EXPECT_TRUE(outcome.text().contains(QStringLiteral("gone")));
+    EXPECT_TRUE(outcome.text().contains("gone"_q));
     EXPECT_FALSE(manager.isChanged());
 }
 

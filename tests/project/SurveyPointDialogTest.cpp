@@ -1,16 +1,13 @@
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/Host.h"
-#include "project/DataProcessDataManager.h"
 #include "project/ui/DlgSurveyPoint.h"
-#include "tests/project/TestProject.h"
+#include "tests/project/OpenProject.h"
+#include "tests/support/Boxes.h"
 #include "tests/support/Literals.h"
+#include "tests/support/Points.h"
 
 #include <QtTest>
 
 #include <memory>
-
-using Button = LumMessageBox::Button;
 
 /// The editor of a survey result, by keys and mouse.
 class SurveyPointDialogTest : public QObject
@@ -18,15 +15,127 @@ class SurveyPointDialogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        QLocale::setDefault(QLocale(QLocale::German));
+        m_project.emplace();
+        m_boxes.emplace();
+        SurveyPoint& point = m_project->results().set(surveyPoint("R1", "1", "dry"));
+        point.antennaHeight = 2;
+        point.elevation = 123.4567;
+        m_project->results().set(surveyPoint("R2", "2", "another"));
+    }
     void cleanup() { m_dialog.reset(); }
-    void aHigherPoleLowersTheHeightsAndSaysByHowMuch();
-    void whatItRefusesHasAReasonAndTheFocus();
-    void aCommaIsNeverReadAsNothing();
-    void asksBeforeItReplacesAResult();
-    void aNameWithBlanksIsTakenWithoutThem();
-    void withoutAChangeNothingHappens();
-    void aResultThatIsGoneIsTold();
+    void aHigherPoleLowersTheHeightsAndSaysByHowMuch()
+    {
+        open("R1", "1");
+        auto* const moves = m_dialog->findChild<QCheckBox*>();
+        QVERIFY(moves->isChecked() && !moves->isEnabled());
+        type(2, "2.2"_q);
+        QVERIFY(moves->isEnabled() && says("123.4567 → 123.2567"_q));
+        QTest::mouseClick(moves, Qt::LeftButton, {}, {5, moves->height() / 2});
+        QVERIFY(!says("→"_q));
+        QTest::mouseClick(moves, Qt::LeftButton, {}, {5, moves->height() / 2});
+        type(3, "at the fence"_q);
+        pressEnter();
+        QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+        QCOMPARE(find("R1", "1")->elevation, 123.2567);
+        QCOMPARE(find("R1", "1")->remarks, std::string("at the fence"));
+
+        open("R1", "1");
+        type(2, "2"_q);
+        QTest::mouseClick(m_dialog->findChild<QCheckBox*>(), Qt::LeftButton, {}, {5, 5});
+        pressEnter();
+        QCOMPARE(find("R1", "1")->elevation, 123.2567);
+        QCOMPARE(find("R1", "1")->antennaHeight, 2.0);
+    }
+
+    void whatItRefusesHasAReasonAndTheFocus()
+    {
+        open("R1", "1");
+        const QList<std::pair<int, QString>> bad{
+            {0, {}}, {0, "R,1"_q},    {1, "  "_q},  {1, "\"1\""_q},   {2, "ten"_q},
+            {2, {}}, {2, "10.001"_q}, {2, "-11"_q}, {2, "1.80001"_q}, {3, "dry, stony"_q}};
+        for (const auto& [index, text] : bad) {
+            const QString before = field(index)->text();
+            type(index, text);
+            field(index == 0 ? 1 : 0)->setFocus();
+            pressEnter();
+            QCOMPARE(m_boxes->told(), QStringList("Error|Input Correct Param!"_q));
+            QVERIFY(!m_boxes->last.details.isEmpty());
+            QVERIFY2(field(index)->hasFocus(), qPrintable(text));
+            QVERIFY(m_dialog->isVisible());
+            type(index, before);
+        }
+        QVERIFY(!m_project->manager->isChanged());
+    }
+
+    void aCommaIsNeverReadAsNothing()
+    {
+        open("R1", "1");
+        type(2, "1,8"_q);
+        pressEnter();
+        QCOMPARE(find("R1", "1")->antennaHeight, 1.8);
+        QLocale::setDefault(QLocale(QLocale::English));
+        open("R1", "1");
+        type(2, "1,9"_q);
+        pressEnter();
+        QCOMPARE(find("R1", "1")->antennaHeight, 1.9);
+        for (const QString& bad : {"1,8,0"_q, "1,800.0"_q, "1 8"_q}) {
+            open("R1", "1");
+            type(2, bad);
+            pressEnter();
+            QCOMPARE(m_boxes->told(), QStringList("Error|Input Correct Param!"_q));
+            QCOMPARE(find("R1", "1")->antennaHeight, 1.9);
+        }
+    }
+
+    void asksBeforeItReplacesAResult()
+    {
+        m_project->results().find("R2", "2")->surveyor = "Wang";
+        open("R1", "1");
+        type(0, "R2"_q);
+        type(1, "2"_q);
+        pressEnter();
+        QCOMPARE(m_boxes->told(), QStringList("Warning|New Point Name Exist, Want to Overload?"_q));
+        for (const char* part : {"R2", "point 2", "1970/01/01 08:00:00", "Wang"})
+            QVERIFY2(m_boxes->last.details.contains(QString::fromUtf8(part)), part);
+        QVERIFY(m_dialog->isVisible() && !m_project->manager->isChanged());
+        m_boxes->answer = Boxes::Button::Yes;
+        pressEnter();
+        QVERIFY((m_dialog->point() == PointName{"R2", "2"}));
+        QCOMPARE(find("R2", "2")->remarks, std::string("dry"));
+        QVERIFY(m_project->results().findLine("R1") == nullptr);
+    }
+
+    void withoutAChangeNothingHappens()
+    {
+        m_project->results().set(surveyPoint("R3", "C10012034_4", "from, a database"));
+        open("R3", "C10012034_4");
+        QCOMPARE(field(1)->text(), "C10012034"_q);
+        type(3, "from, a database "_q);
+        pressEnter();
+        QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
+        QVERIFY(!m_dialog->isVisible() && !m_project->manager->isChanged());
+        open("R1", "1");
+        type(0, "R9"_q);
+        QTest::keyClick(field(0), Qt::Key_Escape);
+        QVERIFY(!m_dialog->isVisible() && find("R1", "1") != nullptr);
+        QCOMPARE(m_boxes->told(), QStringList());
+    }
+
+    void aResultThatIsGoneIsTold()
+    {
+        open("R1", "1");
+        type(3, "too late"_q);
+        m_project->results().erase("R1", "1");
+        pressEnter();
+        QCOMPARE(m_boxes->last.title, "Error"_q);
+        QVERIFY(m_boxes->last.text.contains("R1"_q));
+        QVERIFY(!m_dialog->isVisible() && m_dialog->result() == QDialog::Rejected);
+        open("R1", "1");
+        QVERIFY(!field(0)->isEnabled() && says("no point 1"_q));
+    }
 
 private:
     void open(const char* line, const char* number)
@@ -58,155 +167,13 @@ private:
     }
     const SurveyPoint* find(const char* line, const char* number)
     {
-        return m_manager->surveyPoints().find(line, number);
+        return m_project->results().find(line, number);
     }
 
-    Host m_host;
-    std::unique_ptr<DataProcessDataManager> m_manager;
+    std::optional<OpenProject> m_project;
+    std::optional<Boxes> m_boxes;
     std::unique_ptr<DlgSurveyPoint> m_dialog;
-    QStringList m_told;
-    Button m_answer = Button::Ok;
-    LumMessageBox::Responder m_responder{[this](const auto& message) {
-        m_told << message.title << message.text << message.details;
-        return message.buttons.testFlag(Button::No) ? m_answer : Button::Ok;
-    }};
 };
-
-void SurveyPointDialogTest::init()
-{
-    QLocale::setDefault(QLocale(QLocale::German));
-    m_told.clear();
-    m_manager.reset(); // the next one becomes the instance
-    m_manager = std::make_unique<DataProcessDataManager>(&m_host);
-    SurveyPoint point = surveyPoint("R1", "1", "dry");
-    point.antennaHeight = 2;
-    point.elevation = 123.4567;
-    m_manager->surveyPoints().set(point);
-    m_manager->surveyPoints().set(surveyPoint("R2", "2", "another"));
-}
-
-void SurveyPointDialogTest::aHigherPoleLowersTheHeightsAndSaysByHowMuch()
-{
-    open("R1", "1");
-    auto* const moves = m_dialog->findChild<QCheckBox*>();
-    QVERIFY(moves->isChecked() && !moves->isEnabled());
-    type(2, "2.2"_q);
-    QVERIFY(moves->isEnabled() && says("123.4567 → 123.2567"_q));
-    QTest::mouseClick(moves, Qt::LeftButton, {}, {5, moves->height() / 2});
-    QVERIFY(!says("→"_q));
-    QTest::mouseClick(moves, Qt::LeftButton, {}, {5, moves->height() / 2});
-    type(3, "at the fence"_q);
-    pressEnter();
-    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
-    QCOMPARE(find("R1", "1")->elevation, 123.2567);
-    QCOMPARE(find("R1", "1")->remarks, std::string("at the fence"));
-
-    open("R1", "1");
-    type(2, "2"_q);
-    QTest::mouseClick(m_dialog->findChild<QCheckBox*>(), Qt::LeftButton, {}, {5, 5});
-    pressEnter();
-    QCOMPARE(find("R1", "1")->elevation, 123.2567);
-    QCOMPARE(find("R1", "1")->antennaHeight, 2.0);
-}
-
-void SurveyPointDialogTest::whatItRefusesHasAReasonAndTheFocus()
-{
-    open("R1", "1");
-    const QList<std::pair<int, QString>> bad{
-        {0, {}}, {0, "R,1"_q},    {1, "  "_q},  {1, "\"1\""_q},   {2, "ten"_q},
-        {2, {}}, {2, "10.001"_q}, {2, "-11"_q}, {2, "1.80001"_q}, {3, "dry, stony"_q}};
-    for (const auto& [index, text] : bad) {
-        const QString before = field(index)->text();
-        m_told.clear();
-        type(index, text);
-        field(index == 0 ? 1 : 0)->setFocus();
-        pressEnter();
-        QCOMPARE(m_told.mid(0, 2), (QStringList{"Error"_q, "Input Correct Param!"_q}));
-        QVERIFY(!m_told.last().isEmpty());
-        QVERIFY2(field(index)->hasFocus(), qPrintable(text));
-        QVERIFY(m_dialog->isVisible());
-        type(index, before);
-    }
-    QVERIFY(!m_manager->isChanged());
-}
-
-void SurveyPointDialogTest::aCommaIsNeverReadAsNothing()
-{
-    open("R1", "1");
-    type(2, "1,8"_q);
-    pressEnter();
-    QCOMPARE(find("R1", "1")->antennaHeight, 1.8);
-    QLocale::setDefault(QLocale(QLocale::English));
-    open("R1", "1");
-    type(2, "1,9"_q);
-    pressEnter();
-    QCOMPARE(find("R1", "1")->antennaHeight, 1.9);
-    for (const QString& bad : {"1,8,0"_q, "1,800.0"_q, "1 8"_q}) {
-        open("R1", "1");
-        type(2, bad);
-        pressEnter();
-        QCOMPARE(m_told.value(1), "Input Correct Param!"_q);
-        QCOMPARE(find("R1", "1")->antennaHeight, 1.9);
-    }
-}
-
-void SurveyPointDialogTest::asksBeforeItReplacesAResult()
-{
-    m_manager->surveyPoints().find("R2", "2")->surveyor = "Wang";
-    open("R1", "1");
-    type(0, "R2"_q);
-    type(1, "2"_q);
-    m_answer = Button::No;
-    pressEnter();
-    QCOMPARE(m_told.mid(0, 2),
-             (QStringList{"Warning"_q, "New Point Name Exist, Want to Overload?"_q}));
-    for (const char* part : {"R2", "point 2", "1970/01/01 08:00:00", "Wang"})
-        QVERIFY2(m_told.last().contains(QString::fromUtf8(part)), part);
-    QVERIFY(m_dialog->isVisible() && !m_manager->isChanged());
-    m_answer = Button::Yes;
-    pressEnter();
-    QVERIFY((m_dialog->point() == PointName{"R2", "2"}));
-    QCOMPARE(find("R2", "2")->remarks, std::string("dry"));
-    QVERIFY(m_manager->surveyPoints().findLine("R1") == nullptr);
-}
-
-void SurveyPointDialogTest::aNameWithBlanksIsTakenWithoutThem()
-{
-    open("R1", "1");
-    type(1, " a 3% "_q);
-    pressEnter();
-    QVERIFY(find("R1", "a 3%") != nullptr);
-    QCOMPARE(m_told, QStringList());
-}
-
-void SurveyPointDialogTest::withoutAChangeNothingHappens()
-{
-    m_manager->surveyPoints().set(surveyPoint("R3", "C10012034_4", "from, a database"));
-    open("R3", "C10012034_4");
-    QCOMPARE(field(1)->text(), "C10012034"_q);
-    type(3, "from, a database "_q);
-    pressEnter();
-    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
-    QVERIFY(!m_dialog->isVisible() && !m_manager->isChanged());
-    open("R1", "1");
-    type(0, "R9"_q);
-    QTest::keyClick(field(0), Qt::Key_Escape);
-    QVERIFY(!m_dialog->isVisible() && find("R1", "1") != nullptr);
-    QCOMPARE(m_told, QStringList());
-}
-
-void SurveyPointDialogTest::aResultThatIsGoneIsTold()
-{
-    open("R1", "1");
-    type(3, "too late"_q);
-    m_manager->surveyPoints().erase("R1", "1");
-    pressEnter();
-    QCOMPARE(m_told.value(0), "Error"_q);
-    QVERIFY(m_told.value(1).contains("R1"_q));
-    QVERIFY(!m_dialog->isVisible() && m_dialog->result() == QDialog::Rejected);
-    open("R1", "1");
-    QVERIFY(!field(0)->isEnabled() && says("no point 1"_q));
-}
 
 QTEST_MAIN(SurveyPointDialogTest)
 #include "SurveyPointDialogTest.moc"

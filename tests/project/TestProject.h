@@ -6,18 +6,9 @@
 #include "project/DBAdapter.h"
 #include "project/ProjectLoader.h"
 #include "project/ProjectSaver.h"
+#include "tests/support/Points.h"
 
 #include <QFile>
-
-inline SurveyPoint surveyPoint(const std::string& line, const std::string& number,
-                               const std::string& remarks = {})
-{
-    SurveyPoint point;
-    point.lineNumber = line;
-    point.pointNumber = number;
-    point.remarks = remarks;
-    return point;
-}
 
 /// A project in memory, and how it is loaded and saved by itself.
 struct TestProject
@@ -75,4 +66,20 @@ inline bool makeDatabase(const std::string& path)
     return QFile::copy(QStringLiteral(TEMPLATE_DATABASE), QString::fromStdString(path)) &&
            QFile::setPermissions(QString::fromStdString(path),
                                  QFile::ReadOwner | QFile::WriteOwner);
+}
+
+/// The rows of a table of the database at `path`, in their order.
+inline std::string rowsOf(const std::string& path, const std::string& table)
+{
+    DBAdapter database;
+    if (!database.open(lum::databaseConnection(path).c_str()))
+        return database.lastError();
+    std::string all;
+    database.forEachRow(("select * from " + table).c_str(), [&](const IDictionary& row) {
+        for (std::size_t i = 0; i < row.size(); ++i)
+            all += std::string(row.valueAt(i)) + '|';
+        all += '\n';
+        return true;
+    });
+    return all;
 }

@@ -159,8 +159,9 @@ private Q_SLOTS:
         QVERIFY2(chinese.isEmpty(), qUtf8Printable(chinese.join(QLatin1Char('\n'))));
     }
 
-    /// Texts that no catalogue can reach. The captions of registered components are for tools, and
-    /// angles are typed in Chinese, too.
+    /// Texts that no catalogue can reach. The captions of registered components are for tools,
+    /// angles are typed in Chinese, too, and the workbook of a comparison is Chinese in any
+    /// language.
     void noChineseInTheCodePassesTheCataloguesBy()
     {
         QSet<QString> known;
@@ -175,7 +176,8 @@ private Q_SLOTS:
                 const QString path = files.next();
                 if (path.endsWith(QLatin1String("Components.cpp")) ||
                     path.endsWith(QLatin1String("/RegistrationTable.cpp")) ||
-                    path.endsWith(QLatin1String("/AngleInput.cpp")))
+                    path.endsWith(QLatin1String("/AngleInput.cpp")) ||
+                    path.endsWith(QLatin1String("/CoordCompareWorkbook.cpp")))
                     continue;
                 for (const QByteArray& line : TestFolder::read(path).split('\n')) {
                     const QString code = QString::fromUtf8(line);

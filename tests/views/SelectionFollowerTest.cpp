@@ -1,90 +1,49 @@
 #include "views/SelectionFollower.h"
 
-#include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Transform.h"
-#include "project/DataProcessDataManager.h"
-#include "project/ILineList.h"
-#include "project/IPointList.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
-#include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/project/NotingWindow.h"
+#include "tests/project/OpenProject.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/Points.h"
 
 #include <QtTest>
 
-#include <memory>
-
 namespace {
 
-/// A table and a tree in one, which note what they are told. The table announces what it shows, as
-/// one that mixes up following and selecting would.
-class NotingWindow final : public IWindow, public IPointList, public ILineList
-{
-public:
-    NotingWindow(IEventManager& events, const char* event) : m_events(events), m_event(event) {}
-
-    QWidget* widget() override { return nullptr; }
-    IDictionary& parameters() override { return m_parameters; }
-    bool selectPoint(const QString& /*line*/, const QString& /*point*/) override { return false; }
-    bool followPoint(const QString& line, const QString& point) override
-    {
-        told << line + QLatin1Char('/') + point;
-        m_events.publish(m_event, payload::selectedPoint(point, line).constData(), 0);
-        return true;
-    }
-    void deselect() override { told << "nothing"_q; }
-    void followLine(const QString& line) override { told << line; }
-
-    QStringList told;
-
-private:
-    IEventManager& m_events;
-    const char* m_event;
-    basalt::Dictionary m_parameters;
-};
-
-/// The windows of the working place around a follower.
-struct Place
+/// The windows of the working place around a follower. The tables announce what they show, as
+/// tables that mix up following and selecting would.
+struct Place : OpenProject
 {
     Place()
     {
-        get_system_status_dictionary().clear();
         map.resize(400, 300);
-        windows = {{"DataMap"_q, &map},
-                   {"Survey Data List"_q, &surveyTable},
-                   {"Design Data List"_q, &designTable},
-                   {"Survey Lines"_q, &surveyTree},
-                   {"Design Lines"_q, &designTree}};
-        SurveyPoint result;
-        result.lineNumber = "线 1, \"a\"";
-        result.pointNumber = "7_0";
+        host.windowRegistry.windows = {{"DataMap"_q, &map},
+                                       {"Survey Data List"_q, &surveyTable},
+                                       {"Design Data List"_q, &designTable},
+                                       {"Survey Lines"_q, &surveyTree},
+                                       {"Design Lines"_q, &designTree}};
+        surveyTable.onFollow = [this](auto&&...) { selectResult(); };
+        designTable.onFollow = [this](auto&&...) { selectDesigned(); };
+        SurveyPoint& result = results().set(surveyPoint("线 1, \"a\"", "7_0"));
         result.north = 4000;
         result.east = 3000;
-        manager.surveyPoints().set(result);
-        DesignPoint design;
-        design.lineNumber = "1001";
-        design.pointNumber = "10015001";
-        design.north = 100;
-        design.east = 50;
-        manager.designPoints().set(design);
+        design().set({"1001", "10015001", 100, 50});
     }
 
     void select(const char* event, const QString& line, const QString& point)
     {
-        host.events.publish(event, payload::selectedPoint(point, line).constData(), 0);
+        publish(event, payload::selectedPoint(point, line));
     }
+    void selectResult() { select(events::kSurveyPointSelected, "线 1, \"a\""_q, "7_0"_q); }
+    void selectDesigned() { select(events::kDesignPointSelected, "1001"_q, "10015001"_q); }
 
-    TestHost host;
-    DataProcessDataManager manager{&host};
     MapWindow map{"name=DataMap", &host};
-    NotingWindow surveyTable{host.events, events::kSurveyPointSelected};
-    NotingWindow designTable{host.events, events::kDesignPointSelected};
-    NotingWindow surveyTree{host.events, events::kSurveyPointSelected};
-    NotingWindow designTree{host.events, events::kDesignPointSelected};
-    QHash<QString, IWindow*>& windows = host.windowRegistry.windows;
+    NotingWindow surveyTable, designTable, surveyTree, designTree;
     SelectionFollower follower{host};
 };
 
@@ -99,20 +58,20 @@ private Q_SLOTS:
     {
         Place place;
         EventLog log(place.host.events, "ON_SURVEY_POINT_SELECTED,ON_DESIGN_POINT_SELECTED");
-        place.select(events::kSurveyPointSelected, "线 1, \"a\""_q, "7_0"_q);
-        QCOMPARE(place.surveyTable.told, QStringList("线 1, \"a\"/7_0"_q));
-        QCOMPARE(place.surveyTree.told, QStringList("线 1, \"a\""_q));
+        place.selectResult();
+        QCOMPARE(place.surveyTable.followed, QStringList("线 1, \"a\"/7_0"_q));
+        QCOMPARE(place.surveyTree.followed, QStringList("线 1, \"a\""_q));
         QCOMPARE(place.map.transform().center(), QPointF(3000, 4000));
         QCOMPARE(log.events.size(), 2U); // the selection, and what the table makes of it
-        QCOMPARE(place.designTable.told, QStringList("nothing"_q)); // it had another point's row
-        QVERIFY(place.designTree.told.isEmpty());
+        QCOMPARE(place.designTable.followed, QStringList("nothing"_q)); // it had another row
+        QVERIFY(place.designTree.followed.isEmpty());
 
-        place.select(events::kDesignPointSelected, "1001"_q, "10015001"_q);
-        QCOMPARE(place.designTable.told.last(), "1001/10015001"_q);
-        QCOMPARE(place.designTree.told, QStringList("1001"_q));
+        place.selectDesigned();
+        QCOMPARE(place.designTable.followed.last(), "1001/10015001"_q);
+        QCOMPARE(place.designTree.followed, QStringList("1001"_q));
         QCOMPARE(place.map.transform().center(), QPointF(50, 100));
-        QCOMPARE(place.surveyTable.told.last(), "nothing"_q);
-        QCOMPARE(place.surveyTree.told.size(), 1); // its table still shows that line
+        QCOMPARE(place.surveyTable.followed.last(), "nothing"_q);
+        QCOMPARE(place.surveyTree.followed.size(), 1); // its table still shows that line
         QCOMPARE(place.host.windowRegistry.revealed,
                  QStringList(
                      {"Survey Data List beside DataMap"_q, "Design Data List beside DataMap"_q}));
@@ -126,12 +85,12 @@ private Q_SLOTS:
             const QImage picture = place.map.grab().toImage();
             return picture.pixelColor(picture.rect().center()) != QColor(Qt::white);
         };
-        place.select(events::kSurveyPointSelected, "线 1, \"a\""_q, "7_0"_q);
-        place.manager.designPoints().clear();
-        place.host.events.publish(events::kRefreshDesignLayer, nullptr, 0);
+        place.selectResult();
+        place.design().clear();
+        place.publish(events::kRefreshDesignLayer);
         QVERIFY(hasMark());
-        place.manager.surveyPoints().clear();
-        place.host.events.publish(events::kRefreshSurveyLayer, nullptr, 0);
+        place.results().clear();
+        place.publish(events::kRefreshSurveyLayer);
         QVERIFY(!hasMark());
     }
 
@@ -139,27 +98,22 @@ private Q_SLOTS:
     {
         Place place;
         place.select(events::kSurveyPointSelected, "1001"_q, "10015001"_q); // a design point
-        place.host.events.publish(events::kDesignPointSelected, nullptr, 0);
-        QVERIFY(place.surveyTable.told.isEmpty() && place.designTable.told.isEmpty());
+        place.publish(events::kDesignPointSelected);
+        QVERIFY(place.surveyTable.followed.isEmpty() && place.designTable.followed.isEmpty());
         QVERIFY(place.host.windowRegistry.revealed.isEmpty());
         QCOMPARE(place.map.transform().center(), QPointF(0, 0));
-        place.host.events.publish(events::kStationPointSelected, "stationId=0", 0);
-        QCOMPARE(place.surveyTable.told, QStringList("nothing"_q)); // a station is in no table
-        QCOMPARE(place.designTable.told, QStringList("nothing"_q));
+        place.publish(events::kStationPointSelected, "stationId=0");
+        QCOMPARE(place.surveyTable.followed, QStringList("nothing"_q)); // it is in no table
+        QCOMPARE(place.designTable.followed, QStringList("nothing"_q));
 
-        place.windows.remove("Survey Data List"_q);
-        place.windows.remove("Survey Lines"_q);
-        place.select(events::kSurveyPointSelected, "线 1, \"a\""_q, "7_0"_q);
+        place.host.windowRegistry.windows.remove("Survey Data List"_q);
+        place.host.windowRegistry.windows.remove("Survey Lines"_q);
+        place.selectResult();
         QCOMPARE(place.map.transform().center(), QPointF(3000, 4000));
-    }
-
-    void theEndOfTheManagerIsSurvived()
-    {
-        TestHost host;
-        auto manager = std::make_unique<DataProcessDataManager>(&host);
-        const SelectionFollower follower(host);
-        manager.reset();
-        host.events.publish(events::kSurveyPointSelected, "pointName=1,lineName=1", 0);
+        place.manager.reset(); // at the program's end
+        const LogCapture log;
+        place.selectResult();
+        QCOMPARE(log.text(), std::string()); // what a handler throws would be logged
     }
 };
 

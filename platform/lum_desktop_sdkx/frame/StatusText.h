@@ -6,6 +6,8 @@
 /// the whole.
 class StatusText final : public QWidget
 {
+    Q_OBJECT
+
 public:
     using QWidget::QWidget;
 

@@ -278,10 +278,13 @@ void WindowRegistry::clear()
 {
     while (!m_entries.empty()) { // the last one first: a window may use those opened before it
         Entry& last = m_entries.back();
-        if (last.dock != nullptr)
+        if (last.dock != nullptr) {
             last.dock->takeWidget();
-        else
+            if (last.dock->parent() == nullptr) // a reset took it from a dock that was opened later
+                last.dock->setParent(m_docks);
+        } else {
             m_statusBar->removeWidget(last.window->widget());
+        }
         last.window->widget()->setParent(nullptr);
         m_entries.pop_back();
     }

@@ -1,6 +1,8 @@
 #include "lum_desktop_sdkx/controls/PropertyGridModel.h"
 
 #include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/controls/PropertyGridInput.h"
+#include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 #include "tests/support/Literals.h"
 
 #include <QAbstractItemModelTester>
@@ -25,6 +27,16 @@ PropertyGridLayout layout(const QByteArray& xml = kGrid)
     const QString fault = readPropertyGridLayout(xml, result);
     Q_ASSERT_X(fault.isEmpty(), "layout", qPrintable(fault));
     return result;
+}
+
+QByteArray inGrid(const QByteArray& rows)
+{
+    return "<property_grid>\n<group caption=\"G\">\n" + rows + "\n</group>\n</property_grid>\n";
+}
+
+PropertyGridRow rowOf(const QByteArray& xml)
+{
+    return layout(inGrid(xml)).groups.front().rows.front();
 }
 
 /// A model of a grid with the values of a key list.
@@ -54,6 +66,100 @@ class PropertyGridModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale(QLocale::German)); }
+
+    void refusesWhatItCannotRead()
+    {
+        const auto check = [](const QByteArray& xml, const QByteArray& fault) {
+            PropertyGridLayout layout;
+            layout.groups.push_back({"before"_q, {}});
+            const QString found = readPropertyGridLayout(xml, layout);
+            QVERIFY2(found.startsWith(QString::fromUtf8(fault)), qPrintable(found));
+            QCOMPARE(layout.groups.size(), std::size_t(1));
+            QCOMPARE(layout.groups[0].caption, "before"_q);
+        };
+        check("", "line 1:");
+        check("<property_grid>\n<group caption='G'>\n<row key='a' caption='A'", "line 3:");
+        check("<property_grid>\n<group caption='G'></property_grid>", "line 2:");
+        check("<property_grid/>\n<more/>", "line 2:");
+        check("<dictionary/>", "line 1: <dictionary> where <property_grid> is wanted");
+        check("<property_grid>\n<row key='a' caption='A'/></property_grid>",
+              "line 2: <row> where <group> is wanted");
+        check(inGrid("<row caption='A'/>"), "line 3: <row> without key");
+        check(inGrid("<row key='a'/>"), "line 3: <row> without caption");
+        const std::pair<QByteArray, QByteArray> rows[] = {
+            {"/>\n<row key='a' caption='B'/>", "the key \"a\" is given twice"},
+            {"editor='slider'/>", "unknown editor \"slider\""},
+            {"editor='number' mim='1'/>", "unknown attribute \"mim\" of <row>"},
+            {"editor='number' min='0,5'/>", "min=\"0,5\" is no number"},
+            {"editor='number' max='inf'/>", "max=\"inf\" is no number"},
+            {"editor='number' min='2' max='1'/>", "min is above max"},
+            {"editor='number' decimals='1.5'/>", "decimals=\"1.5\" is no count"},
+            {"editor='number' letters='NS'/>", "letters=\"NS\" is neither NS nor EW of an angle"},
+            {"max='1'/>", "limits on a row"},
+            {"editor='choice'/>", "a choice row without <choice>"},
+            {"><choice value='1' caption='x'/></row>", "<choice> in a row that is no choice"},
+            {"read_only='yes'/>", "read_only=\"yes\" is neither 0 nor 1"}};
+        for (const auto& [row, fault] : rows)
+            check(inGrid("<row key='a' caption='A' " + row),
+                  (row.contains('\n') ? "line 4: " : "line 3: ") + fault);
+    }
+
+    /// For each text, what is stored in German and in English; null when the text is refused.
+    void judgesWhatIsTyped()
+    {
+        const auto check = [](const QByteArray& attributes, const char* typed,
+                              const char* german = nullptr, const char* english = nullptr) {
+            const PropertyGridRow row = rowOf("<row key='k' caption='K' " + attributes + "/>");
+            const std::pair<QLocale, const char*> cases[] = {{QLocale(QLocale::German), german},
+                                                             {QLocale(QLocale::English), english}};
+            for (const auto& [locale, expected] : cases) {
+                QLocale::setDefault(locale);
+                const PropertyGridInput input =
+                    readPropertyGridInput(row, QString::fromUtf8(typed));
+                QVERIFY2(input.fault.isEmpty() == (expected != nullptr), typed);
+                QVERIFY2(expected == nullptr || input.value == QString::fromUtf8(expected), typed);
+            }
+        };
+        const QByteArray metres = "editor='number' min='0' max='100' decimals='3' unit='m'";
+        check(metres, "0,5", "0.5", "0.5"); // no thousands: the comma is the point
+        check("editor='number' min='0' max='5000'", "0,5", "0.5");
+        check(metres, " 7 ", "7", "7");
+        check(metres, "0", "0", "0");
+        check(metres, "-0.001");
+        check(metres, "100.000", "100.000", "100.000");
+        check(metres, "100.001");
+        check(metres, "0,125", "0.125", "0.125"); // as many decimals as allowed
+        check(metres, "0.1250");                  // one decimal too many
+        check(metres, "");
+        check(metres, "5 m");
+        check("editor='number'", "nan");
+        check("editor='number'", "1e999");
+        check("editor='number'", "1.234,5");
+        check("editor='number'", "1,234,567"); // no grouped thousands
+        check("editor='number'", "4401234.12345678901", "4401234.12345678901",
+              "4401234.12345678901");
+        check("editor='angle' min='-90'", "-89.999999999", "-89.999999999", "-89.999999999");
+        check("editor='integer' min='-5'", "-5", "-5", "-5");
+        check("editor='integer'", "6.0");
+        check("editor='integer'", "99999999999999999999");
+        check("editor='text'", " a, b ", " a, b ", " a, b ");
+    }
+
+    void showsValuesWithTheirDigitsAndUnit()
+    {
+        const auto shown = [](const QByteArray& attributes, const char* value) {
+            return shownPropertyGridValue(rowOf("<row key='k' caption='K' " + attributes),
+                                          QString::fromUtf8(value));
+        };
+        QCOMPARE(shown("editor='number' decimals='1' unit='m'/>", "0.5000"), "0.5000 m"_q);
+        QCOMPARE(shown("editor='angle'/>", "-12.5"), "-12.5°"_q);
+        QCOMPARE(shown("editor='number' unit='m'/>", ""), QString());
+        const QByteArray choice = "editor='choice'><choice value='1' caption='Receiver'/></row>";
+        QCOMPARE(shown(choice, "1"), "Receiver"_q);
+        QCOMPARE(shown(choice, "9"), "9"_q);
+    }
+
     void keepsTheRulesOfAModel()
     {
         PropertyGridModel model;
@@ -135,10 +241,9 @@ private Q_SLOTS:
     void showsAnExponentAsItIsTyped()
     {
         Model model("east=-2.5e+06,a3=1.5e-09,note=2e6",
-                    "<property_grid><group caption='G'>"
-                    "<row key='east' caption='East' editor='number' unit='m'/>"
-                    "<row key='a3' caption='a3' editor='number'/>"
-                    "<row key='note' caption='Note'/></group></property_grid>");
+                    inGrid("<row key='east' caption='East' editor='number' unit='m'/>"
+                           "<row key='a3' caption='a3' editor='number'/>"
+                           "<row key='note' caption='Note'/>"));
         const QModelIndex east = model.cell("east");
         QCOMPARE(east.data().toString(), "-2500000 m"_q);
         QVERIFY(!model.setData(east, east.data(Qt::EditRole), Qt::EditRole));
@@ -152,11 +257,10 @@ private Q_SLOTS:
     void readsAnglesWithMinutesAndSeconds()
     {
         const QByteArray grid =
-            "<property_grid><group caption='G'>"
-            "<row key='lat' caption='Lat' editor='angle' letters='NS' min='-90' max='90'/>"
-            "<row key='lon' caption='Lon' editor='angle' letters='EW' min='-360' max='360'/>"
-            "<row key='turn' caption='Turn' editor='angle'/>"
-            "<row key='len' caption='Length' editor='number'/></group></property_grid>";
+            inGrid("<row key='lat' caption='Lat' editor='angle' letters='NS' min='-90' max='90'/>"
+                   "<row key='lon' caption='Lon' editor='angle' letters='EW' min='-360' max='360'/>"
+                   "<row key='turn' caption='Turn' editor='angle'/>"
+                   "<row key='len' caption='Length' editor='number'/>");
         const struct
         {
             const char* row;

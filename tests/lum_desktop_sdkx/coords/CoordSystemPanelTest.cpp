@@ -10,7 +10,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include <algorithm>
 #include <memory>
 
 namespace {
@@ -24,12 +23,6 @@ basalt::Dictionary ownSystem()
     return desktop::componentParameters(
         "ellipsoid_name=Custom,ellipsoid_a=6378137.0000,ellipsoid_f=300,project_type=1,"
         "org_lon=117,false_east=500000,geoid_name=左 alone,ver_mode=2");
-}
-
-bool loadChinese(QTranslator& translator)
-{
-    return translator.load("skyquill_zh_CN"_q, QCoreApplication::applicationDirPath() +
-                                                   "/../etc/Tarvona/config/Skyquill/Language"_q);
 }
 
 QByteArray contentOf(const QString& path)
@@ -50,36 +43,21 @@ private Q_SLOTS:
 
     void fillsInASystemOfTheRegister()
     {
-        const struct
-        {
-            const char* text;
-            const char* id;
-            const char* ellipsoid;
-            const char* projection;
-            const char* falseEasting; ///< null: not shown
-        } cases[] = {{"32650", "EPSG:32650", "WGS 84", "UTM", nullptr},
-                     {"NAD27 / Texas South Central", "EPSG:32040", "Clarke 1866",
-                      "Lambert conformal conic", "2000000 ftUS"}};
-        for (const auto& [text, id, ellipsoid, projection, falseEasting] : cases) {
-            open(ownSystem());
-            const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
-            search(text);
-            QVERIFY(m_list->isVisible());
-            QCOMPARE(changed.count(), 0);
-            QTest::keyClick(m_field, Qt::Key_Return);
-            QVERIFY(m_dialog->isVisible()); // Enter was for the list, not for OK
-            QVERIFY(!m_list->isVisible() && m_field->text().isEmpty());
-            QCOMPARE(changed.count(), 1);
-            QCOMPARE(value("coord_param_id"), QLatin1String(id));
-            QCOMPARE(shown("Ellipsoid"), QLatin1String(ellipsoid));
-            QCOMPARE(shown("Projection"), QLatin1String(projection));
-            QCOMPARE(isShown("False easting"), falseEasting != nullptr);
-            QVERIFY(falseEasting == nullptr ||
-                    shown("False easting") == QLatin1String(falseEasting));
-            QCOMPARE(value("geoid_name"), "左 alone"_q);
-            press(QDialogButtonBox::Ok);
-            QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
-        }
+        open(ownSystem());
+        const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
+        search("32650");
+        QVERIFY(m_list->isVisible());
+        QCOMPARE(changed.count(), 0);
+        QTest::keyClick(m_field, Qt::Key_Return);
+        QVERIFY(m_dialog->isVisible()); // Enter was for the list, not for OK
+        QVERIFY(!m_list->isVisible() && m_field->text().isEmpty());
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(value("coord_param_id"), "EPSG:32650"_q);
+        QCOMPARE(shown("Ellipsoid"), "WGS 84"_q);
+        QCOMPARE(shown("Projection"), "UTM"_q);
+        QCOMPARE(value("geoid_name"), "左 alone"_q);
+        press(QDialogButtonBox::Ok);
+        QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
     }
 
     void namesTheUnitOfTheSystem()
@@ -124,7 +102,6 @@ private Q_SLOTS:
         m_field->clear();
         const std::pair<const char*, QString> refused[] = {
             {"4326", "EPSG:4326 (WGS 84) is geographic; choose a projected system."_q},
-            {"epsg:4490", "EPSG:4490 (China Geodetic Coordinate System 2000) is geographic"_q},
             {"2036", "is no longer in use"_q}, // replaced
             {"99999", "No coordinate system has this code or name."_q}};
         for (const auto& [code, answer] : refused) {
@@ -183,28 +160,22 @@ private Q_SLOTS:
         QVERIFY(shifts() == nullptr);
     }
 
-    void tellsHowMuchOfTheAreaAShiftCovers()
-    {
-        open({});
-        choose("5514"); // two countries
-        QVERIFY(!visibleText().contains("this system's area"_q));
-        pickShift("S-JTSK to WGS 84 (4), 1 m, Slovakia"_q);
-        QVERIFY(visibleText().contains("covers 31 % of this system's area"_q)); // by its bounds
-    }
-
-    void tellsWhyThereIsNoDatumShift()
+    void tellsWhyThereIsNoDatumShiftAndHowMuchOneCovers()
     {
         const std::pair<const char*, QString> reasons[] = {
             {"2436", "None of the register's datum shifts covers"_q},
             {"4548", "The register knows no datum shift"_q},
             {"32650", {}}, // none is needed
-            {"2100", {}}}; // one is taken
+            {"5514", {}}}; // one is taken, of two countries
         open({});
         for (const auto& [code, reason] : reasons) {
             choose(code);
             QVERIFY2(visibleText().contains(reason), code);
             QCOMPARE(visibleText().contains("taken as WGS 84"_q), !reason.isEmpty());
         }
+        QVERIFY(!visibleText().contains("this system's area"_q));
+        pickShift("S-JTSK to WGS 84 (4), 1 m, Slovakia"_q);
+        QVERIFY(visibleText().contains("covers 31 % of this system's area"_q)); // by its bounds
     }
 
     void keepsNoValueOfAnotherProjection()
@@ -213,7 +184,7 @@ private Q_SLOTS:
         pick("Projection", "Lambert conformal conic");
         enter("First standard parallel", "30");
         pick("Projection", "UTM");
-        QVERIFY(!isShown("First standard parallel"));
+        QVERIFY(!isShown("First standard parallel") && !isShown("False easting"));
         enter("Central meridian", "115");
         QCOMPARE(value("parallel_1_lat"), "0"_q);
         QCOMPARE(value("factor"), "0.9996"_q);
@@ -236,6 +207,11 @@ private Q_SLOTS:
         QCOMPARE(value("ellipsoid_name"), "IAG 1975"_q);
         pick("Ellipsoid", "Custom");
         QCOMPARE(value("ellipsoid_a"), "6378140"_q);
+        for (const char* name : {"CGCS2000", "GRS 1980"}) { // both have the same figures
+            pick("Ellipsoid", name);
+            enter("Semi-major axis a", "6378137.0");
+            QCOMPARE(shown("Ellipsoid"), QLatin1String(name));
+        }
     }
 
     void refusesABadNumberWhereItStands()
@@ -243,19 +219,15 @@ private Q_SLOTS:
         open(ownSystem());
         const QSignalSpy changed(m_panel, &CoordSystemPanel::changed);
         enter("Latitude of origin", "91");
-        QVERIFY(isMarked("Latitude of origin"));
         QCOMPARE(changed.count(), 0);
         m_grid->setCurrentIndex(cell("Projection"));
         const QString reason = "\"Latitude of origin\": Enter an angle from -90\u00b0"_q;
         QVERIFY(visibleText().contains(reason)); // also while another row is described
         press(QDialogButtonBox::Ok);
-        QVERIFY(m_dialog->isVisible());
+        QVERIFY(m_dialog->isVisible() && m_grid->hasFocus());
         QCOMPARE(m_grid->currentIndex(), cell("Latitude of origin"));
-        QVERIFY(m_grid->hasFocus());
-        QVERIFY(visibleText().contains("from -90\u00b0 to 90\u00b0"_q));
 
         enter("Latitude of origin", "31");
-        QVERIFY(!isMarked("Latitude of origin"));
         QVERIFY(!visibleText().contains(reason));
         press(QDialogButtonBox::Ok);
         QVERIFY(!m_dialog->isVisible());
@@ -289,33 +261,36 @@ private Q_SLOTS:
         QVERIFY(!m_panel->hasFaults());
     }
 
+    void aGroupThatIsOffShowsNoRows()
+    {
+        open(ownSystem());
+        const std::pair<const char*, const char*> groups[] = {
+            {"Use plane shift", "Shift north"},
+            {"Use correction", "Correction north"},
+            {"Use height fitting", "Coefficient a0"},
+            {"Use vertical slope", "Height at origin"},
+            {"Use geoid", "Geoid file"}};
+        for (const auto& [group, row] : groups) {
+            QVERIFY2(!isShown(row), row);
+            check(group);
+            QVERIFY2(isShown(row), row);
+        }
+    }
+
     void storesAShiftAboutAPivotWithoutIt()
     {
         open(ownSystem());
+        QVERIFY(!isShown("Rotation rZ"));
+        pick("Model", "Coordinate frame rotation");
+        QVERIFY(isShown("Rotation rZ") && !isShown("Rotation centre X"));
         pick("Model", "Molodensky-Badekas");
-        enter("Shift dX", "-270");
         enter("Rotation rZ", "1");
         QVERIFY(isMarked("Rotation centre X") && m_panel->hasFaults());
         enter("Rotation centre Y", "5000000");
         QVERIFY(!m_panel->hasFaults());
-        const basalt::Dictionary stored = m_dialog->parameters();
-        QCOMPARE(stored.integer("_7type"), 2);
-        QVERIFY(!stored.contains("_7py"));
-        // X' = T + P + R (X - P): the turn about the axis through P moves X by -rz Py
-        const double turn = 5000000 * 3.14159265358979 / 648000;
-        QVERIFY(std::abs(stored.number("_7dx") - (-270 - turn)) < 1e-6);
+        QCOMPARE(value("_7type"), "2"_q);
+        QVERIFY(!m_dialog->parameters().contains("_7py"));
         QCOMPARE(shown("Model"), "Molodensky-Badekas"_q); // while the dialog is open
-    }
-
-    void handsOutWhatItDoesNotShow()
-    {
-        const basalt::Dictionary before = ownSystem();
-        open(before);
-        const basalt::Dictionary after = m_dialog->parameters();
-        QCOMPARE(after.size(), before.size() + 2); // two more: coord_param_id and factor
-        for (std::size_t i = 0; i < before.size(); ++i)
-            QCOMPARE(lum::toQString(after.text(before.keyAt(i))),
-                     lum::toQString(before.valueAt(i)));
     }
 
     void opensWithoutASystem()
@@ -356,26 +331,16 @@ private Q_SLOTS:
     void speaksChinese()
     {
         QTranslator chinese;
-        QVERIFY(loadChinese(chinese));
+        QVERIFY(chinese.load("skyquill_zh_CN"_q, QCoreApplication::applicationDirPath() +
+                                                     "/../etc/Tarvona/config/Skyquill/Language"_q));
         QCoreApplication::installTranslator(&chinese);
         basalt::Dictionary system = ownSystem();
         system.set("project_type", "7");
-        system.set("org_lat", "0");
         open(system);
         QCoreApplication::removeTranslator(&chinese);
-
         QCOMPARE(shown("投影"), "极球面投影"_q);
         QVERIFY(isMarked("原点纬度"));
         QVERIFY(isShown("真实比例纬线")); // a caption that depends on the projection
-        QStringList texts{m_dialog->windowTitle(), m_field->placeholderText()};
-        texts += visibleTexts();
-        for (int g = 0; g < m_grid->model()->rowCount(); ++g)
-            texts += m_grid->model()->index(g, 0).data().toString();
-        for (const QString& text : qAsConst(texts)) {
-            const bool isChinese = std::any_of(
-                text.begin(), text.end(), [](QChar c) { return c.script() == QChar::Script_Han; });
-            QVERIFY2(text.isEmpty() || isChinese, qPrintable(text));
-        }
     }
 
 private:
@@ -395,12 +360,12 @@ private:
     [[nodiscard]] QModelIndex cell(const char* caption) const
     {
         const QAbstractItemModel& model = *m_grid->model();
-        for (int g = 0; g < model.rowCount(); ++g) {
-            const QModelIndex group = model.index(g, 0);
-            for (int r = 0; r < model.rowCount(group); ++r) {
-                if (model.index(r, 0, group).data().toString() == QString::fromUtf8(caption))
-                    return model.index(r, 1, group);
-            }
+        for (int group = 0; group < model.rowCount(); ++group) {
+            const QModelIndex first = model.index(0, 0, model.index(group, 0));
+            const auto found = model.match(first, Qt::DisplayRole, QString::fromUtf8(caption), 1,
+                                           Qt::MatchExactly | Qt::MatchCaseSensitive);
+            if (!found.isEmpty())
+                return found.front().siblingAtColumn(1);
         }
         return {};
     }

@@ -111,9 +111,6 @@ private Q_SLOTS:
         DlgAbout dialog(nullptr, "what it is for"_q,
                         {"SQLite 3.40.1"_q, "PROJ 9.1.1"_q, "GDAL 3.6.2"_q, "spdlog 1.10.0"_q});
         dialog.show();
-        QCOMPARE(dialog.size(), QSize(480, 250));
-        QVERIFY(dialog.isModal());
-
         QString text;
         for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
             text += label->text() + QLatin1Char('\n');

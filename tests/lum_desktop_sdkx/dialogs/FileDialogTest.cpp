@@ -43,49 +43,31 @@ private Q_SLOTS:
         check("", "a", "a");
     }
 
-    void asksBeforeItReplacesTheCompletedName()
+    void asksBeforeItReplacesTheCompletedNameAndComesAgainAfterANo()
     {
-        m_folder.write("有 old.csv", {});
+        const QString old = m_folder.write("有 old.csv", {});
         QStringList questions;
-        Button answer = Button::No;
+        QList<Button> answers{Button::No, Button::Yes};
         const LumMessageBox::Responder boxes([&](const LumMessageBox::Message& message) {
             questions += message.text;
-            return answer;
+            return answers.takeFirst();
         });
-        const FileDialog::Responder responder(
-            [&](const FileDialog::Request&) { return m_folder.path("有 old"); });
-        const auto save = [] {
-            return FileDialog::getSaveFileName(nullptr, "Save"_q, csvFilter());
-        };
-
-        QCOMPARE(save(), QString());
-        QCOMPARE(questions.size(), 1);
-        QVERIFY(questions[0].contains(m_folder.path("有 old.csv")));
-        answer = Button::Yes;
-        QCOMPARE(save(), m_folder.path("有 old.csv"));
-    }
-
-    void comesAgainAfterANo()
-    {
-        m_folder.write("old.csv", {});
-        const LumMessageBox::Responder boxes(
-            [](const LumMessageBox::Message&) { return Button::No; });
-        QStringList typedNames{m_folder.path("old"), m_folder.path("new")};
-        QTimer answering; // the second dialog opens inside the same call
+        QStringList typedNames{"有 old"_q, "new"_q, "有 old"_q};
+        QTimer answering; // after a no the next dialog opens inside the same call
         connect(&answering, &QTimer::timeout, this, [&] {
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             if (dialog == nullptr)
                 return;
             auto* const name = dialog->findChild<QLineEdit*>();
-            name->setText(typedNames.takeFirst());
+            name->setText(m_folder.path(typedNames.takeFirst()));
             QTest::keyClick(name, Qt::Key_Return);
         });
         answering.start(20);
-
-        const QString path = FileDialog::getSaveFileName(nullptr, "Save"_q, csvFilter());
-
-        QCOMPARE(path, m_folder.path("new.csv"));
+        for (const QString& path : {m_folder.path("new.csv"), old})
+            QCOMPARE(FileDialog::getSaveFileName(nullptr, "Save"_q, csvFilter()), path);
         QVERIFY(typedNames.isEmpty());
+        QCOMPARE(questions.size(), 2);
+        QVERIFY(questions[0].contains(old));
     }
 
     void beginsWhereItsPurposeEnded()

@@ -7,43 +7,22 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-using Button = LumMessageBox::Button;
-
-/// A process with an event loop and no windows, as the command-line tool is.
-class HeadlessDialogs : public testing::Test
+/// In a process with an event loop and no windows, as the command-line tool is.
+TEST(HeadlessDialogs, GiveTheSafeAnswerAndLogTheQuestion)
 {
-protected:
-    const LogCapture m_log;
+    using Button = LumMessageBox::Button;
+    int count = 0;
+    const QCoreApplication application(count, nullptr);
+    const LogCapture log;
+    EXPECT_EQ(LumMessageBox::question(nullptr, "Warning"_q, "Overload?"_q), Button::No);
+    EXPECT_TRUE(log.holds("Warning: Overload?")) << log.text();
+    EXPECT_EQ(LumMessageBox::question(nullptr, "Warning"_q, "Overload?"_q,
+                                      LumMessageBox::Buttons(Button::Yes) | Button::Cancel),
+              Button::Cancel);
+    EXPECT_EQ(LumMessageBox::warning(nullptr, "Warning"_q, "Overload?"_q), Button::Ok);
 
-private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    QCoreApplication m_application{m_count, m_arguments};
-};
-
-} // namespace
-
-TEST_F(HeadlessDialogs, GiveTheSafeAnswerAndLogTheQuestion)
-{
-    const QString title = "Warning"_q;
-    const QString text = "Overload?"_q;
-    const LumMessageBox::Buttons all =
-        LumMessageBox::Buttons(Button::Yes) | Button::No | Button::Cancel;
-
-    EXPECT_EQ(LumMessageBox::question(nullptr, title, text), Button::No);
-    EXPECT_TRUE(m_log.holds("Warning: Overload?")) << m_log.text();
-    EXPECT_EQ(LumMessageBox::question(nullptr, title, text, all), Button::Cancel);
-    EXPECT_EQ(LumMessageBox::warning(nullptr, title, text), Button::Ok);
-}
-
-TEST_F(HeadlessDialogs, PickNoFile)
-{
-    const QString title = "Open Project"_q;
-    EXPECT_TRUE(FileDialog::getOpenFileName(nullptr, title).isEmpty());
-    EXPECT_TRUE(FileDialog::getSaveFileName(nullptr, title).isEmpty());
-    EXPECT_TRUE(FileDialog::getExistingDirectory(nullptr, title).isEmpty());
-    EXPECT_TRUE(m_log.holds("Open Project")) << m_log.text();
+    EXPECT_TRUE(FileDialog::getOpenFileName(nullptr, "Open Project"_q).isEmpty());
+    EXPECT_TRUE(FileDialog::getSaveFileName(nullptr, "Open Project"_q).isEmpty());
+    EXPECT_TRUE(FileDialog::getExistingDirectory(nullptr, "Open Project"_q).isEmpty());
+    EXPECT_TRUE(log.holds("Open Project")) << log.text();
 }

@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/Appearance.h"
 
 #include "tests/support/Literals.h"
+#include "tests/support/TestFolder.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -25,21 +26,33 @@ double contrast(const QColor& a, const QColor& b)
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// Pixels near a colour.
-int countOf(const QImage& picture, const QColor& color)
+/// Pixels of a kind.
+template <class IsOfKind>
+int count(const QImage& picture, IsOfKind isOfKind)
 {
-    int count = 0;
+    int found = 0;
     for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const QColor pixel = picture.pixelColor(x, y);
-            count += std::abs(pixel.red() - color.red()) < 12 &&
-                             std::abs(pixel.green() - color.green()) < 12 &&
-                             std::abs(pixel.blue() - color.blue()) < 12
-                         ? 1
-                         : 0;
-        }
+        for (int x = 0; x < picture.width(); ++x)
+            found += isOfKind(picture.pixelColor(x, y)) ? 1 : 0;
     }
-    return count;
+    return found;
+}
+
+/// How many pixels are near a colour.
+int countOf(const QPixmap& picture, const QColor& color)
+{
+    return count(picture.toImage(), [&](const QColor& pixel) {
+        return std::abs(pixel.red() - color.red()) < 12 &&
+               std::abs(pixel.green() - color.green()) < 12 &&
+               std::abs(pixel.blue() - color.blue()) < 12;
+    });
+}
+
+/// How many dark pixels a picture has.
+int inkOf(const QPixmap& picture)
+{
+    return count(picture.toImage(),
+                 [](const QColor& pixel) { return pixel.alpha() > 128 && pixel.value() < 100; });
 }
 
 /// The best contrast to the ground of the first pixels from the left, in the middle row: where the
@@ -52,20 +65,6 @@ double outlineContrast(const QImage& picture, const QColor& ground)
     return best;
 }
 
-/// How many dark pixels a picture has.
-int inkOf(const QPixmap& pixmap)
-{
-    const QImage picture = pixmap.toImage();
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const QColor pixel = picture.pixelColor(x, y);
-            count += pixel.alpha() > 128 && pixel.value() < 100 ? 1 : 0;
-        }
-    }
-    return count;
-}
-
 } // namespace
 
 /// What can be seen in the light and in the dark theme.
@@ -74,29 +73,7 @@ class AppearanceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fieldsAndBoxesHaveOutlines()
-    {
-        for (const char* theme : {"light", "dark"}) {
-            desktop::applyAppearance(QString::fromUtf8(theme));
-            QWidget window;
-            auto* const layout = new QVBoxLayout(&window);
-            QWidget* const widgets[] = {new QCheckBox, new QRadioButton, new QLineEdit,
-                                        new QSpinBox,  new QComboBox,    new QPushButton};
-            for (QWidget* widget : widgets)
-                layout->addWidget(widget);
-            window.show();
-            const QColor ground = window.palette().color(QPalette::Window);
-            for (QWidget* widget : widgets) {
-                const double found = outlineContrast(widget->grab().toImage(), ground);
-                QVERIFY2(found >= 2.5,
-                         qPrintable("%1 %2: %3"_q.arg(QLatin1String(theme))
-                                        .arg(QLatin1String(widget->metaObject()->className()))
-                                        .arg(found)));
-            }
-        }
-    }
-
-    void theFocusIsSeen()
+    void fieldsAndBoxesHaveOutlinesAndShowTheFocus()
     {
         for (const char* theme : {"light", "dark"}) {
             desktop::applyAppearance(QString::fromUtf8(theme));
@@ -104,34 +81,37 @@ private Q_SLOTS:
             auto* const layout = new QVBoxLayout(&window);
             auto* const tabs = new QTabBar;
             tabs->addTab("one"_q);
-            auto* const button = new QToolButton;
-            button->setText("tool"_q);
-            QWidget* const widgets[] = {new QCheckBox("a"_q),
-                                        new QRadioButton("b"_q),
-                                        new QLineEdit,
-                                        new QSpinBox,
-                                        new QComboBox,
-                                        new QPushButton("c"_q),
-                                        new QListWidget,
-                                        new QTableWidget,
-                                        new QPlainTextEdit,
-                                        new QCommandLinkButton("d"_q),
-                                        tabs,
-                                        button};
-            for (QWidget* widget : widgets) {
+            auto* const tool = new QToolButton;
+            tool->setText("tool"_q);
+            const QList<QWidget*> outlined{new QCheckBox("a"_q), new QRadioButton("b"_q),
+                                           new QLineEdit,        new QSpinBox,
+                                           new QComboBox,        new QPushButton("c"_q)};
+            const QList<QWidget*> others{new QListWidget,
+                                         new QTableWidget,
+                                         new QPlainTextEdit,
+                                         new QCommandLinkButton("d"_q),
+                                         tabs,
+                                         tool};
+            for (QWidget* widget : outlined + others) {
                 widget->setFocusPolicy(Qt::StrongFocus);
                 layout->addWidget(widget);
             }
             window.show();
             window.activateWindow();
             QTRY_VERIFY(window.isActiveWindow());
+            const QColor ground = window.palette().color(QPalette::Window);
             const QColor mark = window.palette().color(QPalette::Highlight);
-            for (QWidget* widget : widgets) {
+            for (QWidget* widget : outlined + others) {
+                const char* const name = widget->metaObject()->className();
                 window.setFocus();
-                const int without = countOf(widget->grab().toImage(), mark);
+                const QPixmap without = widget->grab();
                 widget->setFocus();
-                const int with = countOf(widget->grab().toImage(), mark);
-                QVERIFY2(with > without + 20, widget->metaObject()->className());
+                QVERIFY2(countOf(widget->grab(), mark) > countOf(without, mark) + 20, name);
+                const double found = outlineContrast(without.toImage(), ground);
+                QVERIFY2(found >= 2.5 || others.contains(widget),
+                         qPrintable("%1 %2: %3"_q.arg(QLatin1String(theme))
+                                        .arg(QLatin1String(name))
+                                        .arg(found)));
             }
         }
     }
@@ -151,6 +131,24 @@ private Q_SLOTS:
         QVERIFY(inkOfRow() > 20);
         menu.setActiveAction(entry);
         QCOMPARE(inkOfRow(), 0);
+    }
+
+    void everyIconOfTheInstalledLayoutIsThere()
+    {
+        const QString xml = QString::fromUtf8(TestFolder::read(QStringLiteral(
+            SOURCE_FOLDER "/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml")));
+        static const QRegularExpression icon("icon=\"([^\"]+)\""_q);
+        for (const QString& theme : {"light"_q, "dark"_q}) {
+            desktop::applyAppearance(theme);
+            QVERIFY(xml.contains(icon));
+            for (auto match = icon.globalMatch(xml); match.hasNext();) {
+                const QString name = match.next().captured(1);
+                const QIcon shown = QIcon::fromTheme(name);
+                QVERIFY2(!shown.pixmap(22, 22).isNull(), qPrintable(theme + name));
+                // The theme's own, or a drawing of ours; not another one of a similar name.
+                QVERIFY2(shown.name() == name || shown.name().isEmpty(), qPrintable(theme + name));
+            }
+        }
     }
 
     void exclusiveEntriesHaveTheMarkInPlaceOfAnIcon()

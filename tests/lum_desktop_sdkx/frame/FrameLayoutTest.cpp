@@ -4,8 +4,8 @@
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/frame/Mnemonics.h"
 #include "tests/support/Literals.h"
+#include "tests/support/TestFolder.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -15,8 +15,7 @@ namespace {
 
 QByteArray contentOf(const QString& path)
 {
-    QFile file(QStringLiteral(SOURCE_FOLDER) + path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return TestFolder::read(QStringLiteral(SOURCE_FOLDER) + path);
 }
 
 FrameLayout layoutOf(const QByteArray& xml)
@@ -24,18 +23,6 @@ FrameLayout layoutOf(const QByteArray& xml)
     FrameLayout layout;
     EXPECT_EQ(desktop::readFrameLayout(xml, layout).toStdString(), "");
     return layout;
-}
-
-/// All commands in the menus.
-void collect(const std::vector<FrameLayout::Menu>& menus,
-             std::vector<FrameLayout::Command>& commands)
-{
-    for (const FrameLayout::Menu& menu : menus) {
-        for (const FrameLayout::MenuItem& item : menu.items) {
-            commands.push_back(item.command);
-            collect(item.submenu, commands);
-        }
-    }
 }
 
 /// The finished translations of a catalogue, by their source texts.
@@ -66,18 +53,20 @@ void collectFaults(const std::vector<QString>& captions, const QHash<QString, QS
     }
 }
 
-/// The same for menus beside one another and all that is in them.
+/// The same for menus beside one another and all that is in them; adds the names of the commands.
 void collectFaults(const std::vector<FrameLayout::Menu>& menus,
-                   const QHash<QString, QString>& texts, QStringList& faults)
+                   const QHash<QString, QString>& texts, QStringList& faults, QStringList& names)
 {
     for (const FrameLayout::Menu& menu : menus) {
         std::vector<QString> captions;
         for (const FrameLayout::MenuItem& item : menu.items) {
+            if (!item.command.name.isEmpty())
+                names << item.command.name;
             if (!item.command.caption.isEmpty()) // else the command's class gives one
                 captions.push_back(item.command.caption);
             for (const FrameLayout::Menu& submenu : item.submenu)
                 captions.push_back(submenu.caption);
-            collectFaults(item.submenu, texts, faults);
+            collectFaults(item.submenu, texts, faults, names);
         }
         collectFaults(captions, texts, faults);
     }
@@ -85,26 +74,7 @@ void collectFaults(const std::vector<FrameLayout::Menu>& menus,
 
 } // namespace
 
-TEST(InstalledLayout, IsReadWhole)
-{
-    const FrameLayout layout =
-        layoutOf(contentOf("/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml"_q));
-    EXPECT_EQ(layout.menus.size(), 9U);
-    std::vector<FrameLayout::Command> commands;
-    collect(layout.menus, commands);
-    QSet<QString> names;
-    for (const FrameLayout::Command& command : commands) {
-        EXPECT_TRUE(command.name.isEmpty() || !names.contains(command.name))
-            << "twice: " << command.name.toStdString();
-        names << command.name;
-    }
-    for (const FrameLayout::ToolBar& bar : layout.toolBars) {
-        for (const QString& name : bar.commands)
-            EXPECT_TRUE(names.contains(name)) << "in no menu: " << name.toStdString();
-    }
-}
-
-TEST(InstalledLayout, EveryEntryHasAMnemonicOfItsOwnInBothLanguages)
+TEST(InstalledLayout, EveryEntryHasANameAndInBothLanguagesAMnemonicOfItsOwn)
 {
     const FrameLayout layout =
         layoutOf(contentOf("/etc/Tarvona/config/Skyquill/Tool/DataProcess5/main_frame.xml"_q));
@@ -114,9 +84,16 @@ TEST(InstalledLayout, EveryEntryHasAMnemonicOfItsOwnInBothLanguages)
     const QString chinese = QString::fromUtf8(contentOf("/translations/frame_zh_CN.ts"_q));
     for (const auto& texts : {QHash<QString, QString>(), translations(chinese)}) {
         QStringList faults;
+        QStringList names;
         collectFaults(bar, texts, faults);
-        collectFaults(layout.menus, texts, faults);
+        collectFaults(layout.menus, texts, faults, names);
         EXPECT_EQ(faults.join(QLatin1Char(';')).toStdString(), "");
+        EXPECT_EQ(names.removeDuplicates(), 0);
+        for (const FrameLayout::ToolBar& toolBar : layout.toolBars) {
+            for (const QString& name : toolBar.commands)
+                EXPECT_TRUE(name.isEmpty() || names.contains(name))
+                    << "in no menu: " << name.toStdString();
+        }
     }
 }
 

@@ -1,14 +1,9 @@
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_desktop_sdkx/frame/DesktopHost.h"
-#include "lum_desktop_sdkx/frame/FrameComponents.h"
 #include "lum_desktop_sdkx/frame/GuideText.h"
 #include "lum_desktop_sdkx/frame/GuideWindow.h"
-#include "lum_desktop_sdkx/frame/MainFrame.h"
 #include "lum_desktop_sdkx/frame/ShortcutsWindow.h"
-#include "tests/support/Literals.h"
+#include "tests/lum_desktop_sdkx/frame/ShownFrame.h"
 #include "tests/support/TestFolder.h"
 
-#include <QtTest>
 #include <QtWidgets>
 
 namespace {
@@ -25,14 +20,6 @@ constexpr const char* kLayout = R"(<main_frame>
     <command class="ShortcutsCommand" name="Shortcuts"/>
   </menu></main_frame>)";
 
-FrameLayout testLayout()
-{
-    FrameLayout layout;
-    if (!desktop::readFrameLayout(kLayout, layout).isEmpty())
-        qFatal("the test's layout is broken");
-    return layout;
-}
-
 } // namespace
 
 class HelpTest : public QObject
@@ -45,7 +32,7 @@ private Q_SLOTS:
     void theInstalledGuideOpensOnceWithItsPictures()
     {
         DesktopHost host;
-        MainFrame frame(host, testLayout());
+        MainFrame frame(host, layoutOf(kLayout));
         QVERIFY(host.commands().execute("User Guide"_q));
         QVERIFY(host.commands().execute("User Guide"_q));
         const auto guides = frame.findChildren<GuideWindow*>();
@@ -70,19 +57,10 @@ private Q_SLOTS:
             }
         }
         QVERIFY(pictures >= 5);
-    }
 
-    void aGuideThatIsNotThereIsNamed()
-    {
-        DesktopHost host;
-        const MainFrame frame(host, testLayout());
-        QString told;
-        const LumMessageBox::Responder responder([&](const LumMessageBox::Message& message) {
-            told = message.text;
-            return LumMessageBox::Button::Ok;
-        });
+        const Told told;
         QVERIFY(host.commands().execute("Lost Guide"_q));
-        QVERIFY2(told.contains("none.md"_q), qPrintable(told));
+        QVERIFY2(told.texts.value(0).contains("none.md"_q), qPrintable(told.texts.value(0)));
     }
 
     void findsWordsAndGoesRound()
@@ -126,21 +104,13 @@ private Q_SLOTS:
     void theShortcutsAreThoseOfTheActions()
     {
         DesktopHost host;
-        MainFrame frame(host, testLayout());
+        MainFrame frame(host, layoutOf(kLayout));
         host.commands().action("No Key"_q)->setShortcut(QKeySequence("Alt+7"_q)); // since the start
         QVERIFY(host.commands().execute("Shortcuts"_q));
         auto* const window = frame.findChild<ShortcutsWindow*>();
         window->findChild<QPushButton*>()->click(); // copies all
-        const QStringList lines = QGuiApplication::clipboard()
-                                      ->text()
-                                      .replace(QChar::Nbsp, QLatin1Char(' '))
-                                      .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        QStringList words;
-        for (const QString& line : lines) {
-            if (!line.trimmed().isEmpty())
-                words << line.trimmed();
-        }
-        QCOMPARE(words.join(QLatin1Char('|')),
+        const QString text = QGuiApplication::clipboard()->text().trimmed();
+        QCOMPARE(text.split(QRegularExpression("\\s*\\n\\s*"_q)).join(QLatin1Char('|')),
                  "Map|Zoom In|Ctrl++, Ctrl+=|No Key|Alt+7|Help|User Guide|F1|"
                  "Without a menu entry|Go to the menus|F10|While the map has the focus|"
                  "Come nearer, step back|+, -|Move the map|Arrow keys; farther with Shift|"

@@ -98,7 +98,11 @@ private Q_SLOTS:
 
     void middleDragPansExactlyUnderAnyTool()
     {
+        const EventLog log(m_host.events, events::kXyChanged);
         drag(Qt::MiddleButton, {100, 100}, {131, 60});
+        for (const std::string& place : log.payloads())
+            QCOMPARE(place, std::string("N=500 E=100")); // it stays under the cursor
+        QCOMPARE(log.events.size(), 2U);
         QCOMPARE(center(), QPointF(400 - 31, 300 - 40));
         install("ProbeTool");
         m_map->setMapCursor(Qt::CrossCursor);
@@ -137,21 +141,6 @@ private Q_SLOTS:
             QTest::keyClick(m_map.get(), key, modifier);
             QCOMPARE(view(), QLatin1String(expected));
         }
-    }
-
-    void announcesTheMapPositionUnderTheCursor()
-    {
-        const EventLog log(m_host.events, events::kXyChanged);
-        move({100, 50});
-        QCOMPARE(log.events.back().payload, std::string("N=550 E=100"));
-
-        m_map->zoomRect(1000, 2150, 1200, 2000); // 0.25 m a pixel
-        move({101, 50});
-        QCOMPARE(log.events.back().payload, std::string("N=2137.5 E=1025.25"));
-
-        drag(Qt::MiddleButton, {101, 50}, {161, 90}); // the place under the cursor stays the same
-        QCOMPARE(log.events.back().payload, std::string("N=2137.5 E=1025.25"));
-        QCOMPARE(log.events.size(), 4U);
     }
 
     void toolComesFirstAndStandingReactorSecond()
@@ -206,19 +195,6 @@ private Q_SLOTS:
         const MapWindow other("caption=Map,reactors=ReactorDefault; ProbeTool NoSuchReactor",
                               &m_host);
         QCOMPARE(ProbeTool::alive, 2);
-    }
-
-    void rightClickEndsTheToolAndNothingElse()
-    {
-        const EventLog log(m_host.events, events::kUpdateSystemStatus);
-        install("ProbeTool");
-        const Transform before = m_map->transform();
-        QTest::mouseClick(m_map.get(), Qt::RightButton, {}, {10, 10});
-        QCOMPARE(ProbeTool::alive, 0);
-        QCOMPARE(log.events.size(), 1U);
-        QTest::mouseClick(m_map.get(), Qt::RightButton, {}, {10, 10}); // no tool to end
-        QCOMPARE(log.events.size(), 1U);
-        QVERIFY(m_map->transform() == before);
     }
 
     void doubleClickThatNobodyWantsIsAPress()

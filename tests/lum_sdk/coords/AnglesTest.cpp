@@ -47,14 +47,11 @@ TEST(Angles, FormatsOfTheUser)
 {
     using lum::AngleFormat;
     const double radians = -12.5 * kDegree;
-    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::Degrees), -12.5);
-    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::DegreesMinutesSeconds), -12.3);
-    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::Radians), radians);
-    EXPECT_DOUBLE_EQ(lum::fromRadians(radians, AngleFormat::DecimalDegrees), -12.5);
-    for (const int format : {1, 2, 3, 4}) {
-        const auto f = static_cast<AngleFormat>(format);
-        EXPECT_NEAR(lum::toRadians(lum::fromRadians(radians, f), f), radians, 1e-15) << format;
+    for (const auto& [format, value] : {std::pair(AngleFormat::Degrees, -12.5),
+                                        std::pair(AngleFormat::DegreesMinutesSeconds, -12.3),
+                                        std::pair(AngleFormat::Radians, radians),
+                                        std::pair(AngleFormat::DecimalDegrees, -12.5)}) {
+        EXPECT_DOUBLE_EQ(lum::fromRadians(radians, format), value);
+        EXPECT_NEAR(lum::toRadians(value, format), radians, 1e-15);
     }
-    EXPECT_FALSE(lum::isAngleFormat(0));
-    EXPECT_FALSE(lum::isAngleFormat(5));
 }

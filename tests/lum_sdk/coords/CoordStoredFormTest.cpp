@@ -1,6 +1,5 @@
 #include "lum_sdk/coords/CoordStoredForm.h"
 
-#include "lum_sdk/coords/EpsgSystem.h"
 #include "tests/lum_sdk/coords/CoordFixture.h"
 
 namespace {
@@ -39,20 +38,6 @@ TEST(CoordStoredForm, HoldsWhatTheProjectionUses)
           std::pair("_7type=2,_7rx=1,_7px=5", "_7type=2,_7rx=1,_7px=5"),
           std::pair("_7type=3,_7rx=1", "_7type=3,_7rx=1")})
         EXPECT_EQ(dictionary_to_csa(stored(given)), expected) << given;
-}
-
-TEST(CoordStoredForm, UtmByHandIsThatOfTheRegister)
-{
-    for (const auto& [code, byHand] :
-         {std::pair("32650", "project_type=2,org_lon=119.5,factor=1,p_r=7"),
-          std::pair("32733", "project_type=2,org_lon=12,false_north=10000000")}) {
-        basalt::Dictionary registered;
-        ASSERT_EQ(fillFromEpsg(code, registered), "");
-        const basalt::Dictionary given = stored(byHand);
-        for (const char* key :
-             {"project_type", "org_lon", "org_lat", "factor", "false_east", "false_north", "p_r"})
-            EXPECT_EQ(given.number(key), registered.number(key)) << code << ' ' << key;
-    }
 }
 
 TEST(CoordStoredForm, AShiftWithoutItsPivotLeadsToTheSamePlace)

@@ -1,7 +1,5 @@
 #include "lum_sdk/coords/LengthUnit.h"
 
-#include "lum_sdk/coords/CoordStoredForm.h"
-#include "lum_sdk/coords/EpsgSystem.h"
 #include "tests/lum_sdk/coords/CoordFixture.h"
 
 /// Parameters as older projects and users have them, without the key of the unit.
@@ -30,33 +28,4 @@ TEST(LengthUnit, FollowsFromTheScaleOfThePlane)
           std::pair("project_type=1,factor=3.28,unit_m=0.3047972654", "Clarke's foot"),
           std::pair("project_type=1,factor=4,unit_m=0.25", "0.25 m")})
         EXPECT_EQ(lum::lengthUnitOf(dictionaryOf(parameters)).name, name) << parameters;
-}
-
-TEST(LengthUnit, IsThatOfTheRegister)
-{
-    for (const auto& [code, text, name] :
-         {std::tuple("32650", "", "metre"),
-          std::tuple("32037", "0.3048006096012192", "US survey foot"),
-          std::tuple("2222", "0.3048", "foot"),
-          std::tuple("30200", "0.201166195164", "Clarke's link"),
-          std::tuple("2136", "0.304799710181509", "Gold Coast foot")}) {
-        SCOPED_TRACE(code);
-        basalt::Dictionary system = dictionaryOf("unit_m=0.25"); // of the system before
-        ASSERT_EQ(fillFromEpsg(code, system), "");
-        EXPECT_EQ(std::string(system.text("unit_m")).substr(0, 17),
-                  std::string(text).substr(0, 17));
-        EXPECT_EQ(lum::lengthUnitOf(system).name, name);
-        lum::toStoredForm(system);
-        EXPECT_EQ(system.contains("unit_m"), *text != '\0');
-        system.remove("unit_m");
-        EXPECT_EQ(lum::lengthUnitOf(system).name, name) << "of an older project";
-    }
-}
-
-TEST(LengthUnit, TellsBothFeetApartInItsSymbol)
-{
-    EXPECT_EQ(symbolOf(lum::lengthUnit(1)), "m");
-    EXPECT_EQ(symbolOf(lum::lengthUnit(0.3048)), "ft");
-    EXPECT_EQ(symbolOf(lum::lengthUnit(0.304800609601219)), "ftUS");
-    EXPECT_EQ(symbolOf(lum::lengthUnit(0.201166195164)), "Clarke's link");
 }

@@ -2,7 +2,6 @@
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/database/RecordSet.h"
 #include "lum_sdk/database/SqliteSetUp.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -60,10 +59,16 @@ TEST_F(SqliteAdapterTest, BindsValuesAndQuotesNames)
     EXPECT_EQ(db->columns(kTable), (std::vector<std::string>{"a b", "n"}));
 }
 
-TEST_F(SqliteAdapterTest, ChangesOnlyTheRowsThatMeetTheCondition)
+TEST_F(SqliteAdapterTest, ChangesAndSelectsOnlyTheRowsThatMeetTheCondition)
 {
-    for (const char* number : {"1", "2", "3"})
+    for (const char* number : {"3", "1", "2"})
         db->insert(kTable, nullptr, record(std::string("p") + number, number));
+    RecordSet records;
+    ASSERT_TRUE(
+        db->select(kTable, std::vector<std::string>{"n"}, "n < 3", records, "n desc", 1, 1));
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].text("n"), "1");
+    EXPECT_FALSE(records[0].contains("a b"));
 
     EXPECT_TRUE(db->update(kTable, "a b", record("new", "99"), "n = 2"));
     EXPECT_TRUE(db->replace(kTable, nullptr, record("p3", "30")));
@@ -72,32 +77,6 @@ TEST_F(SqliteAdapterTest, ChangesOnlyTheRowsThatMeetTheCondition)
     EXPECT_EQ(db->rowCount(kTable, nullptr), 1);
     EXPECT_TRUE(db->remove(kTable, nullptr));
     EXPECT_EQ(db->rowCount(kTable, nullptr), 0);
-}
-
-TEST_F(SqliteAdapterTest, SelectsColumnsInOrderWithinLimits)
-{
-    for (const char* number : {"3", "1", "2"})
-        db->insert(kTable, nullptr, record(number, number));
-    RecordSet records;
-    ASSERT_TRUE(
-        db->select(kTable, std::vector<std::string>{"n"}, "n < 3", records, "n desc", 1, 1));
-    ASSERT_EQ(records.size(), 1U);
-    EXPECT_EQ(records[0].text("n"), "1");
-    EXPECT_FALSE(records[0].contains("a b"));
-}
-
-TEST_F(SqliteAdapterTest, RollsBackWhatIsNotCommitted)
-{
-    EXPECT_TRUE(db->beginTransaction());
-    db->insert(kTable, nullptr, record("kept", "1"));
-    EXPECT_TRUE(db->commit());
-    EXPECT_TRUE(db->beginTransaction());
-    db->insert(kTable, nullptr, record("dropped", "2"));
-    EXPECT_TRUE(db->rollback());
-    EXPECT_TRUE(db->beginTransaction());
-    db->insert(kTable, nullptr, record("dropped by close", "3"));
-    EXPECT_TRUE(db->open(lum::databaseConnection(path).c_str()));
-    EXPECT_EQ(content(), "kept/1 ");
 }
 
 TEST_F(SqliteAdapterTest, SaysWhyInTheDatabasesWords)
@@ -117,50 +96,6 @@ TEST_F(SqliteAdapterTest, SaysWhyInTheDatabasesWords)
     db->close();
     EXPECT_FALSE(db->execute("select 1"));
     EXPECT_FALSE(db->lastError().empty());
-}
-
-TEST_F(SqliteAdapterTest, ExclusiveKeepsOthersOutUntilClose)
-{
-    ASSERT_TRUE(db->open((lum::databaseConnection(path) + ",exclusive=1").c_str()));
-    IDBAdapter* const other = extensible_factory_get_IDBAdapter("sqlite");
-    const std::string connection = lum::databaseConnection(path) + ",busyTimeout=10";
-    EXPECT_FALSE(other->open(connection.c_str()));
-    EXPECT_EQ(other->lastError(), "database is locked");
-    db->close();
-    EXPECT_TRUE(other->open(connection.c_str())) << other->lastError();
-    extensible_factory_release_IDBAdapter(other);
-}
-
-TEST_F(SqliteAdapterTest, BacksUpEverythingOrNothing)
-{
-    db->insert(kTable, nullptr, record("kept", "1"));
-    const std::string copy = path + ".copy";
-    ASSERT_TRUE(db->backup(copy.c_str())) << db->lastError();
-    EXPECT_FALSE(db->backup((folder.path().toStdString() + "/no folder/copy").c_str()));
-    EXPECT_FALSE(db->lastError().empty());
-    ASSERT_TRUE(db->open(lum::databaseConnection(copy).c_str()));
-    EXPECT_EQ(content(), "kept/1 ");
-    EXPECT_FALSE(QFile::exists(QString::fromStdString(copy + ".part")));
-}
-
-TEST_F(SqliteAdapterTest, OpensOnlyWhatIsADatabase)
-{
-    const std::string file = folder.write("text.db", QByteArray(5000, 'x')).toStdString();
-    EXPECT_FALSE(db->open(lum::databaseConnection(file).c_str()));
-    EXPECT_EQ(db->lastError(), "file is not a database");
-    const std::string missing = path + "x";
-    EXPECT_FALSE(db->open(lum::databaseConnection(missing).c_str()));
-    EXPECT_FALSE(QFile::exists(QString::fromStdString(missing)));
-    EXPECT_FALSE(db->open("path=x"));
-    EXPECT_EQ(extensible_factory_get_IDBAdapter("unheard of"), nullptr);
-}
-
-TEST_F(SqliteAdapterTest, ALateSetUpIsRefusedAndHarmless)
-{
-    const LogCapture log;
-    lum::setUpDatabase();
-    EXPECT_TRUE(log.holds("in use already"));
-    EXPECT_TRUE(db->execute("select 1"));
 }
 
 TEST_F(SqliteAdapterTest, AVisitorThatThrowsEndsTheReading)

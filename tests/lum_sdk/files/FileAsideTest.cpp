@@ -43,16 +43,3 @@ TEST_F(FileAside, TakesThePlaceOfItsTarget)
     EXPECT_EQ(QFile::permissions(target) & QFile::Permissions(0x0077), 0) << "they stay";
     EXPECT_EQ(names().size(), 2);
 }
-
-TEST_F(FileAside, LeavesNothingBehind)
-{
-    folder.write("测 区.db", "old");
-    {
-        const lum::FileAside aside(target);
-        EXPECT_EQ(names().size(), 2);
-    }
-    EXPECT_EQ(names().size(), 1);
-    EXPECT_EQ(TestFolder::read(target), "old");
-    EXPECT_NE(replace(folder.path(), "x"), QString());
-    EXPECT_NE(replace(folder.path("missing/x"), "x"), QString());
-}

@@ -6,6 +6,7 @@
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
+#include "tests/support/OnEvent.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -14,25 +15,6 @@
 namespace {
 
 using Payloads = std::vector<std::string>;
-
-/// At each event, empties the survey and lets the layer rebuild its cache.
-class Emptier final : public IEventHandler
-{
-public:
-    explicit Emptier(TestMap& map)
-        : m_map(map), m_subscription(*this, events::kProgress, map.host.events)
-    {
-    }
-    void handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/) override
-    {
-        m_map.manager.surveyPoints().clear();
-        m_map.publish(events::kRefreshSurveyLayer);
-    }
-
-private:
-    TestMap& m_map;
-    EventSubscription m_subscription;
-};
 
 } // namespace
 
@@ -128,30 +110,16 @@ private Q_SLOTS:
         map.window.zoomRect(0, 0, 800, 600);
         QCOMPARE(layer.PickSurveyPoint(80.2, 100), "s1"_q);
         QCOMPARE(layer.PickSurveyPoint(80, 100), QString());
-    }
-
-    void lookUpsOfTheUnknownLeaveTheOutputsAlone()
-    {
-        TestMap map;
-        map.addDesign("1", "d", 1, 2);
-        map.publish(events::kRefreshDesignLayer);
-        map.setStatus(status::kViewShowWhich, "0");
-        map.addResult("1", "s", 1, 2, {3, 4});
-        map.addResult("1", "t", 1, 2, {30, 40});
-        map.publish(events::kRefreshSurveyLayer);
-        const IDataLayer& layer = map.layer();
         QString line = "kept"_q;
-        QPointF a(7, 8);
-        QPointF b(9, 10);
-        QVERIFY(!layer.GetDesignPoint("s"_q, line, a));
-        QVERIFY(!layer.GetSurveyPoint("d"_q, line, a, b));
+        QPointF place(7, 8);
+        QPointF design = place;
+        QVERIFY(!layer.GetDesignPoint("s1"_q, line, place));
+        QVERIFY(!layer.GetSurveyPoint("d"_q, line, place, design));
         for (const int index : {-1, 2})
-            QVERIFY(!layer.GetBasePosition(index, a));
-        QCOMPARE(line, "kept"_q);
-        QCOMPARE(a, QPointF(7, 8));
-        QCOMPARE(b, QPointF(9, 10));
-        QVERIFY(layer.GetBasePosition(1, a));
-        QCOMPARE(a, QPointF(30, 40));
+            QVERIFY(!layer.GetBasePosition(index, place));
+        QVERIFY(line == "kept"_q && place == QPointF(7, 8) && design == place);
+        QVERIFY(layer.GetBasePosition(1, place));
+        QCOMPARE(place, QPointF(200, 100));
     }
 
     void tipsNameWhatIsInView()
@@ -227,6 +195,10 @@ private Q_SLOTS:
                            "text=Draw Design Data,value=75,is_exec=0",
                            "text=Draw Design Data,value=100,is_exec=0", "show=0"}));
         progress.events.clear();
+        const std::atomic<bool> cancelled = true;
+        paint(map, &cancelled);
+        QCOMPARE(progress.payloads(), Payloads{"show=0"});
+        progress.events.clear();
         map.setStatus(status::kShowSourceLines, "1");
         map.setStatus(status::kShowReceiverLines, "0");
         paint(map);
@@ -240,7 +212,6 @@ private Q_SLOTS:
         QCOMPARE(progress.payloads(),
                  (Payloads{"text=Draw Survey Data,value=100,is_exec=0", "show=0"}));
         progress.events.clear();
-        const std::atomic<bool> cancelled = true;
         paint(map, &cancelled);
         QCOMPARE(progress.payloads(), Payloads{"show=0"});
 
@@ -262,7 +233,10 @@ private Q_SLOTS:
             map.addResult(line, line, 100, 100, {150, 100});
         map.publish(events::kRefreshSurveyLayer);
         map.picture();
-        const Emptier emptier(map);
+        const OnEvent emptier(map.host.events, events::kProgress, [&](auto*) {
+            map.manager.surveyPoints().clear();
+            map.publish(events::kRefreshSurveyLayer);
+        });
         const EventLog progress(map.host.events, events::kProgress);
         paint(map);
         QCOMPARE(progress.events.size(), 4U); // the paint finishes with its own cache

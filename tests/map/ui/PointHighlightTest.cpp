@@ -22,14 +22,6 @@ SurveyPoint result(double north, double east, double designNorth = 0, double des
     return point;
 }
 
-DesignPoint design(double north, double east)
-{
-    DesignPoint point;
-    point.north = north;
-    point.east = east;
-    return point;
-}
-
 } // namespace
 
 class PointHighlightTest : public QObject
@@ -58,7 +50,7 @@ private Q_SLOTS:
             for (const bool isDesign : {false, true}) {
                 map.window.zoomRect(0, 0, 400, 300);
                 if (isDesign)
-                    PointHighlight::mark(map.host, design(north, east));
+                    PointHighlight::mark(map.host, DesignPoint{"", "", north, east});
                 else // its design position outside does not count
                     PointHighlight::mark(map.host, result(north, east, 9000, 9000));
                 const QPointF middle = moves ? QPointF(east, north) : QPointF(200, 150);
@@ -69,7 +61,7 @@ private Q_SLOTS:
             }
             PointHighlight::clear(map.host);
             map.window.zoomRect(0, 0, 400, 300);
-            PointHighlight::bringIntoView(map.host, design(north, east));
+            PointHighlight::bringIntoView(map.host, DesignPoint{"", "", north, east});
             QCOMPARE(map.window.transform().center(),
                      moves ? QPointF(east, north) : QPointF(200, 150));
             const QPoint place = map.window.transform().SurveyToScreen(east, north).toPoint();
@@ -153,7 +145,7 @@ private Q_SLOTS:
         const Transform view = map.window.transform();
         PointHighlight::zoomTo(map.host, result(std::nan(""), 3000));
         QVERIFY2(map.window.transform() == view, "moved to a position that is no number");
-        PointHighlight::zoomTo(map.host, design(1, 2));
+        PointHighlight::zoomTo(map.host, DesignPoint{"", "", 1, 2});
         QCOMPARE(map.host.windowRegistry.revealed.last(), "DataMap beside Design Data List"_q);
         QVERIFY(map.host.windowRegistry.activated.isEmpty());
     }

@@ -1,0 +1,259 @@
+#include "basalt_utilities/KeyList.h"
+#include "exchange/ui/CoordParameterModel.h"
+#include "exchange/ui/DlgCoordCompare.h"
+#include "exchange/ui/FileImports.h"
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "project/DataProcessDataManager.h"
+#include "protocol/StatusKeys.h"
+#include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/project/TestProject.h"
+#include "tests/support/Literals.h"
+#include "tests/support/TestFolder.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+constexpr const char* kOwn = "ellipsoid_a=6378137,ellipsoid_f=298.257223563,project_type=1,"
+                             "org_lon=117,false_east=500000,factor=1";
+constexpr const char* kTheirs = "ellipsoid_a=6378137,ellipsoid_f=298.257223563,project_type=1,"
+                                "org_lon=117,false_east=500100,factor=1,_4valid=0,geoid_valid=1,"
+                                "geoid_file=/x.gtx";
+
+basalt::Dictionary systemOf(const char* keys)
+{
+    basalt::Dictionary parameters;
+    csa_to_dictionary(parameters, keys);
+    return parameters;
+}
+
+/// On the central meridian; row 2 has no place.
+std::vector<SurveyPoint> records()
+{
+    std::vector<SurveyPoint> all;
+    for (int i = 0; i < 200; ++i) {
+        SurveyPoint point = surveyPoint("L<1>", std::to_string(i));
+        point.latitude = i == 2 ? 95 : i * 0.001;
+        point.longitude = 117;
+        point.altitude = 10;
+        point.elevation = 10;
+        get_project_coord_transform().transform(1, 1, 2, 4, point.latitude, 117, 10, &point.north,
+                                                &point.east, &point.elevation);
+        point.east += 100;
+        all.push_back(point);
+    }
+    return all;
+}
+
+} // namespace
+
+class CoordCompareDialogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void showsBothSystemsRowsAndFigures();
+    void exportsWithTheTextsOfBothForms();
+    void filesThatAreInUseAreNotReplaced();
+    void anImportOfAnotherSystemIsToldOnce();
+
+private:
+    std::unique_ptr<DlgCoordCompare> dialog()
+    {
+        auto made =
+            std::make_unique<DlgCoordCompare>(*m_host, m_folder->path("theirs.db"), systemOf(kOwn),
+                                              SurveyRecords{systemOf(kTheirs), records()});
+        QAbstractItemModelTester::FailureReportingMode mode =
+            QAbstractItemModelTester::FailureReportingMode::QtTest;
+        for (auto* const table : made->findChildren<CustomTableWidget*>())
+            new QAbstractItemModelTester(table->model(), mode, table);
+        made->show();
+        return made;
+    }
+    static void press(const QWidget& dialog, const QString& text)
+    {
+        for (auto* const button : dialog.findChildren<QPushButton*>()) {
+            if (QString(button->text()).remove(QLatin1Char('&')) == text)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }
+
+    std::unique_ptr<TestFolder> m_folder;
+    std::unique_ptr<TestHost> m_host;
+    std::unique_ptr<DataProcessDataManager> m_manager;
+    std::unique_ptr<LumMessageBox::Responder> m_boxes;
+    std::unique_ptr<FileDialog::Responder> m_files;
+    QStringList m_told; ///< titles and texts of boxes
+    QString m_details;  ///< of the last
+    QStringList m_asked;
+    QString m_path; ///< what the user chooses
+};
+
+void CoordCompareDialogTest::init()
+{
+    m_folder = std::make_unique<TestFolder>();
+    m_host = std::make_unique<TestHost>();
+    m_manager = std::make_unique<DataProcessDataManager>(m_host.get());
+    m_manager->setCoordSystem(systemOf(kOwn));
+    IDictionary& values = get_system_status_dictionary();
+    values.clear();
+    values.set(status::kProjectOpen, "1");
+    values.set(status::kProjectPath, m_folder->path().toStdString());
+    values.set(status::kProjectName, "own");
+    m_told.clear();
+    m_asked.clear();
+    m_boxes = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
+        m_told << message.title << message.text;
+        m_details = message.details;
+        return message.buttons.testFlag(LumMessageBox::Button::No) ? LumMessageBox::Button::No
+                                                                   : LumMessageBox::Button::Ok;
+    });
+    m_files = std::make_unique<FileDialog::Responder>([this](const auto& request) {
+        m_asked << request.title << request.filter;
+        return m_path;
+    });
+}
+
+void CoordCompareDialogTest::cleanup()
+{
+    m_files.reset();
+    m_boxes.reset();
+    m_manager.reset();
+    m_host.reset();
+}
+
+void CoordCompareDialogTest::showsBothSystemsRowsAndFigures()
+{
+    get_system_status_dictionary().set(status::kDegreeFormat, "1");
+    const auto shown = dialog();
+    QVERIFY(shown->findChild<QLabel*>("head"_q)->text().contains(
+        "\"theirs.db\": its coordinate system is not the project's. Parameters that differ: 2."_q));
+    const auto* const parameters = shown->findChild<CustomTableWidget*>("parameters"_q)->model();
+    const auto cell = [&](int row, int column) {
+        return parameters->index(row, column).data().toString();
+    };
+    QCOMPARE(cell(0, 0) + cell(0, 1), "≠Projection: False easting"_q);
+    QCOMPARE(cell(0, 2) + " / "_q + cell(0, 3), "500100 m / 500000 m"_q);
+    QCOMPARE(cell(1, 0) + cell(1, 1), "≠Geoid: Use geoid"_q);
+    QCOMPARE(cell(2, 0), QString());
+    QVERIFY(parameters->index(0, 2).data(Qt::BackgroundRole).isValid() &&
+            !parameters->index(2, 2).data(Qt::BackgroundRole).isValid());
+    QStringList names;
+    for (int row = 0; row < parameters->rowCount(); ++row)
+        names << cell(row, 1);
+    QVERIFY(names.contains("Ellipsoid: Semi-major axis a"_q));
+    QVERIFY(!names.contains("Plane shift (four parameters): Shift north"_q)); // of neither
+
+    auto* const table = shown->findChild<CustomTableWidget*>("rows"_q);
+    QCOMPARE(table->model()->rowCount(), 200);
+    QCOMPARE(table->model()->index(1, 2).data().toString(), "0deg0min3.600sec"_q);
+    QCOMPARE(table->model()->index(1, 12).data().toString(), "-100.000"_q);
+    QCOMPARE(shown->findChild<QLabel*>("sentence"_q)->text(),
+             "A constant shift on the plane: north 0.000 m, east -100.000 m; the heights are the "
+             "same."_q);
+    QVERIFY(shown->findChild<QLabel*>("exceptions"_q)
+                ->text()
+                .startsWith("Results that could not be compared: 1."_q));
+    bool hasLink = false;
+    for (auto* const label : shown->findChildren<QLabel*>()) {
+        if (!label->text().startsWith("<a href=\"0\">L&lt;1&gt; / 0"_q))
+            continue;
+        hasLink = true;
+        table->scrollToBottom();
+        Q_EMIT label->linkActivated("0"_q);
+        QCOMPARE(table->selectedRows(), std::vector<int>{0});
+    }
+    QVERIFY(hasLink);
+    QTest::keyClick(shown.get(), Qt::Key_Escape);
+    QVERIFY(!shown->isVisible());
+}
+
+void CoordCompareDialogTest::exportsWithTheTextsOfBothForms()
+{
+    const auto shown = dialog();
+    for (const char* form : {"Excel", "Csv"}) {
+        const QString name = QLatin1String(form);
+        const QString suffix = name == "Csv"_q ? ".csv"_q : ".xlsx"_q;
+        m_told.clear();
+        m_asked.clear();
+        m_path = m_folder->path("对比 1"); // gets the suffix
+        press(*shown, "Export To "_q + name);
+        QCOMPARE(m_asked, QStringList({"Get Save File Name"_q, "*"_q + suffix}));
+        QCOMPARE(m_told, QStringList({"Success"_q, "Export To %1 Success!"_q.arg(name)}));
+        QVERIFY(TestFolder::read(m_path + suffix).size() > 5000);
+        m_told.clear();
+        m_path = m_folder->path("none/x"_q + suffix);
+        press(*shown, "Export To "_q + name);
+        QCOMPARE(m_told, QStringList({"Fail"_q, "Export To %1 Failed!"_q.arg(name)}));
+        QVERIFY2(m_details.contains(m_path), qPrintable(m_details));
+        m_path.clear();
+        m_told.clear();
+        press(*shown, "Export To "_q + name);
+        QVERIFY(m_told.isEmpty() && shown->isVisible());
+    }
+}
+
+void CoordCompareDialogTest::filesThatAreInUseAreNotReplaced()
+{
+    const auto shown = dialog();
+    m_boxes.reset();
+    m_boxes = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
+        m_told << message.text;
+        return message.kind == LumMessageBox::Kind::Question ? LumMessageBox::Button::Yes
+                                                             : LumMessageBox::Button::Ok;
+    });
+    for (const char* name : {"own.db", "theirs.db"}) {
+        m_path = m_folder->write(name, "before");
+        press(*shown, "Export To Csv"_q);
+        QCOMPARE(m_told.last(), "Export To Csv Failed!"_q);
+        QCOMPARE(TestFolder::read(m_path), QByteArray("before"));
+    }
+}
+
+/// From the menu to Escape: one dialog, no further box, nothing imported.
+void CoordCompareDialogTest::anImportOfAnotherSystemIsToldOnce()
+{
+    const QString path = m_folder->path("theirs.db");
+    QVERIFY(makeDatabase(path.toStdString()));
+    TestProject theirs;
+    theirs.coordParameters = systemOf(kTheirs);
+    for (const SurveyPoint& record : records())
+        theirs.survey.set(record);
+    QVERIFY(theirs.save(path.toStdString()).isDone());
+    m_manager->setOtherSystemHandler([this](const QString& file, SurveyRecords other) {
+        DlgCoordCompare::tell(*m_host, file, std::move(other));
+    });
+    int shown = 0;
+    const std::function<void()> close = [&] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return QTimer::singleShot(5, this, close);
+        ++shown;
+        QCOMPARE(dialog->objectName(), "DlgCoordCompare"_q);
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
+    };
+    QTimer::singleShot(0, this, close);
+    QVERIFY(!FileImports::importSurveyDatabase(*m_host, path));
+    QCOMPARE(shown, 1);
+    QVERIFY(m_told.isEmpty() && m_manager->surveyPoints().empty() && !m_manager->isChanged());
+    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+}
+
+QTEST_MAIN(CoordCompareDialogTest)
+#include "CoordCompareDialogTest.moc"
