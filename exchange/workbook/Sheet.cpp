@@ -170,6 +170,7 @@ void Sheet::addPickList(std::size_t column, const QStringList& choices)
 
 void Sheet::endTable()
 {
+    finishTable();
     m_endOfTable = m_row;
     if (m_row < LXW_ROW_MAX)
         ++m_row;
@@ -186,6 +187,15 @@ void Sheet::finish()
         return;
     setWidths();
     setUpPrinting();
+    if (m_endOfTable == 0)
+        finishTable();
+}
+
+/// The library takes no range that ends above the last row that was written.
+void Sheet::finishTable()
+{
+    if (m_sheet == nullptr)
+        return;
     const auto lastColumn = static_cast<lxw_col_t>(m_columns.size() - 1);
     if (m_look.hasFilter)
         m_book.check(worksheet_autofilter(m_sheet, firstRow() - 1, 0, tableEnd() - 1, lastColumn));

@@ -49,8 +49,8 @@ public:
     /// Lets the user choose from these texts, 255 characters in all.
     void addPickList(std::size_t column, const QStringList& choices);
 
-    /// Ends the table and leaves a row free: the next rows have its columns, but are not filtered,
-    /// coloured or in `cells`.
+    /// Ends the table, whose rules are given by then, and leaves a row free: the next rows have its
+    /// columns, but are not filtered, coloured or in `cells`.
     void endTable();
 
     /// The cells below the heading of a column, on the last sheet of this table.
@@ -83,6 +83,7 @@ private:
     [[nodiscard]] std::uint32_t firstRow() const;
     /// Behind the last row of the table, which has one at least.
     [[nodiscard]] std::uint32_t tableEnd() const;
+    void finishTable();
     void setUpPrinting();
     void setWidths();
     void applyRules();
