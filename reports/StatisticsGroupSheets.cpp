@@ -220,11 +220,8 @@ Sheet& addGroups(Workbook& book, const StatisticsFigures& all, const StatisticsG
 /// What has no day is in the first row, if there is any.
 Chart progressChart(const Sheet& sheet, const std::vector<KeyValue>& days)
 {
-    Chart chart{Chart::Kind::Lines,
-                Texts::tr("Progress"),
-                {},
-                Texts::tr("Day"),
-                Texts::tr("Points staked")};
+    Chart chart{Chart::Kind::Lines, Texts::tr("Progress"),      {},
+                Texts::tr("Day"),   Texts::tr("Points staked"), true};
     const bool hasUndated = !days.empty() && days.front().number == KeyValue::kNoNumber;
     const std::size_t count = days.size() - (hasUndated ? 1 : 0);
     if (count == 0)

@@ -107,7 +107,10 @@ void addFigures(Sheet& sheet, const PairFigures& figures)
         sheet.endRow();
     };
     sheet.endTable();
-    add(Texts::tr("Pairs"), [](const Moments& of) { return double(of.count()); });
+    sheet.blank().blank().blank().blank().text(Texts::tr("Pairs"));
+    for (const Moments* const of : moments) // a text, since the column has decimals
+        sheet.text(QString::number(of->count()));
+    sheet.endRow();
     add(Texts::tr("Mean"), [](const Moments& of) { return of.mean(); });
     add(Texts::tr("Std. dev."), [](const Moments& of) { return of.standardDeviation(); });
     add(Texts::tr("RMS"), [](const Moments& of) { return of.rms(); });

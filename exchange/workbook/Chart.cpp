@@ -94,6 +94,8 @@ lxw_chart* makeChart(lxw_workbook* book, const Chart& chart)
     lxw_chart_axis* const values = isLying ? made->x_axis : made->y_axis;
     nameAxis(categories, chart.categoryAxis);
     nameAxis(values, chart.valueAxis);
+    if (chart.hasDays)
+        chart_axis_set_num_format(categories, "yyyy-mm-dd");
     if (isLying) { // the first category on top, and yet the numbers at the foot
         chart_axis_set_reverse(categories);
         chart_axis_set_label_position(values, LXW_CHART_AXIS_LABEL_POSITION_HIGH);

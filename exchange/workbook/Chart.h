@@ -24,4 +24,5 @@ struct Chart
     std::vector<Series> series;
     QString categoryAxis{}; ///< what the categories are; may be empty
     QString valueAxis{};    ///< with its unit; may be empty
+    bool hasDays = false;   ///< whether the categories are days, which stand in their places
 };

@@ -209,7 +209,8 @@ TEST_F(StatisticsReport, ComparesPointsMeasuredTwice)
     measure("12", 0, 0, 0);
     measure("12F", 0, 0, 0.06);
     measure("13F", 0, 0, 0);
-    measure("C11_0", 0.003, 0.004, 0);
+    measure("10010011", 0, 0, 0);
+    measure("C10010011_0", 0.003, 0.004, 0);
     ASSERT_TRUE(write().isDone());
 
     const QStringList differences{"Finding"_q, "dE second - first (m)"_q, "dN second - first (m)"_q,
@@ -239,7 +240,7 @@ TEST_F(StatisticsReport, ComparesPointsMeasuredTwice)
     EXPECT_EQ(WorkbookReader(path()).attributes("Resurveys"_q, "autoFilter", "ref"),
               QStringList{"A1:R4"_q}); // without the figures
     EXPECT_EQ(rows("Repeats", {"First point"_q, "Second point"_q, "Finding"_q})[0],
-              (QStringList{"11"_q, "C11"_q, {}}));
+              (QStringList{"10010011"_q, "C10010011"_q, {}}));
     EXPECT_EQ(summary("Resurveys")[0][0], "2"_q);
     EXPECT_NEAR(summary("Repeats")[0][5].toDouble(), 0.005 / std::sqrt(2), 1e-9);
 }
