@@ -176,8 +176,8 @@ void writeShifts(Page& page, const StatisticsFigures& figures)
         page.endRow();
     }
     if (shifts.size() > kMost)
-        page.addNote(Texts::tr("%n more are marked in the column Shift of the sheets.", nullptr,
-                               int(shifts.size() - kMost)));
+        page.addNote(Texts::tr("Others, marked in the column Shift of the sheets: %1")
+                         .arg(shifts.size() - kMost));
 }
 
 void writePairs(Page& page, const StatisticsFigures& figures)
