@@ -115,7 +115,7 @@ constexpr Column kColumns[] = {
      [](const Row& r) { return r.figures.height.standardDeviation(); }},
     {QT_TRANSLATE_NOOP("StatisticsReport", "Shift"), Form::Code, 0, nullptr, &Row::shift},
     {QT_TRANSLATE_NOOP("StatisticsReport", "RMS 2D (m)"), Form::Number, 3,
-     [](const Row& r) { return r.figures.distance.rms(); }, nullptr, designHorizontal},
+     [](const Row& r) { return r.figures.distance.rms(); }},
     {QT_TRANSLATE_NOOP("StatisticsReport", "95 % 2D (m)"), Form::Number, 3,
      [](const Row& r) { return r.figures.distanceP95; }, nullptr, designHorizontal},
     {QT_TRANSLATE_NOOP("StatisticsReport", "Maximum 2D (m)"), Form::Number, 3,
