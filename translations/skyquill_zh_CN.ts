@@ -3394,15 +3394,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>StatisticsReport</name>
     <message>
         <source>up to %1</source>
-        <translation>不超过 %1</translation>
+        <translation>≤ %1</translation>
     </message>
     <message>
         <source>over %1</source>
-        <translation>大于 %1</translation>
+        <translation>&gt; %1</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>%1 至 %2</translation>
+        <translation>%1–%2</translation>
     </message>
     <message>
         <source>Together</source>
