@@ -236,7 +236,7 @@ TEST_F(StatisticsReport, ComparesPointsMeasuredTwice)
         rows("Resurveys", {"First point"_q, "Second point"_q, "First rover"_q, "Second rover"_q,
                            "First base"_q, "Second base"_q, "Hours between"_q, "First time"_q})[0],
         (QStringList{"11"_q, "11F"_q, "A"_q, "B"_q, "B1"_q, "B2"_q, "24"_q,
-                     "45499.83333333334"_q}));
+                     "45499.83333333333"_q}));
     EXPECT_EQ(WorkbookReader(path()).attributes("Resurveys"_q, "autoFilter", "ref"),
               QStringList{"A1:R4"_q}); // without the figures
     EXPECT_EQ(rows("Repeats", {"First point"_q, "Second point"_q, "Finding"_q})[0],
