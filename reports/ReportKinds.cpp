@@ -2,6 +2,7 @@
 
 #include "reports/QualityReport.h"
 #include "reports/RoverReport.h"
+#include "reports/StatisticsReport.h"
 #include "reports/SurveyResultsReport.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,8 @@ namespace {
 constexpr std::array kKinds{
     ReportKind{"quality", "quality-check", QT_TRANSLATE_NOOP("ReportKinds", "Quality check"),
                writeQualityReport},
+    ReportKind{"statistics", "quality-statistics",
+               QT_TRANSLATE_NOOP("ReportKinds", "Quality statistics"), writeQualityStatistics},
     ReportKind{"rover", "rover-log", QT_TRANSLATE_NOOP("ReportKinds", "Rover log"), writeRoverLog},
     ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
                writeSurveyResults},
