@@ -3650,6 +3650,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Quality check</source>
         <translation>质量检查</translation>
     </message>
+    <message>
+        <source>Quality statistics</source>
+        <translation>质量统计</translation>
+    </message>
+    <message>
+        <source>Rover log</source>
+        <translation>流动站日志</translation>
+    </message>
 </context>
 <context>
     <name>ReportProgress</name>
@@ -3942,6 +3950,421 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>RoverReport</name>
+    <message>
+        <source>Bases</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Rovers</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>天数</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>首点时间</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>末点时间</translation>
+    </message>
+    <message>
+        <source>North (%1)</source>
+        <translation>北 (%1)</translation>
+    </message>
+    <message>
+        <source>East (%1)</source>
+        <translation>东 (%1)</translation>
+    </message>
+    <message>
+        <source>Height (m)</source>
+        <translation>高程 (m)</translation>
+    </message>
+    <message>
+        <source>Latitude (%1)</source>
+        <translation>纬度 (%1)</translation>
+    </message>
+    <message>
+        <source>Longitude (%1)</source>
+        <translation>经度 (%1)</translation>
+    </message>
+    <message>
+        <source>Line / point</source>
+        <translation>线号 / 点号</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>移动过</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>成果数</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>起始时间</translation>
+    </message>
+    <message>
+        <source>On the plane (m)</source>
+        <translation>平面 (m)</translation>
+    </message>
+    <message>
+        <source>In height (m)</source>
+        <translation>高程 (m)</translation>
+    </message>
+    <message>
+        <source>Nearest</source>
+        <translation>最近</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Farthest</source>
+        <translation>最远</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>Used by</source>
+        <translation>使用情况</translation>
+    </message>
+    <message>
+        <source>Position in its first result</source>
+        <translation>首个成果中的位置</translation>
+    </message>
+    <message>
+        <source>Put elsewhere by other results</source>
+        <translation>其他成果中的不同位置</translation>
+    </message>
+    <message>
+        <source>Distance of the points (km)</source>
+        <translation>点到基站的距离 (km)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Rover</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>距离 (m)</translation>
+    </message>
+    <message>
+        <source>Gaps over %1 minutes</source>
+        <translation>超过 %1 分钟的间断</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>间断</translation>
+    </message>
+    <message>
+        <source>Last point before it</source>
+        <translation>间断前最后一点</translation>
+    </message>
+    <message>
+        <source>First point after it</source>
+        <translation>间断后第一点</translation>
+    </message>
+    <message>
+        <source>Between them</source>
+        <translation>两点之间</translation>
+    </message>
+    <message>
+        <source>These results have no design position, or a value that is no number.</source>
+        <translation>这些成果没有设计坐标，或者有的值不是数字。</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>作业概况</translation>
+    </message>
+    <message>
+        <source>Surveyors</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>作业段</translation>
+    </message>
+    <message>
+        <source>Gaps over %1 min</source>
+        <translation>间断 (&gt;%1 分钟)</translation>
+    </message>
+    <message>
+        <source>Bases moved</source>
+        <translation>移动过的基站</translation>
+    </message>
+    <message>
+        <source>Others (%1)</source>
+        <translation>其他 (%1)</translation>
+    </message>
+    <message>
+        <source>Points by day and rover</source>
+        <translation>各日各流动站的点数</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>Earlier days (%1)</source>
+        <translation>更早的日期（%1 天）</translation>
+    </message>
+    <message>
+        <source>Without a time</source>
+        <translation>没有时间</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>超限</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>小时</translation>
+    </message>
+    <message>
+        <source>Points an hour</source>
+        <translation>每小时点数</translation>
+    </message>
+    <message>
+        <source>The last %1 days with points are shown, and the sum of the earlier ones; the sheet &quot;Sessions&quot; has all.</source>
+        <translation>只列出最近 %1 个有点的日期和更早日期的合计；全部日期见工作表“作业段”。</translation>
+    </message>
+    <message>
+        <source>Results without a time: %1. They belong to no day and no gap; their sessions have no hours.</source>
+        <translation>没有时间的成果：%1 个。它们不属于任何日期，也不计间断；其作业段没有小时数。</translation>
+    </message>
+    <message>
+        <source>Points a day by rover</source>
+        <translation>各流动站每日点数</translation>
+    </message>
+    <message>
+        <source>Sessions: %1, gaps over %2 minutes: %3, bases: %4, of these moved: %5.</source>
+        <translation>作业段：%1，超过 %2 分钟的间断：%3，基站：%4，其中移动过的：%5。</translation>
+    </message>
+    <message>
+        <source>Results without a time: %1.</source>
+        <translation>没有时间的成果：%1。</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>作业段</translation>
+    </message>
+    <message>
+        <source>The results of a day, a rover, a surveyor and a base. Days begin at midnight in the zone of the times.</source>
+        <translation>同一天、同一流动站、同一测量员、同一基站的成果。日期从时间所在时区的零点开始。</translation>
+    </message>
+    <message>
+        <source>From the first to the last result of a session; 0 of a single one, and none of results without a time.</source>
+        <translation>从作业段的第一个成果到最后一个成果；只有一个成果时为 0，没有时间的成果没有小时数。</translation>
+    </message>
+    <message>
+        <source>Results of all kinds, also resurveys (the code re_code in the number) and repeats (a number that begins with C). R is receivers, S sources.</source>
+        <translation>所有种类的成果，包括复测点（点号中有代码 re_code）和重复点（点号以 C 开头）。R 为检波点，S 为炮点。</translation>
+    </message>
+    <message>
+        <source>Points / hours. On the summary, the hours of a rover are those from its first to its last result of each day, whatever the base.</source>
+        <translation>点数 / 小时数。汇总页上流动站的小时数为每天从其第一个成果到最后一个成果的时间，不分基站。</translation>
+    </message>
+    <message>
+        <source>Longest gap</source>
+        <translation>最长间断</translation>
+    </message>
+    <message>
+        <source>The longest time between two results of a session, in minutes.</source>
+        <translation>一个作业段内相邻两个成果之间的最长时间，单位为分钟。</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>间断</translation>
+    </message>
+    <message>
+        <source>Times of more than %1 minutes without a result of a rover and surveyor on a day, whatever the base. The distance tells a drive from a rest.</source>
+        <translation>同一天同一流动站同一测量员超过 %1 分钟没有成果的时间，不分基站。由距离可以区分转移和休息。</translation>
+    </message>
+    <message>
+        <source>Failed, not judged</source>
+        <translation>超限、未评定</translation>
+    </message>
+    <message>
+        <source>Failed: out of at least one limit above. Not judged: no design position, or a value that is no number, and out of no limit.</source>
+        <translation>超限：至少超出上面的一项限差。未评定：没有设计坐标，或者有的值不是数字，且没有超出任何限差。</translation>
+    </message>
+    <message>
+        <source>Mean, worst, fewest</source>
+        <translation>平均、最差、最少</translation>
+    </message>
+    <message>
+        <source>Of all results of the session whose value is a number; red when it is out of its limit above.</source>
+        <translation>作业段内值为数字的所有成果的平均值、最差值、最小值；超出上面的限差时为红色。</translation>
+    </message>
+    <message>
+        <source>Antenna height</source>
+        <translation>天线高</translation>
+    </message>
+    <message>
+        <source>The different heights used, and how often the height changed from a result to the next.</source>
+        <translation>用过的各个天线高，以及相邻成果之间天线高改变的次数。</translation>
+    </message>
+    <message>
+        <source>Results put the base more than %1 m from where its first result does, on the plane or in height. Nothing is said of results that name no base.</source>
+        <translation>有成果给出的基站位置与首个成果给出的位置相差超过 %1 m（平面或高程）。没有注明基站的成果不作判断。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Longest gap (min)</source>
+        <translation>最长间断 (分钟)</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Resurveys</source>
+        <translation>复测点</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <translation>重复点</translation>
+    </message>
+    <message>
+        <source>An hour</source>
+        <translation>每小时</translation>
+    </message>
+    <message>
+        <source>Not judged</source>
+        <translation>未评定</translation>
+    </message>
+    <message>
+        <source>PDOP</source>
+        <translation>PDOP</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>最差</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>卫星数</translation>
+    </message>
+    <message>
+        <source>Fewest</source>
+        <translation>最少</translation>
+    </message>
+    <message>
+        <source>HRMS (m)</source>
+        <translation>HRMS (m)</translation>
+    </message>
+    <message>
+        <source>VRMS (m)</source>
+        <translation>VRMS (m)</translation>
+    </message>
+    <message>
+        <source>Solutions</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Antenna height (m)</source>
+        <translation>天线高 (m)</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>用过</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>最低</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>最高</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>改变次数</translation>
+    </message>
+    <message>
+        <source>Base distance (km)</source>
+        <translation>到基站的距离 (km)</translation>
+    </message>
+    <message>
+        <source>Largest</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>without a time</source>
+        <translation>没有时间</translation>
+    </message>
+    <message>
+        <source>none given</source>
+        <translation>未注明</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 等，另有 %2 个</translation>
+    </message>
+</context>
+<context>
     <name>RowFilter</name>
     <message>
         <source>What is not shown stands behind &quot;!&quot;.</source>
@@ -4142,6 +4565,573 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Recent projects</source>
         <translation>最近的工程</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsReport</name>
+    <message>
+        <source>up to %1</source>
+        <translation>≤ %1</translation>
+    </message>
+    <message>
+        <source>over %1</source>
+        <translation>&gt; %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1–%2</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>Without a distance</source>
+        <translation>无距离</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>距离 (m)</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Share (%)</source>
+        <translation>比例 (%)</translation>
+    </message>
+    <message>
+        <source>Cumulated</source>
+        <translation>累计</translation>
+    </message>
+    <message>
+        <source>Cumulated (%)</source>
+        <translation>累计比例 (%)</translation>
+    </message>
+    <message>
+        <source>Distance from the design</source>
+        <translation>与设计的距离</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>激发点</translation>
+    </message>
+    <message>
+        <source>Distribution</source>
+        <translation>分布</translation>
+    </message>
+    <message>
+        <source>Distances from the design</source>
+        <translation>与设计的距离</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Rover</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>基准站</translation>
+    </message>
+    <message>
+        <source>none given</source>
+        <translation>未注明</translation>
+    </message>
+    <message>
+        <source>Designed</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>Staked</source>
+        <translation>已放样</translation>
+    </message>
+    <message>
+        <source>Staked (%)</source>
+        <translation>放样率 (%)</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>未放样</translation>
+    </message>
+    <message>
+        <source>Not planned</source>
+        <translation>设计外</translation>
+    </message>
+    <message>
+        <source>In spec</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Over limit</source>
+        <translation>超限</translation>
+    </message>
+    <message>
+        <source>Not judged</source>
+        <translation>未评定</translation>
+    </message>
+    <message>
+        <source>In spec (%)</source>
+        <translation>合格率 (%)</translation>
+    </message>
+    <message>
+        <source>Mean dE (m)</source>
+        <translation>dE 平均值 (m)</translation>
+    </message>
+    <message>
+        <source>Std. dev. dE (m)</source>
+        <translation>dE 标准差 (m)</translation>
+    </message>
+    <message>
+        <source>Mean dN (m)</source>
+        <translation>dN 平均值 (m)</translation>
+    </message>
+    <message>
+        <source>Std. dev. dN (m)</source>
+        <translation>dN 标准差 (m)</translation>
+    </message>
+    <message>
+        <source>Mean dH (m)</source>
+        <translation>dH 平均值 (m)</translation>
+    </message>
+    <message>
+        <source>Std. dev. dH (m)</source>
+        <translation>dH 标准差 (m)</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>系统偏移</translation>
+    </message>
+    <message>
+        <source>RMS 2D (m)</source>
+        <translation>平面 RMS (m)</translation>
+    </message>
+    <message>
+        <source>95 % 2D (m)</source>
+        <translation>平面 95 % (m)</translation>
+    </message>
+    <message>
+        <source>Maximum 2D (m)</source>
+        <translation>平面最大值 (m)</translation>
+    </message>
+    <message>
+        <source>Maximum at</source>
+        <translation>最大值所在点</translation>
+    </message>
+    <message>
+        <source>Mean hor. accuracy (m)</source>
+        <translation>平均平面精度 (m)</translation>
+    </message>
+    <message>
+        <source>Mean vert. accuracy (m)</source>
+        <translation>平均高程精度 (m)</translation>
+    </message>
+    <message>
+        <source>Worst PDOP</source>
+        <translation>最差 PDOP</translation>
+    </message>
+    <message>
+        <source>Fewest satellites</source>
+        <translation>最少卫星数</translation>
+    </message>
+    <message>
+        <source>Fixed (%)</source>
+        <translation>固定解比例 (%)</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>测线</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Rovers</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Surveyors</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Bases</source>
+        <translation>基准站</translation>
+    </message>
+    <message>
+        <source>Staked until then</source>
+        <translation>累计放样</translation>
+    </message>
+    <message>
+        <source>Designed in all</source>
+        <translation>设计总点数</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Points staked</source>
+        <translation>放样点数</translation>
+    </message>
+    <message>
+        <source>First point</source>
+        <translation>首次点号</translation>
+    </message>
+    <message>
+        <source>Second point</source>
+        <translation>再次点号</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>dE second - first (m)</source>
+        <translation>dE 再次－首次 (m)</translation>
+    </message>
+    <message>
+        <source>dN second - first (m)</source>
+        <translation>dN 再次－首次 (m)</translation>
+    </message>
+    <message>
+        <source>2D (m)</source>
+        <translation>平面 (m)</translation>
+    </message>
+    <message>
+        <source>dH second - first (m)</source>
+        <translation>dH 再次－首次 (m)</translation>
+    </message>
+    <message>
+        <source>First time</source>
+        <translation>首次时间</translation>
+    </message>
+    <message>
+        <source>Second time</source>
+        <translation>再次时间</translation>
+    </message>
+    <message>
+        <source>Hours between</source>
+        <translation>间隔 (h)</translation>
+    </message>
+    <message>
+        <source>First rover</source>
+        <translation>首次流动站</translation>
+    </message>
+    <message>
+        <source>Second rover</source>
+        <translation>再次流动站</translation>
+    </message>
+    <message>
+        <source>First surveyor</source>
+        <translation>首次测量员</translation>
+    </message>
+    <message>
+        <source>Second surveyor</source>
+        <translation>再次测量员</translation>
+    </message>
+    <message>
+        <source>First base</source>
+        <translation>首次基准站</translation>
+    </message>
+    <message>
+        <source>Second base</source>
+        <translation>再次基准站</translation>
+    </message>
+    <message>
+        <source>beyond tolerance</source>
+        <translation>超限</translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation>对数</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>RMS / %1</source>
+        <translation>RMS / %1</translation>
+    </message>
+    <message>
+        <source>95 %</source>
+        <translation>95 %</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>no first measurement</source>
+        <translation>没有首次测量</translation>
+    </message>
+    <message>
+        <source>Resurveys</source>
+        <translation>复测</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <translation>重复测量</translation>
+    </message>
+    <message>
+        <source>Staked: %1 of %2 design points, in spec: %3 of %4 judged, lines, days, rovers, surveyors and bases with a shift: %5.</source>
+        <translation>已放样：%1（设计点共 %2），合格：%3（参与评定 %4），有系统偏移的测线、日期、流动站、测量员和基准站：%5。</translation>
+    </message>
+    <message>
+        <source>Results are those of the period and surveyors above; what is left is counted over the whole project.</source>
+        <translation>成果仅限上述时段和测量员；未放样点按整个工程计算。</translation>
+    </message>
+    <message>
+        <source>Quality of the first measurements</source>
+        <translation>首次测量的质量</translation>
+    </message>
+    <message>
+        <source>Mean 2D (m)</source>
+        <translation>平面平均值 (m)</translation>
+    </message>
+    <message>
+        <source>Differences from the design</source>
+        <translation>与设计之差</translation>
+    </message>
+    <message>
+        <source>Measured minus design</source>
+        <translation>实测减设计</translation>
+    </message>
+    <message>
+        <source>Mean (m)</source>
+        <translation>平均值 (m)</translation>
+    </message>
+    <message>
+        <source>Std. dev. (m)</source>
+        <translation>标准差 (m)</translation>
+    </message>
+    <message>
+        <source>RMS (m)</source>
+        <translation>RMS (m)</translation>
+    </message>
+    <message>
+        <source>95 % (m)</source>
+        <translation>95 % (m)</translation>
+    </message>
+    <message>
+        <source>Maximum (m)</source>
+        <translation>最大值 (m)</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>East</source>
+        <translation>东</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>北</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Distance 2D</source>
+        <translation>平面距离</translation>
+    </message>
+    <message>
+        <source>Constant shifts, the largest</source>
+        <translation>最大的系统偏移</translation>
+    </message>
+    <message>
+        <source>No line, day, rover, surveyor or base shows a constant shift.</source>
+        <translation>没有测线、日期、流动站、测量员或基准站存在系统偏移。</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>所在</translation>
+    </message>
+    <message>
+        <source>Others, marked in the column Shift of the sheets: %1</source>
+        <translation>其余在各工作表的“系统偏移”列中标出：%1</translation>
+    </message>
+    <message>
+        <source>Points measured twice</source>
+        <translation>测量两次的点</translation>
+    </message>
+    <message>
+        <source>Second minus first</source>
+        <translation>再次减首次</translation>
+    </message>
+    <message>
+        <source>RMS dE (m)</source>
+        <translation>dE RMS (m)</translation>
+    </message>
+    <message>
+        <source>RMS dN (m)</source>
+        <translation>dN RMS (m)</translation>
+    </message>
+    <message>
+        <source>RMS dH (m)</source>
+        <translation>dH RMS (m)</translation>
+    </message>
+    <message>
+        <source>2D of a single one (m)</source>
+        <translation>单次平面精度 (m)</translation>
+    </message>
+    <message>
+        <source>These results have no design position, or a value that is no number.</source>
+        <translation>这些成果没有设计坐标，或者有的值不是数字。</translation>
+    </message>
+    <message>
+        <source>Design points: of a line, a kind of point, or the whole project.</source>
+        <translation>设计点数：一条测线、一类点或整个工程。</translation>
+    </message>
+    <message>
+        <source>Results whose line and point number are exactly those of a design point.</source>
+        <translation>线号和点号与设计点完全相同的成果。</translation>
+    </message>
+    <message>
+        <source>Of the design points of the line; of days, rovers, surveyors and bases: of the whole design.</source>
+        <translation>占该测线设计点的比例；日期、流动站、测量员和基准站为占全部设计点的比例。</translation>
+    </message>
+    <message>
+        <source>Design points without a result in the whole project, whatever period and surveyors are chosen.</source>
+        <translation>整个工程中没有成果的设计点，与所选时段和测量员无关。</translation>
+    </message>
+    <message>
+        <source>Results that are no design point, no resurvey and no repeat.</source>
+        <translation>既不是设计点，也不是复测或重复测量的成果。</translation>
+    </message>
+    <message>
+        <source>Resurvey, repeat</source>
+        <translation>复测、重复测量</translation>
+    </message>
+    <message>
+        <source>A result with the resurvey code in its number, or with a number that begins with C.</source>
+        <translation>点号含复测代码的成果；点号以 C 开头的成果。</translation>
+    </message>
+    <message>
+        <source>First measurements</source>
+        <translation>首次测量</translation>
+    </message>
+    <message>
+        <source>Staked and not planned: all figures but those of points measured twice are of these.</source>
+        <translation>已放样和设计外的成果：除测量两次的点外，所有指标都由其算得。</translation>
+    </message>
+    <message>
+        <source>First measurements that pass every test of the quality check, by the limits above.</source>
+        <translation>按上述限差通过质量检查全部项目的首次测量。</translation>
+    </message>
+    <message>
+        <source>First measurements that fail a test. A value on its limit passes.</source>
+        <translation>有项目未通过的首次测量；等于限差为合格。</translation>
+    </message>
+    <message>
+        <source>First measurements that fail no test, but have no design position, or a value that is no number.</source>
+        <translation>没有未通过的项目，但没有设计坐标或有的值不是数字的首次测量。</translation>
+    </message>
+    <message>
+        <source>In spec, of those in spec and over limit.</source>
+        <translation>合格数占合格与超限之和的比例。</translation>
+    </message>
+    <message>
+        <source>dE, dN, dH</source>
+        <translation>dE、dN、dH</translation>
+    </message>
+    <message>
+        <source>Measured minus design, in metres: to the east, to the north, upwards.</source>
+        <translation>实测减设计，单位为米：向东、向北、向上。</translation>
+    </message>
+    <message>
+        <source>2D</source>
+        <translation>平面</translation>
+    </message>
+    <message>
+        <source>The distance in the plane from the design, or between two measurements, in metres.</source>
+        <translation>与设计位置或两次测量之间的平面距离，单位为米。</translation>
+    </message>
+    <message>
+        <source>The sum by the number of values. A value that is no number is left out, here and below.</source>
+        <translation>总和除以个数；此处及以下，不是数字的值不计入。</translation>
+    </message>
+    <message>
+        <source>Standard deviation of a sample, about the mean, with n - 1.</source>
+        <translation>样本标准差，相对平均值，以 n - 1 计算。</translation>
+    </message>
+    <message>
+        <source>The root of the mean of the squares, with n.</source>
+        <translation>平方平均值的平方根，以 n 计算。</translation>
+    </message>
+    <message>
+        <source>By nearest rank: of n magnitudes in ascending order, number 0.95 n, rounded up.</source>
+        <translation>最近秩法：n 个绝对值升序排列，取第 0.95 n（向上取整）个。</translation>
+    </message>
+    <message>
+        <source>The value farthest from 0, with its sign.</source>
+        <translation>离 0 最远的值，保留符号。</translation>
+    </message>
+    <message>
+        <source>The differences whose mean is farther from 0 than 3 standard deviations / root of n, and than 0.02 m.</source>
+        <translation>平均值的绝对值大于 3 倍标准差 / n 的平方根且大于 0.02 m 的差值。</translation>
+    </message>
+    <message>
+        <source>RMS / root of 2</source>
+        <translation>RMS / 2 的平方根</translation>
+    </message>
+    <message>
+        <source>The precision of a single measurement, from the differences of two that are equally good.</source>
+        <translation>由两次等精度测量之差求得的单次测量精度。</translation>
+    </message>
+    <message>
+        <source>Second - first</source>
+        <translation>再次－首次</translation>
+    </message>
+    <message>
+        <source>Of points measured twice, the resurvey or repeat minus the first measurement.</source>
+        <translation>测量两次的点：复测或重复测量减首次测量。</translation>
+    </message>
+    <message>
+        <source>Beyond tolerance</source>
+        <translation>复测超限</translation>
+    </message>
+    <message>
+        <source>A resurvey whose difference is above re_north_diff, re_east_diff or re_elev_diff.</source>
+        <translation>差值大于 re_north_diff、re_east_diff 或 re_elev_diff 的复测。</translation>
+    </message>
+    <message>
+        <source>2D distances of first measurements; one on the end of a class belongs to it.</source>
+        <translation>首次测量的平面距离；等于分级上限的计入该级。</translation>
     </message>
 </context>
 <context>
