@@ -30,6 +30,7 @@
 #include "quality/ui/QualitySpecificateCommand.h"
 #include "quality/ui/RepeatPointCheckCommand.h"
 #include "quality/ui/ReSurveyPointCheckCommand.h"
+#include "reports/ui/ExportReportCommand.h"
 #include "views/AttributeControl.h"
 #include "views/find/FindCommand.h"
 #include "views/tables/DesignLineTable.h"
@@ -74,6 +75,7 @@ using namespace desktop::registration;
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
     command<ExportDesignCommand>        ("ExportDesignCommand",          "导出设计数据"),
     command<ExportSurveyCommand>        ("ExportSurveyCommand",          "导出测量数据"),
+    command<ExportReportCommand>        ("ExportReportCommand",          "导出报告"),
     command<FindCommand>                ("FindCommand",                  "查找"),
     command<SurveyTableHideCommand>     ("SurveyTableHideCommand",       "勘察列表隐藏"),
     command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),

@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int kLongestNameBytes = 200; // file systems take 255, and endings come behind the name
+constexpr int kLongestFileNameBytes = 230; // a project's name and what a report adds to it
 
 QString translated(const char* text)
 {
@@ -45,6 +46,13 @@ bool isSameFile(const QString& first, const QString& second)
 const QRegularExpression& badCharacters()
 {
     static const QRegularExpression pattern(QStringLiteral("[\\x00-\\x1f\\x7f\\\\/:*?\"<>|.]"));
+    return pattern;
+}
+
+/// The same but for the dot.
+const QRegularExpression& badFileCharacters()
+{
+    static const QRegularExpression pattern(QStringLiteral("[\\x00-\\x1f\\x7f\\\\/:*?\"<>|]"));
     return pattern;
 }
 
@@ -118,6 +126,30 @@ QString projectNameFault(const QString& name)
     return {};
 }
 
+QString fileNameFault(const QString& name)
+{
+    if (name.isEmpty())
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "Please enter a file name."));
+    const QRegularExpressionMatch match = badFileCharacters().match(name);
+    if (match.hasMatch() && match.captured().at(0).isPrint())
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "A file name cannot contain \"%1\"."))
+            .arg(match.captured());
+    if (match.hasMatch())
+        return translated(
+            QT_TRANSLATE_NOOP("ProjectPlace", "A file name cannot contain control characters."));
+    if (name != name.trimmed() || name.startsWith(QLatin1Char('.')) ||
+        name.endsWith(QLatin1Char('.')))
+        return translated(QT_TRANSLATE_NOOP(
+            "ProjectPlace", "A file name cannot begin or end with a blank or a dot."));
+    if (isReserved(name.section(QLatin1Char('.'), 0, 0).trimmed()))
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace",
+                                            "Some systems cannot have files named \"%1\"."))
+            .arg(name);
+    if (name.toUtf8().size() > kLongestFileNameBytes)
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "The file name is too long."));
+    return {};
+}
+
 QString projectNameProposal(const QString& name)
 {
     static const QRegularExpression edges(QStringLiteral("^[-\\s]+|[-\\s]+$"));
@@ -148,11 +180,10 @@ QString projectSuffixFault(const QString& file)
     return fault;
 }
 
-QString projectLocationFault(const QString& location)
+QString exportFolderFault(const QString& location)
 {
     if (location.isEmpty())
-        return translated(
-            QT_TRANSLATE_NOOP("ProjectPlace", "Please choose the folder of the project."));
+        return translated(QT_TRANSLATE_NOOP("ProjectPlace", "Please choose a folder."));
     const QFileInfo folder(location);
     if (!QDir::isAbsolutePath(location))
         return translated(
@@ -167,4 +198,12 @@ QString projectLocationFault(const QString& location)
         return translated(QT_TRANSLATE_NOOP("ProjectPlace", "The folder \"%1\" cannot be written."))
             .arg(QDir::toNativeSeparators(location));
     return {};
+}
+
+QString projectLocationFault(const QString& location)
+{
+    if (location.isEmpty())
+        return translated(
+            QT_TRANSLATE_NOOP("ProjectPlace", "Please choose the folder of the project."));
+    return exportFolderFault(location);
 }

@@ -45,3 +45,10 @@ struct ProjectPlace
 
 /// Why no project can be made in this folder, a translated sentence; empty for a good folder.
 [[nodiscard]] QString projectLocationFault(const QString& location);
+
+/// Why no file that is handed over can have this name, a translated sentence; empty for a good
+/// name. It must be one on all systems.
+[[nodiscard]] QString fileNameFault(const QString& name);
+
+/// Why no file can be written in this folder, a translated sentence; empty for a good folder.
+[[nodiscard]] QString exportFolderFault(const QString& location);

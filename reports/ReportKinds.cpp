@@ -1,5 +1,8 @@
 #include "reports/ReportKinds.h"
 
+#include "reports/QualityReport.h"
+#include "reports/RoverReport.h"
+#include "reports/StatisticsReport.h"
 #include "reports/SurveyResultsReport.h"
 
 #include <QCoreApplication>
@@ -11,6 +14,11 @@ namespace {
 
 // All reports: a new one is a line here.
 constexpr std::array kKinds{
+    ReportKind{"quality", "quality-check", QT_TRANSLATE_NOOP("ReportKinds", "Quality check"),
+               writeQualityReport},
+    ReportKind{"statistics", "quality-statistics",
+               QT_TRANSLATE_NOOP("ReportKinds", "Quality statistics"), writeQualityStatistics},
+    ReportKind{"rover", "rover-log", QT_TRANSLATE_NOOP("ReportKinds", "Rover log"), writeRoverLog},
     ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
                writeSurveyResults},
 };

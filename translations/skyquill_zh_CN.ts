@@ -886,6 +886,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>CrewPanel</name>
+    <message>
+        <source>Crews</source>
+        <translation>测量组</translation>
+    </message>
+    <message>
+        <source>All &amp;crews</source>
+        <translation>全部测量组(&amp;C)</translation>
+    </message>
+    <message>
+        <source>no surveyor given</source>
+        <translation>未填测量员</translation>
+    </message>
+    <message>
+        <source>Results of this surveyor: %1</source>
+        <translation>该测量员的成果：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Single crews:</source>
+        <translation>单个测量组(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Please choose a crew.</source>
+        <translation>请选择一个测量组。</translation>
+    </message>
+</context>
+<context>
     <name>CsvFaults</name>
     <message>
         <source>&quot;%1&quot; cannot be read: %2</source>
@@ -1470,6 +1497,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgExportReport</name>
+    <message>
+        <source>Export Report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>E&amp;xport</source>
+        <translation>导出(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>取消(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Results in the reports: %1 of %2.</source>
+        <translation>报告中的成果：%1 个，共 %2 个。</translation>
+    </message>
+    <message>
+        <source>The file exists and will be replaced.</source>
+        <translation>该文件已存在，将被替换。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files exist and will be replaced.</source>
+        <translation>%2 个文件中有 %1 个已存在，将被替换。</translation>
+    </message>
+    <message>
+        <source>Go on?</source>
+        <translation>要继续吗？</translation>
+    </message>
+</context>
+<context>
     <name>DlgImportSummary</name>
     <message>
         <source>Success</source>
@@ -1632,6 +1690,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Results deleted: %1. %2</source>
         <translation>已删除的成果：%1。%2</translation>
+    </message>
+</context>
+<context>
+    <name>DlgReportResults</name>
+    <message>
+        <source>Reports written: %1 of %2.</source>
+        <translation>已写出报告：%1 个，共 %2 个。</translation>
+    </message>
+    <message>
+        <source>Export Report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>Their folder: &quot;%1&quot;.</source>
+        <translation>所在文件夹：“%1”。</translation>
+    </message>
+    <message>
+        <source>Open (&amp;%1)</source>
+        <translation>打开(&amp;%1)</translation>
+    </message>
+    <message>
+        <source>Open &quot;%1&quot;</source>
+        <translation>打开“%1”</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
     </message>
 </context>
 <context>
@@ -2346,6 +2435,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>PeriodPanel</name>
+    <message>
+        <source>Period (%1)</source>
+        <translation>时段（%1）</translation>
+    </message>
+    <message>
+        <source>&amp;All results</source>
+        <translation>全部成果(&amp;A)</translation>
+    </message>
+    <message>
+        <source>This &amp;day:</source>
+        <translation>某一天(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>从(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;to:</source>
+        <translation>到(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>The period ends before it begins.</source>
+        <translation>时段的结束早于开始。</translation>
+    </message>
+</context>
+<context>
     <name>PointCorrection</name>
     <message>
         <source>A comma cannot stand here: it separates the fields of CSV files. Write a semicolon.</source>
@@ -2488,6 +2604,30 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Open &quot;%1&quot; instead.</source>
         <translation>请打开“%1”。</translation>
+    </message>
+    <message>
+        <source>Please enter a file name.</source>
+        <translation>请输入文件名。</translation>
+    </message>
+    <message>
+        <source>A file name cannot contain &quot;%1&quot;.</source>
+        <translation>文件名不能含有“%1”。</translation>
+    </message>
+    <message>
+        <source>A file name cannot contain control characters.</source>
+        <translation>文件名不能含有控制字符。</translation>
+    </message>
+    <message>
+        <source>A file name cannot begin or end with a blank or a dot.</source>
+        <translation>文件名不能以空格或点开头或结尾。</translation>
+    </message>
+    <message>
+        <source>The file name is too long.</source>
+        <translation>文件名太长。</translation>
+    </message>
+    <message>
+        <source>Please choose a folder.</source>
+        <translation>请选择一个文件夹。</translation>
     </message>
 </context>
 <context>
@@ -2837,6 +2977,561 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>QualityReport</name>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Rover</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>基站</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>质量码</translation>
+    </message>
+    <message>
+        <source>What failed</source>
+        <translation>超限项目</translation>
+    </message>
+    <message>
+        <source>Worst test</source>
+        <translation>最严重项目</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限差</translation>
+    </message>
+    <message>
+        <source>Value / limit</source>
+        <translation>值 / 限差</translation>
+    </message>
+    <message>
+        <source>dE (m)</source>
+        <translation>dE (m)</translation>
+    </message>
+    <message>
+        <source>dN (m)</source>
+        <translation>dN (m)</translation>
+    </message>
+    <message>
+        <source>d2D (m)</source>
+        <translation>d2D (m)</translation>
+    </message>
+    <message>
+        <source>dH (m)</source>
+        <translation>dH (m)</translation>
+    </message>
+    <message>
+        <source>Across (m)</source>
+        <translation>横向偏差 (m)</translation>
+    </message>
+    <message>
+        <source>Along (m)</source>
+        <translation>纵向偏差 (m)</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy (m)</source>
+        <translation>水平精度 (m)</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy (m)</source>
+        <translation>垂直精度 (m)</translation>
+    </message>
+    <message>
+        <source>PDOP</source>
+        <translation>PDOP</translation>
+    </message>
+    <message>
+        <source>HDOP</source>
+        <translation>HDOP</translation>
+    </message>
+    <message>
+        <source>VDOP</source>
+        <translation>VDOP</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>卫星数</translation>
+    </message>
+    <message>
+        <source>Base (km)</source>
+        <translation>基站距离 (km)</translation>
+    </message>
+    <message>
+        <source>Antenna (m)</source>
+        <translation>天线高 (m)</translation>
+    </message>
+    <message>
+        <source>Solution</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Age (s)</source>
+        <translation>差分龄期 (s)</translation>
+    </message>
+    <message>
+        <source>Epochs</source>
+        <translation>历元数</translation>
+    </message>
+    <message>
+        <source>Obstacle</source>
+        <translation>障碍物</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Decision</source>
+        <translation>处理意见</translation>
+    </message>
+    <message>
+        <source>accept</source>
+        <translation>接受</translation>
+    </message>
+    <message>
+        <source>stake again</source>
+        <translation>重新放样</translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation>作废</translation>
+    </message>
+    <message>
+        <source>ask</source>
+        <translation>待询问</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>不合格点</translation>
+    </message>
+    <message>
+        <source>has failed points</source>
+        <translation>有不合格点</translation>
+    </message>
+    <message>
+        <source>has failed points, not complete</source>
+        <translation>有不合格点，未完成</translation>
+    </message>
+    <message>
+        <source>not staked</source>
+        <translation>未放样</translation>
+    </message>
+    <message>
+        <source>not complete</source>
+        <translation>未完成</translation>
+    </message>
+    <message>
+        <source>not in the design</source>
+        <translation>不在设计中</translation>
+    </message>
+    <message>
+        <source>no result chosen</source>
+        <translation>无所选成果</translation>
+    </message>
+    <message>
+        <source>not all judged</source>
+        <translation>未全部评定</translation>
+    </message>
+    <message>
+        <source>in order</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>测线</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>Designed</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>Staked</source>
+        <translation>已放样</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>剩余</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>成果</translation>
+    </message>
+    <message>
+        <source>In spec</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>Failed (%)</source>
+        <translation>不合格率 (%)</translation>
+    </message>
+    <message>
+        <source>Not judged</source>
+        <translation>未评定</translation>
+    </message>
+    <message>
+        <source>Worst point</source>
+        <translation>最严重点</translation>
+    </message>
+    <message>
+        <source>All results of the period and surveyors, with resurveys and check measurements. Each is judged anew by the limits above.</source>
+        <translation>所选时段和测量员的全部成果，包括复测和检核测量；均按上述限差重新评定。</translation>
+    </message>
+    <message>
+        <source>Designed, staked, left</source>
+        <translation>设计点、已放样、剩余</translation>
+    </message>
+    <message>
+        <source>Design points; those with a result of exactly their line and point number, whenever and by whomever it was measured; and those without.</source>
+        <translation>设计点；有相同线号和点号成果的设计点（不论何时由何人测量）；没有这种成果的设计点。</translation>
+    </message>
+    <message>
+        <source>Results that passed every test. A value on its limit passes.</source>
+        <translation>通过全部检查的成果；等于限差的值为合格。</translation>
+    </message>
+    <message>
+        <source>Results that failed one test or more.</source>
+        <translation>至少一项检查不合格的成果。</translation>
+    </message>
+    <message>
+        <source>Results that failed no test, but have no design position or a value that is no number.</source>
+        <translation>没有不合格项目，但没有设计坐标或某个值不是数字的成果。</translation>
+    </message>
+    <message>
+        <source>Of points and lines: failed of in spec and failed. Of a test: failed of tested.</source>
+        <translation>对点和测线：不合格数占合格与不合格总数的比例；对一项检查：不合格数占检查数的比例。</translation>
+    </message>
+    <message>
+        <source>Tested</source>
+        <translation>检查数</translation>
+    </message>
+    <message>
+        <source>Results with a value for this test. Those without a design position are not tested for their distance from it.</source>
+        <translation>具有该项检查所需数值的成果；没有设计坐标的成果不检查其与设计点的距离。</translation>
+    </message>
+    <message>
+        <source>The quality code of the result. Each of its digits, counted from the right, is a family of tests:</source>
+        <translation>成果的质量码，自右向左每一位为一类检查：</translation>
+    </message>
+    <message>
+        <source>Code, digit 1</source>
+        <translation>质量码第 1 位</translation>
+    </message>
+    <message>
+        <source>The position from the design: 1 distance, 2 height, 3 both.</source>
+        <translation>与设计点之差：1 为平面距离，2 为高差，3 为两者。</translation>
+    </message>
+    <message>
+        <source>Code, digit 2</source>
+        <translation>质量码第 2 位</translation>
+    </message>
+    <message>
+        <source>The resurvey; always 0 here.</source>
+        <translation>复测；此处总为 0。</translation>
+    </message>
+    <message>
+        <source>Code, digit 3</source>
+        <translation>质量码第 3 位</translation>
+    </message>
+    <message>
+        <source>1 the base is too far.</source>
+        <translation>1 为基站过远。</translation>
+    </message>
+    <message>
+        <source>Code, digit 4</source>
+        <translation>质量码第 4 位</translation>
+    </message>
+    <message>
+        <source>The accuracy: 1 horizontal, 2 vertical, 3 both.</source>
+        <translation>精度：1 为水平，2 为垂直，3 为两者。</translation>
+    </message>
+    <message>
+        <source>Code, digit 5</source>
+        <translation>质量码第 5 位</translation>
+    </message>
+    <message>
+        <source>The antenna: 1 too high, 2 too low.</source>
+        <translation>天线：1 为过高，2 为过低。</translation>
+    </message>
+    <message>
+        <source>Code, digit 6</source>
+        <translation>质量码第 6 位</translation>
+    </message>
+    <message>
+        <source>1 PDOP, 2 HDOP, 4 VDOP; of several ones the sum.</source>
+        <translation>1 为 PDOP，2 为 HDOP，4 为 VDOP；多项时为其和。</translation>
+    </message>
+    <message>
+        <source>Code, digit 7</source>
+        <translation>质量码第 7 位</translation>
+    </message>
+    <message>
+        <source>1 too few satellites.</source>
+        <translation>1 为卫星数不足。</translation>
+    </message>
+    <message>
+        <source>Code, digit 8</source>
+        <translation>质量码第 8 位</translation>
+    </message>
+    <message>
+        <source>The deviation from the line: 1 across, 2 along, 3 both.</source>
+        <translation>与测线的偏差：1 为横向，2 为纵向，3 为两者。</translation>
+    </message>
+    <message>
+        <source>The failed test whose value is the most times over its limit, or under it.</source>
+        <translation>不合格项目中超出或低于限差倍数最大的一项。</translation>
+    </message>
+    <message>
+        <source>Value, limit</source>
+        <translation>值、限差</translation>
+    </message>
+    <message>
+        <source>Those of the worst test, in the unit behind its name; a negative value keeps its sign.</source>
+        <translation>最严重项目的值和限差，单位见其名称之后；负值保留符号。</translation>
+    </message>
+    <message>
+        <source>Without a sign: above 1 when the value is too large, below 1 when it is too small.</source>
+        <translation>不计符号：值过大时大于 1，过小时小于 1。</translation>
+    </message>
+    <message>
+        <source>dE, dN, dH</source>
+        <translation>dE、dN、dH</translation>
+    </message>
+    <message>
+        <source>Measured minus design, in metres: to the east, to the north, upwards.</source>
+        <translation>实测减设计，单位为米：向东、向北、向上。</translation>
+    </message>
+    <message>
+        <source>d2D</source>
+        <translation>d2D</translation>
+    </message>
+    <message>
+        <source>The distance in the plane from the design to the measured position, in metres.</source>
+        <translation>设计位置到实测位置的平面距离，单位为米。</translation>
+    </message>
+    <message>
+        <source>Across, along</source>
+        <translation>横向偏差、纵向偏差</translation>
+    </message>
+    <message>
+        <source>Metres beside the line, and metres along it from the point&apos;s place, as the rover recorded them.</source>
+        <translation>偏离测线的距离和沿测线方向偏离设计位置的距离，单位为米，由流动站记录。</translation>
+    </message>
+    <message>
+        <source>The distance from the base station.</source>
+        <translation>与基站的距离。</translation>
+    </message>
+    <message>
+        <source>Red values</source>
+        <translation>红色数值</translation>
+    </message>
+    <message>
+        <source>They are outside their limits.</source>
+        <translation>超出限差的数值。</translation>
+    </message>
+    <message>
+        <source>Yours: choose accept, stake again, reject or ask in each row.</source>
+        <translation>由您填写：在每一行选择接受、重新放样、作废或待询问。</translation>
+    </message>
+    <message>
+        <source>Verdict: has failed points</source>
+        <translation>结论：有不合格点</translation>
+    </message>
+    <message>
+        <source>A result of the line failed; &quot;not complete&quot;: design points are left, too.</source>
+        <translation>测线有不合格的成果；“未完成”：还有剩余的设计点。</translation>
+    </message>
+    <message>
+        <source>Verdict: not staked, not complete</source>
+        <translation>结论：未放样、未完成</translation>
+    </message>
+    <message>
+        <source>No result failed, but all, or some, of the line&apos;s design points are left.</source>
+        <translation>没有不合格的成果，但测线的设计点全部或部分剩余。</translation>
+    </message>
+    <message>
+        <source>Verdict: not in the design</source>
+        <translation>结论：不在设计中</translation>
+    </message>
+    <message>
+        <source>Results, none of them failed, on a line that has no design points.</source>
+        <translation>测线没有设计点，但有成果，且没有不合格的。</translation>
+    </message>
+    <message>
+        <source>Verdict: no result chosen</source>
+        <translation>结论：无所选成果</translation>
+    </message>
+    <message>
+        <source>The line is staked, but not in this period or by these surveyors.</source>
+        <translation>测线已放样，但不在所选时段内，或不是由所选测量员完成。</translation>
+    </message>
+    <message>
+        <source>Verdict: not all judged</source>
+        <translation>结论：未全部评定</translation>
+    </message>
+    <message>
+        <source>The line is staked, and no result failed, but some were not judged.</source>
+        <translation>测线已放样，没有不合格的成果，但有些成果未评定。</translation>
+    </message>
+    <message>
+        <source>Verdict: in order</source>
+        <translation>结论：合格</translation>
+    </message>
+    <message>
+        <source>Every design point of the line is staked, and all results are in spec.</source>
+        <translation>测线的设计点全部放样，成果全部合格。</translation>
+    </message>
+    <message>
+        <source>Worst test and point of a line</source>
+        <translation>测线的最严重项目和点</translation>
+    </message>
+    <message>
+        <source>The result of the line that is the most times beyond its limit.</source>
+        <translation>测线中超出限差倍数最大的成果。</translation>
+    </message>
+    <message>
+        <source>Results judged: %1, failed: %2, on lines: %3, not judged: %4.</source>
+        <translation>已评定成果：%1，不合格：%2，涉及测线：%3，未评定：%4。</translation>
+    </message>
+    <message>
+        <source>These results failed no test, but have no design position or a value that is no number.</source>
+        <translation>这些成果没有不合格项目，但没有设计坐标，或者某个值不是数字。</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Design points</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>激发点</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>What is left of the design is counted over all results; results are those of the period and surveyors above.</source>
+        <translation>剩余的设计点按全部成果统计；成果仅限上述时段和测量员。</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>检查项目</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>检查项目</translation>
+    </message>
+    <message>
+        <source>Receivers failed / tested</source>
+        <translation>接收点不合格 / 检查数</translation>
+    </message>
+    <message>
+        <source>Receivers (%)</source>
+        <translation>接收点 (%)</translation>
+    </message>
+    <message>
+        <source>Sources failed / tested</source>
+        <translation>激发点不合格 / 检查数</translation>
+    </message>
+    <message>
+        <source>Sources (%)</source>
+        <translation>激发点 (%)</translation>
+    </message>
+    <message>
+        <source>No result failed a test.</source>
+        <translation>没有不合格的成果。</translation>
+    </message>
+    <message>
+        <source>Failed results by test</source>
+        <translation>各检查项目的不合格成果数</translation>
+    </message>
+    <message>
+        <source>Lines with the largest share of failed results</source>
+        <translation>不合格率最高的测线</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>已评定</translation>
+    </message>
+    <message>
+        <source>Distance from design</source>
+        <translation>与设计点的距离</translation>
+    </message>
+    <message>
+        <source>Height from design</source>
+        <translation>与设计点的高差</translation>
+    </message>
+    <message>
+        <source>Distance from base</source>
+        <translation>与基站的距离</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>Antenna too high</source>
+        <translation>天线过高</translation>
+    </message>
+    <message>
+        <source>Antenna too low</source>
+        <translation>天线过低</translation>
+    </message>
+    <message>
+        <source>Across the line</source>
+        <translation>横向偏差</translation>
+    </message>
+    <message>
+        <source>Along the line</source>
+        <translation>纵向偏差</translation>
+    </message>
+</context>
+<context>
     <name>QualityTests</name>
     <message>
         <source>Horizontal distance from the design</source>
@@ -2902,10 +3597,73 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>ReportFilesPanel</name>
+    <message>
+        <source>File &amp;names:</source>
+        <translation>文件名(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Reports:</source>
+        <translation>报告：</translation>
+    </message>
+    <message>
+        <source>&amp;%1 %2</source>
+        <comment>number and name of a report</comment>
+        <translation>&amp;%1 %2</translation>
+    </message>
+    <message>
+        <source>File name: %1</source>
+        <translation>文件名：%1</translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation>文件夹(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Folder of the Reports</source>
+        <translation>报告的文件夹</translation>
+    </message>
+    <message>
+        <source>Please choose a report.</source>
+        <translation>请选择一个报告。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder.</source>
+        <translation>“%1”是一个文件夹。</translation>
+    </message>
+    <message>
+        <source>Two reports have the file name &quot;%1&quot;.</source>
+        <translation>两个报告的文件名都是“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>ReportKinds</name>
     <message>
         <source>Survey results</source>
         <translation>测量成果</translation>
+    </message>
+    <message>
+        <source>Quality check</source>
+        <translation>质量检查</translation>
+    </message>
+</context>
+<context>
+    <name>ReportProgress</name>
+    <message>
+        <source>Export Report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Report %1 of %2: %3</source>
+        <translation>第 %1 个报告，共 %2 个：%3</translation>
     </message>
 </context>
 <context>

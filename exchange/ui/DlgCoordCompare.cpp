@@ -45,7 +45,7 @@
 
 namespace {
 
-constexpr int kWidth = 1290;
+constexpr int kWidth = 1460;
 constexpr int kHeight = 720;
 constexpr int kLeastWidth = 640;
 constexpr int kLeastHeight = 420;

@@ -183,7 +183,13 @@ void offerToOpen(QWidget* parent, const QString& path, const QString& text, cons
     const Button answer =
         LumMessageBox::question(parent, translated(QT_TRANSLATE_NOOP("FileExports", "Success")),
                                 text, LumMessageBox::Buttons(Button::Yes) | Button::No, details);
-    if (answer != Button::Yes || QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+    if (answer == Button::Yes)
+        open(parent, path);
+}
+
+void open(QWidget* parent, const QString& path)
+{
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
         return;
     LumMessageBox::error(
         parent, translated(QT_TRANSLATE_NOOP("FileExports", "Error")),

@@ -30,4 +30,7 @@ void offerToOpen(IDesktopHost& host, const QString& path, const QString& details
 /// The same with a text of its own, above a dialog.
 void offerToOpen(QWidget* parent, const QString& path, const QString& text, const QString& details);
 
+/// Has the desktop open a file or a folder. Tells when it cannot.
+void open(QWidget* parent, const QString& path);
+
 } // namespace FileExports

@@ -10,12 +10,15 @@ constexpr lxw_color_t kHeadingFill = 0xD9E2EC; // light enough for black text on
 constexpr lxw_color_t kLines = 0xBFC7D0;
 constexpr lxw_color_t kTitleText = 0x1F3A5F;
 constexpr const char* kTimeFormat = "yyyy-mm-dd hh:mm:ss";
+constexpr const char* kDateFormat = "yyyy-mm-dd";
 
 std::string numberFormat(CellFormats::Form form, int decimals)
 {
     using Form = CellFormats::Form;
     if (form == Form::Time)
         return kTimeFormat;
+    if (form == Form::Date)
+        return kDateFormat;
     if ((form != Form::Number && form != Form::Percent) || decimals == CellFormats::kAsNeeded)
         return {};
     std::string format = decimals > 0 ? "0." + std::string(std::size_t(decimals), '0') : "0";
@@ -28,7 +31,7 @@ void setBody(lxw_format* format, CellFormats::Form form)
     format_set_border(format, LXW_BORDER_THIN);
     format_set_border_color(format, kLines);
     format_set_align(format, LXW_ALIGN_VERTICAL_CENTER);
-    if (form == Form::Code || form == Form::Time)
+    if (form == Form::Code || form == Form::Time || form == Form::Date)
         format_set_align(format, LXW_ALIGN_CENTER);
     else if (form == Form::Text)
         format_set_indent(format, 1); // away from a number to the left of it

@@ -21,7 +21,8 @@ public:
         Code,    ///< a short text that stands in the middle
         Number,  ///< with decimals
         Percent, ///< a share, 0 to 1, with decimals
-        Time
+        Time,
+        Date ///< a day without its time
     };
     enum class Role
     {

@@ -9,7 +9,8 @@
 namespace {
 
 // Their greys differ, too.
-constexpr std::array<lxw_color_t, 4> kColours{0x2F5D8C, 0xE3A04F, 0x7FB38A, 0xB9A5CC};
+constexpr std::array<lxw_color_t, 6> kColours{0x2F5D8C, 0xE3A04F, 0x7FB38A,
+                                              0xB9A5CC, 0x8C3F3F, 0xD9CF8A};
 constexpr lxw_color_t kGridLines = 0xD9D9D9;
 
 std::uint8_t typeOf(Chart::Kind kind)
@@ -17,6 +18,8 @@ std::uint8_t typeOf(Chart::Kind kind)
     switch (kind) {
     case Chart::Kind::Columns:
         return LXW_CHART_COLUMN;
+    case Chart::Kind::StackedColumns:
+        return LXW_CHART_COLUMN_STACKED;
     case Chart::Kind::Bars:
         return LXW_CHART_BAR;
     case Chart::Kind::Lines:
@@ -91,8 +94,11 @@ lxw_chart* makeChart(lxw_workbook* book, const Chart& chart)
     lxw_chart_axis* const values = isLying ? made->x_axis : made->y_axis;
     nameAxis(categories, chart.categoryAxis);
     nameAxis(values, chart.valueAxis);
+    if (chart.hasDays)
+        chart_axis_set_num_format(categories, "yyyy-mm-dd");
     if (isLying) { // the first category on top, and yet the numbers at the foot
         chart_axis_set_reverse(categories);
+        chart_axis_set_interval_unit(categories, 1); // each has its name, however tall the font
         chart_axis_set_label_position(values, LXW_CHART_AXIS_LABEL_POSITION_HIGH);
     }
     return made;

@@ -7,8 +7,9 @@ struct Chart
 {
     enum class Kind
     {
-        Columns, ///< upright
-        Bars,    ///< lying, the first category on top
+        Columns,        ///< upright, beside each other
+        StackedColumns, ///< upright, on each other: their sum is seen, too
+        Bars,           ///< lying, the first category on top
         Lines
     };
     struct Series
@@ -23,4 +24,5 @@ struct Chart
     std::vector<Series> series;
     QString categoryAxis{}; ///< what the categories are; may be empty
     QString valueAxis{};    ///< with its unit; may be empty
+    bool hasDays = false;   ///< whether the categories are days, which stand in their places
 };

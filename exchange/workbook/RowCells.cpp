@@ -82,6 +82,11 @@ RowCells& RowCells::time(std::int64_t milliseconds)
     return number(m_book.excelTime(milliseconds));
 }
 
+RowCells& RowCells::day(std::int64_t days)
+{
+    return number(Workbook::excelDay(static_cast<double>(days)));
+}
+
 RowCells& RowCells::blank()
 {
     if (!beginCell())

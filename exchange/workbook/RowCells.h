@@ -56,6 +56,8 @@ public:
     {
         return milliseconds == 0 ? blank() : time(milliseconds);
     }
+    /// A day without its time, counted from 1970/01/01; empty for one that Excel does not know.
+    RowCells& day(std::int64_t days);
     RowCells& blank();
     /// The cells that the row has not got are empty.
     void endRow();

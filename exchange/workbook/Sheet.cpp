@@ -14,8 +14,10 @@ namespace {
 constexpr double kFilterButton = 3; // characters
 constexpr double kMargin = 2.5;     // characters
 constexpr double kNarrowest = 7;
+constexpr double kBold = 1.1; // bold letters are wider
 constexpr double kWidest = 60;
 constexpr double kTimeWidth = 19;
+constexpr double kDateWidth = 10;
 
 double numberWidth(double value, const SheetColumn& column)
 {
@@ -42,6 +44,7 @@ void Sheet::begin(const QString& name)
     if (m_sheet == nullptr)
         return;
     m_row = 0;
+    m_endOfTable = 0;
     m_widths.assign(m_columns.size(), {});
     writeTitle();
     writeGroups();
@@ -55,6 +58,11 @@ void Sheet::begin(const QString& name)
 std::uint32_t Sheet::firstRow() const
 {
     return 1U + (m_look.title.isEmpty() ? 0U : 1U) + (m_look.groups.empty() ? 0U : 1U);
+}
+
+std::uint32_t Sheet::tableEnd() const
+{
+    return std::max(m_endOfTable != 0 ? m_endOfTable : m_row, firstRow() + 1);
 }
 
 void Sheet::writeTitle()
@@ -149,15 +157,27 @@ void Sheet::colourText(std::size_t column, const QString& text, Colour colour)
     m_rules.push_back({column, QStringLiteral("=%1=\"") + quoted + QLatin1Char('"'), colour});
 }
 
+void Sheet::colourFilled(std::size_t column, Colour colour)
+{
+    m_rules.push_back({column, QStringLiteral("=LEN(%1)>0"), colour});
+}
+
 void Sheet::addPickList(std::size_t column, const QStringList& choices)
 {
     m_pickLists.push_back({column, choices});
 }
 
+void Sheet::endTable()
+{
+    finishTable();
+    m_endOfTable = m_row;
+    if (m_row < LXW_ROW_MAX)
+        ++m_row;
+}
+
 CellRange Sheet::cells(std::size_t column) const
 {
-    return {m_sheetName, firstRow(), std::max(m_row, firstRow() + 1) - 1,
-            static_cast<std::uint16_t>(column)};
+    return {m_sheetName, firstRow(), tableEnd() - 1, static_cast<std::uint16_t>(column)};
 }
 
 void Sheet::finish()
@@ -166,10 +186,18 @@ void Sheet::finish()
         return;
     setWidths();
     setUpPrinting();
+    if (m_endOfTable == 0)
+        finishTable();
+}
+
+/// The library takes no range that ends above the last row that was written.
+void Sheet::finishTable()
+{
+    if (m_sheet == nullptr)
+        return;
     const auto lastColumn = static_cast<lxw_col_t>(m_columns.size() - 1);
     if (m_look.hasFilter)
-        m_book.check(worksheet_autofilter(m_sheet, firstRow() - 1, 0,
-                                          std::max(m_row, firstRow() + 1) - 1, lastColumn));
+        m_book.check(worksheet_autofilter(m_sheet, firstRow() - 1, 0, tableEnd() - 1, lastColumn));
     if (m_row > firstRow()) {
         applyRules();
         applyPickLists();
@@ -185,12 +213,25 @@ double Sheet::widthOf(std::size_t index) const
     double width = std::max(kNarrowest, cells.text);
     if (column.form == SheetColumn::Form::Time)
         width = std::max(width, kTimeWidth);
+    else if (column.form == SheetColumn::Form::Date)
+        width = std::max(width, kDateWidth);
     else
         width = std::max(
             {width, numberWidth(cells.smallest, column), numberWidth(cells.largest, column)});
-    width =
-        std::max(width, longestWord(column.caption) * 1.1 + (m_look.hasFilter ? kFilterButton : 0));
-    return std::min(width, kWidest) + kMargin;
+    width = std::max(width,
+                     longestWord(column.caption) * kBold + (m_look.hasFilter ? kFilterButton : 0));
+    return std::min(std::max(width, widthOfGroup(index)), kWidest) + kMargin;
+}
+
+double Sheet::widthOfGroup(std::size_t column) const
+{
+    std::size_t end = 0;
+    for (const SheetGroup& group : m_look.groups) {
+        end += static_cast<std::size_t>(group.columns);
+        if (column < end)
+            return textWidth(group.caption.toStdString()) * kBold / group.columns;
+    }
+    return 0;
 }
 
 void Sheet::setWidths()
@@ -212,7 +253,7 @@ void Sheet::applyRules()
         format.type = LXW_CONDITIONAL_TYPE_FORMULA;
         format.value_string = formula.data();
         format.format = m_book.formats().get(rule.colour);
-        m_book.check(worksheet_conditional_format_range(m_sheet, firstRow(), column, m_row - 1,
+        m_book.check(worksheet_conditional_format_range(m_sheet, firstRow(), column, tableEnd() - 1,
                                                         column, &format));
     }
 }
@@ -233,7 +274,7 @@ void Sheet::applyPickLists()
         validation.validate = LXW_VALIDATION_TYPE_LIST;
         validation.value_list = choices.data();
         const auto column = static_cast<lxw_col_t>(list.column);
-        m_book.check(worksheet_data_validation_range(m_sheet, firstRow(), column, m_row - 1, column,
-                                                     &validation));
+        m_book.check(worksheet_data_validation_range(m_sheet, firstRow(), column, tableEnd() - 1,
+                                                     column, &validation));
     }
 }

@@ -44,8 +44,14 @@ public:
     /// Colours numbers below the limit.
     void colourBelow(std::size_t column, double limit, Colour colour = Colour::Fault);
     void colourText(std::size_t column, const QString& text, Colour colour = Colour::Fault);
+    /// Colours all cells that hold anything.
+    void colourFilled(std::size_t column, Colour colour = Colour::Fault);
     /// Lets the user choose from these texts, 255 characters in all.
     void addPickList(std::size_t column, const QStringList& choices);
+
+    /// Ends the table, whose rules are given by then, and leaves a row free: the next rows have its
+    /// columns, but are not filtered, coloured or in `cells`.
+    void endTable();
 
     /// The cells below the heading of a column, on the last sheet of this table.
     [[nodiscard]] CellRange cells(std::size_t column) const;
@@ -75,17 +81,23 @@ private:
                      lxw_format* format);
     /// Of the rows below the headings.
     [[nodiscard]] std::uint32_t firstRow() const;
+    /// Behind the last row of the table, which has one at least.
+    [[nodiscard]] std::uint32_t tableEnd() const;
+    void finishTable();
     void setUpPrinting();
     void setWidths();
     void applyRules();
     void applyPickLists();
     /// Of what the column has shown so far, in characters.
     [[nodiscard]] double widthOf(std::size_t column) const;
+    /// What a column needs so that the caption above it and its neighbours is whole.
+    [[nodiscard]] double widthOfGroup(std::size_t column) const;
 
     QString m_name; ///< as it was asked for
     QString m_sheetName;
     SheetLook m_look;
     std::vector<Rule> m_rules;
     std::vector<PickList> m_pickLists;
+    std::uint32_t m_endOfTable = 0; ///< 0 while rows are added to it
     int m_part = 1;
 };

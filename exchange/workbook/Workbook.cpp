@@ -147,8 +147,12 @@ void Workbook::setFooter(lxw_worksheet* sheet)
 
 double Workbook::excelTime(std::int64_t milliseconds)
 {
-    const double day =
-        kExcelDayOf1970 + static_cast<double>(m_times.clockSeconds(milliseconds)) / kSecondsADay;
+    return excelDay(static_cast<double>(m_times.clockSeconds(milliseconds)) / kSecondsADay);
+}
+
+double Workbook::excelDay(double days)
+{
+    const double day = kExcelDayOf1970 + days;
     return day >= kFirstDay && day < kLastDay ? day : std::numeric_limits<double>::quiet_NaN();
 }
 

@@ -73,6 +73,8 @@ public:
     /// A moment as Excel counts: days since 1900 in the zone in which the program shows times. NaN
     /// for one that Excel does not know.
     [[nodiscard]] double excelTime(std::int64_t milliseconds);
+    /// The same for days since 1970, of which the part behind the point is the time.
+    [[nodiscard]] static double excelDay(double days);
     /// The title, the sheet's name and the number of the page.
     void setFooter(lxw_worksheet* sheet);
     /// Keeps the first error code of the library.

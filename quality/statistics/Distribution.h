@@ -16,11 +16,15 @@ struct Distribution
     std::array<std::size_t, kDistanceClassesM.size() + 1> counts{};
     std::size_t notJudged = 0; ///< those without a distance
 
+    void add(const Observation& result);
     [[nodiscard]] std::size_t judged() const;
     /// Of a class and all below it.
     [[nodiscard]] std::size_t cumulated(std::size_t distanceClass) const;
 };
 
 [[nodiscard]] Distribution distributionOf(const SurveySample& sample);
+
+/// Those of sources and of receivers.
+[[nodiscard]] std::array<Distribution, 2> distributionsOfKinds(const SurveySample& sample);
 
 } // namespace statistics

@@ -100,6 +100,21 @@ void setTimes(BaseUse& use, const Members& members)
     use.lastMs = members.back()->timeMs;
 }
 
+/// Compares where a result puts the base with where the first one does; both tell it.
+void addPosition(BaseUse& use, const SurveyPoint& point, double planeUnitM)
+{
+    const double north = point.referenceNorth - use.first->referenceNorth;
+    const double east = point.referenceEast - use.first->referenceEast;
+    const double moved = std::sqrt(north * north + east * east) * planeUnitM;
+    const double height = std::fabs(point.referenceAltitude - use.first->referenceAltitude);
+    use.movedM = std::max(use.movedM, moved);
+    use.movedHeightM = std::max(use.movedHeightM, height); // a height that is no number is none
+    if (!(moved > kBaseMovedM) && !(height > kBaseMovedM))
+        return;
+    if (use.elsewhere++ == 0)
+        use.firstElsewhere = &point;
+}
+
 /// \param members results of one base, in the order of their times, not empty
 BaseUse baseOf(const SurveySample& sample, const Members& members)
 {
@@ -118,12 +133,7 @@ BaseUse baseOf(const SurveySample& sample, const Members& members)
         use.distanceM.add(point.referenceDistance);
         if (!hasBasePosition(point) || !hasBasePosition(*use.first))
             continue;
-        const double north = point.referenceNorth - use.first->referenceNorth;
-        const double east = point.referenceEast - use.first->referenceEast;
-        const double height = std::fabs(point.referenceAltitude - use.first->referenceAltitude);
-        use.movedM =
-            std::max(use.movedM, std::sqrt(north * north + east * east) * sample.limits.planeUnitM);
-        use.movedHeightM = std::max(use.movedHeightM, height); // a height that is no number is none
+        addPosition(use, point, sample.limits.planeUnitM);
     }
     use.days = days.size();
     use.rovers = rovers.size();
@@ -184,6 +194,11 @@ std::vector<RoverGap> roverGapsOf(const SurveySample& sample, double minutes)
         }
     }
     return gaps;
+}
+
+bool BaseUse::hasPosition() const
+{
+    return hasBasePosition(*first);
 }
 
 std::vector<BaseUse> basesOf(const SurveySample& sample)

@@ -63,6 +63,10 @@ inline constexpr double kGapMinutes = 30;
 [[nodiscard]] std::vector<RoverGap> roverGapsOf(const SurveySample& sample,
                                                 double minutes = kGapMinutes);
 
+/// A base has moved when a result puts it farther than this from where the first one does, on the
+/// plane or in height, metres. Less is the rounding of field controllers.
+inline constexpr double kBaseMovedM = 0.02;
+
 /// A base station as its results tell of it.
 struct BaseUse
 {
@@ -79,6 +83,11 @@ struct BaseUse
     /// out.
     double movedM = 0;
     double movedHeightM = 0;
+    std::size_t elsewhere = 0;                   ///< the results of which the base has moved
+    const SurveyPoint* firstElsewhere = nullptr; ///< the earliest of them
+
+    /// Whether `first` tells where the base is; when it does not, no result does.
+    [[nodiscard]] bool hasPosition() const;
 };
 
 /// Ordered by the ids.

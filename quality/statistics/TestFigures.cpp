@@ -14,15 +14,6 @@ bool isFailed(const QualityTest& test, const Observation& result)
     return (qualityDigit(result.code, test.power) & test.weight) != 0;
 }
 
-/// How many times its limit a value is over it, or under it.
-double severity(const JudgedValue& judged)
-{
-    const bool isUnder = judged.verdict == JudgedValue::Verdict::IsUnder;
-    const double larger = isUnder ? judged.limit : std::fabs(judged.value);
-    const double smaller = isUnder ? judged.value : judged.limit;
-    return smaller > 0 ? larger / smaller : std::numeric_limits<double>::infinity();
-}
-
 void add(TestFigures& figures, const Observation& result, const QualityLimits& limits)
 {
     const SurveyPoint& point = *result.point;
@@ -66,6 +57,14 @@ double WorstFault::ratio() const
     return judged.limit > 0 ? judged.value / judged.limit : kUnknown;
 }
 
+double WorstFault::severity() const
+{
+    const bool isUnder = judged.verdict == JudgedValue::Verdict::IsUnder;
+    const double larger = isUnder ? judged.limit : std::fabs(judged.value);
+    const double smaller = isUnder ? judged.value : judged.limit;
+    return smaller > 0 ? larger / smaller : std::numeric_limits<double>::infinity();
+}
+
 std::optional<WorstFault> worstFaultOf(const Observation& result, const QualityLimits& limits)
 {
     std::optional<WorstFault> worst;
@@ -73,7 +72,7 @@ std::optional<WorstFault> worstFaultOf(const Observation& result, const QualityL
         if (!isFailed(*test, result))
             continue;
         const WorstFault fault{test, test->judge(*result.point, limits)};
-        if (!worst || severity(fault.judged) > severity(worst->judged))
+        if (!worst || fault.severity() > worst->severity())
             worst = fault;
     }
     return worst;

@@ -38,6 +38,9 @@ struct WorstFault
     /// Value / limit, above 1 or, of a value under its limit, below 1, maybe negative; `kUnknown`
     /// of a limit that is 0.
     [[nodiscard]] double ratio() const;
+    /// How many times its limit the value is over it, or under it; infinite for a limit, or a value
+    /// under it, that is not above 0.
+    [[nodiscard]] double severity() const;
 };
 
 /// The fault farthest beyond its limit: times the limit, or of a value under its limit, the limit's

@@ -108,7 +108,8 @@ TEST(Bases, TellThatABaseWasMoved)
     place(measure(survey, "3", 10), 0, 100);
     place(measure(survey, "2", 2000), -3, 100.25);
     place(measure(survey, "1", 20), 1, 99.875);
-    measure(survey, "0", 0); // the first, but without a position of the base
+    place(measure(survey, "6", 30), 0, 100.015625); // rounding
+    measure(survey, "0", 0);                        // the first, but without a position of the base
     measure(survey, "4", 0).dateTime = 0;
     measure(survey, "5", 0, "B2").dateTime = 0;
     survey.results.find("1", "2")->instrumentSerialNumber = "R2";
@@ -118,7 +119,9 @@ TEST(Bases, TellThatABaseWasMoved)
     EXPECT_EQ(bases[0].movedM, 1.5);
     EXPECT_EQ(bases[0].movedHeightM, 0.25);
     EXPECT_EQ((std::vector{bases[0].results, bases[0].days, bases[0].rovers}),
-              (std::vector<std::size_t>{5, 2, 2}));
+              (std::vector<std::size_t>{6, 2, 2}));
+    EXPECT_EQ(bases[0].elsewhere, 2U);
+    EXPECT_EQ(bases[0].firstElsewhere->pointNumber, "1");
     EXPECT_EQ(bases[0].firstMs, MadeSurvey::kNoonMs);
     EXPECT_EQ(bases[0].lastMs, MadeSurvey::kNoonMs + 2000 * kMinuteMs);
     EXPECT_EQ(bases[1].firstMs, 0);

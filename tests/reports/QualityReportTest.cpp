@@ -1,0 +1,265 @@
+#include "reports/QualityReport.h"
+
+#include "basalt_utilities/Dictionary.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "reports/ReportInput.h"
+#include "samples/DemoSurvey.h"
+#include "samples/ResultCompleter.h"
+#include "tests/support/Literals.h"
+#include "tests/support/TestFolder.h"
+#include "tests/support/WorkbookReader.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace {
+
+using Rows = std::vector<QStringList>;
+
+constexpr std::int64_t kNoon = 1747281600000; // 2025-05-15 12:00 in Shanghai
+
+/// A result at its design position that passes every test.
+SurveyPoint good(const char* line, const char* number)
+{
+    SurveyPoint point;
+    point.lineNumber = line;
+    point.pointNumber = number;
+    point.pointMark = 1;
+    point.designNorth = point.north = 5000;
+    point.designEast = point.east = 3000;
+    point.designElevation = point.elevation = 10;
+    point.antennaHeight = 2;
+    point.horizontalAccuracy = point.verticalAccuracy = 0.25;
+    point.satelliteNumber = 12;
+    point.pdop = point.hdop = point.vdop = 1.5;
+    point.referenceDistance = 2500;
+    point.dateTime = kNoon;
+    return point;
+}
+
+class QualityReport : public testing::Test
+{
+protected:
+    [[nodiscard]] QString path() const { return m_folder.path("质量 1.xlsx"); }
+
+    Outcome write()
+    {
+        return writeQualityReport(path(),
+                                  {m_design, m_survey, m_quality, m_coords, "测区"_q,
+                                   "/p/测区.kelx"_q, "Skyquill 1.0"_q, m_choice, m_progress});
+    }
+    void design(const char* line, const char* number)
+    {
+        m_design.set({line, number, 3000, 5000, 10, 0, 1, 0});
+    }
+    void addTooFar(const char* line, const char* number, double dN)
+    {
+        SurveyPoint point = good(line, number);
+        point.north += dN;
+        m_survey.set(point);
+    }
+
+    /// The rows of a sheet below its headings: these columns of them.
+    [[nodiscard]] Rows rows(const char* sheet, const QStringList& columns) const
+    {
+        const auto all = WorkbookReader(path()).rows(QString::fromUtf8(sheet));
+        Rows chosen;
+        for (std::size_t row = 1; row < all.size(); ++row) {
+            QStringList& cells = chosen.emplace_back();
+            for (const QString& column : columns)
+                cells << all[row].value(all[0].indexOf(column));
+        }
+        return chosen;
+    }
+    /// The rows of the summary from the one that begins with this text.
+    [[nodiscard]] Rows summaryFrom(const char* label) const
+    {
+        Rows all = WorkbookReader(path()).rows("Summary"_q);
+        const auto found = std::find_if(all.begin(), all.end(), [&](const QStringList& row) {
+            return row.value(0) == QString::fromUtf8(label);
+        });
+        return {found, all.end()};
+    }
+
+    TestFolder m_folder;
+    DesignPoints m_design;
+    SurveyPoints m_survey;
+    basalt::Dictionary m_quality;
+    basalt::Dictionary m_coords;
+    ReportChoice m_choice;
+    ProgressReporter m_progress{nullptr};
+};
+
+TEST_F(QualityReport, ListsWhatFailedWithItsWorstTest)
+{
+    m_survey.set(good("L", "1"));
+    addTooFar("L", "2", 0.5); // on the limit
+    addTooFar("L", "3", -1);
+    SurveyPoint several = good("L", "4");
+    several.east += 1;                // 2 times the limit
+    several.horizontalAccuracy = 5;   // 10 times
+    several.satelliteNumber = 2;      // a third of it
+    several.referenceDistance = 1e4;  // on the limit
+    several.qualityStandard = 100000; // of an older check
+    m_survey.set(several);
+    SurveyPoint low = good("L", "5");
+    low.antennaHeight = 0.125;
+    low.satelliteNumber = 2;
+    m_survey.set(low);
+    SurveyPoint beside = good("L", "6");
+    beside.transversalDeviation = -0.75;
+    m_survey.set(beside);
+    ASSERT_TRUE(write().isDone());
+    EXPECT_EQ(rows("Failures", {"Point"_q, "Code"_q, "What failed"_q, "Worst test"_q, "Value"_q,
+                                "Limit"_q, "Value / limit"_q}),
+              (Rows{{"3"_q, "1"_q, "Distance from design"_q, "Distance from design (m)"_q, "1"_q,
+                     "0.5"_q, "2"_q},
+                    {"4"_q, "1001001"_q, "Distance from design; Horizontal accuracy; Satellites"_q,
+                     "Horizontal accuracy (m)"_q, "5"_q, "0.5"_q, "10"_q},
+                    {"5"_q, "1020000"_q, "Antenna too low; Satellites"_q, "Antenna too low (m)"_q,
+                     "0.125"_q, "0.5"_q, "0.25"_q},
+                    {"6"_q, "10000000"_q, "Across the line"_q, "Across the line (m)"_q, "-0.75"_q,
+                     "0.5"_q, "1.5"_q}}));
+    EXPECT_EQ(
+        rows("Failures", {"Time"_q, "dE (m)"_q, "dN (m)"_q, "d2D (m)"_q, "Base (km)"_q}).at(1),
+        (QStringList{"45792.5"_q, "1"_q, "0"_q, "1"_q, "10"_q}));
+}
+
+TEST_F(QualityReport, MeasuresInMetresAlsoInAProjectInFeet)
+{
+    m_coords.set("unit_m", "0.3048");
+    m_coords.set("factor", "3.280839895013123");
+    m_coords.set("project_type", "1");
+    addTooFar("L", "1", 1.5); // 0.457 m
+    SurveyPoint beside = good("L", "2");
+    beside.longitudinalDeviation = 2.5;
+    m_survey.set(beside);
+    ASSERT_TRUE(write().isDone());
+    EXPECT_EQ(rows("Failures", {"Point"_q, "Value"_q, "Along (m)"_q}),
+              (Rows{{"2"_q, "0.762"_q, "0.762"_q}}));
+}
+
+TEST_F(QualityReport, MarksWhatIsOutOfRangeAndLetsTheUserDecide)
+{
+    addTooFar("L", "1", 1);
+    ASSERT_TRUE(write().isDone());
+    const WorkbookReader reader(path());
+    const QStringList rules = reader.texts("Failures"_q, "formula");
+    EXPECT_TRUE(rules.contains("AND(ISNUMBER(P2),ABS(P2)>0.500001)"_q)); // d2D
+    EXPECT_TRUE(rules.contains("AND(ISNUMBER(Y2),Y2<6)"_q));             // satellites
+    EXPECT_TRUE(rules.contains("AND(ISNUMBER(Z2),ABS(Z2)>10)"_q));       // kilometres to the base
+    EXPECT_TRUE(rules.contains("AND(ISNUMBER(AA2),AA2<0.5)"_q));         // antenna
+    EXPECT_EQ(reader.texts("Failures"_q, "formula1"),
+              QStringList{"\"accept,stake again,reject,ask\""_q});
+    EXPECT_EQ(reader.attributes("Failures"_q, "dataValidation", "sqref"), QStringList{"AG2"_q});
+    EXPECT_EQ(rows("Failures", {"Decision"_q}), Rows{{QString()}});
+}
+
+TEST_F(QualityReport, GivesEveryLineItsVerdict)
+{
+    for (const char* line : {"1", "2", "3", "4", "5", "6"}) {
+        design(line, "1");
+        design(line, "2");
+    }
+    for (const char* line : {"1", "2", "6", "7"})
+        m_survey.set(good(line, "1"));
+    m_survey.set(good("1", "2"));
+    m_survey.set(good("1", "2F")); // a resurvey stakes nothing
+    addTooFar("3", "1", 2);
+    addTooFar("3", "2", -3);
+    addTooFar("4", "1", 2);
+    SurveyPoint lost = good("6", "2");
+    lost.north = std::nan("");
+    m_survey.set(lost);
+    const QStringList columns{"Line"_q,    "Verdict"_q, "Staked"_q,     "Left"_q,
+                              "In spec"_q, "Failed"_q,  "Not judged"_q, "Worst point"_q};
+    ASSERT_TRUE(write().isDone());
+    const auto row = [](const char* cells) {
+        return QString::fromUtf8(cells).split(QLatin1Char('|'));
+    };
+    EXPECT_EQ(
+        rows("Lines", columns),
+        (Rows{row("1|in order|2|0|3|0|0|"), row("2|not complete|1|1|1|0|0|"),
+              row("3|has failed points|2|0|0|2|0|2"),
+              row("4|has failed points, not complete|1|1|0|1|0|1"), row("5|not staked|0|2|0|0|0|"),
+              row("6|not all judged|2|0|1|0|1|"), row("7|not in the design|0|0|1|0|0|")}));
+    m_choice.fromMs = kNoon + 1;
+    ASSERT_TRUE(write().isDone());
+    EXPECT_EQ(rows("Lines", columns).at(2), row("3|no result chosen|2|0|0|0|0|"));
+}
+
+TEST_F(QualityReport, SumsUpByTestKindAndLine)
+{
+    m_survey.set(good("1", "1"));
+    addTooFar("1", "2", 2);
+    addTooFar("2", "1", 2);
+    SurveyPoint source = good("3", "1");
+    source.pointMark = 0;
+    source.pdop = source.vdop = 4;
+    m_survey.set(source);
+    source.pointNumber = "2";
+    m_survey.set(source);
+    source.pointNumber = "3";
+    source.pdop = 1;
+    source.designNorth = source.designEast = 0;
+    m_survey.set(source);
+    EXPECT_EQ(write().text(), "Results judged: 6, failed: 5, on lines: 3, not judged: 0."_q);
+    const Rows tests = summaryFrom("Test");
+    EXPECT_EQ(tests.at(1), (QStringList{"VDOP"_q, "6"_q, "3"_q, "0.5"_q, "0 / 3"_q, "0"_q,
+                                        "3 / 3"_q, "1"_q})); // the most failed first
+    EXPECT_EQ(tests.at(2), (QStringList{"Distance from design"_q, "5"_q, "2"_q, "0.4"_q, "2 / 3"_q,
+                                        "0.6666666666666666"_q, "0 / 2"_q, "0"_q}));
+    EXPECT_EQ(tests.at(3).at(0), "PDOP"_q);
+    EXPECT_EQ(tests.at(4).at(2), "0"_q);
+    EXPECT_EQ(summaryFrom("Sources").at(0).mid(3),
+              (QStringList{"3"_q, "0"_q, "3"_q, "1"_q, "0"_q}));
+    // The worst lines from the top down: three of them, in two columns.
+    const Rows lines = summaryFrom("Line");
+    EXPECT_EQ(lines.at(1), (QStringList{"3"_q, "3"_q, "3"_q, "1"_q, "1"_q, "2"_q, "1"_q, "0.5"_q}));
+    EXPECT_EQ(lines.at(2).mid(0, 4), (QStringList{"2"_q, "1"_q, "1"_q, "1"_q}));
+    const auto bars =
+        QRegularExpression(R"(\$C\$(\d+):\$C\$(\d+))"_q)
+            .match(QString::fromUtf8(WorkbookReader(path()).part("xl/charts/chart1.xml"_q)));
+    EXPECT_EQ(bars.captured(2).toInt() - bars.captured(1).toInt(), 2); // of those that failed
+}
+
+TEST_F(QualityReport, SaysThatNothingFailedAndLeavesNothingWhenCancelled)
+{
+    m_survey.set(good("1", "1"));
+    ASSERT_TRUE(write().isDone());
+    EXPECT_EQ(summaryFrom("No result failed a test.").size(), 1U); // no chart, no worst lines
+    EXPECT_TRUE(rows("Failures", {"Line"_q}).empty());
+
+    m_folder.write("质量 1.xlsx", "old");
+    for (int number = 0; number < 2000; ++number)
+        addTooFar("2", std::to_string(number).c_str(), 9);
+    int asked = 0;
+    m_choice.isCancelled = [&] { return ++asked == 2; };
+    EXPECT_EQ(write().kind(), Outcome::Kind::Refused);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    EXPECT_EQ(TestFolder::read(path()), "old");
+}
+
+TEST_F(QualityReport, FindsThePlantedFaultsOfTheDemoSurveyAndNothingElse)
+{
+    ASSERT_EQ(demo::useSurveySystem(get_project_coord_transform()), QString());
+    demo::DemoSurvey demo = demo::makeDemoSurvey(7, get_project_coord_transform());
+    m_design = std::move(demo.design);
+    m_survey = std::move(demo.survey);
+    Rows planted;
+    for (const demo::PlantedFault& fault : demo.faults) {
+        const QString kind = QString::fromStdString(fault.kind);
+        if (kind != "missing"_q && kind != "repeat"_q && !kind.startsWith("resurvey"_q))
+            planted.push_back(
+                {QString::fromStdString(fault.line), QString::fromStdString(fault.point)});
+    }
+    std::sort(planted.begin(), planted.end());
+    ASSERT_GT(planted.size(), 50U);
+    ASSERT_TRUE(write().isDone());
+    EXPECT_EQ(rows("Failures", {"Line"_q, "Point"_q}), planted);
+}
+
+} // namespace
