@@ -87,6 +87,7 @@ PlaneFit robustFit(const CoordPairs& pairs, const std::vector<std::size_t>& samp
     PlaneFit fit = fitOf(pairs, kept);
     for (int round = 0; round < kMostRounds; ++round) {
         std::vector<double> residuals;
+        residuals.reserve(sample.size());
         for (const std::size_t row : sample)
             residuals.push_back(fit.residual(pairs.stored[row], pairs.difference(row)));
         const double most = std::max(3 * medianOf(residuals), kFollows);

@@ -27,7 +27,8 @@ QString unitOf(const IDictionary& parameters)
 
 QString fixed(double value, int decimals)
 {
-    return lum::toQString(basalt::formatFixed(withoutMinusZero(value), decimals));
+    return lum::toQString(
+        basalt::formatFixed(withoutMinusZero(value, std::pow(10, -decimals)), decimals));
 }
 
 /// "+1.250 m"
@@ -157,8 +158,7 @@ QString agreementText(const CoordCompare& comparison, const CoordAgreement& agre
     const QString unit = unitOf(current);
     const QString storedUnit = file.size() == 0 ? unit : unitOf(file);
     const std::size_t left = comparison.size() - agreement.count;
-    const QString untold = left == 0
-                               ? QString()
+    QString untold = left == 0 ? QString()
                                : Texts::tr("Results that could not be compared: %1. The first: %2")
                                      .arg(lum::groupedNumber(left), firstMessage(comparison));
     if (comparison.size() == 0)

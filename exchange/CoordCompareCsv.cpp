@@ -33,9 +33,10 @@ bool isWritten(const SurveyColumn& column)
 void addTriple(CsvRow& row, const CoordTriple& triple)
 {
     constexpr int kDecimals = 4;
+    constexpr double kLastDigit = 1e-4;
     for (const double number : {triple.first, triple.second, triple.third}) {
         if (std::isfinite(number))
-            row.addFixed(number, kDecimals);
+            row.addFixed(withoutMinusZero(number, kLastDigit), kDecimals);
         else
             row.addText({});
     }

@@ -29,8 +29,9 @@ struct CoordPairs
            std::isfinite(triple.third);
 }
 
-/// The number, or 0 where three decimals would print it as "-0.000".
-[[nodiscard]] inline double withoutMinusZero(double number)
+/// The number, or 0 where it would be printed as "-0.000".
+/// \param lastDigit the value of a 1 in the last decimal that is printed
+[[nodiscard]] inline double withoutMinusZero(double number, double lastDigit = 0.001)
 {
-    return std::abs(number) < 0.0005 ? 0 : number;
+    return std::abs(number) < lastDigit / 2 ? 0 : number;
 }

@@ -14,7 +14,7 @@
 template <class Point>
 void fetchAhead(const Point& point)
 {
-    constexpr std::uintptr_t kPlaces = 8;
+    constexpr std::uintptr_t kPlaces = 8; // NOLINTNEXTLINE(performance-no-int-to-ptr): never read
     __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(&point) +
                                                      kPlaces * sizeof(Point)));
 }

@@ -6,12 +6,15 @@
 #include <QAbstractTableModel>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 QByteArray field(const QVariant& value)
 {
     QByteArray text = value.toString().toUtf8();
-    if (text.contains(',') || text.contains('"'))
+    if (std::any_of(text.cbegin(), text.cend(),
+                    [](char c) { return c == ',' || c == '"' || c == '\n' || c == '\r'; }))
         text = '"' + text.replace("\"", "\"\"") + '"';
     return text;
 }

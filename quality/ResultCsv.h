@@ -8,7 +8,7 @@
 class QAbstractTableModel;
 
 /// The result of a check as CSV, UTF-8: a line of captions, then a line for each row. A field with
-/// a comma or a quote stands in quotes, its own quotes doubled.
+/// a comma, a quote or a line break stands in quotes, its own quotes doubled.
 enum class ResultCsv
 {
     AsShown,   ///< as the list on the screen

@@ -1,5 +1,7 @@
 #include "quality/Verdicts.h"
 
+#include <bit>
+
 Verdicts verdictsOf(const DesignPoints& design, const SurveyPoints& survey)
 {
     Verdicts found;
@@ -13,9 +15,9 @@ Verdicts verdictsOf(const DesignPoints& design, const SurveyPoints& survey)
     for (const auto& [number, line] : survey) {
         for (const SurveyPoint& point : line) {
             found.codes.insert(found.codes.end(), {point.qualityStandard, point.isResurvey});
-            found.differences.insert(
-                found.differences.end(),
-                {point.resurveyXDiff, point.resurveyYDiff, point.resurveyHDiff});
+            for (const double difference :
+                 {point.resurveyXDiff, point.resurveyYDiff, point.resurveyHDiff})
+                found.differences.push_back(std::bit_cast<std::uint64_t>(difference));
         }
     }
     return found;

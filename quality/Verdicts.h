@@ -2,13 +2,14 @@
 
 #include "model/PointLines.h"
 
+#include <cstdint>
 #include <vector>
 
 /// All that the checks write on points and a save keeps; to see whether a run has changed it.
 struct Verdicts
 {
     std::vector<int> codes;
-    std::vector<double> differences;
+    std::vector<std::uint64_t> differences; ///< their bits, since one that is no number equals none
 
     friend bool operator==(const Verdicts&, const Verdicts&) = default;
 };

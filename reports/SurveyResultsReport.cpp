@@ -3,6 +3,7 @@
 #include "exchange/workbook/Workbook.h"
 #include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/LengthUnit.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
 #include "quality/QualityLimits.h"
@@ -57,6 +58,7 @@ struct Move
     double up = 0;
     double distance = 0;
     double bearingDeg = 0; ///< clockwise from grid north, [0, 360); NaN without a distance
+    bool isBeyond = false; ///< the distance is above its limit, as the quality check judges it
 };
 
 double bearing(double north, double east)
@@ -194,7 +196,9 @@ Move Report::moveOf(const SurveyPoint& point) const
     const double unitM = m_limits.planeUnitM;
     Move move{(point.north - point.designNorth) * unitM, (point.east - point.designEast) * unitM,
               point.elevation - point.designElevation};
-    move.distance = quality_test::kDesignHorizontal.judge(point, m_limits).value;
+    const JudgedValue judged = quality_test::kDesignHorizontal.judge(point, m_limits);
+    move.distance = judged.value;
+    move.isBeyond = judged.verdict != JudgedValue::Verdict::Passes;
     move.bearingDeg = bearing(move.north * m_axes.northSign(), move.east * m_axes.eastSign());
     return move;
 }
@@ -251,15 +255,15 @@ bool Report::writeMoved()
           inPlaneUnit(Texts::tr("East")), Texts::tr("Elevation (m)")})
         columns.push_back({name, Form::Number, kDecimals});
     Sheet& sheet = m_book.addSheet(Texts::tr("Moved"), std::move(columns), {.frozenColumns = 2});
-    sheet.colourAbove(kDistance, m_limits.designHorizontalM);
-    sheet.colourAbove(kUp, m_limits.designVerticalM);
+    sheet.colourAbove(kDistance, m_limits.designHorizontalM + kRoundingM);
+    sheet.colourAbove(kUp, m_limits.designVerticalM + kRoundingM);
     return forEachResult([&](const SurveyPoint& point) {
         const Move move = moveOf(point);
         if (!hasDesignPosition(point) || !std::isfinite(move.distance))
             return;
         Tally& tally = m_tallies[point.pointMark != 0 ? 1 : 0];
         ++tally.compared;
-        if (move.distance > m_limits.designHorizontalM) {
+        if (move.isBeyond) {
             ++tally.beyond;
             ++m_obstacles[point.obstacle];
         }
@@ -371,9 +375,8 @@ QString Report::notice() const
     const Tally all = total();
     return Texts::tr("Results: %1, design points not staked: %2, farther from the design than the "
                      "limit: %3.")
-        .arg(all.results)
-        .arg(all.design - all.staked)
-        .arg(all.beyond);
+        .arg(lum::groupedNumber(all.results), lum::groupedNumber(all.design - all.staked),
+             lum::groupedNumber(all.beyond));
 }
 
 } // namespace

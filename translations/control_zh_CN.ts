@@ -949,7 +949,7 @@
     </message>
     <message>
         <source>By the geoid of the coordinate system; the elevation without one.</source>
-        <translation>按坐标系的大地水准面计算；没有时等于高程。</translation>
+        <translation>按坐标系统的大地水准面计算；没有时等于高程。</translation>
     </message>
     <message>
         <source>Latitude</source>

@@ -442,7 +442,7 @@
     </message>
     <message>
         <source>Their coordinates are not numbers.</source>
-        <translation>坐标不是数值。</translation>
+        <translation>坐标不是数字。</translation>
     </message>
     <message>
         <source>Results that could not be compared: %1. The first: %2</source>
@@ -3730,11 +3730,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Program</source>
-        <translation>软件</translation>
+        <translation>程序</translation>
     </message>
     <message>
         <source>Coordinate system</source>
-        <translation>坐标系</translation>
+        <translation>坐标系统</translation>
     </message>
     <message>
         <source>Name</source>

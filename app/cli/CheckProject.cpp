@@ -2,6 +2,7 @@
 
 #include "app/cli/CliArguments.h"
 #include "app/cli/CliProject.h"
+#include "project/OwnFile.h"
 #include "protocol/Outcome.h"
 #include "quality/CheckKinds.h"
 #include "quality/ResultCsv.h"
@@ -39,6 +40,9 @@ Outcome checkProject(const CliArguments& arguments)
             project.open(arguments.places[0], writes ? ProjectAccess::Change : ProjectAccess::Look);
         !opening.isDone())
         return opening;
+    const QString file = arguments.option(QStringLiteral("--out"));
+    if (Outcome ownFile = checkNotOwn(project.place(), file); !ownFile.isDone())
+        return ownFile;
     project.manager().run(*check);
     const CheckResult result = project.manager().resultOf(*check);
     if (const QString note = unitNoteOf(*check); !note.isEmpty())
@@ -47,7 +51,6 @@ Outcome checkProject(const CliArguments& arguments)
         if (Outcome saving = project.save(); !saving.isDone())
             return saving;
     }
-    const QString file = arguments.option(QStringLiteral("--out"));
     Outcome printing = print(*result.rows, file);
     if (printing.isDone() && !file.isEmpty())
         std::printf("%s.\n", result.finding.toUtf8().constData());

@@ -2,6 +2,8 @@
 
 #include "lum_sdk/Text.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
 
@@ -37,7 +39,7 @@ void toCellText(std::string_view utf8, std::string& text)
         return;
     }
     QString whole = lum::toQString(utf8).left(kMostCharacters);
-    if (whole.at(whole.size() - 1).isHighSurrogate()) // half a character
+    if (!whole.isEmpty() && whole.at(whole.size() - 1).isHighSurrogate()) // half a character
         whole.chop(1);
     for (QChar& character : whole) {
         if (isForbidden(character) || character.isNull())

@@ -18,7 +18,6 @@ constexpr double kBold = 1.1; // bold letters are wider
 constexpr double kWidest = 60;
 constexpr double kTimeWidth = 19;
 constexpr double kDateWidth = 10;
-constexpr double kLineHeight = 13.5; // points
 
 double numberWidth(double value, const SheetColumn& column)
 {
@@ -263,9 +262,11 @@ void Sheet::applyPickLists()
 {
     for (const PickList& list : m_pickLists) {
         std::vector<QByteArray> texts;
+        texts.reserve(static_cast<std::size_t>(list.choices.size()));
         for (const QString& choice : list.choices)
             texts.push_back(choice.toUtf8());
         std::vector<char*> choices;
+        choices.reserve(texts.size() + 1);
         for (QByteArray& text : texts)
             choices.push_back(text.data());
         choices.push_back(nullptr);

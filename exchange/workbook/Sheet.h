@@ -36,8 +36,8 @@ public:
     /// Rows below the headings, of all sheets of this table.
     [[nodiscard]] std::size_t rowCount() const { return m_rowCount; }
 
-    // Rules for all cells of a column, to be given at any time. Texts and empty cells are no
-    // numbers.
+    // Rules for all cells of a column; sheets of this table that are full already do not get them.
+    // Texts and empty cells are no numbers.
 
     /// Colours numbers whose size, without their sign, is above the limit.
     void colourAbove(std::size_t column, double limit, Colour colour = Colour::Fault);
@@ -62,13 +62,13 @@ public:
 private:
     struct Rule
     {
-        std::size_t column;
+        std::size_t column = 0;
         QString condition; ///< a formula, in which %1 is the cell
-        Colour colour;
+        Colour colour = Colour::Fault;
     };
     struct PickList
     {
-        std::size_t column;
+        std::size_t column = 0;
         QStringList choices;
     };
 

@@ -8,6 +8,7 @@ StakingProgress progressOf(const SurveySample& sample)
     progress.designed = sample.design.designed;
     const std::vector<KeyValue>& dayValues = sample.valuesOf(GroupKey::Day);
     std::vector<DayProgress> days;
+    days.reserve(dayValues.size());
     for (const KeyValue& value : dayValues)
         days.push_back({value.number, 0, 0, 0});
     for (const Observation& result : sample.results) {

@@ -2,8 +2,6 @@
 
 #include "quality/ui/ResultList.h"
 
-class QAction;
-
 /// The repeated measurements, each below what it repeats. Its menu deletes results from the
 /// project, without a question; the files keep them until the project is saved.
 class DlgRepeatPtCheck final : public ResultList

@@ -70,10 +70,12 @@ TEST_F(WorkbookFile, CutsTextWhereExcelEndsIt)
     const QString pair = "\U00020000"_q; // two of the characters that Excel counts
     sheet.text(QString(32766, QLatin1Char('a')) + "测x"_q).endRow();
     sheet.text(QString(32766, QLatin1Char('a')) + pair).endRow();
+    sheet.text("\xEF\xBB\xBF").endRow(); // a mark of order alone, of which nothing is left
     ASSERT_TRUE(book.commit().isDone());
     const auto rows = read().rows("S"_q);
     EXPECT_EQ(rows[1][0], QString(32766, QLatin1Char('a')) + "测"_q);
     EXPECT_EQ(rows[2][0], QString(32766, QLatin1Char('a')));
+    EXPECT_EQ(rows[3].value(0), QString());
 }
 
 TEST_F(WorkbookFile, NamesSheetsAsExcelTakesThem)

@@ -6,6 +6,7 @@
 #include "quality/RepeatPoints.h"
 #include "quality/ResurveyCheck.h"
 #include "quality/ResurveyResult.h"
+#include "quality/Verdicts.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
 
@@ -117,6 +118,9 @@ TEST(ResurveyCheck, APositionThatIsNoNumberPassesAndIsNamed)
     checkResurveys(points, basalt::Dictionary(), nobody);
     EXPECT_EQ(resurveyDigit(*points.find("L", "1")), 0);
     EXPECT_TRUE(log.holds(": 1 (L/1F)")) << log.text();
+    const Verdicts first = verdictsOf({}, points);
+    checkResurveys(points, basalt::Dictionary(), nobody);
+    EXPECT_EQ(verdictsOf({}, points), first) << "a second run changes nothing";
 }
 
 TEST(RepeatPoints, ARepeatMayBeRepeatedItself)

@@ -129,8 +129,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(SurveyResults, CountsWhatIsFartherThanTheLimit)
 {
-    m_quality.set("design_hor_diff", "5");
-    m_survey.set(result("L", "1", 3, 4)); // on the limit
+    m_quality.set("design_hor_diff", "5.1");
+    m_survey.set(result("L", "1", 5.1, 0)); // on the limit, though 5005.1 - 5000 is above 5.1
     m_survey.set(result("L", "2", 3, 4.5));
     SurveyPoint river = result("L", "3", -30, 40);
     river.obstacle = "river";
@@ -145,7 +145,7 @@ TEST_F(SurveyResults, CountsWhatIsFartherThanTheLimit)
                               "than the limit: 2."_q);
     EXPECT_EQ(rows("Moved", {"Point"_q}), (std::vector<QStringList>{{"1"_q}, {"2"_q}, {"3"_q}}));
     EXPECT_EQ(WorkbookReader(path()).texts("Moved"_q, "formula").at(0),
-              "AND(ISNUMBER(E2),ABS(E2)>5)"_q);
+              "AND(ISNUMBER(E2),ABS(E2)>5.100001)"_q);
     EXPECT_EQ(summary("Points judged"), QStringList{"3"_q});
     EXPECT_EQ(summary("Points not judged"), QStringList{"2"_q});
     EXPECT_EQ(summary("river"), QStringList{"1"_q});

@@ -1,6 +1,7 @@
 #include "lum_sdk/files/FileAside.h"
 
 #include "lum_sdk/files/FileSync.h"
+#include "lum_sdk/files/WholeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,6 +21,8 @@ int obstacle(const QFileInfo& target)
 {
     if (target.isDir())
         return EISDIR;
+    if (isDevice(target.filePath()))
+        return ENOTSUP;
     return target.exists() && !target.isWritable() ? EACCES : 0;
 }
 

@@ -1,15 +1,20 @@
 #include "lum_sdk/files/WholeFile.h"
 
 #include <QByteArray>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QString>
 
 #include <unistd.h>
 
+#include <cerrno>
+
 namespace lum {
 
 QString writeWholeFile(const QString& path, const QByteArray& content)
 {
+    if (isDevice(path))
+        return qt_error_string(ENOTSUP);
     // Unbuffered: a buffered write reports success even when only half of it fits on the disk.
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
@@ -22,6 +27,12 @@ QString writeWholeFile(const QString& path, const QByteArray& content)
         return fault;
     }
     return file.commit() ? QString() : file.errorString();
+}
+
+bool isDevice(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() && !info.isDir();
 }
 
 } // namespace lum

@@ -10,4 +10,8 @@ namespace lum {
 /// \returns an empty text, or why it failed
 [[nodiscard]] QString writeWholeFile(const QString& path, const QByteArray& content);
 
+/// Whether a device or a pipe stands at `path`; no file is ever put in its place, not even for a
+/// user who may do that.
+[[nodiscard]] bool isDevice(const QString& path);
+
 } // namespace lum

@@ -1,5 +1,7 @@
 #include "lum_sdk/files/WholeFileWriter.h"
 
+#include "lum_sdk/files/WholeFile.h"
+
 #include <unistd.h>
 
 #include <cerrno>
@@ -13,7 +15,9 @@ constexpr std::size_t kBufferSize = std::size_t(256) * 1024;
 WholeFileWriter::WholeFileWriter(const QString& path) : m_file(path)
 {
     // Unbuffered: a buffered write reports success even when only half of it fits on the disk.
-    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    if (isDevice(path))
+        m_fault = qt_error_string(ENOTSUP);
+    else if (!m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         m_fault = m_file.errorString();
     m_buffer.reserve(kBufferSize);
 }

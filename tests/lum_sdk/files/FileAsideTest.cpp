@@ -1,10 +1,13 @@
 #include "lum_sdk/files/FileAside.h"
 
+#include "lum_sdk/files/WholeFile.h"
+#include "lum_sdk/files/WholeFileWriter.h"
 #include "tests/support/TestFolder.h"
 
 #include <QDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -42,4 +45,16 @@ TEST_F(FileAside, TakesThePlaceOfItsTarget)
     EXPECT_EQ(TestFolder::read(target), "newer");
     EXPECT_EQ(QFile::permissions(target) & QFile::Permissions(0x0077), 0) << "they stay";
     EXPECT_EQ(names().size(), 2);
+}
+
+TEST_F(FileAside, IsNeverPutInThePlaceOfAPipe)
+{
+    ASSERT_EQ(::mkfifo(QFile::encodeName(target).constData(), 0666), 0);
+    lum::WholeFileWriter writer(target);
+    const QString unsupported = writer.commit();
+    EXPECT_FALSE(unsupported.isEmpty());
+    EXPECT_EQ(lum::writeWholeFile(target, "new"), unsupported);
+    EXPECT_EQ(replace(target, "new"), unsupported);
+    EXPECT_FALSE(QFileInfo(target).isFile());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::System).size(), 1);
 }
