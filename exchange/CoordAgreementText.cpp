@@ -63,12 +63,14 @@ QString turnedText(const CoordAgreement& agreement, const QString& unit)
 {
     const QString text =
         isFar(agreement)
-            ? Texts::tr("A wrong datum or projection: the survey is turned clockwise by %1″ and "
-                        "scaled by %2 ppm, and its middle shifted by %3; %4 remain")
-            : Texts::tr("The survey is turned clockwise by %1″ and scaled by %2 ppm, and its "
-                        "middle shifted by %3; %4 remain");
-    return text.arg(fixed(agreement.rotationSeconds, 2), fixed(agreement.scalePpm, 2),
-                    shiftText(agreement, unit),
+            ? Texts::tr("A wrong datum or projection: the survey is turned %1 by %2″ and "
+                        "scaled by %3 ppm, and its middle shifted by %4; %5 remain")
+            : Texts::tr("The survey is turned %1 by %2″ and scaled by %3 ppm, and its "
+                        "middle shifted by %4; %5 remain");
+    const QString direction =
+        agreement.rotationSeconds < 0 ? Texts::tr("counterclockwise") : Texts::tr("clockwise");
+    return text.arg(direction, fixed(std::abs(agreement.rotationSeconds), 2),
+                    fixed(agreement.scalePpm, 2), shiftText(agreement, unit),
                     fixed(agreement.remains, 3) + QLatin1Char(' ') + unit);
 }
 

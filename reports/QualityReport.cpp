@@ -1,6 +1,7 @@
 #include "reports/QualityReport.h"
 
 #include "exchange/workbook/Workbook.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "reports/QualityFailures.h"
 #include "reports/QualityFindings.h"
 #include "reports/QualityLines.h"
@@ -116,10 +117,9 @@ QString noticeOf(const QualityFindings& findings)
     const auto lines = std::count_if(findings.ofLine.begin(), findings.ofLine.end(),
                                      [](const auto& line) { return failedOf(line) > 0; });
     return Texts::tr("Results judged: %1, failed: %2, on lines: %3, not judged: %4.")
-        .arg(judgedOf(findings.all))
-        .arg(findings.failures.size())
-        .arg(lines)
-        .arg(findings.all.all(statistics::Verdict::NotJudged));
+        .arg(lum::groupedNumber(judgedOf(findings.all)),
+             lum::groupedNumber(findings.failures.size()), lum::groupedNumber(lines),
+             lum::groupedNumber(findings.all.all(statistics::Verdict::NotJudged)));
 }
 
 } // namespace

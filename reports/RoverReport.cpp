@@ -3,6 +3,7 @@
 #include "exchange/ShownTimes.h"
 #include "exchange/workbook/Workbook.h"
 #include "lum_sdk/coords/LengthUnit.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
 #include "quality/QualityLimits.h"
 #include "quality/statistics/RoverLog.h"
@@ -234,13 +235,12 @@ QString Report::notice() const
 {
     QString text = Texts::tr("Sessions: %1, gaps over %2 minutes: %3, bases: %4, of these moved: "
                              "%5.")
-                       .arg(m_sessions.size())
-                       .arg(int(kGapMinutes))
-                       .arg(m_gaps.size())
-                       .arg(m_bases.size())
-                       .arg(moved());
+                       .arg(lum::groupedNumber(m_sessions.size()),
+                            lum::groupedNumber(int(kGapMinutes)), lum::groupedNumber(m_gaps.size()),
+                            lum::groupedNumber(m_bases.size()), lum::groupedNumber(moved()));
     if (const std::size_t count = m_days.withoutTime.total(); count > 0)
-        text += QLatin1Char(' ') + Texts::tr("Results without a time: %1.").arg(count);
+        text += QLatin1Char(' ') +
+                Texts::tr("Results without a time: %1.").arg(lum::groupedNumber(count));
     return text;
 }
 

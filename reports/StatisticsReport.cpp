@@ -1,6 +1,7 @@
 #include "reports/StatisticsReport.h"
 
 #include "exchange/workbook/Workbook.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "reports/ReportInput.h"
 #include "reports/ReportKinds.h"
 #include "reports/ReportSheets.h"
@@ -38,11 +39,10 @@ QString notice(const StatisticsFigures& figures)
     const std::size_t inSpec = all.first(Verdict::InSpec);
     return Texts::tr("Staked: %1 of %2 design points, in spec: %3 of %4 judged, lines, days, "
                      "rovers, surveyors and bases with a shift: %5.")
-        .arg(all.of(statistics::ResultKind::Staked))
-        .arg(all.design.designed)
-        .arg(inSpec)
-        .arg(inSpec + all.first(Verdict::Failed))
-        .arg(countShifts(figures));
+        .arg(lum::groupedNumber(all.of(statistics::ResultKind::Staked)),
+             lum::groupedNumber(all.design.designed), lum::groupedNumber(inSpec),
+             lum::groupedNumber(inSpec + all.first(Verdict::Failed)),
+             lum::groupedNumber(countShifts(figures)));
 }
 
 } // namespace

@@ -385,12 +385,12 @@
         <translation>北 %1，东 %2</translation>
     </message>
     <message>
-        <source>A wrong datum or projection: the survey is turned clockwise by %1″ and scaled by %2 ppm, and its middle shifted by %3; %4 remain</source>
-        <translation>基准或投影有误：测区顺时针旋转 %1″，缩放 %2 ppm，中部平移 %3，余差 %4</translation>
+        <source>A wrong datum or projection: the survey is turned %1 by %2″ and scaled by %3 ppm, and its middle shifted by %4; %5 remain</source>
+        <translation>基准或投影有误：测区%1旋转 %2″，缩放 %3 ppm，中部平移 %4，余差 %5</translation>
     </message>
     <message>
-        <source>The survey is turned clockwise by %1″ and scaled by %2 ppm, and its middle shifted by %3; %4 remain</source>
-        <translation>测区顺时针旋转 %1″，缩放 %2 ppm，中部平移 %3，余差 %4</translation>
+        <source>The survey is turned %1 by %2″ and scaled by %3 ppm, and its middle shifted by %4; %5 remain</source>
+        <translation>测区%1旋转 %2″，缩放 %3 ppm，中部平移 %4，余差 %5</translation>
     </message>
     <message>
         <source>The positions on the plane are in different units, %1 here and %2 in the file</source>
@@ -451,6 +451,14 @@
     <message>
         <source>The file has no results to compare.</source>
         <translation>文件中没有可对比的成果。</translation>
+    </message>
+    <message>
+        <source>counterclockwise</source>
+        <translation>逆时针</translation>
+    </message>
+    <message>
+        <source>clockwise</source>
+        <translation>顺时针</translation>
     </message>
 </context>
 <context>

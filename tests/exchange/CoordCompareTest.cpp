@@ -276,7 +276,9 @@ TEST(CoordAgreementText, SaysWhatTheDifferenceIsWithItsSize)
          "The survey is turned clockwise by 36.00″ and scaled by -99.99 ppm, and its middle "
          "shifted by");
     said(QStringLiteral("org_lon=120"),
-         "A wrong datum or projection: the survey is turned clockwise by ");
+         "A wrong datum or projection: the survey is turned clockwise by 7");
+    said(QStringLiteral("org_lon=114"),
+         "A wrong datum or projection: the survey is turned counterclockwise by 7");
     said(QStringLiteral("org_lon=120"),
          "A wrong datum or projection: positions on the plane differ by 2", 0.01);
     const CoordCompare feet(systemOf(kZone50), systemOf(kZone50), results(kZone50, 5));
