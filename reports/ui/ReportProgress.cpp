@@ -31,10 +31,11 @@ ReportProgress::ReportProgress(IDesktopHost& host, int reports)
     m_dialog.setWindowTitle(translated(QT_TRANSLATE_NOOP("ReportProgress", "Export Report")));
     m_dialog.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     m_dialog.setWindowModality(Qt::ApplicationModal);
-    auto* const cancel =
-        new QPushButton(translated(QT_TRANSLATE_NOOP("ReportProgress", "&Cancel")), &m_dialog);
-    cancel->setAutoDefault(false); // an Enter that is held down from the question does not cancel
-    m_dialog.setCancelButton(cancel);
+    // Not a button of our own: the dialog would keep the Escape key of its own one as well, and two
+    // of them cancel nothing.
+    m_dialog.setCancelButtonText(translated(QT_TRANSLATE_NOOP("ReportProgress", "&Cancel")));
+    if (auto* const cancel = m_dialog.findChild<QPushButton*>())
+        cancel->setAutoDefault(false); // an Enter held down from the question does not cancel
     m_dialog.setRange(0, reports * kWhole);
     m_dialog.setMinimumDuration(kShownAfterMs);
     m_dialog.setMinimumWidth(dpi_scaled(420));

@@ -19,6 +19,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QtTest>
 
 #include <memory>
@@ -278,6 +279,7 @@ void ExportReportTest::cancellingLeavesNothing()
         wasModal = dialog.windowModality() == Qt::ApplicationModal;
         QTest::keyClick(&dialog, Qt::Key_Return); // as after a key held down
         QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.findChildren<QShortcut*>().size(), 1); // two of Escape cancel nothing
         QTest::mouseClick(&button(dialog, "&Cancel"), Qt::LeftButton);
     });
     const QStringList texts =
