@@ -70,8 +70,8 @@ Outcome repairCopy(const QString& path, const QString& copy, QStringList& remark
     DBAdapter database;
     Outcome recovery = SafetyCopy(copy.toStdString()).recover(database);
     if (recovery.isDone() && !recovery.text().isEmpty())
-        remarks << translated(
-            QT_TRANSLATE_NOOP("SurveyDatabase", "Saving that project was interrupted. The results "
+        remarks << translated(QT_TRANSLATE_NOOP("SurveyDatabase",
+                                                "Saving that project was interrupted. The results "
                                                 "are those that were saved before."));
     // SQLite undoes in the copy what was cut off, and takes over what stands in a log.
     if (recovery.isDone() && database.open(lum::databaseConnection(copy.toStdString()).c_str()))
@@ -148,8 +148,7 @@ void sumUp(const ProjectLoader::ResultRows& rows, ImportSummary& summary)
 
 bool isOther(const SurveyImport& import, const IDictionary& coordParameters)
 {
-    return coordParameters.size() != 0 &&
-           !sameCoordSystem(import.coordParameters, coordParameters);
+    return coordParameters.size() != 0 && !sameCoordSystem(import.coordParameters, coordParameters);
 }
 
 /// \param isTold the handler has told the user

@@ -33,11 +33,11 @@ struct SurveyImport
 /// Adds the results of another project's database to the points, all of them or none, over those of
 /// the same numbers. Nothing is written to the database, and other programs may have it open.
 ///
-/// A database of another coordinate system goes to the handler, and nothing is imported; the outcome
-/// has no text then, since the user has been told. Without a handler it names the parameters that
-/// differ. A database without a coordinate system is taken as it is. After an interrupted save the
-/// results are those that were saved before.
-/// \param summary its lines are rows of the table; of a failed import it holds the path alone
+/// A database of another coordinate system goes to the handler, and nothing is imported; the
+/// outcome has no text then, since the user has been told. Without a handler it names the
+/// parameters that differ. A database without a coordinate system is taken as it is. After an
+/// interrupted save the results are those that were saved before. \param summary its lines are rows
+/// of the table; of a failed import it holds the path alone
 Outcome readSurveyDatabase(const QString& path, const SurveyImport& import,
                            ProgressReporter& progress, ImportSummary& summary);
 
