@@ -275,10 +275,11 @@ TEST(CoordAgreementText, SaysWhatTheDifferenceIsWithItsSize)
     said(QStringLiteral(",_4valid=1,_4r=-0.01,_4s=1.0001,_4x0=4306000,_4y0=491000"),
          "The survey is turned clockwise by 36.00″ and scaled by -99.99 ppm, and its middle "
          "shifted by");
+    // A central meridian three degrees farther east: azimuths are less by 3 degrees times sin(lat).
     said(QStringLiteral("org_lon=120"),
-         "A wrong datum or projection: the survey is turned clockwise by 7");
+         "A wrong datum or projection: the survey is turned counterclockwise by 67");
     said(QStringLiteral("org_lon=114"),
-         "A wrong datum or projection: the survey is turned counterclockwise by 7");
+         "A wrong datum or projection: the survey is turned clockwise by 67");
     said(QStringLiteral("org_lon=120"),
          "A wrong datum or projection: positions on the plane differ by 2", 0.01);
     const CoordCompare feet(systemOf(kZone50), systemOf(kZone50), results(kZone50, 5));
