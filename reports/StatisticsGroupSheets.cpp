@@ -64,10 +64,10 @@ double ofDesign(const Row& row, std::size_t points)
 /// A column of all five sheets: a number, or a text.
 struct Column
 {
-    const char* caption;
-    Form form;
-    int decimals;
-    double (*number)(const Row&);
+    const char* caption = "";
+    Form form = Form::Text;
+    int decimals = 0;
+    double (*number)(const Row&) = nullptr;
     QString (Row::*text)() const = nullptr;
     double (*most)(const QualityLimits&) = nullptr;  ///< what is above it is coloured
     double (*least)(const QualityLimits&) = nullptr; ///< what is below it is coloured
