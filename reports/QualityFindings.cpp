@@ -38,7 +38,7 @@ std::size_t failedOf(const Figures& figures)
 
 std::size_t judgedOf(const Figures& figures)
 {
-    return failedOf(figures) + figures.all(Verdict::InSpec);
+    return failedOf(figures) + figures.all(Verdict::WithinLimits);
 }
 
 double shareFailedOf(const Figures& figures)

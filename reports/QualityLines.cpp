@@ -95,7 +95,7 @@ Sheet& addSheet(Workbook& book)
                                   {Texts::tr("Staked"), Form::Number},
                                   {Texts::tr("Left"), Form::Number},
                                   {Texts::tr("Results"), Form::Number},
-                                  {Texts::tr("In spec"), Form::Number},
+                                  {Texts::tr("Within limits"), Form::Number},
                                   {Texts::tr("Failed"), Form::Number},
                                   {Texts::tr("Failed (%)"), Form::Percent, 1},
                                   {Texts::tr("Not judged"), Form::Number},
@@ -129,7 +129,7 @@ bool addLinesSheet(Workbook& book, const QualityFindings& findings, ReportSteps&
             .integer(std::int64_t(line.design.designed - line.design.left))
             .integer(std::int64_t(line.design.left))
             .integer(std::int64_t(line.all()))
-            .integer(std::int64_t(line.all(Verdict::InSpec)))
+            .integer(std::int64_t(line.all(Verdict::WithinLimits)))
             .integer(std::int64_t(failedOf(line)))
             .number(shareFailedOf(line))
             .integer(std::int64_t(line.all(Verdict::NotJudged)));

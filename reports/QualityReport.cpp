@@ -23,24 +23,26 @@ struct Texts
 
 std::vector<FigureDefinition> countDefinitions()
 {
-    return {{Texts::tr("Results"),
-             Texts::tr("All results of the period and surveyors, with resurveys and check "
-                       "measurements. Each is judged anew by the limits above.")},
-            {Texts::tr("Designed, staked, left"),
-             Texts::tr("Design points; those with a result of exactly their line and point number, "
-                       "whenever and by whomever it was measured; and those without.")},
-            {Texts::tr("In spec"), Texts::tr("Results that passed every test. A value on its limit "
-                                             "passes.")},
-            {Texts::tr("Failed"), Texts::tr("Results that failed one test or more.")},
-            {Texts::tr("Not judged"),
-             Texts::tr("Results that failed no test, but have no design position or a value that "
-                       "is no number.")},
-            {Texts::tr("Failed (%)"),
-             Texts::tr("Of points and lines: failed of in spec and failed. Of a test: failed of "
-                       "tested.")},
-            {Texts::tr("Tested"),
-             Texts::tr("Results with a value for this test. Those without a design position are "
-                       "not tested for their distance from it.")}};
+    return {
+        {Texts::tr("Results"),
+         Texts::tr("All results of the period and surveyors, with resurveys and check "
+                   "measurements. Each is judged anew by the limits above.")},
+        {Texts::tr("Designed, staked, left"),
+         Texts::tr("Design points; those with a result of exactly their line and point number, "
+                   "whenever and by whomever it was measured; and those without.")},
+        {Texts::tr("Within limits"),
+         Texts::tr("Results that passed every test. A value on its limit "
+                   "passes.")},
+        {Texts::tr("Failed"), Texts::tr("Results that failed one test or more.")},
+        {Texts::tr("Not judged"),
+         Texts::tr("Results that failed no test, but have no design position or a value that "
+                   "is no number.")},
+        {Texts::tr("Failed (%)"),
+         Texts::tr("Of points and lines: failed of within limits and failed. Of a test: failed of "
+                   "tested.")},
+        {Texts::tr("Tested"),
+         Texts::tr("Results with a value for this test. Those without a design position are "
+                   "not tested for their distance from it.")}};
 }
 
 std::vector<FigureDefinition> codeDefinitions()
@@ -99,7 +101,7 @@ std::vector<FigureDefinition> lineDefinitions()
         {Texts::tr("Verdict: not all judged"),
          Texts::tr("The line is staked, and no result failed, but some were not judged.")},
         {Texts::tr("Verdict: in order"),
-         Texts::tr("Every design point of the line is staked, and all results are in spec.")},
+         Texts::tr("Every design point of the line is staked, and all results are within limits.")},
         {Texts::tr("Worst test and point of a line"),
          Texts::tr("The result of the line that is the most times beyond its limit.")}};
 }

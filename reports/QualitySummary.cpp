@@ -39,7 +39,7 @@ void writeKinds(Page& page, const ReportInput& input, const QualityFindings& fin
                      {Texts::tr("Design points"), Form::Number},
                      {Texts::tr("Left"), Form::Number},
                      {Texts::tr("Results"), Form::Number},
-                     {Texts::tr("In spec"), Form::Number},
+                     {Texts::tr("Within limits"), Form::Number},
                      {Texts::tr("Failed"), Form::Number},
                      {Texts::tr("Failed (%)"), Form::Percent, 1},
                      {Texts::tr("Not judged"), Form::Number}});
@@ -51,7 +51,7 @@ void writeKinds(Page& page, const ReportInput& input, const QualityFindings& fin
             .integer(std::int64_t(figures.design.designed))
             .integer(std::int64_t(figures.design.left))
             .integer(std::int64_t(figures.all()))
-            .integer(std::int64_t(figures.all(Verdict::InSpec)))
+            .integer(std::int64_t(figures.all(Verdict::WithinLimits)))
             .integer(std::int64_t(failedOf(figures)))
             .number(shareFailedOf(figures))
             .integer(std::int64_t(figures.all(Verdict::NotJudged)))

@@ -36,12 +36,12 @@ QString notice(const StatisticsFigures& figures)
 {
     using statistics::Verdict;
     const statistics::Figures& all = figures.all;
-    const std::size_t inSpec = all.first(Verdict::InSpec);
-    return Texts::tr("Staked: %1 of %2 design points, in spec: %3 of %4 judged, lines, days, "
+    const std::size_t withinLimits = all.first(Verdict::WithinLimits);
+    return Texts::tr("Staked: %1 of %2 design points, within limits: %3 of %4 judged, lines, days, "
                      "rovers, surveyors and bases with a shift: %5.")
         .arg(lum::groupedNumber(all.of(statistics::ResultKind::Staked)),
-             lum::groupedNumber(all.design.designed), lum::groupedNumber(inSpec),
-             lum::groupedNumber(inSpec + all.first(Verdict::Failed)),
+             lum::groupedNumber(all.design.designed), lum::groupedNumber(withinLimits),
+             lum::groupedNumber(withinLimits + all.first(Verdict::Failed)),
              lum::groupedNumber(countShifts(figures)));
 }
 

@@ -63,18 +63,18 @@ void writeQuality(Page& page, const StatisticsFigures& figures)
 {
     page.addChapter(Texts::tr("Quality of the first measurements"));
     page.beginTable({{Texts::tr("Kind")},
-                     {Texts::tr("In spec"), Form::Number},
+                     {Texts::tr("Within limits"), Form::Number},
                      {Texts::tr("Over limit"), Form::Number},
-                     {Texts::tr("In spec (%)"), Form::Percent, 1},
+                     {Texts::tr("Within limits (%)"), Form::Percent, 1},
                      {Texts::tr("Fixed (%)"), Form::Percent, 1},
                      {Texts::tr("Mean 2D (m)"), Form::Number, 3},
                      {Texts::tr("RMS 2D (m)"), Form::Number, 3},
                      {Texts::tr("95 % 2D (m)"), Form::Number, 3}});
     for (const auto& [kind, of] : kinds(figures))
         page.text(kind)
-            .number(double(of->first(Verdict::InSpec)))
+            .number(double(of->first(Verdict::WithinLimits)))
             .number(double(of->first(Verdict::Failed)))
-            .number(of->shareInSpec())
+            .number(of->shareWithinLimits())
             .number(of->shareFixed())
             .number(of->distance.mean())
             .number(of->distance.rms())
@@ -213,7 +213,8 @@ void writeStatisticsSummary(Page& page, const QString& title, const ReportInput&
     const Figures& all = figures.all;
     writeSummaryHead(
         page, title, input,
-        {all.first(Verdict::InSpec) + all.first(Verdict::Failed), all.first(Verdict::NotJudged),
+        {all.first(Verdict::WithinLimits) + all.first(Verdict::Failed),
+         all.first(Verdict::NotJudged),
          Texts::tr("These results have no design position, or a value that is no number.")});
     writeProgress(page, input, figures);
     writeQuality(page, figures);

@@ -35,7 +35,7 @@ constexpr std::array kTerms{
     Term{QT_TRANSLATE_NOOP("StatisticsReport", "First measurements"),
          QT_TRANSLATE_NOOP("StatisticsReport", "Staked and not planned: all figures but those of "
                                                "points measured twice are of these.")},
-    Term{QT_TRANSLATE_NOOP("StatisticsReport", "In spec"),
+    Term{QT_TRANSLATE_NOOP("StatisticsReport", "Within limits"),
          QT_TRANSLATE_NOOP("StatisticsReport", "First measurements that pass every test of the "
                                                "quality check, by the limits above.")},
     Term{QT_TRANSLATE_NOOP("StatisticsReport", "Over limit"),
@@ -44,8 +44,9 @@ constexpr std::array kTerms{
     Term{QT_TRANSLATE_NOOP("StatisticsReport", "Not judged"),
          QT_TRANSLATE_NOOP("StatisticsReport", "First measurements that fail no test, but have no "
                                                "design position, or a value that is no number.")},
-    Term{QT_TRANSLATE_NOOP("StatisticsReport", "In spec (%)"),
-         QT_TRANSLATE_NOOP("StatisticsReport", "In spec, of those in spec and over limit.")},
+    Term{QT_TRANSLATE_NOOP("StatisticsReport", "Within limits (%)"),
+         QT_TRANSLATE_NOOP("StatisticsReport",
+                           "Within limits, of those within limits and over limit.")},
     Term{QT_TRANSLATE_NOOP("StatisticsReport", "dE, dN, dH"),
          QT_TRANSLATE_NOOP("StatisticsReport", "Measured minus design, in metres: to the east, to "
                                                "the north, upwards.")},

@@ -3195,7 +3195,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>成果</translation>
     </message>
     <message>
-        <source>In spec</source>
+        <source>Within limits</source>
         <translation>合格</translation>
     </message>
     <message>
@@ -3239,7 +3239,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>没有不合格项目，但没有设计坐标或某个值不是数字的成果。</translation>
     </message>
     <message>
-        <source>Of points and lines: failed of in spec and failed. Of a test: failed of tested.</source>
+        <source>Of points and lines: failed of within limits and failed. Of a test: failed of tested.</source>
         <translation>对点和测线：不合格数占合格与不合格总数的比例；对一项检查：不合格数占检查数的比例。</translation>
     </message>
     <message>
@@ -3419,7 +3419,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>结论：合格</translation>
     </message>
     <message>
-        <source>Every design point of the line is staked, and all results are in spec.</source>
+        <source>Every design point of the line is staked, and all results are within limits.</source>
         <translation>测线的设计点全部放样，成果全部合格。</translation>
     </message>
     <message>
@@ -4686,7 +4686,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>设计外</translation>
     </message>
     <message>
-        <source>In spec</source>
+        <source>Within limits</source>
         <translation>合格</translation>
     </message>
     <message>
@@ -4698,7 +4698,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>未评定</translation>
     </message>
     <message>
-        <source>In spec (%)</source>
+        <source>Within limits (%)</source>
         <translation>合格率 (%)</translation>
     </message>
     <message>
@@ -4914,7 +4914,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>重复测量</translation>
     </message>
     <message>
-        <source>Staked: %1 of %2 design points, in spec: %3 of %4 judged, lines, days, rovers, surveyors and bases with a shift: %5.</source>
+        <source>Staked: %1 of %2 design points, within limits: %3 of %4 judged, lines, days, rovers, surveyors and bases with a shift: %5.</source>
         <translation>已放样：%1（设计点共 %2），合格：%3（参与评定 %4），有系统偏移的测线、日期、流动站、测量员和基准站：%5。</translation>
     </message>
     <message>
@@ -5070,7 +5070,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>没有未通过的项目，但没有设计坐标或有的值不是数字的首次测量。</translation>
     </message>
     <message>
-        <source>In spec, of those in spec and over limit.</source>
+        <source>Within limits, of those within limits and over limit.</source>
         <translation>合格数占合格与超限之和的比例。</translation>
     </message>
     <message>

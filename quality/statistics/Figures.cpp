@@ -107,14 +107,15 @@ std::size_t Figures::all(Verdict verdict) const
     return first(verdict) + of(ResultKind::Resurvey, verdict) + of(ResultKind::Repeat, verdict);
 }
 
-double Figures::shareInSpec() const
+double Figures::shareWithinLimits() const
 {
-    return shareOf(first(Verdict::InSpec), first(Verdict::InSpec) + first(Verdict::Failed));
+    return shareOf(first(Verdict::WithinLimits),
+                   first(Verdict::WithinLimits) + first(Verdict::Failed));
 }
 
 double Figures::shareFailed() const
 {
-    return shareOf(first(Verdict::Failed), first(Verdict::InSpec) + first(Verdict::Failed));
+    return shareOf(first(Verdict::Failed), first(Verdict::WithinLimits) + first(Verdict::Failed));
 }
 
 double Figures::shareFixed() const
@@ -133,9 +134,9 @@ bool Figures::isAllStaked() const
     return hasDesign && design.designed > 0 && design.left == 0;
 }
 
-bool Figures::isAllInSpec() const
+bool Figures::isAllWithinLimits() const
 {
-    return first() > 0 && first(Verdict::InSpec) == first();
+    return first() > 0 && first(Verdict::WithinLimits) == first();
 }
 
 std::vector<Figures> figuresOf(const SurveySample& sample, const Grouping& grouping)
@@ -159,7 +160,7 @@ std::vector<std::size_t> worstGroups(const std::vector<Figures>& figures, std::s
     std::vector<Group> groups;
     for (std::size_t number = 0; number < figures.size(); ++number) {
         const std::size_t failed = figures[number].all(Verdict::Failed);
-        const std::size_t judged = failed + figures[number].all(Verdict::InSpec);
+        const std::size_t judged = failed + figures[number].all(Verdict::WithinLimits);
         if (failed > 0)
             groups.push_back({number, failed, shareOf(failed, judged)});
     }

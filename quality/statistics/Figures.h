@@ -42,16 +42,16 @@ struct Figures
     [[nodiscard]] std::size_t all(Verdict verdict) const;
 
     /// Of the first measurements that are judged, and of all first measurements.
-    [[nodiscard]] double shareInSpec() const;
+    [[nodiscard]] double shareWithinLimits() const;
     [[nodiscard]] double shareFailed() const;
     [[nodiscard]] double shareFixed() const;
     /// In one of the three differences; see `statistics::hasShift`.
     [[nodiscard]] bool hasShift() const;
 
     /// A line's verdict: it has a design and a result for each point of it; it has first
-    /// measurements, and all are in spec.
+    /// measurements, and all are within limits.
     [[nodiscard]] bool isAllStaked() const;
-    [[nodiscard]] bool isAllInSpec() const;
+    [[nodiscard]] bool isAllWithinLimits() const;
 };
 
 /// A group's figures, by number of the group.

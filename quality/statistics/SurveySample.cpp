@@ -61,7 +61,7 @@ void judge(Observation& result, const QualityLimits& limits)
     if (result.code != 0)
         result.verdict = Verdict::Failed;
     else
-        result.verdict = std::isfinite(values) ? Verdict::InSpec : Verdict::NotJudged;
+        result.verdict = std::isfinite(values) ? Verdict::WithinLimits : Verdict::NotJudged;
 }
 
 class SampleReader

@@ -25,9 +25,9 @@ inline constexpr std::size_t kResultKinds = 4;
 
 enum class Verdict : std::uint8_t
 {
-    InSpec,   ///< it passed every test of the quality check
-    Failed,   ///< it failed one
-    NotJudged ///< it failed none, but has no design position, or a value that is no number
+    WithinLimits, ///< it passed every test of the quality check
+    Failed,       ///< it failed one
+    NotJudged     ///< it failed none, but has no design position, or a value that is no number
 };
 inline constexpr std::size_t kVerdicts = 3;
 
@@ -77,7 +77,7 @@ struct Observation
     int code = 0;            ///< its quality code by the sample's limits; see `sampleOf`
     std::array<std::uint32_t, kGroupKeys> keys{}; ///< places in `SurveySample::values`
     ResultKind kind = ResultKind::Unplanned;
-    Verdict verdict = Verdict::InSpec;
+    Verdict verdict = Verdict::WithinLimits;
 
     /// Whether it is the measurement of a point and not one of those made to check it.
     [[nodiscard]] bool isFirst() const

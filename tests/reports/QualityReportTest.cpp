@@ -174,8 +174,8 @@ TEST_F(QualityReport, GivesEveryLineItsVerdict)
     SurveyPoint lost = good("6", "2");
     lost.north = std::nan("");
     m_survey.set(lost);
-    const QStringList columns{"Line"_q,    "Verdict"_q, "Staked"_q,     "Left"_q,
-                              "In spec"_q, "Failed"_q,  "Not judged"_q, "Worst point"_q};
+    const QStringList columns{"Line"_q,          "Verdict"_q, "Staked"_q,     "Left"_q,
+                              "Within limits"_q, "Failed"_q,  "Not judged"_q, "Worst point"_q};
     ASSERT_TRUE(write().isDone());
     const auto row = [](const char* cells) {
         return QString::fromUtf8(cells).split(QLatin1Char('|'));

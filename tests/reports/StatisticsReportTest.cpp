@@ -88,10 +88,10 @@ TEST_F(StatisticsReport, TellsTheFiguresOfALine)
     measure("12F", 9, 9, 9); // checks a point and is none of the figures
     ASSERT_TRUE(write().isDone());
 
-    EXPECT_EQ(rows("Lines",
-                   {"Line"_q, "Designed"_q, "Staked"_q, "Staked (%)"_q, "Left"_q, "Not planned"_q,
-                    "In spec"_q, "Over limit"_q, "Not judged"_q, "In spec (%)"_q, "Maximum at"_q,
-                    "Fewest satellites"_q, "Worst PDOP"_q, "Fixed (%)"_q, "Shift"_q}),
+    EXPECT_EQ(rows("Lines", {"Line"_q, "Designed"_q, "Staked"_q, "Staked (%)"_q, "Left"_q,
+                             "Not planned"_q, "Within limits"_q, "Over limit"_q, "Not judged"_q,
+                             "Within limits (%)"_q, "Maximum at"_q, "Fewest satellites"_q,
+                             "Worst PDOP"_q, "Fixed (%)"_q, "Shift"_q}),
               (Rows{{"1"_q,
                      "4"_q,
                      "3"_q,
@@ -153,7 +153,7 @@ TEST_F(StatisticsReport, GroupsByDayRoverSurveyorAndBase)
     measure("14", 0, 0, 0).dateTime = 0;
     const Outcome outcome = write();
     ASSERT_TRUE(outcome.isDone());
-    EXPECT_TRUE(outcome.text().startsWith("Staked: 4 of 5 design points, in spec: 4 of 4"_q));
+    EXPECT_TRUE(outcome.text().startsWith("Staked: 4 of 5 design points, within limits: 4 of 4"_q));
 
     const QStringList counts{"Staked"_q, "Staked (%)"_q, "Designed"_q, "Left"_q, "Shift"_q};
     EXPECT_EQ(

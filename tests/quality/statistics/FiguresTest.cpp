@@ -164,7 +164,7 @@ TEST(Figures, TellThePointOfTheMaximumAndTheValuesOfAGroup)
     EXPECT_TRUE(figuresOf(empty, groupBy(empty, {GroupKey::Day, GroupKey::Base})).empty());
 }
 
-TEST(Figures, ALineIsDoneWhenAllIsStakedAndInSpec)
+TEST(Figures, ALineIsDoneWhenAllIsStakedAndWithinLimits)
 {
     MadeSurvey survey;
     for (const char* line : {"1 done", "2 unfinished", "3 failed", "4 empty"})
@@ -177,23 +177,23 @@ TEST(Figures, ALineIsDoneWhenAllIsStakedAndInSpec)
     const SurveySample sample = survey.sample();
     const std::vector<Figures> lines = figuresOf(sample, groupBy(sample, {GroupKey::Line}));
     std::string staked;
-    std::string inSpec;
+    std::string withinLimits;
     for (const Figures& line : lines) {
         staked += line.isAllStaked() ? '+' : '-';
-        inSpec += line.isAllInSpec() ? '+' : '-';
+        withinLimits += line.isAllWithinLimits() ? '+' : '-';
     }
     EXPECT_EQ(staked, "+-+--");
-    EXPECT_EQ(inSpec, "++--+");
-    EXPECT_EQ(lines[0].shareInSpec(), 1);
+    EXPECT_EQ(withinLimits, "++--+");
+    EXPECT_EQ(lines[0].shareWithinLimits(), 1);
     EXPECT_EQ(lines[2].shareFailed(), 1);
-    EXPECT_TRUE(std::isnan(lines[3].shareInSpec()));
+    EXPECT_TRUE(std::isnan(lines[3].shareWithinLimits()));
     EXPECT_FALSE(figuresOf(sample, groupBy(sample, {GroupKey::Day}))[0].hasDesign);
 }
 
 TEST(Figures, TheWorstGroupsHaveTheLargestShareThenTheMostFailed)
 {
     std::vector<Figures> groups(4);
-    groups[0].counts[0] = {2, 1, 100}; // in spec, failed, not judged
+    groups[0].counts[0] = {2, 1, 100}; // within limits, failed, not judged
     groups[1].counts[0] = {4, 2, 0};
     groups[2].counts[0] = {1, 1, 0};
     groups[3].counts[0] = {5, 0, 0};

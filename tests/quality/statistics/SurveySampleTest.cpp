@@ -77,18 +77,18 @@ TEST(SurveySample, EachResultIsJudgedAnew)
         int code = 0;
     };
     const Case cases[] = {
-        {"an old code", [](auto& p) { p.qualityStandard = 1; }, Verdict::InSpec},
-        {"on the limit", [](auto& p) { p.east += 0.5; }, Verdict::InSpec},
+        {"an old code", [](auto& p) { p.qualityStandard = 1; }, Verdict::WithinLimits},
+        {"on the limit", [](auto& p) { p.east += 0.5; }, Verdict::WithinLimits},
         {"beyond it", [](auto& p) { p.east += 0.5001; }, Verdict::Failed, 1},
         {"no design", [](auto& p) { lose(p); }, Verdict::NotJudged},
         {"no design, inaccurate", [](auto& p) { lose(p).horizontalAccuracy = 1; }, Verdict::Failed,
          1000},
         {"no design, too high", [](auto& p) { lose(p).elevation = 2000; }, Verdict::Failed, 2},
-        {"on an axis", [](auto& p) { p.east = p.designEast = 0; }, Verdict::InSpec},
+        {"on an axis", [](auto& p) { p.east = p.designEast = 0; }, Verdict::WithinLimits},
         {"no position", [](auto& p) { p.north = NAN; }, Verdict::NotJudged},
         {"infinitely far", [](auto& p) { p.north = INFINITY; }, Verdict::Failed, 1},
         {"a dilution that is none", [](auto& p) { p.vdop = NAN; }, Verdict::NotJudged},
-        {"no design height", [](auto& p) { p.designElevation = 0; }, Verdict::InSpec},
+        {"no design height", [](auto& p) { p.designElevation = 0; }, Verdict::WithinLimits},
     };
     for (const Case& each : cases) {
         MadeSurvey survey;
