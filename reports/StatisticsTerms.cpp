@@ -89,6 +89,7 @@ constexpr std::array kTerms{
 std::vector<FigureDefinition> statisticsTerms()
 {
     std::vector<FigureDefinition> definitions;
+    definitions.reserve(std::size(kTerms));
     for (const Term& term : kTerms)
         definitions.push_back({QCoreApplication::translate("StatisticsReport", term.figure),
                                QCoreApplication::translate("StatisticsReport", term.meaning)});
