@@ -31,16 +31,16 @@ Outcome setParameter(const QString& pair, IDictionary& parameters)
     if (parameter == nullptr)
         return Outcome::failed(QStringLiteral("There is no design parameter \"%1\".").arg(key));
     if (const auto fault = faultOf(*parameter, value))
-        return Outcome::failed(QStringLiteral("%1 (%2)").arg(fault->text, key));
+        return Outcome::failed(fault->text);
     parameters.set(parameter->key, storedText(*parameter, value));
     return Outcome::done();
 }
 
 void printGrid(const char* name, const DesignGrid& grid)
 {
-    std::printf("%s: %s lines x %s points\n", name,
-                lum::groupedNumber(grid.lineCount()).toUtf8().constData(),
-                lum::groupedNumber(grid.pointsALine()).toUtf8().constData());
+    const QString lines = lum::groupedNumber(grid.lineCount());
+    const QString points = lum::groupedNumber(static_cast<qint64>(grid.pointCount()));
+    std::printf("%s lines: %s, points: %s\n", name, qPrintable(lines), qPrintable(points));
 }
 
 void printGrids(const IDictionary& parameters, DesignLines lines)
