@@ -128,7 +128,7 @@ void generate(const DesignGrid& grid, DesignPoints& points, ProgressReporter& pr
 }
 
 Outcome generateDesign(const IDictionary& parameters, DesignLines lines, DesignPoints& design,
-                       ProgressReporter& progress)
+                       ProgressReporter& progress, DesignPoints* before)
 {
     std::vector<DesignGrid> grids;
     double points = 0;
@@ -145,11 +145,14 @@ Outcome generateDesign(const IDictionary& parameters, DesignLines lines, DesignP
         DesignPoints made;
         for (const DesignGrid& grid : grids)
             generate(grid, made, progress);
-        const std::size_t before = design.pointCount();
-        design = std::move(made);
+        std::swap(design, made);
         const std::size_t now = design.pointCount();
-        return Outcome::done(tidings(
-            before, now, static_cast<std::int64_t>(points) - static_cast<std::int64_t>(now)));
+        const Outcome outcome = Outcome::done(
+            tidings(made.pointCount(), now,
+                    static_cast<std::int64_t>(points) - static_cast<std::int64_t>(now)));
+        if (before != nullptr)
+            *before = std::move(made);
+        return outcome;
     } catch (const std::bad_alloc&) {
         return Outcome::failed(
             sentence(QT_TRANSLATE_NOOP("DesignGenerator",

@@ -20,7 +20,8 @@ enum class DesignLines
 
 /// Replaces the whole design by the grids of the design parameters. Where both have the same
 /// numbers, the source points stay.
+/// \param before gets the points that were replaced
 /// \returns done, with a sentence in numbers; refused when a grid has a fault or the grids are too
 ///          large together. The design stays as it was unless it is done.
 Outcome generateDesign(const IDictionary& parameters, DesignLines lines, DesignPoints& design,
-                       ProgressReporter& progress);
+                       ProgressReporter& progress, DesignPoints* before = nullptr);

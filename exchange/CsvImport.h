@@ -6,6 +6,7 @@
 #include "exchange/FiledRows.h"
 #include "exchange/ImportSummary.h"
 #include "lum_sdk/events/ProgressReporter.h"
+#include "model/TakenOver.h"
 
 #include <future>
 #include <vector>
@@ -120,9 +121,11 @@ std::size_t stagePoints(CsvInput& input, const CsvImportTask& task, Read& read, 
 ///               line number `summary.linesRead`; or answers false and, when the line should have
 ///               been a point, counts it as skipped
 /// \param file   `Point&(Point&&)`, called in the order of the file: puts a point into `staged`
+/// \param undo   filled when it is not null
 /// \returns why it failed; `points` is then as it was before
 template <class Points, class Read, class File>
-Outcome importCsv(const CsvImportTask& task, Points& points, Points& staged, Read read, File file)
+Outcome importCsv(const CsvImportTask& task, Points& points, Points& staged, Read read, File file,
+                  TakenOver<Points>* undo = nullptr)
 {
     ImportSummary& summary = task.summary;
     summary = {};
@@ -140,7 +143,7 @@ Outcome importCsv(const CsvImportTask& task, Points& points, Points& staged, Rea
             filed.tell(summary);
             const std::size_t distinct = staged.pointCount();
             summary.pointsRepeated = rows - distinct;
-            summary.pointsReplaced = points.merge(std::move(staged));
+            summary.pointsReplaced = takeOver(points, std::move(staged), undo);
             summary.pointsNew = distinct - summary.pointsReplaced;
             summary.replaced.count = summary.pointsReplaced;
         }

@@ -204,7 +204,7 @@ bool isDesignRow(std::string_view line)
 }
 
 Outcome readDesignCsv(const QString& path, DesignPoints& points, ProgressReporter& progress,
-                      ImportSummary& summary)
+                      ImportSummary& summary, TakenOver<DesignPoints>* undo)
 {
     Rows rows;
     DesignPoints staged;
@@ -214,7 +214,7 @@ Outcome readDesignCsv(const QString& path, DesignPoints& points, ProgressReporte
         [&](std::string_view line, DesignPoint& point, ImportSummary& counts) {
             return rows.read(line, point, counts);
         },
-        [&](DesignPoint&& point) -> DesignPoint& { return staged.set(std::move(point)); });
+        [&](DesignPoint&& point) -> DesignPoint& { return staged.set(std::move(point)); }, undo);
     if (outcome.isDone())
         rows.addRemarks(summary);
     return outcome;

@@ -104,7 +104,7 @@ private:
 } // namespace
 
 Outcome readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporter& progress,
-                      ImportSummary& summary)
+                      ImportSummary& summary, TakenOver<SurveyPoints>* undo)
 {
     Rows rows;
     SurveyPoints staged;
@@ -115,7 +115,7 @@ Outcome readSurveyCsv(const QString& path, SurveyPoints& points, ProgressReporte
         [&](std::string_view line, SurveyPoint& point, ImportSummary& counts) {
             return rows.read(line, point, counts);
         },
-        [&](SurveyPoint&& point) -> SurveyPoint& { return filer.file(std::move(point)); });
+        [&](SurveyPoint&& point) -> SurveyPoint& { return filer.file(std::move(point)); }, undo);
     if (outcome.isDone())
         rows.addRemarks(summary);
     return outcome;

@@ -148,45 +148,115 @@ public:
         if (merging.replaced == later.size())
             return merging;
         const std::size_t size = m_size + later.m_size - merging.replaced;
-        merging.newRoom.resize((size + kBlockSize - 1) / kBlockSize);
-        for (Block& block : merging.newRoom)
-            block.reserve(kBlockSize);
+        merging.newRoom = roomFor(size);
         return merging;
     }
-    /// Takes over all points of `later`, over those that stand here.
-    /// \param merging from `prepareMerge(later)`, with both lines unchanged since
-    void merge(PointLine&& later, Merging&& merging) noexcept
+    /// Takes over all points of `later`, which then holds the points that stood here in their
+    /// place. \param merging from `prepareMerge(later)`, with both lines unchanged since
+    void merge(PointLine& later, Merging&& merging) noexcept
     {
         if (merging.newRoom.empty()) {
             for (Point& point : later)
-                *find(point.pointNumber) = std::move(point);
+                std::swap(*find(point.pointNumber), point);
         } else {
             moveBoth(later, merging.newRoom);
         }
-        later.clear();
+    }
+
+    /// What `extract` needs beforehand, since it must not fail.
+    using Room = std::vector<Block>;
+    [[nodiscard]] static Room roomFor(std::size_t count)
+    {
+        Room room((count + kBlockSize - 1) / kBlockSize);
+        for (Block& block : room)
+            block.reserve(kBlockSize);
+        return room;
+    }
+    /// Moves the points of these numbers to `to`, which is empty. Numbers that the line has not are
+    /// passed over.
+    /// \param numbers in ascending order
+    /// \param room    for as many points as there are numbers
+    template <class Numbers>
+    void extract(const Numbers& numbers, PointLine& to, Room&& room) noexcept
+    {
+        to.m_blocks = std::move(room);
+        auto target = to.m_blocks.begin();
+        auto number = std::begin(numbers);
+        const auto stays = [&](Point& point) {
+            while (number != std::end(numbers) && *number < point.pointNumber)
+                ++number;
+            if (number == std::end(numbers) || *number != point.pointNumber)
+                return true;
+            if (target->size() == kBlockSize)
+                ++target;
+            target->push_back(std::move(point));
+            return false;
+        };
+        for (Block& block : m_blocks) {
+            if (number == std::end(numbers))
+                break;
+            if (!(block.back().pointNumber < *number))
+                filter(block, stays);
+        }
+        dropEmptyBlocks();
+        to.dropEmptyBlocks();
     }
 
 private:
+    /// Keeps the points of a block for which `keeps` answers true; it is asked once for each, in
+    /// order, and may move from those that it does not keep.
+    template <class Keeps>
+    static void filter(Block& block, Keeps keeps)
+    {
+        auto kept = block.begin();
+        for (auto point = block.begin(); point != block.end(); ++point) {
+            if (!keeps(*point))
+                continue;
+            if (kept != point)
+                *kept = std::move(*point);
+            ++kept;
+        }
+        block.erase(kept, block.end());
+    }
+
+    /// Removes the blocks that have become empty, and counts the points.
+    void dropEmptyBlocks() noexcept
+    {
+        m_blocks.erase(std::remove_if(m_blocks.begin(), m_blocks.end(),
+                                      [](const Block& block) { return block.empty(); }),
+                       m_blocks.end());
+        m_size = 0;
+        for (const Block& block : m_blocks)
+            m_size += block.size();
+    }
+
     void moveBoth(PointLine& later, std::vector<Block>& room) noexcept
     {
-        auto block = room.begin();
-        const auto append = [&](Point& point) {
-            if (block->size() == kBlockSize)
-                ++block;
-            block->push_back(std::move(point));
+        auto target = room.begin();
+        const auto put = [&](Point& point) {
+            if (target->size() == kBlockSize)
+                ++target;
+            target->push_back(std::move(point));
         };
         iterator own = begin();
-        for (Point& point : later) {
-            for (; own != end() && own->pointNumber < point.pointNumber; ++own)
-                append(*own);
-            if (own != end() && own->pointNumber == point.pointNumber)
-                ++own;
-            append(point);
+        for (Block& block : later.m_blocks) {
+            filter(block, [&](Point& point) {
+                for (; own != end() && own->pointNumber < point.pointNumber; ++own)
+                    put(*own);
+                const bool isReplaced = own != end() && own->pointNumber == point.pointNumber;
+                if (isReplaced)
+                    std::swap(*own, point);
+                put(isReplaced ? *own : point);
+                if (isReplaced)
+                    ++own;
+                return isReplaced;
+            });
         }
         for (; own != end(); ++own)
-            append(*own);
+            put(*own);
         m_blocks = std::move(room);
-        m_size = (m_blocks.size() - 1) * kBlockSize + m_blocks.back().size();
+        dropEmptyBlocks();
+        later.dropEmptyBlocks();
     }
 
     /// Block and place of the first point whose number is `number` or greater; the end of the last

@@ -2,6 +2,7 @@
 
 #include "model/DesignPoint.h"
 #include "model/PointLine.h"
+#include "model/PointNames.h"
 #include "model/SurveyPoint.h"
 
 #include <atomic>
@@ -123,10 +124,10 @@ public:
         setChanged();
     }
 
-    /// Takes over all points of `later`, over those that stand here. An exception (no memory)
-    /// leaves both as they were.
-    /// \returns how many points were replaced
-    std::size_t merge(PointLines&& later)
+    /// Takes over all points of `later`, which then holds the points that stood here in their
+    /// place. An exception (no memory) leaves both as they were. \returns how many points were
+    /// replaced
+    std::size_t exchange(PointLines& later)
     {
         std::vector<std::pair<Line*, typename Line::Merging>> known; // in the order of `later`
         for (auto& [number, line] : later.m_lines) {
@@ -136,14 +137,63 @@ public:
         std::size_t replaced = 0;
         m_lines.merge(later.m_lines); // takes the new lines and leaves those that are known
         auto next = known.begin();
-        for (auto& [number, line] : later.m_lines) {
+        for (auto line = later.m_lines.begin(); line != later.m_lines.end(); ++next) {
             replaced += next->second.replaced;
-            next->first->merge(std::move(line), std::move(next->second));
-            ++next;
+            next->first->merge(line->second, std::move(next->second));
+            line = line->second.empty() ? later.m_lines.erase(line) : std::next(line);
         }
-        later.clear();
+        later.setChanged();
         setChanged();
         return replaced;
+    }
+    /// The same without keeping the points that were replaced.
+    std::size_t merge(PointLines&& later)
+    {
+        const std::size_t replaced = exchange(later);
+        later.clear();
+        return replaced;
+    }
+
+    /// Removes the points of these names, and the lines that they were the last points of. Names
+    /// that nothing has are passed over. An exception (no memory) leaves all as it was.
+    /// \returns the points
+    PointLines extract(const PointNames& names)
+    {
+        struct Extraction
+        {
+            typename Map::iterator from;
+            const std::vector<std::string>* numbers;
+            typename Map::iterator to;
+            typename Line::Room room;
+        };
+        PointLines extracted;
+        std::vector<Extraction> extractions;
+        for (const auto& [number, numbers] : names.lines()) {
+            if (const auto line = m_lines.find(number); line != m_lines.end())
+                extractions.push_back({line, &numbers, extracted.m_lines.try_emplace(number).first,
+                                       Line::roomFor(numbers.size())});
+        }
+        for (Extraction& each : extractions) {
+            each.from->second.extract(*each.numbers, each.to->second, std::move(each.room));
+            if (each.from->second.empty())
+                m_lines.erase(each.from);
+            if (each.to->second.empty())
+                extracted.m_lines.erase(each.to);
+        }
+        setChanged();
+        return extracted;
+    }
+
+    [[nodiscard]] PointNames names() const
+    {
+        PointNames names;
+        for (const auto& [number, line] : m_lines) {
+            std::vector<std::string>& numbers = names.of(number);
+            numbers.reserve(line.size());
+            for (const Point& point : line)
+                numbers.push_back(point.pointNumber);
+        }
+        return names;
     }
 
 private:

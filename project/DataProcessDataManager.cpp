@@ -24,6 +24,7 @@
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
 #include "project/DesignDatabase.h"
+#include "project/edits/EditParts.h"
 #include "project/OwnFile.h"
 #include "project/ParameterFiles.h"
 #include "project/PointCorrection.h"
@@ -137,7 +138,8 @@ Outcome DataProcessDataManager::openProject(const ProjectPlace& place, ProjectAc
     else
         clear(); // what was read before the failure
     m_isSaveOwed = false;
-    m_isChanged = false;
+    m_isElseChanged = false;
+    m_unsaved.clear();
     return logged(reading);
 }
 
@@ -170,17 +172,89 @@ Outcome DataProcessDataManager::saveProject(const ProjectPlace& place)
 {
     const Outcome writing = write(place);
     m_isSaveOwed = !writing.isDone();
-    m_isChanged = m_isSaveOwed;
+    m_isElseChanged = m_isSaveOwed;
+    if (writing.isDone())
+        m_unsaved.clear();
     m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
     return logged(writing);
 }
 
 void DataProcessDataManager::markChanged()
 {
-    if (m_isChanged)
-        return;
-    m_isChanged = true;
-    m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
+    const bool wasChanged = isChanged();
+    m_isElseChanged = true;
+    tellModified(wasChanged);
+}
+
+void DataProcessDataManager::tellModified(bool wasChanged)
+{
+    if (isChanged() != wasChanged)
+        m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
+}
+
+// --- edits ---
+
+EditedData DataProcessDataManager::editedData()
+{
+    return {m_design,
+            m_survey,
+            m_qualityParameters,
+            m_designParameters,
+            get_project_coord_transform().parameters(),
+            [this](const IDictionary& parameters) { applyCoordSystem(parameters); }};
+}
+
+void DataProcessDataManager::setEditHandler(EditHandler handler)
+{
+    m_onEdit = std::move(handler);
+}
+
+int DataProcessDataManager::exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack,
+                                     Outcome* outcome)
+{
+    const bool wasChanged = isChanged();
+    try {
+        edit->exchange(editedData());
+        m_unsaved.add(edit, isTakenBack);
+    } catch (const std::bad_alloc&) {
+        return answered(
+            Outcome::failed(QCoreApplication::translate(
+                "DataProcessDataManager", "There is not enough memory: nothing was changed.")),
+            outcome);
+    }
+    tellModified(wasChanged);
+    return answered(Outcome::done(), outcome);
+}
+
+void DataProcessDataManager::keep(const std::shared_ptr<Edit>& edit)
+{
+    const bool wasChanged = isChanged();
+    m_unsaved.add(edit, false);
+    if (m_onEdit)
+        m_onEdit(edit);
+    tellModified(wasChanged);
+}
+
+template <class Points>
+void DataProcessDataManager::keepImport(const EditKind& kind, TakenOver<Points>&& undo,
+                                        const ImportSummary& summary)
+{
+    const auto edit =
+        std::make_shared<Edit>(kind, summary.pointsNew + summary.pointsReplaced, summary.path);
+    if (undo.wasEmpty)
+        edit->add(std::make_unique<AllPoints<Points>>(Points()));
+    else
+        edit->add(
+            std::make_unique<SomePoints<Points>>(std::move(undo.names), std::move(undo.replaced)));
+    keep(edit);
+}
+
+void DataProcessDataManager::keepParameters(const EditKind& kind, EditScope which,
+                                            const IDictionary& before)
+{
+    const auto edit = std::make_shared<Edit>(kind, 0);
+    edit->add(std::make_unique<Parameters>(which, basalt::Dictionary(before)));
+    keep(edit);
 }
 
 Outcome DataProcessDataManager::write(const ProjectPlace& place)
@@ -247,7 +321,8 @@ void DataProcessDataManager::clear()
     m_database.close();
     m_lock.release();
     m_isSaveOwed = false;
-    m_isChanged = false;
+    m_isElseChanged = false;
+    m_unsaved.clear();
 }
 
 int DataProcessDataManager::load(const QString& path, Outcome* outcome)
@@ -302,9 +377,10 @@ int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcom
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
-    const Outcome reading = readDesignCsv(path, m_design, progress, summary);
+    TakenOver<DesignPoints> undo;
+    const Outcome reading = readDesignCsv(path, m_design, progress, summary, &undo);
     if (reading.isDone() && summary.hasPoints())
-        markChanged();
+        keepImport(EditKinds::kImportDesign, std::move(undo), summary);
     return answered(withSummary(reading, summary, counts), outcome);
 }
 
@@ -337,9 +413,10 @@ int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcom
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
-    const Outcome reading = readSurveyCsv(path, m_survey, progress, summary);
+    TakenOver<SurveyPoints> undo;
+    const Outcome reading = readSurveyCsv(path, m_survey, progress, summary, &undo);
     if (reading.isDone() && summary.hasPoints())
-        markChanged();
+        keepImport(EditKinds::kImportSurvey, std::move(undo), summary);
     return answered(withSummary(reading, summary, counts), outcome);
 }
 
@@ -387,12 +464,13 @@ int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* o
         return answered(check, outcome);
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
+    TakenOver<SurveyPoints> undo;
     const Outcome reading = readSurveyDatabase(
-        path, {m_survey, get_project_coord_transform().parameters(), m_onOtherSystem}, progress,
-        summary);
+        path, {m_survey, get_project_coord_transform().parameters(), m_onOtherSystem, &undo},
+        progress, summary);
     if (reading.isDone() && summary.hasPoints()) {
         recomputeSeaHeights();
-        markChanged();
+        keepImport(EditKinds::kImportSurvey, std::move(undo), summary);
     }
     return answered(withSummary(reading, summary, counts), outcome);
 }
@@ -418,23 +496,32 @@ void DataProcessDataManager::setOtherSystemHandler(OtherSystemHandler handler)
 
 std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointName>& points)
 {
-    std::size_t deleted = 0;
-    for (const PointName& name : points)
-        deleted += m_survey.erase(name.line, name.point) ? 1U : 0U;
-    if (deleted != 0)
-        markChanged();
-    return deleted;
+    return deleteSurveyPoints(PointNames(points));
+}
+
+std::size_t DataProcessDataManager::deleteSurveyPoints(PointNames&& names)
+{
+    SurveyPoints deleted = m_survey.extract(names);
+    const std::size_t count = deleted.pointCount();
+    if (count == 0)
+        return 0;
+    const auto edit = std::make_shared<Edit>(EditKinds::kDeleteResults, count);
+    edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(names), std::move(deleted)));
+    keep(edit);
+    return count;
 }
 
 std::size_t DataProcessDataManager::deleteSurveyLines(const QStringList& lines)
 {
-    const std::size_t before = m_survey.pointCount();
-    for (const QString& line : lines)
-        m_survey.eraseLine(line.toStdString());
-    const std::size_t deleted = before - m_survey.pointCount();
-    if (deleted != 0)
-        markChanged();
-    return deleted;
+    PointNames names;
+    for (const QString& number : lines) {
+        const SurveyPoints::Line* const line = m_survey.findLine(number.toStdString());
+        std::vector<std::string>& numbers = names.of(number.toStdString());
+        for (auto point = line == nullptr ? SurveyPoints::Line::const_iterator() : line->begin();
+             line != nullptr && point != line->end(); ++point)
+            numbers.push_back(point->pointNumber);
+    }
+    return deleteSurveyPoints(std::move(names));
 }
 
 int DataProcessDataManager::correctSurveyPoint(const PointName& name,
@@ -446,8 +533,16 @@ int DataProcessDataManager::correctSurveyPoint(const PointName& name,
     if (const auto fault = faultOf(correction))
         return answered(Outcome::refused(fault->text), outcome);
     PointName place = name;
-    if (correct(m_survey, place, correction))
-        markChanged();
+    SurveyPoints before;
+    before.set(*m_survey.find(name.line, name.point));
+    if (const SurveyPoint* const replaced = replacedBy(m_survey, name, correction))
+        before.set(*replaced);
+    if (correct(m_survey, place, correction)) {
+        const auto edit = std::make_shared<Edit>(EditKinds::kCorrectResult, 1);
+        edit->add(std::make_unique<SomePoints<SurveyPoints>>(
+            PointNames(std::vector<PointName>{name, place}), std::move(before), true));
+        keep(edit);
+    }
     if (filedAs != nullptr)
         *filedAs = std::move(place);
     return answered(Outcome::done(), outcome);
@@ -461,18 +556,48 @@ int DataProcessDataManager::correctDesignPoint(const PointName& name,
         return answered(noSuchPoint(name), outcome);
     if (const auto fault = faultOf(correction))
         return answered(Outcome::refused(fault->text), outcome);
-    if (correct(*point, correction))
-        markChanged();
+    DesignPoints before;
+    before.set(*point);
+    if (correct(*point, correction)) {
+        const auto edit = std::make_shared<Edit>(EditKinds::kCorrectDesign, 1);
+        edit->add(std::make_unique<SomePoints<DesignPoints>>(
+            PointNames(std::vector<PointName>{name}), std::move(before), true));
+        keep(edit);
+    }
     return answered(Outcome::done(), outcome);
 }
 
-int DataProcessDataManager::generateDesign(DesignLines lines, Outcome* outcome)
+int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary& parameters,
+                                           Outcome* outcome)
 {
     ProgressReporter progress(&m_host.eventManager());
-    const Outcome generating = ::generateDesign(m_designParameters, lines, m_design, progress);
-    if (generating.isDone())
-        markChanged();
+    DesignPoints before;
+    basalt::Dictionary own(parameters); // may be the dictionary that changes
+    const Outcome generating = ::generateDesign(own, lines, m_design, progress, &before);
+    if (generating.isDone()) {
+        const auto edit = std::make_shared<Edit>(EditKinds::kGenerateDesign, m_design.pointCount());
+        edit->add(std::make_unique<AllPoints<DesignPoints>>(std::move(before)));
+        std::swap(m_designParameters, own);
+        edit->add(std::make_unique<Parameters>(kDesignParameterScope, std::move(own)));
+        keep(edit);
+    }
     return answered(generating, outcome);
+}
+
+void DataProcessDataManager::setQualityParameters(const IDictionary& parameters)
+{
+    const basalt::Dictionary before =
+        std::exchange(m_qualityParameters, basalt::Dictionary(parameters));
+    if (!dictionary_same(before, m_qualityParameters))
+        keepParameters(EditKinds::kQualityLimits, kQualityScope, before);
+}
+
+void DataProcessDataManager::setDesignParameters(const IDictionary& parameters)
+{
+    const basalt::Dictionary before =
+        std::exchange(m_designParameters, basalt::Dictionary(parameters));
+    if (!dictionary_same(before, m_designParameters))
+        keepParameters(EditKinds::kDesignParameters, kDesignParameterScope, before);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
@@ -480,7 +605,7 @@ void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
     const basalt::Dictionary before(get_project_coord_transform().parameters());
     applyCoordSystem(parameters);
     if (!dictionary_same(before, get_project_coord_transform().parameters()))
-        markChanged();
+        keepParameters(EditKinds::kCoordSystem, kCoordSystemScope, before);
 }
 
 void DataProcessDataManager::applyCoordSystem(const IDictionary& parameters)

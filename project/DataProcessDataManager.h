@@ -6,6 +6,7 @@
 #include "model/PointLines.h"
 #include "model/PointName.h"
 #include "project/DBAdapter.h"
+#include "project/edits/Edit.h"
 #include "project/ProjectLock.h"
 #include "project/ProjectPlace.h"
 #include "project/SurveyDatabase.h"
@@ -77,12 +78,23 @@ public:
     /// only looked at.
     [[nodiscard]] bool isReadOnly() const { return !m_lock.isHeld(); }
 
-    /// To be called once by every operation that has changed what is saved with the project:
-    /// points, limits, design parameters, description. Those of this class do it themselves.
-    /// Publishes "ON_PROJECT_MODIFIED" when nothing was changed before.
+    /// To be called once by whoever has changed what is saved with the project and is no edit, such
+    /// as its description or the verdicts of a check. Operations of this class do it themselves.
     void markChanged();
-    /// Whether memory holds what the files do not. Opening and saving end it, not a failed save.
-    [[nodiscard]] bool isChanged() const { return m_isChanged; }
+    /// Whether memory holds what the files do not. Opening and saving end it, and taking back all
+    /// edits since then, not a failed save. "ON_PROJECT_MODIFIED" is published when it changes.
+    [[nodiscard]] bool isChanged() const { return m_isElseChanged || !m_unsaved.entries().empty(); }
+
+    // Edits: whatever changes points or parameters.
+
+    /// For the user interface, which keeps the edits so that the user can take them back. It is
+    /// told each edit once it is done.
+    using EditHandler = std::function<void(const std::shared_ptr<Edit>&)>;
+    void setEditHandler(EditHandler handler);
+    /// Takes an edit back, or does it again. Whoever keeps the edits goes through them in order.
+    int exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack, Outcome* outcome = nullptr);
+    /// What was done and taken back since the project was saved last.
+    [[nodiscard]] const UnsavedEdits& unsavedEdits() const { return m_unsaved; }
 
     /// Forgets the points and parameters of the open project and gives up its lock. Its coordinate
     /// system stays: the next new project starts from it.
@@ -146,9 +158,13 @@ public:
     int correctDesignPoint(const PointName& name, const DesignCorrection& correction,
                            Outcome* outcome = nullptr);
 
-    /// Replaces the whole design by the grids of `designParameters`, see design/DesignGenerator.h.
-    /// The outcome has a notice in numbers.
-    int generateDesign(DesignLines lines, Outcome* outcome = nullptr);
+    /// Replaces the whole design by the grids of these parameters, see design/DesignGenerator.h,
+    /// and keeps the parameters. The outcome has a notice in numbers.
+    int generateDesign(DesignLines lines, const IDictionary& parameters,
+                       Outcome* outcome = nullptr);
+    /// The limits of the quality checks, and the grid to generate.
+    void setQualityParameters(const IDictionary& parameters);
+    void setDesignParameters(const IDictionary& parameters);
 
     // The checks of quality/CheckKinds.h.
 
@@ -200,6 +216,13 @@ public:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 private:
+    [[nodiscard]] EditedData editedData();
+    std::size_t deleteSurveyPoints(PointNames&& names);
+    void keep(const std::shared_ptr<Edit>& edit);
+    template <class Points>
+    void keepImport(const EditKind& kind, TakenOver<Points>&& undo, const ImportSummary& summary);
+    void keepParameters(const EditKind& kind, EditScope which, const IDictionary& before);
+    void tellModified(bool wasChanged);
     [[nodiscard]] CheckedData checkedData();
     void reportQuery(const char* payload);
     void applyCoordSystem(const IDictionary& parameters);
@@ -224,7 +247,9 @@ private:
     QString m_projectFile; ///< the one that was opened; empty when it could not be read
     QString m_projectFileFault;
     bool m_isSaveOwed = false;
-    bool m_isChanged = false;
+    bool m_isElseChanged = false; ///< by what is no edit
+    UnsavedEdits m_unsaved;
+    EditHandler m_onEdit;
     QString m_seaHeightNotice;
     basalt::Dictionary m_qualityParameters;
     basalt::Dictionary m_designParameters;

@@ -209,7 +209,7 @@ Outcome addResults(const QString& path, const SurveyImport& import, ProgressRepo
     const std::size_t distinct = content.points.pointCount();
     summary.pointsRepeated = summary.linesRead - summary.skipped.count - distinct;
     tellReplaced(import.points, content.points, summary);
-    summary.pointsReplaced = import.points.merge(std::move(content.points));
+    summary.pointsReplaced = takeOver(import.points, std::move(content.points), import.undo);
     summary.pointsNew = distinct - summary.pointsReplaced;
     return reading;
 }

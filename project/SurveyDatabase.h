@@ -1,7 +1,7 @@
 #pragma once
 
 #include "basalt_utilities/Dictionary.h"
-#include "model/PointLines.h"
+#include "model/TakenOver.h"
 #include "protocol/Outcome.h"
 
 #include <QStringList>
@@ -28,6 +28,7 @@ struct SurveyImport
     SurveyPoints& points;
     const IDictionary& coordParameters;      ///< of the project
     const OtherSystemHandler& onOtherSystem; ///< may be empty
+    TakenOver<SurveyPoints>* undo = nullptr; ///< filled when it is not null
 };
 
 /// Adds the results of another project's database to the points, all of them or none, over those of

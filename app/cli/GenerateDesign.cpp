@@ -61,14 +61,14 @@ Outcome generateDesign(const CliArguments& arguments)
             QStringLiteral("\"%1\" is not receiver, source or both").arg(arguments.places[1]));
     CliProject project;
     Outcome outcome = project.open(arguments.places[0], ProjectAccess::Change);
-    IDictionary& parameters = project.manager().designParameters();
+    basalt::Dictionary parameters(project.manager().designParameters());
     for (const QString& pair : arguments.options.value(QStringLiteral("--set"))) {
         if (outcome.isDone())
             outcome = setParameter(pair, parameters);
     }
     if (!outcome.isDone())
         return outcome;
-    project.manager().generateDesign(*lines, &outcome);
+    project.manager().generateDesign(*lines, parameters, &outcome);
     if (!outcome.isDone())
         return Outcome::failed(outcome.text());
     if (Outcome saving = project.save(); !saving.isDone())

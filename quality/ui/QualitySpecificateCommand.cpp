@@ -7,8 +7,7 @@
 void QualitySpecificateCommand::execute()
 {
     DataProcessDataManager& manager = DataProcessDataManager::instance();
-    const basalt::Dictionary before(manager.qualityParameters());
-    DlgQCParamSet(host().dialogParent(), manager.qualityParameters()).exec();
-    if (!dictionary_same(before, manager.qualityParameters()))
-        manager.markChanged();
+    basalt::Dictionary limits(manager.qualityParameters());
+    if (DlgQCParamSet(host().dialogParent(), limits).exec() == QDialog::Accepted)
+        manager.setQualityParameters(limits);
 }

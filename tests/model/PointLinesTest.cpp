@@ -49,15 +49,50 @@ void mergeSome(DesignPoints& points, Reference& reference, std::mt19937& random,
         later.set(point("0", number, -1));
     for (unsigned i = 0; i < range; ++i)
         later.set(point(std::to_string(1 + i % 4), std::to_string(random() % range), -1));
-    std::size_t replaced = 0;
+    Reference replaced;
     for (const auto& [line, added] : later) {
         for (const DesignPoint& each : added) {
-            replaced += reference[line].count(each.pointNumber);
+            if (const auto old = reference[line].find(each.pointNumber);
+                old != reference[line].end())
+                replaced[line].insert(*old);
             reference[line][each.pointNumber] = -1;
         }
     }
-    EXPECT_EQ(points.merge(std::move(later)), replaced);
     std::erase_if(reference, [](const auto& line) { return line.second.empty(); });
+    DesignPoints exchanged = later;
+    std::size_t count = 0;
+    for (const auto& [line, old] : replaced)
+        count += old.size();
+    DesignPoints merged = points;
+    EXPECT_EQ(merged.merge(std::move(later)), count);
+    EXPECT_EQ(points.exchange(exchanged), count);
+    expectSame(exchanged, replaced);
+    expectSame(merged, reference);
+    expectSame(points, reference);
+}
+
+/// Takes random points out, some of which are not there, and puts them back.
+void extractSome(DesignPoints& points, const Reference& reference, std::mt19937& random,
+                 unsigned range)
+{
+    std::vector<PointName> names;
+    Reference left = reference;
+    Reference taken;
+    for (unsigned i = 0; i < range; ++i) {
+        const PointName& name = names.emplace_back(
+            PointName{std::to_string(random() % 6), std::to_string(random() % range)});
+        if (auto line = left.find(name.line);
+            line != left.end() && line->second.contains(name.point)) {
+            taken[name.line].insert(line->second.extract(name.point));
+            if (line->second.empty())
+                left.erase(line);
+        }
+    }
+    DesignPoints extracted = points.extract(PointNames(names));
+    expectSame(extracted, taken);
+    expectSame(points, left);
+    EXPECT_EQ(points.exchange(extracted), 0U);
+    EXPECT_TRUE(extracted.empty());
     expectSame(points, reference);
 }
 
@@ -88,6 +123,8 @@ TEST(PointLines, DoWhatAMapDoes)
             ASSERT_EQ(found != nullptr, isThere);
             if (step % 1000 == 999)
                 mergeSome(points, reference, random, range);
+            if (step % 1000 == 499)
+                extractSome(points, reference, random, range);
         }
         expectSame(points, reference);
     }

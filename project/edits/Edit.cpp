@@ -1,0 +1,43 @@
+#include "project/edits/Edit.h"
+
+#include <numeric>
+
+void Edit::exchange(const EditedData& data)
+{
+    std::size_t done = 0;
+    try {
+        for (; done < m_parts.size(); ++done)
+            m_parts[done]->exchange(data);
+    } catch (...) {
+        while (done-- > 0)
+            m_parts[done]->exchange(data); // into memory that was in use before
+        throw;
+    }
+}
+
+void Edit::tell(const EditedData& data, IEditReader& reader) const
+{
+    for (const auto& part : m_parts)
+        part->tell(data, reader);
+}
+
+unsigned Edit::scope() const
+{
+    return std::accumulate(m_parts.begin(), m_parts.end(), 0U,
+                           [](unsigned all, const auto& part) { return all | part->scope(); });
+}
+
+std::size_t Edit::bytes() const
+{
+    return std::accumulate(m_parts.begin(), m_parts.end(), std::size_t(0),
+                           [](std::size_t all, const auto& part) { return all + part->bytes(); });
+}
+
+void UnsavedEdits::add(const std::shared_ptr<Edit>& edit, bool isTakenBack)
+{
+    if (!m_entries.empty() && m_entries.back().edit == edit) {
+        m_entries.pop_back();
+        return;
+    }
+    m_entries.push_back({edit, isTakenBack, QDateTime::currentDateTimeUtc()});
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "project/edits/EditKinds.h"
+#include "project/edits/EditPart.h"
+
+#include <QDateTime>
+
+#include <memory>
+#include <vector>
+
+/// One change of the open project that can be taken back: an import, a deletion, a new design.
+///
+/// An edit is made when the change is done. `exchange` takes it back, does it again, and so on.
+class Edit
+{
+public:
+    Edit(const EditKind& kind, std::size_t points, const QString& file = {})
+        : m_kind(kind), m_points(points), m_file(file)
+    {
+    }
+
+    void add(std::unique_ptr<EditPart> part) { m_parts.push_back(std::move(part)); }
+
+    /// An exception (no memory) leaves the project as it was.
+    void exchange(const EditedData& data);
+    void tell(const EditedData& data, IEditReader& reader) const;
+
+    [[nodiscard]] const EditKind& kind() const { return m_kind; }
+    [[nodiscard]] QString title() const { return m_kind.titleFor(m_points); }
+    [[nodiscard]] std::size_t points() const { return m_points; }
+    [[nodiscard]] const QString& file() const { return m_file; } ///< that it came from, or empty
+    [[nodiscard]] unsigned scope() const;
+    [[nodiscard]] std::size_t bytes() const;
+
+private:
+    const EditKind& m_kind;
+    std::size_t m_points;
+    QString m_file;
+    std::vector<std::unique_ptr<EditPart>> m_parts;
+};
+
+/// Edits that are not saved yet, each done or taken back, in order of time.
+class UnsavedEdits
+{
+public:
+    struct Entry
+    {
+        std::shared_ptr<Edit> edit;
+        bool isTakenBack = false;
+        QDateTime time; ///< UTC
+    };
+
+    /// An edit that is taken back again before it was saved leaves nothing.
+    void add(const std::shared_ptr<Edit>& edit, bool isTakenBack);
+    void clear() { m_entries.clear(); }
+    [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
+
+private:
+    std::vector<Entry> m_entries;
+};

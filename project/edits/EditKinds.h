@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+
+/// A kind of change that can be taken back.
+struct EditKind
+{
+    const char* name;  ///< in the project's history, which is kept for years: never changed
+    const char* title; ///< for the user, context "EditKinds"; %1 is the number of points
+
+    /// "Delete 10,000 results", translated.
+    [[nodiscard]] QString titleFor(std::size_t points) const;
+};
+
+namespace EditKinds {
+
+extern const EditKind kImportDesign;
+extern const EditKind kImportSurvey;
+extern const EditKind kDeleteResults;
+extern const EditKind kCorrectResult;
+extern const EditKind kCorrectDesign;
+extern const EditKind kGenerateDesign;
+extern const EditKind kQualityLimits;
+extern const EditKind kDesignParameters;
+extern const EditKind kCoordSystem;
+extern const EditKind kRestore;
+
+/// Null when there is none of this name.
+[[nodiscard]] const EditKind* find(std::string_view name);
+
+} // namespace EditKinds

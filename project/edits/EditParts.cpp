@@ -1,0 +1,40 @@
+#include "project/edits/EditParts.h"
+
+void keepVerdict(const SurveyPoint& from, SurveyPoint& to)
+{
+    to.qualityStandard = from.qualityStandard;
+    to.isResurvey = from.isResurvey;
+    to.resurveyXDiff = from.resurveyXDiff;
+    to.resurveyYDiff = from.resurveyYDiff;
+    to.resurveyHDiff = from.resurveyHDiff;
+}
+
+void keepVerdict(const DesignPoint& from, DesignPoint& to)
+{
+    to.status = from.status;
+}
+
+const IDictionary& Parameters::present(const EditedData& data) const
+{
+    if (m_which == kQualityScope)
+        return data.quality;
+    if (m_which == kDesignParameterScope)
+        return data.designParameters;
+    return data.coordSystem;
+}
+
+void Parameters::exchange(const EditedData& data)
+{
+    if (m_which == kCoordSystemScope) {
+        basalt::Dictionary before(data.coordSystem);
+        data.setCoordSystem(m_other);
+        m_other = std::move(before);
+    } else {
+        std::swap(m_which == kQualityScope ? data.quality : data.designParameters, m_other);
+    }
+}
+
+void Parameters::tell(const EditedData& data, IEditReader& reader) const
+{
+    reader.parametersChanged(m_which, m_other, present(data));
+}
