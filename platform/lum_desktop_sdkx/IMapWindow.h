@@ -55,7 +55,9 @@ public:
     /// Adds a layer of a registered class on top. `properties` holds its "layer_name".
     /// \returns null, and a line in the log, when the class is not registered or the name is taken
     virtual ILayerViewer* addLayer(const QString& className, const IDictionary& properties) = 0;
-    /// \param number 0 or 1; tools and highlights use 0
+    /// \param number 0 to 2, the last on top of the others; highlights and tools use 0, picked
+    /// places
+    ///        2
     [[nodiscard]] virtual IOverlay& overlay(int number) = 0;
     [[nodiscard]] virtual IHost& host() = 0;
 };

@@ -265,8 +265,8 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
         redraw();
     QPainter painter(this);
     m_picture.draw(painter, m_transform, palette().color(QPalette::Base));
-    m_overlays[1].draw(painter, m_transform);
-    m_overlays[0].draw(painter, m_transform);
+    for (const std::size_t number : {1U, 0U, 2U}) // from the bottom
+        m_overlays[number].draw(painter, m_transform);
     if (!m_host.hasDocument())
         return; // nothing here has a scale
     drawScaleBar(painter, m_transform, lum::shownUnit());
@@ -314,8 +314,8 @@ ILayerViewer* MapWindow::addLayer(const QString& className, const IDictionary& p
 
 IOverlay& MapWindow::overlay(int number)
 {
-    Q_ASSERT(number == 0 || number == 1);
-    return m_overlays[number == 1 ? 1 : 0];
+    Q_ASSERT(number >= 0 && number < 3);
+    return m_overlays[static_cast<std::size_t>(number)];
 }
 
 bool MapWindow::installReactor(const QString& name)

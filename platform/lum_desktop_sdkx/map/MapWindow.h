@@ -107,7 +107,7 @@ private:
     std::optional<Fit> m_fitUntilSeen;
 
     LayerRegistry m_layers;
-    std::array<Overlay, 2> m_overlays;
+    std::array<Overlay, 3> m_overlays;
     MapPicture m_picture;
     MapPainter m_painter; // after the layers, so that it ends before they do
     QTimer m_paintTimer;
