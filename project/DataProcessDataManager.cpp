@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/ILogger.h"
+#include "design/DesignGenerator.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
 #include "exchange/DesignKml.h"
@@ -463,6 +464,15 @@ int DataProcessDataManager::correctDesignPoint(const PointName& name,
     if (correct(*point, correction))
         markChanged();
     return answered(Outcome::done(), outcome);
+}
+
+int DataProcessDataManager::generateDesign(DesignLines lines, Outcome* outcome)
+{
+    ProgressReporter progress(&m_host.eventManager());
+    const Outcome generating = ::generateDesign(m_designParameters, lines, m_design, progress);
+    if (generating.isDone())
+        markChanged();
+    return answered(generating, outcome);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)

@@ -27,6 +27,7 @@ struct QualityRow;
 struct ReportChoice;
 struct ReportKind;
 struct SurveyCorrection;
+enum class DesignLines;
 
 /// What a project is opened for.
 enum class ProjectAccess
@@ -144,6 +145,10 @@ public:
                            Outcome* outcome = nullptr, PointName* filedAs = nullptr);
     int correctDesignPoint(const PointName& name, const DesignCorrection& correction,
                            Outcome* outcome = nullptr);
+
+    /// Replaces the whole design by the grids of `designParameters`, see design/DesignGenerator.h.
+    /// The outcome has a notice in numbers.
+    int generateDesign(DesignLines lines, Outcome* outcome = nullptr);
 
     // The checks of quality/CheckKinds.h.
 

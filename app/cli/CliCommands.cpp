@@ -4,6 +4,7 @@
 #include "app/cli/CompareProject.h"
 #include "app/cli/CreateProject.h"
 #include "app/cli/ExportFile.h"
+#include "app/cli/GenerateDesign.h"
 #include "app/cli/ImportFiles.h"
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
@@ -48,6 +49,9 @@ constexpr std::array kCommands{
     CliCommand{"list-quality", "PROJECT",
                "print the limits of the quality check, a \"key=value\" line each",
                1, 1, "", "", listQuality},
+    CliCommand{"generate", "PROJECT receiver|source|both [--set key=value ...]",
+               "replace the whole design by generated lines (--set: design parameters, stored with the project)",
+               2, 2, "--set", "", generateDesign},
     CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH]",
                "paint the whole map into a picture",
                3, 3, "--size", "", renderProject, true},

@@ -96,6 +96,13 @@ double fromRadians(double radians, AngleFormat format)
     }
 }
 
+bool isSexagesimal(double dms)
+{
+    const double angle = std::abs(dms) + 1e-11; // as `convetFromAngle` reads it
+    const double minutes = (angle - std::floor(angle)) * 100;
+    return minutes < 60 && (minutes - std::floor(minutes + 1e-9)) * 100 < 60;
+}
+
 std::string angleText(double degrees, int decimals)
 {
     const int digits = std::clamp(decimals, 4, 12);

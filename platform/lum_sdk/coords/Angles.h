@@ -33,6 +33,9 @@ enum class AngleFormat : std::int32_t
 [[nodiscard]] double toRadians(double angle, AngleFormat format);
 [[nodiscard]] double fromRadians(double radians, AngleFormat format);
 
+/// Whether a dd.mmss angle has at most 59 minutes, and less than 60 seconds.
+[[nodiscard]] bool isSexagesimal(double dms);
+
 /// An angle as dd.mmss text with `decimals` digits, at least 4. Seconds that round to 60 are
 /// carried for any number of digits, and a negative angle that rounds to 0 has no sign.
 [[nodiscard]] std::string angleText(double degrees, int decimals);
