@@ -1,5 +1,6 @@
 #include "app/cli/CliCommands.h"
 
+#include "app/cli/CalculateAzimuth.h"
 #include "app/cli/CheckProject.h"
 #include "app/cli/CompareProject.h"
 #include "app/cli/CreateProject.h"
@@ -52,6 +53,9 @@ constexpr std::array kCommands{
     CliCommand{"generate", "PROJECT receiver|source|both [--set key=value ...]",
                "replace the whole design by generated lines (--set: design parameters, stored with the project)",
                2, 2, "--set", "", generateDesign},
+    CliCommand{"azimuth", "NORTH EAST NORTH EAST [--dms]",
+               "print azimuth and length from the first place to the second (--dms: dd.mmss)",
+               4, 4, "", "--dms", calculateAzimuth},
     CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH]",
                "paint the whole map into a picture",
                3, 3, "--size", "", renderProject, true},
