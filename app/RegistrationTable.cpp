@@ -6,6 +6,7 @@
 #include "app/DataProcess5Assistant.h"
 #include "app/DemoSurveyCommand.h"
 #include "app/ProgressStatusBarForSkyquill.h"
+#include "design/ui/CountAzimuthCommand.h"
 #include "exchange/ui/ExportCommands.h"
 #include "exchange/ui/ImportCommand.h"
 #include "lum_desktop_sdkx/Registration.h"
@@ -73,6 +74,7 @@ using namespace desktop::registration;
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
+    command<CountAzimuthCommand>        ("CountAzimuthCommand",          "方位角计算"),
     command<ExportDesignCommand>        ("ExportDesignCommand",          "导出设计数据"),
     command<ExportSurveyCommand>        ("ExportSurveyCommand",          "导出测量数据"),
     command<ExportReportCommand>        ("ExportReportCommand",          "导出报告"),
