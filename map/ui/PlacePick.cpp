@@ -239,10 +239,11 @@ QPointF PlacePick::toMap(const PickedPlace& place) const
 void PlacePick::showHint()
 {
     if (m_clicks == 1)
-        m_host.tell(tr("Click a place or a point on the map. Esc or a right click cancels."));
+        m_host.tell(
+            tr("Click a place on the map, free or on a point. Esc or a right click cancels."));
     else
         m_host.tell(
-            tr("Click place %1 of %2, or a point, on the map. Esc or a right click cancels.")
+            tr("Click place %1 of %2 on the map, free or on a point. Esc or a right click cancels.")
                 .arg(m_places.size() + 1)
                 .arg(m_clicks));
 }
