@@ -894,6 +894,117 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>CountAzimuthDlg</name>
+    <message>
+        <source>Calculate Azimuth</source>
+        <translation>计算方位角</translation>
+    </message>
+    <message>
+        <source>StartPoint</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>DestPoint</source>
+        <translation>终点</translation>
+    </message>
+    <message>
+        <source>Pick &amp;Both on the Map</source>
+        <translation>在地图上选取两点(&amp;B)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>Pick on the &amp;Map</source>
+        <translation>在地图上选取(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Pick &amp;on the Map</source>
+        <translation>在地图上选取(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Click a place or a point on the map</source>
+        <translation>在地图上单击一处或一个点</translation>
+    </message>
+    <message>
+        <source>Click the start, then the destination on the map</source>
+        <translation>在地图上先单击起点，再单击终点</translation>
+    </message>
+    <message>
+        <source>Azimuth Type</source>
+        <translation>方位角格式</translation>
+    </message>
+    <message>
+        <source>度分秒(dd.mmss)</source>
+        <translation>度分秒(dd.mmss)</translation>
+    </message>
+    <message>
+        <source>度(ddd.dddddd)</source>
+        <translation>度(ddd.dddddd)</translation>
+    </message>
+    <message>
+        <source>Point Azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>Point Line Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Calculate</source>
+        <translation>计算</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>&amp;Design Lines with It</source>
+        <translation>用于测线设计(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Empty azimuth and length; the coordinates stay</source>
+        <translation>清空方位角和长度，坐标保留</translation>
+    </message>
+    <message>
+        <source>Enter this azimuth in the dialog of the design lines, which opens for it</source>
+        <translation>把这个方位角填入测线设计窗口；窗口没有打开时将打开</translation>
+    </message>
+    <message>
+        <source>米</source>
+        <translation>米</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a coordinate. Type a number with a decimal point, at most 1,000,000,000.</source>
+        <translation>%1：“%2”不是坐标。请输入数字，小数点用“.”，不超过 1,000,000,000。</translation>
+    </message>
+    <message>
+        <source>Taken from the points: %1.</source>
+        <translation>取自点：%1。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Calculate Msg Not Enough</source>
+        <translation>请输入起点和终点的全部坐标。</translation>
+    </message>
+    <message>
+        <source>Both places are the same: there is no direction from one to the other.</source>
+        <translation>起点和终点相同，没有方向。</translation>
+    </message>
+</context>
+<context>
     <name>CrewPanel</name>
     <message>
         <source>Crews</source>
@@ -2467,6 +2578,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The period ends before it begins.</source>
         <translation>时段的结束早于开始。</translation>
+    </message>
+</context>
+<context>
+    <name>PlacePick</name>
+    <message>
+        <source>Places are picked on the map of an open project.</source>
+        <translation>请先打开工程，再在它的地图上选取位置。</translation>
+    </message>
+    <message>
+        <source>Click a place on the map, free or on a point. Esc or a right click cancels.</source>
+        <translation>请在地图上单击一处；单击点则取该点。按 Esc 或单击右键取消。</translation>
+    </message>
+    <message>
+        <source>Click place %1 of %2 on the map, free or on a point. Esc or a right click cancels.</source>
+        <translation>请在地图上单击第 %1 处（共 %2 处）；单击点则取该点。按 Esc 或单击右键取消。</translation>
     </message>
 </context>
 <context>
