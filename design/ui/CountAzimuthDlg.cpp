@@ -26,6 +26,7 @@ namespace {
 constexpr std::size_t kStart = 0; // of the coordinates
 constexpr std::size_t kDestination = 2;
 constexpr int kNoteLines = 2;
+const QString kWidest = QStringLiteral("-5000000.0000 "); // of the usual coordinates
 
 QString designCommand()
 {
@@ -79,6 +80,7 @@ QGroupBox* CountAzimuthDlg::makePlace(const QString& title, std::size_t first)
     auto* const form = new QFormLayout(group);
     for (const std::size_t coordinate : {first, first + 1}) {
         auto* const edit = new QLineEdit(group);
+        edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(kWidest));
         connect(edit, &QLineEdit::textChanged, this, &CountAzimuthDlg::onInput);
         m_coordinates.at(coordinate) = edit;
         form->addRow(coordinate == first ? tr("N") : tr("E"), edit);
