@@ -45,7 +45,7 @@ void generatedDesign(benchmark::State& state)
                 filled.set(point);
         });
     };
-    for (auto _ : state)
+    for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
         bench::report(state, "a design of 1,000,000 points over filling the containers",
                       bench::medianOf([&] { return generate() / fill(); }, kRuns), kLimit);
     state.counters["points"] = static_cast<double>(points.size());

@@ -8,43 +8,43 @@ namespace {
 
 using enum DesignField;
 using enum DesignValue;
-constexpr GridKind R = GridKind::Receiver;
-constexpr GridKind S = GridKind::Source;
+constexpr GridKind kR = GridKind::Receiver;
+constexpr GridKind kS = GridKind::Source;
 
 // clang-format off
 constexpr std::array kParameters{
-    DesignParameter{R, LineDistance, Distance, "r_line_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Dist:")},
-    DesignParameter{R, LineStart, Number, "r_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Start No.:")},
-    DesignParameter{R, LineEnd, Number, "r_line_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line End No.:")},
-    DesignParameter{R, LineStep, Step, "r_line_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Step:")},
-    DesignParameter{R, LineDigits, Digits, "r_line_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Base:")},
-    DesignParameter{R, PointDistance, Distance, "r_pt_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Dist:")},
-    DesignParameter{R, PointStart, Number, "r_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Start No.:")},
-    DesignParameter{R, PointEnd, Number, "r_pt_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point End No.:")},
-    DesignParameter{R, PointStep, Step, "r_pt_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Step:")},
-    DesignParameter{R, PointDigits, Digits, "r_pt_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Base:")},
-    DesignParameter{R, FirstLine, Number, "calc_r_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Line Start No.:")},
-    DesignParameter{R, FirstPoint, Number, "calc_r_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Point Start No.:")},
-    DesignParameter{R, StartNorth, Coordinate, "calc_r_start_north", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start North:")},
-    DesignParameter{R, StartEast, Coordinate, "calc_r_start_east", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start East:")},
-    DesignParameter{R, Azimuth, Angle, "calc_r_start_azi", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Azimuth:")},
-    DesignParameter{R, Reversal, Switch, "r_recvrse_recvline", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Reverse of receiving line")},
-    DesignParameter{S, LineDistance, Distance, "s_line_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Dist:")},
-    DesignParameter{S, LineStart, Number, "s_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Start No.:")},
-    DesignParameter{S, LineEnd, Number, "s_line_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line End No.:")},
-    DesignParameter{S, LineStep, Step, "s_line_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Step:")},
-    DesignParameter{S, LineDigits, Digits, "s_line_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Base:")},
-    DesignParameter{S, PointDistance, Distance, "s_pt_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Dist:")},
-    DesignParameter{S, PointStart, Number, "s_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Start No.:")},
-    DesignParameter{S, PointEnd, Number, "s_pt_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point End No.:")},
-    DesignParameter{S, PointStep, Step, "s_pt_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Step:")},
-    DesignParameter{S, PointDigits, Digits, "s_pt_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Base:")},
-    DesignParameter{S, FirstLine, Number, "calc_s_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Line Start No.:")},
-    DesignParameter{S, FirstPoint, Number, "calc_s_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Point Start No.:")},
-    DesignParameter{S, StartNorth, Coordinate, "calc_s_start_north", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start North:")},
-    DesignParameter{S, StartEast, Coordinate, "calc_s_start_east", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start East:")},
-    DesignParameter{S, Azimuth, Angle, "calc_s_start_azi", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Azimuth:")},
-    DesignParameter{S, Reversal, Switch, "s_recvrse_recvline", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Excitation line reversal")},
+    DesignParameter{kR, LineDistance, Distance, "r_line_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Dist:")},
+    DesignParameter{kR, LineStart, Number, "r_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Start No.:")},
+    DesignParameter{kR, LineEnd, Number, "r_line_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line End No.:")},
+    DesignParameter{kR, LineStep, Step, "r_line_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Step:")},
+    DesignParameter{kR, LineDigits, Digits, "r_line_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Line Base:")},
+    DesignParameter{kR, PointDistance, Distance, "r_pt_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Dist:")},
+    DesignParameter{kR, PointStart, Number, "r_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Start No.:")},
+    DesignParameter{kR, PointEnd, Number, "r_pt_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point End No.:")},
+    DesignParameter{kR, PointStep, Step, "r_pt_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Step:")},
+    DesignParameter{kR, PointDigits, Digits, "r_pt_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "R-Point Base:")},
+    DesignParameter{kR, FirstLine, Number, "calc_r_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Line Start No.:")},
+    DesignParameter{kR, FirstPoint, Number, "calc_r_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Point Start No.:")},
+    DesignParameter{kR, StartNorth, Coordinate, "calc_r_start_north", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start North:")},
+    DesignParameter{kR, StartEast, Coordinate, "calc_r_start_east", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start East:")},
+    DesignParameter{kR, Azimuth, Angle, "calc_r_start_azi", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Azimuth:")},
+    DesignParameter{kR, Reversal, Switch, "r_recvrse_recvline", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Reverse of receiving line")},
+    DesignParameter{kS, LineDistance, Distance, "s_line_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Dist:")},
+    DesignParameter{kS, LineStart, Number, "s_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Start No.:")},
+    DesignParameter{kS, LineEnd, Number, "s_line_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line End No.:")},
+    DesignParameter{kS, LineStep, Step, "s_line_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Step:")},
+    DesignParameter{kS, LineDigits, Digits, "s_line_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Line Base:")},
+    DesignParameter{kS, PointDistance, Distance, "s_pt_dist", "15", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Dist:")},
+    DesignParameter{kS, PointStart, Number, "s_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Start No.:")},
+    DesignParameter{kS, PointEnd, Number, "s_pt_end_num", "1000", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point End No.:")},
+    DesignParameter{kS, PointStep, Step, "s_pt_step", "10", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Step:")},
+    DesignParameter{kS, PointDigits, Digits, "s_pt_base", "4", QT_TRANSLATE_NOOP("DlgDesignLine", "S-Point Base:")},
+    DesignParameter{kS, FirstLine, Number, "calc_s_line_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Line Start No.:")},
+    DesignParameter{kS, FirstPoint, Number, "calc_s_pt_start_num", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Point Start No.:")},
+    DesignParameter{kS, StartNorth, Coordinate, "calc_s_start_north", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start North:")},
+    DesignParameter{kS, StartEast, Coordinate, "calc_s_start_east", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Start East:")},
+    DesignParameter{kS, Azimuth, Angle, "calc_s_start_azi", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Azimuth:")},
+    DesignParameter{kS, Reversal, Switch, "s_recvrse_recvline", "0", QT_TRANSLATE_NOOP("DlgDesignLine", "Excitation line reversal")},
 };
 // clang-format on
 
@@ -55,8 +55,8 @@ bool isOfStart(DesignField field)
 
 QString kindName(GridKind kind)
 {
-    return kind == R ? QCoreApplication::translate("DlgDesignLine", "Receive Line")
-                     : QCoreApplication::translate("DlgDesignLine", "Send Line");
+    return kind == kR ? QCoreApplication::translate("DlgDesignLine", "Receive Line")
+                      : QCoreApplication::translate("DlgDesignLine", "Send Line");
 }
 
 } // namespace
@@ -82,7 +82,7 @@ std::span<const DesignParameter> designParameters()
 const DesignParameter& designParameter(GridKind kind, DesignField field)
 {
     const std::size_t half = kParameters.size() / 2;
-    return kParameters[(kind == R ? 0 : half) + static_cast<std::size_t>(field)];
+    return kParameters[(kind == kR ? 0 : half) + static_cast<std::size_t>(field)];
 }
 
 const DesignParameter* findDesignParameter(std::string_view key)

@@ -60,15 +60,15 @@ public:
 
 private:
     GridPlace m_start;
-    GridPlace m_line;
-    GridPlace m_point;
+    GridPlace m_line{};
+    GridPlace m_point{};
 };
 
 /// What is seen of a grid before it is generated.
 struct GridOutline
 {
-    std::array<GridPlace, 2> firstLine; ///< its first and its last point
-    std::array<GridPlace, 2> lastLine;
+    std::array<GridPlace, 2> firstLine{}; ///< its first and its last point
+    std::array<GridPlace, 2> lastLine{};
     double area = 0; ///< between the outer points, square units
     GridPlace bin{}; ///< half the distance of lines, half the distance of points
 
