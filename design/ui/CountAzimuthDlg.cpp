@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/coords/ShownUnit.h"
+#include "lum_sdk/events/EventNames.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 
@@ -49,7 +50,9 @@ bool isBlank(const QLineEdit* edit)
 CountAzimuthDlg::CountAzimuthDlg(IDesktopHost& host)
     : Dialog(host.dialogParent()), m_host(host), m_azimuth(new QLineEdit(this)),
       m_length(new QLineEdit(this)), m_unit(new QLabel(this)), m_note(new QLabel(this)),
-      m_pick(host, this), m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
+      m_pick(host, this),
+      m_subscription(*this, lum::eventNames({events::kUpdateSystemStatus, events::kProjectChanged}),
+                     host.eventManager())
 {
     setWindowTitle(tr("Calculate Azimuth"));
     auto* const places = new QHBoxLayout;

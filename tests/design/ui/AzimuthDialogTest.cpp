@@ -1,5 +1,8 @@
+#include "basalt_utilities/KeyList.h"
 #include "design/ui/CountAzimuthCommand.h"
 #include "design/ui/CountAzimuthDlg.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "protocol/Events.h"
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/Boxes.h"
@@ -82,6 +85,13 @@ public:
         }
     }
     void clickMap(int x, int y) { QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint(x, y)); }
+    [[nodiscard]] QStringList labels()
+    {
+        QStringList all;
+        for (const QLabel* const label : dialog().findChildren<QLabel*>())
+            all << label->text();
+        return all;
+    }
     [[nodiscard]] QString note()
     {
         for (const QLabel* const label : dialog().findChildren<QLabel*>()) {
@@ -208,6 +218,20 @@ private Q_SLOTS:
         project.design.isPossible = false; // the project was closed
         project.publish(events::kUpdateSystemStatus);
         QVERIFY(!project.button("Design Lines with It").isEnabled());
+    }
+
+    void namesTheUnitOfTheProject()
+    {
+        Calculator project;
+        QVERIFY(project.labels().contains("米"_q));
+        basalt::Dictionary feet;
+        csa_to_dictionary(feet, "unit_m=0.3048,factor=3.280839895");
+        (void)get_project_coord_transform().initialise(feet, feet);
+        project.publish(events::kProjectChanged);
+        const QStringList labels = project.labels();
+        (void)get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
+        QVERIFY(labels.contains("ft"_q));
+        QVERIFY(!labels.contains("米"_q));
     }
 
     void keepsItsCoordinatesWhenItIsClosed()
