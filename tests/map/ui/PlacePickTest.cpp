@@ -101,6 +101,7 @@ private Q_SLOTS:
         QVERIFY(map.pick()->start(1));
         map.click(1, 300);
         QCOMPARE(map.heard(), (QStringList{"5000000 1000000 "_q, "ended"_q}));
+        map.setStatus(status::kViewShowWhich, "1");
         map.layer().GetProperties().set("visible", "0"); // what is not shown is not hit
         map.showAll();
         QVERIFY(map.pick()->start(1));
