@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -70,6 +71,7 @@ CountAzimuthDlg::CountAzimuthDlg(IDesktopHost& host)
         for (QPushButton* const button : m_picks)
             button->setChecked(false);
     });
+    orderTabs();
     m_coordinates[kStart]->setFocus();
     showState();
     moveIntoCorner();
@@ -159,6 +161,16 @@ QLayout* CountAzimuthDlg::makeButtons()
     row->addStretch(1);
     row->addWidget(m_handOver);
     return row;
+}
+
+/// Tab goes through the coordinates first, as they are typed.
+void CountAzimuthDlg::orderTabs()
+{
+    std::vector<QWidget*> order(m_coordinates.begin(), m_coordinates.end());
+    order.insert(order.end(), m_picks.begin(), m_picks.end());
+    order.insert(order.end(), {m_dms, m_azimuth, m_length, m_calculate});
+    for (std::size_t i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 // --- what is shown ---

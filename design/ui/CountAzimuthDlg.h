@@ -41,6 +41,7 @@ private:
     [[nodiscard]] QGroupBox* makeType();
     [[nodiscard]] QLayout* makeResult();
     [[nodiscard]] QLayout* makeButtons();
+    void orderTabs();
     /// \param first of the coordinates that it fills
     [[nodiscard]] QPushButton* makePick(const QString& text, std::size_t first, int clicks);
     void pick(QPushButton* button, std::size_t first, int clicks);

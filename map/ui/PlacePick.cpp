@@ -18,8 +18,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPolygonF>
+#include <QWidget>
 
 #include <cmath>
+#include <optional>
+#include <string>
 
 namespace {
 

@@ -122,6 +122,12 @@ private Q_SLOTS:
     {
         Calculator project;
         QCOMPARE(project.dialog().windowTitle(), "Calculate Azimuth"_q);
+        project.dialog().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&project.dialog()));
+        for (QLineEdit* const each : project.fields().mid(0, 4)) { // by the keyboard
+            QVERIFY(each->hasFocus());
+            QTest::keyClick(each, Qt::Key_Tab);
+        }
         project.type({"5000000"_q, " 400000 "_q, "5000004"_q, "399997"_q});
         QTest::keyClick(project.fields()[3], Qt::Key_Return);
         QCOMPARE(project.texts().mid(4), (QStringList{"-36.521163"_q, "5.000000"_q}));
