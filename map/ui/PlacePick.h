@@ -13,7 +13,6 @@
 class IDataLayer;
 class IDesktopHost;
 class IMapWindow;
-class QKeyEvent;
 class QMouseEvent;
 class QPointF;
 class QWidget;
