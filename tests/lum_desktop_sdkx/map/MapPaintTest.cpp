@@ -282,6 +282,35 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(399, 299), kPaper);
     }
 
+    void overlayLinesKeepTheirColoursAndPointAhead()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        IOverlay& overlay = m_map->overlay(1);
+        const auto add = [&](const QVector<QPointF>& line, Qt::GlobalColor color, bool hasArrow) {
+            overlay.addLine({QPolygonF(line), color, 2, Qt::SolidLine, hasArrow});
+        };
+        add({{50, 200}, {150, 200}}, Qt::cyan, true);
+        add({{100, 50}, {100, 250}}, Qt::blue, false);
+        add({{300, 100}, {300, 100}}, Qt::red, true); // has no direction
+        add({{300, 50}, {nan, nan}}, Qt::red, true);
+        add({{300, 20}}, Qt::red, true);
+        m_map->refreshOverlay();
+        const QImage picture = shown();
+        QCOMPARE(picture.pixelColor(70, 100), QColor(Qt::cyan));
+        QCOMPARE(picture.pixelColor(70, 98), QColor(Qt::white)); // the edge
+        QCOMPARE(picture.pixelColor(100, 100), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(138, 102), QColor(Qt::cyan)); // the head ends at 150
+        QCOMPARE(picture.pixelColor(148, 105), kPaper);
+        QCOMPARE(picture.pixelColor(53, 104), kPaper); // none at the beginning
+        QCOMPARE(picture.pixelColor(100, 248), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(104, 60), kPaper);
+        QCOMPARE(picture.pixelColor(300, 195), kPaper);
+
+        overlay.clear();
+        m_map->refreshOverlay();
+        QCOMPARE(shown().pixelColor(70, 100), kPaper);
+    }
+
     void boundaryFollowsItsStatus()
     {
         addLayer("layer_name=frame", "BoundaryLayer");
