@@ -45,7 +45,7 @@ void makeLine(const LineToMake& line, DesignPoints& points)
     std::int64_t index = 0;
     for (std::int64_t number = grid.firstPointNumber(); number <= grid.pointEnd;
          number += grid.pointStep) {
-        const GridPlace place =
+        const DesignPlace place =
             line.places.at(static_cast<double>(line.index), static_cast<double>(index++));
         DesignPoint point;
         point.lineNumber = lineNumber;
