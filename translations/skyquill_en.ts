@@ -28,6 +28,17 @@
     </message>
 </context>
 <context>
+    <name>DlgDesignLine</name>
+    <message>
+        <source>注意</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>步长禁止输入0。</source>
+        <translation>A step of 0 is not allowed.</translation>
+    </message>
+</context>
+<context>
     <name>DlgQCParamSet</name>
     <message>
         <source>提示</source>

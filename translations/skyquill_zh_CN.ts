@@ -1324,6 +1324,80 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DesignFaults</name>
+    <message>
+        <source>%1: %2 is too large. At most %3.</source>
+        <translation>%1：%2 太大，最大为 %3。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a number.</source>
+        <translation>%1：“%2”不是数字。</translation>
+    </message>
+    <message>
+        <source>%1: %2 has more than 59 minutes or seconds (dd.mmss).</source>
+        <translation>%1：%2 的分或秒超过 59（dd.mmss）。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a whole number.</source>
+        <translation>%1：“%2”不是整数。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not between %3 and %4.</source>
+        <translation>%1：%2 不在 %3 到 %4 之间。</translation>
+    </message>
+    <message>
+        <source>%1: a step of 0 is not allowed.</source>
+        <translation>%1：步长不能为 0。</translation>
+    </message>
+    <message>
+        <source>%1: with a step of %2 the numbers from %3 never reach %4.</source>
+        <translation>%1：步长为 %2 时，从 %3 开始永远到不了 %4。</translation>
+    </message>
+    <message>
+        <source>%1: there is no value.</source>
+        <translation>%1：没有填写。</translation>
+    </message>
+    <message>
+        <source>%1: the grid would have %2 lines x %3 points. At most %4 points in all.</source>
+        <translation>%1：网格将有 %2 条线 × %3 个点，总点数最多 %4。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is below the first number, %3. No points.</source>
+        <translation>%1：%2 小于起始号 %3，没有点。</translation>
+    </message>
+</context>
+<context>
+    <name>DesignGenerator</name>
+    <message>
+        <source>Design R-Design Data</source>
+        <translation>正在生成接收点</translation>
+    </message>
+    <message>
+        <source>Design S-Design Data</source>
+        <translation>正在生成激发点</translation>
+    </message>
+    <message>
+        <source>%1 design points generated</source>
+        <translation>已生成 %1 个设计点</translation>
+    </message>
+    <message>
+        <source>%1 design points replaced by %2</source>
+        <translation>%1 个设计点已替换为 %2 个</translation>
+    </message>
+    <message>
+        <source>; %1 receiver points had the numbers of source points and were left out</source>
+        <translation>；%1 个接收点与激发点同号，未生成</translation>
+    </message>
+    <message>
+        <source>The design would have %1 points. At most %2 points in all.</source>
+        <translation>设计将有 %1 个点，最多 %2 个。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for %1 design points.</source>
+        <translation>内存不足，无法容纳 %1 个设计点。</translation>
+    </message>
+</context>
+<context>
     <name>DesignLineControl</name>
     <message>
         <source>Export All</source>
@@ -1458,6 +1532,105 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>not surveyed</source>
         <translation>未测</translation>
+    </message>
+</context>
+<context>
+    <name>DesignText</name>
+    <message>
+        <source>%1 km²</source>
+        <translation>%1 km²</translation>
+    </message>
+    <message>
+        <source>%1 m²</source>
+        <translation>%1 m²</translation>
+    </message>
+    <message>
+        <source>Distance from a line to the next, in %1</source>
+        <translation>相邻两条线的间距，单位 %1</translation>
+    </message>
+    <message>
+        <source>Distance from a point to the next on its line, in %1</source>
+        <translation>线上相邻两点的间距，单位 %1</translation>
+    </message>
+    <message>
+        <source>The lowest number of the survey</source>
+        <translation>测区的最小号</translation>
+    </message>
+    <message>
+        <source>The highest number that may be given</source>
+        <translation>允许的最大号</translation>
+    </message>
+    <message>
+        <source>From a number to the next; the distance does not change with it</source>
+        <translation>相邻两个号之差；间距不随它改变</translation>
+    </message>
+    <message>
+        <source>Digits of a number: 4 writes 10 as 0010. Longer numbers stay whole.</source>
+        <translation>号的位数：4 位时 10 写作 0010。更长的号不截断。</translation>
+    </message>
+    <message>
+        <source>Generation begins with this line, at the start position</source>
+        <translation>从这条线开始生成，位于起始坐标处</translation>
+    </message>
+    <message>
+        <source>Each line begins with this point</source>
+        <translation>每条线从这个点号开始</translation>
+    </message>
+    <message>
+        <source>Position of the first point that is generated, in %1</source>
+        <translation>生成的第一个点的坐标，单位 %1</translation>
+    </message>
+    <message>
+        <source>Direction in which the point numbers grow, clockwise from north</source>
+        <translation>点号增大的方向，从北顺时针计算</translation>
+    </message>
+    <message>
+        <source>The next line lies to the left of that direction, not to the right</source>
+        <translation>下一条线排在该方向的左侧，而不是右侧</translation>
+    </message>
+    <message>
+        <source>%1 lines: %2 to %3</source>
+        <translation>%1 条线：%2 至 %3</translation>
+    </message>
+    <message>
+        <source>%1 points: %2 to %3</source>
+        <translation>%1 个点：%2 至 %3</translation>
+    </message>
+    <message>
+        <source>Points run towards %1, lines follow to the left.</source>
+        <translation>点沿 %1 方向排列，线依次排在左侧。</translation>
+    </message>
+    <message>
+        <source>Points run towards %1, lines follow to the right.</source>
+        <translation>点沿 %1 方向排列，线依次排在右侧。</translation>
+    </message>
+    <message>
+        <source>%1 receiver lines x %2 points = %3; area %4</source>
+        <translation>%1 条接收线 × %2 个点 = %3；面积 %4</translation>
+    </message>
+    <message>
+        <source>%1 source lines x %2 points = %3; area %4</source>
+        <translation>%1 条激发线 × %2 个点 = %3；面积 %4</translation>
+    </message>
+    <message>
+        <source>Bins %1 x %2 %3, along and across the receiver lines</source>
+        <translation>面元 %1 × %2 %3（沿接收线 × 垂直接收线）</translation>
+    </message>
+    <message>
+        <source>The project has no design points that would be replaced.</source>
+        <translation>工程中没有会被替换的设计点。</translation>
+    </message>
+    <message>
+        <source>%1 design points of %2 lines will be replaced, by Calc R and Calc S too. Survey results stay.</source>
+        <translation>%2 条线的 %1 个设计点将被替换，“计算接收线”和“计算激发线”也是如此。测量成果保留不变。</translation>
+    </message>
+    <message>
+        <source>The grids lie %1 km apart.</source>
+        <translation>两个网格相距 %1 km。</translation>
+    </message>
+    <message>
+        <source>Points with the same number in both grids: %1. Of these, OK generates the source points alone.</source>
+        <translation>两个网格中同号的点：%1。对于这些点，“确定”只生成激发点。</translation>
     </message>
 </context>
 <context>
@@ -1606,6 +1779,201 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&amp;Survey Results</source>
         <translation>测量成果(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>DlgDesignLine</name>
+    <message>
+        <source>R-Line Dist:</source>
+        <translation>接收线距：</translation>
+    </message>
+    <message>
+        <source>R-Line Start No.:</source>
+        <translation>接收线起始号：</translation>
+    </message>
+    <message>
+        <source>R-Line End No.:</source>
+        <translation>接收线终止号：</translation>
+    </message>
+    <message>
+        <source>R-Line Step:</source>
+        <translation>接收线号步长：</translation>
+    </message>
+    <message>
+        <source>R-Line Base:</source>
+        <translation>接收线号位数：</translation>
+    </message>
+    <message>
+        <source>R-Point Dist:</source>
+        <translation>接收点距：</translation>
+    </message>
+    <message>
+        <source>R-Point Start No.:</source>
+        <translation>接收点起始号：</translation>
+    </message>
+    <message>
+        <source>R-Point End No.:</source>
+        <translation>接收点终止号：</translation>
+    </message>
+    <message>
+        <source>R-Point Step:</source>
+        <translation>接收点号步长：</translation>
+    </message>
+    <message>
+        <source>R-Point Base:</source>
+        <translation>接收点号位数：</translation>
+    </message>
+    <message>
+        <source>Line Start No.:</source>
+        <translation>起始线号：</translation>
+    </message>
+    <message>
+        <source>Point Start No.:</source>
+        <translation>起始点号：</translation>
+    </message>
+    <message>
+        <source>Start North:</source>
+        <translation>起始北坐标：</translation>
+    </message>
+    <message>
+        <source>Start East:</source>
+        <translation>起始东坐标：</translation>
+    </message>
+    <message>
+        <source>Azimuth:</source>
+        <translation>方位角：</translation>
+    </message>
+    <message>
+        <source>Reverse of receiving line</source>
+        <translation>接收线反向</translation>
+    </message>
+    <message>
+        <source>S-Line Dist:</source>
+        <translation>激发线距：</translation>
+    </message>
+    <message>
+        <source>S-Line Start No.:</source>
+        <translation>激发线起始号：</translation>
+    </message>
+    <message>
+        <source>S-Line End No.:</source>
+        <translation>激发线终止号：</translation>
+    </message>
+    <message>
+        <source>S-Line Step:</source>
+        <translation>激发线号步长：</translation>
+    </message>
+    <message>
+        <source>S-Line Base:</source>
+        <translation>激发线号位数：</translation>
+    </message>
+    <message>
+        <source>S-Point Dist:</source>
+        <translation>激发点距：</translation>
+    </message>
+    <message>
+        <source>S-Point Start No.:</source>
+        <translation>激发点起始号：</translation>
+    </message>
+    <message>
+        <source>S-Point End No.:</source>
+        <translation>激发点终止号：</translation>
+    </message>
+    <message>
+        <source>S-Point Step:</source>
+        <translation>激发点号步长：</translation>
+    </message>
+    <message>
+        <source>S-Point Base:</source>
+        <translation>激发点号位数：</translation>
+    </message>
+    <message>
+        <source>Excitation line reversal</source>
+        <translation>激发线反向</translation>
+    </message>
+    <message>
+        <source>Receive Line</source>
+        <translation>接收线</translation>
+    </message>
+    <message>
+        <source>Send Line</source>
+        <translation>激发线</translation>
+    </message>
+    <message>
+        <source>Design Line Dialog</source>
+        <translation>测线设计</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>Line Type:</source>
+        <translation>测线类型：</translation>
+    </message>
+    <message>
+        <source>Show on Map</source>
+        <translation>在地图上显示</translation>
+    </message>
+    <message>
+        <source>Zoom the map to the grid of the line type above</source>
+        <translation>将地图缩放到上方测线类型的网格</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Replace the whole design by both grids</source>
+        <translation>用两个网格替换全部设计</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Keep the parameters; the design stays as it is</source>
+        <translation>只保留参数，设计不变</translation>
+    </message>
+    <message>
+        <source>Calc R</source>
+        <translation>计算接收线</translation>
+    </message>
+    <message>
+        <source>Replace the whole design, source points too, by the receiver grid</source>
+        <translation>用接收点网格替换全部设计，包括激发点</translation>
+    </message>
+    <message>
+        <source>Calc S</source>
+        <translation>计算激发线</translation>
+    </message>
+    <message>
+        <source>Replace the whole design, receiver points too, by the source grid</source>
+        <translation>用激发点网格替换全部设计，包括接收点</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Change nothing</source>
+        <translation>什么也不改变</translation>
+    </message>
+    <message>
+        <source>The start is the position of point %1.</source>
+        <translation>起点取点 %1 的坐标。</translation>
+    </message>
+    <message>
+        <source>Both places are the same. The azimuth stays as it was.</source>
+        <translation>两处位置相同，方位角保持不变。</translation>
+    </message>
+    <message>
+        <source>注意</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>步长禁止输入0。</source>
+        <translation>步长禁止输入0。</translation>
     </message>
 </context>
 <context>
@@ -2214,6 +2582,48 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Go to the menus</source>
         <translation>进入菜单</translation>
+    </message>
+</context>
+<context>
+    <name>GridForm</name>
+    <message>
+        <source>R-Line</source>
+        <translation>接收线</translation>
+    </message>
+    <message>
+        <source>R-Point</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>S-Line</source>
+        <translation>激发线</translation>
+    </message>
+    <message>
+        <source>S-Point</source>
+        <translation>激发点</translation>
+    </message>
+</context>
+<context>
+    <name>GridStart</name>
+    <message>
+        <source>Pick Start on Map</source>
+        <translation>在地图上选取起点</translation>
+    </message>
+    <message>
+        <source>Take the start position from a click on the map, or from the design point there</source>
+        <translation>取地图上单击处的坐标，或该处设计点的坐标</translation>
+    </message>
+    <message>
+        <source>Pick Azimuth on Map</source>
+        <translation>在地图上选取方位角</translation>
+    </message>
+    <message>
+        <source>Take the azimuth from two clicks on the map, or from the design points there</source>
+        <translation>由地图上单击的两处或该处的设计点求方位角</translation>
+    </message>
+    <message>
+        <source>How the azimuth is typed: decimal degrees, or degrees with two digits of minutes and seconds</source>
+        <translation>方位角的键入方式：十进制度，或度加两位分和秒</translation>
     </message>
 </context>
 <context>
