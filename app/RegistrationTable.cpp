@@ -76,7 +76,7 @@ using namespace desktop::registration;
     command<AboutCommand>               ("AboutCommand",                 "关于"),
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
     command<CountAzimuthCommand>        ("CountAzimuthCommand",          "方位角计算"),
-    command<DesignSurveyLineCommand>    ("DesignSurveyLineCommand",      "测线设计"),
+    command<DesignSurveyLineCommand>    ("DesignSurveyLineCommand",      "设计测线"),
     command<ExportDesignCommand>        ("ExportDesignCommand",          "导出设计数据"),
     command<ExportSurveyCommand>        ("ExportSurveyCommand",          "导出测量数据"),
     command<ExportReportCommand>        ("ExportReportCommand",          "导出报告"),

@@ -27,7 +27,7 @@ constexpr const char* kComponents =
     " SeletePointReactor 属性查看\n"
     "ICommandExecuterx: AboutCommand 关于, CloseProjectCommand 关闭工程,"
     " CoordFormatCommand 坐标格式, CountAzimuthCommand 方位角计算, DataInspectionCommand 数据检查, "
-    "DemoSurveyCommand 示例工程, DesignSurveyLineCommand 测线设计,"
+    "DemoSurveyCommand 示例工程, DesignSurveyLineCommand 设计测线,"
     " DrawBoundaryCommand 绘制边界, DrawExcitationCommand 绘制激发线,"
     " DrawReceiverCommand 绘制接收线, EmptyPointCheckCommand 空点检查, ExitCommand 退出,"
     " ExportDesignCommand 导出设计数据, ExportReportCommand 导出报告,"
