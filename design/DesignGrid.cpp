@@ -137,6 +137,20 @@ std::optional<GridOutline> GridOutline::of(const DesignGrid& grid)
                        line * lengthOf(places.lineShift()) * point * lengthOf(places.pointShift())};
 }
 
+void appendDesignNumber(std::string& text, std::int64_t number, int digits)
+{
+    std::array<char, 24> written{};
+    const char* const end =
+        std::to_chars(written.data(), written.data() + written.size(), number).ptr;
+    const auto length = static_cast<std::size_t>(end - written.data());
+    const std::size_t sign = number < 0 ? 1 : 0;
+    const auto wanted = static_cast<std::size_t>(std::max(digits, 0));
+    text.append(written.data(), sign);
+    if (wanted > length)
+        text.append(wanted - length, '0');
+    text.append(written.data() + sign, length - sign);
+}
+
 std::string storedText(const DesignParameter& parameter, const QString& text)
 {
     switch (parameter.value) {

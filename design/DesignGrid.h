@@ -75,6 +75,10 @@ struct GridOutline
     [[nodiscard]] static std::optional<GridOutline> of(const DesignGrid& grid);
 };
 
+/// Appends a number of a line or point with zeros before it, which follow its sign, up to so many
+/// characters. A longer number is not cut.
+void appendDesignNumber(std::string& text, std::int64_t number, int digits);
+
 /// A value without fault as the design parameters keep it: all digits, never an exponent; an
 /// azimuth with 9 decimals. \param text as `faultOf` reads it; an azimuth is dd.mmss
 [[nodiscard]] std::string storedText(const DesignParameter& parameter, const QString& text);

@@ -60,7 +60,9 @@ QString area(double gridArea)
 /// A number with zeros before it, as `generate` writes it.
 QString padded(std::int64_t number, int digits)
 {
-    return QString::number(number).rightJustified(digits, QLatin1Char('0'));
+    std::string text;
+    appendDesignNumber(text, number, digits);
+    return lum::toQString(text);
 }
 
 /// An azimuth, folded into a circle, as 45°30'00.00".
@@ -69,7 +71,9 @@ QString angle(double dms)
     double degrees = std::fmod(convetFromAngle(dms), 360);
     if (degrees < 0)
         degrees += 360;
-    const QString text = lum::toQString(lum::angleText(degrees, 4 + kSecondDigits));
+    QString text = lum::toQString(lum::angleText(degrees, 4 + kSecondDigits));
+    if (text.startsWith(QLatin1String("360"))) // rounded up
+        text.remove(0, 2);
     const int point = text.indexOf(QLatin1Char('.'));
     return QStringLiteral("%1°%2'%3.%4\"")
         .arg(text.left(point), text.mid(point + 1, 2), text.mid(point + 3, 2), text.mid(point + 5));
