@@ -54,6 +54,8 @@ private:
     class Blocks;
 
     void noteFault(const QString& reason);
+    /// Opens the file a second time when that was not tried yet.
+    [[nodiscard]] bool hasHelper();
 
     QString m_path;
     RasterInfo m_info;
@@ -62,6 +64,8 @@ private:
 
     // only for `paint`
     std::unique_ptr<RasterSource> m_source;
+    std::unique_ptr<RasterSource> m_helper; ///< a second handle, for a second thread
+    bool m_isHelperTried = false;
     std::unique_ptr<RasterPlace> m_place;
 
     mutable QMutex m_faultMutex;
