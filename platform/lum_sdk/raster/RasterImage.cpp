@@ -125,13 +125,13 @@ RasterImage::~RasterImage()
 
 QString RasterImage::fault() const
 {
-    const QMutexLocker lock(&m_faultMutex);
+    const QMutexLocker lock(&m_mutex);
     return m_fault;
 }
 
 void RasterImage::noteFault(const QString& reason)
 {
-    const QMutexLocker lock(&m_faultMutex);
+    const QMutexLocker lock(&m_mutex);
     if (m_fault.isEmpty())
         m_fault = QCoreApplication::translate("Raster", "Parts of \"%1\" cannot be read: %2")
                       .arg(QFileInfo(m_path).fileName(), reason);
@@ -151,7 +151,12 @@ bool RasterImage::hasHelper()
 
 QRectF RasterImage::extent(const IDictionary& system) const
 {
-    return m_isUsable ? RasterPlace(m_info, system).extent() : QRectF();
+    const QMutexLocker lock(&m_mutex);
+    if (m_isUsable && !(m_extentSystem && dictionary_same(*m_extentSystem, system))) {
+        m_extent = RasterPlace(m_info, system).extent();
+        m_extentSystem.emplace(system);
+    }
+    return m_extent;
 }
 
 bool RasterImage::paint(const RasterView& view, QPainter& painter, double opacity)

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace lum {
 
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] const RasterInfo& info() const { return m_info; }
 
     /// The rectangle around the image, in map coordinates of a project with this coordinate system;
-    /// null when it lies nowhere there. Takes up to some 50 ms.
+    /// null when it lies nowhere there. The first call for a system takes up to some 50 ms.
     [[nodiscard]] QRectF extent(const IDictionary& system) const;
 
     /// \param opacity  0 to 1
@@ -68,8 +69,10 @@ private:
     bool m_isHelperTried = false;
     std::unique_ptr<RasterPlace> m_place;
 
-    mutable QMutex m_faultMutex;
+    mutable QMutex m_mutex; // guards the members below
     QString m_fault;
+    mutable std::optional<basalt::Dictionary> m_extentSystem; ///< the system that `m_extent` is for
+    mutable QRectF m_extent;
 };
 
 } // namespace lum

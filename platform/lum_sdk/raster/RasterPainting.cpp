@@ -22,7 +22,8 @@ constexpr double kSinglePixels = 0.5; // level pixels to a device pixel, from wh
 // A square that needs more of the coarsest level than this is left out: the raster is too fine for
 // what can be seen of it, and nothing coarser is there.
 constexpr int kMostPatch = 1024;
-constexpr int kMargin = 2; // pixels around a patch, for mixing and for rounding
+constexpr std::size_t kLeastForTwo = 32; // pieces, for which a second thread is started
+constexpr int kMargin = 2;               // pixels around a patch, for mixing and for rounding
 
 /// What a square of the picture is made from.
 struct Piece
@@ -131,7 +132,7 @@ public:
     bool draw(QPainter& painter)
     {
         std::atomic<std::size_t> next = 0;
-        onTwoThreads([&](int /*thread*/) {
+        const auto drawPieces = [&](int /*thread*/) {
             RasterPatch patch;
             QImage picture;
             for (std::size_t i = next++; i < m_pieces.size(); i = next++) {
@@ -139,7 +140,11 @@ public:
                     return;
                 drawPiece(m_pieces[i], patch, picture, painter);
             }
-        });
+        };
+        if (m_pieces.size() >= kLeastForTwo)
+            onTwoThreads(drawPieces);
+        else
+            drawPieces(0);
         return !m_view.isCancelled();
     }
 

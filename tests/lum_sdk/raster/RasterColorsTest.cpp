@@ -136,7 +136,7 @@ TEST(RasterColors, AlphaLetsTheGroundThrough)
             return 200;
         return column < 20 ? 0 : column < 40 ? 128 : 255;
     };
-    made.options = {"ALPHA=YES"};
+    made.options = {"ALPHA=YES", "PHOTOMETRIC=RGB"};
     QImage picture = shown(made);
     EXPECT_EQ(picture.pixel(5, 5), kPaper);
     EXPECT_NEAR(qGreen(picture.pixel(30, 5)), 100, 2); // half of 200 and half of 0
