@@ -19,6 +19,7 @@ namespace {
 // A level with up to so many device pixels to one of its own still looks sharp.
 constexpr double kMostEnlarged = 1.2;
 constexpr double kSinglePixels = 0.5; // level pixels to a device pixel, from which on they are seen
+constexpr double kNearlyOne = 0.02;   // so close to one to one, mixing would only blur
 // A square that needs more of the coarsest level than this is left out: the raster is too fine for
 // what can be seen of it, and nothing coarser is there.
 constexpr int kMostPatch = 1024;
@@ -65,6 +66,13 @@ bool isCopy(const MappedCell& cell)
            isNear(cell.corners[3], corner + size);
 }
 
+/// The pixel of the level that is copied to the upper left of a square.
+QPoint firstOf(const MappedCell& cell)
+{
+    return {static_cast<int>(std::floor(cell.corners[0].x() + 0.5)),
+            static_cast<int>(std::floor(cell.corners[0].y() + 0.5))};
+}
+
 Piece pieceOf(const RasterInfo& info, const MappedCell& cell)
 {
     Piece piece{cell, levelFor(info, cell.step), {}};
@@ -75,11 +83,14 @@ Piece pieceOf(const RasterInfo& info, const MappedCell& cell)
         corner = {corner.x() * scaleX, corner.y() * scaleY};
     piece.cell.step *= std::sqrt(scaleX * scaleY);
     piece.isCopy = isCopy(piece.cell);
-    if (piece.cell.step > kSinglePixels && !piece.isCopy)
+    const double step = piece.cell.step;
+    if (step > kSinglePixels && std::abs(step - 1) > kNearlyOne)
         piece.sampling = RasterPatch::Sampling::Bilinear;
-    const QRectF all(QPointF(-kMargin, -kMargin), QSizeF(size) + QSizeF(2 * kMargin, 2 * kMargin));
-    piece.patch = (piece.cell.footprint().adjusted(-kMargin, -kMargin, kMargin, kMargin) & all)
-                      .toAlignedRect();
+    const int margin = piece.isCopy ? 0 : kMargin;
+    const QRectF all(QPointF(-margin, -margin), QSizeF(size) + QSizeF(2 * margin, 2 * margin));
+    const QRectF wanted = piece.isCopy ? QRectF(QRect(firstOf(piece.cell), cell.area.size()))
+                                       : piece.cell.footprint();
+    piece.patch = (wanted.adjusted(-margin, -margin, margin, margin) & all).toAlignedRect();
     return piece;
 }
 
@@ -216,9 +227,7 @@ private:
 
     void copyBlocks(const Piece& piece, QPainter& painter) const
     {
-        const QPointF corner = piece.cell.corners[0];
-        const QPoint first(static_cast<int>(std::floor(corner.x() + 0.5)),
-                           static_cast<int>(std::floor(corner.y() + 0.5)));
+        const QPoint first = firstOf(piece.cell);
         const QRect wanted(first, piece.cell.area.size());
         forEachBlock(m_info.levels[piece.level], piece.level, wanted,
                      [&](const RasterBlockId& id, const QRect& place) {

@@ -30,9 +30,8 @@ public:
     virtual void want(const std::vector<RasterBlockId>& /*ids*/) {}
 
     /// A block that the picture needs. Asked once for each, in the order of `want`, until the view
-    /// is cancelled. \returns null when it is not there yet. A block that will never come is not
-    /// null but
-    ///          transparent.
+    /// is cancelled.
+    /// \returns null when it is not there yet; a block that will never come is transparent instead
     [[nodiscard]] virtual QImage block(const RasterBlockId& id) = 0;
 
     /// A coarser block to show instead of a missing one, only when it costs next to nothing. Asked
@@ -49,9 +48,10 @@ enum class RasterPainted
 };
 
 /// Paints a raster, one square of `mapScreen` after the other. Each takes the level that has about
-/// a pixel for each device pixel. Bilinear between pixels, except where they are copied one to one
-/// or are shown at twice their size and more: there single pixels are seen. \param painter  in
-/// screen pixels, as a layer gets it \param opacity  0 to 1
+/// a pixel for each device pixel. Pixels are mixed bilinearly, except where they fall one to one,
+/// and from twice their size on, where single pixels are seen.
+/// \param painter  in screen pixels, as a layer gets it
+/// \param opacity  0 to 1
 RasterPainted paintRaster(const RasterView& view, const RasterPlace& place, IRasterBlocks& blocks,
                           QPainter& painter, double opacity = 1);
 

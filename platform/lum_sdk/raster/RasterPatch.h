@@ -39,9 +39,10 @@ public:
         Bilinear,
     };
 
-    /// Fills an image: `corners` are the places of its corners (upper left, upper right, lower
-    /// left, lower right) in pixels of the level, joined bilinearly. What lies beyond the level
-    /// becomes transparent. \returns whether all of it was filled
+    /// Fills an image. What lies beyond the level becomes transparent.
+    /// \param corners  the places of the image's corners in pixels of the level, joined bilinearly:
+    ///        upper left, upper right, lower left, lower right
+    /// \returns whether all of it was filled
     bool sample(const std::array<QPointF, 4>& corners, Sampling sampling, QImage& image) const;
 
 private:

@@ -41,8 +41,8 @@ double stepOf(const Nine& points, int side)
     return std::sqrt(doubleArea / 2) / side;
 }
 
-/// The same where the figure is torn or has holes: from the two neighbours that lie closest
-/// together. \returns `fallback` when there are none
+/// The same where the figure is torn or has holes: from the two closest neighbours.
+/// \returns `fallback` when there are none
 double stepOfPart(const Nine& points, int side, double fallback)
 {
     double least = std::numeric_limits<double>::infinity();
