@@ -2066,6 +2066,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgItemProperties</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>%1 的属性</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>DlgNewProject</name>
     <message>
         <source>New Project</source>
@@ -2074,6 +2085,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The project will be in &quot;%1&quot;.</source>
         <translation>工程将保存在“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DlgOverviews</name>
+    <message>
+        <source>Building Overviews</source>
+        <translation>正在建立金字塔</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Images waiting: %1</source>
+        <translation>等待中的图像：%1</translation>
     </message>
 </context>
 <context>
@@ -2894,6 +2920,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>LayerWindow</name>
+    <message>
+        <source>&amp;Opacity</source>
+        <translation>不透明度(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Item</source>
+        <translation>缩放到此项(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Move Item &amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move Item &amp;Down</source>
+        <translation>下移(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Item</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Item &amp;Properties</source>
+        <translation>属性(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was removed from the map. Its file stays as it is.</source>
+        <translation>已从地图上移除“%1”，其文件保持不变。</translation>
+    </message>
+</context>
+<context>
     <name>LineTree</name>
     <message>
         <source>Search</source>
@@ -2961,6 +3018,149 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Open Project</source>
         <translation>打开工程</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayTexts</name>
+    <message>
+        <source>Large images without overviews, which take long to show as a whole: %1.</source>
+        <translation>下列大图像没有金字塔，整幅显示会很慢：%1。</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>%1 x %2 %3 a pixel</source>
+        <translation>每像素 %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source> (no data: %1)</source>
+        <translation>（无数据值：%1）</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>outside the coordinate system of the project</source>
+        <translation>在工程坐标系的范围之外</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Choose Overlay Images</source>
+        <translation>选择叠加图像</translation>
+    </message>
+    <message>
+        <source>georeferenced images</source>
+        <translation>带地理坐标的图像</translation>
+    </message>
+    <message>
+        <source>all files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>&amp;Build Overviews</source>
+        <translation>建立金字塔(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Find Its File...</source>
+        <translation>重新指定文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>An overlay image is shown with the survey of a project: open or create a project first.</source>
+        <translation>叠加图像与工程的测量数据一起显示：请先打开或新建工程。</translation>
+    </message>
+    <message>
+        <source>Overlay images added: %1.</source>
+        <translation>已添加叠加图像：%1 幅。</translation>
+    </message>
+    <message>
+        <source>Beside the survey: a double click in the window &quot;Layers&quot; goes there.</source>
+        <translation>图像不在测区内：在“图层”窗口中双击即可前往。</translation>
+    </message>
+    <message>
+        <source>Images that cannot be shown: %1.</source>
+        <translation>无法显示的图像：%1 幅。</translation>
+    </message>
+    <message>
+        <source>Overlay image: %1</source>
+        <translation>叠加图像：%1</translation>
+    </message>
+    <message>
+        <source>Overlay images with a fault: %1. The window &quot;Layers&quot; marks them.</source>
+        <translation>有问题的叠加图像：%1 幅，已在“图层”窗口中标出。</translation>
+    </message>
+    <message>
+        <source>Build the overviews now, in files beside the images? You can go on working meanwhile.</source>
+        <translation>现在建立金字塔吗？金字塔文件写在图像旁边，期间可以继续工作。</translation>
+    </message>
+    <message>
+        <source>They cannot be built, since the folder cannot be written.</source>
+        <translation>文件夹不可写，无法建立金字塔。</translation>
+    </message>
+    <message>
+        <source>The overviews were not built.</source>
+        <translation>金字塔未建立。</translation>
+    </message>
+    <message>
+        <source>The overviews of &quot;%1&quot; are built.</source>
+        <translation>“%1”的金字塔已建立。</translation>
+    </message>
+    <message>
+        <source>Cancelled: &quot;%1&quot; stays without overviews.</source>
+        <translation>已取消：“%1”仍没有金字塔。</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 像素</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>none; taken for that of the project</source>
+        <translation>无；按工程坐标系处理</translation>
+    </message>
+    <message>
+        <source>Place in the project</source>
+        <translation>在工程中的位置</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>波段</translation>
+    </message>
+    <message>
+        <source>Overviews</source>
+        <translation>金字塔</translation>
     </message>
 </context>
 <context>
@@ -4151,6 +4351,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>not enough memory for its pixels</source>
         <translation>内存不足，无法存放其像素</translation>
+    </message>
+    <message>
+        <source>The overviews of &quot;%1&quot; cannot be built: %2</source>
+        <translation>无法建立“%1”的金字塔：%2</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written.</source>
+        <translation>文件夹“%1”不可写。</translation>
     </message>
 </context>
 <context>
