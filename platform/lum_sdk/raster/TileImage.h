@@ -1,0 +1,64 @@
+#pragma once
+
+#include "lum_sdk/raster/BaseMap.h"
+
+#include <QRectF>
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <thread>
+
+class QPainter;
+
+namespace lum {
+
+struct RasterView;
+struct TileFetch;
+
+/// A base map on the map. Its tiles are fetched by at most two threads of its own, those nearest to
+/// the centre of the view first; those that an older view wanted and the present one does not are
+/// dropped. A tile that cannot be had is tried again after 5, 30 and then each 120 seconds, and a
+/// service that fails altogether is left alone for as long.
+///
+/// Neither `paint` nor the destructor ever waits for a service. Until the first `paint` nothing is
+/// fetched.
+class TileImage
+{
+public:
+    /// `changed` tells that tiles have arrived or that `trouble` is another: paint again. It is
+    /// called on a thread of this object, at most ten times a second and never after the
+    /// destructor; it must not wait for the thread that owns this object, but may queue a call to
+    /// it.
+    TileImage(const BaseMap& map, const TileFetching& fetching, std::function<void()> changed = {});
+    ~TileImage();
+    TileImage(const TileImage&) = delete;
+    TileImage& operator=(const TileImage&) = delete;
+
+    [[nodiscard]] const BaseMap& map() const;
+
+    /// Paints what is there, a coarser version where the right one is missing, and asks for what is
+    /// missing. A view that shows the whole world in thousands of tiles asks for nothing. One
+    /// thread at a time. \returns false when the view's deadline came first: paint again
+    bool paint(const RasterView& view, QPainter& painter, double opacity);
+
+    /// Forgets what the last view asked for: nothing more is fetched until the next `paint`.
+    void rest();
+
+    /// What keeps tiles away, as a sentence for the user; empty while all goes well. It stays the
+    /// same for all tiles of one kind of trouble, and until all that is wanted has arrived.
+    [[nodiscard]] QString trouble() const;
+
+    /// Whether nothing of the last view is still to come; what failed is not waited for.
+    [[nodiscard]] bool isComplete() const;
+    /// Waits until it is, for pictures that are painted once. \returns false when the time is over
+    bool waitUntilComplete(std::chrono::milliseconds atMost) const;
+
+private:
+    std::shared_ptr<TileFetch>
+        m_fetch; ///< shared with the threads that fetch; they may outlive this
+    std::thread m_teller;
+};
+
+} // namespace lum
