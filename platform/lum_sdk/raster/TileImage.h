@@ -39,9 +39,9 @@ public:
     [[nodiscard]] const BaseMap& map() const;
 
     /// Paints what is there, a coarser version where the right one is missing, and asks for what is
-    /// missing. A view that shows the whole world in thousands of tiles asks for nothing. One
-    /// thread at a time. \returns false when the view's deadline came first: paint again
-    bool paint(const RasterView& view, QPainter& painter, double opacity);
+    /// missing. A view of thousands of tiles, far beyond the least zoom, asks for nothing. For one
+    /// thread at a time; the other functions may run beside it.
+    void paint(const RasterView& view, QPainter& painter, double opacity = 1);
 
     /// Forgets what the last view asked for: nothing more is fetched until the next `paint`.
     void rest();

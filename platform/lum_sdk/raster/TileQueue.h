@@ -1,23 +1,15 @@
 #pragma once
 
+#include "lum_sdk/raster/RasterPainting.h"
+
 #include <chrono>
-#include <compare>
 #include <map>
 #include <optional>
 #include <set>
+#include <tuple>
 #include <vector>
 
 namespace lum {
-
-/// A tile by its place in the pyramid: level 0 is the finest.
-struct TileKey
-{
-    int level = 0;
-    int column = 0;
-    int row = 0;
-
-    friend auto operator<=>(const TileKey&, const TileKey&) = default;
-};
 
 enum class TileAnswer
 {
@@ -36,42 +28,50 @@ public:
     using Time = std::chrono::steady_clock::time_point;
 
     /// Replaces what was wanted; the most wanted first. What is known to be missing is left out.
-    void want(const std::vector<TileKey>& tiles);
+    void want(const std::vector<RasterBlockId>& tiles);
 
     /// The tile to fetch now, which counts as being fetched from now on; none when nothing is due.
-    [[nodiscard]] std::optional<TileKey> take(Time now);
+    [[nodiscard]] std::optional<RasterBlockId> take(Time now);
     /// When `take` can have a tile next, if nothing changes; none when nothing is wanted.
     [[nodiscard]] std::optional<Time> nextDue() const;
 
-    void answer(const TileKey& tile, TileAnswer answer, Time now);
+    void answer(const RasterBlockId& tile, TileAnswer answer, Time now);
 
-    [[nodiscard]] bool isMissing(const TileKey& tile) const { return m_missing.count(tile) > 0; }
+    [[nodiscard]] bool isMissing(const RasterBlockId& tile) const
+    {
+        return m_missing.count(tile) > 0;
+    }
     /// Whether nothing is being fetched that is still wanted, and nothing is due.
     [[nodiscard]] bool isIdle(Time now) const;
-    /// The kind of the last failure while something that is wanted has failed; `Missing` when the
-    /// view had nothing but missing tiles so far; else `Picture`.
-    [[nodiscard]] TileAnswer state() const { return m_state; }
+    /// The kind of the last failure while something that is wanted has failed, or the service is
+    /// left alone; `Missing` when all that was ever asked for is missing; else `Picture`.
+    [[nodiscard]] TileAnswer state() const;
 
 private:
+    struct Order
+    {
+        bool operator()(const RasterBlockId& a, const RasterBlockId& b) const
+        {
+            return std::tie(a.level, a.column, a.row) < std::tie(b.level, b.column, b.row);
+        }
+    };
     struct Failure
     {
         int count = 0;
         Time again;
     };
 
-    void fail(const TileKey& tile, TileAnswer answer, Time now);
-    [[nodiscard]] bool isFetched(const TileKey& tile) const { return m_fetched.count(tile) > 0; }
-    [[nodiscard]] Time dueOf(const TileKey& tile) const;
-    void updateState(TileAnswer answer);
+    void fail(const RasterBlockId& tile, TileAnswer answer, Time now);
+    [[nodiscard]] Time dueOf(const RasterBlockId& tile) const;
 
-    std::vector<TileKey> m_wanted;        ///< without pictures that have come
-    std::set<TileKey> m_fetched;          ///< at this moment
-    std::set<TileKey> m_missing;          ///< for the life of this queue
-    std::map<TileKey, Failure> m_failures;
+    std::vector<RasterBlockId> m_wanted;      ///< without what has come and what is missing
+    std::set<RasterBlockId, Order> m_fetched; ///< at this moment
+    std::set<RasterBlockId, Order> m_missing;
+    std::map<RasterBlockId, Failure, Order> m_failures;
     Failure m_pause; ///< of the service as a whole
     int m_failuresInARow = 0;
     bool m_hadPicture = false;
-    TileAnswer m_state = TileAnswer::Picture;
+    TileAnswer m_lastFailure = TileAnswer::Picture;
 };
 
 } // namespace lum
