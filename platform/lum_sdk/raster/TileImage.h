@@ -1,8 +1,8 @@
 #pragma once
 
 #include "lum_sdk/raster/BaseMap.h"
+#include "lum_sdk/raster/RasterPlace.h"
 
-#include <QRectF>
 #include <QString>
 
 #include <chrono>
@@ -50,14 +50,19 @@ public:
     /// same for all tiles of one kind of trouble, and until all that is wanted has arrived.
     [[nodiscard]] QString trouble() const;
 
-    /// Whether nothing of the last view is still to come; what failed is not waited for.
-    [[nodiscard]] bool isComplete() const;
-    /// Waits until it is, for pictures that are painted once. \returns false when the time is over
-    bool waitUntilComplete(std::chrono::milliseconds atMost) const;
+    /// For a picture that is painted once: fetches all that it needs, and waits for it. What failed
+    /// is not waited for; `trouble` tells of it. No other thread may paint meanwhile.
+    /// \returns false when tiles are missing, because they failed or the time is over
+    bool fetchAll(const RasterView& view, std::chrono::milliseconds atMost);
 
 private:
+    class Blocks;
+
+    void tellNews(const std::function<void()>& changed) const;
+
     std::shared_ptr<TileFetch>
         m_fetch; ///< shared with the threads that fetch; they may outlive this
+    std::unique_ptr<RasterPlace> m_place; ///< of the last view; only for `paint`
     std::thread m_teller;
 };
 

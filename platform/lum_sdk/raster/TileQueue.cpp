@@ -44,8 +44,7 @@ Time TileQueue::dueOf(const RasterBlockId& tile) const
 
 std::optional<RasterBlockId> TileQueue::take(Time now)
 {
-    // A service that has failed is tried with one tile.
-    if (m_pause.count > 0 && !m_fetched.empty())
+    if (isProbing())
         return {};
     for (const RasterBlockId& tile : m_wanted) {
         if (dueOf(tile) <= now && m_fetched.insert(tile).second)
@@ -56,6 +55,8 @@ std::optional<RasterBlockId> TileQueue::take(Time now)
 
 std::optional<Time> TileQueue::nextDue() const
 {
+    if (isProbing())
+        return {};
     std::optional<Time> next;
     for (const RasterBlockId& tile : m_wanted) {
         if (m_fetched.count(tile) == 0)

@@ -32,7 +32,8 @@ public:
 
     /// The tile to fetch now, which counts as being fetched from now on; none when nothing is due.
     [[nodiscard]] std::optional<RasterBlockId> take(Time now);
-    /// When `take` can have a tile next, if nothing changes; none when nothing is wanted.
+    /// When `take` can have a tile next, if there is no answer before; none when only an answer or
+    /// another view can change that.
     [[nodiscard]] std::optional<Time> nextDue() const;
 
     void answer(const RasterBlockId& tile, TileAnswer answer, Time now);
@@ -41,7 +42,7 @@ public:
     {
         return m_missing.count(tile) > 0;
     }
-    /// Whether nothing is being fetched that is still wanted, and nothing is due.
+    /// Whether nothing that is wanted is being fetched, and nothing is due.
     [[nodiscard]] bool isIdle(Time now) const;
     /// The kind of the last failure while something that is wanted has failed, or the service is
     /// left alone; `Missing` when all that was ever asked for is missing; else `Picture`.
@@ -61,6 +62,8 @@ private:
         Time again;
     };
 
+    /// A service that has failed is tried with one tile; whether that is under way.
+    [[nodiscard]] bool isProbing() const { return m_pause.count > 0 && !m_fetched.empty(); }
     void fail(const RasterBlockId& tile, TileAnswer answer, Time now);
     [[nodiscard]] Time dueOf(const RasterBlockId& tile) const;
 
