@@ -13,7 +13,7 @@ const RasterBlockId kA{3, 0, 0};
 const RasterBlockId kB{3, 1, 0};
 const RasterBlockId kC{3, 2, 0};
 
-struct Queue : testing::Test
+struct TileQueueTest : testing::Test
 {
     TileQueue queue;
     TileQueue::Time now{seconds(1000)};
@@ -39,7 +39,7 @@ struct Queue : testing::Test
 
 } // namespace
 
-TEST_F(Queue, GivesTheMostWantedFirstAndNoneTwice)
+TEST_F(TileQueueTest, GivesTheMostWantedFirstAndNoneTwice)
 {
     queue.want({kB, kA});
     EXPECT_EQ(queue.take(now), kB);
@@ -55,14 +55,14 @@ TEST_F(Queue, GivesTheMostWantedFirstAndNoneTwice)
     EXPECT_EQ(queue.nextDue(), std::nullopt);
 }
 
-TEST_F(Queue, TriesABrokenTileAgainAfter5And30AndEach120Seconds)
+TEST_F(TileQueueTest, TriesABrokenTileAgainAfter5And30AndEach120Seconds)
 {
     queue.want({kA});
     EXPECT_EQ(triesOf(TileAnswer::Broken, 300), (std::vector{0, 5, 35, 155, 275}));
     EXPECT_EQ(queue.state(), TileAnswer::Broken);
 }
 
-TEST_F(Queue, OneBrokenTileKeepsNoOtherBack)
+TEST_F(TileQueueTest, OneBrokenTileKeepsNoOtherBack)
 {
     queue.want({kA, kB, kC});
     queue.answer(*queue.take(now), TileAnswer::Broken, now);
@@ -75,7 +75,7 @@ TEST_F(Queue, OneBrokenTileKeepsNoOtherBack)
     EXPECT_EQ(queue.state(), TileAnswer::Picture) << "nobody looks at it";
 }
 
-TEST_F(Queue, LeavesAServiceAloneThatRefusesOrDoesNotAnswer)
+TEST_F(TileQueueTest, LeavesAServiceAloneThatRefusesOrDoesNotAnswer)
 {
     for (const TileAnswer answer : {TileAnswer::Refused, TileAnswer::Unreachable}) {
         queue = {};
@@ -91,7 +91,7 @@ TEST_F(Queue, LeavesAServiceAloneThatRefusesOrDoesNotAnswer)
     }
 }
 
-TEST_F(Queue, TriesASuspectedServiceWithOneTileAndGoesOnWhenItAnswers)
+TEST_F(TileQueueTest, TriesASuspectedServiceWithOneTileAndGoesOnWhenItAnswers)
 {
     queue.want({kA, kB, kC});
     queue.answer(*queue.take(now), TileAnswer::Unreachable, now);
@@ -105,7 +105,7 @@ TEST_F(Queue, TriesASuspectedServiceWithOneTileAndGoesOnWhenItAnswers)
     EXPECT_EQ(queue.state(), TileAnswer::Picture);
 }
 
-TEST_F(Queue, ManyBrokenTilesAreABrokenService)
+TEST_F(TileQueueTest, ManyBrokenTilesAreABrokenService)
 {
     std::vector<RasterBlockId> tiles;
     for (int column = 0; column < 100; ++column)
@@ -116,7 +116,7 @@ TEST_F(Queue, ManyBrokenTilesAreABrokenService)
     EXPECT_LT(tries.size(), 8U) << "an office must not hammer a service that is down";
 }
 
-TEST_F(Queue, AMissingTileIsNeverAskedForAgain)
+TEST_F(TileQueueTest, AMissingTileIsNeverAskedForAgain)
 {
     queue.want({kA, kB});
     queue.answer(*queue.take(now), TileAnswer::Missing, now);
