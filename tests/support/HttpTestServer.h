@@ -57,7 +57,7 @@ public:
     /// In the order in which they came.
     [[nodiscard]] std::vector<Request> requests() const;
     [[nodiscard]] std::vector<std::string> paths() const;
-    /// How many connections were open at the same time, at most.
+    /// How many connections waited for an answer at the same time, at most.
     [[nodiscard]] int mostConnections() const { return m_mostOpen; }
 
     static constexpr int kTileSize = 256;
