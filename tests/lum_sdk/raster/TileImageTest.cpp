@@ -298,7 +298,7 @@ TEST_F(TileImageTest, ABadTileLeavesOneHoleAndComesLater)
 
 TEST_F(TileImageTest, AnOlderViewIsDroppedAndNobodyWaitsForSlowTiles)
 {
-    server.behave(Behaviour::AnswersIn3s);
+    server.waitBeforeAnswers(seconds(3));
     lum::TileImage image(map, fetching);
     const auto start = Clock::now();
     EXPECT_TRUE(comesTrue([&] {
