@@ -51,29 +51,19 @@ public:
 
     void want(const std::vector<RasterBlockId>& ids) override
     {
-        std::vector<RasterBlockId> missing;
-        for (const RasterBlockId& id : ids) {
-            if (find(id).isNull())
-                missing.push_back(id);
-        }
-        if (ids.size() > kMostTiles)
-            missing.clear();
+        std::vector<RasterBlockId> wanted;
         {
             const std::lock_guard lock(m_fetch.mutex);
-            m_fetch.queue.want(missing);
+            for (const RasterBlockId& id : ids)
+                addUnlessThere(id, wanted);
+            if (ids.size() > kMostTiles)
+                wanted.clear();
+            m_fetch.queue.want(wanted);
         }
         m_fetch.changed.notify_all();
     }
 
-    QImage block(const RasterBlockId& id) override
-    {
-        const QImage found = find(id);
-        if (!found.isNull())
-            return found;
-        const std::lock_guard lock(m_fetch.mutex);
-        return m_fetch.queue.isMissing(id) ? empty(id) : QImage();
-    }
-
+    QImage block(const RasterBlockId& id) override { return find(id); }
     QImage substitute(const RasterBlockId& id) override { return find(id); }
 
 private:
@@ -81,12 +71,21 @@ private:
     {
         return RasterBlockCache::instance().find(m_fetch.owner, id);
     }
-    [[nodiscard]] QImage empty(const RasterBlockId& id) const
+
+    /// Where the service has no tile, the next coarser one that it may have shows the place.
+    void addUnlessThere(RasterBlockId id, std::vector<RasterBlockId>& wanted) const
     {
-        QImage image(m_info.levels[id.level].blockArea(id.column, id.row).size(),
-                     QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        return image;
+        while (m_fetch.queue.isMissing(id)) {
+            if (id.level + 1 == m_info.levels.size())
+                return;
+            const QPoint corner =
+                m_info.levels[id.level].blockArea(id.column, id.row).topLeft() / 2;
+            const QSize block = m_info.levels[++id.level].block;
+            id.column = corner.x() / block.width();
+            id.row = corner.y() / block.height();
+        }
+        if (find(id).isNull() && std::find(wanted.begin(), wanted.end(), id) == wanted.end())
+            wanted.push_back(id);
     }
 
     TileFetch& m_fetch;
@@ -190,27 +189,33 @@ QString TileImage::trouble() const
         .arg(name, host);
 }
 
+bool TileImage::hasAnswersSince(int count) const
+{
+    const std::lock_guard lock(m_fetch->mutex);
+    return m_fetch->answers != count;
+}
+
 bool TileImage::fetchAll(const RasterView& view, std::chrono::milliseconds atMost)
 {
     const auto end = Clock::now() + atMost;
     QImage scratch(view.pixels(), QImage::Format_ARGB32_Premultiplied);
     scratch.setDevicePixelRatio(view.pixelRatio);
     QPainter painter(&scratch);
-    bool isOpen = false;
-    do {
+    int before = 0;
+    do { // what has come can tell what else is wanted
         {
             const std::lock_guard lock(m_fetch->mutex);
-            isOpen = m_fetch->info != nullptr;
+            before = m_fetch->answers;
         }
         paint(view, painter);
         std::unique_lock lock(m_fetch->mutex);
         const auto isIdle = [this] { return m_fetch->queue.isIdle(Clock::now()); };
         if (!m_fetch->changed.wait_until(lock, end, isIdle))
             return false;
-        if (m_fetch->queue.state() != TileAnswer::Picture &&
-            m_fetch->queue.state() != TileAnswer::Missing)
+        const TileAnswer state = m_fetch->queue.state();
+        if (state != TileAnswer::Picture && state != TileAnswer::Missing)
             return false;
-    } while (!isOpen); // the first paint only opens it
+    } while (hasAnswersSince(before));
     return true;
 }
 

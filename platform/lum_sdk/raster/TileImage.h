@@ -58,6 +58,7 @@ public:
 private:
     class Blocks;
 
+    [[nodiscard]] bool hasAnswersSince(int count) const;
     void tellNews(const std::function<void()>& changed) const;
 
     std::shared_ptr<TileFetch>
