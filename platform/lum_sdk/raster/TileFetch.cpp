@@ -6,13 +6,15 @@
 #include "lum_sdk/raster/TileCache.h"
 #include "lum_sdk/raster/TileThreads.h"
 
-#include <QDir>
+#include <QImage>
 #include <QRegularExpression>
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
 
 #include <chrono>
+#include <exception>
+#include <optional>
 
 namespace lum {
 
@@ -103,7 +105,12 @@ void TileFetcher::run()
 {
     setUpThread();
     while (const std::optional<RasterBlockId> tile = next()) {
-        const Result result = fetch(*tile);
+        Result result;
+        try {
+            result = fetch(*tile);
+        } catch (const std::exception& error) {
+            result = {TileAnswer::Broken, QString::fromUtf8(error.what()), {}};
+        }
         finish(*tile, result);
     }
 }

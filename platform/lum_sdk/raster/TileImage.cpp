@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace lum {
 
@@ -54,10 +55,10 @@ public:
         std::vector<RasterBlockId> wanted;
         {
             const std::lock_guard lock(m_fetch.mutex);
-            for (const RasterBlockId& id : ids)
-                addUnlessThere(id, wanted);
-            if (ids.size() > kMostTiles)
-                wanted.clear();
+            if (ids.size() <= kMostTiles) {
+                for (const RasterBlockId& id : ids)
+                    addUnlessThere(id, wanted);
+            }
             m_fetch.queue.want(wanted);
         }
         m_fetch.changed.notify_all();
@@ -78,11 +79,13 @@ private:
         while (m_fetch.queue.isMissing(id)) {
             if (id.level + 1 == m_info.levels.size())
                 return;
-            const QPoint corner =
-                m_info.levels[id.level].blockArea(id.column, id.row).topLeft() / 2;
-            const QSize block = m_info.levels[++id.level].block;
-            id.column = corner.x() / block.width();
-            id.row = corner.y() / block.height();
+            const RasterLevel& fine = m_info.levels[id.level];
+            const RasterLevel& coarse = m_info.levels[++id.level];
+            const QPointF center = QRectF(fine.blockArea(id.column, id.row)).center();
+            id.column =
+                int(center.x() / fine.size.width() * coarse.size.width()) / coarse.block.width();
+            id.row =
+                int(center.y() / fine.size.height() * coarse.size.height()) / coarse.block.height();
         }
         if (find(id).isNull() && std::find(wanted.begin(), wanted.end(), id) == wanted.end())
             wanted.push_back(id);
@@ -93,7 +96,7 @@ private:
 };
 
 TileImage::TileImage(const BaseMap& map, const TileFetching& fetching,
-                     std::function<void()> changed)
+                     const std::function<void()>& changed)
     : m_fetch(std::make_shared<TileFetch>(map, fetching))
 {
     if (changed)
@@ -135,18 +138,20 @@ void TileImage::tellNews(const std::function<void()>& changed) const
 void TileImage::paint(const RasterView& view, QPainter& painter, double opacity)
 {
     std::shared_ptr<const RasterInfo> info;
-    bool mustStart = false;
+    bool isStarted = false;
     {
         const std::lock_guard lock(m_fetch->mutex);
         info = m_fetch->info;
-        mustStart = !std::exchange(m_fetch->isStarted, true);
-        if (mustStart)
+        isStarted = std::exchange(m_fetch->isStarted, true);
+        if (info == nullptr)
             m_fetch->queue.want({kOpening});
     }
-    if (mustStart)
+    if (!isStarted)
         startFetching(m_fetch);
-    if (info == nullptr)
+    if (info == nullptr) {
+        m_fetch->changed.notify_all();
         return;
+    }
     if (m_place == nullptr || !m_place->isFor(view.system))
         m_place = std::make_unique<RasterPlace>(*info, view.system);
     if (isTooCoarse(view, *m_place)) {
@@ -160,8 +165,7 @@ void TileImage::paint(const RasterView& view, QPainter& painter, double opacity)
 void TileImage::rest()
 {
     const std::lock_guard lock(m_fetch->mutex);
-    if (m_fetch->info != nullptr)
-        m_fetch->queue.want({});
+    m_fetch->queue.want({});
 }
 
 QString TileImage::trouble() const
@@ -183,8 +187,7 @@ QString TileImage::trouble() const
     if (state == TileAnswer::Refused)
         return tr("%2 refuses the tiles of the base map \"%1\" (HTTP status %3); it is tried "
                   "again.")
-            .arg(name, host)
-            .arg(m_fetch->httpStatus);
+            .arg(name, host, QString::number(m_fetch->httpStatus));
     return tr("%2 answers with errors instead of tiles of the base map \"%1\"; it is tried again.")
         .arg(name, host);
 }
