@@ -25,18 +25,18 @@ class IRasterBlocks
 public:
     virtual ~IRasterBlocks() = default;
 
-    /// The blocks that a picture needs, nearest to its centre first, told before any of them is
-    /// asked for. Those wanted for an earlier picture are no longer wanted.
+    /// The blocks that a picture needs, nearest to its centre first. Told once, before any of them
+    /// is asked for; those of an earlier picture are no longer wanted.
     virtual void want(const std::vector<RasterBlockId>& /*ids*/) {}
 
-    /// A block that the picture needs. Called in the order of `want`, once for each, until the view
-    /// is cancelled.
-    /// \returns null when it is not there yet; `painted` then says that something is missing. A
-    /// block
-    ///          that will never come is not null but transparent.
+    /// A block that the picture needs. Asked once for each, in the order of `want`, until the view
+    /// is cancelled. \returns null when it is not there yet. A block that will never come is not
+    /// null but
+    ///          transparent.
     [[nodiscard]] virtual QImage block(const RasterBlockId& id) = 0;
 
-    /// A coarser block to show instead of a missing one, only when it costs next to nothing.
+    /// A coarser block to show instead of a missing one, only when it costs next to nothing. Asked
+    /// by one of two threads at a time.
     [[nodiscard]] virtual QImage substitute(const RasterBlockId& id) = 0;
 };
 

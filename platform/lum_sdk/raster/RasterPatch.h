@@ -4,6 +4,7 @@
 #include <QRect>
 
 #include <array>
+#include <span>
 #include <vector>
 
 namespace lum {
@@ -45,8 +46,9 @@ public:
 
 private:
     void allocate();
-    template <Sampling sampling>
-    bool sampleLines(const std::array<QPointF, 4>& corners, QImage& image) const;
+    /// \param left,right  the places of the line's ends
+    bool sampleLine(const QPointF& left, const QPointF& right, Sampling sampling,
+                    std::span<QRgb> line) const;
 
     QRect m_area;
     QRect m_level;
