@@ -115,8 +115,8 @@ void readWms(const QUrl& url, BaseMapAddress& address)
     QUrlQuery query(url);
     for (const char* perRequest : {"service", "request", "bbox", "width", "height"})
         take(query, perRequest);
-    address.layer = take(query, "layers");
-    address.style = take(query, "styles");
+    address.layer = encoded(take(query, "layers")); // the driver takes them as they are
+    address.style = encoded(take(query, "styles"));
     address.transparent = take(query, "transparent");
     const auto orElse = [](const QString& text, const char* usual) {
         return text.isEmpty() || text.startsWith(QLatin1Char('{')) ? QString::fromLatin1(usual)

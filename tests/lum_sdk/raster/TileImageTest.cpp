@@ -419,6 +419,7 @@ TEST_F(TileImageTest, AsksAServiceForPartsOfTheWorldInTheOrderOfItsSystem)
                         box[2 ^ swap].toDouble() >= wms.east - edge &&
                         box[3 ^ swap].toDouble() >= wms.north - edge;
             EXPECT_TRUE(path.contains("width=256"_q)) << path.toStdString();
+            EXPECT_TRUE(path.contains("layers=%E9%81%93%E8%B7%AF,b&"_q)) << path.toStdString();
         }
         EXPECT_TRUE(isAround) << wms.system;
     }
