@@ -66,7 +66,7 @@ void BM_FetchesAView(benchmark::State& state)
                 return seconds / ideal;
             },
             3);
-        bench::report(state, "a view's tiles, of two connections that never pause", ratio, 1.5);
+        bench::report(state, "a view's tiles, of two connections that never pause", ratio, 2);
     }
 }
 
