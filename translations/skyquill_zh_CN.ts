@@ -77,6 +77,60 @@
     </message>
 </context>
 <context>
+    <name>BaseMap</name>
+    <message>
+        <source>A base map needs a name.</source>
+        <translation>底图需要一个名称。</translation>
+    </message>
+    <message>
+        <source>A base map needs the text that tells whose map it is.</source>
+        <translation>底图需要一段说明地图归属的文字。</translation>
+    </message>
+    <message>
+        <source>Tiles of %1 pixels cannot be shown: 64 to 2048 are possible.</source>
+        <translation>无法显示 %1 像素的瓦片：可用范围为 64 至 2048。</translation>
+    </message>
+    <message>
+        <source>The zoom limits %1 and %2 make no range within 0 to %3.</source>
+        <translation>缩放级别 %1 和 %2 不构成 0 至 %3 之内的范围。</translation>
+    </message>
+    <message>
+        <source>The greatest zoom %1 is too large for tiles of %2 pixels.</source>
+        <translation>对 %2 像素的瓦片，最大缩放级别 %1 过大。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapAddress</name>
+    <message>
+        <source>The address holds &quot;%1&quot;, whose meaning is not known.</source>
+        <translation>地址中含有“%1”，其含义未知。</translation>
+    </message>
+    <message>
+        <source>The address has no &quot;{%1}&quot;: it must say where zoom {z}, column {x} and row {y} of a tile stand.</source>
+        <translation>地址中没有“{%1}”：必须指明瓦片的级别 {z}、列 {x} 和行 {y} 的位置。</translation>
+    </message>
+    <message>
+        <source>The service is asked for the coordinate system &quot;%1&quot;; a base map must be in EPSG:3857 or in a geographic system.</source>
+        <translation>向服务请求的坐标系是“%1”；底图必须采用 EPSG:3857 或地理坐标系。</translation>
+    </message>
+    <message>
+        <source>The address names no layer of the service: &quot;LAYERS=...&quot; is missing.</source>
+        <translation>地址没有指明服务的图层：缺少“LAYERS=...”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a web address nor a file.</source>
+        <translation>“%1”既不是网址，也不是文件。</translation>
+    </message>
+    <message>
+        <source>There is no address.</source>
+        <translation>没有地址。</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>没有文件“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>CheckKinds</name>
     <message>
         <source>Quality Check: %1 of %2 results with faults, %3 in all</source>
@@ -6525,6 +6579,36 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Selected: %1</source>
         <translation>已选：%1</translation>
+    </message>
+</context>
+<context>
+    <name>TileCache</name>
+    <message>
+        <source>%1 tiles in &quot;%2&quot; cannot be removed.</source>
+        <translation>“%2”中有 %1 个瓦片无法删除。</translation>
+    </message>
+</context>
+<context>
+    <name>TileImage</name>
+    <message>
+        <source>The base map &quot;%1&quot; has no tiles here.</source>
+        <translation>底图“%1”在此处没有瓦片。</translation>
+    </message>
+    <message>
+        <source>The base map &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取底图“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The base map &quot;%1&quot; cannot be reached, %2 does not answer; it is tried again.</source>
+        <translation>无法连接底图“%1”，%2 没有应答；将自动重试。</translation>
+    </message>
+    <message>
+        <source>%2 refuses the tiles of the base map &quot;%1&quot; (HTTP status %3); it is tried again.</source>
+        <translation>%2 拒绝提供底图“%1”的瓦片（HTTP 状态 %3）；将自动重试。</translation>
+    </message>
+    <message>
+        <source>%2 answers with errors instead of tiles of the base map &quot;%1&quot;; it is tried again.</source>
+        <translation>%2 返回的是错误，而不是底图“%1”的瓦片；将自动重试。</translation>
     </message>
 </context>
 <context>
