@@ -1,4 +1,5 @@
 #include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapPicture.h"
@@ -134,6 +135,24 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(100, 50), kPaper); // not in the north
         QCOMPARE(picture.pixelColor(300, 250), kPaper);
         QCOMPARE(picture.pixelColor(50, 250), kPaper);
+    }
+
+    void aPictureOfTheGroundGivesTheOthersAHalo()
+    {
+        QColor halo;
+        ProbeLayer::onPaint = [&halo](const PaintTarget& target) { halo = target.halo; };
+        ILayerViewer* const ground = addLayer("layer_name=ground,x=1,y=1");
+        addLayer("layer_name=data,x=2,y=2"); // no picture
+        settledPicture();
+        QVERIFY(!halo.isValid());
+        layerpicture::setShown(ground->GetProperties(), true);
+        m_map->redraw();
+        settledPicture();
+        QCOMPARE(halo, kPaper);
+        ground->GetProperties().set("visible", "0");
+        m_map->redraw();
+        settledPicture();
+        QVERIFY(!halo.isValid());
     }
 
     void lastPictureMovesWithTheViewAtOnce()
