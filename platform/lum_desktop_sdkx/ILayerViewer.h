@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <atomic>
+#include <chrono>
 #include <string>
 
 class QPainter;
@@ -22,11 +23,24 @@ struct PaintTarget
     /// The colour of the map's paper while a layer shows a picture of the ground: texts and lines
     /// get a halo in it, to be readable there. Invalid without a picture.
     QColor halo;
+    basalt::Dictionary system; ///< the project's coordinate system, as it was then; may be empty
+    double pixelRatio = 1;     ///< device pixels to a screen pixel
     const std::atomic<bool>* cancelled = nullptr;
+    std::atomic<bool>* hasRest = nullptr; ///< set by `leaveRest`
+    /// When the time for this picture is over. Only a layer that can leave a rest looks at it.
+    std::chrono::steady_clock::time_point deadline = std::chrono::steady_clock::time_point::max();
 
     /// True when a newer picture was requested. This one is thrown away then, so that the layer
     /// should return.
     [[nodiscard]] bool isCancelled() const { return cancelled != nullptr && cancelled->load(); }
+
+    /// Says that the layer has more to paint than could be done until the deadline. The picture is
+    /// shown as it is, and all layers paint the same view again, with twice the time.
+    void leaveRest() const
+    {
+        if (hasRest != nullptr)
+            *hasRest = true;
+    }
 };
 
 /// A layer of the map. Made with (configuration text, host). The order of the operations is fixed.

@@ -14,7 +14,8 @@ enum class BaseMapKind
 /// A background for the map that a service delivers in tiles, or that lies in a file.
 ///
 /// The address is one of
-/// - a web address with "{z}", "{x}" and "{y}", or "{-y}" when rows are counted from the south; also
+/// - a web address with "{z}", "{x}" and "{y}", or "{-y}" when rows are counted from the south;
+/// also
 ///   with the names of WMTS, "{TileMatrix}", "{TileCol}" and "{TileRow}". "{s}" becomes "a",
 ///   "{switch:a,b,c}" its first choice. Tiles are those of the world in Web Mercator;
 /// - a web address of WMS ("...?SERVICE=WMS&VERSION=1.1.1&LAYERS=...&SRS=EPSG:3857&FORMAT=..."), in
@@ -33,7 +34,7 @@ struct BaseMap
     bool mayKeepTiles = true; ///< whether tiles may be kept on this machine's disk
 };
 
-constexpr int kGreatestZoom = 24;
+constexpr int kGreatestZoom = 22; ///< of tiles of 256 pixels; one less when they are twice as large
 
 /// How tiles are fetched, alike for all base maps of a program.
 struct TileFetching
