@@ -64,19 +64,8 @@ DlgBaseMaps::DlgBaseMaps(IDesktopHost& host)
     rows->addLayout(makeCacheRow());
     rows->addLayout(makeButtons());
 
-    for (std::size_t i = 0; i < m_entries.size(); ++i)
-        addRow(i);
-    connect(m_list, &QTreeWidget::currentItemChanged, this, &DlgBaseMaps::onSelected);
-    connect(m_list, &QTreeWidget::itemPressed, this, [this](QTreeWidgetItem* row) {
-        m_list->setCurrentItem(row, 0); // where the space bar finds the check mark
-    });
-    connect(m_list, &QTreeWidget::itemChanged, this, &DlgBaseMaps::onChecked);
     connect(m_form, &BaseMapForm::edited, this, &DlgBaseMaps::onEdited);
-    const lum::BaseMap* const last = lum::chosenBaseMap();
-    const auto shown = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& entry) {
-        return last != nullptr && entry.map == *last;
-    });
-    select(shown == m_entries.end() ? 0 : static_cast<int>(shown - m_entries.begin()));
+    fillList();
     setMinimumSizeScaled(820, 440);
     rememberSize(QStringLiteral("BaseMaps"));
 }
@@ -89,6 +78,11 @@ QLayout* DlgBaseMaps::makeList()
     m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(false);
+    connect(m_list, &QTreeWidget::currentItemChanged, this, &DlgBaseMaps::onSelected);
+    connect(m_list, &QTreeWidget::itemPressed, this, [this](QTreeWidgetItem* row) {
+        m_list->setCurrentItem(row, 0); // where the space bar finds the check mark
+    });
+    connect(m_list, &QTreeWidget::itemChanged, this, &DlgBaseMaps::onChecked);
     auto* const buttons = new QHBoxLayout;
     addButton(*buttons, tr("&Add"), tr("Add a base map of your own"), &DlgBaseMaps::add);
     m_remove =
@@ -149,10 +143,21 @@ QLayout* DlgBaseMaps::makeButtons()
 
 // --- rows ---
 
-void DlgBaseMaps::addRow(std::size_t index)
+void DlgBaseMaps::fillList()
+{
+    for (const Entry& entry : m_entries)
+        addRow(entry);
+    const lum::BaseMap* const last = lum::chosenBaseMap();
+    const auto shown = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& entry) {
+        return last != nullptr && entry.map == *last;
+    });
+    select(shown == m_entries.end() ? 0 : static_cast<int>(shown - m_entries.begin()));
+}
+
+void DlgBaseMaps::addRow(const Entry& entry)
 {
     const QSignalBlocker quiet(m_list);
-    showRow(*new QTreeWidgetItem(m_list), m_entries[index]);
+    showRow(*new QTreeWidgetItem(m_list), entry);
 }
 
 void DlgBaseMaps::showRow(QTreeWidgetItem& row, const Entry& entry)
@@ -245,7 +250,7 @@ void DlgBaseMaps::add()
     for (int number = 2; isNameTaken(entry.map.name, entry); ++number)
         entry.map.name = tr("New base map %1").arg(number);
     m_entries.push_back(entry);
-    addRow(m_entries.size() - 1);
+    addRow(m_entries.back());
     select(static_cast<int>(m_entries.size()) - 1);
     m_form->goToName();
 }

@@ -35,7 +35,8 @@ private:
     QPushButton* addButton(QLayout& row, const QString& text, const QString& tip,
                            void (DlgBaseMaps::*clicked)());
 
-    void addRow(std::size_t index);
+    void fillList();
+    void addRow(const Entry& entry);
     void showRow(QTreeWidgetItem& row, const Entry& entry);
     void select(int row);
     [[nodiscard]] Entry* current();
