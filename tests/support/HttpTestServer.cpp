@@ -160,14 +160,11 @@ void HttpTestServer::serveConnection(int socket)
         m_requests.push_back({path, headerOf(request, "User-Agent")});
     }
     const Behaviour behaviour = behaviourFor(path);
-    const bool answers = behaviour == Behaviour::Hangs         ? waitOn(socket, 3600'000)
-                         : behaviour == Behaviour::AnswersIn3s ? waitOn(socket, 3000)
-                                                               : behaviour != Behaviour::Closes;
-    if (answers) {
-        const QByteArray answer = answerTo(path, behaviour);
-        ::send(socket, answer.constData(), static_cast<std::size_t>(answer.size()), MSG_NOSIGNAL);
-    }
+    const int waitMs = behaviour == Behaviour::Hangs ? 3600'000 : m_waitMs.load();
+    const bool answers = behaviour != Behaviour::Closes && waitOn(socket, waitMs);
+    const QByteArray answer = answers ? answerTo(path, behaviour) : QByteArray();
     --m_open; // before the client can see the end and come again
+    ::send(socket, answer.constData(), static_cast<std::size_t>(answer.size()), MSG_NOSIGNAL);
     ::close(socket);
 }
 

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <atomic>
+#include <chrono>
 #include <map>
 #include <mutex>
 #include <string>
@@ -28,9 +29,8 @@ public:
         Garbage,         ///< 200, and text that calls itself a picture
         TruncatedPng,    ///< 200, and the first half of a picture, told as the whole
         TruncatedJpeg,
-        Hangs,  ///< takes the request and never answers
-        Closes, ///< takes the request and closes the connection
-        AnswersIn3s
+        Hangs, ///< takes the request and never answers
+        Closes ///< takes the request and closes the connection
     };
 
     struct Request
@@ -51,13 +51,15 @@ public:
     void behave(Behaviour behaviour);
     /// For paths that contain `part`, from now on.
     void behave(const std::string& part, Behaviour behaviour);
+    /// Before each answer, from now on.
+    void waitBeforeAnswers(std::chrono::milliseconds time) { m_waitMs = int(time.count()); }
     /// For paths that contain `part`: this content, with status 200.
     void serve(const std::string& part, const QByteArray& content);
 
     /// In the order in which they came.
     [[nodiscard]] std::vector<Request> requests() const;
     [[nodiscard]] std::vector<std::string> paths() const;
-    /// How many connections were open at the same time, at most.
+    /// How many connections waited for an answer at the same time, at most.
     [[nodiscard]] int mostConnections() const { return m_mostOpen; }
 
     static constexpr int kTileSize = 256;
@@ -77,6 +79,7 @@ private:
     std::atomic<bool> m_isEnded = false;
     std::atomic<int> m_open = 0;
     std::atomic<int> m_mostOpen = 0;
+    std::atomic<int> m_waitMs = 0;
     mutable std::mutex m_mutex; ///< of all below
     Behaviour m_behaviour = Behaviour::Fine;
     std::map<std::string, Behaviour> m_behaviours;

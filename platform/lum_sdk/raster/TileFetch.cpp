@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include <cpl_conv.h>
+#include <cpl_error.h>
 
 #include <chrono>
 
@@ -153,6 +154,7 @@ bool TileFetcher::open(QString& fault)
 TileFetcher::Result TileFetcher::fetch(const RasterBlockId& tile)
 {
     Result result;
+    CPLErrorReset();
     if (open(result.fault)) {
         if (tile == kOpening)
             return result;
@@ -161,6 +163,10 @@ TileFetcher::Result TileFetcher::fetch(const RasterBlockId& tile)
         if (!result.tile.isNull())
             return result;
     }
+    // A driver that looks into its cache first complains of that first, and of the service last.
+    const QString last = QString::fromUtf8(CPLGetLastErrorMsg()).simplified();
+    if (last.contains(QLatin1String("HTTP")))
+        result.fault = last;
     result.answer =
         m_fetch->host.empty() ? TileAnswer::Broken : answerTo(result.fault, m_source == nullptr);
     return result;
