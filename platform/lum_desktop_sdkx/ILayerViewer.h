@@ -34,8 +34,9 @@ struct PaintTarget
     /// should return.
     [[nodiscard]] bool isCancelled() const { return cancelled != nullptr && cancelled->load(); }
 
-    /// Says that the layer has more to paint than could be done until the deadline. The picture is
-    /// shown as it is, and all layers paint the same view again, with twice the time.
+    /// Says that the layer had to stop at the deadline. The picture is shown as it is, and all
+    /// layers paint the same view again, with twice the time. A layer that waits for something
+    /// else, such as tiles of a service, redraws the map when that has come instead.
     void leaveRest() const
     {
         if (hasRest != nullptr)

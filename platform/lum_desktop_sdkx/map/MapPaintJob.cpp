@@ -24,13 +24,13 @@ void logFault(const MapPaintJob& job, std::size_t layer, const std::string& reas
 
 QImage paintPicture(const MapPaintJob& job)
 {
-    const QSize size = job.target.transform.size() * job.pixelRatio;
+    const QSize size = job.target.transform.size() * job.target.pixelRatio;
     QImage picture(size.expandedTo(QSize(1, 1)), QImage::Format_RGB32);
     if (picture.isNull()) {
         basalt::logError("Not enough memory for a picture of the map");
         return picture;
     }
-    picture.setDevicePixelRatio(job.pixelRatio);
+    picture.setDevicePixelRatio(job.target.pixelRatio);
     picture.fill(job.background);
     for (std::size_t i = 0; i < job.layers.size(); ++i) {
         if (job.target.isCancelled())

@@ -8,9 +8,10 @@
 
 #include <memory>
 #include <span>
-#include <vector>
 
 namespace lum {
+
+class RasterWay;
 
 /// Where a raster lies on the map: the way between its pixels and map coordinates, for one
 /// coordinate system of the project.
@@ -44,18 +45,22 @@ public:
     /// The rectangle around the raster, map coordinates; null when it lies nowhere.
     [[nodiscard]] const QRectF& extent() const { return m_extent; }
 
-private:
-    class Way;
+    /// The extent with a margin for sides that are bent.
+    [[nodiscard]] const QRectF& reach() const { return m_reach; }
+    /// Whether every part of the raster has a place on the map, and so lies within `reach`.
+    [[nodiscard]] bool isWhole() const { return m_isWhole; }
 
-    [[nodiscard]] QRectF findExtent() const;
+private:
+    void findExtent();
 
     const RasterInfo& m_info;
     basalt::Dictionary m_system;
-    std::unique_ptr<Way> m_way; ///< null when the coordinates of both are the same
+    std::unique_ptr<RasterWay> m_way; ///< null when the coordinates of both are the same
     double m_eastSign = 1;
     double m_northSign = 1;
-    bool m_isUsable = false; ///< the raster is placed, and its pixels have an area
     QRectF m_extent;
+    QRectF m_reach;
+    bool m_isWhole = false;
 };
 
 } // namespace lum

@@ -16,7 +16,7 @@ struct MappedCell
     /// Where the corners of the area lie: upper left, upper right, lower left, lower right; pixels
     /// of the full resolution.
     std::array<QPointF, 4> corners;
-    /// Raster pixels to a device pixel, the coarser of the two directions.
+    /// Raster pixels to a device pixel, the root of how their areas relate.
     double step = 0;
 
     /// The rectangle around the corners.
