@@ -3,7 +3,6 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_sdk/Transform.h"
 
-#include <QColor>
 #include <QRectF>
 #include <QString>
 
@@ -19,9 +18,6 @@ struct PaintTarget
     Transform transform;       ///< of this picture; the map's view may have moved since
     QRectF mapExtent;          ///< full extent of the map's data, map coordinates
     basalt::Dictionary status; ///< the system status as it was when the paint began
-    /// The colour of the map's paper while a layer shows a picture of the ground: texts and lines
-    /// get a halo in it, to be readable there. Invalid without a picture.
-    QColor halo;
     const std::atomic<bool>* cancelled = nullptr;
 
     /// True when a newer picture was requested. This one is thrown away then, so that the layer
