@@ -47,7 +47,7 @@ void paintWithHalo(const MapPaintJob& job, std::size_t first, QImage& picture)
         paintLayers(job, first, job.layers.size(), picture);
         return;
     }
-    drawing.setDevicePixelRatio(job.pixelRatio);
+    drawing.setDevicePixelRatio(job.target.pixelRatio);
     drawing.fill(Qt::transparent);
     paintLayers(job, first, job.layers.size(), drawing);
     if (!job.target.isCancelled())
@@ -58,13 +58,13 @@ void paintWithHalo(const MapPaintJob& job, std::size_t first, QImage& picture)
 
 QImage paintPicture(const MapPaintJob& job)
 {
-    const QSize size = job.target.transform.size() * job.pixelRatio;
+    const QSize size = job.target.transform.size() * job.target.pixelRatio;
     QImage picture(size.expandedTo(QSize(1, 1)), QImage::Format_RGB32);
     if (picture.isNull()) {
         basalt::logError("Not enough memory for a picture of the map");
         return picture;
     }
-    picture.setDevicePixelRatio(job.pixelRatio);
+    picture.setDevicePixelRatio(job.target.pixelRatio);
     picture.fill(job.background);
     const std::size_t plain = std::min(job.layers.size(), job.firstOverPicture);
     paintLayers(job, 0, plain, picture);

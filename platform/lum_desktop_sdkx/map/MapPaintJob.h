@@ -22,7 +22,6 @@ struct MapPaintJob
     QColor background = Qt::white;
     QColor foreground = Qt::black; ///< the pen of the painter that a layer gets
     QFont font;                    ///< see `fontForWorker`
-    double pixelRatio = 1;         ///< device pixels to a screen pixel
 };
 
 /// Paints the layers over the background. Any thread may call it. The picture is opaque and has the

@@ -7,6 +7,8 @@
 #include "lum_desktop_sdkx/map/NorthArrow.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/coords/ShownUnit.h"
 #include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
@@ -212,7 +214,7 @@ void MapWindow::startPaint()
 
 bool MapWindow::isUpToDate() const
 {
-    return !m_isContentStale && !m_paintTimer.isActive() && !m_painter.viewInWork();
+    return !m_isContentStale && !m_paintTimer.isActive() && !m_painter.isAtWork();
 }
 
 MapPaintJob MapWindow::makeJob()
@@ -231,7 +233,8 @@ MapPaintJob MapWindow::makeJob()
     job.background = palette().color(QPalette::Base);
     job.foreground = palette().color(QPalette::Text);
     job.font = fontForWorker(font());
-    job.pixelRatio = m_pixelRatio = devicePixelRatioF();
+    job.target.system = basalt::Dictionary(get_project_coord_transform().parameters());
+    job.target.pixelRatio = m_pixelRatio = devicePixelRatioF();
     m_boundaryState = job.target.status.integer(status::kDrawBoundaryRect);
     return job;
 }

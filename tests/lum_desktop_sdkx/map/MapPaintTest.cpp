@@ -256,7 +256,7 @@ private Q_SLOTS:
         job.layers = {&layer};
         job.target.transform.setSize({100, 80});
         job.target.transform.fit({0, 0, 100, 80}, 0);
-        job.pixelRatio = 2;
+        job.target.pixelRatio = 2;
         const QImage picture = paintPicture(job);
         QCOMPARE(picture.size(), QSize(200, 160));
         QCOMPARE(picture.pixelColor(29, 120), QColor(Qt::blue));

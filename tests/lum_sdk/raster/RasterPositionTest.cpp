@@ -1,0 +1,280 @@
+#include "lum_sdk/coords/ProjHandles.h"
+#include "lum_sdk/raster/ScreenMapping.h"
+#include "tests/lum_sdk/raster/RasterPictures.h"
+#include "tests/support/MadeRaster.h"
+#include "tests/support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace raster_test;
+
+namespace {
+
+/// A raster of 1000 x 800 pixels of 1 m, in the UTM zone 50N, whose pixels tell their place.
+MadeRaster placeRaster()
+{
+    MadeRaster made;
+    made.size = {1000, 800};
+    made.value = placeValue;
+    return made;
+}
+
+struct Zoom
+{
+    const char* name;
+    double pixelM; ///< of the screen
+    double ratio;  ///< device pixels
+    QPointF shift; ///< of the view, metres
+};
+
+class SameSystem : public testing::TestWithParam<Zoom>
+{
+};
+
+/// Expects at each device pixel the raster's pixel below its centre.
+void expectPlaces(const QImage& picture, const lum::RasterView& view)
+{
+    int wrong = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QPointF centre = QPointF(x + 0.5, y + 0.5) / view.pixelRatio;
+            const QPointF map = view.transform.ScreenToSurvey(centre);
+            const QPointF place(map.x() - 500000, 4400000 - map.y());
+            const QRgb color = picture.pixel(x, y);
+            if (place.x() < 0 || place.y() < 0 || place.x() >= 1000 || place.y() >= 800) {
+                wrong += color == kPaper ? 0 : 1;
+                continue;
+            }
+            const QPoint found = placeOf(color);
+            const double allowed = 0.5 + 0.01; // a pixel's centre is half of it away, at most
+            if (std::abs(found.x() + 0.5 - place.x()) > allowed ||
+                std::abs(found.y() + 0.5 - place.y()) > allowed)
+                ++wrong;
+        }
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+} // namespace
+
+TEST_P(SameSystem, EveryPixelShowsWhatLiesThere)
+{
+    const Zoom& zoom = GetParam();
+    const TestFolder folder;
+    ASSERT_TRUE(placeRaster().write(folder.path("places.tif")));
+    lum::RasterImage image(folder.path("places.tif"));
+    lum::RasterView view;
+    view.system = systemOf("32650");
+    view.transform.setSize({300, 200});
+    view.transform.setView(QPointF(500000, 4400000) + zoom.shift, zoom.pixelM);
+    view.pixelRatio = zoom.ratio;
+    expectPlaces(pictureOf(image, view), view);
+}
+
+INSTANTIATE_TEST_SUITE_P(Zooms, SameSystem,
+                         testing::Values(Zoom{"OneToOne", 1, 1, {300, -300}},
+                                         Zoom{"OneToOneBetweenPixels", 1, 1, {300.3, -300.4}},
+                                         Zoom{"OverTheCorner", 1, 1, {0, 0}},
+                                         Zoom{"LargePixels", 0.13, 1, {20.2, -7.1}},
+                                         Zoom{"HugePixels", 0.001, 1, {20.2, -7.1}},
+                                         Zoom{"FineScreen", 1, 2, {990, -790}},
+                                         Zoom{"FineScreenByAQuarter", 0.5, 1.25, {990, -790}}),
+                         [](const auto& test) { return test.param.name; });
+
+namespace {
+
+struct Systems
+{
+    const char* name;
+    const char* project;         ///< EPSG
+    int raster;                  ///< EPSG
+    std::array<double, 6> place; ///< of the raster
+    QSize size;                  ///< of the raster, pixels
+    QPointF center;              ///< of the view, map coordinates
+    double pixelM;               ///< of the view
+};
+
+class OtherSystem : public testing::TestWithParam<Systems>
+{
+};
+
+/// The way from map coordinates to pixels by PROJ alone.
+class ExactWay
+{
+public:
+    explicit ExactWay(const Systems& systems) : m_place(systems.place)
+    {
+        const std::string from = std::string("EPSG:") + systems.project;
+        const std::string to = "EPSG:" + std::to_string(systems.raster);
+        const lum::ProjObject found(
+            proj_create_crs_to_crs(m_context.get(), from.c_str(), to.c_str(), nullptr));
+        m_way.reset(proj_normalize_for_visualization(m_context.get(), found.get()));
+    }
+
+    /// NaN where there is no answer.
+    [[nodiscard]] QPointF pixelOf(const QPointF& map) const
+    {
+        const PJ_COORD to = proj_trans(m_way.get(), PJ_FWD, proj_coord(map.x(), map.y(), 0, 0));
+        proj_errno_reset(m_way.get());
+        const PJ_COORD back = proj_trans(m_way.get(), PJ_INV, to);
+        proj_errno_reset(m_way.get());
+        if (!(std::hypot(back.xy.x - map.x(), back.xy.y - map.y()) < 1))
+            return {std::nan(""), std::nan("")};
+        return {(to.xy.x - m_place[0]) / m_place[1], (to.xy.y - m_place[3]) / m_place[5]};
+    }
+
+private:
+    lum::ProjContext m_context = lum::makeProjContext();
+    lum::ProjObject m_way;
+    std::array<double, 6> m_place;
+};
+
+lum::RasterInfo infoOf(const Systems& systems)
+{
+    lum::RasterInfo info;
+    info.size = systems.size;
+    info.levels = {{systems.size, systems.size}};
+    info.isPlaced = true;
+    info.toCoordinates = systems.place;
+    info.wkt = "EPSG:" + std::to_string(systems.raster);
+    return info;
+}
+
+/// Where the centres of all device pixels lie in the raster, as the cells say; NaN outside of them.
+std::vector<QPointF> mappedPixels(const lum::RasterView& view, const lum::RasterPlace& place)
+{
+    const QSize size = view.pixels();
+    std::vector<QPointF> found(std::size_t(size.width()) * std::size_t(size.height()),
+                               {std::nan(""), std::nan("")});
+    for (const lum::MappedCell& cell : lum::mapScreen(view, place)) {
+        const auto& c = cell.corners;
+        const QRect shown = cell.area & QRect(QPoint(0, 0), size);
+        for (int y = shown.top(); y <= shown.bottom(); ++y) {
+            for (int x = shown.left(); x <= shown.right(); ++x) {
+                const double across = (x + 0.5 - cell.area.x()) / cell.area.width();
+                const double down = (y + 0.5 - cell.area.y()) / cell.area.height();
+                const QPointF above = c[0] + (c[1] - c[0]) * across;
+                const QPointF below = c[2] + (c[3] - c[2]) * across;
+                found[std::size_t(y * size.width() + x)] = above + (below - above) * down;
+            }
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+TEST_P(OtherSystem, IsExactToHalfAPixel)
+{
+    const Systems& systems = GetParam();
+    lum::RasterView view;
+    view.system = systemOf(systems.project);
+    view.transform.setSize({500, 400});
+    view.transform.setView(systems.center, systems.pixelM);
+    const lum::RasterInfo info = infoOf(systems);
+    const lum::RasterPlace place(info, view.system);
+    const ExactWay exact(systems);
+    const std::vector<QPointF> found = mappedPixels(view, place);
+    const auto exactAt = [&](double x, double y) {
+        return exact.pixelOf(view.transform.ScreenToSurvey(QPointF(x, y)));
+    };
+    int seen = 0;
+    int missing = 0;
+    double worst = 0;
+    for (int y = 0; y < 400; ++y) {
+        for (int x = 0; x < 500; ++x) {
+            const QPointF right = exactAt(x + 0.5, y + 0.5);
+            if (!(right.x() > 0 && right.y() > 0 && right.x() < info.size.width() &&
+                  right.y() < info.size.height()))
+                continue;
+            const QPointF mapped = found[std::size_t(y * 500 + x)];
+            if (std::isnan(mapped.x())) {
+                ++missing;
+                continue;
+            }
+            ++seen;
+            // in device pixels, along both sides of one
+            const QPointF across = exactAt(x + 1, y + 0.5) - exactAt(x, y + 0.5);
+            const QPointF down = exactAt(x + 0.5, y + 1) - exactAt(x + 0.5, y);
+            const double area = across.x() * down.y() - across.y() * down.x();
+            const QPointF gap = mapped - right;
+            const double u = (gap.x() * down.y() - gap.y() * down.x()) / area;
+            const double v = (across.x() * gap.y() - across.y() * gap.x()) / area;
+            if (std::isfinite(u) && std::isfinite(v))
+                worst = std::max({worst, std::abs(u), std::abs(v)});
+        }
+    }
+    RecordProperty("seen", seen);
+    EXPECT_GT(seen, 1000);
+    EXPECT_EQ(missing, 0);
+    EXPECT_LE(worst, 0.5);
+}
+
+namespace {
+constexpr double kWorld = 20037508.342789244; // half the equator of Web Mercator, metres
+constexpr std::array<double, 6> kWorldMercator{-kWorld, 2 * kWorld / 4096, 0, kWorld,
+                                               0,       -2 * kWorld / 4096};
+constexpr std::array<double, 6> kWorldDegrees{-180, 360.0 / 4096, 0, 90, 0, -180.0 / 2048};
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(
+    Places, OtherSystem,
+    testing::Values(
+        Systems{"MercatorUnderUtm",
+                "32650",
+                3857,
+                {13000000, 5, 0, 4860000, 0, -5},
+                {4000, 4000},
+                {500000, 4400000},
+                4},
+        Systems{"NeighbourZoneAtTheEdge",
+                "32650",
+                32651,
+                {160000, 10, 0, 4500000, 0, -10},
+                {4000, 4000},
+                {755000, 4400000},
+                7},
+        Systems{"FarBeyondTheZone",
+                "32650",
+                32656,
+                {300000, 100, 0, 4800000, 0, -100},
+                {4000, 4000},
+                {3600000, 5000000},
+                90},
+        Systems{"DegreesUnderUtm",
+                "32650",
+                4326,
+                {115, 0.001, 0, 42, 0, -0.001},
+                {4000, 4000},
+                {500000, 4400000},
+                700},
+        Systems{"WholeWorldUnderUtm",
+                "32650",
+                3857,
+                kWorldMercator,
+                {4096, 4096},
+                {500000, 4400000},
+                30000},
+        Systems{
+            "WorldSeenFromAfar", "32650", 3857, kWorldMercator, {4096, 4096}, {500000, 0}, 300000},
+        Systems{"DateLine", "3832", 4326, kWorldDegrees, {4096, 2048}, {3000000, 0}, 20000},
+        Systems{
+            "DegreesUnderWorldMercator", "3857", 4326, kWorldDegrees, {4096, 2048}, {0, 0}, 90000},
+        Systems{"SouthPole", "3031", 4326, kWorldDegrees, {4096, 2048}, {0, 0}, 12000},
+        Systems{"NorthPoleMercator",
+                "32661",
+                3857,
+                kWorldMercator,
+                {4096, 4096},
+                {2000000, 2000000},
+                12000},
+        Systems{"OtherTurnOfLongitude",
+                "32650",
+                4326,
+                {0, 360.0 / 4096, 0, 90, 0, -180.0 / 2048},
+                {4096, 2048},
+                {500000, 4400000},
+                2000}),
+    [](const auto& test) { return test.param.name; });
