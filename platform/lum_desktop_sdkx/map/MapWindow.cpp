@@ -15,6 +15,7 @@
 #include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/SystemKeys.h"
+#include "lum_sdk/raster/Attribution.h"
 #include "lum_sdk/Text.h"
 
 #include <QApplication>
@@ -201,6 +202,14 @@ void MapWindow::redraw()
     m_paintTimer.start(0);
 }
 
+void MapWindow::redrawSoon()
+{
+    if (m_painter.viewInWork())
+        m_isRedrawDue = true;
+    else
+        redraw();
+}
+
 void MapWindow::startPaint()
 {
     if (!isVisible())
@@ -214,7 +223,8 @@ void MapWindow::startPaint()
 
 bool MapWindow::isUpToDate() const
 {
-    return !m_isContentStale && !m_paintTimer.isActive() && !m_painter.isAtWork();
+    return !m_isContentStale && !m_isRedrawDue && !m_paintTimer.isActive() &&
+           !m_painter.isAtWork();
 }
 
 MapPaintJob MapWindow::makeJob()
@@ -243,6 +253,8 @@ void MapWindow::showPicture(const QImage& picture, const Transform& view)
 {
     m_picture.set(picture, view);
     update();
+    if (!m_painter.viewInWork() && std::exchange(m_isRedrawDue, false))
+        redraw();
     if (!m_painter.viewInWork() && view != m_transform && !m_paintTimer.isActive())
         m_paintTimer.start(0);
     Q_EMIT pictureChanged();
@@ -275,8 +287,9 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
     m_overlays[0].draw(painter, m_transform);
     if (!m_host.hasDocument())
         return; // nothing here has a scale
-    drawScaleBar(painter, m_transform, lum::shownUnit());
+    const QRect bar = drawScaleBar(painter, m_transform, lum::shownUnit());
     drawNorthArrow(painter, m_transform);
+    lum::drawAttribution(painter, size(), m_layers.attributions(), bar);
 }
 
 void MapWindow::resizeEvent(QResizeEvent* /*event*/)

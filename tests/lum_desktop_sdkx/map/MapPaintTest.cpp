@@ -369,6 +369,43 @@ private Q_SLOTS:
         }
     }
 
+    void sourcesAreNamedBesideTheScaleBarOrAboveIt()
+    {
+        const auto darkIn = [](const QImage& picture, const QRect& area) {
+            int count = 0;
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x)
+                    count += qGray(picture.pixel(x, y)) < 100 ? 1 : 0;
+            }
+            return count;
+        };
+        QPalette white;
+        white.setColor(QPalette::Base, Qt::white);
+        m_map->setPalette(white);
+        ILayerViewer* const layer = addLayer("layer_name=a,x=-99,y=-99");
+        for (const char* text :
+             {"© A", "© everybody who has ever drawn a line or a name of this map"}) {
+            for (const int width : {700, 400, 260, 205}) {
+                m_map->resize(width, 300);
+                layer->GetProperties().set("attribution", "");
+                m_map->redraw();
+                settledPicture();
+                const QImage without = shown();
+                layer->GetProperties().set("attribution", text);
+                const QImage with = shown();
+                const QRect left(0, 264, width / 3 + 60, 36); // of the bar and its length
+                QCOMPARE(with.copy(left & with.rect()), without.copy(left & with.rect()));
+                const QRect right(width / 2, 150, width / 2 - 12, 138);
+                QVERIFY2(darkIn(with, right) > darkIn(without, right) + 20, text);
+            }
+        }
+        layer->GetProperties().set("visible", "0");
+        QCOMPARE(shown(), [this, layer] {
+            layer->GetProperties().set("attribution", "");
+            return shown();
+        }());
+    }
+
     void scaleBarHasARoundLengthAndIsAsLongAsItSays()
     {
         for (const auto& [limit, length] :
