@@ -144,7 +144,7 @@ std::optional<RasterBlockId> TileFetcher::next()
 bool TileFetcher::open(QString& fault)
 {
     if (m_source == nullptr) {
-        m_source = RasterSource::open(rasterNameOf(m_fetch->map, m_fetch->fetching), fault,
+        m_source = RasterSource::open(m_fetch->rasterName, fault,
                                       m_fetch->host.empty() ? RasterDrivers::LocalFiles
                                                             : RasterDrivers::All);
     }
@@ -195,7 +195,7 @@ void TileFetcher::finish(const RasterBlockId& tile, const Result& result)
         const bool hasCome = result.answer == TileAnswer::Picture;
         if (!hasCome && result.answer != TileAnswer::Missing) {
             m_fetch->httpStatus = httpStatusIn(result.fault);
-            m_fetch->detail = result.fault;
+            m_fetch->detail = result.fault.toStdString();
         }
         m_fetch->hasNews |= hasCome || m_fetch->queue.state() != before;
         m_fetch->pictures += hasCome;
@@ -222,8 +222,8 @@ void TileFetcher::trimCache()
 } // namespace
 
 TileFetch::TileFetch(const BaseMap& baseMap, const TileFetching& how)
-    : map(baseMap), fetching(how), host(hostOf(baseMap).toStdString()),
-      owner(RasterBlockCache::instance().newOwner())
+    : map(baseMap), fetching(how), rasterName(rasterNameOf(map, fetching)),
+      host(hostOf(baseMap).toStdString()), owner(RasterBlockCache::instance().newOwner())
 {
 }
 

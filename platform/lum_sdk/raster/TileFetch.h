@@ -23,8 +23,9 @@ struct TileFetch
 
     const BaseMap map;
     const TileFetching fetching;
-    const std::string host; ///< empty for a file
-    const quint64 owner;    ///< of the tiles in `RasterBlockCache`
+    const QString rasterName; ///< by which GDAL opens it
+    const std::string host;   ///< empty for a file
+    const quint64 owner;      ///< of the tiles in `RasterBlockCache`
     std::atomic<bool> isEnded = false;
 
     mutable std::mutex mutex; ///< of all below
@@ -37,7 +38,7 @@ struct TileFetch
     bool hasNews = false; ///< for who paints
     int pictures = 0;     ///< that have come
     int httpStatus = 0;   ///< of the last failure; 0 when there was no answer
-    QString detail;       ///< of the last failure, in the library's words
+    std::string detail;   ///< of the last failure, in the library's words
 };
 
 /// Stands in the queue for opening the base map, which may need the service as well.

@@ -176,7 +176,8 @@ QString TileImage::trouble() const
     if (state == TileAnswer::Missing)
         return tr("The base map \"%1\" has no tiles here.").arg(name);
     if (m_fetch->host.empty())
-        return tr("The base map \"%1\" cannot be read: %2").arg(name, m_fetch->detail);
+        return tr("The base map \"%1\" cannot be read: %2")
+            .arg(name, QString::fromStdString(m_fetch->detail));
     if (state == TileAnswer::Unreachable)
         return tr("The base map \"%1\" cannot be reached, %2 does not answer; it is tried again.")
             .arg(name, host);

@@ -5,6 +5,7 @@
 #include "map/ui/BaseMapCommands.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
+#include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/HttpTestServer.h"
