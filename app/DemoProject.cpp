@@ -8,6 +8,7 @@
 #include "project/ProjectCreator.h"
 #include "project/ProjectPlace.h"
 #include "samples/DemoFiles.h"
+#include "samples/DemoImage.h"
 #include "samples/DemoSurvey.h"
 #include "samples/ResultCompleter.h"
 
@@ -25,6 +26,8 @@ Outcome writeFiles(const QString& folder)
     QString fault = demo::useSurveySystem(transform);
     if (fault.isEmpty())
         fault = demo::writeDemoFiles(folder, demo::makeDemoSurvey(kSeed, transform));
+    if (fault.isEmpty())
+        fault = demo::writeDemoImage(folder + QLatin1Char('/') + QLatin1String(demo::kImageFile));
     return fault.isEmpty() ? Outcome::done() : Outcome::failed(fault);
 }
 

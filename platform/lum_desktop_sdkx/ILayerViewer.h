@@ -3,7 +3,6 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_sdk/Transform.h"
 
-#include <QColor>
 #include <QRectF>
 #include <QString>
 
@@ -20,9 +19,6 @@ struct PaintTarget
     Transform transform;       ///< of this picture; the map's view may have moved since
     QRectF mapExtent;          ///< full extent of the map's data, map coordinates
     basalt::Dictionary status; ///< the system status as it was when the paint began
-    /// The colour of the map's paper while a layer shows a picture of the ground: texts and lines
-    /// get a halo in it, to be readable there. Invalid without a picture.
-    QColor halo;
     basalt::Dictionary system; ///< the project's coordinate system, as it was then; may be empty
     double pixelRatio = 1;     ///< device pixels to a screen pixel
     const std::atomic<bool>* cancelled = nullptr;

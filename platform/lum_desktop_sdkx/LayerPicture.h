@@ -3,8 +3,8 @@
 #include "basalt_utilities/IDictionary.h"
 
 /// The property by which a layer tells that it shows a picture of the ground, such as an overlay
-/// image or a base map. While a visible layer does, every layer paints its texts and lines with a
-/// halo (`PaintTarget::halo`).
+/// image or a base map. While a visible layer does, the map lays a halo in the colour of its paper
+/// under all that the layers above draw.
 namespace layerpicture {
 
 inline constexpr const char* kIsShown = "shows_picture"; ///< "1" while it shows one; "0"

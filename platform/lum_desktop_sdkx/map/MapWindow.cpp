@@ -234,13 +234,13 @@ MapPaintJob MapWindow::makeJob()
     job.target.mapExtent = m_extent;
     job.target.status = basalt::Dictionary(get_system_status_dictionary());
     job.layers = m_layers.visibleLayers();
-    job.background = palette().color(QPalette::Base);
     for (ILayerViewer* layer : job.layers) {
         layer->preparePaint();
         job.layerNames.push_back(layer->GetName());
         if (layerpicture::isShown(layer->GetProperties()))
-            job.target.halo = job.background;
+            job.firstOverPicture = job.layerNames.size();
     }
+    job.background = palette().color(QPalette::Base);
     job.foreground = palette().color(QPalette::Text);
     job.font = fontForWorker(font());
     job.target.system = basalt::Dictionary(get_project_coord_transform().parameters());

@@ -137,22 +137,24 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(50, 250), kPaper);
     }
 
-    void aPictureOfTheGroundGivesTheOthersAHalo()
+    void aPictureOfTheGroundGetsAHaloOverIt()
     {
-        QColor halo;
-        ProbeLayer::onPaint = [&halo](const PaintTarget& target) { halo = target.halo; };
-        ILayerViewer* const ground = addLayer("layer_name=ground,x=1,y=1");
-        addLayer("layer_name=data,x=2,y=2"); // no picture
-        settledPicture();
-        QVERIFY(!halo.isValid());
+        ILayerViewer* const ground = addLayer("layer_name=ground,x=100,y=50,color=red");
+        addLayer("layer_name=data,x=107,y=50");
+        const QPoint beside(101, 250);
+        const QImage plain = settledPicture();
+        QCOMPARE(plain.pixelColor(beside), QColor(Qt::red));
+        const auto again = [this] {
+            m_map->redraw();
+            return settledPicture();
+        };
         layerpicture::setShown(ground->GetProperties(), true);
-        m_map->redraw();
-        settledPicture();
-        QCOMPARE(halo, kPaper);
-        ground->GetProperties().set("visible", "0");
-        m_map->redraw();
-        settledPicture();
-        QVERIFY(!halo.isValid());
+        const QImage withHalo = again();
+        QVERIFY(withHalo.pixelColor(beside).red() < 100);        // almost the paper
+        QCOMPARE(withHalo.pixelColor(98, 250), QColor(Qt::red)); // the picture itself has none
+        QCOMPARE(withHalo.pixelColor(102, 250), QColor(Qt::blue));
+        layerpicture::setShown(ground->GetProperties(), false);
+        QCOMPARE(again(), plain);
     }
 
     void lastPictureMovesWithTheViewAtOnce()
