@@ -393,7 +393,8 @@ private Q_SLOTS:
                 const QImage without = shown();
                 layer->GetProperties().set("attribution", text);
                 const QImage with = shown();
-                const QRect left(0, 264, width / 3 + 60, 36); // of the bar and its length
+                const QRect left(0, 264, std::min(width / 3, 160) + 30,
+                                 36); // of the bar and its length
                 QCOMPARE(with.copy(left & with.rect()), without.copy(left & with.rect()));
                 const QRect right(width / 2, 150, width / 2 - 12, 138);
                 QVERIFY2(darkIn(with, right) > darkIn(without, right) + 20, text);
