@@ -82,7 +82,7 @@ QString extentText(const QRectF& extent)
 {
     if (extent.isNull())
         return OverlayTexts::tr("outside the coordinate system of the project");
-    return QStringLiteral("N %1 ... %2, E %3 ... %4")
+    return QStringLiteral("N %1 ... %2\nE %3 ... %4")
         .arg(decimals(extent.top(), 1), decimals(extent.bottom(), 1), decimals(extent.left(), 1),
              decimals(extent.right(), 1));
 }
@@ -106,7 +106,7 @@ QString OverlayTexts::chooserTitle()
 
 QString OverlayTexts::chooserFilter()
 {
-    return tr("images with a place") +
+    return tr("georeferenced images") +
            QStringLiteral("(*.tif *.tiff *.vrt *.jp2 *.img *.jpg *.jpeg *.png *.bmp *.mbtiles);;") +
            tr("all files") + QStringLiteral("(*)");
 }

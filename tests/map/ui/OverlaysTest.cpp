@@ -307,7 +307,7 @@ void OverlaysTest::propertiesAreThoseOfTheFile()
     QVERIFY2(rows.contains("Bands=3: Red Byte, Green Byte, Blue Byte"_q),
              qPrintable(rows.join("; "_q)));
     QVERIFY2(
-        rows.contains("Place in the project=N 4400000.0 ... 4400100.0, E 500000.0 ... 500150.0"_q),
+        rows.contains("Place in the project=N 4400000.0 ... 4400100.0\nE 500000.0 ... 500150.0"_q),
         qPrintable(rows.join("; "_q)));
 }
 
