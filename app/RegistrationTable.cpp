@@ -16,6 +16,8 @@
 #include "map/ui/ReactorMoveTrans.h"
 #include "map/ui/ReactorZoomRectTrans.h"
 #include "map/ui/SeletePointReactor.h"
+#include "map/ui/SetTifPathCommand.h"
+#include "map/ui/TifLayer.h"
 #include "map/ui/ViewChangeCommand.h"
 #include "map/ui/ZoomCommands.h"
 #include "project/ui/CloseProjectCommand.h"
@@ -54,6 +56,7 @@ using namespace desktop::registration;
     window<SurveyDataControl>           ("SurveyDataControl",            "勘察数据控制窗口"),
     window<AttributeControl>            ("AttributeControl",             "属性编辑窗口"),
     layer<DataProcessLayerImp>          ("DataProcessLayer",             "矢量图层"),
+    layer<TifLayer>                     ("TifLayer",                     "TIF图层"),
     reactor<ReactorMoveTrans>           ("ReactorMoveTrans",             "平移"),
     reactor<ReactorZoomRectTrans>       ("ReactorZoomRectTrans",         "局部矩形放大"),
     reactor<SeletePointReactor>         ("SeletePointReactor",           "属性查看"),
@@ -83,6 +86,7 @@ using namespace desktop::registration;
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),
     command<DrawExcitationCommand>      ("DrawExcitationCommand",        "绘制激发线"),
+    command<SetTifPathCommand>          ("SetTifPathCommand",            "TIF图叠加"),
     command<PPKMoveCommand>             ("PPKMoveCommand",               "地图移动"),
     command<PPKZoomInCommand>           ("PPKZoomInCommand",             "地图放大"),
     command<PPKZoomOutCommand>          ("PPKZoomOutCommand",            "地图缩小"),

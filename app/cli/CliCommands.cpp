@@ -1,5 +1,6 @@
 #include "app/cli/CliCommands.h"
 
+#include "app/cli/AddOverlay.h"
 #include "app/cli/CheckProject.h"
 #include "app/cli/CompareProject.h"
 #include "app/cli/CreateProject.h"
@@ -51,6 +52,9 @@ constexpr std::array kCommands{
     CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH] [--overlay FILE] [--base-map NAME]",
                "paint the whole map into a picture, over images and a base map (each image with its own --overlay, the last on top)",
                3, 3, "--size,--overlay,--base-map", "", renderProject, true},
+    CliCommand{"add-overlay", "PROJECT FILE ...",
+               "lay images under the map of a project, over those that are there, the last on top",
+               2, kAny, "", "", addOverlay},
     CliCommand{"check", "PROJECT CHECK [--out FILE]",
                "check the project, print what is found as CSV (repeat only lists, and changes nothing)",
                2, 2, "--out", "", checkProject},

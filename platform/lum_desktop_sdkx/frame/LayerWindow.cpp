@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -26,6 +27,19 @@ namespace {
 
 constexpr int kMargin = 6;
 constexpr int kOpacities[] = {100, 75, 50, 25};
+
+/// Rows with some room between them.
+class RowDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, dpi_scaled(4));
+    }
+};
 
 int percentOf(double opacity)
 {
@@ -86,6 +100,7 @@ LayerWindow::LayerWindow(const char* config, IDesktopHost* host)
 void LayerWindow::makeView()
 {
     m_view->setModel(m_model);
+    m_view->setItemDelegate(new RowDelegate(m_view));
     m_view->setFrameStyle(QFrame::NoFrame);
     m_view->setHeaderHidden(true);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
