@@ -15,7 +15,7 @@ constexpr int kPadding = 4;
 
 constexpr double kFontShare = 0.85; // of the map's font
 constexpr int kPaperAlpha = 210;    // lets a little of the map show through
-constexpr int kBroken = Qt::TextWordWrap | Qt::TextWrapAnywhere;
+constexpr int kBroken = Qt::TextWordWrap;
 
 QFont smaller(QFont font)
 {
