@@ -1,61 +1,49 @@
 #include "lum_sdk/raster/TileThreads.h"
 
-#include <chrono>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 namespace lum {
 
 TileThreads& TileThreads::instance()
 {
-    static TileThreads threads;
-    // Called before the destructor of `threads`, since it comes after the constructor.
-    [[maybe_unused]] static const int isCalled = ::on_exit(&TileThreads::endProcess, &threads);
+    static TileThreads& threads = *std::make_unique<TileThreads>().release();
     return threads;
-}
-
-void TileThreads::endProcess(int status, void* self)
-{
-    auto& threads = *static_cast<TileThreads*>(self);
-    const auto isOver = [&threads] {
-        for (const Worker& worker : threads.m_workers) {
-            if (!worker.isDone)
-                return false;
-        }
-        return true;
-    };
-    {
-        std::unique_lock lock(threads.m_mutex);
-        threads.m_ended.wait_for(lock, std::chrono::milliseconds(500), isOver);
-    }
-    if (threads.joinDone())
-        return;
-    std::fflush(nullptr);
-    std::_Exit(status);
 }
 
 void TileThreads::start(std::function<void()> work)
 {
-    joinDone();
     const std::lock_guard lock(m_mutex);
+    joinDone();
     Worker& worker = m_workers.emplace_back();
     worker.thread = std::thread([this, &worker, todo = std::move(work)]() mutable {
         todo();
         todo = {}; // what it owns ends here, and not after the thread is called done
         const std::lock_guard guard(m_mutex);
         worker.isDone = true;
-        m_ended.notify_all();
+        m_changed.notify_all();
     });
 }
 
-bool TileThreads::joinDone()
+void TileThreads::joinDone()
 {
-    const std::lock_guard lock(m_mutex);
     m_workers.remove_if([](Worker& worker) {
         if (worker.isDone)
             worker.thread.join();
         return worker.isDone;
     });
+}
+
+bool TileThreads::waitForEnd(std::chrono::milliseconds atMost)
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait_for(lock, atMost, [this] {
+        return std::all_of(m_workers.begin(), m_workers.end(),
+                           [](const Worker& worker) { return worker.isDone; });
+    });
+    joinDone();
     return m_workers.empty();
 }
 
@@ -73,6 +61,14 @@ void TileThreads::release(const std::string& host)
 {
     const std::lock_guard lock(m_mutex);
     --m_connections[host];
+}
+
+void exitProcess(int status)
+{
+    if (TileThreads::instance().waitForEnd(std::chrono::milliseconds(500)))
+        std::exit(status);
+    std::fflush(nullptr);
+    std::_Exit(status);
 }
 
 } // namespace lum
