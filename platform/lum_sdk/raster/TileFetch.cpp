@@ -6,13 +6,15 @@
 #include "lum_sdk/raster/TileCache.h"
 #include "lum_sdk/raster/TileThreads.h"
 
-#include <QDir>
+#include <QImage>
 #include <QRegularExpression>
 
 #include <cpl_conv.h>
 #include <cpl_error.h>
 
 #include <chrono>
+#include <exception>
+#include <optional>
 
 namespace lum {
 
@@ -103,7 +105,12 @@ void TileFetcher::run()
 {
     setUpThread();
     while (const std::optional<RasterBlockId> tile = next()) {
-        const Result result = fetch(*tile);
+        Result result;
+        try {
+            result = fetch(*tile);
+        } catch (const std::exception& error) {
+            result = {TileAnswer::Broken, QString::fromUtf8(error.what()), {}};
+        }
         finish(*tile, result);
     }
 }
@@ -192,14 +199,16 @@ void TileFetcher::finish(const RasterBlockId& tile, const Result& result)
         m_fetch->queue.answer(tile, result.answer, Clock::now());
         if (tile == kOpening && m_source != nullptr)
             takeInfo();
-        const bool hasCome = result.answer == TileAnswer::Picture;
-        if (!hasCome && result.answer != TileAnswer::Missing) {
+        const bool isAnswer =
+            result.answer == TileAnswer::Picture || result.answer == TileAnswer::Missing;
+        m_fetch->answers += isAnswer;
+        if (!isAnswer) {
             m_fetch->httpStatus = httpStatusIn(result.fault);
             m_fetch->detail = result.fault.toStdString();
         }
-        m_fetch->hasNews |= hasCome || m_fetch->queue.state() != before;
-        m_fetch->pictures += hasCome;
-        if (m_fetch->queue.state() != before && !result.fault.isEmpty())
+        const bool isOther = m_fetch->queue.state() != before;
+        m_fetch->hasNews |= isAnswer || isOther;
+        if (isOther && !isAnswer)
             basalt::logWarning("Base map: " + result.fault.toStdString());
     }
     m_fetch->changed.notify_all();
@@ -212,7 +221,7 @@ void TileFetcher::trimCache()
     bool isDue = false;
     {
         const std::lock_guard lock(m_fetch->mutex);
-        isDue = m_fetch->pictures % kTilesPerTrim == 1;
+        isDue = m_fetch->answers % kTilesPerTrim == 1;
     }
     if (isDue && !m_fetch->host.empty() && m_fetch->map.mayKeepTiles &&
         !fetching.cacheFolder.isEmpty())

@@ -36,7 +36,7 @@ struct TileFetch
     std::shared_ptr<const RasterInfo> info;
     bool isStarted = false;
     bool hasNews = false; ///< for who paints
-    int pictures = 0;     ///< that have come
+    int answers = 0;      ///< that were no failures
     int httpStatus = 0;   ///< of the last failure; 0 when there was no answer
     std::string detail;   ///< of the last failure, in the library's words
 };

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace lum {
 
@@ -51,29 +52,19 @@ public:
 
     void want(const std::vector<RasterBlockId>& ids) override
     {
-        std::vector<RasterBlockId> missing;
-        for (const RasterBlockId& id : ids) {
-            if (find(id).isNull())
-                missing.push_back(id);
-        }
-        if (ids.size() > kMostTiles)
-            missing.clear();
+        std::vector<RasterBlockId> wanted;
         {
             const std::lock_guard lock(m_fetch.mutex);
-            m_fetch.queue.want(missing);
+            if (ids.size() <= kMostTiles) {
+                for (const RasterBlockId& id : ids)
+                    addUnlessThere(id, wanted);
+            }
+            m_fetch.queue.want(wanted);
         }
         m_fetch.changed.notify_all();
     }
 
-    QImage block(const RasterBlockId& id) override
-    {
-        const QImage found = find(id);
-        if (!found.isNull())
-            return found;
-        const std::lock_guard lock(m_fetch.mutex);
-        return m_fetch.queue.isMissing(id) ? empty(id) : QImage();
-    }
-
+    QImage block(const RasterBlockId& id) override { return find(id); }
     QImage substitute(const RasterBlockId& id) override { return find(id); }
 
 private:
@@ -81,12 +72,23 @@ private:
     {
         return RasterBlockCache::instance().find(m_fetch.owner, id);
     }
-    [[nodiscard]] QImage empty(const RasterBlockId& id) const
+
+    /// Where the service has no tile, the next coarser one that it may have shows the place.
+    void addUnlessThere(RasterBlockId id, std::vector<RasterBlockId>& wanted) const
     {
-        QImage image(m_info.levels[id.level].blockArea(id.column, id.row).size(),
-                     QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        return image;
+        while (m_fetch.queue.isMissing(id)) {
+            if (id.level + 1 == m_info.levels.size())
+                return;
+            const RasterLevel& fine = m_info.levels[id.level];
+            const RasterLevel& coarse = m_info.levels[++id.level];
+            const QPointF center = QRectF(fine.blockArea(id.column, id.row)).center();
+            id.column =
+                int(center.x() / fine.size.width() * coarse.size.width()) / coarse.block.width();
+            id.row =
+                int(center.y() / fine.size.height() * coarse.size.height()) / coarse.block.height();
+        }
+        if (find(id).isNull() && std::find(wanted.begin(), wanted.end(), id) == wanted.end())
+            wanted.push_back(id);
     }
 
     TileFetch& m_fetch;
@@ -94,7 +96,7 @@ private:
 };
 
 TileImage::TileImage(const BaseMap& map, const TileFetching& fetching,
-                     std::function<void()> changed)
+                     const std::function<void()>& changed)
     : m_fetch(std::make_shared<TileFetch>(map, fetching))
 {
     if (changed)
@@ -136,18 +138,20 @@ void TileImage::tellNews(const std::function<void()>& changed) const
 void TileImage::paint(const RasterView& view, QPainter& painter, double opacity)
 {
     std::shared_ptr<const RasterInfo> info;
-    bool mustStart = false;
+    bool isStarted = false;
     {
         const std::lock_guard lock(m_fetch->mutex);
         info = m_fetch->info;
-        mustStart = !std::exchange(m_fetch->isStarted, true);
-        if (mustStart)
+        isStarted = std::exchange(m_fetch->isStarted, true);
+        if (info == nullptr)
             m_fetch->queue.want({kOpening});
     }
-    if (mustStart)
+    if (!isStarted)
         startFetching(m_fetch);
-    if (info == nullptr)
+    if (info == nullptr) {
+        m_fetch->changed.notify_all();
         return;
+    }
     if (m_place == nullptr || !m_place->isFor(view.system))
         m_place = std::make_unique<RasterPlace>(*info, view.system);
     if (isTooCoarse(view, *m_place)) {
@@ -161,8 +165,7 @@ void TileImage::paint(const RasterView& view, QPainter& painter, double opacity)
 void TileImage::rest()
 {
     const std::lock_guard lock(m_fetch->mutex);
-    if (m_fetch->info != nullptr)
-        m_fetch->queue.want({});
+    m_fetch->queue.want({});
 }
 
 QString TileImage::trouble() const
@@ -184,10 +187,15 @@ QString TileImage::trouble() const
     if (state == TileAnswer::Refused)
         return tr("%2 refuses the tiles of the base map \"%1\" (HTTP status %3); it is tried "
                   "again.")
-            .arg(name, host)
-            .arg(m_fetch->httpStatus);
+            .arg(name, host, QString::number(m_fetch->httpStatus));
     return tr("%2 answers with errors instead of tiles of the base map \"%1\"; it is tried again.")
         .arg(name, host);
+}
+
+bool TileImage::hasAnswersSince(int count) const
+{
+    const std::lock_guard lock(m_fetch->mutex);
+    return m_fetch->answers != count;
 }
 
 bool TileImage::fetchAll(const RasterView& view, std::chrono::milliseconds atMost)
@@ -196,21 +204,21 @@ bool TileImage::fetchAll(const RasterView& view, std::chrono::milliseconds atMos
     QImage scratch(view.pixels(), QImage::Format_ARGB32_Premultiplied);
     scratch.setDevicePixelRatio(view.pixelRatio);
     QPainter painter(&scratch);
-    bool isOpen = false;
-    do {
+    int before = 0;
+    do { // what has come can tell what else is wanted
         {
             const std::lock_guard lock(m_fetch->mutex);
-            isOpen = m_fetch->info != nullptr;
+            before = m_fetch->answers;
         }
         paint(view, painter);
         std::unique_lock lock(m_fetch->mutex);
         const auto isIdle = [this] { return m_fetch->queue.isIdle(Clock::now()); };
         if (!m_fetch->changed.wait_until(lock, end, isIdle))
             return false;
-        if (m_fetch->queue.state() != TileAnswer::Picture &&
-            m_fetch->queue.state() != TileAnswer::Missing)
+        const TileAnswer state = m_fetch->queue.state();
+        if (state != TileAnswer::Picture && state != TileAnswer::Missing)
             return false;
-    } while (!isOpen); // the first paint only opens it
+    } while (hasAnswersSince(before));
     return true;
 }
 

@@ -31,7 +31,8 @@ public:
     /// called on a thread of this object, at most ten times a second and never after the
     /// destructor; it must not wait for the thread that owns this object, but may queue a call to
     /// it.
-    TileImage(const BaseMap& map, const TileFetching& fetching, std::function<void()> changed = {});
+    TileImage(const BaseMap& map, const TileFetching& fetching,
+              const std::function<void()>& changed = {});
     ~TileImage();
     TileImage(const TileImage&) = delete;
     TileImage& operator=(const TileImage&) = delete;
@@ -58,10 +59,11 @@ public:
 private:
     class Blocks;
 
+    [[nodiscard]] bool hasAnswersSince(int count) const;
     void tellNews(const std::function<void()>& changed) const;
 
-    std::shared_ptr<TileFetch>
-        m_fetch; ///< shared with the threads that fetch; they may outlive this
+    /// Shared with the threads that fetch; they may outlive this.
+    std::shared_ptr<TileFetch> m_fetch;
     std::unique_ptr<RasterPlace> m_place; ///< of the last view; only for `paint`
     std::thread m_teller;
 };

@@ -256,7 +256,7 @@ TEST_P(TileTrouble, IsToldOnceAndNothingBadIsKept)
 
 INSTANTIATE_TEST_SUITE_P(
     All, TileTrouble,
-    testing::Values(Trouble{"NotFound", Behaviour::NotFound, "no tiles here", 30},
+    testing::Values(Trouble{"NotFound", Behaviour::NotFound, "no tiles here", 80},
                     Trouble{"TooManyRequests", Behaviour::TooManyRequests, "429", 2},
                     Trouble{"ServerError", Behaviour::ServerError, "errors", 4},
                     Trouble{"Garbage", Behaviour::Garbage, "errors", 4},
@@ -294,6 +294,21 @@ TEST_F(TileImageTest, ABadTileLeavesOneHoleAndComesLater)
     EXPECT_TRUE(
         comesTrue([&] { return paint(image, viewOf()).pixelColor(305, 200).alpha() == 255; }));
     EXPECT_EQ(image.trouble(), QString());
+}
+
+TEST_F(TileImageTest, ShowsCoarserTilesWhereTheServiceHasNoFineOnes)
+{
+    server.behave("/14/", Behaviour::NotFound);
+    server.behave("/13/", Behaviour::NotFound);
+    lum::TileImage image(map, fetching);
+    ASSERT_TRUE(image.fetchAll(viewOf(), seconds(20))) << image.trouble().toStdString();
+    const QPoint coarse = tileAt(117.01, 39.999, 12);
+    EXPECT_EQ(paint(image, viewOf()).pixelColor(370, 210),
+              HttpTestServer::colourOf(12, coarse.x(), coarse.y()));
+    EXPECT_EQ(image.trouble(), QString());
+    const std::size_t asked = server.requests().size();
+    EXPECT_TRUE(image.fetchAll(viewOf(), seconds(20)));
+    EXPECT_EQ(server.requests().size(), asked) << "it is known by now what the service has";
 }
 
 TEST_F(TileImageTest, AnOlderViewIsDroppedAndNobodyWaitsForSlowTiles)
