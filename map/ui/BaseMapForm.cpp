@@ -89,7 +89,7 @@ void BaseMapForm::addFields(QFormLayout& form)
     QWidget* const zoom = makeZoomRow();
     form.addRow(tr("&Zoom levels:"), zoom);
     qobject_cast<QLabel*>(form.labelForField(zoom))->setBuddy(m_leastZoom);
-    form.addRow(tr("Tile si&ze:"), m_tileSize);
+    form.addRow(tr("Til&e size:"), m_tileSize);
     form.addRow(QString(), m_keepsTiles);
     form.addRow(QString(), m_fault);
 }

@@ -308,6 +308,8 @@ void DlgBaseMaps::accept()
     SystemParameter& settings = get_system_ini_parameter();
     settings.dictionary().set(settings::kTileCacheMb, std::to_string(m_limit->value()));
     settings.save(); // a failure is logged; the limit holds until the program ends
+    const lum::TileFetching fetching = lum::userTileFetching();
+    lum::TileCache(fetching.cacheFolder).trim(fetching.cacheLimitBytes);
     if (const QString fault = lum::setUserBaseMaps(m_entries); !fault.isEmpty())
         LumMessageBox::error(this, windowTitle(),
                              tr("The list cannot be saved. It holds until the program ends."),

@@ -99,16 +99,28 @@ void RasterLayerImp::follow()
 void RasterLayerImp::show(const lum::BaseMap& map)
 {
     m_shown = map;
-    Picture picture;
     if (lum::isFile(map)) {
-        picture.file = std::make_shared<lum::RasterImage>(lum::rasterNameOf(map, {}));
-    } else {
-        picture.tiles = std::make_shared<lum::TileImage>(map, lum::userTileFetching(), [this] {
-            QMetaObject::invokeMethod(this, &RasterLayerImp::update, Qt::QueuedConnection);
-        });
+        showFile(map);
+        return;
     }
+    Picture picture;
+    picture.tiles = std::make_shared<lum::TileImage>(map, lum::userTileFetching(), [this] {
+        QMetaObject::invokeMethod(this, &RasterLayerImp::update, Qt::QueuedConnection);
+    });
     setPicture(std::move(picture), map.attribution);
-    update();
+    redraw();
+}
+
+void RasterLayerImp::showFile(const lum::BaseMap& map)
+{
+    Picture picture;
+    picture.file = std::make_shared<lum::RasterImage>(lum::rasterNameOf(map, {}));
+    const bool isUsable = picture.file->isUsable();
+    const QString fault = picture.file->fault();
+    setPicture(isUsable ? std::move(picture) : Picture(), isUsable ? map.attribution : QString());
+    if (!isUsable)
+        tell(fault);
+    redraw();
 }
 
 void RasterLayerImp::hide()
@@ -143,11 +155,16 @@ void RasterLayerImp::tellTrouble()
     if (trouble == m_trouble)
         return;
     m_trouble = trouble;
-    m_host.tell(!trouble.isEmpty() || !m_shown
-                    ? trouble
-                    : tr("The base map \"%1\" is complete again.").arg(m_shown->name));
     if (!trouble.isEmpty())
-        basalt::logWarning(trouble.toStdString());
+        tell(trouble);
+    else if (m_shown)
+        m_host.tell(tr("The base map \"%1\" is complete again.").arg(m_shown->name));
+}
+
+void RasterLayerImp::tell(const QString& trouble)
+{
+    m_host.tell(trouble);
+    basalt::logWarning(trouble.toStdString());
 }
 
 void RasterLayerImp::redraw()

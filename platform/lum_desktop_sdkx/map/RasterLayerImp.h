@@ -56,11 +56,13 @@ private:
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
     void follow();
     void show(const lum::BaseMap& map);
+    void showFile(const lum::BaseMap& map);
     void hide();
     void setPicture(Picture picture, const QString& attribution);
     /// What is shown has changed: tells of new trouble, and paints anew.
     void update();
     void tellTrouble();
+    void tell(const QString& trouble);
     void redraw();
 
     IDesktopHost& m_host; // outlives every layer

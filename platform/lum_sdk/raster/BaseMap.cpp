@@ -11,11 +11,6 @@ namespace {
 
 using Form = BaseMapAddress::Form;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("BaseMap", text);
-}
-
 /// GDAL counts the pixels of the whole world in 32 bits.
 bool fitsWorld(const BaseMap& map, int tilesAcross)
 {
@@ -135,23 +130,28 @@ QString hostOf(const BaseMap& map)
 QString faultOf(const BaseMap& map)
 {
     if (map.name.trimmed().isEmpty())
-        return tr("A base map needs a name.");
+        return QCoreApplication::translate("BaseMap", "A base map needs a name.");
     const BaseMapAddress address = readBaseMapAddress(map.address);
     if (!address.fault.isEmpty())
         return address.fault;
     if (map.attribution.trimmed().isEmpty())
-        return tr("A base map needs the text that tells whose map it is.");
+        return QCoreApplication::translate("BaseMap",
+                                           "A base map needs the text that tells whose map it is.");
     if (address.form == Form::File || address.form == Form::Wmts)
         return {};
     if (map.tileSize < 64 || map.tileSize > 2048)
-        return tr("Tiles of %1 pixels cannot be shown: 64 to 2048 are possible.").arg(map.tileSize);
+        return QCoreApplication::translate(
+                   "BaseMap", "Tiles of %1 pixels cannot be shown: 64 to 2048 are possible.")
+            .arg(map.tileSize);
     if (map.leastZoom < 0 || map.leastZoom > map.greatestZoom || map.greatestZoom > kGreatestZoom)
-        return tr("The zoom limits %1 and %2 make no range within 0 to %3.")
+        return QCoreApplication::translate(
+                   "BaseMap", "The zoom limits %1 and %2 make no range within 0 to %3.")
             .arg(map.leastZoom)
             .arg(map.greatestZoom)
             .arg(kGreatestZoom);
     if (!fitsWorld(map, address.isGeographic ? 2 : 1))
-        return tr("The greatest zoom %1 is too large for tiles of %2 pixels.")
+        return QCoreApplication::translate(
+                   "BaseMap", "The greatest zoom %1 is too large for tiles of %2 pixels.")
             .arg(map.greatestZoom)
             .arg(map.tileSize);
     return {};

@@ -16,11 +16,6 @@ namespace {
 
 using Form = BaseMapAddress::Form;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("BaseMapAddress", text);
-}
-
 bool holds(const QString& text, const char* part)
 {
     return text.contains(QLatin1String(part), Qt::CaseInsensitive);
@@ -53,7 +48,9 @@ QString unknownPlaceholder(const QString& text)
     static const QRegularExpression kPlaceholder(QStringLiteral("(?<!\\$)\\{[^}]*\\}"));
     const QRegularExpressionMatch match = kPlaceholder.match(text);
     return match.hasMatch()
-               ? tr("The address holds \"%1\", whose meaning is not known.").arg(match.captured())
+               ? QCoreApplication::translate(
+                     "BaseMapAddress", "The address holds \"%1\", whose meaning is not known.")
+                     .arg(match.captured())
                : QString();
 }
 
@@ -69,8 +66,10 @@ void readTiles(const QString& text, BaseMapAddress& address)
         address.place.replace(QLatin1String(name), QLatin1String(drivers), Qt::CaseInsensitive);
     for (const char* needed : {"z", "x", "y"}) {
         if (!holds(address.place, (std::string("${") + needed + '}').c_str()))
-            address.fault = tr("The address has no \"{%1}\": it must say where zoom {z}, column "
-                               "{x} and row {y} of a tile stand.")
+            address.fault = QCoreApplication::translate(
+                                "BaseMapAddress",
+                                "The address has no \"{%1}\": it must say where zoom {z}, column "
+                                "{x} and row {y} of a tile stand.")
                                 .arg(QLatin1String(needed));
     }
     if (address.fault.isEmpty())
@@ -103,8 +102,10 @@ void readSystem(BaseMapAddress& address)
                            system.EPSGTreatsAsLatLong();
     if (!isMercator && !address.isGeographic)
         address.fault =
-            tr("The service is asked for the coordinate system \"%1\"; a base map must be "
-               "in EPSG:3857 or in a geographic system.")
+            QCoreApplication::translate(
+                "BaseMapAddress",
+                "The service is asked for the coordinate system \"%1\"; a base map must be "
+                "in EPSG:3857 or in a geographic system.")
                 .arg(address.system);
 }
 
@@ -128,7 +129,9 @@ void readWms(const QUrl& url, BaseMapAddress& address)
     address.system = orElse(srs.isEmpty() ? crs : srs, "EPSG:3857");
     readSystem(address);
     if (address.layer.isEmpty())
-        address.fault = tr("The address names no layer of the service: \"LAYERS=...\" is missing.");
+        address.fault = QCoreApplication::translate(
+            "BaseMapAddress",
+            "The address names no layer of the service: \"LAYERS=...\" is missing.");
     QUrl rest = url;
     rest.setQuery(query);
     address.place = rest.toString(QUrl::FullyEncoded);
@@ -163,7 +166,9 @@ void readWeb(const QString& text, BaseMapAddress& address)
     const bool isWeb =
         url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
     if (!isWeb || address.host.isEmpty()) {
-        address.fault = tr("\"%1\" is neither a web address nor a file.").arg(text);
+        address.fault = QCoreApplication::translate("BaseMapAddress",
+                                                    "\"%1\" is neither a web address nor a file.")
+                            .arg(text);
         return;
     }
     const bool hasTile = holds(text, "{x}") || holds(text, "{y}") || holds(text, "{z}") ||
@@ -184,7 +189,7 @@ BaseMapAddress readBaseMapAddress(const QString& given)
     BaseMapAddress address;
     const QString text = given.trimmed();
     if (text.isEmpty()) {
-        address.fault = tr("There is no address.");
+        address.fault = QCoreApplication::translate("BaseMapAddress", "There is no address.");
         return address;
     }
     if (text.startsWith(QLatin1String("WMTS:"), Qt::CaseInsensitive) ||
@@ -194,7 +199,8 @@ BaseMapAddress readBaseMapAddress(const QString& given)
     }
     address.place = text.startsWith(QLatin1String("file:")) ? QUrl(text).toLocalFile() : text;
     if (!QFileInfo(address.place).isFile())
-        address.fault = tr("There is no file \"%1\".").arg(address.place);
+        address.fault = QCoreApplication::translate("BaseMapAddress", "There is no file \"%1\".")
+                            .arg(address.place);
     return address;
 }
 

@@ -24,11 +24,6 @@ constexpr std::size_t kMostTiles = 800;
 /// A view this much coarser than the coarsest tiles shows nothing of them.
 constexpr double kMostThinned = 4;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("TileImage", text);
-}
-
 /// Whether the view is so far beyond the least zoom that its tiles need not even be counted.
 bool isTooCoarse(const RasterView& view, const RasterPlace& place)
 {
@@ -177,18 +172,25 @@ QString TileImage::trouble() const
     if (state == TileAnswer::Picture)
         return {};
     if (state == TileAnswer::Missing)
-        return tr("The base map \"%1\" has no tiles here.").arg(name);
+        return QCoreApplication::translate("TileImage", "The base map \"%1\" has no tiles here.")
+            .arg(name);
     if (m_fetch->host.empty())
-        return tr("The base map \"%1\" cannot be read: %2")
+        return QCoreApplication::translate("TileImage", "The base map \"%1\" cannot be read: %2")
             .arg(name, QString::fromStdString(m_fetch->detail));
     if (state == TileAnswer::Unreachable)
-        return tr("The base map \"%1\" cannot be reached, %2 does not answer; it is tried again.")
+        return QCoreApplication::translate(
+                   "TileImage",
+                   "The base map \"%1\" cannot be reached, %2 does not answer; it is tried again.")
             .arg(name, host);
     if (state == TileAnswer::Refused)
-        return tr("%2 refuses the tiles of the base map \"%1\" (HTTP status %3); it is tried "
-                  "again.")
+        return QCoreApplication::translate(
+                   "TileImage",
+                   "%2 refuses the tiles of the base map \"%1\" (HTTP status %3); it is tried "
+                   "again.")
             .arg(name, host, QString::number(m_fetch->httpStatus));
-    return tr("%2 answers with errors instead of tiles of the base map \"%1\"; it is tried again.")
+    return QCoreApplication::translate(
+               "TileImage",
+               "%2 answers with errors instead of tiles of the base map \"%1\"; it is tried again.")
         .arg(name, host);
 }
 
