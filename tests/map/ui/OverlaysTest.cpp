@@ -194,7 +194,7 @@ void OverlaysTest::comesAndGoesWithTheProject()
     QCOMPARE(list(), "a.tif gone.tif"_q);
     QCOMPARE(middle(), QColor(Qt::red));
     QCOMPARE(layer().item(1).fault, "There is no file \"gone.tif\"."_q);
-    QCOMPARE(m_project->host.told, "There is no file \"gone.tif\"."_q);
+    QCOMPARE(m_project->host.told, "Overlay image: There is no file \"gone.tif\"."_q);
     QVERIFY(!m_project->manager->isChanged());
     layer().moveItem(1, 0);
     QCOMPARE(OverlayList::read(description, m_folder->path()).front().path, path("gone.tif"));
