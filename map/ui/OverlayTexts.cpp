@@ -141,12 +141,12 @@ QString OverlayTexts::notAdded(int count)
     return tr("Images that cannot be shown: %1.").arg(count);
 }
 
-QString OverlayTexts::notShown(const QStringList& faults)
+QString OverlayTexts::faults(const QStringList& sentences)
 {
-    if (faults.size() == 1)
-        return faults.front();
-    return tr("Overlay images that cannot be shown: %1. The window \"Layers\" says why.")
-        .arg(faults.size());
+    if (sentences.size() == 1)
+        return tr("Overlay image: %1").arg(sentences.front());
+    return tr("Overlay images with a fault: %1. The window \"Layers\" marks them.")
+        .arg(sentences.size());
 }
 
 QString OverlayTexts::offerOverviews(const QStringList& paths)

@@ -29,9 +29,9 @@ public:
     /// \param isOutside all of them lie beside the survey
     [[nodiscard]] static QString added(int count, bool isOutside);
     [[nodiscard]] static QString notAdded(int count);
-    /// Of images of the project that has been opened.
-    /// \param faults why, a sentence for each; not empty
-    [[nodiscard]] static QString notShown(const QStringList& faults);
+    /// Of images in the list.
+    /// \param sentences one for each; not empty
+    [[nodiscard]] static QString faults(const QStringList& sentences);
 
     /// The question whether to build the overviews of these images.
     [[nodiscard]] static QString offerOverviews(const QStringList& paths);

@@ -1,14 +1,17 @@
 #include "map/ui/TifLayer.h"
 
+#include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/ComponentParameters.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/RasterTarget.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/raster/OverviewBuilder.h"
 #include "lum_sdk/raster/RasterImage.h"
 #include "map/ui/DlgOverviews.h"
@@ -21,6 +24,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -50,7 +54,9 @@ bool doTouch(const QRectF& a, const QRectF& b)
 
 TifLayer::TifLayer(const char* config, IDesktopHost* host)
     : m_properties(desktop::componentParameters(config)), m_host(*host),
-      m_subscription(*this, events::kUpdateSystemStatus, host->eventManager())
+      m_subscription(*this,
+                     lum::eventNames({events::kUpdateSystemStatus, events::kLayerItemsChanged}),
+                     host->eventManager())
 {
 }
 
@@ -66,10 +72,11 @@ bool TifLayer::IsVisible() const
 void TifLayer::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
 {
     const QString project = ProjectState::hasData() ? ProjectState::place().folder : QString();
-    if (project == m_project)
-        return;
-    m_project = project;
-    load();
+    if (project != m_project) {
+        m_project = project;
+        load();
+    }
+    tellFaults(); // a paint may have found one
 }
 
 void TifLayer::load()
@@ -85,18 +92,20 @@ void TifLayer::load()
         return;
     m_host.eventManager().publish(events::kLayerItemsChanged, nullptr, 0);
     redraw();
-    tellFaults();
 }
 
-void TifLayer::tellFaults() const
+void TifLayer::tellFaults()
 {
     QStringList faults;
-    for (const Image& image : m_images) {
-        if (!image.raster->isUsable())
-            faults << image.raster->fault();
+    for (Image& image : m_images) {
+        const QString fault = image.raster->fault();
+        if (!fault.isEmpty() && !std::exchange(image.isFaultTold, true)) {
+            basalt::logWarning(fault.toStdString());
+            faults << fault;
+        }
     }
     if (!faults.isEmpty())
-        m_host.tell(OverlayTexts::notShown(faults));
+        m_host.tell(OverlayTexts::faults(faults));
 }
 
 void TifLayer::store(bool isEdited)
@@ -186,6 +195,7 @@ void TifLayer::onOverviewsFinished(const QString& path, const lum::OverviewResul
     m_host.tell(OverlayTexts::overviewsEnded(nameOf(path), result.isBuilt));
     if (const auto image = find(path); result.isBuilt && image != m_images.end()) {
         image->raster = std::make_shared<lum::RasterImage>(path);
+        m_host.eventManager().publish(events::kLayerItemsChanged, nullptr, 0);
         redraw();
     }
 }
@@ -199,6 +209,7 @@ void TifLayer::preparePaint()
         if (image->entry.isVisible && image->entry.opacity > 0 && image->raster->isUsable())
             shown.push_back(*image);
     }
+    layerpicture::setShown(m_properties, !shown.empty());
     const std::lock_guard lock(m_shownMutex);
     m_shown = std::move(shown);
 }
@@ -242,9 +253,14 @@ void TifLayer::redraw() const
 
 LayerItem TifLayer::item(int index) const
 {
-    const auto& [entry, raster] = at(index);
-    return {entry.path,      nameOf(entry.path), OverlayTexts::tip(entry.path, raster->info()),
-            raster->fault(), entry.isVisible,    entry.opacity};
+    const Image& image = at(index);
+    const QString& path = image.entry.path;
+    return {path,
+            nameOf(path),
+            OverlayTexts::tip(path, image.raster->info()),
+            image.raster->fault(),
+            image.entry.isVisible,
+            image.entry.opacity};
 }
 
 void TifLayer::showItem(int index, bool isVisible)
@@ -323,6 +339,7 @@ void TifLayer::chooseFile(Image& image)
     } else {
         found->entry.path = path;
         found->raster = std::move(raster);
+        found->isFaultTold = false;
     }
     store(true);
     redraw();

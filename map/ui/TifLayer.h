@@ -73,12 +73,13 @@ private:
     {
         OverlayImage entry;
         std::shared_ptr<lum::RasterImage> raster; ///< shared with a running paint
+        bool isFaultTold = false;
     };
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
     void load();
     [[nodiscard]] bool doesMeetSurvey(const Image& image) const;
-    void tellFaults() const;
+    void tellFaults();
     /// \param isEdited whether the project differs from its files by this
     void store(bool isEdited);
     void chooseFile(Image& image);

@@ -107,6 +107,7 @@ void LayerWindow::makeView()
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setDragDropMode(QAbstractItemView::InternalMove);
     m_view->setRootIsDecorated(false); // a layer without items is no branch
+    m_view->setItemsExpandable(false);
     m_view->setIndentation(dpi_scaled(18));
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_view, &QWidget::customContextMenuRequested, this, &LayerWindow::openMenu);

@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kCell = 32; // pixels on a side; an empty cell is passed over
 constexpr int kFarthest = 4;      // device pixels that a halo can be full
 constexpr int kHaloBits = 7;
-constexpr std::uint8_t kMost = 112; // of 128: a little of the picture shows through
+constexpr std::uint8_t kMost = 104; // of 128: a little of the picture shows through
 constexpr std::size_t kChannels = sizeof(QRgb);
 
 /// Whether something is drawn in the pixels of a cell, and in those around it as far as a halo
@@ -146,7 +146,7 @@ private:
         }
         for (std::size_t x = 0; x < kCell; ++x) {
             const auto strong = static_cast<std::uint8_t>(full[x] >> 1);
-            const auto weak = static_cast<std::uint8_t>(soft[x] >> 2);
+            const auto weak = static_cast<std::uint8_t>(soft[x] >> 3);
             const std::uint8_t halo = strong > weak ? strong : weak;
             m_halo[x] = halo < kMost ? halo : kMost;
         }
