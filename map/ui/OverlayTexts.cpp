@@ -131,7 +131,7 @@ QString OverlayTexts::added(int count, bool isOutside)
 {
     const QString text = tr("Overlay images added: %1.").arg(count);
     return isOutside ? text + QLatin1Char(' ') +
-                           tr("They lie outside the survey: a double click in the window "
+                           tr("Beside the survey: a double click in the window "
                               "\"Layers\" goes there.")
                      : text;
 }

@@ -111,6 +111,8 @@ private Q_SLOTS:
     {
         QMimeData files;
         files.setUrls({QUrl::fromLocalFile(makeTiff("a.TIF"))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
+        QApplication::sendEvent(m_frame.get(), &enter);
         QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
         QApplication::sendEvent(m_frame.get(), &drop);
         QTRY_COMPARE(listed(), QStringList{"a.TIF"_q});

@@ -243,7 +243,7 @@ void OverlaysTest::tellsWhereTheSurveyIsNot()
     m_map->setExtent(600000, 4500000, 600100, 4500100);
     choose({near});
     QCOMPARE(m_project->host.told,
-             "Overlay images added: 1. They lie outside the survey: a double click in the window "
+             "Overlay images added: 1. Beside the survey: a double click in the window "
              "\"Layers\" goes there."_q);
     m_map->setExtent(500200, 4400200, 500300, 4400300); // they touch
     choose({near});
