@@ -3591,6 +3591,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>Raster</name>
+    <message>
+        <source>&quot;%1&quot; does not say where it lies: it has neither a position of its own nor a world file beside it.</source>
+        <translation>“%1”没有说明其所在位置：既无自身坐标，旁边也没有世界文件（world file）。</translation>
+    </message>
+    <message>
+        <source>Parts of &quot;%1&quot; cannot be read: %2</source>
+        <translation>“%1”的部分内容无法读取：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read as an image: %2</source>
+        <translation>“%1”无法作为影像读取：%2</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>文件“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>文件“%1”是空的。</translation>
+    </message>
+    <message>
+        <source>not enough memory for its pixels</source>
+        <translation>内存不足，无法存放其像素</translation>
+    </message>
+</context>
+<context>
     <name>ReSurveyPointCheckCommand</name>
     <message>
         <source>Resurvey Check Complete!</source>

@@ -2,15 +2,19 @@
 
 #include "lum_sdk/raster/RasterBlockCache.h"
 #include "lum_sdk/raster/RasterSource.h"
+#include "lum_sdk/raster/TwoThreads.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <atomic>
 
 namespace lum {
 
 namespace {
 
-constexpr int kMostSubstitutes = 16; // blocks that are read to stand for finer ones, a picture
+constexpr std::size_t kLeastForTwo = 4; // blocks, for which a second thread is started
+constexpr int kMostSubstitutes = 16;    // blocks that are read to stand for finer ones, a picture
 
 QImage transparentBlock(const QSize& size)
 {
@@ -27,13 +31,40 @@ class RasterImage::Blocks final : public IRasterBlocks
 public:
     Blocks(RasterImage& image, const RasterView& view) : m_image(image), m_view(view) {}
 
-    QImage block(const RasterBlockId& id) override
+    /// Reads what is not in the cache, on two threads, each with a handle of its own.
+    void want(const std::vector<RasterBlockId>& ids) override
     {
-        const QImage found = RasterBlockCache::instance().find(m_image.m_owner, id);
-        if (!found.isNull() || m_view.isLate())
-            return found;
-        return read(id);
+        std::vector<RasterBlockId> missing;
+        for (const RasterBlockId& id : ids) {
+            QImage found = RasterBlockCache::instance().find(m_image.m_owner, id);
+            if (found.isNull())
+                missing.push_back(id);
+            m_blocks.emplace_back(id, std::move(found));
+        }
+        std::vector<QImage> read(missing.size());
+        std::atomic<std::size_t> next = 0;
+        const auto work = [&](RasterSource& source) {
+            while (!m_view.isCancelled() && !m_view.isLate()) {
+                const std::size_t i = next++;
+                if (i >= missing.size())
+                    return;
+                read[i] = this->read(source, missing[i]);
+            }
+        };
+        if (missing.size() >= kLeastForTwo && m_image.hasHelper())
+            onTwoThreads(
+                [&](int thread) { work(thread == 0 ? *m_image.m_source : *m_image.m_helper); });
+        else
+            work(*m_image.m_source);
+        auto block = read.begin();
+        for (auto& [id, found] : m_blocks) {
+            if (found.isNull())
+                found = *block++;
+        }
+        m_next = m_blocks.begin();
     }
+
+    QImage block(const RasterBlockId& /*id*/) override { return m_next++->second; }
 
     QImage substitute(const RasterBlockId& id) override
     {
@@ -43,15 +74,15 @@ public:
         if (!found.isNull() || !isQuick || m_readSubstitutes >= kMostSubstitutes)
             return found;
         ++m_readSubstitutes;
-        return read(id);
+        return read(*m_image.m_source, id);
     }
 
 private:
-    QImage read(const RasterBlockId& id)
+    QImage read(RasterSource& source, const RasterBlockId& id)
     {
         QString reason;
-        QImage block = m_image.m_source->readBlock(id.level, id.column, id.row, reason,
-                                                   [this] { return m_view.isCancelled(); });
+        QImage block = source.readBlock(id.level, id.column, id.row, reason,
+                                        [this] { return m_view.isCancelled(); });
         if (block.isNull() && reason.isEmpty())
             return {};
         if (block.isNull()) {
@@ -63,6 +94,9 @@ private:
         return block;
     }
 
+    std::vector<std::pair<RasterBlockId, QImage>>
+        m_blocks; ///< in the order in which they are wanted
+    std::vector<std::pair<RasterBlockId, QImage>>::iterator m_next;
     RasterImage& m_image;
     const RasterView& m_view;
     int m_readSubstitutes = 0;
@@ -91,21 +125,38 @@ RasterImage::~RasterImage()
 
 QString RasterImage::fault() const
 {
-    const QMutexLocker lock(&m_faultMutex);
+    const QMutexLocker lock(&m_mutex);
     return m_fault;
 }
 
 void RasterImage::noteFault(const QString& reason)
 {
-    const QMutexLocker lock(&m_faultMutex);
+    const QMutexLocker lock(&m_mutex);
     if (m_fault.isEmpty())
         m_fault = QCoreApplication::translate("Raster", "Parts of \"%1\" cannot be read: %2")
                       .arg(QFileInfo(m_path).fileName(), reason);
 }
 
+bool RasterImage::hasHelper()
+{
+    if (!m_helper && !m_isHelperTried) {
+        QString ignored;
+        m_helper = RasterSource::open(m_path, ignored);
+        m_isHelperTried = true;
+        if (m_helper && m_helper->info().levels != m_info.levels)
+            m_helper.reset(); // the file is another one by now
+    }
+    return m_helper != nullptr;
+}
+
 QRectF RasterImage::extent(const IDictionary& system) const
 {
-    return m_isUsable ? RasterPlace(m_info, system).extent() : QRectF();
+    const QMutexLocker lock(&m_mutex);
+    if (m_isUsable && !(m_extentSystem && dictionary_same(*m_extentSystem, system))) {
+        m_extent = RasterPlace(m_info, system).extent();
+        m_extentSystem.emplace(system);
+    }
+    return m_extent;
 }
 
 bool RasterImage::paint(const RasterView& view, QPainter& painter, double opacity)

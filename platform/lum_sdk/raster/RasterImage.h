@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace lum {
 
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] const RasterInfo& info() const { return m_info; }
 
     /// The rectangle around the image, in map coordinates of a project with this coordinate system;
-    /// null when it lies nowhere there. Takes up to some 50 ms.
+    /// null when it lies nowhere there. The first call for a system takes up to some 50 ms.
     [[nodiscard]] QRectF extent(const IDictionary& system) const;
 
     /// \param opacity  0 to 1
@@ -54,6 +55,8 @@ private:
     class Blocks;
 
     void noteFault(const QString& reason);
+    /// Opens the file a second time when that was not tried yet.
+    [[nodiscard]] bool hasHelper();
 
     QString m_path;
     RasterInfo m_info;
@@ -62,10 +65,14 @@ private:
 
     // only for `paint`
     std::unique_ptr<RasterSource> m_source;
+    std::unique_ptr<RasterSource> m_helper; ///< a second handle, for a second thread
+    bool m_isHelperTried = false;
     std::unique_ptr<RasterPlace> m_place;
 
-    mutable QMutex m_faultMutex;
+    mutable QMutex m_mutex; // guards the members below
     QString m_fault;
+    mutable std::optional<basalt::Dictionary> m_extentSystem; ///< the system that `m_extent` is for
+    mutable QRectF m_extent;
 };
 
 } // namespace lum

@@ -2,11 +2,14 @@
 
 #include "lum_sdk/raster/RasterPatch.h"
 #include "lum_sdk/raster/ScreenMapping.h"
+#include "lum_sdk/raster/TwoThreads.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <mutex>
 #include <unordered_map>
 
 namespace lum {
@@ -16,10 +19,12 @@ namespace {
 // A level with up to so many device pixels to one of its own still looks sharp.
 constexpr double kMostEnlarged = 1.2;
 constexpr double kSinglePixels = 0.5; // level pixels to a device pixel, from which on they are seen
+constexpr double kNearlyOne = 0.02;   // so close to one to one, mixing would only blur
 // A square that needs more of the coarsest level than this is left out: the raster is too fine for
 // what can be seen of it, and nothing coarser is there.
 constexpr int kMostPatch = 1024;
-constexpr int kMargin = 2; // pixels around a patch, for mixing and for rounding
+constexpr std::size_t kLeastForTwo = 32; // pieces, for which a second thread is started
+constexpr int kMargin = 2;               // pixels around a patch, for mixing and for rounding
 
 /// What a square of the picture is made from.
 struct Piece
@@ -28,6 +33,7 @@ struct Piece
     std::size_t level = 0;
     QRect patch; ///< pixels of the level, with a margin
     RasterPatch::Sampling sampling = RasterPatch::Sampling::Nearest;
+    bool isCopy = false;
 };
 
 using Key = quint64;
@@ -46,14 +52,25 @@ std::size_t levelFor(const RasterInfo& info, double step)
     return chosen;
 }
 
-/// Whether the raster lies so that its pixels can be copied one to one.
-bool isCopy(const std::array<QPointF, 4>& corners, int side)
+/// Whether the pixels of a square are those of the level, one to one.
+bool isCopy(const MappedCell& cell)
 {
-    const QPointF across = (corners[1] - corners[0]) / side;
-    const QPointF down = (corners[2] - corners[0]) / side;
-    constexpr double kSame = 1.0 / 256; // a quarter of a pixel over a square
-    return std::abs(std::abs(across.x()) - 1) < kSame && std::abs(across.y()) < kSame &&
-           std::abs(std::abs(down.y()) - 1) < kSame && std::abs(down.x()) < kSame;
+    const QPointF size(cell.area.width(), cell.area.height());
+    constexpr double kMost = 0.2; // of a pixel, from one side of the square to the other
+    const auto isNear = [&](const QPointF& a, const QPointF& b) {
+        return std::abs(a.x() - b.x()) < kMost && std::abs(a.y() - b.y()) < kMost;
+    };
+    const QPointF corner = cell.corners[0];
+    return isNear(cell.corners[1], corner + QPointF(size.x(), 0)) &&
+           isNear(cell.corners[2], corner + QPointF(0, size.y())) &&
+           isNear(cell.corners[3], corner + size);
+}
+
+/// The pixel of the level that is copied to the upper left of a square.
+QPoint firstOf(const MappedCell& cell)
+{
+    return {static_cast<int>(std::floor(cell.corners[0].x() + 0.5)),
+            static_cast<int>(std::floor(cell.corners[0].y() + 0.5))};
 }
 
 Piece pieceOf(const RasterInfo& info, const MappedCell& cell)
@@ -65,11 +82,15 @@ Piece pieceOf(const RasterInfo& info, const MappedCell& cell)
     for (QPointF& corner : piece.cell.corners)
         corner = {corner.x() * scaleX, corner.y() * scaleY};
     piece.cell.step *= std::sqrt(scaleX * scaleY);
-    if (piece.cell.step > kSinglePixels && !isCopy(piece.cell.corners, cell.area.width()))
+    piece.isCopy = isCopy(piece.cell);
+    const double step = piece.cell.step;
+    if (step > kSinglePixels && std::abs(step - 1) > kNearlyOne)
         piece.sampling = RasterPatch::Sampling::Bilinear;
-    const QRectF all(QPointF(-kMargin, -kMargin), QSizeF(size) + QSizeF(2 * kMargin, 2 * kMargin));
-    piece.patch = (piece.cell.footprint().adjusted(-kMargin, -kMargin, kMargin, kMargin) & all)
-                      .toAlignedRect();
+    const int margin = piece.isCopy ? 0 : kMargin;
+    const QRectF all(QPointF(-margin, -margin), QSizeF(size) + QSizeF(2 * margin, 2 * margin));
+    const QRectF wanted = piece.isCopy ? QRectF(QRect(firstOf(piece.cell), cell.area.size()))
+                                       : piece.cell.footprint();
+    piece.patch = (wanted.adjusted(-margin, -margin, margin, margin) & all).toAlignedRect();
     return piece;
 }
 
@@ -109,25 +130,33 @@ public:
             return false;
         m_blocks.want(wanted);
         for (const RasterBlockId& id : wanted) {
-            QImage block = m_blocks.block(id);
             if (m_view.isCancelled())
                 return false;
+            QImage block = m_blocks.block(id);
             m_isComplete = m_isComplete && !block.isNull();
             m_held.emplace(keyOf(id), std::move(block));
         }
-        return true;
+        return !m_view.isCancelled();
     }
 
     /// \returns false when the view was cancelled
     bool draw(QPainter& painter)
     {
-        for (const Piece& piece : m_pieces) {
-            if (m_view.isCancelled())
-                return false;
-            fillPatch(piece);
-            drawPiece(piece, painter);
-        }
-        return true;
+        std::atomic<std::size_t> next = 0;
+        const auto drawPieces = [&](int /*thread*/) {
+            RasterPatch patch;
+            QImage picture;
+            for (std::size_t i = next++; i < m_pieces.size(); i = next++) {
+                if (m_view.isCancelled())
+                    return;
+                drawPiece(m_pieces[i], patch, picture, painter);
+            }
+        };
+        if (m_pieces.size() >= kLeastForTwo)
+            onTwoThreads(drawPieces);
+        else
+            drawPieces(0);
+        return !m_view.isCancelled();
     }
 
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
@@ -166,28 +195,65 @@ private:
         return ids;
     }
 
-    void fillPatch(const Piece& piece)
+    void drawPiece(const Piece& piece, RasterPatch& patch, QImage& picture, QPainter& painter)
+    {
+        const bool isMissing = isPartMissing(piece);
+        if (piece.isCopy && !isMissing) {
+            const std::lock_guard lock(m_mutex);
+            copyBlocks(piece, painter);
+            return;
+        }
+        fillPatch(piece, isMissing, patch);
+        const QSize size = piece.cell.area.size();
+        if (picture.size() != size)
+            picture = QImage(size, QImage::Format_ARGB32_Premultiplied);
+        const bool isFull = patch.sample(piece.cell.corners, piece.sampling, picture);
+        picture.reinterpretAsFormat(isFull && patch.isOpaque()
+                                        ? QImage::Format_RGB32
+                                        : QImage::Format_ARGB32_Premultiplied);
+        const std::lock_guard lock(m_mutex);
+        painter.drawImage(piece.cell.area.topLeft(), picture);
+    }
+
+    [[nodiscard]] bool isPartMissing(const Piece& piece) const
+    {
+        bool isMissing = false;
+        forEachBlock(m_info.levels[piece.level], piece.level, piece.patch,
+                     [&](const RasterBlockId& id, const QRect& /*place*/) {
+                         isMissing = isMissing || m_held.at(keyOf(id)).isNull();
+                     });
+        return isMissing;
+    }
+
+    void copyBlocks(const Piece& piece, QPainter& painter) const
+    {
+        const QPoint first = firstOf(piece.cell);
+        const QRect wanted(first, piece.cell.area.size());
+        forEachBlock(m_info.levels[piece.level], piece.level, wanted,
+                     [&](const RasterBlockId& id, const QRect& place) {
+                         const QRect part = wanted & place;
+                         painter.drawImage(piece.cell.area.topLeft() + part.topLeft() - first,
+                                           m_held.at(keyOf(id)), part.translated(-place.topLeft()));
+                     });
+    }
+
+    void fillPatch(const Piece& piece, bool isMissing, RasterPatch& patch)
     {
         const RasterLevel& level = m_info.levels[piece.level];
-        bool isMissing = false;
-        forEachBlock(level, piece.level, piece.patch,
-                     [&](const RasterBlockId& id, const QRect& /*place*/) {
-                         isMissing = isMissing || m_held[keyOf(id)].isNull();
-                     });
-        m_patch.start(piece.patch, level.size, isMissing);
+        patch.start(piece.patch, level.size, isMissing);
         if (isMissing)
-            addSubstitutes(piece);
+            addSubstitutes(piece, patch);
         forEachBlock(level, piece.level, piece.patch,
                      [&](const RasterBlockId& id, const QRect& place) {
-                         const QImage& block = m_held[keyOf(id)];
-                         if (!block.isNull() && !m_patch.takeWhole(block, place))
-                             m_patch.add(block, place);
+                         const QImage& block = m_held.at(keyOf(id));
+                         if (!block.isNull() && !patch.takeWhole(block, place))
+                             patch.add(block, place);
                      });
-        m_patch.finish();
+        patch.finish();
     }
 
     /// From the coarsest to the finest, so that the best there is comes last.
-    void addSubstitutes(const Piece& piece)
+    void addSubstitutes(const Piece& piece, RasterPatch& patch)
     {
         const QSize size = m_info.levels[piece.level].size;
         for (std::size_t number = m_info.levels.size() - 1; number > piece.level; --number) {
@@ -200,29 +266,18 @@ private:
                          [&](const RasterBlockId& id, const QRect& place) {
                              const QImage block = substitute(id);
                              if (!block.isNull())
-                                 m_patch.addStretched(block, place, level.size);
+                                 patch.addStretched(block, place, level.size);
                          });
         }
     }
 
     QImage substitute(const RasterBlockId& id)
     {
+        const std::lock_guard lock(m_mutex);
         const auto [found, isNew] = m_substitutes.try_emplace(keyOf(id));
         if (isNew)
             found->second = m_blocks.substitute(id);
         return found->second;
-    }
-
-    void drawPiece(const Piece& piece, QPainter& painter)
-    {
-        const QRect& area = piece.cell.area;
-        if (m_picture.size() != area.size())
-            m_picture = QImage(area.size(), QImage::Format_ARGB32_Premultiplied);
-        const bool isFull = m_patch.sample(piece.cell.corners, piece.sampling, m_picture);
-        const bool isOpaque = isFull && m_patch.isOpaque();
-        m_picture.reinterpretAsFormat(isOpaque ? QImage::Format_RGB32
-                                               : QImage::Format_ARGB32_Premultiplied);
-        painter.drawImage(area.topLeft(), m_picture);
     }
 
     const RasterView& m_view;
@@ -232,8 +287,7 @@ private:
     std::unordered_map<Key, QImage> m_held; ///< null where a block is missing
     std::unordered_map<Key, QImage> m_substitutes;
     bool m_isComplete = true;
-    RasterPatch m_patch;
-    QImage m_picture; ///< of one piece
+    std::mutex m_mutex; ///< guards the painter and the substitutes while two threads draw
 };
 
 } // namespace

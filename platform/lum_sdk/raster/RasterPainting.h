@@ -25,18 +25,17 @@ class IRasterBlocks
 public:
     virtual ~IRasterBlocks() = default;
 
-    /// The blocks that a picture needs, nearest to its centre first, told before any of them is
-    /// asked for. Those wanted for an earlier picture are no longer wanted.
+    /// The blocks that a picture needs, nearest to its centre first. Told once, before any of them
+    /// is asked for; those of an earlier picture are no longer wanted.
     virtual void want(const std::vector<RasterBlockId>& /*ids*/) {}
 
-    /// A block that the picture needs. Called in the order of `want`, once for each, until the view
+    /// A block that the picture needs. Asked once for each, in the order of `want`, until the view
     /// is cancelled.
-    /// \returns null when it is not there yet; `painted` then says that something is missing. A
-    /// block
-    ///          that will never come is not null but transparent.
+    /// \returns null when it is not there yet; a block that will never come is transparent instead
     [[nodiscard]] virtual QImage block(const RasterBlockId& id) = 0;
 
-    /// A coarser block to show instead of a missing one, only when it costs next to nothing.
+    /// A coarser block to show instead of a missing one, only when it costs next to nothing. Asked
+    /// by one of two threads at a time.
     [[nodiscard]] virtual QImage substitute(const RasterBlockId& id) = 0;
 };
 
@@ -49,9 +48,10 @@ enum class RasterPainted
 };
 
 /// Paints a raster, one square of `mapScreen` after the other. Each takes the level that has about
-/// a pixel for each device pixel. Bilinear between pixels, except where they are copied one to one
-/// or are shown at twice their size and more: there single pixels are seen. \param painter  in
-/// screen pixels, as a layer gets it \param opacity  0 to 1
+/// a pixel for each device pixel. Pixels are mixed bilinearly, except where they fall one to one,
+/// and from twice their size on, where single pixels are seen.
+/// \param painter  in screen pixels, as a layer gets it
+/// \param opacity  0 to 1
 RasterPainted paintRaster(const RasterView& view, const RasterPlace& place, IRasterBlocks& blocks,
                           QPainter& painter, double opacity = 1);
 

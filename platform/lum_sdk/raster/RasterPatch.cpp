@@ -1,15 +1,13 @@
 #include "lum_sdk/raster/RasterPatch.h"
 
+#include "lum_sdk/raster/PixelWalk.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace lum {
 
 namespace {
-
-// Positions within a patch are whole numbers of this part of a pixel.
-constexpr int kShift = 16;
-constexpr double kOne = 1 << kShift;
 
 const QRgb* lineOf(const QImage& image, int line)
 {
@@ -19,16 +17,6 @@ const QRgb* lineOf(const QImage& image, int line)
 bool isOpaque(const QImage& image)
 {
     return image.format() == QImage::Format_RGB32;
-}
-
-/// Mixes four channels at once; `share` of 256 is `b` alone.
-QRgb mixed(QRgb a, QRgb b, quint32 share)
-{
-    constexpr quint32 kEven = 0x00ff00ffU;
-    const quint32 rest = 256 - share;
-    const quint32 even = (((a & kEven) * rest + (b & kEven) * share) >> 8U) & kEven;
-    const quint32 odd = ((a >> 8U) & kEven) * rest + ((b >> 8U) & kEven) * share;
-    return even | (odd & ~kEven);
 }
 
 /// The part [first, last) of a line of `count` places `start`, `start + step`, ... that lies within
@@ -132,51 +120,47 @@ void RasterPatch::finish()
 bool RasterPatch::sample(const std::array<QPointF, 4>& corners, Sampling sampling,
                          QImage& image) const
 {
-    return sampling == Sampling::Bilinear ? sampleLines<Sampling::Bilinear>(corners, image)
-                                          : sampleLines<Sampling::Nearest>(corners, image);
-}
-
-template <RasterPatch::Sampling sampling>
-bool RasterPatch::sampleLines(const std::array<QPointF, 4>& corners, QImage& image) const
-{
-    // Bilinear, a pixel's colour belongs to its centre.
-    constexpr double kCentre = sampling == Sampling::Bilinear ? 0.5 : 0;
-    const int side = image.width();
     bool isFull = true;
     for (int y = 0; y < image.height(); ++y) {
         const double down = (y + 0.5) / image.height();
         const QPointF left = corners[0] + (corners[2] - corners[0]) * down;
         const QPointF right = corners[1] + (corners[3] - corners[1]) * down;
-        const QPointF step = (right - left) / side;
-        const QPointF start = left + step / 2;
-        int first = 0;
-        int last = side;
-        cutTo(start.x(), step.x(), m_level.width(), first, last);
-        cutTo(start.y(), step.y(), m_level.height(), first, last);
-        last = std::max(first, last);
-        isFull = isFull && first == 0 && last == side;
-
-        auto* const out = reinterpret_cast<QRgb*>(image.scanLine(y)); // NOLINT(*-reinterpret-cast)
-        std::fill(out, out + first, 0);
-        std::fill(out + last, out + side, 0);
-        const QPointF from = start + step * first - m_area.topLeft() - QPointF(kCentre, kCentre);
-        auto u = static_cast<qint32>(std::floor(from.x() * kOne));
-        auto v = static_cast<qint32>(std::floor(from.y() * kOne));
-        const auto du = static_cast<qint32>(std::lround(step.x() * kOne));
-        const auto dv = static_cast<qint32>(std::lround(step.y() * kOne));
-        for (int x = first; x < last; ++x, u += du, v += dv) {
-            const QRgb* const pixel = m_first + (v >> kShift) * m_stride + (u >> kShift);
-            if constexpr (sampling == Sampling::Bilinear) {
-                const quint32 shareX = (static_cast<quint32>(u) >> 8U) & 0xffU;
-                const quint32 shareY = (static_cast<quint32>(v) >> 8U) & 0xffU;
-                out[x] = mixed(mixed(pixel[0], pixel[1], shareX),
-                               mixed(pixel[m_stride], pixel[m_stride + 1], shareX), shareY);
-            } else {
-                out[x] = *pixel;
-            }
-        }
+        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y)); // NOLINT(*-reinterpret-cast)
+        isFull = sampleLine(left, right, sampling, std::span(line, std::size_t(image.width()))) &&
+                 isFull;
     }
     return isFull;
+}
+
+bool RasterPatch::sampleLine(const QPointF& left, const QPointF& right, Sampling sampling,
+                             std::span<QRgb> line) const
+{
+    const int length = static_cast<int>(line.size());
+    const QPointF step = (right - left) / length;
+    const QPointF start = left + step / 2;
+    int first = 0;
+    int last = length;
+    cutTo(start.x(), step.x(), m_level.width(), first, last);
+    cutTo(start.y(), step.y(), m_level.height(), first, last);
+    last = std::max(first, last);
+    std::fill(line.begin(), line.begin() + first, 0);
+    std::fill(line.begin() + last, line.end(), 0);
+
+    // Mixed, a pixel's colour belongs to its centre.
+    const double centre = sampling == Sampling::Bilinear ? 0.5 : 0;
+    const QPointF from = start + step * first - m_area.topLeft() - QPointF(centre, centre);
+    constexpr double kOne = 1 << PixelWalk::kShift;
+    const PixelWalk walk{m_first,
+                         m_stride,
+                         static_cast<int>(std::floor(from.x() * kOne)),
+                         static_cast<int>(std::floor(from.y() * kOne)),
+                         static_cast<int>(std::lround(step.x() * kOne)),
+                         static_cast<int>(std::lround(step.y() * kOne))};
+    if (sampling == Sampling::Bilinear)
+        mixPixels(walk, last - first, line.data() + first);
+    else
+        copyPixels(walk, last - first, line.data() + first);
+    return last - first == length;
 }
 
 } // namespace lum

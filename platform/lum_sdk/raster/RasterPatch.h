@@ -4,6 +4,7 @@
 #include <QRect>
 
 #include <array>
+#include <span>
 #include <vector>
 
 namespace lum {
@@ -38,15 +39,17 @@ public:
         Bilinear,
     };
 
-    /// Fills an image: `corners` are the places of its corners (upper left, upper right, lower
-    /// left, lower right) in pixels of the level, joined bilinearly. What lies beyond the level
-    /// becomes transparent. \returns whether all of it was filled
+    /// Fills an image. What lies beyond the level becomes transparent.
+    /// \param corners  the places of the image's corners in pixels of the level, joined bilinearly:
+    ///        upper left, upper right, lower left, lower right
+    /// \returns whether all of it was filled
     bool sample(const std::array<QPointF, 4>& corners, Sampling sampling, QImage& image) const;
 
 private:
     void allocate();
-    template <Sampling sampling>
-    bool sampleLines(const std::array<QPointF, 4>& corners, QImage& image) const;
+    /// \param left,right  the places of the line's ends
+    bool sampleLine(const QPointF& left, const QPointF& right, Sampling sampling,
+                    std::span<QRgb> line) const;
 
     QRect m_area;
     QRect m_level;

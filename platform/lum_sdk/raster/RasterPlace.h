@@ -26,8 +26,10 @@ class RasterWay;
 class RasterPlace
 {
 public:
-    /// Sets up the transformation, up to some 50 ms. \param info outlives this object
+    /// Sets up the transformation, which takes up to some 50 ms.
+    /// \param info  outlives this object
     RasterPlace(const RasterInfo& info, const IDictionary& system);
+    RasterPlace(RasterInfo&& info, const IDictionary& system) = delete;
     ~RasterPlace();
 
     [[nodiscard]] const RasterInfo& info() const { return m_info; }

@@ -19,6 +19,14 @@ int CPL_STDCALL goesOn(double /*share*/, const char* /*message*/, void* stop)
     return (*static_cast<const RasterStop*>(stop))() ? 0 : 1;
 }
 
+void stopBy(const RasterStop& stop, GDALRasterIOExtraArg& extra)
+{
+    if (!stop)
+        return;
+    extra.pfnProgress = goesOn;
+    extra.pProgressData = const_cast<RasterStop*>(&stop); // NOLINT(*-const-cast)
+}
+
 QSize sizeOf(GDALRasterBandH band)
 {
     return {GDALGetRasterBandXSize(band), GDALGetRasterBandYSize(band)};
@@ -105,6 +113,7 @@ RasterReader::RasterReader(GDALDatasetH dataset, const RasterLevels& levels) : m
     m_hasGaps = std::any_of(m_bands.begin(), m_bands.end(), [](const Band& band) {
         return band.noData.has_value() || !band.isByte; // a value that is no byte may be NaN
     });
+    m_isPlain = m_bands.size() == 3 && !m_hasGaps && !m_hasMask && m_alpha == 0;
 }
 
 void RasterReader::chooseBands(GDALDatasetH dataset)
@@ -165,7 +174,38 @@ void RasterReader::choosePalette(GDALRasterBandH band)
 QImage RasterReader::read(std::size_t level, const QRect& area, const RasterStop& stop)
 {
     const Piece piece{level, area, &stop};
+    if (m_isPlain && m_levels->all()[level].isStored)
+        return readWhole(piece);
     return m_palette.empty() ? readColors(piece) : readIndexes(piece);
+}
+
+QImage RasterReader::readWhole(const Piece& piece)
+{
+    std::array<int, 3> numbers{};
+    bool isOneDataset = true;
+    const GDALDatasetH dataset = GDALGetBandDataset(m_levels->band(piece.level, 1).band);
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const int number = m_bands[i].number;
+        numbers[i] = number;
+        isOneDataset =
+            isOneDataset && dataset != nullptr && number <= GDALGetRasterCount(dataset) &&
+            GDALGetRasterBand(dataset, number) == m_levels->band(piece.level, number).band;
+    }
+    if (!isOneDataset)
+        return readColors(piece);
+    QImage image(piece.area.size(), QImage::Format_RGB32);
+    if (image.isNull())
+        return image;
+    image.fill(Qt::black);
+    GDALRasterIOExtraArg extra;
+    INIT_RASTERIO_EXTRA_ARG(extra);
+    stopBy(*piece.stop, extra);
+    // In memory a pixel is blue, green, red, opaque.
+    const CPLErr result =
+        GDALDatasetRasterIOEx(dataset, GF_Read, piece.area.x(), piece.area.y(), image.width(),
+                              image.height(), image.bits() + 2, image.width(), image.height(),
+                              GDT_Byte, 3, numbers.data(), 4, image.bytesPerLine(), -1, &extra);
+    return result == CE_None ? image : QImage();
 }
 
 QImage RasterReader::readIndexes(const Piece& piece)
@@ -267,10 +307,7 @@ bool RasterReader::readPlane(const Piece& piece, const LevelBand& band, GDALData
     const QRect window =
         QRectF(extra.dfXOff, extra.dfYOff, extra.dfXSize, extra.dfYSize).toAlignedRect() &
         QRect(QPoint(0, 0), size);
-    if (*piece.stop) {
-        extra.pfnProgress = goesOn;
-        extra.pProgressData = const_cast<RasterStop*>(piece.stop); // NOLINT(*-const-cast)
-    }
+    stopBy(*piece.stop, extra);
     if (band.stepX > 1 && isUnwritten(band.band, window)) {
         fillUnwritten(band.band, type, values, countOf(area));
         return true;

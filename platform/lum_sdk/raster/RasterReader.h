@@ -39,6 +39,8 @@ private:
     [[nodiscard]] Band describe(GDALRasterBandH band, int number) const;
     void choosePalette(GDALRasterBandH band);
 
+    /// The same as `readColors` for what is plain, in one go.
+    [[nodiscard]] QImage readWhole(const Piece& piece);
     [[nodiscard]] QImage readColors(const Piece& piece);
     [[nodiscard]] QImage readIndexes(const Piece& piece);
     [[nodiscard]] bool readBytes(const Piece& piece, Band& band, std::vector<uchar>& bytes,
@@ -57,6 +59,7 @@ private:
     double m_alphaMax = 255; ///< its value for opaque
     bool m_hasMask = false;
     bool m_hasGaps = false; ///< some values mean "no data"
+    bool m_isPlain = false; ///< three bands of bytes, all opaque
 };
 
 } // namespace lum

@@ -19,16 +19,19 @@ struct MappedCell
     /// Raster pixels to a device pixel, the root of how their areas relate.
     double step = 0;
 
+    /// The place in the raster of a point of the area, device pixels.
+    [[nodiscard]] QPointF at(double x, double y) const;
     /// The rectangle around the corners.
     [[nodiscard]] QRectF footprint() const;
 };
 
-/// The parts of a picture that a raster covers, from the upper left to the lower right.
+/// The parts of a picture that a raster covers, as squares of at most 64 pixels.
 ///
-/// The picture is cut into squares of 64 pixels, whose corners and the middles of whose sides are
-/// transformed exactly. A square that is not exact enough is quartered, down to single pixels: near
-/// the poles, along the date line, at the edge of a projection. Squares without an answer, and
-/// those beside the raster, are left out. A cancelled view gives what was found until then.
+/// The corners of a square, the middles of its sides and its centre are transformed exactly. Where
+/// the way is all but straight this is done for 512 pixels at once. A square that is not exact
+/// enough is quartered, down to single pixels: near the poles, along the date line, at the edge of
+/// a projection. Squares without an answer, and those beside the raster, are left out. A cancelled
+/// view gives what was found until then.
 [[nodiscard]] std::vector<MappedCell> mapScreen(const RasterView& view, const RasterPlace& place);
 
 } // namespace lum

@@ -205,6 +205,43 @@ private Q_SLOTS:
         QCOMPARE(pictures.count(), 1); // the cancelled picture was not shown
     }
 
+    void aRestIsPaintedLaterWithTwiceTheTime()
+    {
+        std::vector<double> timesMs; // read only when the map is up to date
+        ProbeLayer::onPaint = [&](const PaintTarget& target) {
+            const auto left = target.deadline - std::chrono::steady_clock::now();
+            timesMs.push_back(std::chrono::duration<double, std::milli>(left).count());
+            if (timesMs.size() < 4)
+                target.leaveRest();
+        };
+        QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
+        addLayer("layer_name=a,x=200,y=150");
+        QCOMPARE(settledPicture().pixelColor(200, 150), QColor(Qt::blue));
+        QCOMPARE(pictures.count(), 4); // each is shown
+        QCOMPARE(timesMs.size(), std::size_t(4));
+        for (std::size_t i = 1; i < timesMs.size(); ++i)
+            QVERIFY2(std::abs(timesMs[i] / timesMs[i - 1] - 2) < 0.5, "not twice the time");
+    }
+
+    void aNewerViewEndsTheRest()
+    {
+        std::atomic<int> painted = 0;
+        ProbeLayer::onPaint = [&](const PaintTarget& target) {
+            ++painted;
+            QThread::msleep(1);
+            if (target.transform.GetScale() == 1)
+                target.leaveRest(); // for ever
+        };
+        addLayer("layer_name=a,x=200,y=150");
+        QTRY_VERIFY(painted > 3);
+        QVERIFY(!m_map->isUpToDate());
+        m_map->zoomAbout(200, 150, 2);
+        QCOMPARE(settledPicture().pixelColor(200, 150), QColor(Qt::blue));
+        const int atEnd = painted;
+        QTest::qWait(20);
+        QCOMPARE(painted.load(), atEnd);
+    }
+
     void longDragStillGetsPictures()
     {
         addLayer("layer_name=a,x=200,y=150");

@@ -157,16 +157,10 @@ std::vector<QPointF> mappedPixels(const lum::RasterView& view, const lum::Raster
     std::vector<QPointF> found(std::size_t(size.width()) * std::size_t(size.height()),
                                {std::nan(""), std::nan("")});
     for (const lum::MappedCell& cell : lum::mapScreen(view, place)) {
-        const auto& c = cell.corners;
         const QRect shown = cell.area & QRect(QPoint(0, 0), size);
         for (int y = shown.top(); y <= shown.bottom(); ++y) {
-            for (int x = shown.left(); x <= shown.right(); ++x) {
-                const double across = (x + 0.5 - cell.area.x()) / cell.area.width();
-                const double down = (y + 0.5 - cell.area.y()) / cell.area.height();
-                const QPointF above = c[0] + (c[1] - c[0]) * across;
-                const QPointF below = c[2] + (c[3] - c[2]) * across;
-                found[std::size_t(y * size.width() + x)] = above + (below - above) * down;
-            }
+            for (int x = shown.left(); x <= shown.right(); ++x)
+                found[std::size_t(y * size.width() + x)] = cell.at(x + 0.5, y + 0.5);
         }
     }
     return found;
@@ -250,3 +244,87 @@ INSTANTIATE_TEST_SUITE_P(
         Systems{"NorthPole", "32661", 3857, 12000, kLarge, kWorldMercator, QPointF(2e6, 2e6)},
         Systems{"OtherTurn", "32650", 4326, 2000, kFlat, kDegreesFrom0, QPointF(500000, 4400000)}),
     [](const auto& test) { return test.param.name; });
+
+// --- datums ---
+
+namespace {
+
+/// A system like UTM zone 20 of Beijing 1954, with a shift that only the office knows.
+basalt::Dictionary localSystem(double shiftX)
+{
+    basalt::Dictionary system = systemOf("21420");
+    for (const char* key : {"_7rx", "_7ry", "_7rz", "_7ppm"})
+        system.set(key, "0");
+    system.set("_7type", "1");
+    dic_set_value(system, "_7dx", shiftX);
+    system.set("_7dy", "140");
+    system.set("_7dz", "80");
+    return system;
+}
+
+lum::RasterInfo rasterOf(int epsg, const QPointF& corner, double pixel)
+{
+    return infoOf({"", "", epsg, 1, {1000, 1000}, {corner.x(), pixel, 0, corner.y(), 0, -pixel}});
+}
+
+} // namespace
+
+TEST(RasterDatum, ARasterOnTheProjectsDatumIsNotMovedByTheProjectsOwnShift)
+{
+    const basalt::Dictionary system = localSystem(-30);
+    const lum::RasterInfo own = rasterOf(21420, {20500000, 4400000}, 1);
+    const lum::RasterPlace same(own, system);
+    EXPECT_TRUE(same.isAffine());
+    EXPECT_EQ(same.extent(), QRectF(20500000, 4399000, 1000, 1000));
+
+    // The neighbour zone lies on the datum, too: both places come from one geographic position.
+    const lum::RasterInfo info = rasterOf(21419, {19760000, 4400000}, 1);
+    const lum::RasterPlace neighbour(info, system);
+    EXPECT_FALSE(neighbour.isAffine());
+    const lum::ProjContext context = lum::makeProjContext();
+    const lum::ProjObject way(
+        proj_create_crs_to_crs(context.get(), "EPSG:21419", "EPSG:21420", nullptr));
+    const lum::ProjObject shown(proj_normalize_for_visualization(context.get(), way.get()));
+    const PJ_COORD exact = proj_trans(shown.get(), PJ_FWD, proj_coord(19760000, 4400000, 0, 0));
+    QPointF corner(0, 0);
+    neighbour.toMap({&corner, 1});
+    EXPECT_NEAR(corner.x(), exact.xy.x, 0.002);
+    EXPECT_NEAR(corner.y(), exact.xy.y, 0.002);
+}
+
+TEST(RasterDatum, TheProjectsShiftLeadsToRastersOnWgs84)
+{
+    const lum::RasterInfo info = rasterOf(4326, {117.001, 39.7}, 1e-5);
+    QPointF corner(0, 0);
+    lum::RasterPlace(info, localSystem(-30)).toMap({&corner, 1});
+    QPointF moved(0, 0);
+    lum::RasterPlace(info, localSystem(-130)).toMap({&moved, 1});
+    // 100 m along the earth's X are sin(117 deg) of it to the east or west here, and
+    // sin(39.7 deg) cos(117 deg) to the north or south.
+    EXPECT_NEAR(std::abs(corner.x() - moved.x()), 89.1, 0.5);
+    EXPECT_NEAR(std::abs(corner.y() - moved.y()), 29.0, 0.5);
+}
+
+TEST(RasterDatum, OtherDatumsOnTheSameEllipsoidAreToldApart)
+{
+    // PSAD56 and Campo Inchauspe, UTM zone 19S, both on the International ellipsoid of 1924.
+    const basalt::Dictionary system = systemOf("24879");
+    const lum::RasterInfo own = rasterOf(24879, {500000, 6000000}, 1);
+    EXPECT_TRUE(lum::RasterPlace(own, system).isAffine());
+    const lum::RasterInfo other = rasterOf(2315, {500000, 6000000}, 1);
+    const lum::RasterPlace place(other, system);
+    EXPECT_FALSE(place.isAffine());
+    const QPointF gap = place.extent().topLeft() - QPointF(500000, 5999000);
+    EXPECT_GT(std::hypot(gap.x(), gap.y()), 200);
+}
+
+TEST(RasterDatum, WithoutASystemOfEitherTheCoordinatesAreTheProjects)
+{
+    lum::RasterInfo info = rasterOf(32651, {500000, 4400000}, 1);
+    EXPECT_EQ(lum::RasterPlace(info, basalt::Dictionary()).extent(),
+              QRectF(500000, 4399000, 1000, 1000));
+    info.wkt.clear();
+    EXPECT_TRUE(lum::RasterPlace(info, systemOf("32650")).isAffine());
+    basalt::Dictionary south = systemOf("2053"); // axes to the south and to the west
+    EXPECT_EQ(lum::RasterPlace(info, south).extent(), QRectF(-501000, -4400000, 1000, 1000));
+}
