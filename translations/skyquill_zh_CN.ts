@@ -77,6 +77,164 @@
     </message>
 </context>
 <context>
+    <name>BaseMap</name>
+    <message>
+        <source>A base map needs a name.</source>
+        <translation>底图需要名称。</translation>
+    </message>
+    <message>
+        <source>A base map needs the text that tells whose map it is.</source>
+        <translation>底图需要来源说明。</translation>
+    </message>
+    <message>
+        <source>Tiles of %1 pixels cannot be shown: 64 to 2048 are possible.</source>
+        <translation>无法显示 %1 像素的瓦片，可用 64 至 2048 像素。</translation>
+    </message>
+    <message>
+        <source>The zoom limits %1 and %2 make no range within 0 to %3.</source>
+        <translation>缩放级别 %1 和 %2 不构成 0 至 %3 内的范围。</translation>
+    </message>
+    <message>
+        <source>The greatest zoom %1 is too large for tiles of %2 pixels.</source>
+        <translation>对 %2 像素的瓦片来说，最大缩放级别 %1 过大。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapAddress</name>
+    <message>
+        <source>The address holds &quot;%1&quot;, whose meaning is not known.</source>
+        <translation>地址中的“%1”含义不明。</translation>
+    </message>
+    <message>
+        <source>The address has no &quot;{%1}&quot;: it must say where zoom {z}, column {x} and row {y} of a tile stand.</source>
+        <translation>地址中没有“{%1}”：必须注明瓦片的级别 {z}、列 {x} 和行 {y} 的位置。</translation>
+    </message>
+    <message>
+        <source>The service is asked for the coordinate system &quot;%1&quot;; a base map must be in EPSG:3857 or in a geographic system.</source>
+        <translation>所请求的坐标系为“%1”；底图须采用 EPSG:3857 或地理坐标系。</translation>
+    </message>
+    <message>
+        <source>The address names no layer of the service: &quot;LAYERS=...&quot; is missing.</source>
+        <translation>地址未指明服务的图层：缺少“LAYERS=...”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a web address nor a file.</source>
+        <translation>“%1”既不是网址也不是文件。</translation>
+    </message>
+    <message>
+        <source>There is no address.</source>
+        <translation>没有地址。</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>文件“%1”不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapForm</name>
+    <message>
+        <source>&amp;Keep tiles on this computer</source>
+        <translation>在本机保留瓦片(&amp;K)</translation>
+    </message>
+    <message>
+        <source>{x}, {y} and {z} stand for the place of a tile, {-y} for rows that are counted from the south. Also the address of a WMS or WMTS service, or a file such as MBTiles.</source>
+        <translation>{x}、{y} 和 {z} 表示瓦片的位置，{-y} 表示从南往北计数的行。也可以是 WMS 或 WMTS 服务的地址，或 MBTiles 之类的文件。</translation>
+    </message>
+    <message>
+        <source>Whose map it is, as its terms want it: it stands on the map</source>
+        <translation>按使用条款注明的地图来源，会写在地图上</translation>
+    </message>
+    <message>
+        <source>As the terms of the service allow</source>
+        <translation>以服务的使用条款为准</translation>
+    </message>
+    <message>
+        <source>The service learns which part of the world is looked at</source>
+        <translation>该服务会知道正在查看的地区</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>K&amp;ind:</source>
+        <translation>类型(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>A&amp;ddress or file:</source>
+        <translation>地址或文件(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>A&amp;ttribution:</source>
+        <translation>来源说明(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom levels:</source>
+        <translation>缩放级别(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>Til&amp;e size:</source>
+        <translation>瓦片大小(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>至</translation>
+    </message>
+    <message>
+        <source>Road map</source>
+        <translation>平面地图</translation>
+    </message>
+    <message>
+        <source>Satellite map</source>
+        <translation>卫星地图</translation>
+    </message>
+    <message>
+        <source>Terrain map</source>
+        <translation>山地地图</translation>
+    </message>
+    <message>
+        <source>Base Map File</source>
+        <translation>底图文件</translation>
+    </message>
+    <message>
+        <source>map files</source>
+        <translation>地图文件</translation>
+    </message>
+    <message>
+        <source>all files</source>
+        <translation>所有文件</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapKindCommand</name>
+    <message>
+        <source>The list holds no such base map. Map &gt; Base Map &gt; Manage adds one.</source>
+        <translation>列表中没有这种底图，可在“地图 &gt; 底图 &gt; 管理”中添加。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapList</name>
+    <message>
+        <source>The list of base maps &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取底图列表“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapSwitch</name>
+    <message>
+        <source>Base map: %1.</source>
+        <translation>底图：%1。</translation>
+    </message>
+    <message>
+        <source>Base map: %1, from %2.</source>
+        <translation>底图：%1，来自 %2。</translation>
+    </message>
+</context>
+<context>
     <name>CheckKinds</name>
     <message>
         <source>Quality Check: %1 of %2 results with faults, %3 in all</source>
@@ -1365,6 +1523,93 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgBaseMaps</name>
+    <message>
+        <source>Base Maps</source>
+        <translation>底图</translation>
+    </message>
+    <message>
+        <source>OK writes a new one and keeps the old one beside it.</source>
+        <translation>按“确定”会写入新列表，并在旁边保留原文件。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Add a base map of your own</source>
+        <translation>添加自己的底图</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove a base map of your own; an installed one is only hidden, by its check mark</source>
+        <translation>移除自己的底图；预装的底图只能取消勾选来隐藏</translation>
+    </message>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>恢复(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Make it as it was installed</source>
+        <translation>恢复为预装时的设置</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>At &amp;most:</source>
+        <translation>上限(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清除(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Delete the tiles; they are fetched again when needed</source>
+        <translation>删除瓦片，需要时会重新获取</translation>
+    </message>
+    <message>
+        <source>&amp;Show on Map</source>
+        <translation>在地图上显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Keep the list, and show this base map</source>
+        <translation>保存列表并显示此底图</translation>
+    </message>
+    <message>
+        <source>Another base map has this name.</source>
+        <translation>已有同名的底图。</translation>
+    </message>
+    <message>
+        <source>New base map</source>
+        <translation>新底图</translation>
+    </message>
+    <message>
+        <source>New base map %1</source>
+        <translation>新底图 %1</translation>
+    </message>
+    <message>
+        <source>Tiles kept on this computer: %1 MB</source>
+        <translation>本机保留的瓦片：%1 MB</translation>
+    </message>
+    <message>
+        <source>The list cannot be saved. It holds until the program ends.</source>
+        <translation>无法保存列表，它只在程序退出前有效。</translation>
+    </message>
+</context>
+<context>
     <name>DlgCoordCompare</name>
     <message>
         <source>&amp;Copy</source>
@@ -1587,6 +1832,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgItemProperties</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>%1 的属性</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>DlgNewProject</name>
     <message>
         <source>New Project</source>
@@ -1595,6 +1851,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The project will be in &quot;%1&quot;.</source>
         <translation>工程将保存在“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DlgOverviews</name>
+    <message>
+        <source>Building Overviews</source>
+        <translation>正在建立概览图</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Images waiting: %1</source>
+        <translation>等待中的图像：%1</translation>
     </message>
 </context>
 <context>
@@ -2373,6 +2644,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>LayerWindow</name>
+    <message>
+        <source>&amp;Opacity</source>
+        <translation>不透明度(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Item</source>
+        <translation>缩放至此项(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Move Item &amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move Item &amp;Down</source>
+        <translation>下移(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Item</source>
+        <translation>移除此项(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Item &amp;Properties</source>
+        <translation>属性(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was removed from the map. Its file stays as it is.</source>
+        <translation>“%1”已从地图移除，其文件保持不变。</translation>
+    </message>
+</context>
+<context>
     <name>LineTree</name>
     <message>
         <source>Search</source>
@@ -2385,6 +2687,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Collapse All</source>
         <translation>全部折叠</translation>
+    </message>
+</context>
+<context>
+    <name>LoadOnlineMapCommand</name>
+    <message>
+        <source>close online map</source>
+        <translation>关闭在线地图</translation>
+    </message>
+    <message>
+        <source>show online map</source>
+        <translation>显示在线地图</translation>
     </message>
 </context>
 <context>
@@ -2440,6 +2753,149 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Open Project</source>
         <translation>打开工程</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayTexts</name>
+    <message>
+        <source>Large images without overviews, which take long to show as a whole: %1.</source>
+        <translation>没有概览图的大图像（整体显示较慢）：%1。</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>%1 x %2 %3 a pixel</source>
+        <translation>每像素 %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source> (no data: %1)</source>
+        <translation>（无数据值：%1）</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>outside the coordinate system of the project</source>
+        <translation>在工程坐标系范围之外</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Choose Overlay Images</source>
+        <translation>选择叠加图像</translation>
+    </message>
+    <message>
+        <source>georeferenced images</source>
+        <translation>带地理坐标的图像</translation>
+    </message>
+    <message>
+        <source>all files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>&amp;Build Overviews</source>
+        <translation>建立概览图(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Find Its File...</source>
+        <translation>查找其文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>An overlay image is shown with the survey of a project: open or create a project first.</source>
+        <translation>叠加图像随工程一起显示：请先打开或新建工程。</translation>
+    </message>
+    <message>
+        <source>Overlay images added: %1.</source>
+        <translation>已添加叠加图像：%1。</translation>
+    </message>
+    <message>
+        <source>Beside the survey: a double click in the window &quot;Layers&quot; goes there.</source>
+        <translation>位于测区之外：在“图层”窗口中双击可转到该处。</translation>
+    </message>
+    <message>
+        <source>Images that cannot be shown: %1.</source>
+        <translation>无法显示的图像：%1。</translation>
+    </message>
+    <message>
+        <source>Overlay image: %1</source>
+        <translation>叠加图像：%1</translation>
+    </message>
+    <message>
+        <source>Overlay images with a fault: %1. The window &quot;Layers&quot; marks them.</source>
+        <translation>有问题的叠加图像：%1。“图层”窗口中已标出。</translation>
+    </message>
+    <message>
+        <source>Build the overviews now, in files beside the images? You can go on working meanwhile.</source>
+        <translation>现在在图像旁建立概览图文件吗？期间可继续工作。</translation>
+    </message>
+    <message>
+        <source>They cannot be built, since the folder cannot be written.</source>
+        <translation>无法建立，因为文件夹不可写。</translation>
+    </message>
+    <message>
+        <source>The overviews were not built.</source>
+        <translation>未建立概览图。</translation>
+    </message>
+    <message>
+        <source>The overviews of &quot;%1&quot; are built.</source>
+        <translation>“%1”的概览图已建立。</translation>
+    </message>
+    <message>
+        <source>Cancelled: &quot;%1&quot; stays without overviews.</source>
+        <translation>已取消：“%1”仍没有概览图。</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 像素</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>none; taken for that of the project</source>
+        <translation>无；视为工程的坐标系</translation>
+    </message>
+    <message>
+        <source>Place in the project</source>
+        <translation>在工程中的位置</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>波段</translation>
+    </message>
+    <message>
+        <source>Overviews</source>
+        <translation>概览图</translation>
     </message>
 </context>
 <context>
@@ -3615,6 +4071,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>not enough memory for its pixels</source>
         <translation>内存不足，无法存放其像素</translation>
+    </message>
+    <message>
+        <source>The overviews of &quot;%1&quot; cannot be built: %2</source>
+        <translation>无法为“%1”建立概览图：%2</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written.</source>
+        <translation>无法写入文件夹“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>RasterLayerImp</name>
+    <message>
+        <source>The base map &quot;%1&quot; is complete again.</source>
+        <translation>底图“%1”已恢复完整。</translation>
     </message>
 </context>
 <context>
@@ -5781,6 +6252,36 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Selected: %1</source>
         <translation>已选：%1</translation>
+    </message>
+</context>
+<context>
+    <name>TileCache</name>
+    <message>
+        <source>%1 tiles in &quot;%2&quot; cannot be removed.</source>
+        <translation>“%2”中有 %1 个瓦片无法删除。</translation>
+    </message>
+</context>
+<context>
+    <name>TileImage</name>
+    <message>
+        <source>The base map &quot;%1&quot; has no tiles here.</source>
+        <translation>底图“%1”在此处没有瓦片。</translation>
+    </message>
+    <message>
+        <source>The base map &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取底图“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The base map &quot;%1&quot; cannot be reached, %2 does not answer; it is tried again.</source>
+        <translation>无法连接底图“%1”，%2 没有应答；将会重试。</translation>
+    </message>
+    <message>
+        <source>%2 refuses the tiles of the base map &quot;%1&quot; (HTTP status %3); it is tried again.</source>
+        <translation>%2 拒绝提供底图“%1”的瓦片（HTTP 状态 %3）；将会重试。</translation>
+    </message>
+    <message>
+        <source>%2 answers with errors instead of tiles of the base map &quot;%1&quot;; it is tried again.</source>
+        <translation>%2 对底图“%1”的瓦片返回错误；将会重试。</translation>
     </message>
 </context>
 <context>
