@@ -223,8 +223,7 @@ void MapWindow::startPaint()
 
 bool MapWindow::isUpToDate() const
 {
-    return !m_isContentStale && !m_isRedrawDue && !m_paintTimer.isActive() &&
-           !m_painter.isAtWork();
+    return !m_isContentStale && !m_isRedrawDue && !m_paintTimer.isActive() && !m_painter.isAtWork();
 }
 
 MapPaintJob MapWindow::makeJob()
