@@ -2,11 +2,13 @@
 
 #include "basalt_utilities/ILogger.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 constexpr std::chrono::milliseconds kFirstTime(60); // soon enough to seem immediate
+constexpr std::chrono::milliseconds kMostTime = std::chrono::hours(1);
 
 /// A null picture, and a line in the log, when painting fails as a whole. An exception must not
 /// leave the thread, which would end the program.
@@ -56,7 +58,7 @@ void MapPainter::run()
     while (std::optional<Request> request = takeRequest()) {
         auto time = kFirstTime;
         while (paint(*request, time) && !m_cancelled)
-            time *= 2;
+            time = std::min(2 * time, kMostTime);
     }
 }
 
@@ -65,7 +67,8 @@ bool MapPainter::paint(Request& request, std::chrono::milliseconds time)
     std::atomic<bool> hasRest = false;
     request.job.target.hasRest = &hasRest;
     request.job.target.deadline = std::chrono::steady_clock::now() + time;
-    handOver(request, paintedOrNull(request.job), hasRest);
+    const QImage picture = paintedOrNull(request.job);
+    handOver(request, picture, hasRest);
     return hasRest;
 }
 
