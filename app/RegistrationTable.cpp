@@ -11,6 +11,7 @@
 #include "exchange/ui/ExportCommands.h"
 #include "exchange/ui/ImportCommand.h"
 #include "lum_desktop_sdkx/Registration.h"
+#include "map/ui/BaseMapCommands.h"
 #include "map/ui/DataProcessLayerImp.h"
 #include "map/ui/DrawCommands.h"
 #include "map/ui/MouseModeCommands.h"
@@ -95,6 +96,11 @@ using namespace desktop::registration;
     command<PPKZoomOutCommand>          ("PPKZoomOutCommand",            "地图缩小"),
     command<PPKZoomAllCommand>          ("PPKZoomAllCommand",            "全图"),
     command<PPKZoomRectCommand>         ("PPKZoomRectCommand",           "局部矩形放大"),
+    command<LoadOnlineMapCommand>       ("LoadOnlineMapCommand",         "在线地图"),
+    command<LoadRoadMapCommand>         ("LoadRoadMapCommand",           "平面地图"),
+    command<LoadSatMapCommand>          ("LoadSatMapCommand",            "卫星地图"),
+    command<LoadTerrainMapCommand>      ("LoadTerrainMapCommand",        "山地地图"),
+    command<ManageBaseMapsCommand>      ("ManageBaseMapsCommand",        "管理底图"),
 };
 // clang-format on
 

@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/RasterTarget.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
@@ -208,6 +209,7 @@ void TifLayer::preparePaint()
         if (image->entry.isVisible && image->entry.opacity > 0 && image->raster->isUsable())
             shown.push_back(*image);
     }
+    layerpicture::setShown(m_properties, !shown.empty());
     const std::lock_guard lock(m_shownMutex);
     m_shown = std::move(shown);
 }

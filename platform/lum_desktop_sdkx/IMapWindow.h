@@ -46,6 +46,9 @@ public:
 
     /// Paints the layers anew.
     virtual void redraw() = 0;
+    /// The same, but after the paint that is running: for a layer whose picture comes bit by bit,
+    /// so that every bit is seen however long a paint takes.
+    virtual void redrawSoon() { redraw(); }
     virtual void refreshOverlay() = 0;
 
     [[nodiscard]] virtual const Transform& transform() const = 0;

@@ -1,8 +1,11 @@
 #include "lum_desktop_sdkx/map/MapPaintJob.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "lum_sdk/raster/Halo.h"
 
 #include <QPainter>
+
+#include <algorithm>
 
 namespace {
 
@@ -20,6 +23,37 @@ void logFault(const MapPaintJob& job, std::size_t layer, const std::string& reas
     basalt::logError("Layer \"" + name + "\" could not be painted: " + reason);
 }
 
+/// Paints the layers from `first` to before `end`.
+void paintLayers(const MapPaintJob& job, std::size_t first, std::size_t end, QImage& picture)
+{
+    for (std::size_t i = first; i < end; ++i) {
+        if (job.target.isCancelled())
+            break;
+        try {
+            paintLayer(*job.layers[i], job, picture);
+        } catch (const std::exception& fault) {
+            logFault(job, i, fault.what());
+        } catch (...) {
+            logFault(job, i, "unknown fault");
+        }
+    }
+}
+
+/// Paints the layers from `first` on, with a halo under them.
+void paintWithHalo(const MapPaintJob& job, std::size_t first, QImage& picture)
+{
+    QImage drawing(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    if (drawing.isNull()) {
+        paintLayers(job, first, job.layers.size(), picture);
+        return;
+    }
+    drawing.setDevicePixelRatio(job.target.pixelRatio);
+    drawing.fill(Qt::transparent);
+    paintLayers(job, first, job.layers.size(), drawing);
+    if (!job.target.isCancelled())
+        lum::drawWithHalo(picture, drawing, job.background);
+}
+
 } // namespace
 
 QImage paintPicture(const MapPaintJob& job)
@@ -32,17 +66,10 @@ QImage paintPicture(const MapPaintJob& job)
     }
     picture.setDevicePixelRatio(job.target.pixelRatio);
     picture.fill(job.background);
-    for (std::size_t i = 0; i < job.layers.size(); ++i) {
-        if (job.target.isCancelled())
-            break;
-        try {
-            paintLayer(*job.layers[i], job, picture);
-        } catch (const std::exception& fault) {
-            logFault(job, i, fault.what());
-        } catch (...) {
-            logFault(job, i, "unknown fault");
-        }
-    }
+    const std::size_t plain = std::min(job.layers.size(), job.firstOverPicture);
+    paintLayers(job, 0, plain, picture);
+    if (plain < job.layers.size())
+        paintWithHalo(job, plain, picture);
     return picture;
 }
 

@@ -3,6 +3,7 @@
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/map/NorthArrow.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
@@ -14,6 +15,7 @@
 #include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/SystemKeys.h"
+#include "lum_sdk/raster/Attribution.h"
 #include "lum_sdk/Text.h"
 
 #include <QApplication>
@@ -200,6 +202,14 @@ void MapWindow::redraw()
     m_paintTimer.start(0);
 }
 
+void MapWindow::redrawSoon()
+{
+    if (m_painter.viewInWork())
+        m_isRedrawDue = true;
+    else
+        redraw();
+}
+
 void MapWindow::startPaint()
 {
     if (!isVisible())
@@ -213,7 +223,7 @@ void MapWindow::startPaint()
 
 bool MapWindow::isUpToDate() const
 {
-    return !m_isContentStale && !m_paintTimer.isActive() && !m_painter.isAtWork();
+    return !m_isContentStale && !m_isRedrawDue && !m_paintTimer.isActive() && !m_painter.isAtWork();
 }
 
 MapPaintJob MapWindow::makeJob()
@@ -226,6 +236,8 @@ MapPaintJob MapWindow::makeJob()
     for (ILayerViewer* layer : job.layers) {
         layer->preparePaint();
         job.layerNames.push_back(layer->GetName());
+        if (layerpicture::isShown(layer->GetProperties()))
+            job.firstOverPicture = job.layerNames.size();
     }
     job.background = palette().color(QPalette::Base);
     job.foreground = palette().color(QPalette::Text);
@@ -240,6 +252,8 @@ void MapWindow::showPicture(const QImage& picture, const Transform& view)
 {
     m_picture.set(picture, view);
     update();
+    if (!m_painter.viewInWork() && std::exchange(m_isRedrawDue, false))
+        redraw();
     if (!m_painter.viewInWork() && view != m_transform && !m_paintTimer.isActive())
         m_paintTimer.start(0);
     Q_EMIT pictureChanged();
@@ -272,8 +286,9 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
         m_overlays[number].draw(painter, m_transform);
     if (!m_host.hasDocument())
         return; // nothing here has a scale
-    drawScaleBar(painter, m_transform, lum::shownUnit());
+    const QRect bar = drawScaleBar(painter, m_transform, lum::shownUnit());
     drawNorthArrow(painter, m_transform);
+    lum::drawAttribution(painter, size(), m_layers.attributions(), bar);
 }
 
 void MapWindow::resizeEvent(QResizeEvent* /*event*/)

@@ -32,6 +32,8 @@ struct BaseMap
     int tileSize = 256;       ///< pixels, on a side
     QString attribution;      ///< must be readable on each picture of the map
     bool mayKeepTiles = true; ///< whether tiles may be kept on this machine's disk
+
+    friend bool operator==(const BaseMap&, const BaseMap&) = default;
 };
 
 constexpr int kGreatestZoom = 22; ///< of tiles of 256 pixels; one less when they are twice as large

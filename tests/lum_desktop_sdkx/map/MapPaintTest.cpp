@@ -1,4 +1,5 @@
 #include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapPicture.h"
@@ -134,6 +135,26 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(100, 50), kPaper); // not in the north
         QCOMPARE(picture.pixelColor(300, 250), kPaper);
         QCOMPARE(picture.pixelColor(50, 250), kPaper);
+    }
+
+    void aPictureOfTheGroundGetsAHaloOverIt()
+    {
+        ILayerViewer* const ground = addLayer("layer_name=ground,x=100,y=50,color=red");
+        addLayer("layer_name=data,x=107,y=50");
+        const QPoint beside(101, 250);
+        const QImage plain = settledPicture();
+        QCOMPARE(plain.pixelColor(beside), QColor(Qt::red));
+        const auto again = [this] {
+            m_map->redraw();
+            return settledPicture();
+        };
+        layerpicture::setShown(ground->GetProperties(), true);
+        const QImage withHalo = again();
+        QVERIFY(withHalo.pixelColor(beside).red() < 100);        // almost the paper
+        QCOMPARE(withHalo.pixelColor(98, 250), QColor(Qt::red)); // the picture itself has none
+        QCOMPARE(withHalo.pixelColor(102, 250), QColor(Qt::blue));
+        layerpicture::setShown(ground->GetProperties(), false);
+        QCOMPARE(again(), plain);
     }
 
     void lastPictureMovesWithTheViewAtOnce()
@@ -412,6 +433,42 @@ private Q_SLOTS:
             QCOMPARE(window.pixelColor(20, 41), QColor(kPaper));
             QCOMPARE(window.pixelColor(41, 20), QColor(kPaper));
         }
+    }
+
+    void sourcesAreNamedBesideTheScaleBarOrAboveIt()
+    {
+        const auto darkIn = [](const QImage& picture, const QRect& area) {
+            int count = 0;
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x)
+                    count += qGray(picture.pixel(x, y)) < 100 ? 1 : 0;
+            }
+            return count;
+        };
+        QPalette white;
+        white.setColor(QPalette::Base, Qt::white);
+        m_map->setPalette(white);
+        ILayerViewer* const layer = addLayer("layer_name=a,x=-99,y=-99");
+        for (const char* text :
+             {"© A", "© everybody who has ever drawn a line or a name of this map"}) {
+            for (const int width : {700, 400, 260, 205}) {
+                m_map->resize(width, 300);
+                layer->GetProperties().set("attribution", "");
+                m_map->redraw();
+                settledPicture();
+                const QImage without = shown();
+                layer->GetProperties().set("attribution", text);
+                const QImage with = shown();
+                const QRect left(0, 264, std::min(width / 3, 160) + 30,
+                                 36); // of the bar and its length
+                QCOMPARE(with.copy(left & with.rect()), without.copy(left & with.rect()));
+                const QRect right(width / 2, 150, width / 2 - 12, 138);
+                QVERIFY2(darkIn(with, right) > darkIn(without, right) + 20, text);
+            }
+        }
+        const QImage named = shown();
+        layer->GetProperties().set("visible", "0");
+        QVERIFY(shown() != named);
     }
 
     void scaleBarHasARoundLengthAndIsAsLongAsItSays()

@@ -1,5 +1,6 @@
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
 #include "lum_desktop_sdkx/Registration.h"
@@ -136,6 +137,7 @@ void OverlaysTest::showsTheImagesInTheirOrder()
     QCOMPARE(m_project->host.told, "Overlay images added: 2."_q);
     QCOMPARE(m_project->host.windowRegistry.activated, QStringList{"LayerWindow"_q});
     QCOMPARE(middle(), QColor(Qt::red));
+    QVERIFY(layerpicture::isShown(layer().GetProperties())); // the data get a halo
 
     layer().moveItem(0, 1);
     m_map->redraw();
@@ -150,6 +152,7 @@ void OverlaysTest::showsTheImagesInTheirOrder()
     layer().removeItem(1);
     m_map->redraw();
     QCOMPARE(middle(), QColor(Qt::white));
+    QVERIFY(!layerpicture::isShown(layer().GetProperties())); // one is left, but hidden
 
     choose({path("red.tif"), path("绿 1.tif"), path("red.tif")}); // one of them is there, hidden
     QCOMPARE(list(), "red.tif 绿 1.tif"_q);
