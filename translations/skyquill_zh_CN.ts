@@ -131,6 +131,110 @@
     </message>
 </context>
 <context>
+    <name>BaseMapForm</name>
+    <message>
+        <source>&amp;Keep tiles on this computer</source>
+        <translation>在本机保留瓦片(&amp;K)</translation>
+    </message>
+    <message>
+        <source>{x}, {y} and {z} stand for the place of a tile, {-y} for rows that are counted from the south. Also the address of a WMS or WMTS service, or a file such as MBTiles.</source>
+        <translation>{x}、{y} 和 {z} 表示瓦片的位置，{-y} 表示从南往北计数的行。也可以是 WMS 或 WMTS 服务的地址，或 MBTiles 之类的文件。</translation>
+    </message>
+    <message>
+        <source>Whose map it is, as its terms want it: it stands on the map</source>
+        <translation>按使用条款注明的地图来源，会写在地图上</translation>
+    </message>
+    <message>
+        <source>As the terms of the service allow</source>
+        <translation>以服务的使用条款为准</translation>
+    </message>
+    <message>
+        <source>The service learns which part of the world is looked at</source>
+        <translation>该服务会知道正在查看的地区</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>K&amp;ind:</source>
+        <translation>类型(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>A&amp;ddress or file:</source>
+        <translation>地址或文件(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>A&amp;ttribution:</source>
+        <translation>来源说明(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom levels:</source>
+        <translation>缩放级别(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>Til&amp;e size:</source>
+        <translation>瓦片大小(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>至</translation>
+    </message>
+    <message>
+        <source>Road map</source>
+        <translation>平面地图</translation>
+    </message>
+    <message>
+        <source>Satellite map</source>
+        <translation>卫星地图</translation>
+    </message>
+    <message>
+        <source>Terrain map</source>
+        <translation>山地地图</translation>
+    </message>
+    <message>
+        <source>Base Map File</source>
+        <translation>底图文件</translation>
+    </message>
+    <message>
+        <source>map files</source>
+        <translation>地图文件</translation>
+    </message>
+    <message>
+        <source>all files</source>
+        <translation>所有文件</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapKindCommand</name>
+    <message>
+        <source>The list holds no such base map. Map &gt; Base Map &gt; Manage adds one.</source>
+        <translation>列表中没有这种底图，可在“地图 &gt; 底图 &gt; 管理”中添加。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapList</name>
+    <message>
+        <source>The list of base maps &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取底图列表“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapSwitch</name>
+    <message>
+        <source>Base map: %1.</source>
+        <translation>底图：%1。</translation>
+    </message>
+    <message>
+        <source>Base map: %1, from %2.</source>
+        <translation>底图：%1，来自 %2。</translation>
+    </message>
+</context>
+<context>
     <name>CheckKinds</name>
     <message>
         <source>Quality Check: %1 of %2 results with faults, %3 in all</source>
@@ -1703,6 +1807,93 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgBaseMaps</name>
+    <message>
+        <source>Base Maps</source>
+        <translation>底图</translation>
+    </message>
+    <message>
+        <source>OK writes a new one and keeps the old one beside it.</source>
+        <translation>按“确定”会写入新列表，并在旁边保留原文件。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Add a base map of your own</source>
+        <translation>添加自己的底图</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove a base map of your own; an installed one is only hidden, by its check mark</source>
+        <translation>移除自己的底图；预装的底图只能取消勾选来隐藏</translation>
+    </message>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>恢复(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Make it as it was installed</source>
+        <translation>恢复为预装时的设置</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>At &amp;most:</source>
+        <translation>上限(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清除(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Delete the tiles; they are fetched again when needed</source>
+        <translation>删除瓦片，需要时会重新获取</translation>
+    </message>
+    <message>
+        <source>&amp;Show on Map</source>
+        <translation>在地图上显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Keep the list, and show this base map</source>
+        <translation>保存列表并显示此底图</translation>
+    </message>
+    <message>
+        <source>Another base map has this name.</source>
+        <translation>已有同名的底图。</translation>
+    </message>
+    <message>
+        <source>New base map</source>
+        <translation>新底图</translation>
+    </message>
+    <message>
+        <source>New base map %1</source>
+        <translation>新底图 %1</translation>
+    </message>
+    <message>
+        <source>Tiles kept on this computer: %1 MB</source>
+        <translation>本机保留的瓦片：%1 MB</translation>
+    </message>
+    <message>
+        <source>The list cannot be saved. It holds until the program ends.</source>
+        <translation>无法保存列表，它只在程序退出前有效。</translation>
+    </message>
+</context>
+<context>
     <name>DlgCoordCompare</name>
     <message>
         <source>&amp;Copy</source>
@@ -3017,6 +3208,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Collapse All</source>
         <translation>全部折叠</translation>
+    </message>
+</context>
+<context>
+    <name>LoadOnlineMapCommand</name>
+    <message>
+        <source>close online map</source>
+        <translation>关闭在线地图</translation>
+    </message>
+    <message>
+        <source>show online map</source>
+        <translation>显示在线地图</translation>
     </message>
 </context>
 <context>
@@ -4413,6 +4615,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>the folder &quot;%1&quot; cannot be written.</source>
         <translation>文件夹“%1”不可写。</translation>
+    </message>
+</context>
+<context>
+    <name>RasterLayerImp</name>
+    <message>
+        <source>The base map &quot;%1&quot; is complete again.</source>
+        <translation>底图“%1”已恢复完整。</translation>
     </message>
 </context>
 <context>
