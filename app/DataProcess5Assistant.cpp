@@ -14,6 +14,7 @@
 #include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "map/ui/AddOverlays.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectSession.h"
 #include "project/ui/ProjectState.h"
@@ -100,13 +101,17 @@ int DataProcess5Assistant::queryClose()
 
 bool DataProcess5Assistant::canOpen(const QString& path) const
 {
-    return hasProjectSuffix(path) || FileImports::canImport(path);
+    return hasProjectSuffix(path) || FileImports::canImport(path) || AddOverlays::canAdd(path);
 }
 
 int DataProcess5Assistant::openFile(const QString& path)
 {
     if (!canOpen(path))
         return 0;
+    if (AddOverlays::canAdd(path)) {
+        AddOverlays::add(m_host, {path});
+        return 1;
+    }
     if (!hasProjectSuffix(path)) {
         FileImports::importFile(m_host, path);
         return 1;

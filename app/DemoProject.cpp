@@ -5,9 +5,11 @@
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "model/CoordinateRecord.h"
 #include "project/DataProcessDataManager.h"
+#include "project/OverlayList.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectPlace.h"
 #include "samples/DemoFiles.h"
+#include "samples/DemoImage.h"
 #include "samples/DemoSurvey.h"
 #include "samples/ResultCompleter.h"
 
@@ -25,6 +27,18 @@ Outcome writeFiles(const QString& folder)
     QString fault = demo::useSurveySystem(transform);
     if (fault.isEmpty())
         fault = demo::writeDemoFiles(folder, demo::makeDemoSurvey(kSeed, transform));
+    return fault.isEmpty() ? Outcome::done() : Outcome::failed(fault);
+}
+
+/// The image of the ground, which the project shows under its data.
+QString imageOf(const ProjectPlace& place)
+{
+    return place.folder + QLatin1Char('/') + QLatin1String(demo::kImageFile);
+}
+
+Outcome writeImage(const ProjectPlace& place)
+{
+    const QString fault = demo::writeDemoImage(imageOf(place));
     return fault.isEmpty() ? Outcome::done() : Outcome::failed(fault);
 }
 
@@ -48,8 +62,10 @@ Outcome importFiles(const ProjectPlace& place, const QString& folder)
         manager.importDesignCsv(folder + QStringLiteral("/design.csv"), &outcome);
     if (outcome.isDone())
         manager.importSurveyCsv(folder + QStringLiteral("/survey.csv"), &outcome);
-    if (outcome.isDone())
+    if (outcome.isDone()) {
+        OverlayList::write({{imageOf(place)}}, place.folder, manager.project());
         outcome = manager.saveProject(place);
+    }
     manager.clear();
     return outcome;
 }
@@ -62,6 +78,8 @@ Outcome make(const ProjectPlace& place)
                 .arg(QDir::toNativeSeparators(place.folder)));
     const QString csv = place.folder + QStringLiteral("/csv");
     Outcome making = writeFiles(csv);
+    if (making.isDone())
+        making = writeImage(place);
     if (making.isDone())
         making = createProject(place);
     if (making.isDone())

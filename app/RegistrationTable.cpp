@@ -6,15 +6,20 @@
 #include "app/DataProcess5Assistant.h"
 #include "app/DemoSurveyCommand.h"
 #include "app/ProgressStatusBarForSkyquill.h"
+#include "design/ui/CountAzimuthCommand.h"
+#include "design/ui/DesignSurveyLineCommand.h"
 #include "exchange/ui/ExportCommands.h"
 #include "exchange/ui/ImportCommand.h"
 #include "lum_desktop_sdkx/Registration.h"
+#include "map/ui/BaseMapCommands.h"
 #include "map/ui/DataProcessLayerImp.h"
 #include "map/ui/DrawCommands.h"
 #include "map/ui/MouseModeCommands.h"
 #include "map/ui/ReactorMoveTrans.h"
 #include "map/ui/ReactorZoomRectTrans.h"
 #include "map/ui/SeletePointReactor.h"
+#include "map/ui/SetTifPathCommand.h"
+#include "map/ui/TifLayer.h"
 #include "map/ui/ViewChangeCommand.h"
 #include "map/ui/ZoomCommands.h"
 #include "project/ui/CloseProjectCommand.h"
@@ -54,6 +59,7 @@ using namespace desktop::registration;
     window<SurveyDataControl>           ("SurveyDataControl",            "勘察数据控制窗口"),
     window<AttributeControl>            ("AttributeControl",             "属性编辑窗口"),
     layer<DataProcessLayerImp>          ("DataProcessLayer",             "矢量图层"),
+    layer<TifLayer>                     ("TifLayer",                     "TIF图层"),
     reactor<ReactorMoveTrans>           ("ReactorMoveTrans",             "平移"),
     reactor<ReactorZoomRectTrans>       ("ReactorZoomRectTrans",         "局部矩形放大"),
     reactor<SeletePointReactor>         ("SeletePointReactor",           "属性查看"),
@@ -74,6 +80,8 @@ using namespace desktop::registration;
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
     command<DemoSurveyCommand>          ("DemoSurveyCommand",            "示例工程"),
+    command<CountAzimuthCommand>        ("CountAzimuthCommand",          "方位角计算"),
+    command<DesignSurveyLineCommand>    ("DesignSurveyLineCommand",      "设计测线"),
     command<ExportDesignCommand>        ("ExportDesignCommand",          "导出设计数据"),
     command<ExportSurveyCommand>        ("ExportSurveyCommand",          "导出测量数据"),
     command<ExportReportCommand>        ("ExportReportCommand",          "导出报告"),
@@ -86,11 +94,17 @@ using namespace desktop::registration;
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),
     command<DrawExcitationCommand>      ("DrawExcitationCommand",        "绘制激发线"),
+    command<SetTifPathCommand>          ("SetTifPathCommand",            "TIF图叠加"),
     command<PPKMoveCommand>             ("PPKMoveCommand",               "地图移动"),
     command<PPKZoomInCommand>           ("PPKZoomInCommand",             "地图放大"),
     command<PPKZoomOutCommand>          ("PPKZoomOutCommand",            "地图缩小"),
     command<PPKZoomAllCommand>          ("PPKZoomAllCommand",            "全图"),
     command<PPKZoomRectCommand>         ("PPKZoomRectCommand",           "局部矩形放大"),
+    command<LoadOnlineMapCommand>       ("LoadOnlineMapCommand",         "在线地图"),
+    command<LoadRoadMapCommand>         ("LoadRoadMapCommand",           "平面地图"),
+    command<LoadSatMapCommand>          ("LoadSatMapCommand",            "卫星地图"),
+    command<LoadTerrainMapCommand>      ("LoadTerrainMapCommand",        "山地地图"),
+    command<ManageBaseMapsCommand>      ("ManageBaseMapsCommand",        "管理底图"),
 };
 // clang-format on
 

@@ -9,11 +9,11 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/ICountly.h"
 #include "lum_sdk/InstanceReceiver.h"
+#include "lum_sdk/raster/TileThreads.h"
 #include "lum_sdk/SingleInstance.h"
 #include "protocol/ProductName.h"
 
 #include <array>
-#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -69,5 +69,5 @@ int main(int argc, char* argv[])
     }
     const int result = QApplication::exec();
     application.reset();
-    std::exit(result);
+    lum::exitProcess(result);
 }

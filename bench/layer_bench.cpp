@@ -1,4 +1,5 @@
 #include "bench/Limits.h"
+#include "lum_sdk/raster/Halo.h"
 #include "map/BaseStations.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
@@ -162,6 +163,75 @@ void BM_SurveyTenth(benchmark::State& state)
     surveyPart(state, 0.1, "survey, a tenth, of plain calls");
 }
 
+/// The time to make a picture of the map with an image under the data.
+/// \param drawing memory for what gets a halo; null when there is no halo
+template <class Paint>
+double msOnImage(const Paint& paint, QImage* drawing)
+{
+    static const QImage ground = [] {
+        QImage image(kScreen * 1.5, QImage::Format_RGB32);
+        image.fill(Qt::darkGreen);
+        return image;
+    }();
+    return msOfPicture([&](QPainter& painter) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF(QPointF(0, 0), kScreen), ground);
+        if (drawing == nullptr) {
+            paint(painter);
+            return;
+        }
+        drawing->fill(Qt::transparent);
+        QPainter drawer(drawing);
+        paint(drawer);
+        drawer.end();
+        lum::drawWithHalo(*static_cast<QImage*>(painter.device()), *drawing, Qt::white);
+    });
+}
+
+template <class Paint>
+void reportHalo(benchmark::State& state, const char* name, const Paint& paint)
+{
+    QImage drawing(kScreen, QImage::Format_ARGB32_Premultiplied);
+    const double plainMs = bench::medianOf([&] { return msOnImage(paint, nullptr); });
+    const double ms = bench::medianOf([&] { return msOnImage(paint, &drawing); });
+    state.counters["ms"] = ms;
+    state.counters["plain_ms"] = plainMs;
+    bench::report(state, name, ms / plainMs, 2, "");
+}
+
+void designWithHalo(benchmark::State& state, double share, const char* name)
+{
+    const PictureFrame frame = frameOf(kDesignLines, kDesignPoints, share);
+    for (auto _ : state)
+        reportHalo(state, name,
+                   [&](QPainter& painter) { paintDesign(designMarks(), frame, {25}, painter); });
+}
+
+void BM_DesignTenthHalo(benchmark::State& state)
+{
+    designWithHalo(state, 0.1, "design, a tenth, with a halo, of none");
+}
+
+void BM_DesignPointsHalo(benchmark::State& state)
+{
+    designWithHalo(state, 0.02, "design, points, with a halo, of none");
+}
+
+void BM_DesignLabelsHalo(benchmark::State& state)
+{
+    designWithHalo(state, 0.002, "design, labels, with a halo, of none");
+}
+
+void BM_SurveyTenthHalo(benchmark::State& state)
+{
+    const PictureFrame frame = frameOf(kSurveyLines, kSurveyPoints, 0.1);
+    const SurveyMarks marks(survey(), kToMap);
+    for (auto _ : state)
+        reportHalo(state, "survey, a tenth, with a halo, of none", [&](QPainter& painter) {
+            paintSurvey(marks, frame, QStringLiteral("Base"), painter);
+        });
+}
+
 /// The longest time that a paint goes on after it has been cancelled.
 void BM_Cancel(benchmark::State& state)
 {
@@ -239,6 +309,10 @@ BENCHMARK(BM_DesignPoints)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_DesignLabels)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SurveyWhole)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SurveyTenth)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DesignTenthHalo)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DesignPointsHalo)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DesignLabelsHalo)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SurveyTenthHalo)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Cancel)->Iterations(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Pick)->Iterations(2000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_BaseStations)->Iterations(1)->Unit(benchmark::kMillisecond);

@@ -121,10 +121,10 @@ std::optional<DesignFault> stepFault(GridKind kind, const Numbers& numbers)
                             QString::number(numbers.first), QString::number(numbers.end)));
 }
 
-/// How many digits a number is written with.
-int widthOf(std::int64_t number, int digits)
+bool isWrittenAlike(std::int64_t number, int digits, int otherDigits)
 {
-    return std::max(static_cast<int>(std::to_string(number).size()), digits);
+    return digits == otherDigits ||
+           static_cast<int>(std::to_string(number).size()) >= std::max(digits, otherDigits);
 }
 
 /// How many numbers are written alike in both.
@@ -134,7 +134,7 @@ std::int64_t sharedNumbers(const Numbers& one, int digits, const Numbers& other,
     const std::int64_t end = std::min(one.end, other.end);
     for (std::int64_t number = one.first; number <= end; number += one.step) {
         const bool isInBoth = number >= other.first && (number - other.first) % other.step == 0;
-        count += isInBoth && widthOf(number, digits) == widthOf(number, otherDigits) ? 1 : 0;
+        count += isInBoth && isWrittenAlike(number, digits, otherDigits) ? 1 : 0;
     }
     return count;
 }

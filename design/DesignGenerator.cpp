@@ -6,27 +6,9 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <array>
-#include <charconv>
 #include <new>
 
 namespace {
-
-/// Appends a number as QString("%1").arg(number, digits, 10, '0') writes it: zeros follow the sign.
-void appendPadded(std::string& text, std::int64_t number, int digits)
-{
-    std::array<char, 24> written{};
-    const char* const end =
-        std::to_chars(written.data(), written.data() + written.size(), number).ptr;
-    const std::size_t length = static_cast<std::size_t>(end - written.data());
-    const std::size_t sign = number < 0 ? 1 : 0;
-    const std::size_t wanted = static_cast<std::size_t>(std::max(digits, 0));
-    text.append(written.data(), sign);
-    if (wanted > length)
-        text.append(wanted - length, '0');
-    text.append(written.data() + sign, length - sign);
-}
 
 /// A line of a grid.
 struct LineToMake
@@ -41,16 +23,16 @@ void makeLine(const LineToMake& line, DesignPoints& points)
 {
     const DesignGrid& grid = line.grid;
     std::string lineNumber;
-    appendPadded(lineNumber, line.number, grid.lineDigits);
+    appendDesignNumber(lineNumber, line.number, grid.lineDigits);
     std::int64_t index = 0;
     for (std::int64_t number = grid.firstPointNumber(); number <= grid.pointEnd;
          number += grid.pointStep) {
-        const GridPlace place =
+        const DesignPlace place =
             line.places.at(static_cast<double>(line.index), static_cast<double>(index++));
         DesignPoint point;
         point.lineNumber = lineNumber;
         point.pointNumber = lineNumber;
-        appendPadded(point.pointNumber, number, grid.pointDigits);
+        appendDesignNumber(point.pointNumber, number, grid.pointDigits);
         point.north = place[0];
         point.east = place[1];
         point.azimuth = grid.azimuth;

@@ -39,7 +39,7 @@ std::int64_t countOf(std::int64_t first, std::int64_t end, std::int64_t step)
     return first > end || step <= 0 ? 0 : (end - first) / step + 1;
 }
 
-double lengthOf(const GridPlace& shift)
+double lengthOf(const DesignPlace& shift)
 {
     return std::hypot(shift[0], shift[1]);
 }
@@ -119,7 +119,7 @@ GridPlaces::GridPlaces(const DesignGrid& grid) : m_start{grid.startNorth, grid.s
     m_line = {side * std::cos(across), side * std::sin(across)};
 }
 
-GridPlace GridPlaces::at(double line, double point) const
+DesignPlace GridPlaces::at(double line, double point) const
 {
     return {m_start[0] + line * m_line[0] + point * m_point[0],
             m_start[1] + line * m_line[1] + point * m_point[1]};
@@ -132,12 +132,23 @@ std::optional<GridOutline> GridOutline::of(const DesignGrid& grid)
     const GridPlaces places(grid);
     const auto line = static_cast<double>(grid.lineCount() - 1);
     const auto point = static_cast<double>(grid.pointsALine() - 1);
-    const double lineDistance = lengthOf(places.lineShift());
-    const double pointDistance = lengthOf(places.pointShift());
     return GridOutline{{places.at(0, 0), places.at(0, point)},
                        {places.at(line, 0), places.at(line, point)},
-                       line * lineDistance * point * pointDistance,
-                       {lineDistance / 2, pointDistance / 2}};
+                       line * lengthOf(places.lineShift()) * point * lengthOf(places.pointShift())};
+}
+
+void appendDesignNumber(std::string& text, std::int64_t number, int digits)
+{
+    std::array<char, 24> written{};
+    const char* const end =
+        std::to_chars(written.data(), written.data() + written.size(), number).ptr;
+    const auto length = static_cast<std::size_t>(end - written.data());
+    const std::size_t sign = number < 0 ? 1 : 0;
+    const auto wanted = static_cast<std::size_t>(std::max(digits, 0));
+    text.append(written.data(), sign);
+    if (wanted > length)
+        text.append(wanted - length, '0');
+    text.append(written.data() + sign, length - sign);
 }
 
 std::string storedText(const DesignParameter& parameter, const QString& text)

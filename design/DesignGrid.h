@@ -9,7 +9,7 @@
 class IDictionary;
 
 /// The place of a point: north, east.
-using GridPlace = std::array<double, 2>;
+using DesignPlace = std::array<double, 2>;
 
 /// The parameters of a grid of parallel lines. Lengths are in the unit of the coordinate system.
 struct DesignGrid
@@ -53,28 +53,31 @@ public:
     explicit GridPlaces(const DesignGrid& grid);
 
     /// Line and point are counted from 0.
-    [[nodiscard]] GridPlace at(double line, double point) const;
+    [[nodiscard]] DesignPlace at(double line, double point) const;
     /// From a line to the next, and from a point to the next.
-    [[nodiscard]] const GridPlace& lineShift() const { return m_line; }
-    [[nodiscard]] const GridPlace& pointShift() const { return m_point; }
+    [[nodiscard]] const DesignPlace& lineShift() const { return m_line; }
+    [[nodiscard]] const DesignPlace& pointShift() const { return m_point; }
 
 private:
-    GridPlace m_start;
-    GridPlace m_line{};
-    GridPlace m_point{};
+    DesignPlace m_start;
+    DesignPlace m_line{};
+    DesignPlace m_point{};
 };
 
 /// What is seen of a grid before it is generated.
 struct GridOutline
 {
-    std::array<GridPlace, 2> firstLine{}; ///< its first and its last point
-    std::array<GridPlace, 2> lastLine{};
+    std::array<DesignPlace, 2> firstLine{}; ///< its first and its last point
+    std::array<DesignPlace, 2> lastLine{};
     double area = 0; ///< between the outer points, square units
-    GridPlace bin{}; ///< half the distance of lines, half the distance of points
 
     /// Nothing for a grid without points.
     [[nodiscard]] static std::optional<GridOutline> of(const DesignGrid& grid);
 };
+
+/// Appends a number of a line or point with zeros before it, which follow its sign, up to so many
+/// characters. A longer number is not cut.
+void appendDesignNumber(std::string& text, std::int64_t number, int digits);
 
 /// A value without fault as the design parameters keep it: all digits, never an exponent; an
 /// azimuth with 9 decimals. \param text as `faultOf` reads it; an azimuth is dd.mmss

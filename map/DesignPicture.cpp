@@ -183,3 +183,8 @@ void paintDesign(const DesignMarks& marks, const PictureFrame& frame,
     painter.setRenderHint(QPainter::Antialiasing);
     DesignPainter(marks, frame, options, painter).paint();
 }
+
+QColor designColor(int type)
+{
+    return colorOf(type);
+}

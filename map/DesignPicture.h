@@ -1,6 +1,7 @@
 #pragma once
 
 class DesignMarks;
+class QColor;
 class QPainter;
 struct PictureFrame;
 
@@ -18,3 +19,6 @@ struct DesignPictureOptions
 /// labelled. Blocks of marks out of sight are skipped by their bounds.
 void paintDesign(const DesignMarks& marks, const PictureFrame& frame,
                  const DesignPictureOptions& options, QPainter& painter);
+
+/// The colour of the lines and points of a type, see `DesignPoint::type`.
+[[nodiscard]] QColor designColor(int type);

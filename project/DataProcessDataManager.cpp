@@ -25,6 +25,7 @@
 #include "model/SurveyColumns.h"
 #include "project/DesignDatabase.h"
 #include "project/edits/EditParts.h"
+#include "project/OverlayList.h"
 #include "project/OwnFile.h"
 #include "project/ParameterFiles.h"
 #include "project/PointCorrection.h"
@@ -281,6 +282,7 @@ Outcome DataProcessDataManager::saveCopy(const ProjectPlace& copy)
     dictionary_copy(m_project, project);
     dictionary_copy(present, project, ProjectFile::kPath);
     CoordinateRecord::copy(present, project);
+    OverlayList::moveTo(copy.folder, m_place.folder, project);
     return logged(ProjectCreator::create(copy, project, [&] { return fillCopy(copy); }));
 }
 

@@ -59,4 +59,10 @@ inline constexpr const char* kSurveyPointSelected = "ON_SURVEY_POINT_SELECTED";
 /// 0.
 inline constexpr const char* kStationPointSelected = "ON_STATION_POINT_SELECTED";
 
+// --- design ---
+
+/// The azimuth calculator, once the dialog of the design lines is open -> that dialog.
+/// "azimuth=...", decimal degrees from 0 up to 360.
+inline constexpr const char* kAzimuthHandedOver = "ON_AZIMUTH_HANDED_OVER";
+
 } // namespace events

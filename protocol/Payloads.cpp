@@ -1,6 +1,7 @@
 #include "protocol/Payloads.h"
 
 #include "basalt_utilities/KeyList.h"
+#include "basalt_utilities/Numbers.h"
 
 #include <QString>
 
@@ -33,6 +34,11 @@ QByteArray selectedPoint(const QString& pointNumber, const QString& lineNumber)
 QByteArray station(int index)
 {
     return "stationId=" + QByteArray::number(index);
+}
+
+QByteArray azimuth(double degrees)
+{
+    return "azimuth=" + QByteArray::fromStdString(basalt::formatShortest(degrees));
 }
 
 } // namespace payload

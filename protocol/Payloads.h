@@ -18,4 +18,7 @@ namespace payload {
 /// "stationId=INDEX"
 [[nodiscard]] QByteArray station(int index);
 
+/// "azimuth=DEGREES", with all digits
+[[nodiscard]] QByteArray azimuth(double degrees);
+
 } // namespace payload

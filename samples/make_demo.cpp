@@ -2,6 +2,7 @@
 
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "samples/DemoFiles.h"
+#include "samples/DemoImage.h"
 #include "samples/DemoSurvey.h"
 #include "samples/ResultCompleter.h"
 
@@ -28,6 +29,8 @@ int makeDemo(const QString& folder, std::uint64_t seed)
     QString fault = demo::useSurveySystem(transform);
     if (fault.isEmpty())
         fault = demo::writeDemoFiles(folder, demo::makeDemoSurvey(seed, transform));
+    if (fault.isEmpty())
+        fault = demo::writeDemoImage(folder + QLatin1Char('/') + QLatin1String(demo::kImageFile));
     return fault.isEmpty() ? 0 : report(fault, kFailed);
 }
 

@@ -7,6 +7,10 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/Applicationx.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
+#include "lum_desktop_sdkx/ILayerItems.h"
+#include "lum_desktop_sdkx/ILayerRegistry.h"
+#include "lum_desktop_sdkx/ILayerViewer.h"
+#include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/ISystemSettings.h"
 #include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/SystemDictionaries.h"
@@ -36,6 +40,7 @@ constexpr int kMargin = 20;
 constexpr int kSmallest = 0;   // the "quality" of the best compressed PNG
 constexpr int kPaintMs = 1500; // longer than the map's worker needs
 constexpr QSize kFrameSize{1440, 900};
+const QRectF kRiverBank(510350, 4562830, 560, 330); // of the demo survey, and the village beside it
 
 /// What the pictures show of the survey table, in this order.
 const QStringList& shownColumns()
@@ -96,6 +101,9 @@ public:
 
     void paintAll()
     {
+        paintGround();
+        showImages(false); // the colours of the map alone
+        m_host.commands().execute(QStringLiteral("Zoom to All"));
         paintMap("guide-design");
         paintSystem();
         paintLimits();
@@ -123,6 +131,29 @@ private:
     {
         letItPaint();
         save(m_host.windows().findAs<QWidget>(QStringLiteral("DataMap"))->grab(), name);
+    }
+
+    [[nodiscard]] IMapWindow& map() const
+    {
+        return *m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+    }
+
+    void showImages(bool isShown)
+    {
+        auto* const images =
+            dynamic_cast<ILayerItems*>(map().layers().find(QStringLiteral("TifLayer")));
+        for (int i = 0; images != nullptr && i < images->itemCount(); ++i)
+            images->showItem(i, isShown);
+        map().redraw();
+    }
+
+    void paintGround()
+    {
+        m_host.commands().execute(QStringLiteral("Survey View"));
+        map().zoomRect(kRiverBank.left(), kRiverBank.bottom(), kRiverBank.right(),
+                       kRiverBank.top());
+        paintMap("guide-ground");
+        m_host.commands().execute(QStringLiteral("Design View"));
     }
 
     void paintSystem()

@@ -452,6 +452,14 @@
         <translation>带等高线的地形</translation>
     </message>
     <message>
+        <source>&amp;Manage...</source>
+        <translation>管理(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Add, change and hide base maps, and clear the tiles that are kept</source>
+        <translation>添加、修改和隐藏底图，清除保留的瓦片</translation>
+    </message>
+    <message>
         <source>O&amp;verlay Image...</source>
         <translation>TIF 图叠加(&amp;V)...</translation>
     </message>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>CountAzimuthDlg</name>
+    <message>
+        <source>度分秒(dd.mmss)</source>
+        <translation>Degrees, minutes, seconds (dd.mmss)</translation>
+    </message>
+    <message>
+        <source>度(ddd.dddddd)</source>
+        <translation>Degrees (ddd.dddddd)</translation>
+    </message>
+    <message>
+        <source>米</source>
+        <translation>m</translation>
+    </message>
+</context>
+<context>
     <name>DataProcess5Assistant</name>
     <message>
         <source>提示</source>
@@ -10,6 +25,17 @@
     <message>
         <source>是否退出程序？</source>
         <translation>Exit the program?</translation>
+    </message>
+</context>
+<context>
+    <name>DlgDesignLine</name>
+    <message>
+        <source>注意</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>步长禁止输入0。</source>
+        <translation>A step of 0 is not allowed.</translation>
     </message>
 </context>
 <context>

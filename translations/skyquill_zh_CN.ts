@@ -77,6 +77,164 @@
     </message>
 </context>
 <context>
+    <name>BaseMap</name>
+    <message>
+        <source>A base map needs a name.</source>
+        <translation>底图需要一个名称。</translation>
+    </message>
+    <message>
+        <source>A base map needs the text that tells whose map it is.</source>
+        <translation>底图需要一段说明地图归属的文字。</translation>
+    </message>
+    <message>
+        <source>Tiles of %1 pixels cannot be shown: 64 to 2048 are possible.</source>
+        <translation>无法显示 %1 像素的瓦片：可用范围为 64 至 2048。</translation>
+    </message>
+    <message>
+        <source>The zoom limits %1 and %2 make no range within 0 to %3.</source>
+        <translation>缩放级别 %1 和 %2 不构成 0 至 %3 之内的范围。</translation>
+    </message>
+    <message>
+        <source>The greatest zoom %1 is too large for tiles of %2 pixels.</source>
+        <translation>对 %2 像素的瓦片，最大缩放级别 %1 过大。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapAddress</name>
+    <message>
+        <source>The address holds &quot;%1&quot;, whose meaning is not known.</source>
+        <translation>地址中含有“%1”，其含义未知。</translation>
+    </message>
+    <message>
+        <source>The address has no &quot;{%1}&quot;: it must say where zoom {z}, column {x} and row {y} of a tile stand.</source>
+        <translation>地址中没有“{%1}”：必须指明瓦片的级别 {z}、列 {x} 和行 {y} 的位置。</translation>
+    </message>
+    <message>
+        <source>The service is asked for the coordinate system &quot;%1&quot;; a base map must be in EPSG:3857 or in a geographic system.</source>
+        <translation>向服务请求的坐标系是“%1”；底图必须采用 EPSG:3857 或地理坐标系。</translation>
+    </message>
+    <message>
+        <source>The address names no layer of the service: &quot;LAYERS=...&quot; is missing.</source>
+        <translation>地址没有指明服务的图层：缺少“LAYERS=...”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a web address nor a file.</source>
+        <translation>“%1”既不是网址，也不是文件。</translation>
+    </message>
+    <message>
+        <source>There is no address.</source>
+        <translation>没有地址。</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>没有文件“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapForm</name>
+    <message>
+        <source>&amp;Keep tiles on this computer</source>
+        <translation>在本机保留瓦片(&amp;K)</translation>
+    </message>
+    <message>
+        <source>{x}, {y} and {z} stand for the place of a tile, {-y} for rows that are counted from the south. Also the address of a WMS or WMTS service, or a file such as MBTiles.</source>
+        <translation>{x}、{y} 和 {z} 表示瓦片的位置，{-y} 表示从南往北计数的行。也可以是 WMS 或 WMTS 服务的地址，或 MBTiles 之类的文件。</translation>
+    </message>
+    <message>
+        <source>Whose map it is, as its terms want it: it stands on the map</source>
+        <translation>按使用条款注明的地图来源，会写在地图上</translation>
+    </message>
+    <message>
+        <source>As the terms of the service allow</source>
+        <translation>以服务的使用条款为准</translation>
+    </message>
+    <message>
+        <source>The service learns which part of the world is looked at</source>
+        <translation>该服务会知道正在查看的地区</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>K&amp;ind:</source>
+        <translation>类型(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>A&amp;ddress or file:</source>
+        <translation>地址或文件(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>A&amp;ttribution:</source>
+        <translation>来源说明(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom levels:</source>
+        <translation>缩放级别(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>Til&amp;e size:</source>
+        <translation>瓦片大小(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>至</translation>
+    </message>
+    <message>
+        <source>Road map</source>
+        <translation>平面地图</translation>
+    </message>
+    <message>
+        <source>Satellite map</source>
+        <translation>卫星地图</translation>
+    </message>
+    <message>
+        <source>Terrain map</source>
+        <translation>山地地图</translation>
+    </message>
+    <message>
+        <source>Base Map File</source>
+        <translation>底图文件</translation>
+    </message>
+    <message>
+        <source>map files</source>
+        <translation>地图文件</translation>
+    </message>
+    <message>
+        <source>all files</source>
+        <translation>所有文件</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapKindCommand</name>
+    <message>
+        <source>The list holds no such base map. Map &gt; Base Map &gt; Manage adds one.</source>
+        <translation>列表中没有这种底图，可在“地图 &gt; 底图 &gt; 管理”中添加。</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapList</name>
+    <message>
+        <source>The list of base maps &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取底图列表“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>BaseMapSwitch</name>
+    <message>
+        <source>Base map: %1.</source>
+        <translation>底图：%1。</translation>
+    </message>
+    <message>
+        <source>Base map: %1, from %2.</source>
+        <translation>底图：%1，来自 %2。</translation>
+    </message>
+</context>
+<context>
     <name>CheckKinds</name>
     <message>
         <source>Quality Check: %1 of %2 results with faults, %3 in all</source>
@@ -894,6 +1052,117 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>CountAzimuthDlg</name>
+    <message>
+        <source>Calculate Azimuth</source>
+        <translation>计算方位角</translation>
+    </message>
+    <message>
+        <source>StartPoint</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>DestPoint</source>
+        <translation>终点</translation>
+    </message>
+    <message>
+        <source>Pick &amp;Both on the Map</source>
+        <translation>在地图上选取两点(&amp;B)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>Pick on the &amp;Map</source>
+        <translation>在地图上选取(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Pick &amp;on the Map</source>
+        <translation>在地图上选取(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Click a place or a point on the map</source>
+        <translation>在地图上单击一处或一个点</translation>
+    </message>
+    <message>
+        <source>Click the start, then the destination on the map</source>
+        <translation>在地图上先单击起点，再单击终点</translation>
+    </message>
+    <message>
+        <source>Azimuth Type</source>
+        <translation>方位角格式</translation>
+    </message>
+    <message>
+        <source>度分秒(dd.mmss)</source>
+        <translation>度分秒(dd.mmss)</translation>
+    </message>
+    <message>
+        <source>度(ddd.dddddd)</source>
+        <translation>度(ddd.dddddd)</translation>
+    </message>
+    <message>
+        <source>Point Azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>Point Line Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Calculate</source>
+        <translation>计算</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>&amp;Design Lines with It</source>
+        <translation>用于测线设计(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Empty azimuth and length; the coordinates stay</source>
+        <translation>清空方位角和长度，坐标保留</translation>
+    </message>
+    <message>
+        <source>Enter this azimuth in the dialog of the design lines, which opens for it</source>
+        <translation>把这个方位角填入测线设计窗口；窗口没有打开时将打开</translation>
+    </message>
+    <message>
+        <source>米</source>
+        <translation>米</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a coordinate. Type a number with a decimal point, at most 1,000,000,000.</source>
+        <translation>%1：“%2”不是坐标。请输入数字，小数点用“.”，不超过 1,000,000,000。</translation>
+    </message>
+    <message>
+        <source>Taken from the points: %1.</source>
+        <translation>取自点：%1。</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Calculate Msg Not Enough</source>
+        <translation>请输入起点和终点的全部坐标。</translation>
+    </message>
+    <message>
+        <source>Both places are the same: there is no direction from one to the other.</source>
+        <translation>起点和终点相同，没有方向。</translation>
+    </message>
+</context>
+<context>
     <name>CrewPanel</name>
     <message>
         <source>Crews</source>
@@ -1213,6 +1482,80 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DesignFaults</name>
+    <message>
+        <source>%1: %2 is too large. At most %3.</source>
+        <translation>%1：%2 太大，最大为 %3。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a number.</source>
+        <translation>%1：“%2”不是数字。</translation>
+    </message>
+    <message>
+        <source>%1: %2 has more than 59 minutes or seconds (dd.mmss).</source>
+        <translation>%1：%2 的分或秒超过 59（dd.mmss）。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a whole number.</source>
+        <translation>%1：“%2”不是整数。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not between %3 and %4.</source>
+        <translation>%1：%2 不在 %3 到 %4 之间。</translation>
+    </message>
+    <message>
+        <source>%1: a step of 0 is not allowed.</source>
+        <translation>%1：步长不能为 0。</translation>
+    </message>
+    <message>
+        <source>%1: with a step of %2 the numbers from %3 never reach %4.</source>
+        <translation>%1：步长为 %2 时，从 %3 开始永远到不了 %4。</translation>
+    </message>
+    <message>
+        <source>%1: there is no value.</source>
+        <translation>%1：没有填写。</translation>
+    </message>
+    <message>
+        <source>%1: the grid would have %2 lines x %3 points. At most %4 points in all.</source>
+        <translation>%1：网格将有 %2 条线 × %3 个点，总点数最多 %4。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is below the first number, %3. No points.</source>
+        <translation>%1：%2 小于起始号 %3，没有点。</translation>
+    </message>
+</context>
+<context>
+    <name>DesignGenerator</name>
+    <message>
+        <source>Design R-Design Data</source>
+        <translation>正在生成接收点</translation>
+    </message>
+    <message>
+        <source>Design S-Design Data</source>
+        <translation>正在生成激发点</translation>
+    </message>
+    <message>
+        <source>%1 design points generated</source>
+        <translation>已生成 %1 个设计点</translation>
+    </message>
+    <message>
+        <source>%1 design points replaced by %2</source>
+        <translation>%1 个设计点已替换为 %2 个</translation>
+    </message>
+    <message>
+        <source>; %1 receiver points had the numbers of source points and were left out</source>
+        <translation>；%1 个接收点与激发点同号，未生成</translation>
+    </message>
+    <message>
+        <source>The design would have %1 points. At most %2 points in all.</source>
+        <translation>设计将有 %1 个点，最多 %2 个。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for %1 design points.</source>
+        <translation>内存不足，无法容纳 %1 个设计点。</translation>
+    </message>
+</context>
+<context>
     <name>DesignLineControl</name>
     <message>
         <source>Export All</source>
@@ -1350,6 +1693,105 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DesignText</name>
+    <message>
+        <source>%1 km²</source>
+        <translation>%1 km²</translation>
+    </message>
+    <message>
+        <source>%1 m²</source>
+        <translation>%1 m²</translation>
+    </message>
+    <message>
+        <source>Distance from a line to the next, in %1</source>
+        <translation>相邻两条线的间距，单位 %1</translation>
+    </message>
+    <message>
+        <source>Distance from a point to the next on its line, in %1</source>
+        <translation>线上相邻两点的间距，单位 %1</translation>
+    </message>
+    <message>
+        <source>The lowest number of the survey</source>
+        <translation>测区的最小号</translation>
+    </message>
+    <message>
+        <source>The highest number that may be given</source>
+        <translation>允许的最大号</translation>
+    </message>
+    <message>
+        <source>From a number to the next; the distance does not change with it</source>
+        <translation>相邻两个号之差；间距不随它改变</translation>
+    </message>
+    <message>
+        <source>Digits of a number: 4 writes 10 as 0010. Longer numbers stay whole.</source>
+        <translation>号的位数：4 位时 10 写作 0010。更长的号不截断。</translation>
+    </message>
+    <message>
+        <source>Generation begins with this line, at the start position</source>
+        <translation>从这条线开始生成，位于起始坐标处</translation>
+    </message>
+    <message>
+        <source>Each line begins with this point</source>
+        <translation>每条线从这个点号开始</translation>
+    </message>
+    <message>
+        <source>Position of the first point that is generated, in %1</source>
+        <translation>生成的第一个点的坐标，单位 %1</translation>
+    </message>
+    <message>
+        <source>Direction in which the point numbers grow, clockwise from north</source>
+        <translation>点号增大的方向，从北顺时针计算</translation>
+    </message>
+    <message>
+        <source>The next line lies to the left of that direction, not to the right</source>
+        <translation>下一条线排在该方向的左侧，而不是右侧</translation>
+    </message>
+    <message>
+        <source>%1 lines: %2 to %3</source>
+        <translation>%1 条线：%2 至 %3</translation>
+    </message>
+    <message>
+        <source>%1 points: %2 to %3</source>
+        <translation>%1 个点：%2 至 %3</translation>
+    </message>
+    <message>
+        <source>Points run towards %1, lines follow to the left.</source>
+        <translation>点沿 %1 方向排列，线依次排在左侧。</translation>
+    </message>
+    <message>
+        <source>Points run towards %1, lines follow to the right.</source>
+        <translation>点沿 %1 方向排列，线依次排在右侧。</translation>
+    </message>
+    <message>
+        <source>%1 receiver lines x %2 points = %3; area %4</source>
+        <translation>%1 条接收线 × %2 个点 = %3；面积 %4</translation>
+    </message>
+    <message>
+        <source>%1 source lines x %2 points = %3; area %4</source>
+        <translation>%1 条激发线 × %2 个点 = %3；面积 %4</translation>
+    </message>
+    <message>
+        <source>Bins %1 x %2 %3, along and across the receiver lines</source>
+        <translation>面元 %1 × %2 %3（沿接收线 × 垂直接收线）</translation>
+    </message>
+    <message>
+        <source>The project has no design points that would be replaced.</source>
+        <translation>工程中没有会被替换的设计点。</translation>
+    </message>
+    <message>
+        <source>%1 design points of %2 lines will be replaced, by Calc R and Calc S too. Survey results stay.</source>
+        <translation>%2 条线的 %1 个设计点将被替换，“计算接收线”和“计算激发线”也是如此。测量成果保留不变。</translation>
+    </message>
+    <message>
+        <source>The grids lie %1 km apart.</source>
+        <translation>两个网格相距 %1 km。</translation>
+    </message>
+    <message>
+        <source>Points with the same number in both grids: %1. Of these, OK generates the source points alone.</source>
+        <translation>两个网格中同号的点：%1。对于这些点，“确定”只生成激发点。</translation>
+    </message>
+</context>
+<context>
     <name>DlgAbout</name>
     <message>
         <source>About %1</source>
@@ -1362,6 +1804,93 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Version %1</source>
         <translation>版本 %1</translation>
+    </message>
+</context>
+<context>
+    <name>DlgBaseMaps</name>
+    <message>
+        <source>Base Maps</source>
+        <translation>底图</translation>
+    </message>
+    <message>
+        <source>OK writes a new one and keeps the old one beside it.</source>
+        <translation>按“确定”会写入新列表，并在旁边保留原文件。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Add a base map of your own</source>
+        <translation>添加自己的底图</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove a base map of your own; an installed one is only hidden, by its check mark</source>
+        <translation>移除自己的底图；预装的底图只能取消勾选来隐藏</translation>
+    </message>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>恢复(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Make it as it was installed</source>
+        <translation>恢复为预装时的设置</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>At &amp;most:</source>
+        <translation>上限(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清除(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Delete the tiles; they are fetched again when needed</source>
+        <translation>删除瓦片，需要时会重新获取</translation>
+    </message>
+    <message>
+        <source>&amp;Show on Map</source>
+        <translation>在地图上显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Keep the list, and show this base map</source>
+        <translation>保存列表并显示此底图</translation>
+    </message>
+    <message>
+        <source>Another base map has this name.</source>
+        <translation>已有同名的底图。</translation>
+    </message>
+    <message>
+        <source>New base map</source>
+        <translation>新底图</translation>
+    </message>
+    <message>
+        <source>New base map %1</source>
+        <translation>新底图 %1</translation>
+    </message>
+    <message>
+        <source>Tiles kept on this computer: %1 MB</source>
+        <translation>本机保留的瓦片：%1 MB</translation>
+    </message>
+    <message>
+        <source>The list cannot be saved. It holds until the program ends.</source>
+        <translation>无法保存列表，它只在程序退出前有效。</translation>
     </message>
 </context>
 <context>
@@ -1498,6 +2027,201 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgDesignLine</name>
+    <message>
+        <source>R-Line Dist:</source>
+        <translation>接收线距：</translation>
+    </message>
+    <message>
+        <source>R-Line Start No.:</source>
+        <translation>接收线起始号：</translation>
+    </message>
+    <message>
+        <source>R-Line End No.:</source>
+        <translation>接收线终止号：</translation>
+    </message>
+    <message>
+        <source>R-Line Step:</source>
+        <translation>接收线号步长：</translation>
+    </message>
+    <message>
+        <source>R-Line Base:</source>
+        <translation>接收线号位数：</translation>
+    </message>
+    <message>
+        <source>R-Point Dist:</source>
+        <translation>接收点距：</translation>
+    </message>
+    <message>
+        <source>R-Point Start No.:</source>
+        <translation>接收点起始号：</translation>
+    </message>
+    <message>
+        <source>R-Point End No.:</source>
+        <translation>接收点终止号：</translation>
+    </message>
+    <message>
+        <source>R-Point Step:</source>
+        <translation>接收点号步长：</translation>
+    </message>
+    <message>
+        <source>R-Point Base:</source>
+        <translation>接收点号位数：</translation>
+    </message>
+    <message>
+        <source>Line Start No.:</source>
+        <translation>起始线号：</translation>
+    </message>
+    <message>
+        <source>Point Start No.:</source>
+        <translation>起始点号：</translation>
+    </message>
+    <message>
+        <source>Start North:</source>
+        <translation>起始北坐标：</translation>
+    </message>
+    <message>
+        <source>Start East:</source>
+        <translation>起始东坐标：</translation>
+    </message>
+    <message>
+        <source>Azimuth:</source>
+        <translation>方位角：</translation>
+    </message>
+    <message>
+        <source>Reverse of receiving line</source>
+        <translation>接收线反向</translation>
+    </message>
+    <message>
+        <source>S-Line Dist:</source>
+        <translation>激发线距：</translation>
+    </message>
+    <message>
+        <source>S-Line Start No.:</source>
+        <translation>激发线起始号：</translation>
+    </message>
+    <message>
+        <source>S-Line End No.:</source>
+        <translation>激发线终止号：</translation>
+    </message>
+    <message>
+        <source>S-Line Step:</source>
+        <translation>激发线号步长：</translation>
+    </message>
+    <message>
+        <source>S-Line Base:</source>
+        <translation>激发线号位数：</translation>
+    </message>
+    <message>
+        <source>S-Point Dist:</source>
+        <translation>激发点距：</translation>
+    </message>
+    <message>
+        <source>S-Point Start No.:</source>
+        <translation>激发点起始号：</translation>
+    </message>
+    <message>
+        <source>S-Point End No.:</source>
+        <translation>激发点终止号：</translation>
+    </message>
+    <message>
+        <source>S-Point Step:</source>
+        <translation>激发点号步长：</translation>
+    </message>
+    <message>
+        <source>S-Point Base:</source>
+        <translation>激发点号位数：</translation>
+    </message>
+    <message>
+        <source>Excitation line reversal</source>
+        <translation>激发线反向</translation>
+    </message>
+    <message>
+        <source>Receive Line</source>
+        <translation>接收线</translation>
+    </message>
+    <message>
+        <source>Send Line</source>
+        <translation>激发线</translation>
+    </message>
+    <message>
+        <source>Design Line Dialog</source>
+        <translation>测线设计</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>Line Type:</source>
+        <translation>测线类型：</translation>
+    </message>
+    <message>
+        <source>Show on Map</source>
+        <translation>在地图上显示</translation>
+    </message>
+    <message>
+        <source>Zoom the map to the grid of the line type above</source>
+        <translation>将地图缩放到上方测线类型的网格</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Replace the whole design by both grids</source>
+        <translation>用两个网格替换全部设计</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Keep the parameters; the design stays as it is</source>
+        <translation>只保留参数，设计不变</translation>
+    </message>
+    <message>
+        <source>Calc R</source>
+        <translation>计算接收线</translation>
+    </message>
+    <message>
+        <source>Replace the whole design, source points too, by the receiver grid</source>
+        <translation>用接收点网格替换全部设计，包括激发点</translation>
+    </message>
+    <message>
+        <source>Calc S</source>
+        <translation>计算激发线</translation>
+    </message>
+    <message>
+        <source>Replace the whole design, receiver points too, by the source grid</source>
+        <translation>用激发点网格替换全部设计，包括接收点</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Change nothing</source>
+        <translation>什么也不改变</translation>
+    </message>
+    <message>
+        <source>The start is the position of point %1.</source>
+        <translation>起点取点 %1 的坐标。</translation>
+    </message>
+    <message>
+        <source>Both places are the same. The azimuth stays as it was.</source>
+        <translation>两处位置相同，方位角保持不变。</translation>
+    </message>
+    <message>
+        <source>注意</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>步长禁止输入0。</source>
+        <translation>步长禁止输入0。</translation>
+    </message>
+</context>
+<context>
     <name>DlgEmptyPtResult</name>
     <message>
         <source>Empty Point Check Result</source>
@@ -1587,6 +2311,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgItemProperties</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>%1 的属性</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>DlgNewProject</name>
     <message>
         <source>New Project</source>
@@ -1595,6 +2330,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The project will be in &quot;%1&quot;.</source>
         <translation>工程将保存在“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>DlgOverviews</name>
+    <message>
+        <source>Building Overviews</source>
+        <translation>正在建立金字塔</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Images waiting: %1</source>
+        <translation>等待中的图像：%1</translation>
     </message>
 </context>
 <context>
@@ -2106,6 +2856,48 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>GridForm</name>
+    <message>
+        <source>R-Line</source>
+        <translation>接收线</translation>
+    </message>
+    <message>
+        <source>R-Point</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>S-Line</source>
+        <translation>激发线</translation>
+    </message>
+    <message>
+        <source>S-Point</source>
+        <translation>激发点</translation>
+    </message>
+</context>
+<context>
+    <name>GridStart</name>
+    <message>
+        <source>Pick Start on Map</source>
+        <translation>在地图上选取起点</translation>
+    </message>
+    <message>
+        <source>Take the start position from a click on the map, or from the design point there</source>
+        <translation>取地图上单击处的坐标，或该处设计点的坐标</translation>
+    </message>
+    <message>
+        <source>Pick Azimuth on Map</source>
+        <translation>在地图上选取方位角</translation>
+    </message>
+    <message>
+        <source>Take the azimuth from two clicks on the map, or from the design points there</source>
+        <translation>由地图上单击的两处或该处的设计点求方位角</translation>
+    </message>
+    <message>
+        <source>How the azimuth is typed: decimal degrees, or degrees with two digits of minutes and seconds</source>
+        <translation>方位角的键入方式：十进制度，或度加两位分和秒</translation>
+    </message>
+</context>
+<context>
     <name>GuideCommand</name>
     <message>
         <source>User Guide</source>
@@ -2373,6 +3165,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>LayerWindow</name>
+    <message>
+        <source>&amp;Opacity</source>
+        <translation>不透明度(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Item</source>
+        <translation>缩放到此项(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Move Item &amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move Item &amp;Down</source>
+        <translation>下移(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Item</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Item &amp;Properties</source>
+        <translation>属性(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was removed from the map. Its file stays as it is.</source>
+        <translation>已从地图上移除“%1”，其文件保持不变。</translation>
+    </message>
+</context>
+<context>
     <name>LineTree</name>
     <message>
         <source>Search</source>
@@ -2385,6 +3208,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Collapse All</source>
         <translation>全部折叠</translation>
+    </message>
+</context>
+<context>
+    <name>LoadOnlineMapCommand</name>
+    <message>
+        <source>close online map</source>
+        <translation>关闭在线地图</translation>
+    </message>
+    <message>
+        <source>show online map</source>
+        <translation>显示在线地图</translation>
     </message>
 </context>
 <context>
@@ -2443,6 +3277,149 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>OverlayTexts</name>
+    <message>
+        <source>Large images without overviews, which take long to show as a whole: %1.</source>
+        <translation>下列大图像没有金字塔，整幅显示会很慢：%1。</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>%1 x %2 %3 a pixel</source>
+        <translation>每像素 %1 x %2 %3</translation>
+    </message>
+    <message>
+        <source> (no data: %1)</source>
+        <translation>（无数据值：%1）</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>outside the coordinate system of the project</source>
+        <translation>在工程坐标系的范围之外</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Choose Overlay Images</source>
+        <translation>选择叠加图像</translation>
+    </message>
+    <message>
+        <source>georeferenced images</source>
+        <translation>带地理坐标的图像</translation>
+    </message>
+    <message>
+        <source>all files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>&amp;Build Overviews</source>
+        <translation>建立金字塔(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Find Its File...</source>
+        <translation>重新指定文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>An overlay image is shown with the survey of a project: open or create a project first.</source>
+        <translation>叠加图像与工程的测量数据一起显示：请先打开或新建工程。</translation>
+    </message>
+    <message>
+        <source>Overlay images added: %1.</source>
+        <translation>已添加叠加图像：%1 幅。</translation>
+    </message>
+    <message>
+        <source>Beside the survey: a double click in the window &quot;Layers&quot; goes there.</source>
+        <translation>图像不在测区内：在“图层”窗口中双击即可前往。</translation>
+    </message>
+    <message>
+        <source>Images that cannot be shown: %1.</source>
+        <translation>无法显示的图像：%1 幅。</translation>
+    </message>
+    <message>
+        <source>Overlay image: %1</source>
+        <translation>叠加图像：%1</translation>
+    </message>
+    <message>
+        <source>Overlay images with a fault: %1. The window &quot;Layers&quot; marks them.</source>
+        <translation>有问题的叠加图像：%1 幅，已在“图层”窗口中标出。</translation>
+    </message>
+    <message>
+        <source>Build the overviews now, in files beside the images? You can go on working meanwhile.</source>
+        <translation>现在建立金字塔吗？金字塔文件写在图像旁边，期间可以继续工作。</translation>
+    </message>
+    <message>
+        <source>They cannot be built, since the folder cannot be written.</source>
+        <translation>文件夹不可写，无法建立金字塔。</translation>
+    </message>
+    <message>
+        <source>The overviews were not built.</source>
+        <translation>金字塔未建立。</translation>
+    </message>
+    <message>
+        <source>The overviews of &quot;%1&quot; are built.</source>
+        <translation>“%1”的金字塔已建立。</translation>
+    </message>
+    <message>
+        <source>Cancelled: &quot;%1&quot; stays without overviews.</source>
+        <translation>已取消：“%1”仍没有金字塔。</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 像素</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>none; taken for that of the project</source>
+        <translation>无；按工程坐标系处理</translation>
+    </message>
+    <message>
+        <source>Place in the project</source>
+        <translation>在工程中的位置</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>波段</translation>
+    </message>
+    <message>
+        <source>Overviews</source>
+        <translation>金字塔</translation>
+    </message>
+</context>
+<context>
     <name>PeriodPanel</name>
     <message>
         <source>Period (%1)</source>
@@ -2467,6 +3444,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The period ends before it begins.</source>
         <translation>时段的结束早于开始。</translation>
+    </message>
+</context>
+<context>
+    <name>PlacePick</name>
+    <message>
+        <source>Places are picked on the map of an open project.</source>
+        <translation>请先打开工程，再在它的地图上选取位置。</translation>
+    </message>
+    <message>
+        <source>Click a place on the map, free or on a point. Esc or a right click cancels.</source>
+        <translation>请在地图上单击一处；单击点则取该点。按 Esc 或单击右键取消。</translation>
+    </message>
+    <message>
+        <source>Click place %1 of %2 on the map, free or on a point. Esc or a right click cancels.</source>
+        <translation>请在地图上单击第 %1 处（共 %2 处）；单击点则取该点。按 Esc 或单击右键取消。</translation>
     </message>
 </context>
 <context>
@@ -3588,6 +4580,48 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 %2 is under its limit %3.</source>
         <translation>%1 %2 低于下限 %3。</translation>
+    </message>
+</context>
+<context>
+    <name>Raster</name>
+    <message>
+        <source>&quot;%1&quot; does not say where it lies: it has neither a position of its own nor a world file beside it.</source>
+        <translation>“%1”没有说明其所在位置：既无自身坐标，旁边也没有世界文件（world file）。</translation>
+    </message>
+    <message>
+        <source>Parts of &quot;%1&quot; cannot be read: %2</source>
+        <translation>“%1”的部分内容无法读取：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read as an image: %2</source>
+        <translation>“%1”无法作为影像读取：%2</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>文件“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>文件“%1”是空的。</translation>
+    </message>
+    <message>
+        <source>not enough memory for its pixels</source>
+        <translation>内存不足，无法存放其像素</translation>
+    </message>
+    <message>
+        <source>The overviews of &quot;%1&quot; cannot be built: %2</source>
+        <translation>无法建立“%1”的金字塔：%2</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be written.</source>
+        <translation>文件夹“%1”不可写。</translation>
+    </message>
+</context>
+<context>
+    <name>RasterLayerImp</name>
+    <message>
+        <source>The base map &quot;%1&quot; is complete again.</source>
+        <translation>底图“%1”已恢复完整。</translation>
     </message>
 </context>
 <context>
@@ -5754,6 +6788,36 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Selected: %1</source>
         <translation>已选：%1</translation>
+    </message>
+</context>
+<context>
+    <name>TileCache</name>
+    <message>
+        <source>%1 tiles in &quot;%2&quot; cannot be removed.</source>
+        <translation>“%2”中有 %1 个瓦片无法删除。</translation>
+    </message>
+</context>
+<context>
+    <name>TileImage</name>
+    <message>
+        <source>The base map &quot;%1&quot; has no tiles here.</source>
+        <translation>底图“%1”在此处没有瓦片。</translation>
+    </message>
+    <message>
+        <source>The base map &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取底图“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The base map &quot;%1&quot; cannot be reached, %2 does not answer; it is tried again.</source>
+        <translation>无法连接底图“%1”，%2 没有应答；将自动重试。</translation>
+    </message>
+    <message>
+        <source>%2 refuses the tiles of the base map &quot;%1&quot; (HTTP status %3); it is tried again.</source>
+        <translation>%2 拒绝提供底图“%1”的瓦片（HTTP 状态 %3）；将自动重试。</translation>
+    </message>
+    <message>
+        <source>%2 answers with errors instead of tiles of the base map &quot;%1&quot;; it is tried again.</source>
+        <translation>%2 返回的是错误，而不是底图“%1”的瓦片；将自动重试。</translation>
     </message>
 </context>
 <context>

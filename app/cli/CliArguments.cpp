@@ -29,9 +29,10 @@ Outcome CliArguments::read(const QStringList& texts, const QStringList& allowed,
         if (flags.contains(text))
             continue;
         const bool takesPairs = text == QLatin1String("--set");
+        const bool isOnce = !takesPairs && text != QLatin1String("--overlay");
         if (i + 1 == texts.size() || texts[i + 1].isEmpty() || isOption(texts[i + 1]))
             return Outcome::refused(QStringLiteral("%1 needs a value").arg(text));
-        if (!takesPairs && !values.isEmpty())
+        if (isOnce && !values.isEmpty())
             return Outcome::refused(QStringLiteral("%1 is given twice").arg(text));
         values.append(texts[++i]);
         while (takesPairs && i + 1 < texts.size() && texts[i + 1].contains(QLatin1Char('=')))

@@ -6,7 +6,8 @@
 #include <QStringList>
 
 /// The arguments of a command: places in order, and options with their values. An option takes the
-/// next argument as its value and may come once. "--set" takes all key=value pairs that follow it.
+/// next argument as its value and may come once; "--overlay" may come several times. "--set" takes
+/// all key=value pairs that follow it.
 struct CliArguments
 {
     QStringList places;                 ///< those that are neither options nor their values

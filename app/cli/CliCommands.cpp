@@ -1,5 +1,7 @@
 #include "app/cli/CliCommands.h"
 
+#include "app/cli/AddOverlay.h"
+#include "app/cli/CalculateAzimuth.h"
 #include "app/cli/CheckProject.h"
 #include "app/cli/CompareProject.h"
 #include "app/cli/CreateProject.h"
@@ -52,9 +54,15 @@ constexpr std::array kCommands{
     CliCommand{"generate", "PROJECT receiver|source|both [--set key=value ...]",
                "replace the whole design by generated lines (--set: design parameters, stored with the project)",
                2, 2, "--set", "", generateDesign},
-    CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH]",
-               "paint the whole map into a picture",
-               3, 3, "--size", "", renderProject, true},
+    CliCommand{"azimuth", "NORTH EAST NORTH EAST [--dms]",
+               "print azimuth and length from the first place to the second (--dms: dd.mmss)",
+               4, 4, "", "--dms", calculateAzimuth},
+    CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH] [--overlay FILE] [--base-map NAME]",
+               "paint the whole map into a picture, over images and a base map (each image with its own --overlay, the last on top)",
+               3, 3, "--size,--overlay,--base-map", "", renderProject, true},
+    CliCommand{"add-overlay", "PROJECT FILE ...",
+               "lay images under the map of a project, over those that are there, the last on top",
+               2, kAny, "", "", addOverlay},
     CliCommand{"check", "PROJECT CHECK [--out FILE]",
                "check the project, print what is found as CSV (repeat only lists, and changes nothing)",
                2, 2, "--out", "", checkProject},

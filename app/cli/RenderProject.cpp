@@ -2,10 +2,12 @@
 
 #include "app/cli/CliCommands.h"
 #include "app/cli/CliProject.h"
+#include "app/cli/RenderGround.h"
 #include "lum_sdk/coords/CoordProjections.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/WholeFile.h"
+#include "lum_sdk/raster/Halo.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
 #include "map/DesignSpacing.h"
@@ -21,6 +23,8 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <QRegularExpression>
+
+#include <cstdio>
 
 namespace {
 
@@ -53,22 +57,54 @@ PictureFrame frameFor(const QSize& size, const QRectF& extent)
     return frame;
 }
 
-void paintDesignOf(DataProcessDataManager& manager, QImage& image)
+/// Paints the ground and the data over it, with a halo where there is a ground.
+template <class Paint>
+void paintMap(RenderGround& ground, QImage& image, const QRectF& extent, const Paint& paintData)
+{
+    const PictureFrame frame = frameFor(image.size(), extent);
+    if (ground.isEmpty()) {
+        QPainter painter(&image);
+        paintData(frame, painter);
+        return;
+    }
+    ground.paint(frame.transform, image);
+    QImage drawing(image.size(), image.format());
+    drawing.fill(Qt::transparent);
+    {
+        QPainter painter(&drawing);
+        paintData(frame, painter);
+    }
+    lum::drawWithHalo(image, drawing, Qt::white);
+    ground.nameSource(image);
+}
+
+/// The extent of the data; without data that of the overlays.
+template <class Marks>
+QRectF extentOf(const Marks& marks, const Bounds& bounds, const RenderGround& ground)
+{
+    const QRectF overlays = ground.extent();
+    return marks.table().size() == 0 && !overlays.isNull() ? overlays : markExtent(bounds, toMap);
+}
+
+void paintDesignOf(DataProcessDataManager& manager, RenderGround& ground, QImage& image)
 {
     const DesignMarks marks(manager.designPoints(), toMap);
     DesignPictureOptions options;
     options.spacing = smallestSpacing(manager.designParameters()).value_or(options.spacing);
-    QPainter painter(&image);
-    paintDesign(marks, frameFor(image.size(), markExtent(marks.table().gridBounds(), toMap)),
-                options, painter);
+    paintMap(ground, image, extentOf(marks, marks.table().gridBounds(), ground),
+             [&](const PictureFrame& frame, QPainter& painter) {
+                 paintDesign(marks, frame, options, painter);
+             });
 }
 
-void paintSurveyOf(DataProcessDataManager& manager, QImage& image)
+void paintSurveyOf(DataProcessDataManager& manager, RenderGround& ground, QImage& image)
 {
     const SurveyMarks marks(manager.surveyPoints(), toMap);
-    QPainter painter(&image);
-    paintSurvey(marks, frameFor(image.size(), markExtent(marks.gridBounds(), toMap)),
-                QCoreApplication::translate("DataProcessLayerImp", "Base"), painter);
+    const QString base = QCoreApplication::translate("DataProcessLayerImp", "Base");
+    paintMap(ground, image, extentOf(marks, marks.gridBounds(), ground),
+             [&](const PictureFrame& frame, QPainter& painter) {
+                 paintSurvey(marks, frame, base, painter);
+             });
 }
 
 /// The ending of the file's name chooses the format.
@@ -93,14 +129,25 @@ Outcome renderProject(const CliArguments& arguments)
         return Outcome::refused(QStringLiteral("\"%1\" is neither design nor survey").arg(view));
     if (size.isEmpty())
         return Outcome::refused(QStringLiteral("a size reads 1600x1000, up to 20000 a side"));
+    RenderGround ground;
+    if (Outcome choosing = ground.choose(arguments); !choosing.isDone())
+        return choosing;
     CliProject project;
     if (Outcome opening = project.open(arguments.places[0], ProjectAccess::Look); !opening.isDone())
+        return opening;
+    if (Outcome opening = ground.open(arguments); !opening.isDone())
         return opening;
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
     if (view == QLatin1String("design"))
-        paintDesignOf(project.manager(), image);
+        paintDesignOf(project.manager(), ground, image);
     else
-        paintSurveyOf(project.manager(), image);
-    return writePicture(image, arguments.places[2]);
+        paintSurveyOf(project.manager(), ground, image);
+    for (const QString& notice : ground.notices())
+        std::fprintf(stderr, "%s\n", qUtf8Printable(notice));
+    Outcome writing = writePicture(image, arguments.places[2]);
+    if (!writing.isDone() || ground.faults().isEmpty())
+        return writing;
+    return Outcome::failed(QStringLiteral("\"%1\" is written, but not complete: %2")
+                               .arg(arguments.places[2], ground.faults().join(QLatin1Char(' '))));
 }

@@ -5,6 +5,7 @@
 #include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/Translations.h"
+#include "lum_sdk/raster/TileThreads.h"
 #include "lum_sdk/Text.h"
 #include "protocol/ProductName.h"
 #include "protocol/StatusKeys.h"
@@ -61,6 +62,16 @@ int report(const Outcome& outcome)
     return outcome.kind() == Outcome::Kind::Refused ? 2 : 1;
 }
 
+/// \returns the exit status
+int run(const QStringList& arguments)
+{
+    try {
+        return report(runCli(arguments));
+    } catch (const std::exception& fault) {
+        return report(Outcome::failed(QString::fromUtf8(fault.what())));
+    }
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -75,13 +86,11 @@ int main(int argc, char* argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     if (answer(arguments))
         return 0;
-    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, arguments);
+    std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, arguments);
     QCoreApplication::setOrganizationName(QLatin1String(kOrganisation));
     QCoreApplication::setApplicationName(QLatin1String(kProductName));
     readSettings();
-    try {
-        return report(runCli(arguments));
-    } catch (const std::exception& fault) {
-        return report(Outcome::failed(QString::fromUtf8(fault.what())));
-    }
+    const int status = run(arguments);
+    application.reset();
+    lum::exitProcess(status);
 }

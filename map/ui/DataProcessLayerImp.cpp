@@ -316,6 +316,27 @@ bool DataProcessLayerImp::hasMarkIn(const QRectF& map) const
     return view == kSurveyView && m_survey->hasMarkIn(map);
 }
 
+std::optional<DrawnPoint> DataProcessLayerImp::pointAt(const QPointF& map) const
+{
+    const auto pointOf = [](const MarkTable& marks, MarkTable::Index mark) {
+        return DrawnPoint{lum::toQString(marks.name(mark)), marks.grid(mark)};
+    };
+    const int view = viewOf(get_system_status_dictionary());
+    if (view == kDesignView) {
+        if (const auto pick = pickDesign(map))
+            return pointOf(m_design->table(), pick->mark);
+    } else if (view == kSurveyView) {
+        const SurveyPick pick = pickSurvey(map);
+        if (pick.base) {
+            const BaseStation& base = m_survey->bases()[*pick.base];
+            return DrawnPoint{LayerTexts::baseName(*pick.base), {base.north, base.east}};
+        }
+        if (pick.mark)
+            return pointOf(m_survey->table(), pick.mark->mark);
+    }
+    return {};
+}
+
 QString DataProcessLayerImp::tipAt(const QPointF& map) const
 {
     const int view = viewOf(get_system_status_dictionary());

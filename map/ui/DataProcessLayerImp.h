@@ -51,6 +51,7 @@ public:
     [[nodiscard]] bool GetBasePosition(int index, QPointF& position) const override;
     [[nodiscard]] bool GetBaseRecord(int index, BaseStation& record) const override;
     [[nodiscard]] bool hasMarkIn(const QRectF& map) const override;
+    [[nodiscard]] std::optional<DrawnPoint> pointAt(const QPointF& map) const override;
     /// Line, number, kind and grid position of the point there, of the picture in view; of a base
     /// station its label and position.
     [[nodiscard]] QString tipAt(const QPointF& map) const override;

@@ -1,10 +1,20 @@
 #pragma once
 
 #include "lum_desktop_sdkx/ILayerViewer.h"
+#include "map/MarkTable.h"
 #include "model/BaseStation.h"
 
 #include <QPointF>
 #include <QString>
+
+#include <optional>
+
+/// A point of a picture.
+struct DrawnPoint
+{
+    QString name; ///< point number, or the label of a base station
+    GridPlace grid;
+};
 
 /// A layer whose points can be picked by place and looked up by name. Its operations, in this
 /// order, follow those of `ILayerViewer`. Positions are map coordinates. When nothing is found, the
@@ -22,4 +32,6 @@ public:
     [[nodiscard]] virtual bool GetBaseRecord(int index, BaseStation& record) const = 0;
     /// Whether a mark of the picture in view lies in this part of the map.
     [[nodiscard]] virtual bool hasMarkIn(const QRectF& map) const = 0;
+    /// The point of the picture in view that a click there hits, with its exact position.
+    [[nodiscard]] virtual std::optional<DrawnPoint> pointAt(const QPointF& map) const = 0;
 };

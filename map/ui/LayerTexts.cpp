@@ -26,6 +26,11 @@ QString baseLabel()
     return QCoreApplication::translate("DataProcessLayerImp", "Base");
 }
 
+QString baseName(std::size_t index)
+{
+    return baseLabel() + QLatin1Char('-') + QString::number(index + 1);
+}
+
 QString basePick()
 {
     return QCoreApplication::translate("DataProcessLayerImp", "base");

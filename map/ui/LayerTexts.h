@@ -11,6 +11,8 @@ namespace LayerTexts {
 
 /// The word in the label of a base station, as in "Base-1". Labels count from 1.
 [[nodiscard]] QString baseLabel();
+/// The label of a base station; the first has the index 0.
+[[nodiscard]] QString baseName(std::size_t index);
 /// The word in the name of a picked base station, as in "base-0". Names count from 0.
 [[nodiscard]] QString basePick();
 /// The captions of the progress bar while a picture is drawn.

@@ -11,6 +11,7 @@
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/Transform.h"
 #include "map/ui/FindDataLayer.h"
+#include "map/ui/FreePart.h"
 #include "map/ui/IDataLayer.h"
 #include "model/DesignPoint.h"
 #include "model/SurveyPoint.h"
@@ -60,32 +61,11 @@ bool isInView(const IMapWindow& map, const QPointF& place)
     return (QRegion(mark.toAlignedRect()) - map.uncovered()).isEmpty();
 }
 
-/// The middle of what the user sees of the map: of the largest part beside the windows over it.
-QPointF visibleMiddle(const IMapWindow& map)
-{
-    const QRect whole(QPoint(0, 0), map.transform().size());
-    const QRect covered = (QRegion(whole) - map.uncovered()).boundingRect();
-    if (covered.isEmpty())
-        return QRectF(whole).center();
-    QRect left = whole;
-    left.setRight(covered.left() - 1);
-    QRect right = whole;
-    right.setLeft(covered.right() + 1);
-    QRect above = whole;
-    above.setBottom(covered.top() - 1);
-    QRect below = whole;
-    below.setTop(covered.bottom() + 1);
-    const auto area = [](const QRect& part) { return qint64(part.width()) * part.height(); };
-    const QRect largest = std::max({left, right, above, below},
-                                   [&](const auto& a, const auto& b) { return area(a) < area(b); });
-    return QRectF(area(largest) > 0 ? largest : whole).center();
-}
-
 /// Moves the map so that `place` comes to the middle of what the user sees. \returns that middle
 QPointF moveTo(IMapWindow& map, const QPointF& place)
 {
     const Transform& view = map.transform();
-    const QPointF middle = visibleMiddle(map);
+    const QPointF middle = freePart(map).center();
     const QPointF aside = view.ScreenToSurvey(QRectF(QPointF(0, 0), QSizeF(view.size())).center()) -
                           view.ScreenToSurvey(middle);
     map.centerOn(place.x() + aside.x(), place.y() + aside.y());

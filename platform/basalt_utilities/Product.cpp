@@ -66,4 +66,9 @@ std::string settingsFolder()
     return userFolder("XDG_CONFIG_HOME", ".config");
 }
 
+std::string cacheFolder()
+{
+    return userFolder("XDG_CACHE_HOME", ".cache");
+}
+
 } // namespace basalt

@@ -35,4 +35,8 @@ void setProduct(const Product& product);
 /// "~/.config"). It may not exist yet.
 [[nodiscard]] std::string settingsFolder();
 
+/// The folder of what can be fetched again, "$XDG_CACHE_HOME/ORGANISATION/NAME" (by default under
+/// "~/.cache"). It may not exist yet.
+[[nodiscard]] std::string cacheFolder();
+
 } // namespace basalt

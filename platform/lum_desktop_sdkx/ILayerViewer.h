@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <atomic>
+#include <chrono>
 #include <string>
 
 class QPainter;
@@ -18,11 +19,25 @@ struct PaintTarget
     Transform transform;       ///< of this picture; the map's view may have moved since
     QRectF mapExtent;          ///< full extent of the map's data, map coordinates
     basalt::Dictionary status; ///< the system status as it was when the paint began
+    basalt::Dictionary system; ///< the project's coordinate system, as it was then; may be empty
+    double pixelRatio = 1;     ///< device pixels to a screen pixel
     const std::atomic<bool>* cancelled = nullptr;
+    std::atomic<bool>* hasRest = nullptr; ///< set by `leaveRest`
+    /// When the time for this picture is over. Only a layer that can leave a rest looks at it.
+    std::chrono::steady_clock::time_point deadline = std::chrono::steady_clock::time_point::max();
 
     /// True when a newer picture was requested. This one is thrown away then, so that the layer
     /// should return.
     [[nodiscard]] bool isCancelled() const { return cancelled != nullptr && cancelled->load(); }
+
+    /// Says that the layer had to stop at the deadline. The picture is shown as it is, and all
+    /// layers paint the same view again, with twice the time. A layer that waits for something
+    /// else, such as tiles of a service, redraws the map when that has come instead.
+    void leaveRest() const
+    {
+        if (hasRest != nullptr)
+            *hasRest = true;
+    }
 };
 
 /// A layer of the map. Made with (configuration text, host). The order of the operations is fixed.

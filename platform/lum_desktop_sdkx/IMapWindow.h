@@ -46,6 +46,9 @@ public:
 
     /// Paints the layers anew.
     virtual void redraw() = 0;
+    /// The same, but after the paint that is running: for a layer whose picture comes bit by bit,
+    /// so that every bit is seen however long a paint takes.
+    virtual void redrawSoon() { redraw(); }
     virtual void refreshOverlay() = 0;
 
     [[nodiscard]] virtual const Transform& transform() const = 0;
@@ -55,7 +58,9 @@ public:
     /// Adds a layer of a registered class on top. `properties` holds its "layer_name".
     /// \returns null, and a line in the log, when the class is not registered or the name is taken
     virtual ILayerViewer* addLayer(const QString& className, const IDictionary& properties) = 0;
-    /// \param number 0 or 1; tools and highlights use 0
+    /// \param number 0 to 2, the last on top of the others; highlights and tools use 0, picked
+    /// places
+    ///        2
     [[nodiscard]] virtual IOverlay& overlay(int number) = 0;
     [[nodiscard]] virtual IHost& host() = 0;
 };

@@ -1,14 +1,26 @@
 #pragma once
 
+#include <QColor>
+#include <QPolygonF>
+
 class IDictionary;
-class QColor;
 class QPointF;
-class QPolygonF;
 class QRectF;
 
+/// A line of an overlay that has a look of its own. It has a white edge, so that it shows on any
+/// ground.
+struct OverlayLine
+{
+    QPolygonF map; ///< map coordinates
+    QColor color;
+    int width = 1; ///< screen pixels
+    Qt::PenStyle style = Qt::SolidLine;
+    bool hasArrow = false; ///< at its end
+};
+
 /// A drawing over the map's picture, such as a highlight or the rectangle of the zoom tool. It
-/// holds at most one point, one line, one set of vertices and one rectangle. Changes show after
-/// `IMapWindow::refreshOverlay`.
+/// holds at most one point, one line, one set of vertices and one rectangle, and any number of
+/// lines that have a look of their own. Changes show after `IMapWindow::refreshOverlay`.
 class IOverlay
 {
 public:
@@ -31,6 +43,8 @@ public:
     virtual void setPoint(const QPointF& map) = 0;
     virtual void setLine(const QPolygonF& map) = 0;
     virtual void setVertices(const QPolygonF& map) = 0;
+    /// Under all other shapes, over the lines that were added before.
+    virtual void addLine(const OverlayLine& line) = 0;
 
     /// The rectangle that a tool draws, screen pixels, normalised or not.
     virtual void setRectangle(const QRectF& screen) = 0;

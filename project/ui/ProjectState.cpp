@@ -22,6 +22,7 @@ void change(IDesktopHost& host, const char* isOpen, const ProjectPlace& place)
     values.set(status::kProjectOpen, isOpen);
     values.set(status::kProjectPath, place.folder.toStdString());
     values.set(status::kProjectName, place.name.toStdString());
+    values.set(status::kUseGrid, "0"); // no service learns unasked where another project lies
     showTitle(host);
     for (const char* event :
          {events::kRefreshDesignLayer, events::kRefreshSurveyLayer, events::kUpdateSystemStatus})

@@ -6,7 +6,8 @@ struct ProjectPlace;
 
 /// Which project is open, as the whole program sees it: the status keys "project_open",
 /// "project_path" and "project_name", the title of the main frame, and the events that announce a
-/// change. Only this file writes them.
+/// change. Only this file writes them. It also switches the base map off: each project begins
+/// without one.
 namespace ProjectState {
 
 [[nodiscard]] bool isOpen();

@@ -30,6 +30,7 @@ const Floors& floors()
     static const Floors kFloors = {
         {Room::WithoutQt, {"platform/basalt_utilities"}},
         {Room::WithoutWidgets, {"platform/lum_sdk"}},
+        {Room::WithoutWidgets, {"platform/lum_sdk/raster"}},
         {Room::WithoutWidgets, {"protocol", "model"}},
         {Room::WithoutWidgets, {"exchange", "quality", "design", "map"}},
         {Room::WithoutWidgets, {"quality/statistics"}},

@@ -59,6 +59,7 @@ void MakeDemoTest::makesAProjectInAnyLanguage()
     QVERIFY2(tells("design_points", "csv/design.csv"), qUtf8Printable(m_output));
     QVERIFY2(tells("survey_results", "csv/survey.csv"), qUtf8Printable(m_output));
     QVERIFY(m_output.contains(QStringLiteral("coordinate_system: EPSG:32650\n")));
+    QVERIFY(TestFolder::read(project).contains("\"../csv/ground.tif\""));
 }
 
 void MakeDemoTest::refusesWhatIsNoSeed()

@@ -18,9 +18,11 @@ using Request = FileDialog::Request;
 
 struct Choice
 {
-    QString path;   ///< empty when the user cancelled
-    QString filter; ///< the one that was chosen
+    QStringList paths; ///< empty when the user cancelled; one of them unless several are asked for
+    QString filter;    ///< the one that was chosen
     bool byUser = false;
+
+    [[nodiscard]] QString path() const { return paths.value(0); }
 };
 
 QHash<QString, QString>& lastFolders()
@@ -42,6 +44,9 @@ void prepare(QFileDialog& dialog, FileDialog::Kind kind)
     case FileDialog::Kind::Open:
         dialog.setFileMode(QFileDialog::ExistingFile);
         break;
+    case FileDialog::Kind::OpenSeveral:
+        dialog.setFileMode(QFileDialog::ExistingFiles);
+        break;
     case FileDialog::Kind::Save:
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
@@ -61,25 +66,26 @@ Choice show(QWidget* parent, const Request& request)
     dialog.resize(dialog.size().boundedTo(desktop::largestSize(dialog)));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {{}, {}, true};
-    return {dialog.selectedFiles().constFirst(), dialog.selectedNameFilter(), true};
+    return {dialog.selectedFiles(), dialog.selectedNameFilter(), true};
 }
 
 Choice ask(QWidget* parent, const Request& request)
 {
     Choice choice;
     if (const auto answer = FileDialog::Responder::answer(request)) {
-        choice = {*answer, request.filter.section(QStringLiteral(";;"), 0, 0), false};
+        choice = {answer->split(QLatin1Char('\n'), Qt::SkipEmptyParts),
+                  request.filter.section(QStringLiteral(";;"), 0, 0), false};
     } else if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) {
         choice = show(parent, request);
     } else {
         basalt::logWarning("Nobody to ask for a file: " + request.title.toStdString());
     }
-    if (!choice.path.isEmpty()) {
-        choice.path = QDir::fromNativeSeparators(QFileInfo(choice.path).absoluteFilePath());
+    for (QString& path : choice.paths)
+        path = QDir::fromNativeSeparators(QFileInfo(path).absoluteFilePath());
+    if (!choice.paths.isEmpty())
         lastFolders().insert(request.title, request.kind == FileDialog::Kind::Folder
-                                                ? choice.path
-                                                : QFileInfo(choice.path).absolutePath());
-    }
+                                                ? choice.path()
+                                                : QFileInfo(choice.path()).absolutePath());
     return choice;
 }
 
@@ -109,21 +115,27 @@ bool mayWrite(QWidget* parent, const QString& title, const QString& path)
 
 QString FileDialog::getOpenFileName(QWidget* parent, const QString& title, const QString& filter)
 {
-    return ask(parent, {Kind::Open, title, filter}).path;
+    return ask(parent, {Kind::Open, title, filter}).path();
+}
+
+QStringList FileDialog::getOpenFileNames(QWidget* parent, const QString& title,
+                                         const QString& filter)
+{
+    return ask(parent, {Kind::OpenSeveral, title, filter}).paths;
 }
 
 QString FileDialog::getExistingDirectory(QWidget* parent, const QString& title)
 {
-    return ask(parent, {Kind::Folder, title, {}}).path;
+    return ask(parent, {Kind::Folder, title, {}}).path();
 }
 
 QString FileDialog::getSaveFileName(QWidget* parent, const QString& title, const QString& filter)
 {
     for (;;) {
         const Choice choice = ask(parent, {Kind::Save, title, filter});
-        if (choice.path.isEmpty())
+        if (choice.paths.isEmpty())
             return {};
-        QString path = withSuffix(choice.path, choice.filter);
+        QString path = withSuffix(choice.path(), choice.filter);
         if (mayWrite(parent, title, path))
             return path;
         if (!choice.byUser)

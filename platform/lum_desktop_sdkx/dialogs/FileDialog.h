@@ -3,6 +3,7 @@
 #include "lum_desktop_sdkx/dialogs/Responder.h"
 
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -16,12 +17,13 @@ public:
     enum class Kind
     {
         Open,
+        OpenSeveral,
         Save,
         Folder
     };
 
     /// What a responder is asked. It answers with a path as the user would pick or type it, or with
-    /// an empty one for Cancel.
+    /// an empty one for Cancel; with several paths one a line.
     struct Request
     {
         using Answer = QString;
@@ -35,6 +37,9 @@ public:
     /// Each returns an absolute path with "/", or an empty text when the user cancelled.
     static QString getOpenFileName(QWidget* parent, const QString& title,
                                    const QString& filter = {});
+    /// The same for any number of files; an empty list when the user cancelled.
+    static QStringList getOpenFileNames(QWidget* parent, const QString& title,
+                                        const QString& filter = {});
     static QString getExistingDirectory(QWidget* parent, const QString& title);
 
     /// A name without a suffix gets the suffix of the chosen filter. When the file exists,

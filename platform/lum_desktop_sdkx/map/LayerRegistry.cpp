@@ -2,7 +2,10 @@
 
 #include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/ILayerViewer.h"
+#include "lum_sdk/Text.h"
 #include "lum_sdk/Transform.h"
+
+#include <QStringList>
 
 #include <algorithm>
 
@@ -74,4 +77,15 @@ QString LayerRegistry::tipAt(const QPointF& map) const
             return tip;
     }
     return {};
+}
+
+QString LayerRegistry::attributions() const
+{
+    QStringList named;
+    for (ILayerViewer* layer : visibleLayers()) {
+        const QString attribution = lum::toQString(layer->GetProperties().text("attribution"));
+        if (!attribution.isEmpty() && !named.contains(attribution))
+            named.append(attribution);
+    }
+    return named.join(QStringLiteral(" | "));
 }

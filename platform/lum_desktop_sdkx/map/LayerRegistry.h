@@ -24,6 +24,8 @@ public:
     [[nodiscard]] std::vector<ILayerViewer*> visibleLayers() const;
     /// The tool tip of the topmost visible layer that has one for this place; empty when none has.
     [[nodiscard]] QString tipAt(const QPointF& map) const;
+    /// The properties "attribution" of the visible layers, each once.
+    [[nodiscard]] QString attributions() const;
     /// The rectangle around the extents of all visible layers; null when none has a finite extent.
     [[nodiscard]] QRectF visibleExtent() const;
 

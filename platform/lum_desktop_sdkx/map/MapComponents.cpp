@@ -2,6 +2,7 @@
 
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_desktop_sdkx/map/RasterLayerImp.h"
 #include "lum_desktop_sdkx/map/ReactorDefault.h"
 #include "lum_desktop_sdkx/Registration.h"
 
@@ -11,6 +12,7 @@ void registerMapComponents()
     static const bool once = [] {
         window<MapWindow>("MapWindow", "地图");
         layer<BoundaryLayer>("BoundaryLayer", "边界图层");
+        layer<RasterLayerImp>("RasterLayerImp", "在线地图图层");
         return reactor<ReactorDefault>("ReactorDefault", "默认");
     }();
     static_cast<void>(once);

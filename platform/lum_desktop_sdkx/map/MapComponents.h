@@ -1,5 +1,5 @@
 #pragma once
 
-/// Registers the window "MapWindow", the layer "BoundaryLayer" and the mouse handler
-/// "ReactorDefault"; a second call does nothing.
+/// Registers the window "MapWindow", the layers "BoundaryLayer" and "RasterLayerImp" and the mouse
+/// handler "ReactorDefault"; a second call does nothing.
 void registerMapComponents();

@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QImage>
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -15,10 +16,12 @@ struct MapPaintJob
     PaintTarget target;
     std::vector<ILayerViewer*> layers;   ///< from bottom to top
     std::vector<std::string> layerNames; ///< for the log, in the same order; a worker must not ask
+    /// The layers from this one on lie over a picture of the ground, and get a halo in the colour
+    /// of the background.
+    std::size_t firstOverPicture = std::numeric_limits<std::size_t>::max();
     QColor background = Qt::white;
     QColor foreground = Qt::black; ///< the pen of the painter that a layer gets
     QFont font;                    ///< see `fontForWorker`
-    double pixelRatio = 1;         ///< device pixels to a screen pixel
 };
 
 /// Paints the layers over the background. Any thread may call it. The picture is opaque and has the

@@ -2,9 +2,13 @@
 
 #include "basalt_utilities/ILogger.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
+
+constexpr std::chrono::milliseconds kFirstTime(60); // soon enough to seem immediate
+constexpr std::chrono::milliseconds kMostTime = std::chrono::hours(1);
 
 /// A null picture, and a line in the log, when painting fails as a whole. An exception must not
 /// leave the thread, which would end the program.
@@ -39,6 +43,7 @@ void MapPainter::request(MapPaintJob job)
 {
     job.target.cancelled = &m_cancelled;
     m_viewInWork = job.target.transform;
+    m_isAtWork = true;
     ++m_newest;
     {
         const std::lock_guard lock(m_mutex);
@@ -50,8 +55,21 @@ void MapPainter::request(MapPaintJob job)
 
 void MapPainter::run()
 {
-    while (const std::optional<Request> request = takeRequest())
-        handOver(*request, paintedOrNull(request->job));
+    while (std::optional<Request> request = takeRequest()) {
+        auto time = kFirstTime;
+        while (paint(*request, time) && !m_cancelled)
+            time = std::min(2 * time, kMostTime);
+    }
+}
+
+bool MapPainter::paint(Request& request, std::chrono::milliseconds time)
+{
+    std::atomic<bool> hasRest = false;
+    request.job.target.hasRest = &hasRest;
+    request.job.target.deadline = std::chrono::steady_clock::now() + time;
+    const QImage picture = paintedOrNull(request.job);
+    handOver(request, picture, hasRest);
+    return hasRest;
 }
 
 std::optional<MapPainter::Request> MapPainter::takeRequest()
@@ -64,22 +82,24 @@ std::optional<MapPainter::Request> MapPainter::takeRequest()
     return std::exchange(m_pending, std::nullopt);
 }
 
-void MapPainter::handOver(const Request& request, const QImage& picture)
+void MapPainter::handOver(const Request& request, const QImage& picture, bool hasRest)
 {
     if (m_cancelled)
         return;
     QMetaObject::invokeMethod(
         this,
-        [this, number = request.number, picture, view = request.job.target.transform] {
-            deliver(number, picture, view);
+        [this, number = request.number, picture, view = request.job.target.transform, hasRest] {
+            deliver(number, picture, view, hasRest);
         },
         Qt::QueuedConnection);
 }
 
-void MapPainter::deliver(int number, const QImage& picture, const Transform& view)
+void MapPainter::deliver(int number, const QImage& picture, const Transform& view, bool hasRest)
 {
-    if (number == m_newest)
+    if (number == m_newest) {
         m_viewInWork.reset();
+        m_isAtWork = hasRest;
+    }
     if (!picture.isNull())
         Q_EMIT painted(picture, view);
 }

@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -12,6 +13,10 @@
 
 /// Paints pictures of the map on its own thread, one at a time. Of the waiting requests only the
 /// newest is painted.
+///
+/// A layer that has more to paint than its time allows leaves a rest. The picture is shown without
+/// it, and the same job is painted again, each time with twice the time, until nothing is left or a
+/// newer request comes.
 ///
 /// It is used on the GUI thread. The destructor cancels the running paint and waits for its end, so
 /// that the layers can be deleted afterwards.
@@ -27,8 +32,11 @@ public:
     /// painter.
     void request(MapPaintJob job);
 
-    /// The view of the newest request; nothing once its picture has arrived.
+    /// The view of the newest request; nothing once its first picture has arrived.
     [[nodiscard]] const std::optional<Transform>& viewInWork() const { return m_viewInWork; }
+
+    /// Whether more pictures of the newest request will come.
+    [[nodiscard]] bool isAtWork() const { return m_isAtWork; }
 
 Q_SIGNALS:
     /// Sent on the GUI thread, and not for a picture that was cancelled.
@@ -44,11 +52,14 @@ private:
     void run();
     /// Waits for a request; returns nothing when the thread must end.
     [[nodiscard]] std::optional<Request> takeRequest();
-    void handOver(const Request& request, const QImage& picture);
-    void deliver(int number, const QImage& picture, const Transform& view);
+    /// \returns whether a layer left a rest
+    bool paint(Request& request, std::chrono::milliseconds time);
+    void handOver(const Request& request, const QImage& picture, bool hasRest);
+    void deliver(int number, const QImage& picture, const Transform& view, bool hasRest);
 
     // GUI thread only
     std::optional<Transform> m_viewInWork;
+    bool m_isAtWork = false;
     int m_newest = 0;
 
     std::mutex m_mutex; // guards the members below

@@ -3,15 +3,19 @@
 #include "basalt_utilities/ILogger.h"
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/map/NorthArrow.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
 #include "lum_desktop_sdkx/map/ScaleBar.h"
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/coords/ShownUnit.h"
 #include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/SystemKeys.h"
+#include "lum_sdk/raster/Attribution.h"
 #include "lum_sdk/Text.h"
 
 #include <QApplication>
@@ -198,6 +202,14 @@ void MapWindow::redraw()
     m_paintTimer.start(0);
 }
 
+void MapWindow::redrawSoon()
+{
+    if (m_painter.viewInWork())
+        m_isRedrawDue = true;
+    else
+        redraw();
+}
+
 void MapWindow::startPaint()
 {
     if (!isVisible())
@@ -211,7 +223,7 @@ void MapWindow::startPaint()
 
 bool MapWindow::isUpToDate() const
 {
-    return !m_isContentStale && !m_paintTimer.isActive() && !m_painter.viewInWork();
+    return !m_isContentStale && !m_isRedrawDue && !m_paintTimer.isActive() && !m_painter.isAtWork();
 }
 
 MapPaintJob MapWindow::makeJob()
@@ -224,11 +236,14 @@ MapPaintJob MapWindow::makeJob()
     for (ILayerViewer* layer : job.layers) {
         layer->preparePaint();
         job.layerNames.push_back(layer->GetName());
+        if (layerpicture::isShown(layer->GetProperties()))
+            job.firstOverPicture = job.layerNames.size();
     }
     job.background = palette().color(QPalette::Base);
     job.foreground = palette().color(QPalette::Text);
     job.font = fontForWorker(font());
-    job.pixelRatio = m_pixelRatio = devicePixelRatioF();
+    job.target.system = basalt::Dictionary(get_project_coord_transform().parameters());
+    job.target.pixelRatio = m_pixelRatio = devicePixelRatioF();
     m_boundaryState = job.target.status.integer(status::kDrawBoundaryRect);
     return job;
 }
@@ -237,6 +252,8 @@ void MapWindow::showPicture(const QImage& picture, const Transform& view)
 {
     m_picture.set(picture, view);
     update();
+    if (!m_painter.viewInWork() && std::exchange(m_isRedrawDue, false))
+        redraw();
     if (!m_painter.viewInWork() && view != m_transform && !m_paintTimer.isActive())
         m_paintTimer.start(0);
     Q_EMIT pictureChanged();
@@ -265,12 +282,13 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
         redraw();
     QPainter painter(this);
     m_picture.draw(painter, m_transform, palette().color(QPalette::Base));
-    m_overlays[1].draw(painter, m_transform);
-    m_overlays[0].draw(painter, m_transform);
+    for (const std::size_t number : {1U, 0U, 2U}) // from the bottom
+        m_overlays[number].draw(painter, m_transform);
     if (!m_host.hasDocument())
         return; // nothing here has a scale
-    drawScaleBar(painter, m_transform, lum::shownUnit());
+    const QRect bar = drawScaleBar(painter, m_transform, lum::shownUnit());
     drawNorthArrow(painter, m_transform);
+    lum::drawAttribution(painter, size(), m_layers.attributions(), bar);
 }
 
 void MapWindow::resizeEvent(QResizeEvent* /*event*/)
@@ -314,8 +332,8 @@ ILayerViewer* MapWindow::addLayer(const QString& className, const IDictionary& p
 
 IOverlay& MapWindow::overlay(int number)
 {
-    Q_ASSERT(number == 0 || number == 1);
-    return m_overlays[number == 1 ? 1 : 0];
+    Q_ASSERT(number >= 0 && number < 3);
+    return m_overlays[static_cast<std::size_t>(number)];
 }
 
 bool MapWindow::installReactor(const QString& name)

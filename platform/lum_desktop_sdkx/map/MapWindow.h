@@ -51,6 +51,7 @@ public:
     void installDefaultReactors() override;
     void setMapCursor(const QCursor& cursor) override;
     void redraw() override;
+    void redrawSoon() override;
     void refreshOverlay() override;
     [[nodiscard]] const Transform& transform() const override { return m_transform; }
     [[nodiscard]] QRegion uncovered() const override;
@@ -107,11 +108,12 @@ private:
     std::optional<Fit> m_fitUntilSeen;
 
     LayerRegistry m_layers;
-    std::array<Overlay, 2> m_overlays;
+    std::array<Overlay, 3> m_overlays;
     MapPicture m_picture;
     MapPainter m_painter; // after the layers, so that it ends before they do
     QTimer m_paintTimer;
     bool m_isContentStale = true; ///< the picture shows old data, not only an old view
+    bool m_isRedrawDue = false;   ///< once the running paint has ended
     int m_boundaryState = 0;      ///< status of the boundary when the last paint was requested
     double m_pixelRatio = 1;      ///< when the last paint was requested
 

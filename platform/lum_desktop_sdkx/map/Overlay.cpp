@@ -18,8 +18,56 @@ constexpr int kMaxWidth = 32;
 constexpr int kBandAlpha = 28;      // lets the map show through the rectangle
 constexpr double kMarkWidth = 2;    // of a cross or ring, screen pixels
 constexpr double kMarkEdge = 1;     // its white edge, screen pixels
+constexpr double kArrowLength = 14; // screen pixels
+constexpr double kArrowHalf = 5;    // half of its width
 constexpr double kArmFactor = 0.8;  // of the radius
 constexpr double kRingFactor = 1.6; // a cross at the same place fits into the ring
+
+/// The pieces of a line that can be seen.
+QVector<QLineF> seenPieces(const QPolygonF& map, const Transform& view, const QRectF& area)
+{
+    QVector<QLineF> pieces;
+    for (int i = 1; i < map.size(); ++i) {
+        const QLineF piece(view.SurveyToScreen(map[i - 1]), view.SurveyToScreen(map[i]));
+        if (const auto seen = clippedLine(piece, area))
+            pieces.push_back(*seen);
+    }
+    return pieces;
+}
+
+/// The head of an arrow at the end of a line; nothing where it has no direction or is not seen.
+QPolygonF arrowHead(const QPolygonF& map, const Transform& view, const QRectF& area)
+{
+    if (map.size() < 2)
+        return {};
+    const QPointF tip = view.SurveyToScreen(map.last());
+    const QPointF way = tip - view.SurveyToScreen(map[map.size() - 2]);
+    const double length = std::hypot(way.x(), way.y());
+    if (!std::isfinite(length) || length < 1 || !area.contains(tip))
+        return {};
+    const QPointF along = way / length;
+    const QPointF aside(-along.y() * kArrowHalf, along.x() * kArrowHalf);
+    const QPointF back = tip - along * kArrowLength;
+    return QPolygonF(QVector<QPointF>{tip, back + aside, back - aside});
+}
+
+void drawAddedLine(QPainter& painter, const OverlayLine& line, const Transform& view,
+                   const QRectF& area)
+{
+    const QVector<QLineF> pieces = seenPieces(line.map, view, area);
+    const QPolygonF head = line.hasArrow ? arrowHead(line.map, view, area) : QPolygonF();
+    const QColor edge = Qt::white;
+    painter.setBrush(line.color);
+    painter.setPen(QPen(edge, line.width + 2 * kMarkEdge));
+    painter.drawLines(pieces);
+    painter.setPen(QPen(edge, 2 * kMarkEdge));
+    painter.drawPolygon(head);
+    painter.setPen(QPen(line.color, line.width, line.style));
+    painter.drawLines(pieces);
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(head);
+    painter.setBrush(Qt::NoBrush);
+}
 
 } // namespace
 
@@ -71,6 +119,12 @@ void Overlay::setVertices(const QPolygonF& map)
     m_next.vertices = map;
 }
 
+void Overlay::addLine(const OverlayLine& line)
+{
+    m_next.addedLines.push_back(line);
+    m_next.addedLines.back().width = std::clamp(line.width, 1, kMaxWidth);
+}
+
 void Overlay::setRectangle(const QRectF& screen)
 {
     m_next.rectangle = screen;
@@ -88,6 +142,8 @@ void Overlay::draw(QPainter& painter, const Transform& view) const
     const double reach = kMaxRadius; // farther outside, a shape cannot be seen
     const QRectF area =
         QRectF(QPointF(0, 0), QSizeF(view.size())).adjusted(-reach, -reach, reach, reach);
+    for (const OverlayLine& line : m_shown.addedLines)
+        drawAddedLine(painter, line, view, area);
     painter.setPen(QPen(m_shown.color, m_shown.lineWidth, m_shown.lineStyle));
     drawLine(painter, view, area);
     drawRectangle(painter, area);
@@ -97,12 +153,8 @@ void Overlay::draw(QPainter& painter, const Transform& view) const
 
 void Overlay::drawLine(QPainter& painter, const Transform& view, const QRectF& area) const
 {
-    for (int i = 1; i < m_shown.line.size(); ++i) {
-        const QLineF piece(view.SurveyToScreen(m_shown.line[i - 1]),
-                           view.SurveyToScreen(m_shown.line[i]));
-        if (const auto seen = clippedLine(piece, area))
-            painter.drawLine(*seen);
-    }
+    for (const QLineF& piece : seenPieces(m_shown.line, view, area))
+        painter.drawLine(piece);
 }
 
 void Overlay::drawRectangle(QPainter& painter, const QRectF& area) const

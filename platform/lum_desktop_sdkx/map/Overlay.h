@@ -27,6 +27,8 @@ public:
     void setPoint(const QPointF& map) override;
     void setLine(const QPolygonF& map) override;
     void setVertices(const QPolygonF& map) override;
+    /// The width is kept between 1 and 32.
+    void addLine(const OverlayLine& line) override;
     void setRectangle(const QRectF& screen) override;
 
     /// Makes `draw` draw what was set until now.
@@ -51,6 +53,7 @@ private:
         std::optional<QPointF> point;
         QPolygonF line;
         QPolygonF vertices;
+        std::vector<OverlayLine> addedLines;
         std::optional<QRectF> rectangle; ///< screen pixels
     };
 

@@ -55,14 +55,14 @@ QString lengthText(double length, const lum::LengthUnit& unit)
     return QString::fromStdString(number + ' ' + symbol);
 }
 
-void drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUnit& unit)
+QRect drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUnit& unit)
 {
     const QSize screen = view.size();
     if (screen.width() < kSmallestScreen || screen.height() < kSmallestScreen / 2)
-        return;
+        return {};
     const double longest = std::min(kLongest, screen.width() / 3.0);
     if (longest * view.GetScale() * unit.grid.metres > kEarthM)
-        return;
+        return {};
     const double unitsPerPixel = unit.toShown(view.GetScale());
     const double length = roundLength(longest * unitsPerPixel);
     const QString text = lengthText(length, unit.shown);
@@ -77,4 +77,5 @@ void drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUnit
     drawBar(painter, paper, pixels);
     painter.drawText(paper.adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter, text);
     painter.restore();
+    return paper;
 }

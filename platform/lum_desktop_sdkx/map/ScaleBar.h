@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRect>
+
 class QPainter;
 class QString;
 class Transform;
@@ -12,7 +14,8 @@ struct ShownUnit;
 /// Draws a bar of a round length in the unit that is shown, and the length beside it, in the lower
 /// left corner of the screen of `view`. Draws nothing on a screen that is too small, or when the
 /// bar would be longer than the circumference of the earth.
-void drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUnit& unit);
+/// \returns the place that it takes; empty when nothing was drawn
+QRect drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUnit& unit);
 
 /// The greatest length of 1, 2 or 5 times a power of ten that is not above `limit`.
 /// \param limit > 0

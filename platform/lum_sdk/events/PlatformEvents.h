@@ -21,6 +21,8 @@ inline constexpr const char* kUpdateSystemStatus = "UPDATE_SYSTEM_STATUS_EVENT";
 inline constexpr const char* kSettingViewFinished = "ON_SETTING_VIEW_FINISHED";
 /// Project settings after a change -> frame, which reads the system status again. No payload.
 inline constexpr const char* kProjectChanged = "ON_PROJECT_CHANGED";
+/// A layer whose items came, went or changed -> list of layers. No payload.
+inline constexpr const char* kLayerItemsChanged = "ON_LAYER_ITEMS_CHANGED";
 /// The boundary command -> map. No payload.
 inline constexpr const char* kInitBoundaryRect = "ON_INIT_BOUNDARY_RECT";
 

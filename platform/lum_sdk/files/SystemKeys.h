@@ -4,6 +4,7 @@
 namespace status {
 
 inline constexpr const char* kDrawBoundaryRect = "draw_boundary_rect"; ///< 1 shows it; "0"
+inline constexpr const char* kUseGrid = "useGrid"; ///< 1 shows the base map; spelled so; "0"
 
 } // namespace status
 

@@ -1,4 +1,5 @@
 #include "basalt_utilities/KeyList.h"
+#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapPicture.h"
@@ -136,6 +137,26 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(50, 250), kPaper);
     }
 
+    void aPictureOfTheGroundGetsAHaloOverIt()
+    {
+        ILayerViewer* const ground = addLayer("layer_name=ground,x=100,y=50,color=red");
+        addLayer("layer_name=data,x=107,y=50");
+        const QPoint beside(101, 250);
+        const QImage plain = settledPicture();
+        QCOMPARE(plain.pixelColor(beside), QColor(Qt::red));
+        const auto again = [this] {
+            m_map->redraw();
+            return settledPicture();
+        };
+        layerpicture::setShown(ground->GetProperties(), true);
+        const QImage withHalo = again();
+        QVERIFY(withHalo.pixelColor(beside).red() < 100);        // almost the paper
+        QCOMPARE(withHalo.pixelColor(98, 250), QColor(Qt::red)); // the picture itself has none
+        QCOMPARE(withHalo.pixelColor(102, 250), QColor(Qt::blue));
+        layerpicture::setShown(ground->GetProperties(), false);
+        QCOMPARE(again(), plain);
+    }
+
     void lastPictureMovesWithTheViewAtOnce()
     {
         addLayer("layer_name=a,x=100,y=50");
@@ -182,6 +203,43 @@ private Q_SLOTS:
         QTRY_COMPARE(overtaken.load(), 1);
         QTRY_COMPARE(shown().pixelColor(200, 150), QColor(Qt::blue));
         QCOMPARE(pictures.count(), 1); // the cancelled picture was not shown
+    }
+
+    void aRestIsPaintedLaterWithTwiceTheTime()
+    {
+        std::vector<double> timesMs; // read only when the map is up to date
+        ProbeLayer::onPaint = [&](const PaintTarget& target) {
+            const auto left = target.deadline - std::chrono::steady_clock::now();
+            timesMs.push_back(std::chrono::duration<double, std::milli>(left).count());
+            if (timesMs.size() < 4)
+                target.leaveRest();
+        };
+        QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
+        addLayer("layer_name=a,x=200,y=150");
+        QCOMPARE(settledPicture().pixelColor(200, 150), QColor(Qt::blue));
+        QCOMPARE(pictures.count(), 4); // each is shown
+        QCOMPARE(timesMs.size(), std::size_t(4));
+        for (std::size_t i = 1; i < timesMs.size(); ++i)
+            QVERIFY2(std::abs(timesMs[i] / timesMs[i - 1] - 2) < 0.5, "not twice the time");
+    }
+
+    void aNewerViewEndsTheRest()
+    {
+        std::atomic<int> painted = 0;
+        ProbeLayer::onPaint = [&](const PaintTarget& target) {
+            ++painted;
+            QThread::msleep(1);
+            if (target.transform.GetScale() == 1)
+                target.leaveRest(); // for ever
+        };
+        addLayer("layer_name=a,x=200,y=150");
+        QTRY_VERIFY(painted > 3);
+        QVERIFY(!m_map->isUpToDate());
+        m_map->zoomAbout(200, 150, 2);
+        QCOMPARE(settledPicture().pixelColor(200, 150), QColor(Qt::blue));
+        const int atEnd = painted;
+        QTest::qWait(20);
+        QCOMPARE(painted.load(), atEnd);
     }
 
     void longDragStillGetsPictures()
@@ -235,7 +293,7 @@ private Q_SLOTS:
         job.layers = {&layer};
         job.target.transform.setSize({100, 80});
         job.target.transform.fit({0, 0, 100, 80}, 0);
-        job.pixelRatio = 2;
+        job.target.pixelRatio = 2;
         const QImage picture = paintPicture(job);
         QCOMPARE(picture.size(), QSize(200, 160));
         QCOMPARE(picture.pixelColor(29, 120), QColor(Qt::blue));
@@ -280,6 +338,35 @@ private Q_SLOTS:
         m_map->refreshOverlay();
         picture = shown();
         QCOMPARE(picture.pixelColor(399, 299), kPaper);
+    }
+
+    void overlayLinesKeepTheirColoursAndPointAhead()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        IOverlay& overlay = m_map->overlay(1);
+        const auto add = [&](const QVector<QPointF>& line, Qt::GlobalColor color, bool hasArrow) {
+            overlay.addLine({QPolygonF(line), color, 2, Qt::SolidLine, hasArrow});
+        };
+        add({{50, 200}, {150, 200}}, Qt::cyan, true);
+        add({{100, 50}, {100, 250}}, Qt::blue, false);
+        add({{300, 100}, {300, 100}}, Qt::red, true); // has no direction
+        add({{300, 50}, {nan, nan}}, Qt::red, true);
+        add({{300, 20}}, Qt::red, true);
+        m_map->refreshOverlay();
+        const QImage picture = shown();
+        QCOMPARE(picture.pixelColor(70, 100), QColor(Qt::cyan));
+        QCOMPARE(picture.pixelColor(70, 98), QColor(Qt::white)); // the edge
+        QCOMPARE(picture.pixelColor(100, 100), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(138, 102), QColor(Qt::cyan)); // the head ends at 150
+        QCOMPARE(picture.pixelColor(148, 105), kPaper);
+        QCOMPARE(picture.pixelColor(53, 104), kPaper); // none at the beginning
+        QCOMPARE(picture.pixelColor(100, 248), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(104, 60), kPaper);
+        QCOMPARE(picture.pixelColor(300, 195), kPaper);
+
+        overlay.clear();
+        m_map->refreshOverlay();
+        QCOMPARE(shown().pixelColor(70, 100), kPaper);
     }
 
     void boundaryFollowsItsStatus()
@@ -346,6 +433,42 @@ private Q_SLOTS:
             QCOMPARE(window.pixelColor(20, 41), QColor(kPaper));
             QCOMPARE(window.pixelColor(41, 20), QColor(kPaper));
         }
+    }
+
+    void sourcesAreNamedBesideTheScaleBarOrAboveIt()
+    {
+        const auto darkIn = [](const QImage& picture, const QRect& area) {
+            int count = 0;
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x)
+                    count += qGray(picture.pixel(x, y)) < 100 ? 1 : 0;
+            }
+            return count;
+        };
+        QPalette white;
+        white.setColor(QPalette::Base, Qt::white);
+        m_map->setPalette(white);
+        ILayerViewer* const layer = addLayer("layer_name=a,x=-99,y=-99");
+        for (const char* text :
+             {"© A", "© everybody who has ever drawn a line or a name of this map"}) {
+            for (const int width : {700, 400, 260, 205}) {
+                m_map->resize(width, 300);
+                layer->GetProperties().set("attribution", "");
+                m_map->redraw();
+                settledPicture();
+                const QImage without = shown();
+                layer->GetProperties().set("attribution", text);
+                const QImage with = shown();
+                const QRect left(0, 264, std::min(width / 3, 160) + 30,
+                                 36); // of the bar and its length
+                QCOMPARE(with.copy(left & with.rect()), without.copy(left & with.rect()));
+                const QRect right(width / 2, 150, width / 2 - 12, 138);
+                QVERIFY2(darkIn(with, right) > darkIn(without, right) + 20, text);
+            }
+        }
+        const QImage named = shown();
+        layer->GetProperties().set("visible", "0");
+        QVERIFY(shown() != named);
     }
 
     void scaleBarHasARoundLengthAndIsAsLongAsItSays()
