@@ -1,0 +1,72 @@
+#pragma once
+
+#include "model/PointLines.h"
+#include "project/history/History.h"
+#include "protocol/Outcome.h"
+
+#include <utility>
+#include <vector>
+
+class IDBAdapter;
+class IDictionary;
+
+/// Reads the history from a project's database, which is open. It never writes. A database without
+/// a history has no actions; those of a newer version of the program are passed over.
+class HistoryReader
+{
+public:
+    explicit HistoryReader(IDBAdapter& database) : m_database(database) {}
+
+    /// The newest first.
+    Outcome actions(const HistoryFilter& filter, std::vector<HistoryAction>& actions);
+    /// All that an action has changed: results, design points, parameters, each in the order of
+    /// their names.
+    Outcome items(const HistoryAction& action, std::vector<HistoryItem>& items);
+
+    /// An action with what it did to one point.
+    struct Event
+    {
+        HistoryAction action;
+        std::vector<HistoryItem> items;
+    };
+    /// The life of a result and of the design point of the same name, the newest action first.
+    /// \param filter  with a point
+    Outcome life(const HistoryFilter& filter, std::vector<Event>& events);
+
+    /// What the history has that this version cannot show, for the user; empty when there is
+    /// nothing.
+    [[nodiscard]] QString notice();
+
+private:
+    bool readActions(const std::string& condition, std::vector<HistoryAction>& actions);
+    /// \param point  of it alone; or null
+    bool readItems(const HistoryAction& action, const PointName* point,
+                   std::vector<HistoryItem>& items);
+    bool readRows(const HistoryAction& action, const PointName* point,
+                  std::vector<HistoryItem>& items);
+    bool readLife(const HistoryFilter& filter, std::vector<Event>& events);
+    [[nodiscard]] Outcome outcome(bool isRead) const;
+
+    IDBAdapter& m_database;
+};
+
+/// Points of the history, ready to be put back.
+struct HistoryPoints
+{
+    DesignPoints design;
+    SurveyPoints results; ///< without sea heights
+};
+
+/// The points of these items of an action as they were before it. Of a point that changed in single
+/// fields, these fields are as they were and the rest is as in `present`; one that is not there any
+/// more gives nothing, and a point that had come neither. A check point gets a counter that is free
+/// in `present`.
+[[nodiscard]] HistoryPoints pointsBefore(const HistoryAction& action,
+                                         const std::vector<HistoryItem>& items,
+                                         const DesignPoints& presentDesign,
+                                         const SurveyPoints& presentResults);
+
+/// The keys and texts of a whole point, in the order of the database's columns; empty for an item
+/// without one.
+[[nodiscard]] std::vector<std::pair<std::string, std::string>> fieldsOf(const HistoryAction& action,
+                                                                        const HistoryItem& item);
