@@ -25,6 +25,7 @@
 #include "model/SurveyColumns.h"
 #include "project/DesignDatabase.h"
 #include "project/edits/EditParts.h"
+#include "project/history/HistoryWriter.h"
 #include "project/OverlayList.h"
 #include "project/OwnFile.h"
 #include "project/ParameterFiles.h"
@@ -44,7 +45,7 @@
 #include "reports/ReportKinds.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 
 #include <cpl_conv.h>
 #include <gdal.h>
@@ -166,6 +167,7 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
     m_projectFileFault = projectFile.text();
     m_place = place;
     reading.add(m_projectFileFault);
+    reading.add(history().notice());
     return reading;
 }
 
@@ -174,8 +176,6 @@ Outcome DataProcessDataManager::saveProject(const ProjectPlace& place)
     const Outcome writing = write(place);
     m_isSaveOwed = !writing.isDone();
     m_isElseChanged = m_isSaveOwed;
-    if (writing.isDone())
-        m_unsaved.clear();
     m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
     return logged(writing);
 }
@@ -240,8 +240,8 @@ template <class Points>
 void DataProcessDataManager::keepImport(const EditKind& kind, TakenOver<Points>&& undo,
                                         const ImportSummary& summary)
 {
-    const auto edit =
-        std::make_shared<Edit>(kind, summary.pointsNew + summary.pointsReplaced, summary.path);
+    const auto edit = std::make_shared<Edit>(kind, summary.pointsNew + summary.pointsReplaced,
+                                             QFileInfo(summary.path).absoluteFilePath());
     if (undo.wasEmpty)
         edit->add(std::make_unique<AllPoints<Points>>(Points()));
     else
@@ -264,9 +264,11 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
     if (writing.isDone())
         writing = ProjectCreator::replaceDatabase(place);
     if (writing.isDone())
-        writing = writeDatabase(m_database, place.database());
-    if (writing.isDone())
+        writing = writeDatabase(m_database, place.database(), m_unsaved);
+    if (writing.isDone()) {
+        m_unsaved.clear(); // the history has them, also when one of the next files fails
         writing = ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
+    }
     if (writing.isDone() && !m_projectFile.isEmpty())
         writing = ProjectFile::write(m_projectFile, m_project);
     if (writing.isDone())
@@ -292,14 +294,14 @@ Outcome DataProcessDataManager::fillCopy(const ProjectPlace& copy)
     const QString path = copy.database();
     // What other programs have added to the database comes along while that can be read.
     bool isTaken = m_database.backup(path.toStdString().c_str());
-    Outcome writing = writeDatabase(database, path);
+    Outcome writing = writeDatabase(database, path, m_unsaved);
     if (!writing.isDone() && isTaken) { // it may be damaged
         isTaken = false;
         database.close();
         QFile::remove(path);
         writing = ProjectCreator::replaceDatabase(copy);
         if (writing.isDone())
-            writing = writeDatabase(database, path);
+            writing = writeDatabase(database, path, m_unsaved);
     }
     if (writing.isDone() && !isTaken)
         basalt::logWarning("The copy \"" + path.toStdString() +
@@ -340,7 +342,7 @@ int DataProcessDataManager::load(const QString& path, Outcome* outcome)
 
 int DataProcessDataManager::save(const QString& path, Outcome* outcome)
 {
-    return answered(writeDatabase(m_database, path), outcome);
+    return answered(writeDatabase(m_database, path, {}), outcome);
 }
 
 Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& coordSystem)
@@ -350,11 +352,14 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
         .load(path.toStdString(), m_design, m_survey, coordSystem);
 }
 
-Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path)
+Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path,
+                                              const UnsavedEdits& edits)
 {
+    const HistoryWriter history(edits.entries(), editedData(), HistoryAuthor::current());
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(database, progress)
-        .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters());
+        .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
+              &history);
 }
 
 template <class Write>
@@ -567,6 +572,28 @@ int DataProcessDataManager::correctDesignPoint(const PointName& name,
         keep(edit);
     }
     return answered(Outcome::done(), outcome);
+}
+
+std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
+{
+    const std::size_t count = points.design.pointCount() + points.results.pointCount();
+    if (count == 0)
+        return 0;
+    const auto edit = std::make_shared<Edit>(EditKinds::kRestore, count);
+    const auto add = [&](auto&& part) {
+        PointNames names = part.names();
+        edit->add(std::make_unique<SomePoints<std::decay_t<decltype(part)>>>(std::move(names),
+                                                                             std::move(part)));
+    };
+    if (!points.design.empty())
+        add(std::move(points.design));
+    if (!points.results.empty())
+        add(std::move(points.results));
+    edit->exchange(editedData());
+    if ((edit->scope() & kSurveyScope) != 0)
+        recomputeSeaHeights();
+    keep(edit);
+    return count;
 }
 
 int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary& parameters,

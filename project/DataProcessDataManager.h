@@ -7,6 +7,7 @@
 #include "model/PointName.h"
 #include "project/DBAdapter.h"
 #include "project/edits/Edit.h"
+#include "project/history/HistoryReader.h"
 #include "project/ProjectLock.h"
 #include "project/ProjectPlace.h"
 #include "project/SurveyDatabase.h"
@@ -95,6 +96,14 @@ public:
     int exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack, Outcome* outcome = nullptr);
     /// What was done and taken back since the project was saved last.
     [[nodiscard]] const UnsavedEdits& unsavedEdits() const { return m_unsaved; }
+    /// Why an edit was made, in the user's words, for the history. It can be told until the project
+    /// is saved.
+    void setReason(const std::shared_ptr<Edit>& edit, const QString& reason)
+    {
+        m_unsaved.setReason(edit, reason);
+    }
+    /// Reads the history of the open project: what was saved. To be used at once.
+    [[nodiscard]] HistoryReader history() { return HistoryReader(m_database); }
 
     /// Forgets the points and parameters of the open project and gives up its lock. Its coordinate
     /// system stays: the next new project starts from it.
@@ -157,6 +166,9 @@ public:
                            Outcome* outcome = nullptr, PointName* filedAs = nullptr);
     int correctDesignPoint(const PointName& name, const DesignCorrection& correction,
                            Outcome* outcome = nullptr);
+    /// Puts points of the history back, over those of the same names.
+    /// \returns how many there are
+    std::size_t restorePoints(HistoryPoints&& points);
 
     /// Replaces the whole design by the grids of these parameters, see design/DesignGenerator.h,
     /// and keeps the parameters. The outcome has a notice in numbers.
@@ -229,7 +241,9 @@ private:
     [[nodiscard]] Outcome read(const ProjectPlace& place);
     [[nodiscard]] Outcome write(const ProjectPlace& place);
     [[nodiscard]] Outcome readDatabase(const QString& path, IDictionary& coordSystem);
-    [[nodiscard]] Outcome writeDatabase(IDBAdapter& database, const QString& path);
+    /// \param edits  to be added to the history
+    [[nodiscard]] Outcome writeDatabase(IDBAdapter& database, const QString& path,
+                                        const UnsavedEdits& edits);
     [[nodiscard]] Outcome fillCopy(const ProjectPlace& copy);
     /// Calls `write` unless `path` is a file of the open project.
     template <class Write>

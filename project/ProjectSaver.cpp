@@ -9,6 +9,7 @@
 #include "model/RowNumbers.h"
 #include "model/SurveyRecord.h"
 #include "project/DatabaseReason.h"
+#include "project/history/HistoryWriter.h"
 #include "project/SafetyCopy.h"
 #include "project/TableRows.h"
 
@@ -29,7 +30,8 @@ ProjectSaver::ProjectSaver(IDBAdapter& database, ProgressReporter& progress)
 }
 
 Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
-                           const SurveyPoints& survey, const IDictionary& coordParameters)
+                           const SurveyPoints& survey, const IDictionary& coordParameters,
+                           const HistoryWriter* history)
 {
     const SafetyCopy copy(path);
     // An interrupted save may have left emptied tables and a copy: `make` would replace that copy.
@@ -40,7 +42,7 @@ Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
     std::string reason;
     try {
         isSaved = m_database.open((connection + ",exclusive=1").c_str()) && copy.make(m_database) &&
-                  clearTables() && writeAll(design, survey, coordParameters);
+                  clearTables() && writeAll(design, survey, coordParameters, history);
         reason = m_database.lastError();
     } catch (const std::exception& fault) { // of either thread, such as no memory
         reason = fault.what();
@@ -54,7 +56,7 @@ Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
 }
 
 bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& survey,
-                            const IDictionary& coordParameters)
+                            const IDictionary& coordParameters, const HistoryWriter* history)
 {
     using namespace TableRows;
     return m_database.beginTransaction() && addMissingColumns() &&
@@ -65,6 +67,7 @@ bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& surv
                      {m_progress,
                       caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Survey Data"))}) &&
            addCoordinateSystem(m_database, coordParameters) &&
+           (history == nullptr || history->write(m_database, m_progress)) &&
            m_database.execute(SafetyCopy::kUnmark) && m_database.commit();
 }
 

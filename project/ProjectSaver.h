@@ -6,6 +6,7 @@
 #include <string>
 
 class IDBAdapter;
+class HistoryWriter;
 class IDictionary;
 class ProgressReporter;
 
@@ -18,12 +19,13 @@ public:
 
     /// The database must be there; columns that an older one lacks are added. When it fails, the
     /// file holds what it held before.
+    /// \param history  writes what was changed, together with the points; or null
     Outcome save(const std::string& path, const DesignPoints& design, const SurveyPoints& survey,
-                 const IDictionary& coordParameters);
+                 const IDictionary& coordParameters, const HistoryWriter* history = nullptr);
 
 private:
     bool writeAll(const DesignPoints& design, const SurveyPoints& survey,
-                  const IDictionary& coordParameters);
+                  const IDictionary& coordParameters, const HistoryWriter* history);
     bool clearTables();
     bool addMissingColumns();
     /// Puts the file back as it was. \returns the failure, for the user

@@ -8,18 +8,14 @@
 
 #include <algorithm>
 
-namespace {
-
-QByteArray field(const QVariant& value)
+QByteArray csvField(const QString& text)
 {
-    QByteArray text = value.toString().toUtf8();
-    if (std::any_of(text.cbegin(), text.cend(),
+    QByteArray field = text.toUtf8();
+    if (std::any_of(field.cbegin(), field.cend(),
                     [](char c) { return c == ',' || c == '"' || c == '\n' || c == '\r'; }))
-        text = '"' + text.replace("\"", "\"\"") + '"';
-    return text;
+        field = '"' + field.replace("\"", "\"\"") + '"';
+    return field;
 }
-
-} // namespace
 
 void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind,
                      const std::function<void(std::string_view line)>& write)
@@ -32,7 +28,7 @@ void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind,
     const auto writeLine = [&](const auto& valueOf) {
         line.clear();
         for (int column = 0; column < columns; ++column)
-            line += field(valueOf(column)) + (column + 1 < columns ? ',' : '\n');
+            line += csvField(valueOf(column).toString()) + (column + 1 < columns ? ',' : '\n');
         write({line.constData(), static_cast<std::size_t>(line.size())});
     };
     writeLine([&](int column) { return result.headerData(column, Qt::Horizontal, captionRole); });

@@ -2,6 +2,8 @@
 
 #include "protocol/Outcome.h"
 
+#include <QByteArray>
+
 #include <functional>
 #include <string_view>
 
@@ -14,6 +16,9 @@ enum class ResultCsv
     AsShown,   ///< as the list on the screen
     ForScripts ///< captions in English, and check points with their counters
 };
+
+/// A field of such a line, UTF-8.
+[[nodiscard]] QByteArray csvField(const QString& text);
 
 /// \param write is called with each line, its line feed included
 void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind,

@@ -8,6 +8,7 @@
 #include "app/cli/ExportFile.h"
 #include "app/cli/GenerateDesign.h"
 #include "app/cli/ImportFiles.h"
+#include "app/cli/PrintHistory.h"
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
 #include "app/cli/RenderProject.h"
@@ -66,6 +67,9 @@ constexpr std::array kCommands{
     CliCommand{"check", "PROJECT CHECK [--out FILE]",
                "check the project, print what is found as CSV (repeat only lists, and changes nothing)",
                2, 2, "--out", "", checkProject},
+    CliCommand{"history", "PROJECT [--point LINE/POINT] [--since DAY]",
+               "print who changed what and when as CSV, the newest first (a point: what became of it)",
+               1, 1, "--point,--since", "", printHistory},
 };
 // clang-format on
 

@@ -57,9 +57,13 @@ Outcome setQuality(const CliArguments& arguments)
 {
     CliProject project;
     Outcome outcome = project.open(arguments.places[0], ProjectAccess::Change);
+    basalt::Dictionary parameters(project.manager().qualityParameters());
     for (int i = 1; outcome.isDone() && i < arguments.places.size(); ++i)
-        outcome = setParameter(arguments.places[i], project.manager().qualityParameters());
-    return outcome.isDone() ? project.save() : outcome;
+        outcome = setParameter(arguments.places[i], parameters);
+    if (!outcome.isDone())
+        return outcome;
+    project.manager().setQualityParameters(parameters);
+    return project.save();
 }
 
 Outcome listQuality(const CliArguments& arguments)

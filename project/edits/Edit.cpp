@@ -39,5 +39,13 @@ void UnsavedEdits::add(const std::shared_ptr<Edit>& edit, bool isTakenBack)
         m_entries.pop_back();
         return;
     }
-    m_entries.push_back({edit, isTakenBack, QDateTime::currentDateTimeUtc()});
+    m_entries.push_back({edit, isTakenBack, QDateTime::currentDateTimeUtc(), {}});
+}
+
+void UnsavedEdits::setReason(const std::shared_ptr<Edit>& edit, const QString& reason)
+{
+    for (Entry& entry : m_entries) {
+        if (entry.edit == edit)
+            entry.reason = reason;
+    }
 }

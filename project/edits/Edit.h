@@ -48,10 +48,13 @@ public:
         std::shared_ptr<Edit> edit;
         bool isTakenBack = false;
         QDateTime time; ///< UTC
+        QString reason; ///< of the user's; mostly empty
     };
 
     /// An edit that is taken back again before it was saved leaves nothing.
     void add(const std::shared_ptr<Edit>& edit, bool isTakenBack);
+    /// Nothing when the edit is not among them.
+    void setReason(const std::shared_ptr<Edit>& edit, const QString& reason);
     void clear() { m_entries.clear(); }
     [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
 

@@ -1,0 +1,114 @@
+#include "project/history/HistoryWriter.h"
+
+#include "basalt_utilities/ILogger.h"
+#include "lum_sdk/database/IDBAdapter.h"
+#include "lum_sdk/database/RecordSet.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "model/DesignRecord.h"
+#include "model/RowNumbers.h"
+#include "model/SurveyRecord.h"
+#include "project/history/EditWalk.h"
+#include "project/history/HistoryTables.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using std::to_string;
+
+bool insertAction(IBulkInsert& actions, std::int64_t id, const UnsavedEdits::Entry& entry,
+                  const HistoryAuthor& author, const EditContent& content)
+{
+    const std::array<std::string, 12> texts{
+        to_string(id),
+        to_string(HistoryTables::kForm),
+        entry.time.toUTC().toString(Qt::ISODateWithMs).toStdString(),
+        author.person.toStdString(),
+        author.machine.toStdString(),
+        entry.edit->kind().name,
+        entry.isTakenBack ? "1" : "0",
+        entry.edit->file().toStdString(),
+        to_string(entry.edit->points()),
+        entry.reason.toStdString(),
+        content.holdsDesign ? DesignRecord::columns() : std::string(),
+        content.holdsResults ? SurveyRecord::columns() : std::string()};
+    const std::array<std::string_view, 12> values = [&] {
+        std::array<std::string_view, 12> views;
+        std::ranges::copy(texts, views.begin());
+        return views;
+    }();
+    return actions.add(values.data());
+}
+
+bool insertItems(IBulkInsert& rows, std::int64_t action, const std::vector<HistoryItem>& items)
+{
+    const std::string id = to_string(action);
+    std::size_t count = 0;
+    for (const HistoryItem& item : items) {
+        const std::string number = to_string(count++);
+        const std::array<std::string_view, 9> values{id,
+                                                     number,
+                                                     nameOf(item.data),
+                                                     nameOf(item.change),
+                                                     item.name.line,
+                                                     item.name.point,
+                                                     item.field,
+                                                     item.oldText,
+                                                     item.newText};
+        if (!rows.add(values.data()))
+            return false;
+    }
+    return true;
+}
+
+/// In digits, so that it is stored byte for byte and not as a text.
+bool storeBlob(IDBAdapter& database, std::int64_t action, const char* column,
+               const HistoryRows& rows)
+{
+    if (rows.isEmpty())
+        return true;
+    const std::string statement = std::string("update ") + HistoryTables::kActions + " set " +
+                                  column + " = x'" + rows.blob().toHex().toStdString() +
+                                  "' where id = " + to_string(action);
+    return database.execute(statement.c_str());
+}
+
+} // namespace
+
+bool HistoryWriter::write(IDBAdapter& database, ProgressReporter& progress) const
+{
+    if (m_entries.empty())
+        return true;
+    if (HistoryTables::exist(database) && !HistoryTables::areKnown(database)) {
+        basalt::logWarning("The history of this project is of a newer version: what was changed is "
+                           "not added to it.");
+        return true;
+    }
+    if (!HistoryTables::make(database))
+        return false;
+    RecordSet last;
+    if (!database.query("select coalesce(max(id), 0) from ProjectHistory", last))
+        return false;
+    const auto actions =
+        database.bulkInsert(HistoryTables::kActions, HistoryTables::kActionColumns);
+    const auto items = database.bulkInsert(HistoryTables::kItems, HistoryTables::kItemColumns);
+    if (!actions || !items)
+        return false;
+    EditWalk walk(m_present);
+    const std::int64_t before = readInteger64(last[0].valueAt(0));
+    for (std::size_t i = m_entries.size(); i-- > 0;) {
+        const std::int64_t id = before + static_cast<std::int64_t>(i) + 1;
+        const EditContent content = walk.contentOf(*m_entries[i].edit);
+        if (!insertAction(*actions, id, m_entries[i], m_author, content) ||
+            !insertItems(*items, id, content.items) ||
+            !storeBlob(database, id, HistoryTables::kDesignRows, content.designRows) ||
+            !storeBlob(database, id, HistoryTables::kResultRows, content.resultRows))
+            return false;
+        progress.report(QCoreApplication::translate("DataProcessDataManager", "Save History"),
+                        m_entries.size() - i, m_entries.size());
+    }
+    return true;
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "model/DesignRecord.h"
+#include "model/PointLines.h"
+#include "model/PointNumber.h"
+#include "model/SurveyRecord.h"
+#include "project/history/History.h"
+
+#include <algorithm>
+#include <array>
+
+/// What differs in the history between the two kinds of points.
+template <class Points>
+struct PointRecord;
+
+template <>
+struct PointRecord<DesignPoints>
+{
+    using Reader = DesignRecord::Reader;
+    static constexpr HistoryData kData = HistoryData::Design;
+    /// The columns that checks write: the history is about what people do.
+    static constexpr std::array<std::string_view, 1> kVerdicts{"status"};
+
+    static std::string columns() { return DesignRecord::columns(); }
+    static void write(const DesignPoint& point, RecordTexts& texts)
+    {
+        DesignRecord::write(point, texts);
+    }
+    static PointName nameOf(const DesignPoint& point)
+    {
+        return {point.lineNumber, point.pointNumber};
+    }
+};
+
+template <>
+struct PointRecord<SurveyPoints>
+{
+    using Reader = SurveyRecord::Reader;
+    static constexpr HistoryData kData = HistoryData::Results;
+    static constexpr std::array<std::string_view, 5> kVerdicts{
+        "quality_standard", "is_resurvey", "resurvey_x_diff", "resurvey_y_diff", "resurvey_h_diff"};
+
+    static std::string columns() { return SurveyRecord::columns(); }
+    static void write(const SurveyPoint& point, RecordTexts& texts)
+    {
+        SurveyRecord::write(point, texts);
+    }
+    static PointName nameOf(const SurveyPoint& point)
+    {
+        return {point.lineNumber, std::string(writtenPointNumber(point.pointNumber))};
+    }
+};
+
+/// The names of a comma-separated list.
+[[nodiscard]] std::vector<std::string> listedColumns(std::string_view columns);
+
+/// Whether the checks write this column.
+template <class Points>
+[[nodiscard]] bool isVerdict(std::string_view column)
+{
+    constexpr auto& kVerdicts = PointRecord<Points>::kVerdicts;
+    return std::ranges::find(kVerdicts, column) != kVerdicts.end();
+}
