@@ -1024,6 +1024,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Line %1 has no point %2 any more: nothing was changed.</source>
         <translation>测线 %1 上已没有点 %2，未作任何修改。</translation>
     </message>
+    <message>
+        <source>There is not enough memory: nothing was changed.</source>
+        <translation>内存不足：没有做任何更改。</translation>
+    </message>
 </context>
 <context>
     <name>DataProcessLayerImp</name>
@@ -1498,6 +1502,29 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgEditSteps</name>
+    <message>
+        <source>Steps</source>
+        <translation>操作步骤</translation>
+    </message>
+    <message>
+        <source>A double click goes to the state behind a step.</source>
+        <translation>双击某一步骤，回到该步骤完成后的状态。</translation>
+    </message>
+    <message>
+        <source>&amp;Go To</source>
+        <translation>转到(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>The project before these steps</source>
+        <translation>这些步骤之前的工程</translation>
+    </message>
+</context>
+<context>
     <name>DlgEmptyPtResult</name>
     <message>
         <source>Empty Point Check Result</source>
@@ -1876,6 +1903,92 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>show r line</source>
         <translation>显示接收线</translation>
+    </message>
+</context>
+<context>
+    <name>EditKinds</name>
+    <message>
+        <source>Import %1 design points</source>
+        <translation>导入 %1 个设计点</translation>
+    </message>
+    <message>
+        <source>Import a design point</source>
+        <translation>导入 1 个设计点</translation>
+    </message>
+    <message>
+        <source>Import %1 results</source>
+        <translation>导入 %1 个测量结果</translation>
+    </message>
+    <message>
+        <source>Import a result</source>
+        <translation>导入 1 个测量结果</translation>
+    </message>
+    <message>
+        <source>Delete %1 results</source>
+        <translation>删除 %1 个测量结果</translation>
+    </message>
+    <message>
+        <source>Delete a result</source>
+        <translation>删除 1 个测量结果</translation>
+    </message>
+    <message>
+        <source>Correct a result</source>
+        <translation>更正测量结果</translation>
+    </message>
+    <message>
+        <source>Correct a design point</source>
+        <translation>更正设计点</translation>
+    </message>
+    <message>
+        <source>Generate %1 design points</source>
+        <translation>生成 %1 个设计点</translation>
+    </message>
+    <message>
+        <source>Generate a design point</source>
+        <translation>生成 1 个设计点</translation>
+    </message>
+    <message>
+        <source>Change quality limits</source>
+        <translation>更改质量限差</translation>
+    </message>
+    <message>
+        <source>Change design parameters</source>
+        <translation>更改设计参数</translation>
+    </message>
+    <message>
+        <source>Change the coordinate system</source>
+        <translation>更改坐标系统</translation>
+    </message>
+    <message>
+        <source>Restore %1 points</source>
+        <translation>恢复 %1 个点</translation>
+    </message>
+    <message>
+        <source>Restore a point</source>
+        <translation>恢复 1 个点</translation>
+    </message>
+</context>
+<context>
+    <name>EditSteps</name>
+    <message>
+        <source>Taken back: %1</source>
+        <translation>已撤销：%1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>已重做：%1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can be taken back now, but not later: to keep what it replaced takes %2 MiB, more than the %3 MiB for all steps. Keep what it did?</source>
+        <translation>“%1”现在可以撤销，以后不能：保留被替换的数据需要 %2 MiB，超过全部步骤可用的 %3 MiB。保留这次更改吗？</translation>
     </message>
 </context>
 <context>
@@ -3602,6 +3715,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&amp;No projects yet</source>
         <translation>还没有工程(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>RedoCommand</name>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做 %1</translation>
     </message>
 </context>
 <context>
@@ -5777,6 +5897,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>取消</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommand</name>
+    <message>
+        <source>Undo %1</source>
+        <translation>撤销 %1</translation>
     </message>
 </context>
 </TS>
