@@ -127,11 +127,11 @@ Outcome generateDesign(const IDictionary& parameters, DesignLines lines, DesignP
         DesignPoints made;
         for (const DesignGrid& grid : grids)
             generate(grid, made, progress);
-        std::swap(design, made);
-        const std::size_t now = design.pointCount();
+        const std::size_t now = made.pointCount();
         const Outcome outcome = Outcome::done(
-            tidings(made.pointCount(), now,
+            tidings(design.pointCount(), now,
                     static_cast<std::int64_t>(points) - static_cast<std::int64_t>(now)));
+        std::swap(design, made);
         if (before != nullptr)
             *before = std::move(made);
         return outcome;

@@ -100,19 +100,21 @@ public:
         return isAt(block, place, pointNumber) ? &m_blocks[block][place] : nullptr;
     }
 
-    /// Files the point under its number, over the one that stands there.
+    /// Files the point under its number, over the one that stands there. An exception (no memory)
+    /// leaves line and point as they were.
     Point& set(Point&& point)
     {
-        if (m_blocks.empty())
-            m_blocks.emplace_back();
         auto [block, place] = placeOf(point.pointNumber);
         if (isAt(block, place, point.pointNumber))
             return m_blocks[block][place] = std::move(point);
-        ++m_size;
-        if (m_blocks[block].size() == kBlockSize)
+        if (m_blocks.empty())
+            m_blocks = roomFor(1);
+        else if (m_blocks[block].size() == kBlockSize)
             makeRoom(block, place);
         Block& target = m_blocks[block];
-        return *target.insert(target.begin() + std::ptrdiff_t(place), std::move(point));
+        const auto filed = target.insert(target.begin() + std::ptrdiff_t(place), std::move(point));
+        ++m_size;
+        return *filed;
     }
 
     /// \returns false when the line has no such point
@@ -163,15 +165,21 @@ public:
         }
     }
 
-    /// What `extract` needs beforehand, since it must not fail.
+    /// What `extract` and `mergeOthers` need beforehand, since they must not fail.
     using Room = std::vector<Block>;
     [[nodiscard]] static Room roomFor(std::size_t count)
     {
         Room room((count + kBlockSize - 1) / kBlockSize);
-        for (Block& block : room)
-            block.reserve(kBlockSize);
+        for (Block& block : room) {
+            const std::size_t places = std::min(count, kBlockSize);
+            block.reserve(places);
+            count -= places;
+        }
         return room;
     }
+    /// Takes over all points of `later`, none of whose numbers stands here.
+    /// \param room  for the points of both
+    void mergeOthers(PointLine& later, Room&& room) noexcept { moveBoth(later, room); }
     /// Moves the points of these numbers to `to`, which is empty. Numbers that the line has not are
     /// passed over.
     /// \param numbers in ascending order
@@ -289,11 +297,13 @@ private:
     void makeRoom(std::size_t& block, std::size_t& place)
     {
         const std::size_t cut = place == kBlockSize ? kBlockSize : kBlockSize / 2;
+        if (m_blocks.size() == m_blocks.capacity())
+            m_blocks.reserve(2 * m_blocks.size());
         Block upper;
-        upper.reserve(kBlockSize);
-        std::move(m_blocks[block].begin() + std::ptrdiff_t(cut), m_blocks[block].end(),
-                  std::back_inserter(upper));
-        m_blocks[block].resize(cut);
+        upper.reserve(kBlockSize); // the last that can fail
+        const auto first = m_blocks[block].begin() + std::ptrdiff_t(cut);
+        std::move(first, m_blocks[block].end(), std::back_inserter(upper));
+        m_blocks[block].erase(first, m_blocks[block].end());
         m_blocks.insert(m_blocks.begin() + std::ptrdiff_t(block) + 1, std::move(upper));
         if (place > cut || cut == kBlockSize) {
             ++block;

@@ -85,14 +85,21 @@ public:
         return line == nullptr ? nullptr : line->find(pointNumber);
     }
 
-    /// Files the point under its line and number, over the one that stands there.
+    /// Files the point under its line and number, over the one that stands there. An exception (no
+    /// memory) leaves all as it was.
     Point& set(Point&& point)
     {
         // The next point is mostly of the same line.
         if (m_last == nullptr || m_last->first != point.lineNumber)
             m_last = &*m_lines.try_emplace(point.lineNumber).first;
         m_revision = 0;
-        return m_last->second.set(std::move(point));
+        try {
+            return m_last->second.set(std::move(point));
+        } catch (...) {
+            if (m_last->second.empty())
+                eraseLine(point.lineNumber);
+            throw;
+        }
     }
     Point& set(const Point& point) { return set(Point(point)); }
 
@@ -154,33 +161,71 @@ public:
         return replaced;
     }
 
-    /// Removes the points of these names, and the lines that they were the last points of. Names
-    /// that nothing has are passed over. An exception (no memory) leaves all as it was.
-    /// \returns the points
-    PointLines extract(const PointNames& names)
+    /// What `exchange` of some points needs beforehand, since it must not fail.
+    struct Exchange
     {
-        struct Extraction
+        /// Points of a line that leave.
+        struct Leaving
         {
             typename Map::iterator from;
             const std::vector<std::string>* numbers;
             typename Map::iterator to;
             typename Line::Room room;
         };
-        PointLines extracted;
-        std::vector<Extraction> extractions;
+        /// Points that come to a line.
+        struct Coming
+        {
+            typename Map::iterator from;
+            typename Line::Room room; ///< for the whole line
+        };
+
+        std::vector<Leaving> leaving;
+        std::vector<Coming> coming;
+        Map left; ///< a line for each of `leaving`
+    };
+    [[nodiscard]] Exchange prepareExchange(const PointNames& names, PointLines& other)
+    {
+        Exchange prepared;
         for (const auto& [number, numbers] : names.lines()) {
             if (const auto line = m_lines.find(number); line != m_lines.end())
-                extractions.push_back({line, &numbers, extracted.m_lines.try_emplace(number).first,
-                                       Line::roomFor(numbers.size())});
+                prepared.leaving.push_back({line, &numbers, prepared.left.try_emplace(number).first,
+                                            Line::roomFor(numbers.size())});
         }
-        for (Extraction& each : extractions) {
-            each.from->second.extract(*each.numbers, each.to->second, std::move(each.room));
-            if (each.from->second.empty())
-                m_lines.erase(each.from);
-            if (each.to->second.empty())
-                extracted.m_lines.erase(each.to);
+        for (auto line = other.m_lines.begin(); line != other.m_lines.end(); ++line) {
+            if (const Line* const own = findLine(line->first); own != nullptr)
+                prepared.coming.push_back({line, Line::roomFor(own->size() + line->second.size())});
         }
+        return prepared;
+    }
+    /// Exchanges the points of these names with those of `other`, which has no points of other
+    /// names. Names that nothing has are passed over.
+    /// \param prepared  from `prepareExchange(names, other)`, with all three unchanged since
+    void exchange(Exchange&& prepared, PointLines& other) noexcept
+    {
+        for (auto& [from, numbers, to, room] : prepared.leaving) {
+            from->second.extract(*numbers, to->second, std::move(room));
+            if (from->second.empty())
+                m_lines.erase(from);
+            if (to->second.empty())
+                prepared.left.erase(to);
+        }
+        for (auto& [from, room] : prepared.coming) {
+            if (Line* const own = findLine(from->first); own != nullptr) {
+                own->mergeOthers(from->second, std::move(room));
+                other.m_lines.erase(from);
+            }
+        }
+        m_lines.merge(other.m_lines);
+        other.m_lines.swap(prepared.left);
+        other.setChanged();
         setChanged();
+    }
+    /// Removes the points of these names, and the lines that they were the last points of. An
+    /// exception (no memory) leaves all as it was. \returns the points
+    PointLines extract(const PointNames& names)
+    {
+        PointLines extracted;
+        exchange(prepareExchange(names, extracted), extracted);
         return extracted;
     }
 

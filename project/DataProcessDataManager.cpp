@@ -215,6 +215,7 @@ int DataProcessDataManager::exchange(const std::shared_ptr<Edit>& edit, bool isT
 {
     const bool wasChanged = isChanged();
     try {
+        m_unsaved.makeRoom();
         edit->exchange(editedData());
         m_unsaved.add(edit, isTakenBack);
     } catch (const std::bad_alloc&) {
@@ -227,6 +228,13 @@ int DataProcessDataManager::exchange(const std::shared_ptr<Edit>& edit, bool isT
     return answered(Outcome::done(), outcome);
 }
 
+void DataProcessDataManager::make(const std::shared_ptr<Edit>& edit)
+{
+    m_unsaved.makeRoom();
+    edit->exchange(editedData());
+    keep(edit);
+}
+
 void DataProcessDataManager::keep(const std::shared_ptr<Edit>& edit)
 {
     const bool wasChanged = isChanged();
@@ -236,26 +244,32 @@ void DataProcessDataManager::keep(const std::shared_ptr<Edit>& edit)
     tellModified(wasChanged);
 }
 
-template <class Points>
-void DataProcessDataManager::keepImport(const EditKind& kind, TakenOver<Points>&& undo,
-                                        const ImportSummary& summary)
+template <class Points, class Read>
+Outcome DataProcessDataManager::importPoints(const EditKind& kind, const QString& path,
+                                             ImportSummary& summary, Read read)
 {
-    const auto edit = std::make_shared<Edit>(kind, summary.pointsNew + summary.pointsReplaced,
-                                             QFileInfo(summary.path).absoluteFilePath());
-    if (undo.wasEmpty)
-        edit->add(std::make_unique<AllPoints<Points>>(Points()));
-    else
-        edit->add(
-            std::make_unique<SomePoints<Points>>(std::move(undo.names), std::move(undo.replaced)));
+    // All that can fail comes before the points.
+    const auto edit = std::make_shared<Edit>(kind, 0, QFileInfo(path).absoluteFilePath());
+    auto part = std::make_unique<ImportedPoints<Points>>();
+    TakenOver<Points>& undo = part->undo();
+    edit->add(std::move(part));
+    m_unsaved.makeRoom();
+    const Outcome reading = read(summary, undo);
+    if (!reading.isDone() || !summary.hasPoints())
+        return reading;
+    edit->setPoints(summary.pointsNew + summary.pointsReplaced);
     keep(edit);
+    return reading;
 }
 
-void DataProcessDataManager::keepParameters(const EditKind& kind, EditScope which,
-                                            const IDictionary& before)
+void DataProcessDataManager::change(const EditKind& kind, EditScope which,
+                                    const IDictionary& present, const IDictionary& wanted)
 {
-    const auto edit = std::make_shared<Edit>(kind, 0);
-    edit->add(std::make_unique<Parameters>(which, basalt::Dictionary(before)));
-    keep(edit);
+    if (dictionary_same(present, wanted))
+        return;
+    const auto edit = std::make_shared<Edit>(kind);
+    edit->add(std::make_unique<Parameters>(which, basalt::Dictionary(wanted)));
+    make(edit);
 }
 
 Outcome DataProcessDataManager::write(const ProjectPlace& place)
@@ -384,10 +398,10 @@ int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcom
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
-    TakenOver<DesignPoints> undo;
-    const Outcome reading = readDesignCsv(path, m_design, progress, summary, &undo);
-    if (reading.isDone() && summary.hasPoints())
-        keepImport(EditKinds::kImportDesign, std::move(undo), summary);
+    const Outcome reading = importPoints<DesignPoints>(
+        EditKinds::kImportDesign, path, summary, [&](ImportSummary& read, auto& undo) {
+            return readDesignCsv(path, m_design, progress, read, &undo);
+        });
     return answered(withSummary(reading, summary, counts), outcome);
 }
 
@@ -420,10 +434,10 @@ int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcom
 {
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
-    TakenOver<SurveyPoints> undo;
-    const Outcome reading = readSurveyCsv(path, m_survey, progress, summary, &undo);
-    if (reading.isDone() && summary.hasPoints())
-        keepImport(EditKinds::kImportSurvey, std::move(undo), summary);
+    const Outcome reading = importPoints<SurveyPoints>(
+        EditKinds::kImportSurvey, path, summary, [&](ImportSummary& read, auto& undo) {
+            return readSurveyCsv(path, m_survey, progress, read, &undo);
+        });
     return answered(withSummary(reading, summary, counts), outcome);
 }
 
@@ -471,14 +485,15 @@ int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* o
         return answered(check, outcome);
     ProgressReporter progress(&m_host.eventManager());
     ImportSummary summary;
-    TakenOver<SurveyPoints> undo;
-    const Outcome reading = readSurveyDatabase(
-        path, {m_survey, get_project_coord_transform().parameters(), m_onOtherSystem, &undo},
-        progress, summary);
-    if (reading.isDone() && summary.hasPoints()) {
+    const Outcome reading = importPoints<SurveyPoints>(
+        EditKinds::kImportSurvey, path, summary, [&](ImportSummary& read, auto& undo) {
+            return readSurveyDatabase(
+                path,
+                {m_survey, get_project_coord_transform().parameters(), m_onOtherSystem, &undo},
+                progress, read);
+        });
+    if (reading.isDone() && summary.hasPoints())
         recomputeSeaHeights();
-        keepImport(EditKinds::kImportSurvey, std::move(undo), summary);
-    }
     return answered(withSummary(reading, summary, counts), outcome);
 }
 
@@ -508,13 +523,15 @@ std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointNa
 
 std::size_t DataProcessDataManager::deleteSurveyPoints(PointNames&& names)
 {
-    SurveyPoints deleted = m_survey.extract(names);
-    const std::size_t count = deleted.pointCount();
-    if (count == 0)
-        return 0;
-    const auto edit = std::make_shared<Edit>(EditKinds::kDeleteResults, count);
-    edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(names), std::move(deleted)));
-    keep(edit);
+    const std::size_t before = m_survey.pointCount();
+    const auto edit = std::make_shared<Edit>(EditKinds::kDeleteResults);
+    edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(names), SurveyPoints()));
+    m_unsaved.makeRoom();
+    edit->exchange(editedData());
+    const std::size_t count = before - m_survey.pointCount();
+    edit->setPoints(count);
+    if (count != 0)
+        keep(edit);
     return count;
 }
 
@@ -540,15 +557,11 @@ int DataProcessDataManager::correctSurveyPoint(const PointName& name,
     if (const auto fault = faultOf(correction))
         return answered(Outcome::refused(fault->text), outcome);
     PointName place = name;
-    SurveyPoints before;
-    before.set(*m_survey.find(name.line, name.point));
-    if (const SurveyPoint* const replaced = replacedBy(m_survey, name, correction))
-        before.set(*replaced);
-    if (correct(m_survey, place, correction)) {
+    SurveyPoints other = corrected(m_survey, place, correction);
+    if (!other.empty()) {
         const auto edit = std::make_shared<Edit>(EditKinds::kCorrectResult, 1);
-        edit->add(std::make_unique<SomePoints<SurveyPoints>>(
-            PointNames(std::vector<PointName>{name, place}), std::move(before), true));
-        keep(edit);
+        edit->add(std::make_unique<CorrectedPoint<SurveyPoints>>(name, place, std::move(other)));
+        make(edit);
     }
     if (filedAs != nullptr)
         *filedAs = std::move(place);
@@ -558,18 +571,16 @@ int DataProcessDataManager::correctSurveyPoint(const PointName& name,
 int DataProcessDataManager::correctDesignPoint(const PointName& name,
                                                const DesignCorrection& correction, Outcome* outcome)
 {
-    DesignPoint* const point = m_design.find(name.line, name.point);
+    const DesignPoint* const point = m_design.find(name.line, name.point);
     if (point == nullptr)
         return answered(noSuchPoint(name), outcome);
     if (const auto fault = faultOf(correction))
         return answered(Outcome::refused(fault->text), outcome);
-    DesignPoints before;
-    before.set(*point);
-    if (correct(*point, correction)) {
+    DesignPoints other = corrected(*point, correction);
+    if (!other.empty()) {
         const auto edit = std::make_shared<Edit>(EditKinds::kCorrectDesign, 1);
-        edit->add(std::make_unique<SomePoints<DesignPoints>>(
-            PointNames(std::vector<PointName>{name}), std::move(before), true));
-        keep(edit);
+        edit->add(std::make_unique<CorrectedPoint<DesignPoints>>(name, name, std::move(other)));
+        make(edit);
     }
     return answered(Outcome::done(), outcome);
 }
@@ -600,14 +611,19 @@ int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary&
                                            Outcome* outcome)
 {
     ProgressReporter progress(&m_host.eventManager());
-    DesignPoints before;
-    basalt::Dictionary own(parameters); // may be the dictionary that changes
-    const Outcome generating = ::generateDesign(own, lines, m_design, progress, &before);
+    const auto edit = std::make_shared<Edit>(EditKinds::kGenerateDesign);
+    auto replaced = std::make_unique<AllPoints<DesignPoints>>();
+    DesignPoints& before = replaced->other();
+    auto changed =
+        std::make_unique<Parameters>(kDesignParameterScope, basalt::Dictionary(parameters));
+    EditPart& wanted = *changed;
+    edit->add(std::move(replaced));
+    edit->add(std::move(changed));
+    m_unsaved.makeRoom();
+    const Outcome generating = ::generateDesign(parameters, lines, m_design, progress, &before);
     if (generating.isDone()) {
-        const auto edit = std::make_shared<Edit>(EditKinds::kGenerateDesign, m_design.pointCount());
-        edit->add(std::make_unique<AllPoints<DesignPoints>>(std::move(before)));
-        std::swap(m_designParameters, own);
-        edit->add(std::make_unique<Parameters>(kDesignParameterScope, std::move(own)));
+        wanted.exchange(editedData());
+        edit->setPoints(m_design.pointCount());
         keep(edit);
     }
     return answered(generating, outcome);
@@ -615,26 +631,21 @@ int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary&
 
 void DataProcessDataManager::setQualityParameters(const IDictionary& parameters)
 {
-    const basalt::Dictionary before =
-        std::exchange(m_qualityParameters, basalt::Dictionary(parameters));
-    if (!dictionary_same(before, m_qualityParameters))
-        keepParameters(EditKinds::kQualityLimits, kQualityScope, before);
+    change(EditKinds::kQualityLimits, kQualityScope, m_qualityParameters, parameters);
 }
 
 void DataProcessDataManager::setDesignParameters(const IDictionary& parameters)
 {
-    const basalt::Dictionary before =
-        std::exchange(m_designParameters, basalt::Dictionary(parameters));
-    if (!dictionary_same(before, m_designParameters))
-        keepParameters(EditKinds::kDesignParameters, kDesignParameterScope, before);
+    change(EditKinds::kDesignParameters, kDesignParameterScope, m_designParameters, parameters);
 }
 
 void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
 {
-    const basalt::Dictionary before(get_project_coord_transform().parameters());
-    applyCoordSystem(parameters);
-    if (!dictionary_same(before, get_project_coord_transform().parameters()))
-        keepParameters(EditKinds::kCoordSystem, kCoordSystemScope, before);
+    const IDictionary& present = get_project_coord_transform().parameters();
+    if (dictionary_same(present, parameters)) // its geoid may be another one now
+        applyCoordSystem(basalt::Dictionary(parameters));
+    else
+        change(EditKinds::kCoordSystem, kCoordSystemScope, present, parameters);
 }
 
 void DataProcessDataManager::applyCoordSystem(const IDictionary& parameters)

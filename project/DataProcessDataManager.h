@@ -230,10 +230,16 @@ public:
 private:
     [[nodiscard]] EditedData editedData();
     std::size_t deleteSurveyPoints(PointNames&& names);
+    /// Makes the change that a new edit holds, and keeps the edit.
+    void make(const std::shared_ptr<Edit>& edit);
+    /// Keeps an edit that is made, with room for it in `m_unsaved`.
     void keep(const std::shared_ptr<Edit>& edit);
-    template <class Points>
-    void keepImport(const EditKind& kind, TakenOver<Points>&& undo, const ImportSummary& summary);
-    void keepParameters(const EditKind& kind, EditScope which, const IDictionary& before);
+    /// \param read  `Outcome(ImportSummary&, TakenOver<Points>&)`
+    template <class Points, class Read>
+    Outcome importPoints(const EditKind& kind, const QString& path, ImportSummary& summary,
+                         Read read);
+    void change(const EditKind& kind, EditScope which, const IDictionary& present,
+                const IDictionary& wanted);
     void tellModified(bool wasChanged);
     [[nodiscard]] CheckedData checkedData();
     void reportQuery(const char* payload);

@@ -94,7 +94,7 @@ private:
 };
 
 /// The result's name after the correction; of a check point that moves, without a counter.
-PointName corrected(const PointName& name, const SurveyCorrection& correction)
+PointName wantedName(const PointName& name, const SurveyCorrection& correction)
 {
     PointName wanted = name;
     if (correction.lineNumber)
@@ -192,31 +192,38 @@ PointHeights movedHeights(const SurveyPoint& point, double antennaHeightM)
 const SurveyPoint* replacedBy(const SurveyPoints& points, const PointName& name,
                               const SurveyCorrection& correction)
 {
-    const PointName wanted = corrected(name, correction);
+    const PointName wanted = wantedName(name, correction);
     const bool isFree = wanted == name || isCheckPoint(wanted.point);
     return isFree ? nullptr : points.find(wanted.line, wanted.point);
 }
 
-bool correct(SurveyPoints& points, PointName& name, const SurveyCorrection& correction)
+SurveyPoints corrected(const SurveyPoints& points, PointName& name,
+                       const SurveyCorrection& correction)
 {
-    SurveyPoint* const standing = points.find(name.line, name.point);
+    const SurveyPoint* const standing = points.find(name.line, name.point);
     Q_ASSERT(standing != nullptr);
-    const PointName wanted = corrected(name, correction);
-    if (wanted == name)
-        return takeValues(*standing, correction);
-    SurveyPoint moved = *standing;
-    takeValues(moved, correction);
-    moved.lineNumber = wanted.line;
-    moved.pointNumber = wanted.point;
-    const SurveyPoint& filed = SurveyPointFiler(points).file(std::move(moved));
-    PointName place{filed.lineNumber, filed.pointNumber};
-    points.erase(name.line, name.point); // last, so that a lack of memory loses nothing
-    name = std::move(place);
-    return true;
+    SurveyPoint point = *standing;
+    const bool isChanged = takeValues(point, correction);
+    PointName wanted = wantedName(name, correction);
+    SurveyPoints alone;
+    if (wanted == name) {
+        if (isChanged)
+            alone.set(std::move(point));
+        return alone;
+    }
+    point.lineNumber = std::move(wanted.line);
+    point.pointNumber = std::move(wanted.point);
+    const SurveyPoint& filed = SurveyPointFiler(alone, &points).file(std::move(point));
+    name = {filed.lineNumber, filed.pointNumber};
+    return alone;
 }
 
-bool correct(DesignPoint& point, const DesignCorrection& correction)
+DesignPoints corrected(const DesignPoint& point, const DesignCorrection& correction)
 {
-    const bool isHigher = take(point.elevation, correction.elevationM);
-    return take(point.azimuth, correction.azimuthDeg) || isHigher;
+    DesignPoint other = point;
+    DesignPoints alone;
+    const bool isHigher = take(other.elevation, correction.elevationM);
+    if (take(other.azimuth, correction.azimuthDeg) || isHigher)
+        alone.set(std::move(other));
+    return alone;
 }

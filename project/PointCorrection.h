@@ -82,9 +82,9 @@ struct PointHeights
 [[nodiscard]] const SurveyPoint* replacedBy(const SurveyPoints& points, const PointName& name,
                                             const SurveyCorrection& correction);
 
-/// Makes a correction without a fault. A result with a new line or point number moves there, and
-/// the line that it was the last result of goes.
+/// What a correction without a fault makes of a result: the result alone, under its new name. Empty
+/// when everything is as it was.
 /// \param name  of a result that exists; becomes its new name
-/// \returns false when everything is as it was
-bool correct(SurveyPoints& points, PointName& name, const SurveyCorrection& correction);
-bool correct(DesignPoint& point, const DesignCorrection& correction);
+[[nodiscard]] SurveyPoints corrected(const SurveyPoints& points, PointName& name,
+                                     const SurveyCorrection& correction);
+[[nodiscard]] DesignPoints corrected(const DesignPoint& point, const DesignCorrection& correction);

@@ -4,15 +4,10 @@
 
 void Edit::exchange(const EditedData& data)
 {
-    std::size_t done = 0;
-    try {
-        for (; done < m_parts.size(); ++done)
-            m_parts[done]->exchange(data);
-    } catch (...) {
-        while (done-- > 0)
-            m_parts[done]->exchange(data); // into memory that was in use before
-        throw;
-    }
+    for (const auto& part : m_parts)
+        part->prepare(data);
+    for (const auto& part : m_parts)
+        part->exchange(data);
 }
 
 void Edit::tell(const EditedData& data, IEditReader& reader) const
@@ -31,6 +26,12 @@ std::size_t Edit::bytes() const
 {
     return std::accumulate(m_parts.begin(), m_parts.end(), std::size_t(0),
                            [](std::size_t all, const auto& part) { return all + part->bytes(); });
+}
+
+void UnsavedEdits::makeRoom()
+{
+    if (m_entries.size() == m_entries.capacity())
+        m_entries.reserve(2 * m_entries.size() + 8);
 }
 
 void UnsavedEdits::add(const std::shared_ptr<Edit>& edit, bool isTakenBack)

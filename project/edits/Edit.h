@@ -10,18 +10,21 @@
 
 /// One change of the open project that can be taken back: an import, a deletion, a new design.
 ///
-/// An edit is made when the change is done. `exchange` takes it back, does it again, and so on.
+/// `exchange` does it, takes it back, does it again, and so on. Whatever it needs for that is there
+/// before anything changes.
 class Edit
 {
 public:
-    Edit(const EditKind& kind, std::size_t points, const QString& file = {})
+    explicit Edit(const EditKind& kind, std::size_t points = 0, const QString& file = {})
         : m_kind(kind), m_points(points), m_file(file)
     {
     }
 
     void add(std::unique_ptr<EditPart> part) { m_parts.push_back(std::move(part)); }
+    void setPoints(std::size_t points) { m_points = points; }
 
-    /// An exception (no memory) leaves the project as it was.
+    /// An exception (no memory) leaves the project and the edit as they were. No two parts are of
+    /// the same points.
     void exchange(const EditedData& data);
     void tell(const EditedData& data, IEditReader& reader) const;
 
@@ -51,6 +54,8 @@ public:
         QString reason; ///< of the user's; mostly empty
     };
 
+    /// So that the next `add` cannot fail.
+    void makeRoom();
     /// An edit that is taken back again before it was saved leaves nothing.
     void add(const std::shared_ptr<Edit>& edit, bool isTakenBack);
     /// Nothing when the edit is not among them.

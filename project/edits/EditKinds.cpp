@@ -11,16 +11,16 @@
 namespace EditKinds {
 
 // clang-format off
-const EditKind kImportDesign{"import_design", QT_TRANSLATE_NOOP("EditKinds", "Import %1 design points")};
-const EditKind kImportSurvey{"import_survey", QT_TRANSLATE_NOOP("EditKinds", "Import %1 results")};
-const EditKind kDeleteResults{"delete_results", QT_TRANSLATE_NOOP("EditKinds", "Delete %1 results")};
-const EditKind kCorrectResult{"correct_result", QT_TRANSLATE_NOOP("EditKinds", "Correct a result")};
-const EditKind kCorrectDesign{"correct_design", QT_TRANSLATE_NOOP("EditKinds", "Correct a design point")};
-const EditKind kGenerateDesign{"generate_design", QT_TRANSLATE_NOOP("EditKinds", "Generate %1 design points")};
-const EditKind kQualityLimits{"quality_limits", QT_TRANSLATE_NOOP("EditKinds", "Change quality limits")};
-const EditKind kDesignParameters{"design_parameters", QT_TRANSLATE_NOOP("EditKinds", "Change design parameters")};
-const EditKind kCoordSystem{"coord_system", QT_TRANSLATE_NOOP("EditKinds", "Change the coordinate system")};
-const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 points")};
+const EditKind kImportDesign{"import_design", QT_TRANSLATE_NOOP("EditKinds", "Import %1 design points"), QT_TRANSLATE_NOOP("EditKinds", "Import a design point")};
+const EditKind kImportSurvey{"import_survey", QT_TRANSLATE_NOOP("EditKinds", "Import %1 results"), QT_TRANSLATE_NOOP("EditKinds", "Import a result")};
+const EditKind kDeleteResults{"delete_results", QT_TRANSLATE_NOOP("EditKinds", "Delete %1 results"), QT_TRANSLATE_NOOP("EditKinds", "Delete a result")};
+const EditKind kCorrectResult{"correct_result", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Correct a result")};
+const EditKind kCorrectDesign{"correct_design", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Correct a design point")};
+const EditKind kGenerateDesign{"generate_design", QT_TRANSLATE_NOOP("EditKinds", "Generate %1 design points"), QT_TRANSLATE_NOOP("EditKinds", "Generate a design point")};
+const EditKind kQualityLimits{"quality_limits", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change quality limits")};
+const EditKind kDesignParameters{"design_parameters", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change design parameters")};
+const EditKind kCoordSystem{"coord_system", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change the coordinate system")};
+const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 points"), QT_TRANSLATE_NOOP("EditKinds", "Restore a point")};
 // clang-format on
 
 const EditKind* find(std::string_view name)
@@ -37,6 +37,7 @@ const EditKind* find(std::string_view name)
 
 QString EditKind::titleFor(std::size_t points) const
 {
-    const QString text = QCoreApplication::translate("EditKinds", title);
-    return text.contains(QLatin1String("%1")) ? text.arg(lum::groupedNumber(points)) : text;
+    if (points == 1 || title == nullptr)
+        return QCoreApplication::translate("EditKinds", one);
+    return QCoreApplication::translate("EditKinds", title).arg(lum::groupedNumber(points));
 }

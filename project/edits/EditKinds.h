@@ -7,8 +7,10 @@
 /// A kind of change that can be taken back.
 struct EditKind
 {
-    const char* name;  ///< in the project's history, which is kept for years: never changed
-    const char* title; ///< for the user, context "EditKinds"; %1 is the number of points
+    const char* name; ///< in the project's history, which is kept for years: never changed
+    /// For the user, context "EditKinds"; %1 is the number of points. Null when nothing is counted.
+    const char* title;
+    const char* one; ///< the title for one point, or where nothing is counted
 
     /// "Delete 10,000 results", translated.
     [[nodiscard]] QString titleFor(std::size_t points) const;

@@ -26,8 +26,9 @@ class EditPart
 public:
     virtual ~EditPart() = default;
 
-    /// Exchanges the project's state with the one that the part holds. An exception (no memory)
-    /// leaves both as they were.
+    /// Takes the memory that `exchange` needs. An exception (none is left) changes nothing.
+    virtual void prepare(const EditedData& /*data*/) {}
+    /// Exchanges the project's state with the one that the part holds, right after `prepare`.
     virtual void exchange(const EditedData& data) = 0;
     /// Once it is done: what has changed.
     virtual void tell(const EditedData& data, IEditReader& reader) const = 0;

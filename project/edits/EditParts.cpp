@@ -7,6 +7,7 @@ void keepVerdict(const SurveyPoint& from, SurveyPoint& to)
     to.resurveyXDiff = from.resurveyXDiff;
     to.resurveyYDiff = from.resurveyYDiff;
     to.resurveyHDiff = from.resurveyHDiff;
+    to.pairedNumber = from.pairedNumber;
 }
 
 void keepVerdict(const DesignPoint& from, DesignPoint& to)
@@ -27,7 +28,12 @@ void Parameters::exchange(const EditedData& data)
 {
     if (m_which == kCoordSystemScope) {
         basalt::Dictionary before(data.coordSystem);
-        data.setCoordSystem(m_other);
+        try {
+            data.setCoordSystem(m_other);
+        } catch (...) {
+            data.setCoordSystem(before);
+            throw;
+        }
         m_other = std::move(before);
     } else {
         std::swap(m_which == kQualityScope ? data.quality : data.designParameters, m_other);

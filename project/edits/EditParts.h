@@ -1,42 +1,87 @@
 #pragma once
 
+#include "model/TakenOver.h"
 #include "project/edits/EditPart.h"
 
-/// About what a point takes in memory, with its texts.
-template <class Points>
-constexpr std::size_t kPointBytes = sizeof(typename Points::Point) + 64;
+/// What the checks have written on a point goes over to its other state.
+void keepVerdict(const SurveyPoint& from, SurveyPoint& to);
+void keepVerdict(const DesignPoint& from, DesignPoint& to);
 
 template <class Points>
 constexpr EditScope kScopeOf = std::is_same_v<Points, DesignPoints> ? kDesignScope : kSurveyScope;
 
-/// What the checks write on a point belongs to the present state in both.
-void keepVerdict(const SurveyPoint& from, SurveyPoint& to);
-void keepVerdict(const DesignPoint& from, DesignPoint& to);
+// About how much memory names and points take, with the texts and the lines.
+inline std::size_t bytesOf(const PointNames& names)
+{
+    return names.lines().size() * 192 + names.count() * 48;
+}
+template <class Points>
+std::size_t bytesOf(const Points& points)
+{
+    return points.lineCount() * 256 + points.pointCount() * (sizeof(typename Points::Point) + 64);
+}
 
 /// Points by their names: those that are not among `other` are not there in the other state.
 template <class Points>
 class SomePoints final : public EditPart
 {
 public:
-    /// \param isCorrection  a point keeps the verdict of the last check, since it was measured once
-    SomePoints(PointNames names, Points other, bool isCorrection = false)
-        : m_names(std::move(names)), m_other(std::move(other)), m_isCorrection(isCorrection)
+    SomePoints(PointNames names, Points other)
+        : m_names(std::move(names)), m_other(std::move(other))
     {
     }
 
+    void prepare(const EditedData& data) override
+    {
+        m_prepared = data.points<Points>().prepareExchange(m_names, m_other);
+    }
+    void exchange(const EditedData& data) override
+    {
+        data.points<Points>().exchange(std::move(m_prepared), m_other);
+        m_prepared = {};
+    }
+    void tell(const EditedData& /*data*/, IEditReader& reader) const override
+    {
+        reader.pointsChanged(m_names, m_other);
+    }
+    [[nodiscard]] unsigned scope() const override { return kScopeOf<Points>; }
+    [[nodiscard]] std::size_t bytes() const override { return bytesOf(m_names) + bytesOf(m_other); }
+
+private:
+    PointNames m_names;
+    Points m_other;
+    typename Points::Exchange m_prepared;
+};
+
+/// A point that was corrected. It may have got another name, and have replaced the point that had
+/// it. What the checks have written on it belongs to it in both states, since it was measured once.
+template <class Points>
+class CorrectedPoint final : public EditPart
+{
+public:
+    /// \param corrected  the point alone, under its name `after`
+    CorrectedPoint(const PointName& before, const PointName& after, Points corrected)
+        : m_here(before), m_there(after), m_names(std::vector<PointName>{before, after}),
+          m_other(std::move(corrected))
+    {
+    }
+
+    void prepare(const EditedData& data) override
+    {
+        Points& points = data.points<Points>();
+        keepVerdict(*points.find(m_here.line, m_here.point), otherPoint());
+        if (m_here != m_there)
+            m_prepared = points.prepareExchange(m_names, m_other);
+    }
     void exchange(const EditedData& data) override
     {
         Points& points = data.points<Points>();
-        Points present = points.extract(m_names);
-        if (m_isCorrection)
-            keepVerdicts(present);
-        try {
-            points.exchange(m_other); // nothing is replaced
-        } catch (...) {
-            points.exchange(present); // into the room that it has left
-            throw;
-        }
-        m_other = std::move(present);
+        if (m_here == m_there) // pointers to points stay valid
+            std::swap(*points.find(m_here.line, m_here.point), otherPoint());
+        else
+            points.exchange(std::move(m_prepared), m_other);
+        m_prepared = {};
+        std::swap(m_here, m_there);
     }
     void tell(const EditedData& /*data*/, IEditReader& reader) const override
     {
@@ -45,23 +90,59 @@ public:
     [[nodiscard]] unsigned scope() const override { return kScopeOf<Points>; }
     [[nodiscard]] std::size_t bytes() const override
     {
-        return m_names.count() * 48 + m_other.pointCount() * kPointBytes<Points>;
+        return 2 * bytesOf(m_names) + bytesOf(m_other);
     }
 
 private:
-    void keepVerdicts(const Points& present)
+    [[nodiscard]] typename Points::Point& otherPoint()
     {
-        for (auto& [number, line] : m_other) {
-            for (auto& point : line) {
-                if (const auto* const same = present.find(number, point.pointNumber))
-                    keepVerdict(*same, point);
-            }
-        }
+        return *m_other.find(m_there.line, m_there.point);
     }
 
+    PointName m_here;  ///< in the project
+    PointName m_there; ///< in the other state
     PointNames m_names;
     Points m_other;
-    bool m_isCorrection;
+    typename Points::Exchange m_prepared;
+};
+
+/// Points that came by an import.
+template <class Points>
+class ImportedPoints final : public EditPart
+{
+public:
+    /// For the import to fill.
+    [[nodiscard]] TakenOver<Points>& undo() { return m_undo; }
+
+    void prepare(const EditedData& data) override
+    {
+        if (!m_undo.wasEmpty)
+            m_prepared = data.points<Points>().prepareExchange(m_undo.names, m_undo.replaced);
+    }
+    void exchange(const EditedData& data) override
+    {
+        if (m_undo.wasEmpty)
+            std::swap(data.points<Points>(), m_undo.replaced);
+        else
+            data.points<Points>().exchange(std::move(m_prepared), m_undo.replaced);
+        m_prepared = {};
+    }
+    void tell(const EditedData& /*data*/, IEditReader& reader) const override
+    {
+        if (m_undo.wasEmpty)
+            reader.allChanged(m_undo.replaced);
+        else
+            reader.pointsChanged(m_undo.names, m_undo.replaced);
+    }
+    [[nodiscard]] unsigned scope() const override { return kScopeOf<Points>; }
+    [[nodiscard]] std::size_t bytes() const override
+    {
+        return bytesOf(m_undo.names) + bytesOf(m_undo.replaced);
+    }
+
+private:
+    TakenOver<Points> m_undo;
+    typename Points::Exchange m_prepared;
 };
 
 /// All points of a kind.
@@ -69,7 +150,10 @@ template <class Points>
 class AllPoints final : public EditPart
 {
 public:
-    explicit AllPoints(Points other) : m_other(std::move(other)) {}
+    explicit AllPoints(Points other = {}) : m_other(std::move(other)) {}
+
+    /// The points in the other state.
+    [[nodiscard]] Points& other() { return m_other; }
 
     void exchange(const EditedData& data) override { std::swap(data.points<Points>(), m_other); }
     void tell(const EditedData& /*data*/, IEditReader& reader) const override
@@ -77,10 +161,7 @@ public:
         reader.allChanged(m_other);
     }
     [[nodiscard]] unsigned scope() const override { return kScopeOf<Points>; }
-    [[nodiscard]] std::size_t bytes() const override
-    {
-        return m_other.pointCount() * kPointBytes<Points>;
-    }
+    [[nodiscard]] std::size_t bytes() const override { return bytesOf(m_other); }
 
 private:
     Points m_other;

@@ -38,6 +38,7 @@ public:
         m_isPushed = true;
     }
 
+    [[nodiscard]] bool isOf(const std::shared_ptr<Edit>& edit) const { return m_edit == edit; }
     [[nodiscard]] std::size_t bytes() const { return m_edit == nullptr ? 0 : m_edit->bytes(); }
     void letGo() { m_edit.reset(); }
 
@@ -110,6 +111,8 @@ void EditSteps::redo()
 void EditSteps::goTo(int count)
 {
     const int target = m_letGo + count;
+    if (target == m_stack.index())
+        return;
     const bool isBack = target < m_stack.index();
     const QString title = isBack ? m_stack.undoText() : m_stack.redoText();
     m_hasFailed = false;
@@ -117,8 +120,8 @@ void EditSteps::goTo(int count)
         m_stack.undo();
     while (!m_hasFailed && m_stack.index() < target)
         m_stack.redo();
-    if (m_hasFailed) // the stack and the project no longer agree
-        forget();
+    if (m_hasFailed) // nothing was changed, so the stack goes back to where the project is
+        isBack ? m_stack.redo() : m_stack.undo();
     else
         m_host.tell((isBack ? tr("Taken back: %1") : tr("Done again: %1")).arg(title));
     announce();
@@ -161,28 +164,43 @@ void EditSteps::announce()
 
 void EditSteps::add(const std::shared_ptr<Edit>& edit)
 {
+    m_hasFailed = false;
     m_stack.push(new EditStep(*this, edit)); // the stack's own from here on
-    letOldestGo();
+    if (edit->bytes() <= m_mostBytes)
+        letOldestGo();
     // Later, when whoever has made the edit has told about it.
     QMetaObject::invokeMethod(
-        this, [this, title = edit->title(), bytes = edit->bytes()] { settle(title, bytes); },
+        this, [this, made = std::weak_ptr<Edit>(edit)] { settle(made.lock()); },
         Qt::QueuedConnection);
 }
 
-void EditSteps::settle(const QString& title, std::size_t bytes)
+void EditSteps::settle(const std::shared_ptr<Edit>& edit)
 {
     announce();
     const int last = m_stack.index() - 1;
-    if (bytes <= m_mostBytes || last < m_letGo || m_stack.text(last) != title)
+    if (edit == nullptr || edit->bytes() <= m_mostBytes || last < m_letGo || !step(last).isOf(edit))
         return;
-    if (!mayLetGo(title, bytes)) {
+    if (mayLetGo(edit->title(), edit->bytes())) {
+        letGo(last);
+    } else {
         undo();
-        return;
+        if (!m_hasFailed)
+            dropTakenBack();
     }
-    for (int i = m_letGo; i <= last; ++i)
-        step(i).letGo();
-    m_letGo = last + 1;
     announce();
+}
+
+void EditSteps::dropTakenBack()
+{
+    auto none = std::make_unique<QUndoCommand>();
+    none->setObsolete(true);
+    m_stack.push(none.release()); // ends what was taken back, and then itself
+}
+
+void EditSteps::letGo(int last)
+{
+    for (; m_letGo <= last; ++m_letGo)
+        step(m_letGo).letGo();
 }
 
 bool EditSteps::mayLetGo(const QString& title, std::size_t bytes)
@@ -203,11 +221,8 @@ void EditSteps::letOldestGo()
     std::size_t bytes = 0;
     for (int i = m_stack.count() - 1; i >= m_letGo; --i) {
         bytes += step(i).bytes();
-        if (bytes <= m_mostBytes || i == m_stack.count() - 1)
-            continue;
-        for (int old = m_letGo; old <= i; ++old)
-            step(old).letGo();
-        m_letGo = i + 1;
+        if (bytes > m_mostBytes && i < m_stack.count() - 1)
+            letGo(i);
     }
 }
 

@@ -58,9 +58,11 @@ private:
 
     void add(const std::shared_ptr<Edit>& edit);
     /// Shows what a new step has changed, and asks about one that is too large.
-    void settle(const QString& title, std::size_t bytes);
+    void settle(const std::shared_ptr<Edit>& edit);
     [[nodiscard]] bool mayLetGo(const QString& title, std::size_t bytes);
     void letOldestGo();
+    void letGo(int last);
+    void dropTakenBack();
     void exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack);
     /// Shows the windows what the edits have changed, once, and what the menu can do.
     void announce();

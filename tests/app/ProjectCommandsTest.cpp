@@ -10,6 +10,7 @@
 #include "protocol/StatusKeys.h"
 #include "tests/app/FrameTest.h"
 #include "tests/support/OnEvent.h"
+#include "tests/support/Points.h"
 
 namespace {
 
@@ -211,6 +212,38 @@ private Q_SLOTS:
         expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "") +
                     changeTo("测区 7"));
         expectAsked("");
+    }
+
+    void takesChangesBackByKeysButNotWhileTextIsTyped()
+    {
+        openNew("steps");
+        for (const char* number : {"1", "2", "3"})
+            manager().surveyPoints().set(surveyPoint("R1", number));
+        const auto results = [] { return manager().surveyPoints().pointCount(); };
+        m_frame->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_frame.get()));
+        manager().deleteSurveyPoints({PointName{"R1", "1"}, PointName{"R1", "2"}});
+        manager().deleteSurveyPoints(std::vector{PointName{"R1", "3"}});
+        QCoreApplication::processEvents();
+        QCOMPARE(action("Undo")->text(), "&Undo Delete a result"_q);
+        auto* const field = new QLineEdit(m_frame.get());
+        field->show();
+        field->setFocus();
+        QTest::keyClicks(field, "word"_q);
+        for (int i = 0; i < 3; ++i) // also when the field has nothing more to take back
+            QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field->text(), QString());
+        QCOMPARE(results(), std::size_t(0));
+        delete field;
+        QTest::keyClick(m_frame.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(results(), std::size_t(1));
+        QCOMPARE(action("Undo")->text(), "&Undo Delete 2 results"_q);
+        QCOMPARE(action("Redo")->text(), "&Redo Delete a result"_q);
+        QTest::keyClick(m_frame.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(results(), std::size_t(0));
+        run("Undo");
+        run("Undo");
+        QVERIFY(!action("Undo")->isEnabled() && !manager().isChanged());
     }
 
     void refusesBadNamesWhileTheyAreTyped()

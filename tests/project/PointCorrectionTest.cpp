@@ -188,3 +188,37 @@ TEST_F(PointCorrection, ADesignPointGetsHeightAndAzimuth)
     EXPECT_EQ(manager.correctDesignPoint({"R1", "1"}, correction), 0);
     EXPECT_EQ(manager.correctDesignPoint({"R1", "2"}, {}), 0);
 }
+
+// A check that runs between a correction and its undoing judges what was measured.
+TEST_F(PointCorrection, AVerdictStaysWithItsMeasurementThroughAllStates)
+{
+    points.set(surveyPoint("R1", "1", "moved"));
+    points.set(surveyPoint("R1", "2", "replaced")).qualityStandard = 7;
+    std::shared_ptr<Edit> edit;
+    manager.setEditHandler([&](const std::shared_ptr<Edit>& made) { edit = made; });
+    SurveyCorrection correction;
+    correction.pointNumber = "2";
+    EXPECT_EQ(correct({"R1", "1"}, correction), 1);
+    SurveyPoint& judged = *points.find("R1", "2");
+    EXPECT_EQ(judged.remarks, "moved");
+    judged.qualityStandard = 3;
+    judged.pairedNumber = "2F";
+    manager.exchange(edit, true);
+    EXPECT_EQ(points.find("R1", "1")->qualityStandard, 3);
+    EXPECT_EQ(points.find("R1", "1")->pairedNumber, "2F");
+    EXPECT_EQ(points.find("R1", "2")->qualityStandard, 7) << "of another measurement";
+    points.find("R1", "1")->qualityStandard = 4;
+    manager.exchange(edit, false);
+    EXPECT_EQ(points.find("R1", "2")->qualityStandard, 4);
+
+    correction = {};
+    correction.remarks = "dry";
+    const SurveyPoint* const place = points.find("R1", "2");
+    EXPECT_EQ(correct({"R1", "2"}, correction), 1);
+    points.find("R1", "2")->qualityStandard = 5;
+    manager.exchange(edit, true);
+    EXPECT_EQ(points.find("R1", "2"), place) << "what is not moved can still be pointed to";
+    EXPECT_EQ(place->remarks, "moved");
+    EXPECT_EQ(place->qualityStandard, 5);
+    EXPECT_EQ(points.pointCount(), 1U);
+}
