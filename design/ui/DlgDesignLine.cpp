@@ -296,9 +296,10 @@ void DlgDesignLine::onBtnClicked()
         reject();
         return;
     }
-    if (!store())
+    if (!hasGoodFields())
         return;
     if (button == m_save) {
+        DataProcessDataManager::instance().setDesignParameters(parameters());
         reject(); // nothing was generated
         return;
     }
@@ -307,7 +308,7 @@ void DlgDesignLine::onBtnClicked()
                                  : DesignLines::Both);
 }
 
-bool DlgDesignLine::store()
+bool DlgDesignLine::hasGoodFields()
 {
     refresh();
     const DesignFault* first = nullptr;
@@ -321,18 +322,17 @@ bool DlgDesignLine::store()
                 first = &fault;
         }
     }
-    if (first != nullptr) {
+    if (first != nullptr)
         refuse(*first, false);
-        return false;
-    }
-    DataProcessDataManager& manager = DataProcessDataManager::instance();
-    IDictionary& parameters = manager.designParameters();
-    const basalt::Dictionary before(parameters);
+    return first == nullptr;
+}
+
+basalt::Dictionary DlgDesignLine::parameters() const
+{
+    basalt::Dictionary parameters(DataProcessDataManager::instance().designParameters());
     for (const GridForm* const form : m_forms)
         form->store(parameters);
-    if (!dictionary_same(before, parameters))
-        manager.markChanged();
-    return true;
+    return parameters;
 }
 
 void DlgDesignLine::refuse(const DesignFault& fault, bool isBadStep)
@@ -350,7 +350,7 @@ void DlgDesignLine::generate(DesignLines lines)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     Outcome outcome = Outcome::done();
-    DataProcessDataManager::instance().generateDesign(lines, &outcome);
+    DataProcessDataManager::instance().generateDesign(lines, parameters(), &outcome);
     QGuiApplication::restoreOverrideCursor();
     if (!outcome.isDone()) {
         LumMessageBox::error(this, windowTitle(), outcome.text());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "basalt_utilities/Dictionary.h"
 #include "design/ui/DesignEdit.h"
 #include "design/ui/DesignPreview.h"
 #include "lum_desktop_sdkx/dialogs/Dialog.h"
@@ -67,7 +68,9 @@ private:
     void refresh();
     void showOnMap(std::vector<DesignGrid> grids);
     /// \returns false, and tells why, when a value cannot be stored
-    bool store();
+    bool hasGoodFields();
+    /// As the fields say.
+    [[nodiscard]] basalt::Dictionary parameters() const;
     void refuse(const DesignFault& fault, bool isBadStep);
     void generate(DesignLines lines);
     [[nodiscard]] GridForm& formInView();
