@@ -404,6 +404,7 @@ protected:
     [[nodiscard]] const PlainProject& present() const { return m_states[m_done]; }
     void expectSame()
     {
+        m_most = std::max(m_most, m_manager.surveyPoints().pointCount());
         const PlainProject held = textsOf(m_manager);
         ASSERT_EQ(held.results, present().results);
         ASSERT_EQ(held.design, present().design);
@@ -458,6 +459,7 @@ protected:
     PlainProject m_saved;
     int m_savedAt = 0; ///< edits done when it was saved; -1 when that state cannot be reached
     bool m_isChecked = false;
+    std::size_t m_most = 0; ///< results at a time
     std::mt19937 m_random{20240531};
 };
 
@@ -497,5 +499,5 @@ TEST_F(EditWalk, EndsWithTheBytesOfAPlainModel)
     create(fresh);
     make(plain, quality, design);
     EXPECT_EQ(bytes(fresh), walked);
-    EXPECT_GT(plain.results.size(), 3U) << "a walk that ends with nothing shows nothing";
+    EXPECT_GT(m_most, 200U) << "a walk without results shows nothing";
 }
