@@ -46,7 +46,8 @@ DataProcess5Assistant::DataProcess5Assistant(const char* /*config*/, IDesktopHos
                      lum::eventNames({events::kXyChanged, events::kProjectModified,
                                       events::kUpdateSystemStatus, events::kProjectChanged}),
                      host->eventManager()),
-      m_dataManager(std::make_unique<DataProcessDataManager>(host)), m_follower(*host)
+      m_dataManager(std::make_unique<DataProcessDataManager>(host)), m_steps(*host),
+      m_follower(*host)
 {
     m_dataManager->setOtherSystemHandler([host](const QString& path, SurveyRecords other) {
         DlgCoordCompare::tell(*host, path, std::move(other));

@@ -4,6 +4,7 @@
 #include "lum_sdk/events/EventSubscription.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "project/DataProcessDataManager.h"
+#include "project/ui/EditSteps.h"
 #include "views/SelectionFollower.h"
 
 #include <memory>
@@ -39,5 +40,6 @@ private:
     EventSubscription m_subscription;
     std::string m_position; ///< as last told by the map; empty when it does not count any more
     std::unique_ptr<DataProcessDataManager> m_dataManager;
+    EditSteps m_steps; // of the manager
     SelectionFollower m_follower;
 };

@@ -18,6 +18,7 @@
 #include "map/ui/ViewChangeCommand.h"
 #include "map/ui/ZoomCommands.h"
 #include "project/ui/CloseProjectCommand.h"
+#include "project/ui/EditCommands.h"
 #include "project/ui/NewProjectCommand.h"
 #include "project/ui/OpenProjectCommand.h"
 #include "project/ui/RecentProjectCommand.h"
@@ -76,6 +77,9 @@ using namespace desktop::registration;
     command<ExportDesignCommand>        ("ExportDesignCommand",          "导出设计数据"),
     command<ExportSurveyCommand>        ("ExportSurveyCommand",          "导出测量数据"),
     command<ExportReportCommand>        ("ExportReportCommand",          "导出报告"),
+    command<UndoCommand>                ("UndoCommand",                  "撤销"),
+    command<RedoCommand>                ("RedoCommand",                  "重做"),
+    command<EditStepsCommand>           ("EditStepsCommand",             "操作步骤"),
     command<FindCommand>                ("FindCommand",                  "查找"),
     command<SurveyTableHideCommand>     ("SurveyTableHideCommand",       "勘察列表隐藏"),
     command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),

@@ -1,0 +1,228 @@
+#include "project/ui/EditSteps.h"
+
+#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/GroupedNumber.h"
+#include "project/DataProcessDataManager.h"
+#include "project/ProjectPlace.h"
+#include "project/ui/ProjectState.h"
+#include "protocol/Events.h"
+
+#include <QUndoCommand>
+
+namespace {
+
+EditSteps* stepsInUse = nullptr;
+
+QString openProject()
+{
+    return ProjectState::isOpen() ? ProjectState::place().folder : QString();
+}
+
+} // namespace
+
+/// An edit on the stack, which does it when it is pushed: that one time nothing is left to do.
+class EditStep final : public QUndoCommand
+{
+public:
+    EditStep(EditSteps& steps, std::shared_ptr<Edit> edit)
+        : QUndoCommand(edit->title()), m_steps(steps), m_edit(std::move(edit))
+    {
+    }
+
+    void undo() override { m_steps.exchange(m_edit, true); }
+    void redo() override
+    {
+        if (m_isPushed)
+            m_steps.exchange(m_edit, false);
+        m_isPushed = true;
+    }
+
+    [[nodiscard]] std::size_t bytes() const { return m_edit == nullptr ? 0 : m_edit->bytes(); }
+    void letGo() { m_edit.reset(); }
+
+private:
+    EditSteps& m_steps;
+    std::shared_ptr<Edit> m_edit;
+    bool m_isPushed = false;
+};
+
+EditSteps::EditSteps(IDesktopHost& host, std::size_t mostBytes)
+    : m_host(host), m_mostBytes(mostBytes), m_project(openProject()),
+      m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
+{
+    DataProcessDataManager::instance().setEditHandler(
+        [this](const std::shared_ptr<Edit>& edit) { add(edit); });
+    stepsInUse = this;
+}
+
+EditSteps::~EditSteps()
+{
+    if (stepsInUse == this)
+        stepsInUse = nullptr;
+    if (DataProcessDataManager::hasInstance())
+        DataProcessDataManager::instance().setEditHandler({});
+}
+
+EditSteps* EditSteps::instance()
+{
+    return stepsInUse;
+}
+
+EditStep& EditSteps::step(int index) const
+{
+    // The stack gives its steps to look at; only this class makes them.
+    return static_cast<EditStep&>(const_cast<QUndoCommand&>(*m_stack.command(index)));
+}
+
+bool EditSteps::canUndo() const
+{
+    return m_stack.index() > m_letGo;
+}
+
+QString EditSteps::undoTitle() const
+{
+    return canUndo() ? m_stack.undoText() : QString();
+}
+
+QStringList EditSteps::titles() const
+{
+    QStringList titles;
+    for (int i = m_letGo; i < m_stack.count(); ++i)
+        titles << m_stack.text(i);
+    return titles;
+}
+
+// --- going through the steps ---
+
+void EditSteps::undo()
+{
+    if (canUndo())
+        goTo(done() - 1);
+}
+
+void EditSteps::redo()
+{
+    if (canRedo())
+        goTo(done() + 1);
+}
+
+void EditSteps::goTo(int count)
+{
+    const int target = m_letGo + count;
+    const bool isBack = target < m_stack.index();
+    const QString title = isBack ? m_stack.undoText() : m_stack.redoText();
+    m_hasFailed = false;
+    while (!m_hasFailed && m_stack.index() > target)
+        m_stack.undo();
+    while (!m_hasFailed && m_stack.index() < target)
+        m_stack.redo();
+    if (m_hasFailed) // the stack and the project no longer agree
+        forget();
+    else
+        m_host.tell((isBack ? tr("Taken back: %1") : tr("Done again: %1")).arg(title));
+    announce();
+}
+
+void EditSteps::exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack)
+{
+    if (m_hasFailed)
+        return;
+    Outcome outcome = Outcome::done();
+    DataProcessDataManager::instance().exchange(edit, isTakenBack, &outcome);
+    if (outcome.isDone()) {
+        m_touched |= edit->scope();
+        return;
+    }
+    m_hasFailed = true;
+    LumMessageBox::error(m_host.dialogParent(), tr("Error"), outcome.text());
+}
+
+void EditSteps::announce()
+{
+    const unsigned touched = std::exchange(m_touched, 0U);
+    const auto publish = [this](std::initializer_list<const char*> names) {
+        for (const char* name : names)
+            m_host.eventManager().publish(name, nullptr, 0);
+    };
+    if ((touched & kCoordSystemScope) != 0)
+        publish({events::kProjectChanged, events::kSettingViewFinished});
+    if ((touched & kDesignScope) != 0)
+        publish({events::kRefreshDesignLayer, events::kRefreshDesignTable});
+    if ((touched & (kSurveyScope | kQualityScope)) != 0)
+        publish({events::kRefreshSurveyTable});
+    if ((touched & kSurveyScope) != 0)
+        publish({events::kRefreshSurveyLayer});
+    publish({events::kUpdateSystemStatus}); // the captions of the menu
+    Q_EMIT changed();
+}
+
+// --- what is kept ---
+
+void EditSteps::add(const std::shared_ptr<Edit>& edit)
+{
+    m_stack.push(new EditStep(*this, edit)); // the stack's own from here on
+    letOldestGo();
+    // Later, when whoever has made the edit has told about it.
+    QMetaObject::invokeMethod(
+        this, [this, title = edit->title(), bytes = edit->bytes()] { settle(title, bytes); },
+        Qt::QueuedConnection);
+}
+
+void EditSteps::settle(const QString& title, std::size_t bytes)
+{
+    announce();
+    const int last = m_stack.index() - 1;
+    if (bytes <= m_mostBytes || last < m_letGo || m_stack.text(last) != title)
+        return;
+    if (!mayLetGo(title, bytes)) {
+        undo();
+        return;
+    }
+    for (int i = m_letGo; i <= last; ++i)
+        step(i).letGo();
+    m_letGo = last + 1;
+    announce();
+}
+
+bool EditSteps::mayLetGo(const QString& title, std::size_t bytes)
+{
+    const auto mebibytes = [](std::size_t count) {
+        return lum::groupedNumber((count + 1024 * 1024 - 1) / (1024 * 1024));
+    };
+    return LumMessageBox::question(
+               m_host.dialogParent(), tr("Undo"),
+               tr("\"%1\" can be taken back now, but not later: to keep what it replaced takes %2 "
+                  "MiB, more than the %3 MiB for all steps. Keep what it did?")
+                   .arg(title, mebibytes(bytes), mebibytes(m_mostBytes))) ==
+           LumMessageBox::Button::Yes;
+}
+
+void EditSteps::letOldestGo()
+{
+    std::size_t bytes = 0;
+    for (int i = m_stack.count() - 1; i >= m_letGo; --i) {
+        bytes += step(i).bytes();
+        if (bytes <= m_mostBytes || i == m_stack.count() - 1)
+            continue;
+        for (int old = m_letGo; old <= i; ++old)
+            step(old).letGo();
+        m_letGo = i + 1;
+    }
+}
+
+void EditSteps::forget()
+{
+    m_stack.clear();
+    m_letGo = 0;
+}
+
+void EditSteps::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
+{
+    const QString project = openProject();
+    if (project == m_project)
+        return;
+    m_project = project;
+    forget();
+    Q_EMIT changed();
+}
