@@ -44,7 +44,7 @@
 #include "reports/ReportKinds.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 
 #include <cpl_conv.h>
 #include <gdal.h>
@@ -239,8 +239,8 @@ template <class Points>
 void DataProcessDataManager::keepImport(const EditKind& kind, TakenOver<Points>&& undo,
                                         const ImportSummary& summary)
 {
-    const auto edit =
-        std::make_shared<Edit>(kind, summary.pointsNew + summary.pointsReplaced, summary.path);
+    const auto edit = std::make_shared<Edit>(kind, summary.pointsNew + summary.pointsReplaced,
+                                             QFileInfo(summary.path).absoluteFilePath());
     if (undo.wasEmpty)
         edit->add(std::make_unique<AllPoints<Points>>(Points()));
     else

@@ -1024,6 +1024,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Line %1 has no point %2 any more: nothing was changed.</source>
         <translation>测线 %1 上已没有点 %2，未作任何修改。</translation>
     </message>
+    <message>
+        <source>There is not enough memory: nothing was changed.</source>
+        <translation>内存不足：未作任何更改。</translation>
+    </message>
+    <message>
+        <source>Save History</source>
+        <translation>保存历史记录</translation>
+    </message>
 </context>
 <context>
     <name>DataProcessLayerImp</name>
@@ -1876,6 +1884,49 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>show r line</source>
         <translation>显示接收线</translation>
+    </message>
+</context>
+<context>
+    <name>EditKinds</name>
+    <message>
+        <source>Import %1 design points</source>
+        <translation>导入 %1 个设计点</translation>
+    </message>
+    <message>
+        <source>Import %1 results</source>
+        <translation>导入 %1 个成果</translation>
+    </message>
+    <message>
+        <source>Delete %1 results</source>
+        <translation>删除 %1 个成果</translation>
+    </message>
+    <message>
+        <source>Correct a result</source>
+        <translation>修改一个成果</translation>
+    </message>
+    <message>
+        <source>Correct a design point</source>
+        <translation>修改一个设计点</translation>
+    </message>
+    <message>
+        <source>Generate %1 design points</source>
+        <translation>生成 %1 个设计点</translation>
+    </message>
+    <message>
+        <source>Change quality limits</source>
+        <translation>更改质量限差</translation>
+    </message>
+    <message>
+        <source>Change design parameters</source>
+        <translation>更改设计参数</translation>
+    </message>
+    <message>
+        <source>Change the coordinate system</source>
+        <translation>更改坐标系统</translation>
+    </message>
+    <message>
+        <source>Restore %1 points</source>
+        <translation>恢复 %1 个点</translation>
     </message>
 </context>
 <context>
@@ -2782,6 +2833,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The project file &quot;%1&quot; cannot be read (%2): what it says about the project is neither shown nor saved.</source>
         <translation>无法读取工程文件“%1”（%2）：其中的工程信息既不显示也不保存。</translation>
+    </message>
+    <message>
+        <source>The history of this project is of a newer version of the program. It is kept, but not shown, and what you change is not added to it.</source>
+        <translation>本工程的历史记录由本程序的较新版本写成。历史记录予以保留但不显示，您所作的更改也不会记入其中。</translation>
+    </message>
+    <message>
+        <source>Actions in the history of this project that a newer version of the program has written: %1. They are kept, but not shown.</source>
+        <translation>本工程的历史记录中由本程序较新版本写入的操作：%1 项。它们予以保留但不显示。</translation>
+    </message>
+    <message>
+        <source>The history of this project cannot be read: %1.</source>
+        <translation>无法读取本工程的历史记录：%1。</translation>
     </message>
 </context>
 <context>

@@ -38,18 +38,18 @@ bool saysSomething(const std::string& text)
 
 void print(const HistoryAction& action, const HistoryItem& item)
 {
-    const auto line = [&](const std::string& field, const std::string& old) {
+    const auto line = [&](const HistoryField& field) {
         print(describe(action) << QLatin1String(nameOf(item.data))
                                << QLatin1String(nameOf(item.change))
-                               << QString::fromStdString(field) << QString::fromStdString(old)
-                               << QString::fromStdString(item.newText));
+                               << QString::fromStdString(field.key)
+                               << QString::fromStdString(field.oldText)
+                               << QString::fromStdString(field.newText));
     };
-    const auto fields = fieldsOf(action, item);
-    if (fields.empty())
-        return line(item.field, item.oldText);
-    for (const auto& [key, text] : fields) {
-        if (saysSomething(text))
-            line(key, text);
+    if (item.change == HistoryChange::Came)
+        return line({});
+    for (const HistoryField& field : fieldsOf(action, item)) {
+        if (saysSomething(field.oldText) || saysSomething(field.newText))
+            line(field);
     }
 }
 

@@ -86,7 +86,7 @@ private:
     void addWhole(const Point& point, HistoryChange change)
     {
         Record::write(point, *m_before);
-        add(Record::nameOf(point), change, packedRow(*m_before));
+        add(Record::nameOf(point), change, packedRow({m_before->values(), m_before->size()}));
         m_holdsWhole = true;
     }
 
@@ -102,8 +102,7 @@ private:
     {
         std::vector<bool> areVerdicts;
         for (const std::string& column : columns)
-            areVerdicts.push_back(std::ranges::find(Record::kVerdicts, column) !=
-                                  Record::kVerdicts.end());
+            areVerdicts.push_back(::isVerdict<Points>(column));
         return areVerdicts;
     }
 

@@ -71,7 +71,8 @@ struct HistoryItem
     /// The text of a field as the database has it. Of a whole point that is gone or has changed,
     /// `fieldsOf` reads it.
     std::string oldText;
-    std::string newText; ///< of a field
+    /// Of a field; of a whole point only where it is known.
+    std::string newText;
 };
 
 /// Which actions are asked for; what is not set takes all.

@@ -3,11 +3,16 @@
 #include "basalt_utilities/Numbers.h"
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/database/RecordSet.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
+#include "model/DesignRecord.h"
+#include "model/PointNumber.h"
 #include "model/RowNumbers.h"
+#include "model/SurveyRecord.h"
 #include "project/DatabaseReason.h"
 #include "project/history/HistoryRows.h"
 #include "project/history/HistoryTables.h"
+#include "project/history/PointLife.h"
 
 #include <QCoreApplication>
 
@@ -17,9 +22,9 @@ namespace {
 
 using HistoryTables::quoted;
 
-QString translated(const char* text, int count = -1)
+QString translated(const char* text)
 {
-    return QCoreApplication::translate("ProjectStore", text, nullptr, count);
+    return QCoreApplication::translate("ProjectStore", text);
 }
 
 std::string storedTime(const QDateTime& time)
@@ -107,10 +112,10 @@ Outcome HistoryReader::actions(const HistoryFilter& filter, std::vector<HistoryA
     if (!filter.point)
         return outcome(readActions(conditionOf(filter), actions));
     std::vector<Event> events;
-    const bool isRead = readLife(filter, events);
+    const Outcome reading = life(filter, events);
     for (Event& event : events)
         actions.push_back(std::move(event.action));
-    return outcome(isRead);
+    return reading;
 }
 
 Outcome HistoryReader::items(const HistoryAction& action, std::vector<HistoryItem>& items)
@@ -125,7 +130,19 @@ Outcome HistoryReader::life(const HistoryFilter& filter, std::vector<Event>& eve
     events.clear();
     if (!HistoryTables::areKnown(m_database))
         return Outcome::done();
-    return outcome(readLife(filter, events));
+    // All of it, since what a point became is told by what happened to it next.
+    PointLife life;
+    std::vector<HistoryAction> chosen;
+    if (!readLife(*filter.point, events) || !readPresent(*filter.point, life) ||
+        !readActions(conditionOf(filter), chosen))
+        return outcome(false);
+    for (Event& event : events)
+        life.tellNewTexts(event.action, event.items);
+    std::set<std::int64_t> ids;
+    for (const HistoryAction& action : chosen)
+        ids.insert(action.id);
+    std::erase_if(events, [&](const Event& event) { return !ids.contains(event.action.id); });
+    return outcome(true);
 }
 
 QString HistoryReader::notice()
@@ -138,13 +155,13 @@ QString HistoryReader::notice()
                             "is kept, but not shown, and what you change is not added to it."));
     const auto newer = m_database.rowCount(
         HistoryTables::kActions, ("form > " + std::to_string(HistoryTables::kForm)).c_str());
-    return newer <= 0
-               ? QString()
-               : translated(QT_TRANSLATE_NOOP("ProjectStore",
-                                              "A newer version of the program has written %n "
-                                              "action(s) into the history of this project. They "
-                                              "are kept, but not shown."),
-                            static_cast<int>(newer));
+    if (newer <= 0)
+        return {};
+    return translated(QT_TRANSLATE_NOOP("ProjectStore",
+                                        "Actions in the history of this project that a newer "
+                                        "version of the program has written: %1. They are kept, "
+                                        "but not shown."))
+        .arg(lum::groupedNumber(newer));
 }
 
 bool HistoryReader::readActions(const std::string& condition, std::vector<HistoryAction>& actions)
@@ -190,14 +207,13 @@ bool HistoryReader::readRows(const HistoryAction& action, const PointName* point
     });
 }
 
-bool HistoryReader::readLife(const HistoryFilter& filter, std::vector<Event>& events)
+bool HistoryReader::readLife(const PointName& point, std::vector<Event>& events)
 {
-    const PointName& point = *filter.point;
     std::vector<HistoryAction> actions;
     std::set<std::int64_t> touching; // of the small ones
     const std::string question = std::string("select distinct action from ") +
                                  HistoryTables::kItems + " where " + pointCondition(point);
-    if (!readActions(conditionOf(filter), actions) ||
+    if (!readActions(conditionOf({}), actions) ||
         !m_database.forEachRow(question.c_str(), [&](const IDictionary& row) {
             touching.insert(readInteger64(row.valueAt(0)));
             return true;
@@ -214,6 +230,21 @@ bool HistoryReader::readLife(const HistoryFilter& filter, std::vector<Event>& ev
             events.push_back(std::move(event));
     }
     return true;
+}
+
+bool HistoryReader::readPresent(const PointName& point, PointLife& life)
+{
+    const auto read = [&](HistoryData data, const char* table) {
+        const std::string question =
+            std::string("select * from ") + table + " where " + pointCondition(point);
+        return m_database.forEachRow(question.c_str(), [&](const IDictionary& row) {
+            life.setPresent(data, row);
+            return true;
+        });
+    };
+    return isCheckPoint(point.point) || // its measurements have one name here
+           (read(HistoryData::Results, SurveyRecord::kTable) &&
+            read(HistoryData::Design, DesignRecord::kTable));
 }
 
 Outcome HistoryReader::outcome(bool isRead) const

@@ -4,11 +4,10 @@
 #include "project/history/History.h"
 #include "protocol/Outcome.h"
 
-#include <utility>
 #include <vector>
 
 class IDBAdapter;
-class IDictionary;
+class PointLife;
 
 /// Reads the history from a project's database, which is open. It never writes. A database without
 /// a history has no actions; those of a newer version of the program are passed over.
@@ -29,7 +28,8 @@ public:
         HistoryAction action;
         std::vector<HistoryItem> items;
     };
-    /// The life of a result and of the design point of the same name, the newest action first.
+    /// The life of a result and of the design point of the same name, the newest action first. It
+    /// also tells what a point has become that changed as a whole.
     /// \param filter  with a point
     Outcome life(const HistoryFilter& filter, std::vector<Event>& events);
 
@@ -44,7 +44,8 @@ private:
                    std::vector<HistoryItem>& items);
     bool readRows(const HistoryAction& action, const PointName* point,
                   std::vector<HistoryItem>& items);
-    bool readLife(const HistoryFilter& filter, std::vector<Event>& events);
+    bool readLife(const PointName& point, std::vector<Event>& events);
+    bool readPresent(const PointName& point, PointLife& life);
     [[nodiscard]] Outcome outcome(bool isRead) const;
 
     IDBAdapter& m_database;
@@ -66,7 +67,16 @@ struct HistoryPoints
                                          const DesignPoints& presentDesign,
                                          const SurveyPoints& presentResults);
 
-/// The keys and texts of a whole point, in the order of the database's columns; empty for an item
-/// without one.
-[[nodiscard]] std::vector<std::pair<std::string, std::string>> fieldsOf(const HistoryAction& action,
-                                                                        const HistoryItem& item);
+/// A value that an item has changed.
+struct HistoryField
+{
+    std::string key;
+    std::string oldText; ///< as the database has it
+    std::string newText; ///< empty where it is not known
+};
+
+/// The fields of an item in the order of the database's columns: of a point that is gone all, of
+/// one that changed as a whole those that are different; all of them where the history does not say
+/// what it has become.
+[[nodiscard]] std::vector<HistoryField> fieldsOf(const HistoryAction& action,
+                                                 const HistoryItem& item);

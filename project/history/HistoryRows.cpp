@@ -64,13 +64,13 @@ void visitCompressed(const std::string& line, const QByteArray& compressed,
 
 } // namespace
 
-std::string packedRow(const RecordTexts& texts)
+std::string packedRow(std::span<const std::string_view> texts)
 {
     std::string row;
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (i > 0)
             row += kBetween;
-        appendEscaped(texts.values()[i], row);
+        appendEscaped(texts[i], row);
     }
     return row;
 }

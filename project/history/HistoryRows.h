@@ -1,12 +1,12 @@
 #pragma once
 
-#include "model/RecordTexts.h"
 #include "project/history/History.h"
 
 #include <QByteArray>
 
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -14,7 +14,7 @@
 // text.
 
 /// A tab stands between the texts; tabs, line feeds and backslashes in them are escaped.
-[[nodiscard]] std::string packedRow(const RecordTexts& texts);
+[[nodiscard]] std::string packedRow(std::span<const std::string_view> texts);
 [[nodiscard]] std::vector<std::string> unpackedRow(std::string_view row);
 
 /// The points of one kind that a large action has touched, in one blob. Each line is compressed by

@@ -6,6 +6,7 @@
 #include "model/SurveyRecord.h"
 #include "project/history/History.h"
 
+#include <algorithm>
 #include <array>
 
 /// What differs in the history between the two kinds of points.
@@ -52,3 +53,11 @@ struct PointRecord<SurveyPoints>
 
 /// The names of a comma-separated list.
 [[nodiscard]] std::vector<std::string> listedColumns(std::string_view columns);
+
+/// Whether the checks write this column.
+template <class Points>
+[[nodiscard]] bool isVerdict(std::string_view column)
+{
+    constexpr auto& kVerdicts = PointRecord<Points>::kVerdicts;
+    return std::ranges::find(kVerdicts, column) != kVerdicts.end();
+}

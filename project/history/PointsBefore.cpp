@@ -1,4 +1,3 @@
-#include "basalt_utilities/KeyList.h"
 #include "lum_sdk/database/RecordSet.h"
 #include "project/history/HistoryReader.h"
 #include "project/history/HistoryRows.h"
@@ -6,14 +5,6 @@
 
 #include <algorithm>
 #include <map>
-
-std::vector<std::string> listedColumns(std::string_view columns)
-{
-    std::vector<std::string> names;
-    while (!columns.empty())
-        names.emplace_back(next_word3(columns, ','));
-    return names;
-}
 
 namespace {
 
@@ -135,18 +126,4 @@ HistoryPoints pointsBefore(const HistoryAction& action, const std::vector<Histor
     SurveyPointFiler filer(before.results, &presentResults);
     results.takeWhole([&](SurveyPoint&& point) { filer.file(std::move(point)); });
     return before;
-}
-
-std::vector<std::pair<std::string, std::string>> fieldsOf(const HistoryAction& action,
-                                                          const HistoryItem& item)
-{
-    std::vector<std::pair<std::string, std::string>> fields;
-    if (!item.field.empty() || item.change == HistoryChange::Came)
-        return fields;
-    std::vector<std::string> texts = unpackedRow(item.oldText);
-    std::vector<std::string> keys = listedColumns(
-        item.data == HistoryData::Design ? action.designColumns : action.resultColumns);
-    for (std::size_t i = 0; i < std::min(keys.size(), texts.size()); ++i)
-        fields.emplace_back(std::move(keys[i]), std::move(texts[i]));
-    return fields;
 }

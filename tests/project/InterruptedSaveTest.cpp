@@ -1,3 +1,6 @@
+#include "project/edits/EditParts.h"
+#include "project/history/HistoryReader.h"
+#include "project/history/HistoryWriter.h"
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/Literals.h"
@@ -15,13 +18,27 @@ namespace {
 
 using Microseconds = std::chrono::microseconds;
 
+/// Saves a project whose results were others before.
+Outcome saveChanged(const TestProject& before, TestProject project, const std::string& path)
+{
+    const auto edit = std::make_shared<Edit>(EditKinds::kImportSurvey, before.survey.pointCount());
+    edit->add(std::make_unique<AllPoints<SurveyPoints>>(before.survey));
+    UnsavedEdits edits;
+    edits.add(edit, false);
+    basalt::Dictionary none;
+    const EditedData present{project.design, project.survey, none, none, none, {}};
+    const HistoryWriter history(edits.entries(), present, {"me"_q, "here"_q});
+    return project.save(path, nullptr, &history);
+}
+
 /// Saves in a process of its own, killed after `patience`.
 /// \returns whether the save had ended by then
-bool saveAndKill(const TestProject& project, const std::string& path, Microseconds patience)
+bool saveAndKill(const TestProject& before, const TestProject& project, const std::string& path,
+                 Microseconds patience)
 {
     const pid_t child = fork();
     if (child == 0)
-        _exit(project.save(path).isDone() ? 0 : 1);
+        _exit(saveChanged(before, project, path).isDone() ? 0 : 1);
     std::this_thread::sleep_for(patience);
     kill(child, SIGKILL);
     int status = 0;
@@ -41,11 +58,28 @@ std::string markOf(const TestProject& project)
     return isWhole ? mark : std::string();
 }
 
+/// How many changes the history tells; -1 when one of them is not whole.
+int changesIn(const std::string& path)
+{
+    DBAdapter database;
+    EXPECT_TRUE(database.open(lum::databaseConnection(path).c_str()));
+    HistoryReader history(database);
+    std::vector<HistoryAction> actions;
+    expectDone(history.actions({}, actions));
+    for (const HistoryAction& action : actions) {
+        std::vector<HistoryItem> items;
+        expectDone(history.items(action, items));
+        if (items.size() != 1000)
+            return -1;
+    }
+    return static_cast<int>(actions.size());
+}
+
 } // namespace
 
 // Two states of a project are saved in turn, and each save is killed at a random moment: the
-// project must be one of the two states. KILLS=1000 project_test --gtest_filter=Interrupted* kills
-// more.
+// project must be one of the two states, and its history must tell of each change between them and
+// of no other. KILLS=1000 project_test --gtest_filter=Interrupted* kills more.
 TEST(InterruptedSave, LosesNoPoint)
 {
     const int kills =
@@ -55,15 +89,16 @@ TEST(InterruptedSave, LosesNoPoint)
     ASSERT_TRUE(makeDatabase(path));
     TestProject states[] = {TestProject::made(10, 500, "one"), TestProject::made(10, 500, "two")};
     const auto start = std::chrono::steady_clock::now();
-    expectDone(states[0].save(path));
+    expectDone(saveChanged(states[1], states[0], path));
     const auto whole =
         std::chrono::duration_cast<Microseconds>(std::chrono::steady_clock::now() - start);
     std::mt19937 random(static_cast<unsigned>(kills));
     int present = 0;
+    int changes = 1;
     int interrupted = 0;
     for (int i = 0; i < kills; ++i) {
         const Microseconds patience(random() % static_cast<unsigned>(whole.count() * 3 / 2));
-        const bool isSaved = saveAndKill(states[1 - present], path, patience);
+        const bool isSaved = saveAndKill(states[present], states[1 - present], path, patience);
         TestProject found;
         const Outcome loading = found.load(path);
         ASSERT_TRUE(loading.isDone()) << patience.count() << " us: " << loading.detail();
@@ -72,6 +107,8 @@ TEST(InterruptedSave, LosesNoPoint)
         ASSERT_TRUE(!isSaved || (mark == "two") == (present == 0)) << "a finished save is lost";
         interrupted += loading.text().contains("interrupted"_q) ? 1 : 0;
         expectDone(found.load(path)); // which was told once
+        changes += (mark == "two") == (present == 0) ? 1 : 0;
+        ASSERT_EQ(changesIn(path), changes) << patience.count() << " us";
         present = mark == "two" ? 1 : 0;
     }
     EXPECT_GT(interrupted, kills / 10) << "the kills miss the saves";

@@ -25,11 +25,13 @@ struct TestProject
         return ProjectLoader(database, progress).load(path, design, survey, coordParameters);
     }
     template <class Adapter = DBAdapter>
-    Outcome save(const std::string& path, IEventManager* events = nullptr) const
+    Outcome save(const std::string& path, IEventManager* events = nullptr,
+                 const HistoryWriter* history = nullptr) const
     {
         Adapter database;
         ProgressReporter progress(events);
-        return ProjectSaver(database, progress).save(path, design, survey, coordParameters);
+        return ProjectSaver(database, progress)
+            .save(path, design, survey, coordParameters, history);
     }
 
     /// Points with no two values alike; `mark` stands in each of them.

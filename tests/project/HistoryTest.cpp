@@ -1,0 +1,511 @@
+#include "lum_sdk/coords/ICoordTransform.h"
+#include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/Host.h"
+#include "project/DataProcessDataManager.h"
+#include "project/history/HistoryAuthor.h"
+#include "project/PointCorrection.h"
+#include "project/ProjectCreator.h"
+#include "tests/project/ExpectOutcome.h"
+#include "tests/project/TestProject.h"
+#include "tests/support/Literals.h"
+#include "tests/support/SmallFiles.h"
+#include "tests/support/TestFolder.h"
+
+#include <QDir>
+
+#include <random>
+
+namespace {
+
+/// The names of the changes of a life, each with its field: "changed remarks a>b".
+std::vector<std::string> told(const std::vector<HistoryReader::Event>& events)
+{
+    std::vector<std::string> texts;
+    for (const auto& [action, items] : events) {
+        for (const HistoryItem& item : items) {
+            const std::string change =
+                action.kind + (action.isTakenBack ? " back " : " ") + nameOf(item.change);
+            if (item.change != HistoryChange::Changed)
+                texts.push_back(change);
+            else
+                for (const auto& [key, old, later] : fieldsOf(action, item))
+                    texts.push_back(change + ' ' + key + ' ' + old + '>' + later);
+        }
+    }
+    return texts;
+}
+
+using Texts = std::vector<std::string>;
+
+class History : public testing::Test
+{
+protected:
+    History()
+    {
+        QDir().mkpath(place.folder);
+        const basalt::Dictionary none;
+        get_project_coord_transform().initialise(none, none);
+        basalt::Dictionary project;
+        ProjectCreator::describe(place, project);
+        expectDone(ProjectCreator::create(place, project));
+        expectDone(manager.openProject(place));
+        manager.setEditHandler([this](const auto& edit) { edits.push_back(edit); });
+    }
+
+    void import(const QByteArray& rows)
+    {
+        const QString path = root.write("数据, \"1\".csv", "line num,point num,remarks\n" + rows);
+        ASSERT_EQ(manager.importSurveyCsv(path), 1);
+    }
+    void remark(const PointName& name, const char* text)
+    {
+        SurveyCorrection correction;
+        correction.remarks = text;
+        ASSERT_EQ(manager.correctSurveyPoint(name, correction), 1);
+    }
+    std::size_t remove(const std::vector<PointName>& points)
+    {
+        return manager.deleteSurveyPoints(points);
+    }
+    /// Takes the last edit back.
+    void takeBack()
+    {
+        ASSERT_EQ(manager.exchange(edits.back(), true), 1);
+        edits.pop_back();
+    }
+    void save() { expectDone(manager.saveProject(place)); }
+    void reopen()
+    {
+        manager.clear();
+        edits.clear();
+        expectDone(manager.openProject(place));
+    }
+    void execute(const char* sql) const
+    {
+        DBAdapter adapter;
+        ASSERT_TRUE(adapter.open(lum::databaseConnection(database).c_str()));
+        ASSERT_TRUE(adapter.execute(sql, 0)) << adapter.lastError();
+    }
+    [[nodiscard]] std::vector<HistoryAction> actions(const HistoryFilter& filter = {})
+    {
+        std::vector<HistoryAction> found;
+        expectDone(manager.history().actions(filter, found));
+        return found;
+    }
+    [[nodiscard]] std::vector<HistoryItem> items(const HistoryAction& action)
+    {
+        std::vector<HistoryItem> found;
+        expectDone(manager.history().items(action, found));
+        return found;
+    }
+    [[nodiscard]] Texts life(const PointName& name)
+    {
+        HistoryFilter filter;
+        filter.point = name;
+        std::vector<HistoryReader::Event> events;
+        expectDone(manager.history().life(filter, events));
+        return told(events);
+    }
+    [[nodiscard]] std::string tables() const
+    {
+        return rowsOf(database, "ProjectHistory") + rowsOf(database, "ProjectHistoryItem");
+    }
+
+    TestFolder root;
+    ProjectPlace place = ProjectPlace::planned(root.path(), "测区 1"_q);
+    std::string database = place.database().toStdString();
+    Host host;
+    DataProcessDataManager manager{&host};
+    std::vector<std::shared_ptr<Edit>> edits;
+};
+
+} // namespace
+
+TEST_F(History, SeveralChangesOfAPointInOneSaveKeepWhatWasBetweenThem)
+{
+    import("1,7,a\n1,8,x\n");
+    remark({"1", "7"}, "b\\测");
+    remark({"1", "7"}, "c");
+    import("1,7,d\n");
+    EXPECT_EQ(remove({{"1", "7"}}), 1U);
+    save();
+    EXPECT_EQ(life({"1", "7"}),
+              (Texts{"delete_results gone", "import_survey changed remarks c>d",
+                     "correct_result changed remarks b\\测>c",
+                     "correct_result changed remarks a>b\\测", "import_survey came"}));
+    EXPECT_EQ(life({"1", "8"}), Texts{"import_survey came"});
+    takeBack();
+    save();
+    reopen();
+    EXPECT_EQ(life({"1", "7"})[0], "delete_results back came");
+    EXPECT_EQ(actions()[0].points, 1U);
+    EXPECT_EQ(actions().back().file, root.path("数据, \"1\".csv"));
+    EXPECT_EQ(manager.surveyPoints().find("1", "7")->remarks, "d");
+}
+
+TEST_F(History, APointWithANewNameTellsTheOldOne)
+{
+    import("1,7,a\n1,C10012034,check\n");
+    SurveyCorrection correction;
+    correction.pointNumber = "9";
+    correction.remarks = "b";
+    ASSERT_EQ(manager.correctSurveyPoint({"1", "7"}, correction), 1);
+    remark({"1", "C10012034_0"}, "again");
+    save();
+    EXPECT_EQ(life({"1", "7"}), (Texts{"correct_result gone", "import_survey came"}));
+    EXPECT_EQ(life({"1", "9"}),
+              (Texts{"correct_result came", "correct_result changed point_num 7>9",
+                     "correct_result changed remarks a>b"}));
+    EXPECT_EQ(life({"1", "C10012034"}),
+              (Texts{"correct_result changed remarks check>again", "import_survey came"}));
+    // The check point has another counter in memory.
+    const HistoryPoints before = pointsBefore(actions()[0], items(actions()[0]),
+                                              manager.designPoints(), manager.surveyPoints());
+    ASSERT_NE(before.results.find("1", "C10012034_0"), nullptr);
+    EXPECT_EQ(before.results.find("1", "C10012034_0")->remarks, "check");
+}
+
+TEST_F(History, WhatWasTakenBackBeforeASaveLeavesNothing)
+{
+    save();
+    const QByteArray before = TestFolder::read(place.database());
+    import("1,7,a\n");
+    takeBack();
+    save();
+    EXPECT_EQ(rowsOf(database, "sqlite_master").find("History"), std::string::npos)
+        << "made by the first change";
+    EXPECT_EQ(TestFolder::read(place.database()).size(), before.size());
+    EXPECT_TRUE(actions().empty());
+}
+
+TEST_F(History, ASaveWithoutAChangeKeepsEveryByteOfIt)
+{
+    import("1,7,a\n");
+    manager.setReason(edits.back(), "second crew"_q);
+    save();
+    EXPECT_EQ(actions()[0].reason, "second crew"_q);
+    const std::string before = tables() + rowsOf(database, "sqlite_master");
+    for (int i = 0; i < 2; ++i) {
+        reopen();
+        manager.checkQuality(); // a verdict is no change of the user's
+        save();
+    }
+    EXPECT_EQ(tables() + rowsOf(database, "sqlite_master"), before);
+}
+
+TEST_F(History, IsWrittenOnceWhenAFileAfterTheDatabaseFails)
+{
+    import("1,7,a\n");
+    const QString parameters = place.folder + "/qc_param.ini"_q;
+    ASSERT_TRUE(QFile::remove(parameters) && QDir().mkpath(parameters + "/in the way"_q));
+    EXPECT_FALSE(manager.saveProject(place).isDone());
+    EXPECT_TRUE(manager.isChanged());
+    ASSERT_TRUE(QDir(parameters).removeRecursively());
+    save();
+    EXPECT_EQ(actions().size(), 1U);
+}
+
+TEST_F(History, AFailedSaveOwesItToTheNextOne)
+{
+    import("1,7,a\n");
+    {
+        const SmallFiles limit(10000);
+        EXPECT_FALSE(manager.saveProject(place).isDone());
+    }
+    save();
+    EXPECT_EQ(actions().size(), 1U);
+}
+
+/// More points than the history keeps one by one.
+TEST_F(History, ThousandsOfDeletedResultsComeBackAsTheyWere)
+{
+    import("11,1001,first\n");
+    QByteArray rows;
+    for (int i = 0; i < 6000; ++i)
+        rows += QByteArray::number(10 + i % 3) + ',' + QByteArray::number(1000 + i) + ",测 \\\t" +
+                QByteArray::number(i) + '\n';
+    import(rows + "11,C10012034,one\n11,C10012034,two\n");
+    import(QByteArray(rows).replace("\t1\n", "\t2\n"));
+    manager.surveyPoints().find("11", "1004")->dateTime = 1700000000123;
+    save();
+    const std::string before = rowsOf(database, "ExplorationResultItem");
+    const Texts imports{"import_survey changed remarks 测 \\\t1>测 \\\t2",
+                        "import_survey changed remarks first>测 \\\t1", "import_survey came"};
+    EXPECT_EQ(life({"11", "1001"}), imports);
+    manager.deleteSurveyLines({"10"_q, "11"_q, "12"_q});
+    save();
+    reopen();
+    ASSERT_TRUE(manager.surveyPoints().empty());
+    EXPECT_EQ(life({"11", "1001"})[0], "delete_results gone");
+    EXPECT_EQ(life({"11", "1001"})[1], imports[0]);
+    EXPECT_EQ(life({"11", "C10012034"}).size(), 4U);
+    EXPECT_EQ(life({"11", "1002"}), Texts{}) << "it is on line 12";
+    const HistoryAction deletion = actions()[0];
+    EXPECT_EQ(deletion.points, 6002U);
+    EXPECT_EQ(deletion.title(), "Delete 6,002 results"_q);
+    EXPECT_EQ(manager.restorePoints(pointsBefore(deletion, items(deletion), manager.designPoints(),
+                                                 manager.surveyPoints())),
+              6002U);
+    save();
+    EXPECT_EQ(rowsOf(database, "ExplorationResultItem"), before);
+    EXPECT_EQ(life({"11", "1001"})[0], "restore came");
+    takeBack();
+    EXPECT_TRUE(manager.surveyPoints().empty());
+}
+
+TEST_F(History, ASingleFieldIsPutBackIntoThePointOfToday)
+{
+    import("1,7,a\n1,8,x\n");
+    manager.surveyPoints().find("1", "7")->altitude = 20;
+    remark({"1", "7"}, "b");
+    remark({"1", "8"}, "y");
+    save();
+    const HistoryAction first = actions()[1];
+    const HistoryAction second = actions()[0];
+    manager.surveyPoints().find("1", "7")->altitude = 30;
+    remove({{"1", "8"}});
+    HistoryPoints points =
+        pointsBefore(first, items(first), manager.designPoints(), manager.surveyPoints());
+    ASSERT_EQ(points.results.pointCount(), 1U);
+    EXPECT_EQ(points.results.find("1", "7")->remarks, "a");
+    EXPECT_EQ(points.results.find("1", "7")->altitude, 30);
+    EXPECT_EQ(manager.restorePoints(std::move(points)), 1U);
+    EXPECT_EQ(manager.surveyPoints().find("1", "7")->remarks, "a");
+    takeBack();
+    EXPECT_EQ(manager.surveyPoints().find("1", "7")->remarks, "b");
+    EXPECT_EQ(manager.restorePoints(pointsBefore(second, items(second), manager.designPoints(),
+                                                 manager.surveyPoints())),
+              0U)
+        << "its point is deleted";
+}
+
+TEST_F(History, FiltersTakeWhatTheyName)
+{
+    IDictionary& settings = get_system_ini_parameter().dictionary();
+    settings.set(HistoryAuthor::kPersonSetting, "O'Neil 测");
+    import("1,7,a\n1,8,b\n");
+    save();
+    settings.remove(HistoryAuthor::kPersonSetting);
+    remark({"1", "8"}, "c");
+    save();
+    execute("update ProjectHistory set time = '2026-03-01T23:59:59.999Z' where id = 1");
+    const auto ids = [this](const HistoryFilter& filter) {
+        std::vector<std::int64_t> found;
+        for (const HistoryAction& action : actions(filter))
+            found.push_back(action.id);
+        return found;
+    };
+    using Ids = std::vector<std::int64_t>;
+    const QDate day = QDateTime({2026, 3, 1}, {23, 59, 59, 999}, Qt::UTC).toLocalTime().date();
+    const QString self = actions()[0].person;
+    EXPECT_FALSE(self.isEmpty());
+    EXPECT_EQ(ids({}), (Ids{2, 1}));
+    EXPECT_EQ(ids({"O'Neil 测"_q, {}, {}, {}, {}}), Ids{1});
+    EXPECT_EQ(ids({self, {}, {}, {}, {}}), Ids{2});
+    EXPECT_EQ(ids({{}, day.addDays(1), {}, {}, {}}), Ids{2});
+    EXPECT_EQ(ids({{}, day, day, {}, {}}), Ids{1});
+    EXPECT_EQ(ids({{}, {}, day.addDays(-1), {}, {}}), Ids{});
+    EXPECT_EQ(ids({{}, {}, {}, "correct_result", {}}), Ids{2});
+    EXPECT_EQ(ids({{}, {}, {}, {}, PointName{"1", "7"}}), Ids{1});
+    EXPECT_EQ(ids({{}, {}, {}, "import_survey", PointName{"1", "8"}}), Ids{1});
+}
+
+TEST_F(History, ParametersAreKeptKeyByKey)
+{
+    manager.qualityParameters().set("pdop_max", "3");
+    basalt::Dictionary limits(manager.qualityParameters());
+    limits.set("pdop_max", "4");
+    limits.set("only_here", "1");
+    manager.setQualityParameters(limits);
+    limits.set("pdop_max", "5");
+    limits.remove("only_here");
+    manager.setQualityParameters(limits);
+    save();
+    const auto texts = [&](const HistoryAction& action) {
+        Texts all;
+        for (const HistoryItem& item : items(action))
+            all.push_back(nameOf(item.data) + (' ' + item.field) + ' ' + item.oldText + '>' +
+                          item.newText);
+        return all;
+    };
+    EXPECT_EQ(texts(actions()[1]),
+              (Texts{"quality_limits pdop_max 3>4", "quality_limits only_here >1"}));
+    EXPECT_EQ(texts(actions()[0]),
+              (Texts{"quality_limits pdop_max 4>5", "quality_limits only_here 1>"}));
+}
+
+TEST_F(History, ANewerOneIsKeptAndSaidSo)
+{
+    import("1,7,a\n");
+    save();
+    execute("alter table ProjectHistory add later TEXT;"
+            "insert into ProjectHistory (id, form, later) values (7, 2, 'kept')");
+    manager.clear();
+    expectNotice(manager.openProject(place), "has written: 1.");
+    EXPECT_EQ(actions().size(), 1U);
+    remark({"1", "7"}, "b");
+    save();
+    EXPECT_EQ(actions()[0].id, 8);
+    EXPECT_NE(tables().find("|kept|"), std::string::npos);
+
+    execute("alter table ProjectHistoryItem rename column change to alteration");
+    const std::string before = tables();
+    manager.clear();
+    expectNotice(manager.openProject(place), "not added to it");
+    remark({"1", "7"}, "c");
+    save();
+    EXPECT_EQ(tables(), before);
+    EXPECT_TRUE(actions().empty());
+    manager.clear();
+    expectNotice(manager.openProject(place), "not added to it");
+    EXPECT_EQ(manager.surveyPoints().find("1", "7")->remarks, "c");
+}
+
+TEST_F(History, ACopyHasItWithWhatIsNotSavedYetAndAnExportHasNone)
+{
+    import("1,7,a\n");
+    save();
+    remark({"1", "7"}, "b");
+    const ProjectPlace copy = ProjectPlace::planned(root.path(), "copy"_q);
+    ASSERT_TRUE(QDir().mkpath(copy.folder));
+    expectDone(manager.saveCopy(copy));
+    EXPECT_EQ(actions().size(), 1U);
+    save();
+    EXPECT_EQ(actions().size(), 2U) << "once";
+    ASSERT_EQ(manager.exportDesignDatabase({}, root.path("out.db"), false), 1);
+    EXPECT_EQ(rowsOf(root.path("out.db").toStdString(), "sqlite_master").find("History"),
+              std::string::npos);
+    manager.clear();
+    expectDone(manager.openProject(copy));
+    EXPECT_EQ(life({"1", "7"}).size(), 2U);
+}
+
+namespace {
+
+/// All data as the history tells of it: remarks by the names of the points, and limits.
+struct Snapshot
+{
+    std::map<std::string, std::string> points;
+    std::map<std::string, std::string> limits;
+
+    friend bool operator==(const Snapshot&, const Snapshot&) = default;
+};
+
+std::string keyOf(const PointName& name)
+{
+    return name.line + '/' + name.point;
+}
+
+/// Makes a state from the one after an action.
+void revert(Snapshot& state, const HistoryAction& action, const HistoryItem& item)
+{
+    if (item.data == HistoryData::QualityLimits && item.oldText.empty())
+        state.limits.erase(item.field);
+    else if (item.data == HistoryData::QualityLimits)
+        state.limits[item.field] = item.oldText;
+    else if (item.change == HistoryChange::Came)
+        state.points.erase(keyOf(item.name));
+    for (const HistoryField& field : fieldsOf(action, item)) {
+        if (field.key == "remarks")
+            state.points[keyOf(item.name)] = field.oldText;
+    }
+}
+
+class HistoryWalk : public History
+{
+protected:
+    [[nodiscard]] Snapshot snapshot()
+    {
+        Snapshot state;
+        for (const auto& [number, line] : manager.surveyPoints()) {
+            for (const SurveyPoint& point : line)
+                state.points[keyOf({number, point.pointNumber})] = point.remarks;
+        }
+        const IDictionary& limits = manager.qualityParameters();
+        for (std::size_t i = 0; i < limits.size(); ++i)
+            state.limits[std::string(limits.keyAt(i))] = limits.valueAt(i);
+        return state;
+    }
+    [[nodiscard]] QByteArray rows(int lines, unsigned mark) const
+    {
+        QByteArray text;
+        for (int i = 0; i < lines * 300; ++i)
+            text += QByteArray::number(i / 300) + ',' + QByteArray::number(i % 300) + ',' +
+                    QByteArray::number(i % 3 == 0 ? mark : 0) + '\n';
+        return text;
+    }
+    PointName randomName() { return {pick(20), pick(300)}; }
+    std::string pick(unsigned count) { return std::to_string(random() % count); }
+    void change()
+    {
+        switch (random() % 7) {
+        case 0:
+            return import(rows(int(random() % 20) + 1, random() % 4));
+        case 1:
+            remove({randomName(), randomName(), randomName()});
+            return;
+        case 2:
+            manager.deleteSurveyLines({QString::fromStdString(pick(20)), "3"_q});
+            return;
+        case 3: {
+            basalt::Dictionary limits(manager.qualityParameters());
+            limits.set("pdop_max", pick(5));
+            return manager.setQualityParameters(limits);
+        }
+        default: {
+            SurveyCorrection correction;
+            correction.remarks = pick(9);
+            if (random() % 2 == 0)
+                correction.pointNumber = pick(300);
+            (void)manager.correctSurveyPoint(randomName(), correction);
+        }
+        }
+    }
+
+    std::mt19937 random{16};
+};
+
+} // namespace
+
+// Whatever is changed, taken back and saved: from the data of today the history leads back through
+// every state that was saved or lay between two changes of one save.
+TEST_F(HistoryWalk, LeadsBackThroughEveryState)
+{
+    std::vector<Snapshot> states;  // before each saved action
+    std::vector<Snapshot> unsaved; // before each action that is not saved
+    for (int i = 0; i < 90; ++i) {
+        const Snapshot before = snapshot();
+        if (random() % 4 == 0 && !edits.empty())
+            takeBack();
+        else
+            change();
+        const std::size_t count = manager.unsavedEdits().entries().size();
+        if (count > unsaved.size())
+            unsaved.push_back(before);
+        else if (count < unsaved.size())
+            unsaved.pop_back();
+        if (random() % 5 != 0)
+            continue;
+        save();
+        states.insert(states.end(), unsaved.begin(), unsaved.end());
+        unsaved.clear();
+        if (random() % 5 == 0)
+            reopen();
+    }
+    save();
+    states.insert(states.end(), unsaved.begin(), unsaved.end());
+
+    const std::vector<HistoryAction> all = actions();
+    ASSERT_EQ(all.size(), states.size());
+    Snapshot state = snapshot();
+    std::size_t large = 0;
+    for (const HistoryAction& action : all) {
+        for (const HistoryItem& item : items(action))
+            revert(state, action, item);
+        large += action.isLarge ? 1U : 0U;
+        ASSERT_TRUE(state == states.back()) << action.id << ' ' << action.kind;
+        states.pop_back();
+    }
+    EXPECT_GT(large, 2U) << "the walk misses large actions";
+}
