@@ -18,7 +18,7 @@
 #include "views/history/PointRestore.h"
 
 #include <QAction>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -26,12 +26,14 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QSplitter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
 
+constexpr int kTypingMs = 200;
 constexpr int kWidth = 980;
 constexpr int kHeight = 640;
 constexpr int kLeastWidth = 640;
@@ -132,7 +134,7 @@ void DlgHistory::addTables(QVBoxLayout& rows)
 
     m_actions->setReasonHandler([](const HistoryActionModel::Row& row, const QString& reason) {
         const auto& entries = manager().unsavedEdits().entries();
-        if (row.unsaved < entries.size())
+        if (row.unsaved && *row.unsaved < entries.size())
             manager().setReason(entries[entries.size() - 1 - *row.unsaved].edit, reason);
     });
     connect(m_actionTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -231,6 +233,11 @@ void DlgHistory::refresh()
     m_isRefreshDue = false;
     if (!ProjectState::hasData())
         return;
+    if (m_actionTable->viewport()->isAncestorOf(QApplication::focusWidget())) {
+        m_isRefreshDue = true; // a reason is being typed, which a refresh would drop
+        QTimer::singleShot(kTypingMs, this, &DlgHistory::refresh);
+        return;
+    }
     const Waiting waiting;
     const HistoryFilter filter = m_filters->filter();
     Rows rows;
@@ -253,7 +260,11 @@ void DlgHistory::refresh()
         m_actions->setRows(std::move(rows));
         chooseAction(m_actions->rowOf(chosen));
     }
-    m_note->setText(noteOf(note));
+    for (const int column :
+         {HistoryActionModel::Action, HistoryActionModel::Person, HistoryActionModel::Computer,
+          HistoryActionModel::State, HistoryActionModel::Reason})
+        m_actionTable->widenColumn(column);
+    tellNote(noteOf(note));
     showItems();
 }
 
@@ -305,6 +316,12 @@ QString DlgHistory::noteOf(const QString& readNote) const
     return notes.join(QLatin1Char(' '));
 }
 
+void DlgHistory::tellNote(const QString& note)
+{
+    m_note->setText(note);
+    m_note->setHidden(note.isEmpty());
+}
+
 /// \param row  -1 for the first, or for none where all have their changes below
 void DlgHistory::chooseAction(int row)
 {
@@ -336,8 +353,11 @@ void DlgHistory::showItems()
         m_isLife ? QStringList{caption(Column::Line), caption(Column::Point)}
                  : QStringList{caption(Column::Time), caption(Column::Action)});
     m_items->setEvents(std::move(events));
+    for (const int column : {Column::Action, Column::Data, Column::Line, Column::Point,
+                             Column::Change, Column::Field}) // another action has longer texts
+        m_itemTable->widenColumn(column);
     if (!fault.isEmpty())
-        m_note->setText(fault);
+        tellNote(fault);
     if (m_isLife && !chosen.empty())
         m_itemTable->showRow(m_items->firstRowOf(static_cast<std::size_t>(chosen.front())));
     showState();
@@ -378,31 +398,28 @@ void DlgHistory::restore()
     const std::vector<int> chosen = m_itemTable->selectedRows();
     if (chosen.empty() || !ProjectState::hasData())
         return;
+    std::vector<HistoryItem> items;
+    for (const int row : chosen)
+        items.push_back(m_items->item(row));
+    const auto holds = [&](HistoryData kind) {
+        return std::ranges::any_of(items,
+                                   [&](const HistoryItem& item) { return item.data == kind; });
+    };
     PointRestore result;
-    const unsigned results = 1;
-    const unsigned design = 2;
-    unsigned touched = 0;
     {
         const Waiting waiting;
-        std::vector<HistoryItem> items;
-        for (const int row : chosen) {
-            items.push_back(m_items->item(row));
-            touched |= items.back().data == HistoryData::Design ? design : results;
-        }
         result = restorePoints(m_items->action(chosen.front()), items);
     }
-    const auto publish = [this](const char* name) {
-        m_host.eventManager().publish(name, nullptr, 0);
+    const auto publish = [&](HistoryData kind, std::initializer_list<const char*> names) {
+        for (const char* name : names) {
+            if (result.restored > 0 && holds(kind))
+                m_host.eventManager().publish(name, nullptr, 0);
+        }
     };
-    if (result.restored > 0 && (touched & design) != 0) {
-        publish(events::kRefreshDesignLayer);
-        publish(events::kRefreshDesignTable);
-    }
-    if (result.restored > 0 && (touched & results) != 0) {
-        publish(events::kRefreshSurveyTable);
-        publish(events::kRefreshSurveyLayer);
-    }
+    publish(HistoryData::Design, {events::kRefreshDesignLayer, events::kRefreshDesignTable});
+    publish(HistoryData::Results, {events::kRefreshSurveyTable, events::kRefreshSurveyLayer});
     m_host.tell(result.told());
+    m_itemTable->setFocus(); // else the button gives it to the next one, which closes the window
     refreshLater();
 }
 

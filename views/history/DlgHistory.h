@@ -49,6 +49,7 @@ private:
     /// \returns why it failed, or what the user has to know; mostly empty
     [[nodiscard]] static QString addSaved(const HistoryFilter& filter, Rows& rows);
     [[nodiscard]] QString noteOf(const QString& readNote) const;
+    void tellNote(const QString& note);
     void chooseAction(int row);
     void showItems();
     [[nodiscard]] HistoryReader::Event eventOf(const HistoryActionModel::Row& row, QString& fault);

@@ -63,20 +63,26 @@ QString HistoryItemModel::text(int row, int column) const
     case Field:
         return each.field.empty() ? QString() : m_texts.caption(each.data, each.field);
     case Before:
-        return each.field.empty()
-                   ? m_texts.valuesBefore(action(row), each).join(QLatin1String("; "))
-                   : m_texts.value(each.data, each.field, each.oldText);
+        return each.field.empty() ? wholePoint(row, column).join(QLatin1String("; "))
+                                  : m_texts.value(each.data, each.field, each.oldText);
     case After:
-        return each.field.empty() ? QString() : m_texts.value(each.data, each.field, each.newText);
+        return each.field.empty() ? wholePoint(row, column).join(QLatin1String("; "))
+                                  : m_texts.value(each.data, each.field, each.newText);
     default:
         return {};
     }
 }
 
-/// The values of a whole point, a line each.
-QString HistoryItemModel::toolTip(int row) const
+QStringList HistoryItemModel::wholePoint(int row, int column) const
 {
-    const QStringList values = m_texts.valuesBefore(action(row), item(row));
+    const HistoryTexts::WholePoint point = m_texts.wholePoint(action(row), item(row));
+    return column == Before ? point.before : point.after;
+}
+
+/// The values of a whole point, a line each.
+QString HistoryItemModel::toolTip(int row, int column) const
+{
+    const QStringList values = wholePoint(row, column);
     if (values.isEmpty())
         return {};
     return QStringLiteral("<p style=\"white-space:pre\">%1</p>")
@@ -89,8 +95,8 @@ QVariant HistoryItemModel::data(const QModelIndex& index, int role) const
         return {};
     if (role == Qt::DisplayRole)
         return text(index.row(), index.column());
-    if (role == Qt::ToolTipRole && index.column() == Before)
-        return toolTip(index.row());
+    if (role == Qt::ToolTipRole && (index.column() == Before || index.column() == After))
+        return toolTip(index.row(), index.column());
     return {};
 }
 

@@ -52,7 +52,8 @@ private:
     /// Event and item of a row.
     [[nodiscard]] std::pair<std::size_t, std::size_t> place(int row) const;
     [[nodiscard]] QString text(int row, int column) const;
-    [[nodiscard]] QString toolTip(int row) const;
+    [[nodiscard]] QStringList wholePoint(int row, int column) const;
+    [[nodiscard]] QString toolTip(int row, int column) const;
 
     Events m_events;
     std::vector<std::size_t> m_ends; ///< the row behind each event

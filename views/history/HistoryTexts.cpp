@@ -165,14 +165,22 @@ QString HistoryTexts::value(HistoryData data, const std::string& key, const std:
     return row == nullptr || text.empty() ? lum::toQString(text) : row->textOf(text);
 }
 
-QStringList HistoryTexts::valuesBefore(const HistoryAction& action, const HistoryItem& item) const
+HistoryTexts::WholePoint HistoryTexts::wholePoint(const HistoryAction& action,
+                                                  const HistoryItem& item) const
 {
-    QStringList values;
+    WholePoint point;
     if (!item.field.empty() || item.change == HistoryChange::Came)
-        return values;
-    for (const auto& [key, text] : fieldsOf(action, item)) {
-        if (saysSomething(text) && key != "line_num" && key != "point_num")
-            values << caption(item.data, key) + QLatin1Char(' ') + value(item.data, key, text);
+        return point;
+    const auto add = [&](QStringList& values, const std::string& key, const std::string& text) {
+        values << caption(item.data, key) + QLatin1Char(' ') + value(item.data, key, text);
+    };
+    for (const auto& [key, before, after] : fieldsOf(action, item)) {
+        if (key == "line_num" || key == "point_num")
+            continue;
+        if (saysSomething(before) || saysSomething(after))
+            add(point.before, key, before);
+        if (!item.newText.empty())
+            add(point.after, key, after);
     }
-    return values;
+    return point;
 }

@@ -27,10 +27,14 @@ public:
     [[nodiscard]] QString value(HistoryData data, const std::string& key,
                                 const std::string& text) const;
 
-    /// The values of a whole point that say something, "caption value" each. Empty for an item
-    /// about a field.
-    [[nodiscard]] QStringList valuesBefore(const HistoryAction& action,
-                                           const HistoryItem& item) const;
+    /// What a point was, and what it has become where that is known.
+    struct WholePoint
+    {
+        QStringList before; ///< "caption value" of each that says something
+        QStringList after;  ///< of each that is different
+    };
+    /// Of an item about a whole point.
+    [[nodiscard]] WholePoint wholePoint(const HistoryAction& action, const HistoryItem& item) const;
 
 private:
     [[nodiscard]] const ControlRow* parameter(HistoryData data, const std::string& key) const;

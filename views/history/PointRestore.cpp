@@ -31,9 +31,7 @@ public:
         Record::write(first, *m_first);
         Record::write(second, *m_second);
         for (std::size_t i = 0; i < m_columns.size(); ++i) {
-            const bool isVerdict =
-                std::ranges::find(Record::kVerdicts, m_columns[i]) != Record::kVerdicts.end();
-            if (!isVerdict && m_first->values()[i] != m_second->values()[i])
+            if (!isVerdict<Points>(m_columns[i]) && m_first->values()[i] != m_second->values()[i])
                 return false;
         }
         return true;

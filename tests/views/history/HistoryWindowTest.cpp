@@ -19,8 +19,14 @@
 
 namespace {
 
+/// Goes after the manager, which has a lock in it.
+struct ProjectFolder
+{
+    TestFolder root;
+};
+
 /// A saved project with the results 1 to 9 of line 1001, and the history window's command.
-struct HistoryProject : OpenProject
+struct HistoryProject : ProjectFolder, OpenProject
 {
     HistoryProject()
     {
@@ -60,7 +66,6 @@ struct HistoryProject : OpenProject
         return point == nullptr ? "(gone)" : point->remarks;
     }
 
-    TestFolder root;
     ProjectPlace place = ProjectPlace::planned(root.path(), "测区 1"_q);
     bool isOpen = false;
     EditSteps steps{host};
@@ -91,7 +96,8 @@ struct Shown
     /// Cells of columns, row by row: "a|b".
     [[nodiscard]] QStringList cells(const char* name, const std::vector<int>& columns) const
     {
-        QCoreApplication::processEvents(); // what is shown later
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents(); // a step is announced later, and shown then
         const QAbstractItemModel& model = *table(name).model();
         QStringList rows;
         for (int row = 0; row < model.rowCount(); ++row) {
@@ -310,6 +316,7 @@ private Q_SLOTS:
         project.remark("2", "wet");
         const Shown seen(project);
         CustomTableWidget& table = seen.table("actions");
+        QCOMPARE(seen.actions().size(), 2);
         const auto edit = [&](int row) {
             const QModelIndex cell = table.model()->index(row, HistoryActionModel::Reason);
             table.setCurrentIndex(cell);
@@ -320,6 +327,7 @@ private Q_SLOTS:
         QVERIFY(field != nullptr);
         QTest::keyClicks(field, "after the storm"_q);
         QTest::keyClick(field, Qt::Key_Return);
+        QCoreApplication::processEvents(); // the editor enters its text later
         QVERIFY(seen.window->isVisible());
         project.save();
         QCOMPARE(seen.cells("actions", {HistoryActionModel::Reason}).first(), "after the storm"_q);
