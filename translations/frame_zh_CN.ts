@@ -72,6 +72,38 @@
         <translation>编辑(&amp;E)</translation>
     </message>
     <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Take the last change of points or parameters back</source>
+        <translation>撤销对点或参数的上一次更改</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Do the change again that was taken back last</source>
+        <translation>重做上一次撤销的更改</translation>
+    </message>
+    <message>
+        <source>&amp;Steps...</source>
+        <translation>操作步骤(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>List the changes that can be taken back, and go to any of them</source>
+        <translation>列出可以撤销的更改，并转到其中任何一步</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>历史记录(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>Who changed what and when; the life of one point; restore what was deleted or changed</source>
+        <translation>谁在何时更改了什么；一个点的经历；恢复被删除或更改的内容</translation>
+    </message>
+    <message>
         <source>&amp;Find...</source>
         <translation>查找(&amp;F)...</translation>
     </message>
