@@ -39,6 +39,7 @@
 #include "reports/ui/ExportReportCommand.h"
 #include "views/AttributeControl.h"
 #include "views/find/FindCommand.h"
+#include "views/history/HistoryCommand.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/SurveyDataTable.h"
 #include "views/tables/SurveyTableHideCommand.h"
@@ -88,6 +89,7 @@ using namespace desktop::registration;
     command<UndoCommand>                ("UndoCommand",                  "撤销"),
     command<RedoCommand>                ("RedoCommand",                  "重做"),
     command<EditStepsCommand>           ("EditStepsCommand",             "操作步骤"),
+    command<HistoryCommand>             ("HistoryCommand",               "修改历史"),
     command<FindCommand>                ("FindCommand",                  "查找"),
     command<SurveyTableHideCommand>     ("SurveyTableHideCommand",       "勘察列表隐藏"),
     command<ViewChangeCommand>          ("ViewChangeCommand",            "更改视图"),

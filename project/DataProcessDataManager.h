@@ -8,6 +8,7 @@
 #include "project/DBAdapter.h"
 #include "project/edits/Edit.h"
 #include "project/history/HistoryReader.h"
+#include "project/history/UnsavedHistory.h"
 #include "project/ProjectLock.h"
 #include "project/ProjectPlace.h"
 #include "project/SurveyDatabase.h"
@@ -104,6 +105,8 @@ public:
     }
     /// Reads the history of the open project: what was saved. To be used at once.
     [[nodiscard]] HistoryReader history() { return HistoryReader(m_database); }
+    /// What the next save adds to it. To be used at once.
+    [[nodiscard]] UnsavedHistory unsavedHistory() { return {m_unsaved.entries(), editedData()}; }
 
     /// Forgets the points and parameters of the open project and gives up its lock. Its coordinate
     /// system stays: the next new project starts from it.

@@ -47,6 +47,12 @@ inline constexpr const char* kDesignTableSelectPoint = "ON_DESIGN_TABLE_SELECT_P
 /// Survey tree -> survey table. "line_num=...,point_num=...".
 inline constexpr const char* kSurveyTableSelectPoint = "ON_SURVEY_TABLE_SELECT_POINT";
 
+// --- history ---
+
+/// The tables' and the attribute panel's menu -> history command, which opens the history of this
+/// point. "pointName=...,lineName=...".
+inline constexpr const char* kShowPointHistory = "ON_SHOW_POINT_HISTORY";
+
 // --- selection ---
 
 /// Design table, map pick, results of checks while the table is missing -> attribute panel,

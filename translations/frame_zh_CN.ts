@@ -93,7 +93,15 @@
     </message>
     <message>
         <source>List the changes that can be taken back, and go to any of them</source>
-        <translation>列出可以撤销的更改，并转到其中任意一步</translation>
+        <translation>列出可以撤销的更改，并转到其中任何一步</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>历史记录(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>Who changed what and when; the life of one point; restore what was deleted or changed</source>
+        <translation>谁在何时更改了什么；一个点的经历；恢复被删除或更改的内容</translation>
     </message>
     <message>
         <source>&amp;Find...</source>

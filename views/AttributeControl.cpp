@@ -26,6 +26,7 @@
 #include "views/AttributeValues.h"
 #include "views/SelectedPoint.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -121,6 +122,10 @@ AttributeControl::AttributeControl(const char* config, IDesktopHost* host)
             [this] { m_host.windows().close(QStringLiteral("AttributeControl")); });
     connect(m_survey, &AttributePage::edited, this, &AttributeControl::editSurvey);
     connect(m_design, &AttributePage::edited, this, &AttributeControl::editDesign);
+
+    for (AttributePage* const each : {m_survey, m_design})
+        connect(each->grid().addMenuEntry(tr("&History of This Point")), &QAction::triggered, this,
+                &AttributeControl::showHistory);
 
     auto* const layout = new QVBoxLayout(this);
     const int margin = dpi_scaled(kMargin);
@@ -267,6 +272,13 @@ void AttributeControl::writeNotes()
     if (!isSameLength(point->elevation, m_notedElevationM))
         m_antennaNote.clear(); // something else has changed the result since
     grid.setRowNote(QString::fromLatin1(kAntennaHeight), m_antennaNote);
+}
+
+void AttributeControl::showHistory()
+{
+    const QByteArray payload = payload::selectedPoint(lum::toQString(m_shown.point.point),
+                                                      lum::toQString(m_shown.point.line));
+    m_host.eventManager().publish(events::kShowPointHistory, payload.constData(), 0);
 }
 
 void AttributeControl::editSurvey(const QString& key, const QString& value)

@@ -57,6 +57,7 @@ private:
     void writeUnits();
     void writeNotes();
 
+    void showHistory();
     void editSurvey(const QString& key, const QString& value);
     void editDesign(const QString& key, const QString& value);
     void noteMove(const SurveyPoint& point, double elevationBefore);

@@ -129,17 +129,37 @@ bool writePoints(const typename ChangedPoints<Points>::Changes& changes, bool is
     return writer.holdsWhole();
 }
 
+template <class Points>
+void keepOnly(const PointName& name, typename ChangedPoints<Points>::Changes& changes)
+{
+    std::erase_if(changes, [&](const auto& change) {
+        return PointRecord<Points>::nameOf(
+                   *(change.before != nullptr ? change.before : change.after)) != name;
+    });
+}
+
 } // namespace
 
-EditContent EditWalk::contentOf(const Edit& edit)
+void EditWalk::pass(const Edit& edit)
 {
     m_designChanges.clear();
     m_resultChanges.clear();
     m_parameterItems.clear();
     edit.tell(m_present, *this);
+}
+
+EditContent EditWalk::contentOf(const Edit& edit, const PointName* only)
+{
+    pass(edit);
+    const auto hasManyPoints = [this] {
+        return m_designChanges.size() + m_resultChanges.size() > HistoryTables::kMostItems;
+    };
+    if (only != nullptr && hasManyPoints()) {
+        keepOnly<DesignPoints>(*only, m_designChanges);
+        keepOnly<SurveyPoints>(*only, m_resultChanges);
+    }
     EditContent content;
-    const bool isLarge =
-        m_designChanges.size() + m_resultChanges.size() > HistoryTables::kMostItems;
+    const bool isLarge = hasManyPoints();
     const bool isCorrection = &edit.kind() == &EditKinds::kCorrectResult;
     content.holdsResults = writePoints<SurveyPoints>(m_resultChanges, isCorrection, content.items,
                                                      isLarge ? &content.resultRows : nullptr);

@@ -28,7 +28,10 @@ public:
     }
 
     /// \param edit  the last one first, then the one before it, and so on
-    [[nodiscard]] EditContent contentOf(const Edit& edit);
+    /// \param only  of an edit with many points, this point alone; or null
+    [[nodiscard]] EditContent contentOf(const Edit& edit, const PointName* only = nullptr);
+    /// Goes past an edit without telling what it has changed.
+    void pass(const Edit& edit);
 
 private:
     void pointsChanged(const PointNames& names, const DesignPoints& before) override

@@ -41,11 +41,8 @@ bool takeText(std::string_view row, std::size_t& at, std::string& text)
 /// In front of a row, in the order of the changes.
 constexpr std::string_view kMarks = "+-~";
 
-void visitRows(const std::string& line, const QByteArray& compressed,
-               const HistoryRows::Visitor& visitor)
+void visitRows(const std::string& line, std::string_view rest, const HistoryRows::Visitor& visitor)
 {
-    const QByteArray raw = qUncompress(compressed);
-    std::string_view rest(raw.constData(), static_cast<std::size_t>(raw.size()));
     PointName name{line, {}};
     for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
         const std::string_view row = rest.substr(0, end);
@@ -56,6 +53,13 @@ void visitRows(const std::string& line, const QByteArray& compressed,
             continue;
         visitor(name, static_cast<HistoryChange>(mark), row.substr(std::min(at, row.size())));
     }
+}
+
+void visitCompressed(const std::string& line, const QByteArray& compressed,
+                     const HistoryRows::Visitor& visitor)
+{
+    const QByteArray raw = qUncompress(compressed);
+    visitRows(line, {raw.constData(), static_cast<std::size_t>(raw.size())}, visitor);
 }
 
 } // namespace
@@ -118,12 +122,14 @@ QByteArray HistoryRows::blob() const
 
 void HistoryRows::visit(const Visitor& visitor) const
 {
-    for (const auto& [line, rows] : m_read)
+    for (const auto& [line, rows] : m_added)
         visitRows(line, rows, visitor);
+    for (const auto& [line, rows] : m_read)
+        visitCompressed(line, rows, visitor);
 }
 
 void HistoryRows::visitLine(const std::string& line, const Visitor& visitor) const
 {
     if (const auto found = m_read.find(line); found != m_read.end())
-        visitRows(line, found->second, visitor);
+        visitCompressed(line, found->second, visitor);
 }

@@ -33,8 +33,9 @@ public:
 
     using Visitor =
         std::function<void(const PointName& name, HistoryChange change, std::string_view row)>;
-    /// The rows of a blob, line by line.
+    /// All rows, line by line.
     void visit(const Visitor& visitor) const;
+    /// The rows of one line of a blob.
     void visitLine(const std::string& line, const Visitor& visitor) const;
 
 private:

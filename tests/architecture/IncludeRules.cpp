@@ -46,8 +46,8 @@ const Floors& floors()
         {Room::WithWidgets, {"map/ui"}},      // a point shown on the map, and files
         {Room::WithWidgets, {"exchange/ui"}}, // that are read and written
         {Room::WithWidgets,
-         {"quality/ui", "design/ui", "reports/ui", "views", "views/find", "views/tables",
-          "views/trees"}},
+         {"quality/ui", "design/ui", "reports/ui", "views", "views/find", "views/history",
+          "views/tables", "views/trees"}},
         {Room::WithWidgets, {"app"}},
     };
     return kFloors;

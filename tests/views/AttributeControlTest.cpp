@@ -13,6 +13,7 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/Points.h"
+#include "tests/support/PopupMenu.h"
 #include "tests/support/TestFolder.h"
 #include "views/AttributeValues.h"
 
@@ -158,6 +159,21 @@ private Q_SLOTS:
         select(events::kSurveyPointSelected, "R 1", "2");
         enter("antenna_height", "1.5"_q);
         QCOMPARE(m_map->manager.surveyPoints().find("R 1", "2")->elevation, -1.5);
+    }
+
+    void theMenuAsksForTheHistoryOfThePoint()
+    {
+        selectResult();
+        const EventLog asked(m_map->host.events, events::kShowPointHistory);
+        auto* const view = grid()->findChild<QTreeView*>();
+        QTimer::singleShot(0, view, [] { // the menu of actions waits for its end
+            QMenu* const menu = openMenu();
+            QVERIFY(menu != nullptr);
+            menu->setActiveAction(menu->actions().constLast());
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        openMenuAt(*view->viewport(), view->visualRect(cell("remarks")).center());
+        QCOMPARE(asked.payloads(), Names{"pointName=C10012034_1,lineName=R 1"});
     }
 
     void aBadEditIsMarkedUntilItIsCorrectedOrGivenUp()

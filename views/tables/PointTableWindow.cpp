@@ -9,6 +9,7 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/Text.h"
 #include "project/ui/ProjectState.h"
+#include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "views/tables/PointTableModel.h"
 #include "views/tables/RowFilter.h"
@@ -164,9 +165,14 @@ void PointTableWindow::announce(const PointName& point)
     m_selected = point;
     showState();
     const QScopedValueRollback<bool> guard(m_isAnnouncing, true);
+    publishPoint(m_selectedEvent, point);
+}
+
+void PointTableWindow::publishPoint(const char* event, const PointName& point)
+{
     const QByteArray payload =
         payload::selectedPoint(lum::toQString(point.point), lum::toQString(point.line));
-    m_host.eventManager().publish(m_selectedEvent, payload.constData(), 0);
+    m_host.eventManager().publish(event, payload.constData(), 0);
 }
 
 void PointTableWindow::showLine(const QString& lineNumber)
@@ -301,6 +307,9 @@ void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
                     [this, column = cell.column(), text] { setFilter(column, filterOf(text)); });
     menu->addAction(tr("Show on the Map"), this,
                     [this, at = QPersistentModelIndex(cell)] { zoomToRow(at.row()); });
+    menu->addAction(tr("History of This Point"), this, [this, at = QPersistentModelIndex(cell)] {
+        publishPoint(events::kShowPointHistory, m_model->pointAt(at.row()));
+    });
     if (m_table->selectedRowCount() == 0) {
         for (QAction* const action : menu->actions())
             action->setEnabled(false);

@@ -88,6 +88,7 @@ private:
     void connectParts();
     void announceRow();
     void announce(const PointName& point);
+    void publishPoint(const char* event, const PointName& point);
     [[nodiscard]] bool goTo(const PointName& point);
     void reselect();
     void sort(int column, Qt::SortOrder order);

@@ -82,6 +82,13 @@ void PropertyGridCtrl::makeCopyActions()
         &PropertyGridView::copyAll);
 }
 
+QAction* PropertyGridCtrl::addMenuEntry(const QString& text)
+{
+    auto* const entry = new QAction(text, m_view);
+    m_view->addAction(entry);
+    return entry;
+}
+
 PropertyGridCtrl::~PropertyGridCtrl()
 {
     m_view->itemDelegate()->disconnect(this); // an open editor closes when this is a grid no more

@@ -10,6 +10,7 @@
 
 class PropertyGridModel;
 class PropertyGridView;
+class QAction;
 class QLabel;
 class QModelIndex;
 
@@ -85,6 +86,9 @@ public:
 
     /// Shows the values of all rows without letting the user change them, but for those of `keys`.
     void setReadOnlyBut(const QStringList& keys);
+
+    /// Adds an entry to the context menu.
+    [[nodiscard]] QAction* addMenuEntry(const QString& text);
 
     void setResizeMode(ResizeMode mode);
     void setHeaderVisible(bool visible);

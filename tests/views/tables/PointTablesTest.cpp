@@ -133,6 +133,20 @@ private Q_SLOTS:
         QCOMPARE(project.announced(), QStringList("1"_q));
     }
 
+    void theMenuAsksForTheHistoryOfThePointUnderIt()
+    {
+        Project project;
+        const EventLog asked(project.host.events, events::kShowPointHistory);
+        const SurveyTable results(project, kAll);
+        results.choose("History of This Point", 2);
+        results.choose("History of This Point", 6);
+        const DesignTable design(project, kDesignOf, line("2002"));
+        design.choose("History of This Point", 0);
+        QCOMPARE(asked.payloads().size(), std::size_t(3));
+        QCOMPARE(asked.payloads()[0], std::string("pointName=3,lineName=1001"));
+        QCOMPARE(asked.payloads()[2], std::string("pointName=5,lineName=2002"));
+    }
+
     void aPointIsSelectedFromElsewhere()
     {
         Project project;

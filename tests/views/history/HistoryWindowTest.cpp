@@ -1,0 +1,363 @@
+#include "lum_desktop_sdkx/controls/ChoiceBox.h"
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "project/PointCorrection.h"
+#include "project/ProjectCreator.h"
+#include "project/ui/EditSteps.h"
+#include "protocol/Events.h"
+#include "protocol/Payloads.h"
+#include "tests/project/OpenProject.h"
+#include "tests/support/EventLog.h"
+#include "tests/support/Literals.h"
+#include "tests/support/Points.h"
+#include "tests/support/PopupMenu.h"
+#include "tests/support/TestFolder.h"
+#include "views/history/DlgHistory.h"
+#include "views/history/HistoryCommand.h"
+#include "views/history/HistoryFilterBar.h"
+
+#include <QAbstractItemModelTester>
+
+namespace {
+
+/// Goes after the manager, which has a lock in it.
+struct ProjectFolder
+{
+    TestFolder root;
+};
+
+/// A saved project with the results 1 to 9 of line 1001, and the history window's command.
+struct HistoryProject : ProjectFolder, OpenProject
+{
+    HistoryProject()
+    {
+        QDir().mkpath(place.folder);
+        basalt::Dictionary project;
+        ProjectCreator::describe(place, project);
+        isOpen =
+            ProjectCreator::create(place, project).isDone() && manager->openProject(place).isDone();
+        QByteArray rows = "line num,point num,remarks,surveyor\n";
+        for (const char number : std::string("123456789"))
+            rows += QByteArray("1001,") + number + ",dry,Li\n";
+        manager->importSurveyCsv(root.write("points.csv", rows));
+        save();
+    }
+    ~HistoryProject()
+    {
+        tellProject(""); // closes the window
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    void save() { isOpen = manager->saveProject(place).isDone() && isOpen; }
+    void remark(const char* number, const char* text)
+    {
+        SurveyCorrection correction;
+        correction.remarks = text;
+        manager->correctSurveyPoint({"1001", number}, correction);
+    }
+    void remove(std::initializer_list<const char*> numbers)
+    {
+        std::vector<PointName> names;
+        for (const char* number : numbers)
+            names.push_back({"1001", number});
+        manager->deleteSurveyPoints(names);
+    }
+    [[nodiscard]] std::string remarksOf(const char* number)
+    {
+        const SurveyPoint* const point = results().find("1001", number);
+        return point == nullptr ? "(gone)" : point->remarks;
+    }
+
+    ProjectPlace place = ProjectPlace::planned(root.path(), "测区 1"_q);
+    bool isOpen = false;
+    EditSteps steps{host};
+    HistoryCommand command{"", &host};
+};
+
+/// The window, driven by mouse and keys.
+struct Shown
+{
+    explicit Shown(HistoryProject& project)
+    {
+        project.command.execute();
+        window = find();
+    }
+    static DlgHistory* find()
+    {
+        for (QWidget* const each : QApplication::topLevelWidgets()) {
+            if (auto* const found = qobject_cast<DlgHistory*>(each))
+                return found;
+        }
+        return nullptr;
+    }
+
+    [[nodiscard]] CustomTableWidget& table(const char* name) const
+    {
+        return *window->findChild<CustomTableWidget*>(QLatin1String(name));
+    }
+    /// Cells of columns, row by row: "a|b".
+    [[nodiscard]] QStringList cells(const char* name, const std::vector<int>& columns) const
+    {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents(); // a step is announced later, and shown then
+        const QAbstractItemModel& model = *table(name).model();
+        QStringList rows;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QStringList texts;
+            for (const int column : columns)
+                texts << model.index(row, column).data().toString();
+            rows << texts.join(QLatin1Char('|'));
+        }
+        return rows;
+    }
+    [[nodiscard]] QStringList actions() const
+    {
+        return cells("actions", {HistoryActionModel::Action, HistoryActionModel::State});
+    }
+    [[nodiscard]] QStringList changes() const
+    {
+        return cells("items",
+                     {HistoryItemModel::Point, HistoryItemModel::Change, HistoryItemModel::Field,
+                      HistoryItemModel::Before, HistoryItemModel::After});
+    }
+    void click(const char* name, int row, int column, Qt::KeyboardModifiers keys = {}) const
+    {
+        CustomTableWidget& view = table(name);
+        const QModelIndex cell = view.model()->index(row, column);
+        view.scrollTo(cell);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, keys, view.visualRect(cell).center());
+    }
+    void choose(int action) const { click("actions", action, HistoryActionModel::Action); }
+    void select(int change, Qt::KeyboardModifiers keys = {}) const
+    {
+        click("items", change, HistoryItemModel::Change, keys);
+    }
+    void press(const char* button) const
+    {
+        for (QPushButton* const each : window->findChildren<QPushButton*>()) {
+            if (each->text().remove(QLatin1Char('&')) == QLatin1String(button))
+                QTest::mouseClick(each, Qt::LeftButton);
+        }
+        QCoreApplication::processEvents();
+    }
+    void typePoint(const char* text) const
+    {
+        auto* const field =
+            window->findChild<HistoryFilterBar*>()->findChild<QLineEdit*>(QStringLiteral("point"));
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, QLatin1String(text));
+        QTest::qWait(400);
+    }
+    [[nodiscard]] QString label(const char* name) const
+    {
+        return window->findChild<QLabel*>(QLatin1String(name))->text();
+    }
+
+    QPointer<DlgHistory> window;
+};
+
+} // namespace
+
+class HistoryWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unsavedStepsStandOnTopUntilTheyAreSaved()
+    {
+        HistoryProject project;
+        QVERIFY(project.isOpen);
+        const Shown seen(project);
+        QAbstractItemModelTester tester(seen.table("actions").model());
+        QAbstractItemModelTester itemTester(seen.table("items").model());
+        QCOMPARE(seen.actions(), QStringList("Import 9 results|done"_q));
+        QCOMPARE(seen.changes().size(), 9);
+        QCOMPARE(seen.changes().first(), "1|new|||"_q);
+
+        project.remark("2", "wet");
+        project.remove({"3", "4"});
+        QCOMPARE(seen.actions(),
+                 (QStringList{"Delete 2 results|not saved yet"_q,
+                              "Correct a result|not saved yet"_q, "Import 9 results|done"_q}));
+        seen.choose(1);
+        QCOMPARE(seen.changes(), QStringList("2|changed|remarks|dry|wet"_q));
+        seen.choose(0);
+        QVERIFY(seen.changes().first().startsWith("3|deleted||"_q));
+        QVERIFY(seen.changes().first().contains("remarks dry"_q));
+        QVERIFY(seen.label("counts").contains("not saved yet: 2"_q));
+
+        project.save();
+        QCOMPARE(seen.actions().first(), "Delete 2 results|done"_q);
+        QVERIFY(seen.label("counts").contains("not saved yet: 0"_q));
+        project.steps.undo();
+        QCOMPARE(seen.actions().first(), "Delete 2 results|taken back, not saved yet"_q);
+        QCOMPARE(seen.table("actions").selectedRows(), std::vector<int>{1}); // as before
+    }
+
+    void whatWasDeletedYesterdayIsRestoredInOneStep()
+    {
+        HistoryProject project;
+        project.remove({"3", "4", "5"});
+        project.save();
+        project.manager->clear();
+        QVERIFY(project.manager->openProject(project.place).isDone());
+        const Shown seen(project);
+        const EventLog log(project.host.events, "REFRESH_SURVEY_LAYER,REFRESH_DESIGN_LAYER");
+        seen.select(0);
+        seen.select(1, Qt::ShiftModifier);
+        seen.press("Restore These");
+        QCOMPARE(project.remarksOf("3"), std::string("dry"));
+        QCOMPARE(project.remarksOf("4"), std::string("dry"));
+        QCOMPARE(project.remarksOf("5"), std::string("(gone)"));
+        QCOMPARE(project.host.told, "Points restored: 2."_q);
+        QCOMPARE(log.names(), std::vector<std::string>{"REFRESH_SURVEY_LAYER"});
+        QCOMPARE(seen.actions().first(), "Restore 2 points|not saved yet"_q);
+
+        project.remark("4", "wet");
+        QCOMPARE(seen.actions().size(), 4);
+        seen.choose(2); // the deletion
+        QTest::keyClick(&seen.table("items"), Qt::Key_A, Qt::ControlModifier);
+        seen.press("Restore These");
+        QCOMPARE(project.host.told,
+                 "Points restored: 2. In place of another state: 1. Already so: 1."_q);
+        QCOMPARE(project.remarksOf("4"), std::string("dry"));
+        project.steps.undo();
+        QCOMPARE(project.remarksOf("4"), std::string("wet"));
+        QCOMPARE(project.remarksOf("5"), std::string("(gone)"));
+    }
+
+    void aCorrectionGivesBackItsFieldAlone()
+    {
+        HistoryProject project;
+        project.remark("2", "wet");
+        project.save();
+        SurveyCorrection correction;
+        correction.surveyor = "Wang";
+        project.manager->correctSurveyPoint({"1001", "2"}, correction);
+        const Shown seen(project);
+        seen.choose(1);
+        seen.select(0);
+        seen.press("Restore These");
+        QCOMPARE(project.remarksOf("2"), std::string("dry"));
+        QCOMPARE(project.results().find("1001", "2")->surveyor, std::string("Wang"));
+        seen.choose(3); // the import: points that came
+        seen.select(0);
+        seen.press("Restore These");
+        QCOMPARE(project.host.told, "Points restored: 0. New then, or not there any more: 1."_q);
+        QCOMPARE(project.results().pointCount(), std::size_t(9));
+    }
+
+    void theLifeOfOnePoint()
+    {
+        HistoryProject project;
+        project.remark("2", "wet");
+        project.remark("3", "windy");
+        project.save();
+        project.remove({"2", "3"});
+        project.publish(events::kShowPointHistory, payload::selectedPoint("2"_q, "1001"_q));
+        const QPointer<DlgHistory> window = Shown::find();
+        QVERIFY(window != nullptr);
+        const Shown seen(project);
+        QCOMPARE(seen.window, window); // there is one
+        QCOMPARE(seen.actions(),
+                 (QStringList{"Delete 2 results|not saved yet"_q, "Correct a result|done"_q,
+                              "Import 9 results|done"_q}));
+        const QStringList life = seen.changes();
+        QCOMPARE(life.size(), 3);
+        QVERIFY(life[0].startsWith("2|deleted"_q));
+        QCOMPARE(life[1], "2|changed|remarks|dry|wet"_q);
+        QCOMPARE(life[2], "2|new|||"_q);
+        seen.select(0);
+        QVERIFY(!seen.window->findChild<QPushButton*>("restore"_q)->toolTip().isEmpty());
+        seen.select(1, Qt::ShiftModifier); // of two actions
+        QVERIFY(!seen.window->findChild<QPushButton*>("restore"_q)->isEnabled());
+        seen.select(0);
+        seen.press("Restore These");
+        QCOMPARE(project.remarksOf("2"), std::string("wet"));
+        QCOMPARE(project.remarksOf("3"), std::string("(gone)"));
+    }
+
+    void filters()
+    {
+        HistoryProject project;
+        project.remark("2", "wet");
+        const Shown seen(project);
+        auto& bar = *seen.window->findChild<HistoryFilterBar*>();
+        seen.typePoint("1001");
+        QVERIFY(seen.label("note").contains("its line and its number"_q));
+        QCOMPARE(seen.actions().size(), 2);
+        seen.typePoint("1001/5");
+        QCOMPARE(seen.actions(), QStringList("Import 9 results|done"_q));
+        seen.typePoint("1001/77");
+        QCOMPARE(seen.actions(), QStringList());
+        QCOMPARE(seen.label("note"), "No action passes the filters."_q);
+        seen.press("Clear Filters");
+        QCOMPARE(seen.actions().size(), 2);
+
+        auto& days = *bar.findChild<QCheckBox*>();
+        const QList<QDateEdit*> dates = bar.findChildren<QDateEdit*>();
+        days.setChecked(true);
+        QCOMPARE(seen.actions().size(), 2); // today
+        dates[0]->setDate(QDate::currentDate().addDays(1));
+        QTest::qWait(400);
+        QVERIFY(seen.label("note").contains("before the first"_q));
+        dates[1]->setDate(QDate::currentDate().addDays(2));
+        QTest::qWait(400);
+        QCOMPARE(seen.actions(), QStringList());
+        days.setChecked(false);
+
+        auto& kinds = *bar.findChildren<ChoiceBox*>()[1];
+        kinds.setCurrentIndex(kinds.findText("Corrections of results"_q));
+        QCOMPARE(seen.actions(), QStringList("Correct a result|not saved yet"_q));
+    }
+
+    void theReasonOfAnUnsavedStepCanBeTyped()
+    {
+        HistoryProject project;
+        project.remark("2", "wet");
+        const Shown seen(project);
+        CustomTableWidget& table = seen.table("actions");
+        QCOMPARE(seen.actions().size(), 2);
+        const auto edit = [&](int row) {
+            const QModelIndex cell = table.model()->index(row, HistoryActionModel::Reason);
+            table.setCurrentIndex(cell);
+            QTest::keyClick(&table, Qt::Key_F2);
+            return table.findChild<QLineEdit*>();
+        };
+        QLineEdit* const field = edit(0);
+        QVERIFY(field != nullptr);
+        QTest::keyClicks(field, "after the storm"_q);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCoreApplication::processEvents(); // the editor enters its text later
+        QVERIFY(seen.window->isVisible());
+        project.save();
+        QCOMPARE(seen.cells("actions", {HistoryActionModel::Reason}).first(), "after the storm"_q);
+        QTRY_VERIFY(table.findChild<QLineEdit*>() == nullptr);
+        QVERIFY(edit(0) == nullptr); // it is saved
+    }
+
+    void aLargeActionIsListedAndRestored()
+    {
+        HistoryProject project;
+        QByteArray rows = "line num,point num,remarks\n";
+        for (int number = 1; number <= 6000; ++number)
+            rows += "2002," + QByteArray::number(100000 + number) + ",dry\n";
+        project.manager->importSurveyCsv(project.root.write("more.csv", rows));
+        project.manager->deleteSurveyLines({"2002"_q});
+        const Shown seen(project);
+        QCOMPARE(seen.table("items").model()->rowCount(), 6000); // from memory
+        project.save();
+        QCOMPARE(seen.actions().first(), "Delete 6,000 results|done"_q);
+        QVERIFY(seen.changes()[5999].startsWith("106000|deleted||"_q));
+        QTest::keyClick(&seen.table("items"), Qt::Key_A, Qt::ControlModifier);
+        seen.press("Restore These");
+        QCOMPARE(project.host.told, "Points restored: 6,000."_q);
+        QCOMPARE(project.results().pointCount(), std::size_t(6009));
+        project.publish(events::kShowPointHistory, payload::selectedPoint("100007"_q, "2002"_q));
+        QCOMPARE(seen.changes().size(), 3);
+        project.tellProject("");
+        QVERIFY(seen.window == nullptr || !seen.window->isVisible());
+    }
+};
+
+QTEST_MAIN(HistoryWindowTest)
+#include "HistoryWindowTest.moc"

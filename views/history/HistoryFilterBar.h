@@ -1,0 +1,48 @@
+#pragma once
+
+#include "project/history/History.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class ChoiceBox;
+class QCheckBox;
+class QDateEdit;
+class QGridLayout;
+class QLineEdit;
+
+/// The fields that choose actions of the history: by person, kind, days and point.
+class HistoryFilterBar final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit HistoryFilterBar(QWidget* parent);
+
+    /// A fault leaves its part of the filter out.
+    [[nodiscard]] HistoryFilter filter() const;
+    [[nodiscard]] bool isFiltered() const;
+    /// What is wrong with what was typed; empty when nothing is.
+    [[nodiscard]] QString fault() const;
+
+    /// Adds those that the list does not have.
+    void addPersons(const QStringList& persons);
+    void setPoint(const PointName& point);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void makeChoices(QGridLayout& grid);
+    void makeDays(QGridLayout& grid);
+    void clear();
+    [[nodiscard]] std::optional<PointName> typedPoint() const;
+
+    ChoiceBox* m_person;
+    ChoiceBox* m_kind;
+    QLineEdit* m_point;
+    QCheckBox* m_hasDays;
+    QDateEdit* m_from;
+    QDateEdit* m_to;
+    QTimer m_typing; ///< ends when the user has stopped typing
+};

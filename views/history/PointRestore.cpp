@@ -1,0 +1,112 @@
+#include "views/history/PointRestore.h"
+
+#include "lum_sdk/GroupedNumber.h"
+#include "project/DataProcessDataManager.h"
+#include "project/history/PointRecord.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <set>
+#include <tuple>
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("PointRestore", text);
+}
+
+/// Compares points by what is stored of them, but for the verdicts of the checks.
+template <class Points>
+class SameRecord
+{
+    using Record = PointRecord<Points>;
+
+public:
+    using Point = typename Points::Point;
+
+    bool operator()(const Point& first, const Point& second)
+    {
+        Record::write(first, *m_first);
+        Record::write(second, *m_second);
+        for (std::size_t i = 0; i < m_columns.size(); ++i) {
+            if (!isVerdict<Points>(m_columns[i]) && m_first->values()[i] != m_second->values()[i])
+                return false;
+        }
+        return true;
+    }
+
+private:
+    std::vector<std::string> m_columns = listedColumns(Record::columns());
+    std::unique_ptr<RecordTexts> m_first = std::make_unique<RecordTexts>();
+    std::unique_ptr<RecordTexts> m_second = std::make_unique<RecordTexts>();
+};
+
+/// Removes the points that are in the project as they are here.
+template <class Points>
+void removeUnchanged(const Points& present, Points& points, PointRestore& result)
+{
+    SameRecord<Points> isSame;
+    std::vector<PointName> same;
+    for (const auto& [number, line] : points) {
+        for (const auto& point : line) {
+            const auto* const standing = present.find(number, point.pointNumber);
+            if (standing != nullptr && isSame(point, *standing))
+                same.push_back({number, point.pointNumber});
+            else if (standing != nullptr)
+                ++result.replacing;
+        }
+    }
+    result.unchanged += same.size();
+    (void)points.extract(PointNames(same));
+}
+
+/// How many points the items are about. Measurements of one check point have one name.
+std::size_t pointsOf(const std::vector<HistoryItem>& items, std::size_t& parameters)
+{
+    std::size_t points = 0;
+    std::set<std::tuple<HistoryData, std::string, std::string>> named;
+    for (const HistoryItem& item : items) {
+        if (item.data != HistoryData::Results && item.data != HistoryData::Design)
+            ++parameters;
+        else if (item.field.empty())
+            ++points;
+        else
+            named.emplace(item.data, item.name.line, item.name.point);
+    }
+    return points + named.size();
+}
+
+} // namespace
+
+QString PointRestore::told() const
+{
+    QStringList sentences;
+    const auto add = [&](std::size_t count, const char* text) {
+        if (count > 0)
+            sentences << translated(text).arg(lum::groupedNumber(count));
+    };
+    sentences << translated(QT_TRANSLATE_NOOP("PointRestore", "Points restored: %1."))
+                     .arg(lum::groupedNumber(restored));
+    add(replacing, QT_TRANSLATE_NOOP("PointRestore", "In place of another state: %1."));
+    add(unchanged, QT_TRANSLATE_NOOP("PointRestore", "Already so: %1."));
+    add(impossible, QT_TRANSLATE_NOOP("PointRestore", "New then, or not there any more: %1."));
+    add(parameters, QT_TRANSLATE_NOOP("PointRestore", "Parameters, which stay as they are: %1."));
+    return sentences.join(QLatin1Char(' '));
+}
+
+PointRestore restorePoints(const HistoryAction& action, const std::vector<HistoryItem>& items)
+{
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
+    HistoryPoints points =
+        pointsBefore(action, items, manager.designPoints(), manager.surveyPoints());
+    const std::size_t found = points.design.pointCount() + points.results.pointCount();
+    PointRestore result;
+    const std::size_t asked = pointsOf(items, result.parameters);
+    result.impossible = asked - std::min(asked, found);
+    removeUnchanged(manager.designPoints(), points.design, result);
+    removeUnchanged(manager.surveyPoints(), points.results, result);
+    result.restored = manager.restorePoints(std::move(points));
+    return result;
+}
