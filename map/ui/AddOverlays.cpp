@@ -10,6 +10,7 @@
 #include "project/DataProcessDataManager.h"
 #include "project/ui/ProjectState.h"
 
+#include <QCursor>
 #include <QFileInfo>
 #include <QGuiApplication>
 
