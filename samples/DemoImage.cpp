@@ -34,7 +34,7 @@ std::string wktOfSurvey()
     char* text = nullptr;
     if (OSRImportFromEPSG(system, std::stoi(kEpsgCode)) == OGRERR_NONE)
         OSRExportToWkt(system, &text);
-    const std::string wkt = text != nullptr ? text : "";
+    std::string wkt = text != nullptr ? text : "";
     CPLFree(text);
     OSRDestroySpatialReference(system);
     return wkt;
@@ -74,7 +74,7 @@ QByteArray takeFile()
 {
     vsi_l_offset size = 0;
     GByte* const bytes = VSIGetMemFileBuffer(kInMemory, &size, TRUE);
-    const QByteArray content(reinterpret_cast<const char*>(bytes), static_cast<int>(size));
+    QByteArray content(reinterpret_cast<const char*>(bytes), static_cast<int>(size));
     CPLFree(bytes);
     return content;
 }

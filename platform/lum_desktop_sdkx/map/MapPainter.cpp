@@ -68,6 +68,7 @@ bool MapPainter::paint(Request& request, std::chrono::milliseconds time)
     request.job.target.hasRest = &hasRest;
     request.job.target.deadline = std::chrono::steady_clock::now() + time;
     const QImage picture = paintedOrNull(request.job);
+    request.job.target.hasRest = nullptr;
     handOver(request, picture, hasRest);
     return hasRest;
 }

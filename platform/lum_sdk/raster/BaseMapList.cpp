@@ -163,7 +163,7 @@ void writeChanges(QXmlStreamWriter& xml, const BaseMap& map, const BaseMap& othe
 QString BaseMapList::readInstalled(const QByteArray& xml)
 {
     std::vector<Entry> reading;
-    const QString fault = ListReader(xml, false).read(reading);
+    QString fault = ListReader(xml, false).read(reading);
     if (fault.isEmpty())
         m_entries = std::move(reading);
     return fault;

@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t kStride = kCell + 4 * kFarthest;
+    static constexpr std::size_t kStride = kCell + 4 * std::size_t(kFarthest);
 
     /// \returns 0 when all pixels are empty
     static QRgb copyAlpha(const QRgb* pixels, std::uint8_t* alpha, std::size_t count)
@@ -114,7 +114,10 @@ private:
         Line soft; ///< and up to twice the reach
     };
 
-    Widened& widened(int row) { return m_across[std::size_t(row + 2 * m_reach)]; }
+    Widened& widened(int row)
+    {
+        return m_across[static_cast<std::size_t>(row) + 2 * static_cast<std::size_t>(m_reach)];
+    }
 
     [[nodiscard]] static Line greater(const Line& line, const std::uint8_t* other)
     {
@@ -158,13 +161,13 @@ private:
     {
         std::array<QRgb, kCell> pixels{};
         std::memcpy(pixels.data(), drawing, width * kChannels);
-        std::array<QRgb, kCell> halo;
+        std::array<QRgb, kCell> halo{};
         for (std::size_t x = 0; x < kCell; ++x) {
             halo[x] = inAllChannels(m_halo[x]);
             pixels[x] = inAllChannels(pixels[x] >> 24);
         }
-        std::array<std::uint8_t, kCell * kChannels> halos;
-        std::array<std::uint8_t, kCell * kChannels> covers;
+        std::array<std::uint8_t, kCell * kChannels> halos{};
+        std::array<std::uint8_t, kCell * kChannels> covers{};
         std::memcpy(halos.data(), halo.data(), sizeof halos);
         std::memcpy(covers.data(), pixels.data(), sizeof covers);
         for (std::size_t i = 0; i < width * kChannels; ++i) {
@@ -184,7 +187,7 @@ private:
     int m_reach;
     std::array<std::uint8_t, kCell * kChannels> m_paper{};
     CellCover m_cover;
-    std::array<Widened, kCell + 4 * kFarthest> m_across{};
+    std::array<Widened, kCell + 4 * std::size_t(kFarthest)> m_across{};
     Line m_halo{}; ///< of 128
 };
 

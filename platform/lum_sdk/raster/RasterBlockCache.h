@@ -31,7 +31,7 @@ public:
 
     struct Key
     {
-        quint64 owner;
+        quint64 owner = 0;
         RasterBlockId id;
 
         friend bool operator==(const Key&, const Key&) = default;

@@ -62,7 +62,7 @@ void stretchPlane(std::span<const float> values, const Stretch& stretch, const N
             continue;
         hasData[i] = 255;
         const double shown = std::clamp((value - stretch.low) * factor, 0.0, 255.0);
-        bytes[i] = static_cast<uchar>(shown + 0.5);
+        bytes[i] = static_cast<uchar>(std::lround(shown));
     }
 }
 
@@ -70,7 +70,7 @@ void markData(std::span<const uchar> bytes, const NoData& noData, std::span<ucha
 {
     const float gap = noData.value_or(-1);
     for (std::size_t i = 0; i < bytes.size(); ++i)
-        hasData[i] = static_cast<uchar>(hasData[i] | (bytes[i] == gap ? 0 : 255));
+        hasData[i] = static_cast<uchar>(hasData[i] | (float(bytes[i]) == gap ? 0 : 255));
 }
 
 QImage imageOf(const QSize& size, const ColorPlanes& planes)

@@ -68,7 +68,7 @@ public:
 
     QImage substitute(const RasterBlockId& id) override
     {
-        const QImage found = RasterBlockCache::instance().find(m_image.m_owner, id);
+        QImage found = RasterBlockCache::instance().find(m_image.m_owner, id);
         const bool isQuick = id.level + 1 == m_image.m_info.levels.size() &&
                              m_image.m_info.levels[id.level].isStored;
         if (!found.isNull() || !isQuick || m_readSubstitutes >= kMostSubstitutes)

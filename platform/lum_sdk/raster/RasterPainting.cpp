@@ -142,6 +142,8 @@ public:
     /// \returns false when the view was cancelled
     bool draw(QPainter& painter)
     {
+        if (m_isComplete)
+            joinCopies();
         std::atomic<std::size_t> next = 0;
         const auto drawPieces = [&](int /*thread*/) {
             RasterPatch patch;
@@ -162,6 +164,35 @@ public:
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
 
 private:
+    /// Squares that are all copied with one shift, and fill a rectangle, become one: then whole
+    /// blocks are copied.
+    void joinCopies()
+    {
+        QRect all;
+        qint64 pixels = 0;
+        for (const Piece& piece : m_pieces) {
+            const Piece& first = m_pieces.front();
+            if (!piece.isCopy || piece.level != first.level || shiftOf(piece) != shiftOf(first))
+                return;
+            all |= piece.cell.area;
+            pixels += qint64(piece.cell.area.width()) * piece.cell.area.height();
+        }
+        if (m_pieces.size() < 2 || pixels != qint64(all.width()) * all.height())
+            return;
+        Piece joined = m_pieces.front();
+        const QPoint first = all.topLeft() + shiftOf(joined);
+        joined.cell.area = all;
+        joined.cell.corners[0] = first;
+        joined.patch = QRect(first, all.size());
+        m_pieces.assign(1, joined);
+    }
+
+    /// From a pixel of the picture to that of the level that is copied there.
+    [[nodiscard]] static QPoint shiftOf(const Piece& piece)
+    {
+        return firstOf(piece.cell) - piece.cell.area.topLeft();
+    }
+
     [[nodiscard]] std::vector<RasterBlockId> blocksByDistance() const
     {
         struct Wanted

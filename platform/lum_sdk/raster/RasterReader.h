@@ -30,9 +30,9 @@ private:
     };
     struct Piece
     {
-        std::size_t level;
+        std::size_t level = 0;
         QRect area;
-        const RasterStop* stop;
+        const RasterStop* stop = nullptr;
     };
 
     void chooseBands(GDALDatasetH dataset);

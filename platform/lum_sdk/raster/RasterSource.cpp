@@ -195,8 +195,7 @@ QImage RasterSource::readBlock(std::size_t level, int column, int row, QString& 
                                const RasterStop& stop)
 {
     const GdalFault complaints;
-    const QImage block =
-        m_dataset->reader.read(level, m_info.levels[level].blockArea(column, row), stop);
+    QImage block = m_dataset->reader.read(level, m_info.levels[level].blockArea(column, row), stop);
     const bool isStopped = block.isNull() && stop && stop();
     if (block.isNull() && !isStopped) {
         fault = complaints.text().isEmpty()

@@ -128,11 +128,12 @@ private:
         settle(area, nineOf(points, 3, 0, 0), kUnknownStep);
     }
 
-    static Nine nineOf(const std::vector<QPointF>& points, int columns, int column, int row)
+    static Nine nineOf(const std::vector<QPointF>& points, std::size_t columns, std::size_t column,
+                       std::size_t row)
     {
         Nine nine;
-        for (int i = 0; i < 9; ++i)
-            nine[std::size_t(i)] = points[std::size_t((row + i / 3) * columns + column + i % 3)];
+        for (std::size_t i = 0; i < nine.size(); ++i)
+            nine[i] = points[(row + i / 3) * columns + column + i % 3];
         return nine;
     }
 
@@ -162,7 +163,7 @@ private:
         for (int i = 0; i < 4; ++i) {
             const QPoint place(i % 2, i / 2);
             settle(QRect(area.topLeft() + place * half, QSize(half, half)),
-                   nineOf(points, 5, 2 * place.x(), 2 * place.y()), step);
+                   nineOf(points, 5, 2 * std::size_t(place.x()), 2 * std::size_t(place.y())), step);
         }
     }
 

@@ -47,9 +47,9 @@ QString readFile(const QString& path, Read read)
         file.open(QIODevice::ReadOnly) ? read(file.readAll()) : file.errorString();
     if (fault.isEmpty())
         return {};
-    const QString sentence = QCoreApplication::translate(
-                                 "BaseMapList", "The list of base maps \"%1\" cannot be read: %2")
-                                 .arg(QDir::toNativeSeparators(path), fault);
+    QString sentence = QCoreApplication::translate(
+                           "BaseMapList", "The list of base maps \"%1\" cannot be read: %2")
+                           .arg(QDir::toNativeSeparators(path), fault);
     basalt::logWarning(sentence.toStdString());
     return sentence;
 }
