@@ -9,6 +9,7 @@
 #include "exchange/ExportColumns.h"
 #include "exchange/ImportSummary.h"
 #include "exchange/SeaHeights.h"
+#include "exchange/ShownTimes.h"
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "exchange/SurveyKml.h"
@@ -37,6 +38,7 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "quality/CheckKinds.h"
+#include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
 #include "quality/ResurveyResult.h"
@@ -51,6 +53,7 @@
 #include <gdal.h>
 #include <ogr_api.h>
 
+#include <array>
 #include <cstring>
 
 namespace {
@@ -675,15 +678,31 @@ CheckedData DataProcessDataManager::checkedData()
     return {m_design, m_survey, m_qualityParameters, lum::lengthUnitOf(coordSystem).metres};
 }
 
-void DataProcessDataManager::run(const CheckKind& check)
+void DataProcessDataManager::run(std::span<const CheckKind* const> checks)
 {
-    if (check.run == nullptr)
-        return;
     ProgressReporter progress(&m_host.eventManager());
     const Verdicts before = verdictsOf(m_design, m_survey);
-    check.run(checkedData(), progress);
+    for (const CheckKind* const check : checks)
+        check->run(checkedData(), progress);
     if (verdictsOf(m_design, m_survey) != before)
         markChanged();
+}
+
+void DataProcessDataManager::run(const CheckKind& check)
+{
+    if (check.run != nullptr)
+        run(std::array{&check});
+}
+
+ProblemList DataProcessDataManager::findProblems(std::span<const ProblemKind* const> kinds)
+{
+    // The quality check first, since it clears the digit of the resurveys.
+    run(std::array{&kQualityCheck, &kEmptyPointCheck, &kResurveyCheck});
+    const CheckedData data = checkedData();
+    ProgressReporter progress(&m_host.eventManager());
+    return ::findProblems(
+        {data.design, data.survey, data.parameters, data.planeUnitM, shownTimes()}, progress,
+        kinds);
 }
 
 CheckResult DataProcessDataManager::resultOf(const CheckKind& check)

@@ -17,14 +17,17 @@
 #include <QStringList>
 
 #include <memory>
+#include <span>
 #include <vector>
 
 class IHost;
+class ProblemList;
 struct CheckedData;
 struct CheckKind;
 struct CheckResult;
 struct DesignCorrection;
 struct ImportSummary;
+struct ProblemKind;
 struct QualityLimits;
 struct QualityRow;
 struct ReportChoice;
@@ -195,6 +198,10 @@ public:
     int checkEmptyPoints();
     /// Compares every resurvey with the first result. \returns 1
     int checkResurveys();
+    /// Runs the checks, which write their verdicts, and finds all problems, see
+    /// quality/problems/ProblemFinders.h.
+    /// \param kinds  those that are wanted; all when it is empty
+    [[nodiscard]] ProblemList findProblems(std::span<const ProblemKind* const> kinds = {});
     /// The limits of the quality check in force, for coordinates in the project's unit.
     [[nodiscard]] QualityLimits qualityLimits() const;
     /// The faults that the last quality check found in one result.
@@ -245,6 +252,7 @@ private:
                 const IDictionary& wanted);
     void tellModified(bool wasChanged);
     [[nodiscard]] CheckedData checkedData();
+    void run(std::span<const CheckKind* const> checks);
     void reportQuery(const char* payload);
     void applyCoordSystem(const IDictionary& parameters);
     [[nodiscard]] Outcome read(const ProjectPlace& place);

@@ -5,9 +5,9 @@
 #include "model/PointNumber.h"
 #include "model/SurveyRecord.h"
 #include "project/history/History.h"
+#include "quality/Verdicts.h"
 
 #include <algorithm>
-#include <array>
 
 /// What differs in the history between the two kinds of points.
 template <class Points>
@@ -19,7 +19,7 @@ struct PointRecord<DesignPoints>
     using Reader = DesignRecord::Reader;
     static constexpr HistoryData kData = HistoryData::Design;
     /// The columns that checks write: the history is about what people do.
-    static constexpr std::array<std::string_view, 1> kVerdicts{"status"};
+    static constexpr auto& kVerdicts = kDesignVerdicts;
 
     static std::string columns() { return DesignRecord::columns(); }
     static void write(const DesignPoint& point, RecordTexts& texts)
@@ -37,8 +37,7 @@ struct PointRecord<SurveyPoints>
 {
     using Reader = SurveyRecord::Reader;
     static constexpr HistoryData kData = HistoryData::Results;
-    static constexpr std::array<std::string_view, 5> kVerdicts{
-        "quality_standard", "is_resurvey", "resurvey_x_diff", "resurvey_y_diff", "resurvey_h_diff"};
+    static constexpr auto& kVerdicts = kSurveyVerdicts;
 
     static std::string columns() { return SurveyRecord::columns(); }
     static void write(const SurveyPoint& point, RecordTexts& texts)

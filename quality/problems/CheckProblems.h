@@ -1,0 +1,7 @@
+#pragma once
+
+#include "quality/problems/ProblemFinders.h"
+
+// What the four checks have found, read from their verdicts.
+
+extern const ProblemFinder kEmptyPointFinder; ///< "missing"

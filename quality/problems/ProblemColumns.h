@@ -1,0 +1,39 @@
+#pragma once
+
+#include "basalt_utilities/LocalTimes.h"
+#include "quality/problems/Problem.h"
+
+#include <span>
+
+/// A column of the list of problems, in the window and in files.
+struct ProblemColumn
+{
+    const char* caption; ///< in English, context "ProblemColumns"
+    QString (*text)(const Problem& problem, basalt::LocalTimes& zone); ///< as it is shown
+    /// The same for scripts: names in place of translations, numbers without units.
+    QString (*forScripts)(const Problem& problem, basalt::LocalTimes& zone);
+
+    [[nodiscard]] QString captionText() const; ///< translated
+};
+
+/// Their places in `problemColumns`.
+enum class ProblemField : std::uint8_t
+{
+    Severity,
+    Kind,
+    Line,
+    Point,
+    What,
+    Value,
+    Limit,
+    Rover,
+    Surveyor,
+    Day
+};
+
+[[nodiscard]] std::span<const ProblemColumn> problemColumns();
+
+/// A value or a limit with its unit; empty for one that is no number.
+[[nodiscard]] QString problemValueText(const ProblemKind& kind, double value);
+
+[[nodiscard]] QString severityText(Severity severity); ///< translated

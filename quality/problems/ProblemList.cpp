@@ -1,0 +1,39 @@
+#include "quality/problems/ProblemList.h"
+
+#include <utility>
+
+Problem& ProblemList::add(const ProblemKind& kind, const SurveyPoint& point)
+{
+    Problem& problem = add(kind, point.lineNumber);
+    problem.point = keep(point.pointNumber);
+    problem.rover = again(m_lastRover, point.instrumentSerialNumber);
+    problem.surveyor = again(m_lastSurveyor, point.surveyor);
+    problem.timeMs = point.dateTime;
+    return problem;
+}
+
+Problem& ProblemList::add(const ProblemKind& kind, const DesignPoint& point)
+{
+    Problem& problem = add(kind, point.lineNumber);
+    problem.point = keep(point.pointNumber);
+    problem.isDesign = true;
+    return problem;
+}
+
+Problem& ProblemList::add(const ProblemKind& kind, std::string_view line)
+{
+    Problem& problem = m_problems.emplace_back();
+    problem.kind = &kind;
+    problem.line = again(m_lastLine, line);
+    return problem;
+}
+
+void ProblemList::append(ProblemList&& other)
+{
+    if (m_problems.empty())
+        m_problems.swap(other.m_problems);
+    else
+        m_problems.insert(m_problems.end(), other.m_problems.begin(), other.m_problems.end());
+    m_texts.take(std::move(other.m_texts));
+    other = ProblemList();
+}
