@@ -2,18 +2,40 @@
 
 #include "basalt_utilities/IDictionary.h"
 #include "basalt_utilities/Numbers.h"
+#include "model/CodeTables.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
 
+constexpr std::array kSolutions{0, 4, 5, 2, 1};
+
 // Of stored values, see StoredValueProblems.h. They are all off.
 constexpr std::array kStoredValues{
-    ProblemLimit{"epochs_min", "0", QT_TRANSLATE_NOOP("ProblemLimits", "Fewest epochs"), "", 1e6,
+    ProblemLimit{
+        "solution_type_min", "0", QT_TRANSLATE_NOOP("ProblemLimits", "Solution type, at least"), "",
+        7, true,
+        QT_TRANSLATE_NOOP("ProblemLimits", "From the best: fixed, float, differential, single."),
+        kSolutions, [](int code) { return solutionTypeText(code); }},
+    ProblemLimit{"age_of_diff_max", "0",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Age of corrections, max."), "s", 1e6},
+    ProblemLimit{"epoch_num_min", "0", QT_TRANSLATE_NOOP("ProblemLimits", "Epochs, min."), "", 1e6,
                  true},
+    ProblemLimit{"occupation_min", "0", QT_TRANSLATE_NOOP("ProblemLimits", "Occupation, min."), "s",
+                 1e6, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "From start time to end time. A result without them has none.")},
+    ProblemLimit{"rms_max", "0", QT_TRANSLATE_NOOP("ProblemLimits", "RMS, max."), "m", 1000},
+    ProblemLimit{"neighbour_height_max", "0",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Height from that of its neighbours, max."),
+                 "m", 1e4, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "The height of a result is compared with the median of the "
+                                   "nearest results.")},
 };
 
 // All groups: a new one is a line here.

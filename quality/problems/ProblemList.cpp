@@ -2,6 +2,17 @@
 
 #include <utility>
 
+void ProblemList::swap(ProblemList& other) noexcept
+{
+    std::swap(designRevision, other.designRevision);
+    std::swap(surveyRevision, other.surveyRevision);
+    std::swap(m_problems, other.m_problems);
+    m_texts.swap(other.m_texts);
+    std::swap(m_lastLine, other.m_lastLine);
+    std::swap(m_lastRover, other.m_lastRover);
+    std::swap(m_lastSurveyor, other.m_lastSurveyor);
+}
+
 Problem& ProblemList::add(const ProblemKind& kind, const SurveyPoint& point)
 {
     Problem& problem = add(kind, point.lineNumber);
