@@ -2,6 +2,7 @@
 
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/problems/CheckProblems.h"
+#include "quality/problems/NeighbourProblems.h"
 #include "quality/problems/QualityProblems.h"
 #include "quality/problems/StoredValueProblems.h"
 
@@ -17,9 +18,16 @@
 namespace {
 
 // All finders: a new one is a line here.
+// clang-format off
 constexpr std::array kFinders{
-    &kEmptyPointFinder, &kQualityFinder, &kResurveyFinder, &kRepeatFinder, &kStoredValueFinder,
+    &kEmptyPointFinder,
+    &kQualityFinder,
+    &kResurveyFinder,
+    &kRepeatFinder,
+    &kStoredValueFinder,
+    &kNeighbourFinder,
 };
+// clang-format on
 
 bool isWanted(const ProblemFinder& finder, std::span<const ProblemKind* const> kinds)
 {
