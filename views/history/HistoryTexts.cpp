@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace {
 
@@ -78,6 +79,7 @@ bool saysSomething(const std::string& text)
 HistoryTexts::HistoryTexts()
     : m_limits(readControlRows("QCParam")), m_coordSystem(readControlRows("CoordSystem"))
 {
+    std::ranges::move(problemLimitRows(), std::back_inserter(m_limits));
 }
 
 QString HistoryTexts::nameOf(HistoryData data)
