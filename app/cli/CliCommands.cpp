@@ -69,7 +69,7 @@ constexpr std::array kCommands{
                "check the project, print what is found as CSV (repeat only lists, and changes nothing)",
                2, 2, "--out", "", checkProject},
     CliCommand{"problems", "PROJECT [--kind KIND,...] [--out FILE]",
-               "print everything that is wrong as CSV (exit status 3 when something is); the project stays as it is",
+               "print everything that is wrong as CSV (exit status 3 when something is), changing nothing",
                1, 1, "--kind,--out", "", listProblems},
     CliCommand{"history", "PROJECT [--point LINE/POINT] [--since DAY]",
                "print who changed what and when as CSV, the newest first (a point: what became of it)",
