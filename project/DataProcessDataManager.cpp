@@ -280,7 +280,8 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
     if (writing.isDone())
         writing = writeDatabase(m_database, place.database(), m_unsaved);
     if (writing.isDone()) {
-        m_unsaved.clear(); // the history has them, also when one of the next files fails
+        if (m_unsaved.holdChanges())
+            m_unsaved.clear(); // the history has them, also when one of the next files fails
         writing = ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
     }
     if (writing.isDone() && !m_projectFile.isEmpty())
@@ -369,7 +370,7 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
 Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path,
                                               const UnsavedEdits& edits)
 {
-    const HistoryWriter history(edits.entries(), editedData(), HistoryAuthor::current());
+    const HistoryWriter history(edits, editedData(), HistoryAuthor::current());
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
@@ -600,10 +601,9 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
         add(std::move(points.design));
     if (!points.results.empty())
         add(std::move(points.results));
-    edit->exchange(editedData());
+    make(edit);
     if ((edit->scope() & kSurveyScope) != 0)
         recomputeSeaHeights();
-    keep(edit);
     return count;
 }
 

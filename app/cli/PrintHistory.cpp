@@ -20,7 +20,7 @@ QStringList describe(const HistoryAction& action)
 {
     return {action.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")),
             action.person, action.machine, QString::fromStdString(action.kind),
-            action.isTakenBack ? QStringLiteral("taken_back") : QStringLiteral("done")};
+            QLatin1String(nameOf(action.state))};
 }
 
 void print(const std::vector<HistoryAction>& actions)

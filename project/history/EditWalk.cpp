@@ -140,6 +140,13 @@ void keepOnly(const PointName& name, typename ChangedPoints<Points>::Changes& ch
 
 } // namespace
 
+void EditContent::compress()
+{
+    designRows = HistoryRows(designRows.blob());
+    resultRows = HistoryRows(resultRows.blob());
+    items.shrink_to_fit();
+}
+
 void EditWalk::pass(const Edit& edit)
 {
     m_designChanges.clear();

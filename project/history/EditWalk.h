@@ -14,6 +14,9 @@ struct EditContent
     HistoryRows resultRows;
     bool holdsDesign = false; ///< whole points, in items or rows
     bool holdsResults = false;
+
+    /// For content that is kept for long.
+    void compress();
 };
 
 /// Goes through edits from the last to the first and tells what each has changed. An edit holds

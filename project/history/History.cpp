@@ -20,6 +20,7 @@ std::optional<Value> valueOf(const std::array<const char*, kCount>& names, std::
 constexpr std::array<const char*, 5> kDataNames{"results", "design", "quality_limits",
                                                 "design_parameters", "coord_system"};
 constexpr std::array<const char*, 3> kChangeNames{"came", "gone", "changed"};
+constexpr std::array<const char*, 3> kStateNames{"done", "taken_back", "done_and_taken_back"};
 
 } // namespace
 
@@ -41,6 +42,16 @@ const char* nameOf(HistoryChange change)
 std::optional<HistoryChange> historyChangeOf(std::string_view name)
 {
     return valueOf<HistoryChange>(kChangeNames, name);
+}
+
+const char* nameOf(HistoryState state)
+{
+    return kStateNames[static_cast<std::size_t>(state)];
+}
+
+std::optional<HistoryState> historyStateOf(std::string_view name)
+{
+    return valueOf<HistoryState>(kStateNames, name);
 }
 
 QString HistoryAction::title() const

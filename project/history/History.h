@@ -26,16 +26,28 @@ enum class HistoryData
 /// Nothing for a name that no data has.
 [[nodiscard]] std::optional<HistoryData> historyDataOf(std::string_view name);
 
-/// One saved action of the project's history: an import, a deletion, or one that was taken back.
+/// What became of an action.
+enum class HistoryState
+{
+    Done,
+    TakenBack, ///< it takes back an action that was saved before
+    Undone     ///< done and taken back before it was saved: it has changed nothing
+};
+
+/// "done", "taken_back" or "done_and_taken_back".
+[[nodiscard]] const char* nameOf(HistoryState state);
+[[nodiscard]] std::optional<HistoryState> historyStateOf(std::string_view name);
+
+/// One action of the project's history: an import, a deletion, or one that was taken back.
 struct HistoryAction
 {
     std::int64_t id = 0;
     QDateTime time; ///< UTC
     QString person;
     QString machine;
-    std::string kind;         ///< a name of EditKinds
-    bool isTakenBack = false; ///< after it had been saved
-    QString file;             ///< that it came from, or empty
+    std::string kind; ///< a name of EditKinds
+    HistoryState state = HistoryState::Done;
+    QString file; ///< that it came from, or empty
     std::size_t points = 0;
     QString reason; ///< mostly empty
     /// The columns of its points, comma-separated; empty when it holds none.

@@ -60,7 +60,7 @@ HistoryAction actionOf(const IDictionary& row)
     action.person = lum::toQString(row.text("person"));
     action.machine = lum::toQString(row.text("machine"));
     action.kind = row.text("kind");
-    action.isTakenBack = row.integer("is_taken_back") != 0;
+    action.state = historyStateOf(row.text("state")).value_or(HistoryState::Done);
     action.file = lum::toQString(row.text("file"));
     action.points = static_cast<std::size_t>(readInteger64(row.text("points")));
     action.reason = lum::toQString(row.text("reason"));

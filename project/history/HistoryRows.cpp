@@ -117,6 +117,8 @@ QByteArray HistoryRows::blob() const
         stream << QByteArray::fromStdString(line)
                << qCompress(reinterpret_cast<const uchar*>(rows.data()),
                             static_cast<int>(rows.size()), kCompression);
+    for (const auto& [line, rows] : m_read)
+        stream << QByteArray::fromStdString(line) << rows;
     return blob;
 }
 

@@ -28,7 +28,7 @@ public:
 
     /// \param row  the point as it was; empty when it has come
     void add(const PointName& name, HistoryChange change, const std::string& row);
-    [[nodiscard]] bool isEmpty() const { return m_added.empty(); }
+    [[nodiscard]] bool isEmpty() const { return m_added.empty() && m_read.empty(); }
     [[nodiscard]] QByteArray blob() const;
 
     using Visitor =
@@ -40,5 +40,5 @@ public:
 
 private:
     std::map<std::string, std::string> m_added; ///< the rows by line
-    std::map<std::string, QByteArray> m_read;   ///< the same, compressed
+    std::map<std::string, QByteArray> m_read;   ///< those of a blob, compressed
 };

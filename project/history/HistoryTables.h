@@ -21,7 +21,7 @@ inline constexpr std::size_t kMostItems = 5000;
 inline constexpr const char* kActions = "ProjectHistory";
 inline constexpr const char* kItems = "ProjectHistoryItem";
 
-inline constexpr const char* kActionColumns = "id,form,time,person,machine,kind,is_taken_back,file,"
+inline constexpr const char* kActionColumns = "id,form,time,person,machine,kind,state,file,"
                                               "points,reason,design_columns,result_columns";
 inline constexpr const char* kItemColumns =
     "action,number,data,change,line_num,point_num,field,old,new";

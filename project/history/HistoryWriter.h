@@ -1,7 +1,7 @@
 #pragma once
 
-#include "project/edits/Edit.h"
 #include "project/history/HistoryAuthor.h"
+#include "project/history/UnsavedEdits.h"
 
 #include <cstdint>
 
@@ -12,21 +12,19 @@ class ProgressReporter;
 class HistoryWriter
 {
 public:
-    using Entries = std::vector<UnsavedEdits::Entry>;
-
     /// All of them must live until the history is written, and nothing may change meanwhile.
-    HistoryWriter(const Entries& entries, const EditedData& present, HistoryAuthor author)
-        : m_entries(entries), m_present(present), m_author(std::move(author))
+    HistoryWriter(const UnsavedEdits& edits, const EditedData& present, HistoryAuthor author)
+        : m_edits(edits), m_present(present), m_author(std::move(author))
     {
     }
 
-    /// Without edits nothing is written. A history of a newer version that this one cannot write
+    /// Without a change nothing is written. A history of a newer version that this one cannot write
     /// stays as it is; the log says so.
     /// \returns whether it succeeded; the adapter says why it did not
     bool write(IDBAdapter& database, ProgressReporter& progress) const;
 
 private:
-    const Entries& m_entries;
+    const UnsavedEdits& m_edits;
     EditedData m_present;
     HistoryAuthor m_author;
 };

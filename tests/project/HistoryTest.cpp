@@ -24,8 +24,9 @@ std::vector<std::string> told(const std::vector<HistoryReader::Event>& events)
     std::vector<std::string> texts;
     for (const auto& [action, items] : events) {
         for (const HistoryItem& item : items) {
-            const std::string change =
-                action.kind + (action.isTakenBack ? " back " : " ") + nameOf(item.change);
+            const std::string change = action.kind +
+                                       (action.state == HistoryState::Done ? " " : " back ") +
+                                       nameOf(item.change);
             if (item.change != HistoryChange::Changed)
                 texts.push_back(change);
             else
@@ -166,23 +167,45 @@ TEST_F(History, APointWithANewNameTellsTheOldOne)
     EXPECT_EQ(before.results.find("1", "C10012034_0")->remarks, "check");
 }
 
-TEST_F(History, WhatWasTakenBackBeforeASaveLeavesNothing)
+TEST_F(History, TellsWhatWasTakenBackBeforeASaveWithTheNextChange)
 {
     save();
     const QByteArray before = TestFolder::read(place.database());
     import("1,7,a\n");
+    const std::shared_ptr<Edit> first = edits.back();
     takeBack();
+    EXPECT_FALSE(manager.isChanged());
     save();
     EXPECT_EQ(rowsOf(database, "sqlite_master").find("History"), std::string::npos)
         << "made by the first change";
     EXPECT_EQ(TestFolder::read(place.database()).size(), before.size());
-    EXPECT_TRUE(actions().empty());
+    import("1,8,b\n");
+    save();
+    ASSERT_EQ(actions().size(), 2U);
+    EXPECT_EQ(actions()[0].state, HistoryState::Done);
+    EXPECT_EQ(actions()[1].state, HistoryState::Undone);
+    EXPECT_EQ(actions()[1].points, 1U);
+    EXPECT_TRUE(items(actions()[1]).empty());
+    EXPECT_TRUE(life({"1", "7"}).empty());
+    // Taken back and done again it is told once, and what was saved and comes again not at all.
+    takeBack();
+    EXPECT_EQ(manager.exchange(first, false), 1);
+    for (const bool isTakenBack : {true, false, true, false})
+        EXPECT_EQ(manager.exchange(first, isTakenBack), 1);
+    save();
+    ASSERT_EQ(actions().size(), 4U);
+    EXPECT_EQ(actions()[0].state, HistoryState::Done);
+    EXPECT_EQ(actions()[1].state, HistoryState::TakenBack);
+    for (const bool isTakenBack : {true, false})
+        EXPECT_EQ(manager.exchange(first, isTakenBack), 1);
+    EXPECT_FALSE(manager.isChanged());
+    EXPECT_TRUE(manager.unsavedEdits().entries().empty());
 }
 
 TEST_F(History, ASaveWithoutAChangeKeepsEveryByteOfIt)
 {
     import("1,7,a\n");
-    manager.setReason(edits.back(), "second crew"_q);
+    manager.setReason(0, "second crew"_q);
     save();
     EXPECT_EQ(actions()[0].reason, "second crew"_q);
     const std::string before = tables() + rowsOf(database, "sqlite_master");
@@ -427,6 +450,12 @@ protected:
             state.limits[std::string(limits.keyAt(i))] = limits.valueAt(i);
         return state;
     }
+    [[nodiscard]] std::size_t changes() const
+    {
+        const auto& entries = manager.unsavedEdits().entries();
+        return entries.size() - static_cast<std::size_t>(
+                                    std::ranges::count_if(entries, &UnsavedEdits::Entry::isUndone));
+    }
     [[nodiscard]] QByteArray rows(int lines, unsigned mark) const
     {
         QByteArray text;
@@ -480,7 +509,12 @@ TEST_F(HistoryWalk, LeadsBackThroughEveryState)
             takeBack();
         else
             change();
-        const std::size_t count = manager.unsavedEdits().entries().size();
+        if (random() % 8 == 0 && !edits.empty()) { // those up to it stay for ever
+            const std::size_t last = random() % edits.size();
+            manager.letGo(edits[last]);
+            edits.erase(edits.begin(), edits.begin() + static_cast<std::ptrdiff_t>(last) + 1);
+        }
+        const std::size_t count = changes();
         if (count > unsaved.size())
             unsaved.push_back(before);
         else if (count < unsaved.size())
@@ -496,7 +530,8 @@ TEST_F(HistoryWalk, LeadsBackThroughEveryState)
     save();
     states.insert(states.end(), unsaved.begin(), unsaved.end());
 
-    const std::vector<HistoryAction> all = actions();
+    std::vector<HistoryAction> all = actions();
+    std::erase_if(all, [](const auto& action) { return action.state == HistoryState::Undone; });
     ASSERT_EQ(all.size(), states.size());
     Snapshot state = snapshot();
     std::size_t large = 0;
