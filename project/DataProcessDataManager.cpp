@@ -519,10 +519,10 @@ void DataProcessDataManager::setOtherSystemHandler(OtherSystemHandler handler)
 
 std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointName>& points)
 {
-    return deleteSurveyPoints(PointNames(points));
+    return deleteResults(PointNames(points));
 }
 
-std::size_t DataProcessDataManager::deleteSurveyPoints(PointNames&& names)
+std::size_t DataProcessDataManager::deleteResults(PointNames&& names)
 {
     const std::size_t before = m_survey.pointCount();
     const auto edit = std::make_shared<Edit>(EditKinds::kDeleteResults);
@@ -546,7 +546,7 @@ std::size_t DataProcessDataManager::deleteSurveyLines(const QStringList& lines)
              line != nullptr && point != line->end(); ++point)
             numbers.push_back(point->pointNumber);
     }
-    return deleteSurveyPoints(std::move(names));
+    return deleteResults(std::move(names));
 }
 
 int DataProcessDataManager::correctSurveyPoint(const PointName& name,

@@ -231,7 +231,7 @@ public:
 
 private:
     [[nodiscard]] EditedData editedData();
-    std::size_t deleteSurveyPoints(PointNames&& names);
+    std::size_t deleteResults(PointNames&& names);
     /// Makes the change that a new edit holds, and keeps the edit.
     void make(const std::shared_ptr<Edit>& edit);
     /// Keeps an edit that is made, with room for it in `m_unsaved`.

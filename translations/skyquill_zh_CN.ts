@@ -2766,11 +2766,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Import a result</source>
-        <translation>导入 1 个测量结果</translation>
+        <translation>导入 1 个成果</translation>
     </message>
     <message>
         <source>Delete a result</source>
-        <translation>删除 1 个测量结果</translation>
+        <translation>删除 1 个成果</translation>
     </message>
     <message>
         <source>Generate a design point</source>
