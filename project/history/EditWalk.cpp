@@ -3,6 +3,8 @@
 #include "project/history/HistoryTables.h"
 #include "project/history/PointRecord.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <span>
 
@@ -149,6 +151,12 @@ void EditContent::compress()
 
 void EditWalk::pass(const Edit& edit)
 {
+    const QScopedValueRollback<bool> passing(m_isPassing, true);
+    hear(edit);
+}
+
+void EditWalk::hear(const Edit& edit)
+{
     m_designChanges.clear();
     m_resultChanges.clear();
     m_parameterItems.clear();
@@ -157,7 +165,7 @@ void EditWalk::pass(const Edit& edit)
 
 EditContent EditWalk::contentOf(const Edit& edit, const PointName* only)
 {
-    pass(edit);
+    hear(edit);
     const auto hasManyPoints = [this] {
         return m_designChanges.size() + m_resultChanges.size() > HistoryTables::kMostItems;
     };
