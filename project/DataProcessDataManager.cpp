@@ -279,6 +279,7 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
         writing = ProjectCreator::replaceDatabase(place);
     if (writing.isDone())
         writing = writeDatabase(m_database, place.database(), m_unsaved);
+    const QString notice = writing.isDone() ? writing.text() : QString();
     if (writing.isDone()) {
         if (m_unsaved.holdChanges())
             m_unsaved.clear(); // the history has them, also when one of the next files fails
@@ -288,6 +289,7 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
         writing = ProjectFile::write(m_projectFile, m_project);
     if (writing.isDone())
         ParameterFiles::writeTemplate(m_designParameters);
+    writing.add(notice);
     return writing;
 }
 
@@ -321,8 +323,10 @@ Outcome DataProcessDataManager::fillCopy(const ProjectPlace& copy)
     if (writing.isDone() && !isTaken)
         basalt::logWarning("The copy \"" + path.toStdString() +
                            "\" has no tables that other programs added to the project.");
+    const QString notice = writing.isDone() ? writing.text() : QString();
     if (writing.isDone())
         writing = ParameterFiles::write(copy.folder, m_qualityParameters, m_designParameters);
+    writing.add(notice);
     return writing;
 }
 
@@ -370,7 +374,7 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
 Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path,
                                               const UnsavedEdits& edits)
 {
-    const HistoryWriter history(edits, editedData(), HistoryAuthor::current());
+    HistoryWriter history(edits, editedData(), HistoryAuthor::current());
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
@@ -592,15 +596,15 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
     if (count == 0)
         return 0;
     const auto edit = std::make_shared<Edit>(EditKinds::kRestore, count);
-    const auto add = [&](auto&& part) {
-        PointNames names = part.names();
+    const auto add = [&](auto&& part, PointNames names = {}) {
+        names.add(part.names());
         edit->add(std::make_unique<SomePoints<std::decay_t<decltype(part)>>>(std::move(names),
                                                                              std::move(part)));
     };
     if (!points.design.empty())
         add(std::move(points.design));
     if (!points.results.empty())
-        add(std::move(points.results));
+        add(std::move(points.results), std::move(points.leaving));
     make(edit);
     if ((edit->scope() & kSurveyScope) != 0)
         recomputeSeaHeights();

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// What a change of the history is about.
 enum class HistoryData
@@ -54,6 +55,7 @@ struct HistoryAction
     std::string designColumns;
     std::string resultColumns;
     bool isLarge = false; ///< its points stand in blobs
+    bool isKnown = true;  ///< this version can read all of it
 
     /// "Delete 10,000 results", translated; the name of a kind that this version does not know.
     [[nodiscard]] QString title() const;
@@ -86,6 +88,14 @@ struct HistoryItem
     /// Of a field; of a whole point only where it is known.
     std::string newText;
 };
+
+/// Whether a text of the database is more than nothing or 0: most columns of a point are not.
+[[nodiscard]] bool saysSomething(std::string_view text);
+
+/// The names that a text "line/point" may mean: both numbers may hold slashes. The likeliest, with
+/// the shortest number of a point, comes first; none when one of them would always be empty. The
+/// counter of a check point is left out.
+[[nodiscard]] std::vector<PointName> pointNamesOf(const QString& text);
 
 /// Which actions are asked for; what is not set takes all.
 struct HistoryFilter

@@ -23,7 +23,6 @@ class HistoryRows
 {
 public:
     HistoryRows() = default;
-    /// Reads a blob; rows of one that is damaged are missing.
     explicit HistoryRows(const QByteArray& blob);
 
     /// \param row  the point as it was; empty when it has come
@@ -33,12 +32,13 @@ public:
 
     using Visitor =
         std::function<void(const PointName& name, HistoryChange change, std::string_view row)>;
-    /// All rows, line by line.
-    void visit(const Visitor& visitor) const;
-    /// The rows of one line of a blob.
-    void visitLine(const std::string& line, const Visitor& visitor) const;
+    /// All rows, line by line. \returns false when the blob is damaged, so that rows are missing
+    bool visit(const Visitor& visitor) const;
+    /// The rows of one line of a blob, likewise.
+    bool visitLine(const std::string& line, const Visitor& visitor) const;
 
 private:
     std::map<std::string, std::string> m_added; ///< the rows by line
     std::map<std::string, QByteArray> m_read;   ///< those of a blob, compressed
+    bool m_isWhole = true;                      ///< the blob
 };

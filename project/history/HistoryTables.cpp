@@ -48,6 +48,14 @@ bool areKnown(IDBAdapter& database)
            hasColumns(database, kItems, kItemColumns);
 }
 
+std::int64_t newerActions(IDBAdapter& database)
+{
+    const std::string condition = "typeof(form) = 'integer' and form > " + std::to_string(kForm);
+    return hasColumns(database, kActions, "form")
+               ? std::max<std::int64_t>(database.rowCount(kActions, condition.c_str()), 0)
+               : 0;
+}
+
 std::string quoted(std::string_view text)
 {
     std::string result = "'";

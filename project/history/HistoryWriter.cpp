@@ -7,6 +7,7 @@
 #include "model/DesignRecord.h"
 #include "model/RowNumbers.h"
 #include "model/SurveyRecord.h"
+#include "project/DatabaseReason.h"
 #include "project/history/EditWalk.h"
 #include "project/history/HistoryTables.h"
 
@@ -78,7 +79,7 @@ bool storeBlob(IDBAdapter& database, std::int64_t action, const char* column,
 
 } // namespace
 
-bool HistoryWriter::write(IDBAdapter& database, ProgressReporter& progress) const
+bool HistoryWriter::write(IDBAdapter& database, ProgressReporter& progress)
 {
     if (!m_edits.holdChanges())
         return true;
@@ -87,10 +88,32 @@ bool HistoryWriter::write(IDBAdapter& database, ProgressReporter& progress) cons
                            "not added to it.");
         return true;
     }
-    if (!HistoryTables::make(database))
+    if (!database.execute("savepoint history"))
         return false;
+    std::string reason;
+    try {
+        if (writeAll(database, progress))
+            return database.execute("release history");
+        reason = database.lastError();
+    } catch (const std::exception& fault) { // no memory
+        reason = fault.what();
+    }
+    basalt::logError("Cannot write the project's history: " + reason);
+    m_notice = QCoreApplication::translate("ProjectStore",
+                                           "The points are saved. The history of this project "
+                                           "does not take what you have changed: %1.")
+                   .arg(databaseReason(reason));
+    return database.execute("rollback to history; release history");
+}
+
+bool HistoryWriter::writeAll(IDBAdapter& database, ProgressReporter& progress) const
+{
     RecordSet last;
-    if (!database.query("select coalesce(max(id), 0) from ProjectHistory", last))
+    // Items may be left of actions that somebody has deleted.
+    if (!HistoryTables::make(database) ||
+        !database.query("select max(coalesce((select max(id) from ProjectHistory), 0), "
+                        "coalesce((select max(action) from ProjectHistoryItem), 0))",
+                        last))
         return false;
     const auto actions =
         database.bulkInsert(HistoryTables::kActions, HistoryTables::kActionColumns);

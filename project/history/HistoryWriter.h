@@ -19,12 +19,18 @@ public:
     }
 
     /// Without a change nothing is written. A history of a newer version that this one cannot write
-    /// stays as it is; the log says so.
-    /// \returns whether it succeeded; the adapter says why it did not
-    bool write(IDBAdapter& database, ProgressReporter& progress) const;
+    /// stays as it is; the log says so. A history that takes no rows keeps nobody from saving the
+    /// points: nothing is written then, and `notice` says so.
+    /// \returns false when the transaction is lost
+    bool write(IDBAdapter& database, ProgressReporter& progress);
+    /// For the user, when it was not written; mostly empty.
+    [[nodiscard]] const QString& notice() const { return m_notice; }
 
 private:
+    bool writeAll(IDBAdapter& database, ProgressReporter& progress) const;
+
     const UnsavedEdits& m_edits;
     EditedData m_present;
     HistoryAuthor m_author;
+    QString m_notice;
 };

@@ -277,6 +277,31 @@ TEST_F(History, ThousandsOfDeletedResultsComeBackAsTheyWere)
     EXPECT_TRUE(manager.surveyPoints().empty());
 }
 
+TEST_F(History, AMeasurementIsPutBackOnce)
+{
+    import("1,7,a\n1,C10012034,one\n1,C10012034,two\n");
+    remove({{"1", "C10012034_0"}});
+    SurveyCorrection correction;
+    correction.pointNumber = "9";
+    ASSERT_EQ(manager.correctSurveyPoint({"1", "7"}, correction), 1);
+    save();
+    const auto before = [this](const HistoryAction& action) {
+        return pointsBefore(action, items(action), manager.designPoints(), manager.surveyPoints());
+    };
+    const HistoryAction renaming = actions()[0];
+    const HistoryAction deletion = actions()[1];
+    EXPECT_EQ(manager.restorePoints(before(deletion)), 1U);
+    EXPECT_EQ(manager.restorePoints(before(deletion)), 1U) << "over itself";
+    EXPECT_EQ(manager.surveyPoints().pointCount(), 3U);
+    EXPECT_EQ(manager.restorePoints(before(renaming)), 1U);
+    EXPECT_EQ(manager.surveyPoints().pointCount(), 3U);
+    EXPECT_EQ(manager.surveyPoints().find("1", "9"), nullptr);
+    ASSERT_NE(manager.surveyPoints().find("1", "7"), nullptr);
+    takeBack();
+    EXPECT_NE(manager.surveyPoints().find("1", "9"), nullptr);
+    EXPECT_EQ(manager.surveyPoints().find("1", "7"), nullptr);
+}
+
 TEST_F(History, ASingleFieldIsPutBackIntoThePointOfToday)
 {
     import("1,7,a\n1,8,x\n");
@@ -383,6 +408,55 @@ TEST_F(History, ANewerOneIsKeptAndSaidSo)
     manager.clear();
     expectNotice(manager.openProject(place), "not added to it");
     EXPECT_EQ(manager.surveyPoints().find("1", "7")->remarks, "c");
+}
+
+// Other programs may have been at the database: the points are saved whatever became of the
+// history.
+TEST_F(History, OneThatIsBrokenKeepsNobodyFromSaving)
+{
+    import("1,7,a\n");
+    save();
+    execute("delete from ProjectHistory"); // its items stay
+    remark({"1", "7"}, "b");
+    save();
+    ASSERT_EQ(actions().size(), 1U);
+    EXPECT_EQ(actions()[0].id, 2);
+    execute("create trigger closed before insert on ProjectHistoryItem begin "
+            "select raise(fail, 'closed'); end");
+    const std::string before = tables();
+    remark({"1", "7"}, "c");
+    expectNotice(manager.saveProject(place), "does not take what you have changed: closed.");
+    EXPECT_FALSE(manager.isChanged());
+    EXPECT_EQ(tables(), before);
+    execute("drop trigger closed; alter table ProjectHistory drop column reason");
+    manager.clear();
+    expectNotice(manager.openProject(place), "has lost a table or a column");
+    EXPECT_EQ(manager.surveyPoints().find("1", "7")->remarks, "c");
+}
+
+TEST_F(History, WhatCannotBeReadIsNotGuessed)
+{
+    QByteArray rows;
+    for (int i = 0; i < 6000; ++i)
+        rows += "1," + QByteArray::number(i) + ",a\n";
+    for (const char* remarks : {"a", "b", "a", "b"}) {
+        import(QByteArray(rows).replace(",a", QByteArray(",") + remarks));
+        save();
+    }
+    const PointName point{"1", "7"};
+    EXPECT_EQ(life(point).size(), 4U);
+    execute("update ProjectHistory set form = 2 where id = 3");
+    const Texts told = life(point);
+    ASSERT_GT(told.size(), 3U);
+    EXPECT_EQ(told.front(), "import_survey changed remarks a>b");
+    EXPECT_NE(std::ranges::find(told, "import_survey changed remarks a>"), told.end());
+    EXPECT_EQ(told.back(), "import_survey came");
+    execute("update ProjectHistory set result_rows = x'0011' where id = 2");
+    std::vector<HistoryReader::Event> events;
+    HistoryFilter filter;
+    filter.point = point;
+    expectNotice(manager.history().life(filter, events), "whose points are damaged");
+    EXPECT_EQ(events.size(), 2U);
 }
 
 TEST_F(History, ACopyHasItWithWhatIsNotSavedYetAndAnExportHasNone)
