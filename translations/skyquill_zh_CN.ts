@@ -4225,6 +4225,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>The history of this project cannot be read: %1.</source>
         <translation>无法读取本工程的历史记录：%1。</translation>
     </message>
+    <message>
+        <source>The history of this project has lost a table or a column. It is kept, but not shown, and what you change is not added to it.</source>
+        <translation>此工程的历史记录缺少一个表或一个字段。它被保留，但不显示，您所做的更改也不会添加到其中。</translation>
+    </message>
+    <message>
+        <source>Actions in the history of this project whose points are damaged and are not all shown: %1.</source>
+        <translation>此工程历史记录中有 %1 项操作的点数据已损坏，未全部显示。</translation>
+    </message>
+    <message>
+        <source>The points are saved. The history of this project does not take what you have changed: %1.</source>
+        <translation>点已保存。此工程的历史记录未能写入您所做的更改：%1。</translation>
+    </message>
 </context>
 <context>
     <name>PropertyGrid</name>

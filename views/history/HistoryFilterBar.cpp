@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -96,12 +97,10 @@ void HistoryFilterBar::makeDays(QGridLayout& grid)
 
 std::optional<PointName> HistoryFilterBar::typedPoint() const
 {
-    const QString text = m_point->text().trimmed();
-    const int slash = text.lastIndexOf(QLatin1Char('/'));
-    if (slash <= 0 || slash + 1 == text.size())
+    const std::vector<PointName> names = pointNamesOf(m_point->text().trimmed());
+    if (names.empty())
         return {};
-    const std::string number = text.mid(slash + 1).toStdString();
-    return PointName{text.left(slash).toStdString(), std::string(writtenPointNumber(number))};
+    return std::ranges::find(names, m_named) != names.end() ? m_named : names.front();
 }
 
 HistoryFilter HistoryFilterBar::filter() const
@@ -152,8 +151,8 @@ void HistoryFilterBar::addChoices(const HistoryActionModel::Rows& rows)
 
 void HistoryFilterBar::setPoint(const PointName& point)
 {
-    m_point->setText(
-        HistoryTexts::nameOf({point.line, std::string(writtenPointNumber(point.point))}));
+    m_named = {point.line, std::string(writtenPointNumber(point.point))};
+    m_point->setText(HistoryTexts::nameOf(m_named));
     m_typing.stop();
     Q_EMIT changed();
 }

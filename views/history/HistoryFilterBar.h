@@ -44,5 +44,6 @@ private:
     QCheckBox* m_hasDays;
     QDateEdit* m_from;
     QDateEdit* m_to;
-    QTimer m_typing; ///< ends when the user has stopped typing
+    PointName m_named; ///< by another window; it knows which slash stands between its numbers
+    QTimer m_typing;   ///< ends when the user has stopped typing
 };

@@ -70,12 +70,6 @@ QString designCaption(std::string key)
     return designTableText(key.c_str());
 }
 
-/// Whether a stored text is more than nothing or 0.
-bool saysSomething(const std::string& text)
-{
-    return text.find_first_not_of("-.0") != std::string::npos;
-}
-
 } // namespace
 
 HistoryTexts::HistoryTexts()
