@@ -1,4 +1,5 @@
 #include "basalt_utilities/KeyList.h"
+#include "design/DesignFields.h"
 #include "design/DesignGenerator.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
@@ -103,7 +104,10 @@ protected:
     {
         create(m_place);
         m_template = basalt::Dictionary(m_manager.designParameters());
-        m_manager.setDesignParameters(basalt::Dictionary());
+        basalt::Dictionary all; // every save makes them the template, which other tests read
+        for (const DesignParameter& parameter : designParameters())
+            all.set(parameter.key, parameter.fallback);
+        m_manager.setDesignParameters(all);
         m_manager.setEditHandler([this](const std::shared_ptr<Edit>& edit) {
             m_edits.resize(m_done);
             m_edits.push_back(edit);
@@ -113,7 +117,7 @@ protected:
         reload();
     }
 
-    ~RandomEdits() override { ParameterFiles::writeTemplate(m_template); } // every save changes it
+    ~RandomEdits() override { ParameterFiles::writeTemplate(m_template); }
 
     void create(const ProjectPlace& place)
     {
