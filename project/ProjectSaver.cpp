@@ -31,7 +31,7 @@ ProjectSaver::ProjectSaver(IDBAdapter& database, ProgressReporter& progress)
 
 Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
                            const SurveyPoints& survey, const IDictionary& coordParameters,
-                           const HistoryWriter* history)
+                           HistoryWriter* history)
 {
     const SafetyCopy copy(path);
     // An interrupted save may have left emptied tables and a copy: `make` would replace that copy.
@@ -52,11 +52,11 @@ Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
     copy.drop();
     m_database.open(connection.c_str()); // no longer exclusively
     m_progress.hide();
-    return Outcome::done();
+    return Outcome::done(history == nullptr ? QString() : history->notice());
 }
 
 bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& survey,
-                            const IDictionary& coordParameters, const HistoryWriter* history)
+                            const IDictionary& coordParameters, HistoryWriter* history)
 {
     using namespace TableRows;
     return m_database.beginTransaction() && addMissingColumns() &&

@@ -21,11 +21,11 @@ public:
     /// file holds what it held before.
     /// \param history  writes what was changed, together with the points; or null
     Outcome save(const std::string& path, const DesignPoints& design, const SurveyPoints& survey,
-                 const IDictionary& coordParameters, const HistoryWriter* history = nullptr);
+                 const IDictionary& coordParameters, HistoryWriter* history = nullptr);
 
 private:
     bool writeAll(const DesignPoints& design, const SurveyPoints& survey,
-                  const IDictionary& coordParameters, const HistoryWriter* history);
+                  const IDictionary& coordParameters, HistoryWriter* history);
     bool clearTables();
     bool addMissingColumns();
     /// Puts the file back as it was. \returns the failure, for the user

@@ -1,4 +1,5 @@
 #include "basalt_utilities/KeyList.h"
+#include "design/DesignFields.h"
 #include "design/DesignGenerator.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
@@ -96,14 +97,17 @@ QByteArray designCsv(const PlainProject::Points& points)
 
 /// Random operations of the program beside a plain project. The edits are kept as a window would
 /// keep them, each with the state before it.
-class EditWalk : public testing::Test
+class RandomEdits : public testing::Test
 {
 protected:
-    EditWalk()
+    RandomEdits()
     {
         create(m_place);
         m_template = basalt::Dictionary(m_manager.designParameters());
-        m_manager.setDesignParameters(basalt::Dictionary());
+        basalt::Dictionary all; // every save makes them the template, which other tests read
+        for (const DesignParameter& parameter : designParameters())
+            all.set(parameter.key, parameter.fallback);
+        m_manager.setDesignParameters(all);
         m_manager.setEditHandler([this](const std::shared_ptr<Edit>& edit) {
             m_edits.resize(m_done);
             m_edits.push_back(edit);
@@ -113,7 +117,7 @@ protected:
         reload();
     }
 
-    ~EditWalk() override { ParameterFiles::writeTemplate(m_template); } // every save changes it
+    ~RandomEdits() override { ParameterFiles::writeTemplate(m_template); }
 
     void create(const ProjectPlace& place)
     {
@@ -334,15 +338,15 @@ protected:
     /// One of them. Only the last states are kept.
     void change()
     {
-        using Operation = bool (EditWalk::*)(PlainProject&);
+        using Operation = bool (RandomEdits::*)(PlainProject&);
         static constexpr Operation kOperations[] = {
-            &EditWalk::importResults, &EditWalk::importResults, &EditWalk::deletePoints,
-            &EditWalk::deletePoints,  &EditWalk::correctResult, &EditWalk::correctResult,
-            &EditWalk::correctResult, &EditWalk::correctResult, &EditWalk::importDesign,
-            &EditWalk::correctDesign, &EditWalk::setParameters, &EditWalk::deleteLines,
-            &EditWalk::generate,      &EditWalk::setCoordSystem};
+            &RandomEdits::importResults, &RandomEdits::importResults, &RandomEdits::deletePoints,
+            &RandomEdits::deletePoints,  &RandomEdits::correctResult, &RandomEdits::correctResult,
+            &RandomEdits::correctResult, &RandomEdits::correctResult, &RandomEdits::importDesign,
+            &RandomEdits::correctDesign, &RandomEdits::setParameters, &RandomEdits::deleteLines,
+            &RandomEdits::generate,      &RandomEdits::setCoordSystem};
         const Operation operation =
-            below(40) == 0 ? &EditWalk::importDatabase : kOperations[below(14)];
+            below(40) == 0 ? &RandomEdits::importDatabase : kOperations[below(14)];
         PlainProject next = present();
         const bool isEdit = (this->*operation)(next);
         if (!isEdit) {
@@ -465,8 +469,8 @@ protected:
 
 } // namespace
 
-// EDITS=100000 project_test --gtest_filter=EditWalk* goes on for longer.
-TEST_F(EditWalk, EndsWithTheBytesOfAPlainModel)
+// EDITS=100000 project_test --gtest_filter=RandomEdits* goes on for longer.
+TEST_F(RandomEdits, EndsWithTheBytesOfAPlainModel)
 {
     const int steps =
         qEnvironmentVariableIsSet("EDITS") ? qEnvironmentVariableIntValue("EDITS") : 2000;
