@@ -29,6 +29,7 @@ struct FoundProblems
         return point;
     }
 
+    /// Runs the checks and then the finders.
     ProblemList find(std::span<const ProblemKind* const> kinds = {})
     {
         ProgressReporter progress(nullptr);
@@ -60,10 +61,6 @@ struct FoundProblems
             texts.push_back(all);
         }
         return texts;
-    }
-    std::vector<std::string> found(std::span<const ProblemKind* const> kinds = {})
-    {
-        return textsOf(find(kinds));
     }
 
     DesignPoints design;
