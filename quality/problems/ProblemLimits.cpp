@@ -38,9 +38,26 @@ constexpr std::array kStoredValues{
                                    "nearest results.")},
 };
 
+// Of names, see NameProblems.h.
+constexpr std::array kNames{
+    ProblemLimit{"name_nearer_min", "2",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Nearer to another design point, min."), "m",
+                 1e6, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "A result that is nearer to another design point than to its "
+                                   "own by more than this has a wrong name.")},
+    ProblemLimit{"name_near_max", "1",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Distance from that point, max."), "m", 1e6,
+                 false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "A stake that was moved aside from an obstacle is farther "
+                                   "from all other points than this.")},
+};
+
 // All groups: a new one is a line here.
 constexpr std::array kGroups{
     ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Measurement"), kStoredValues},
+    ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Names"), kNames},
 };
 
 } // namespace
