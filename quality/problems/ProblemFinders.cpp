@@ -2,6 +2,7 @@
 
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/problems/CheckProblems.h"
+#include "quality/problems/LineProblems.h"
 #include "quality/problems/NameProblems.h"
 #include "quality/problems/NeighbourProblems.h"
 #include "quality/problems/QualityProblems.h"
@@ -28,6 +29,7 @@ constexpr std::array kFinders{
     &kStoredValueFinder,
     &kNeighbourFinder,
     &kNameFinder,
+    &kLineFinder,
 };
 // clang-format on
 
