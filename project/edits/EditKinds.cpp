@@ -16,6 +16,7 @@ const EditKind kImportSurvey{"import_survey", QT_TRANSLATE_NOOP("EditKinds", "Im
 const EditKind kDeleteResults{"delete_results", QT_TRANSLATE_NOOP("EditKinds", "Delete %1 results"), QT_TRANSLATE_NOOP("EditKinds", "Delete a result")};
 const EditKind kCorrectResult{"correct_result", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Correct a result")};
 const EditKind kCorrectDesign{"correct_design", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Correct a design point")};
+const EditKind kRenameResults{"rename_results", QT_TRANSLATE_NOOP("EditKinds", "Rename %1 results"), QT_TRANSLATE_NOOP("EditKinds", "Rename a result")};
 const EditKind kGenerateDesign{"generate_design", QT_TRANSLATE_NOOP("EditKinds", "Generate %1 design points"), QT_TRANSLATE_NOOP("EditKinds", "Generate a design point")};
 const EditKind kQualityLimits{"quality_limits", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change quality limits")};
 const EditKind kDesignParameters{"design_parameters", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change design parameters")};
@@ -25,9 +26,10 @@ const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 po
 
 const EditKind* find(std::string_view name)
 {
-    static constexpr std::array kAll{
-        &kImportDesign,   &kImportSurvey,  &kDeleteResults,    &kCorrectResult, &kCorrectDesign,
-        &kGenerateDesign, &kQualityLimits, &kDesignParameters, &kCoordSystem,   &kRestore};
+    static constexpr std::array kAll{&kImportDesign,   &kImportSurvey,  &kDeleteResults,
+                                     &kCorrectResult,  &kCorrectDesign, &kRenameResults,
+                                     &kGenerateDesign, &kQualityLimits, &kDesignParameters,
+                                     &kCoordSystem,    &kRestore};
     const auto* const found =
         std::ranges::find_if(kAll, [&](const EditKind* kind) { return name == kind->name; });
     return found == kAll.end() ? nullptr : *found;

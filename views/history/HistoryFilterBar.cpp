@@ -56,9 +56,9 @@ void HistoryFilterBar::makeChoices(QGridLayout& grid)
     m_kind->addItem(tr("All actions"));
     for (const EditKind* const kind :
          {&EditKinds::kImportDesign, &EditKinds::kImportSurvey, &EditKinds::kDeleteResults,
-          &EditKinds::kCorrectResult, &EditKinds::kCorrectDesign, &EditKinds::kGenerateDesign,
-          &EditKinds::kQualityLimits, &EditKinds::kDesignParameters, &EditKinds::kCoordSystem,
-          &EditKinds::kRestore})
+          &EditKinds::kCorrectResult, &EditKinds::kCorrectDesign, &EditKinds::kRenameResults,
+          &EditKinds::kGenerateDesign, &EditKinds::kQualityLimits, &EditKinds::kDesignParameters,
+          &EditKinds::kCoordSystem, &EditKinds::kRestore})
         m_kind->addItem(HistoryTexts::kindName(kind->name), QString::fromLatin1(kind->name));
     m_point->setObjectName(QStringLiteral("point"));
     m_point->setPlaceholderText(tr("line/point, such as 1001/10015001"));

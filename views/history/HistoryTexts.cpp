@@ -29,6 +29,7 @@ constexpr auto kKinds = std::to_array<Kind>({
     {"delete_results", QT_TRANSLATE_NOOP("HistoryTexts", "Deletions of results")},
     {"correct_result", QT_TRANSLATE_NOOP("HistoryTexts", "Corrections of results")},
     {"correct_design", QT_TRANSLATE_NOOP("HistoryTexts", "Corrections of design points")},
+    {"rename_results", QT_TRANSLATE_NOOP("HistoryTexts", "New names of results")},
     {"generate_design", QT_TRANSLATE_NOOP("HistoryTexts", "Generated designs")},
     {"quality_limits", QT_TRANSLATE_NOOP("HistoryTexts", "Quality limits")},
     {"design_parameters", QT_TRANSLATE_NOOP("HistoryTexts", "Design parameters")},
