@@ -31,6 +31,7 @@
 #include "project/OwnFile.h"
 #include "project/ParameterFiles.h"
 #include "project/PointCorrection.h"
+#include "project/PointRenaming.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectLoader.h"
@@ -574,6 +575,21 @@ int DataProcessDataManager::correctSurveyPoint(const PointName& name,
     if (filedAs != nullptr)
         *filedAs = std::move(place);
     return answered(Outcome::done(), outcome);
+}
+
+int DataProcessDataManager::renameResults(const std::vector<Renaming>& renamings, Outcome* outcome)
+{
+    RenamedPoints renamed;
+    const Outcome renaming =
+        ::renameResults(m_design, m_survey, qualityParameter(m_qualityParameters, kResurveyCode),
+                        renamings, renamed);
+    if (renaming.isDone() && !renamings.empty()) {
+        const auto edit = std::make_shared<Edit>(EditKinds::kRenameResults, renamings.size());
+        edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(renamed.names),
+                                                             std::move(renamed.results)));
+        make(edit);
+    }
+    return answered(renaming, outcome);
 }
 
 int DataProcessDataManager::correctDesignPoint(const PointName& name,

@@ -32,6 +32,7 @@ struct QualityLimits;
 struct QualityRow;
 struct ReportChoice;
 struct ReportKind;
+struct Renaming;
 struct SurveyCorrection;
 enum class DesignLines;
 
@@ -169,6 +170,9 @@ public:
     /// name of another one takes its place. `filedAs` gets its name in memory.
     int correctSurveyPoint(const PointName& name, const SurveyCorrection& correction,
                            Outcome* outcome = nullptr, PointName* filedAs = nullptr);
+    /// Gives results other names, all at once, and what follows from a name; see PointRenaming.h.
+    /// Refused when a name is taken: nothing is replaced.
+    int renameResults(const std::vector<Renaming>& renamings, Outcome* outcome = nullptr);
     int correctDesignPoint(const PointName& name, const DesignCorrection& correction,
                            Outcome* outcome = nullptr);
     /// Puts points of the history back, over those of the same names.

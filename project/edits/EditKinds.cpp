@@ -15,6 +15,7 @@ const EditKind kImportSurvey{"import_survey", QT_TRANSLATE_NOOP("EditKinds", "Im
 const EditKind kDeleteResults{"delete_results", QT_TRANSLATE_NOOP("EditKinds", "Delete %1 results"), QT_TRANSLATE_NOOP("EditKinds", "Delete a result"), QT_TRANSLATE_NOOP("EditKinds", "Deletions of results")};
 const EditKind kCorrectResult{"correct_result", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Correct a result"), QT_TRANSLATE_NOOP("EditKinds", "Corrections of results")};
 const EditKind kCorrectDesign{"correct_design", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Correct a design point"), QT_TRANSLATE_NOOP("EditKinds", "Corrections of design points")};
+const EditKind kRenameResults{"rename_results", QT_TRANSLATE_NOOP("EditKinds", "Rename %1 results"), QT_TRANSLATE_NOOP("EditKinds", "Rename a result"), QT_TRANSLATE_NOOP("EditKinds", "New names of results")};
 const EditKind kGenerateDesign{"generate_design", QT_TRANSLATE_NOOP("EditKinds", "Generate %1 design points"), QT_TRANSLATE_NOOP("EditKinds", "Generate a design point"), QT_TRANSLATE_NOOP("EditKinds", "Generated designs")};
 const EditKind kQualityLimits{"quality_limits", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change quality limits"), QT_TRANSLATE_NOOP("EditKinds", "Quality limits")};
 const EditKind kDesignParameters{"design_parameters", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change design parameters"), QT_TRANSLATE_NOOP("EditKinds", "Design parameters")};
@@ -24,9 +25,10 @@ const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 po
 
 std::span<const EditKind* const> all()
 {
-    static constexpr std::array kAll{
-        &kImportDesign,   &kImportSurvey,  &kDeleteResults,    &kCorrectResult, &kCorrectDesign,
-        &kGenerateDesign, &kQualityLimits, &kDesignParameters, &kCoordSystem,   &kRestore};
+    static constexpr std::array kAll{&kImportDesign,   &kImportSurvey,  &kDeleteResults,
+                                     &kCorrectResult,  &kCorrectDesign, &kRenameResults,
+                                     &kGenerateDesign, &kQualityLimits, &kDesignParameters,
+                                     &kCoordSystem,    &kRestore};
     return kAll;
 }
 

@@ -28,6 +28,7 @@ extern const EditKind kImportSurvey;
 extern const EditKind kDeleteResults;
 extern const EditKind kCorrectResult;
 extern const EditKind kCorrectDesign;
+extern const EditKind kRenameResults;
 extern const EditKind kGenerateDesign;
 extern const EditKind kQualityLimits;
 extern const EditKind kDesignParameters;

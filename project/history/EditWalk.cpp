@@ -175,7 +175,8 @@ EditContent EditWalk::contentOf(const Edit& edit, const PointName* only)
     }
     EditContent content;
     const bool isLarge = hasManyPoints();
-    const bool isCorrection = &edit.kind() == &EditKinds::kCorrectResult;
+    const bool isCorrection = &edit.kind() == &EditKinds::kCorrectResult ||
+                              (&edit.kind() == &EditKinds::kRenameResults && edit.points() == 1);
     content.holdsResults = writePoints<SurveyPoints>(m_resultChanges, isCorrection, content.items,
                                                      isLarge ? &content.resultRows : nullptr);
     content.holdsDesign = writePoints<DesignPoints>(m_designChanges, false, content.items,
