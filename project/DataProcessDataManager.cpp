@@ -3,6 +3,7 @@
 #include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/ILogger.h"
 #include "design/DesignGenerator.h"
+#include "exchange/CrewList.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
 #include "exchange/DesignKml.h"
@@ -24,6 +25,7 @@
 #include "model/CodeTables.h"
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
+#include "project/AcceptanceTable.h"
 #include "project/DesignDatabase.h"
 #include "project/edits/EditParts.h"
 #include "project/history/HistoryWriter.h"
@@ -38,6 +40,7 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "quality/CheckKinds.h"
+#include "quality/MeasuredPoint.h"
 #include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
@@ -171,6 +174,7 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
     m_place = place;
     reading.add(m_projectFileFault);
     reading.add(history().notice());
+    reading.add(AcceptanceTable::notice(m_database));
     return reading;
 }
 
@@ -205,7 +209,8 @@ EditedData DataProcessDataManager::editedData()
             m_qualityParameters,
             m_designParameters,
             get_project_coord_transform().parameters(),
-            [this](const IDictionary& parameters) { applyCoordSystem(parameters); }};
+            [this](const IDictionary& parameters) { applyCoordSystem(parameters); },
+            m_acceptances};
 }
 
 void DataProcessDataManager::setEditHandler(EditHandler handler)
@@ -332,6 +337,7 @@ void DataProcessDataManager::clear()
 {
     m_design.clear();
     m_survey.clear();
+    m_acceptances.clear();
     m_project.clear();
     m_projectFile.clear();
     m_projectFileFault.clear();
@@ -366,7 +372,7 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
 {
     ProgressReporter progress(&m_host.eventManager());
     return ProjectLoader(m_database, progress)
-        .load(path.toStdString(), m_design, m_survey, coordSystem);
+        .load(path.toStdString(), m_design, m_survey, coordSystem, &m_acceptances);
 }
 
 Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path,
@@ -376,7 +382,7 @@ Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QStrin
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
-              &history);
+              {&m_acceptances, &history});
 }
 
 template <class Write>
@@ -478,6 +484,28 @@ int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QStr
     return exportTo(path, outcome, [&](ProgressReporter& progress) {
         return writeSurveyKml(path, {m_survey, lines, words}, get_project_coord_transform(),
                               progress);
+    });
+}
+
+int DataProcessDataManager::exportCrewList(const std::vector<const Problem*>& problems,
+                                           const QString& path, Outcome* outcome)
+{
+    const std::string_view code = qualityParameter(m_qualityParameters, kResurveyCode);
+    CrewList list;
+    for (const Problem* const problem : problems) {
+        const DesignPoint* const point =
+            measuredPoint(m_design, problem->line, problem->point, code);
+        if (problem->point.empty())
+            list.addWithoutPoint();
+        else if (point == nullptr)
+            list.addUnknown(problem->line, problem->point);
+        else
+            list.add(*point, problem->kind->what(*problem).toStdString());
+    }
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return path.endsWith(QLatin1String(".kml"), Qt::CaseInsensitive)
+                   ? writeCrewKml(path, list, get_project_coord_transform(), progress)
+                   : writeCrewCsv(path, list, progress);
     });
 }
 
@@ -610,6 +638,46 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
     return count;
 }
 
+std::size_t DataProcessDataManager::accept(std::vector<Acceptance> problems)
+{
+    std::erase_if(problems, [this](const Acceptance& problem) {
+        const Acceptance* const present = m_acceptances.find(problem);
+        return present != nullptr && present->reason == problem.reason;
+    });
+    const QString person = HistoryAuthor::current().person;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    Acceptances accepted;
+    for (const Acceptance& problem : problems) {
+        Acceptance acceptance = problem;
+        acceptance.person = person;
+        acceptance.time = now;
+        accepted.set(std::move(acceptance));
+    }
+    return changeAcceptances(EditKinds::kAcceptProblems, problems, std::move(accepted));
+}
+
+std::size_t DataProcessDataManager::endAcceptances(std::vector<Acceptance> problems)
+{
+    std::erase_if(problems, [this](const Acceptance& problem) {
+        return m_acceptances.find(problem) == nullptr;
+    });
+    return changeAcceptances(EditKinds::kEndAcceptances, problems, {});
+}
+
+std::size_t DataProcessDataManager::changeAcceptances(const EditKind& kind,
+                                                      const std::vector<Acceptance>& problems,
+                                                      Acceptances&& other)
+{
+    auto part = std::make_unique<AcceptedProblems>(problems, std::move(other));
+    const std::size_t count = part->problems();
+    if (count == 0)
+        return 0;
+    const auto edit = std::make_shared<Edit>(kind, count);
+    edit->add(std::move(part));
+    make(edit);
+    return count;
+}
+
 int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary& parameters,
                                            Outcome* outcome)
 {
@@ -700,9 +768,16 @@ ProblemList DataProcessDataManager::findProblems(std::span<const ProblemKind* co
     run(std::array{&kQualityCheck, &kEmptyPointCheck, &kResurveyCheck});
     const CheckedData data = checkedData();
     ProgressReporter progress(&m_host.eventManager());
-    return ::findProblems(
-        {data.design, data.survey, data.parameters, data.planeUnitM, shownTimes()}, progress,
-        kinds);
+    ProblemList problems =
+        ::findProblems({data.design, data.survey, data.parameters, data.planeUnitM, shownTimes()},
+                       progress, kinds);
+    markAccepted(problems);
+    return problems;
+}
+
+void DataProcessDataManager::markAccepted(ProblemList& problems) const
+{
+    ::markAccepted(problems, m_acceptances, m_design, m_survey);
 }
 
 CheckResult DataProcessDataManager::resultOf(const CheckKind& check)

@@ -8,6 +8,7 @@
 #include "model/RowNumbers.h"
 #include "model/RowText.h"
 #include "model/SurveyRecord.h"
+#include "project/AcceptanceTable.h"
 #include "project/DatabaseReason.h"
 #include "project/DBAdapter.h"
 #include "project/SafetyCopy.h"
@@ -169,7 +170,7 @@ ProjectLoader::ProjectLoader(IDBAdapter& database, ProgressReporter& progress)
 }
 
 Outcome ProjectLoader::load(const std::string& path, DesignPoints& design, SurveyPoints& survey,
-                            IDictionary& coordParameters)
+                            IDictionary& coordParameters, Acceptances* acceptances)
 {
     m_database.close();
     design.clear();
@@ -179,7 +180,8 @@ Outcome ProjectLoader::load(const std::string& path, DesignPoints& design, Surve
         return recovery;
     const Outcome reading = readAs(path, lum::databaseConnection(path), [&] {
         m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
-        return readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters);
+        return readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters) &&
+               readAcceptances(acceptances);
     });
     m_progress.finish();
     return reading.isDone() ? recovery : reading;
@@ -285,6 +287,12 @@ bool ProjectLoader::readCoordinateSystem(IDictionary& coordParameters)
             coordParameters.set(lowerName(column), rowText(*value));
     }
     return true;
+}
+
+bool ProjectLoader::readAcceptances(Acceptances* acceptances)
+{
+    return acceptances == nullptr || AcceptanceTable::read(m_database, *acceptances) ||
+           fail(m_database.lastError());
 }
 
 bool ProjectLoader::plan(const char* table, Plan& plan)

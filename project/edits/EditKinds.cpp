@@ -21,13 +21,16 @@ const EditKind kQualityLimits{"quality_limits", nullptr, QT_TRANSLATE_NOOP("Edit
 const EditKind kDesignParameters{"design_parameters", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change design parameters")};
 const EditKind kCoordSystem{"coord_system", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change the coordinate system")};
 const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 points"), QT_TRANSLATE_NOOP("EditKinds", "Restore a point")};
+const EditKind kAcceptProblems{"accept_problems", QT_TRANSLATE_NOOP("EditKinds", "Accept %1 problems"), QT_TRANSLATE_NOOP("EditKinds", "Accept a problem")};
+const EditKind kEndAcceptances{"end_acceptances", QT_TRANSLATE_NOOP("EditKinds", "List %1 accepted problems again"), QT_TRANSLATE_NOOP("EditKinds", "List an accepted problem again")};
 // clang-format on
 
 const EditKind* find(std::string_view name)
 {
-    static constexpr std::array kAll{
-        &kImportDesign,   &kImportSurvey,  &kDeleteResults,    &kCorrectResult, &kCorrectDesign,
-        &kGenerateDesign, &kQualityLimits, &kDesignParameters, &kCoordSystem,   &kRestore};
+    static constexpr std::array kAll{&kImportDesign,  &kImportSurvey,     &kDeleteResults,
+                                     &kCorrectResult, &kCorrectDesign,    &kGenerateDesign,
+                                     &kQualityLimits, &kDesignParameters, &kCoordSystem,
+                                     &kRestore,       &kAcceptProblems,   &kEndAcceptances};
     const auto* const found =
         std::ranges::find_if(kAll, [&](const EditKind* kind) { return name == kind->name; });
     return found == kAll.end() ? nullptr : *found;
