@@ -45,10 +45,11 @@ void print(const HistoryAction& action, const HistoryItem& item)
                                << QString::fromStdString(field.oldText)
                                << QString::fromStdString(field.newText));
     };
-    if (item.change == HistoryChange::Came)
+    const bool isPoint = item.data != HistoryData::AcceptedProblems;
+    if (item.change == HistoryChange::Came && isPoint)
         return line({});
     for (const HistoryField& field : fieldsOf(action, item)) {
-        if (saysSomething(field.oldText) || saysSomething(field.newText))
+        if (!isPoint || saysSomething(field.oldText) || saysSomething(field.newText))
             line(field);
     }
 }

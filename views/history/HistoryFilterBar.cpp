@@ -58,7 +58,7 @@ void HistoryFilterBar::makeChoices(QGridLayout& grid)
          {&EditKinds::kImportDesign, &EditKinds::kImportSurvey, &EditKinds::kDeleteResults,
           &EditKinds::kCorrectResult, &EditKinds::kCorrectDesign, &EditKinds::kGenerateDesign,
           &EditKinds::kQualityLimits, &EditKinds::kDesignParameters, &EditKinds::kCoordSystem,
-          &EditKinds::kRestore})
+          &EditKinds::kRestore, &EditKinds::kAcceptProblems, &EditKinds::kEndAcceptances})
         m_kind->addItem(HistoryTexts::kindName(kind->name), QString::fromLatin1(kind->name));
     m_point->setObjectName(QStringLiteral("point"));
     m_point->setPlaceholderText(tr("line/point, such as 1001/10015001"));

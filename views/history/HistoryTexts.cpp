@@ -7,6 +7,7 @@
 #include "model/DesignRecord.h"
 #include "model/RowNumbers.h"
 #include "model/SurveyColumns.h"
+#include "quality/problems/ProblemFinders.h"
 
 #include <QCoreApplication>
 
@@ -34,6 +35,8 @@ constexpr auto kKinds = std::to_array<Kind>({
     {"design_parameters", QT_TRANSLATE_NOOP("HistoryTexts", "Design parameters")},
     {"coord_system", QT_TRANSLATE_NOOP("HistoryTexts", "Coordinate system")},
     {"restore", QT_TRANSLATE_NOOP("HistoryTexts", "Restored points")},
+    {"accept_problems", QT_TRANSLATE_NOOP("HistoryTexts", "Accepted problems")},
+    {"end_acceptances", QT_TRANSLATE_NOOP("HistoryTexts", "Problems listed again")},
 });
 
 QString translated(const char* text)
@@ -95,13 +98,19 @@ QString HistoryTexts::nameOf(HistoryData data)
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Design parameter"));
     case HistoryData::CoordSystem:
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Coordinate system"));
+    case HistoryData::AcceptedProblems:
+        return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Problem"));
     }
     return {};
 }
 
-QString HistoryTexts::nameOf(HistoryChange change)
+QString HistoryTexts::changeOf(const HistoryItem& item)
 {
-    switch (change) {
+    if (item.data == HistoryData::AcceptedProblems)
+        return item.change == HistoryChange::Gone
+                   ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "listed again"))
+                   : translated(QT_TRANSLATE_NOOP("HistoryTexts", "accepted"));
+    switch (item.change) {
     case HistoryChange::Came:
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "new"));
     case HistoryChange::Gone:
@@ -154,6 +163,10 @@ QString HistoryTexts::caption(HistoryData data, const std::string& key) const
         const SurveyColumn* const column = surveyColumn(key);
         return column == nullptr ? lum::toQString(key)
                                  : QCoreApplication::translate("SurveyColumns", column->caption);
+    }
+    if (data == HistoryData::AcceptedProblems) {
+        const ProblemKind* const kind = findProblemKind(key);
+        return kind == nullptr ? lum::toQString(key) : kind->captionText();
     }
     const ControlRow* const row = parameter(data, key);
     return row == nullptr ? lum::toQString(key) : row->caption;

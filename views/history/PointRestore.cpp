@@ -63,13 +63,15 @@ void removeUnchanged(const Points& present, Points& points, PointRestore& result
 }
 
 /// How many points the items are about. Measurements of one check point have one name.
-std::size_t pointsOf(const std::vector<HistoryItem>& items, std::size_t& parameters)
+std::size_t pointsOf(const std::vector<HistoryItem>& items, PointRestore& result)
 {
     std::size_t points = 0;
     std::set<std::tuple<HistoryData, std::string, std::string>> named;
     for (const HistoryItem& item : items) {
-        if (item.data != HistoryData::Results && item.data != HistoryData::Design)
-            ++parameters;
+        if (item.data == HistoryData::AcceptedProblems)
+            ++result.acceptances;
+        else if (item.data != HistoryData::Results && item.data != HistoryData::Design)
+            ++result.parameters;
         else if (item.field.empty())
             ++points;
         else
@@ -93,6 +95,8 @@ QString PointRestore::told() const
     add(unchanged, QT_TRANSLATE_NOOP("PointRestore", "Already so: %1."));
     add(impossible, QT_TRANSLATE_NOOP("PointRestore", "New then, or not there any more: %1."));
     add(parameters, QT_TRANSLATE_NOOP("PointRestore", "Parameters, which stay as they are: %1."));
+    add(acceptances,
+        QT_TRANSLATE_NOOP("PointRestore", "Accepted problems, which stay as they are: %1."));
     return sentences.join(QLatin1Char(' '));
 }
 
@@ -103,7 +107,7 @@ PointRestore restorePoints(const HistoryAction& action, const std::vector<Histor
         pointsBefore(action, items, manager.designPoints(), manager.surveyPoints());
     const std::size_t found = points.design.pointCount() + points.results.pointCount();
     PointRestore result;
-    const std::size_t asked = pointsOf(items, result.parameters);
+    const std::size_t asked = pointsOf(items, result);
     result.impossible = asked - std::min(asked, found);
     removeUnchanged(manager.designPoints(), points.design, result);
     removeUnchanged(manager.surveyPoints(), points.results, result);
