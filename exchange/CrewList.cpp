@@ -15,13 +15,8 @@ QString translated(const char* text)
     return QCoreApplication::translate("CrewList", text);
 }
 
-/// \param write  `Outcome()`
-template <class Write>
-Outcome written(const CrewList& list, Write write)
+Outcome withNotice(Outcome writing, const CrewList& list)
 {
-    if (list.points().empty())
-        return Outcome::refused(list.notice());
-    Outcome writing = write();
     if (writing.isDone())
         writing.add(list.notice());
     return writing;
@@ -76,8 +71,7 @@ QString CrewList::notice() const
 
 Outcome writeCrewCsv(const QString& path, const CrewList& list, ProgressReporter& progress)
 {
-    return written(
-        list, [&] { return writeDesignCsv(path, list.points(), list.lines(), false, progress); });
+    return withNotice(writeDesignCsv(path, list.points(), list.lines(), false, progress), list);
 }
 
 Outcome writeCrewKml(const QString& path, const CrewList& list, ICoordTransform& transform,
@@ -94,12 +88,12 @@ Outcome writeCrewKml(const QString& path, const CrewList& list, ICoordTransform&
             KmlText::addText(problem, why, label.description);
         label.style = isReceiver ? &kKmlReceiver : &kKmlSource;
     };
-    return written(list, [&] {
-        return exportKml(
+    return withNotice(
+        exportKml(
             {path, lines, transform, progress,
              QCoreApplication::translate("DesignCsv", "Export Design Data"), "Design Point",
              nullptr},
             list.points(), [](const DesignPoint& /*point*/) { return true; }, describe,
-            [](const DesignPoint& /*first*/, std::size_t /*points*/) { return KmlLabel(); });
-    });
+            [](const DesignPoint& /*first*/, std::size_t /*points*/) { return KmlLabel(); }),
+        list);
 }

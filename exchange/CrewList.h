@@ -48,7 +48,7 @@ private:
     std::size_t m_withoutPoint = 0;
 };
 
-/// Writes the points as `writeDesignCsv` does. A list without points is refused.
+/// Writes the points as `writeDesignCsv` does; of a list without points the heading alone.
 /// \returns with the list's notice when it is done; else the file is as it was
 Outcome writeCrewCsv(const QString& path, const CrewList& list, ProgressReporter& progress);
 

@@ -292,7 +292,7 @@ TEST_F(ProjectAcceptances, AListForTheCrewHasDesignPoints)
               "10012034,1000,12.0000,20.0000,30.0000,10012034,40.000000,1,0\n"
               "10012034,1001,10.0000,20.0000,30.0000,10012034,40.000000,1,1\n"
               "10012035,1001,11.0000,20.0000,30.0000,10012035,40.000000,1,0\n");
-    EXPECT_EQ(manager.exportCrewList({chosen[2]}, path, &outcome), 0);
-    EXPECT_EQ(TestFolder::read(path), written);
+    EXPECT_EQ(manager.exportCrewList({chosen[2]}, path, &outcome), 1);
+    EXPECT_EQ(TestFolder::read(path), written.left(written.indexOf('\n') + 1));
     EXPECT_EQ(manager.exportCrewList(chosen, place.database(), &outcome), 0);
 }
