@@ -5,6 +5,7 @@
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
+#include "project/DatabaseReason.h"
 #include "quality/problems/Acceptance.h"
 
 #include <QCoreApplication>
@@ -89,13 +90,8 @@ QString translated(const char* text)
     return QCoreApplication::translate("ProjectStore", text);
 }
 
-} // namespace
-
-bool read(IDBAdapter& database, Acceptances& acceptances)
+bool readKnown(IDBAdapter& database, Acceptances& acceptances)
 {
-    acceptances.clear();
-    if (!database.tableExists(kName) || !isKnown(database))
-        return true;
     const std::string question =
         std::string("select ") + kColumns + " from " + kName + " where " + knownRows();
     return database.forEachRow(question.c_str(), [&](const IDictionary& row) {
@@ -104,33 +100,11 @@ bool read(IDBAdapter& database, Acceptances& acceptances)
     });
 }
 
-bool write(IDBAdapter& database, const Acceptances& acceptances)
+/// About the rows of newer versions; empty when there are none.
+QString newerNotice(IDBAdapter& database)
 {
-    const bool isThere = database.tableExists(kName);
-    if (isThere && !isKnown(database)) {
-        basalt::logWarning("The table of accepted problems is of a newer version: it stays as it "
-                           "is.");
-        return true;
-    }
-    Acceptances stored;
-    if (!read(database, stored))
-        return false;
-    if (areSame(stored, acceptances))
-        return true;
-    return make(database) && database.remove(kName, knownRows().c_str()) &&
-           insertAll(database, acceptances);
-}
-
-QString notice(IDBAdapter& database)
-{
-    if (!database.tableExists(kName))
-        return {};
-    if (!isKnown(database))
-        return translated(QT_TRANSLATE_NOOP(
-            "ProjectStore", "The accepted problems of this project are of a newer version of the "
-                            "program. They are kept, but not shown, and what you accept is not "
-                            "added to them."));
-    const auto newer = database.rowCount(kName, ("form > " + std::to_string(kForm)).c_str());
+    const std::string condition = "typeof(form) = 'integer' and form > " + std::to_string(kForm);
+    const std::int64_t newer = database.rowCount(kName, condition.c_str());
     if (newer <= 0)
         return {};
     return translated(QT_TRANSLATE_NOOP("ProjectStore",
@@ -138,6 +112,52 @@ QString notice(IDBAdapter& database)
                                         "of the program has written: %1. They are kept, but not "
                                         "shown as accepted."))
         .arg(lum::groupedNumber(newer));
+}
+
+} // namespace
+
+QString read(IDBAdapter& database, Acceptances& acceptances)
+{
+    acceptances.clear();
+    if (!database.tableExists(kName))
+        return {};
+    if (!isKnown(database))
+        return translated(QT_TRANSLATE_NOOP(
+            "ProjectStore", "The accepted problems of this project are of another version of the "
+                            "program. They are kept, but not shown, and what you accept is not "
+                            "added to them."));
+    if (readKnown(database, acceptances))
+        return newerNotice(database);
+    const std::string reason = database.lastError();
+    basalt::logError("Cannot read the accepted problems: " + reason);
+    acceptances.clear();
+    return translated(QT_TRANSLATE_NOOP("ProjectStore",
+                                        "The accepted problems of this project cannot be read: "
+                                        "%1."))
+        .arg(databaseReason(reason));
+}
+
+bool write(IDBAdapter& database, const Acceptances& acceptances, QString& notice)
+{
+    const bool isThere = database.tableExists(kName);
+    if (isThere && !isKnown(database)) // as was said when it was read
+        return true;
+    Acceptances stored;
+    const bool isRead = !isThere || readKnown(database, stored);
+    if (isRead ? areSame(stored, acceptances) : acceptances.empty())
+        return true;
+    if (!database.execute("savepoint acceptances"))
+        return false;
+    if (isRead && make(database) && database.remove(kName, knownRows().c_str()) &&
+        insertAll(database, acceptances))
+        return database.execute("release acceptances");
+    const std::string reason = database.lastError();
+    basalt::logError("Cannot write the accepted problems: " + reason);
+    notice = translated(QT_TRANSLATE_NOOP("ProjectStore",
+                                          "The points are saved, but not which problems you have "
+                                          "accepted: %1."))
+                 .arg(databaseReason(reason));
+    return database.execute("rollback to acceptances; release acceptances");
 }
 
 } // namespace AcceptanceTable

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 class Acceptances;
 class IDBAdapter;
 class QString;
@@ -13,16 +11,15 @@ namespace AcceptanceTable {
 inline constexpr int kForm = 1; ///< of the rows that this version writes
 inline constexpr const char* kName = "ProblemAcceptance";
 
-/// Replaces what `acceptances` holds; without a table there is none.
-/// \returns whether it succeeded; the adapter says why it did not
-bool read(IDBAdapter& database, Acceptances& acceptances);
+/// Replaces what `acceptances` holds; without a table there is none. A table that cannot be read
+/// keeps nobody from opening the project.
+/// \returns what could not be read, and why, for the user; mostly empty
+[[nodiscard]] QString read(IDBAdapter& database, Acceptances& acceptances);
 
-/// Makes the table tell what `acceptances` hold. One that does already is not touched, nor one of a
-/// newer version that this one cannot write; the log says so.
-/// \returns whether it succeeded; the adapter says why it did not
-bool write(IDBAdapter& database, const Acceptances& acceptances);
-
-/// What the table has that this version cannot show, for the user; empty when there is nothing.
-[[nodiscard]] QString notice(IDBAdapter& database);
+/// Makes the table tell what `acceptances` hold; one that does already is not touched. A table that
+/// does not take them stays as it is, and keeps nobody from saving the points.
+/// \param notice  gets why they are not written, for the user; mostly stays as it is
+/// \returns false when the transaction is lost
+bool write(IDBAdapter& database, const Acceptances& acceptances, QString& notice);
 
 } // namespace AcceptanceTable

@@ -25,7 +25,6 @@
 #include "model/CodeTables.h"
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
-#include "project/AcceptanceTable.h"
 #include "project/DesignDatabase.h"
 #include "project/edits/EditParts.h"
 #include "project/history/HistoryWriter.h"
@@ -174,7 +173,6 @@ Outcome DataProcessDataManager::read(const ProjectPlace& place)
     m_place = place;
     reading.add(m_projectFileFault);
     reading.add(history().notice());
-    reading.add(AcceptanceTable::notice(m_database));
     return reading;
 }
 
@@ -287,14 +285,17 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
         writing = ProjectCreator::replaceDatabase(place);
     if (writing.isDone())
         writing = writeDatabase(m_database, place.database(), m_unsaved);
+    const QString notice = writing.isDone() ? writing.text() : QString();
     if (writing.isDone()) {
-        m_unsaved.clear(); // the history has them, also when one of the next files fails
+        if (m_unsaved.holdChanges())
+            m_unsaved.clear(); // the history has them, also when one of the next files fails
         writing = ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
     }
     if (writing.isDone() && !m_projectFile.isEmpty())
         writing = ProjectFile::write(m_projectFile, m_project);
     if (writing.isDone())
         ParameterFiles::writeTemplate(m_designParameters);
+    writing.add(notice);
     return writing;
 }
 
@@ -328,8 +329,10 @@ Outcome DataProcessDataManager::fillCopy(const ProjectPlace& copy)
     if (writing.isDone() && !isTaken)
         basalt::logWarning("The copy \"" + path.toStdString() +
                            "\" has no tables that other programs added to the project.");
+    const QString notice = writing.isDone() ? writing.text() : QString();
     if (writing.isDone())
         writing = ParameterFiles::write(copy.folder, m_qualityParameters, m_designParameters);
+    writing.add(notice);
     return writing;
 }
 
@@ -378,7 +381,7 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
 Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path,
                                               const UnsavedEdits& edits)
 {
-    const HistoryWriter history(edits.entries(), editedData(), HistoryAuthor::current());
+    HistoryWriter history(edits, editedData(), HistoryAuthor::current());
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
@@ -549,10 +552,10 @@ void DataProcessDataManager::setOtherSystemHandler(OtherSystemHandler handler)
 
 std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointName>& points)
 {
-    return deleteSurveyPoints(PointNames(points));
+    return deleteResults(PointNames(points));
 }
 
-std::size_t DataProcessDataManager::deleteSurveyPoints(PointNames&& names)
+std::size_t DataProcessDataManager::deleteResults(PointNames&& names)
 {
     const std::size_t before = m_survey.pointCount();
     const auto edit = std::make_shared<Edit>(EditKinds::kDeleteResults);
@@ -576,7 +579,7 @@ std::size_t DataProcessDataManager::deleteSurveyLines(const QStringList& lines)
              line != nullptr && point != line->end(); ++point)
             numbers.push_back(point->pointNumber);
     }
-    return deleteSurveyPoints(std::move(names));
+    return deleteResults(std::move(names));
 }
 
 int DataProcessDataManager::correctSurveyPoint(const PointName& name,
@@ -622,19 +625,18 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
     if (count == 0)
         return 0;
     const auto edit = std::make_shared<Edit>(EditKinds::kRestore, count);
-    const auto add = [&](auto&& part) {
-        PointNames names = part.names();
+    const auto add = [&](auto&& part, PointNames names = {}) {
+        names.add(part.names());
         edit->add(std::make_unique<SomePoints<std::decay_t<decltype(part)>>>(std::move(names),
                                                                              std::move(part)));
     };
     if (!points.design.empty())
         add(std::move(points.design));
     if (!points.results.empty())
-        add(std::move(points.results));
-    edit->exchange(editedData());
+        add(std::move(points.results), std::move(points.leaving));
+    make(edit);
     if ((edit->scope() & kSurveyScope) != 0)
         recomputeSeaHeights();
-    keep(edit);
     return count;
 }
 

@@ -90,7 +90,7 @@ public:
     void markChanged();
     /// Whether memory holds what the files do not. Opening and saving end it, and taking back all
     /// edits since then, not a failed save. "ON_PROJECT_MODIFIED" is published when it changes.
-    [[nodiscard]] bool isChanged() const { return m_isElseChanged || !m_unsaved.entries().empty(); }
+    [[nodiscard]] bool isChanged() const { return m_isElseChanged || m_unsaved.holdChanges(); }
 
     // Edits: whatever changes points or parameters.
 
@@ -102,12 +102,11 @@ public:
     int exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack, Outcome* outcome = nullptr);
     /// What was done and taken back since the project was saved last.
     [[nodiscard]] const UnsavedEdits& unsavedEdits() const { return m_unsaved; }
-    /// Why an edit was made, in the user's words, for the history. It can be told until the project
-    /// is saved.
-    void setReason(const std::shared_ptr<Edit>& edit, const QString& reason)
-    {
-        m_unsaved.setReason(edit, reason);
-    }
+    /// Why an edit was made, in the user's words, for the history.
+    /// \param entry  its place in `unsavedEdits`
+    void setReason(std::size_t entry, const QString& reason) { m_unsaved.setReason(entry, reason); }
+    /// Whoever keeps the edits will not exchange this one and those before it any more.
+    void letGo(const std::shared_ptr<Edit>& edit) { m_unsaved.letGo(edit, editedData()); }
     /// Reads the history of the open project: what was saved. To be used at once.
     [[nodiscard]] HistoryReader history() { return HistoryReader(m_database); }
     /// What the next save adds to it. To be used at once.
@@ -261,7 +260,7 @@ public:
 
 private:
     [[nodiscard]] EditedData editedData();
-    std::size_t deleteSurveyPoints(PointNames&& names);
+    std::size_t deleteResults(PointNames&& names);
     /// Makes the change that a new edit holds, and keeps the edit.
     void make(const std::shared_ptr<Edit>& edit);
     /// Keeps an edit that is made, with room for it in `m_unsaved`.

@@ -180,8 +180,9 @@ Outcome ProjectLoader::load(const std::string& path, DesignPoints& design, Surve
         return recovery;
     const Outcome reading = readAs(path, lum::databaseConnection(path), [&] {
         m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
-        return readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters) &&
-               readAcceptances(acceptances);
+        if (acceptances != nullptr)
+            recovery.add(AcceptanceTable::read(m_database, *acceptances));
+        return readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters);
     });
     m_progress.finish();
     return reading.isDone() ? recovery : reading;
@@ -287,12 +288,6 @@ bool ProjectLoader::readCoordinateSystem(IDictionary& coordParameters)
             coordParameters.set(lowerName(column), rowText(*value));
     }
     return true;
-}
-
-bool ProjectLoader::readAcceptances(Acceptances* acceptances)
-{
-    return acceptances == nullptr || AcceptanceTable::read(m_database, *acceptances) ||
-           fail(m_database.lastError());
 }
 
 bool ProjectLoader::plan(const char* table, Plan& plan)

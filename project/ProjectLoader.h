@@ -61,7 +61,6 @@ private:
     bool readSurvey(SurveyPoints& survey, const SurveyPoints& standing, ResultRows& rows);
     bool readSurvey(std::vector<SurveyPoint>& records);
     bool readCoordinateSystem(IDictionary& coordParameters);
-    bool readAcceptances(Acceptances* acceptances);
     bool plan(const char* table, Plan& plan);
     /// \param reports how many progress reports there are, about
     template <class Part>

@@ -53,7 +53,10 @@ Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
     copy.drop();
     m_database.open(connection.c_str()); // no longer exclusively
     m_progress.hide();
-    return Outcome::done();
+    Outcome saving = Outcome::done(m_notice);
+    if (beside.history != nullptr)
+        saving.add(beside.history->notice());
+    return saving;
 }
 
 bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& survey,
@@ -69,7 +72,7 @@ bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& surv
                       caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Survey Data"))}) &&
            addCoordinateSystem(m_database, coordParameters) &&
            (beside.acceptances == nullptr ||
-            AcceptanceTable::write(m_database, *beside.acceptances)) &&
+            AcceptanceTable::write(m_database, *beside.acceptances, m_notice)) &&
            (beside.history == nullptr || beside.history->write(m_database, m_progress)) &&
            m_database.execute(SafetyCopy::kUnmark) && m_database.commit();
 }

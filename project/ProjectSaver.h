@@ -15,7 +15,7 @@ class ProgressReporter;
 struct SavedBeside
 {
     const Acceptances* acceptances = nullptr;
-    const HistoryWriter* history = nullptr;
+    HistoryWriter* history = nullptr;
 };
 
 /// Writes a project into its database: one transaction empties the three tables, a second fills
@@ -40,4 +40,5 @@ private:
 
     IDBAdapter& m_database;
     ProgressReporter& m_progress;
+    QString m_notice; ///< about acceptances that could not be written
 };

@@ -38,7 +38,7 @@ public:
         m_isPushed = true;
     }
 
-    [[nodiscard]] bool isOf(const std::shared_ptr<Edit>& edit) const { return m_edit == edit; }
+    [[nodiscard]] const std::shared_ptr<Edit>& edit() const { return m_edit; }
     [[nodiscard]] std::size_t bytes() const { return m_edit == nullptr ? 0 : m_edit->bytes(); }
     void letGo() { m_edit.reset(); }
 
@@ -180,7 +180,8 @@ void EditSteps::settle(const std::shared_ptr<Edit>& edit)
 {
     announce();
     const int last = m_stack.index() - 1;
-    if (edit == nullptr || edit->bytes() <= m_mostBytes || last < m_letGo || !step(last).isOf(edit))
+    if (edit == nullptr || edit->bytes() <= m_mostBytes || last < m_letGo ||
+        step(last).edit() != edit)
         return;
     if (mayLetGo(edit->title(), edit->bytes())) {
         letGo(last);
@@ -201,6 +202,7 @@ void EditSteps::dropTakenBack()
 
 void EditSteps::letGo(int last)
 {
+    DataProcessDataManager::instance().letGo(step(last).edit());
     for (; m_letGo <= last; ++m_letGo)
         step(m_letGo).letGo();
 }
@@ -224,7 +226,7 @@ void EditSteps::letOldestGo()
     for (int i = m_stack.count() - 1; i >= m_letGo; --i) {
         bytes += step(i).bytes();
         if (bytes > m_mostBytes && i < m_stack.count() - 1)
-            letGo(i);
+            return letGo(i);
     }
 }
 

@@ -246,6 +246,22 @@ TEST_F(ProjectAcceptances, OfANewerVersionAreKept)
     EXPECT_EQ(rows(), before);
 }
 
+TEST_F(ProjectAcceptances, ATableThatTakesNoneKeepsNobodyFromSaving)
+{
+    accept("7");
+    save();
+    execute("create trigger t before insert on ProblemAcceptance begin "
+            "select raise(abort, 'no more of them'); end");
+    const std::string before = rows();
+    accept("8");
+    remark("8", "saved");
+    expectNotice(manager.saveProject(place), "no more of them");
+    EXPECT_EQ(rows(), before);
+    reopen();
+    EXPECT_EQ(accepted(), Texts{"7"});
+    EXPECT_EQ(manager.surveyPoints().find("测 '1'", "8")->remarks, "saved");
+}
+
 TEST_F(ProjectAcceptances, AreInACopyAndNotInAnExport)
 {
     accept("7");

@@ -28,7 +28,7 @@ Outcome saveChanged(const TestProject& before, TestProject project, const std::s
     basalt::Dictionary none;
     const EditedData present{project.design,     project.survey, none, none, none, {},
                              project.acceptances};
-    const HistoryWriter history(edits.entries(), present, {"me"_q, "here"_q});
+    HistoryWriter history(edits, present, {"me"_q, "here"_q});
     return project.save(path, nullptr, &history);
 }
 

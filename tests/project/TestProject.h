@@ -29,7 +29,7 @@ struct TestProject
     }
     template <class Adapter = DBAdapter>
     Outcome save(const std::string& path, IEventManager* events = nullptr,
-                 const HistoryWriter* history = nullptr) const
+                 HistoryWriter* history = nullptr) const
     {
         Adapter database;
         ProgressReporter progress(events);

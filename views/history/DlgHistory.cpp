@@ -135,7 +135,7 @@ void DlgHistory::addTables(QVBoxLayout& rows)
     m_actions->setReasonHandler([](const HistoryActionModel::Row& row, const QString& reason) {
         const auto& entries = manager().unsavedEdits().entries();
         if (row.unsaved && *row.unsaved < entries.size())
-            manager().setReason(entries[entries.size() - 1 - *row.unsaved].edit, reason);
+            manager().setReason(entries.size() - 1 - *row.unsaved, reason);
     });
     connect(m_actionTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &DlgHistory::showItems);

@@ -22,8 +22,7 @@ int HistoryActionModel::rowOf(const HistoryAction& action) const
 {
     const auto found = std::ranges::find_if(m_rows, [&](const Row& row) {
         const HistoryAction& each = row.event.action;
-        return each.time == action.time && each.kind == action.kind &&
-               each.isTakenBack == action.isTakenBack;
+        return each.time == action.time && each.kind == action.kind && each.state == action.state;
     });
     return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
 }

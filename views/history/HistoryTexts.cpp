@@ -135,12 +135,14 @@ QString HistoryTexts::kindName(const std::string& kind)
 
 QString HistoryTexts::stateOf(const HistoryAction& action, bool isSaved)
 {
+    if (action.state == HistoryState::Undone)
+        return translated(QT_TRANSLATE_NOOP("HistoryTexts", "done and taken back"));
+    const bool isTakenBack = action.state == HistoryState::TakenBack;
     if (isSaved)
-        return action.isTakenBack ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back"))
-                                  : translated(QT_TRANSLATE_NOOP("HistoryTexts", "done"));
-    return action.isTakenBack
-               ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back, not saved yet"))
-               : translated(QT_TRANSLATE_NOOP("HistoryTexts", "not saved yet"));
+        return isTakenBack ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back"))
+                           : translated(QT_TRANSLATE_NOOP("HistoryTexts", "done"));
+    return isTakenBack ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back, not saved yet"))
+                       : translated(QT_TRANSLATE_NOOP("HistoryTexts", "not saved yet"));
 }
 
 QString HistoryTexts::timeOf(const HistoryAction& action)

@@ -17,32 +17,6 @@ QString translated(const char* text)
     return QCoreApplication::translate("PointRestore", text);
 }
 
-/// Compares points by what is stored of them, but for the verdicts of the checks.
-template <class Points>
-class SameRecord
-{
-    using Record = PointRecord<Points>;
-
-public:
-    using Point = typename Points::Point;
-
-    bool operator()(const Point& first, const Point& second)
-    {
-        Record::write(first, *m_first);
-        Record::write(second, *m_second);
-        for (std::size_t i = 0; i < m_columns.size(); ++i) {
-            if (!isVerdict<Points>(m_columns[i]) && m_first->values()[i] != m_second->values()[i])
-                return false;
-        }
-        return true;
-    }
-
-private:
-    std::vector<std::string> m_columns = listedColumns(Record::columns());
-    std::unique_ptr<RecordTexts> m_first = std::make_unique<RecordTexts>();
-    std::unique_ptr<RecordTexts> m_second = std::make_unique<RecordTexts>();
-};
-
 /// Removes the points that are in the project as they are here.
 template <class Points>
 void removeUnchanged(const Points& present, Points& points, PointRestore& result)
@@ -65,6 +39,8 @@ void removeUnchanged(const Points& present, Points& points, PointRestore& result
 /// How many points the items are about. Measurements of one check point have one name.
 std::size_t pointsOf(const std::vector<HistoryItem>& items, PointRestore& result)
 {
+    if (std::ranges::any_of(items, isRename)) // of one result, by both its names
+        return 1;
     std::size_t points = 0;
     std::set<std::tuple<HistoryData, std::string, std::string>> named;
     for (const HistoryItem& item : items) {

@@ -98,10 +98,10 @@ QByteArray designCsv(const PlainProject::Points& points)
 
 /// Random operations of the program beside a plain project. The edits are kept as a window would
 /// keep them, each with the state before it.
-class EditWalk : public testing::Test
+class RandomEdits : public testing::Test
 {
 protected:
-    EditWalk()
+    RandomEdits()
     {
         create(m_place);
         m_template = basalt::Dictionary(m_manager.designParameters());
@@ -115,7 +115,7 @@ protected:
         reload();
     }
 
-    ~EditWalk() override { ParameterFiles::writeTemplate(m_template); } // every save changes it
+    ~RandomEdits() override { ParameterFiles::writeTemplate(m_template); } // every save changes it
 
     void create(const ProjectPlace& place)
     {
@@ -366,16 +366,16 @@ protected:
     /// One of them. Only the last states are kept.
     void change()
     {
-        using Operation = bool (EditWalk::*)(PlainProject&);
+        using Operation = bool (RandomEdits::*)(PlainProject&);
         static constexpr Operation kOperations[] = {
-            &EditWalk::importResults, &EditWalk::importResults,  &EditWalk::deletePoints,
-            &EditWalk::deletePoints,  &EditWalk::correctResult,  &EditWalk::correctResult,
-            &EditWalk::correctResult, &EditWalk::correctResult,  &EditWalk::importDesign,
-            &EditWalk::correctDesign, &EditWalk::setParameters,  &EditWalk::deleteLines,
-            &EditWalk::generate,      &EditWalk::setCoordSystem, &EditWalk::accept,
-            &EditWalk::accept,        &EditWalk::endAcceptances};
+            &RandomEdits::importResults, &RandomEdits::importResults,  &RandomEdits::deletePoints,
+            &RandomEdits::deletePoints,  &RandomEdits::correctResult,  &RandomEdits::correctResult,
+            &RandomEdits::correctResult, &RandomEdits::correctResult,  &RandomEdits::importDesign,
+            &RandomEdits::correctDesign, &RandomEdits::setParameters,  &RandomEdits::deleteLines,
+            &RandomEdits::generate,      &RandomEdits::setCoordSystem, &RandomEdits::accept,
+            &RandomEdits::accept,        &RandomEdits::endAcceptances};
         const Operation operation = below(40) == 0
-                                        ? &EditWalk::importDatabase
+                                        ? &RandomEdits::importDatabase
                                         : kOperations[below(unsigned(std::size(kOperations)))];
         PlainProject next = present();
         const bool isEdit = (this->*operation)(next);
@@ -506,8 +506,8 @@ protected:
 
 } // namespace
 
-// EDITS=100000 project_test --gtest_filter=EditWalk* goes on for longer.
-TEST_F(EditWalk, EndsWithTheBytesOfAPlainModel)
+// EDITS=100000 project_test --gtest_filter=RandomEdits* goes on for longer.
+TEST_F(RandomEdits, EndsWithTheBytesOfAPlainModel)
 {
     const int steps =
         qEnvironmentVariableIsSet("EDITS") ? qEnvironmentVariableIntValue("EDITS") : 2000;
