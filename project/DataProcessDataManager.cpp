@@ -55,6 +55,7 @@
 #include <gdal.h>
 #include <ogr_api.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -655,7 +656,14 @@ std::size_t DataProcessDataManager::accept(std::vector<Acceptance> problems)
         acceptance.time = now;
         accepted.set(std::move(acceptance));
     }
-    return changeAcceptances(EditKinds::kAcceptProblems, problems, std::move(accepted));
+    const std::size_t count =
+        changeAcceptances(EditKinds::kAcceptProblems, problems, std::move(accepted));
+    const auto hasFirstReason = [&](const Acceptance& problem) {
+        return problem.reason == problems.front().reason;
+    };
+    if (count != 0 && std::ranges::all_of(problems, hasFirstReason))
+        m_unsaved.setReason(m_unsaved.entries().size() - 1, problems.front().reason);
+    return count;
 }
 
 std::size_t DataProcessDataManager::endAcceptances(std::vector<Acceptance> problems)

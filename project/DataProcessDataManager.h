@@ -186,8 +186,8 @@ public:
     // Problems that the user accepts as they are.
 
     [[nodiscard]] const Acceptances& acceptances() const { return m_acceptances; }
-    /// Accepts problems; person and time become those of now. Those that are accepted for the same
-    /// reason already are passed over.
+    /// Accepts problems; person and time become those of now, and a reason that all have is also
+    /// that of the edit. Those that are accepted for the same reason already are passed over.
     /// \returns how many are accepted
     std::size_t accept(std::vector<Acceptance> problems);
     /// Lists accepted problems again; what is not accepted is passed over.
