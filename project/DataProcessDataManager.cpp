@@ -732,6 +732,7 @@ void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
 void DataProcessDataManager::applyCoordSystem(const IDictionary& parameters)
 {
     get_project_coord_transform().initialise(parameters, parameters);
+    CoordinateRecord::copy(get_project_coord_transform().parameters(), m_project);
     recomputeSeaHeights();
 }
 

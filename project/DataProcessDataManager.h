@@ -239,8 +239,9 @@ public:
 
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }
-    /// The description of the project as a whole, keys as in ProjectFile.h. It also holds the
-    /// coordinate system that the project was made with, which may be older than the present one.
+    /// The description of the project as a whole, keys as in ProjectFile.h. It also holds a
+    /// coordinate system: the present one, once that was changed; until then the one of the file,
+    /// which may be older.
     [[nodiscard]] IDictionary& project() { return m_project; }
     /// The limits of the quality checks, "qc_param.ini".
     [[nodiscard]] IDictionary& qualityParameters() { return m_qualityParameters; }

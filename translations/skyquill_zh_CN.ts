@@ -2240,10 +2240,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>操作步骤</translation>
     </message>
     <message>
-        <source>A double click goes to the state behind a step.</source>
-        <translation>双击某一步骤，回到该步骤完成后的状态。</translation>
-    </message>
-    <message>
         <source>&amp;Go To</source>
         <translation>转到(&amp;G)</translation>
     </message>
@@ -2254,6 +2250,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The project before these steps</source>
         <translation>这些步骤之前的工程</translation>
+    </message>
+    <message>
+        <source>Double-click a step to see the project as it was right after it.</source>
+        <translation>双击某一步骤，可查看该步骤刚完成时的工程。</translation>
     </message>
 </context>
 <context>
@@ -2341,12 +2341,8 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>把这些点恢复为该操作之前的状态。可以撤销。</translation>
     </message>
     <message>
-        <source>Select changes of one action above.</source>
-        <translation>请在上面选中同一操作的更改。</translation>
-    </message>
-    <message>
-        <source>Point %1 is not in the project now.</source>
-        <translation>工程中现在没有点 %1。</translation>
+        <source>Select changes in the lower table, all of one action, to put their points back.</source>
+        <translation>请在下面的表格中选中同一操作的更改，即可恢复其中的点。</translation>
     </message>
 </context>
 <context>
@@ -2780,6 +2776,46 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Restore a point</source>
         <translation>恢复 1 个点</translation>
     </message>
+    <message>
+        <source>Imports of design points</source>
+        <translation>导入设计点</translation>
+    </message>
+    <message>
+        <source>Imports of results</source>
+        <translation>导入测量成果</translation>
+    </message>
+    <message>
+        <source>Deletions of results</source>
+        <translation>删除测量成果</translation>
+    </message>
+    <message>
+        <source>Corrections of results</source>
+        <translation>修改测量成果</translation>
+    </message>
+    <message>
+        <source>Corrections of design points</source>
+        <translation>修改设计点</translation>
+    </message>
+    <message>
+        <source>Generated designs</source>
+        <translation>生成设计</translation>
+    </message>
+    <message>
+        <source>Quality limits</source>
+        <translation>质量限差</translation>
+    </message>
+    <message>
+        <source>Design parameters</source>
+        <translation>设计参数</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>Restored points</source>
+        <translation>恢复点</translation>
+    </message>
 </context>
 <context>
     <name>EditSteps</name>
@@ -2800,8 +2836,24 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>撤销</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; can be taken back now, but not later: to keep what it replaced takes %2 MiB, more than the %3 MiB for all steps. Keep what it did?</source>
-        <translation>“%1”现在可以撤销，以后不能：保留被替换的数据需要 %2 MiB，超过全部步骤可用的 %3 MiB。保留这次更改吗？</translation>
+        <source>Taken back: %1 steps</source>
+        <translation>已撤销：%1 步</translation>
+    </message>
+    <message>
+        <source>Done again: %1 steps</source>
+        <translation>已重做：%1 步</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can be taken back now, but not later: to keep what it replaced takes %2 MiB, more than the %3 MiB for all steps.</source>
+        <translation>“%1”现在可以撤销，以后不能：保留被替换的数据需要 %2 MiB，超过全部步骤可用的 %3 MiB。</translation>
+    </message>
+    <message>
+        <source>The steps before it cannot be taken back later either: %1.</source>
+        <translation>在它之前的 %1 个步骤以后也不能撤销。</translation>
+    </message>
+    <message>
+        <source>Take it back?</source>
+        <translation>现在撤销吗？</translation>
     </message>
 </context>
 <context>
@@ -3235,44 +3287,8 @@ The positions stay the numbers that they are: nothing is converted. They then co
 <context>
     <name>HistoryTexts</name>
     <message>
-        <source>Imports of design points</source>
-        <translation>导入设计点</translation>
-    </message>
-    <message>
-        <source>Imports of results</source>
-        <translation>导入测量成果</translation>
-    </message>
-    <message>
-        <source>Deletions of results</source>
-        <translation>删除测量成果</translation>
-    </message>
-    <message>
-        <source>Corrections of results</source>
-        <translation>修改测量成果</translation>
-    </message>
-    <message>
-        <source>Corrections of design points</source>
-        <translation>修改设计点</translation>
-    </message>
-    <message>
-        <source>Generated designs</source>
-        <translation>生成设计</translation>
-    </message>
-    <message>
-        <source>Quality limits</source>
-        <translation>质量限差</translation>
-    </message>
-    <message>
-        <source>Design parameters</source>
-        <translation>设计参数</translation>
-    </message>
-    <message>
         <source>Coordinate system</source>
         <translation>坐标系统</translation>
-    </message>
-    <message>
-        <source>Restored points</source>
-        <translation>恢复点</translation>
     </message>
     <message>
         <source>Result</source>
@@ -3899,12 +3915,12 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>本来就是如此：%1。</translation>
     </message>
     <message>
-        <source>New then, or not there any more: %1.</source>
-        <translation>当时新增或现已不存在：%1。</translation>
+        <source>Not restored, because they were new then or are gone now: %1.</source>
+        <translation>未恢复（当时为新增或现已不存在）：%1。</translation>
     </message>
     <message>
-        <source>Parameters, which stay as they are: %1.</source>
-        <translation>参数保持不变：%1。</translation>
+        <source>Parameters cannot be restored here: %1.</source>
+        <translation>参数不能在此恢复：%1。</translation>
     </message>
 </context>
 <context>
@@ -3964,6 +3980,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>History of This Point</source>
         <translation>此点的历史</translation>
+    </message>
+</context>
+<context>
+    <name>PointVisit</name>
+    <message>
+        <source>Point %1 is not in the project now.</source>
+        <translation>工程中现在没有点 %1。</translation>
     </message>
 </context>
 <context>
@@ -4201,6 +4224,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The history of this project cannot be read: %1.</source>
         <translation>无法读取本工程的历史记录：%1。</translation>
+    </message>
+    <message>
+        <source>The history of this project has lost a table or a column. It is kept, but not shown, and what you change is not added to it.</source>
+        <translation>此工程的历史记录缺少一个表或一个字段。它被保留，但不显示，您所做的更改也不会添加到其中。</translation>
+    </message>
+    <message>
+        <source>Actions in the history of this project whose points are damaged and are not all shown: %1.</source>
+        <translation>此工程历史记录中有 %1 项操作的点数据已损坏，未全部显示。</translation>
+    </message>
+    <message>
+        <source>The points are saved. The history of this project does not take what you have changed: %1.</source>
+        <translation>点已保存。此工程的历史记录未能写入您所做的更改：%1。</translation>
     </message>
 </context>
 <context>

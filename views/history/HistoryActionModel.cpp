@@ -5,11 +5,23 @@
 #include <QFont>
 
 #include <algorithm>
+#include <iterator>
 
-void HistoryActionModel::setRows(std::vector<Row> rows)
+void HistoryActionModel::setSaved(Rows rows)
 {
     beginResetModel();
-    m_rows = std::move(rows);
+    m_rows.erase(m_rows.begin() + m_unsaved, m_rows.end());
+    std::ranges::move(rows, std::back_inserter(m_rows));
+    endResetModel();
+}
+
+void HistoryActionModel::setUnsaved(Rows rows)
+{
+    beginResetModel();
+    m_rows.erase(m_rows.begin(), m_rows.begin() + m_unsaved);
+    m_unsaved = static_cast<int>(rows.size());
+    m_rows.insert(m_rows.begin(), std::make_move_iterator(rows.begin()),
+                  std::make_move_iterator(rows.end()));
     endResetModel();
 }
 

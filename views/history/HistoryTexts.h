@@ -14,7 +14,7 @@ public:
     [[nodiscard]] static QString nameOf(HistoryData data);
     [[nodiscard]] static QString changeOf(const HistoryItem& item);
     [[nodiscard]] static QString nameOf(const PointName& point); ///< "LINE/POINT"
-    /// The name of a kind of actions, in the plural; of one that this version does not know, the
+    /// All actions of a kind; of one that this version does not know, the
     /// name in the database.
     [[nodiscard]] static QString kindName(const std::string& kind);
     [[nodiscard]] static QString stateOf(const HistoryAction& action, bool isSaved);

@@ -69,10 +69,12 @@ QString PointRestore::told() const
                      .arg(lum::groupedNumber(restored));
     add(replacing, QT_TRANSLATE_NOOP("PointRestore", "In place of another state: %1."));
     add(unchanged, QT_TRANSLATE_NOOP("PointRestore", "Already so: %1."));
-    add(impossible, QT_TRANSLATE_NOOP("PointRestore", "New then, or not there any more: %1."));
-    add(parameters, QT_TRANSLATE_NOOP("PointRestore", "Parameters, which stay as they are: %1."));
+    add(impossible,
+        QT_TRANSLATE_NOOP("PointRestore",
+                          "Not restored, because they were new then or are gone now: %1."));
+    add(parameters, QT_TRANSLATE_NOOP("PointRestore", "Parameters cannot be restored here: %1."));
     add(acceptances,
-        QT_TRANSLATE_NOOP("PointRestore", "Accepted problems, which stay as they are: %1."));
+        QT_TRANSLATE_NOOP("PointRestore", "Accepted problems cannot be restored here: %1."));
     return sentences.join(QLatin1Char(' '));
 }
 
