@@ -3,6 +3,7 @@
 #include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/ILogger.h"
 #include "design/DesignGenerator.h"
+#include "exchange/CrewList.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
 #include "exchange/DesignKml.h"
@@ -39,6 +40,7 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "quality/CheckKinds.h"
+#include "quality/MeasuredPoint.h"
 #include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
@@ -54,6 +56,7 @@
 #include <gdal.h>
 #include <ogr_api.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -206,7 +209,8 @@ EditedData DataProcessDataManager::editedData()
             m_qualityParameters,
             m_designParameters,
             get_project_coord_transform().parameters(),
-            [this](const IDictionary& parameters) { applyCoordSystem(parameters); }};
+            [this](const IDictionary& parameters) { applyCoordSystem(parameters); },
+            m_acceptances};
 }
 
 void DataProcessDataManager::setEditHandler(EditHandler handler)
@@ -338,6 +342,7 @@ void DataProcessDataManager::clear()
 {
     m_design.clear();
     m_survey.clear();
+    m_acceptances.clear();
     m_project.clear();
     m_projectFile.clear();
     m_projectFileFault.clear();
@@ -372,7 +377,7 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
 {
     ProgressReporter progress(&m_host.eventManager());
     return ProjectLoader(m_database, progress)
-        .load(path.toStdString(), m_design, m_survey, coordSystem);
+        .load(path.toStdString(), m_design, m_survey, coordSystem, &m_acceptances);
 }
 
 Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path,
@@ -382,7 +387,7 @@ Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QStrin
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
-              &history);
+              {&m_acceptances, &history});
 }
 
 template <class Write>
@@ -484,6 +489,28 @@ int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QStr
     return exportTo(path, outcome, [&](ProgressReporter& progress) {
         return writeSurveyKml(path, {m_survey, lines, words}, get_project_coord_transform(),
                               progress);
+    });
+}
+
+int DataProcessDataManager::exportCrewList(const std::vector<const Problem*>& problems,
+                                           const QString& path, Outcome* outcome)
+{
+    const std::string_view code = qualityParameter(m_qualityParameters, kResurveyCode);
+    CrewList list;
+    for (const Problem* const problem : problems) {
+        const DesignPoint* const point =
+            measuredPoint(m_design, problem->line, problem->point, code);
+        if (problem->point.empty())
+            list.addWithoutPoint();
+        else if (point == nullptr)
+            list.addUnknown(problem->line, problem->point);
+        else
+            list.add(*point, problem->kind->what(*problem).toStdString());
+    }
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return path.endsWith(QLatin1String(".kml"), Qt::CaseInsensitive)
+                   ? writeCrewKml(path, list, get_project_coord_transform(), progress)
+                   : writeCrewCsv(path, list, progress);
     });
 }
 
@@ -630,6 +657,53 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
     return count;
 }
 
+std::size_t DataProcessDataManager::accept(std::vector<Acceptance> problems)
+{
+    std::erase_if(problems, [this](const Acceptance& problem) {
+        const Acceptance* const present = m_acceptances.find(problem);
+        return present != nullptr && present->reason == problem.reason;
+    });
+    const QString person = HistoryAuthor::current().person;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    Acceptances accepted;
+    for (const Acceptance& problem : problems) {
+        Acceptance acceptance = problem;
+        acceptance.person = person;
+        acceptance.time = now;
+        accepted.set(std::move(acceptance));
+    }
+    const std::size_t count =
+        changeAcceptances(EditKinds::kAcceptProblems, problems, std::move(accepted));
+    const auto hasFirstReason = [&](const Acceptance& problem) {
+        return problem.reason == problems.front().reason;
+    };
+    if (count != 0 && std::ranges::all_of(problems, hasFirstReason))
+        m_unsaved.setReason(m_unsaved.entries().size() - 1, problems.front().reason);
+    return count;
+}
+
+std::size_t DataProcessDataManager::endAcceptances(std::vector<Acceptance> problems)
+{
+    std::erase_if(problems, [this](const Acceptance& problem) {
+        return m_acceptances.find(problem) == nullptr;
+    });
+    return changeAcceptances(EditKinds::kEndAcceptances, problems, {});
+}
+
+std::size_t DataProcessDataManager::changeAcceptances(const EditKind& kind,
+                                                      const std::vector<Acceptance>& problems,
+                                                      Acceptances&& other)
+{
+    auto part = std::make_unique<AcceptedProblems>(problems, std::move(other));
+    const std::size_t count = part->problems();
+    if (count == 0)
+        return 0;
+    const auto edit = std::make_shared<Edit>(kind, count);
+    edit->add(std::move(part));
+    make(edit);
+    return count;
+}
+
 int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary& parameters,
                                            Outcome* outcome)
 {
@@ -721,9 +795,16 @@ ProblemList DataProcessDataManager::findProblems(std::span<const ProblemKind* co
     run(std::array{&kQualityCheck, &kEmptyPointCheck, &kResurveyCheck});
     const CheckedData data = checkedData();
     ProgressReporter progress(&m_host.eventManager());
-    return ::findProblems(
-        {data.design, data.survey, data.parameters, data.planeUnitM, shownTimes()}, progress,
-        kinds);
+    ProblemList problems =
+        ::findProblems({data.design, data.survey, data.parameters, data.planeUnitM, shownTimes()},
+                       progress, kinds);
+    markAccepted(problems);
+    return problems;
+}
+
+void DataProcessDataManager::markAccepted(ProblemList& problems) const
+{
+    ::markAccepted(problems, m_acceptances, m_design, m_survey);
 }
 
 CheckResult DataProcessDataManager::resultOf(const CheckKind& check)

@@ -39,7 +39,7 @@ void print(const HistoryAction& action, const HistoryItem& item)
                                << QString::fromStdString(field.oldText)
                                << QString::fromStdString(field.newText));
     };
-    if (item.change == HistoryChange::Came)
+    if (item.change == HistoryChange::Came && item.field.empty())
         return line({});
     for (const HistoryField& field : fieldsOf(action, item)) {
         if (!item.field.empty() || saysSomething(field.oldText) || saysSomething(field.newText))

@@ -21,14 +21,16 @@ const EditKind kQualityLimits{"quality_limits", nullptr, QT_TRANSLATE_NOOP("Edit
 const EditKind kDesignParameters{"design_parameters", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change design parameters"), QT_TRANSLATE_NOOP("EditKinds", "Design parameters")};
 const EditKind kCoordSystem{"coord_system", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change the coordinate system"), QT_TRANSLATE_NOOP("EditKinds", "Coordinate system")};
 const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 points"), QT_TRANSLATE_NOOP("EditKinds", "Restore a point"), QT_TRANSLATE_NOOP("EditKinds", "Restored points")};
+const EditKind kAcceptProblems{"accept_problems", QT_TRANSLATE_NOOP("EditKinds", "Accept %1 problems"), QT_TRANSLATE_NOOP("EditKinds", "Accept a problem"), QT_TRANSLATE_NOOP("EditKinds", "Accepted problems")};
+const EditKind kEndAcceptances{"end_acceptances", QT_TRANSLATE_NOOP("EditKinds", "List %1 accepted problems again"), QT_TRANSLATE_NOOP("EditKinds", "List an accepted problem again"), QT_TRANSLATE_NOOP("EditKinds", "Problems listed again")};
 // clang-format on
 
 std::span<const EditKind* const> all()
 {
-    static constexpr std::array kAll{&kImportDesign,   &kImportSurvey,  &kDeleteResults,
-                                     &kCorrectResult,  &kCorrectDesign, &kRenameResults,
-                                     &kGenerateDesign, &kQualityLimits, &kDesignParameters,
-                                     &kCoordSystem,    &kRestore};
+    static constexpr std::array kAll{
+        &kImportDesign,  &kImportSurvey,   &kDeleteResults, &kCorrectResult,    &kCorrectDesign,
+        &kRenameResults, &kGenerateDesign, &kQualityLimits, &kDesignParameters, &kCoordSystem,
+        &kRestore,       &kAcceptProblems, &kEndAcceptances};
     return kAll;
 }
 

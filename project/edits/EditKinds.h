@@ -10,7 +10,8 @@
 struct EditKind
 {
     const char* name; ///< in the project's history, which is kept for years: never changed
-    /// For the user, context "EditKinds"; %1 is the number of points. Null when nothing is counted.
+    /// For the user, context "EditKinds"; %1 is the number of points or problems. Null when nothing
+    /// is counted.
     const char* title;
     const char* one;    ///< the title for one point, or where nothing is counted
     const char* plural; ///< for all changes of this kind
@@ -34,6 +35,8 @@ extern const EditKind kQualityLimits;
 extern const EditKind kDesignParameters;
 extern const EditKind kCoordSystem;
 extern const EditKind kRestore;
+extern const EditKind kAcceptProblems;
+extern const EditKind kEndAcceptances;
 
 /// In the order of lists.
 [[nodiscard]] std::span<const EditKind* const> all();

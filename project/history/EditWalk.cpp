@@ -206,3 +206,9 @@ void EditWalk::parametersChanged(EditScope which, const IDictionary& before,
     }
     present = &before;
 }
+
+void EditWalk::acceptancesChanged(const std::vector<Acceptance>& problems,
+                                  const Acceptances& before)
+{
+    m_acceptances.walk(problems, before, m_parameterItems);
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/edits/Edit.h"
+#include "project/history/ChangedAcceptances.h"
 #include "project/history/ChangedPoints.h"
 #include "project/history/HistoryRows.h"
 
@@ -26,7 +27,8 @@ class EditWalk final : private IEditReader
 public:
     /// The data and the edits must stay as they are during the walk.
     explicit EditWalk(const EditedData& present)
-        : m_present(present), m_design(present.design), m_results(present.survey)
+        : m_present(present), m_design(present.design), m_results(present.survey),
+          m_acceptances(present.acceptances)
     {
     }
 
@@ -55,15 +57,18 @@ private:
     }
     void parametersChanged(EditScope which, const IDictionary& before,
                            const IDictionary& after) override;
+    void acceptancesChanged(const std::vector<Acceptance>& problems,
+                            const Acceptances& before) override;
     void hear(const Edit& edit);
 
     EditedData m_present;
     ChangedPoints<DesignPoints> m_design;
     ChangedPoints<SurveyPoints> m_results;
     std::map<EditScope, const IDictionary*> m_parameters; ///< as they were after the edit
+    ChangedAcceptances m_acceptances;
     // Of the edit at hand:
     bool m_isPassing = false;
     ChangedPoints<DesignPoints>::Changes m_designChanges;
     ChangedPoints<SurveyPoints>::Changes m_resultChanges;
-    std::vector<HistoryItem> m_parameterItems;
+    std::vector<HistoryItem> m_parameterItems; ///< and those of accepted problems
 };

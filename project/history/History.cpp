@@ -18,8 +18,9 @@ std::optional<Value> valueOf(const std::array<const char*, kCount>& names, std::
 }
 
 // In the order of the values; they stand in databases that are kept for years.
-constexpr std::array<const char*, 5> kDataNames{"results", "design", "quality_limits",
-                                                "design_parameters", "coord_system"};
+constexpr std::array<const char*, 6> kDataNames{"results",        "design",
+                                                "quality_limits", "design_parameters",
+                                                "coord_system",   "accepted_problems"};
 constexpr std::array<const char*, 3> kChangeNames{"came", "gone", "changed"};
 constexpr std::array<const char*, 3> kStateNames{"done", "taken_back", "done_and_taken_back"};
 

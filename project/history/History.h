@@ -19,7 +19,8 @@ enum class HistoryData
     Design,
     QualityLimits,
     DesignParameters,
-    CoordSystem
+    CoordSystem,
+    AcceptedProblems
 };
 
 /// "results", "design" and so on: as the database and the command line name it, never translated.
@@ -64,8 +65,8 @@ struct HistoryAction
 /// What an action has done to a point, or to one value of it.
 enum class HistoryChange
 {
-    Came,   ///< there was no such point before
-    Gone,   ///< `old` is the whole point
+    Came,   ///< there was no such point before, or the problem is accepted
+    Gone,   ///< `old` is the whole point, or the problem is not accepted any more
     Changed ///< one field, or without a field the whole point
 };
 
@@ -79,11 +80,12 @@ struct HistoryItem
 {
     HistoryData data = HistoryData::Results;
     HistoryChange change = HistoryChange::Changed;
-    PointName name;    ///< as the database has it, a check point without counter; empty for
-                       ///< parameters
-    std::string field; ///< a key of SurveyColumns, DesignRecord or of the parameters
-    /// The text of a field as the database has it. Of a whole point that is gone or has changed,
-    /// `fieldsOf` reads it.
+    PointName name; ///< as the database has it, a check point without counter; empty for
+                    ///< parameters
+    /// A key of SurveyColumns, DesignRecord or of the parameters; the kind of an accepted problem.
+    std::string field;
+    /// The text of a field as the database has it; the reason of an acceptance. Of a whole point
+    /// that is gone or has changed, `fieldsOf` reads it.
     std::string oldText;
     /// Of a field; of a whole point only where it is known.
     std::string newText;

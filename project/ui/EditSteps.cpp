@@ -181,6 +181,8 @@ void EditSteps::announce()
         publish({events::kRefreshSurveyTable});
     if ((touched & kSurveyScope) != 0)
         publish({events::kRefreshSurveyLayer});
+    if ((touched & kAcceptanceScope) != 0)
+        publish({events::kAcceptancesChanged});
     publish({events::kUpdateSystemStatus}); // the captions of the menu
     Q_EMIT changed();
 }

@@ -64,6 +64,8 @@ PlainProject textsOf(DataProcessDataManager& manager)
     }
     plain.quality = textsOf(manager.qualityParameters());
     plain.designParameters = textsOf(manager.designParameters());
+    for (const Acceptance& acceptance : manager.acceptances())
+        plain.accepted[acceptance.kind + acceptance.name.point] = acceptance.reason.toStdString();
     plain.coordSystem = get_project_coord_transform().parameters().text("org_lon");
     return plain;
 }
@@ -328,6 +330,36 @@ protected:
             m_manager.setDesignParameters(parameters);
         return isChanged;
     }
+    static Acceptance problemOf(const std::string& point)
+    {
+        return {"too_far", point.size() == 1, {"10", point}, "of " + point, {}, {}, {}};
+    }
+    bool accept(PlainProject& next)
+    {
+        std::vector<Acceptance> problems;
+        std::size_t changed = 0;
+        for (unsigned first = below(9), i = first + below(4); i > first; --i) {
+            Acceptance problem = problemOf(std::to_string(i));
+            problem.reason = QString::number(below(3));
+            std::string& reason = next.accepted[problem.kind + problem.name.point];
+            changed += reason == problem.reason.toStdString() ? 0U : 1U;
+            reason = problem.reason.toStdString();
+            problems.push_back(problem);
+        }
+        EXPECT_EQ(m_manager.accept(problems), changed);
+        return changed != 0;
+    }
+    bool endAcceptances(PlainProject& next)
+    {
+        std::vector<Acceptance> problems;
+        std::size_t ended = 0;
+        for (unsigned i = below(4); i > 0; --i) {
+            problems.push_back(problemOf(std::to_string(below(12))));
+            ended += next.accepted.erase(problems.back().kind + problems.back().name.point);
+        }
+        EXPECT_EQ(m_manager.endAcceptances(problems), ended);
+        return ended != 0;
+    }
     bool setCoordSystem(PlainProject& next)
     {
         next.coordSystem = next.coordSystem == "117" ? "123" : "117";
@@ -340,13 +372,15 @@ protected:
     {
         using Operation = bool (RandomEdits::*)(PlainProject&);
         static constexpr Operation kOperations[] = {
-            &RandomEdits::importResults, &RandomEdits::importResults, &RandomEdits::deletePoints,
-            &RandomEdits::deletePoints,  &RandomEdits::correctResult, &RandomEdits::correctResult,
-            &RandomEdits::correctResult, &RandomEdits::correctResult, &RandomEdits::importDesign,
-            &RandomEdits::correctDesign, &RandomEdits::setParameters, &RandomEdits::deleteLines,
-            &RandomEdits::generate,      &RandomEdits::setCoordSystem};
-        const Operation operation =
-            below(40) == 0 ? &RandomEdits::importDatabase : kOperations[below(14)];
+            &RandomEdits::importResults, &RandomEdits::importResults,  &RandomEdits::deletePoints,
+            &RandomEdits::deletePoints,  &RandomEdits::correctResult,  &RandomEdits::correctResult,
+            &RandomEdits::correctResult, &RandomEdits::correctResult,  &RandomEdits::importDesign,
+            &RandomEdits::correctDesign, &RandomEdits::setParameters,  &RandomEdits::deleteLines,
+            &RandomEdits::generate,      &RandomEdits::setCoordSystem, &RandomEdits::accept,
+            &RandomEdits::accept,        &RandomEdits::endAcceptances};
+        const Operation operation = below(40) == 0
+                                        ? &RandomEdits::importDatabase
+                                        : kOperations[below(unsigned(std::size(kOperations)))];
         PlainProject next = present();
         const bool isEdit = (this->*operation)(next);
         if (!isEdit) {
@@ -427,7 +461,9 @@ protected:
         expectDone(m_manager.saveProject(place));
         std::string all;
         for (const char* table :
-             {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem"})
+             {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem",
+              "(select kind, is_design, line_num, point_num, fingerprint, reason from "
+              "ProblemAcceptance)"})
             all += rowsOf(place.database().toStdString(), table);
         for (const char* file : {"/qc_param.ini", "/design_param.ini"})
             all += TestFolder::read(place.folder + QString::fromUtf8(file)).toStdString();
@@ -450,6 +486,11 @@ protected:
         m_manager.setQualityParameters(ordered(quality, plain.quality));
         m_manager.setDesignParameters(ordered(design, plain.designParameters));
         m_manager.setCoordSystem(systemOf(plain.coordSystem));
+        for (const auto& [name, reason] : plain.accepted) {
+            Acceptance problem = problemOf(name.substr(std::string("too_far").size()));
+            problem.reason = QString::fromStdString(reason);
+            m_manager.accept({problem});
+        }
     }
 
     TestFolder m_folder;

@@ -9,6 +9,7 @@
 #include "model/RowNumbers.h"
 #include "model/SurveyColumns.h"
 #include "project/edits/EditKinds.h"
+#include "quality/problems/ProblemFinders.h"
 
 #include <QCoreApplication>
 
@@ -91,13 +92,19 @@ QString HistoryTexts::nameOf(HistoryData data)
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Design parameter"));
     case HistoryData::CoordSystem:
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Coordinate system"));
+    case HistoryData::AcceptedProblems:
+        return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Problem"));
     }
     return {};
 }
 
-QString HistoryTexts::nameOf(HistoryChange change)
+QString HistoryTexts::changeOf(const HistoryItem& item)
 {
-    switch (change) {
+    if (item.data == HistoryData::AcceptedProblems)
+        return item.change == HistoryChange::Gone
+                   ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "listed again"))
+                   : translated(QT_TRANSLATE_NOOP("HistoryTexts", "accepted"));
+    switch (item.change) {
     case HistoryChange::Came:
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "new"));
     case HistoryChange::Gone:
@@ -151,6 +158,10 @@ QString HistoryTexts::caption(HistoryData data, const std::string& key) const
         const SurveyColumn* const column = surveyColumn(key);
         return column == nullptr ? lum::toQString(key)
                                  : QCoreApplication::translate("SurveyColumns", column->caption);
+    }
+    if (data == HistoryData::AcceptedProblems) {
+        const ProblemKind* const kind = findProblemKind(key);
+        return kind == nullptr ? lum::toQString(key) : kind->captionText();
     }
     if (const DesignParameter* const of =
             data == HistoryData::DesignParameters ? findDesignParameter(key) : nullptr)

@@ -37,15 +37,17 @@ void removeUnchanged(const Points& present, Points& points, PointRestore& result
 }
 
 /// How many points the items are about. Measurements of one check point have one name.
-std::size_t pointsOf(const std::vector<HistoryItem>& items, std::size_t& parameters)
+std::size_t pointsOf(const std::vector<HistoryItem>& items, PointRestore& result)
 {
     if (std::ranges::any_of(items, isRename)) // of one result, by both its names
         return 1;
     std::size_t points = 0;
     std::set<std::tuple<HistoryData, std::string, std::string>> named;
     for (const HistoryItem& item : items) {
-        if (item.data != HistoryData::Results && item.data != HistoryData::Design)
-            ++parameters;
+        if (item.data == HistoryData::AcceptedProblems)
+            ++result.acceptances;
+        else if (item.data != HistoryData::Results && item.data != HistoryData::Design)
+            ++result.parameters;
         else if (item.field.empty())
             ++points;
         else
@@ -71,6 +73,8 @@ QString PointRestore::told() const
         QT_TRANSLATE_NOOP("PointRestore",
                           "Not restored, because they were new then or are gone now: %1."));
     add(parameters, QT_TRANSLATE_NOOP("PointRestore", "Parameters cannot be restored here: %1."));
+    add(acceptances,
+        QT_TRANSLATE_NOOP("PointRestore", "Accepted problems cannot be restored here: %1."));
     return sentences.join(QLatin1Char(' '));
 }
 
@@ -81,7 +85,7 @@ PointRestore restorePoints(const HistoryAction& action, const std::vector<Histor
         pointsBefore(action, items, manager.designPoints(), manager.surveyPoints());
     const std::size_t found = points.design.pointCount() + points.results.pointCount();
     PointRestore result;
-    const std::size_t asked = pointsOf(items, result.parameters);
+    const std::size_t asked = pointsOf(items, result);
     result.impossible = asked - std::min(asked, found);
     removeUnchanged(manager.designPoints(), points.design, result);
     removeUnchanged(manager.surveyPoints(), points.results, result);

@@ -286,6 +286,31 @@ private Q_SLOTS:
         QCOMPARE(project.remarksOf("3"), std::string("(gone)"));
     }
 
+    void acceptedProblemsAreToldByTheirKindsAndReasons()
+    {
+        HistoryProject project;
+        const Acceptance problem{"too_far", false, {"1001", "2"}, "f", "as agreed"_q, {}, {}};
+        QCOMPARE(project.manager->accept({problem}), std::size_t(1));
+        project.save();
+        const Shown seen(project);
+        QCOMPARE(seen.actions().first(), "Accept a problem|done"_q);
+        QCOMPARE(seen.cells("actions", {HistoryActionModel::Reason}).first(), "as agreed"_q);
+        const QStringList accepted("2|accepted|Too far from the design||as agreed"_q);
+        QCOMPARE(seen.changes(), accepted);
+        seen.select(0);
+        seen.press("Restore These");
+        QCOMPARE(project.host.told,
+                 "Points restored: 0. Accepted problems cannot be restored here: 1."_q);
+        const EventLog log(project.host.events, events::kAcceptancesChanged);
+        project.steps.undo();
+        QCOMPARE(log.names().size(), std::size_t(1));
+        QCOMPARE(seen.actions().first(), "Accept a problem|taken back, not saved yet"_q);
+        seen.choose(0);
+        QCOMPARE(seen.changes(),
+                 QStringList("2|listed again|Too far from the design|as agreed|"_q));
+        QVERIFY(project.manager->acceptances().empty());
+    }
+
     void filters()
     {
         HistoryProject project;
