@@ -1167,6 +1167,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>CrewList</name>
+    <message>
+        <source>Points to measure again: %1.</source>
+        <translation>需重测的点：%1。</translation>
+    </message>
+    <message>
+        <source>Names without a design point: %1, first %2/%3.</source>
+        <translation>没有设计点的点名：%1，第一个为 %2/%3。</translation>
+    </message>
+    <message>
+        <source>Problems of a line or a group, without a point: %1.</source>
+        <translation>属于测线或一组成果、没有点的问题：%1。</translation>
+    </message>
+</context>
+<context>
     <name>CrewPanel</name>
     <message>
         <source>Crews</source>
@@ -2816,6 +2831,30 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Restored points</source>
         <translation>恢复点</translation>
     </message>
+    <message>
+        <source>Accept %1 problems</source>
+        <translation>认可 %1 个问题</translation>
+    </message>
+    <message>
+        <source>Accept a problem</source>
+        <translation>认可一个问题</translation>
+    </message>
+    <message>
+        <source>Accepted problems</source>
+        <translation>认可的问题</translation>
+    </message>
+    <message>
+        <source>List %1 accepted problems again</source>
+        <translation>重新列出 %1 个已认可的问题</translation>
+    </message>
+    <message>
+        <source>List an accepted problem again</source>
+        <translation>重新列出一个已认可的问题</translation>
+    </message>
+    <message>
+        <source>Problems listed again</source>
+        <translation>重新列出的问题</translation>
+    </message>
 </context>
 <context>
     <name>EditSteps</name>
@@ -3338,6 +3377,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>not saved yet</source>
         <translation>尚未保存</translation>
     </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>listed again</source>
+        <translation>重新列出</translation>
+    </message>
+    <message>
+        <source>accepted</source>
+        <translation>已认可</translation>
+    </message>
 </context>
 <context>
     <name>ImportFindingsModel</name>
@@ -3566,6 +3617,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Quality</source>
         <translation>质量</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
     </message>
 </context>
 <context>
@@ -3922,6 +3977,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Parameters cannot be restored here: %1.</source>
         <translation>参数不能在此恢复：%1。</translation>
     </message>
+    <message>
+        <source>Accepted problems cannot be restored here: %1.</source>
+        <translation>已认可的问题不能在此恢复：%1。</translation>
+    </message>
 </context>
 <context>
     <name>PointTableWindow</name>
@@ -4236,6 +4295,22 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The points are saved. The history of this project does not take what you have changed: %1.</source>
         <translation>点已保存。此工程的历史记录未能写入您所做的更改：%1。</translation>
+    </message>
+    <message>
+        <source>Accepted problems of this project that a newer version of the program has written: %1. They are kept, but not shown as accepted.</source>
+        <translation>本工程中由较新版本的程序写入的已认可问题：%1。它们会保留，但不显示为已认可。</translation>
+    </message>
+    <message>
+        <source>The accepted problems of this project are of another version of the program. They are kept, but not shown, and what you accept is not added to them.</source>
+        <translation>本工程的已认可问题由其他版本的程序写入。它们会保留，但不显示，您认可的问题也不会加入其中。</translation>
+    </message>
+    <message>
+        <source>The accepted problems of this project cannot be read: %1.</source>
+        <translation>无法读取本工程的已认可问题：%1。</translation>
+    </message>
+    <message>
+        <source>The points are saved, but not which problems you have accepted: %1.</source>
+        <translation>各点已保存，但您认可的问题未能保存：%1。</translation>
     </message>
 </context>
 <context>
