@@ -13,6 +13,13 @@ template <class Point>
     return {point.east * planeUnitM, point.north * planeUnitM};
 }
 
+/// Points without a position are at the origin, all of them.
+template <class Point>
+[[nodiscard]] bool hasPosition(const Point& point)
+{
+    return point.north != 0 || point.east != 0;
+}
+
 /// Points of a container that can be found by their places. Valid as long as pointers to them.
 template <class Point>
 class IndexedPoints

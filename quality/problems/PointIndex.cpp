@@ -11,11 +11,6 @@ namespace {
 
 constexpr double kFarthestM = 1e9; ///< its square keeps millimetres
 
-bool isOnMap(const PointPlace& place)
-{
-    return std::fabs(place.eastM) <= kFarthestM && std::fabs(place.northM) <= kFarthestM;
-}
-
 /// What the tree asks for: the places that are on the map.
 class TreePlaces
 {
@@ -111,6 +106,11 @@ private:
 };
 
 } // namespace
+
+bool isOnMap(const PointPlace& place)
+{
+    return std::fabs(place.eastM) <= kFarthestM && std::fabs(place.northM) <= kFarthestM;
+}
 
 double distanceM(const PointPlace& a, const PointPlace& b)
 {

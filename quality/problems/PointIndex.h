@@ -13,11 +13,14 @@ struct PointPlace
     double northM = 0;
 };
 
+/// Whether it is a place at all: no NaN, and no farther away than any map reaches.
+[[nodiscard]] bool isOnMap(const PointPlace& place);
+
 [[nodiscard]] double distanceM(const PointPlace& a, const PointPlace& b);
 
 /// Finds what lies near a place. Places are known by their numbers, their order in the list. A
-/// place that is no number, or farther away than any map reaches, is never found, and nothing is
-/// found near such a place. Any number of threads may ask at once.
+/// place that is not on the map is never found, and nothing is found near such a place. Any number
+/// of threads may ask at once.
 ///
 /// Many places that are one cost no more than others, unless all of them are asked for.
 class PointIndex

@@ -2,6 +2,8 @@
 
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/problems/CheckProblems.h"
+#include "quality/problems/LineProblems.h"
+#include "quality/problems/NameProblems.h"
 #include "quality/problems/NeighbourProblems.h"
 #include "quality/problems/QualityProblems.h"
 #include "quality/problems/StoredValueProblems.h"
@@ -26,6 +28,8 @@ constexpr std::array kFinders{
     &kRepeatFinder,
     &kStoredValueFinder,
     &kNeighbourFinder,
+    &kNameFinder,
+    &kLineFinder,
 };
 // clang-format on
 
@@ -47,12 +51,14 @@ public:
         }
     }
 
-    /// Ends when no finder is left. \param report is told how far all of them are
+    /// Ends when no finder is left; the last of the table take longest, and begin. \param report is
+    /// told how far all of them are
     template <class Report>
     void work(Report report)
     {
         for (std::size_t next = 0; (next = m_next++) < m_parts.size();) {
-            m_parts[next].finder->find(m_input, m_parts[next].problems);
+            Part& part = m_parts[m_parts.size() - 1 - next];
+            part.finder->find(m_input, part.problems);
             report(next + 1, m_parts.size());
         }
     }

@@ -38,9 +38,67 @@ constexpr std::array kStoredValues{
                                    "nearest results.")},
 };
 
+// Of names, see NameProblems.h.
+constexpr std::array kNames{
+    ProblemLimit{"name_nearer_min", "2",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Nearer to another design point, min."), "m",
+                 1e6, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "A result that is nearer to another design point than to its "
+                                   "own by more than this has a wrong name.")},
+    ProblemLimit{"name_near_max", "1",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Distance from that point, max."), "m", 1e6,
+                 false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "A stake that was moved aside from an obstacle is farther "
+                                   "from all other points than this.")},
+};
+
+// Of lines, see LineProblems.h.
+constexpr std::array kLines{
+    ProblemLimit{"line_spacing_max", "40",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Spacing off the line's median, max."), "%",
+                 1e4},
+    ProblemLimit{"line_gap_max", "5",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Missing numbers in a row, max."), "", 1e6,
+                 true,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "Longer gaps, and gaps beside each other in neighbouring "
+                                   "lines, are taken for planned.")},
+    ProblemLimit{"line_azimuth_max", "25",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Azimuth spike, max."),
+                 QT_TRANSLATE_NOOP("ProblemLimits", "deg"), 180, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "A bend of the line is no spike: a spike leads away from the "
+                                   "line and back.")},
+    ProblemLimit{"line_reversed_min", "2",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Points in reversed order, min."), "", 1e6,
+                 true},
+    ProblemLimit{
+        "line_coincident_max", "0.5",
+        QT_TRANSLATE_NOOP("ProblemLimits", "Coincident points, max. distance"), "m", 1000, false,
+        QT_TRANSLATE_NOOP("ProblemLimits", "Receivers and sources may be in the same place.")},
+    ProblemLimit{"line_interleaved_min", "3",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Points among those of another line, min."), "",
+                 1e6, true},
+    ProblemLimit{"line_height_max", "15",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Height jump in the line, max."), "m", 1e4,
+                 false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "Above or below all neighbours in the line; a slope is no "
+                                   "jump.")},
+    ProblemLimit{"line_skid_max", "50",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Stakes moved aside, max."), "m", 1e6, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "For results that have no design points to compare them "
+                                   "with.")},
+};
+
 // All groups: a new one is a line here.
 constexpr std::array kGroups{
     ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Measurement"), kStoredValues},
+    ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Names"), kNames},
+    ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Lines"), kLines},
 };
 
 } // namespace

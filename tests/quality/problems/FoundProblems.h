@@ -15,6 +15,13 @@
 /// A project in which problems are looked for.
 struct FoundProblems
 {
+    /// Its points stand in one place, mostly.
+    FoundProblems()
+    {
+        parameters.set("line_coincident_max", "0");
+        parameters.set("line_height_max", "0");
+    }
+
     /// A result without any fault by the limits of a new project.
     static SurveyPoint goodResult(const std::string& line, const std::string& number,
                                   double north = 4000000, double east = 500000)
