@@ -75,6 +75,16 @@ Outcome print(const std::vector<const Problem*>& problems, const QString& file)
     return Outcome::done();
 }
 
+Outcome writeCrewList(DataProcessDataManager& manager, const std::vector<const Problem*>& problems,
+                      const QString& file)
+{
+    Outcome writing = Outcome::done();
+    manager.exportCrewList(problems, file, &writing);
+    if (writing.isDone())
+        std::fprintf(stderr, "%s\n", qUtf8Printable(writing.text()));
+    return writing;
+}
+
 } // namespace
 
 Outcome listProblems(const CliArguments& arguments)
@@ -89,8 +99,11 @@ Outcome listProblems(const CliArguments& arguments)
     const QString file = arguments.option(QStringLiteral("--out"));
     if (Outcome ownFile = checkNotOwn(project.place(), file); !ownFile.isDone())
         return ownFile;
+    const QString crewFile = arguments.option(QStringLiteral("--measure-again"));
     const ProblemList problems = project.manager().findProblems(kinds);
     const std::vector<const Problem*> found = openOnes(problems);
-    Outcome printing = print(found, file);
-    return printing.isDone() && !found.empty() ? Outcome::found() : printing;
+    Outcome writing = print(found, file);
+    if (writing.isDone() && !crewFile.isEmpty())
+        writing = writeCrewList(project.manager(), found, crewFile);
+    return writing.isDone() && !found.empty() ? Outcome::found() : writing;
 }

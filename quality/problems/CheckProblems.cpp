@@ -37,15 +37,24 @@ constexpr ProblemKind kMissing{
     [](const Problem& /*problem*/) { return translated("The design point has no result."); }};
 constexpr std::array kEmptyPointKinds{&kMissing};
 
-void findEmptyPoints(const FinderInput& input, ProblemList& problems)
+template <class Use>
+void forEachEmpty(const DesignPoints& design, Use use)
 {
-    for (const auto& [number, line] : input.design()) {
+    for (const auto& [number, line] : design) {
         for (const DesignPoint& point : line) {
             fetchAhead(point);
             if (point.status == 0)
-                problems.add(kMissing, point);
+                use(point);
         }
     }
+}
+
+void findEmptyPoints(const FinderInput& input, ProblemList& problems)
+{
+    std::size_t count = 0; // a list that grows step by step takes twice as long
+    forEachEmpty(input.design(), [&](const DesignPoint& /*point*/) { ++count; });
+    problems.reserve(count);
+    forEachEmpty(input.design(), [&](const DesignPoint& point) { problems.add(kMissing, point); });
 }
 
 // Resurveys

@@ -65,7 +65,11 @@ public:
 
     ProblemList take()
     {
+        std::size_t total = 0;
+        for (const Part& part : m_parts)
+            total += part.problems.size();
         ProblemList all;
+        all.reserve(total);
         for (Part& part : m_parts)
             all.append(std::move(part.problems));
         for (const Part& part : m_parts) {

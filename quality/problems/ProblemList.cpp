@@ -41,10 +41,7 @@ Problem& ProblemList::add(const ProblemKind& kind, std::string_view line)
 
 void ProblemList::append(ProblemList&& other)
 {
-    if (m_problems.empty())
-        m_problems.swap(other.m_problems);
-    else
-        m_problems.insert(m_problems.end(), other.m_problems.begin(), other.m_problems.end());
+    m_problems.insert(m_problems.end(), other.m_problems.begin(), other.m_problems.end());
     m_texts.take(std::move(other.m_texts));
     other = ProblemList();
 }

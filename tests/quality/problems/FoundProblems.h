@@ -36,6 +36,7 @@ struct FoundProblems
         return point;
     }
 
+    /// Runs the checks and then the finders.
     ProblemList find(std::span<const ProblemKind* const> kinds = {})
     {
         ProgressReporter progress(nullptr);
@@ -67,10 +68,6 @@ struct FoundProblems
             texts.push_back(all);
         }
         return texts;
-    }
-    std::vector<std::string> found(std::span<const ProblemKind* const> kinds = {})
-    {
-        return textsOf(find(kinds));
     }
 
     DesignPoints design;

@@ -1,9 +1,12 @@
+#include "quality/problems/CheckProblems.h"
+#include "quality/problems/NeighbourProblems.h"
+#include "quality/problems/QualityProblems.h"
+#include "quality/problems/StoredValueProblems.h"
 #include "tests/quality/problems/FoundProblems.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 
 namespace {
@@ -20,6 +23,17 @@ protected:
         point.elevation = elevation;
         return survey.set(std::move(point));
     }
+    /// Those of the checks, of stored values and of neighbours.
+    ProblemList find()
+    {
+        std::vector<const ProblemKind*> kinds;
+        for (const ProblemFinder* const finder :
+             {&kEmptyPointFinder, &kQualityFinder, &kResurveyFinder, &kRepeatFinder,
+              &kStoredValueFinder, &kNeighbourFinder})
+            kinds.insert(kinds.end(), finder->kinds.begin(), finder->kinds.end());
+        return FoundProblems::find(kinds);
+    }
+    std::vector<std::string> found() { return textsOf(find()); }
     static std::string what(const Problem& problem)
     {
         return problem.kind->what(problem).toStdString();
@@ -190,13 +204,40 @@ TEST_F(ProblemFinders, AHeightIsComparedWithTheMedianOfItsNeighbours)
     EXPECT_EQ(what(problems[0]), "It is 6.500 m lower than its neighbours.");
 }
 
+TEST_F(ProblemFinders, OddSurveysStopNoFinder)
+{
+    for (const ProblemLimitGroup& group : problemLimitGroups()) {
+        for (const ProblemLimit& limit : group.limits)
+            parameters.set(limit.key, "1");
+    }
+    const auto count = [&] { return FoundProblems::find().size(); };
+    EXPECT_EQ(count(), 0U) << "nothing at all";
+    design.set(designPoint("", ""));
+    EXPECT_GE(count(), 1U) << "one design point without a name";
+    design.clear();
+    survey.set(surveyPoint("", "")); // nothing is known of it
+    EXPECT_GE(count(), 1U) << "one result, no design";
+
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    for (int i = 0; i < 300; ++i) {
+        const std::string line = i < 200 ? "10" : "L" + std::to_string(i); // lines of one point
+        survey.set(goodResult(line, std::to_string(1000 + i), i % 10 == 0 ? kNan : 4000000));
+        DesignPoint point = designPoint(line, std::to_string(1000 + i));
+        point.north = point.east = i % 10 == 1 ? kNan : 4000000; // all the others in one place
+        design.set(point);
+    }
+    const std::array unplaced{findProblemKind("no_position")};
+    EXPECT_EQ(FoundProblems::find(unplaced).size(), 30U);
+    EXPECT_GE(count(), 30U);
+}
+
 TEST_F(ProblemFinders, OnlyTheWantedKindsAreListed)
 {
     design.set(designPoint("10", "1009"));
     add("1001").pdop = 4;
     const std::array wanted{findProblemKind("pdop"), findProblemKind("repeat")};
     ASSERT_NE(wanted[0], nullptr);
-    EXPECT_THAT(found(wanted), ElementsAre("pdop 10/1001 4.00 3.00"));
+    EXPECT_THAT(textsOf(FoundProblems::find(wanted)), ElementsAre("pdop 10/1001 4.00 3.00"));
 }
 
 TEST(ProblemKinds, AreNamedOnce)
