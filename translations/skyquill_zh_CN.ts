@@ -2816,6 +2816,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Restored points</source>
         <translation>恢复点</translation>
     </message>
+    <message>
+        <source>Rename %1 results</source>
+        <translation>改 %1 个成果的点名</translation>
+    </message>
+    <message>
+        <source>Rename a result</source>
+        <translation>改一个成果的点名</translation>
+    </message>
+    <message>
+        <source>New names of results</source>
+        <translation>成果改名</translation>
+    </message>
 </context>
 <context>
     <name>EditSteps</name>
@@ -3600,6 +3612,61 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>LineKinds</name>
+    <message>
+        <source>The same at more points of the line: %1.</source>
+        <translation>该测线还有 %1 个点相同。</translation>
+    </message>
+    <message>
+        <source>%1 m to %2, where points of the line are %3 m apart.</source>
+        <translation>到 %2 的距离为 %1 m，而本测线的点距为 %3 m。</translation>
+    </message>
+    <message>
+        <source>The next point, %1, is only %2 m away, but between them numbers are missing: %3.</source>
+        <translation>下一个点 %1 只相距 %2 m，但两者之间缺 %3 个点号。</translation>
+    </message>
+    <message>
+        <source>The next point is %1, %2 m away; numbers missing between them: %3.</source>
+        <translation>下一个点是 %1，相距 %2 m；两者之间缺 %3 个点号。</translation>
+    </message>
+    <message>
+        <source>Its azimuth is %1 degrees, that of %2 is %3.</source>
+        <translation>它的方位角是 %1 度，%2 的方位角是 %3 度。</translation>
+    </message>
+    <message>
+        <source>Stands %1 m beside the line.</source>
+        <translation>偏离测线 %1 m。</translation>
+    </message>
+    <message>
+        <source>The numbers of the line run the other way than those of the lines beside it.</source>
+        <translation>该测线的点号走向与旁边的测线相反。</translation>
+    </message>
+    <message>
+        <source>Stands in reversed order with %1.</source>
+        <translation>与 %1 的顺序颠倒。</translation>
+    </message>
+    <message>
+        <source>From here to %1 the numbers run against the line; points: %2.</source>
+        <translation>从这里到 %1 的 %2 个点，点号走向与测线相反。</translation>
+    </message>
+    <message>
+        <source>Stands %1 m from %2.</source>
+        <translation>与 %2 只相距 %1 m。</translation>
+    </message>
+    <message>
+        <source>Points of line %1 lie between points of this line, the first is %2; points: %3.</source>
+        <translation>测线 %1 有 %3 个点夹在本测线的点之间，第一个是 %2。</translation>
+    </message>
+    <message>
+        <source>%1 m above its neighbours in the line.</source>
+        <translation>比测线上的相邻点高 %1 m。</translation>
+    </message>
+    <message>
+        <source>%1 m below its neighbours in the line.</source>
+        <translation>比测线上的相邻点低 %1 m。</translation>
+    </message>
+</context>
+<context>
     <name>LineTree</name>
     <message>
         <source>Search</source>
@@ -3641,6 +3708,29 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&quot;%1&quot; is not a file that can be opened here.</source>
         <translation>“%1”不是可以在此打开的文件。</translation>
+    </message>
+</context>
+<context>
+    <name>NameProblems</name>
+    <message>
+        <source>Is probably %1: it is %2 m from %3, and no point has its name.</source>
+        <translation>可能是 %1：距 %3 只有 %2 m，而没有点叫它的点名。</translation>
+    </message>
+    <message>
+        <source>Is probably %1, %2 m away; its own is %3 m away.</source>
+        <translation>可能是 %1，相距 %2 m；离它自己的设计点 %3 m。</translation>
+    </message>
+    <message>
+        <source>Stands where %1 does, %2 m from its design point; its own is %3 m away. It is probably one more measurement of %1.</source>
+        <translation>与 %1 在同一位置，距其设计点 %2 m；离它自己的设计点 %3 m。它可能是 %1 的又一次测量。</translation>
+    </message>
+    <message>
+        <source>Its name and that of %1 are probably exchanged: it is %2 m from the design point of %1; its own is %3 m away.</source>
+        <translation>它与 %1 的点名可能互换了：距 %1 的设计点 %2 m，离它自己的设计点 %3 m。</translation>
+    </message>
+    <message>
+        <source>Has no result, but the result %1 stands %2 m from it, and no point has that name.</source>
+        <translation>没有成果，但成果 %1 距它 %2 m，而没有点叫这个点名。</translation>
     </message>
 </context>
 <context>
@@ -3901,6 +3991,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>PointRenaming</name>
+    <message>
+        <source>There is no result %1 any more: nothing was renamed.</source>
+        <translation>成果 %1 已不存在：没有改名。</translation>
+    </message>
+    <message>
+        <source>Another result has the name %1: nothing was renamed. Give that one its right name first, or both at once.</source>
+        <translation>另一个成果已有点名 %1：没有改名。请先改正那一个的点名，或者两个一起改。</translation>
+    </message>
+</context>
+<context>
     <name>PointRestore</name>
     <message>
         <source>Points restored: %1.</source>
@@ -3987,6 +4088,128 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Point %1 is not in the project now.</source>
         <translation>工程中现在没有点 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemKinds</name>
+    <message>
+        <source>Spacing in the line</source>
+        <translation>测线点距</translation>
+    </message>
+    <message>
+        <source>Gap in the numbers</source>
+        <translation>点号缺口</translation>
+    </message>
+    <message>
+        <source>Azimuth spike</source>
+        <translation>方位角突变</translation>
+    </message>
+    <message>
+        <source>Reversed order</source>
+        <translation>顺序颠倒</translation>
+    </message>
+    <message>
+        <source>Points in one place</source>
+        <translation>位置重合</translation>
+    </message>
+    <message>
+        <source>Interleaved lines</source>
+        <translation>测线交错</translation>
+    </message>
+    <message>
+        <source>Height jump</source>
+        <translation>高程突变</translation>
+    </message>
+    <message>
+        <source>Wrong name</source>
+        <translation>点名错误</translation>
+    </message>
+    <message>
+        <source>Exchanged names</source>
+        <translation>点名互换</translation>
+    </message>
+    <message>
+        <source>Foreign result on an empty point</source>
+        <translation>空点上有别的成果</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemLimits</name>
+    <message>
+        <source>Nearer to another design point, min.</source>
+        <translation>离另一设计点更近，至少</translation>
+    </message>
+    <message>
+        <source>A result that is nearer to another design point than to its own by more than this has a wrong name.</source>
+        <translation>成果离另一设计点比离自己的设计点近得超过此值时，点名错误。</translation>
+    </message>
+    <message>
+        <source>Distance from that point, max.</source>
+        <translation>距该点的距离，最大</translation>
+    </message>
+    <message>
+        <source>A stake that was moved aside from an obstacle is farther from all other points than this.</source>
+        <translation>因障碍物移动的桩位离所有其他点都比这更远。</translation>
+    </message>
+    <message>
+        <source>Spacing off the line&apos;s median, max.</source>
+        <translation>点距偏离测线中位数，最大</translation>
+    </message>
+    <message>
+        <source>Missing numbers in a row, max.</source>
+        <translation>连续缺少的点号，最多</translation>
+    </message>
+    <message>
+        <source>Longer gaps, and gaps beside each other in neighbouring lines, are taken for planned.</source>
+        <translation>更长的缺口，以及相邻测线上并排的缺口，视为有意留出。</translation>
+    </message>
+    <message>
+        <source>Azimuth spike, max.</source>
+        <translation>方位角突变，最大</translation>
+    </message>
+    <message>
+        <source>A bend of the line is no spike: a spike leads away from the line and back.</source>
+        <translation>测线转弯不是突变：突变是离开测线又回来。</translation>
+    </message>
+    <message>
+        <source>Points in reversed order, min.</source>
+        <translation>顺序颠倒的点，至少</translation>
+    </message>
+    <message>
+        <source>Coincident points, max. distance</source>
+        <translation>重合点，最大距离</translation>
+    </message>
+    <message>
+        <source>Receivers and sources may be in the same place.</source>
+        <translation>接收点与激发点可以在同一位置。</translation>
+    </message>
+    <message>
+        <source>Points among those of another line, min.</source>
+        <translation>夹在另一测线点间的点，至少</translation>
+    </message>
+    <message>
+        <source>Height jump in the line, max.</source>
+        <translation>测线高程突变，最大</translation>
+    </message>
+    <message>
+        <source>Above or below all neighbours in the line; a slope is no jump.</source>
+        <translation>高于或低于测线上的所有相邻点；斜坡不是突变。</translation>
+    </message>
+    <message>
+        <source>Stakes moved aside, max.</source>
+        <translation>桩位移动，最大</translation>
+    </message>
+    <message>
+        <source>For results that have no design points to compare them with.</source>
+        <translation>用于没有设计点可比较的成果。</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>点名</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>测线</translation>
     </message>
 </context>
 <context>
