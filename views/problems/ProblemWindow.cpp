@@ -121,6 +121,8 @@ void ProblemWindow::makeLayout()
     rows->setSpacing(0);
     addBar(*rows);
     m_old->setTextFormat(Qt::RichText);
+    m_old->setText(tr("Points or limits have changed since these problems were found. "
+                      "<a href=\"find\">Find them again</a> (Ctrl+F9)"));
     m_old->setWordWrap(true);
     m_old->setAutoFillBackground(true);
     m_old->setMargin(dpi_scaled(kMargin));
@@ -419,18 +421,20 @@ void ProblemWindow::step(bool isForward)
 void ProblemWindow::goTo(int row)
 {
     m_table->showRow(row);
-    announce(row);
+    if (!announce(row))
+        return;
     const Problem& problem = m_model->problem(row);
     m_host.tell(tr("Problem %1 of %2, %3: %4")
                     .arg(lum::groupedNumber(row + 1), lum::groupedNumber(m_model->rowCount()),
                          shownName(problem), problem.kind->what(problem)));
 }
 
-void ProblemWindow::announce(int row)
+/// \returns false, and says so, when the project has the point no more
+bool ProblemWindow::announce(int row)
 {
     const Problem& problem = m_model->problem(row);
     if (problem.point.empty()) // of a line or a group
-        return;
+        return true;
     const QScopedValueRollback<bool> guard(m_isAnnouncing, true);
     const QString line = lum::toQString(problem.line);
     const QString point = lum::toQString(problem.point);
@@ -441,8 +445,10 @@ void ProblemWindow::announce(int row)
         m_host.eventManager().publish(isDesign ? events::kDesignPointSelected
                                                : events::kSurveyPointSelected,
                                       payload::selectedPoint(point, line).constData(), 0);
-    else if (!list->selectPoint(line, point)) // which announces it
+    const bool isThere = list == nullptr || list->selectPoint(line, point); // which announces it
+    if (!isThere)
         m_host.tell(tr("Point %1 is not in the project any more.").arg(shownName(problem)));
+    return isThere;
 }
 
 bool ProblemWindow::followPoint(bool isDesign, const PointName& point)

@@ -75,7 +75,7 @@ private:
     void fitSentences();
 
     void goTo(int row);
-    void announce(int row);
+    bool announce(int row);
     void zoomTo(int row);
     void showMenu(const QModelIndex& cell, const QPoint& place);
 
