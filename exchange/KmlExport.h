@@ -19,7 +19,7 @@ struct KmlExportTask
     ProgressReporter& progress;
     QString caption; ///< of the progress
     const char* pointLayer;
-    const char* lineLayer;
+    const char* lineLayer; ///< null for points alone
 };
 
 /// The positions on the globe of points on the plane, and what could not be transformed.
@@ -92,7 +92,8 @@ private:
 /// Why the export cannot begin; done when it can.
 [[nodiscard]] Outcome checkKml(const KmlExportTask& task, const KmlPositions& positions);
 
-/// Writes the points of the chosen lines into one layer and the lines into another, with progress.
+/// Writes the points of the chosen lines into one layer and mostly the lines into another, with
+/// progress.
 /// A point that cannot be transformed is left out; the notice tells how many, and the first.
 ///
 /// \param isChosen  `bool(point)`
@@ -135,7 +136,9 @@ Outcome exportKml(const KmlExportTask& task, const Points& points, IsChosen isCh
             break;
         task.progress.report(task.caption, done, static_cast<std::size_t>(task.lines.size()));
     }
-    file.beginLines(task.lineLayer);
-    lines.writeTo(file);
+    if (task.lineLayer != nullptr) {
+        file.beginLines(task.lineLayer);
+        lines.writeTo(file);
+    }
     return finishKml(task, file, positions, !lines.isEmpty());
 }

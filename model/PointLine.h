@@ -23,8 +23,8 @@ void fetchAhead(const Point& point)
 ///
 /// An ordered map that keeps its points in short sorted blocks. A point that comes in order is
 /// appended, any other moves at most the points of its block. A caller may change a point through
-/// an iterator, but not its number. Pointers and iterators are valid until the next `set`, `erase`,
-/// `merge` or `clear`.
+/// an iterator, but not its number. Pointers and iterators are valid until points are added or
+/// taken away.
 template <class Point>
 class PointLine
 {

@@ -134,7 +134,7 @@ public:
     /// Takes over all points of `later`, which then holds the points that stood here in their
     /// place. An exception (no memory) leaves both as they were. \returns how many points were
     /// replaced
-    std::size_t exchange(PointLines& later)
+    std::size_t takeOver(PointLines& later)
     {
         std::vector<std::pair<Line*, typename Line::Merging>> known; // in the order of `later`
         for (auto& [number, line] : later.m_lines) {
@@ -156,7 +156,7 @@ public:
     /// The same without keeping the points that were replaced.
     std::size_t merge(PointLines&& later)
     {
-        const std::size_t replaced = exchange(later);
+        const std::size_t replaced = takeOver(later);
         later.clear();
         return replaced;
     }

@@ -18,9 +18,15 @@ public:
     {
         for (const PointName& name : names)
             m_lines[name.line].push_back(name.point);
-        for (auto& [line, numbers] : m_lines) {
-            std::sort(numbers.begin(), numbers.end());
-            numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+        for (auto& [line, numbers] : m_lines)
+            putInOrder(numbers);
+    }
+    void add(const PointNames& more)
+    {
+        for (const auto& [line, numbers] : more.m_lines) {
+            std::vector<std::string>& all = m_lines[line];
+            all.insert(all.end(), numbers.begin(), numbers.end());
+            putInOrder(all);
         }
     }
 
@@ -37,5 +43,11 @@ public:
     [[nodiscard]] std::vector<std::string>& of(const std::string& line) { return m_lines[line]; }
 
 private:
+    static void putInOrder(std::vector<std::string>& numbers)
+    {
+        std::sort(numbers.begin(), numbers.end());
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    }
+
     Lines m_lines;
 };

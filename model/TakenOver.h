@@ -22,7 +22,7 @@ std::size_t takeOver(Points& points, Points&& staged, TakenOver<Points>* undo)
     undo->wasEmpty = points.empty();
     if (!undo->wasEmpty)
         undo->names = staged.names();
-    const std::size_t replaced = points.exchange(staged);
+    const std::size_t replaced = points.takeOver(staged);
     undo->replaced = std::move(staged);
     return replaced;
 }

@@ -3,6 +3,7 @@
 #include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/ILogger.h"
 #include "design/DesignGenerator.h"
+#include "exchange/CrewList.h"
 #include "exchange/DesignCsvReader.h"
 #include "exchange/DesignCsvWriter.h"
 #include "exchange/DesignKml.h"
@@ -31,6 +32,7 @@
 #include "project/OwnFile.h"
 #include "project/ParameterFiles.h"
 #include "project/PointCorrection.h"
+#include "project/PointRenaming.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectLoader.h"
@@ -38,6 +40,7 @@
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "quality/CheckKinds.h"
+#include "quality/MeasuredPoint.h"
 #include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
@@ -53,6 +56,7 @@
 #include <gdal.h>
 #include <ogr_api.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -205,7 +209,8 @@ EditedData DataProcessDataManager::editedData()
             m_qualityParameters,
             m_designParameters,
             get_project_coord_transform().parameters(),
-            [this](const IDictionary& parameters) { applyCoordSystem(parameters); }};
+            [this](const IDictionary& parameters) { applyCoordSystem(parameters); },
+            m_acceptances};
 }
 
 void DataProcessDataManager::setEditHandler(EditHandler handler)
@@ -282,14 +287,17 @@ Outcome DataProcessDataManager::write(const ProjectPlace& place)
         writing = ProjectCreator::replaceDatabase(place);
     if (writing.isDone())
         writing = writeDatabase(m_database, place.database(), m_unsaved);
+    const QString notice = writing.isDone() ? writing.text() : QString();
     if (writing.isDone()) {
-        m_unsaved.clear(); // the history has them, also when one of the next files fails
+        if (m_unsaved.holdChanges())
+            m_unsaved.clear(); // the history has them, also when one of the next files fails
         writing = ParameterFiles::write(place.folder, m_qualityParameters, m_designParameters);
     }
     if (writing.isDone() && !m_projectFile.isEmpty())
         writing = ProjectFile::write(m_projectFile, m_project);
     if (writing.isDone())
         ParameterFiles::writeTemplate(m_designParameters);
+    writing.add(notice);
     return writing;
 }
 
@@ -323,8 +331,10 @@ Outcome DataProcessDataManager::fillCopy(const ProjectPlace& copy)
     if (writing.isDone() && !isTaken)
         basalt::logWarning("The copy \"" + path.toStdString() +
                            "\" has no tables that other programs added to the project.");
+    const QString notice = writing.isDone() ? writing.text() : QString();
     if (writing.isDone())
         writing = ParameterFiles::write(copy.folder, m_qualityParameters, m_designParameters);
+    writing.add(notice);
     return writing;
 }
 
@@ -332,6 +342,7 @@ void DataProcessDataManager::clear()
 {
     m_design.clear();
     m_survey.clear();
+    m_acceptances.clear();
     m_project.clear();
     m_projectFile.clear();
     m_projectFileFault.clear();
@@ -366,17 +377,17 @@ Outcome DataProcessDataManager::readDatabase(const QString& path, IDictionary& c
 {
     ProgressReporter progress(&m_host.eventManager());
     return ProjectLoader(m_database, progress)
-        .load(path.toStdString(), m_design, m_survey, coordSystem);
+        .load(path.toStdString(), m_design, m_survey, coordSystem, &m_acceptances);
 }
 
 Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QString& path,
                                               const UnsavedEdits& edits)
 {
-    const HistoryWriter history(edits.entries(), editedData(), HistoryAuthor::current());
+    HistoryWriter history(edits, editedData(), HistoryAuthor::current());
     ProgressReporter progress(&m_host.eventManager());
     return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
-              &history);
+              {&m_acceptances, &history});
 }
 
 template <class Write>
@@ -481,6 +492,28 @@ int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QStr
     });
 }
 
+int DataProcessDataManager::exportCrewList(const std::vector<const Problem*>& problems,
+                                           const QString& path, Outcome* outcome)
+{
+    const std::string_view code = qualityParameter(m_qualityParameters, kResurveyCode);
+    CrewList list;
+    for (const Problem* const problem : problems) {
+        const DesignPoint* const point =
+            measuredPoint(m_design, problem->line, problem->point, code);
+        if (problem->point.empty())
+            list.addWithoutPoint();
+        else if (point == nullptr)
+            list.addUnknown(problem->line, problem->point);
+        else
+            list.add(*point, problem->kind->what(*problem).toStdString());
+    }
+    return exportTo(path, outcome, [&](ProgressReporter& progress) {
+        return path.endsWith(QLatin1String(".kml"), Qt::CaseInsensitive)
+                   ? writeCrewKml(path, list, get_project_coord_transform(), progress)
+                   : writeCrewCsv(path, list, progress);
+    });
+}
+
 int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* outcome,
                                                  ImportSummary* counts)
 {
@@ -521,10 +554,10 @@ void DataProcessDataManager::setOtherSystemHandler(OtherSystemHandler handler)
 
 std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointName>& points)
 {
-    return deleteSurveyPoints(PointNames(points));
+    return deleteResults(PointNames(points));
 }
 
-std::size_t DataProcessDataManager::deleteSurveyPoints(PointNames&& names)
+std::size_t DataProcessDataManager::deleteResults(PointNames&& names)
 {
     const std::size_t before = m_survey.pointCount();
     const auto edit = std::make_shared<Edit>(EditKinds::kDeleteResults);
@@ -548,7 +581,7 @@ std::size_t DataProcessDataManager::deleteSurveyLines(const QStringList& lines)
              line != nullptr && point != line->end(); ++point)
             numbers.push_back(point->pointNumber);
     }
-    return deleteSurveyPoints(std::move(names));
+    return deleteResults(std::move(names));
 }
 
 int DataProcessDataManager::correctSurveyPoint(const PointName& name,
@@ -569,6 +602,21 @@ int DataProcessDataManager::correctSurveyPoint(const PointName& name,
     if (filedAs != nullptr)
         *filedAs = std::move(place);
     return answered(Outcome::done(), outcome);
+}
+
+int DataProcessDataManager::renameResults(const std::vector<Renaming>& renamings, Outcome* outcome)
+{
+    RenamedPoints renamed;
+    const Outcome renaming =
+        ::renameResults(m_design, m_survey, qualityParameter(m_qualityParameters, kResurveyCode),
+                        renamings, renamed);
+    if (renaming.isDone() && !renamings.empty()) {
+        const auto edit = std::make_shared<Edit>(EditKinds::kRenameResults, renamings.size());
+        edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(renamed.names),
+                                                             std::move(renamed.results)));
+        make(edit);
+    }
+    return answered(renaming, outcome);
 }
 
 int DataProcessDataManager::correctDesignPoint(const PointName& name,
@@ -594,19 +642,65 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
     if (count == 0)
         return 0;
     const auto edit = std::make_shared<Edit>(EditKinds::kRestore, count);
-    const auto add = [&](auto&& part) {
-        PointNames names = part.names();
+    const auto add = [&](auto&& part, PointNames names = {}) {
+        names.add(part.names());
         edit->add(std::make_unique<SomePoints<std::decay_t<decltype(part)>>>(std::move(names),
                                                                              std::move(part)));
     };
     if (!points.design.empty())
         add(std::move(points.design));
     if (!points.results.empty())
-        add(std::move(points.results));
-    edit->exchange(editedData());
+        add(std::move(points.results), std::move(points.leaving));
+    make(edit);
     if ((edit->scope() & kSurveyScope) != 0)
         recomputeSeaHeights();
-    keep(edit);
+    return count;
+}
+
+std::size_t DataProcessDataManager::accept(std::vector<Acceptance> problems)
+{
+    std::erase_if(problems, [this](const Acceptance& problem) {
+        const Acceptance* const present = m_acceptances.find(problem);
+        return present != nullptr && present->reason == problem.reason;
+    });
+    const QString person = HistoryAuthor::current().person;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    Acceptances accepted;
+    for (const Acceptance& problem : problems) {
+        Acceptance acceptance = problem;
+        acceptance.person = person;
+        acceptance.time = now;
+        accepted.set(std::move(acceptance));
+    }
+    const std::size_t count =
+        changeAcceptances(EditKinds::kAcceptProblems, problems, std::move(accepted));
+    const auto hasFirstReason = [&](const Acceptance& problem) {
+        return problem.reason == problems.front().reason;
+    };
+    if (count != 0 && std::ranges::all_of(problems, hasFirstReason))
+        m_unsaved.setReason(m_unsaved.entries().size() - 1, problems.front().reason);
+    return count;
+}
+
+std::size_t DataProcessDataManager::endAcceptances(std::vector<Acceptance> problems)
+{
+    std::erase_if(problems, [this](const Acceptance& problem) {
+        return m_acceptances.find(problem) == nullptr;
+    });
+    return changeAcceptances(EditKinds::kEndAcceptances, problems, {});
+}
+
+std::size_t DataProcessDataManager::changeAcceptances(const EditKind& kind,
+                                                      const std::vector<Acceptance>& problems,
+                                                      Acceptances&& other)
+{
+    auto part = std::make_unique<AcceptedProblems>(problems, std::move(other));
+    const std::size_t count = part->problems();
+    if (count == 0)
+        return 0;
+    const auto edit = std::make_shared<Edit>(kind, count);
+    edit->add(std::move(part));
+    make(edit);
     return count;
 }
 
@@ -654,6 +748,7 @@ void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
 void DataProcessDataManager::applyCoordSystem(const IDictionary& parameters)
 {
     get_project_coord_transform().initialise(parameters, parameters);
+    CoordinateRecord::copy(get_project_coord_transform().parameters(), m_project);
     recomputeSeaHeights();
 }
 
@@ -700,9 +795,16 @@ ProblemList DataProcessDataManager::findProblems(std::span<const ProblemKind* co
     run(std::array{&kQualityCheck, &kEmptyPointCheck, &kResurveyCheck});
     const CheckedData data = checkedData();
     ProgressReporter progress(&m_host.eventManager());
-    return ::findProblems(
-        {data.design, data.survey, data.parameters, data.planeUnitM, shownTimes()}, progress,
-        kinds);
+    ProblemList problems =
+        ::findProblems({data.design, data.survey, data.parameters, data.planeUnitM, shownTimes()},
+                       progress, kinds);
+    markAccepted(problems);
+    return problems;
+}
+
+void DataProcessDataManager::markAccepted(ProblemList& problems) const
+{
+    ::markAccepted(problems, m_acceptances, m_design, m_survey);
 }
 
 CheckResult DataProcessDataManager::resultOf(const CheckKind& check)

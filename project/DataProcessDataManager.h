@@ -13,6 +13,7 @@
 #include "project/ProjectPlace.h"
 #include "project/SurveyDatabase.h"
 #include "protocol/Outcome.h"
+#include "quality/problems/Acceptance.h"
 
 #include <QStringList>
 
@@ -27,11 +28,13 @@ struct CheckKind;
 struct CheckResult;
 struct DesignCorrection;
 struct ImportSummary;
+struct Problem;
 struct ProblemKind;
 struct QualityLimits;
 struct QualityRow;
 struct ReportChoice;
 struct ReportKind;
+struct Renaming;
 struct SurveyCorrection;
 enum class DesignLines;
 
@@ -88,7 +91,7 @@ public:
     void markChanged();
     /// Whether memory holds what the files do not. Opening and saving end it, and taking back all
     /// edits since then, not a failed save. "ON_PROJECT_MODIFIED" is published when it changes.
-    [[nodiscard]] bool isChanged() const { return m_isElseChanged || !m_unsaved.entries().empty(); }
+    [[nodiscard]] bool isChanged() const { return m_isElseChanged || m_unsaved.holdChanges(); }
 
     // Edits: whatever changes points or parameters.
 
@@ -100,12 +103,11 @@ public:
     int exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack, Outcome* outcome = nullptr);
     /// What was done and taken back since the project was saved last.
     [[nodiscard]] const UnsavedEdits& unsavedEdits() const { return m_unsaved; }
-    /// Why an edit was made, in the user's words, for the history. It can be told until the project
-    /// is saved.
-    void setReason(const std::shared_ptr<Edit>& edit, const QString& reason)
-    {
-        m_unsaved.setReason(edit, reason);
-    }
+    /// Why an edit was made, in the user's words, for the history.
+    /// \param entry  its place in `unsavedEdits`
+    void setReason(std::size_t entry, const QString& reason) { m_unsaved.setReason(entry, reason); }
+    /// Whoever keeps the edits will not exchange this one and those before it any more.
+    void letGo(const std::shared_ptr<Edit>& edit) { m_unsaved.letGo(edit, editedData()); }
     /// Reads the history of the open project: what was saved. To be used at once.
     [[nodiscard]] HistoryReader history() { return HistoryReader(m_database); }
     /// What the next save adds to it. To be used at once.
@@ -149,6 +151,12 @@ public:
     int exportDesignKml(const QStringList& lines, const QString& path, bool onlyUnsurveyed,
                         Outcome* outcome = nullptr);
     int exportSurveyKml(const QStringList& lines, const QString& path, Outcome* outcome = nullptr);
+    /// Writes the design points of these problems for the crew that measures them again, see
+    /// exchange/CrewList.h: as KML when the file's name ends in ".kml", else as CSV. Of a result
+    /// that is the point that it measures, see quality/MeasuredPoint.h. The outcome has a notice in
+    /// numbers.
+    int exportCrewList(const std::vector<const Problem*>& problems, const QString& path,
+                       Outcome* outcome = nullptr);
     /// Adds the results of another project's database. One of another coordinate system goes to the
     /// handler of `setOtherSystemHandler` instead; the outcome has no text then.
     int importSurveyDatabase(const QString& path, Outcome* outcome = nullptr,
@@ -170,11 +178,28 @@ public:
     /// name of another one takes its place. `filedAs` gets its name in memory.
     int correctSurveyPoint(const PointName& name, const SurveyCorrection& correction,
                            Outcome* outcome = nullptr, PointName* filedAs = nullptr);
+    /// Gives results other names, all at once, and what follows from a name; see PointRenaming.h.
+    /// Refused when a name is taken: nothing is replaced.
+    int renameResults(const std::vector<Renaming>& renamings, Outcome* outcome = nullptr);
     int correctDesignPoint(const PointName& name, const DesignCorrection& correction,
                            Outcome* outcome = nullptr);
     /// Puts points of the history back, over those of the same names.
     /// \returns how many there are
     std::size_t restorePoints(HistoryPoints&& points);
+
+    // Problems that the user accepts as they are.
+
+    [[nodiscard]] const Acceptances& acceptances() const { return m_acceptances; }
+    /// Accepts problems; person and time become those of now, and a reason that all have is also
+    /// that of the edit. Those that are accepted for the same reason already are passed over.
+    /// \returns how many are accepted
+    std::size_t accept(std::vector<Acceptance> problems);
+    /// Lists accepted problems again; what is not accepted is passed over.
+    /// \returns how many there are
+    std::size_t endAcceptances(std::vector<Acceptance> problems);
+    /// Says of each problem whether it is accepted; needed when the acceptances are others than
+    /// those of `findProblems`.
+    void markAccepted(ProblemList& problems) const;
 
     /// Replaces the whole design by the grids of these parameters, see design/DesignGenerator.h,
     /// and keeps the parameters. The outcome has a notice in numbers.
@@ -218,8 +243,9 @@ public:
 
     [[nodiscard]] DesignPoints& designPoints() { return m_design; }
     [[nodiscard]] SurveyPoints& surveyPoints() { return m_survey; }
-    /// The description of the project as a whole, keys as in ProjectFile.h. It also holds the
-    /// coordinate system that the project was made with, which may be older than the present one.
+    /// The description of the project as a whole, keys as in ProjectFile.h. It also holds a
+    /// coordinate system: the present one, once that was changed; until then the one of the file,
+    /// which may be older.
     [[nodiscard]] IDictionary& project() { return m_project; }
     /// The limits of the quality checks, "qc_param.ini".
     [[nodiscard]] IDictionary& qualityParameters() { return m_qualityParameters; }
@@ -239,7 +265,7 @@ public:
 
 private:
     [[nodiscard]] EditedData editedData();
-    std::size_t deleteSurveyPoints(PointNames&& names);
+    std::size_t deleteResults(PointNames&& names);
     /// Makes the change that a new edit holds, and keeps the edit.
     void make(const std::shared_ptr<Edit>& edit);
     /// Keeps an edit that is made, with room for it in `m_unsaved`.
@@ -250,6 +276,9 @@ private:
                          Read read);
     void change(const EditKind& kind, EditScope which, const IDictionary& present,
                 const IDictionary& wanted);
+    /// \param other  those of these problems that are accepted afterwards
+    std::size_t changeAcceptances(const EditKind& kind, const std::vector<Acceptance>& problems,
+                                  Acceptances&& other);
     void tellModified(bool wasChanged);
     [[nodiscard]] CheckedData checkedData();
     void run(std::span<const CheckKind* const> checks);
@@ -274,6 +303,7 @@ private:
     OtherSystemHandler m_onOtherSystem;
     DesignPoints m_design;
     SurveyPoints m_survey;
+    Acceptances m_acceptances;
     basalt::Dictionary m_project;
     QString m_projectFile; ///< the one that was opened; empty when it could not be read
     QString m_projectFileFault;

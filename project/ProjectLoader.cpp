@@ -8,6 +8,7 @@
 #include "model/RowNumbers.h"
 #include "model/RowText.h"
 #include "model/SurveyRecord.h"
+#include "project/AcceptanceTable.h"
 #include "project/DatabaseReason.h"
 #include "project/DBAdapter.h"
 #include "project/SafetyCopy.h"
@@ -169,7 +170,7 @@ ProjectLoader::ProjectLoader(IDBAdapter& database, ProgressReporter& progress)
 }
 
 Outcome ProjectLoader::load(const std::string& path, DesignPoints& design, SurveyPoints& survey,
-                            IDictionary& coordParameters)
+                            IDictionary& coordParameters, Acceptances* acceptances)
 {
     m_database.close();
     design.clear();
@@ -179,6 +180,8 @@ Outcome ProjectLoader::load(const std::string& path, DesignPoints& design, Surve
         return recovery;
     const Outcome reading = readAs(path, lum::databaseConnection(path), [&] {
         m_progress.start(caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Loading Database")));
+        if (acceptances != nullptr)
+            recovery.add(AcceptanceTable::read(m_database, *acceptances));
         return readDesign(design) && readSurvey(survey) && readCoordinateSystem(coordParameters);
     });
     m_progress.finish();

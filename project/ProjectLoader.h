@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+class Acceptances;
 class IDBAdapter;
 class IDictionary;
 class ProgressReporter;
@@ -23,8 +24,9 @@ public:
     ///
     /// When it fails the containers hold what was read before the failure; the parameters are as
     /// they were. An interrupted save is undone first; a notice then says so.
+    /// \param acceptances  gets the accepted problems; or null
     Outcome load(const std::string& path, DesignPoints& design, SurveyPoints& survey,
-                 IDictionary& coordParameters);
+                 IDictionary& coordParameters, Acceptances* acceptances = nullptr);
 
     /// What became of the rows of `readResults`.
     struct ResultRows

@@ -8,6 +8,7 @@
 #include "model/ProjectTables.h"
 #include "model/RowNumbers.h"
 #include "model/SurveyRecord.h"
+#include "project/AcceptanceTable.h"
 #include "project/DatabaseReason.h"
 #include "project/history/HistoryWriter.h"
 #include "project/SafetyCopy.h"
@@ -31,7 +32,7 @@ ProjectSaver::ProjectSaver(IDBAdapter& database, ProgressReporter& progress)
 
 Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
                            const SurveyPoints& survey, const IDictionary& coordParameters,
-                           const HistoryWriter* history)
+                           const SavedBeside& beside)
 {
     const SafetyCopy copy(path);
     // An interrupted save may have left emptied tables and a copy: `make` would replace that copy.
@@ -42,7 +43,7 @@ Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
     std::string reason;
     try {
         isSaved = m_database.open((connection + ",exclusive=1").c_str()) && copy.make(m_database) &&
-                  clearTables() && writeAll(design, survey, coordParameters, history);
+                  clearTables() && writeAll(design, survey, coordParameters, beside);
         reason = m_database.lastError();
     } catch (const std::exception& fault) { // of either thread, such as no memory
         reason = fault.what();
@@ -52,11 +53,14 @@ Outcome ProjectSaver::save(const std::string& path, const DesignPoints& design,
     copy.drop();
     m_database.open(connection.c_str()); // no longer exclusively
     m_progress.hide();
-    return Outcome::done();
+    Outcome saving = Outcome::done(m_notice);
+    if (beside.history != nullptr)
+        saving.add(beside.history->notice());
+    return saving;
 }
 
 bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& survey,
-                            const IDictionary& coordParameters, const HistoryWriter* history)
+                            const IDictionary& coordParameters, const SavedBeside& beside)
 {
     using namespace TableRows;
     return m_database.beginTransaction() && addMissingColumns() &&
@@ -67,7 +71,9 @@ bool ProjectSaver::writeAll(const DesignPoints& design, const SurveyPoints& surv
                      {m_progress,
                       caption(QT_TRANSLATE_NOOP("DataProcessDataManager", "Save Survey Data"))}) &&
            addCoordinateSystem(m_database, coordParameters) &&
-           (history == nullptr || history->write(m_database, m_progress)) &&
+           (beside.acceptances == nullptr ||
+            AcceptanceTable::write(m_database, *beside.acceptances, m_notice)) &&
+           (beside.history == nullptr || beside.history->write(m_database, m_progress)) &&
            m_database.execute(SafetyCopy::kUnmark) && m_database.commit();
 }
 

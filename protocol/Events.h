@@ -53,6 +53,12 @@ inline constexpr const char* kSurveyTableSelectPoint = "ON_SURVEY_TABLE_SELECT_P
 /// point. "pointName=...,lineName=...".
 inline constexpr const char* kShowPointHistory = "ON_SHOW_POINT_HISTORY";
 
+// --- problems ---
+
+/// Acceptances of problems that were taken back or made again -> window of the problems. No
+/// payload.
+inline constexpr const char* kAcceptancesChanged = "ON_ACCEPTANCES_CHANGED";
+
 // --- selection ---
 
 /// Design table, map pick, results of checks while the table is missing -> attribute panel,

@@ -12,11 +12,13 @@ public:
     enum class Kind
     {
         Done,    ///< with a notice for the user or without one
+        Found,   ///< done, and it has found what it was to look for
         Refused, ///< what was asked for makes no sense; nothing was tried
         Failed   ///< file, disk or database did not allow it
     };
 
     static Outcome done(const QString& notice = {}) { return {Kind::Done, notice, {}}; }
+    static Outcome found() { return {Kind::Found, {}, {}}; }
     static Outcome refused(const QString& text) { return {Kind::Refused, text, {}}; }
     /// \param detail for the log; the text when it is empty
     static Outcome failed(const QString& text, const std::string& detail = {})
@@ -25,7 +27,7 @@ public:
     }
 
     [[nodiscard]] Kind kind() const { return m_kind; }
-    [[nodiscard]] bool isDone() const { return m_kind == Kind::Done; }
+    [[nodiscard]] bool isDone() const { return m_kind == Kind::Done || m_kind == Kind::Found; }
 
     /// A translated sentence for the user; mostly empty when it is done.
     [[nodiscard]] const QString& text() const { return m_text; }

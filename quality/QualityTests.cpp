@@ -228,7 +228,11 @@ const QualityTest* failedTest(const SurveyPoint& point, const SurveyColumn::Memb
 
 QString failureText(const QualityTest& test, const SurveyPoint& point, const QualityLimits& limits)
 {
-    JudgedValue judged = test.judge(point, limits);
+    return failureText(test, test.judge(point, limits));
+}
+
+QString failureText(const QualityTest& test, JudgedValue judged)
+{
     const char* sentence = QT_TRANSLATE_NOOP(
         "QualityTests", "%1 %2 was out of range in the last check. Its limit is now %3.");
     if (judged.verdict == Verdict::IsOver) {

@@ -70,3 +70,5 @@ extern const QualityTest kAlong;
 /// have changed since the check.
 [[nodiscard]] QString failureText(const QualityTest& test, const SurveyPoint& point,
                                   const QualityLimits& limits);
+/// The same for a value that was judged earlier.
+[[nodiscard]] QString failureText(const QualityTest& test, JudgedValue judged);

@@ -17,8 +17,7 @@ QByteArray csvField(const QString& text)
     return field;
 }
 
-void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind,
-                     const std::function<void(std::string_view line)>& write)
+void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind, const CsvLineWriter& write)
 {
     const bool isForScripts = kind == ResultCsv::ForScripts;
     const int captionRole = isForScripts ? result_role::kEnglish : Qt::DisplayRole;
@@ -40,9 +39,16 @@ void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind,
 
 Outcome writeResultCsv(const QString& file, const QAbstractTableModel& result, ResultCsv kind)
 {
+    return writeCsvFile(file,
+                        [&](const CsvLineWriter& write) { formatResultCsv(result, kind, write); });
+}
+
+Outcome writeCsvFile(const QString& file,
+                     const std::function<void(const CsvLineWriter& write)>& format)
+{
     lum::WholeFileWriter writer(file);
     if (writer.fault().isEmpty())
-        formatResultCsv(result, kind, [&](std::string_view line) { writer.write(line); });
+        format([&](std::string_view line) { writer.write(line); });
     const QString reason = writer.commit();
     if (reason.isEmpty())
         return Outcome::done();

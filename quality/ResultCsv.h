@@ -20,10 +20,16 @@ enum class ResultCsv
 /// A field of such a line, UTF-8.
 [[nodiscard]] QByteArray csvField(const QString& text);
 
-/// \param write is called with each line, its line feed included
-void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind,
-                     const std::function<void(std::string_view line)>& write);
+/// Is called with each line, its line feed included.
+using CsvLineWriter = std::function<void(std::string_view line)>;
+
+void formatResultCsv(const QAbstractTableModel& result, ResultCsv kind, const CsvLineWriter& write);
 
 /// Writes the same into a file, in place of what stands there.
 /// \returns when it fails: the detail names the file and the reason in English
 Outcome writeResultCsv(const QString& file, const QAbstractTableModel& result, ResultCsv kind);
+
+/// Writes what `format` gives line by line into a file, in place of what stands there.
+/// \returns as `writeResultCsv`
+Outcome writeCsvFile(const QString& file,
+                     const std::function<void(const CsvLineWriter& write)>& format);

@@ -4,6 +4,7 @@
 #include "basalt_utilities/Numbers.h"
 #include "basalt_utilities/Product.h"
 #include "lum_sdk/Text.h"
+#include "quality/problems/ProblemLimits.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -74,6 +75,31 @@ std::vector<ControlRow> readControlRows(std::string_view page)
     }
     if (xml.hasError())
         basalt::logError("\"" + path + "\" cannot be read: " + xml.errorString().toStdString());
+    return rows;
+}
+
+std::vector<ControlRow> problemLimitRows()
+{
+    const auto translated = [](const char* text) {
+        return *text == 0 ? QString() : QCoreApplication::translate("ProblemLimits", text);
+    };
+    std::vector<ControlRow> rows;
+    for (const ProblemLimitGroup& group : problemLimitGroups()) {
+        for (const ProblemLimit& limit : group.limits) {
+            ControlRow& row = rows.emplace_back();
+            row = {translated(group.caption),
+                   limit.key,
+                   translated(limit.caption),
+                   QString::fromUtf8(limit.unit),
+                   "number",
+                   limit.fallback,
+                   {}};
+            for (const int choice : limit.choices) {
+                if (choice != 0)
+                    row.choices[std::to_string(choice)] = limit.choiceText(choice);
+            }
+        }
+    }
     return rows;
 }
 

@@ -27,6 +27,9 @@ struct ControlRow
 /// log tells.
 [[nodiscard]] std::vector<ControlRow> readControlRows(std::string_view page);
 
+/// The limits of the problems as rows; they have no control file.
+[[nodiscard]] std::vector<ControlRow> problemLimitRows();
+
 /// Null when there is no such row.
 [[nodiscard]] const ControlRow* findControlRow(const std::vector<ControlRow>& rows,
                                                std::string_view key);

@@ -64,6 +64,10 @@
         <source>not surveyed</source>
         <translation>未测</translation>
     </message>
+    <message>
+        <source>&amp;History of This Point</source>
+        <translation>此点的历史(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>AttributePage</name>
@@ -2230,6 +2234,29 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgEditSteps</name>
+    <message>
+        <source>Steps</source>
+        <translation>操作步骤</translation>
+    </message>
+    <message>
+        <source>&amp;Go To</source>
+        <translation>转到(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>The project before these steps</source>
+        <translation>这些步骤之前的工程</translation>
+    </message>
+    <message>
+        <source>Double-click a step to see the project as it was right after it.</source>
+        <translation>双击某一步骤，可查看该步骤刚完成时的工程。</translation>
+    </message>
+</context>
+<context>
     <name>DlgEmptyPtResult</name>
     <message>
         <source>Empty Point Check Result</source>
@@ -2265,6 +2292,57 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Go on?</source>
         <translation>要继续吗？</translation>
+    </message>
+</context>
+<context>
+    <name>DlgHistory</name>
+    <message>
+        <source>&amp;Restore These</source>
+        <translation>恢复所选(&amp;R)</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Reason</source>
+        <translation>编辑原因(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;History of This Point</source>
+        <translation>此点的历史(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Show on the &amp;Map</source>
+        <translation>在地图上显示(&amp;M)</translation>
+    </message>
+    <message>
+        <source>No action passes the filters.</source>
+        <translation>没有操作符合筛选条件。</translation>
+    </message>
+    <message>
+        <source>There is no history yet: it begins with the next change.</source>
+        <translation>还没有历史记录：从下一次更改开始。</translation>
+    </message>
+    <message>
+        <source>Actions: %1, not saved yet: %2. Changes: %3, selected: %4</source>
+        <translation>操作：%1，尚未保存：%2。更改：%3，选中：%4</translation>
+    </message>
+    <message>
+        <source>Put the points back as they were before the action. It can be undone.</source>
+        <translation>把这些点恢复为该操作之前的状态。可以撤销。</translation>
+    </message>
+    <message>
+        <source>Select changes in the lower table, all of one action, to put their points back.</source>
+        <translation>请在下面的表格中选中同一操作的更改，即可恢复其中的点。</translation>
     </message>
 </context>
 <context>
@@ -2678,6 +2756,105 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Restore %1 points</source>
         <translation>恢复 %1 个点</translation>
     </message>
+    <message>
+        <source>Import a design point</source>
+        <translation>导入 1 个设计点</translation>
+    </message>
+    <message>
+        <source>Import a result</source>
+        <translation>导入 1 个成果</translation>
+    </message>
+    <message>
+        <source>Delete a result</source>
+        <translation>删除 1 个成果</translation>
+    </message>
+    <message>
+        <source>Generate a design point</source>
+        <translation>生成 1 个设计点</translation>
+    </message>
+    <message>
+        <source>Restore a point</source>
+        <translation>恢复 1 个点</translation>
+    </message>
+    <message>
+        <source>Imports of design points</source>
+        <translation>导入设计点</translation>
+    </message>
+    <message>
+        <source>Imports of results</source>
+        <translation>导入测量成果</translation>
+    </message>
+    <message>
+        <source>Deletions of results</source>
+        <translation>删除测量成果</translation>
+    </message>
+    <message>
+        <source>Corrections of results</source>
+        <translation>修改测量成果</translation>
+    </message>
+    <message>
+        <source>Corrections of design points</source>
+        <translation>修改设计点</translation>
+    </message>
+    <message>
+        <source>Generated designs</source>
+        <translation>生成设计</translation>
+    </message>
+    <message>
+        <source>Quality limits</source>
+        <translation>质量限差</translation>
+    </message>
+    <message>
+        <source>Design parameters</source>
+        <translation>设计参数</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>Restored points</source>
+        <translation>恢复点</translation>
+    </message>
+</context>
+<context>
+    <name>EditSteps</name>
+    <message>
+        <source>Taken back: %1</source>
+        <translation>已撤销：%1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>已重做：%1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Taken back: %1 steps</source>
+        <translation>已撤销：%1 步</translation>
+    </message>
+    <message>
+        <source>Done again: %1 steps</source>
+        <translation>已重做：%1 步</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can be taken back now, but not later: to keep what it replaced takes %2 MiB, more than the %3 MiB for all steps.</source>
+        <translation>“%1”现在可以撤销，以后不能：保留被替换的数据需要 %2 MiB，超过全部步骤可用的 %3 MiB。</translation>
+    </message>
+    <message>
+        <source>The steps before it cannot be taken back later either: %1.</source>
+        <translation>在它之前的 %1 个步骤以后也不能撤销。</translation>
+    </message>
+    <message>
+        <source>Take it back?</source>
+        <translation>现在撤销吗？</translation>
+    </message>
 </context>
 <context>
     <name>EmptyPointCheck</name>
@@ -2984,6 +3161,182 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 of %2</source>
         <translation>第 %1 处，共 %2 处</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryActionModel</name>
+    <message>
+        <source>A double click edits the reason, until the project is saved.</source>
+        <translation>保存工程之前，双击可以编辑原因。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Person</source>
+        <translation>人员</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>计算机</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>Only these &amp;days:</source>
+        <translation>仅这些日期(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Filters</source>
+        <translation>清除筛选(&amp;L)</translation>
+    </message>
+    <message>
+        <source>All persons</source>
+        <translation>所有人员</translation>
+    </message>
+    <message>
+        <source>All actions</source>
+        <translation>所有操作</translation>
+    </message>
+    <message>
+        <source>line/point, such as 1001/10015001</source>
+        <translation>线号/点号，如 1001/10015001</translation>
+    </message>
+    <message>
+        <source>&amp;Person:</source>
+        <translation>人员(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Action:</source>
+        <translation>操作(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>P&amp;oint:</source>
+        <translation>点(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>至</translation>
+    </message>
+    <message>
+        <source>The last day is before the first: all days are shown.</source>
+        <translation>最后一天早于第一天：显示所有日期。</translation>
+    </message>
+    <message>
+        <source>A point is named by its line and its number, such as 1001/10015001.</source>
+        <translation>点由线号和点号指定，如 1001/10015001。</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryItemModel</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>测线</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>字段</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>原值</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>新值</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryTexts</name>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>测量成果</translation>
+    </message>
+    <message>
+        <source>Design point</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>Quality limit</source>
+        <translation>质量限差</translation>
+    </message>
+    <message>
+        <source>Design parameter</source>
+        <translation>设计参数</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>deleted</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>done and taken back</source>
+        <translation>已执行并撤销</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>已撤销</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>taken back, not saved yet</source>
+        <translation>已撤销，尚未保存</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>尚未保存</translation>
     </message>
 </context>
 <context>
@@ -3548,6 +3901,29 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>PointRestore</name>
+    <message>
+        <source>Points restored: %1.</source>
+        <translation>已恢复的点：%1。</translation>
+    </message>
+    <message>
+        <source>In place of another state: %1.</source>
+        <translation>其中替换了现有状态：%1。</translation>
+    </message>
+    <message>
+        <source>Already so: %1.</source>
+        <translation>本来就是如此：%1。</translation>
+    </message>
+    <message>
+        <source>Not restored, because they were new then or are gone now: %1.</source>
+        <translation>未恢复（当时为新增或现已不存在）：%1。</translation>
+    </message>
+    <message>
+        <source>Parameters cannot be restored here: %1.</source>
+        <translation>参数不能在此恢复：%1。</translation>
+    </message>
+</context>
+<context>
     <name>PointTableWindow</name>
     <message>
         <source>export</source>
@@ -3600,6 +3976,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The filters hide the selected point %1. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
         <translation>选中的点 %1 被筛选条件隐藏。&lt;a href=&quot;#&quot;&gt;清除所有筛选&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>History of This Point</source>
+        <translation>此点的历史</translation>
+    </message>
+</context>
+<context>
+    <name>PointVisit</name>
+    <message>
+        <source>Point %1 is not in the project now.</source>
+        <translation>工程中现在没有点 %1。</translation>
     </message>
 </context>
 <context>
@@ -3837,6 +4224,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The history of this project cannot be read: %1.</source>
         <translation>无法读取本工程的历史记录：%1。</translation>
+    </message>
+    <message>
+        <source>The history of this project has lost a table or a column. It is kept, but not shown, and what you change is not added to it.</source>
+        <translation>此工程的历史记录缺少一个表或一个字段。它被保留，但不显示，您所做的更改也不会添加到其中。</translation>
+    </message>
+    <message>
+        <source>Actions in the history of this project whose points are damaged and are not all shown: %1.</source>
+        <translation>此工程历史记录中有 %1 项操作的点数据已损坏，未全部显示。</translation>
+    </message>
+    <message>
+        <source>The points are saved. The history of this project does not take what you have changed: %1.</source>
+        <translation>点已保存。此工程的历史记录未能写入您所做的更改：%1。</translation>
     </message>
 </context>
 <context>
@@ -4699,6 +5098,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&amp;No projects yet</source>
         <translation>还没有工程(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>RedoCommand</name>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做 %1</translation>
     </message>
 </context>
 <context>
@@ -6904,6 +7310,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>取消</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommand</name>
+    <message>
+        <source>Undo %1</source>
+        <translation>撤销 %1</translation>
     </message>
 </context>
 </TS>

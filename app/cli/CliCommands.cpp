@@ -8,6 +8,7 @@
 #include "app/cli/ExportFile.h"
 #include "app/cli/GenerateDesign.h"
 #include "app/cli/ImportFiles.h"
+#include "app/cli/ListProblems.h"
 #include "app/cli/PrintHistory.h"
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
@@ -47,11 +48,11 @@ constexpr std::array kCommands{
                "write an Excel workbook about the project",
                3, 3, "", "", writeReport},
     CliCommand{"set-quality", "PROJECT key=value ...",
-               "set limits of the quality check",
+               "set limits of the quality check or of problems",
                2, kAny, "", "", setQuality},
-    CliCommand{"list-quality", "PROJECT",
-               "print the limits of the quality check, a \"key=value\" line each",
-               1, 1, "", "", listQuality},
+    CliCommand{"list-quality", "PROJECT [--problems]",
+               "print the limits of the quality check, a \"key=value\" line each (--problems: those of problems)",
+               1, 1, "", "--problems", listQuality},
     CliCommand{"generate", "PROJECT receiver|source|both [--set key=value ...]",
                "replace the whole design by generated lines (--set: design parameters, stored with the project)",
                2, 2, "--set", "", generateDesign},
@@ -67,6 +68,9 @@ constexpr std::array kCommands{
     CliCommand{"check", "PROJECT CHECK [--out FILE]",
                "check the project, print what is found as CSV (repeat only lists, and changes nothing)",
                2, 2, "--out", "", checkProject},
+    CliCommand{"problems", "PROJECT [--kind KIND,...] [--out FILE] [--measure-again FILE]",
+               "print everything that is wrong as CSV (exit status 3 when something is), changing nothing (--measure-again: its design points for the crew, .csv or .kml)",
+               1, 1, "--kind,--out,--measure-again", "", listProblems},
     CliCommand{"history", "PROJECT [--point LINE/POINT] [--since DAY]",
                "print who changed what and when as CSV, the newest first (a point: what became of it)",
                1, 1, "--point,--since", "", printHistory},
@@ -141,5 +145,5 @@ QString cliHelp()
                                  "      print this text, or the version\n"
                                  "\nPROJECT is a project file. The exit status is 0 when all is "
                                  "done, 1 after a failure (also of an import that finds no "
-                                 "point), 2 for wrong usage.\n");
+                                 "point), 2 for wrong usage, 3 when problems are found.\n");
 }

@@ -10,17 +10,17 @@ namespace {
 
 void print(const QStringList& fields)
 {
-    QByteArray line;
+    QByteArrayList texts;
     for (const QString& field : fields)
-        line += (line.isEmpty() ? QByteArray() : QByteArray(",")) + csvField(field);
-    std::printf("%s\n", line.constData());
+        texts << csvField(field);
+    std::printf("%s\n", texts.join(',').constData());
 }
 
 QStringList describe(const HistoryAction& action)
 {
     return {action.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")),
             action.person, action.machine, QString::fromStdString(action.kind),
-            action.isTakenBack ? QStringLiteral("taken_back") : QStringLiteral("done")};
+            QLatin1String(nameOf(action.state))};
 }
 
 void print(const std::vector<HistoryAction>& actions)
@@ -28,12 +28,6 @@ void print(const std::vector<HistoryAction>& actions)
     print(QStringLiteral("time,person,machine,action,state,points,file,reason").split(u','));
     for (const HistoryAction& action : actions)
         print(describe(action) << QString::number(action.points) << action.file << action.reason);
-}
-
-/// Whether a text is more than nothing or 0.
-bool saysSomething(const std::string& text)
-{
-    return text.find_first_not_of("-.0") != std::string::npos;
 }
 
 void print(const HistoryAction& action, const HistoryItem& item)
@@ -45,10 +39,10 @@ void print(const HistoryAction& action, const HistoryItem& item)
                                << QString::fromStdString(field.oldText)
                                << QString::fromStdString(field.newText));
     };
-    if (item.change == HistoryChange::Came)
+    if (item.change == HistoryChange::Came && item.field.empty())
         return line({});
     for (const HistoryField& field : fieldsOf(action, item)) {
-        if (saysSomething(field.oldText) || saysSomething(field.newText))
+        if (!item.field.empty() || saysSomething(field.oldText) || saysSomething(field.newText))
             line(field);
     }
 }
@@ -62,45 +56,55 @@ void print(const std::vector<HistoryReader::Event>& events)
     }
 }
 
-/// A line's number may hold a slash as well, a point's does not.
-bool readPoint(const QString& text, HistoryFilter& filter)
+struct Wanted
 {
-    const int slash = text.lastIndexOf(u'/');
-    if (slash >= 0)
-        filter.point = {text.left(slash).toStdString(), text.mid(slash + 1).toStdString()};
-    return slash >= 0;
-}
+    std::vector<PointName> points; ///< that the user may mean; none for all actions
+    HistoryFilter filter;
+};
 
-Outcome readFilter(const CliArguments& arguments, HistoryFilter& filter)
+Outcome readWanted(const CliArguments& arguments, Wanted& wanted)
 {
     const QString point = arguments.option(QStringLiteral("--point"));
-    if (!point.isEmpty() && !readPoint(point, filter))
+    wanted.points = pointNamesOf(point);
+    if (!point.isEmpty() && wanted.points.empty())
         return Outcome::refused(QStringLiteral("\"%1\" is not LINE/POINT").arg(point));
     const QString day = arguments.option(QStringLiteral("--since"));
-    filter.from = QDate::fromString(day, Qt::ISODate);
-    if (!day.isEmpty() && !filter.from.isValid())
+    wanted.filter.from = QDate::fromString(day, QStringLiteral("yyyy-MM-dd"));
+    if (!day.isEmpty() && !wanted.filter.from.isValid())
         return Outcome::refused(QStringLiteral("\"%1\" is not a day such as 2026-05-31").arg(day));
     return Outcome::done();
+}
+
+/// The life of the first of these points that has one.
+Outcome printLife(HistoryReader& history, Wanted wanted)
+{
+    std::vector<HistoryReader::Event> events;
+    Outcome reading = Outcome::done();
+    for (std::size_t i = 0; i < wanted.points.size() && events.empty() && reading.isDone(); ++i) {
+        wanted.filter.point = wanted.points[i];
+        reading = history.life(wanted.filter, events);
+    }
+    if (reading.isDone())
+        print(events);
+    return reading;
 }
 
 } // namespace
 
 Outcome printHistory(const CliArguments& arguments)
 {
-    HistoryFilter filter;
-    if (Outcome reading = readFilter(arguments, filter); !reading.isDone())
+    Wanted wanted;
+    if (Outcome reading = readWanted(arguments, wanted); !reading.isDone())
         return reading;
     CliProject project;
     if (Outcome opening = project.open(arguments.places[0], ProjectAccess::Look); !opening.isDone())
         return opening;
     HistoryReader history = project.manager().history();
+    if (!wanted.points.empty())
+        return printLife(history, wanted);
     std::vector<HistoryAction> actions;
-    std::vector<HistoryReader::Event> events;
-    Outcome reading =
-        filter.point ? history.life(filter, events) : history.actions(filter, actions);
-    if (reading.isDone() && filter.point)
-        print(events);
-    else if (reading.isDone())
+    Outcome reading = history.actions(wanted.filter, actions);
+    if (reading.isDone())
         print(actions);
     return reading;
 }

@@ -56,8 +56,9 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv,
 /// Tells why nothing was done. \returns the exit status: this is the one place that chooses it
 int report(const Outcome& outcome)
 {
+    constexpr int kFound = 3;
     if (outcome.isDone())
-        return 0;
+        return outcome.kind() == Outcome::Kind::Found ? kFound : 0;
     std::fprintf(stderr, "skyquill-cli: %s\n", qUtf8Printable(outcome.text()));
     return outcome.kind() == Outcome::Kind::Refused ? 2 : 1;
 }

@@ -3,8 +3,6 @@
 #include "project/edits/EditKinds.h"
 #include "project/edits/EditPart.h"
 
-#include <QDateTime>
-
 #include <memory>
 #include <vector>
 
@@ -40,29 +38,4 @@ private:
     std::size_t m_points;
     QString m_file;
     std::vector<std::unique_ptr<EditPart>> m_parts;
-};
-
-/// Edits that are not saved yet, each done or taken back, in order of time.
-class UnsavedEdits
-{
-public:
-    struct Entry
-    {
-        std::shared_ptr<Edit> edit;
-        bool isTakenBack = false;
-        QDateTime time; ///< UTC
-        QString reason; ///< of the user's; mostly empty
-    };
-
-    /// So that the next `add` cannot fail.
-    void makeRoom();
-    /// An edit that is taken back again before it was saved leaves nothing.
-    void add(const std::shared_ptr<Edit>& edit, bool isTakenBack);
-    /// Nothing when the edit is not among them.
-    void setReason(const std::shared_ptr<Edit>& edit, const QString& reason);
-    void clear() { m_entries.clear(); }
-    [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
-
-private:
-    std::vector<Entry> m_entries;
 };

@@ -18,6 +18,9 @@ public:
     virtual void allChanged(const SurveyPoints& before) = 0;
     virtual void parametersChanged(EditScope which, const IDictionary& before,
                                    const IDictionary& after) = 0;
+    /// \param before  those of these problems that were accepted
+    virtual void acceptancesChanged(const std::vector<Acceptance>& problems,
+                                    const Acceptances& before) = 0;
 };
 
 /// A part of an edit: it holds the other state of what it touches.

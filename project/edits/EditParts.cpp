@@ -1,5 +1,7 @@
 #include "project/edits/EditParts.h"
 
+#include <algorithm>
+
 void keepVerdict(const SurveyPoint& from, SurveyPoint& to)
 {
     to.qualityStandard = from.qualityStandard;
@@ -43,4 +45,19 @@ void Parameters::exchange(const EditedData& data)
 void Parameters::tell(const EditedData& data, IEditReader& reader) const
 {
     reader.parametersChanged(m_which, m_other, present(data));
+}
+
+AcceptedProblems::AcceptedProblems(const std::vector<Acceptance>& problems, Acceptances other)
+    : m_other(std::move(other))
+{
+    m_problems.reserve(problems.size());
+    for (const Acceptance& problem : problems)
+        m_problems.push_back(
+            {problem.kind, problem.isDesign, problem.name, problem.fingerprint, {}, {}, {}});
+    constexpr Acceptance::Order kOrder;
+    std::ranges::sort(m_problems, kOrder);
+    const auto same = std::ranges::unique(m_problems, [&](const auto& first, const auto& second) {
+        return !kOrder(first, second); // since they are sorted
+    });
+    m_problems.erase(same.begin(), same.end());
 }

@@ -187,3 +187,31 @@ private:
     EditScope m_which;
     basalt::Dictionary m_other;
 };
+
+/// Problems that are accepted, or not any more.
+class AcceptedProblems final : public EditPart
+{
+public:
+    /// \param other  those of these problems that are accepted in the other state
+    AcceptedProblems(const std::vector<Acceptance>& problems, Acceptances other);
+
+    [[nodiscard]] std::size_t problems() const { return m_problems.size(); }
+
+    void exchange(const EditedData& data) override
+    {
+        data.acceptances.exchange(m_problems, m_other);
+    }
+    void tell(const EditedData& /*data*/, IEditReader& reader) const override
+    {
+        reader.acceptancesChanged(m_problems, m_other);
+    }
+    [[nodiscard]] unsigned scope() const override { return kAcceptanceScope; }
+    [[nodiscard]] std::size_t bytes() const override
+    {
+        return (m_problems.size() + m_other.size()) * (sizeof(Acceptance) + 64);
+    }
+
+private:
+    std::vector<Acceptance> m_problems; ///< each once, without reason, person and time
+    Acceptances m_other;
+};

@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "model/PointLines.h"
+#include "quality/problems/Acceptance.h"
 
 #include <functional>
 
@@ -13,6 +14,7 @@ enum EditScope : unsigned
     kQualityScope = 4,
     kDesignParameterScope = 8,
     kCoordSystemScope = 16,
+    kAcceptanceScope = 32,
 };
 
 /// The data of the open project that edits change.
@@ -25,6 +27,7 @@ struct EditedData
     const IDictionary& coordSystem;
     /// Also computes the sea heights anew.
     std::function<void(const IDictionary&)> setCoordSystem;
+    Acceptances& acceptances;
 
     template <class Points>
     [[nodiscard]] Points& points() const

@@ -66,6 +66,11 @@ public:
             for (const auto& [number, point] : numbers)
                 addNew(point);
         }
+        passAll(before);
+    }
+    /// The same without telling what has changed.
+    void passAll(const Points& before)
+    {
         m_points = &before;
         m_later.clear();
     }

@@ -3,6 +3,8 @@
 #include "project/history/HistoryTables.h"
 #include "project/history/PointRecord.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <span>
 
@@ -140,7 +142,20 @@ void keepOnly(const PointName& name, typename ChangedPoints<Points>::Changes& ch
 
 } // namespace
 
+void EditContent::compress()
+{
+    designRows = HistoryRows(designRows.blob());
+    resultRows = HistoryRows(resultRows.blob());
+    items.shrink_to_fit();
+}
+
 void EditWalk::pass(const Edit& edit)
+{
+    const QScopedValueRollback<bool> passing(m_isPassing, true);
+    hear(edit);
+}
+
+void EditWalk::hear(const Edit& edit)
 {
     m_designChanges.clear();
     m_resultChanges.clear();
@@ -150,7 +165,7 @@ void EditWalk::pass(const Edit& edit)
 
 EditContent EditWalk::contentOf(const Edit& edit, const PointName* only)
 {
-    pass(edit);
+    hear(edit);
     const auto hasManyPoints = [this] {
         return m_designChanges.size() + m_resultChanges.size() > HistoryTables::kMostItems;
     };
@@ -160,7 +175,8 @@ EditContent EditWalk::contentOf(const Edit& edit, const PointName* only)
     }
     EditContent content;
     const bool isLarge = hasManyPoints();
-    const bool isCorrection = &edit.kind() == &EditKinds::kCorrectResult;
+    const bool isCorrection = &edit.kind() == &EditKinds::kCorrectResult ||
+                              (&edit.kind() == &EditKinds::kRenameResults && edit.points() == 1);
     content.holdsResults = writePoints<SurveyPoints>(m_resultChanges, isCorrection, content.items,
                                                      isLarge ? &content.resultRows : nullptr);
     content.holdsDesign = writePoints<DesignPoints>(m_designChanges, false, content.items,
@@ -189,4 +205,10 @@ void EditWalk::parametersChanged(EditScope which, const IDictionary& before,
             add(present->keyAt(i));
     }
     present = &before;
+}
+
+void EditWalk::acceptancesChanged(const std::vector<Acceptance>& problems,
+                                  const Acceptances& before)
+{
+    m_acceptances.walk(problems, before, m_parameterItems);
 }

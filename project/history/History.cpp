@@ -1,5 +1,6 @@
 #include "project/history/History.h"
 
+#include "model/PointNumber.h"
 #include "project/edits/EditKinds.h"
 
 #include <algorithm>
@@ -17,9 +18,11 @@ std::optional<Value> valueOf(const std::array<const char*, kCount>& names, std::
 }
 
 // In the order of the values; they stand in databases that are kept for years.
-constexpr std::array<const char*, 5> kDataNames{"results", "design", "quality_limits",
-                                                "design_parameters", "coord_system"};
+constexpr std::array<const char*, 6> kDataNames{"results",        "design",
+                                                "quality_limits", "design_parameters",
+                                                "coord_system",   "accepted_problems"};
 constexpr std::array<const char*, 3> kChangeNames{"came", "gone", "changed"};
+constexpr std::array<const char*, 3> kStateNames{"done", "taken_back", "done_and_taken_back"};
 
 } // namespace
 
@@ -41,6 +44,35 @@ const char* nameOf(HistoryChange change)
 std::optional<HistoryChange> historyChangeOf(std::string_view name)
 {
     return valueOf<HistoryChange>(kChangeNames, name);
+}
+
+const char* nameOf(HistoryState state)
+{
+    return kStateNames[static_cast<std::size_t>(state)];
+}
+
+std::optional<HistoryState> historyStateOf(std::string_view name)
+{
+    return valueOf<HistoryState>(kStateNames, name);
+}
+
+bool saysSomething(std::string_view text)
+{
+    const bool isZero = text.find_first_not_of("-.0") == std::string_view::npos &&
+                        text.find('0') != std::string_view::npos;
+    return !text.empty() && !isZero;
+}
+
+std::vector<PointName> pointNamesOf(const QString& text)
+{
+    std::vector<PointName> names;
+    for (int slash = text.lastIndexOf(u'/'); slash > 0; slash = text.lastIndexOf(u'/', slash - 1)) {
+        const std::string point = text.mid(slash + 1).toStdString();
+        if (!point.empty())
+            names.push_back(
+                {text.left(slash).toStdString(), std::string(writtenPointNumber(point))});
+    }
+    return names;
 }
 
 QString HistoryAction::title() const

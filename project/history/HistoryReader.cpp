@@ -16,7 +16,7 @@
 
 #include <QCoreApplication>
 
-#include <set>
+#include <algorithm>
 
 namespace {
 
@@ -37,10 +37,15 @@ std::string pointCondition(const PointName& point)
     return "line_num = " + quoted(point.line) + " and point_num = " + quoted(point.point);
 }
 
+std::string knownForms()
+{
+    return "form <= " + std::to_string(HistoryTables::kForm);
+}
+
 /// Conditions for all of a filter but its point.
 std::string conditionOf(const HistoryFilter& filter)
 {
-    std::string condition = "form <= " + std::to_string(HistoryTables::kForm);
+    std::string condition = knownForms();
     if (!filter.person.isEmpty())
         condition += " and person = " + quoted(filter.person.toStdString());
     if (!filter.kind.empty())
@@ -60,13 +65,15 @@ HistoryAction actionOf(const IDictionary& row)
     action.person = lum::toQString(row.text("person"));
     action.machine = lum::toQString(row.text("machine"));
     action.kind = row.text("kind");
-    action.isTakenBack = row.integer("is_taken_back") != 0;
+    action.state = historyStateOf(row.text("state")).value_or(HistoryState::Done);
     action.file = lum::toQString(row.text("file"));
-    action.points = static_cast<std::size_t>(readInteger64(row.text("points")));
+    action.points =
+        static_cast<std::size_t>(std::max<std::int64_t>(readInteger64(row.text("points")), 0));
     action.reason = lum::toQString(row.text("reason"));
     action.designColumns = row.text("design_columns");
     action.resultColumns = row.text("result_columns");
     action.isLarge = row.integer("is_large") != 0;
+    action.isKnown = row.integer("is_known") != 0;
     return action;
 }
 
@@ -87,7 +94,8 @@ std::optional<HistoryItem> itemOf(const IDictionary& row)
     return item;
 }
 
-void readBlob(std::string_view hex, HistoryData data, const PointName* point,
+/// \returns false when it is damaged, so that rows are missing
+bool readBlob(std::string_view hex, HistoryData data, const PointName* point,
               std::vector<HistoryItem>& items)
 {
     const HistoryRows rows(
@@ -96,10 +104,7 @@ void readBlob(std::string_view hex, HistoryData data, const PointName* point,
         if (point == nullptr || name.point == point->point)
             items.push_back({data, change, name, {}, std::string(row), {}});
     };
-    if (point == nullptr)
-        rows.visit(add);
-    else
-        rows.visitLine(point->line, add);
+    return point == nullptr ? rows.visit(add) : rows.visitLine(point->line, add);
 }
 
 } // namespace
@@ -136,12 +141,18 @@ Outcome HistoryReader::life(const HistoryFilter& filter, std::vector<Event>& eve
     if (!readLife(*filter.point, events) || !readPresent(*filter.point, life) ||
         !readActions(conditionOf(filter), chosen))
         return outcome(false);
-    for (Event& event : events)
-        life.tellNewTexts(event.action, event.items);
+    for (Event& event : events) {
+        if (event.action.isKnown)
+            life.tellNewTexts(event.action, event.items);
+        else
+            life.forget();
+    }
     std::set<std::int64_t> ids;
     for (const HistoryAction& action : chosen)
         ids.insert(action.id);
-    std::erase_if(events, [&](const Event& event) { return !ids.contains(event.action.id); });
+    std::erase_if(events, [&](const Event& event) {
+        return event.items.empty() || !ids.contains(event.action.id);
+    });
     return outcome(true);
 }
 
@@ -149,13 +160,18 @@ QString HistoryReader::notice()
 {
     if (!HistoryTables::exist(m_database))
         return {};
+    const std::int64_t newer = HistoryTables::newerActions(m_database);
     if (!HistoryTables::areKnown(m_database))
-        return translated(QT_TRANSLATE_NOOP(
-            "ProjectStore", "The history of this project is of a newer version of the program. It "
-                            "is kept, but not shown, and what you change is not added to it."));
-    const auto newer = m_database.rowCount(
-        HistoryTables::kActions, ("form > " + std::to_string(HistoryTables::kForm)).c_str());
-    if (newer <= 0)
+        return newer > 0
+                   ? translated(QT_TRANSLATE_NOOP(
+                         "ProjectStore",
+                         "The history of this project is of a newer version of the program. It is "
+                         "kept, but not shown, and what you change is not added to it."))
+                   : translated(QT_TRANSLATE_NOOP(
+                         "ProjectStore",
+                         "The history of this project has lost a table or a column. It is kept, "
+                         "but not shown, and what you change is not added to it."));
+    if (newer == 0)
         return {};
     return translated(QT_TRANSLATE_NOOP("ProjectStore",
                                         "Actions in the history of this project that a newer "
@@ -168,8 +184,9 @@ bool HistoryReader::readActions(const std::string& condition, std::vector<Histor
 {
     const std::string question =
         std::string("select ") + HistoryTables::kActionColumns +
-        ", design_rows is not null or result_rows is not null as is_large from " +
-        HistoryTables::kActions + " where " + condition + " order by id desc";
+        ", design_rows is not null or result_rows is not null as is_large, " + knownForms() +
+        " as is_known from " + HistoryTables::kActions + " where " + condition +
+        " order by id desc";
     return m_database.forEachRow(question.c_str(), [&](const IDictionary& row) {
         actions.push_back(actionOf(row));
         return true;
@@ -201,8 +218,9 @@ bool HistoryReader::readRows(const HistoryAction& action, const PointName* point
                                  "where id = " +
                                  std::to_string(action.id);
     return m_database.forEachRow(question.c_str(), [&](const IDictionary& row) {
-        readBlob(row.valueAt(0), HistoryData::Results, point, items);
-        readBlob(row.valueAt(1), HistoryData::Design, point, items);
+        const bool hasResults = readBlob(row.valueAt(0), HistoryData::Results, point, items);
+        if (!readBlob(row.valueAt(1), HistoryData::Design, point, items) || !hasResults)
+            m_damaged.insert(action.id);
         return true;
     });
 }
@@ -213,20 +231,21 @@ bool HistoryReader::readLife(const PointName& point, std::vector<Event>& events)
     std::set<std::int64_t> touching; // of the small ones
     const std::string question = std::string("select distinct action from ") +
                                  HistoryTables::kItems + " where " + pointCondition(point);
-    if (!readActions(conditionOf({}), actions) ||
+    if (!readActions("1", actions) ||
         !m_database.forEachRow(question.c_str(), [&](const IDictionary& row) {
             touching.insert(readInteger64(row.valueAt(0)));
             return true;
         }))
         return false;
     for (HistoryAction& action : actions) {
-        if (!action.isLarge && !touching.contains(action.id))
+        if (action.isKnown && !action.isLarge && !touching.contains(action.id))
             continue;
         Event event;
-        if (!readItems(action, &point, event.items))
+        if (action.isKnown && !readItems(action, &point, event.items))
             return false;
+        action.isKnown = action.isKnown && !m_damaged.contains(action.id);
         event.action = std::move(action);
-        if (!event.items.empty())
+        if (!event.items.empty() || !event.action.isKnown)
             events.push_back(std::move(event));
     }
     return true;
@@ -249,8 +268,14 @@ bool HistoryReader::readPresent(const PointName& point, PointLife& life)
 
 Outcome HistoryReader::outcome(bool isRead) const
 {
-    if (isRead)
+    if (isRead && m_damaged.empty())
         return Outcome::done();
+    if (isRead)
+        return Outcome::done(
+            translated(QT_TRANSLATE_NOOP("ProjectStore", "Actions in the history of this project "
+                                                         "whose points are damaged and are not all "
+                                                         "shown: %1."))
+                .arg(lum::groupedNumber(m_damaged.size())));
     const std::string reason = m_database.lastError();
     return Outcome::failed(
         translated(

@@ -4,6 +4,7 @@
 #include "project/history/History.h"
 #include "protocol/Outcome.h"
 
+#include <set>
 #include <vector>
 
 class IDBAdapter;
@@ -15,6 +16,8 @@ class HistoryReader
 {
 public:
     explicit HistoryReader(IDBAdapter& database) : m_database(database) {}
+
+    // An outcome has a notice when points of an action are damaged in the database.
 
     /// The newest first.
     Outcome actions(const HistoryFilter& filter, std::vector<HistoryAction>& actions);
@@ -49,6 +52,7 @@ private:
     [[nodiscard]] Outcome outcome(bool isRead) const;
 
     IDBAdapter& m_database;
+    std::set<std::int64_t> m_damaged; ///< actions
 };
 
 /// Points of the history, ready to be put back.
@@ -56,16 +60,20 @@ struct HistoryPoints
 {
     DesignPoints design;
     SurveyPoints results; ///< without sea heights
+    PointNames leaving;   ///< of results that get the names back that they had
 };
 
 /// The points of these items of an action as they were before it. Of a point that changed in single
 /// fields, these fields are as they were and the rest is as in `present`; one that is not there any
-/// more gives nothing, and a point that had come neither. A check point gets a counter that is free
-/// in `present`.
+/// more gives nothing, and a point that had come neither. A check point that is not there as it was
+/// gets a counter that is free in `present`.
 [[nodiscard]] HistoryPoints pointsBefore(const HistoryAction& action,
                                          const std::vector<HistoryItem>& items,
                                          const DesignPoints& presentDesign,
                                          const SurveyPoints& presentResults);
+
+/// Whether the item tells of another line or number of a point.
+[[nodiscard]] bool isRename(const HistoryItem& item);
 
 /// A value that an item has changed.
 struct HistoryField

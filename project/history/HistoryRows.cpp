@@ -55,11 +55,13 @@ void visitRows(const std::string& line, std::string_view rest, const HistoryRows
     }
 }
 
-void visitCompressed(const std::string& line, const QByteArray& compressed,
+/// \returns false when it is damaged
+bool visitCompressed(const std::string& line, const QByteArray& compressed,
                      const HistoryRows::Visitor& visitor)
 {
     const QByteArray raw = qUncompress(compressed);
     visitRows(line, {raw.constData(), static_cast<std::size_t>(raw.size())}, visitor);
+    return !raw.isEmpty();
 }
 
 } // namespace
@@ -92,7 +94,8 @@ HistoryRows::HistoryRows(const QByteArray& blob)
     QByteArray rows;
     while (!stream.atEnd()) {
         stream >> line >> rows;
-        if (stream.status() != QDataStream::Ok)
+        m_isWhole = stream.status() == QDataStream::Ok;
+        if (!m_isWhole)
             break;
         m_read[line.toStdString()] = rows;
     }
@@ -117,19 +120,23 @@ QByteArray HistoryRows::blob() const
         stream << QByteArray::fromStdString(line)
                << qCompress(reinterpret_cast<const uchar*>(rows.data()),
                             static_cast<int>(rows.size()), kCompression);
+    for (const auto& [line, rows] : m_read)
+        stream << QByteArray::fromStdString(line) << rows;
     return blob;
 }
 
-void HistoryRows::visit(const Visitor& visitor) const
+bool HistoryRows::visit(const Visitor& visitor) const
 {
+    bool isWhole = m_isWhole;
     for (const auto& [line, rows] : m_added)
         visitRows(line, rows, visitor);
     for (const auto& [line, rows] : m_read)
-        visitCompressed(line, rows, visitor);
+        isWhole = visitCompressed(line, rows, visitor) && isWhole;
+    return isWhole;
 }
 
-void HistoryRows::visitLine(const std::string& line, const Visitor& visitor) const
+bool HistoryRows::visitLine(const std::string& line, const Visitor& visitor) const
 {
-    if (const auto found = m_read.find(line); found != m_read.end())
-        visitCompressed(line, found->second, visitor);
+    const auto found = m_read.find(line);
+    return (found == m_read.end() || visitCompressed(line, found->second, visitor)) && m_isWhole;
 }

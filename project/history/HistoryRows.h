@@ -23,22 +23,22 @@ class HistoryRows
 {
 public:
     HistoryRows() = default;
-    /// Reads a blob; rows of one that is damaged are missing.
     explicit HistoryRows(const QByteArray& blob);
 
     /// \param row  the point as it was; empty when it has come
     void add(const PointName& name, HistoryChange change, const std::string& row);
-    [[nodiscard]] bool isEmpty() const { return m_added.empty(); }
+    [[nodiscard]] bool isEmpty() const { return m_added.empty() && m_read.empty(); }
     [[nodiscard]] QByteArray blob() const;
 
     using Visitor =
         std::function<void(const PointName& name, HistoryChange change, std::string_view row)>;
-    /// All rows, line by line.
-    void visit(const Visitor& visitor) const;
-    /// The rows of one line of a blob.
-    void visitLine(const std::string& line, const Visitor& visitor) const;
+    /// All rows, line by line. \returns false when the blob is damaged, so that rows are missing
+    bool visit(const Visitor& visitor) const;
+    /// The rows of one line of a blob, likewise.
+    bool visitLine(const std::string& line, const Visitor& visitor) const;
 
 private:
     std::map<std::string, std::string> m_added; ///< the rows by line
-    std::map<std::string, QByteArray> m_read;   ///< the same, compressed
+    std::map<std::string, QByteArray> m_read;   ///< those of a blob, compressed
+    bool m_isWhole = true;                      ///< the blob
 };

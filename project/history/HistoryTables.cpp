@@ -26,7 +26,7 @@ bool make(IDBAdapter& database)
     // The items of an action stand together, and those of a point are found by the index.
     return database.execute(
         "create table if not exists ProjectHistory (id INTEGER PRIMARY KEY, form INTEGER, "
-        "time TEXT, person TEXT, machine TEXT, kind TEXT, is_taken_back INTEGER, file TEXT, "
+        "time TEXT, person TEXT, machine TEXT, kind TEXT, state TEXT, file TEXT, "
         "points INTEGER, reason TEXT, design_columns TEXT, result_columns TEXT, "
         "design_rows BLOB, result_rows BLOB);"
         "create table if not exists ProjectHistoryItem (action INTEGER, number INTEGER, "
@@ -46,6 +46,14 @@ bool areKnown(IDBAdapter& database)
     return hasColumns(database, kActions, kActionColumns) &&
            hasColumns(database, kActions, std::string(kDesignRows) + ',' + kResultRows) &&
            hasColumns(database, kItems, kItemColumns);
+}
+
+std::int64_t newerActions(IDBAdapter& database)
+{
+    const std::string condition = "typeof(form) = 'integer' and form > " + std::to_string(kForm);
+    return hasColumns(database, kActions, "form")
+               ? std::max<std::int64_t>(database.rowCount(kActions, condition.c_str()), 0)
+               : 0;
 }
 
 std::string quoted(std::string_view text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -21,7 +22,7 @@ inline constexpr std::size_t kMostItems = 5000;
 inline constexpr const char* kActions = "ProjectHistory";
 inline constexpr const char* kItems = "ProjectHistoryItem";
 
-inline constexpr const char* kActionColumns = "id,form,time,person,machine,kind,is_taken_back,file,"
+inline constexpr const char* kActionColumns = "id,form,time,person,machine,kind,state,file,"
                                               "points,reason,design_columns,result_columns";
 inline constexpr const char* kItemColumns =
     "action,number,data,change,line_num,point_num,field,old,new";
@@ -34,6 +35,8 @@ bool make(IDBAdapter& database);
 [[nodiscard]] bool exist(IDBAdapter& database);
 /// Whether they have all columns that this version knows.
 [[nodiscard]] bool areKnown(IDBAdapter& database);
+/// How many actions a newer version has written; 0 when no row says of which form it is.
+[[nodiscard]] std::int64_t newerActions(IDBAdapter& database);
 
 /// A text as SQL has it, in quotes.
 [[nodiscard]] std::string quoted(std::string_view text);

@@ -7,6 +7,7 @@
 #include "model/DesignRecord.h"
 #include "model/RowNumbers.h"
 #include "model/SurveyRecord.h"
+#include "project/DatabaseReason.h"
 #include "project/history/EditWalk.h"
 #include "project/history/HistoryTables.h"
 
@@ -28,10 +29,10 @@ bool insertAction(IBulkInsert& actions, std::int64_t id, const UnsavedEdits::Ent
         entry.time.toUTC().toString(Qt::ISODateWithMs).toStdString(),
         author.person.toStdString(),
         author.machine.toStdString(),
-        entry.edit->kind().name,
-        entry.isTakenBack ? "1" : "0",
-        entry.edit->file().toStdString(),
-        to_string(entry.edit->points()),
+        entry.kind->name,
+        nameOf(entry.state),
+        entry.file.toStdString(),
+        to_string(entry.points),
         entry.reason.toStdString(),
         content.holdsDesign ? DesignRecord::columns() : std::string(),
         content.holdsResults ? SurveyRecord::columns() : std::string()};
@@ -78,19 +79,41 @@ bool storeBlob(IDBAdapter& database, std::int64_t action, const char* column,
 
 } // namespace
 
-bool HistoryWriter::write(IDBAdapter& database, ProgressReporter& progress) const
+bool HistoryWriter::write(IDBAdapter& database, ProgressReporter& progress)
 {
-    if (m_entries.empty())
+    if (!m_edits.holdChanges())
         return true;
     if (HistoryTables::exist(database) && !HistoryTables::areKnown(database)) {
         basalt::logWarning("The history of this project is of a newer version: what was changed is "
                            "not added to it.");
         return true;
     }
-    if (!HistoryTables::make(database))
+    if (!database.execute("savepoint history"))
         return false;
+    std::string reason;
+    try {
+        if (writeAll(database, progress))
+            return database.execute("release history");
+        reason = database.lastError();
+    } catch (const std::exception& fault) { // no memory
+        reason = fault.what();
+    }
+    basalt::logError("Cannot write the project's history: " + reason);
+    m_notice = QCoreApplication::translate("ProjectStore",
+                                           "The points are saved. The history of this project "
+                                           "does not take what you have changed: %1.")
+                   .arg(databaseReason(reason));
+    return database.execute("rollback to history; release history");
+}
+
+bool HistoryWriter::writeAll(IDBAdapter& database, ProgressReporter& progress) const
+{
     RecordSet last;
-    if (!database.query("select coalesce(max(id), 0) from ProjectHistory", last))
+    // Items may be left of actions that somebody has deleted.
+    if (!HistoryTables::make(database) ||
+        !database.query("select max(coalesce((select max(id) from ProjectHistory), 0), "
+                        "coalesce((select max(action) from ProjectHistoryItem), 0))",
+                        last))
         return false;
     const auto actions =
         database.bulkInsert(HistoryTables::kActions, HistoryTables::kActionColumns);
@@ -99,16 +122,20 @@ bool HistoryWriter::write(IDBAdapter& database, ProgressReporter& progress) cons
         return false;
     EditWalk walk(m_present);
     const std::int64_t before = readInteger64(last[0].valueAt(0));
-    for (std::size_t i = m_entries.size(); i-- > 0;) {
+    const std::vector<UnsavedEdits::Entry>& entries = m_edits.entries();
+    for (std::size_t i = entries.size(); i-- > 0;) {
         const std::int64_t id = before + static_cast<std::int64_t>(i) + 1;
-        const EditContent content = walk.contentOf(*m_entries[i].edit);
-        if (!insertAction(*actions, id, m_entries[i], m_author, content) ||
+        const UnsavedEdits::Entry& entry = entries[i];
+        const EditContent walked =
+            entry.edit == nullptr ? EditContent() : walk.contentOf(*entry.edit);
+        const EditContent& content = entry.edit == nullptr ? entry.content : walked;
+        if (!insertAction(*actions, id, entry, m_author, content) ||
             !insertItems(*items, id, content.items) ||
             !storeBlob(database, id, HistoryTables::kDesignRows, content.designRows) ||
             !storeBlob(database, id, HistoryTables::kResultRows, content.resultRows))
             return false;
         progress.report(QCoreApplication::translate("DataProcessDataManager", "Save History"),
-                        m_entries.size() - i, m_entries.size());
+                        entries.size() - i, entries.size());
     }
     return true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "project/edits/Edit.h"
 #include "project/history/HistoryAuthor.h"
+#include "project/history/UnsavedEdits.h"
 
 #include <cstdint>
 
@@ -12,21 +12,25 @@ class ProgressReporter;
 class HistoryWriter
 {
 public:
-    using Entries = std::vector<UnsavedEdits::Entry>;
-
     /// All of them must live until the history is written, and nothing may change meanwhile.
-    HistoryWriter(const Entries& entries, const EditedData& present, HistoryAuthor author)
-        : m_entries(entries), m_present(present), m_author(std::move(author))
+    HistoryWriter(const UnsavedEdits& edits, const EditedData& present, HistoryAuthor author)
+        : m_edits(edits), m_present(present), m_author(std::move(author))
     {
     }
 
-    /// Without edits nothing is written. A history of a newer version that this one cannot write
-    /// stays as it is; the log says so.
-    /// \returns whether it succeeded; the adapter says why it did not
-    bool write(IDBAdapter& database, ProgressReporter& progress) const;
+    /// Without a change nothing is written. A history of a newer version that this one cannot write
+    /// stays as it is; the log says so. A history that takes no rows keeps nobody from saving the
+    /// points: nothing is written then, and `notice` says so.
+    /// \returns false when the transaction is lost
+    bool write(IDBAdapter& database, ProgressReporter& progress);
+    /// For the user, when it was not written; mostly empty.
+    [[nodiscard]] const QString& notice() const { return m_notice; }
 
 private:
-    const Entries& m_entries;
+    bool writeAll(IDBAdapter& database, ProgressReporter& progress) const;
+
+    const UnsavedEdits& m_edits;
     EditedData m_present;
     HistoryAuthor m_author;
+    QString m_notice;
 };

@@ -16,6 +16,8 @@ public:
     void setPresent(HistoryData data, const IDictionary& row);
     /// Puts the new texts of whole points into the items of an action, the newest action first.
     void tellNewTexts(const HistoryAction& action, std::vector<HistoryItem>& items);
+    /// Nothing is known of it before an action that cannot be read.
+    void forget() { m_rows.clear(); }
 
 private:
     /// Texts by column; empty while nothing is known of the point.

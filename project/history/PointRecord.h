@@ -8,6 +8,10 @@
 #include "quality/Verdicts.h"
 
 #include <algorithm>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 /// What differs in the history between the two kinds of points.
 template <class Points>
@@ -60,3 +64,29 @@ template <class Points>
     constexpr auto& kVerdicts = PointRecord<Points>::kVerdicts;
     return std::ranges::find(kVerdicts, column) != kVerdicts.end();
 }
+
+/// Compares points by what is stored of them, but for the verdicts of the checks.
+template <class Points>
+class SameRecord
+{
+    using Record = PointRecord<Points>;
+
+public:
+    using Point = typename Points::Point;
+
+    bool operator()(const Point& first, const Point& second)
+    {
+        Record::write(first, *m_first);
+        Record::write(second, *m_second);
+        for (std::size_t i = 0; i < m_columns.size(); ++i) {
+            if (!isVerdict<Points>(m_columns[i]) && m_first->values()[i] != m_second->values()[i])
+                return false;
+        }
+        return true;
+    }
+
+private:
+    std::vector<std::string> m_columns = listedColumns(Record::columns());
+    std::unique_ptr<RecordTexts> m_first = std::make_unique<RecordTexts>();
+    std::unique_ptr<RecordTexts> m_second = std::make_unique<RecordTexts>();
+};

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace {
 
@@ -30,14 +31,11 @@ typename Points::Point withFields(const typename Points::Point& point,
     std::vector<std::string> texts(present.values(), present.values() + present.size());
     for (const HistoryItem* const item : items) {
         const auto column = std::ranges::find(records.columns(), item->field);
-        // The point keeps its name: the one that it had is another item.
-        if (const auto at = column - records.columns().begin(); at >= 2 && at < ssize(texts))
+        if (const auto at = column - records.columns().begin(); at < ssize(texts))
             texts[static_cast<std::size_t>(at)] = item->oldText;
     }
     addRow(records, texts);
-    typename Points::Point before = typename PointRecord<Points>::Reader().read(records[0]);
-    before.pointNumber = point.pointNumber; // with the counter of a check point
-    return before;
+    return typename PointRecord<Points>::Reader().read(records[0]);
 }
 
 /// Of the measurements of a check point, the one that the items have changed.
@@ -93,11 +91,21 @@ public:
         for (std::size_t i = 0; i < m_whole.size(); ++i)
             file(reader.read(m_whole[i]));
     }
-    void takeChanged(const Points& present, Points& before) const
+    /// \param rename  called with each point that had another name, and the name that it has
+    template <class Rename>
+    void takeChanged(const Points& present, Points& before, Rename rename) const
     {
         for (const auto& [name, items] : m_fields) {
-            if (const auto* const point = findPresent(present, {name.first, name.second}, items))
-                before.set(withFields<Points>(*point, items));
+            const auto* const point = findPresent(present, {name.first, name.second}, items);
+            if (point == nullptr)
+                continue;
+            auto was = withFields<Points>(*point, items);
+            if (std::ranges::any_of(items, [](const auto* item) { return isRename(*item); })) {
+                rename(std::move(was), PointName{point->lineNumber, point->pointNumber});
+                continue;
+            }
+            was.pointNumber = point->pointNumber; // with the counter of a check point
+            before.set(std::move(was));
         }
     }
 
@@ -106,7 +114,64 @@ private:
     std::map<std::pair<std::string, std::string>, std::vector<const HistoryItem*>> m_fields;
 };
 
+/// Files results in place of those that stand there.
+class ResultsBefore
+{
+public:
+    ResultsBefore(const SurveyPoints& present, HistoryPoints& before)
+        : m_present(present), m_before(before), m_filer(before.results, &present)
+    {
+    }
+
+    void addRenamed(SurveyPoint&& point, PointName&& present)
+    {
+        const SurveyPoint& filed = m_filer.file(std::move(point));
+        m_renamed.insert({filed.lineNumber, std::string(writtenPointNumber(filed.pointNumber))});
+        m_leaving.push_back(std::move(present));
+    }
+    void addWhole(SurveyPoint&& point)
+    {
+        if (m_renamed.contains({point.lineNumber, point.pointNumber}))
+            return; // the same result once more
+        if (const SurveyPoint* const same = findSame(point)) {
+            point.pointNumber = same->pointNumber;
+            m_before.results.set(std::move(point));
+        } else {
+            m_filer.file(std::move(point));
+        }
+    }
+    void finish() { m_before.leaving = PointNames(m_leaving); }
+
+private:
+    /// The measurement of a check point that stands as it was, and is not among the points yet.
+    const SurveyPoint* findSame(const SurveyPoint& point)
+    {
+        const SurveyPoints::Line* const line = m_present.findLine(point.lineNumber);
+        if (!isCheckPoint(point.pointNumber) || line == nullptr)
+            return nullptr;
+        const auto same = std::find_if(line->begin(), line->end(), [&](const SurveyPoint& present) {
+            return writtenPointNumber(present.pointNumber) == point.pointNumber &&
+                   m_before.results.find(present.lineNumber, present.pointNumber) == nullptr &&
+                   m_isSame(present, point);
+        });
+        return same == line->end() ? nullptr : &*same;
+    }
+
+    const SurveyPoints& m_present;
+    HistoryPoints& m_before;
+    SurveyPointFiler m_filer;
+    SameRecord<SurveyPoints> m_isSame;
+    std::set<std::pair<std::string, std::string>> m_renamed;
+    std::vector<PointName> m_leaving;
+};
+
 } // namespace
+
+bool isRename(const HistoryItem& item)
+{
+    return item.data == HistoryData::Results &&
+           (item.field == "line_num" || item.field == "point_num");
+}
 
 HistoryPoints pointsBefore(const HistoryAction& action, const std::vector<HistoryItem>& items,
                            const DesignPoints& presentDesign, const SurveyPoints& presentResults)
@@ -120,10 +185,13 @@ HistoryPoints pointsBefore(const HistoryAction& action, const std::vector<Histor
             results.add(item);
     }
     HistoryPoints before;
-    design.takeChanged(presentDesign, before.design);
+    design.takeChanged(presentDesign, before.design, [](auto&&...) {}); // they keep their names
     design.takeWhole([&](DesignPoint&& point) { before.design.set(std::move(point)); });
-    results.takeChanged(presentResults, before.results);
-    SurveyPointFiler filer(before.results, &presentResults);
-    results.takeWhole([&](SurveyPoint&& point) { filer.file(std::move(point)); });
+    ResultsBefore filer(presentResults, before);
+    results.takeChanged(presentResults, before.results, [&](SurveyPoint&& was, PointName&& name) {
+        filer.addRenamed(std::move(was), std::move(name));
+    });
+    results.takeWhole([&](SurveyPoint&& point) { filer.addWhole(std::move(point)); });
+    filer.finish();
     return before;
 }

@@ -10,17 +10,27 @@
 
 namespace {
 
-std::vector<HistoryItem> itemsOf(EditContent&& content)
+using Entry = UnsavedEdits::Entry;
+
+/// \param only  the point that is asked for, or null
+std::vector<HistoryItem> itemsOf(EditContent content, const PointName* only = nullptr)
 {
     std::vector<HistoryItem> items;
     const auto add = [&](HistoryData data, const HistoryRows& rows) {
-        rows.visit([&](const PointName& name, HistoryChange change, std::string_view row) {
-            items.push_back({data, change, name, {}, std::string(row), {}});
-        });
+        const auto push = [&](const PointName& name, HistoryChange change, std::string_view row) {
+            if (only == nullptr || name == *only)
+                items.push_back({data, change, name, {}, std::string(row), {}});
+        };
+        if (only == nullptr)
+            rows.visit(push);
+        else
+            rows.visitLine(only->line, push);
     };
     add(HistoryData::Results, content.resultRows);
     add(HistoryData::Design, content.designRows);
     std::ranges::move(content.items, std::back_inserter(items));
+    if (only != nullptr)
+        std::erase_if(items, [&](const HistoryItem& item) { return item.name != *only; });
     return items;
 }
 
@@ -30,15 +40,15 @@ std::vector<HistoryAction> UnsavedHistory::actions() const
 {
     const HistoryAuthor author = HistoryAuthor::current();
     std::vector<HistoryAction> actions;
-    for (const UnsavedEdits::Entry& entry : std::views::reverse(m_entries)) {
+    for (const Entry& entry : std::views::reverse(m_entries)) {
         HistoryAction action;
         action.time = entry.time;
         action.person = author.person;
         action.machine = author.machine;
-        action.kind = entry.edit->kind().name;
-        action.isTakenBack = entry.isTakenBack;
-        action.file = entry.edit->file();
-        action.points = entry.edit->points();
+        action.kind = entry.kind->name;
+        action.state = entry.state;
+        action.file = entry.file;
+        action.points = entry.points;
         action.reason = entry.reason;
         action.designColumns = DesignRecord::columns();
         action.resultColumns = SurveyRecord::columns();
@@ -50,18 +60,23 @@ std::vector<HistoryAction> UnsavedHistory::actions() const
 std::vector<HistoryItem> UnsavedHistory::items(std::size_t action) const
 {
     EditWalk walk(m_present);
-    for (std::size_t later = 0; later < action; ++later)
-        walk.pass(*m_entries[m_entries.size() - 1 - later].edit);
-    return itemsOf(walk.contentOf(*m_entries[m_entries.size() - 1 - action].edit));
+    const Entry& wanted = m_entries[m_entries.size() - 1 - action];
+    if (wanted.edit == nullptr)
+        return itemsOf(wanted.content);
+    for (const Entry& later : std::views::reverse(m_entries) | std::views::take(action)) {
+        if (later.edit != nullptr)
+            walk.pass(*later.edit);
+    }
+    return itemsOf(walk.contentOf(*wanted.edit));
 }
 
 std::vector<std::vector<HistoryItem>> UnsavedHistory::life(const PointName& point) const
 {
     EditWalk walk(m_present);
     std::vector<std::vector<HistoryItem>> life;
-    for (const UnsavedEdits::Entry& entry : std::views::reverse(m_entries)) {
-        life.push_back(itemsOf(walk.contentOf(*entry.edit, &point)));
-        std::erase_if(life.back(), [&](const HistoryItem& item) { return item.name != point; });
-    }
+    for (const Entry& entry : std::views::reverse(m_entries))
+        life.push_back(entry.edit == nullptr
+                           ? itemsOf(entry.content, &point)
+                           : itemsOf(walk.contentOf(*entry.edit, &point), &point));
     return life;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "project/edits/Edit.h"
-#include "project/history/History.h"
+#include "project/history/UnsavedEdits.h"
 
 #include <vector>
 

@@ -25,7 +25,8 @@ DlgEditSteps::DlgEditSteps(IDesktopHost& host, EditSteps& steps)
 {
     setWindowTitle(tr("Steps"));
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* const hint = new QLabel(tr("A double click goes to the state behind a step."), this);
+    auto* const hint =
+        new QLabel(tr("Double-click a step to see the project as it was right after it."), this);
     hint->setWordWrap(true);
     auto* const go = new QPushButton(tr("&Go To"), this);
     auto* const close = new QPushButton(tr("Close"), this);

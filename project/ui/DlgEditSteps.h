@@ -8,8 +8,8 @@ class IDesktopHost;
 class QListWidget;
 
 /// The list of the steps, the oldest first, and before them the project as it was at first. Those
-/// that are taken back are grey. A double click, or Enter, goes to the state behind a step. There
-/// is one such list; it stays open beside the work and closes with its project.
+/// that are taken back are grey. A double click, or Enter, goes to the project as it was right
+/// after a step. There is one such list; it stays open beside the work and closes with its project.
 class DlgEditSteps final : public Dialog
 {
     Q_OBJECT

@@ -1,7 +1,10 @@
 #include "project/ui/EditSteps.h"
 
+#include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/WaitCursor.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
@@ -9,6 +12,10 @@
 #include "protocol/Events.h"
 
 #include <QUndoCommand>
+
+#include <cstdlib>
+#include <cstring>
+#include <new>
 
 namespace {
 
@@ -38,7 +45,7 @@ public:
         m_isPushed = true;
     }
 
-    [[nodiscard]] bool isOf(const std::shared_ptr<Edit>& edit) const { return m_edit == edit; }
+    [[nodiscard]] const std::shared_ptr<Edit>& edit() const { return m_edit; }
     [[nodiscard]] std::size_t bytes() const { return m_edit == nullptr ? 0 : m_edit->bytes(); }
     void letGo() { m_edit.reset(); }
 
@@ -50,7 +57,9 @@ private:
 
 EditSteps::EditSteps(IDesktopHost& host, std::size_t mostBytes)
     : m_host(host), m_mostBytes(mostBytes), m_project(openProject()),
-      m_subscription(*this, events::kUpdateSystemStatus, host.eventManager())
+      m_subscription(*this,
+                     lum::eventNames({events::kUpdateSystemStatus, events::kProjectModified}),
+                     host.eventManager())
 {
     DataProcessDataManager::instance().setEditHandler(
         [this](const std::shared_ptr<Edit>& edit) { add(edit); });
@@ -113,18 +122,28 @@ void EditSteps::goTo(int count)
     const int target = m_letGo + count;
     if (target == m_stack.index())
         return;
-    const bool isBack = target < m_stack.index();
+    const int start = m_stack.index();
+    const bool isBack = target < start;
     const QString title = isBack ? m_stack.undoText() : m_stack.redoText();
-    m_hasFailed = false;
-    while (!m_hasFailed && m_stack.index() > target)
-        m_stack.undo();
-    while (!m_hasFailed && m_stack.index() < target)
-        m_stack.redo();
-    if (m_hasFailed) // nothing was changed, so the stack goes back to where the project is
-        isBack ? m_stack.redo() : m_stack.undo();
-    else
-        m_host.tell((isBack ? tr("Taken back: %1") : tr("Done again: %1")).arg(title));
-    announce();
+    {
+        const WaitCursor waiting;
+        m_hasFailed = false;
+        while (!m_hasFailed && m_stack.index() > target)
+            m_stack.undo();
+        while (!m_hasFailed && m_stack.index() < target)
+            m_stack.redo();
+        if (m_hasFailed) // nothing was changed, so the stack goes back to where the project is
+            isBack ? m_stack.redo() : m_stack.undo();
+        announce();
+    }
+    const int steps = std::abs(m_stack.index() - start);
+    if (steps == 1)
+        tell((isBack ? tr("Taken back: %1") : tr("Done again: %1")).arg(title));
+    else if (steps > 1)
+        tell((isBack ? tr("Taken back: %1 steps") : tr("Done again: %1 steps"))
+                 .arg(lum::groupedNumber(steps)));
+    if (m_hasFailed)
+        LumMessageBox::error(m_host.dialogParent(), tr("Error"), m_failure);
 }
 
 void EditSteps::exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack)
@@ -138,7 +157,13 @@ void EditSteps::exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack)
         return;
     }
     m_hasFailed = true;
-    LumMessageBox::error(m_host.dialogParent(), tr("Error"), outcome.text());
+    m_failure = outcome.text();
+}
+
+void EditSteps::tell(const QString& sentence)
+{
+    m_host.tell(sentence);
+    m_isTelling = !sentence.isEmpty();
 }
 
 void EditSteps::announce()
@@ -156,6 +181,8 @@ void EditSteps::announce()
         publish({events::kRefreshSurveyTable});
     if ((touched & kSurveyScope) != 0)
         publish({events::kRefreshSurveyLayer});
+    if ((touched & kAcceptanceScope) != 0)
+        publish({events::kAcceptancesChanged});
     publish({events::kUpdateSystemStatus}); // the captions of the menu
     Q_EMIT changed();
 }
@@ -165,27 +192,35 @@ void EditSteps::announce()
 void EditSteps::add(const std::shared_ptr<Edit>& edit)
 {
     m_hasFailed = false;
-    m_stack.push(new EditStep(*this, edit)); // the stack's own from here on
-    if (edit->bytes() <= m_mostBytes)
-        letOldestGo();
-    // Later, when whoever has made the edit has told about it.
-    QMetaObject::invokeMethod(
-        this, [this, made = std::weak_ptr<Edit>(edit)] { settle(made.lock()); },
-        Qt::QueuedConnection);
+    if (m_isTelling)
+        tell({});
+    try {
+        m_stack.push(new EditStep(*this, edit)); // the stack's own from here on
+        if (edit->bytes() <= m_mostBytes)
+            letOldestGo();
+        // Later, when whoever has made the edit has told about it.
+        QMetaObject::invokeMethod(
+            this, [this, made = std::weak_ptr<Edit>(edit)] { settle(made.lock()); },
+            Qt::QueuedConnection);
+    } catch (const std::bad_alloc&) {
+        forget(); // the steps do not lead to the project as it is now
+        basalt::logError("No memory to keep an edit: none can be taken back any more.");
+    }
 }
 
 void EditSteps::settle(const std::shared_ptr<Edit>& edit)
 {
     announce();
     const int last = m_stack.index() - 1;
-    if (edit == nullptr || edit->bytes() <= m_mostBytes || last < m_letGo || !step(last).isOf(edit))
+    if (edit == nullptr || edit->bytes() <= m_mostBytes || last < m_letGo ||
+        step(last).edit() != edit)
         return;
-    if (mayLetGo(edit->title(), edit->bytes())) {
-        letGo(last);
-    } else {
+    if (wantsBack(*edit)) {
         undo();
         if (!m_hasFailed)
             dropTakenBack();
+    } else {
+        letGo(last);
     }
     announce();
 }
@@ -199,20 +234,24 @@ void EditSteps::dropTakenBack()
 
 void EditSteps::letGo(int last)
 {
+    DataProcessDataManager::instance().letGo(step(last).edit());
     for (; m_letGo <= last; ++m_letGo)
         step(m_letGo).letGo();
 }
 
-bool EditSteps::mayLetGo(const QString& title, std::size_t bytes)
+bool EditSteps::wantsBack(const Edit& edit)
 {
     const auto mebibytes = [](std::size_t count) {
         return lum::groupedNumber((count + 1024 * 1024 - 1) / (1024 * 1024));
     };
-    return LumMessageBox::question(
-               m_host.dialogParent(), tr("Undo"),
-               tr("\"%1\" can be taken back now, but not later: to keep what it replaced takes %2 "
-                  "MiB, more than the %3 MiB for all steps. Keep what it did?")
-                   .arg(title, mebibytes(bytes), mebibytes(m_mostBytes))) ==
+    QString text = tr("\"%1\" can be taken back now, but not later: to keep what it replaced takes "
+                      "%2 MiB, more than the %3 MiB for all steps.")
+                       .arg(edit.title(), mebibytes(edit.bytes()), mebibytes(m_mostBytes));
+    if (const int before = done() - 1; before > 0)
+        text += QLatin1Char(' ') + tr("The steps before it cannot be taken back later either: %1.")
+                                       .arg(lum::groupedNumber(before));
+    return LumMessageBox::question(m_host.dialogParent(), tr("Undo"),
+                                   text + QLatin1Char(' ') + tr("Take it back?")) ==
            LumMessageBox::Button::Yes;
 }
 
@@ -222,7 +261,7 @@ void EditSteps::letOldestGo()
     for (int i = m_stack.count() - 1; i >= m_letGo; --i) {
         bytes += step(i).bytes();
         if (bytes > m_mostBytes && i < m_stack.count() - 1)
-            letGo(i);
+            return letGo(i);
     }
 }
 
@@ -232,8 +271,13 @@ void EditSteps::forget()
     m_letGo = 0;
 }
 
-void EditSteps::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
+void EditSteps::handleEvent(const char* eventName, const char* /*payload*/, int /*reserved*/)
 {
+    if (std::strcmp(eventName, events::kProjectModified) == 0) {
+        if (m_isTelling)
+            tell({});
+        return;
+    }
     const QString project = openProject();
     if (project == m_project)
         return;

@@ -59,11 +59,14 @@ private:
     void add(const std::shared_ptr<Edit>& edit);
     /// Shows what a new step has changed, and asks about one that is too large.
     void settle(const std::shared_ptr<Edit>& edit);
-    [[nodiscard]] bool mayLetGo(const QString& title, std::size_t bytes);
+    /// Whether to take back the last step, which is too large to keep.
+    [[nodiscard]] bool wantsBack(const Edit& edit);
     void letOldestGo();
     void letGo(int last);
     void dropTakenBack();
     void exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack);
+    /// In the status bar, until the project changes otherwise or is saved.
+    void tell(const QString& sentence);
     /// Shows the windows what the edits have changed, once, and what the menu can do.
     void announce();
     void forget();
@@ -75,6 +78,8 @@ private:
     int m_letGo = 0;        ///< steps at the beginning that hold no edit any more
     unsigned m_touched = 0; ///< scopes that are not announced yet
     bool m_hasFailed = false;
+    QString m_failure; ///< why
+    bool m_isTelling = false;
     QString m_project; ///< its folder
     EventSubscription m_subscription;
 };

@@ -19,18 +19,18 @@ void SysSettingCommand::execute()
     // The system in use comes from the database, which may be newer than the project file.
     const IDictionary& coordSystem = get_project_coord_transform().parameters();
     CoordinateRecord::copy(coordSystem, project);
-    const basalt::Dictionary before(project);
+    basalt::Dictionary before(project);
     DlgProjectSet dialog(host(), project);
     dialog.setInformationReadOnly(manager.projectFileFault());
     dialog.setSystemQuestion([&](const IDictionary& chosen) {
         return CoordSystemQuestions::mayChange(&dialog, coordSystem, chosen);
     });
     QObject::connect(&dialog, &DlgProjectSet::applied, &dialog, [&] {
-        dictionary_copy(project, manager.project());
-        CoordinateRecord::copy(project, manager.project());
         basalt::Dictionary parameters;
         CoordinateRecord::copy(project, parameters);
+        dictionary_copy(project, manager.project());
         manager.setCoordSystem(parameters);
+        CoordinateRecord::copy(project, before); // another system is an edit of its own
         if (!dictionary_same(before, project))
             manager.markChanged();
     });

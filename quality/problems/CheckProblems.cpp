@@ -1,29 +1,154 @@
 #include "quality/problems/CheckProblems.h"
 
+#include "lum_sdk/Text.h"
+#include "model/PointNumber.h"
+#include "quality/problems/ProblemColumns.h"
+#include "quality/ResurveyCheck.h"
+#include "quality/ResurveyTolerances.h"
+
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
-constexpr ProblemKind kMissing{"missing", QT_TRANSLATE_NOOP("ProblemKinds", "Not surveyed"),
-                               Severity::Warning, [](const Problem& /*problem*/) {
-                                   return QCoreApplication::translate("CheckProblems",
-                                                                      "The point has no result.");
-                               }};
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("CheckProblems", text);
+}
+
+template <class Judge>
+void forEachResult(const SurveyPoints& survey, Judge judge)
+{
+    for (const auto& [number, line] : survey) {
+        for (const SurveyPoint& point : line) {
+            fetchAhead(point);
+            judge(line, point);
+        }
+    }
+}
+
+// Empty points
+
+constexpr ProblemKind kMissing{
+    "missing", QT_TRANSLATE_NOOP("ProblemKinds", "Not surveyed"), Severity::Warning,
+    [](const Problem& /*problem*/) { return translated("The design point has no result."); }};
 constexpr std::array kEmptyPointKinds{&kMissing};
 
-void findEmptyPoints(const FinderInput& input, ProblemList& problems)
+template <class Use>
+void forEachEmpty(const DesignPoints& design, Use use)
 {
-    for (const auto& [number, line] : input.design()) {
+    for (const auto& [number, line] : design) {
         for (const DesignPoint& point : line) {
             fetchAhead(point);
             if (point.status == 0)
-                problems.add(kMissing, point);
+                use(point);
         }
     }
+}
+
+void findEmptyPoints(const FinderInput& input, ProblemList& problems)
+{
+    std::size_t count = 0; // a list that grows step by step takes twice as long
+    forEachEmpty(input.design(), [&](const DesignPoint& /*point*/) { ++count; });
+    problems.reserve(count);
+    forEachEmpty(input.design(), [&](const DesignPoint& point) { problems.add(kMissing, point); });
+}
+
+// Resurveys
+
+constexpr std::array kDifferences{
+    QT_TRANSLATE_NOOP("CheckProblems", "The resurvey %1 lies %2 off in north."),
+    QT_TRANSLATE_NOOP("CheckProblems", "The resurvey %1 lies %2 off in east."),
+    QT_TRANSLATE_NOOP("CheckProblems", "The resurvey %1 lies %2 off in height.")};
+
+constexpr ProblemKind kResurveyOff{
+    "resurvey_off", QT_TRANSLATE_NOOP("ProblemKinds", "Resurvey out of range"), Severity::Error,
+    [](const Problem& problem) {
+        return translated(kDifferences[static_cast<std::size_t>(problem.second)])
+            .arg(lum::toQString(problem.otherPoint),
+                 problemValueText(*problem.kind, problem.value));
+    }};
+constexpr ProblemKind kResurveyAlone{
+    "resurvey_alone", QT_TRANSLATE_NOOP("ProblemKinds", "Resurvey without its point"),
+    Severity::Warning, [](const Problem& /*problem*/) {
+        return translated("The line has no result of the point that this one surveys again.");
+    }};
+constexpr std::array kResurveyKinds{&kResurveyOff, &kResurveyAlone};
+
+/// The difference that exceeds its tolerance most.
+void describe(Problem& problem, const SurveyPoint& first, const ResurveyTolerances& tolerances)
+{
+    const std::array metres{first.resurveyXDiff * tolerances.planeUnitM,
+                            first.resurveyYDiff * tolerances.planeUnitM, first.resurveyHDiff};
+    std::size_t worst = 0;
+    const auto excess = [&](std::size_t place) {
+        return std::fabs(metres[place]) - tolerances.metres[place];
+    };
+    for (std::size_t place = 1; place < metres.size(); ++place) {
+        if (!(excess(place) <= excess(worst)))
+            worst = place;
+    }
+    problem.value = metres[worst];
+    problem.limit = tolerances.metres[worst];
+    problem.second = static_cast<double>(worst);
+}
+
+void findResurveys(const FinderInput& input, ProblemList& problems)
+{
+    constexpr int kOutOfRange = 1;
+    const auto tolerances = ResurveyTolerances::from(input.parameters(), input.planeUnitM());
+    forEachResult(input.survey(), [&](const auto& /*line*/, const SurveyPoint& point) {
+        const int digit = resurveyDigit(point);
+        if (digit == 0)
+            return;
+        Problem& problem =
+            problems.add(digit == kOutOfRange ? kResurveyOff : kResurveyAlone, point);
+        if (digit != kOutOfRange)
+            return;
+        describe(problem, point, tolerances);
+        problem.otherLine = problem.line;
+        problem.otherPoint = problems.keep(point.pairedNumber);
+    });
+}
+
+// Repeats
+
+constexpr ProblemKind kRepeat{
+    "repeat", QT_TRANSLATE_NOOP("ProblemKinds", "Measured again"), Severity::Note,
+    [](const Problem& problem) {
+        if (problem.otherPoint.empty())
+            return translated("The line has no result of the point that this one repeats.");
+        return translated("It repeats %1, %2 beside it and %3 in height.")
+            .arg(lum::toQString(problem.otherPoint), problemValueText(*problem.kind, problem.value),
+                 problemValueText(*problem.kind, problem.second));
+    }};
+constexpr std::array kRepeatKinds{&kRepeat};
+
+constexpr std::string_view kRepeatMark = "C";
+
+void findRepeats(const FinderInput& input, ProblemList& problems)
+{
+    forEachResult(input.survey(), [&](const auto& line, const SurveyPoint& point) {
+        const std::string_view number = writtenPointNumber(point.pointNumber);
+        if (number.substr(0, 1) != kRepeatMark)
+            return;
+        const SurveyPoint* const first = line.find(number.substr(1));
+        Problem& problem = problems.add(kRepeat, point);
+        if (first == nullptr)
+            return;
+        problem.otherLine = problem.line;
+        problem.otherPoint = problems.keep(first->pointNumber);
+        problem.value =
+            input.planeUnitM() * std::hypot(point.north - first->north, point.east - first->east);
+        problem.second = point.elevation - first->elevation;
+    });
 }
 
 } // namespace
 
 constexpr ProblemFinder kEmptyPointFinder{findEmptyPoints, kEmptyPointKinds};
+constexpr ProblemFinder kResurveyFinder{findResurveys, kResurveyKinds};
+constexpr ProblemFinder kRepeatFinder{findRepeats, kRepeatKinds};

@@ -2,9 +2,12 @@
 
 #include "basalt_utilities/LocalTimes.h"
 #include "model/PointLines.h"
+#include "quality/problems/IndexedPoints.h"
 #include "quality/problems/ProblemLimits.h"
 #include "quality/QualityLimits.h"
 
+#include <mutex>
+#include <optional>
 #include <string>
 
 class IDictionary;
@@ -45,8 +48,24 @@ public:
         return problemLimit(m_data.parameters, key);
     }
 
+    // Points by their places, in metres; an index is made when it is asked for first.
+
+    /// \param isReceiver  of the design point itself, not of its line
+    [[nodiscard]] const IndexedPoints<DesignPoint>& indexedDesign(bool isReceiver) const;
+    [[nodiscard]] const IndexedPoints<SurveyPoint>& indexedResults() const;
+
 private:
+    template <class Point>
+    struct Late
+    {
+        std::once_flag isMade;
+        std::optional<IndexedPoints<Point>> points;
+    };
+
     const ProblemInput& m_data;
     QualityLimits m_quality;
     std::string m_resurveyCode;
+    mutable Late<DesignPoint> m_sources;
+    mutable Late<DesignPoint> m_receivers;
+    mutable Late<SurveyPoint> m_results;
 };

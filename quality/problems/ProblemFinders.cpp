@@ -2,22 +2,94 @@
 
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/problems/CheckProblems.h"
+#include "quality/problems/LineProblems.h"
+#include "quality/problems/NameProblems.h"
+#include "quality/problems/NeighbourProblems.h"
+#include "quality/problems/QualityProblems.h"
+#include "quality/problems/StoredValueProblems.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <array>
+#include <atomic>
+#include <future>
+#include <utility>
 #include <vector>
 
 namespace {
 
 // All finders: a new one is a line here.
-constexpr std::array kFinders{&kEmptyPointFinder};
+// clang-format off
+constexpr std::array kFinders{
+    &kEmptyPointFinder,
+    &kQualityFinder,
+    &kResurveyFinder,
+    &kRepeatFinder,
+    &kStoredValueFinder,
+    &kNeighbourFinder,
+    &kNameFinder,
+    &kLineFinder,
+};
+// clang-format on
 
-bool findsOneOf(const ProblemFinder& finder, std::span<const ProblemKind* const> wanted)
+bool isWanted(const ProblemFinder& finder, std::span<const ProblemKind* const> kinds)
 {
-    return wanted.empty() || std::ranges::find_first_of(finder.kinds, wanted) != finder.kinds.end();
+    return kinds.empty() || finder.explain != nullptr ||
+           std::ranges::find_first_of(finder.kinds, kinds) != finder.kinds.end();
 }
+
+/// Runs finders on the threads that call `work`, each finder once.
+class Search
+{
+public:
+    Search(const FinderInput& input, std::span<const ProblemKind* const> kinds) : m_input(input)
+    {
+        for (const ProblemFinder* const finder : kFinders) {
+            if (isWanted(*finder, kinds))
+                m_parts.push_back({finder, {}});
+        }
+    }
+
+    /// Ends when no finder is left; the last of the table take longest, and begin. \param report is
+    /// told how far all of them are
+    template <class Report>
+    void work(Report report)
+    {
+        for (std::size_t next = 0; (next = m_next++) < m_parts.size();) {
+            Part& part = m_parts[m_parts.size() - 1 - next];
+            part.finder->find(m_input, part.problems);
+            report(next + 1, m_parts.size());
+        }
+    }
+
+    ProblemList take()
+    {
+        std::size_t total = 0;
+        for (const Part& part : m_parts)
+            total += part.problems.size();
+        ProblemList all;
+        all.reserve(total);
+        for (Part& part : m_parts)
+            all.append(std::move(part.problems));
+        for (const Part& part : m_parts) {
+            if (part.finder->explain != nullptr)
+                part.finder->explain(m_input, all);
+        }
+        return all;
+    }
+
+private:
+    struct Part
+    {
+        const ProblemFinder* finder;
+        ProblemList problems;
+    };
+
+    const FinderInput& m_input;
+    std::vector<Part> m_parts;
+    std::atomic<std::size_t> m_next{0};
+};
 
 } // namespace
 
@@ -25,22 +97,24 @@ ProblemList findProblems(const ProblemInput& data, ProgressReporter& progress,
                          std::span<const ProblemKind* const> kinds)
 {
     const QString caption = QCoreApplication::translate("ProblemFinders", "Find Problems");
-    const FinderInput input(data);
-    ProblemList all;
-    std::size_t done = 0;
     progress.start(caption);
-    for (const ProblemFinder* const finder : kFinders) {
-        if (findsOneOf(*finder, kinds))
-            finder->find(input, all);
-        progress.report(caption, ++done, kFinders.size());
-    }
-    for (const ProblemFinder* const finder : kFinders) {
-        if (finder->explain != nullptr)
-            finder->explain(input, all);
-    }
+    const std::uint64_t designRevision = data.design.revision(); // not for several threads
+    const std::uint64_t surveyRevision = data.survey.revision();
+    const FinderInput input(data);
+    Search search(input, kinds);
+    auto helper =
+        std::async(std::launch::async, [&] { search.work([](std::size_t, std::size_t) {}); });
+    search.work(
+        [&](std::size_t done, std::size_t total) { progress.report(caption, done, total); });
+    helper.get();
+    ProblemList all = search.take();
+    if (!kinds.empty())
+        all.removeIf([&](const Problem& problem) {
+            return std::ranges::find(kinds, problem.kind) == kinds.end();
+        });
+    all.designRevision = designRevision;
+    all.surveyRevision = surveyRevision;
     progress.hide();
-    all.designRevision = data.design.revision();
-    all.surveyRevision = data.survey.revision();
     return all;
 }
 

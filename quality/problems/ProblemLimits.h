@@ -1,13 +1,14 @@
 #pragma once
 
-#include <array>
+#include <QString>
+
 #include <span>
 #include <string_view>
 
 class IDictionary;
 
 /// A limit of the problems: a key of "qc_param.ini" that the checks do not read. Lengths are
-/// metres, times seconds. Those that may be switched off are off at 0.
+/// metres, times seconds. 0 switches off what it limits.
 struct ProblemLimit
 {
     const char* key;
@@ -16,6 +17,10 @@ struct ProblemLimit
     const char* unit;
     double largest; ///< that may be entered
     bool isWhole = false;
+    const char* description = "";   ///< in English, context "ProblemLimits"; for what needs one
+    std::span<const int> choices{}; ///< when only these values may be entered, 0 for off
+    /// The text of a choice but 0.
+    QString (*choiceText)(int choice) = nullptr;
 };
 
 /// Limits that stand together in the dialog of the limits.

@@ -2,6 +2,17 @@
 
 #include <utility>
 
+void ProblemList::swap(ProblemList& other) noexcept
+{
+    std::swap(designRevision, other.designRevision);
+    std::swap(surveyRevision, other.surveyRevision);
+    std::swap(m_problems, other.m_problems);
+    m_texts.swap(other.m_texts);
+    std::swap(m_lastLine, other.m_lastLine);
+    std::swap(m_lastRover, other.m_lastRover);
+    std::swap(m_lastSurveyor, other.m_lastSurveyor);
+}
+
 Problem& ProblemList::add(const ProblemKind& kind, const SurveyPoint& point)
 {
     Problem& problem = add(kind, point.lineNumber);
@@ -30,10 +41,7 @@ Problem& ProblemList::add(const ProblemKind& kind, std::string_view line)
 
 void ProblemList::append(ProblemList&& other)
 {
-    if (m_problems.empty())
-        m_problems.swap(other.m_problems);
-    else
-        m_problems.insert(m_problems.end(), other.m_problems.begin(), other.m_problems.end());
+    m_problems.insert(m_problems.end(), other.m_problems.begin(), other.m_problems.end());
     m_texts.take(std::move(other.m_texts));
     other = ProblemList();
 }

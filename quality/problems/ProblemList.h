@@ -11,11 +11,15 @@ class ProblemList
 {
 public:
     ProblemList() = default;
+    ProblemList(ProblemList&& other) noexcept { swap(other); }
+    ProblemList& operator=(ProblemList other) noexcept
+    {
+        swap(other);
+        return *this;
+    }
     ProblemList(const ProblemList&) = delete;
-    ProblemList& operator=(const ProblemList&) = delete;
-    ProblemList(ProblemList&&) = default;
-    ProblemList& operator=(ProblemList&&) = default;
     ~ProblemList() = default;
+    void swap(ProblemList& other) noexcept;
 
     // Adding. The answer is valid until the next problem is added; value, limit and what else the
     // kind has are for the finder to set.

@@ -2,12 +2,22 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
 constexpr std::size_t kBlockBytes = 1 << 16;
 
 } // namespace
+
+void TextStore::swap(TextStore& other) noexcept
+{
+    std::swap(m_blocks, other.m_blocks);
+    std::swap(m_free, other.m_free);
+    std::swap(m_left, other.m_left);
+    std::swap(m_bytes, other.m_bytes);
+    std::swap(m_known, other.m_known);
+}
 
 StoredText TextStore::add(std::string_view text)
 {

@@ -40,6 +40,17 @@ private:
 class TextStore
 {
 public:
+    TextStore() = default;
+    TextStore(TextStore&& other) noexcept { swap(other); }
+    TextStore& operator=(TextStore other) noexcept
+    {
+        swap(other);
+        return *this;
+    }
+    TextStore(const TextStore&) = delete;
+    ~TextStore() = default;
+    void swap(TextStore& other) noexcept;
+
     [[nodiscard]] StoredText add(std::string_view text);
     /// For texts that come again and again: equal ones take the room of one.
     [[nodiscard]] StoredText intern(std::string_view text);

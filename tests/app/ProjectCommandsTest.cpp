@@ -3,6 +3,7 @@
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectCreator.h"
+#include "project/ProjectFile.h"
 #include "project/ProjectPlace.h"
 #include "project/RecentProjects.h"
 #include "project/ui/ProjectState.h"
@@ -432,6 +433,21 @@ private Q_SLOTS:
         expectMark(false);
         changeSettings([](QDialog& settings) { applySystem(settings, "21417"); });
         expectMark(true);
+        const auto fileHas = [this](const std::string& meridian) {
+            basalt::Dictionary project;
+            return ProjectFile::read(place("a").file, project).isDone() &&
+                   project.text("org_lon") == meridian;
+        };
+        const std::string meridian = coordParameter("org_lon");
+        changeSettings([](QDialog& settings) { applySystem(settings, "32650"); });
+        QVERIFY(m_frame->isWindowModified() && coordParameter("org_lon") != meridian);
+        run("Undo");
+        QVERIFY(!m_frame->isWindowModified());
+        expectMark(false);
+        QVERIFY(fileHas(meridian));
+        run("Redo");
+        expectMark(true);
+        QVERIFY(fileHas(coordParameter("org_lon")) && !fileHas(meridian));
         whenDialog("DlgQCParamSet", [](QDialog& limits) { press(limits, "OK"); });
         run("Quality Limits");
         expectMark(false);

@@ -1,5 +1,6 @@
 #include "basalt_utilities/KeyList.h"
 #include "CsvFixture.h"
+#include "exchange/CrewList.h"
 #include "exchange/DesignKml.h"
 #include "lum_sdk/coords/CoordWjl.h"
 #include "tests/support/Literals.h"
@@ -137,4 +138,32 @@ TEST_F(Kml, AFullDiskLeavesTheFileAsItWas)
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     EXPECT_TRUE(writeDesign({"1"_q}).isDone());
     EXPECT_EQ(read(0).size(), 5000U);
+}
+
+TEST_F(Kml, ACrewListTellsWhatIsWrongAtEachPointAndDrawsNoLine)
+{
+    CrewList list;
+    design.set({"测线", "1", 4400000, 500000, 1, 0, 1, 1});
+    design.set({"测线", "900", 4409000, 500000, 1, 0, 0, 0});
+    list.add(*design.find("测线", "900"), {});
+    list.add(*design.find("测线", "1"), "5.213 m <off>");
+    list.add(*design.find("测线", "900"), "no result");
+    list.add(*design.find("测线", "1"), "");
+    list.add(*design.find("测线", "1"), "too old");
+    ASSERT_TRUE(writeCrewKml(path(), list, transform, progress).isDone());
+    const std::vector<Feature> points = read(0);
+    ASSERT_EQ(points.size(), 2U);
+    expectAt(*design.find("测线", "1"), points[0].positions[0]);
+    EXPECT_TRUE(QString::fromStdString(points[0].description)
+                    .endsWith(" Problem: 5.213 m <off> Problem: too old"_q))
+        << points[0].description;
+    EXPECT_EQ(points[1].name, "900");
+    EXPECT_TRUE(QString::fromStdString(points[1].description).endsWith("m Problem: no result"_q));
+    EXPECT_FALSE(TestFolder::read(path()).contains("LineString"));
+
+    const QByteArray before = TestFolder::read(path());
+    list.addUnknown("测线", "7");
+    transform.initialise(basalt::Dictionary(), basalt::Dictionary());
+    EXPECT_FALSE(writeCrewKml(path(), list, transform, progress).isDone());
+    EXPECT_EQ(TestFolder::read(path()), before);
 }

@@ -65,7 +65,7 @@ void mergeSome(DesignPoints& points, Reference& reference, std::mt19937& random,
         count += old.size();
     DesignPoints merged = points;
     EXPECT_EQ(merged.merge(std::move(later)), count);
-    EXPECT_EQ(points.exchange(exchanged), count);
+    EXPECT_EQ(points.takeOver(exchanged), count);
     expectSame(exchanged, replaced);
     expectSame(merged, reference);
     expectSame(points, reference);
@@ -91,7 +91,7 @@ void extractSome(DesignPoints& points, const Reference& reference, std::mt19937&
     DesignPoints extracted = points.extract(PointNames(names));
     expectSame(extracted, taken);
     expectSame(points, left);
-    EXPECT_EQ(points.exchange(extracted), 0U);
+    EXPECT_EQ(points.takeOver(extracted), 0U);
     EXPECT_TRUE(extracted.empty());
     expectSame(points, reference);
 }

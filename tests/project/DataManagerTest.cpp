@@ -6,6 +6,7 @@
 #include "project/ProjectCreator.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
+#include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
@@ -16,6 +17,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -209,4 +211,30 @@ TEST(DataManagerInstance, IsTheFirstManagerAsLongAsItLives)
         EXPECT_EQ(&DataProcessDataManager::instance(), &first);
     }
     EXPECT_FALSE(DataProcessDataManager::hasInstance());
+}
+
+/// The quality check clears what the resurvey check writes, so it must come first.
+TEST_F(DataManager, FindsProblemsBehindTheVerdictsOfAllChecks)
+{
+    manager.clear();
+    manager.designPoints().set(designPoint("L", "P"));
+    manager.surveyPoints().set(surveyPoint("L", "P"));
+    manager.surveyPoints().set(surveyPoint("L", "PF")).elevation = 1;
+    const EventLog progress(host.eventManager(), events::kProgress);
+
+    const ProblemList problems = manager.findProblems();
+
+    const SurveyPoint& first = *manager.surveyPoints().find("L", "P");
+    EXPECT_EQ(first.qualityStandard, 1720010) << "antenna, dilutions, satellites and resurvey";
+    EXPECT_EQ(manager.designPoints().find("L", "P")->status, 1);
+    EXPECT_TRUE(manager.isChanged());
+    EXPECT_EQ(std::ranges::count(progress.payloads(), "show=0"), 4) << "checks and search";
+    const auto countOf = [&](const char* name) {
+        return std::ranges::count(problems, findProblemKind(name),
+                                  [](const Problem& problem) { return problem.kind; });
+    };
+    EXPECT_EQ(countOf("resurvey_off"), 1);
+    EXPECT_EQ(countOf("satellites"), 2);
+    EXPECT_EQ(countOf("missing"), 0);
+    EXPECT_EQ(problems.surveyRevision, manager.surveyPoints().revision());
 }

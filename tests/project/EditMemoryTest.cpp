@@ -4,6 +4,7 @@
 #include "project/edits/EditParts.h"
 #include "project/PointCorrection.h"
 #include "tests/project/TestProject.h"
+#include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -75,6 +76,8 @@ std::string contentOf(DataProcessDataManager& manager)
         for (const SurveyPoint& point : line)
             all += point.remarks + ' ';
     }
+    for (const Acceptance& acceptance : manager.acceptances())
+        all += acceptance.kind + acceptance.name.point + acceptance.reason.toStdString() + '\n';
     for (const IDictionary* parameters :
          {&manager.qualityParameters(), &manager.designParameters()}) {
         for (std::size_t i = 0; i < parameters->size(); ++i)
@@ -167,6 +170,25 @@ TEST_F(EditMemory, ALackOfItLosesNoPoint)
     expectAllOrNothingThereAndBack([&] { return manager.importSurveyCsv(csv) == 1; });
 }
 
+TEST_F(EditMemory, ALackOfItLosesNoAcceptance)
+{
+    std::vector<Acceptance> problems;
+    for (int i = 0; i < 20; ++i)
+        problems.push_back({"a kind with a long name",
+                            i % 2 == 0,
+                            {"1002", std::to_string(i)},
+                            "0123456789abcdef",
+                            "as agreed"_q,
+                            {},
+                            {}});
+    expectAllOrNothingThereAndBack([&] { return manager.accept(problems) == 20; });
+    problems.resize(7);
+    for (Acceptance& problem : problems)
+        problem.reason = "for another reason"_q;
+    expectAllOrNothingThereAndBack([&] { return manager.accept(problems) == 7; });
+    expectAllOrNothingThereAndBack([&] { return manager.endAcceptances(problems) == 7; });
+}
+
 TEST_F(EditMemory, ALackOfItLosesNoPointThatComesAlone)
 {
     const SurveyPoint point = surveyPoint("1001", "", "a remark that has memory of its own");
@@ -197,7 +219,8 @@ TEST_F(EditMemory, IsEstimatedWithinAFactorOfTwo)
             names.push_back({point.lineNumber, point.pointNumber});
     }
     basalt::Dictionary none;
-    const EditedData data{project.design, project.survey, none, none, none, {}};
+    const EditedData data{project.design,     project.survey, none, none, none, {},
+                          project.acceptances};
     const auto expectEstimated = [&](std::unique_ptr<EditPart> part) {
         auto made = std::make_unique<Edit>(EditKinds::kDeleteResults);
         made->add(std::move(part));
@@ -215,4 +238,17 @@ TEST_F(EditMemory, IsEstimatedWithinAFactorOfTwo)
         PointName{"1", "100101"}, PointName{"1", "another"}, std::move(renamed)));
     TestProject other = project;
     expectEstimated(std::make_unique<AllPoints<SurveyPoints>>(std::move(other.survey)));
+    Acceptances accepted;
+    std::vector<Acceptance> problems;
+    for (int i = 0; i < 1000; ++i) {
+        problems.push_back({"too_far",
+                            false,
+                            {"1", std::to_string(100000 + i)},
+                            "0123456789abcdef",
+                            "behind the house, as agreed"_q,
+                            "me"_q,
+                            {}});
+        accepted.set(problems.back());
+    }
+    expectEstimated(std::make_unique<AcceptedProblems>(problems, std::move(accepted)));
 }

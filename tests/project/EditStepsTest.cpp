@@ -3,6 +3,7 @@
 #include "project/edits/Edit.h"
 #include "project/PointCorrection.h"
 #include "project/ui/DlgEditSteps.h"
+#include "protocol/Events.h"
 #include "tests/project/OpenProject.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/EventLog.h"
@@ -52,9 +53,16 @@ private Q_SLOTS:
         m_steps->redo();
         QCOMPARE(m_project->host.told, "Done again: Delete 2 results"_q);
         QCOMPARE(m_project->results().pointCount(), std::size_t(98));
-        remark(51, "new"); // what was taken back cannot be done again
+        m_project->publish(events::kProjectModified); // it was saved
+        QCOMPARE(m_project->host.told, QString());
+        m_project->host.tell("Points restored: 1."_q); // by somebody else
+        remark(51, "new");                             // what was taken back cannot be done again
         QVERIFY(!m_steps->canRedo());
         QCOMPARE(m_steps->titles().size(), 2);
+        QCOMPARE(m_project->host.told, "Points restored: 1."_q);
+        m_steps->undo();
+        remark(51, "newer");
+        QCOMPARE(m_project->host.told, QString());
     }
 
     void showsTheWindowsAWholeWayOnce()
@@ -71,6 +79,7 @@ private Q_SLOTS:
         m_steps->goTo(0);
         QCOMPARE(log.names(),
                  (std::vector<std::string>{"REFRESH_SURVEY_TABLE", "REFRESH_SURVEY_LAYER"}));
+        QCOMPARE(m_project->host.told, "Taken back: 6 steps"_q);
         m_steps->goTo(0);
         QCOMPARE(log.events.size(), std::size_t(2));
         m_steps->goTo(6);
@@ -102,20 +111,22 @@ private Q_SLOTS:
     {
         keepSteps(10 * 1000);
         remark(99, "wet");
-        m_boxes->answer = Boxes::Button::No;
+        m_boxes->answer = Boxes::Button::Yes;
         remove(0, 50);
         QVERIFY(m_boxes->told().isEmpty()); // not before the command has told what it did
         QCoreApplication::processEvents();
         const QStringList told = m_boxes->told();
         QVERIFY(told.size() == 1 && told[0].contains("\"Delete 50 results\" can be taken back"_q));
+        QVERIFY(told[0].endsWith("cannot be taken back later either: 1. Take it back?"_q));
         QCOMPARE(m_project->results().pointCount(), std::size_t(100));
         QCOMPARE(m_steps->titles(), QStringList("Correct a result"_q));
         QVERIFY(m_steps->canUndo() && !m_steps->canRedo());
 
-        m_boxes->answer = Boxes::Button::Yes;
+        m_boxes->answer = Boxes::Button::No; // as Escape gives it
         remove(0, 50);
         QCoreApplication::processEvents();
         QCOMPARE(m_boxes->told().size(), 1);
+        QVERIFY(!m_boxes->last.defaultButton); // Enter keeps it, too
         QCOMPARE(m_project->results().pointCount(), std::size_t(50));
         QVERIFY(!m_steps->canUndo() && m_steps->titles().isEmpty());
         remark(98, "wet");

@@ -26,8 +26,9 @@ Outcome saveChanged(const TestProject& before, TestProject project, const std::s
     UnsavedEdits edits;
     edits.add(edit, false);
     basalt::Dictionary none;
-    const EditedData present{project.design, project.survey, none, none, none, {}};
-    const HistoryWriter history(edits.entries(), present, {"me"_q, "here"_q});
+    const EditedData present{project.design,     project.survey, none, none, none, {},
+                             project.acceptances};
+    HistoryWriter history(edits, present, {"me"_q, "here"_q});
     return project.save(path, nullptr, &history);
 }
 
@@ -46,7 +47,8 @@ bool saveAndKill(const TestProject& before, const TestProject& project, const st
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// The mark of all points in the loaded project; empty when they differ or some are missing.
+/// The mark of all points and acceptances in the loaded project; empty when they differ or some are
+/// missing.
 std::string markOf(const TestProject& project)
 {
     const std::string mark(project.coordParameters.text("coord_param_id"));
@@ -55,6 +57,9 @@ std::string markOf(const TestProject& project)
         for (const SurveyPoint& point : line)
             isWhole = isWhole && point.remarks == mark;
     }
+    isWhole = isWhole && project.acceptances.size() == 100;
+    for (const Acceptance& acceptance : project.acceptances)
+        isWhole = isWhole && acceptance.fingerprint == mark;
     return isWhole ? mark : std::string();
 }
 

@@ -36,7 +36,8 @@ struct PlainProject
     Points results;
     std::map<std::string, std::string> quality;
     std::map<std::string, std::string> designParameters;
-    std::string coordSystem; ///< its central meridian
+    std::map<std::string, std::string> accepted; ///< reasons by problem
+    std::string coordSystem;                     ///< its central meridian
 
     friend bool operator==(const PlainProject&, const PlainProject&) = default;
 

@@ -6,6 +6,7 @@
 #include "project/DBAdapter.h"
 #include "project/ProjectLoader.h"
 #include "project/ProjectSaver.h"
+#include "quality/problems/Acceptance.h"
 #include "tests/support/Points.h"
 
 #include <QFile>
@@ -16,22 +17,24 @@ struct TestProject
     DesignPoints design;
     SurveyPoints survey;
     basalt::Dictionary coordParameters;
+    Acceptances acceptances;
 
     template <class Adapter = DBAdapter>
     Outcome load(const std::string& path, IEventManager* events = nullptr)
     {
         Adapter database;
         ProgressReporter progress(events);
-        return ProjectLoader(database, progress).load(path, design, survey, coordParameters);
+        return ProjectLoader(database, progress)
+            .load(path, design, survey, coordParameters, &acceptances);
     }
     template <class Adapter = DBAdapter>
     Outcome save(const std::string& path, IEventManager* events = nullptr,
-                 const HistoryWriter* history = nullptr) const
+                 HistoryWriter* history = nullptr) const
     {
         Adapter database;
         ProgressReporter progress(events);
         return ProjectSaver(database, progress)
-            .save(path, design, survey, coordParameters, history);
+            .save(path, design, survey, coordParameters, {&acceptances, history});
     }
 
     /// Points with no two values alike; `mark` stands in each of them.
@@ -56,6 +59,9 @@ struct TestProject
                 project.survey.set(point);
             }
         }
+        for (int i = 0; i < 100; ++i)
+            project.acceptances.set(
+                {"too_far", false, {"1000", std::to_string(i)}, mark, {}, {}, {}});
         project.coordParameters.set("ellipsoid_a", "6378137");
         project.coordParameters.set("coord_param_id", mark);
         return project;

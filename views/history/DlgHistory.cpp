@@ -1,39 +1,35 @@
 #include "views/history/DlgHistory.h"
 
-#include "basalt_utilities/ILogger.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_desktop_sdkx/WaitCursor.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/GroupedNumber.h"
-#include "lum_sdk/Text.h"
-#include "map/ui/PointHighlight.h"
-#include "model/PointNumber.h"
 #include "project/DataProcessDataManager.h"
-#include "project/IPointList.h"
 #include "project/ui/EditSteps.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "views/history/HistoryFilterBar.h"
 #include "views/history/PointRestore.h"
+#include "views/history/PointVisit.h"
+#include "views/history/ShownHistory.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QSplitter>
-#include <QTimer>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr int kTypingMs = 200;
 constexpr int kWidth = 980;
 constexpr int kHeight = 640;
 constexpr int kLeastWidth = 640;
@@ -44,48 +40,35 @@ DataProcessDataManager& manager()
     return DataProcessDataManager::instance();
 }
 
-/// Whether an action passes all of a filter but its point.
-bool passes(const HistoryFilter& filter, const HistoryAction& action)
-{
-    const QDate day = action.time.toLocalTime().date();
-    return (filter.person.isEmpty() || filter.person == action.person) &&
-           (filter.kind.empty() || filter.kind == action.kind) &&
-           (!filter.from.isValid() || day >= filter.from) &&
-           (!filter.to.isValid() || day <= filter.to);
-}
-
-/// The user waits while it lives.
-class Waiting
+/// Shortens a text at its beginning: of a path, its end tells more.
+class EndOfText final : public QStyledItemDelegate
 {
 public:
-    Waiting() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Waiting() { QGuiApplication::restoreOverrideCursor(); }
-    Waiting(const Waiting&) = delete;
-    Waiting& operator=(const Waiting&) = delete;
-};
+    using QStyledItemDelegate::QStyledItemDelegate;
 
-QString toldFault(const Outcome& outcome)
-{
-    if (outcome.isDone())
-        return {};
-    basalt::logError(outcome.detail());
-    return outcome.text();
-}
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& cell) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, cell);
+        option->textElideMode = Qt::ElideLeft;
+    }
+};
 
 } // namespace
 
-DlgHistory& DlgHistory::open(IDesktopHost& host)
+void DlgHistory::open(IDesktopHost& host, const std::optional<PointName>& point)
 {
     static QPointer<DlgHistory> present;
     if (present == nullptr)
-        present = new DlgHistory(host); // deletes itself when it is closed
+        present = new DlgHistory(host, point); // deletes itself when it is closed
+    else if (point)
+        present->showPoint(*point);
     present->show();
     present->raise();
     present->activateWindow();
-    return *present;
 }
 
-DlgHistory::DlgHistory(IDesktopHost& host)
+DlgHistory::DlgHistory(IDesktopHost& host, const std::optional<PointName>& point)
     : Dialog(host.dialogParent()), m_host(host), m_filters(new HistoryFilterBar(this)),
       m_actions(new HistoryActionModel(this)), m_items(new HistoryItemModel(this)),
       m_actionTable(new CustomTableWidget(this)), m_itemTable(new CustomTableWidget(this)),
@@ -101,10 +84,14 @@ DlgHistory::DlgHistory(IDesktopHost& host)
     QVBoxLayout* const rows = makeMainLayout();
     rows->addWidget(m_filters);
     addTables(*rows);
+    connectTables();
     addButtons(*rows);
-    addActionMenu();
-    addItemMenu();
-    connect(m_filters, &HistoryFilterBar::changed, this, &DlgHistory::refresh);
+    if (point)
+        m_filters->setPoint(*point);
+    connect(m_filters, &HistoryFilterBar::changed, this, [this] {
+        m_isSavedShown = false;
+        refresh();
+    });
     if (EditSteps* const steps = EditSteps::instance())
         connect(steps, &EditSteps::changed, this, &DlgHistory::refreshLater);
     setMinimumSizeScaled(kLeastWidth, kLeastHeight);
@@ -123,6 +110,7 @@ void DlgHistory::addTables(QVBoxLayout& rows)
     m_actionTable->setEditTriggers(QAbstractItemView::DoubleClicked |
                                    QAbstractItemView::EditKeyPressed);
     m_actionTable->horizontalHeader()->setStretchLastSection(true);
+    m_actionTable->setItemDelegateForColumn(HistoryActionModel::File, new EndOfText(this));
     m_itemTable->setObjectName(QStringLiteral("items"));
     m_itemTable->setModel(m_items);
     m_itemTable->horizontalHeader()->setStretchLastSection(true);
@@ -131,21 +119,33 @@ void DlgHistory::addTables(QVBoxLayout& rows)
     areas->addWidget(m_itemTable);
     areas->setChildrenCollapsible(false);
     rows.addWidget(areas, 1);
+}
 
+void DlgHistory::connectTables()
+{
     m_actions->setReasonHandler([](const HistoryActionModel::Row& row, const QString& reason) {
         const auto& entries = manager().unsavedEdits().entries();
         if (row.unsaved && *row.unsaved < entries.size())
-            manager().setReason(entries[entries.size() - 1 - *row.unsaved].edit, reason);
+            manager().setReason(entries.size() - 1 - *row.unsaved, reason);
     });
     connect(m_actionTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &DlgHistory::showItems);
     connect(m_itemTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &DlgHistory::showState);
-    const auto go = [this](const QModelIndex& cell) { selectPoint(cell.row()); };
+    connect(m_actionTable->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            &DlgHistory::refreshHeld);
+    connect(m_actionTable, &CustomTableWidget::contextMenuRequestedAt, this,
+            &DlgHistory::showActionMenu);
+    connect(m_itemTable, &CustomTableWidget::contextMenuRequestedAt, this,
+            &DlgHistory::showItemMenu);
+    const auto go = [this](const QModelIndex& cell) {
+        PointVisit::select(m_host, m_items->item(cell.row()));
+    };
     connect(m_itemTable, &QAbstractItemView::clicked, this, go);
     connect(m_itemTable, &CustomTableWidget::reachedByKey, this, go);
-    connect(m_itemTable, &QAbstractItemView::doubleClicked, this,
-            [this](const QModelIndex& cell) { zoomToPoint(cell.row()); });
+    connect(m_itemTable, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& cell) {
+        PointVisit::zoomTo(m_host, m_items->item(cell.row()));
+    });
 }
 
 void DlgHistory::addButtons(QVBoxLayout& rows)
@@ -171,42 +171,49 @@ void DlgHistory::addButtons(QVBoxLayout& rows)
     rows.addLayout(row);
 }
 
-void DlgHistory::addActionMenu()
+// What a menu is about stands in its entries, since the tables may be filled anew under it.
+
+void DlgHistory::showActionMenu(const QModelIndex& cell, const QPoint& place)
 {
-    auto* const menu = new QMenu(m_actionTable);
-    QAction* const reason = menu->addAction(tr("&Edit Reason"), this, [this] {
-        m_actionTable->edit(
-            m_actionTable->currentIndex().siblingAtColumn(HistoryActionModel::Reason));
-    });
+    auto* const menu = new QMenu(this);
+    const QPersistentModelIndex reason = cell.siblingAtColumn(HistoryActionModel::Reason);
+    menu->addAction(tr("&Edit Reason"), this,
+                    [this, reason] {
+                        if (reason.isValid())
+                            m_actionTable->edit(reason);
+                    })
+        ->setEnabled(m_actions->row(cell.row()).unsaved.has_value());
     menu->addAction(
         tr("&Copy"), m_actionTable, [this] { m_actionTable->copySelection(); }, QKeySequence::Copy);
-    connect(m_actionTable, &CustomTableWidget::contextMenuRequestedAt, menu,
-            [this, menu, reason](const QModelIndex& cell, const QPoint& place) {
-                reason->setEnabled(m_actions->row(cell.row()).unsaved.has_value());
-                menu->popup(place);
-            });
+    popUp(*menu, place);
 }
 
-void DlgHistory::addItemMenu()
+void DlgHistory::showItemMenu(const QModelIndex& cell, const QPoint& place)
 {
-    auto* const menu = new QMenu(m_itemTable);
+    auto* const menu = new QMenu(this);
     menu->addAction(m_restore);
     menu->addSeparator();
-    QAction* const life = menu->addAction(tr("&History of This Point"), this, [this] {
-        showPoint(m_items->item(m_itemTable->currentIndex().row()).name);
+    const HistoryItem item = m_items->item(cell.row());
+    QAction* const life = menu->addAction(tr("&History of This Point"), this,
+                                          [this, name = item.name] { showPoint(name); });
+    QAction* const map = menu->addAction(tr("Show on the &Map"), this, [this, item] {
+        if (ProjectState::hasData())
+            PointVisit::zoomTo(m_host, item);
     });
-    QAction* const map = menu->addAction(
-        tr("Show on the &Map"), this, [this] { zoomToPoint(m_itemTable->currentIndex().row()); });
+    for (QAction* const action : {life, map})
+        action->setEnabled(!item.name.point.empty());
     menu->addSeparator();
     menu->addAction(
         tr("&Copy"), m_itemTable, [this] { m_itemTable->copySelection(); }, QKeySequence::Copy);
-    connect(m_itemTable, &CustomTableWidget::contextMenuRequestedAt, menu,
-            [this, menu, life, map](const QModelIndex& cell, const QPoint& place) {
-                const bool isPoint = !m_items->item(cell.row()).name.point.empty();
-                life->setEnabled(isPoint);
-                map->setEnabled(isPoint);
-                menu->popup(place);
-            });
+    popUp(*menu, place);
+}
+
+void DlgHistory::popUp(QMenu& menu, const QPoint& place)
+{
+    menu.setAttribute(Qt::WA_DeleteOnClose);
+    connect(&menu, &QMenu::aboutToHide, this, &DlgHistory::refreshHeld);
+    m_menu = &menu;
+    menu.popup(place);
 }
 
 void DlgHistory::showPoint(const PointName& point)
@@ -216,6 +223,8 @@ void DlgHistory::showPoint(const PointName& point)
 
 void DlgHistory::handleEvent(const char* /*eventName*/, const char* /*payload*/, int /*reserved*/)
 {
+    if (manager().unsavedEdits().entries().empty()) // as after a save
+        m_isSavedShown = false;
     refreshLater();
 }
 
@@ -228,86 +237,60 @@ void DlgHistory::refreshLater()
     QMetaObject::invokeMethod(this, &DlgHistory::refresh, Qt::QueuedConnection);
 }
 
+void DlgHistory::refreshHeld()
+{
+    if (m_isRefreshHeld)
+        refreshLater();
+}
+
+bool DlgHistory::isInUse() const
+{
+    return (m_menu != nullptr && m_menu->isVisible()) ||
+           m_actionTable->viewport()->isAncestorOf(QApplication::focusWidget());
+}
+
 void DlgHistory::refresh()
 {
     m_isRefreshDue = false;
-    if (!ProjectState::hasData())
+    m_isRefreshHeld = isInUse();
+    if (m_isRefreshHeld || !ProjectState::hasData())
         return;
-    if (m_actionTable->viewport()->isAncestorOf(QApplication::focusWidget())) {
-        m_isRefreshDue = true; // a reason is being typed, which a refresh would drop
-        QTimer::singleShot(kTypingMs, this, &DlgHistory::refresh);
-        return;
-    }
-    const Waiting waiting;
-    const HistoryFilter filter = m_filters->filter();
-    Rows rows;
-    addUnsaved(filter, rows);
-    const QString note = addSaved(filter, rows);
-    QStringList persons;
-    for (const HistoryActionModel::Row& row : rows) {
-        if (persons.isEmpty() || persons.last() != row.event.action.person)
-            persons << row.event.action.person;
-    }
-    persons.removeDuplicates();
-    m_filters->addPersons(persons);
-
+    const WaitCursor waiting;
     const int before = m_actionTable->currentIndex().row();
     const HistoryAction chosen =
         before < 0 ? HistoryAction() : HistoryAction(m_actions->row(before).event.action);
     {
         const QScopedValueRollback<bool> guard(m_isFilling, true);
-        m_isLife = filter.point.has_value();
-        m_actions->setRows(std::move(rows));
+        readActions();
         chooseAction(m_actions->rowOf(chosen));
     }
     for (const int column :
          {HistoryActionModel::Action, HistoryActionModel::Person, HistoryActionModel::Computer,
           HistoryActionModel::State, HistoryActionModel::Reason})
         m_actionTable->widenColumn(column);
-    tellNote(noteOf(note));
+    tellNote(note());
     showItems();
 }
 
-void DlgHistory::addUnsaved(const HistoryFilter& filter, Rows& rows) const
+/// Those that are not saved, and the saved ones where they are not shown yet: to read them may take
+/// seconds.
+void DlgHistory::readActions()
 {
-    const UnsavedHistory history = manager().unsavedHistory();
-    std::vector<HistoryAction> actions = history.actions();
-    std::vector<std::vector<HistoryItem>> lives;
-    if (filter.point)
-        lives = history.life(*filter.point);
-    for (std::size_t i = 0; i < actions.size(); ++i) {
-        HistoryActionModel::Row row;
-        if (filter.point)
-            row.event.items = std::move(lives[i]);
-        if (!passes(filter, actions[i]) || (filter.point && row.event.items.empty()))
-            continue;
-        row.event.action = std::move(actions[i]);
-        row.unsaved = i;
-        rows.push_back(std::move(row));
-    }
+    const HistoryFilter filter = m_filters->filter();
+    m_isLife = filter.point.has_value();
+    HistoryActionModel::Rows unsaved = ShownHistory::unsaved(filter);
+    m_filters->addChoices(unsaved);
+    m_actions->setUnsaved(std::move(unsaved));
+    if (std::exchange(m_isSavedShown, true))
+        return;
+    HistoryActionModel::Rows saved = ShownHistory::saved(filter, m_readNote);
+    m_filters->addChoices(saved);
+    m_actions->setSaved(std::move(saved));
 }
 
-QString DlgHistory::addSaved(const HistoryFilter& filter, Rows& rows)
+QString DlgHistory::note() const
 {
-    HistoryReader reader = manager().history();
-    std::vector<HistoryReader::Event> events;
-    QString fault;
-    if (filter.point) {
-        fault = toldFault(reader.life(filter, events));
-    } else {
-        std::vector<HistoryAction> actions;
-        fault = toldFault(reader.actions(filter, actions));
-        for (HistoryAction& action : actions)
-            events.push_back({std::move(action), {}});
-    }
-    for (HistoryReader::Event& event : events)
-        rows.push_back({std::move(event), {}});
-    return fault.isEmpty() ? reader.notice() : fault;
-}
-
-QString DlgHistory::noteOf(const QString& readNote) const
-{
-    QStringList notes{m_filters->fault(), readNote};
+    QStringList notes{m_filters->fault(), m_readNote};
     if (m_actions->rowCount() == 0 && m_filters->isFiltered())
         notes << tr("No action passes the filters.");
     else if (m_actions->rowCount() == 0)
@@ -335,24 +318,26 @@ void DlgHistory::showItems()
 {
     if (m_isFilling)
         return;
-    const Waiting waiting;
+    const WaitCursor waiting;
     const std::vector<int> chosen = m_actionTable->selectedRows();
+    std::optional<std::int64_t> shown;
     QString fault;
     HistoryItemModel::Events events;
     if (m_isLife) {
         for (int row = 0; row < m_actions->rowCount(); ++row)
             events.push_back(m_actions->row(row).event);
     } else if (!chosen.empty()) {
-        events.push_back(eventOf(m_actions->row(chosen.front()), fault));
+        const HistoryActionModel::Row& row = m_actions->row(chosen.front());
+        if (!row.unsaved)
+            shown = row.event.action.id;
+        if (shown && shown == m_itemsOf)
+            return showState(); // a saved action stays as it is
+        events.push_back(ShownHistory::eventOf(row, fault));
     }
-    const auto caption = [this](int column) {
-        return m_items->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    };
-    using Column = HistoryItemModel::Column;
-    m_itemTable->setHiddenColumns(
-        m_isLife ? QStringList{caption(Column::Line), caption(Column::Point)}
-                 : QStringList{caption(Column::Time), caption(Column::Action)});
+    m_itemsOf = fault.isEmpty() ? shown : std::nullopt;
+    hideColumns();
     m_items->setEvents(std::move(events));
+    using Column = HistoryItemModel::Column;
     for (const int column : {Column::Action, Column::Data, Column::Line, Column::Point,
                              Column::Change, Column::Field}) // another action has longer texts
         m_itemTable->widenColumn(column);
@@ -363,24 +348,23 @@ void DlgHistory::showItems()
     showState();
 }
 
-HistoryReader::Event DlgHistory::eventOf(const HistoryActionModel::Row& row, QString& fault)
+void DlgHistory::hideColumns()
 {
-    HistoryReader::Event event{row.event.action, {}};
-    if (!row.unsaved)
-        fault = toldFault(manager().history().items(event.action, event.items));
-    else if (*row.unsaved < manager().unsavedEdits().entries().size()) // else it was saved just now
-        event.items = manager().unsavedHistory().items(*row.unsaved);
-    return event;
+    const auto caption = [this](int column) {
+        return m_items->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    };
+    using Column = HistoryItemModel::Column;
+    m_itemTable->setHiddenColumns(
+        m_isLife ? QStringList{caption(Column::Line), caption(Column::Point)}
+                 : QStringList{caption(Column::Time), caption(Column::Action)});
 }
 
 void DlgHistory::showState()
 {
-    int unsaved = 0;
-    while (unsaved < m_actions->rowCount() && m_actions->row(unsaved).unsaved)
-        ++unsaved;
     m_counts->setText(tr("Actions: %1, not saved yet: %2. Changes: %3, selected: %4")
                           .arg(lum::groupedNumber(m_actions->rowCount()),
-                               lum::groupedNumber(unsaved), lum::groupedNumber(m_items->rowCount()),
+                               lum::groupedNumber(m_actions->unsavedCount()),
+                               lum::groupedNumber(m_items->rowCount()),
                                lum::groupedNumber(m_itemTable->selectedRowCount())));
     const std::vector<int> chosen = m_itemTable->selectedRows();
     const bool isOne = !chosen.empty() && m_items->areTogether(chosen.front(), chosen.back());
@@ -388,7 +372,8 @@ void DlgHistory::showState()
     m_restoreButton->setEnabled(isOne);
     m_restoreButton->setToolTip(
         isOne ? tr("Put the points back as they were before the action. It can be undone.")
-              : tr("Select changes of one action above."));
+              : tr("Select changes in the lower table, all of one action, to put their points "
+                   "back."));
 }
 
 // --- what is done ---
@@ -407,7 +392,7 @@ void DlgHistory::restore()
     };
     PointRestore result;
     {
-        const Waiting waiting;
+        const WaitCursor waiting;
         result = restorePoints(m_items->action(chosen.front()), items);
     }
     const auto publish = [&](HistoryData kind, std::initializer_list<const char*> names) {
@@ -421,46 +406,4 @@ void DlgHistory::restore()
     m_host.tell(result.told());
     m_itemTable->setFocus(); // else the button gives it to the next one, which closes the window
     refreshLater();
-}
-
-/// The point of a row as the project has it: of a check point, the first of its measurements.
-PointName DlgHistory::presentName(int row) const
-{
-    PointName name = m_items->item(row).name;
-    if (!isCheckPoint(name.point))
-        return name;
-    const auto* const line = manager().surveyPoints().findLine(name.line);
-    if (line == nullptr)
-        return name;
-    const auto points = writtenOrder(*line);
-    const auto found = std::ranges::find_if(points, [&](const SurveyPoint* point) {
-        return writtenPointNumber(point->pointNumber) == name.point;
-    });
-    return found == points.end() ? name : PointName{name.line, (*found)->pointNumber};
-}
-
-void DlgHistory::selectPoint(int row)
-{
-    const HistoryItem& item = m_items->item(row);
-    if (item.name.point.empty())
-        return;
-    const PointName name = presentName(row);
-    auto* const list = m_host.windows().findAs<IPointList>(
-        item.data == HistoryData::Design ? QStringLiteral("Design Data List")
-                                         : QStringLiteral("Survey Data List"));
-    if (list != nullptr &&
-        !list->selectPoint(lum::toQString(name.line), lum::toQString(name.point)))
-        m_host.tell(tr("Point %1 is not in the project now.").arg(HistoryTexts::nameOf(item.name)));
-}
-
-void DlgHistory::zoomToPoint(int row)
-{
-    const PointName name = presentName(row);
-    if (m_items->item(row).data == HistoryData::Design) {
-        if (const DesignPoint* const point = manager().designPoints().find(name.line, name.point))
-            PointHighlight::zoomTo(m_host, *point);
-    } else if (const SurveyPoint* const point =
-                   manager().surveyPoints().find(name.line, name.point)) {
-        PointHighlight::zoomTo(m_host, *point);
-    }
 }

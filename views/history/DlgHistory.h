@@ -5,6 +5,10 @@
 #include "views/history/HistoryActionModel.h"
 #include "views/history/HistoryItemModel.h"
 
+#include <QPointer>
+
+#include <optional>
+
 class CustomTableWidget;
 class HistoryFilterBar;
 class IDesktopHost;
@@ -25,40 +29,37 @@ class DlgHistory final : public Dialog, public IEventHandler
     Q_OBJECT
 
 public:
-    static DlgHistory& open(IDesktopHost& host);
-
-    /// Shows what has happened to one point.
-    void showPoint(const PointName& point);
+    /// \param point  to show what has happened to it alone
+    static void open(IDesktopHost& host, const std::optional<PointName>& point = {});
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 private:
-    using Rows = std::vector<HistoryActionModel::Row>;
-
-    explicit DlgHistory(IDesktopHost& host);
+    DlgHistory(IDesktopHost& host, const std::optional<PointName>& point);
 
     void addTables(QVBoxLayout& rows);
+    void connectTables();
     void addButtons(QVBoxLayout& rows);
-    void addActionMenu();
-    void addItemMenu();
+    void showActionMenu(const QModelIndex& cell, const QPoint& place);
+    void showItemMenu(const QModelIndex& cell, const QPoint& place);
+    void popUp(QMenu& menu, const QPoint& place);
+    void showPoint(const PointName& point);
 
     /// Later, when whoever has changed the project is done.
     void refreshLater();
     void refresh();
-    void addUnsaved(const HistoryFilter& filter, Rows& rows) const;
-    /// \returns why it failed, or what the user has to know; mostly empty
-    [[nodiscard]] static QString addSaved(const HistoryFilter& filter, Rows& rows);
-    [[nodiscard]] QString noteOf(const QString& readNote) const;
+    void refreshHeld();
+    /// Whether a menu is open or a reason is being typed, which a refresh would spoil.
+    [[nodiscard]] bool isInUse() const;
+    void readActions();
+    [[nodiscard]] QString note() const;
     void tellNote(const QString& note);
     void chooseAction(int row);
     void showItems();
-    [[nodiscard]] HistoryReader::Event eventOf(const HistoryActionModel::Row& row, QString& fault);
+    void hideColumns();
     void showState();
 
     void restore();
-    [[nodiscard]] PointName presentName(int row) const;
-    void selectPoint(int row);
-    void zoomToPoint(int row);
 
     IDesktopHost& m_host; // outlives the window
     HistoryFilterBar* m_filters;
@@ -70,9 +71,14 @@ private:
     QLabel* m_counts;
     QAction* m_restore;
     QPushButton* m_restoreButton;
-    bool m_isLife = false; ///< of one point
+    QPointer<QMenu> m_menu;                ///< the one that is open
+    QString m_readNote;                    ///< about the saved actions
+    bool m_isSavedShown = false;           ///< else they are read at the next refresh
+    std::optional<std::int64_t> m_itemsOf; ///< the saved action whose changes are shown
+    bool m_isLife = false;                 ///< of one point
     bool m_isFilling = false;
     bool m_isRefreshDue = false;
+    bool m_isRefreshHeld = false; ///< until the window is not in use
     ClosesWithProject m_closing;
     EventSubscription m_subscription;
 };

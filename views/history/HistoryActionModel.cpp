@@ -5,11 +5,23 @@
 #include <QFont>
 
 #include <algorithm>
+#include <iterator>
 
-void HistoryActionModel::setRows(std::vector<Row> rows)
+void HistoryActionModel::setSaved(Rows rows)
 {
     beginResetModel();
-    m_rows = std::move(rows);
+    m_rows.erase(m_rows.begin() + m_unsaved, m_rows.end());
+    std::ranges::move(rows, std::back_inserter(m_rows));
+    endResetModel();
+}
+
+void HistoryActionModel::setUnsaved(Rows rows)
+{
+    beginResetModel();
+    m_rows.erase(m_rows.begin(), m_rows.begin() + m_unsaved);
+    m_unsaved = static_cast<int>(rows.size());
+    m_rows.insert(m_rows.begin(), std::make_move_iterator(rows.begin()),
+                  std::make_move_iterator(rows.end()));
     endResetModel();
 }
 
@@ -22,8 +34,7 @@ int HistoryActionModel::rowOf(const HistoryAction& action) const
 {
     const auto found = std::ranges::find_if(m_rows, [&](const Row& row) {
         const HistoryAction& each = row.event.action;
-        return each.time == action.time && each.kind == action.kind &&
-               each.isTakenBack == action.isTakenBack;
+        return each.time == action.time && each.kind == action.kind && each.state == action.state;
     });
     return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
 }

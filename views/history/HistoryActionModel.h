@@ -33,9 +33,13 @@ public:
         std::optional<std::size_t> unsaved; ///< its place in UnsavedHistory
     };
 
+    using Rows = std::vector<Row>;
+
     using QAbstractTableModel::QAbstractTableModel;
 
-    void setRows(std::vector<Row> rows);
+    void setSaved(Rows rows);
+    /// The saved ones stay.
+    void setUnsaved(Rows rows);
     /// Called with a row that is not saved, and the reason that the user has typed.
     void setReasonHandler(std::function<void(const Row&, const QString&)> handler);
 
@@ -43,6 +47,7 @@ public:
     {
         return m_rows[static_cast<std::size_t>(index)];
     }
+    [[nodiscard]] int unsavedCount() const { return m_unsaved; }
     /// The row of an action, also when it was saved meanwhile; -1 for none.
     [[nodiscard]] int rowOf(const HistoryAction& action) const;
 
@@ -57,6 +62,7 @@ public:
 private:
     [[nodiscard]] static QString text(const Row& row, int column);
 
-    std::vector<Row> m_rows;
+    Rows m_rows;
+    int m_unsaved = 0; ///< how many of them, at the beginning, are not saved
     std::function<void(const Row&, const QString&)> m_onReason;
 };

@@ -24,6 +24,6 @@ void HistoryCommand::handleEvent(const char* /*eventName*/, const char* payload,
         return;
     basalt::Dictionary values;
     payload::read(payload, values);
-    DlgHistory::open(host()).showPoint(
-        {std::string(values.text("lineName")), std::string(values.text("pointName"))});
+    DlgHistory::open(host(), PointName{std::string(values.text("lineName")),
+                                       std::string(values.text("pointName"))});
 }

@@ -2,6 +2,7 @@
 
 #include "lum_desktop_sdkx/controls/ChoiceBox.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
 #include "project/edits/EditKinds.h"
 #include "views/history/HistoryTexts.h"
@@ -12,6 +13,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+
+#include <algorithm>
+#include <set>
+#include <string>
 
 namespace {
 
@@ -54,12 +59,8 @@ void HistoryFilterBar::makeChoices(QGridLayout& grid)
 {
     m_person->addItem(tr("All persons"));
     m_kind->addItem(tr("All actions"));
-    for (const EditKind* const kind :
-         {&EditKinds::kImportDesign, &EditKinds::kImportSurvey, &EditKinds::kDeleteResults,
-          &EditKinds::kCorrectResult, &EditKinds::kCorrectDesign, &EditKinds::kGenerateDesign,
-          &EditKinds::kQualityLimits, &EditKinds::kDesignParameters, &EditKinds::kCoordSystem,
-          &EditKinds::kRestore})
-        m_kind->addItem(HistoryTexts::kindName(kind->name), QString::fromLatin1(kind->name));
+    for (const EditKind* const kind : EditKinds::all())
+        m_kind->addItem(kind->pluralTitle(), QString::fromLatin1(kind->name));
     m_point->setObjectName(QStringLiteral("point"));
     m_point->setPlaceholderText(tr("line/point, such as 1001/10015001"));
     m_point->setClearButtonEnabled(true);
@@ -96,19 +97,16 @@ void HistoryFilterBar::makeDays(QGridLayout& grid)
 
 std::optional<PointName> HistoryFilterBar::typedPoint() const
 {
-    const QString text = m_point->text().trimmed();
-    const int slash = text.lastIndexOf(QLatin1Char('/'));
-    if (slash <= 0 || slash + 1 == text.size())
+    const std::vector<PointName> names = pointNamesOf(m_point->text().trimmed());
+    if (names.empty())
         return {};
-    const std::string number = text.mid(slash + 1).toStdString();
-    return PointName{text.left(slash).toStdString(), std::string(writtenPointNumber(number))};
+    return std::ranges::find(names, m_named) != names.end() ? m_named : names.front();
 }
 
 HistoryFilter HistoryFilterBar::filter() const
 {
     HistoryFilter filter;
-    if (m_person->currentIndex() > 0)
-        filter.person = m_person->currentText();
+    filter.person = m_person->currentData().toString();
     filter.kind = m_kind->currentData().toString().toStdString();
     if (m_hasDays->isChecked() && m_from->date() <= m_to->date()) {
         filter.from = m_from->date();
@@ -133,19 +131,28 @@ QString HistoryFilterBar::fault() const
     return {};
 }
 
-void HistoryFilterBar::addPersons(const QStringList& persons)
+void HistoryFilterBar::addChoices(const HistoryActionModel::Rows& rows)
 {
-    for (const QString& person : persons) {
-        if (!person.isEmpty() &&
-            m_person->findText(person, Qt::MatchFixedString | Qt::MatchCaseSensitive) < 0)
-            m_person->addItem(person);
+    std::set<QString> persons;
+    std::set<std::string> kinds;
+    for (const HistoryActionModel::Row& row : rows) {
+        persons.insert(row.event.action.person);
+        kinds.insert(row.event.action.kind);
     }
+    const auto add = [](ChoiceBox& box, const QString& text, const QString& value) {
+        if (!value.isEmpty() && box.findData(value) < 0)
+            box.addItem(text, value);
+    };
+    for (const QString& person : persons)
+        add(*m_person, person, person);
+    for (const std::string& kind : kinds)
+        add(*m_kind, HistoryTexts::kindName(kind), lum::toQString(kind));
 }
 
 void HistoryFilterBar::setPoint(const PointName& point)
 {
-    m_point->setText(
-        HistoryTexts::nameOf({point.line, std::string(writtenPointNumber(point.point))}));
+    m_named = {point.line, std::string(writtenPointNumber(point.point))};
+    m_point->setText(HistoryTexts::nameOf(m_named));
     m_typing.stop();
     Q_EMIT changed();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/history/History.h"
+#include "views/history/HistoryActionModel.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -25,8 +25,8 @@ public:
     /// What is wrong with what was typed; empty when nothing is.
     [[nodiscard]] QString fault() const;
 
-    /// Adds those that the list does not have.
-    void addPersons(const QStringList& persons);
+    /// Adds what the lists do not have: persons, and kinds that this version does not know.
+    void addChoices(const HistoryActionModel::Rows& rows);
     void setPoint(const PointName& point);
 
 Q_SIGNALS:
@@ -44,5 +44,6 @@ private:
     QCheckBox* m_hasDays;
     QDateEdit* m_from;
     QDateEdit* m_to;
-    QTimer m_typing; ///< ends when the user has stopped typing
+    PointName m_named; ///< by another window; it knows which slash stands between its numbers
+    QTimer m_typing;   ///< ends when the user has stopped typing
 };

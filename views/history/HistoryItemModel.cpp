@@ -59,7 +59,7 @@ QString HistoryItemModel::text(int row, int column) const
     case Point:
         return lum::toQString(each.name.point);
     case Change:
-        return HistoryTexts::nameOf(each.change);
+        return HistoryTexts::changeOf(each);
     case Field:
         return each.field.empty() ? QString() : m_texts.caption(each.data, each.field);
     case Before:

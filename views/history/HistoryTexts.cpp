@@ -1,39 +1,21 @@
 #include "views/history/HistoryTexts.h"
 
 #include "basalt_utilities/Numbers.h"
+#include "design/DesignFields.h"
 #include "exchange/ShownTimes.h"
 #include "lum_sdk/Text.h"
 #include "model/CodeTables.h"
 #include "model/DesignRecord.h"
 #include "model/RowNumbers.h"
 #include "model/SurveyColumns.h"
+#include "project/edits/EditKinds.h"
+#include "quality/problems/ProblemFinders.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <array>
 
 namespace {
-
-struct Kind
-{
-    std::string_view name;
-    const char* text;
-};
-
-// Names of EditKinds.
-constexpr auto kKinds = std::to_array<Kind>({
-    {"import_design", QT_TRANSLATE_NOOP("HistoryTexts", "Imports of design points")},
-    {"import_survey", QT_TRANSLATE_NOOP("HistoryTexts", "Imports of results")},
-    {"delete_results", QT_TRANSLATE_NOOP("HistoryTexts", "Deletions of results")},
-    {"correct_result", QT_TRANSLATE_NOOP("HistoryTexts", "Corrections of results")},
-    {"correct_design", QT_TRANSLATE_NOOP("HistoryTexts", "Corrections of design points")},
-    {"generate_design", QT_TRANSLATE_NOOP("HistoryTexts", "Generated designs")},
-    {"quality_limits", QT_TRANSLATE_NOOP("HistoryTexts", "Quality limits")},
-    {"design_parameters", QT_TRANSLATE_NOOP("HistoryTexts", "Design parameters")},
-    {"coord_system", QT_TRANSLATE_NOOP("HistoryTexts", "Coordinate system")},
-    {"restore", QT_TRANSLATE_NOOP("HistoryTexts", "Restored points")},
-});
 
 QString translated(const char* text)
 {
@@ -67,10 +49,26 @@ QString surveyText(const std::string& key, const std::string& text)
     }
 }
 
-/// Whether a stored text is more than nothing or 0.
-bool saysSomething(const std::string& text)
+QString designTableText(const char* text)
 {
-    return text.find_first_not_of("-.0") != std::string::npos;
+    return QCoreApplication::translate("DesignTable", text);
+}
+
+/// As the table of design points has it.
+QString designText(const std::string& key, const std::string& text)
+{
+    if (key == "type" && !text.empty())
+        return text == "0" ? QStringLiteral("S") : QStringLiteral("R");
+    if (key == "status" && !text.empty())
+        return designTableText(text == "1" ? "surveyed" : "not surveyed");
+    return lum::toQString(text);
+}
+
+/// The table's captions are the keys with blanks.
+QString designCaption(std::string key)
+{
+    std::ranges::replace(key, '_', ' ');
+    return designTableText(key.c_str());
 }
 
 } // namespace
@@ -78,6 +76,7 @@ bool saysSomething(const std::string& text)
 HistoryTexts::HistoryTexts()
     : m_limits(readControlRows("QCParam")), m_coordSystem(readControlRows("CoordSystem"))
 {
+    std::ranges::move(problemLimitRows(), std::back_inserter(m_limits));
 }
 
 QString HistoryTexts::nameOf(HistoryData data)
@@ -93,13 +92,19 @@ QString HistoryTexts::nameOf(HistoryData data)
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Design parameter"));
     case HistoryData::CoordSystem:
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Coordinate system"));
+    case HistoryData::AcceptedProblems:
+        return translated(QT_TRANSLATE_NOOP("HistoryTexts", "Problem"));
     }
     return {};
 }
 
-QString HistoryTexts::nameOf(HistoryChange change)
+QString HistoryTexts::changeOf(const HistoryItem& item)
 {
-    switch (change) {
+    if (item.data == HistoryData::AcceptedProblems)
+        return item.change == HistoryChange::Gone
+                   ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "listed again"))
+                   : translated(QT_TRANSLATE_NOOP("HistoryTexts", "accepted"));
+    switch (item.change) {
     case HistoryChange::Came:
         return translated(QT_TRANSLATE_NOOP("HistoryTexts", "new"));
     case HistoryChange::Gone:
@@ -117,19 +122,20 @@ QString HistoryTexts::nameOf(const PointName& point)
 
 QString HistoryTexts::kindName(const std::string& kind)
 {
-    const auto* const found =
-        std::ranges::find_if(kKinds, [&](const Kind& each) { return each.name == kind; });
-    return found == kKinds.end() ? lum::toQString(kind) : translated(found->text);
+    const EditKind* const found = EditKinds::find(kind);
+    return found == nullptr ? lum::toQString(kind) : found->pluralTitle();
 }
 
 QString HistoryTexts::stateOf(const HistoryAction& action, bool isSaved)
 {
+    if (action.state == HistoryState::Undone)
+        return translated(QT_TRANSLATE_NOOP("HistoryTexts", "done and taken back"));
+    const bool isTakenBack = action.state == HistoryState::TakenBack;
     if (isSaved)
-        return action.isTakenBack ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back"))
-                                  : translated(QT_TRANSLATE_NOOP("HistoryTexts", "done"));
-    return action.isTakenBack
-               ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back, not saved yet"))
-               : translated(QT_TRANSLATE_NOOP("HistoryTexts", "not saved yet"));
+        return isTakenBack ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back"))
+                           : translated(QT_TRANSLATE_NOOP("HistoryTexts", "done"));
+    return isTakenBack ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "taken back, not saved yet"))
+                       : translated(QT_TRANSLATE_NOOP("HistoryTexts", "not saved yet"));
 }
 
 QString HistoryTexts::timeOf(const HistoryAction& action)
@@ -147,12 +153,19 @@ const ControlRow* HistoryTexts::parameter(HistoryData data, const std::string& k
 QString HistoryTexts::caption(HistoryData data, const std::string& key) const
 {
     if (data == HistoryData::Design)
-        return QCoreApplication::translate("DesignCsv", key.c_str());
+        return designCaption(key);
     if (data == HistoryData::Results) {
         const SurveyColumn* const column = surveyColumn(key);
         return column == nullptr ? lum::toQString(key)
                                  : QCoreApplication::translate("SurveyColumns", column->caption);
     }
+    if (data == HistoryData::AcceptedProblems) {
+        const ProblemKind* const kind = findProblemKind(key);
+        return kind == nullptr ? lum::toQString(key) : kind->captionText();
+    }
+    if (const DesignParameter* const of =
+            data == HistoryData::DesignParameters ? findDesignParameter(key) : nullptr)
+        return of->name();
     const ControlRow* const row = parameter(data, key);
     return row == nullptr ? lum::toQString(key) : row->caption;
 }
@@ -161,6 +174,8 @@ QString HistoryTexts::value(HistoryData data, const std::string& key, const std:
 {
     if (data == HistoryData::Results)
         return surveyText(key, text);
+    if (data == HistoryData::Design)
+        return designText(key, text);
     const ControlRow* const row = parameter(data, key);
     return row == nullptr || text.empty() ? lum::toQString(text) : row->textOf(text);
 }

@@ -12,16 +12,16 @@ public:
     HistoryTexts();
 
     [[nodiscard]] static QString nameOf(HistoryData data);
-    [[nodiscard]] static QString nameOf(HistoryChange change);
+    [[nodiscard]] static QString changeOf(const HistoryItem& item);
     [[nodiscard]] static QString nameOf(const PointName& point); ///< "LINE/POINT"
-    /// The name of a kind of actions, in the plural; of one that this version does not know, the
+    /// All actions of a kind; of one that this version does not know, the
     /// name in the database.
     [[nodiscard]] static QString kindName(const std::string& kind);
     [[nodiscard]] static QString stateOf(const HistoryAction& action, bool isSaved);
     /// On this computer's clock, by which days are filtered, too.
     [[nodiscard]] static QString timeOf(const HistoryAction& action);
 
-    /// A field or a parameter as the user knows it.
+    /// A field, a parameter or a kind of problem as the user knows it.
     [[nodiscard]] QString caption(HistoryData data, const std::string& key) const;
     /// A stored text as it is shown.
     [[nodiscard]] QString value(HistoryData data, const std::string& key,

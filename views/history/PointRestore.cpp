@@ -17,32 +17,6 @@ QString translated(const char* text)
     return QCoreApplication::translate("PointRestore", text);
 }
 
-/// Compares points by what is stored of them, but for the verdicts of the checks.
-template <class Points>
-class SameRecord
-{
-    using Record = PointRecord<Points>;
-
-public:
-    using Point = typename Points::Point;
-
-    bool operator()(const Point& first, const Point& second)
-    {
-        Record::write(first, *m_first);
-        Record::write(second, *m_second);
-        for (std::size_t i = 0; i < m_columns.size(); ++i) {
-            if (!isVerdict<Points>(m_columns[i]) && m_first->values()[i] != m_second->values()[i])
-                return false;
-        }
-        return true;
-    }
-
-private:
-    std::vector<std::string> m_columns = listedColumns(Record::columns());
-    std::unique_ptr<RecordTexts> m_first = std::make_unique<RecordTexts>();
-    std::unique_ptr<RecordTexts> m_second = std::make_unique<RecordTexts>();
-};
-
 /// Removes the points that are in the project as they are here.
 template <class Points>
 void removeUnchanged(const Points& present, Points& points, PointRestore& result)
@@ -63,13 +37,17 @@ void removeUnchanged(const Points& present, Points& points, PointRestore& result
 }
 
 /// How many points the items are about. Measurements of one check point have one name.
-std::size_t pointsOf(const std::vector<HistoryItem>& items, std::size_t& parameters)
+std::size_t pointsOf(const std::vector<HistoryItem>& items, PointRestore& result)
 {
+    if (std::ranges::any_of(items, isRename)) // of one result, by both its names
+        return 1;
     std::size_t points = 0;
     std::set<std::tuple<HistoryData, std::string, std::string>> named;
     for (const HistoryItem& item : items) {
-        if (item.data != HistoryData::Results && item.data != HistoryData::Design)
-            ++parameters;
+        if (item.data == HistoryData::AcceptedProblems)
+            ++result.acceptances;
+        else if (item.data != HistoryData::Results && item.data != HistoryData::Design)
+            ++result.parameters;
         else if (item.field.empty())
             ++points;
         else
@@ -91,8 +69,12 @@ QString PointRestore::told() const
                      .arg(lum::groupedNumber(restored));
     add(replacing, QT_TRANSLATE_NOOP("PointRestore", "In place of another state: %1."));
     add(unchanged, QT_TRANSLATE_NOOP("PointRestore", "Already so: %1."));
-    add(impossible, QT_TRANSLATE_NOOP("PointRestore", "New then, or not there any more: %1."));
-    add(parameters, QT_TRANSLATE_NOOP("PointRestore", "Parameters, which stay as they are: %1."));
+    add(impossible,
+        QT_TRANSLATE_NOOP("PointRestore",
+                          "Not restored, because they were new then or are gone now: %1."));
+    add(parameters, QT_TRANSLATE_NOOP("PointRestore", "Parameters cannot be restored here: %1."));
+    add(acceptances,
+        QT_TRANSLATE_NOOP("PointRestore", "Accepted problems cannot be restored here: %1."));
     return sentences.join(QLatin1Char(' '));
 }
 
@@ -103,7 +85,7 @@ PointRestore restorePoints(const HistoryAction& action, const std::vector<Histor
         pointsBefore(action, items, manager.designPoints(), manager.surveyPoints());
     const std::size_t found = points.design.pointCount() + points.results.pointCount();
     PointRestore result;
-    const std::size_t asked = pointsOf(items, result.parameters);
+    const std::size_t asked = pointsOf(items, result);
     result.impossible = asked - std::min(asked, found);
     removeUnchanged(manager.designPoints(), points.design, result);
     removeUnchanged(manager.surveyPoints(), points.results, result);

@@ -9,7 +9,9 @@ struct PointRestore
     std::size_t replacing = 0;  ///< those of them that took the place of another state
     std::size_t unchanged = 0;  ///< points that are so already
     std::size_t impossible = 0; ///< points that were new, or whose corrected result is gone
-    std::size_t parameters = 0; ///< which are not restored
+    // What is not restored:
+    std::size_t parameters = 0;
+    std::size_t acceptances = 0;
 
     /// In one sentence or more.
     [[nodiscard]] QString told() const;

@@ -96,8 +96,13 @@ DesignLineControl::Upper DesignLineControl::makeUpper()
 
 void DesignLineControl::rebuild()
 {
+    const Place before = leave();
     const Upper upper = makeUpper();
     addLines(upper);
+    if (const LineItem* const line = goBackTo(before)) {
+        announce(*line);
+        return;
+    }
     const LineItem& group = upper.receivers.childCount() > 0 ? upper.receivers : upper.sources;
     if (group.childCount() == 0) {
         publish(events::kClearDesignTable);

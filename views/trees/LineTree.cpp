@@ -4,8 +4,10 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/DpiScale.h"
+#include "lum_sdk/files/SystemDictionaries.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Payloads.h"
+#include "protocol/StatusKeys.h"
 #include "views/trees/LineTreeView.h"
 
 #include <QHBoxLayout>
@@ -13,9 +15,11 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -84,6 +88,30 @@ void LineTree::followLine(const QString& lineNumber)
     }
     m_view->setCurrentItem(item, 0, QItemSelectionModel::NoUpdate);
     m_view->scrollToItem(item);
+}
+
+LineTree::Place LineTree::leave()
+{
+    const std::string project(get_system_status_dictionary().text(status::kProjectPath));
+    if (std::exchange(m_project, project) != project)
+        return {};
+    const LineItem* const current = m_view->current();
+    return {m_view->selectedLines(),
+            current != nullptr && current->isSelected() ? current->lineNumber() : QString(),
+            m_view->verticalScrollBar()->value()};
+}
+
+LineItem* LineTree::goBackTo(const Place& place)
+{
+    m_view->selectLines(place.selected);
+    LineItem* line = place.current.isEmpty() ? nullptr : m_view->findLine(place.current);
+    if (line == nullptr && !m_view->selectedLines().isEmpty())
+        line = m_view->firstSelected();
+    if (line != nullptr) {
+        m_view->setCurrentItem(line, 0, QItemSelectionModel::NoUpdate);
+        m_view->verticalScrollBar()->setValue(place.scrolled);
+    }
+    return line;
 }
 
 void LineTree::publish(const char* event, const QByteArray& payload) const

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <string>
 
 class IDesktopHost;
 class LineItem;
@@ -54,6 +55,19 @@ protected:
     [[nodiscard]] LineTreeView& view() const { return *m_view; }
     [[nodiscard]] QLineEdit& searchField() const { return *m_field; }
 
+    /// What the user looks at.
+    struct Place
+    {
+        QStringList selected;
+        QString current; ///< the number of the current line; empty for none
+        int scrolled = 0;
+    };
+
+    /// To be asked for before the lines are read anew. Empty when another project is open now.
+    [[nodiscard]] Place leave();
+    /// Selects again what is still there. \returns the line to announce; null for none
+    LineItem* goBackTo(const Place& place);
+
     /// \param payload none when it is empty
     void publish(const char* event, const QByteArray& payload = {}) const;
 
@@ -75,4 +89,5 @@ private:
     EventSubscription m_subscription;
     QLineEdit* m_field;
     LineTreeView* m_view;
+    std::string m_project; ///< the folder of the project whose lines the tree has
 };

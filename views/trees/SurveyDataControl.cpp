@@ -70,8 +70,8 @@ LineItem& SurveyDataControl::makeRoot()
 
 void SurveyDataControl::rebuild()
 {
-    const Place before = place(); // before the table is told to show all lines
-    m_project = get_system_status_dictionary().text(status::kProjectPath);
+    const Place before = leave();
+    const bool showedAll = get_system_status_dictionary().integer(status::kShowAllLines) != 0;
     LineItem& root = makeRoot();
     if (DataProcessDataManager::instance().surveyPoints().lineCount() == 0) {
         publish(events::kClearSurveyTable);
@@ -79,11 +79,14 @@ void SurveyDataControl::rebuild()
     }
     addLines(root);
     root.setExpanded(true);
-    announce(root);
-    if (before.project == m_project)
-        goBackTo(before);
-    if (view().currentItem() == nullptr)
-        view().selectOnly(root); // as the table shows all lines
+    announce(root); // the table says from here on that it shows all lines
+    const LineItem* const line = goBackTo(before);
+    if (line == nullptr) {
+        view().selectOnly(root);
+        view().verticalScrollBar()->setValue(before.scrolled);
+    } else if (!showedAll) {
+        announce(*line);
+    }
 }
 
 void SurveyDataControl::addLines(LineItem& root)
@@ -103,31 +106,6 @@ void SurveyDataControl::addLines(LineItem& root)
     }
     root.addChildren(items);
     root.setCount(items.size());
-}
-
-SurveyDataControl::Place SurveyDataControl::place() const
-{
-    const LineItem* const current = view().current();
-    return {m_project, view().selectedLines(),
-            current != nullptr && current->isSelected() ? current->lineNumber() : QString(),
-            get_system_status_dictionary().integer(status::kShowAllLines) != 0,
-            view().verticalScrollBar()->value()};
-}
-
-void SurveyDataControl::goBackTo(const Place& place)
-{
-    view().selectLines(place.selected);
-    LineItem* line = place.current.isEmpty() ? nullptr : view().findLine(place.current);
-    if (line == nullptr && !view().selectionModel()->selection().isEmpty())
-        line = view().firstSelected();
-    if (line != nullptr) {
-        view().setCurrentItem(line, 0, QItemSelectionModel::NoUpdate);
-        if (!place.showsAll)
-            announce(*line);
-    } else {
-        view().selectOnly(*view().root());
-    }
-    view().verticalScrollBar()->setValue(place.scrolled);
 }
 
 void SurveyDataControl::announce(const LineItem& item)

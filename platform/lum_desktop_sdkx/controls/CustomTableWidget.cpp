@@ -366,6 +366,7 @@ int CustomTableWidget::wantedWidth(int column) const
     const auto widen = [&](const QString& text) {
         width = std::max(width, metrics.horizontalAdvance(text) + dpi_scaled(kCellPadding));
     };
+    widen(cells.headerData(column, Qt::Horizontal).toString()); // the hint is short for Chinese
     for (const QString& text :
          cells.headerData(column, Qt::Horizontal, kLongestTextsRole).toStringList())
         widen(text);

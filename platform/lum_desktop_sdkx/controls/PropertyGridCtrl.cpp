@@ -109,14 +109,23 @@ bool PropertyGridCtrl::init(const QString& controlXmlPath, const IDictionary& va
         basalt::logError(line.toStdString());
         return false;
     }
-    if (!isShown) {
-        m_model->setLayout(std::move(layout));
-        m_controlXml = xml;
-        m_view->spanGroups();
-    }
-    m_model->setValues(values);
+    if (!isShown)
+        init(std::move(layout), values);
+    else
+        m_model->setValues(values);
+    m_controlXml = xml;
     describe(m_view->currentIndex());
     return true;
+}
+
+void PropertyGridCtrl::init(PropertyGridLayout layout, const IDictionary& values)
+{
+    m_initFault.clear();
+    m_controlXml.clear();
+    m_model->setLayout(std::move(layout));
+    m_view->spanGroups();
+    m_model->setValues(values);
+    describe(m_view->currentIndex());
 }
 
 void PropertyGridCtrl::setValue(const QString& key, const QString& text)

@@ -44,6 +44,9 @@ public:
     ///          log names file, line and reason
     bool init(const QString& controlXmlPath, const IDictionary& values);
 
+    /// The same for rows that no control file has, with texts in the user's language.
+    void init(PropertyGridLayout layout, const IDictionary& values);
+
     /// Why the last `init` failed; empty when it did not.
     [[nodiscard]] const QString& initFault() const { return m_initFault; }
 

@@ -11,8 +11,12 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTreeView>
 #include <QtTest>
+
+#include <algorithm>
 
 /// The dialog of the limits.
 class QualityDialogsTest : public QObject
@@ -24,6 +28,7 @@ private Q_SLOTS:
     void asksToMendAFileEditedByHand();
     void asksForWhatTheToolAccepts();
     void tellsOfLimitsThatAreHardlyMeant();
+    void keepsTheLimitsOfBothPages();
     void storesNothingThatItCannotShow();
 
 private:
@@ -116,7 +121,7 @@ void QualityDialogsTest::tellsOfLimitsThatAreHardlyMeant()
     DlgQCParamSet dialog(nullptr, parameters);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    auto* const view = dialog.findChild<QTreeView*>();
+    auto* const view = dialog.findChild<PropertyGridCtrl*>()->findChild<QTreeView*>();
     const auto cell = [&](const char* caption) {
         const QModelIndex group =
             view->model()
@@ -149,6 +154,42 @@ void QualityDialogsTest::tellsOfLimitsThatAreHardlyMeant()
     QVERIFY(parameters.text("pdop_max") == "-2.5");
 }
 
+void QualityDialogsTest::keepsTheLimitsOfBothPages()
+{
+    basalt::Dictionary parameters;
+    parameters.set("rms_max", "-1"); // only a file edited by hand has it
+    DlgQCParamSet dialog(nullptr, parameters);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    enter(dialog, "pdop_max", "4");
+    pressOk(dialog);
+    QVERIFY(dialog.isVisible());
+    auto* const pages = dialog.findChild<QTabWidget*>();
+    QCOMPARE(pages->currentIndex(), 1); // where the bad value is
+
+    const auto* const view = pages->currentWidget()->findChild<QTreeView*>();
+    const auto type = [&](const char* caption, const char* value) {
+        const QModelIndex cell =
+            view->model()
+                ->match(view->model()->index(0, 0), Qt::DisplayRole, QLatin1String(caption), 1,
+                        Qt::MatchExactly | Qt::MatchRecursive)
+                .value(0)
+                .siblingAtColumn(1);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), QLatin1String(value));
+    };
+    type("RMS, max.", "0.05");
+    type("Epochs, min.", "7"); // its editor stays open
+    QTest::mouseClick(pages->tabBar(), Qt::LeftButton, {}, pages->tabBar()->tabRect(0).center());
+    pressOk(dialog);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QVERIFY(parameters.text("pdop_max") == "4");
+    QVERIFY(parameters.text("rms_max") == "0.05");
+    QVERIFY(parameters.text("epoch_num_min") == "7");
+    QVERIFY2(!parameters.contains("occupation_min"), "a limit that nobody has set is not stored");
+}
+
 void QualityDialogsTest::storesNothingThatItCannotShow()
 {
     const basalt::Product installed = basalt::product();
@@ -157,7 +198,10 @@ void QualityDialogsTest::storesNothingThatItCannotShow()
     DlgQCParamSet dialog(nullptr, parameters);
     basalt::setProduct(installed);
     dialog.show();
-    QVERIFY(dialog.findChild<QLabel*>()->text().contains(QStringLiteral("QCParam.xml")));
+    const auto labels = dialog.findChildren<QLabel*>();
+    QVERIFY(std::ranges::any_of(labels, [](const QLabel* label) {
+        return label->isVisible() && label->text().contains(QStringLiteral("QCParam.xml"));
+    }));
     pressOk(dialog);
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Rejected));

@@ -1,5 +1,7 @@
 #include "lum_desktop_sdkx/controls/ChoiceBox.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "project/DBAdapter.h"
+#include "project/history/HistoryAuthor.h"
 #include "project/PointCorrection.h"
 #include "project/ProjectCreator.h"
 #include "project/ui/EditSteps.h"
@@ -138,6 +140,7 @@ struct Shown
         }
         QCoreApplication::processEvents();
     }
+    static constexpr int kTyped = 400; ///< milliseconds until a filter is used
     void typePoint(const char* text) const
     {
         auto* const field =
@@ -145,7 +148,13 @@ struct Shown
         field->setFocus();
         field->selectAll();
         QTest::keyClicks(field, QLatin1String(text));
-        QTest::qWait(400);
+        QTest::qWait(kTyped);
+    }
+    /// Right-clicks a cell.
+    [[nodiscard]] QMenu* menuAt(const char* name, int row) const
+    {
+        CustomTableWidget& view = table(name);
+        return openMenuAt(*view.viewport(), {5, view.rowViewportPosition(row) + 3});
     }
     [[nodiscard]] QString label(const char* name) const
     {
@@ -242,7 +251,8 @@ private Q_SLOTS:
         seen.choose(3); // the import: points that came
         seen.select(0);
         seen.press("Restore These");
-        QCOMPARE(project.host.told, "Points restored: 0. New then, or not there any more: 1."_q);
+        QCOMPARE(project.host.told, "Points restored: 0. Not restored, because they were new then "
+                                    "or are gone now: 1."_q);
         QCOMPARE(project.results().pointCount(), std::size_t(9));
     }
 
@@ -276,6 +286,31 @@ private Q_SLOTS:
         QCOMPARE(project.remarksOf("3"), std::string("(gone)"));
     }
 
+    void acceptedProblemsAreToldByTheirKindsAndReasons()
+    {
+        HistoryProject project;
+        const Acceptance problem{"too_far", false, {"1001", "2"}, "f", "as agreed"_q, {}, {}};
+        QCOMPARE(project.manager->accept({problem}), std::size_t(1));
+        project.save();
+        const Shown seen(project);
+        QCOMPARE(seen.actions().first(), "Accept a problem|done"_q);
+        QCOMPARE(seen.cells("actions", {HistoryActionModel::Reason}).first(), "as agreed"_q);
+        const QStringList accepted("2|accepted|Too far from the design||as agreed"_q);
+        QCOMPARE(seen.changes(), accepted);
+        seen.select(0);
+        seen.press("Restore These");
+        QCOMPARE(project.host.told,
+                 "Points restored: 0. Accepted problems cannot be restored here: 1."_q);
+        const EventLog log(project.host.events, events::kAcceptancesChanged);
+        project.steps.undo();
+        QCOMPARE(log.names().size(), std::size_t(1));
+        QCOMPARE(seen.actions().first(), "Accept a problem|taken back, not saved yet"_q);
+        seen.choose(0);
+        QCOMPARE(seen.changes(),
+                 QStringList("2|listed again|Too far from the design|as agreed|"_q));
+        QVERIFY(project.manager->acceptances().empty());
+    }
+
     void filters()
     {
         HistoryProject project;
@@ -298,16 +333,85 @@ private Q_SLOTS:
         days.setChecked(true);
         QCOMPARE(seen.actions().size(), 2); // today
         dates[0]->setDate(QDate::currentDate().addDays(1));
-        QTest::qWait(400);
+        QTest::qWait(Shown::kTyped);
         QVERIFY(seen.label("note").contains("before the first"_q));
         dates[1]->setDate(QDate::currentDate().addDays(2));
-        QTest::qWait(400);
+        QTest::qWait(Shown::kTyped);
         QCOMPARE(seen.actions(), QStringList());
         days.setChecked(false);
 
         auto& kinds = *bar.findChildren<ChoiceBox*>()[1];
         kinds.setCurrentIndex(kinds.findText("Corrections of results"_q));
         QCOMPARE(seen.actions(), QStringList("Correct a result|not saved yet"_q));
+    }
+
+    void aMenuKeepsToWhatItWasOpenedOn()
+    {
+        HistoryProject project;
+        const Shown seen(project);
+        auto* const field =
+            seen.window->findChild<HistoryFilterBar*>()->findChild<QLineEdit*>("point"_q);
+        QTest::keyClicks(field, "1001/5"_q);
+        QMenu* menu = seen.menuAt("items", 2); // before the filter is used
+        QTest::qWait(Shown::kTyped);
+        QVERIFY(menu != nullptr && menu->isVisible());
+        QTest::keyClick(menu, Qt::Key_H);
+        QCOMPARE(field->text(), "1001/3"_q);
+        QCOMPARE(seen.changes(), QStringList("3|new|||"_q));
+
+        seen.press("Clear Filters");
+        project.remark("2", "wet");
+        QCOMPARE(seen.actions().size(), 2);
+        menu = seen.menuAt("actions", 0);
+        project.remove({"3"});
+        QCOMPARE(seen.actions().size(), 2); // later
+        menu->close();
+        QCOMPARE(seen.actions().size(), 3);
+        menu = seen.menuAt("items", 0);
+        project.tellProject(""); // ends all of it
+        QVERIFY(menu != nullptr && (seen.window == nullptr || !seen.window->isVisible()));
+    }
+
+    void personsAndKindsThatOnlyTheDatabaseKnows()
+    {
+        HistoryProject project;
+        DBAdapter database;
+        QVERIFY(
+            database.open(lum::databaseConnection(project.place.database().toStdString()).c_str()));
+        const Shown seen(project);
+        QVERIFY(
+            database.execute("update ProjectHistory set person = 'Li', kind = 'drawn_by_hand'", 0));
+        OpenProject::settings().set(HistoryAuthor::kPersonSetting, "Wang");
+        project.remark("2", "wet");
+        QCOMPARE(seen.actions().back(), "Import 9 results|done"_q); // is not read again
+        project.save();
+        QCOMPARE(seen.actions(), (QStringList{"Correct a result|done"_q, "drawn_by_hand|done"_q}));
+
+        const QList<ChoiceBox*> boxes =
+            seen.window->findChild<HistoryFilterBar*>()->findChildren<ChoiceBox*>();
+        boxes[0]->setCurrentIndex(boxes[0]->findText("Wang"_q));
+        QCOMPARE(seen.actions(), QStringList("Correct a result|done"_q));
+        boxes[0]->setCurrentIndex(boxes[0]->findText("Li"_q));
+        QCOMPARE(seen.actions(), QStringList("drawn_by_hand|done"_q));
+        seen.press("Clear Filters");
+        boxes[1]->setCurrentIndex(boxes[1]->findText("drawn_by_hand"_q));
+        QCOMPARE(seen.actions(), QStringList("drawn_by_hand|done"_q));
+    }
+
+    void tellsFieldsAsTheOtherWindowsDo()
+    {
+        HistoryProject project;
+        basalt::Dictionary parameters(project.manager->designParameters());
+        parameters.set("r_line_dist", "15");
+        project.manager->setDesignParameters(parameters);
+        parameters.set("r_line_dist", "25");
+        project.manager->setDesignParameters(parameters);
+        const Shown seen(project);
+        QCOMPARE(seen.changes(), QStringList("|changed|R-Line Dist|15|25"_q));
+        const HistoryTexts texts;
+        QCOMPARE(texts.caption(HistoryData::Design, "line_num"), "line num"_q);
+        QCOMPARE(texts.value(HistoryData::Design, "type", "0"), "S"_q);
+        QCOMPARE(texts.value(HistoryData::Design, "type", "1"), "R"_q);
     }
 
     void theReasonOfAnUnsavedStepCanBeTyped()

@@ -320,6 +320,25 @@ private Q_SLOTS:
         QCOMPARE(written(), "1001/2 1002/2 1003/2"_q);
     }
 
+    void theDesignKeepsTheUsersLine()
+    {
+        Project project;
+        project.addReceivers({"1001", "1002", "1003"});
+        Shown<DesignLineControl> shown(project);
+        shown.click(shown.line("1002"_q));
+        shown.events();
+        project.publish(kNewDesign);
+        QCOMPARE(shown.events(), Events{"ON_DESIGN_LINE_SWITCHED line_num=1002"});
+        QCOMPARE(shown.view->selectedLines(), QStringList("1002"_q));
+        project.design().eraseLine("1002");
+        project.publish(kNewDesign);
+        QCOMPARE(shown.events(), Events{"ON_DESIGN_LINE_SWITCHED line_num=1001"});
+        shown.click(shown.line("1003"_q));
+        OpenProject::status().set(status::kProjectPath, "/b");
+        project.publish(kNewDesign);
+        QCOMPARE(shown.events().back(), "ON_DESIGN_LINE_SWITCHED line_num=1001");
+    }
+
     void theResultsKeepTheUsersPlace()
     {
         Project project;

@@ -16,7 +16,7 @@ create table CoordinateSystemItem (coord_param_id TEXT);
 insert into ExplorationResultItem (line_num, point_num, remarks) values ('1', '7', 'first');
 
 create table ProjectHistory (id INTEGER PRIMARY KEY, form INTEGER, time TEXT, person TEXT,
-    machine TEXT, kind TEXT, is_taken_back INTEGER, file TEXT, points INTEGER, reason TEXT,
+    machine TEXT, kind TEXT, state TEXT, file TEXT, points INTEGER, reason TEXT,
     design_columns TEXT, result_columns TEXT, design_rows BLOB, result_rows BLOB, later TEXT);
 create table ProjectHistoryItem (action INTEGER, number INTEGER, data TEXT, change TEXT,
     line_num TEXT, point_num TEXT, field TEXT, old TEXT, new TEXT, later TEXT,

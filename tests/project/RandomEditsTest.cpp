@@ -1,4 +1,5 @@
 #include "basalt_utilities/KeyList.h"
+#include "design/DesignFields.h"
 #include "design/DesignGenerator.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
@@ -63,6 +64,8 @@ PlainProject textsOf(DataProcessDataManager& manager)
     }
     plain.quality = textsOf(manager.qualityParameters());
     plain.designParameters = textsOf(manager.designParameters());
+    for (const Acceptance& acceptance : manager.acceptances())
+        plain.accepted[acceptance.kind + acceptance.name.point] = acceptance.reason.toStdString();
     plain.coordSystem = get_project_coord_transform().parameters().text("org_lon");
     return plain;
 }
@@ -96,14 +99,17 @@ QByteArray designCsv(const PlainProject::Points& points)
 
 /// Random operations of the program beside a plain project. The edits are kept as a window would
 /// keep them, each with the state before it.
-class EditWalk : public testing::Test
+class RandomEdits : public testing::Test
 {
 protected:
-    EditWalk()
+    RandomEdits()
     {
         create(m_place);
         m_template = basalt::Dictionary(m_manager.designParameters());
-        m_manager.setDesignParameters(basalt::Dictionary());
+        basalt::Dictionary all; // every save makes them the template, which other tests read
+        for (const DesignParameter& parameter : designParameters())
+            all.set(parameter.key, parameter.fallback);
+        m_manager.setDesignParameters(all);
         m_manager.setEditHandler([this](const std::shared_ptr<Edit>& edit) {
             m_edits.resize(m_done);
             m_edits.push_back(edit);
@@ -113,7 +119,7 @@ protected:
         reload();
     }
 
-    ~EditWalk() override { ParameterFiles::writeTemplate(m_template); } // every save changes it
+    ~RandomEdits() override { ParameterFiles::writeTemplate(m_template); }
 
     void create(const ProjectPlace& place)
     {
@@ -324,6 +330,36 @@ protected:
             m_manager.setDesignParameters(parameters);
         return isChanged;
     }
+    static Acceptance problemOf(const std::string& point)
+    {
+        return {"too_far", point.size() == 1, {"10", point}, "of " + point, {}, {}, {}};
+    }
+    bool accept(PlainProject& next)
+    {
+        std::vector<Acceptance> problems;
+        std::size_t changed = 0;
+        for (unsigned first = below(9), i = first + below(4); i > first; --i) {
+            Acceptance problem = problemOf(std::to_string(i));
+            problem.reason = QString::number(below(3));
+            std::string& reason = next.accepted[problem.kind + problem.name.point];
+            changed += reason == problem.reason.toStdString() ? 0U : 1U;
+            reason = problem.reason.toStdString();
+            problems.push_back(problem);
+        }
+        EXPECT_EQ(m_manager.accept(problems), changed);
+        return changed != 0;
+    }
+    bool endAcceptances(PlainProject& next)
+    {
+        std::vector<Acceptance> problems;
+        std::size_t ended = 0;
+        for (unsigned i = below(4); i > 0; --i) {
+            problems.push_back(problemOf(std::to_string(below(12))));
+            ended += next.accepted.erase(problems.back().kind + problems.back().name.point);
+        }
+        EXPECT_EQ(m_manager.endAcceptances(problems), ended);
+        return ended != 0;
+    }
     bool setCoordSystem(PlainProject& next)
     {
         next.coordSystem = next.coordSystem == "117" ? "123" : "117";
@@ -334,15 +370,17 @@ protected:
     /// One of them. Only the last states are kept.
     void change()
     {
-        using Operation = bool (EditWalk::*)(PlainProject&);
+        using Operation = bool (RandomEdits::*)(PlainProject&);
         static constexpr Operation kOperations[] = {
-            &EditWalk::importResults, &EditWalk::importResults, &EditWalk::deletePoints,
-            &EditWalk::deletePoints,  &EditWalk::correctResult, &EditWalk::correctResult,
-            &EditWalk::correctResult, &EditWalk::correctResult, &EditWalk::importDesign,
-            &EditWalk::correctDesign, &EditWalk::setParameters, &EditWalk::deleteLines,
-            &EditWalk::generate,      &EditWalk::setCoordSystem};
-        const Operation operation =
-            below(40) == 0 ? &EditWalk::importDatabase : kOperations[below(14)];
+            &RandomEdits::importResults, &RandomEdits::importResults,  &RandomEdits::deletePoints,
+            &RandomEdits::deletePoints,  &RandomEdits::correctResult,  &RandomEdits::correctResult,
+            &RandomEdits::correctResult, &RandomEdits::correctResult,  &RandomEdits::importDesign,
+            &RandomEdits::correctDesign, &RandomEdits::setParameters,  &RandomEdits::deleteLines,
+            &RandomEdits::generate,      &RandomEdits::setCoordSystem, &RandomEdits::accept,
+            &RandomEdits::accept,        &RandomEdits::endAcceptances};
+        const Operation operation = below(40) == 0
+                                        ? &RandomEdits::importDatabase
+                                        : kOperations[below(unsigned(std::size(kOperations)))];
         PlainProject next = present();
         const bool isEdit = (this->*operation)(next);
         if (!isEdit) {
@@ -423,7 +461,9 @@ protected:
         expectDone(m_manager.saveProject(place));
         std::string all;
         for (const char* table :
-             {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem"})
+             {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem",
+              "(select kind, is_design, line_num, point_num, fingerprint, reason from "
+              "ProblemAcceptance)"})
             all += rowsOf(place.database().toStdString(), table);
         for (const char* file : {"/qc_param.ini", "/design_param.ini"})
             all += TestFolder::read(place.folder + QString::fromUtf8(file)).toStdString();
@@ -446,6 +486,11 @@ protected:
         m_manager.setQualityParameters(ordered(quality, plain.quality));
         m_manager.setDesignParameters(ordered(design, plain.designParameters));
         m_manager.setCoordSystem(systemOf(plain.coordSystem));
+        for (const auto& [name, reason] : plain.accepted) {
+            Acceptance problem = problemOf(name.substr(std::string("too_far").size()));
+            problem.reason = QString::fromStdString(reason);
+            m_manager.accept({problem});
+        }
     }
 
     TestFolder m_folder;
@@ -465,8 +510,8 @@ protected:
 
 } // namespace
 
-// EDITS=100000 project_test --gtest_filter=EditWalk* goes on for longer.
-TEST_F(EditWalk, EndsWithTheBytesOfAPlainModel)
+// EDITS=100000 project_test --gtest_filter=RandomEdits* goes on for longer.
+TEST_F(RandomEdits, EndsWithTheBytesOfAPlainModel)
 {
     const int steps =
         qEnvironmentVariableIsSet("EDITS") ? qEnvironmentVariableIntValue("EDITS") : 2000;

@@ -1,0 +1,147 @@
+#include "quality/problems/NameProblems.h"
+
+#include "basalt_utilities/Numbers.h"
+#include "lum_sdk/Text.h"
+#include "model/PointNumber.h"
+#include "quality/problems/WrongNames.h"
+
+#include <QCoreApplication>
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+// In a problem of a name, the other point is the likely one (or the other result), `value` the
+// distance to the own design point, `second` that to the likely one, and `detail` the number that
+// is proposed. `count` is 1 for one more result of a point.
+constexpr std::uint32_t kAnother = 1;
+
+struct NameProblems
+{
+    Q_DECLARE_TR_FUNCTIONS(NameProblems)
+};
+
+QString metres(double lengthM)
+{
+    constexpr int kDecimals = 2;
+    return QString::fromStdString(basalt::formatFixed(lengthM, kDecimals));
+}
+
+/// With its line when that is not the problem's.
+QString nameOf(const Problem& problem, std::string_view line, std::string_view point)
+{
+    const QString number = lum::toQString(writtenPointNumber(point));
+    return line == problem.line ? number : lum::toQString(line) + QStringLiteral(" / ") + number;
+}
+
+QString wrongName(const Problem& problem)
+{
+    const QString likely = nameOf(problem, problem.otherLine, problem.otherPoint);
+    const QString proposed =
+        problem.detail.empty() ? likely : nameOf(problem, problem.otherLine, problem.detail);
+    if (std::isnan(problem.value))
+        return NameProblems::tr("Is probably %1: it is %2 m from %3, and no point has its name.")
+            .arg(proposed, metres(problem.second), likely);
+    if (problem.count != kAnother)
+        return NameProblems::tr("Is probably %1, %2 m away; its own is %3 m away.")
+            .arg(proposed, metres(problem.second), metres(problem.value));
+    return NameProblems::tr("Stands where %1 does, %2 m from its design point; its own is %3 m "
+                            "away. It is probably one more measurement of %1.")
+        .arg(likely, metres(problem.second), metres(problem.value));
+}
+
+QString swappedNames(const Problem& problem)
+{
+    return NameProblems::tr("Its name and that of %1 are probably exchanged: it is %2 m from the "
+                            "design point of %1; its own is %3 m away.")
+        .arg(nameOf(problem, problem.otherLine, problem.otherPoint), metres(problem.second),
+             metres(problem.value));
+}
+
+QString foreignResult(const Problem& problem)
+{
+    return NameProblems::tr("Has no result, but the result %1 stands %2 m from it, and no point "
+                            "has that name.")
+        .arg(nameOf(problem, problem.otherLine, problem.otherPoint), metres(problem.second));
+}
+
+constexpr ProblemKind kWrongName{"wrong_name", QT_TRANSLATE_NOOP("ProblemKinds", "Wrong name"),
+                                 Severity::Error, wrongName};
+constexpr ProblemKind kSwappedNames{"swapped_names",
+                                    QT_TRANSLATE_NOOP("ProblemKinds", "Exchanged names"),
+                                    Severity::Error, swappedNames};
+constexpr ProblemKind kForeignResult{
+    "foreign_result", QT_TRANSLATE_NOOP("ProblemKinds", "Foreign result on an empty point"),
+    Severity::Error, foreignResult};
+constexpr std::array kNameKinds{&kWrongName, &kSwappedNames, &kForeignResult};
+
+template <class Point>
+void setOther(ProblemList& problems, Problem& problem, const Point& point)
+{
+    problem.otherLine = problems.keepOnce(point.lineNumber);
+    problem.otherPoint = problems.keep(point.pointNumber);
+}
+
+void add(ProblemList& problems, const WrongName& wrong, const NameLimits& limits)
+{
+    const bool isForeign = wrong.isForeign();
+    Problem& problem = isForeign ? problems.add(kForeignResult, *wrong.likely)
+                                 : problems.add(kWrongName, *wrong.result);
+    if (isForeign)
+        setOther(problems, problem, *wrong.result);
+    else
+        setOther(problems, problem, *wrong.likely);
+    problem.value = isForeign ? wrong.likelyM : wrong.ownM;
+    problem.limit = isForeign ? limits.nearM : limits.nearerM;
+    problem.second = wrong.likelyM;
+    problem.detail = problems.keep(wrong.proposed.point);
+    problem.count = wrong.isAnother ? kAnother : 0;
+}
+
+void addExchanged(ProblemList& problems, const WrongName& first, const WrongName& second,
+                  const NameLimits& limits)
+{
+    Problem& problem = problems.add(kSwappedNames, *first.result);
+    setOther(problems, problem, *second.result);
+    problem.value = first.ownM;
+    problem.limit = limits.nearerM;
+    problem.second = first.likelyM;
+}
+
+void findNames(const FinderInput& input, ProblemList& problems)
+{
+    const NameLimits limits{input.limit("name_nearer_min"), input.limit("name_near_max")};
+    if (limits.nearerM == 0)
+        return;
+    const std::vector<WrongName> wrongNames = findWrongNames(input, limits);
+    for (std::size_t i = 0; i < wrongNames.size(); ++i) {
+        const std::optional<std::size_t> other = wrongNames[i].exchangedWith;
+        if (!other)
+            add(problems, wrongNames[i], limits);
+        else if (*other > i)
+            addExchanged(problems, wrongNames[i], wrongNames[*other], limits);
+    }
+}
+
+PointName named(std::string_view line, std::string_view point)
+{
+    return {std::string(line), std::string(point)};
+}
+
+} // namespace
+
+constexpr ProblemFinder kNameFinder{findNames, kNameKinds};
+
+std::vector<Renaming> proposalOf(const Problem& problem)
+{
+    const PointName own = named(problem.line, problem.point);
+    const PointName other = named(problem.otherLine, problem.otherPoint);
+    if (problem.kind == &kSwappedNames)
+        return {{own, other}, {other, own}};
+    if (problem.kind == &kForeignResult)
+        return {{other, own}};
+    if (problem.kind == &kWrongName && !problem.detail.empty())
+        return {{own, named(problem.otherLine, problem.detail)}};
+    return {};
+}

@@ -1,0 +1,250 @@
+#include "quality/problems/CheckProblems.h"
+#include "quality/problems/NeighbourProblems.h"
+#include "quality/problems/QualityProblems.h"
+#include "quality/problems/StoredValueProblems.h"
+#include "tests/quality/problems/FoundProblems.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class ProblemFinders : public testing::Test, protected FoundProblems
+{
+protected:
+    SurveyPoint& add(const std::string& number, double elevation = 100)
+    {
+        SurveyPoint point = goodResult("10", number, 4000000 + 50 * double(survey.pointCount()));
+        point.elevation = elevation;
+        return survey.set(std::move(point));
+    }
+    /// Those of the checks, of stored values and of neighbours.
+    ProblemList find()
+    {
+        std::vector<const ProblemKind*> kinds;
+        for (const ProblemFinder* const finder :
+             {&kEmptyPointFinder, &kQualityFinder, &kResurveyFinder, &kRepeatFinder,
+              &kStoredValueFinder, &kNeighbourFinder})
+            kinds.insert(kinds.end(), finder->kinds.begin(), finder->kinds.end());
+        return FoundProblems::find(kinds);
+    }
+    std::vector<std::string> found() { return textsOf(find()); }
+    static std::string what(const Problem& problem)
+    {
+        return problem.kind->what(problem).toStdString();
+    }
+};
+
+TEST_F(ProblemFinders, EachFailedTestIsOneProblemWithValueAndLimit)
+{
+    add("1000");
+    SurveyPoint& bad = add("1001");
+    bad.north += 0.3;
+    bad.east -= 0.4001; // 0.5001 m away
+    bad.pdop = 0.4;
+    bad.hdop = 3.5;
+    bad.transversalDeviation = -0.7;
+    bad.antennaHeight = 0.4;
+    bad.satelliteNumber = 5;
+
+    const ProblemList problems = find();
+
+    EXPECT_THAT(textsOf(problems),
+                ElementsAre("too_far 10/1001 0.500 0.500", "antenna_low 10/1001 0.400 0.500",
+                            "pdop 10/1001 0.40 0.50", "hdop 10/1001 3.50 3.00",
+                            "satellites 10/1001 5 6", "across 10/1001 -0.700 0.500"));
+    EXPECT_EQ(what(problems[0]),
+              "Horizontal distance from the design 0.5001 m is over its limit 0.5000 m.");
+    EXPECT_EQ(what(problems[2]), "PDOP 0.40 is under its limit 0.50.");
+}
+
+TEST_F(ProblemFinders, AResultThatCannotBeComparedIsNotFarAway)
+{
+    SurveyPoint& alone = add("1001");
+    alone.designNorth = alone.designEast = alone.designElevation = 0;
+    alone.pdop = 4;
+    add("1002").elevation = std::numeric_limits<double>::quiet_NaN();
+    add("1003").east = std::numeric_limits<double>::infinity();
+
+    EXPECT_THAT(found(),
+                ElementsAre("no_design 10/1001", "pdop 10/1001 4.00 3.00", "no_position 10/1002",
+                            "no_position 10/1003", "too_far 10/1003 inf 0.500"));
+}
+
+TEST_F(ProblemFinders, AResurveyIsToldByItsWorstDifferenceInMetres)
+{
+    planeUnitM = 0.3048;
+    add("1001");
+    SurveyPoint again = *survey.find("10", "1001");
+    again.pointNumber = "1001F";
+    again.north += 0.1; // feet: 0.0305 m, just beyond
+    again.elevation -= 0.5;
+    survey.set(again);
+    again.pointNumber = "2002F";
+    survey.set(again);
+
+    const ProblemList problems = find();
+
+    EXPECT_THAT(textsOf(problems),
+                ElementsAre("resurvey_off 10/1001 -0.500 0.030", "resurvey_alone 10/2002F"));
+    EXPECT_EQ(what(problems[0]), "The resurvey 1001F lies -0.500 m off in height.");
+    EXPECT_EQ(problems[0].otherPoint, "1001F");
+}
+
+TEST_F(ProblemFinders, ARepeatTellsHowFarItLiesFromWhatItRepeats)
+{
+    add("10011001");
+    SurveyPoint again = *survey.find("10", "10011001");
+    again.pointNumber = "C10011001_1";
+    again.north += 0.03;
+    again.east += 0.04;
+    again.elevation += 0.2;
+    survey.set(again);
+    again.pointNumber = "C99999999_0";
+    survey.set(again);
+
+    const ProblemList problems = find();
+
+    EXPECT_THAT(textsOf(problems),
+                ElementsAre("repeat 10/C10011001_1 0.050", "repeat 10/C99999999_0"));
+    EXPECT_EQ(what(problems[0]), "It repeats 10011001, 0.050 m beside it and 0.200 m in height.");
+}
+
+TEST_F(ProblemFinders, ADesignPointWithoutItsOwnResultIsMissing)
+{
+    for (const char* number : {"1001", "1002", "1003"})
+        design.set(designPoint("10", number));
+    design.set(designPoint("11", "1001"));
+    add("1002");
+    add("1003F");
+
+    const ProblemList problems = find();
+
+    EXPECT_THAT(textsOf(problems), ElementsAre("missing 10/1001", "missing 10/1003",
+                                               "missing 11/1001", "resurvey_alone 10/1003F"));
+    EXPECT_TRUE(problems[0].isDesign);
+}
+
+class StoredValues : public ProblemFinders
+{
+protected:
+    void SetUp() override
+    {
+        SurveyPoint& good = add("1001");
+        good.solutionType = 5;
+        good.ageOfDiff = 10;
+        good.epochNumber = 5;
+        good.startTime = 1700000000000;
+        good.endTime = good.startTime + 30000;
+        good.rms = 0.02;
+    }
+    /// Copies the good result, with one change.
+    template <class Value>
+    void change(const std::string& number, Value SurveyPoint::*member, Value value)
+    {
+        SurveyPoint point = *survey.find("10", "1001");
+        point.pointNumber = number;
+        point.*member = value;
+        survey.set(std::move(point));
+    }
+};
+
+TEST_F(StoredValues, AreNotTestedUntilALimitIsSet)
+{
+    change("1002", &SurveyPoint::solutionType, 0);
+    change("1003", &SurveyPoint::rms, 99.0);
+    EXPECT_THAT(found(), ElementsAre());
+}
+
+TEST_F(StoredValues, OnTheLimitPassAndBeyondAreFound)
+{
+    for (const auto& [key, value] :
+         {std::pair("solution_type_min", "5"), std::pair("age_of_diff_max", "10"),
+          std::pair("epoch_num_min", "5"), std::pair("occupation_min", "30"),
+          std::pair("rms_max", "0.02")})
+        parameters.set(key, value);
+    change("2001", &SurveyPoint::solutionType, 3); // worse than float, although the code is lower
+    change("2002", &SurveyPoint::solutionType, 4); // better
+    change("2003", &SurveyPoint::solutionType, 7);
+    change("2004", &SurveyPoint::ageOfDiff, 11.0);
+    change("2005", &SurveyPoint::epochNumber, 4);
+    change("2006", &SurveyPoint::endTime, std::int64_t(1700000029999));
+    change("2007", &SurveyPoint::startTime, std::int64_t(0)); // nobody knows
+    change("2008", &SurveyPoint::rms, std::numeric_limits<double>::quiet_NaN());
+
+    const ProblemList problems = find();
+
+    EXPECT_THAT(textsOf(problems),
+                ElementsAre("solution_type 10/2001 3 5", "solution_type 10/2003 7 5",
+                            "age_of_diff 10/2004 11.0 10.0", "epoch_num 10/2005 4 5",
+                            "occupation 10/2006 30.0 30.0", "occupation 10/2007 30.0",
+                            "rms 10/2008 0.020"));
+    EXPECT_EQ(what(problems[0]), "The solution is differential; it should be float or better.");
+    EXPECT_THAT(what(problems[5]), HasSubstr("does not say"));
+}
+
+TEST_F(ProblemFinders, AHeightIsComparedWithTheMedianOfItsNeighbours)
+{
+    parameters.set("neighbour_height_max", "3");
+    for (int i = 0; i < 9; ++i)
+        add(std::to_string(1000 + i), 100 + i); // a slope is no fault
+    add("1009", 100);
+    SurveyPoint away = goodResult("10", "5000", 4009000);
+    away.elevation = 900; // has no neighbours
+    survey.set(away);
+
+    const ProblemList problems = find();
+
+    EXPECT_THAT(textsOf(problems), ElementsAre("neighbour_height 10/1009 -6.500 3.000"));
+    EXPECT_EQ(what(problems[0]), "It is 6.500 m lower than its neighbours.");
+}
+
+TEST_F(ProblemFinders, OddSurveysStopNoFinder)
+{
+    for (const ProblemLimitGroup& group : problemLimitGroups()) {
+        for (const ProblemLimit& limit : group.limits)
+            parameters.set(limit.key, "1");
+    }
+    const auto count = [&] { return FoundProblems::find().size(); };
+    EXPECT_EQ(count(), 0U) << "nothing at all";
+    design.set(designPoint("", ""));
+    EXPECT_GE(count(), 1U) << "one design point without a name";
+    design.clear();
+    survey.set(surveyPoint("", "")); // nothing is known of it
+    EXPECT_GE(count(), 1U) << "one result, no design";
+
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    for (int i = 0; i < 300; ++i) {
+        const std::string line = i < 200 ? "10" : "L" + std::to_string(i); // lines of one point
+        survey.set(goodResult(line, std::to_string(1000 + i), i % 10 == 0 ? kNan : 4000000));
+        DesignPoint point = designPoint(line, std::to_string(1000 + i));
+        point.north = point.east = i % 10 == 1 ? kNan : 4000000; // all the others in one place
+        design.set(point);
+    }
+    const std::array unplaced{findProblemKind("no_position")};
+    EXPECT_EQ(FoundProblems::find(unplaced).size(), 30U);
+    EXPECT_GE(count(), 30U);
+}
+
+TEST_F(ProblemFinders, OnlyTheWantedKindsAreListed)
+{
+    design.set(designPoint("10", "1009"));
+    add("1001").pdop = 4;
+    const std::array wanted{findProblemKind("pdop"), findProblemKind("repeat")};
+    ASSERT_NE(wanted[0], nullptr);
+    EXPECT_THAT(textsOf(FoundProblems::find(wanted)), ElementsAre("pdop 10/1001 4.00 3.00"));
+}
+
+TEST(ProblemKinds, AreNamedOnce)
+{
+    for (const ProblemKind* const kind : problemKinds())
+        EXPECT_EQ(findProblemKind(kind->name), kind) << kind->name;
+    EXPECT_EQ(findProblemKind("Missing"), nullptr);
+}
+
+} // namespace
