@@ -6,7 +6,6 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
-#include "quality/problems/ProblemFinders.h"
 #include "views/problems/SeverityIcon.h"
 #include "views/tables/SortKeys.h"
 
@@ -404,14 +403,8 @@ QVariant ProblemTableModel::headerData(int section, Qt::Orientation orientation,
         return int((isNumber(name) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case CustomTableWidget::kLongestTextsRole:
         if (name == ProblemField::Severity)
-            return QStringList{QStringLiteral("____") + severityText(Severity::Warning),
-                               QStringLiteral("____") + severityText(Severity::Error)};
-        if (name == ProblemField::Kind) {
-            QStringList captions;
-            for (const ProblemKind* const kind : problemKinds())
-                captions << kind->captionText();
-            return captions;
-        }
+            return QStringList{QStringLiteral("___") + severityText(Severity::Warning),
+                               QStringLiteral("___") + severityText(Severity::Error)};
         return {};
     default:
         return QAbstractTableModel::headerData(section, orientation, role);

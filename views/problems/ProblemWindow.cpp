@@ -7,15 +7,11 @@
 #include "lum_desktop_sdkx/controls/FilterHeader.h"
 #include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
-#include "map/ui/PointHighlight.h"
-#include "model/PointNumber.h"
 #include "project/DataProcessDataManager.h"
-#include "project/IPointList.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
@@ -23,6 +19,7 @@
 #include "views/problems/ProblemActions.h"
 #include "views/problems/ProblemKindBar.h"
 #include "views/problems/ProblemTableModel.h"
+#include "views/problems/ShowProblem.h"
 #include "views/tables/RowFilter.h"
 #include "views/tables/TableCountLine.h"
 
@@ -48,7 +45,7 @@ constexpr int kWhat = static_cast<int>(ProblemField::What);
 constexpr int kTypingMs = 200;
 constexpr int kKindsWidth = 210;
 constexpr int kSearchWidth = 180;
-constexpr int kLeastSentence = 240; // pixels of the column of sentences
+constexpr int kLeastSentence = 400; // pixels of the column of sentences
 constexpr int kMargin = 4;
 const QLatin1String kFindLink("find");
 const QLatin1String kFindCommand("Find Problems");
@@ -71,20 +68,6 @@ bool areSame(const IDictionary& a, const IDictionary& b)
     return areSame;
 }
 
-PointName nameOf(const Problem& problem)
-{
-    return {std::string(problem.line.view()), std::string(problem.point.view())};
-}
-
-/// The point as it is shown: "1001/10015001", or a line alone.
-QString shownName(const Problem& problem)
-{
-    const QString line = lum::toQString(problem.line);
-    return problem.point.empty()
-               ? line
-               : line + QLatin1Char('/') + lum::toQString(writtenPointNumber(problem.point.view()));
-}
-
 } // namespace
 
 ProblemWindow::ProblemWindow(const char* config, IDesktopHost* host)
@@ -97,7 +80,8 @@ ProblemWindow::ProblemWindow(const char* config, IDesktopHost* host)
       m_subscription(*this,
                      lum::eventNames({events::kUpdateSystemStatus, events::kProjectModified,
                                       events::kRefreshDesignLayer, events::kRefreshSurveyLayer,
-                                      events::kRefreshDesignTable, events::kRefreshSurveyTable}),
+                                      events::kRefreshDesignTable, events::kRefreshSurveyTable,
+                                      events::kAcceptancesChanged}),
                      host->eventManager())
 {
     m_actions->setParent(this);
@@ -154,7 +138,7 @@ void ProblemWindow::addBar(QBoxLayout& rows)
     bar->setSpacing(dpi_scaled(kMargin));
     auto* const find = new QToolButton(this);
     find->setObjectName(QStringLiteral("find"));
-    find->setText(tr("Find Problems"));
+    find->setText(tr("&Find Problems"));
     find->setToolTip(tr("Run everything that is on and list what is wrong (Ctrl+F9)"));
     find->setIcon(QIcon::fromTheme(QStringLiteral("view-refresh")));
     find->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -180,18 +164,17 @@ void ProblemWindow::connectParts()
     const auto go = [this](const QModelIndex& cell) { announce(cell.row()); };
     connect(m_table, &QAbstractItemView::clicked, this, go);
     connect(m_table, &CustomTableWidget::reachedByKey, this, go);
-    connect(m_table, &QAbstractItemView::doubleClicked, this,
-            [this](const QModelIndex& cell) { zoomTo(cell.row()); });
+    connect(m_table, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& cell) {
+        zoomToProblem(m_host, m_model->problem(cell.row()));
+    });
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, this, &ProblemWindow::showMenu);
     connect(m_table, &CustomTableWidget::orderRequested, this,
             [this](int column, Qt::SortOrder order) {
                 m_model->sortBy(column, order);
                 m_table->scrollToTop();
             });
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        m_actions->followSelection();
-        showCounts();
-    });
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &ProblemWindow::showSelected);
     connect(m_header, &FilterHeader::filterEdited, this, &ProblemWindow::setFilter);
     connect(m_header, &QHeaderView::sectionResized, this,
             [this](int column) { m_hasOwnWidth |= column == kWhat && !m_isFitting; });
@@ -200,7 +183,7 @@ void ProblemWindow::connectParts()
     connect(m_empty, &QLabel::linkActivated, this, &ProblemWindow::followLink);
     connect(m_old, &QLabel::linkActivated, this, &ProblemWindow::followLink);
     connect(m_actions, &ProblemActions::pointsChanged, this, &ProblemWindow::find);
-    connect(m_actions, &ProblemActions::acceptedChanged, this, &ProblemWindow::showKinds);
+    connect(m_actions, &ProblemActions::acceptedChanged, this, &ProblemWindow::followAccepted);
     auto* const typing = new QTimer(this);
     typing->setSingleShot(true);
     typing->setInterval(kTypingMs);
@@ -229,12 +212,10 @@ void ProblemWindow::find()
          {events::kRefreshDesignTable, events::kRefreshSurveyTable, events::kResurveysChecked})
         m_host.eventManager().publish(event, nullptr, 0);
     showKinds();
-    const int row = same >= 0 ? same : std::min(before, m_model->rowCount() - 1);
     if (wasSelected && same >= 0)
         m_table->showRow(same);
-    else // the keys go on from there
-        m_table->selectionModel()->setCurrentIndex(m_model->index(std::max(row, 0), kWhat),
-                                                   QItemSelectionModel::NoUpdate);
+    else
+        goOnAt(same >= 0 ? same : before);
     tellFound();
 }
 
@@ -269,6 +250,8 @@ void ProblemWindow::handleEvent(const char* eventName, const char* /*payload*/, 
 {
     if (openProject() != m_project)
         forget();
+    else if (std::strcmp(eventName, events::kAcceptancesChanged) == 0)
+        followAccepted();
     else if (std::strcmp(eventName, events::kRefreshSurveyTable) == 0)
         m_model->refresh(); // the time zone may be another
     showState();
@@ -284,6 +267,27 @@ bool ProblemWindow::isOld() const
             !areSame(m_limits, manager().qualityParameters()));
 }
 
+/// Moves problems between the open and the accepted ones. The keys go on where they were.
+void ProblemWindow::followAccepted()
+{
+    if (!ProjectState::hasData())
+        return;
+    const std::vector<int> selected = m_table->selectedRows();
+    const int row = selected.empty() ? m_table->currentIndex().row() : selected.front();
+    m_model->changeAccepted([](ProblemList& problems) { manager().markAccepted(problems); });
+    showKinds();
+    if (!m_table->currentIndex().isValid())
+        goOnAt(row);
+}
+
+/// Without selecting anything.
+void ProblemWindow::goOnAt(int row)
+{
+    const int last = std::max(m_model->rowCount() - 1, 0);
+    m_table->selectionModel()->setCurrentIndex(m_model->index(std::clamp(row, 0, last), kWhat),
+                                               QItemSelectionModel::NoUpdate);
+}
+
 void ProblemWindow::showKinds()
 {
     m_kinds->setKinds(m_model->kinds());
@@ -293,7 +297,6 @@ void ProblemWindow::showKinds()
 void ProblemWindow::showChoice()
 {
     m_model->setChoice(m_kinds->choice());
-    m_actions->followSelection();
     showState();
 }
 
@@ -328,13 +331,15 @@ void ProblemWindow::showState()
     m_empty->setVisible(m_model->rowCount() == 0);
     if (m_model->rowCount() == 0)
         m_empty->setText(emptyText());
-    m_counts->setNote(noteText());
-    showCounts();
+    showSelected();
     fitSentences();
 }
 
-void ProblemWindow::showCounts()
+void ProblemWindow::showSelected()
 {
+    m_actions->follow(isOld());
+    const QString fault = faultText();
+    m_counts->setNote(fault.isEmpty() ? acceptanceText() : fault, !fault.isEmpty());
     m_counts->setCounts({.shown = m_model->rowCount(),
                          .all = m_model->unfilteredCount(),
                          .selected = m_table->selectedRowCount(),
@@ -356,7 +361,7 @@ QString ProblemWindow::emptyText() const
 }
 
 /// Why a filter does not count.
-QString ProblemWindow::noteText() const
+QString ProblemWindow::faultText() const
 {
     for (int column = 0; column < m_model->columnCount(); ++column) {
         const QString fault = m_model->filterFault(column);
@@ -368,6 +373,15 @@ QString ProblemWindow::noteText() const
                      fault.toHtmlEscaped());
     }
     return {};
+}
+
+/// Why the selected problem is accepted.
+QString ProblemWindow::acceptanceText() const
+{
+    const std::vector<int> rows = m_table->selectedRows();
+    return rows.size() == 1
+               ? ProblemActions::acceptanceText(m_model->problem(rows.front())).toHtmlEscaped()
+               : QString();
 }
 
 void ProblemWindow::followLink(const QString& link)
@@ -421,34 +435,22 @@ void ProblemWindow::step(bool isForward)
 void ProblemWindow::goTo(int row)
 {
     m_table->showRow(row);
-    if (!announce(row))
-        return;
-    const Problem& problem = m_model->problem(row);
-    m_host.tell(tr("Problem %1 of %2, %3: %4")
-                    .arg(lum::groupedNumber(row + 1), lum::groupedNumber(m_model->rowCount()),
-                         shownName(problem), problem.kind->what(problem)));
+    announce(row);
 }
 
-/// \returns false, and says so, when the project has the point no more
-bool ProblemWindow::announce(int row)
+/// Selects the point of a row in the other windows, and says what is wrong with it.
+void ProblemWindow::announce(int row)
 {
     const Problem& problem = m_model->problem(row);
-    if (problem.point.empty()) // of a line or a group
-        return true;
+    const QString name = problemName(problem);
     const QScopedValueRollback<bool> guard(m_isAnnouncing, true);
-    const QString line = lum::toQString(problem.line);
-    const QString point = lum::toQString(problem.point);
-    const bool isDesign = problem.isDesign;
-    auto* const list = m_host.windows().findAs<IPointList>(
-        isDesign ? QStringLiteral("Design Data List") : QStringLiteral("Survey Data List"));
-    if (list == nullptr)
-        m_host.eventManager().publish(isDesign ? events::kDesignPointSelected
-                                               : events::kSurveyPointSelected,
-                                      payload::selectedPoint(point, line).constData(), 0);
-    const bool isThere = list == nullptr || list->selectPoint(line, point); // which announces it
-    if (!isThere)
-        m_host.tell(tr("Point %1 is not in the project any more.").arg(shownName(problem)));
-    return isThere;
+    if (!selectProblem(m_host, problem))
+        return m_host.tell(tr("Point %1 is not in the project any more.").arg(name));
+    const QString number = lum::groupedNumber(row + 1);
+    const QString rows = lum::groupedNumber(m_model->rowCount());
+    const QString what = problem.kind->what(problem);
+    m_host.tell(name.isEmpty() ? tr("Problem %1 of %2: %3").arg(number, rows, what)
+                               : tr("Problem %1 of %2, %3: %4").arg(number, rows, name, what));
 }
 
 bool ProblemWindow::followPoint(bool isDesign, const PointName& point)
@@ -471,21 +473,6 @@ bool ProblemWindow::followPoint(bool isDesign, const PointName& point)
     return isInFront && row >= 0;
 }
 
-void ProblemWindow::zoomTo(int row)
-{
-    const Problem& problem = m_model->problem(row);
-    const PointName name = nameOf(problem);
-    if (!ProjectState::hasData() || name.point.empty())
-        return;
-    if (problem.isDesign) {
-        if (const DesignPoint* const point = manager().designPoints().find(name.line, name.point))
-            PointHighlight::zoomTo(m_host, *point);
-    } else if (const SurveyPoint* const point =
-                   manager().surveyPoints().find(name.line, name.point)) {
-        PointHighlight::zoomTo(m_host, *point);
-    }
-}
-
 void ProblemWindow::showMenu(const QModelIndex& cell, const QPoint& place)
 {
     if (m_table->selectedRowCount() == 1)
@@ -499,8 +486,9 @@ void ProblemWindow::showMenu(const QModelIndex& cell, const QPoint& place)
                         setFilter(column, filter);
                     });
     const QPersistentModelIndex at(cell);
-    QAction* const map =
-        menu->addAction(tr("Show on the &Map"), this, [this, at] { zoomTo(at.row()); });
+    QAction* const map = menu->addAction(tr("Show on the &Map"), this, [this, at] {
+        zoomToProblem(m_host, m_model->problem(at.row()));
+    });
     QAction* const history = menu->addAction(tr("&History of This Point"), this, [this, at] {
         const Problem& problem = m_model->problem(at.row());
         m_host.eventManager().publish(

@@ -19,7 +19,6 @@ class QLabel;
 class QLineEdit;
 class QModelIndex;
 class TableCountLine;
-struct Problem;
 
 /// The window "Problems List": everything that is wrong with design and results, a row each, and
 /// what can be done about it.
@@ -62,21 +61,23 @@ private:
     void forget();
     void followProject();
     [[nodiscard]] bool isOld() const;
+    void followAccepted();
+    void goOnAt(int row);
     void showKinds();
     void showChoice();
     void setFilter(int column, const QString& text);
     void clearFilters();
     void showState();
-    void showCounts();
+    void showSelected();
     [[nodiscard]] QString emptyText() const;
-    [[nodiscard]] QString noteText() const;
+    [[nodiscard]] QString faultText() const;
+    [[nodiscard]] QString acceptanceText() const;
     void tellFound() const;
     void followLink(const QString& link);
     void fitSentences();
 
     void goTo(int row);
-    bool announce(int row);
-    void zoomTo(int row);
+    void announce(int row);
     void showMenu(const QModelIndex& cell, const QPoint& place);
 
     IDesktopHost& m_host; // outlives the window

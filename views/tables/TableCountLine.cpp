@@ -48,10 +48,11 @@ void TableCountLine::setCounts(const Counts& counts)
         text +=
             QStringLiteral("    ") + tr("Selected: %1").arg(lum::groupedNumber(counts.selected));
     m_counts->setText(text);
-    m_clear->setEnabled(counts.isFiltered || !m_note->text().isEmpty()); // or an unreadable one
+    m_clear->setEnabled(counts.isFiltered || m_isAboutFilters); // or an unreadable one
 }
 
-void TableCountLine::setNote(const QString& html)
+void TableCountLine::setNote(const QString& html, bool isAboutFilters)
 {
+    m_isAboutFilters = isAboutFilters && !html.isEmpty();
     m_note->setText(html);
 }

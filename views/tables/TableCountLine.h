@@ -29,8 +29,9 @@ public:
     };
     void setCounts(const Counts& counts);
 
-    /// \param html may have a link; empty for none
-    void setNote(const QString& html);
+    /// \param html           may have a link; empty for none
+    /// \param isAboutFilters clearing these ends it
+    void setNote(const QString& html, bool isAboutFilters = true);
 
 Q_SIGNALS:
     void clearFiltersRequested();
@@ -41,4 +42,5 @@ private:
     QLabel* m_counts;
     QLabel* m_note;
     QToolButton* m_clear;
+    bool m_isAboutFilters = false;
 };

@@ -1,97 +1,11 @@
-#include "views/problems/ProblemWindow.h"
-
-#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/controls/FilterHeader.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
-#include "lum_sdk/Text.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
-#include "tests/project/NotingWindow.h"
-#include "tests/project/OpenProject.h"
 #include "tests/support/Boxes.h"
-#include "tests/support/Literals.h"
-#include "tests/support/Points.h"
 #include "tests/support/PopupMenu.h"
 #include "tests/support/TestFolder.h"
-#include "views/problems/ProblemCommands.h"
-#include "views/problems/ProblemKindBar.h"
-#include "views/problems/ProblemTableModel.h"
-#include "views/SelectionFollower.h"
-
-#include <QtTest>
-#include <QtWidgets>
-
-namespace {
-
-/// A design of two lines of six points, and the window of the problems with the tables.
-struct Place : OpenProject
-{
-    Place()
-    {
-        host.windowRegistry.windows = {{"Problems List"_q, &window},
-                                       {"Survey Data List"_q, &resultTable},
-                                       {"Design Data List"_q, &designed}};
-        for (int line = 0; line < 2; ++line) {
-            for (int place = 0; place < 6; ++place)
-                design().set({std::to_string(1001 + line), std::to_string(5001 + place),
-                              100.0 * line, 25.0 * place, 0, 90, 1, 0});
-        }
-        window.resize(1100, 400);
-        window.show();
-        publish("UPDATE_SYSTEM_STATUS_EVENT");
-    }
-
-    void find() { FindProblemsCommand("", &host).execute(); }
-    void step(const char* what)
-    {
-        ProblemStepCommand((QByteArray("what=") + what).constData(), &host).execute();
-    }
-    /// A result at its design position.
-    void survey(const char* line, const char* point)
-    {
-        const DesignPoint& designedPoint = *design().find(line, point);
-        SurveyPoint result = surveyPoint(line, point);
-        result.north = result.designNorth = designedPoint.north;
-        result.east = result.designEast = designedPoint.east;
-        results().set(std::move(result));
-    }
-    [[nodiscard]] QStringList selected() const
-    {
-        QStringList names;
-        for (const int row : table.selectedRows())
-            names << lum::toQString(model.problem(row).line) + QLatin1Char('/') +
-                         lum::toQString(model.problem(row).point);
-        return names;
-    }
-    [[nodiscard]] bool says(const char* part) const
-    {
-        const auto labels = window.findChildren<QLabel*>();
-        return std::ranges::any_of(labels, [part](const QLabel* label) {
-            return label->isVisible() && label->text().contains(QString::fromUtf8(part));
-        });
-    }
-    void chooseKind(const char* caption)
-    {
-        const auto rows = kinds.findItems(QString::fromUtf8(caption), Qt::MatchExactly);
-        QCOMPARE(rows.size(), 1);
-        QTest::mouseClick(kinds.viewport(), Qt::LeftButton, {},
-                          kinds.visualItemRect(rows.first()).center());
-    }
-    void click(int row) const
-    {
-        QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                          table.visualRect(model.index(row, 3)).center());
-    }
-
-    NotingWindow resultTable, designed;
-    ProblemWindow window{"", &host};
-    CustomTableWidget& table{*window.findChild<CustomTableWidget*>()};
-    ProblemTableModel& model{*window.findChild<ProblemTableModel*>()};
-    ProblemKindBar& kinds{*window.findChild<ProblemKindBar*>()};
-    SelectionFollower follower{host};
-};
-
-} // namespace
+#include "tests/views/problems/ProblemPlace.h"
 
 class ProblemWindowTest : public QObject
 {
@@ -100,7 +14,7 @@ class ProblemWindowTest : public QObject
 private Q_SLOTS:
     void saysWhatToPressAndWhatWasFound()
     {
-        Place place;
+        ProblemPlace place;
         place.tellProject("");
         QVERIFY(place.says("No project is open."));
         place.step("next");
@@ -129,7 +43,7 @@ private Q_SLOTS:
 
     void goesFromProblemToProblem()
     {
-        Place place;
+        ProblemPlace place;
         place.step("next"); // makes the list
         QCOMPARE(place.selected(), QStringList("1001/5001"_q));
         QCOMPARE(place.designed.selected, QStringList("1001/5001"_q));
@@ -150,7 +64,7 @@ private Q_SLOTS:
 
     void staysInFrontAndFollowsOtherWindows()
     {
-        Place place;
+        ProblemPlace place;
         place.find();
         const auto select = [&](const QString& point) {
             place.publish(events::kDesignPointSelected, payload::selectedPoint(point, "1002"_q));
@@ -173,7 +87,7 @@ private Q_SLOTS:
 
     void isOldWhenPointsOrLimitsChange()
     {
-        Place place;
+        ProblemPlace place;
         place.find();
         place.click(2);
         QVERIFY(!place.says("have changed"));
@@ -193,7 +107,7 @@ private Q_SLOTS:
 
     void choosesSearchesAndFilters()
     {
-        Place place;
+        ProblemPlace place;
         place.find();
         place.chooseKind("Not surveyed");
         QCOMPARE(place.model.rowCount(), 12);
@@ -222,7 +136,7 @@ private Q_SLOTS:
 
     void savesWhatIsShown()
     {
-        Place place;
+        ProblemPlace place;
         const TestFolder folder;
         Boxes boxes;
         const QString file = folder.path("问题.csv");
