@@ -20,7 +20,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPersistentModelIndex>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -28,18 +27,6 @@
 namespace {
 
 constexpr int kLongestName = 40; // of a point, in a sentence
-
-/// The filter that shows exactly the cells with this text; see RowFilter.h.
-QString filterOf(QString text)
-{
-    static const QRegularExpression kPlain(QStringLiteral("^[\\w .:/-]*$"),
-                                           QRegularExpression::UseUnicodePropertiesOption);
-    const bool isPlain = kPlain.match(text).hasMatch() && !text.contains(QLatin1String(".."));
-    if (!isPlain)
-        text = QLatin1Char('"') + text.replace(QLatin1Char('"'), QStringLiteral("\"\"")) +
-               QLatin1Char('"');
-    return QStringLiteral("= ") + text;
-}
 
 QString shortName(const std::string& number)
 {
@@ -57,7 +44,8 @@ PointTableWindow::PointTableWindow(const char* config, IDesktopHost& host,
     : m_host(host), m_parameters(desktop::componentParameters(config)),
       m_selectedEvent(selectedEvent), m_model(std::move(model)),
       m_table(new CustomTableWidget(this)), m_header(&m_table->addFilterRow()),
-      m_counts(new TableCountLine(this)), m_empty(new QLabel(m_table->viewport()))
+      m_counts(new TableCountLine(this, {tr("Points: %1"), tr("Points: %1 of %2")})),
+      m_empty(new QLabel(m_table->viewport()))
 {
     m_table->enableSorting();
     m_table->setFrameStyle(QFrame::NoFrame);
@@ -303,8 +291,9 @@ void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
     });
     withCaptions->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     const QString text = cell.data().toString();
-    menu->addAction(tr("Filter by This Value"), this,
-                    [this, column = cell.column(), text] { setFilter(column, filterOf(text)); });
+    menu->addAction(tr("Filter by This Value"), this, [this, column = cell.column(), text] {
+        setFilter(column, rowFilterFor(text));
+    });
     menu->addAction(tr("Show on the Map"), this,
                     [this, at = QPersistentModelIndex(cell)] { zoomToRow(at.row()); });
     menu->addAction(tr("History of This Point"), this, [this, at = QPersistentModelIndex(cell)] {
