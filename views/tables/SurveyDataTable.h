@@ -4,6 +4,8 @@
 #include "views/tables/PointTableWindow.h"
 #include "views/tables/SurveyHeaderMenu.h"
 
+struct Coloring;
+
 /// The survey results of one line, or of all lines, as a table of the columns that the user chose.
 class SurveyDataTable final : public PointTableWindow
 {
@@ -28,6 +30,7 @@ protected:
 
 private:
     void refreshTexts();
+    void followColors();
     void widenAngles();
     void selectShown(const QString& lineNumber, const QString& pointNumber);
     void modify();
@@ -37,5 +40,6 @@ private:
     SurveyHeaderMenu m_headerMenu;
     EventSubscription m_subscription;
     EventSubscription m_otherSubscription;
-    int m_degreeFormat = 0; ///< for which the columns of angles are wide enough
+    const Coloring* m_coloring = nullptr; ///< of the rows that are shown
+    int m_degreeFormat = 0;               ///< for which the columns of angles are wide enough
 };
