@@ -1,6 +1,5 @@
 #include "map/ui/SurveyLook.h"
 
-#include "basalt_utilities/KeyList.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/StatusKeys.h"
@@ -25,10 +24,10 @@ std::string surveyLook()
 {
     const IDictionary& chosen = get_system_ini_parameter().dictionary();
     std::string look;
-    for (const char* key : {settings::kResultColors, settings::kShowBaseTies,
-                            settings::kShowOffsets, settings::kResultNames})
+    for (const char* key :
+         {settings::kShowBaseTies, settings::kShowOffsets, settings::kResultNames})
         look.append(chosen.text(key)).append(";");
-    if (chosenColoring() != nullptr && DataProcessDataManager::hasInstance())
-        look += dictionary_to_csa(DataProcessDataManager::instance().qualityParameters());
+    if (DataProcessDataManager::hasInstance())
+        look += coloringState(DataProcessDataManager::instance().qualityParameters());
     return look;
 }

@@ -15,7 +15,6 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
-#include "quality/colors/ChosenColors.h"
 #include "views/tables/SurveyTableColumns.h"
 #include "views/tables/SurveyTableModel.h"
 
@@ -73,26 +72,14 @@ void SurveyDataTable::handleEvent(const char* eventName, const char* payload, in
         showAllLines();
     else if (is(events::kSurveyColumnsChanged))
         m_headerMenu.apply();
-    else if (is(events::kUpdateSystemStatus)) {
+    else if (is(events::kUpdateSystemStatus))
         followProject();
-        followColors();
-    }
 }
 
 void SurveyDataTable::refreshTexts()
 {
     refresh();
     widenAngles();
-}
-
-/// Shows the results in the colours that the user has chosen now.
-void SurveyDataTable::followColors()
-{
-    const Coloring* const coloring = chosenColoring();
-    if (coloring == m_coloring)
-        return;
-    m_coloring = coloring;
-    refresh();
 }
 
 /// Degrees, minutes and seconds are longer than degrees alone.

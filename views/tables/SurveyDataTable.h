@@ -4,8 +4,6 @@
 #include "views/tables/PointTableWindow.h"
 #include "views/tables/SurveyHeaderMenu.h"
 
-struct Coloring;
-
 /// The survey results of one line, or of all lines, as a table of the columns that the user chose.
 class SurveyDataTable final : public PointTableWindow
 {
@@ -30,7 +28,6 @@ protected:
 
 private:
     void refreshTexts();
-    void followColors();
     void widenAngles();
     void selectShown(const QString& lineNumber, const QString& pointNumber);
     void modify();
@@ -40,6 +37,5 @@ private:
     SurveyHeaderMenu m_headerMenu;
     EventSubscription m_subscription;
     EventSubscription m_otherSubscription;
-    const Coloring* m_coloring = nullptr; ///< of the rows that are shown
-    int m_degreeFormat = 0;               ///< for which the columns of angles are wide enough
+    int m_degreeFormat = 0; ///< for which the columns of angles are wide enough
 };

@@ -8,18 +8,13 @@
 #include "model/CodeTables.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/StatusKeys.h"
-#include "quality/colors/ChosenColors.h"
 #include "quality/QualityLimits.h"
 #include "quality/QualityTests.h"
 #include "views/tables/PointTable.h"
+#include "views/tables/ResultMarks.h"
 #include "views/tables/SurveyTableColumns.h"
 
 #include <QColor>
-#include <QIcon>
-#include <QPainter>
-#include <QPixmap>
-
-#include <vector>
 
 namespace {
 
@@ -63,20 +58,6 @@ void setKind(Column& column, CsvForm form)
     }
 }
 
-/// A circle as on the map.
-QIcon colorMark(QRgb color)
-{
-    constexpr int kSide = 64; // pixels; cells show it smaller
-    QPixmap mark(kSide, kSide);
-    mark.fill(Qt::transparent);
-    QPainter painter(&mark);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(color));
-    painter.drawEllipse(QRectF(mark.rect()).adjusted(8, 8, -8, -8));
-    return mark;
-}
-
 std::vector<Column> makeColumns()
 {
     const QStringList captions = surveyTableCaptions();
@@ -113,13 +94,7 @@ protected:
     void renewTexts() override
     {
         m_texts = makeTexts();
-        const SurveyPoints* const survey = points();
-        m_colors = survey == nullptr ? ResultColors()
-                                     : colorsOf(chosenColoring(), *survey,
-                                                DataProcessDataManager::instance().qualityLimits());
-        m_marks.clear();
-        for (const QRgb color : m_colors.colors())
-            m_marks.push_back(colorMark(color));
+        m_marks.renew();
     }
     [[nodiscard]] std::string_view text(const SurveyPoint& point, int column) const override
     {
@@ -135,8 +110,8 @@ protected:
             return {};
         const SurveyColumn::Member& field = surveyTableColumn(column).member;
         const bool isNumber = field == SurveyColumn::Member(&SurveyPoint::pointNumber);
-        if (isNumber && !m_colors.isNone() && role != Qt::BackgroundRole)
-            return role == Qt::DecorationRole ? QVariant(markOf(point)) : meaningOf(point);
+        if (isNumber && m_marks.areShown() && role != Qt::BackgroundRole)
+            return m_marks.look(&point, role);
         const QualityTest* const failed =
             role == Qt::DecorationRole ? nullptr : failedTest(point, field);
         if (failed == nullptr)
@@ -147,17 +122,7 @@ protected:
     }
 
 private:
-    [[nodiscard]] QIcon markOf(const SurveyPoint& point) const
-    {
-        return m_marks[m_colors.classOf()(point)];
-    }
-    [[nodiscard]] QString meaningOf(const SurveyPoint& point) const
-    {
-        return m_colors.text(m_colors.classOf()(point));
-    }
-
-    ResultColors m_colors;
-    std::vector<QIcon> m_marks; ///< of the classes
+    ResultMarks m_marks;
     mutable SurveyFieldTexts m_texts;
     mutable CsvRow m_row;
 };
