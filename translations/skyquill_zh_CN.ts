@@ -5868,6 +5868,77 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>ResultColors</name>
+    <message>
+        <source>off its place</source>
+        <translation>偏离设计位置</translation>
+    </message>
+    <message>
+        <source>resurvey at fault</source>
+        <translation>复测有误</translation>
+    </message>
+    <message>
+        <source>poor fix</source>
+        <translation>定位质量差</translation>
+    </message>
+    <message>
+        <source>wrong antenna height</source>
+        <translation>天线高有误</translation>
+    </message>
+    <message>
+        <source>no design position</source>
+        <translation>无设计坐标</translation>
+    </message>
+    <message>
+        <source>within limits</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>over the limit of %1 m</source>
+        <translation>超过限差 %1 m</translation>
+    </message>
+    <message>
+        <source>up to %1 m</source>
+        <translation>不超过 %1 m</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <translation>未注明</translation>
+    </message>
+    <message>
+        <source>others (%1)</source>
+        <translation>其他（%1）</translation>
+    </message>
+    <message>
+        <source>earlier</source>
+        <translation>更早</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>Solution type</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Rover</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+</context>
+<context>
     <name>ResultCsv</name>
     <message>
         <source>The file &quot;%1&quot; cannot be written: %2.</source>
