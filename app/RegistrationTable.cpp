@@ -40,6 +40,8 @@
 #include "views/AttributeControl.h"
 #include "views/find/FindCommand.h"
 #include "views/history/HistoryCommand.h"
+#include "views/problems/ProblemCommands.h"
+#include "views/problems/ProblemWindow.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/SurveyDataTable.h"
 #include "views/tables/SurveyTableHideCommand.h"
@@ -56,6 +58,7 @@ using namespace desktop::registration;
     window<ProgressStatusBarForSkyquill>("ProgressStatusBarForSkyquill", "Progress"),
     window<DesignLineTable>             ("DesignLineTable",              "设计测线列表"),
     window<SurveyDataTable>             ("SurveyDataTable",              "勘察数据列表"),
+    window<ProblemWindow>               ("ProblemWindow",                "问题列表"),
     window<DesignLineControl>           ("DesignLineControl",            "设计测线控制窗口"),
     window<SurveyDataControl>           ("SurveyDataControl",            "勘察数据控制窗口"),
     window<AttributeControl>            ("AttributeControl",             "属性编辑窗口"),
@@ -77,6 +80,8 @@ using namespace desktop::registration;
     command<EmptyPointCheckCommand>     ("EmptyPointCheckCommand",       "空点检查"),
     command<ReSurveyPointCheckCommand>  ("ReSurveyPointCheckCommand",    "复测点检查"),
     command<RepeatPointCheckCommand>    ("RepeatPointCheckCommand",      "重复点检查"),
+    command<FindProblemsCommand>        ("FindProblemsCommand",          "查找问题"),
+    command<ProblemStepCommand>         ("ProblemStepCommand",           "转到问题"),
     command<ImportCommand>              ("ImportCommand",                "导入数据"),
     command<CoordFormatCommand>         ("CoordFormatCommand",           "坐标格式"),
     command<AboutCommand>               ("AboutCommand",                 "关于"),
@@ -96,6 +101,7 @@ using namespace desktop::registration;
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),
     command<DrawExcitationCommand>      ("DrawExcitationCommand",        "绘制激发线"),
+    command<ResultNamesCommand>         ("ResultNamesCommand",           "测点名称"),
     command<SetTifPathCommand>          ("SetTifPathCommand",            "TIF图叠加"),
     command<PPKMoveCommand>             ("PPKMoveCommand",               "地图移动"),
     command<PPKZoomInCommand>           ("PPKZoomInCommand",             "地图放大"),

@@ -262,7 +262,7 @@ Outcome DataProcessDataManager::importPoints(const EditKind& kind, const QString
     TakenOver<Points>& undo = part->undo();
     edit->add(std::move(part));
     m_unsaved.makeRoom();
-    const Outcome reading = read(summary, undo);
+    Outcome reading = read(summary, undo);
     if (!reading.isDone() || !summary.hasPoints())
         return reading;
     edit->setPoints(summary.pointsNew + summary.pointsReplaced);
@@ -642,10 +642,9 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
     if (count == 0)
         return 0;
     const auto edit = std::make_shared<Edit>(EditKinds::kRestore, count);
-    const auto add = [&](auto&& part, PointNames names = {}) {
+    const auto add = [&]<class Points>(Points part, PointNames names = {}) {
         names.add(part.names());
-        edit->add(std::make_unique<SomePoints<std::decay_t<decltype(part)>>>(std::move(names),
-                                                                             std::move(part)));
+        edit->add(std::make_unique<SomePoints<Points>>(std::move(names), std::move(part)));
     };
     if (!points.design.empty())
         add(std::move(points.design));

@@ -31,6 +31,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
+#include <QTreeWidget>
 
 #include <cstdio>
 
@@ -109,8 +110,11 @@ public:
         paintLimits();
         DataProcessDataManager::instance().run(kQualityCheck);
         paintFaults();
+        paintProblems();
+        m_host.windows().activate(QStringLiteral("Survey Data List"));
         m_host.commands().execute(QStringLiteral("Survey View"));
         paintMap("guide-survey"); // near the fault; from afar it is a maze
+        paintColors();
         m_host.commands().execute(QStringLiteral("Design View"));
         paintWorkingPlace();
         paintColumns();
@@ -156,6 +160,16 @@ private:
         m_host.commands().execute(QStringLiteral("Design View"));
     }
 
+    /// The whole survey by verdict, without the lines to the bases.
+    void paintColors()
+    {
+        for (const char* command : {"Colors Verdict", "Base Ties", "Zoom to All"})
+            m_host.commands().execute(QLatin1String(command));
+        paintMap("guide-colors");
+        for (const char* command : {"Colors None", "Base Ties"})
+            m_host.commands().execute(QLatin1String(command));
+    }
+
     void paintSystem()
     {
         basalt::Dictionary project(DataProcessDataManager::instance().project());
@@ -198,6 +212,24 @@ private:
         painter.drawRect(list.rect().translated(place).adjusted(-1, -1, 0, 0));
         painter.end();
         save(picture, "guide-faults");
+    }
+
+    /// All problems, at a result with a wrong name.
+    void paintProblems()
+    {
+        m_host.commands().execute(QStringLiteral("Find Problems"));
+        const QWidget& window = *m_host.windows().findAs<QWidget>(QStringLiteral("Problems List"));
+        auto* const kinds = window.findChild<QTreeWidget*>();
+        auto* const table = window.findChild<CustomTableWidget*>();
+        const QString wrongName = QCoreApplication::translate("ProblemKinds", "Wrong name");
+        for (QTreeWidgetItem* const kind : kinds->findItems(wrongName, Qt::MatchExactly))
+            kinds->setCurrentItem(kind);
+        m_host.commands().execute(QStringLiteral("Next Problem"));
+        Q_EMIT table->doubleClicked(table->currentIndex());
+        kinds->setCurrentItem(kinds->topLevelItem(0));
+        table->scrollTo(table->currentIndex(), QAbstractItemView::PositionAtCenter);
+        letItPaint();
+        save(m_frame.grab(), "guide-problems");
     }
 
     /// The float solutions of all lines, the least accurate first and selected.

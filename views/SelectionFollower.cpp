@@ -10,12 +10,14 @@
 #include "project/DataProcessDataManager.h"
 #include "project/ILineList.h"
 #include "project/IPointList.h"
+#include "project/IProblemList.h"
 #include "protocol/Events.h"
 #include "views/SelectedPoint.h"
 
 #include <QScopedValueRollback>
 
 #include <cstring>
+#include <type_traits>
 
 namespace {
 
@@ -32,8 +34,13 @@ bool show(IDesktopHost& host, const Points& points, const PointName& name, const
     if (point == nullptr)
         return false;
     IWindowRegistry& windows = host.windows();
+    QStringList uncovered{QStringLiteral("DataMap")};
+    const QString problemList = QStringLiteral("Problems List");
+    auto* const problems = windows.findAs<IProblemList>(problemList);
+    if (problems != nullptr && problems->followPoint(std::is_same_v<Points, DesignPoints>, name))
+        uncovered << problemList;
     if (auto* const list = windows.findAs<IPointList>(QLatin1String(pointList))) {
-        windows.reveal(QLatin1String(pointList), QStringLiteral("DataMap"));
+        windows.reveal(QLatin1String(pointList), uncovered);
         list->followPoint(lum::toQString(name.line), lum::toQString(name.point));
     }
     if (auto* const list = windows.findAs<ILineList>(QLatin1String(lineList)))

@@ -42,7 +42,7 @@ void announceDesign(IDesktopHost& host, const ImportSummary& summary)
 {
     host.eventManager().publish(events::kRefreshDesignLayer, nullptr, 0);
     if (summary.hasPoints())
-        host.windows().reveal(QLatin1String(kDesignTable), QLatin1String(kMap));
+        host.windows().reveal(QLatin1String(kDesignTable), {QLatin1String(kMap)});
 }
 
 /// The line that has got points is shown by the table, and marked in the tree, which is on all
@@ -58,7 +58,7 @@ void announceSurvey(IDesktopHost& host, const ImportSummary& summary)
     host.eventManager().publish(events::kSurveyLineSwitched, payload::line(shown).constData(), 0);
     if (auto* const tree = host.windows().findAs<ILineList>(QStringLiteral("Survey Lines")))
         tree->followLine(shown);
-    host.windows().reveal(QLatin1String(kSurveyTable), QLatin1String(kMap));
+    host.windows().reveal(QLatin1String(kSurveyTable), {QLatin1String(kMap)});
 }
 
 /// A file has no sea heights: they are computed before they are shown.

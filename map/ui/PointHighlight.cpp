@@ -139,7 +139,7 @@ void showNear(IDesktopHost& host, const Mark& mark, const char* list)
     IMapWindow* const map = mapOf(host);
     if (map == nullptr || !show(*map, mark))
         return;
-    host.windows().reveal(QStringLiteral("DataMap"), QLatin1String(list));
+    host.windows().reveal(QStringLiteral("DataMap"), {QLatin1String(list)});
     goTo(*map, mark.positions.first(), scaleFor(mark.positions.first(), mark.positions.last()));
 }
 

@@ -2,7 +2,7 @@
 
 #include "lum_desktop_sdkx/IWindow.h"
 
-#include <QString>
+#include <QStringList>
 
 class IDictionary;
 
@@ -22,11 +22,10 @@ public:
     /// \returns false when no such window is open
     virtual bool activate(const QString& name) = 0;
 
-    /// Brings the window to the front of its tabs when it is open in the frame and would not cover
-    /// `uncovered`. Nothing else changes: a window that the user has closed stays closed, and the
-    /// focus stays where it is.
-    /// \returns whether the window can be seen now
-    virtual bool reveal(const QString& name, const QString& uncovered) = 0;
+    /// Brings the window to the front of its tabs when it is open in the frame and would cover none
+    /// of `uncovered`. Nothing else changes: a window that the user has closed stays closed, and
+    /// the focus stays where it is. \returns whether the window can be seen now
+    virtual bool reveal(const QString& name, const QStringList& uncovered) = 0;
 
     /// Closes a window as its cross does: the View menu and `activate` bring it back.
     /// \returns false when there is no such window, or it is in no dock

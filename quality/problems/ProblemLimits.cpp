@@ -66,8 +66,7 @@ constexpr std::array kLines{
                                    "Longer gaps, and gaps beside each other in neighbouring "
                                    "lines, are taken for planned.")},
     ProblemLimit{"line_azimuth_max", "25",
-                 QT_TRANSLATE_NOOP("ProblemLimits", "Azimuth spike, max."),
-                 QT_TRANSLATE_NOOP("ProblemLimits", "deg"), 180, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Azimuth spike, max."), "\u00b0", 180, false,
                  QT_TRANSLATE_NOOP("ProblemLimits",
                                    "A bend of the line is no spike: a spike leads away from the "
                                    "line and back.")},

@@ -33,7 +33,7 @@ const Floors& floors()
         {Room::WithoutWidgets, {"platform/lum_sdk/raster"}},
         {Room::WithoutWidgets, {"protocol", "model"}},
         {Room::WithoutWidgets, {"exchange", "quality", "design", "map"}},
-        {Room::WithoutWidgets, {"quality/statistics"}},
+        {Room::WithoutWidgets, {"quality/statistics", "quality/colors"}},
         {Room::WithoutWidgets, {"quality/problems"}},
         {Room::WithoutWidgets, {"reports"}},
         {Room::WithoutWidgets, {"project", "samples"}},
@@ -49,6 +49,7 @@ const Floors& floors()
         {Room::WithWidgets,
          {"quality/ui", "design/ui", "reports/ui", "views", "views/find", "views/history",
           "views/tables", "views/trees"}},
+        {Room::WithWidgets, {"views/problems"}}, // filters and orders as the tables
         {Room::WithWidgets, {"app"}},
     };
     return kFloors;

@@ -20,9 +20,9 @@ public:
         activated.append(name);
         return windows.contains(name);
     }
-    bool reveal(const QString& name, const QString& uncovered) override
+    bool reveal(const QString& name, const QStringList& uncovered) override
     {
-        revealed.append(name + QStringLiteral(" beside ") + uncovered);
+        revealed.append(name + QStringLiteral(" beside ") + uncovered.join(QStringLiteral(", ")));
         return find(name) != nullptr;
     }
     bool close(const QString& name) override

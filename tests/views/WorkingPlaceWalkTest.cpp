@@ -19,6 +19,8 @@
 #include "tests/support/TestFolder.h"
 #include "views/AttributeControl.h"
 #include "views/find/FindBar.h"
+#include "views/problems/ProblemTableModel.h"
+#include "views/problems/ProblemWindow.h"
 #include "views/SelectionFollower.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/PointTableModel.h"
@@ -28,6 +30,7 @@
 
 #include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
+#include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QLineEdit>
@@ -74,12 +77,14 @@ struct Place
             {"Survey Data List", &surveyTable},
             {"Design Lines", &designTree},
             {"Survey Lines", &surveyTree},
+            {"Problems List", &problems},
         };
         for (const auto& [title, window] : kWindows)
             host.windowRegistry.windows[QString::fromLatin1(title)] = window;
         host.frame = &frame;
-        for (QWidget* widget : std::initializer_list<QWidget*>{
-                 &frame, &map, &designTable, &surveyTable, &designTree, &surveyTree, &attributes}) {
+        for (QWidget* widget :
+             std::initializer_list<QWidget*>{&frame, &map, &designTable, &surveyTable, &designTree,
+                                             &surveyTree, &attributes, &problems}) {
             widget->resize(600, 300);
             widget->show();
         }
@@ -113,6 +118,7 @@ struct Place
     DesignLineControl designTree{"", &host};
     SurveyDataControl surveyTree{"", &host};
     AttributeControl attributes{"", &host};
+    ProblemWindow problems{"", &host};
     SelectionFollower follower{host};
 };
 
@@ -158,6 +164,7 @@ private:
     void answerEditor();
     void editAttribute();
     void find();
+    void walkProblems();
     void sortRows();
     void filterRows();
     void clickTree();
@@ -463,6 +470,32 @@ void WorkingPlaceWalkTest::filterRows()
         model.clearFilters();
 }
 
+/// Uses the list of problems in any way, be it old or not.
+void WorkingPlaceWalkTest::walkProblems()
+{
+    ProblemWindow& window = m_place->problems;
+    auto& model = *window.findChild<ProblemTableModel*>();
+    if (anyOf(2) == 0)
+        window.find();
+    if (anyOf(4) == 0)
+        model.sortBy(anyOf(model.columnCount()), Qt::DescendingOrder);
+    if (anyOf(4) == 0)
+        model.setSearch(lum::toQString(name(anyOf(kLines))));
+    for (int i = anyOf(4); i > 0; --i)
+        window.step(anyOf(3) != 0);
+    if (anyOf(3) == 0)
+        disturb();
+    const QList<QAction*> actions = window.findChildren<QAction*>();
+    QTimer::singleShot(0, this, [] {
+        if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialog->reject();
+    });
+    actions.at(anyOf(actions.size()))->trigger();
+    QCoreApplication::processEvents();
+    if (anyOf(3) == 0)
+        window.grab();
+}
+
 void WorkingPlaceWalkTest::clickTree()
 {
     QTreeWidget& tree = treeOf(anyOf(2) == 0);
@@ -546,7 +579,7 @@ void WorkingPlaceWalkTest::noRowPointsToNothing()
         &WorkingPlaceWalkTest::editAttribute, &WorkingPlaceWalkTest::find,
         &WorkingPlaceWalkTest::sortRows,      &WorkingPlaceWalkTest::filterRows,
         &WorkingPlaceWalkTest::clickTree,     &WorkingPlaceWalkTest::deleteLine,
-        &WorkingPlaceWalkTest::pressKeys};
+        &WorkingPlaceWalkTest::pressKeys,     &WorkingPlaceWalkTest::walkProblems};
     for (int step = 0; step < kSteps && !QTest::currentTestFailed(); ++step) {
         if (step == 100)
             m_testers.clear();

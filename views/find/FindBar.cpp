@@ -287,7 +287,7 @@ void FindBar::goTo(const FoundPlace& place)
     } else if (auto* const list = windows.findAs<IPointList>(table)) {
         list->selectPoint(line, lum::toQString(place.point));
     }
-    windows.reveal(table, QStringLiteral("DataMap"));
+    windows.reveal(table, {QStringLiteral("DataMap")});
 }
 
 void FindBar::tell()

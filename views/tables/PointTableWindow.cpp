@@ -12,6 +12,7 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "views/tables/PointTableModel.h"
+#include "views/tables/ResultMarks.h"
 #include "views/tables/RowFilter.h"
 #include "views/tables/TableCountLine.h"
 
@@ -20,7 +21,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPersistentModelIndex>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -28,18 +28,6 @@
 namespace {
 
 constexpr int kLongestName = 40; // of a point, in a sentence
-
-/// The filter that shows exactly the cells with this text; see RowFilter.h.
-QString filterOf(QString text)
-{
-    static const QRegularExpression kPlain(QStringLiteral("^[\\w .:/-]*$"),
-                                           QRegularExpression::UseUnicodePropertiesOption);
-    const bool isPlain = kPlain.match(text).hasMatch() && !text.contains(QLatin1String(".."));
-    if (!isPlain)
-        text = QLatin1Char('"') + text.replace(QLatin1Char('"'), QStringLiteral("\"\"")) +
-               QLatin1Char('"');
-    return QStringLiteral("= ") + text;
-}
 
 QString shortName(const std::string& number)
 {
@@ -57,7 +45,8 @@ PointTableWindow::PointTableWindow(const char* config, IDesktopHost& host,
     : m_host(host), m_parameters(desktop::componentParameters(config)),
       m_selectedEvent(selectedEvent), m_model(std::move(model)),
       m_table(new CustomTableWidget(this)), m_header(&m_table->addFilterRow()),
-      m_counts(new TableCountLine(this)), m_empty(new QLabel(m_table->viewport()))
+      m_counts(new TableCountLine(this, {tr("Points: %1"), tr("Points: %1 of %2")})),
+      m_empty(new QLabel(m_table->viewport()))
 {
     m_table->enableSorting();
     m_table->setFrameStyle(QFrame::NoFrame);
@@ -227,7 +216,22 @@ void PointTableWindow::followProject()
         clearFilters();
         showNothing();
     }
+    followColors();
     showState();
+}
+
+/// Shows the marks of the results in the colours that the user has chosen now.
+void PointTableWindow::followColors()
+{
+    std::string colors = resultMarksState();
+    if (colors == m_colors)
+        return;
+    m_colors = std::move(colors);
+    refresh();
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (m_model->columnKey(column) == QLatin1String("point_num"))
+            m_table->widenColumn(column);
+    }
 }
 
 /// Selects the row of the selected point again where a change of the rows took it away.
@@ -303,8 +307,9 @@ void PointTableWindow::showMenu(const QModelIndex& cell, const QPoint& place)
     });
     withCaptions->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     const QString text = cell.data().toString();
-    menu->addAction(tr("Filter by This Value"), this,
-                    [this, column = cell.column(), text] { setFilter(column, filterOf(text)); });
+    menu->addAction(tr("Filter by This Value"), this, [this, column = cell.column(), text] {
+        setFilter(column, rowFilterFor(text));
+    });
     menu->addAction(tr("Show on the Map"), this,
                     [this, at = QPersistentModelIndex(cell)] { zoomToRow(at.row()); });
     menu->addAction(tr("History of This Point"), this, [this, at = QPersistentModelIndex(cell)] {

@@ -4,6 +4,7 @@
 #include "lum_sdk/Text.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <cmath>
 #include <limits>
@@ -295,6 +296,16 @@ bool RowFilter::Condition::meets(std::string_view shown) const
     const QString whole = lum::toQString(shown);
     return kind == Kind::Whole ? whole.compare(text.pattern(), Qt::CaseInsensitive) == 0
                                : text.indexIn(whole) >= 0;
+}
+
+QString rowFilterFor(QString text)
+{
+    static const QRegularExpression kPlain(QStringLiteral("^[\\w .:/-]*$"),
+                                           QRegularExpression::UseUnicodePropertiesOption);
+    const bool isPlain = kPlain.match(text).hasMatch() && !text.contains(kRange);
+    if (!isPlain)
+        text = kQuote + text.replace(kQuote, QStringLiteral("\"\"")) + kQuote;
+    return QStringLiteral("= ") + text;
 }
 
 QString rowFilterHelp()

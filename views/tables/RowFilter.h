@@ -96,5 +96,8 @@ private:
     QString m_fault;
 };
 
+/// The filter that shows exactly the cells with this text.
+[[nodiscard]] QString rowFilterFor(QString text);
+
 /// What may be written in a filter, a line each, translated: for a tool tip.
 [[nodiscard]] QString rowFilterHelp();

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include <utility>
+
 namespace {
 
 constexpr int kSideMargin = 6;
@@ -15,9 +17,9 @@ constexpr int kGap = 16; // between the counts and the note
 
 } // namespace
 
-TableCountLine::TableCountLine(QWidget* parent)
-    : QWidget(parent), m_counts(new QLabel(this)), m_note(new QLabel(this)),
-      m_clear(new QToolButton(this))
+TableCountLine::TableCountLine(QWidget* parent, Texts texts)
+    : QWidget(parent), m_texts(std::move(texts)), m_counts(new QLabel(this)),
+      m_note(new QLabel(this)), m_clear(new QToolButton(this))
 {
     m_note->setTextFormat(Qt::RichText);
     m_note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a narrow window cuts it
@@ -39,18 +41,18 @@ TableCountLine::TableCountLine(QWidget* parent)
 
 void TableCountLine::setCounts(const Counts& counts)
 {
-    QString text = counts.isFiltered
-                       ? tr("Points: %1 of %2")
-                             .arg(lum::groupedNumber(counts.shown), lum::groupedNumber(counts.all))
-                       : tr("Points: %1").arg(lum::groupedNumber(counts.all));
+    QString text = counts.isFiltered ? m_texts.some.arg(lum::groupedNumber(counts.shown),
+                                                        lum::groupedNumber(counts.all))
+                                     : m_texts.all.arg(lum::groupedNumber(counts.all));
     if (counts.selected > 0)
         text +=
             QStringLiteral("    ") + tr("Selected: %1").arg(lum::groupedNumber(counts.selected));
     m_counts->setText(text);
-    m_clear->setEnabled(counts.isFiltered || !m_note->text().isEmpty()); // or an unreadable one
+    m_clear->setEnabled(counts.isFiltered || m_isAboutFilters); // or an unreadable one
 }
 
-void TableCountLine::setNote(const QString& html)
+void TableCountLine::setNote(const QString& html, bool isAboutFilters)
 {
+    m_isAboutFilters = isAboutFilters && !html.isEmpty();
     m_note->setText(html);
 }

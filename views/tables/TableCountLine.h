@@ -5,14 +5,20 @@
 class QLabel;
 class QToolButton;
 
-/// The line under a point table: how many points are shown and selected, what the user has to know
+/// The line under a table: how many of its things are shown and selected, what the user has to know
 /// about them, and a button that clears all filters.
 class TableCountLine final : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit TableCountLine(QWidget* parent);
+    /// What is counted, translated.
+    struct Texts
+    {
+        QString all;  ///< "Points: %1"
+        QString some; ///< "Points: %1 of %2"
+    };
+    TableCountLine(QWidget* parent, Texts texts);
 
     struct Counts
     {
@@ -23,15 +29,18 @@ public:
     };
     void setCounts(const Counts& counts);
 
-    /// \param html may have a link; empty for none
-    void setNote(const QString& html);
+    /// \param html           may have a link; empty for none
+    /// \param isAboutFilters clearing these ends it
+    void setNote(const QString& html, bool isAboutFilters = true);
 
 Q_SIGNALS:
     void clearFiltersRequested();
     void noteLinkActivated();
 
 private:
+    const Texts m_texts;
     QLabel* m_counts;
     QLabel* m_note;
     QToolButton* m_clear;
+    bool m_isAboutFilters = false;
 };

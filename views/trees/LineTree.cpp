@@ -145,7 +145,7 @@ void LineTree::choose(const LineItem& item)
 void LineTree::goTo(const LineItem& item)
 {
     announce(item);
-    m_host.windows().reveal(QLatin1String(m_setup.table), QLatin1String(m_setup.className));
+    m_host.windows().reveal(QLatin1String(m_setup.table), {QLatin1String(m_setup.className)});
 }
 
 void LineTree::search()

@@ -9,5 +9,8 @@ class QPalette;
 /// Behind a value: shines through, so that it suits the colour below and the text above it.
 [[nodiscard]] QColor faultBackground();
 
+/// Behind a sentence that warns; shines through as well.
+[[nodiscard]] QColor warningBackground();
+
 /// Of a text on the palette's base: red, and a lighter one on a dark base.
 [[nodiscard]] QColor faultText(const QPalette& palette);

@@ -67,14 +67,16 @@ bool WindowRegistry::activate(const QString& name)
     return true;
 }
 
-bool WindowRegistry::reveal(const QString& name, const QString& uncovered)
+bool WindowRegistry::reveal(const QString& name, const QStringList& uncovered)
 {
     const Entry* const found = entry(name);
     if (found == nullptr || found->dock == nullptr || found->dock->isClosed())
         return false;
-    const Entry* const other = entry(uncovered);
-    const bool isBehind = other != nullptr && other->dock != nullptr && !other->dock->isClosed() &&
-                          other->dock->dockAreaWidget() == found->dock->dockAreaWidget();
+    const bool isBehind = std::ranges::any_of(uncovered, [&](const QString& otherName) {
+        const Entry* const other = entry(otherName);
+        return other != nullptr && other->dock != nullptr && !other->dock->isClosed() &&
+               other->dock->dockAreaWidget() == found->dock->dockAreaWidget();
+    });
     if (!isBehind)
         found->dock->setAsCurrentTab();
     return found->dock->isCurrentTab();

@@ -24,7 +24,7 @@ public:
 
     [[nodiscard]] IWindow* find(const QString& name) const override;
     bool activate(const QString& name) override;
-    bool reveal(const QString& name, const QString& uncovered) override;
+    bool reveal(const QString& name, const QStringList& uncovered) override;
     bool close(const QString& name) override;
     IWindow* open(const QString& className, const IDictionary& parameters) override;
 

@@ -278,7 +278,7 @@ private Q_SLOTS:
           <window class="CoordinateReadout" name="Coordinates" area="status"/></main_frame>)");
         WindowRegistry& windows = shown.host.windows();
         const auto reveal = [&](const char* name) {
-            return windows.reveal(QString::fromUtf8(name), "DataMap"_q);
+            return windows.reveal(QString::fromUtf8(name), {"DataMap"_q});
         };
         QVERIFY(shown.dock("One")->isCurrentTab());
         windows.find("DataMap"_q)->widget()->setFocus();
@@ -303,7 +303,7 @@ private Q_SLOTS:
         QVERIFY(!reveal("One") && !reveal("Two") && shown.dock("DataMap")->isCurrentTab());
         shown.dock("Two")->setAsCurrentTab();
         QVERIFY(reveal("Two"));
-        QVERIFY(!windows.reveal("DataMap"_q, "Two"_q) && shown.dock("Two")->isCurrentTab());
+        QVERIFY(!windows.reveal("DataMap"_q, {"Two"_q}) && shown.dock("Two")->isCurrentTab());
     }
 
     void keysLeadFromWindowToWindowAndTheDocksShowTheFocus()

@@ -1,0 +1,158 @@
+#include "lum_desktop_sdkx/controls/FilterHeader.h"
+#include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "protocol/Events.h"
+#include "protocol/Payloads.h"
+#include "tests/support/Boxes.h"
+#include "tests/support/PopupMenu.h"
+#include "tests/support/TestFolder.h"
+#include "tests/views/problems/ProblemPlace.h"
+
+class ProblemWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void saysWhatToPressAndWhatWasFound()
+    {
+        ProblemPlace place;
+        place.tellProject("");
+        QVERIFY(place.says("No project is open."));
+        place.step("next");
+        QVERIFY(place.host.told.isEmpty());
+        place.tellProject("/b");
+        QVERIFY(place.says("Ctrl+F9"));
+        const auto labels = place.window.findChildren<QLabel*>();
+        Q_EMIT(*std::ranges::find_if(labels, [](const QLabel* label) {
+            return label->text().contains("href=\"find\""_q);
+        }))->linkActivated("find"_q);
+        QCOMPARE(place.host.commandList.executed, QStringList("Find Problems"_q));
+
+        place.find();
+        QCOMPARE(place.host.windowRegistry.activated, QStringList("Problems List"_q));
+        QVERIFY(place.host.told.startsWith("Problems: 12 ("_q));
+        QVERIFY(place.says("Problems: 12") && !place.says("Ctrl+F9"));
+        QVERIFY(place.selected().isEmpty()); // the map stays
+        QCOMPARE(place.window.focusWidget(), &place.table);
+
+        place.design().clear();
+        place.find();
+        QVERIFY(place.says("No problem was found."));
+        place.tellProject("/c");
+        QVERIFY(place.says("Ctrl+F9")); // the list was another project's
+    }
+
+    void goesFromProblemToProblem()
+    {
+        ProblemPlace place;
+        place.step("next"); // makes the list
+        QCOMPARE(place.selected(), QStringList("1001/5001"_q));
+        QCOMPARE(place.designed.selected, QStringList("1001/5001"_q));
+        QVERIFY(place.host.told.startsWith("Problem 1 of 12, 1001/5001: "_q));
+        place.step("previous");
+        QCOMPARE(place.host.told, "This is the first of 12 problems."_q);
+        place.step("next");
+        QTest::keyClick(&place.table, Qt::Key_Down);
+        QCOMPARE(place.designed.selected.mid(1), QStringList({"1001/5002"_q, "1001/5003"_q}));
+        place.click(11);
+        place.step("next");
+        QCOMPARE(place.host.told, "This was the last of 12 problems."_q);
+        QCOMPARE(place.selected(), QStringList("1002/5006"_q));
+        place.designed.lineThatIsMissing = "1002"_q;
+        place.step("previous");
+        QVERIFY(place.host.told.contains("not in the project any more"_q));
+    }
+
+    void staysInFrontAndFollowsOtherWindows()
+    {
+        ProblemPlace place;
+        place.find();
+        const auto select = [&](const QString& point) {
+            place.publish(events::kDesignPointSelected, payload::selectedPoint(point, "1002"_q));
+        };
+        select("5004"_q);
+        QCOMPARE(place.selected(), QStringList("1002/5004"_q));
+        QCOMPARE(place.host.windowRegistry.revealed.takeLast(),
+                 "Design Data List beside DataMap, Problems List"_q);
+        QVERIFY(place.designed.selected.isEmpty()); // it has announced nothing
+        place.survey("1002", "5005");
+        place.find();
+        select("5005"_q); // of which nothing is said
+        QVERIFY(place.selected().isEmpty());
+        QCOMPARE(place.host.windowRegistry.revealed.last(), "Design Data List beside DataMap"_q);
+        place.window.hide(); // behind another tab
+        select("5004"_q);
+        QCOMPARE(place.selected(), QStringList("1002/5004"_q));
+        QCOMPARE(place.host.windowRegistry.revealed.last(), "Design Data List beside DataMap"_q);
+    }
+
+    void isOldWhenPointsOrLimitsChange()
+    {
+        ProblemPlace place;
+        place.find();
+        place.click(2);
+        QVERIFY(!place.says("have changed"));
+        place.survey("1001", "5002");
+        place.publish(events::kRefreshSurveyTable);
+        QVERIFY(place.says("have changed"));
+        QCOMPARE(place.model.index(1, 3).data().toString(), "5002"_q); // is still readable
+        place.find();
+        QVERIFY(!place.says("have changed"));
+        QCOMPARE(place.selected(), QStringList("1001/5003"_q)); // follows its problem
+        basalt::Dictionary limits;
+        limits.set("pdop_max", "2.5");
+        place.manager->setQualityParameters(limits);
+        place.publish(events::kUpdateSystemStatus);
+        QVERIFY(place.says("have changed"));
+    }
+
+    void choosesSearchesAndFilters()
+    {
+        ProblemPlace place;
+        place.find();
+        place.chooseKind("Not surveyed");
+        QCOMPARE(place.model.rowCount(), 12);
+        auto* const search = place.window.findChild<QLineEdit*>("search"_q);
+        QTest::keyClicks(search, "1002/500"_q);
+        QTRY_COMPARE(place.model.rowCount(), 6);
+        QVERIFY(place.says("Problems: 6 of 12"));
+        QTest::keyClicks(search, "x"_q);
+        QTRY_VERIFY(place.says("No problem passes the filters."));
+        place.step("next");
+        QCOMPARE(place.host.told, "No problem passes the filters."_q);
+        place.find(); // a new run keeps the search
+        QCOMPARE(place.model.rowCount(), 0);
+        for (QToolButton* const button : place.window.findChildren<QToolButton*>()) {
+            if (button->text() == "Clear All Filters"_q)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+        QVERIFY(search->text().isEmpty() && place.model.rowCount() == 12);
+
+        const QPoint cell = place.table.visualRect(place.model.index(7, 2)).center();
+        QTest::mousePress(place.table.viewport(), Qt::RightButton, {}, cell);
+        chooseFrom(openMenuAt(*place.table.viewport(), cell), "&Filter by This Value"_q);
+        QCOMPARE(place.model.rowCount(), 6);
+        QCOMPARE(place.window.findChild<FilterHeader*>()->filter(2), "= 1002"_q);
+    }
+
+    void savesWhatIsShown()
+    {
+        ProblemPlace place;
+        const TestFolder folder;
+        Boxes boxes;
+        const QString file = folder.path("问题.csv");
+        const FileDialog::Responder files([&](const auto&) { return file; });
+        place.find();
+        place.window.findChild<FilterHeader*>(); // of the column of lines
+        place.model.setFilter(int(ProblemField::Line), "1002"_q);
+        place.window.findChild<QAction*>("save"_q)->trigger();
+        const QByteArray text = TestFolder::read(file);
+        QCOMPARE(text.left(text.indexOf('\n')),
+                 "Severity,Kind,Line,Point,What,Value,Limit,Rover,Surveyor,Day"_q.toUtf8());
+        QCOMPARE(text.count('\n'), 7);
+        QVERIFY(text.contains("Warning,Not surveyed,1002,5001,"));
+        QCOMPARE(boxes.last.details, "Rows: 6"_q);
+    }
+};
+
+QTEST_MAIN(ProblemWindowTest)
+#include "ProblemWindowTest.moc"
