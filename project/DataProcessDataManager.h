@@ -194,7 +194,7 @@ public:
     /// that of the edit. Those that are accepted for the same reason already are passed over.
     /// \returns how many are accepted
     std::size_t accept(std::vector<Acceptance> problems);
-    /// Lists accepted problems again; what is not accepted is passed over.
+    /// Opens accepted problems again; what is not accepted is passed over.
     /// \returns how many there are
     std::size_t endAcceptances(std::vector<Acceptance> problems);
     /// Says of each problem whether it is accepted; needed when the acceptances are others than

@@ -22,7 +22,7 @@ const EditKind kDesignParameters{"design_parameters", nullptr, QT_TRANSLATE_NOOP
 const EditKind kCoordSystem{"coord_system", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change the coordinate system"), QT_TRANSLATE_NOOP("EditKinds", "Coordinate system")};
 const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 points"), QT_TRANSLATE_NOOP("EditKinds", "Restore a point"), QT_TRANSLATE_NOOP("EditKinds", "Restored points")};
 const EditKind kAcceptProblems{"accept_problems", QT_TRANSLATE_NOOP("EditKinds", "Accept %1 problems"), QT_TRANSLATE_NOOP("EditKinds", "Accept a problem"), QT_TRANSLATE_NOOP("EditKinds", "Accepted problems")};
-const EditKind kEndAcceptances{"end_acceptances", QT_TRANSLATE_NOOP("EditKinds", "List %1 accepted problems again"), QT_TRANSLATE_NOOP("EditKinds", "List an accepted problem again"), QT_TRANSLATE_NOOP("EditKinds", "Problems listed again")};
+const EditKind kEndAcceptances{"end_acceptances", QT_TRANSLATE_NOOP("EditKinds", "Open %1 problems again"), QT_TRANSLATE_NOOP("EditKinds", "Open a problem again"), QT_TRANSLATE_NOOP("EditKinds", "Problems opened again")};
 // clang-format on
 
 std::span<const EditKind* const> all()
