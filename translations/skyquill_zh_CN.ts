@@ -1185,15 +1185,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>CrewList</name>
     <message>
         <source>Points to measure again: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>需重测的点：%1。</translation>
     </message>
     <message>
         <source>Names without a design point: %1, first %2/%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有设计点的点名：%1，第一个为 %2/%3。</translation>
     </message>
     <message>
         <source>Problems of a line or a group, without a point: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>属于测线或一组成果、没有点的问题：%1。</translation>
     </message>
 </context>
 <context>
@@ -2868,27 +2868,27 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Accept %1 problems</source>
-        <translation type="unfinished"></translation>
+        <translation>接受 %1 个问题</translation>
     </message>
     <message>
         <source>Accept a problem</source>
-        <translation type="unfinished"></translation>
+        <translation>接受一个问题</translation>
     </message>
     <message>
         <source>Accepted problems</source>
-        <translation type="unfinished"></translation>
+        <translation>接受的问题</translation>
     </message>
     <message>
-        <source>List %1 accepted problems again</source>
-        <translation type="unfinished"></translation>
+        <source>Open %1 problems again</source>
+        <translation>重新打开 %1 个问题</translation>
     </message>
     <message>
-        <source>List an accepted problem again</source>
-        <translation type="unfinished"></translation>
+        <source>Open a problem again</source>
+        <translation>重新打开一个问题</translation>
     </message>
     <message>
-        <source>Problems listed again</source>
-        <translation type="unfinished"></translation>
+        <source>Problems opened again</source>
+        <translation>重新打开的问题</translation>
     </message>
 </context>
 <context>
@@ -3414,15 +3414,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>listed again</source>
-        <translation type="unfinished"></translation>
+        <translation>问题</translation>
     </message>
     <message>
         <source>accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>已接受</translation>
+    </message>
+    <message>
+        <source>open again</source>
+        <translation>重新打开</translation>
     </message>
 </context>
 <context>
@@ -3655,7 +3655,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>问题</translation>
     </message>
 </context>
 <context>
@@ -4121,7 +4121,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Accepted problems cannot be restored here: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>已接受的问题不能在此恢复：%1。</translation>
     </message>
 </context>
 <context>
@@ -4450,10 +4450,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>方位角突变，最大</translation>
     </message>
     <message>
-        <source>deg</source>
-        <translation>度</translation>
-    </message>
-    <message>
         <source>A bend of the line is no spike: a spike leads away from the line and back.</source>
         <translation>测线转弯不是突变：突变是离开测线又回来。</translation>
     </message>
@@ -4763,19 +4759,19 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Accepted problems of this project that a newer version of the program has written: %1. They are kept, but not shown as accepted.</source>
-        <translation type="unfinished"></translation>
+        <translation>本工程中由较新版本的程序写入的已接受问题：%1。它们会保留，但不显示为已接受。</translation>
     </message>
     <message>
         <source>The accepted problems of this project are of another version of the program. They are kept, but not shown, and what you accept is not added to them.</source>
-        <translation type="unfinished"></translation>
+        <translation>本工程的已接受问题由其他版本的程序写入。它们会保留，但不显示，您接受的问题也不会加入其中。</translation>
     </message>
     <message>
         <source>The accepted problems of this project cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取本工程的已接受问题：%1。</translation>
     </message>
     <message>
         <source>The points are saved, but not which problems you have accepted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>各点已保存，但您接受的问题未能保存：%1。</translation>
     </message>
 </context>
 <context>
@@ -7894,14 +7890,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Clear All Filters</source>
         <translation>清除所有筛选</translation>
-    </message>
-    <message>
-        <source>Points: %1 of %2</source>
-        <translation>点数：%1 / %2</translation>
-    </message>
-    <message>
-        <source>Points: %1</source>
-        <translation>点数：%1</translation>
     </message>
     <message>
         <source>Selected: %1</source>
