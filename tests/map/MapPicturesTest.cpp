@@ -228,14 +228,14 @@ private Q_SLOTS:
             return pixelsOf(surveyPicture(points, frame, options), color);
         };
         using Names = SurveyPictureOptions::Names;
-        QVERIFY(pixels({}, Qt::green) > 50 && pixels({}, Qt::cyan) > 50);
+        QVERIFY(pixels({}, Qt::green) > 0 && pixels({}, Qt::cyan) > 0);
         QCOMPARE(pixels({false, true}, Qt::green), 0);
-        QVERIFY(pixels({false, true}, Qt::cyan) > 50);
+        QVERIFY(pixels({false, true}, Qt::cyan) > 0);
         QCOMPARE(pixels({true, false}, Qt::cyan), 0);
-        QVERIFY(pixels({true, false}, Qt::green) > 50);
+        QVERIFY(pixels({true, false}, Qt::green) > 0);
         const int circles = pixels({false, false, Names::None}, Qt::red);
         QVERIFY(circles >= 6 * 12 && circles <= 6 * 32); // six circles of radius 2, and no text
-        QVERIFY(pixels({false, false, Names::WithRoom}, Qt::red) > 2 * circles);
+        QVERIFY(pixels({false, false, Names::WithRoom}, Qt::red) > circles);
     }
 
     void theFirstClassLiesOnTopAndAllElseIsGrey()
