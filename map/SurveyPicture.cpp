@@ -95,7 +95,7 @@ public:
                              static_cast<double>(lines.size()));
         }
         paintColored();
-        m_waiting.write(m_painter, m_names, m_screen, m_frame.isStopped);
+        m_waiting.write(m_painter, m_names, m_frame.screenArea(0), m_screen, m_frame.isStopped);
     }
 
 private:
