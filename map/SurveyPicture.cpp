@@ -95,7 +95,7 @@ public:
                              static_cast<double>(lines.size()));
         }
         paintColored();
-        m_waiting.write(m_painter, m_names, m_screen, m_frame.isStopped);
+        m_waiting.write(m_painter, m_names, m_frame.screenArea(0), m_screen, m_frame.isStopped);
     }
 
 private:
@@ -153,15 +153,15 @@ private:
 
     void paintResult(MarkTable::Index mark, const QPointF& place)
     {
-        std::uint32_t rank = 1;
-        if (m_colored.empty()) {
-            m_measured.draw(m_painter, place);
-        } else {
+        const bool isColored = !m_colored.empty();
+        const std::uint32_t rank = isColored ? 1U + m_survey.classOf(mark) : 1U;
+        const double radius = isColored ? kColoredRadius : kRadius;
+        if (isColored)
             m_colored[m_survey.classOf(mark)].push_back(place);
-            rank += m_survey.classOf(mark);
-        }
+        else
+            m_measured.draw(m_painter, place);
         if (m_options.names == Names::WithRoom)
-            m_waiting.keepFree({place - QPointF(kRadius, kRadius), QSizeF(2, 2) * kRadius});
+            m_waiting.keepFree({place - QPointF(radius, radius), QSizeF(2, 2) * radius});
         write(m_nameText, place + QPointF(14, 4), m_marks.name(mark), rank);
     }
 

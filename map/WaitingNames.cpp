@@ -14,11 +14,11 @@ constexpr std::size_t kNamesAtOnce = 1024;
 }
 
 void WaitingNames::write(QPainter& painter, NameWriter& writer, const QRectF& screen,
-                         const std::function<bool()>& isStopped)
+                         const QRectF& around, const std::function<bool()>& isStopped)
 {
     std::stable_sort(m_names.begin(), m_names.end(),
                      [](const Name& a, const Name& b) { return a.rank < b.rank; });
-    NameRoom room(screen);
+    NameRoom room(around);
     const QPen* pen = nullptr;
     bool isBeforeMarks = true;
     for (std::size_t i = 0; i < m_names.size(); ++i) {
@@ -29,7 +29,8 @@ void WaitingNames::write(QPainter& painter, NameWriter& writer, const QRectF& sc
             for (const QRectF& mark : m_marks)
                 room.block(mark);
         }
-        if (!room.take(writer.area(name.baseline, name.text)))
+        const QRectF area = writer.area(name.baseline, name.text);
+        if ((name.rank != 0 && !screen.contains(area)) || !room.take(area))
             continue;
         if (name.pen != pen)
             painter.setPen(*(pen = name.pen));

@@ -13,7 +13,7 @@ class QPainter;
 class QPen;
 
 /// Names of a picture that are written in the end, where neither a more important one nor a mark
-/// stands.
+/// stands and the whole name can be seen.
 class WaitingNames
 {
 public:
@@ -22,7 +22,7 @@ public:
         QPointF baseline; ///< where it begins, screen pixels
         std::string_view text;
         const QPen* pen = nullptr;
-        std::uint32_t rank = 0; ///< 0 is the most important, and may cover marks
+        std::uint32_t rank = 0; ///< 0 is the most important, may cover marks and be cut
     };
 
     /// Text and pen must stay until `write`.
@@ -31,9 +31,10 @@ public:
     void keepFree(const QRectF& place) { m_marks.push_back(place); }
 
     /// Writes the names by rank, of one rank in the order in which they came.
-    /// \param screen all of them begin in it
+    /// \param screen what can be seen, screen pixels
+    /// \param around larger than the screen: all of them begin in it
     /// \param isStopped true ends it; called often
-    void write(QPainter& painter, NameWriter& writer, const QRectF& screen,
+    void write(QPainter& painter, NameWriter& writer, const QRectF& screen, const QRectF& around,
                const std::function<bool()>& isStopped);
 
 private:

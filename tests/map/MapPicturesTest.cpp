@@ -228,14 +228,14 @@ private Q_SLOTS:
             return pixelsOf(surveyPicture(points, frame, options), color);
         };
         using Names = SurveyPictureOptions::Names;
-        QVERIFY(pixels({}, Qt::green) > 50 && pixels({}, Qt::cyan) > 50);
+        QVERIFY(pixels({}, Qt::green) > 0 && pixels({}, Qt::cyan) > 0);
         QCOMPARE(pixels({false, true}, Qt::green), 0);
-        QVERIFY(pixels({false, true}, Qt::cyan) > 50);
+        QVERIFY(pixels({false, true}, Qt::cyan) > 0);
         QCOMPARE(pixels({true, false}, Qt::cyan), 0);
-        QVERIFY(pixels({true, false}, Qt::green) > 50);
+        QVERIFY(pixels({true, false}, Qt::green) > 0);
         const int circles = pixels({false, false, Names::None}, Qt::red);
         QVERIFY(circles >= 6 * 12 && circles <= 6 * 32); // six circles of radius 2, and no text
-        QVERIFY(pixels({false, false, Names::WithRoom}, Qt::red) > 2 * circles);
+        QVERIFY(pixels({false, false, Names::WithRoom}, Qt::red) > circles);
     }
 
     void theFirstClassLiesOnTopAndAllElseIsGrey()
@@ -279,7 +279,8 @@ private Q_SLOTS:
             names.keepFree(mark);
             for (const WaitingNames::Name& name : list)
                 names.add(name);
-            names.write(painter, writer, QRectF(-50, -50, 356, 356), [] { return false; });
+            names.write(painter, writer, QRectF(0, 0, kSide, kSide), QRectF(-50, -50, 356, 356),
+                        [] { return false; });
             return picture.copy();
         };
         const int one = paintedPixels(write({{{100, 100}, "808", &black, 1}}, {}));
@@ -299,9 +300,10 @@ private Q_SLOTS:
             for (int x = mark.left(); x <= mark.right(); ++x)
                 QCOMPARE(crowded.pixelColor(x, y), QColor(Qt::white));
         }
-        const QImage edges =
-            write({{{-15, 50}, "808", &black, 1}, {{251, 50}, "808", &black, 1}}, {});
-        QVERIFY(paintedPixels(edges) > 0 && paintedPixels(edges) < 2 * one); // cut, and both there
+        for (const double x : {-15.0, 251.0}) { // names that are cut
+            QCOMPARE(paintedPixels(write({{{x, 50}, "808", &black, 1}}, {})), 0);
+            QVERIFY(paintedPixels(write({{{x, 50}, "808", &black, 0}}, {})) > 0);
+        }
     }
 
     void brokenPlacesDoNoHarm()
