@@ -44,6 +44,7 @@
 #include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
+#include "quality/RepeatChoice.h"
 #include "quality/ResurveyResult.h"
 #include "quality/Verdicts.h"
 #include "reports/ReportInput.h"
@@ -701,6 +702,24 @@ std::size_t DataProcessDataManager::changeAcceptances(const EditKind& kind,
     edit->add(std::move(part));
     make(edit);
     return count;
+}
+
+std::vector<RepeatedPoint> DataProcessDataManager::repeatedPoints() const
+{
+    return ::repeatedPoints(m_design, m_survey,
+                            qualityParameter(m_qualityParameters, kResurveyCode),
+                            lum::lengthUnitOf(get_project_coord_transform().parameters()).metres);
+}
+
+void DataProcessDataManager::resolveRepeats(ResolvedRepeats&& resolved)
+{
+    if (resolved.results.empty())
+        return;
+    const auto edit =
+        std::make_shared<Edit>(EditKinds::kResolveRepeats, resolved.results.pointCount());
+    edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(resolved.names),
+                                                         std::move(resolved.results)));
+    make(edit);
 }
 
 int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary& parameters,

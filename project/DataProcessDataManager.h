@@ -35,6 +35,8 @@ struct QualityRow;
 struct ReportChoice;
 struct ReportKind;
 struct Renaming;
+struct RepeatedPoint;
+struct ResolvedRepeats;
 struct SurveyCorrection;
 enum class DesignLines;
 
@@ -186,6 +188,10 @@ public:
     /// Puts points of the history back, over those of the same names.
     /// \returns how many there are
     std::size_t restorePoints(HistoryPoints&& points);
+    /// The points that were measured more than once, see quality/RepeatChoice.h.
+    [[nodiscard]] std::vector<RepeatedPoint> repeatedPoints() const;
+    /// Gives each of them one result; the others are gone.
+    void resolveRepeats(ResolvedRepeats&& resolved);
 
     // Problems that the user accepts as they are.
 

@@ -396,6 +396,14 @@
         <translation>查找重复测量的点</translation>
     </message>
     <message>
+        <source>Resol&amp;ve Repeats...</source>
+        <translation>重复测量取舍(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Keep one result of each point that was measured more than once</source>
+        <translation>对多次测量的点只保留一个结果</translation>
+    </message>
+    <message>
         <source>&amp;Design</source>
         <translation>设计(&amp;D)</translation>
     </message>

@@ -288,6 +288,13 @@
     </message>
 </context>
 <context>
+    <name>CheckShotProblems</name>
+    <message>
+        <source>Points measured that day: %1. Measured again: %2, at least %3 are wanted.</source>
+        <translation>当天测量点数：%1。复测点数：%2，至少需要 %3 个。</translation>
+    </message>
+</context>
+<context>
     <name>CodeTables</name>
     <message>
         <source>invalid</source>
@@ -1849,6 +1856,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgAcceptProblems</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1：%2</translation>
+    </message>
+    <message>
+        <source>Accept Problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They leave the list of the open problems. One comes back when a record that it is about changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>such as: the stake was moved with the client&apos;s consent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reason:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">取消</translation>
+    </message>
+</context>
+<context>
     <name>DlgBaseMaps</name>
     <message>
         <source>Base Maps</source>
@@ -2560,6 +2598,89 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgRepeatChoice</name>
+    <message>
+        <source>No point was measured more than once.</source>
+        <translation>没有被多次测量的点。</translation>
+    </message>
+    <message>
+        <source>Points measured more than once: %1, with %2 results.</source>
+        <translation>多次测量的点：%1 个，共 %2 个结果。</translation>
+    </message>
+    <message>
+        <source>Results to be removed, which stay in the history: %1.</source>
+        <translation>将移除的结果（保留在修改历史中）：%1 个。</translation>
+    </message>
+    <message>
+        <source>Points that stay as they are, too far apart for a mean: %1.</source>
+        <translation>相差过大、不能取平均而保持原样的点：%1 个。</translation>
+    </message>
+    <message>
+        <source>The tolerance is a number from 0 to %1 metres.</source>
+        <translation>限差为 0 到 %1 米之间的数字。</translation>
+    </message>
+    <message>
+        <source>Resolve Repeats</source>
+        <translation>重复测量取舍</translation>
+    </message>
+    <message>
+        <source>if they differ by at &amp;most</source>
+        <translation>相差不超过(&amp;M)</translation>
+    </message>
+    <message>
+        <source>The first</source>
+        <translation>第一次</translation>
+    </message>
+    <message>
+        <source>The last</source>
+        <translation>最后一次</translation>
+    </message>
+    <message>
+        <source>The most accurate</source>
+        <translation>精度最高的</translation>
+    </message>
+    <message>
+        <source>The weighted mean</source>
+        <translation>加权平均值</translation>
+    </message>
+    <message>
+        <source>The most accurate: a fixed solution before others, then the smallest HRMS and VRMS. The mean is weighted by HRMS and VRMS.</source>
+        <translation>精度最高的：固定解优先，其次 HRMS 和 VRMS 最小。平均值按 HRMS 和 VRMS 加权。</translation>
+    </message>
+    <message>
+        <source>Points whose measurements differ by more, on the plane or in height, stay as they are.</source>
+        <translation>各次测量在平面或高程上相差更大的点保持原样。</translation>
+    </message>
+    <message>
+        <source>&amp;Of several measurements stays:</source>
+        <translation>多次测量中保留(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Resolve &amp;Selected (%1)</source>
+        <translation>处理所选(&amp;S) (%1)</translation>
+    </message>
+    <message>
+        <source>Resolve &amp;All (%1)</source>
+        <translation>处理全部(&amp;A) (%1)</translation>
+    </message>
+    <message>
+        <source>The results have changed: nothing was resolved.</source>
+        <translation>测量结果已变化：未作任何处理。</translation>
+    </message>
+    <message>
+        <source>Points resolved: %1. Results removed: %2. Left as they are: %3.</source>
+        <translation>已处理的点：%1。已移除的结果：%2。保持原样：%3。</translation>
+    </message>
+</context>
+<context>
     <name>DlgRepeatPtCheck</name>
     <message>
         <source>Repeat Point Check</source>
@@ -2572,6 +2693,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Results deleted: %1. %2</source>
         <translation>已删除的成果：%1。%2</translation>
+    </message>
+    <message>
+        <source>&amp;Resolve Repeats...</source>
+        <translation>重复测量取舍(&amp;R)...</translation>
     </message>
 </context>
 <context>
@@ -2889,6 +3014,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Problems opened again</source>
         <translation>重新打开的问题</translation>
+    </message>
+    <message>
+        <source>Resolve %1 repeated points</source>
+        <translation>处理 %1 个重复测量点</translation>
+    </message>
+    <message>
+        <source>Resolve a repeated point</source>
+        <translation>处理一个重复测量点</translation>
+    </message>
+    <message>
+        <source>Resolved repeats</source>
+        <translation>重复测量取舍</translation>
     </message>
 </context>
 <context>
@@ -4182,12 +4319,119 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>History of This Point</source>
         <translation>此点的历史</translation>
     </message>
+    <message>
+        <source>Points: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PointVisit</name>
     <message>
         <source>Point %1 is not in the project now.</source>
         <translation>工程中现在没有点 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemActions</name>
+    <message>
+        <source>&amp;Accept...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say why the selected problems may be so; they leave the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open A&amp;gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the selected problems back into the list of the open ones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ca&amp;rry Out Proposal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the selected results the names that are proposed; it can be undone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure Agai&amp;n...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the design points of the selected problems for the crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;List for the Crew...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the points of all errors and warnings that are shown as CSV or KML: what is not surveyed, and what must be measured again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation type="unfinished">另存为 CSV(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Write the rows that are shown, as they are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished">复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy with H&amp;eaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted by %1 on %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems accepted: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems open again: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result %1 is now %2. Ctrl+Z takes it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results with new names: %1. Ctrl+Z takes it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Carry Out Proposal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points for the Crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No error and no warning that is shown has a point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4494,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Find Problems</source>
         <translation>查找问题</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemKindBar</name>
+    <message>
+        <source>Kinds of problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All open problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4378,6 +4637,22 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Occupied too shortly</source>
         <translation>观测时间过短</translation>
     </message>
+    <message>
+        <source>Too few check shots</source>
+        <translation>检核点过少</translation>
+    </message>
+    <message>
+        <source>Base coordinates wrong</source>
+        <translation>基准站坐标有误</translation>
+    </message>
+    <message>
+        <source>Pole height wrong</source>
+        <translation>杆高有误</translation>
+    </message>
+    <message>
+        <source>Survey off the design</source>
+        <translation>测量整体偏离设计</translation>
+    </message>
 </context>
 <context>
     <name>ProblemLimits</name>
@@ -4497,6 +4772,42 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Lines</source>
         <translation>测线</translation>
     </message>
+    <message>
+        <source>Check shots of a crew and day</source>
+        <translation>每组每天的检核点比例</translation>
+    </message>
+    <message>
+        <source>How many of the points of a day are to be measured again.</source>
+        <translation>当天测量的点中需要复测的比例。</translation>
+    </message>
+    <message>
+        <source>Check shots, min.</source>
+        <translation>检核点最少个数</translation>
+    </message>
+    <message>
+        <source>Shift of a base on the plane, max.</source>
+        <translation>基准站平面偏移上限</translation>
+    </message>
+    <message>
+        <source>What all results of a base and a day are off by the same is a wrong base.</source>
+        <translation>同一基准站同一天的全部结果偏移相同，即基准站有误。</translation>
+    </message>
+    <message>
+        <source>Shift of a base or a pole in height, max.</source>
+        <translation>基准站或杆高的高程偏移上限</translation>
+    </message>
+    <message>
+        <source>What all results of a base or a rover and a day are off in height by the same is a wrong base or pole height.</source>
+        <translation>同一基准站或流动站同一天的全部结果高程偏移相同，即基准站或杆高有误。</translation>
+    </message>
+    <message>
+        <source>Results that show a shift, min.</source>
+        <translation>判定偏移所需的最少结果数</translation>
+    </message>
+    <message>
+        <source>Check shots</source>
+        <translation>检核点</translation>
+    </message>
 </context>
 <context>
     <name>ProblemLimitsPage</name>
@@ -4507,6 +4818,109 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Find Problems looks at these limits. 0 switches one off.</source>
         <translation>“查找问题”使用这些限差。0 表示不限。</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWindow</name>
+    <message>
+        <source>Problems: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation type="unfinished">问题</translation>
+    </message>
+    <message>
+        <source>Points or limits have changed since these problems were found. &lt;a href=&quot;find&quot;&gt;Find them again&lt;/a&gt; (Ctrl+F9)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find Problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run everything that is on and list what is wrong (Ctrl+F9)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished">搜索</translation>
+    </message>
+    <message>
+        <source>Shows the problems with this line, point, rover, surveyor or kind. A line and a point together: 1001/10015001</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems: %1 (errors: %2, warnings: %3, notes: %4). Accepted: %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation type="unfinished">没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>What must the crew do tomorrow? &lt;a href=&quot;find&quot;&gt;Find the problems&lt;/a&gt; of the design and of all results (Ctrl+F9).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No problem passes the filters. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No problem was found. Results: %1, design points: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter of &quot;%1&quot;: %2</source>
+        <translation type="unfinished">“%1”的筛选条件：%2</translation>
+    </message>
+    <message>
+        <source>No problem passes the filters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no problem in the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is the first of %1 problems.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This was the last of %1 problems.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point %1 is not in the project any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem %1 of %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem %1 of %2, %3: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Filter by This Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show on the &amp;Map</source>
+        <translation type="unfinished">在地图上显示(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;History of This Point</source>
+        <translation type="unfinished">此点的历史(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -6062,6 +6476,54 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>elevation diff</source>
         <translation>高差</translation>
     </message>
+    <message>
+        <source>all: too far apart</source>
+        <translation>全部：相差过大</translation>
+    </message>
+    <message>
+        <source>mean of %1</source>
+        <translation>%1 次平均</translation>
+    </message>
+    <message>
+        <source>The measurements differ by more than the tolerance: the point stays as it is.</source>
+        <translation>各次测量之差超过限差：该点保持原样。</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>测量次数</translation>
+    </message>
+    <message>
+        <source>Differ</source>
+        <translation>平面相差</translation>
+    </message>
+    <message>
+        <source>In height</source>
+        <translation>高程相差</translation>
+    </message>
+    <message>
+        <source>Stays</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>HRMS</source>
+        <translation>HRMS</translation>
+    </message>
+    <message>
+        <source>Point moves</source>
+        <translation>点位移动</translation>
+    </message>
+    <message>
+        <source>Up by</source>
+        <translation>升高</translation>
+    </message>
 </context>
 <context>
     <name>ResurveyCheck</name>
@@ -6601,6 +7063,113 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>ShiftProblems</name>
+    <message>
+        <source>the survey</source>
+        <translation>整个测量</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>（无名称）</translation>
+    </message>
+    <message>
+        <source>rover %1</source>
+        <translation>流动站 %1</translation>
+    </message>
+    <message>
+        <source>base %1</source>
+        <translation>基准站 %1</translation>
+    </message>
+    <message>
+        <source>rover %1 on %2</source>
+        <translation>流动站 %1 在 %2</translation>
+    </message>
+    <message>
+        <source>base %1 on %2</source>
+        <translation>基准站 %1 在 %2</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>北</translation>
+    </message>
+    <message>
+        <source>northeast</source>
+        <translation>东北</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>东</translation>
+    </message>
+    <message>
+        <source>southeast</source>
+        <translation>东南</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <translation>南</translation>
+    </message>
+    <message>
+        <source>southwest</source>
+        <translation>西南</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <translation>西</translation>
+    </message>
+    <message>
+        <source>northwest</source>
+        <translation>西北</translation>
+    </message>
+    <message>
+        <source>%1 m too high</source>
+        <translation>偏高 %1 m</translation>
+    </message>
+    <message>
+        <source>%1 m too low</source>
+        <translation>偏低 %1 m</translation>
+    </message>
+    <message>
+        <source>%1 m too far to the %2 (%3°)</source>
+        <translation>向%2（%3°）偏移 %1 m</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1，并且%2</translation>
+    </message>
+    <message>
+        <source>All %1 results of %2 are %3.</source>
+        <translation>%2的全部 %1 个结果均%3。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 results of %3 are %4.</source>
+        <translation>%3的 %2 个结果中有 %1 个%4。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 points that were also measured otherwise are %4 in the results of %3.</source>
+        <translation>另外也测量过的 %2 个点中，有 %1 个在%3的结果中%4。</translation>
+    </message>
+    <message>
+        <source>The coordinates of the base are wrong.</source>
+        <translation>基准站坐标有误。</translation>
+    </message>
+    <message>
+        <source>The antenna height of the pole is wrong.</source>
+        <translation>对中杆天线高有误。</translation>
+    </message>
+    <message>
+        <source>The height of the base is wrong, or that of the pole of rover %1, which alone has used it.</source>
+        <translation>基准站高程有误，或者唯一使用它的流动站 %1 的杆高有误。</translation>
+    </message>
+    <message>
+        <source>Design and survey are of different coordinate systems, or every base is wrong.</source>
+        <translation>设计与测量的坐标系不同，或者所有基准站都有误。</translation>
+    </message>
+    <message>
+        <source>Problems of single points that follow from it: %1.</source>
+        <translation>由此引起的单点问题：%1 个。</translation>
     </message>
 </context>
 <context>
