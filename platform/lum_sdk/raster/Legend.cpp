@@ -12,7 +12,7 @@ namespace lum {
 namespace {
 
 // screen pixels
-constexpr int kSmallestScreen = 200;
+constexpr QSize kSmallestScreen(200, 120);
 constexpr int kMargin = 12;
 constexpr int kPadding = 6;
 constexpr int kGap = 12;  // before a number
@@ -99,7 +99,7 @@ private:
 
 QRect drawLegend(QPainter& painter, const QSize& screen, const Legend& legend)
 {
-    if (screen.width() < kSmallestScreen || screen.height() < kSmallestScreen)
+    if (screen.width() < kSmallestScreen.width() || screen.height() < kSmallestScreen.height())
         return {};
     const Rows rows(legend, painter.fontMetrics(), screen);
     if (rows.isEmpty())

@@ -78,7 +78,7 @@ private Q_SLOTS:
     void nothingIsDrawnWithoutColorsOrRoom()
     {
         for (const Drawn& drawn : {Drawn({"Title"_q, {}}), Drawn(legendOf(2), {199, 400}),
-                                   Drawn(legendOf(2), {400, 150})}) {
+                                   Drawn(legendOf(2), {400, 119})}) {
             QVERIFY(drawn.place.isEmpty());
             QCOMPARE(drawn.pixelsOf(Qt::black), drawn.picture.width() * drawn.picture.height());
         }
