@@ -35,6 +35,7 @@
 #include "quality/ui/EmptyPointCheckCommand.h"
 #include "quality/ui/QualitySpecificateCommand.h"
 #include "quality/ui/RepeatPointCheckCommand.h"
+#include "quality/ui/ResolveRepeatsCommand.h"
 #include "quality/ui/ReSurveyPointCheckCommand.h"
 #include "reports/ui/ExportReportCommand.h"
 #include "views/AttributeControl.h"
@@ -80,6 +81,7 @@ using namespace desktop::registration;
     command<EmptyPointCheckCommand>     ("EmptyPointCheckCommand",       "空点检查"),
     command<ReSurveyPointCheckCommand>  ("ReSurveyPointCheckCommand",    "复测点检查"),
     command<RepeatPointCheckCommand>    ("RepeatPointCheckCommand",      "重复点检查"),
+    command<ResolveRepeatsCommand>      ("ResolveRepeatsCommand",        "重复测量取舍"),
     command<FindProblemsCommand>        ("FindProblemsCommand",          "查找问题"),
     command<ProblemStepCommand>         ("ProblemStepCommand",           "转到问题"),
     command<ImportCommand>              ("ImportCommand",                "导入数据"),
@@ -101,6 +103,7 @@ using namespace desktop::registration;
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),
     command<DrawExcitationCommand>      ("DrawExcitationCommand",        "绘制激发线"),
+    command<ResultNamesCommand>         ("ResultNamesCommand",           "测点名称"),
     command<SetTifPathCommand>          ("SetTifPathCommand",            "TIF图叠加"),
     command<PPKMoveCommand>             ("PPKMoveCommand",               "地图移动"),
     command<PPKZoomInCommand>           ("PPKZoomInCommand",             "地图放大"),

@@ -284,7 +284,7 @@ double importSeconds(const QString& path, std::size_t expected, Read read)
     ProgressReporter progress(nullptr);
     bool isRead = false;
     const double seconds =
-        bench::secondsOf([&] { isRead = read(path, points, progress, summary).isDone(); });
+        bench::secondsOf([&] { isRead = read(path, points, progress, summary, nullptr).isDone(); });
     return isRead && points.pointCount() == expected ? seconds : 1e9;
 }
 
@@ -395,7 +395,7 @@ double importMiB(const QString& path, Read read)
     Points points;
     ImportSummary summary;
     ProgressReporter progress(nullptr);
-    if (!read(path, points, progress, summary).isDone())
+    if (!read(path, points, progress, summary, nullptr).isDone())
         std::abort();
     const double imported = peakMiB() - before;
     const Points copy(points);

@@ -6,6 +6,8 @@
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
 #include "map/SurveyPicture.h"
+#include "quality/colors/Colorings.h"
+#include "quality/colors/ColorPalette.h"
 #include "tests/map/PlainPictures.h"
 #include "tests/map/TestSurvey.h"
 
@@ -14,11 +16,12 @@
 #include <QImage>
 #include <QPainter>
 
+#include <string>
 #include <vector>
 
 // Measures the pictures of the map's data against the same pictures drawn by plain calls, and the
 // view of a part of the data against a project that has only this part. Measures picking and the
-// making of the caches.
+// making of the caches; and the survey in colours against the plain one.
 
 namespace {
 
@@ -232,6 +235,85 @@ void BM_SurveyTenthHalo(benchmark::State& state)
         });
 }
 
+/// 200,000 marks in seven colours.
+SurveyMarks coloredMarks()
+{
+    MarkColors colors;
+    colors.colors.assign(palette::kDistinct.begin(), palette::kDistinct.end());
+    colors.classOf = [](const SurveyPoint& point) {
+        return static_cast<std::uint8_t>(point.pointNumber.back() % 7);
+    };
+    return {survey(), kToMap, colors};
+}
+
+/// A picture in colours beside the plain one: with all names, as the plain one, and with those that
+/// have room, as it is without a choice.
+void coloredSurvey(benchmark::State& state, double share, const char* all, const char* withRoom)
+{
+    using Names = SurveyPictureOptions::Names;
+    const PictureFrame frame = frameOf(kSurveyLines, kSurveyPoints, share);
+    const SurveyMarks plain(survey(), kToMap);
+    const SurveyMarks colored = coloredMarks();
+    const auto msOf = [&](const SurveyMarks& marks, Names names) {
+        return msOfPicture([&](QPainter& painter) {
+            paintSurvey(marks, frame, QStringLiteral("Base"), painter, {true, true, names});
+        });
+    };
+    const auto ratioOf = [&](Names names) { // one behind the other, since machines are noisy
+        return bench::medianOf([&] { return msOf(colored, names) / msOf(plain, Names::All); });
+    };
+    for (auto _ : state) {
+        bench::report(state, all, ratioOf(Names::All), 1.3, "");
+        bench::report(state, withRoom, ratioOf(Names::WithRoom), 1.3, "");
+    }
+}
+
+void BM_SurveyWholeColored(benchmark::State& state)
+{
+    coloredSurvey(state, 1, "survey in colours, whole, of plain",
+                  "survey in colours, whole, names with room, of plain");
+}
+
+void BM_SurveyTenthColored(benchmark::State& state)
+{
+    coloredSurvey(state, 0.1, "survey in colours, a tenth, of plain",
+                  "survey in colours, a tenth, names with room, of plain");
+}
+
+/// The cache of a survey with colours beside one without, for each way to colour.
+void BM_RebuildColored(benchmark::State& state)
+{
+    SurveyPoints points = survey();
+    int count = 0;
+    for (auto&& [number, line] : points) {
+        for (SurveyPoint& point : line) {
+            point.surveyor = "surveyor " + std::to_string(++count / 500 % 30);
+            point.dateTime = 1746000000000 + count * 20000LL;
+            point.horizontalAccuracy = 0.005 + count % 40 * 0.001;
+        }
+    }
+    const auto msOf = [&](const Coloring* coloring) {
+        return bench::medianOf([&] {
+            return 1e3 * bench::secondsOf([&] {
+                       const ResultColors colors =
+                           coloring == nullptr
+                               ? ResultColors()
+                               : resultColors(*coloring, {points, {}, basalt::LocalTimes(8)});
+                       benchmark::DoNotOptimize(
+                           SurveyMarks(points, kToMap, {colors.colors(), colors.classOf()}));
+                   });
+        });
+    };
+    for (auto _ : state) {
+        const double plainMs = msOf(nullptr);
+        state.counters["plain_ms"] = plainMs;
+        for (const Coloring& coloring : colorings()) {
+            const std::string name = std::string("survey cache by ") + coloring.name + ", of plain";
+            bench::report(state, name.c_str(), msOf(&coloring) / plainMs, 2, "");
+        }
+    }
+}
+
 /// The longest time that a paint goes on after it has been cancelled.
 void BM_Cancel(benchmark::State& state)
 {
@@ -309,6 +391,9 @@ BENCHMARK(BM_DesignPoints)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_DesignLabels)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SurveyWhole)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SurveyTenth)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SurveyWholeColored)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SurveyTenthColored)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_RebuildColored)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_DesignTenthHalo)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_DesignPointsHalo)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_DesignLabelsHalo)->Iterations(1)->Unit(benchmark::kMillisecond);

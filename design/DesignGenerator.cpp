@@ -128,7 +128,7 @@ Outcome generateDesign(const IDictionary& parameters, DesignLines lines, DesignP
         for (const DesignGrid& grid : grids)
             generate(grid, made, progress);
         const std::size_t now = made.pointCount();
-        const Outcome outcome = Outcome::done(
+        Outcome outcome = Outcome::done(
             tidings(design.pointCount(), now,
                     static_cast<std::int64_t>(points) - static_cast<std::int64_t>(now)));
         std::swap(design, made);

@@ -20,6 +20,7 @@ class CrewList
 public:
     /// \param why  in one line; may be empty
     void add(const DesignPoint& point, const std::string& why);
+
     // What cannot be measured again: it is not written, and the notice tells.
 
     /// A name to which no design point belongs.

@@ -1,6 +1,5 @@
 #include "map/NameWriter.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QString>
 
@@ -13,8 +12,7 @@ constexpr int kLongestRun = 64; // bytes; longer texts are rare and left to the 
 } // namespace
 
 NameWriter::NameWriter(const QFont& font)
-    : m_font(QRawFont::fromFont(font)), m_widest(QFontMetricsF(font).maxWidth()),
-      m_run(kLongestRun), m_places(kLongestRun)
+    : m_font(QRawFont::fromFont(font)), m_metrics(font), m_run(kLongestRun), m_places(kLongestRun)
 {
     QString letters;
     for (unsigned char letter = kFirstLetter; letter <= kLastLetter; ++letter)
@@ -55,7 +53,22 @@ bool NameWriter::place(std::string_view text)
     return true;
 }
 
+QRectF NameWriter::area(const QPointF& baseline, std::string_view text) const
+{
+    double width = 0;
+    for (const char each : text) {
+        const auto letter = static_cast<unsigned char>(each);
+        if (letter >= kLetters || m_glyphs[letter] == 0) {
+            width = m_metrics.horizontalAdvance(
+                QString::fromUtf8(text.data(), static_cast<int>(text.size())));
+            break;
+        }
+        width += m_advances[letter];
+    }
+    return {baseline.x(), baseline.y() - m_metrics.ascent(), width, m_metrics.height()};
+}
+
 double NameWriter::reach(std::size_t bytes) const
 {
-    return m_widest * static_cast<double>(bytes + 1);
+    return m_metrics.maxWidth() * static_cast<double>(bytes + 1);
 }

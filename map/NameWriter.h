@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QRawFont>
+#include <QRectF>
 #include <QVector>
 
 #include <array>
@@ -23,6 +25,9 @@ public:
     /// painter's font must be the writer's.
     void write(QPainter& painter, const QPointF& baseline, std::string_view text);
 
+    /// The rectangle that `write` draws in, screen pixels.
+    [[nodiscard]] QRectF area(const QPointF& baseline, std::string_view text) const;
+
     /// The greatest width of a name of this many bytes, screen pixels.
     [[nodiscard]] double reach(std::size_t bytes) const;
 
@@ -36,7 +41,7 @@ private:
     QRawFont m_font;
     std::array<quint32, kLetters> m_glyphs{};
     std::array<double, kLetters> m_advances{};
-    double m_widest = 0;
+    QFontMetricsF m_metrics;
     QVector<quint32> m_run;
     QVector<QPointF> m_places;
 };

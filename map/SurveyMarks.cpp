@@ -3,24 +3,28 @@
 #include <algorithm>
 #include <cmath>
 
-SurveyMarks::SurveyMarks(const SurveyPoints& points, const ToMap& toMap)
+SurveyMarks::SurveyMarks(const SurveyPoints& points, const ToMap& toMap, const MarkColors& colors)
+    : m_colors(colors.colors)
 {
     const std::size_t count = points.pointCount();
     m_table.reserve(count);
     m_ties.reserve(count);
+    m_classes.reserve(m_colors.empty() ? 0 : count);
     for (const auto& [number, line] : points) {
         m_table.beginLine(number);
-        for (const SurveyPoint& point : line)
-            add(point, toMap);
+        for (const SurveyPoint& point : line) {
+            if (add(point, toMap) && !m_colors.empty())
+                m_classes.push_back(colors.classOf(point));
+        }
         m_table.endLine();
     }
 }
 
-void SurveyMarks::add(const SurveyPoint& point, const ToMap& toMap)
+bool SurveyMarks::add(const SurveyPoint& point, const ToMap& toMap)
 {
     const std::uint32_t base = baseOf(point, toMap);
     if (!m_table.add(point.pointNumber, {point.north, point.east}, toMap(point.north, point.east)))
-        return;
+        return false;
     Ties ties;
     ties.design = toMap(point.designNorth, point.designEast);
     ties.base = base;
@@ -29,6 +33,15 @@ void SurveyMarks::add(const SurveyPoint& point, const ToMap& toMap)
     m_table.alsoSeenAt(m_basePlaces[base]);
     if (ties.hasDesign)
         m_table.alsoSeenAt(ties.design);
+    return true;
+}
+
+std::vector<std::size_t> SurveyMarks::classCounts() const
+{
+    std::vector<std::size_t> counts(m_colors.size());
+    for (const std::uint8_t each : m_classes)
+        ++counts[each];
+    return counts;
 }
 
 std::uint32_t SurveyMarks::baseOf(const SurveyPoint& point, const ToMap& toMap)

@@ -7,6 +7,7 @@
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
 #include "map/ThinLine.h"
+#include "map/WaitingNames.h"
 
 #include <QPainter>
 #include <QString>
@@ -18,17 +19,40 @@
 namespace {
 
 constexpr double kRadius = 2;
+constexpr double kColoredRadius = 3;
 constexpr double kLineMargin = 8; // pixels: farther outside, a pen or circle cannot be seen
 constexpr double kDashes = 6;     // pixels after which a dashed pen repeats
 constexpr double kHidden = 1.5;   // pixels: a shorter line lies under the circle at its end
+
+constexpr std::size_t kMarksAtOnce = 1024;
+
+using Names = SurveyPictureOptions::Names;
 
 /// A base station on the screen.
 struct ScreenBase
 {
     QPointF place;
     bool isInside = false; ///< of the drawing area
-    bool hasLabel = false;
+    std::string label;     ///< empty until it is written
 };
+
+/// The colours of all but the classes of results.
+struct Look
+{
+    QColor toBase;
+    QColor toDesign;
+    QColor base;
+    QColor lineName;
+    QColor name;
+};
+
+const Look& lookOf(bool hasColors)
+{
+    static const Look kPlain{Qt::green, Qt::cyan, Qt::blue, Qt::red, Qt::red};
+    static const Look kGrey{QColor(0xd0, 0xd0, 0xd0), QColor(0x8c, 0x8c, 0x8c), Qt::black,
+                            Qt::black, QColor(0x40, 0x40, 0x40)};
+    return hasColors ? kGrey : kPlain;
+}
 
 /// How the circle around a design position is filled: with the brush of what was drawn before it,
 /// red for a result or a line number, blue for a base station.
@@ -43,16 +67,17 @@ class SurveyPainter
 {
 public:
     SurveyPainter(const SurveyMarks& marks, const PictureFrame& frame, const QString& baseWord,
-                  QPainter& painter)
+                  QPainter& painter, const SurveyPictureOptions& options)
         : m_survey(marks), m_marks(marks.table()), m_frame(frame), m_baseWord(baseWord),
-          m_painter(painter), m_names(painter.font()),
-          m_ratio(painter.device()->devicePixelRatioF()), m_edge(frame.screenArea(1)),
-          m_lineArea(frame.screenArea(kLineMargin))
+          m_painter(painter), m_options(options), m_names(painter.font()),
+          m_look(lookOf(!marks.colors().empty())), m_ratio(painter.device()->devicePixelRatioF()),
+          m_edge(frame.screenArea(1)), m_lineArea(frame.screenArea(kLineMargin))
     {
         const std::size_t longest = std::max<std::size_t>(m_marks.longestName(), 24);
         const double margin = kLineMargin + dpi_scaled(30) + m_names.reach(longest);
         m_screen = frame.screenArea(margin);
         m_area = frame.mapArea(margin);
+        m_colored.resize(marks.colors().size());
         for (const QPointF& map : marks.basePlaces()) {
             ScreenBase base;
             base.place = frame.transform.SurveyToScreen(map);
@@ -69,6 +94,8 @@ public:
             m_frame.lineDone(static_cast<double>(i + 1) * 100.0 /
                              static_cast<double>(lines.size()));
         }
+        paintColored();
+        m_waiting.write(m_painter, m_names, m_frame.screenArea(0), m_screen, m_frame.isStopped);
     }
 
 private:
@@ -111,18 +138,45 @@ private:
         const SurveyMarks::Ties& ties = m_survey.ties(mark);
         const QPointF measured = screenOf(m_marks.place(mark));
         const bool isShown = isInside(measured);
-        drawToBase({measured, m_bases[ties.base].place});
-        if (ties.hasDesign)
+        if (m_options.showsBaseTies)
+            drawToBase({measured, m_bases[ties.base].place});
+        if (ties.hasDesign && m_options.showsOffsets)
             paintDesignPlace(measured, screenOf(ties.design), isShown);
         if (isShown) {
             m_filling = Red;
-            if (m_screen.contains(measured)) {
-                m_measured.draw(m_painter, measured);
-                write(Qt::red, measured + QPointF(14, 4), m_marks.name(mark));
-            }
+            if (m_screen.contains(measured))
+                paintResult(mark, measured);
         }
         if (m_bases[ties.base].isInside)
             paintBase(ties.base);
+    }
+
+    void paintResult(MarkTable::Index mark, const QPointF& place)
+    {
+        const bool isColored = !m_colored.empty();
+        const std::uint32_t rank = isColored ? 1U + m_survey.classOf(mark) : 1U;
+        const double radius = isColored ? kColoredRadius : kRadius;
+        if (isColored)
+            m_colored[m_survey.classOf(mark)].push_back(place);
+        else
+            m_measured.draw(m_painter, place);
+        if (m_options.names == Names::WithRoom)
+            m_waiting.keepFree({place - QPointF(radius, radius), QSizeF(2, 2) * radius});
+        write(m_nameText, place + QPointF(14, 4), m_marks.name(mark), rank);
+    }
+
+    /// Draws the marks with colours, class 0 on top.
+    void paintColored()
+    {
+        for (std::size_t place = m_colored.size(); place-- > 0;) {
+            const QColor color = QColor::fromRgb(m_survey.colors()[place]);
+            const CircleStamp stamp(kColoredRadius, QPen(color), color, m_ratio);
+            for (std::size_t i = 0; i < m_colored[place].size(); ++i) {
+                if (i % kMarksAtOnce == 0 && m_frame.isStopped())
+                    return;
+                stamp.draw(m_painter, m_colored[place][i]);
+            }
+        }
     }
 
     void paintDesignPlace(const QPointF& measured, const QPointF& design, bool isCovered)
@@ -131,7 +185,7 @@ private:
         if (!isCovered || std::hypot(offset.x(), offset.y()) > kHidden)
             drawDashed({measured, design});
         if (m_lineArea.contains(design))
-            m_designs[m_filling].draw(m_painter, design);
+            m_designs[m_colored.empty() ? m_filling : Hollow].draw(m_painter, design);
     }
 
     void paintBase(std::uint32_t index)
@@ -140,18 +194,17 @@ private:
         m_filling = Blue;
         if (m_lineArea.contains(base.place))
             m_base.draw(m_painter, base.place);
-        if (base.hasLabel)
+        if (!base.label.empty())
             return;
-        base.hasLabel = true;
-        const QString label = m_baseWord + QLatin1Char('-') + QString::number(index + 1);
-        write(Qt::blue, base.place + QPointF(14, 4), label.toStdString());
+        base.label = (m_baseWord + QLatin1Char('-') + QString::number(index + 1)).toStdString();
+        write(m_baseText, base.place + QPointF(14, 4), base.label);
     }
 
     void paintLineLabel(const MarkTable::Line& line)
     {
         m_filling = Red;
         const QPointF place = screenOf(m_marks.place(m_marks.firstOf(line)));
-        write(Qt::red, place + QPointF(dpi_scaled(-30), dpi_scaled(5)), line.number);
+        write(m_lineText, place + QPointF(dpi_scaled(-30), dpi_scaled(5)), line.number);
     }
 
     void drawToBase(const QLineF& line)
@@ -181,11 +234,18 @@ private:
         m_painter.drawLine(*seen);
     }
 
-    void write(Qt::GlobalColor color, const QPointF& baseline, std::string_view text)
+    /// \param text stays until the picture is finished
+    /// \param rank see `WaitingNames`
+    void write(const QPen& pen, const QPointF& baseline, std::string_view text,
+               std::uint32_t rank = 0)
     {
-        if (!m_screen.contains(baseline))
+        if (m_options.names == Names::None || !m_screen.contains(baseline))
             return;
-        usePen(color == Qt::red ? m_redText : m_blueText);
+        if (m_options.names == Names::WithRoom) {
+            m_waiting.add({baseline, text, &pen, rank});
+            return;
+        }
+        usePen(pen);
         m_names.write(m_painter, baseline, text);
     }
 
@@ -212,24 +272,29 @@ private:
     const PictureFrame& m_frame;
     const QString& m_baseWord;
     QPainter& m_painter;
+    const SurveyPictureOptions& m_options;
     NameWriter m_names;
+    WaitingNames m_waiting;
+    std::vector<std::vector<QPointF>> m_colored; ///< places of marks by class, screen pixels
     std::vector<ScreenBase> m_bases;
     Filling m_filling = Hollow;
 
-    const QPen m_toBase{QBrush(Qt::green), 1};
-    ThinLine m_thinToBase{m_painter, QColor(Qt::green).rgb()};
-    const QPen m_toDesign{QBrush(Qt::cyan), 1, Qt::DashLine};
-    const QPen m_redText{Qt::red};
-    const QPen m_blueText{Qt::blue};
+    const Look& m_look;
+    const QPen m_toBase{m_look.toBase, 1};
+    ThinLine m_thinToBase{m_painter, m_look.toBase.rgb()};
+    const QPen m_toDesign{m_look.toDesign, 1, Qt::DashLine};
+    const QPen m_nameText{m_look.name};
+    const QPen m_lineText{m_look.lineName};
+    const QPen m_baseText{m_look.base};
     const QPen* m_pen = nullptr; ///< the painter's pen; null when it is none of these
 
     double m_ratio;
     const CircleStamp m_measured{kRadius, QPen(Qt::red), QBrush(Qt::red), m_ratio};
-    const CircleStamp m_base{kRadius, QPen(Qt::blue), QBrush(Qt::blue), m_ratio};
+    const CircleStamp m_base{kRadius, QPen(m_look.base), QBrush(m_look.base), m_ratio};
     const std::array<CircleStamp, 3> m_designs{
-        CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::NoBrush), m_ratio),
-        CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::red), m_ratio),
-        CircleStamp(kRadius, QPen(Qt::cyan), QBrush(Qt::blue), m_ratio)};
+        CircleStamp(kRadius, QPen(m_look.toDesign), QBrush(Qt::NoBrush), m_ratio),
+        CircleStamp(kRadius, QPen(m_look.toDesign), QBrush(Qt::red), m_ratio),
+        CircleStamp(kRadius, QPen(m_look.toDesign), QBrush(Qt::blue), m_ratio)};
 
     QRectF m_edge;     ///< the screen and a pixel around it
     QRectF m_lineArea; ///< no line or circle outside it can be seen, screen pixels
@@ -240,8 +305,8 @@ private:
 } // namespace
 
 void paintSurvey(const SurveyMarks& marks, const PictureFrame& frame, const QString& baseWord,
-                 QPainter& painter)
+                 QPainter& painter, const SurveyPictureOptions& options)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    SurveyPainter(marks, frame, baseWord, painter).paint();
+    SurveyPainter(marks, frame, baseWord, painter, options).paint();
 }

@@ -2,6 +2,8 @@
 
 #include "model/PointLines.h"
 
+#include <type_traits>
+
 /// What is needed to take an import back.
 template <class Points>
 struct TakenOver
@@ -15,7 +17,7 @@ struct TakenOver
 /// \param undo filled when it is not null
 /// \returns how many points were replaced
 template <class Points>
-std::size_t takeOver(Points& points, Points&& staged, TakenOver<Points>* undo)
+std::size_t takeOver(Points& points, std::type_identity_t<Points>&& staged, TakenOver<Points>* undo)
 {
     if (undo == nullptr)
         return points.merge(std::move(staged));

@@ -44,6 +44,7 @@
 #include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
+#include "quality/RepeatChoice.h"
 #include "quality/ResurveyResult.h"
 #include "quality/Verdicts.h"
 #include "reports/ReportInput.h"
@@ -262,7 +263,7 @@ Outcome DataProcessDataManager::importPoints(const EditKind& kind, const QString
     TakenOver<Points>& undo = part->undo();
     edit->add(std::move(part));
     m_unsaved.makeRoom();
-    const Outcome reading = read(summary, undo);
+    Outcome reading = read(summary, undo);
     if (!reading.isDone() || !summary.hasPoints())
         return reading;
     edit->setPoints(summary.pointsNew + summary.pointsReplaced);
@@ -642,10 +643,9 @@ std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
     if (count == 0)
         return 0;
     const auto edit = std::make_shared<Edit>(EditKinds::kRestore, count);
-    const auto add = [&](auto&& part, PointNames names = {}) {
+    const auto add = [&]<class Points>(Points part, PointNames names = {}) {
         names.add(part.names());
-        edit->add(std::make_unique<SomePoints<std::decay_t<decltype(part)>>>(std::move(names),
-                                                                             std::move(part)));
+        edit->add(std::make_unique<SomePoints<Points>>(std::move(names), std::move(part)));
     };
     if (!points.design.empty())
         add(std::move(points.design));
@@ -702,6 +702,24 @@ std::size_t DataProcessDataManager::changeAcceptances(const EditKind& kind,
     edit->add(std::move(part));
     make(edit);
     return count;
+}
+
+std::vector<RepeatedPoint> DataProcessDataManager::repeatedPoints() const
+{
+    return ::repeatedPoints(m_design, m_survey,
+                            qualityParameter(m_qualityParameters, kResurveyCode),
+                            lum::lengthUnitOf(get_project_coord_transform().parameters()).metres);
+}
+
+void DataProcessDataManager::resolveRepeats(ResolvedRepeats&& resolved)
+{
+    if (resolved.results.empty())
+        return;
+    const auto edit =
+        std::make_shared<Edit>(EditKinds::kResolveRepeats, resolved.results.pointCount());
+    edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(resolved.names),
+                                                         std::move(resolved.results)));
+    make(edit);
 }
 
 int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary& parameters,

@@ -35,6 +35,8 @@ struct QualityRow;
 struct ReportChoice;
 struct ReportKind;
 struct Renaming;
+struct RepeatedPoint;
+struct ResolvedRepeats;
 struct SurveyCorrection;
 enum class DesignLines;
 
@@ -186,6 +188,10 @@ public:
     /// Puts points of the history back, over those of the same names.
     /// \returns how many there are
     std::size_t restorePoints(HistoryPoints&& points);
+    /// The points that were measured more than once, see quality/RepeatChoice.h.
+    [[nodiscard]] std::vector<RepeatedPoint> repeatedPoints() const;
+    /// Gives each of them one result; the others are gone.
+    void resolveRepeats(ResolvedRepeats&& resolved);
 
     // Problems that the user accepts as they are.
 
@@ -194,7 +200,7 @@ public:
     /// that of the edit. Those that are accepted for the same reason already are passed over.
     /// \returns how many are accepted
     std::size_t accept(std::vector<Acceptance> problems);
-    /// Lists accepted problems again; what is not accepted is passed over.
+    /// Opens accepted problems again; what is not accepted is passed over.
     /// \returns how many there are
     std::size_t endAcceptances(std::vector<Acceptance> problems);
     /// Says of each problem whether it is accepted; needed when the acceptances are others than

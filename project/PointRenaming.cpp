@@ -3,7 +3,7 @@
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
 #include "project/PointCorrection.h"
-#include "quality/problems/ResultName.h"
+#include "quality/MeasuredPoint.h"
 
 #include <QCoreApplication>
 
@@ -129,14 +129,13 @@ Outcome renameResults(const DesignPoints& design, const SurveyPoints& survey,
 {
     if (Outcome examination = examine(survey, renamings); !examination.isDone())
         return examination;
-    const ResultNames names(design, resurveyCode);
     std::vector<PointName> allNames;
     SurveyPointFiler filer(renamed.results, &survey);
     for (const auto& [from, to] : renamings) {
         SurveyPoint result = *survey.find(from.line, from.point);
         result.lineNumber = to.line;
         result.pointNumber = to.point;
-        if (const DesignPoint* const point = names.pointOf(result).design)
+        if (const DesignPoint* const point = measuredPoint(design, to.line, to.point, resurveyCode))
             followDesign(result, design, *point);
         const SurveyPoint& filed = filer.file(std::move(result));
         allNames.push_back(from);

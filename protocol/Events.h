@@ -25,10 +25,10 @@ inline constexpr const char* kProjectModified = "ON_PROJECT_MODIFIED";
 
 /// Checks, corrected points -> design table, attribute panel. No payload.
 inline constexpr const char* kRefreshDesignTable = "REFRESH_DESIGN_TABLE";
-/// Coordinate format, quality check, time zone, corrected points -> survey table, attribute panel.
-/// No payload.
+/// Coordinate format, quality check, time zone, corrected points -> survey table, attribute panel,
+/// data layer. No payload.
 inline constexpr const char* kRefreshSurveyTable = "REFRESH_SURVEY_TABLE";
-/// Resurvey check -> attribute panel. No payload.
+/// Resurvey check -> attribute panel, data layer. No payload.
 inline constexpr const char* kResurveysChecked = "ON_RESURVEYS_CHECKED";
 /// The dialog of the survey columns, the table's header -> survey table. No payload.
 inline constexpr const char* kSurveyColumnsChanged = "ON_SURVEY_COLUMNS_CHANGED";

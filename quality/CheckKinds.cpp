@@ -119,6 +119,7 @@ const CheckKind kQualityCheck{"quality", runQuality, qualityResult, kMetreNote};
 const CheckKind kEmptyPointCheck{"empty", runEmptyPoints, emptyPointResult, kProjectUnitNote};
 const CheckKind kResurveyCheck{"resurvey", runResurveys, resurveyResult, kProjectUnitNote};
 const CheckKind kRepeatPointCheck{"repeat", nullptr, repeatPointResult, kProjectUnitNote};
+const CheckKind kRepeatChoiceList{"", nullptr, nullptr, kMetreNote};
 
 namespace {
 

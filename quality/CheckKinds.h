@@ -43,6 +43,8 @@ extern const CheckKind kQualityCheck;
 extern const CheckKind kEmptyPointCheck;
 extern const CheckKind kResurveyCheck;
 extern const CheckKind kRepeatPointCheck;
+/// No check: the unit note of the list in which repeats are resolved.
+extern const CheckKind kRepeatChoiceList;
 
 /// A translated sentence about the units in the result of a check; empty while the open project's
 /// coordinates are metres.

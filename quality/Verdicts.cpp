@@ -9,11 +9,14 @@ Verdicts verdictsOf(const DesignPoints& design, const SurveyPoints& survey)
     found.codes.reserve(design.pointCount() + 2 * results);
     found.differences.reserve(3 * results);
     for (const auto& [number, line] : design) {
-        for (const DesignPoint& point : line)
+        for (const DesignPoint& point : line) {
+            fetchAhead(point);
             found.codes.push_back(point.status);
+        }
     }
     for (const auto& [number, line] : survey) {
         for (const SurveyPoint& point : line) {
+            fetchAhead(point);
             found.codes.insert(found.codes.end(), {point.qualityStandard, point.isResurvey});
             for (const double difference :
                  {point.resurveyXDiff, point.resurveyYDiff, point.resurveyHDiff})

@@ -114,6 +114,7 @@ public:
         m_host.windows().activate(QStringLiteral("Survey Data List"));
         m_host.commands().execute(QStringLiteral("Survey View"));
         paintMap("guide-survey"); // near the fault; from afar it is a maze
+        paintColors();
         m_host.commands().execute(QStringLiteral("Design View"));
         paintWorkingPlace();
         paintColumns();
@@ -157,6 +158,16 @@ private:
                        kRiverBank.top());
         paintMap("guide-ground");
         m_host.commands().execute(QStringLiteral("Design View"));
+    }
+
+    /// The whole survey by verdict, without the lines to the bases.
+    void paintColors()
+    {
+        for (const char* command : {"Colors Verdict", "Base Ties", "Zoom to All"})
+            m_host.commands().execute(QLatin1String(command));
+        paintMap("guide-colors");
+        for (const char* command : {"Colors None", "Base Ties"})
+            m_host.commands().execute(QLatin1String(command));
     }
 
     void paintSystem()

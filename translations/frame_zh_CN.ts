@@ -168,6 +168,110 @@
         <translation>工区边界(&amp;B)</translation>
     </message>
     <message>
+        <source>Resul&amp;t Colours</source>
+        <translation>成果着色(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>无(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Show the results on the map in red, and the table without colours</source>
+        <translation>地图上的成果为红色，列表不着色</translation>
+    </message>
+    <message>
+        <source>&amp;Verdict</source>
+        <translation>结论(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Colour the results by what is wrong with them, on the survey map and in the table</source>
+        <translation>在测量视图和列表中，按成果存在的问题着色</translation>
+    </message>
+    <message>
+        <source>&amp;Solution Type</source>
+        <translation>解类型(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Colour the results by their solution, on the survey map and in the table</source>
+        <translation>在测量视图和列表中，按解类型着色</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal Accuracy</source>
+        <translation>水平精度(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Colour the results by their horizontal accuracy, on the survey map and in the table</source>
+        <translation>在测量视图和列表中，按水平精度着色</translation>
+    </message>
+    <message>
+        <source>S&amp;urveyor</source>
+        <translation>测量员(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Colour the results by who measured them, on the survey map and in the table</source>
+        <translation>在测量视图和列表中，按测量员着色</translation>
+    </message>
+    <message>
+        <source>&amp;Rover</source>
+        <translation>流动站(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Colour the results by the rover, on the survey map and in the table</source>
+        <translation>在测量视图和列表中，按流动站着色</translation>
+    </message>
+    <message>
+        <source>&amp;Day</source>
+        <translation>日期(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Colour the results of the last seven days, on the survey map and in the table</source>
+        <translation>在测量视图和列表中，给最近七天的成果着色</translation>
+    </message>
+    <message>
+        <source>Results on the M&amp;ap</source>
+        <translation>地图上的成果(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Lines to the Base Stations</source>
+        <translation>到基站的连线(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Show or hide the line from each result to its base station</source>
+        <translation>显示或隐藏每个成果到其基站的连线</translation>
+    </message>
+    <message>
+        <source>&amp;Offsets from the Design</source>
+        <translation>与设计位置的偏移(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show or hide the design position of each result, and the line to it</source>
+        <translation>显示或隐藏每个成果的设计位置及到它的连线</translation>
+    </message>
+    <message>
+        <source>&amp;All Names</source>
+        <translation>全部点名(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Write the name of every result</source>
+        <translation>显示每个成果的点名</translation>
+    </message>
+    <message>
+        <source>Names Where There Is &amp;Room</source>
+        <translation>放得下的点名(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Write names so that none covers another</source>
+        <translation>只显示互不遮挡的点名</translation>
+    </message>
+    <message>
+        <source>&amp;No Names</source>
+        <translation>不显示点名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Write no names</source>
+        <translation>不显示点名</translation>
+    </message>
+    <message>
         <source>Show or hide the rectangle around the survey</source>
         <translation>显示或隐藏工区的外接矩形</translation>
     </message>
@@ -290,6 +394,14 @@
     <message>
         <source>Find points that were measured more than once</source>
         <translation>查找重复测量的点</translation>
+    </message>
+    <message>
+        <source>Resol&amp;ve Repeats...</source>
+        <translation>重复测量取舍(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Keep one result of each point that was measured more than once</source>
+        <translation>对多次测量的点只保留一个结果</translation>
     </message>
     <message>
         <source>&amp;Design</source>

@@ -266,10 +266,32 @@
     </message>
 </context>
 <context>
+    <name>CheckProblems</name>
+    <message>
+        <source>The resurvey %1 lies %2 off in north.</source>
+        <translation>复测点 %1 的北坐标相差 %2。</translation>
+    </message>
+    <message>
+        <source>The resurvey %1 lies %2 off in east.</source>
+        <translation>复测点 %1 的东坐标相差 %2。</translation>
+    </message>
+    <message>
+        <source>The resurvey %1 lies %2 off in height.</source>
+        <translation>复测点 %1 的高程相差 %2。</translation>
+    </message>
+</context>
+<context>
     <name>CheckRun</name>
     <message>
         <source>success</source>
         <translation>成功</translation>
+    </message>
+</context>
+<context>
+    <name>CheckShotProblems</name>
+    <message>
+        <source>Points measured that day: %1. Measured again: %2, at least %3 are wanted.</source>
+        <translation>当天测量点数：%1。复测点数：%2，至少需要 %3 个。</translation>
     </message>
 </context>
 <context>
@@ -1167,6 +1189,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>CrewList</name>
+    <message>
+        <source>Points to measure again: %1.</source>
+        <translation>需重测的点：%1。</translation>
+    </message>
+    <message>
+        <source>Names without a design point: %1, first %2/%3.</source>
+        <translation>没有设计点的点名：%1，第一个为 %2/%3。</translation>
+    </message>
+    <message>
+        <source>Problems of a line or a group, without a point: %1.</source>
+        <translation>属于测线或一组成果、没有点的问题：%1。</translation>
+    </message>
+</context>
+<context>
     <name>CrewPanel</name>
     <message>
         <source>Crews</source>
@@ -1816,6 +1853,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Version %1</source>
         <translation>版本 %1</translation>
+    </message>
+</context>
+<context>
+    <name>DlgAcceptProblems</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1：%2</translation>
+    </message>
+    <message>
+        <source>Accept Problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They leave the list of the open problems. One comes back when a record that it is about changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>such as: the stake was moved with the client&apos;s consent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reason:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">取消</translation>
     </message>
 </context>
 <context>
@@ -2513,12 +2581,103 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>请确认输入的复测代码是不为&apos; C &apos;的单个字母</source>
         <translation>请确认输入的复测代码是不为&apos; C &apos;的单个字母</translation>
     </message>
+    <message>
+        <source>Checks</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>问题</translation>
+    </message>
 </context>
 <context>
     <name>DlgQCResult</name>
     <message>
         <source>Quality Check Result</source>
         <translation>质量检查结果</translation>
+    </message>
+</context>
+<context>
+    <name>DlgRepeatChoice</name>
+    <message>
+        <source>No point was measured more than once.</source>
+        <translation>没有被多次测量的点。</translation>
+    </message>
+    <message>
+        <source>Points measured more than once: %1, with %2 results.</source>
+        <translation>多次测量的点：%1 个，共 %2 个结果。</translation>
+    </message>
+    <message>
+        <source>Results to be removed, which stay in the history: %1.</source>
+        <translation>将移除的结果（保留在修改历史中）：%1 个。</translation>
+    </message>
+    <message>
+        <source>Points that stay as they are, too far apart for a mean: %1.</source>
+        <translation>相差过大、不能取平均而保持原样的点：%1 个。</translation>
+    </message>
+    <message>
+        <source>The tolerance is a number from 0 to %1 metres.</source>
+        <translation>限差为 0 到 %1 米之间的数字。</translation>
+    </message>
+    <message>
+        <source>Resolve Repeats</source>
+        <translation>重复测量取舍</translation>
+    </message>
+    <message>
+        <source>if they differ by at &amp;most</source>
+        <translation>相差不超过(&amp;M)</translation>
+    </message>
+    <message>
+        <source>The first</source>
+        <translation>第一次</translation>
+    </message>
+    <message>
+        <source>The last</source>
+        <translation>最后一次</translation>
+    </message>
+    <message>
+        <source>The most accurate</source>
+        <translation>精度最高的</translation>
+    </message>
+    <message>
+        <source>The weighted mean</source>
+        <translation>加权平均值</translation>
+    </message>
+    <message>
+        <source>The most accurate: a fixed solution before others, then the smallest HRMS and VRMS. The mean is weighted by HRMS and VRMS.</source>
+        <translation>精度最高的：固定解优先，其次 HRMS 和 VRMS 最小。平均值按 HRMS 和 VRMS 加权。</translation>
+    </message>
+    <message>
+        <source>Points whose measurements differ by more, on the plane or in height, stay as they are.</source>
+        <translation>各次测量在平面或高程上相差更大的点保持原样。</translation>
+    </message>
+    <message>
+        <source>&amp;Of several measurements stays:</source>
+        <translation>多次测量中保留(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Resolve &amp;Selected (%1)</source>
+        <translation>处理所选(&amp;S) (%1)</translation>
+    </message>
+    <message>
+        <source>Resolve &amp;All (%1)</source>
+        <translation>处理全部(&amp;A) (%1)</translation>
+    </message>
+    <message>
+        <source>The results have changed: nothing was resolved.</source>
+        <translation>测量结果已变化：未作任何处理。</translation>
+    </message>
+    <message>
+        <source>Points resolved: %1. Results removed: %2. Left as they are: %3.</source>
+        <translation>已处理的点：%1。已移除的结果：%2。保持原样：%3。</translation>
     </message>
 </context>
 <context>
@@ -2534,6 +2693,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Results deleted: %1. %2</source>
         <translation>已删除的成果：%1。%2</translation>
+    </message>
+    <message>
+        <source>&amp;Resolve Repeats...</source>
+        <translation>重复测量取舍(&amp;R)...</translation>
     </message>
 </context>
 <context>
@@ -2815,6 +2978,54 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Restored points</source>
         <translation>恢复点</translation>
+    </message>
+    <message>
+        <source>Rename %1 results</source>
+        <translation>改 %1 个成果的点名</translation>
+    </message>
+    <message>
+        <source>Rename a result</source>
+        <translation>改一个成果的点名</translation>
+    </message>
+    <message>
+        <source>New names of results</source>
+        <translation>成果改名</translation>
+    </message>
+    <message>
+        <source>Accept %1 problems</source>
+        <translation>接受 %1 个问题</translation>
+    </message>
+    <message>
+        <source>Accept a problem</source>
+        <translation>接受一个问题</translation>
+    </message>
+    <message>
+        <source>Accepted problems</source>
+        <translation>接受的问题</translation>
+    </message>
+    <message>
+        <source>Open %1 problems again</source>
+        <translation>重新打开 %1 个问题</translation>
+    </message>
+    <message>
+        <source>Open a problem again</source>
+        <translation>重新打开一个问题</translation>
+    </message>
+    <message>
+        <source>Problems opened again</source>
+        <translation>重新打开的问题</translation>
+    </message>
+    <message>
+        <source>Resolve %1 repeated points</source>
+        <translation>处理 %1 个重复测量点</translation>
+    </message>
+    <message>
+        <source>Resolve a repeated point</source>
+        <translation>处理一个重复测量点</translation>
+    </message>
+    <message>
+        <source>Resolved repeats</source>
+        <translation>重复测量取舍</translation>
     </message>
 </context>
 <context>
@@ -3338,6 +3549,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>not saved yet</source>
         <translation>尚未保存</translation>
     </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>accepted</source>
+        <translation>已接受</translation>
+    </message>
+    <message>
+        <source>open again</source>
+        <translation>重新打开</translation>
+    </message>
 </context>
 <context>
     <name>ImportFindingsModel</name>
@@ -3567,6 +3790,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Quality</source>
         <translation>质量</translation>
     </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
 </context>
 <context>
     <name>LayerWindow</name>
@@ -3600,6 +3827,61 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>LineKinds</name>
+    <message>
+        <source>The same at more points of the line: %1.</source>
+        <translation>该测线还有 %1 个点相同。</translation>
+    </message>
+    <message>
+        <source>%1 m to %2, where points of the line are %3 m apart.</source>
+        <translation>到 %2 的距离为 %1 m，而本测线的点距为 %3 m。</translation>
+    </message>
+    <message>
+        <source>The next point, %1, is only %2 m away, but between them numbers are missing: %3.</source>
+        <translation>下一个点 %1 只相距 %2 m，但两者之间缺 %3 个点号。</translation>
+    </message>
+    <message>
+        <source>The next point is %1, %2 m away; numbers missing between them: %3.</source>
+        <translation>下一个点是 %1，相距 %2 m；两者之间缺 %3 个点号。</translation>
+    </message>
+    <message>
+        <source>Its azimuth is %1 degrees, that of %2 is %3.</source>
+        <translation>它的方位角是 %1 度，%2 的方位角是 %3 度。</translation>
+    </message>
+    <message>
+        <source>Stands %1 m beside the line.</source>
+        <translation>偏离测线 %1 m。</translation>
+    </message>
+    <message>
+        <source>The numbers of the line run the other way than those of the lines beside it.</source>
+        <translation>该测线的点号走向与旁边的测线相反。</translation>
+    </message>
+    <message>
+        <source>Stands in reversed order with %1.</source>
+        <translation>与 %1 的顺序颠倒。</translation>
+    </message>
+    <message>
+        <source>From here to %1 the numbers run against the line; points: %2.</source>
+        <translation>从这里到 %1 的 %2 个点，点号走向与测线相反。</translation>
+    </message>
+    <message>
+        <source>Stands %1 m from %2.</source>
+        <translation>与 %2 只相距 %1 m。</translation>
+    </message>
+    <message>
+        <source>Points of line %1 lie between points of this line, the first is %2; points: %3.</source>
+        <translation>测线 %1 有 %3 个点夹在本测线的点之间，第一个是 %2。</translation>
+    </message>
+    <message>
+        <source>%1 m above its neighbours in the line.</source>
+        <translation>比测线上的相邻点高 %1 m。</translation>
+    </message>
+    <message>
+        <source>%1 m below its neighbours in the line.</source>
+        <translation>比测线上的相邻点低 %1 m。</translation>
+    </message>
+</context>
+<context>
     <name>LineTree</name>
     <message>
         <source>Search</source>
@@ -3612,6 +3894,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Collapse All</source>
         <translation>全部折叠</translation>
+    </message>
+</context>
+<context>
+    <name>ListProblems</name>
+    <message>
+        <source>Problems</source>
+        <translation>问题</translation>
     </message>
 </context>
 <context>
@@ -3641,6 +3930,40 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&quot;%1&quot; is not a file that can be opened here.</source>
         <translation>“%1”不是可以在此打开的文件。</translation>
+    </message>
+</context>
+<context>
+    <name>NameProblems</name>
+    <message>
+        <source>Is probably %1: it is %2 m from %3, and no point has its name.</source>
+        <translation>可能是 %1：距 %3 只有 %2 m，而没有点叫它的点名。</translation>
+    </message>
+    <message>
+        <source>Is probably %1, %2 m away; its own is %3 m away.</source>
+        <translation>可能是 %1，相距 %2 m；离它自己的设计点 %3 m。</translation>
+    </message>
+    <message>
+        <source>Stands where %1 does, %2 m from its design point; its own is %3 m away. It is probably one more measurement of %1.</source>
+        <translation>与 %1 在同一位置，距其设计点 %2 m；离它自己的设计点 %3 m。它可能是 %1 的又一次测量。</translation>
+    </message>
+    <message>
+        <source>Its name and that of %1 are probably exchanged: it is %2 m from the design point of %1; its own is %3 m away.</source>
+        <translation>它与 %1 的点名可能互换了：距 %1 的设计点 %2 m，离它自己的设计点 %3 m。</translation>
+    </message>
+    <message>
+        <source>Has no result, but the result %1 stands %2 m from it, and no point has that name.</source>
+        <translation>没有成果，但成果 %1 距它 %2 m，而没有点叫这个点名。</translation>
+    </message>
+</context>
+<context>
+    <name>NeighbourProblems</name>
+    <message>
+        <source>It is %1 higher than its neighbours.</source>
+        <translation>它比相邻的成果高 %1。</translation>
+    </message>
+    <message>
+        <source>It is %1 lower than its neighbours.</source>
+        <translation>它比相邻的成果低 %1。</translation>
     </message>
 </context>
 <context>
@@ -3901,6 +4224,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>PointRenaming</name>
+    <message>
+        <source>There is no result %1 any more: nothing was renamed.</source>
+        <translation>成果 %1 已不存在：没有改名。</translation>
+    </message>
+    <message>
+        <source>Another result has the name %1: nothing was renamed. Give that one its right name first, or both at once.</source>
+        <translation>另一个成果已有点名 %1：没有改名。请先改正那一个的点名，或者两个一起改。</translation>
+    </message>
+</context>
+<context>
     <name>PointRestore</name>
     <message>
         <source>Points restored: %1.</source>
@@ -3921,6 +4255,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Parameters cannot be restored here: %1.</source>
         <translation>参数不能在此恢复：%1。</translation>
+    </message>
+    <message>
+        <source>Accepted problems cannot be restored here: %1.</source>
+        <translation>已接受的问题不能在此恢复：%1。</translation>
     </message>
 </context>
 <context>
@@ -3981,12 +4319,608 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>History of This Point</source>
         <translation>此点的历史</translation>
     </message>
+    <message>
+        <source>Points: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PointVisit</name>
     <message>
         <source>Point %1 is not in the project now.</source>
         <translation>工程中现在没有点 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemActions</name>
+    <message>
+        <source>&amp;Accept...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say why the selected problems may be so; they leave the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open A&amp;gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the selected problems back into the list of the open ones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ca&amp;rry Out Proposal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the selected results the names that are proposed; it can be undone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure Agai&amp;n...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the design points of the selected problems for the crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;List for the Crew...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the points of all errors and warnings that are shown as CSV or KML: what is not surveyed, and what must be measured again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation type="unfinished">另存为 CSV(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Write the rows that are shown, as they are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished">复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy with H&amp;eaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted by %1 on %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems accepted: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems open again: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result %1 is now %2. Ctrl+Z takes it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results with new names: %1. Ctrl+Z takes it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Carry Out Proposal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points for the Crew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No error and no warning that is shown has a point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProblemColumns</name>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线号</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限差</translation>
+    </message>
+    <message>
+        <source>Rover</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemFinders</name>
+    <message>
+        <source>Find Problems</source>
+        <translation>查找问题</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemKindBar</name>
+    <message>
+        <source>Kinds of problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All open problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProblemKinds</name>
+    <message>
+        <source>Not surveyed</source>
+        <translation>未测量</translation>
+    </message>
+    <message>
+        <source>Resurvey out of range</source>
+        <translation>复测超限</translation>
+    </message>
+    <message>
+        <source>Resurvey without its point</source>
+        <translation>复测无对应点</translation>
+    </message>
+    <message>
+        <source>Measured again</source>
+        <translation>重复测量</translation>
+    </message>
+    <message>
+        <source>Spacing in the line</source>
+        <translation>测线点距</translation>
+    </message>
+    <message>
+        <source>Gap in the numbers</source>
+        <translation>点号缺口</translation>
+    </message>
+    <message>
+        <source>Azimuth spike</source>
+        <translation>方位角突变</translation>
+    </message>
+    <message>
+        <source>Reversed order</source>
+        <translation>顺序颠倒</translation>
+    </message>
+    <message>
+        <source>Points in one place</source>
+        <translation>位置重合</translation>
+    </message>
+    <message>
+        <source>Interleaved lines</source>
+        <translation>测线交错</translation>
+    </message>
+    <message>
+        <source>Height jump</source>
+        <translation>高程突变</translation>
+    </message>
+    <message>
+        <source>Wrong name</source>
+        <translation>点名错误</translation>
+    </message>
+    <message>
+        <source>Exchanged names</source>
+        <translation>点名互换</translation>
+    </message>
+    <message>
+        <source>Foreign result on an empty point</source>
+        <translation>空点上有别的成果</translation>
+    </message>
+    <message>
+        <source>Height off its neighbours</source>
+        <translation>高程与相邻点不符</translation>
+    </message>
+    <message>
+        <source>Too far from the design</source>
+        <translation>偏离设计位置</translation>
+    </message>
+    <message>
+        <source>Height off the design</source>
+        <translation>偏离设计高程</translation>
+    </message>
+    <message>
+        <source>Base station too far</source>
+        <translation>基准站过远</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Vertical accuracy</source>
+        <translation>垂直精度</translation>
+    </message>
+    <message>
+        <source>Antenna too high</source>
+        <translation>天线过高</translation>
+    </message>
+    <message>
+        <source>Antenna too low</source>
+        <translation>天线过低</translation>
+    </message>
+    <message>
+        <source>Too few satellites</source>
+        <translation>卫星数不足</translation>
+    </message>
+    <message>
+        <source>Too far beside its line</source>
+        <translation>横向偏差超限</translation>
+    </message>
+    <message>
+        <source>Too far along its line</source>
+        <translation>纵向偏差超限</translation>
+    </message>
+    <message>
+        <source>Without design position</source>
+        <translation>没有设计位置</translation>
+    </message>
+    <message>
+        <source>Without position</source>
+        <translation>没有坐标</translation>
+    </message>
+    <message>
+        <source>Solution type</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Old corrections</source>
+        <translation>差分改正过旧</translation>
+    </message>
+    <message>
+        <source>Too few epochs</source>
+        <translation>历元数不足</translation>
+    </message>
+    <message>
+        <source>Occupied too shortly</source>
+        <translation>观测时间过短</translation>
+    </message>
+    <message>
+        <source>Too few check shots</source>
+        <translation>检核点过少</translation>
+    </message>
+    <message>
+        <source>Base coordinates wrong</source>
+        <translation>基准站坐标有误</translation>
+    </message>
+    <message>
+        <source>Pole height wrong</source>
+        <translation>杆高有误</translation>
+    </message>
+    <message>
+        <source>Survey off the design</source>
+        <translation>测量整体偏离设计</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemLimits</name>
+    <message>
+        <source>Solution type, at least</source>
+        <translation>解类型，至少</translation>
+    </message>
+    <message>
+        <source>From the best: fixed, float, differential, single.</source>
+        <translation>由好到差：固定解、浮点解、差分解、单点解。</translation>
+    </message>
+    <message>
+        <source>Age of corrections, max.</source>
+        <translation>差分龄期，最大</translation>
+    </message>
+    <message>
+        <source>Epochs, min.</source>
+        <translation>历元数，最少</translation>
+    </message>
+    <message>
+        <source>Occupation, min.</source>
+        <translation>观测时长，最短</translation>
+    </message>
+    <message>
+        <source>From start time to end time. A result without them has none.</source>
+        <translation>从开始时间到结束时间。没有这两个时间的成果没有观测时长。</translation>
+    </message>
+    <message>
+        <source>RMS, max.</source>
+        <translation>RMS，最大</translation>
+    </message>
+    <message>
+        <source>Height from that of its neighbours, max.</source>
+        <translation>与相邻成果的高差，最大</translation>
+    </message>
+    <message>
+        <source>The height of a result is compared with the median of the nearest results.</source>
+        <translation>成果的高程与最近几个成果高程的中位数比较。</translation>
+    </message>
+    <message>
+        <source>Nearer to another design point, min.</source>
+        <translation>离另一设计点更近，至少</translation>
+    </message>
+    <message>
+        <source>A result that is nearer to another design point than to its own by more than this has a wrong name.</source>
+        <translation>成果离另一设计点比离自己的设计点近得超过此值时，点名错误。</translation>
+    </message>
+    <message>
+        <source>Distance from that point, max.</source>
+        <translation>距该点的距离，最大</translation>
+    </message>
+    <message>
+        <source>A stake that was moved aside from an obstacle is farther from all other points than this.</source>
+        <translation>因障碍物移动的桩位离所有其他点都比这更远。</translation>
+    </message>
+    <message>
+        <source>Spacing off the line&apos;s median, max.</source>
+        <translation>点距偏离测线中位数，最大</translation>
+    </message>
+    <message>
+        <source>Missing numbers in a row, max.</source>
+        <translation>连续缺少的点号，最多</translation>
+    </message>
+    <message>
+        <source>Longer gaps, and gaps beside each other in neighbouring lines, are taken for planned.</source>
+        <translation>更长的缺口，以及相邻测线上并排的缺口，视为有意留出。</translation>
+    </message>
+    <message>
+        <source>Azimuth spike, max.</source>
+        <translation>方位角突变，最大</translation>
+    </message>
+    <message>
+        <source>A bend of the line is no spike: a spike leads away from the line and back.</source>
+        <translation>测线转弯不是突变：突变是离开测线又回来。</translation>
+    </message>
+    <message>
+        <source>Points in reversed order, min.</source>
+        <translation>顺序颠倒的点，至少</translation>
+    </message>
+    <message>
+        <source>Coincident points, max. distance</source>
+        <translation>重合点，最大距离</translation>
+    </message>
+    <message>
+        <source>Receivers and sources may be in the same place.</source>
+        <translation>接收点与激发点可以在同一位置。</translation>
+    </message>
+    <message>
+        <source>Points among those of another line, min.</source>
+        <translation>夹在另一测线点间的点，至少</translation>
+    </message>
+    <message>
+        <source>Height jump in the line, max.</source>
+        <translation>测线高程突变，最大</translation>
+    </message>
+    <message>
+        <source>Above or below all neighbours in the line; a slope is no jump.</source>
+        <translation>高于或低于测线上的所有相邻点；斜坡不是突变。</translation>
+    </message>
+    <message>
+        <source>Stakes moved aside, max.</source>
+        <translation>桩位移动，最大</translation>
+    </message>
+    <message>
+        <source>For results that have no design points to compare them with.</source>
+        <translation>用于没有设计点可比较的成果。</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>点名</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>测线</translation>
+    </message>
+    <message>
+        <source>Check shots of a crew and day</source>
+        <translation>每组每天的检核点比例</translation>
+    </message>
+    <message>
+        <source>How many of the points of a day are to be measured again.</source>
+        <translation>当天测量的点中需要复测的比例。</translation>
+    </message>
+    <message>
+        <source>Check shots, min.</source>
+        <translation>检核点最少个数</translation>
+    </message>
+    <message>
+        <source>Shift of a base on the plane, max.</source>
+        <translation>基准站平面偏移上限</translation>
+    </message>
+    <message>
+        <source>What all results of a base and a day are off by the same is a wrong base.</source>
+        <translation>同一基准站同一天的全部结果偏移相同，即基准站有误。</translation>
+    </message>
+    <message>
+        <source>Shift of a base or a pole in height, max.</source>
+        <translation>基准站或杆高的高程偏移上限</translation>
+    </message>
+    <message>
+        <source>What all results of a base or a rover and a day are off in height by the same is a wrong base or pole height.</source>
+        <translation>同一基准站或流动站同一天的全部结果高程偏移相同，即基准站或杆高有误。</translation>
+    </message>
+    <message>
+        <source>Results that show a shift, min.</source>
+        <translation>判定偏移所需的最少结果数</translation>
+    </message>
+    <message>
+        <source>Check shots</source>
+        <translation>检核点</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemLimitsPage</name>
+    <message>
+        <source>Off</source>
+        <translation>不限</translation>
+    </message>
+    <message>
+        <source>Find Problems looks at these limits. 0 switches one off.</source>
+        <translation>“查找问题”使用这些限差。0 表示不限。</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWindow</name>
+    <message>
+        <source>Problems: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation type="unfinished">问题</translation>
+    </message>
+    <message>
+        <source>Points or limits have changed since these problems were found. &lt;a href=&quot;find&quot;&gt;Find them again&lt;/a&gt; (Ctrl+F9)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find Problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run everything that is on and list what is wrong (Ctrl+F9)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished">搜索</translation>
+    </message>
+    <message>
+        <source>Shows the problems with this line, point, rover, surveyor or kind. A line and a point together: 1001/10015001</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems: %1 (errors: %2, warnings: %3, notes: %4). Accepted: %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No project is open.</source>
+        <translation type="unfinished">没有打开的工程。</translation>
+    </message>
+    <message>
+        <source>What must the crew do tomorrow? &lt;a href=&quot;find&quot;&gt;Find the problems&lt;/a&gt; of the design and of all results (Ctrl+F9).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No problem passes the filters. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No problem was found. Results: %1, design points: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter of &quot;%1&quot;: %2</source>
+        <translation type="unfinished">“%1”的筛选条件：%2</translation>
+    </message>
+    <message>
+        <source>No problem passes the filters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no problem in the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is the first of %1 problems.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This was the last of %1 problems.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point %1 is not in the project any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem %1 of %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem %1 of %2, %3: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Filter by This Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show on the &amp;Map</source>
+        <translation type="unfinished">在地图上显示(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;History of This Point</source>
+        <translation type="unfinished">此点的历史(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -4237,6 +5171,22 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>The points are saved. The history of this project does not take what you have changed: %1.</source>
         <translation>点已保存。此工程的历史记录未能写入您所做的更改：%1。</translation>
     </message>
+    <message>
+        <source>Accepted problems of this project that a newer version of the program has written: %1. They are kept, but not shown as accepted.</source>
+        <translation>本工程中由较新版本的程序写入的已接受问题：%1。它们会保留，但不显示为已接受。</translation>
+    </message>
+    <message>
+        <source>The accepted problems of this project are of another version of the program. They are kept, but not shown, and what you accept is not added to them.</source>
+        <translation>本工程的已接受问题由其他版本的程序写入。它们会保留，但不显示，您接受的问题也不会加入其中。</translation>
+    </message>
+    <message>
+        <source>The accepted problems of this project cannot be read: %1.</source>
+        <translation>无法读取本工程的已接受问题：%1。</translation>
+    </message>
+    <message>
+        <source>The points are saved, but not which problems you have accepted: %1.</source>
+        <translation>各点已保存，但您接受的问题未能保存：%1。</translation>
+    </message>
 </context>
 <context>
     <name>PropertyGrid</name>
@@ -4436,6 +5386,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The minus does not count: the limit is %1.</source>
         <translation>负号不起作用：限差为 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>QualityProblems</name>
+    <message>
+        <source>The result does not say where its point was designed, so nobody knows how far from there it lies.</source>
+        <translation>该成果没有记录点的设计位置，因此无法知道它偏离多远。</translation>
+    </message>
+    <message>
+        <source>North, east or elevation of the result is no number.</source>
+        <translation>该成果的北坐标、东坐标或高程不是数字。</translation>
     </message>
 </context>
 <context>
@@ -5317,6 +6278,77 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>ResultColors</name>
+    <message>
+        <source>off its place</source>
+        <translation>偏离设计位置</translation>
+    </message>
+    <message>
+        <source>resurvey at fault</source>
+        <translation>复测有误</translation>
+    </message>
+    <message>
+        <source>poor fix</source>
+        <translation>定位质量差</translation>
+    </message>
+    <message>
+        <source>wrong antenna height</source>
+        <translation>天线高有误</translation>
+    </message>
+    <message>
+        <source>no design position</source>
+        <translation>无设计坐标</translation>
+    </message>
+    <message>
+        <source>within limits</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>over the limit of %1 m</source>
+        <translation>超过限差 %1 m</translation>
+    </message>
+    <message>
+        <source>up to %1 m</source>
+        <translation>不超过 %1 m</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <translation>未注明</translation>
+    </message>
+    <message>
+        <source>others (%1)</source>
+        <translation>其他（%1）</translation>
+    </message>
+    <message>
+        <source>earlier</source>
+        <translation>更早</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>Solution type</source>
+        <translation>解类型</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy</source>
+        <translation>水平精度</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Rover</source>
+        <translation>流动站</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+</context>
+<context>
     <name>ResultCsv</name>
     <message>
         <source>The file &quot;%1&quot; cannot be written: %2.</source>
@@ -5443,6 +6475,54 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>elevation diff</source>
         <translation>高差</translation>
+    </message>
+    <message>
+        <source>all: too far apart</source>
+        <translation>全部：相差过大</translation>
+    </message>
+    <message>
+        <source>mean of %1</source>
+        <translation>%1 次平均</translation>
+    </message>
+    <message>
+        <source>The measurements differ by more than the tolerance: the point stays as it is.</source>
+        <translation>各次测量之差超过限差：该点保持原样。</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>测量次数</translation>
+    </message>
+    <message>
+        <source>Differ</source>
+        <translation>平面相差</translation>
+    </message>
+    <message>
+        <source>In height</source>
+        <translation>高程相差</translation>
+    </message>
+    <message>
+        <source>Stays</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Surveyor</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>HRMS</source>
+        <translation>HRMS</translation>
+    </message>
+    <message>
+        <source>Point moves</source>
+        <translation>点位移动</translation>
+    </message>
+    <message>
+        <source>Up by</source>
+        <translation>升高</translation>
     </message>
 </context>
 <context>
@@ -5983,6 +7063,113 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The change takes effect at the next start.</source>
         <translation>更改将在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>ShiftProblems</name>
+    <message>
+        <source>the survey</source>
+        <translation>整个测量</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>（无名称）</translation>
+    </message>
+    <message>
+        <source>rover %1</source>
+        <translation>流动站 %1</translation>
+    </message>
+    <message>
+        <source>base %1</source>
+        <translation>基准站 %1</translation>
+    </message>
+    <message>
+        <source>rover %1 on %2</source>
+        <translation>流动站 %1 在 %2</translation>
+    </message>
+    <message>
+        <source>base %1 on %2</source>
+        <translation>基准站 %1 在 %2</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>北</translation>
+    </message>
+    <message>
+        <source>northeast</source>
+        <translation>东北</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>东</translation>
+    </message>
+    <message>
+        <source>southeast</source>
+        <translation>东南</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <translation>南</translation>
+    </message>
+    <message>
+        <source>southwest</source>
+        <translation>西南</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <translation>西</translation>
+    </message>
+    <message>
+        <source>northwest</source>
+        <translation>西北</translation>
+    </message>
+    <message>
+        <source>%1 m too high</source>
+        <translation>偏高 %1 m</translation>
+    </message>
+    <message>
+        <source>%1 m too low</source>
+        <translation>偏低 %1 m</translation>
+    </message>
+    <message>
+        <source>%1 m too far to the %2 (%3°)</source>
+        <translation>向%2（%3°）偏移 %1 m</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1，并且%2</translation>
+    </message>
+    <message>
+        <source>All %1 results of %2 are %3.</source>
+        <translation>%2的全部 %1 个结果均%3。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 results of %3 are %4.</source>
+        <translation>%3的 %2 个结果中有 %1 个%4。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 points that were also measured otherwise are %4 in the results of %3.</source>
+        <translation>另外也测量过的 %2 个点中，有 %1 个在%3的结果中%4。</translation>
+    </message>
+    <message>
+        <source>The coordinates of the base are wrong.</source>
+        <translation>基准站坐标有误。</translation>
+    </message>
+    <message>
+        <source>The antenna height of the pole is wrong.</source>
+        <translation>对中杆天线高有误。</translation>
+    </message>
+    <message>
+        <source>The height of the base is wrong, or that of the pole of rover %1, which alone has used it.</source>
+        <translation>基准站高程有误，或者唯一使用它的流动站 %1 的杆高有误。</translation>
+    </message>
+    <message>
+        <source>Design and survey are of different coordinate systems, or every base is wrong.</source>
+        <translation>设计与测量的坐标系不同，或者所有基准站都有误。</translation>
+    </message>
+    <message>
+        <source>Problems of single points that follow from it: %1.</source>
+        <translation>由此引起的单点问题：%1 个。</translation>
     </message>
 </context>
 <context>
@@ -6646,6 +7833,33 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>StoredValueProblems</name>
+    <message>
+        <source>The solution is %1; it should be %2 or better.</source>
+        <translation>解类型为%1，应为%2或更好。</translation>
+    </message>
+    <message>
+        <source>The corrections were %1 old; at most %2 is allowed.</source>
+        <translation>差分改正的龄期为 %1，最多允许 %2。</translation>
+    </message>
+    <message>
+        <source>Epochs: %1; at least %2 are wanted.</source>
+        <translation>历元数为 %1，至少应为 %2。</translation>
+    </message>
+    <message>
+        <source>The result does not say how long its point was occupied; at least %1 is wanted.</source>
+        <translation>该成果没有记录观测了多长时间，至少应为 %1。</translation>
+    </message>
+    <message>
+        <source>The point was occupied for %1; at least %2 is wanted.</source>
+        <translation>观测时间为 %1，至少应为 %2。</translation>
+    </message>
+    <message>
+        <source>RMS %1 is over its limit %2.</source>
+        <translation>RMS %1 超过限差 %2。</translation>
+    </message>
+</context>
+<context>
     <name>SurveyColumns</name>
     <message>
         <source>line num</source>
@@ -7245,14 +8459,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Clear All Filters</source>
         <translation>清除所有筛选</translation>
-    </message>
-    <message>
-        <source>Points: %1 of %2</source>
-        <translation>点数：%1 / %2</translation>
-    </message>
-    <message>
-        <source>Points: %1</source>
-        <translation>点数：%1</translation>
     </message>
     <message>
         <source>Selected: %1</source>

@@ -5,6 +5,7 @@
 #include "exchange/ShownTimes.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "project/OwnFile.h"
+#include "quality/problems/ForCrew.h"
 #include "quality/problems/ProblemCsv.h"
 #include "quality/problems/ProblemFinders.h"
 
@@ -75,9 +76,12 @@ Outcome print(const std::vector<const Problem*>& problems, const QString& file)
     return Outcome::done();
 }
 
-Outcome writeCrewList(DataProcessDataManager& manager, const std::vector<const Problem*>& problems,
+Outcome writeCrewList(DataProcessDataManager& manager, std::vector<const Problem*> problems,
                       const QString& file)
 {
+    std::erase_if(problems, [&](const Problem* problem) {
+        return !isForCrew(*problem, manager.designPoints());
+    });
     Outcome writing = Outcome::done();
     manager.exportCrewList(problems, file, &writing);
     if (writing.isDone())

@@ -8,6 +8,7 @@
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/WholeFile.h"
 #include "lum_sdk/raster/Halo.h"
+#include "lum_sdk/raster/Legend.h"
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
 #include "map/DesignSpacing.h"
@@ -15,6 +16,8 @@
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
 #include "map/SurveyPicture.h"
+#include "quality/colors/ChosenColors.h"
+#include "quality/colors/Colorings.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -97,14 +100,40 @@ void paintDesignOf(DataProcessDataManager& manager, RenderGround& ground, QImage
              });
 }
 
-void paintSurveyOf(DataProcessDataManager& manager, RenderGround& ground, QImage& image)
+/// \param coloring null for no colours
+void paintSurveyOf(DataProcessDataManager& manager, RenderGround& ground, const Coloring* coloring,
+                   QImage& image)
 {
-    const SurveyMarks marks(manager.surveyPoints(), toMap);
+    const ResultColors colors = colorsOf(coloring, manager.surveyPoints(), manager.qualityLimits());
+    const SurveyMarks marks(manager.surveyPoints(), toMap, {colors.colors(), colors.classOf()});
     const QString base = QCoreApplication::translate("DataProcessLayerImp", "Base");
+    SurveyPictureOptions options;
+    if (!colors.isNone())
+        options.names = SurveyPictureOptions::Names::WithRoom;
     paintMap(ground, image, extentOf(marks, marks.gridBounds(), ground),
              [&](const PictureFrame& frame, QPainter& painter) {
-                 paintSurvey(marks, frame, base, painter);
+                 paintSurvey(marks, frame, base, painter, options);
              });
+    QPainter painter(&image);
+    lum::drawLegend(painter, image.size(), colors.legend(marks.classCounts()));
+}
+
+/// Finds what "--color-by" names; null without it.
+Outcome readColoring(const CliArguments& arguments, const Coloring*& coloring)
+{
+    const QString name = arguments.option(QStringLiteral("--color-by"));
+    if (name.isEmpty())
+        return Outcome::done();
+    if (arguments.places[1] != QLatin1String("survey"))
+        return Outcome::refused(QStringLiteral("--color-by goes with survey alone"));
+    coloring = findColoring(name.toStdString());
+    if (coloring != nullptr)
+        return Outcome::done();
+    QStringList names;
+    for (const Coloring& each : colorings())
+        names << QLatin1String(each.name);
+    return Outcome::refused(QStringLiteral("results cannot be coloured by \"%1\", but by %2")
+                                .arg(name, names.join(QStringLiteral(", "))));
 }
 
 /// The ending of the file's name chooses the format.
@@ -129,6 +158,9 @@ Outcome renderProject(const CliArguments& arguments)
         return Outcome::refused(QStringLiteral("\"%1\" is neither design nor survey").arg(view));
     if (size.isEmpty())
         return Outcome::refused(QStringLiteral("a size reads 1600x1000, up to 20000 a side"));
+    const Coloring* coloring = nullptr;
+    if (Outcome reading = readColoring(arguments, coloring); !reading.isDone())
+        return reading;
     RenderGround ground;
     if (Outcome choosing = ground.choose(arguments); !choosing.isDone())
         return choosing;
@@ -142,7 +174,7 @@ Outcome renderProject(const CliArguments& arguments)
     if (view == QLatin1String("design"))
         paintDesignOf(project.manager(), ground, image);
     else
-        paintSurveyOf(project.manager(), ground, image);
+        paintSurveyOf(project.manager(), ground, coloring, image);
     for (const QString& notice : ground.notices())
         std::fprintf(stderr, "%s\n", qUtf8Printable(notice));
     Outcome writing = writePicture(image, arguments.places[2]);

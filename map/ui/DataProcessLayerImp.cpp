@@ -6,6 +6,7 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IOverlay.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/Text.h"
 #include "map/DesignPicture.h"
@@ -13,10 +14,13 @@
 #include "map/MarkExtent.h"
 #include "map/SurveyPicture.h"
 #include "map/ui/LayerTexts.h"
+#include "map/ui/SurveyLook.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "protocol/StatusKeys.h"
+#include "quality/colors/ChosenColors.h"
+#include "quality/QualityLimits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,8 +77,10 @@ const SurveyPoints& surveyPoints()
 
 DataProcessLayerImp::DataProcessLayerImp(const char* config, IDesktopHost* host)
     : m_properties(desktop::componentParameters(config)), m_host(*host),
-      m_helper(*get_instance_ICoordTransformHelper(host)),
-      m_subscription(*this, subscribedEvents(), host->eventManager())
+      m_helper(*get_instance_ICoordTransformHelper(host)), m_look(surveyLook()),
+      m_subscription(*this, subscribedEvents(), host->eventManager()),
+      m_verdicts(*this, lum::eventNames({events::kRefreshSurveyTable, events::kResurveysChecked}),
+                 host->eventManager())
 {
 }
 
@@ -95,13 +101,17 @@ bool DataProcessLayerImp::IsVisible() const
 void DataProcessLayerImp::handleEvent(const char* eventName, const char* /*payload*/,
                                       int /*reserved*/)
 {
-    if (std::strcmp(eventName, events::kUpdateSystemStatus) == 0) {
+    const auto is = [&](const char* name) { return std::strcmp(name, eventName) == 0; };
+    if (is(events::kUpdateSystemStatus)) {
         clearOldHighlights();
+        followLook();
         return;
     }
-    const bool isDue = std::any_of(std::begin(kRebuildEvents), std::end(kRebuildEvents),
-                                   [&](const char* name) { return !std::strcmp(name, eventName); });
-    if (isDue)
+    if (is(events::kRefreshSurveyTable) || is(events::kResurveysChecked)) {
+        followVerdicts();
+        return;
+    }
+    if (std::any_of(std::begin(kRebuildEvents), std::end(kRebuildEvents), is))
         rebuild();
     handOverExtent();
 }
@@ -127,10 +137,36 @@ void DataProcessLayerImp::rebuildDesign()
 void DataProcessLayerImp::rebuildSurvey()
 {
     const auto place = [this](double north, double east) { return toMap(north, east); };
-    auto marks = std::make_shared<const SurveyMarks>(surveyPoints(), place);
+    m_colors = DataProcessDataManager::hasInstance()
+                   ? colorsOf(chosenColoring(), surveyPoints(),
+                              DataProcessDataManager::instance().qualityLimits())
+                   : ResultColors();
+    auto marks = std::make_shared<const SurveyMarks>(
+        surveyPoints(), place, MarkColors{m_colors.colors(), m_colors.classOf()});
+    m_look = surveyLook();
+    m_legend = m_colors.legend(marks->classCounts());
     m_extent = markExtent(marks->gridBounds(), place);
     const std::lock_guard lock(m_surveyMutex);
     m_survey = std::move(marks);
+}
+
+/// Draws the survey anew when the user wants another look of it, or other limits judge it.
+void DataProcessLayerImp::followLook()
+{
+    if (viewOf(get_system_status_dictionary()) != kSurveyView || surveyLook() == m_look)
+        return;
+    rebuildSurvey();
+    if (auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap")))
+        map->redraw();
+}
+
+/// Draws the survey anew when its colours may have changed.
+void DataProcessLayerImp::followVerdicts()
+{
+    if (m_colors.isNone())
+        return;
+    m_look.clear();
+    followLook();
 }
 
 void DataProcessLayerImp::handOverExtent()
@@ -165,8 +201,10 @@ void DataProcessLayerImp::preparePaint()
     std::optional<double> spacing;
     if (DataProcessDataManager::hasInstance())
         spacing = smallestSpacing(DataProcessDataManager::instance().designParameters());
-    const std::lock_guard lock(m_spacingMutex);
+    const SurveyPictureOptions options = chosenSurveyOptions(!m_colors.isNone());
+    const std::lock_guard lock(m_optionsMutex);
     m_spacing = spacing;
+    m_surveyOptions = options;
 }
 
 void DataProcessLayerImp::Paint(const PaintTarget& target, const QRectF& /*view*/,
@@ -183,7 +221,7 @@ void DataProcessLayerImp::paintDesignPicture(const PaintTarget& target, QPainter
 {
     std::optional<double> spacing;
     {
-        const std::lock_guard lock(m_spacingMutex);
+        const std::lock_guard lock(m_optionsMutex);
         spacing = m_spacing;
     }
     if (!spacing)
@@ -199,9 +237,14 @@ void DataProcessLayerImp::paintDesignPicture(const PaintTarget& target, QPainter
 
 void DataProcessLayerImp::paintSurveyPicture(const PaintTarget& target, QPainter& painter)
 {
+    SurveyPictureOptions options;
+    {
+        const std::lock_guard lock(m_optionsMutex);
+        options = m_surveyOptions;
+    }
     const auto marks = currentOf(m_survey, m_surveyMutex);
-    paintSurvey(*marks, frameOf(target, LayerTexts::drawSurvey()), LayerTexts::baseLabel(),
-                painter);
+    paintSurvey(*marks, frameOf(target, LayerTexts::drawSurvey()), LayerTexts::baseLabel(), painter,
+                options);
     m_host.eventManager().publish(events::kProgress, payload::kProgressEnd, 0);
 }
 
@@ -368,6 +411,14 @@ QString DataProcessLayerImp::surveyTip(const QPointF& map) const
         return {};
     const MarkTable& marks = m_survey->table();
     const MarkTable::Index mark = pick.mark->mark;
-    return LayerTexts::surveyTip(lum::toQString(marks.lineOf(mark).number),
-                                 lum::toQString(marks.name(mark)), marks.grid(mark));
+    const QString tip = LayerTexts::surveyTip(lum::toQString(marks.lineOf(mark).number),
+                                              lum::toQString(marks.name(mark)), marks.grid(mark));
+    return m_survey->colors().empty()
+               ? tip
+               : tip + QLatin1Char('\n') + m_colors.text(m_survey->classOf(mark));
+}
+
+lum::Legend DataProcessLayerImp::legend() const
+{
+    return viewOf(get_system_status_dictionary()) == kSurveyView ? m_legend : lum::Legend();
 }

@@ -6,7 +6,9 @@
 #include "map/DesignMarks.h"
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
+#include "map/SurveyPicture.h"
 #include "map/ui/IDataLayer.h"
+#include "quality/colors/ResultColors.h"
 
 #include <memory>
 #include <mutex>
@@ -32,7 +34,8 @@ public:
     [[nodiscard]] std::string GetName() const override;
     [[nodiscard]] QRectF GetExtent() const override { return m_extent; }
     void SetTransform(const Transform* transform) override { m_transform = transform; }
-    /// Reads the spacings of the design. Without spacings there is no design picture.
+    /// Reads the spacings of the design, and what the user wants of the survey picture. Without
+    /// spacings there is no design picture.
     void preparePaint() override;
     /// Publishes the progress after each line. It holds no lock while it paints or publishes.
     void Paint(const PaintTarget& target, const QRectF& view, QPainter& painter) override;
@@ -52,9 +55,11 @@ public:
     [[nodiscard]] bool GetBaseRecord(int index, BaseStation& record) const override;
     [[nodiscard]] bool hasMarkIn(const QRectF& map) const override;
     [[nodiscard]] std::optional<DrawnPoint> pointAt(const QPointF& map) const override;
-    /// Line, number, kind and grid position of the point there, of the picture in view; of a base
-    /// station its label and position.
+    /// Line, number, kind and grid position of the point there, of the picture in view, and what
+    /// its colour means; of a base station its label and position.
     [[nodiscard]] QString tipAt(const QPointF& map) const override;
+    /// The colours of the survey picture.
+    [[nodiscard]] lum::Legend legend() const override;
 
 private:
     struct SurveyPick
@@ -67,6 +72,8 @@ private:
     void rebuild();
     void rebuildDesign();
     void rebuildSurvey();
+    void followLook();
+    void followVerdicts();
     void handOverExtent();
     void clearOldHighlights();
 
@@ -88,7 +95,11 @@ private:
     const Transform* m_transform = nullptr; // the map's
     QRectF m_extent;
     std::string m_project; ///< the folder of the project whose points the overlays highlight
+    std::string m_look;    ///< of the cached survey, see `surveyLook`
+    ResultColors m_colors; ///< of the cached survey
+    lum::Legend m_legend;
     EventSubscription m_subscription;
+    EventSubscription m_verdicts;
 
     // A mutex guards the pointer behind it, for as long as it takes to copy or replace it. Nobody
     // changes a cache once it is here. Only the GUI thread replaces it, and reads it without a
@@ -98,6 +109,7 @@ private:
     std::mutex m_designMutex;
     std::shared_ptr<const DesignMarks> m_design = std::make_shared<const DesignMarks>();
 
-    std::mutex m_spacingMutex;
+    std::mutex m_optionsMutex;
     std::optional<double> m_spacing; ///< the smallest of the design; nothing without spacings
+    SurveyPictureOptions m_surveyOptions;
 };

@@ -4,8 +4,10 @@
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "map/ui/SurveyLook.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
+#include "quality/colors/ChosenColors.h"
 
 #include <QCoreApplication>
 
@@ -68,4 +70,22 @@ void DrawBoundaryCommand::execute()
 bool DrawBoundaryCommand::isChecked() const
 {
     return get_system_status_dictionary().integer(status::kDrawBoundaryRect) == 1;
+}
+
+void ResultNamesCommand::execute()
+{
+    SystemParameter& chosen = get_system_ini_parameter();
+    chosen.dictionary().set(settings::kResultNames, parameters().text("names"));
+    chosen.save(); // logs a failure; the choice is then kept for this session only
+    announceStatus();
+}
+
+bool ResultNamesCommand::isChecked() const
+{
+    using Names = SurveyPictureOptions::Names;
+    const std::string_view names = parameters().text("names");
+    const Names own = names == "none"   ? Names::None
+                      : names == "room" ? Names::WithRoom
+                                        : Names::All;
+    return chosenSurveyOptions(chosenColoring() != nullptr).names == own;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "basalt_utilities/Dictionary.h"
+#include "lum_sdk/raster/Legend.h"
 #include "lum_sdk/Transform.h"
 
 #include <QRectF>
@@ -65,4 +66,7 @@ public:
 
     /// The tool tip for a place of the map, in the user's language; empty when nothing lies there.
     [[nodiscard]] virtual QString tipAt(const QPointF& /*map*/) const { return {}; }
+    /// What the colours of the layer mean, in the user's language; without entries when they need
+    /// no word. The map asks for it whenever it draws itself.
+    [[nodiscard]] virtual lum::Legend legend() const { return {}; }
 };

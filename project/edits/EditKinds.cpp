@@ -22,7 +22,8 @@ const EditKind kDesignParameters{"design_parameters", nullptr, QT_TRANSLATE_NOOP
 const EditKind kCoordSystem{"coord_system", nullptr, QT_TRANSLATE_NOOP("EditKinds", "Change the coordinate system"), QT_TRANSLATE_NOOP("EditKinds", "Coordinate system")};
 const EditKind kRestore{"restore", QT_TRANSLATE_NOOP("EditKinds", "Restore %1 points"), QT_TRANSLATE_NOOP("EditKinds", "Restore a point"), QT_TRANSLATE_NOOP("EditKinds", "Restored points")};
 const EditKind kAcceptProblems{"accept_problems", QT_TRANSLATE_NOOP("EditKinds", "Accept %1 problems"), QT_TRANSLATE_NOOP("EditKinds", "Accept a problem"), QT_TRANSLATE_NOOP("EditKinds", "Accepted problems")};
-const EditKind kEndAcceptances{"end_acceptances", QT_TRANSLATE_NOOP("EditKinds", "List %1 accepted problems again"), QT_TRANSLATE_NOOP("EditKinds", "List an accepted problem again"), QT_TRANSLATE_NOOP("EditKinds", "Problems listed again")};
+const EditKind kEndAcceptances{"end_acceptances", QT_TRANSLATE_NOOP("EditKinds", "Open %1 problems again"), QT_TRANSLATE_NOOP("EditKinds", "Open a problem again"), QT_TRANSLATE_NOOP("EditKinds", "Problems opened again")};
+const EditKind kResolveRepeats{"resolve_repeats", QT_TRANSLATE_NOOP("EditKinds", "Resolve %1 repeated points"), QT_TRANSLATE_NOOP("EditKinds", "Resolve a repeated point"), QT_TRANSLATE_NOOP("EditKinds", "Resolved repeats")};
 // clang-format on
 
 std::span<const EditKind* const> all()
@@ -30,7 +31,7 @@ std::span<const EditKind* const> all()
     static constexpr std::array kAll{
         &kImportDesign,  &kImportSurvey,   &kDeleteResults, &kCorrectResult,    &kCorrectDesign,
         &kRenameResults, &kGenerateDesign, &kQualityLimits, &kDesignParameters, &kCoordSystem,
-        &kRestore,       &kAcceptProblems, &kEndAcceptances};
+        &kRestore,       &kResolveRepeats, &kAcceptProblems, &kEndAcceptances};
     return kAll;
 }
 

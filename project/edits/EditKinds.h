@@ -35,6 +35,7 @@ extern const EditKind kQualityLimits;
 extern const EditKind kDesignParameters;
 extern const EditKind kCoordSystem;
 extern const EditKind kRestore;
+extern const EditKind kResolveRepeats;
 extern const EditKind kAcceptProblems;
 extern const EditKind kEndAcceptances;
 

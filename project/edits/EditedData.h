@@ -6,16 +6,14 @@
 
 #include <functional>
 
-/// Sets of what an edit touches.
-enum EditScope : unsigned
-{
-    kDesignScope = 1,
-    kSurveyScope = 2,
-    kQualityScope = 4,
-    kDesignParameterScope = 8,
-    kCoordSystemScope = 16,
-    kAcceptanceScope = 32,
-};
+/// What an edit touches: bits of a set.
+using EditScope = unsigned;
+inline constexpr EditScope kDesignScope = 1;
+inline constexpr EditScope kSurveyScope = 2;
+inline constexpr EditScope kQualityScope = 4;
+inline constexpr EditScope kDesignParameterScope = 8;
+inline constexpr EditScope kCoordSystemScope = 16;
+inline constexpr EditScope kAcceptanceScope = 32;
 
 /// The data of the open project that edits change.
 struct EditedData

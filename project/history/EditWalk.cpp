@@ -103,6 +103,7 @@ private:
     [[nodiscard]] static std::vector<bool> verdicts(const std::vector<std::string>& columns)
     {
         std::vector<bool> areVerdicts;
+        areVerdicts.reserve(columns.size());
         for (const std::string& column : columns)
             areVerdicts.push_back(::isVerdict<Points>(column));
         return areVerdicts;

@@ -117,7 +117,7 @@ Outcome HistoryReader::actions(const HistoryFilter& filter, std::vector<HistoryA
     if (!filter.point)
         return outcome(readActions(conditionOf(filter), actions));
     std::vector<Event> events;
-    const Outcome reading = life(filter, events);
+    Outcome reading = life(filter, events);
     for (Event& event : events)
         actions.push_back(std::move(event.action));
     return reading;

@@ -3,7 +3,7 @@
 #include "basalt_utilities/ILogger.h"
 
 #include <algorithm>
-#include <ranges>
+#include <utility>
 
 void UnsavedEdits::makeRoom()
 {
@@ -14,8 +14,8 @@ void UnsavedEdits::makeRoom()
 void UnsavedEdits::add(const std::shared_ptr<Edit>& edit, bool isTakenBack)
 {
     std::erase_if(m_entries, [&](const Entry& entry) { return entry.undone.lock() == edit; });
-    const auto last = std::ranges::find_if(std::views::reverse(m_entries),
-                                           [](const Entry& entry) { return !entry.isUndone(); });
+    const auto last = std::find_if(m_entries.rbegin(), m_entries.rend(),
+                                   [](const Entry& entry) { return !entry.isUndone(); });
     if (last == m_entries.rend() || last->edit != edit) {
         m_entries.push_back({edit,
                              {},
@@ -36,7 +36,8 @@ void UnsavedEdits::add(const std::shared_ptr<Edit>& edit, bool isTakenBack)
 
 void UnsavedEdits::letGo(const std::shared_ptr<Edit>& edit, const EditedData& present)
 {
-    const auto newest = std::ranges::find(std::views::reverse(m_entries), edit, &Entry::edit);
+    const auto newest = std::find_if(m_entries.rbegin(), m_entries.rend(),
+                                     [&](const Entry& entry) { return entry.edit == edit; });
     if (newest == m_entries.rend())
         return;
     try {

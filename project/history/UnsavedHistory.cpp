@@ -6,7 +6,6 @@
 #include "project/history/HistoryAuthor.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -40,7 +39,8 @@ std::vector<HistoryAction> UnsavedHistory::actions() const
 {
     const HistoryAuthor author = HistoryAuthor::current();
     std::vector<HistoryAction> actions;
-    for (const Entry& entry : std::views::reverse(m_entries)) {
+    for (auto reached = m_entries.rbegin(); reached != m_entries.rend(); ++reached) {
+        const Entry& entry = *reached;
         HistoryAction action;
         action.time = entry.time;
         action.person = author.person;
@@ -63,9 +63,9 @@ std::vector<HistoryItem> UnsavedHistory::items(std::size_t action) const
     const Entry& wanted = m_entries[m_entries.size() - 1 - action];
     if (wanted.edit == nullptr)
         return itemsOf(wanted.content);
-    for (const Entry& later : std::views::reverse(m_entries) | std::views::take(action)) {
-        if (later.edit != nullptr)
-            walk.pass(*later.edit);
+    for (auto later = m_entries.rbegin(); &*later != &wanted; ++later) {
+        if (later->edit != nullptr)
+            walk.pass(*later->edit);
     }
     return itemsOf(walk.contentOf(*wanted.edit));
 }
@@ -74,9 +74,9 @@ std::vector<std::vector<HistoryItem>> UnsavedHistory::life(const PointName& poin
 {
     EditWalk walk(m_present);
     std::vector<std::vector<HistoryItem>> life;
-    for (const Entry& entry : std::views::reverse(m_entries))
-        life.push_back(entry.edit == nullptr
-                           ? itemsOf(entry.content, &point)
-                           : itemsOf(walk.contentOf(*entry.edit, &point), &point));
+    for (auto entry = m_entries.rbegin(); entry != m_entries.rend(); ++entry)
+        life.push_back(entry->edit == nullptr
+                           ? itemsOf(entry->content, &point)
+                           : itemsOf(walk.contentOf(*entry->edit, &point), &point));
     return life;
 }

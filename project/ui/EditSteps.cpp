@@ -19,6 +19,8 @@
 
 namespace {
 
+constexpr std::size_t kMebibyte = 1 << 20;
+
 EditSteps* stepsInUse = nullptr;
 
 QString openProject()
@@ -242,7 +244,7 @@ void EditSteps::letGo(int last)
 bool EditSteps::wantsBack(const Edit& edit)
 {
     const auto mebibytes = [](std::size_t count) {
-        return lum::groupedNumber((count + 1024 * 1024 - 1) / (1024 * 1024));
+        return lum::groupedNumber((count + kMebibyte - 1) / kMebibyte);
     };
     QString text = tr("\"%1\" can be taken back now, but not later: to keep what it replaced takes "
                       "%2 MiB, more than the %3 MiB for all steps.")

@@ -120,12 +120,10 @@ constexpr ProblemKind kGap{"number_gap",
                            gap,
                            "",
                            0};
-constexpr ProblemKind kAzimuth{"azimuth_spike",
-                               QT_TRANSLATE_NOOP("ProblemKinds", "Azimuth spike"),
-                               Severity::Warning,
-                               azimuth,
-                               "deg",
-                               1};
+constexpr ProblemKind kAzimuth{
+    "azimuth_spike",   QT_TRANSLATE_NOOP("ProblemKinds", "Azimuth spike"),
+    Severity::Warning, azimuth,
+    "\u00b0",          1};
 constexpr ProblemKind kReversed{"reversed_order",
                                 QT_TRANSLATE_NOOP("ProblemKinds", "Reversed order"),
                                 Severity::Error,

@@ -62,8 +62,11 @@ public:
             lookForCoincident(point, index);
         if (own.spacingM == 0 || m_limits.interleaved == 0)
             return;
-        for (std::size_t i = 0; i < own.order.size(); ++i)
+        for (std::size_t i = 0; i < own.order.size(); ++i) {
             lookForInterleaved(line, i, index);
+            if (i > 0 && i + 1 < own.order.size())
+                lookForExchanged(line, i, index);
+        }
     }
 
     LineMeetings take()
@@ -162,6 +165,28 @@ private:
                 note(line, lineOf(number), point, number);
         }
     }
+    /// A point that is not between its neighbours, where one of another line is in its stead.
+    void lookForExchanged(std::size_t line, std::size_t at, const PointIndex& index)
+    {
+        constexpr double kAway = 0.3;     // spacings
+        constexpr double kNeighbours = 3; // spacings that they are apart at most
+        const ListedLine& own = m_lines[line];
+        const PointPlace& before = m_places[own.order[at - 1]];
+        const PointPlace& behind = m_places[own.order[at + 1]];
+        const PointPlace middle{(before.eastM + behind.eastM) / 2,
+                                (before.northM + behind.northM) / 2};
+        const double apartM = distanceM(before, behind);
+        const std::size_t point = own.order[at];
+        if (apartM > kNeighbours * own.spacingM ||
+            distanceM(m_places[point], middle) < kAway * own.spacingM)
+            return;
+        index.nearest(middle, kLookedAt, kBeside * apartM, m_near);
+        for (const auto& [number, distance] : m_near) {
+            if (number < own.first || number >= own.first + own.count)
+                return note(line, lineOf(number), point, number);
+        }
+    }
+
     /// How much of a step leads up to a point that lies in it; otherwise more than a whole one.
     [[nodiscard]] double shareOfStep(std::size_t point, std::size_t from, std::size_t to) const
     {

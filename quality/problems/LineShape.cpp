@@ -188,9 +188,15 @@ private:
             return m_steps[isFirst ? last + 1 : first - 1].lengthM >
                    passedM + m_measures.spacingM / 2;
         }
-        const Step over = stepBetween(m_line[first - 1], m_line[last + 2]);
-        return dot(m_steps[first], over) < kOpposite * m_steps[first].lengthM * over.lengthM &&
+        // The second look tells it from points that are far beside the line in turns.
+        return leadsBackOver(first, first - 1, last + 2) &&
+               leadsBackOver(first, first > 1 ? first - 2 : 0,
+                             std::min(last + 3, m_line.size() - 1)) &&
                (isJump(first - 1) || isJump(last + 1));
+    }
+    [[nodiscard]] bool leadsBackOver(std::size_t step, std::size_t from, std::size_t to) const
+    {
+        return areOpposite(m_steps[step], stepBetween(m_line[from], m_line[to]));
     }
     [[nodiscard]] bool isJump(std::size_t step) const
     {

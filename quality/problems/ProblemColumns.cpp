@@ -115,7 +115,7 @@ QString problemValueText(const ProblemKind& kind, double value)
     if (kind.valueText != nullptr)
         return kind.valueText(value);
     const QString text = number(kind, value);
-    return *kind.unit == 0 ? text : text + QLatin1Char(' ') + QLatin1String(kind.unit);
+    return *kind.unit == 0 ? text : text + QLatin1Char(' ') + QString::fromUtf8(kind.unit);
 }
 
 QString severityText(Severity severity)

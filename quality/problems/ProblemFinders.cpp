@@ -2,6 +2,7 @@
 
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/problems/CheckProblems.h"
+#include "quality/problems/CheckShotProblems.h"
 #include "quality/problems/LineProblems.h"
 #include "quality/problems/NameProblems.h"
 #include "quality/problems/NeighbourProblems.h"
@@ -30,6 +31,7 @@ constexpr std::array kFinders{
     &kNeighbourFinder,
     &kNameFinder,
     &kLineFinder,
+    &kCheckShotFinder,
 };
 // clang-format on
 

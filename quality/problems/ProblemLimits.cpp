@@ -66,8 +66,7 @@ constexpr std::array kLines{
                                    "Longer gaps, and gaps beside each other in neighbouring "
                                    "lines, are taken for planned.")},
     ProblemLimit{"line_azimuth_max", "25",
-                 QT_TRANSLATE_NOOP("ProblemLimits", "Azimuth spike, max."),
-                 QT_TRANSLATE_NOOP("ProblemLimits", "deg"), 180, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Azimuth spike, max."), "\u00b0", 180, false,
                  QT_TRANSLATE_NOOP("ProblemLimits",
                                    "A bend of the line is no spike: a spike leads away from the "
                                    "line and back.")},
@@ -94,11 +93,37 @@ constexpr std::array kLines{
                                    "with.")},
 };
 
+// Of points measured again, see CheckShotProblems.h and ShiftProblems.h.
+constexpr std::array kCheckShots{
+    ProblemLimit{"check_shots_percent", "3",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Check shots of a crew and day"), "%", 100,
+                 false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "How many of the points of a day are to be measured again.")},
+    ProblemLimit{"check_shots_min", "2", QT_TRANSLATE_NOOP("ProblemLimits", "Check shots, min."),
+                 "", 1000, true},
+    ProblemLimit{"shift_plane_max", "0.1",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Shift of a base on the plane, max."), "m",
+                 1000, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits", "What all results of a base and a day are off "
+                                                    "by the same is a wrong base.")},
+    ProblemLimit{"shift_height_max", "0.1",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Shift of a base or a pole in height, max."),
+                 "m", 1000, false,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "What all results of a base or a rover and a day are off in "
+                                   "height by the same is a wrong base or pole height.")},
+    ProblemLimit{"shift_results_min", "10",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Results that show a shift, min."), "", 1e5,
+                 true},
+};
+
 // All groups: a new one is a line here.
 constexpr std::array kGroups{
     ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Measurement"), kStoredValues},
     ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Names"), kNames},
     ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Lines"), kLines},
+    ProblemLimitGroup{QT_TRANSLATE_NOOP("ProblemLimits", "Check shots"), kCheckShots},
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "quality/problems/ResultName.h"
 
 #include "model/PointNumber.h"
+#include "quality/MeasuredPoint.h"
 #include "quality/ResurveyCode.h"
 
 namespace {
@@ -16,19 +17,15 @@ std::string asCheckPoint(const std::string& point)
 
 NamedPoint ResultNames::pointOf(const SurveyPoint& result) const
 {
-    const auto named = [&](NameForm form, std::string number) {
-        const DesignPoint* const design = m_design.find(result.lineNumber, number);
-        return NamedPoint{form, std::move(number), design};
-    };
-    NamedPoint point = named(NameForm::First, result.pointNumber);
-    if (point.design != nullptr)
-        return point;
-    if (isCheckPoint(result.pointNumber))
-        return named(NameForm::Check,
-                     std::string(writtenPointNumber(result.pointNumber).substr(1)));
-    if (!m_code.empty() && result.pointNumber.find(m_code) != std::string::npos)
-        return named(NameForm::Resurvey, withoutCode(result.pointNumber, m_code));
-    return point;
+    const std::string& number = result.pointNumber;
+    const DesignPoint* const design = measuredPoint(m_design, result.lineNumber, number, m_code);
+    if (design != nullptr && design->pointNumber == number)
+        return {NameForm::First, number, design};
+    if (isCheckPoint(number))
+        return {NameForm::Check, std::string(writtenPointNumber(number).substr(1)), design};
+    if (!m_code.empty() && number.find(m_code) != std::string::npos)
+        return {NameForm::Resurvey, withoutCode(number, m_code), design};
+    return {NameForm::First, number, design};
 }
 
 std::string ResultNames::numberFor(const std::string& point, NameForm form,

@@ -7,6 +7,7 @@
 #include "project/DataProcessDataManager.h"
 #include "protocol/Events.h"
 #include "quality/CheckKinds.h"
+#include "quality/ui/DlgRepeatChoice.h"
 
 #include <QMenu>
 
@@ -17,15 +18,29 @@ DlgRepeatPtCheck::DlgRepeatPtCheck(IDesktopHost& host, CheckResult result)
     QAction* const copy = menu().actions().constFirst();
     auto* const remove = new QAction(tr("delete"), &menu());
     connect(remove, &QAction::triggered, this, &DlgRepeatPtCheck::deleteSelected);
+    auto* const choose = new QAction(tr("&Resolve Repeats..."), &menu());
+    connect(choose, &QAction::triggered, this, &DlgRepeatPtCheck::resolveSelected);
     menu().insertAction(copy, remove);
+    menu().insertAction(copy, choose);
     menu().insertSeparator(copy);
 }
 
-void DlgRepeatPtCheck::deleteSelected()
+std::vector<PointName> DlgRepeatPtCheck::selectedNames()
 {
     std::vector<PointName> names;
     for (const int row : table().selectedRows())
         names.push_back(nameOf(table().model()->index(row, 0)));
+    return names;
+}
+
+void DlgRepeatPtCheck::resolveSelected()
+{
+    DlgRepeatChoice::open(m_host).selectPointsOf(PointNames(selectedNames()));
+}
+
+void DlgRepeatPtCheck::deleteSelected()
+{
+    const std::vector<PointName> names = selectedNames();
     if (names.empty())
         return;
     DataProcessDataManager& manager = DataProcessDataManager::instance();

@@ -63,8 +63,8 @@ QString captionLine(const QAbstractItemModel& model)
 ResultList::ResultList(IDesktopHost& host, const CheckKind& kind, CheckResult result,
                        const Setup& setup)
     : Dialog(host.dialogParent()), m_host(host), m_kind(kind), m_table(new CustomTableWidget(this)),
-      m_finding(new QLabel(this)), m_menu(new QMenu(this)), m_points(setup.points),
-      m_closing(*this, host.eventManager())
+      m_finding(new QLabel(this)), m_menu(new QMenu(this)), m_layout(makeMainLayout()),
+      m_points(setup.points), m_closing(*this, host.eventManager())
 {
     setWindowTitle(setup.title);
     setMinimumSizeScaled(setup.smallest.width(), setup.smallest.height());
@@ -77,9 +77,8 @@ ResultList::ResultList(IDesktopHost& host, const CheckKind& kind, CheckResult re
     connect(m_table, &QAbstractItemView::doubleClicked, this, &ResultList::zoomToPoint);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &ResultList::selectPoint);
     addMenu();
-    QVBoxLayout* const rows = makeMainLayout();
-    rows->addWidget(m_table);
-    rows->addWidget(m_finding);
+    m_layout->addWidget(m_table);
+    m_layout->addWidget(m_finding);
     fitWidth();
     moveIntoCorner(); // a clicked point appears in the middle of the map
 }

@@ -12,6 +12,7 @@ class IDesktopHost;
 class QLabel;
 class QMenu;
 class QModelIndex;
+class QVBoxLayout;
 
 /// The result of a check, a row each (see quality/ResultModel.h), and below it what was found in a
 /// sentence. A click on a row, or going there by key, selects its point, which the other windows
@@ -47,6 +48,8 @@ protected:
     [[nodiscard]] CustomTableWidget& table() { return *m_table; }
     /// Opens on a right click; what a list adds stands above *Copy*.
     [[nodiscard]] QMenu& menu() { return *m_menu; }
+    /// Holds the table and, below it, what was found.
+    [[nodiscard]] QVBoxLayout& mainLayout() { return *m_layout; }
 
     IDesktopHost& m_host; // outlives the dialog
 
@@ -66,6 +69,7 @@ private:
     CustomTableWidget* m_table;
     QLabel* m_finding;
     QMenu* m_menu;
+    QVBoxLayout* m_layout;
     std::unique_ptr<QAbstractTableModel> m_rows; ///< the table shows a copy with colours
     Points m_points;
     ClosesWithProject m_closing;

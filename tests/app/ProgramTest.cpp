@@ -47,6 +47,8 @@ constexpr const char* kComponents =
     "质量规范,"
     " ReSurveyPointCheckCommand 复测点检查, RecentProjectCommand 最近工程, RedoCommand 重做,"
     " RepeatPointCheckCommand 重复点检查, ResetLayoutCommand 恢复布局,"
+    " ResolveRepeatsCommand 重复测量取舍,"
+    " ResultNamesCommand 测点名称,"
     " SaveCopyCommand 工程另存副本,"
     " SaveProjectCommand 保存工程, SetTifPathCommand TIF图叠加, SettingChoiceCommand 系统设置选项, "
     "ShortcutsCommand 快捷键,"

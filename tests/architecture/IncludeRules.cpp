@@ -33,7 +33,7 @@ const Floors& floors()
         {Room::WithoutWidgets, {"platform/lum_sdk/raster"}},
         {Room::WithoutWidgets, {"protocol", "model"}},
         {Room::WithoutWidgets, {"exchange", "quality", "design", "map"}},
-        {Room::WithoutWidgets, {"quality/statistics"}},
+        {Room::WithoutWidgets, {"quality/statistics", "quality/colors"}},
         {Room::WithoutWidgets, {"quality/problems"}},
         {Room::WithoutWidgets, {"reports"}},
         {Room::WithoutWidgets, {"project", "samples"}},

@@ -1,8 +1,10 @@
 #include "map/DesignMarks.h"
 #include "map/DesignPicture.h"
+#include "map/NameWriter.h"
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
 #include "map/SurveyPicture.h"
+#include "map/WaitingNames.h"
 #include "tests/map/PlainPictures.h"
 #include "tests/map/TestSurvey.h"
 #include "tests/support/Literals.h"
@@ -52,16 +54,29 @@ QImage designPicture(const DesignPoints& points, const PictureFrame& frame,
     return pictureOf([&](QPainter& painter) { paintDesign(marks, frame, options, painter); });
 }
 
-QImage surveyPicture(const SurveyPoints& points, const PictureFrame& frame)
+QImage surveyPicture(const SurveyPoints& points, const PictureFrame& frame,
+                     const SurveyPictureOptions& options = {}, const MarkColors& colors = {})
 {
-    const SurveyMarks marks(points, kToMap);
-    return pictureOf([&](QPainter& painter) { paintSurvey(marks, frame, "Base"_q, painter); });
+    const SurveyMarks marks(points, kToMap, colors);
+    return pictureOf(
+        [&](QPainter& painter) { paintSurvey(marks, frame, "Base"_q, painter, options); });
 }
 
 int farthestChannel(QRgb a, QRgb b)
 {
     return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
                      std::abs(qBlue(a) - qBlue(b))});
+}
+
+/// The pixels of about this colour.
+int pixelsOf(const QImage& picture, const QColor& color)
+{
+    int count = 0;
+    for (int y = 0; y < kSide; ++y) {
+        for (int x = 0; x < kSide; ++x)
+            count += farthestChannel(picture.pixel(x, y), color.rgb()) < kChannelTolerance ? 1 : 0;
+    }
+    return count;
 }
 
 int differingPixels(const QImage& a, const QImage& b)
@@ -203,6 +218,92 @@ private Q_SLOTS:
         }
         QCOMPARE(surveyPicture(points, frameAt(100, 200, 1)).pixelColor(68, 168),
                  QColor(Qt::blue)); // of that base
+    }
+
+    void partsOfTheSurveyAreLeftOut()
+    {
+        const SurveyPoints points = TestSurvey().results(2, 3, 1, 12);
+        const PictureFrame frame = frameAt(4400050, 500050, 1);
+        const auto pixels = [&](const SurveyPictureOptions& options, Qt::GlobalColor color) {
+            return pixelsOf(surveyPicture(points, frame, options), color);
+        };
+        using Names = SurveyPictureOptions::Names;
+        QVERIFY(pixels({}, Qt::green) > 0 && pixels({}, Qt::cyan) > 0);
+        QCOMPARE(pixels({false, true}, Qt::green), 0);
+        QVERIFY(pixels({false, true}, Qt::cyan) > 0);
+        QCOMPARE(pixels({true, false}, Qt::cyan), 0);
+        QVERIFY(pixels({true, false}, Qt::green) > 0);
+        const int circles = pixels({false, false, Names::None}, Qt::red);
+        QVERIFY(circles >= 6 * 12 && circles <= 6 * 32); // six circles of radius 2, and no text
+        QVERIFY(pixels({false, false, Names::WithRoom}, Qt::red) > circles);
+    }
+
+    void theFirstClassLiesOnTopAndAllElseIsGrey()
+    {
+        SurveyPoints points = TestSurvey().results(1, 4, 1, 12);
+        PictureFrame frame = frameAt(4400012, 500043, 1);
+        auto& line = *points.findLine("1001");
+        for (SurveyPoint& point : line) {
+            point.surveyor = std::string(1, static_cast<char>('0' + (&point - &*line.begin()) % 3));
+            if (point.surveyor != "2")
+                point.east = 500006 + 25; // at one place: of the classes 0, 1, and 0 again
+        }
+        const MarkColors colors{{0xff8800fa, 0xff27995d, 0xff881a1c}, [](const SurveyPoint& point) {
+                                    return static_cast<std::uint8_t>(point.surveyor[0] - '0');
+                                }};
+        const SurveyMarks marks(points, kToMap, colors);
+        QCOMPARE(marks.classCounts(), (std::vector<std::size_t>{2, 1, 1}));
+        const QImage picture = surveyPicture(points, frame, {}, colors);
+        const auto colorAt = [&](double east) {
+            return picture.pixelColor(frame.transform.SurveyToScreen(east, 4400012).toPoint() -
+                                      QPoint(0, 1));
+        };
+        QCOMPARE(colorAt(500031), QColor(0x88, 0x00, 0xfa));
+        QCOMPARE(colorAt(500056), QColor(0x88, 0x1a, 0x1c));
+        for (const Qt::GlobalColor plain : {Qt::red, Qt::green, Qt::cyan, Qt::blue})
+            QCOMPARE(pixelsOf(picture, plain), 0);
+    }
+
+    void noNameCoversAnotherOrAMark()
+    {
+        QImage picture(kSide, kSide, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        NameWriter writer(painter.font());
+        const QPen red(Qt::red);
+        const QPen blue(Qt::blue);
+        const QPen black(Qt::black);
+        const auto write = [&](const std::vector<WaitingNames::Name>& list, const QRectF& mark) {
+            picture.fill(Qt::white);
+            WaitingNames names;
+            names.keepFree(mark);
+            for (const WaitingNames::Name& name : list)
+                names.add(name);
+            names.write(painter, writer, QRectF(0, 0, kSide, kSide), QRectF(-50, -50, 356, 356),
+                        [] { return false; });
+            return picture.copy();
+        };
+        const int one = paintedPixels(write({{{100, 100}, "808", &black, 1}}, {}));
+        QVERIFY(one > 10);
+        std::vector<WaitingNames::Name> crowd; // all within the picture
+        for (int i = 0; i < 20000; ++i)
+            crowd.push_back({{i % 199 * 1.0, 20 + i % 223 * 1.0}, "808", &black, 1});
+        crowd.push_back({{100, 100}, "808", &red, 0});
+        crowd.push_back({{102, 104}, "808", &blue, 1});
+        const QRect mark(150, 60, 60, 60);
+        const QImage crowded = write(crowd, mark);
+        const int all = paintedPixels(crowded);
+        QCOMPARE(all % one, 0); // the pixels of whole names
+        QVERIFY(all / one > 20);
+        QVERIFY(pixelsOf(crowded, Qt::red) > 0 && pixelsOf(crowded, Qt::blue) == 0);
+        for (int y = mark.top(); y <= mark.bottom(); ++y) {
+            for (int x = mark.left(); x <= mark.right(); ++x)
+                QCOMPARE(crowded.pixelColor(x, y), QColor(Qt::white));
+        }
+        for (const double x : {-15.0, 251.0}) { // names that are cut
+            QCOMPARE(paintedPixels(write({{{x, 50}, "808", &black, 1}}, {})), 0);
+            QVERIFY(paintedPixels(write({{{x, 50}, "808", &black, 0}}, {})) > 0);
+        }
     }
 
     void brokenPlacesDoNoHarm()

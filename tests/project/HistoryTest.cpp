@@ -6,6 +6,7 @@
 #include "project/history/HistoryAuthor.h"
 #include "project/PointCorrection.h"
 #include "project/ProjectCreator.h"
+#include "quality/RepeatChoice.h"
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/Literals.h"
@@ -165,6 +166,29 @@ TEST_F(History, APointWithANewNameTellsTheOldOne)
                                               manager.designPoints(), manager.surveyPoints());
     ASSERT_NE(before.results.find("1", "C10012034_0"), nullptr);
     EXPECT_EQ(before.results.find("1", "C10012034_0")->remarks, "check");
+}
+
+TEST_F(History, ResolvedRepeatsKeepWhatWasNotUsed)
+{
+    import("1,10012034,a\n1,10012034F,b\n1,C10012034,c\n1,10012035,d\n");
+    const std::vector<RepeatedPoint> repeated = manager.repeatedPoints();
+    ASSERT_EQ(repeated.size(), 1U);
+    const RepeatedPoint* const wanted[] = {&repeated[0]};
+    manager.resolveRepeats(resolveRepeats(wanted, {RepeatChoice::Rule::Last}));
+    manager.resolveRepeats({}); // is no step
+    EXPECT_EQ(manager.surveyPoints().pointCount(), 2U);
+    save();
+    reopen();
+    EXPECT_EQ(life({"1", "10012034"}),
+              (Texts{"resolve_repeats changed remarks a>c", "import_survey came"}));
+    EXPECT_EQ(life({"1", "10012034F"}), (Texts{"resolve_repeats gone", "import_survey came"}));
+    EXPECT_EQ(life({"1", "C10012034"}), (Texts{"resolve_repeats gone", "import_survey came"}));
+    EXPECT_EQ(actions()[0].title(), "Resolve a repeated point"_q);
+    EXPECT_EQ(manager.restorePoints(pointsBefore(actions()[0], items(actions()[0]),
+                                                 manager.designPoints(), manager.surveyPoints())),
+              3U);
+    EXPECT_EQ(manager.surveyPoints().find("1", "10012034")->remarks, "a");
+    EXPECT_EQ(manager.surveyPoints().find("1", "C10012034_0")->remarks, "c");
 }
 
 TEST_F(History, TellsWhatWasTakenBackBeforeASaveWithTheNextChange)

@@ -384,6 +384,7 @@ void DlgHistory::restore()
     if (chosen.empty() || !ProjectState::hasData())
         return;
     std::vector<HistoryItem> items;
+    items.reserve(chosen.size());
     for (const int row : chosen)
         items.push_back(m_items->item(row));
     const auto holds = [&](HistoryData kind) {

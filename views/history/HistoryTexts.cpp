@@ -102,7 +102,7 @@ QString HistoryTexts::changeOf(const HistoryItem& item)
 {
     if (item.data == HistoryData::AcceptedProblems)
         return item.change == HistoryChange::Gone
-                   ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "listed again"))
+                   ? translated(QT_TRANSLATE_NOOP("HistoryTexts", "open again"))
                    : translated(QT_TRANSLATE_NOOP("HistoryTexts", "accepted"));
     switch (item.change) {
     case HistoryChange::Came:

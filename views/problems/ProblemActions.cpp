@@ -14,6 +14,7 @@
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
+#include "quality/problems/ForCrew.h"
 #include "quality/problems/NameProblems.h"
 #include "quality/ResultCsv.h"
 #include "views/problems/DlgAcceptProblems.h"
@@ -46,17 +47,6 @@ QStringList knownReasons()
         reasons << acceptance->reason;
     reasons.removeDuplicates();
     return reasons;
-}
-
-/// Whether a crew can do something about it: a fault of the design alone is the office's.
-bool isForCrew(const Problem& problem)
-{
-    if (problem.point.empty() || problem.kind->severity == Severity::Note)
-        return false;
-    if (!problem.isDesign)
-        return true;
-    const DesignPoint* const point = manager().designPoints().find(problem.line, problem.point);
-    return point != nullptr && point->status == 0;
 }
 
 /// "1001/10015001"
@@ -269,7 +259,7 @@ ProblemActions::Problems ProblemActions::shownForCrew() const
 {
     Problems shown;
     for (int row = 0; row < m_model.rowCount(); ++row) {
-        if (isForCrew(m_model.problem(row)))
+        if (isForCrew(m_model.problem(row), manager().designPoints()))
             shown.push_back(&m_model.problem(row));
     }
     return shown;

@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "project/DataProcessDataManager.h"
 #include "views/tables/PointTable.h"
+#include "views/tables/ResultMarks.h"
 
 #include <QColor>
 #include <QCoreApplication>
@@ -19,6 +20,7 @@ using Column = TableColumn<DesignPoint>;
 
 constexpr int kDecimals = 3;
 constexpr int kSurveyed = 1;
+constexpr int kNumberColumn = 0;
 constexpr int kStatusColumn = 8;
 constexpr const char* kSurveyedText = QT_TRANSLATE_NOOP("DesignTable", "surveyed");
 constexpr const char* kNotSurveyedText = QT_TRANSLATE_NOOP("DesignTable", "not surveyed");
@@ -83,6 +85,7 @@ protected:
         m_surveyed = translated(kSurveyedText).toStdString();
         m_notSurveyed = translated(kNotSurveyedText).toStdString();
         m_lineStart = nullptr;
+        m_marks.renew();
     }
     [[nodiscard]] std::string_view text(const DesignPoint& point, int column) const override
     {
@@ -108,6 +111,8 @@ protected:
     }
     [[nodiscard]] QVariant look(const DesignPoint& point, int column, int role) const override
     {
+        if (column == kNumberColumn && m_marks.areShown() && role != Qt::ForegroundRole)
+            return m_marks.look(resultOf(point), role);
         const bool isMissing = column == kStatusColumn && point.status != kSurveyed;
         return isMissing && role == Qt::ForegroundRole
                    ? QVariant(faultText(QGuiApplication::palette()))
@@ -115,6 +120,12 @@ protected:
     }
 
 private:
+    /// The result with the point's own numbers; null when there is none.
+    [[nodiscard]] static const SurveyPoint* resultOf(const DesignPoint& point)
+    {
+        const SurveyPoints& survey = DataProcessDataManager::instance().surveyPoints();
+        return survey.find(point.lineNumber, point.pointNumber);
+    }
     [[nodiscard]] std::string_view fixed(double value) const
     {
         const char* const end = basalt::writeFixed(m_buffer.data(), value, kDecimals);
@@ -128,6 +139,7 @@ private:
         return m_lineStart->type;
     }
 
+    ResultMarks m_marks;
     std::string m_surveyed;
     std::string m_notSurveyed;
     mutable std::array<char, basalt::kFixedSize> m_buffer{};

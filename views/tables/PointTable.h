@@ -134,7 +134,7 @@ protected:
     virtual void renewTexts() = 0;
     /// The text of a cell, valid until the next call.
     [[nodiscard]] virtual std::string_view text(const Point& point, int column) const = 0;
-    /// Colours and tool tip of a cell.
+    /// Colours, mark and tool tip of a cell.
     [[nodiscard]] virtual QVariant look(const Point& point, int column, int role) const = 0;
 
 private:
@@ -208,6 +208,7 @@ QVariant PointTable<Point>::data(const QModelIndex& index, int role) const
         return lum::toQString(text(*point, index.column()));
     case Qt::ForegroundRole:
     case Qt::BackgroundRole:
+    case Qt::DecorationRole:
     case Qt::ToolTipRole:
         return look(*point, index.column(), role);
     case Qt::AccessibleDescriptionRole: // a colour alone tells too few

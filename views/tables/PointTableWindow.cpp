@@ -12,6 +12,7 @@
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
 #include "views/tables/PointTableModel.h"
+#include "views/tables/ResultMarks.h"
 #include "views/tables/RowFilter.h"
 #include "views/tables/TableCountLine.h"
 
@@ -215,7 +216,22 @@ void PointTableWindow::followProject()
         clearFilters();
         showNothing();
     }
+    followColors();
     showState();
+}
+
+/// Shows the marks of the results in the colours that the user has chosen now.
+void PointTableWindow::followColors()
+{
+    std::string colors = resultMarksState();
+    if (colors == m_colors)
+        return;
+    m_colors = std::move(colors);
+    refresh();
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (m_model->columnKey(column) == QLatin1String("point_num"))
+            m_table->widenColumn(column);
+    }
 }
 
 /// Selects the row of the selected point again where a change of the rows took it away.

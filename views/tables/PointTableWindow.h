@@ -99,6 +99,7 @@ private:
     void copyRows();
     void exportRows();
     void followLink();
+    void followColors();
     void showState();
     void showCounts();
     [[nodiscard]] QString noteText() const;
@@ -111,5 +112,6 @@ private:
     TableCountLine* m_counts;
     QLabel* m_empty; ///< over the rows that are not there
     PointName m_selected;
+    std::string m_colors; ///< see `resultMarksState`, when the rows were last read
     bool m_isAnnouncing = false;
 };

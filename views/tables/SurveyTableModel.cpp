@@ -11,6 +11,7 @@
 #include "quality/QualityLimits.h"
 #include "quality/QualityTests.h"
 #include "views/tables/PointTable.h"
+#include "views/tables/ResultMarks.h"
 #include "views/tables/SurveyTableColumns.h"
 
 #include <QColor>
@@ -90,7 +91,11 @@ protected:
                    ? &DataProcessDataManager::instance().surveyPoints()
                    : nullptr;
     }
-    void renewTexts() override { m_texts = makeTexts(); }
+    void renewTexts() override
+    {
+        m_texts = makeTexts();
+        m_marks.renew();
+    }
     [[nodiscard]] std::string_view text(const SurveyPoint& point, int column) const override
     {
         m_row.clear();
@@ -101,9 +106,14 @@ protected:
     }
     [[nodiscard]] QVariant look(const SurveyPoint& point, int column, int role) const override
     {
-        const QualityTest* const failed = role == Qt::ForegroundRole
-                                              ? nullptr
-                                              : failedTest(point, surveyTableColumn(column).member);
+        if (role == Qt::ForegroundRole)
+            return {};
+        const SurveyColumn::Member& field = surveyTableColumn(column).member;
+        const bool isNumber = field == SurveyColumn::Member(&SurveyPoint::pointNumber);
+        if (isNumber && m_marks.areShown() && role != Qt::BackgroundRole)
+            return m_marks.look(&point, role);
+        const QualityTest* const failed =
+            role == Qt::DecorationRole ? nullptr : failedTest(point, field);
         if (failed == nullptr)
             return {};
         if (role == Qt::BackgroundRole)
@@ -112,6 +122,7 @@ protected:
     }
 
 private:
+    ResultMarks m_marks;
     mutable SurveyFieldTexts m_texts;
     mutable CsvRow m_row;
 };

@@ -371,6 +371,7 @@ int CustomTableWidget::wantedWidth(int column) const
          cells.headerData(column, Qt::Horizontal, kLongestTextsRole).toStringList())
         widen(text);
     const QModelIndex first = cells.index(0, column, rootIndex());
+    const bool hasMark = first.data(Qt::DecorationRole).isValid();
     const bool isNumber = (first.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0;
     const QString more = isNumber ? QStringLiteral("-0") : QString(); // the worst are longer
     const int rows = cells.rowCount(rootIndex());
@@ -379,6 +380,8 @@ int CustomTableWidget::wantedWidth(int column) const
         const auto row = static_cast<int>(static_cast<qint64>(rows) * i / samples);
         widen(cellText(cells.index(row, column, rootIndex())) + more);
     }
+    if (hasMark)
+        width += style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     return std::min(width, dpi_scaled(kMaxInitialWidth));
 }
 

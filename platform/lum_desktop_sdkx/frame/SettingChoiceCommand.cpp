@@ -10,10 +10,12 @@
 
 void SettingChoiceCommand::execute()
 {
-    if (isChecked())
+    const bool isTakenBack = isChecked();
+    if (isTakenBack && !parameters().contains("otherwise"))
         return;
     SystemParameter& settings = get_system_ini_parameter();
-    settings.dictionary().set(parameters().text("setting"), parameters().text("value"));
+    settings.dictionary().set(parameters().text("setting"),
+                              parameters().text(isTakenBack ? "otherwise" : "value"));
     settings.save(); // logs a failure; the choice is then kept for this session only
     host().eventManager().publish(events::kUpdateSystemStatus, nullptr, 0);
     if (parameters().integer("restart") != 0)

@@ -3,8 +3,8 @@
 #include "lum_desktop_sdkx/CommandExecuterxBase.h"
 
 /// Sets one system setting to one value, by the entry's attributes "setting" and "value". Checked
-/// while the setting has that value. With "restart" 1 the user is told that the change takes effect
-/// at the next start.
+/// while the setting has that value; an entry with the attribute "otherwise" then sets that value
+/// instead. With "restart" 1 the user is told that the change takes effect at the next start.
 class SettingChoiceCommand final : public CommandExecuterxBase
 {
 public:

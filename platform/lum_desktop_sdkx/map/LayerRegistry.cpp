@@ -89,3 +89,14 @@ QString LayerRegistry::attributions() const
     }
     return named.join(QStringLiteral(" | "));
 }
+
+lum::Legend LayerRegistry::legend() const
+{
+    const std::vector<ILayerViewer*> layers = visibleLayers();
+    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
+        lum::Legend legend = (*layer)->legend();
+        if (!legend.entries.empty())
+            return legend;
+    }
+    return {};
+}

@@ -2,6 +2,7 @@
 
 #include "lum_desktop_sdkx/ComponentKinds.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
+#include "lum_sdk/raster/Legend.h"
 
 #include <vector>
 
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] QString tipAt(const QPointF& map) const;
     /// The properties "attribution" of the visible layers, each once.
     [[nodiscard]] QString attributions() const;
+    /// The legend of the topmost visible layer that has one.
+    [[nodiscard]] lum::Legend legend() const;
     /// The rectangle around the extents of all visible layers; null when none has a finite extent.
     [[nodiscard]] QRectF visibleExtent() const;
 

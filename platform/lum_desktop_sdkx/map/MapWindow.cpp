@@ -16,6 +16,7 @@
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/raster/Attribution.h"
+#include "lum_sdk/raster/Legend.h"
 #include "lum_sdk/Text.h"
 
 #include <QApplication>
@@ -288,6 +289,7 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
         return; // nothing here has a scale
     const QRect bar = drawScaleBar(painter, m_transform, lum::shownUnit());
     drawNorthArrow(painter, m_transform);
+    lum::drawLegend(painter, size(), m_layers.legend());
     lum::drawAttribution(painter, size(), m_layers.attributions(), bar);
 }
 

@@ -19,8 +19,8 @@
 class IDesktopHost;
 
 /// The map window. It shows the last picture, moved to the present view, while a worker paints the
-/// next one. The overlays are drawn over the picture, and while a document is open a scale bar and
-/// a north arrow.
+/// next one. The overlays are drawn over the picture, and while a document is open a scale bar, a
+/// north arrow and the legend of a layer.
 class MapWindow final : public QWidget, public IWindowx, public IMapWindow, private IEventHandler
 {
     Q_OBJECT

@@ -259,6 +259,7 @@ private Q_SLOTS:
         <command class="SettingChoiceCommand" name="Metres" setting="un_coordUnit" value="0" group="unit"/>
         <command class="SettingChoiceCommand" name="Feet" setting="un_coordUnit" value="1" group="unit"/>
         <command class="SettingChoiceCommand" name="Dark" setting="theme" value="dark" restart="1"/>
+        <command class="SettingChoiceCommand" name="Ties" setting="ties" value="1" otherwise="0"/>
         </menu></main_frame>)");
         const Told told;
         QAction* const metres = shown.action("Metres");
@@ -267,6 +268,11 @@ private Q_SLOTS:
         for (QAction* chosen : {feet, metres, feet, feet}) { // the last has the value already
             chosen->trigger();
             QCOMPARE(metres->actionGroup()->checkedAction(), chosen);
+        }
+        for (const bool isShown : {true, false, true}) {
+            shown.action("Ties")->trigger();
+            QCOMPARE(shown.action("Ties")->isChecked(), isShown);
+            QCOMPARE(get_system_ini_parameter().dictionary().integer("ties"), isShown ? 1 : 0);
         }
         QVERIFY(told.texts.isEmpty());
         shown.action("Dark")->trigger();

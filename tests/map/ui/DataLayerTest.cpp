@@ -1,6 +1,7 @@
 #include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "map/ui/DrawCommands.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
@@ -222,6 +223,116 @@ private Q_SLOTS:
         map.manager.designParameters().clear();
         paint(map);
         QCOMPARE(progress.payloads(), Payloads{});
+    }
+
+    void colorsFollowTheChoiceTheLimitsAndTheChecks()
+    {
+        TestMap map;
+        IDictionary& settings = get_system_ini_parameter().dictionary();
+        settings.clear();
+        for (const char* number : {"1", "2", "3"}) {
+            const double east = 100.0 * (number[0] - '0');
+            map.addResult("1", number, 100, east, {250, 250}, {east + 0.3, 100});
+            SurveyPoint& point = *map.manager.surveyPoints().find("1", number);
+            point.antennaHeight = 2;
+            point.pdop = point.hdop = point.vdop = 1;
+            point.satelliteNumber = 9;
+        }
+        map.setStatus(status::kViewShowWhich, "0");
+        map.publish(events::kRefreshSurveyLayer);
+        map.showAll();
+        const auto legend = [&] {
+            QStringList rows;
+            for (const auto& entry : map.layer().legend().entries)
+                rows << entry.text + QLatin1Char(' ') + QString::number(entry.count);
+            return rows;
+        };
+        const auto colorAt = [&](int east) {
+            const QPointF place = map.window.transform().SurveyToScreen(east, 100);
+            return map.picture().pixelColor(place.toPoint());
+        };
+        QCOMPARE(legend(), QStringList());
+        QCOMPARE(colorAt(200), QColor(Qt::red));
+
+        settings.set(settings::kResultColors, "verdict");
+        map.publish(events::kUpdateSystemStatus);
+        QCOMPARE(legend(), QStringList("within limits 3"_q));
+        const QColor within = colorAt(200);
+        QVERIFY(within != QColor(Qt::red));
+        QVERIFY(map.layer().tipAt({200, 100}).endsWith("\nVerdict: within limits"_q));
+
+        map.manager.qualityParameters().set("design_hor_diff", "0.2");
+        map.publish(events::kUpdateSystemStatus); // as after each change of the limits
+        QCOMPARE(legend(), QStringList("off its place 3"_q));
+        QVERIFY(colorAt(200) != within);
+        map.manager.qualityParameters().set("design_hor_diff", "0.5");
+        map.manager.surveyPoints().find("1", "2")->qualityStandard = 10;
+        map.publish(events::kResurveysChecked);
+        QCOMPARE(legend(), (QStringList{"resurvey at fault 1"_q, "within limits 2"_q}));
+        QVERIFY(colorAt(200) != within && colorAt(100) == within);
+
+        map.setStatus(status::kViewShowWhich, "1");
+        QCOMPARE(legend(), QStringList()); // the design has other colours
+        settings.clear();
+        map.setStatus(status::kViewShowWhich, "0");
+        map.publish(events::kPaintingLayerUpdate);
+        QCOMPARE(legend(), QStringList());
+        QCOMPARE(colorAt(200), QColor(Qt::red));
+    }
+
+    void theUserChoosesWhatTheSurveyPictureHas()
+    {
+        TestMap map;
+        IDictionary& settings = get_system_ini_parameter().dictionary();
+        settings.clear();
+        map.addResult("1", "888", 150, 100, {300, 150}, {100, 100});
+        map.setStatus(status::kViewShowWhich, "0");
+        map.publish(events::kRefreshSurveyLayer);
+        map.showAll();
+        const auto isPainted = [&](const QRectF& part) { // a rectangle of the map
+            const QImage picture = map.picture();
+            const Transform& view = map.window.transform();
+            const QRectF screen(view.SurveyToScreen(part.topLeft()),
+                                view.SurveyToScreen(part.bottomRight()));
+            const QRect pixels = screen.normalized().toRect();
+            for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+                for (int x = pixels.left(); x <= pixels.right(); ++x) {
+                    if (picture.pixelColor(x, y) != QColor(Qt::white))
+                        return true;
+                }
+            }
+            return false;
+        };
+        const QRectF tie(200, 145, 50, 10);
+        const QRectF offset(95, 115, 10, 20);
+        const QRectF name(118, 140, 4, 20);
+        const auto choose = [&](const char* key, const char* value) {
+            settings.set(key, value);
+            map.publish(events::kUpdateSystemStatus);
+        };
+        QVERIFY(isPainted(tie) && isPainted(offset));
+        choose(settings::kShowBaseTies, "0");
+        QVERIFY(!isPainted(tie) && isPainted(offset) && isPainted(name));
+        choose(settings::kShowOffsets, "0");
+        QVERIFY(!isPainted(offset));
+
+        ResultNamesCommand all("names=all", &map.host);
+        ResultNamesCommand room("names=room", &map.host);
+        ResultNamesCommand none("names=none", &map.host);
+        const auto checked = [&] {
+            return std::vector<bool>{all.isChecked(), room.isChecked(), none.isChecked()};
+        };
+        QCOMPARE(checked(), (std::vector<bool>{true, false, false}));
+        none.execute();
+        QCOMPARE(checked(), (std::vector<bool>{false, false, true}));
+        QVERIFY(!isPainted(name));
+        choose(settings::kResultNames, ""); // without a choice, colours leave room
+        choose(settings::kResultColors, "day");
+        QCOMPARE(checked(), (std::vector<bool>{false, true, false}));
+        QVERIFY(isPainted(name));
+        all.execute();
+        QCOMPARE(checked(), (std::vector<bool>{true, false, false}));
+        settings.clear();
     }
 
     /// If the layer published while it holds a mutex, this would wait for ever.

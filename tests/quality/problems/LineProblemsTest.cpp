@@ -136,6 +136,13 @@ TEST_F(LineProblems, PointsOfAnotherLineBetweenThoseOfALineAreOneRow)
     EXPECT_EQ(rows(), Rows{}) << "two points may belong to a line that crosses";
 }
 
+TEST_F(LineProblems, PointsThatTwoLinesHaveExchangedAreInterleaved)
+{
+    for (int point = 1010; point <= 1018; point += 2)
+        swapPlaces(at(1001, point), at(1002, point));
+    EXPECT_EQ(rows(), Rows{"interleaved 10011010 10021010 9"});
+}
+
 TEST_F(LineProblems, AHeightAboveAllNeighboursIsAJumpButASlopeIsNone)
 {
     for (int point = 1001; point <= 1040; ++point)

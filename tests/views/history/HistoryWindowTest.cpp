@@ -307,7 +307,7 @@ private Q_SLOTS:
         QCOMPARE(seen.actions().first(), "Accept a problem|taken back, not saved yet"_q);
         seen.choose(0);
         QCOMPARE(seen.changes(),
-                 QStringList("2|listed again|Too far from the design|as agreed|"_q));
+                 QStringList("2|open again|Too far from the design|as agreed|"_q));
         QVERIFY(project.manager->acceptances().empty());
     }
 

@@ -107,6 +107,53 @@ private Q_SLOTS:
         QCOMPARE(design.model.line(), "1001"_q);
     }
 
+    void pointsAreMarkedInTheColorsOfTheResults()
+    {
+        Project project;
+        for (const char* number : {"1", "2"})
+            project.results().find("1001", number)->surveyor = number[0] == '1' ? "Li" : "Wu";
+        const SurveyTable results(project, kAll);
+        const DesignTable design(project, kDesignOf, line("1001"));
+        const auto centre = [](const auto& table, int row) {
+            const QModelIndex cell = table.model.index(row, table.column("point_num"));
+            const QImage mark =
+                cell.data(Qt::DecorationRole).template value<QIcon>().pixmap(16, 16).toImage();
+            return mark.isNull() ? QColor() : mark.pixelColor(mark.rect().center());
+        };
+        const auto tip = [](const auto& table, int row) {
+            return table.model.index(row, table.column("point_num")).data(Qt::ToolTipRole);
+        };
+        const int width = results.table.columnWidth(results.column("point_num"));
+        QVERIFY(!centre(results, 0).isValid() && !centre(design, 0).isValid());
+
+        OpenProject::settings().set(settings::kResultColors, "surveyor");
+        project.publish(events::kUpdateSystemStatus);
+        QVERIFY(results.table.columnWidth(results.column("point_num")) > width);
+        QVERIFY(centre(results, 0).alpha() == 255 && centre(results, 1).alpha() == 255);
+        QVERIFY(centre(results, 0) != centre(results, 1));
+        QCOMPARE(tip(results, 1).toString(), "Surveyor: Wu"_q);
+        QCOMPARE(tip(results, 3).toString(), "Surveyor: not told"_q);
+        QCOMPARE(centre(design, 1), centre(results, 1)); // of the same name
+        project.design().set(designPoint("1001", "9"));
+        project.publish("REFRESH_DESIGN_TABLE");
+        QCOMPARE(tip(design, 3).toString(), "not surveyed"_q);
+        QCOMPARE(centre(design, 3).alpha(), 0); // a ring
+        results.model.sortBy(results.column("point_num"), Qt::DescendingOrder);
+        QCOMPARE(tip(results, 0).toString(), "Surveyor: not told"_q);
+
+        OpenProject::settings().set(settings::kResultColors, "verdict");
+        project.publish(events::kUpdateSystemStatus);
+        const QVariant before = tip(results, 6);
+        QCOMPARE(before.toString(), "Verdict: poor fix"_q);
+        for (const char* key : {"sat_num_min", "pdop_min", "hdop_min", "vdop_min"})
+            project.manager->qualityParameters().set(key, "0");
+        project.publish(events::kUpdateSystemStatus); // as after each change of the limits
+        QCOMPARE(tip(results, 6).toString(), "Verdict: wrong antenna height"_q);
+        OpenProject::settings().clear();
+        project.publish(events::kUpdateSystemStatus);
+        QVERIFY(!centre(results, 0).isValid() && !centre(design, 0).isValid());
+    }
+
     void aRowAnnouncesItsPoint()
     {
         Project project;

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "model/PointLines.h"
+
+struct Problem;
+
+/// Whether a crew can do something about a problem: measure its point, or measure it again. A fault
+/// of the design alone is the office's, and a note nobody's.
+[[nodiscard]] bool isForCrew(const Problem& problem, const DesignPoints& design);

@@ -1,0 +1,185 @@
+#include "quality/problems/ShiftProblems.h"
+
+#include "lum_sdk/GroupedNumber.h"
+#include "lum_sdk/Text.h"
+#include "quality/problems/GroupShifts.h"
+
+#include <QCoreApplication>
+#include <QDate>
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+using Cause = GroupShift::Cause;
+using Evidence = GroupShift::Evidence;
+
+// --- the sentences ---
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ShiftProblems", text);
+}
+
+QString dayText(std::int64_t day)
+{
+    constexpr qint64 kFirstDay = 2440588; // 1970/01/01 as a Julian day
+    return QDate::fromJulianDay(kFirstDay + day).toString(QStringLiteral("yyyy/MM/dd"));
+}
+
+/// "base B3 on 2026/05/03".
+QString groupText(const GroupShift& shift)
+{
+    if (shift.cause == Cause::Survey)
+        return translated(QT_TRANSLATE_NOOP("ShiftProblems", "the survey"));
+    const bool isPole = shift.cause == Cause::Pole;
+    const std::string& named = isPole ? shift.rover : shift.base;
+    const QString name = named.empty()
+                             ? translated(QT_TRANSLATE_NOOP("ShiftProblems", "without a name"))
+                             : lum::toQString(named);
+    if (shift.day == statistics::KeyValue::kNoNumber)
+        return translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1")
+                                 : QT_TRANSLATE_NOOP("ShiftProblems", "base %1"))
+            .arg(name);
+    return translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1 on %2")
+                             : QT_TRANSLATE_NOOP("ShiftProblems", "base %1 on %2"))
+        .arg(name, dayText(shift.day));
+}
+
+QString metres(double length)
+{
+    return QString::number(std::fabs(length), 'f', 3);
+}
+
+/// The wind that a shift lies towards, of eight.
+QString windOf(double directionDeg)
+{
+    constexpr std::array kWinds{QT_TRANSLATE_NOOP("ShiftProblems", "north"),
+                                QT_TRANSLATE_NOOP("ShiftProblems", "northeast"),
+                                QT_TRANSLATE_NOOP("ShiftProblems", "east"),
+                                QT_TRANSLATE_NOOP("ShiftProblems", "southeast"),
+                                QT_TRANSLATE_NOOP("ShiftProblems", "south"),
+                                QT_TRANSLATE_NOOP("ShiftProblems", "southwest"),
+                                QT_TRANSLATE_NOOP("ShiftProblems", "west"),
+                                QT_TRANSLATE_NOOP("ShiftProblems", "northwest")};
+    constexpr double kSector = 45;
+    return translated(
+        kWinds[static_cast<std::size_t>(std::lround(directionDeg / kSector)) % kWinds.size()]);
+}
+
+/// "1.502 m too high".
+QString offsetText(const GroupShift& shift)
+{
+    const QString height =
+        translated(shift.heightM > 0 ? QT_TRANSLATE_NOOP("ShiftProblems", "%1 m too high")
+                                     : QT_TRANSLATE_NOOP("ShiftProblems", "%1 m too low"))
+            .arg(metres(shift.heightM));
+    if (!shift.hasPlane())
+        return height;
+    const QString plane =
+        translated(QT_TRANSLATE_NOOP("ShiftProblems", "%1 m too far to the %2 (%3°)"))
+            .arg(metres(shift.planeM()), windOf(shift.directionDeg()),
+                 QString::number(std::lround(shift.directionDeg()) % 360));
+    return shift.hasHeight()
+               ? translated(QT_TRANSLATE_NOOP("ShiftProblems", "%1 and %2")).arg(plane, height)
+               : plane;
+}
+
+/// "All 212 results of base B3 on 2026/05/03 are 1.502 m too high."
+QString factText(const GroupShift& shift)
+{
+    if (shift.evidence == Evidence::Design && shift.shared == shift.results)
+        return translated(QT_TRANSLATE_NOOP("ShiftProblems", "All %1 results of %2 are %3."))
+            .arg(lum::groupedNumber(shift.results), groupText(shift), offsetText(shift));
+    return translated(shift.evidence == Evidence::Design
+                          ? QT_TRANSLATE_NOOP("ShiftProblems", "%1 of %2 results of %3 are %4.")
+                          : QT_TRANSLATE_NOOP("ShiftProblems",
+                                              "%1 of %2 points that were also measured otherwise "
+                                              "are %4 in the results of %3."))
+        .arg(lum::groupedNumber(shift.shared), lum::groupedNumber(shift.results), groupText(shift),
+             offsetText(shift));
+}
+
+QString causeText(const GroupShift& shift)
+{
+    switch (shift.cause) {
+    case Cause::Base:
+        return translated(
+            QT_TRANSLATE_NOOP("ShiftProblems", "The coordinates of the base are wrong."));
+    case Cause::Pole:
+        return translated(
+            QT_TRANSLATE_NOOP("ShiftProblems", "The antenna height of the pole is wrong."));
+    case Cause::BaseOrPole:
+        return translated(QT_TRANSLATE_NOOP("ShiftProblems", "The height of the base is wrong, or "
+                                                             "that of the pole of rover %1, which "
+                                                             "alone has used it."))
+            .arg(lum::toQString(shift.rover));
+    case Cause::Survey:
+        break;
+    }
+    return translated(QT_TRANSLATE_NOOP("ShiftProblems", "Design and survey are of different "
+                                                         "coordinate systems, or every base is "
+                                                         "wrong."));
+}
+
+QString shiftWhat(const Problem& problem)
+{
+    const GroupShift shift = GroupShift::fromText(problem.detail);
+    QString text = factText(shift) + QLatin1Char(' ') + causeText(shift);
+    if (problem.second > 0)
+        text += QLatin1Char(' ') +
+                translated(QT_TRANSLATE_NOOP("ShiftProblems", "Problems of single points that "
+                                                              "follow from it: %1."))
+                    .arg(lum::groupedNumber(std::llround(problem.second)));
+    return text;
+}
+
+// --- finding ---
+
+const ProblemKind& kindOf(Cause cause)
+{
+    if (cause == Cause::Survey)
+        return kSurveyShift;
+    return cause == Cause::Pole ? kPoleShift : kBaseShift;
+}
+
+void add(const GroupShift& shift, const ShiftLimits& limits, ProblemList& problems)
+{
+    Problem& problem = problems.add(kindOf(shift.cause));
+    problem.detail = problems.keep(shift.toText());
+    problem.rover = problems.keepOnce(shift.rover);
+    problem.timeMs = shift.firstMs;
+    problem.count = static_cast<std::uint32_t>(shift.shared);
+    problem.second = 0;
+    const bool isHeight = std::fabs(shift.heightM) > shift.planeM();
+    problem.value = isHeight ? shift.heightM : shift.planeM();
+    problem.limit = isHeight ? limits.heightM : limits.planeM;
+}
+
+} // namespace
+
+constexpr ProblemKind kBaseShift{"base_shift",
+                                 QT_TRANSLATE_NOOP("ProblemKinds", "Base coordinates wrong"),
+                                 Severity::Error, shiftWhat};
+constexpr ProblemKind kPoleShift{"pole_shift",
+                                 QT_TRANSLATE_NOOP("ProblemKinds", "Pole height wrong"),
+                                 Severity::Error, shiftWhat};
+constexpr ProblemKind kSurveyShift{"survey_shift",
+                                   QT_TRANSLATE_NOOP("ProblemKinds", "Survey off the design"),
+                                   Severity::Error, shiftWhat};
+
+void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
+               ProblemList& problems)
+{
+    const ShiftLimits limits{input.limit("shift_plane_max"), input.limit("shift_height_max"),
+                             static_cast<std::size_t>(input.limit("shift_results_min"))};
+    if (limits.planeM <= 0 && limits.heightM <= 0)
+        return;
+    auto pairs =
+        statistics::resurveyPairs(input.survey(), input.resurveyCode(), input.planeUnitM()).pairs;
+    const auto repeats = statistics::repeatPairs(input.survey(), input.planeUnitM()).pairs;
+    pairs.insert(pairs.end(), repeats.begin(), repeats.end());
+    for (const GroupShift& shift : findGroupShifts(sample, pairs, limits))
+        add(shift, limits, problems);
+}

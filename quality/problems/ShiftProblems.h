@@ -1,0 +1,14 @@
+#pragma once
+
+#include "quality/problems/FinderInput.h"
+#include "quality/problems/ProblemList.h"
+#include "quality/statistics/SurveySample.h"
+
+// Base coordinates, pole heights or the whole survey are wrong, see GroupShifts.h.
+extern const ProblemKind kBaseShift;
+extern const ProblemKind kPoleShift;
+extern const ProblemKind kSurveyShift;
+
+/// A problem for each shift of the results, which are those of the sample.
+void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
+               ProblemList& problems);

@@ -1,0 +1,352 @@
+#include "tests/quality/problems/FieldDays.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+/// Two bases with a rover each, on three days.
+FieldDays goodDays(unsigned seed = 1)
+{
+    FieldDays field(seed);
+    for (int day = 1; day <= 3; ++day) {
+        field.work({.day = day, .base = "B1", .rover = "R1"});
+        field.work({.day = day, .base = "B2", .rover = "R2"});
+    }
+    return field;
+}
+
+std::string firstOf(const Texts& texts)
+{
+    return texts.empty() ? std::string() : texts.front();
+}
+
+bool contains(const std::string& text, const char* part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
+{
+    FieldDays field = goodDays();
+    field.parameters.set("design_ver_diff", "1");
+    for (const char* rover : {"R1", "R2"})
+        field.work({.day = 4, .base = "B3", .rover = rover, .points = 106, .heightM = 1.502});
+    field.workAgain({.day = 5, .base = "B1", .rover = "R1"}, 4, 4);
+    field.at("1120", "1190").elevation += 4; // wrong for another reason as well
+    field.at("1130", "1240").elevation += 4;
+    const ProblemList found =
+        field.find({"base_shift", "pole_shift", "survey_shift", "height_off", "resurvey_off"});
+    ASSERT_EQ(found.size(), 3U) << field.told().size();
+    const Problem* shift = nullptr;
+    std::size_t high = 0;
+    for (const Problem& problem : found) {
+        if (std::string(problem.kind->name) == "base_shift")
+            shift = &problem;
+        else
+            high += std::string(problem.kind->name) == "height_off" ? 1U : 0U;
+    }
+    EXPECT_EQ(high, 2U);
+    ASSERT_NE(shift, nullptr);
+    EXPECT_NEAR(shift->value, 1.502, 0.01);
+    EXPECT_EQ(shift->limit, 0.1);
+    EXPECT_EQ(shift->count, 210U);
+    EXPECT_EQ(shift->second, 214); // 210 heights and 4 resurveys
+    EXPECT_EQ(shift->timeMs / 86400000, FieldDays::timeOf(4) / 86400000);
+    const std::string text = shift->kind->what(*shift).toStdString();
+    EXPECT_TRUE(contains(text, "210 of 212 results of base B3 on 2026/05/04 are 1.5")) << text;
+    EXPECT_TRUE(contains(text, " m too high. The coordinates of the base are wrong. Problems of "
+                               "single points that follow from it: 214."))
+        << text;
+}
+
+TEST(Shifts, ExplainsStepsBetweenNeighbours)
+{
+    FieldDays field = goodDays(); // a step at the border of two days is no row of its own
+    field.parameters.set("neighbour_height_max", "1");
+    field.work({.day = 4, .base = "B3", .heightM = -4});
+    const std::vector<const char*> kinds{"base_shift", "neighbour_height"};
+    EXPECT_EQ(field.told(kinds).size(), 1U);
+    field.at("1130", "1200").elevation -= 6;
+    EXPECT_EQ(field.told(kinds).size(), 2U);
+}
+
+TEST(Shifts, ThePoleIsToldFromTheBase)
+{
+    FieldDays oneOfTwo = goodDays();
+    oneOfTwo.work({.day = 4, .base = "B1", .rover = "R1"});
+    oneOfTwo.work({.day = 4, .base = "B1", .rover = "R2", .heightM = -0.2});
+    std::string text = firstOf(oneOfTwo.told());
+    EXPECT_TRUE(contains(text, "pole_shift: All 30 results of rover R2 on 2026/05/04 are 0."))
+        << text;
+    EXPECT_TRUE(contains(text, "m too low. The antenna height of the pole is wrong.")) << text;
+
+    FieldDays manyToOne = goodDays(); // most of the base's results are of the wrong rover
+    manyToOne.work({.day = 4, .base = "B1", .rover = "R1", .points = 5});
+    manyToOne.work({.day = 4, .base = "B1", .rover = "R2", .points = 60, .heightM = 0.5});
+    EXPECT_TRUE(contains(firstOf(manyToOne.told()), "pole_shift"));
+
+    FieldDays twoBases = goodDays();
+    for (const char* base : {"B1", "B2"})
+        twoBases.work({.day = 4, .base = base, .rover = "R2", .heightM = 0.2});
+    EXPECT_TRUE(contains(firstOf(twoBases.told()), "All 60 results of rover R2"));
+
+    FieldDays goodElsewhere = goodDays();
+    goodElsewhere.work({.day = 4, .base = "B1", .rover = "R1"});
+    goodElsewhere.work({.day = 4, .base = "B2", .rover = "R1", .heightM = 0.2});
+    EXPECT_TRUE(contains(firstOf(goodElsewhere.told()), "All 30 results of base B2"));
+    for (FieldDays* const field : {&oneOfTwo, &manyToOne, &twoBases, &goodElsewhere})
+        EXPECT_EQ(field->told().size(), 1U);
+}
+
+TEST(Shifts, WhatOneRoverAndOneBaseHadOnOtherDaysMayTellThemApart)
+{
+    FieldDay wrong{.day = 4, .base = "B2", .rover = "R2", .heightM = 0.2};
+    const auto told = [&] {
+        FieldDays field = goodDays();
+        field.work(wrong);
+        return field.told();
+    };
+    EXPECT_TRUE(contains(firstOf(told()), "The height of the base is wrong, or that of the pole "
+                                          "of rover R2, which alone has used it."));
+    wrong.antennaM = 1.8; // typed too small, so that the ground seems higher
+    EXPECT_TRUE(contains(firstOf(told()), "pole_shift"));
+    wrong.antennaM = 2.2; // another pole
+    wrong.baseAltitudeM = 50.2;
+    EXPECT_TRUE(contains(firstOf(told()), "The coordinates of the base are wrong."));
+}
+
+TEST(Shifts, OnThePlaneADirectionIsTold)
+{
+    FieldDays field = goodDays();
+    field.parameters.set("design_hor_diff", "0.3");
+    field.work({.day = 4, .base = "B3", .points = 40, .eastM = -0.6, .northM = -0.8});
+    const Texts texts = field.told({"base_shift", "too_far"});
+    EXPECT_EQ(texts.size(), 1U);
+    std::string text = firstOf(texts);
+    EXPECT_TRUE(contains(text, "All 40 results of base B3 on 2026/05/04 are ")) << text;
+    EXPECT_TRUE(contains(text, "m too far to the southwest (21")) << text;
+    EXPECT_TRUE(contains(text, "follow from it: 40.")) << text;
+
+    FieldDays both = goodDays();
+    both.work({.day = 4, .base = "B3", .eastM = 30, .heightM = -2});
+    text = firstOf(both.told());
+    EXPECT_TRUE(contains(text, "m too far to the east (90°) and ")) << text;
+    EXPECT_TRUE(contains(text, "m too low. The coordinates")) << text;
+    both.planeUnitM = 0.3048;
+    text = firstOf(both.told());
+    EXPECT_TRUE(contains(text, "are 9.1")) << text;
+}
+
+TEST(Shifts, ASkidOrACrewWithFewPointsIsNone)
+{
+    FieldDays beside = goodDays(); // a day beside a road: 5 m to the north of a line to the east
+    beside.work({.day = 4, .points = 40, .northM = 5, .lines = 1});
+    EXPECT_EQ(beside.told(), Texts());
+    FieldDays oblique = goodDays(); // no crew moves its stakes so
+    oblique.work({.day = 4, .points = 40, .eastM = 3, .northM = 4, .lines = 1});
+    EXPECT_EQ(oblique.told().size(), 1U);
+    FieldDays village = goodDays();
+    village.work({.day = 4, .points = 40, .eastM = 3, .northM = 4});
+    for (auto& [number, line] : village.survey) {
+        for (SurveyPoint& point : line)
+            point.obstacle = point.dateTime >= FieldDays::timeOf(4) ? "houses" : "";
+    }
+    EXPECT_EQ(village.told(), Texts());
+    FieldDays few = goodDays();
+    few.work({.day = 4, .base = "B3", .points = 9, .heightM = 3, .lines = 1});
+    EXPECT_EQ(few.told(), Texts());
+    few.parameters.set("shift_results_min", "9");
+    EXPECT_EQ(few.told().size(), 1U);
+    FieldDays half = goodDays(); // no constant
+    half.work({.day = 4, .points = 22});
+    half.work({.day = 4, .points = 78, .heightM = 1});
+    EXPECT_EQ(half.told(), Texts());
+    FieldDays off = goodDays();
+    off.work({.day = 4, .base = "B3", .eastM = 1, .northM = 1, .heightM = 1});
+    off.parameters.set("shift_plane_max", "0");
+    EXPECT_FALSE(contains(firstOf(off.told()), "too far"));
+    off.parameters.set("shift_height_max", "0");
+    EXPECT_EQ(off.told(), Texts());
+}
+
+TEST(Shifts, HeightsOfAnElevationModelAreComparedAmongEachOther)
+{
+    FieldDays rough;
+    rough.designHeightM = 0.6;
+    for (int day = 1; day <= 6; ++day)
+        rough.work({.day = day, .points = 80, .heightM = day == 4 ? 12.0 : 8.0});
+    Texts texts = rough.told();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(contains(texts[0], "of base B1 on 2026/05/04")) << texts[0];
+    FieldDays tilted; // another geoid
+    tilted.slope = 0.00004;
+    for (int day = 1; day <= 12; ++day)
+        tilted.work({.day = day, .points = 40});
+    EXPECT_EQ(tilted.told(), Texts());
+    FieldDays all;
+    for (int day = 1; day <= 4; ++day)
+        all.work({.day = day, .heightM = 30});
+    texts = all.told();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(contains(texts[0], "survey_shift: All 120 results of the survey are ")) << texts[0];
+}
+
+TEST(Shifts, PointsMeasuredTwiceTellWhatTheDesignCannot)
+{
+    FieldDays field = goodDays(); // stakes are set where the wrong base says
+    field.measuringM = 0.003;
+    field.work({.day = 4, .base = "B3", .rover = "R1"});
+    for (auto& [number, line] : field.survey) {
+        for (SurveyPoint& point : line)
+            point.designElevation = 0; // a design without heights
+    }
+    const FieldDay wrong{.day = 5, .base = "B3", .rover = "R2", .eastM = 0.5, .heightM = 0.5};
+    field.workAgain(wrong, 1, 3);
+    field.workAgain(wrong, 2, 4);
+    field.workAgain({.day = 6, .base = "B1", .rover = "R1"}, 3, 4);
+    const ProblemList found = field.find({"base_shift", "pole_shift", "resurvey_off"});
+    ASSERT_EQ(found.size(), 1U);
+    const std::string text = found[0].kind->what(found[0]).toStdString();
+    EXPECT_TRUE(contains(text, "7 of 7 points that were also measured otherwise are 0.")) << text;
+    EXPECT_TRUE(contains(text, " m too high in the results of base B3 on 2026/05/05.")) << text;
+    EXPECT_EQ(found[0].second, 7);
+
+    FieldDays heights = goodDays(); // of the two days, the one that fits the design is right
+    heights.workAgain({.day = 5, .base = "B1", .rover = "R1"}, 1, 20);
+    heights.work({.day = 6, .base = "B2", .rover = "R2", .heightM = 0.5});
+    heights.workAgain({.day = 5, .base = "B1", .rover = "R1"}, 6, 5);
+    Texts texts = heights.told();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(contains(texts[0], "All 30 results of base B2 on 2026/05/06")) << texts[0];
+    FieldDays two = goodDays();
+    two.workAgain({.day = 5, .base = "B3", .rover = "R2", .heightM = 0.5}, 1, 2); // chance
+    EXPECT_EQ(two.told(), Texts());
+}
+
+TEST(Shifts, EveryPlantedOneIsFoundAndNoOther)
+{
+    std::size_t planted = 0;
+    std::size_t found = 0;
+    std::size_t unexplained = 0;
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        FieldDays field(seed);
+        std::mt19937 random(seed);
+        const bool isWrong = seed % 3 != 0;
+        const auto chance = [&](int count) { return static_cast<int>(random() % unsigned(count)); };
+        const int wrongDay = 1 + chance(8);
+        field.designHeightM = seed % 2 == 0 ? 0.02 : 0.25;
+        for (int day = 1; day <= 8; ++day) {
+            for (const int crew : {1, 2, 3}) {
+                FieldDay work{.day = day,
+                              .base = "B" + std::to_string(1 + (day + crew) % 2),
+                              .rover = "R" + std::to_string(crew),
+                              .points = 20 + chance(60)};
+                if (isWrong && day == wrongDay && (day + crew) % 2 == 0)
+                    work.heightM = 1.6 + chance(10);
+                field.work(work);
+                if (isWrong && day == wrongDay && (day + crew) % 2 == 0)
+                    break; // one crew alone: each error is one
+            }
+            if (day > 1)
+                field.workAgain({.day = day, .base = "B9", .rover = "R1"}, day - 1, 3);
+        }
+        int skid = 0;
+        for (auto& [number, line] : field.survey) {
+            for (SurveyPoint& point : line) {
+                if (skid++ % 7 == 0) {
+                    point.north += chance(30);
+                    point.remarks = "aside";
+                }
+            }
+        }
+        const ProblemList problems = field.find();
+        planted += isWrong ? 1U : 0U;
+        const std::string day = "2026/05/0" + std::to_string(wrongDay);
+        bool isFound = false;
+        for (const Problem& problem : problems) {
+            const std::string text = problem.kind->what(problem).toStdString();
+            const bool isIt = isWrong && !isFound && contains(text, day.c_str());
+            isFound = isFound || isIt;
+            unexplained += isIt ? 0U : 1U;
+            if (!isIt)
+                ADD_FAILURE() << "seed " << seed << ": " << text;
+        }
+        found += isFound ? 1U : 0U;
+    }
+    std::cout << "planted shifts found: " << found << " of " << planted
+              << ", rows besides: " << unexplained << '\n';
+    EXPECT_EQ(found, planted);
+    EXPECT_EQ(unexplained, 0U);
+}
+
+TEST(Shifts, BadInputIsNone)
+{
+    FieldDays field = goodDays();
+    const double nan = std::nan("");
+    for (auto& [number, line] : field.survey) {
+        for (SurveyPoint& point : line)
+            point.north = point.elevation = nan;
+    }
+    EXPECT_EQ(field.told(), Texts());
+    for (auto& [number, line] : field.survey) {
+        for (SurveyPoint& point : line) {
+            point.north = point.east = point.elevation = 7; // all in one place
+            point.dateTime = 0;
+        }
+    }
+    EXPECT_EQ(field.told(), Texts());
+    for (auto& [number, line] : field.survey) {
+        for (SurveyPoint& point : line)
+            point.designNorth = point.designEast = 0;
+    }
+    EXPECT_EQ(field.told(), Texts());
+    FieldDays noTimes;
+    noTimes.work({.base = "B1"});
+    noTimes.work({.base = "B2", .heightM = 2});
+    for (auto& [number, line] : noTimes.survey) {
+        for (SurveyPoint& point : line)
+            point.dateTime = 0;
+    }
+    const Texts texts = noTimes.told();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(contains(texts[0], "All 30 results of base B2 are ")) << texts[0];
+    EXPECT_EQ(FieldDays().told(), Texts());
+}
+
+TEST(CheckShots, EachCrewAndDayWantsAShareAndAtLeastSome)
+{
+    FieldDays field;
+    field.parameters.clear(); // 3 %, at least 2
+    field.work({.day = 1, .rover = "R1", .points = 100});
+    field.work({.day = 1, .rover = "R2", .points = 101});
+    field.work({.day = 2, .rover = "R1", .points = 20});
+    field.work({.day = 3, .rover = "R1", .points = 1, .lines = 1});
+    field.workAgain({.day = 1, .rover = "R1"}, 1, 3);
+    field.workAgain({.day = 1, .rover = "R2"}, 1, 3);
+    field.workAgain({.day = 2, .rover = "R1"}, 1, 1);
+    field.at("1000", "1020").dateTime = 0; // of no day
+    EXPECT_EQ(field.told({"few_check_shots"}),
+              (Texts{"few_check_shots: Points measured that day: 101. Measured again: 3, at least "
+                     "4 are wanted.",
+                     "few_check_shots: Points measured that day: 20. Measured again: 1, at least "
+                     "2 are wanted."}));
+    field.parameters.set("check_shots_min", "1");
+    EXPECT_EQ(field.told({"few_check_shots"}).size(), 1U);
+    const ProblemList found = field.find({"few_check_shots"});
+    EXPECT_EQ(found[0].surveyor.view(), "Crew of R2");
+    EXPECT_EQ(found[0].limit, 4);
+    field.parameters.set("check_shots_percent", "0");
+    EXPECT_EQ(field.told({"few_check_shots"}), Texts());
+    for (auto& [number, line] : field.survey) {
+        for (SurveyPoint& point : line)
+            point.surveyor.clear(); // then crews are rovers
+    }
+    field.parameters.set("check_shots_percent", "3");
+    EXPECT_EQ(field.told({"few_check_shots"}).size(), 1U);
+}
