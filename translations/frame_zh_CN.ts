@@ -336,6 +336,10 @@
         <translation>转到消息(&amp;E)</translation>
     </message>
     <message>
+        <source>Go to &amp;Problems</source>
+        <translation>转到问题列表(&amp;P)</translation>
+    </message>
+    <message>
         <source>Reset &amp;Layout</source>
         <translation>恢复默认布局(&amp;L)</translation>
     </message>
@@ -354,6 +358,30 @@
     <message>
         <source>&amp;Checks</source>
         <translation>检查(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Find Problems</source>
+        <translation>查找问题(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Run everything that is on and list what is wrong with design and results</source>
+        <translation>运行所有已启用的检查，列出设计和成果的一切问题</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>下一个问题(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Go to the next problem; map, table and attributes show its point</source>
+        <translation>转到下一个问题；地图、列表和属性显示它的点</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Problem</source>
+        <translation>上一个问题(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Go to the problem before</source>
+        <translation>转到上一个问题</translation>
     </message>
     <message>
         <source>Quality &amp;Limits...</source>
@@ -766,6 +794,10 @@
     <message>
         <source>Survey Data List</source>
         <translation>测量数据列表</translation>
+    </message>
+    <message>
+        <source>Problems List</source>
+        <translation>问题列表</translation>
     </message>
     <message>
         <source>Design Lines</source>

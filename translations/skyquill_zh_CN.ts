@@ -1863,23 +1863,23 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Accept Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>接受问题</translation>
     </message>
     <message>
         <source>They leave the list of the open problems. One comes back when a record that it is about changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>它们离开未处理的列表。所涉及的记录改变后，问题会重新出现。</translation>
     </message>
     <message>
         <source>such as: the stake was moved with the client&apos;s consent</source>
-        <translation type="unfinished"></translation>
+        <translation>例如：经甲方同意移桩</translation>
     </message>
     <message>
         <source>&amp;Reason:</source>
-        <translation type="unfinished"></translation>
+        <translation>原因(&amp;R)：</translation>
     </message>
     <message>
         <source>Accept</source>
-        <translation type="unfinished"></translation>
+        <translation>接受</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -4321,11 +4321,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Points: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>点数：%1</translation>
     </message>
     <message>
         <source>Points: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>点数：%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -4339,43 +4339,43 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>ProblemActions</name>
     <message>
         <source>&amp;Accept...</source>
-        <translation type="unfinished"></translation>
+        <translation>接受(&amp;A)...</translation>
     </message>
     <message>
         <source>Say why the selected problems may be so; they leave the list</source>
-        <translation type="unfinished"></translation>
+        <translation>说明选中的问题为什么可以这样；它们离开列表</translation>
     </message>
     <message>
         <source>Open A&amp;gain</source>
-        <translation type="unfinished"></translation>
+        <translation>重新打开(&amp;G)</translation>
     </message>
     <message>
         <source>Put the selected problems back into the list of the open ones</source>
-        <translation type="unfinished"></translation>
+        <translation>把选中的问题放回未处理的列表</translation>
     </message>
     <message>
         <source>Ca&amp;rry Out Proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>执行建议(&amp;R)</translation>
     </message>
     <message>
         <source>Give the selected results the names that are proposed; it can be undone</source>
-        <translation type="unfinished"></translation>
+        <translation>把选中的成果改为所建议的点名；可以撤销</translation>
     </message>
     <message>
         <source>Measure Agai&amp;n...</source>
-        <translation type="unfinished"></translation>
+        <translation>重新测量(&amp;N)...</translation>
     </message>
     <message>
         <source>Write the design points of the selected problems for the crew</source>
-        <translation type="unfinished"></translation>
+        <translation>为测量组写出选中问题的设计点</translation>
     </message>
     <message>
         <source>&amp;List for the Crew...</source>
-        <translation type="unfinished"></translation>
+        <translation>测量组清单(&amp;L)...</translation>
     </message>
     <message>
         <source>Write the points of all errors and warnings that are shown as CSV or KML: what is not surveyed, and what must be measured again</source>
-        <translation type="unfinished"></translation>
+        <translation>把所显示的全部错误和警告的点写成 CSV 或 KML：尚未测量的和必须重新测量的</translation>
     </message>
     <message>
         <source>&amp;Save as CSV...</source>
@@ -4383,7 +4383,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Write the rows that are shown, as they are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>按显示的样子写出所显示的行</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -4391,47 +4391,47 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Copy with H&amp;eaders</source>
-        <translation type="unfinished"></translation>
+        <translation>连同标题复制(&amp;E)</translation>
     </message>
     <message>
         <source>Accepted by %1 on %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 于 %2 接受：%3</translation>
     </message>
     <message>
         <source>Problems accepted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已接受的问题：%1</translation>
     </message>
     <message>
         <source>Problems open again: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>重新打开的问题：%1</translation>
     </message>
     <message>
         <source>Result %1 is now %2. Ctrl+Z takes it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>成果 %1 现在是 %2。按 Ctrl+Z 撤销。</translation>
     </message>
     <message>
         <source>Results with new names: %1. Ctrl+Z takes it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>改名的成果：%1。按 Ctrl+Z 撤销。</translation>
     </message>
     <message>
         <source>Carry Out Proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>执行建议</translation>
     </message>
     <message>
         <source>Points for the Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>测量组的点</translation>
     </message>
     <message>
         <source>No error and no warning that is shown has a point.</source>
-        <translation type="unfinished"></translation>
+        <translation>所显示的错误和警告都没有对应的点。</translation>
     </message>
     <message>
         <source>Save Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>保存问题</translation>
     </message>
     <message>
         <source>Rows: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>行：%1</translation>
     </message>
 </context>
 <context>
@@ -4500,15 +4500,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>ProblemKindBar</name>
     <message>
         <source>Kinds of problems</source>
-        <translation type="unfinished"></translation>
+        <translation>问题的类型</translation>
     </message>
     <message>
         <source>All open problems</source>
-        <translation type="unfinished"></translation>
+        <translation>全部未处理</translation>
     </message>
     <message>
         <source>Accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>已接受</translation>
     </message>
 </context>
 <context>
@@ -4824,11 +4824,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>ProblemWindow</name>
     <message>
         <source>Problems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：%1</translation>
     </message>
     <message>
         <source>Problems: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：%1 / %2</translation>
     </message>
     <message>
         <source>Problems</source>
@@ -4836,15 +4836,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Points or limits have changed since these problems were found. &lt;a href=&quot;find&quot;&gt;Find them again&lt;/a&gt; (Ctrl+F9)</source>
-        <translation type="unfinished"></translation>
+        <translation>这些问题查出之后，点或限差已有改动。&lt;a href=&quot;find&quot;&gt;重新查找&lt;/a&gt;（Ctrl+F9）</translation>
     </message>
     <message>
         <source>&amp;Find Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>查找问题(&amp;F)</translation>
     </message>
     <message>
         <source>Run everything that is on and list what is wrong (Ctrl+F9)</source>
-        <translation type="unfinished"></translation>
+        <translation>运行所有已启用的检查，列出一切问题（Ctrl+F9）</translation>
     </message>
     <message>
         <source>Search</source>
@@ -4852,15 +4852,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Shows the problems with this line, point, rover, surveyor or kind. A line and a point together: 1001/10015001</source>
-        <translation type="unfinished"></translation>
+        <translation>显示与此测线、点、流动站、测量员或类型有关的问题。测线和点一起：1001/10015001</translation>
     </message>
     <message>
         <source>Search the problems</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索问题</translation>
     </message>
     <message>
         <source>Problems: %1 (errors: %2, warnings: %3, notes: %4). Accepted: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>问题：%1（错误 %2，警告 %3，提示 %4）。已接受：%5</translation>
     </message>
     <message>
         <source>No project is open.</source>
@@ -4868,15 +4868,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>What must the crew do tomorrow? &lt;a href=&quot;find&quot;&gt;Find the problems&lt;/a&gt; of the design and of all results (Ctrl+F9).</source>
-        <translation type="unfinished"></translation>
+        <translation>测量组明天要做什么？&lt;a href=&quot;find&quot;&gt;查找&lt;/a&gt;设计和全部成果的问题（Ctrl+F9）。</translation>
     </message>
     <message>
         <source>No problem passes the filters. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No problem was found. Results: %1, design points: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有问题符合筛选条件。&lt;a href=&quot;#&quot;&gt;清除所有筛选&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Filter of &quot;%1&quot;: %2</source>
@@ -4884,35 +4880,35 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>No problem passes the filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有问题符合筛选条件。</translation>
     </message>
     <message>
         <source>There is no problem in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>列表中没有问题。</translation>
     </message>
     <message>
         <source>This is the first of %1 problems.</source>
-        <translation type="unfinished"></translation>
+        <translation>这是 %1 个问题中的第一个。</translation>
     </message>
     <message>
         <source>This was the last of %1 problems.</source>
-        <translation type="unfinished"></translation>
+        <translation>这已是 %1 个问题中的最后一个。</translation>
     </message>
     <message>
         <source>Point %1 is not in the project any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>工程中已没有点 %1。</translation>
     </message>
     <message>
         <source>Problem %1 of %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>问题 %1 / %2：%3</translation>
     </message>
     <message>
         <source>Problem %1 of %2, %3: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>问题 %1 / %2，%3：%4</translation>
     </message>
     <message>
         <source>&amp;Filter by This Value</source>
-        <translation type="unfinished"></translation>
+        <translation>按此值筛选(&amp;F)</translation>
     </message>
     <message>
         <source>Show on the &amp;Map</source>
@@ -4921,6 +4917,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&amp;History of This Point</source>
         <translation type="unfinished">此点的历史(&amp;H)</translation>
+    </message>
+    <message>
+        <source>No open problem was found. Results: %1, design points: %2</source>
+        <translation>没有未处理的问题。成果：%1，设计点：%2</translation>
     </message>
 </context>
 <context>

@@ -190,8 +190,9 @@ QString ProblemTableModel::filterFor(const QModelIndex& cell) const
     if (!isNumber(name))
         return rowFilterFor(cell.data().toString());
     const double value = number(problem(cell.row()), name);
-    return QStringLiteral("= ") +
-           (std::isnan(value) ? QString() : QString::fromStdString(basalt::formatFixed(value, 3)));
+    return std::isnan(value)
+               ? QString()
+               : QStringLiteral("= ") + QString::fromStdString(basalt::formatFixed(value, 3));
 }
 
 bool ProblemTableModel::isFiltered() const

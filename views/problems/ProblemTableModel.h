@@ -76,7 +76,7 @@ public:
     void setFilter(int column, const QString& expression);
     /// Why the expression of a column cannot be read, translated; empty when it can.
     [[nodiscard]] QString filterFault(int column) const;
-    /// The expression that shows the rows with the value of this cell.
+    /// The expression that shows the rows with the value of this cell; empty for no number.
     [[nodiscard]] QString filterFor(const QModelIndex& cell) const;
     [[nodiscard]] bool isFiltered() const;
     void clearFilters();

@@ -10,12 +10,10 @@
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/GroupedNumber.h"
-#include "lum_sdk/Text.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
-#include "protocol/Payloads.h"
 #include "views/problems/ProblemActions.h"
 #include "views/problems/ProblemKindBar.h"
 #include "views/problems/ProblemTableModel.h"
@@ -23,6 +21,7 @@
 #include "views/tables/RowFilter.h"
 #include "views/tables/TableCountLine.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -96,7 +95,11 @@ ProblemWindow::ProblemWindow(const char* config, IDesktopHost* host)
     forget();
 }
 
-ProblemWindow::~ProblemWindow() = default;
+ProblemWindow::~ProblemWindow()
+{
+    m_kinds->disconnect(this); // the parts end after this, and would still tell what they show
+    m_table->setModel(nullptr);
+}
 
 void ProblemWindow::makeLayout()
 {
@@ -176,8 +179,9 @@ void ProblemWindow::connectParts()
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ProblemWindow::showSelected);
     connect(m_header, &FilterHeader::filterEdited, this, &ProblemWindow::setFilter);
-    connect(m_header, &QHeaderView::sectionResized, this,
-            [this](int column) { m_hasOwnWidth |= column == kWhat && !m_isFitting; });
+    connect(m_header, &QHeaderView::sectionResized, this, [this](int column) {
+        m_hasOwnWidth |= column == kWhat && QGuiApplication::mouseButtons() != Qt::NoButton;
+    });
     connect(m_kinds, &ProblemKindBar::chosen, this, &ProblemWindow::showChoice);
     connect(m_counts, &TableCountLine::clearFiltersRequested, this, &ProblemWindow::clearFilters);
     connect(m_empty, &QLabel::linkActivated, this, &ProblemWindow::followLink);
@@ -355,7 +359,7 @@ QString ProblemWindow::emptyText() const
                   "design and of all results (Ctrl+F9).");
     if (m_model->unfilteredCount() > 0)
         return tr("No problem passes the filters. <a href=\"#\">Clear all filters</a>");
-    return tr("No problem was found. Results: %1, design points: %2")
+    return tr("No open problem was found. Results: %1, design points: %2")
         .arg(lum::groupedNumber(manager().surveyPoints().pointCount()),
              lum::groupedNumber(manager().designPoints().pointCount()));
 }
@@ -397,7 +401,6 @@ void ProblemWindow::fitSentences()
 {
     if (m_hasOwnWidth || m_model->rowCount() == 0)
         return;
-    const QScopedValueRollback<bool> guard(m_isFitting, true);
     const int others = m_header->length() - m_header->sectionSize(kWhat);
     m_header->resizeSection(
         kWhat, std::max(dpi_scaled(kLeastSentence), m_table->viewport()->width() - others));
@@ -481,24 +484,24 @@ void ProblemWindow::showMenu(const QModelIndex& cell, const QPoint& place)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     m_actions->addEntries(*menu);
     menu->addSeparator();
-    menu->addAction(tr("&Filter by This Value"), this,
-                    [this, column = cell.column(), filter = m_model->filterFor(cell)] {
-                        setFilter(column, filter);
-                    });
     const QPersistentModelIndex at(cell);
-    QAction* const map = menu->addAction(tr("Show on the &Map"), this, [this, at] {
-        zoomToProblem(m_host, m_model->problem(at.row()));
-    });
-    QAction* const history = menu->addAction(tr("&History of This Point"), this, [this, at] {
-        const Problem& problem = m_model->problem(at.row());
-        m_host.eventManager().publish(
-            events::kShowPointHistory,
-            payload::selectedPoint(lum::toQString(problem.point), lum::toQString(problem.line))
-                .constData(),
-            0);
-    });
+    const auto add = [&](const QString& text, bool isEnabled, auto run) {
+        const auto choose = [at, run] {
+            if (at.isValid()) // the list may have changed below the menu
+                run(at);
+        };
+        menu->addAction(text, this, choose)->setEnabled(isEnabled);
+    };
+    add(tr("&Filter by This Value"), !m_model->filterFor(cell).isEmpty(),
+        [this](const QModelIndex& clicked) {
+            setFilter(clicked.column(), m_model->filterFor(clicked));
+        });
     const bool isPoint = !m_model->problem(cell.row()).point.empty();
-    map->setEnabled(isPoint);
-    history->setEnabled(isPoint);
+    add(tr("Show on the &Map"), isPoint, [this](const QModelIndex& clicked) {
+        zoomToProblem(m_host, m_model->problem(clicked.row()));
+    });
+    add(tr("&History of This Point"), isPoint, [this](const QModelIndex& clicked) {
+        showHistoryOf(m_host, m_model->problem(clicked.row()));
+    });
     menu->popup(place);
 }

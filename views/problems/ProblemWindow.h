@@ -95,7 +95,6 @@ private:
     bool m_hasFound = false;     ///< there is a list
     basalt::Dictionary m_limits; ///< with which it was found
     bool m_isAnnouncing = false;
-    bool m_isFitting = false;
     bool m_hasOwnWidth = false; ///< the user has chosen the width of the sentences
     EventSubscription m_subscription;
 };

@@ -67,3 +67,10 @@ void zoomToProblem(IDesktopHost& host, const Problem& problem)
         PointHighlight::zoomTo(host, *point);
     }
 }
+
+void showHistoryOf(IDesktopHost& host, const Problem& problem)
+{
+    const QByteArray point =
+        payload::selectedPoint(lum::toQString(problem.point), lum::toQString(problem.line));
+    host.eventManager().publish(events::kShowPointHistory, point.constData(), 0);
+}

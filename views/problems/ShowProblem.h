@@ -15,3 +15,6 @@ struct Problem;
 
 /// Brings the map close to the point.
 void zoomToProblem(IDesktopHost& host, const Problem& problem);
+
+/// Opens what has happened to the point.
+void showHistoryOf(IDesktopHost& host, const Problem& problem);

@@ -36,7 +36,7 @@ private Q_SLOTS:
 
         place.design().clear();
         place.find();
-        QVERIFY(place.says("No problem was found."));
+        QVERIFY(place.says("No open problem was found."));
         place.tellProject("/c");
         QVERIFY(place.says("Ctrl+F9")); // the list was another project's
     }
