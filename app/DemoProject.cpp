@@ -1,6 +1,7 @@
 #include "app/DemoProject.h"
 
 #include "basalt_utilities/Dictionary.h"
+#include "exchange/ShownTimes.h"
 #include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "model/CoordinateRecord.h"
@@ -10,6 +11,7 @@
 #include "project/ProjectPlace.h"
 #include "samples/DemoFiles.h"
 #include "samples/DemoImage.h"
+#include "samples/DemoLimits.h"
 #include "samples/DemoSurvey.h"
 #include "samples/ResultCompleter.h"
 
@@ -26,7 +28,7 @@ Outcome writeFiles(const QString& folder)
     ICoordTransform& transform = get_project_coord_transform();
     QString fault = demo::useSurveySystem(transform);
     if (fault.isEmpty())
-        fault = demo::writeDemoFiles(folder, demo::makeDemoSurvey(kSeed, transform));
+        fault = demo::writeDemoFiles(folder, demo::makeDemoSurvey(kSeed, transform), shownTimes());
     return fault.isEmpty() ? Outcome::done() : Outcome::failed(fault);
 }
 
@@ -53,6 +55,14 @@ Outcome createProject(const ProjectPlace& place)
     return ProjectCreator::create(place, project);
 }
 
+void setLimits(DataProcessDataManager& manager)
+{
+    basalt::Dictionary parameters(manager.qualityParameters());
+    for (const demo::DemoLimit& limit : demo::demoLimits())
+        parameters.set(limit.key, limit.value);
+    manager.setQualityParameters(parameters);
+}
+
 /// Reads the files into the project and saves it.
 Outcome importFiles(const ProjectPlace& place, const QString& folder)
 {
@@ -63,6 +73,7 @@ Outcome importFiles(const ProjectPlace& place, const QString& folder)
     if (outcome.isDone())
         manager.importSurveyCsv(folder + QStringLiteral("/survey.csv"), &outcome);
     if (outcome.isDone()) {
+        setLimits(manager);
         OverlayList::write({{imageOf(place)}}, place.folder, manager.project());
         outcome = manager.saveProject(place);
     }

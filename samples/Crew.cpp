@@ -39,9 +39,21 @@ SurveyPoint Crew::measure(const DesignPoint& design, const LocalPlace& stake)
     const DemoBase& station = nearestStation(stake);
     point.baseStationId = station.id;
     point.referenceAltitude = stationHeight(station);
+    const FieldClock before = m_clock;
     m_clock.goTo(stake);
+    if (m_clock.day() != before.day())
+        m_evenings.push_back(before);
     observe(point);
     return point;
+}
+
+void Crew::workLateOn(int day)
+{
+    if (m_clock.day() != day) {
+        m_evenings.push_back(m_clock); // of the last day
+        m_clock = m_evenings[static_cast<std::size_t>(day)];
+    }
+    m_clock.workLate();
 }
 
 void Crew::observe(SurveyPoint& point)

@@ -4,6 +4,8 @@
 #include "samples/FieldClock.h"
 #include "samples/Random.h"
 
+#include <vector>
+
 namespace demo {
 
 /// A surveyor and the instrument that he works with.
@@ -25,12 +27,17 @@ public:
     /// Goes to the stake of `design` and measures it. `ResultCompleter` computes the other values.
     [[nodiscard]] SurveyPoint measure(const DesignPoint& design, const LocalPlace& stake);
 
+    /// Back to the evening of a day, to measure points again when the others are done.
+    /// \param day  counted from the first one, which is 0
+    void workLateOn(int day);
+
 private:
     void observe(SurveyPoint& point);
 
     const Equipment& m_equipment;
     Random& m_random;
     FieldClock m_clock;
+    std::vector<FieldClock> m_evenings; ///< of the days before today
 };
 
 /// Sets the number of satellites of a result and shares them among the satellite systems.

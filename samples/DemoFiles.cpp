@@ -1,11 +1,11 @@
 #include "samples/DemoFiles.h"
 
-#include "basalt_utilities/LocalTimes.h"
 #include "exchange/CsvRow.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "lum_sdk/files/WholeFileWriter.h"
 #include "model/SurveyColumns.h"
+#include "samples/DemoLimits.h"
 #include "samples/DemoSurvey.h"
 
 #include <QDir>
@@ -50,27 +50,36 @@ QString writeFaults(const QString& path, const std::vector<PlantedFault>& faults
     return file.commit();
 }
 
-/// Turns a time of the survey's clock into the moment at which this computer's clock shows the
-/// same, because the writer of the CSV file writes local times.
-class LocalMoments
+QString writeLimits(const QString& path)
+{
+    lum::WholeFileWriter file(path);
+    for (const DemoLimit& limit : demoLimits())
+        file.write(limit.key + std::string("=") + limit.value + '\n');
+    return file.commit();
+}
+
+/// Turns a time of the survey's clocks into the moment at which the clocks of a zone show the same.
+class Moments
 {
 public:
+    explicit Moments(const basalt::LocalTimes& zone) : m_zone(zone) {}
+
     [[nodiscard]] std::int64_t of(std::int64_t moment)
     {
         char text[basalt::LocalTimes::kTextSize];
         const char* const end = m_survey.write(text, moment);
         const std::string_view shown(text, static_cast<std::size_t>(end - text));
-        return m_local.read(shown).value_or(moment);
+        return m_zone.read(shown).value_or(moment);
     }
 
 private:
     basalt::LocalTimes m_survey{0};
-    basalt::LocalTimes m_local;
+    basalt::LocalTimes m_zone;
 };
 
-SurveyPoints withLocalTimes(const SurveyPoints& survey)
+SurveyPoints withMoments(const SurveyPoints& survey, const basalt::LocalTimes& zone)
 {
-    LocalMoments moments;
+    Moments moments(zone);
     SurveyPoints points;
     for (const auto& [number, line] : survey) {
         for (SurveyPoint point : line) {
@@ -88,21 +97,24 @@ QString writeSurvey(const QString& path, const SurveyPoints& survey)
     for (const auto& [number, line] : survey)
         lines << QString::fromStdString(number);
     ProgressReporter nobody(nullptr);
-    return writeSurveyCsv(path, withLocalTimes(survey), lines, {surveyCaptions()}, nobody).text();
+    return writeSurveyCsv(path, survey, lines, {surveyCaptions()}, nobody).text();
 }
 
 } // namespace
 
-QString writeDemoFiles(const QString& folder, const DemoSurvey& demo)
+QString writeDemoFiles(const QString& folder, const DemoSurvey& demo, basalt::LocalTimes zone)
 {
     const QDir place(folder);
     if (!place.mkpath(QStringLiteral(".")))
         return QStringLiteral("The folder %1 cannot be made.").arg(folder);
     QString fault = writeDesign(place.filePath(QStringLiteral("design.csv")), demo.design);
     if (fault.isEmpty())
-        fault = writeSurvey(place.filePath(QStringLiteral("survey.csv")), demo.survey);
+        fault = writeSurvey(place.filePath(QStringLiteral("survey.csv")),
+                            withMoments(demo.survey, zone));
     if (fault.isEmpty())
         fault = writeFaults(place.filePath(QStringLiteral("faults.csv")), demo.faults);
+    if (fault.isEmpty())
+        fault = writeLimits(place.filePath(QStringLiteral("limits.txt")));
     return fault;
 }
 

@@ -27,7 +27,7 @@ void FieldClock::goTo(const LocalPlace& place)
         m_second += kBreak;
         m_hadBreak = true;
     }
-    if (m_second > kEvening) {
+    if (m_second > kEvening && !m_isLate) {
         ++m_day;
         m_second = kMorning + way;
         m_hadBreak = false;

@@ -18,7 +18,13 @@ public:
     /// hours, it arrives on the next morning.
     void goTo(const LocalPlace& place);
 
+    /// From now on work goes on after hours, until all that was left for this evening is done.
+    void workLate() { m_isLate = true; }
+
     void spend(int seconds) { m_second += seconds; }
+
+    /// 0 is the first one.
+    [[nodiscard]] int day() const { return m_day; }
 
     /// Milliseconds since 1970 on the survey's clocks, in whole seconds.
     [[nodiscard]] std::int64_t now() const;
@@ -28,6 +34,7 @@ private:
     int m_day = 0;
     double m_second = kMorning; ///< since midnight
     bool m_hadBreak = false;
+    bool m_isLate = false;
 
     static constexpr double kMorning = 7.5 * 3600;
 };

@@ -46,18 +46,24 @@ std::string asRepeat(SurveyPoint& again, const SurveyPoint& first, Random& /*ran
 }
 
 constexpr std::array kRemeasurings{
-    Remeasuring{"resurvey good", 40, 1, asResurvey},
     Remeasuring{"resurvey bad", 6, 1, asBadResurvey},
     Remeasuring{"resurvey orphan", 4, 1, asOrphan},
     Remeasuring{"repeat", 16, 1, asRepeat},
     Remeasuring{"repeat", 4, 2, asRepeat},
 };
 
+constexpr Remeasuring kGoodResurvey{"resurvey good", 1, 1, asResurvey};
+
 } // namespace
 
 std::span<const Remeasuring> remeasurings()
 {
     return kRemeasurings;
+}
+
+const Remeasuring& goodResurvey()
+{
+    return kGoodResurvey;
 }
 
 } // namespace demo

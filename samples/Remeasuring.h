@@ -21,4 +21,7 @@ struct Remeasuring
 
 [[nodiscard]] std::span<const Remeasuring> remeasurings();
 
+/// A good resurvey, of which a crew makes as many as it has to.
+[[nodiscard]] const Remeasuring& goodResurvey();
+
 } // namespace demo

@@ -33,6 +33,8 @@ double rounded(double value)
 
 void setDeviations(SurveyPoint& point)
 {
+    if (!hasDesignPosition(point))
+        return;
     const double azimuth = azimuthDeg(point.pointMark) * std::numbers::pi / 180;
     const double north = point.north - point.designNorth;
     const double east = point.east - point.designEast;

@@ -31,12 +31,13 @@ std::string spoilPosition(SurveyPoint& point, Random& random)
 {
     const Skid& direction = kDirections[random.index(kDirections.size())];
     const double length = random.uniform(1.2, 6);
-    const LocalPlace stake = moved(toGrid({point.north, point.east}), point.pointMark,
-                                   length * direction.rightM, length * direction.alongM);
+    const LocalPlace right = toGrid({point.north, point.east});
+    const LocalPlace stake =
+        moved(right, point.pointMark, length * direction.rightM, length * direction.alongM);
     const PlanePlace plane = toPlane(stake);
     point.north = plane.north;
     point.east = plane.east;
-    point.elevation = groundHeight(stake);
+    point.elevation += groundHeight(stake) - groundHeight(right);
     const double off = std::hypot(point.north - point.designNorth, point.east - point.designEast);
     return words("staked ", off, 2, " m from the design position");
 }
@@ -134,6 +135,68 @@ std::string spoilReference(SurveyPoint& point, Random& /*random*/)
            words(" instead of ", right, 2, " m");
 }
 
+/// Not a bad position, but the rover did not get the corrections for a fixed solution.
+std::string spoilSolution(SurveyPoint& point, Random& random)
+{
+    makeFloat(point, random, {0.2, 0.4}, {0.25, 0.35});
+    return "float solution";
+}
+
+/// Both accuracies are within their limits, together they are not.
+std::string spoilRms(SurveyPoint& point, Random& random)
+{
+    makeFloat(point, random, {0.46, 0.49}, {0.46, 0.49});
+    return words("RMS ", std::hypot(point.horizontalAccuracy, point.verticalAccuracy), 4, " m");
+}
+
+std::string spoilAge(SurveyPoint& point, Random& random)
+{
+    point.ageOfDiff = random.whole(12, 45);
+    point.remarks = "radio link lost";
+    return words("corrections ", point.ageOfDiff, 0, " s old");
+}
+
+/// The receiver stored only some of the epochs.
+std::string spoilEpochs(SurveyPoint& point, Random& random)
+{
+    point.epochNumber = random.whole(2, 3);
+    return std::to_string(point.epochNumber) + " epochs";
+}
+
+/// The rover stored ten epochs a second.
+std::string spoilOccupation(SurveyPoint& point, Random& random)
+{
+    const int seconds = random.whole(1, 2);
+    point.endTime = point.startTime + std::int64_t(seconds) * 1000;
+    point.dateTime = point.endTime;
+    return words("occupied for ", seconds, 0, " s");
+}
+
+std::string raise(SurveyPoint& point, Random& random, const Range& range)
+{
+    const double up = random.uniform(range.from, range.to);
+    const bool isLow = random.whole(0, 1) == 0;
+    point.elevation += isLow ? -up : up;
+    return words("elevation ", up, 2, isLow ? " m too low" : " m too high");
+}
+
+std::string spoilHeight(SurveyPoint& point, Random& random)
+{
+    return raise(point, random, {13, 14.5});
+}
+
+std::string spoilHeightMuch(SurveyPoint& point, Random& random)
+{
+    return raise(point, random, {24, 32});
+}
+
+/// Measured without a point chosen in the design.
+std::string spoilDesign(SurveyPoint& point, Random& /*random*/)
+{
+    point.designNorth = point.designEast = point.designElevation = 0;
+    return "measured without a point of the design";
+}
+
 constexpr std::array kSpoilings{
     Spoiling{"too far", 12, spoilPosition},
     Spoiling{"hrms", 6, spoilHrms},
@@ -146,6 +209,14 @@ constexpr std::array kSpoilings{
     Spoiling{"pdop hdop and vdop", 3, spoilAllDops},
     Spoiling{"few satellites", 5, spoilSatellites},
     Spoiling{"reference too far", 4, spoilReference},
+    Spoiling{"not fixed", 3, spoilSolution},
+    Spoiling{"rms", 2, spoilRms},
+    Spoiling{"old corrections", 3, spoilAge},
+    Spoiling{"few epochs", 2, spoilEpochs},
+    Spoiling{"short occupation", 2, spoilOccupation},
+    Spoiling{"height off", 2, spoilHeight},
+    Spoiling{"height jump", 2, spoilHeightMuch},
+    Spoiling{"no design position", 2, spoilDesign},
 };
 
 } // namespace

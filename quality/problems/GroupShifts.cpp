@@ -91,7 +91,8 @@ private:
                                               const std::vector<Difference>& differences) const;
 
     void accept(const ShiftCandidate& candidate, GroupShift::Evidence evidence);
-    void uniteWhenAll();
+    [[nodiscard]] bool areAll(const std::vector<ShiftCandidate>& bases) const;
+    void unite();
 
     const statistics::SurveySample& m_sample;
     const ShiftLimits m_limits;
@@ -217,15 +218,23 @@ void ShiftSearch::findShared(ShiftCandidate& candidate) const
 void ShiftSearch::searchDesign()
 {
     std::vector<ShiftCandidate> bases = designCandidates(m_bases);
-    std::vector<ShiftCandidate> rovers = designCandidates(m_rovers);
-    settleCauses(m_sample, m_bases, m_rovers, bases, rovers);
+    std::vector<ShiftCandidate> rovers;
+    const bool hasOnePole = m_sample.valuesOf(GroupKey::Rover).size() == 1;
+    if (!areAll(bases) || hasOnePole) {
+        rovers = designCandidates(m_rovers);
+        settleCauses(m_sample, m_bases, m_rovers, bases, rovers);
+    }
     for (const auto* const candidates : {&bases, &rovers}) {
         for (const ShiftCandidate& candidate : *candidates) {
             if (!candidate.isDropped)
                 accept(candidate, GroupShift::Evidence::Design);
         }
     }
-    uniteWhenAll();
+    const auto isPole = [](const GroupShift& shift) {
+        return shift.cause == GroupShift::Cause::Pole;
+    };
+    if (areAll(bases) && std::ranges::none_of(m_found, isPole))
+        unite();
 }
 
 // --- points measured twice ---
@@ -366,8 +375,8 @@ void ShiftSearch::accept(const ShiftCandidate& candidate, GroupShift::Evidence e
     m_found.push_back(std::move(shift));
 }
 
-/// Bases that are all shifted alike tell nothing of a base: one shift of the survey stands for all.
-void ShiftSearch::uniteWhenAll()
+/// Whether all bases that can be compared with the design are shifted alike.
+bool ShiftSearch::areAll(const std::vector<ShiftCandidate>& bases) const
 {
     const auto isComparable = [this](const ShiftGroup& group) {
         const auto isOne = [this](std::uint32_t place) { return isStake(m_sample.results[place]); };
@@ -376,16 +385,24 @@ void ShiftSearch::uniteWhenAll()
                heightsOf(group.members).size() >= m_limits.least;
     };
     const auto comparable = std::ranges::count_if(m_bases.groups, isComparable);
-    if (m_found.size() < 2 || static_cast<std::size_t>(comparable) != m_found.size())
-        return;
-    GroupShift all = m_found.front();
-    const auto isAlike = [&](const GroupShift& each) {
-        return each.cause != GroupShift::Cause::Pole &&
-               std::hypot(each.eastM - all.eastM, each.northM - all.northM,
-                          each.heightM - all.heightM) <= kSameShiftM;
+    if (bases.size() < 2 || static_cast<std::size_t>(comparable) != bases.size())
+        return false;
+    const auto offsetOf = [](const SteadyOffset& offset) {
+        return offset.isFound ? offset : SteadyOffset();
     };
-    if (!std::ranges::all_of(m_found, isAlike))
-        return;
+    const SteadyOffset plane = offsetOf(bases.front().plane);
+    const SteadyOffset height = offsetOf(bases.front().height);
+    return std::ranges::all_of(bases, [&](const ShiftCandidate& each) {
+        const SteadyOffset ownPlane = offsetOf(each.plane);
+        return std::hypot(ownPlane.eastM - plane.eastM, ownPlane.northM - plane.northM,
+                          offsetOf(each.height).heightM - height.heightM) <= kSameShiftM;
+    });
+}
+
+/// Bases that are all shifted alike tell nothing of a base: one shift of the survey stands for all.
+void ShiftSearch::unite()
+{
+    GroupShift all = m_found.front();
     all.results = all.shared = 0;
     for (const GroupShift& each : m_found) {
         all.results += each.results;

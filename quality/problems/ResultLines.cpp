@@ -53,11 +53,18 @@ private:
             part.results.clear();
             part.designed = 0;
         }
-        DesignWalk walk(m_input.design().findLine(number));
+        const DesignPoints::Line* const designed = m_input.design().findLine(number);
+        // There a number that the design has not says nothing about the place in the line.
+        const bool isPlanned = designed != nullptr && 2 * designed->size() >= line.size();
+        DesignWalk walk(designed);
         for (const SurveyPoint& result : line) {
             fetchAhead(result);
             const bool isDesigned = walk.find(result.pointNumber) != nullptr;
             if (!isDesigned && !isFirst(result))
+                continue;
+            if (!isDesigned && hasPosition(result))
+                m_undesigned.push_back(&result);
+            if (!isDesigned && isPlanned)
                 continue;
             Part& part = m_parts[result.pointMark != 0 ? 1 : 0];
             const PointPlace place = placeOf(result, m_input.planeUnitM());
@@ -66,8 +73,6 @@ private:
                            part.results.size());
             part.results.push_back(&result);
             part.designed += isDesigned ? 1U : 0U;
-            if (!isDesigned && hasPosition(result))
-                m_undesigned.push_back(&result);
         }
     }
 

@@ -1,10 +1,12 @@
 #include "project/ui/StartPage.h"
 
+#include "exchange/ShownTimes.h"
 #include "lum_desktop_sdkx/IWindow.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ProjectPlace.h"
 #include "project/RecentProjects.h"
 #include "project/ui/ProjectState.h"
+#include "quality/problems/ProblemLimits.h"
 #include "tests/app/FrameTest.h"
 
 namespace {
@@ -99,6 +101,13 @@ private Q_SLOTS:
         DataProcessDataManager& manager = DataProcessDataManager::instance();
         QCOMPARE(manager.designPoints().pointCount(), std::size_t(4000));
         QVERIFY(!manager.isSaveOwed());
+        QCOMPARE(problemLimit(manager.qualityParameters(), "rms_max"), 0.6);
+        for (const auto& [number, line] : manager.surveyPoints()) {
+            for (const SurveyPoint& point : line) { // days are shown as the crews had them
+                const std::string hour = shownTime(point.dateTime).substr(11, 2);
+                QVERIFY2(hour >= "07" && hour < "19", hour.c_str());
+            }
+        }
         QVERIFY(QFile::exists(place.folder + "/csv/faults.csv"_q));
 
         m_boxes->told();

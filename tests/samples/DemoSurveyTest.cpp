@@ -48,8 +48,17 @@ constexpr Kind kKinds[] = {
     {"hrms", 6, 1000},           {"vrms", 5, 2000},             {"hrms and vrms", 4, 3000},
     {"antenna high", 4, 10000},  {"antenna low", 3, 20000},     {"pdop", 4, 100000},
     {"pdop and vdop", 3, 500000}, {"pdop hdop and vdop", 3, 700000}, {"few satellites", 5, 1000000},
-    {"reference too far", 4, 100}, {"resurvey good", 40, 0},    {"resurvey bad", 6, 0},
+    {"reference too far", 4, 100}, {"resurvey good", kAny, 0},  {"resurvey bad", 6, 0},
     {"resurvey orphan", 4, 0},   {"repeat", 24, 0},
+    // of problems that the checks do not find
+    {"not fixed", 3, 0},         {"rms", 2, 0},                 {"old corrections", 3, 0},
+    {"few epochs", 2, 0},        {"short occupation", 2, 0},    {"height off", 2, 0},
+    {"height jump", 2, 0},       {"no design position", 2, 1},  {"wrong name", 3, 1},
+    {"exchanged names", 4, 1},   {"unknown name", 2, 0},        {"design spacing", 1, 0},
+    {"design spike", 1, 0},      {"design azimuth", 1, 0},      {"design order", 1, 0},
+    {"design in one place", 1, 0}, {"design height", 1, 0},     {"design numbers", 1, 0},
+    {"design lines", 1, 0},      {"base height", 1, 0},         {"pole height", 1, 0},
+    {"few check shots", 1, 0},
 };
 // clang-format on
 
@@ -127,7 +136,7 @@ TEST(DemoSurvey, EveryLineIsReadAndEachKindIsThereAsPlanned)
         EXPECT_EQ(summary.pointsNew, summary.linesRead - 1) << "all but the captions";
     }
     EXPECT_EQ(files().design.pointCount(), 4000U);
-    EXPECT_EQ(files().design.lineCount(), 40U);
+    EXPECT_EQ(files().design.lineCount(), 41U) << "with one between two others";
     for (const Kind& kind : kKinds) {
         const std::size_t count = files().counts.at(kind.name);
         EXPECT_TRUE(kind.count == kAny ? count > 20 : count == kind.count)
@@ -242,11 +251,16 @@ TEST(DemoSurvey, RepeatPointCheckFindsWhatIsPlantedAndNothingElse)
 TEST(DemoSurvey, CrewsMeasureOneAfterTheOtherInWorkingHours)
 {
     constexpr std::int64_t kDayMs = 86400000;
+    constexpr std::int64_t kLatestMs = 19 * 3600000; // after the points that are measured again
     std::map<std::string, std::map<std::int64_t, std::int64_t>> crews; // ends by starts
     std::set<std::int64_t> days;
     forEachResult([&](const SurveyPoint& point) {
         EXPECT_TRUE(crews[point.surveyor].emplace(point.startTime, point.endTime).second);
-        EXPECT_EQ(point.endTime - point.startTime, point.epochNumber * 1000);
+        if (planted("few epochs").count(placeOf(point)) == 0 &&
+            planted("short occupation").count(placeOf(point)) == 0) {
+            EXPECT_EQ(point.endTime - point.startTime, point.epochNumber * 1000);
+        }
+        EXPECT_LT(point.dateTime % kDayMs, kLatestMs);
         days.insert(point.dateTime / kDayMs);
     });
     for (const auto& [surveyor, times] : crews) {
@@ -266,9 +280,11 @@ TEST(DemoSurvey, ValuesOfAResultBelongTogether)
     forEachResult([&](const SurveyPoint& point) {
         EXPECT_NEAR(point.pdop * point.pdop, point.hdop * point.hdop + point.vdop * point.vdop,
                     0.002);
-        EXPECT_NEAR(std::hypot(point.transversalDeviation, point.longitudinalDeviation),
-                    std::hypot(point.north - point.designNorth, point.east - point.designEast),
-                    0.0003);
+        if (hasDesignPosition(point)) {
+            EXPECT_NEAR(std::hypot(point.transversalDeviation, point.longitudinalDeviation),
+                        std::hypot(point.north - point.designNorth, point.east - point.designEast),
+                        0.0003);
+        }
         EXPECT_NEAR(std::hypot(point.referenceNorth - point.north, point.referenceEast - point.east,
                                point.referenceAltitude - point.elevation),
                     point.referenceDistance, 0.001);

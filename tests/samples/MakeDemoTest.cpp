@@ -60,6 +60,11 @@ void MakeDemoTest::makesAProjectInAnyLanguage()
     QVERIFY2(tells("survey_results", "csv/survey.csv"), qUtf8Printable(m_output));
     QVERIFY(m_output.contains(QStringLiteral("coordinate_system: EPSG:32650\n")));
     QVERIFY(TestFolder::read(project).contains("\"../csv/ground.tif\""));
+
+    QCOMPARE(run(BUILD_FOLDER "/bin/skyquill-cli", {QStringLiteral("problems"), project}, locale),
+             3); // some are found
+    for (const char* const kind : {"solution_type", "height_off", "wrong_name", "pole_shift"})
+        QVERIFY2(m_output.contains(QLatin1String(kind)), kind);
 }
 
 void MakeDemoTest::refusesWhatIsNoSeed()
