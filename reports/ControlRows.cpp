@@ -90,7 +90,7 @@ std::vector<ControlRow> problemLimitRows()
             row = {translated(group.caption),
                    limit.key,
                    translated(limit.caption),
-                   QString::fromUtf8(limit.unit),
+                   translated(limit.unit),
                    "number",
                    limit.fallback,
                    {}};

@@ -23,7 +23,7 @@ PropertyGridRow rowOf(const ProblemLimit& limit)
     row.caption = translated(limit.caption);
     row.description = translated(limit.description);
     row.editor = limit.isWhole ? Editor::Integer : Editor::Number;
-    row.unit = QString::fromUtf8(limit.unit);
+    row.unit = translated(limit.unit);
     row.minimum = 0;
     row.maximum = limit.largest;
     row.fallback = QString::fromLatin1(limit.fallback);
