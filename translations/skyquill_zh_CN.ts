@@ -1859,7 +1859,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>DlgAcceptProblems</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1：%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Accept Problems</source>
@@ -1883,7 +1883,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">取消</translation>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -4379,7 +4379,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>&amp;Save as CSV...</source>
-        <translation type="unfinished">另存为 CSV(&amp;S)...</translation>
+        <translation>另存为 CSV(&amp;S)...</translation>
     </message>
     <message>
         <source>Write the rows that are shown, as they are shown</source>
@@ -4387,7 +4387,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished">复制(&amp;C)</translation>
+        <translation>复制(&amp;C)</translation>
     </message>
     <message>
         <source>Copy with H&amp;eaders</source>
@@ -4832,7 +4832,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Problems</source>
-        <translation type="unfinished">问题</translation>
+        <translation>问题</translation>
     </message>
     <message>
         <source>Points or limits have changed since these problems were found. &lt;a href=&quot;find&quot;&gt;Find them again&lt;/a&gt; (Ctrl+F9)</source>
@@ -4848,7 +4848,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">搜索</translation>
+        <translation>搜索</translation>
     </message>
     <message>
         <source>Shows the problems with this line, point, rover, surveyor or kind. A line and a point together: 1001/10015001</source>
@@ -4864,7 +4864,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>No project is open.</source>
-        <translation type="unfinished">没有打开的工程。</translation>
+        <translation>没有打开的工程。</translation>
     </message>
     <message>
         <source>What must the crew do tomorrow? &lt;a href=&quot;find&quot;&gt;Find the problems&lt;/a&gt; of the design and of all results (Ctrl+F9).</source>
@@ -4876,7 +4876,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Filter of &quot;%1&quot;: %2</source>
-        <translation type="unfinished">“%1”的筛选条件：%2</translation>
+        <translation>“%1”的筛选条件：%2</translation>
     </message>
     <message>
         <source>No problem passes the filters.</source>
@@ -4912,11 +4912,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Show on the &amp;Map</source>
-        <translation type="unfinished">在地图上显示(&amp;M)</translation>
+        <translation>在地图上显示(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;History of This Point</source>
-        <translation type="unfinished">此点的历史(&amp;H)</translation>
+        <translation>此点的历史(&amp;H)</translation>
     </message>
     <message>
         <source>No open problem was found. Results: %1, design points: %2</source>

@@ -302,6 +302,17 @@ void ProblemWindow::showChoice()
 {
     m_model->setChoice(m_kinds->choice());
     showState();
+    keepInView();
+}
+
+/// The selected problem, where other rows are shown around it.
+void ProblemWindow::keepInView()
+{
+    if (m_table->selectedRowCount() != 1)
+        return;
+    const QModelIndex row = m_table->currentIndex();
+    static_cast<void>(m_table->visualRect(row)); // lays the rows out, else it cannot scroll there
+    m_table->showRow(row.row());
 }
 
 void ProblemWindow::setFilter(int column, const QString& text)
@@ -310,6 +321,7 @@ void ProblemWindow::setFilter(int column, const QString& text)
     m_model->setFilter(column, text);
     m_header->setFault(column, m_model->filterFault(column));
     showState();
+    keepInView();
 }
 
 void ProblemWindow::clearFilters()
@@ -324,6 +336,7 @@ void ProblemWindow::clearFilters()
     }
     m_model->clearFilters();
     showState();
+    keepInView();
 }
 
 // --- what is said ---

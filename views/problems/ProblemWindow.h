@@ -65,6 +65,7 @@ private:
     void goOnAt(int row);
     void showKinds();
     void showChoice();
+    void keepInView();
     void setFilter(int column, const QString& text);
     void clearFilters();
     void showState();

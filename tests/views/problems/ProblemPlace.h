@@ -72,9 +72,7 @@ struct ProblemPlace : OpenProject
     {
         const auto rows = kinds.findItems(QString::fromUtf8(caption), Qt::MatchExactly);
         QCOMPARE(rows.size(), 1);
-        kinds.scrollToItem(rows.first()); // lays the entries out
-        QTest::mouseClick(kinds.viewport(), Qt::LeftButton, {},
-                          kinds.visualItemRect(rows.first()).center());
+        kinds.setCurrentItem(rows.first());
         QVERIFY(rows.first()->isSelected());
     }
     void click(int row, Qt::KeyboardModifiers keys = {}) const

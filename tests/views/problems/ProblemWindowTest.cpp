@@ -111,6 +111,17 @@ private Q_SLOTS:
         place.find();
         place.chooseKind("Not surveyed");
         QCOMPARE(place.model.rowCount(), 12);
+        place.window.resize(1100, 250); // the last row is out of view
+        place.model.setFilter(int(ProblemField::Line), "1002"_q);
+        place.click(3);
+        for (QToolButton* const button : place.window.findChildren<QToolButton*>()) {
+            if (button->text() == "Clear All Filters"_q)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+        const QModelIndex selected = place.table.currentIndex();
+        QCOMPARE(selected.row(), 9);
+        QVERIFY(place.table.viewport()->rect().contains(place.table.visualRect(selected).center()));
+        place.window.resize(1100, 400);
         auto* const search = place.window.findChild<QLineEdit*>("search"_q);
         QTest::keyClicks(search, "1002/500"_q);
         QTRY_COMPARE(place.model.rowCount(), 6);
