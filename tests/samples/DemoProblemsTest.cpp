@@ -453,7 +453,7 @@ const BadCase kBadCases[] = {
                  point.elevation = HUGE_VAL;
          });
      },
-     {"no_position", "height_off"},
+     {"no_position", "height_off", "resurvey_off"},
      1250},
     {"DesignWithoutPositions",
      [](DemoSurvey& demo) {
