@@ -88,3 +88,13 @@ void BarSeries::collect(const QRectF& rectangle, const PlotMaps& maps,
             places.insert(places.end(), bar.places.begin(), bar.places.end());
     }
 }
+
+std::size_t BarSeries::countOutside(const QwtInterval& x, const QwtInterval& /*y*/) const
+{
+    std::size_t outside = 0;
+    for (const PlotBar& bar : m_bars) {
+        if (bar.from >= x.maxValue() || bar.to <= x.minValue())
+            outside += bar.places.size();
+    }
+    return outside;
+}

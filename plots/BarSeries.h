@@ -31,6 +31,8 @@ public:
                                          double reach) const override;
     void collect(const QRectF& rectangle, const PlotMaps& maps,
                  std::vector<std::uint32_t>& places) const override;
+    [[nodiscard]] std::size_t countOutside(const QwtInterval& x,
+                                           const QwtInterval& y) const override;
 
 private:
     [[nodiscard]] std::size_t selectedOf(const PlotBar& bar) const;

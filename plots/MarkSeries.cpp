@@ -165,3 +165,10 @@ void MarkSeries::collect(const QRectF& rectangle, const PlotMaps& maps,
             places.push_back(mark.place);
     }
 }
+
+std::size_t MarkSeries::countOutside(const QwtInterval& x, const QwtInterval& y) const
+{
+    return std::size_t(std::count_if(m_marks.begin(), m_marks.end(), [&](const PlotMark& mark) {
+        return !x.contains(mark.x) || !y.contains(mark.y);
+    }));
+}

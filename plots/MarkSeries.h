@@ -32,6 +32,8 @@ public:
                                          double reach) const override;
     void collect(const QRectF& rectangle, const PlotMaps& maps,
                  std::vector<std::uint32_t>& places) const override;
+    [[nodiscard]] std::size_t countOutside(const QwtInterval& x,
+                                           const QwtInterval& y) const override;
 
 private:
     void stamp(QPainter& painter, const PlotMaps& maps, const QRectF& canvas, double ratio) const;

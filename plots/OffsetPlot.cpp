@@ -102,9 +102,9 @@ void OffsetPlot::fill()
         addLegend(PlotLegend::Sign::Disc, color, text);
     if (limitM > 0)
         addCircle(limitM);
-    setNote(tr("Results shown: %1, without a design position: %2.")
-                .arg(lum::groupedNumber(shown), lum::groupedNumber(first.size() - shown)));
-    addEllipse();
+    setNote(tr("Results: %1, without a design position: %2.")
+                .arg(lum::groupedNumber(shown), lum::groupedNumber(first.size() - shown)),
+            addEllipse());
 }
 
 void OffsetPlot::addCircle(double radiusM)
@@ -117,22 +117,20 @@ void OffsetPlot::addCircle(double radiusM)
               tr("limit: %1 m").arg(numberText(radiusM, 3)));
 }
 
-void OffsetPlot::addEllipse()
+QString OffsetPlot::addEllipse()
 {
     const statistics::ErrorEllipse ellipse =
         statistics::errorEllipseOf(*data().sample, data().places);
     if (!std::isfinite(ellipse.semiMajorM))
-        return;
+        return {};
     panel(0).addPlain(outline(ellipsePath(ellipse), QPen(look().figure, dpi_scaled(2.0))),
                       kOverData);
     addLegend(PlotLegend::Sign::Line, look().figure,
               tr("95 % ellipse: %1 m by %2 m")
                   .arg(numberText(ellipse.semiMajorM, 3), numberText(ellipse.semiMinorM, 3)));
-    setNote(
-        note() + QLatin1Char(' ') +
-        tr("The ellipse holds 95 % of normally spread offsets: from their covariance matrix "
-           "about the mean (n - 1), half axes = root of (5.991 x eigenvalue), where 5.991 is "
-           "the 95 % value of chi-square with two degrees of freedom. Its longer axis points to "
-           "%1%2.")
-            .arg(numberText(ellipse.azimuthDeg, 0), QChar(0x00B0)));
+    return tr("The ellipse holds 95 % of normally spread offsets: its middle is their mean, its "
+              "half axes are the roots of 5.991 times the eigenvalues of their covariance matrix "
+              "(with n - 1); 5.991 is the 95 % value of chi-square with two degrees of freedom. "
+              "The longer axis points to %1%2.")
+        .arg(numberText(ellipse.azimuthDeg, 0), QChar(0x00B0));
 }

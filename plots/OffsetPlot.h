@@ -19,5 +19,6 @@ protected:
 
 private:
     void addCircle(double radiusM);
-    void addEllipse();
+    /// \returns how it is computed
+    QString addEllipse();
 };

@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QString>
+#include <qwt_interval.h>
 #include <qwt_plot_item.h>
 #include <qwt_scale_map.h>
 
@@ -44,4 +45,7 @@ public:
     /// Adds the results that lie in a rectangle of the screen.
     virtual void collect(const QRectF& rectangle, const PlotMaps& maps,
                          std::vector<std::uint32_t>& places) const = 0;
+    /// How many results lie outside of these ranges.
+    [[nodiscard]] virtual std::size_t countOutside(const QwtInterval& x,
+                                                   const QwtInterval& y) const = 0;
 };

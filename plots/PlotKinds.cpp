@@ -1,6 +1,11 @@
 #include "plots/PlotKinds.h"
 
+#include "plots/BaseDifferencePlot.h"
+#include "plots/DayQualityPlot.h"
+#include "plots/DistancePlot.h"
+#include "plots/LineHeightPlot.h"
 #include "plots/OffsetPlot.h"
+#include "plots/ProgressPlot.h"
 
 #include <QCoreApplication>
 
@@ -18,6 +23,15 @@ std::unique_ptr<StatisticsPlot> makePlot(QWidget* parent)
 constexpr std::array kKinds{
     PlotKind{"offsets", QT_TRANSLATE_NOOP("PlotKinds", "Offsets from the design"),
              makePlot<OffsetPlot>},
+    PlotKind{"distances", QT_TRANSLATE_NOOP("PlotKinds", "Horizontal distances"),
+             makePlot<DistancePlot>},
+    PlotKind{"heights", QT_TRANSLATE_NOOP("PlotKinds", "Height differences along the lines"),
+             makePlot<LineHeightPlot>},
+    PlotKind{"bases", QT_TRANSLATE_NOOP("PlotKinds", "Points measured twice, by base"),
+             makePlot<BaseDifferencePlot>},
+    PlotKind{"day", QT_TRANSLATE_NOOP("PlotKinds", "Accuracy and satellites over the day"),
+             makePlot<DayQualityPlot>},
+    PlotKind{"progress", QT_TRANSLATE_NOOP("PlotKinds", "Progress"), makePlot<ProgressPlot>},
 };
 
 } // namespace

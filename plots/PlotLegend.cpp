@@ -8,9 +8,16 @@
 
 namespace {
 
+/// Letters of the screen's size, also with a painter that is scaled for paper.
+QFont unscaled(QFont font)
+{
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    return font;
+}
+
 int signWidth()
 {
-    return dpi_scaled(16);
+    return dpi_scaled(20);
 }
 
 int gap()
@@ -33,10 +40,13 @@ void drawSign(QPainter& painter, const PlotLegend::Entry& entry, const QRectF& a
         painter.fillRect(box, entry.color);
         break;
     }
-    default:
-        painter.setPen(QPen(entry.color, dpi_scaled(2.0),
-                            entry.sign == PlotLegend::Sign::Line ? Qt::SolidLine : Qt::DashLine));
+    default: {
+        QPen pen(entry.color, dpi_scaled(2.0), Qt::SolidLine, Qt::FlatCap);
+        if (entry.sign == PlotLegend::Sign::DashedLine)
+            pen.setDashPattern({2, 1.5});
+        painter.setPen(pen);
         painter.drawLine(QPointF(at.left() + 1, middle.y()), QPointF(at.right() - 2, middle.y()));
+    }
     }
 }
 
@@ -71,7 +81,7 @@ int PlotLegend::rowHeight() const
 std::vector<PlotLegend::Placed> PlotLegend::placed(double width) const
 {
     const QFontMetrics metrics = fontMetrics();
-    const int longest = std::min(dpi_scaled(200), std::max(1, int(width) - signWidth()));
+    const int longest = std::min(dpi_scaled(280), std::max(1, int(width) - signWidth()));
     const QString more = tr("and %1 more");
     const int moreWidth = metrics.horizontalAdvance(more.arg(m_entries.size()));
     std::vector<Placed> all;
@@ -109,7 +119,7 @@ int PlotLegend::heightFor(int width) const
 void PlotLegend::paint(QPainter& painter, const QRectF& rectangle, const QColor& text) const
 {
     painter.save();
-    painter.setFont(font());
+    painter.setFont(unscaled(font()));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(rectangle.topLeft());
     for (const Placed& each : placed(rectangle.width())) {

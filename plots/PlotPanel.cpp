@@ -34,9 +34,7 @@ QFont smaller(QFont font)
 PlotPanel::PlotPanel(QWidget* parent) : QwtPlot(parent), m_grid(new QwtPlotGrid)
 {
     auto* const canvas = qobject_cast<QwtPlotCanvas*>(this->canvas());
-    canvas->setFrameShape(QFrame::Box);
-    canvas->setFrameShadow(QFrame::Plain);
-    canvas->setLineWidth(1);
+    canvas->setFrameShape(QFrame::NoFrame);
     canvas->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
     canvas->setCursor(Qt::ArrowCursor);
     plotLayout()->setAlignCanvasToScales(true);
@@ -72,8 +70,6 @@ void PlotPanel::setLook(const PlotLook& look)
     setPalette(colors);
     for (const int axis : {xBottom, yLeft})
         axisWidget(axis)->setPalette(colors);
-    colors.setColor(QPalette::WindowText, look.faint); // of its frame
-    canvas()->setPalette(colors);
     setCanvasBackground(look.paper);
     QColor grid = look.faint;
     grid.setAlpha(110);
@@ -256,7 +252,7 @@ QString PlotPanel::valueText(const QPointF& value) const
 void PlotPanel::setTickCounts(const QSizeF& size)
 {
     const QFontMetrics metrics(axisFont(xBottom));
-    const bool hasDates = m_xScale == PlotScale::Moment;
+    const bool hasDates = m_xScale == PlotScale::Moment || m_xScale == PlotScale::Day;
     const int widest =
         metrics.horizontalAdvance(hasDates ? kLongestDate : QStringLiteral("-00000.0"));
     setAxisMaxMajor(xBottom, std::clamp(int(size.width() / (1.6 * widest)), 1, 12));

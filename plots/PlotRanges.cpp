@@ -5,9 +5,9 @@
 
 namespace {
 
-constexpr double kOutside = 0.005; // the share of values at each end that may lie far away
+constexpr double kOutside = 0.02;  // the share of values at each end that may lie far away
 constexpr double kFar = 3;         // times the width of the others
-constexpr double kMarkIsNear = 4;  // likewise, for limits
+constexpr double kMarkIsNear = 10; // likewise, for limits
 constexpr double kRoom = 0.06;
 
 QwtInterval atLeast(const QwtInterval& range, double least)

@@ -21,6 +21,19 @@ public:
     }
 };
 
+/// Has no ticks between days.
+class DayEngine : public QwtDateScaleEngine
+{
+public:
+    DayEngine() : QwtDateScaleEngine(Qt::UTC) {}
+
+    [[nodiscard]] QwtDate::IntervalType intervalType(const QDateTime& from, const QDateTime& to,
+                                                     int maxSteps) const override
+    {
+        return std::max(QwtDate::Day, QwtDateScaleEngine::intervalType(from, to, maxSteps));
+    }
+};
+
 const QString kTime = QStringLiteral("hh:mm");
 const QString kSeconds = QStringLiteral("hh:mm:ss");
 const QString kDay = QStringLiteral("yyyy-MM-dd");
@@ -69,7 +82,8 @@ void setScale(QwtPlot& plot, int axis, PlotScale scale)
         plot.setAxisScaleDraw(axis, new NumberDraw);
         return;
     }
-    plot.setAxisScaleEngine(axis, new QwtDateScaleEngine(Qt::UTC));
+    plot.setAxisScaleEngine(axis, scale == PlotScale::Day ? new DayEngine
+                                                          : new QwtDateScaleEngine(Qt::UTC));
     plot.setAxisScaleDraw(axis, makeDraw(scale));
 }
 
@@ -78,6 +92,8 @@ QString scaleText(PlotScale scale, double value, double tickStep)
     if (scale == PlotScale::Number)
         return numberText(value, std::min(decimalsFor(tickStep) + 3, 4));
     const QDateTime moment = QDateTime::fromMSecsSinceEpoch(std::int64_t(value), Qt::UTC);
+    if (scale == PlotScale::Day)
+        return moment.toString(kDay);
     return moment.toString(scale == PlotScale::TimeOfDay ? kSeconds
                                                          : kDay + QLatin1Char(' ') + kSeconds);
 }

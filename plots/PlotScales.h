@@ -11,8 +11,9 @@ class QwtPlot;
 enum class PlotScale
 {
     Number,
-    Moment,   ///< `clockOf`, as date and time
-    TimeOfDay ///< likewise, without a date
+    Moment,   ///< `toClockMs`, as date and time
+    Day,      ///< likewise, as a date; no ticks but those of days
+    TimeOfDay ///< likewise, as a time
 };
 
 /// Sets up an axis of a plot.
@@ -26,6 +27,13 @@ void setScale(QwtPlot& plot, int axis, PlotScale scale);
 [[nodiscard]] inline double toClockMs(std::int64_t clockSeconds)
 {
     return double(clockSeconds) * 1000;
+}
+
+/// Whether axes can show a moment, milliseconds since 1970 UTC; 0 is none.
+[[nodiscard]] inline bool hasShownTime(std::int64_t timeMs)
+{
+    constexpr std::int64_t kYear2200Ms = 7'258'118'400'000;
+    return timeMs > 0 && timeMs < kYear2200Ms;
 }
 
 inline constexpr double kHourMs = 3600'000.0;

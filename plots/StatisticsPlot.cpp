@@ -2,6 +2,7 @@
 
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/files/WholeFile.h"
+#include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
 #include "plots/PlotMouse.h"
@@ -107,6 +108,7 @@ void StatisticsPlot::refill(const PlotLook& look)
     m_look = look;
     m_legend->clear();
     m_note.clear();
+    m_method.clear();
     m_empty.clear();
     for (PlotPanel* const panel : m_panels) {
         panel->clear();
@@ -128,9 +130,32 @@ void StatisticsPlot::updateParts()
     m_legend->setVisible(!m_legend->entries().empty());
     m_emptyLabel->setVisible(isEmpty());
     m_emptyLabel->setText(m_empty);
-    m_noteLabel->setText(m_note);
     m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() &&
                             height() >= dpi_scaled(kHeightForNote));
+    updateNote();
+}
+
+QString StatisticsPlot::note() const
+{
+    std::size_t outside = 0;
+    for (const PlotPanel* const panel : m_panels) {
+        const PlotPanel::View view = panel->view();
+        std::size_t ofPanel = 0;
+        for (const PlotItem* const item : panel->items())
+            ofPanel += item->countOutside(view.x, view.y);
+        outside = std::max(outside, ofPanel);
+    }
+    if (outside == 0)
+        return m_note;
+    return m_note + QLatin1Char(' ') +
+           tr("Outside of the picture: %1.").arg(lum::groupedNumber(outside));
+}
+
+void StatisticsPlot::updateNote()
+{
+    m_noteLabel->setText(note());
+    m_noteLabel->setToolTip(
+        m_method.isEmpty() ? QString() : Qt::convertFromPlainText(m_method, Qt::WhiteSpaceNormal));
 }
 
 void StatisticsPlot::setSelected(const std::vector<std::uint32_t>& places)
@@ -149,6 +174,7 @@ void StatisticsPlot::replotAll()
 {
     for (PlotPanel* const panel : m_panels)
         panel->replot();
+    updateNote();
 }
 
 void StatisticsPlot::alignPanels()
@@ -182,9 +208,9 @@ void StatisticsPlot::setViews(bool isUsual)
         return;
     for (PlotPanel* const panel : m_panels)
         panel->setView(isUsual ? panel->usualView() : panel->wholeView());
+    m_isUsual = isUsual;
     alignPanels();
     replotAll();
-    m_isUsual = isUsual;
 }
 
 void StatisticsPlot::showUsual()
@@ -354,9 +380,10 @@ double StatisticsPlot::paintNote(QPainter& painter, const QSizeF& size) const
     const QRectF all(0, 0, size.width(), size.height());
     const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
     painter.setFont(unscaled(font()));
-    const double height = painter.boundingRect(all, flags, m_note).height();
+    const QString text = m_method.isEmpty() ? note() : note() + QLatin1Char(' ') + m_method;
+    const double height = painter.boundingRect(all, flags, text).height();
     painter.setPen(m_look.text);
-    painter.drawText(all.adjusted(0, all.height() - height, 0, 0), flags, m_note);
+    painter.drawText(all.adjusted(0, all.height() - height, 0, 0), flags, text);
     return height + dpi_scaled(4);
 }
 

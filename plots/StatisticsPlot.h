@@ -61,7 +61,8 @@ public:
 
     /// What it is called, with its subject.
     [[nodiscard]] QString title() const;
-    [[nodiscard]] QString note() const { return m_note; }
+    /// The sentences below the data; with them, how many results lie outside of the picture.
+    [[nodiscard]] QString note() const;
     [[nodiscard]] const PlotLegend& legend() const { return *m_legend; }
     [[nodiscard]] const std::vector<PlotPanel*>& panels() const { return m_panels; }
     /// Whether there is nothing to show.
@@ -95,8 +96,12 @@ protected:
     {
         m_legend->add(sign, color, text);
     }
-    /// Sentences below the data.
-    void setNote(const QString& note) { m_note = note; }
+    /// Sentences below the data. \param method  how a figure is computed: on the screen a tool tip
+    void setNote(const QString& note, const QString& method = {})
+    {
+        m_note = note;
+        m_method = method;
+    }
     /// Says that there is nothing to show, and why.
     void setEmpty(const QString& reason) { m_empty = reason; }
 
@@ -108,6 +113,7 @@ protected:
 private:
     void refill(const PlotLook& look);
     void updateParts();
+    void updateNote();
     void alignPanels();
     void replotAll();
     void setViews(bool isUsual);
@@ -130,6 +136,7 @@ private:
     QLabel* m_noteLabel;
     QLabel* m_emptyLabel;
     QString m_note;
+    QString m_method;
     QString m_empty;
     Mouse m_mouse = Mouse::Select;
     bool m_isUsual = true; ///< until the user zooms or moves

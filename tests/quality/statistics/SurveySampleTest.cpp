@@ -204,3 +204,20 @@ TEST(StakingProgress, CumulatesTheDaysInTheirOrder)
                         std::int64_t(day.cumulated)});
     EXPECT_EQ(days, (std::vector<std::vector<std::int64_t>>{{19931, 0, 1, 2}, {19932, 1, 1, 4}}));
 }
+
+TEST(Pace, IsThatOfTheLastWorkingDays)
+{
+    StakingProgress progress;
+    EXPECT_FALSE(paceOf(progress, 10).daysNeeded.has_value());
+    progress.days = {{100, 900, 0, 900}}; // long ago, too good to count
+    for (std::int64_t i = 0; i < 7; ++i)
+        progress.days.push_back({200 + 2 * i, 10, 20 + std::size_t(i), 0}); // every second day
+    const Pace pace = paceOf(progress, 34);
+    EXPECT_EQ(pace.workingDays, 7U);
+    EXPECT_DOUBLE_EQ(pace.pointsADay, 33);
+    EXPECT_EQ(pace.daysNeeded, 2U); // a point more than one day's
+    EXPECT_EQ(pace.endDay, 212 + 4); // 2 days at 13 / 7 days each
+    EXPECT_EQ(paceOf(progress, 33).daysNeeded, 1U);
+    EXPECT_EQ(paceOf(progress, 0).endDay, 212);
+    EXPECT_FALSE(paceOf(progress, 1'000'000'000).endDay.has_value());
+}
