@@ -59,6 +59,7 @@ const std::map<std::string, Rows> kRows{
     {"resurvey bad", {{"resurvey_off"}}},
     {"resurvey orphan", {{"resurvey_alone", "wrong_name"}, {"coincident"}}},
     {"repeat", {{"repeat"}}},
+    {"repeat bad", {{"repeat_off"}}},
     {"wrong name", {{"wrong_name"}, {"too_far", "across", "along"}}},
     {"exchanged names", {{"swapped_names"}, {"too_far", "across", "along"}}},
     {"unknown name", {{"foreign_result"}}},
