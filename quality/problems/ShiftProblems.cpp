@@ -28,23 +28,32 @@ QString dayText(std::int64_t day)
     return QDate::fromJulianDay(kFirstDay + day).toString(QStringLiteral("yyyy/MM/dd"));
 }
 
+/// " on 2026/05/03" behind what is shifted.
+QString onDays(const QString& what, const GroupShift& shift)
+{
+    if (shift.day == statistics::KeyValue::kNoNumber)
+        return what;
+    if (shift.day == shift.lastDay)
+        return translated(QT_TRANSLATE_NOOP("ShiftProblems", "%1 on %2"))
+            .arg(what, dayText(shift.day));
+    return translated(QT_TRANSLATE_NOOP("ShiftProblems", "%1 from %2 to %3"))
+        .arg(what, dayText(shift.day), dayText(shift.lastDay));
+}
+
 /// "base B3 on 2026/05/03".
 QString groupText(const GroupShift& shift)
 {
     if (shift.cause == Cause::Survey)
-        return translated(QT_TRANSLATE_NOOP("ShiftProblems", "the survey"));
+        return onDays(translated(QT_TRANSLATE_NOOP("ShiftProblems", "the survey")), shift);
     const bool isPole = shift.cause == Cause::Pole;
     const std::string& named = isPole ? shift.rover : shift.base;
     const QString name = named.empty()
                              ? translated(QT_TRANSLATE_NOOP("ShiftProblems", "without a name"))
                              : lum::toQString(named);
-    if (shift.day == statistics::KeyValue::kNoNumber)
-        return translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1")
-                                 : QT_TRANSLATE_NOOP("ShiftProblems", "base %1"))
-            .arg(name);
-    return translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1 on %2")
-                             : QT_TRANSLATE_NOOP("ShiftProblems", "base %1 on %2"))
-        .arg(name, dayText(shift.day));
+    return onDays(translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1")
+                                    : QT_TRANSLATE_NOOP("ShiftProblems", "base %1"))
+                      .arg(name),
+                  shift);
 }
 
 QString metres(double length)
