@@ -90,16 +90,17 @@ std::vector<ComparedGroup> ShiftSearch::comparedGroups() const
 /// When all bases are off alike, no pole is to be blamed for it, unless there is one alone.
 void ShiftSearch::searchDesign()
 {
-    const std::vector<ComparedGroup> compared = comparedGroups();
     for (const ShiftCandidate& candidate : m_design.basesAlone())
         accept(candidate, Evidence::Design);
-    if (m_sample.valuesOf(GroupKey::Rover).size() == 1 || !areAllAlike(m_found, compared)) {
+    if (m_sample.valuesOf(GroupKey::Rover).size() == 1 || m_found.empty() ||
+        !areAllAlike(m_found, comparedGroups())) {
         m_found.clear();
         m_isShifted.assign(m_isShifted.size(), false);
         for (const ShiftCandidate& candidate : m_design.basesAndPoles())
             accept(candidate, Evidence::Design);
     }
-    uniteShifts(m_found, compared);
+    if (!m_found.empty())
+        uniteShifts(m_found, comparedGroups());
 }
 
 // --- points measured twice ---

@@ -64,6 +64,7 @@ ShiftDesign::ShiftDesign(const statistics::SurveySample& sample, const ShiftGrou
     for (const Observation& result : sample.results)
         m_heightsM.push_back(result.heightM);
     setLevel();
+    judgePlanes();
 }
 
 void ShiftDesign::setLevel()
@@ -157,15 +158,13 @@ bool ShiftDesign::isSkid(const ShiftCandidate& candidate) const
     return degrees < kSkidAngleDeg || degrees > 90 - kSkidAngleDeg;
 }
 
-/// Of each base; a pole shifts heights alone.
-std::vector<ShiftCandidate> ShiftDesign::planeCandidates() const
+/// Bases alone, since a pole shifts heights.
+void ShiftDesign::judgePlanes()
 {
-    std::vector<ShiftCandidate> candidates;
-    candidates.reserve(m_bases.groups.size());
+    m_planes.reserve(m_bases.groups.size());
     for (const ShiftGroup& group : m_bases.groups)
-        candidates.push_back(judgePlane(group));
-    keepOutstanding(candidates, &ShiftCandidate::plane, m_limits.planeM);
-    return candidates;
+        m_planes.push_back(judgePlane(group));
+    keepOutstanding(m_planes, &ShiftCandidate::plane, m_limits.planeM);
 }
 
 /// \param heightsM  of each result, without what others make them off
@@ -185,7 +184,7 @@ void ShiftDesign::findShared(ShiftCandidate& candidate, const std::vector<double
 
 std::vector<ShiftCandidate> ShiftDesign::basesAlone() const
 {
-    std::vector<ShiftCandidate> candidates = planeCandidates();
+    std::vector<ShiftCandidate> candidates = m_planes;
     for (ShiftCandidate& candidate : candidates)
         candidate.height = SteadyOffset::ofHeights(heightsOf(candidate.group->members),
                                                    {m_limits.least, m_limits.heightM, m_betweenM});
@@ -208,7 +207,7 @@ std::vector<ShiftCandidate> ShiftDesign::basesAndPoles() const
         ofBases[place] -= heights.ofRover[m_rovers.groupOf[place]].heightM;
         ofRovers[place] -= heights.ofBase[m_bases.groupOf[place]].heightM;
     }
-    std::vector<ShiftCandidate> candidates = planeCandidates();
+    std::vector<ShiftCandidate> candidates = m_planes;
     for (std::size_t base = 0; base < m_bases.groups.size(); ++base) {
         ShiftCandidate& candidate = candidates[base];
         candidate.height = heights.ofBase[base];

@@ -34,7 +34,7 @@ private:
     [[nodiscard]] std::vector<double> heightsOf(const ResultPlaces& places) const;
     [[nodiscard]] ShiftCandidate judgePlane(const ShiftGroup& group) const;
     [[nodiscard]] bool isSkid(const ShiftCandidate& candidate) const;
-    [[nodiscard]] std::vector<ShiftCandidate> planeCandidates() const;
+    void judgePlanes();
     void findShared(ShiftCandidate& candidate, const std::vector<double>& heightsM) const;
     void settleWithRover(ShiftCandidate& base, const ShiftGroup& rover) const;
 
@@ -42,6 +42,7 @@ private:
     const ShiftGroups& m_bases;
     const ShiftGroups& m_rovers;
     const ShiftLimits m_limits;
+    std::vector<ShiftCandidate> m_planes; ///< each base, judged on the plane alone
     std::vector<double> m_heightsM; ///< of each result, over the level of all; NaN when unknown
     double m_betweenM = 0;          ///< how far groups lie from that
     bool m_isPrecise = true;

@@ -246,11 +246,15 @@ void HeightSearch::keepOutstanding()
 {
     constexpr double kFactor = 2;
     std::vector<std::pair<double, Node*>> wrong;
-    double largestM = 0;
     for (Node& node : m_nodes) {
         if (node.isWrong)
             wrong.emplace_back(std::fabs(node.valueM), &node);
-        else
+    }
+    if (wrong.empty())
+        return;
+    double largestM = 0;
+    for (const Node& node : m_nodes) {
+        if (!node.isWrong)
             largestM = std::max(largestM, ordinaryM(node));
     }
     std::ranges::sort(wrong);

@@ -2,6 +2,7 @@
 
 #include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
+#include "quality/problems/GroupDifferences.h"
 #include "quality/problems/GroupShifts.h"
 
 #include <QCoreApplication>
@@ -144,6 +145,19 @@ QString shiftWhat(const Problem& problem)
     return text;
 }
 
+QString differenceWhat(const Problem& problem)
+{
+    const GroupShift mean = GroupShift::fromText(problem.detail);
+    return translated(
+               mean.evidence == Evidence::Design
+                   ? QT_TRANSLATE_NOOP("ShiftProblems", "%1 of %2 results of %3 are %4 on average.")
+                   : QT_TRANSLATE_NOOP("ShiftProblems",
+                                       "%1 of %2 points that were measured again with %3 are %4 on "
+                                       "average, as seen from their first measurement."))
+        .arg(lum::groupedNumber(mean.shared), lum::groupedNumber(mean.results), groupText(mean),
+             offsetText(mean));
+}
+
 // --- finding ---
 
 const ProblemKind& kindOf(Cause cause)
@@ -153,17 +167,30 @@ const ProblemKind& kindOf(Cause cause)
     return cause == Cause::Pole ? kPoleShift : kBaseShift;
 }
 
-void add(const GroupShift& shift, const ShiftLimits& limits, ProblemList& problems)
+bool isMostlyHeight(const GroupShift& shift)
 {
-    Problem& problem = problems.add(kindOf(shift.cause));
+    return std::fabs(shift.heightM) > shift.planeM();
+}
+
+Problem& add(const ProblemKind& kind, const GroupShift& shift, ProblemList& problems)
+{
+    Problem& problem = problems.add(kind);
     problem.detail = problems.keep(shift.toText());
     problem.rover = problems.keepOnce(shift.rover);
     problem.timeMs = shift.firstMs;
     problem.count = static_cast<std::uint32_t>(shift.shared);
     problem.second = 0;
-    const bool isHeight = std::fabs(shift.heightM) > shift.planeM();
-    problem.value = isHeight ? shift.heightM : shift.planeM();
-    problem.limit = isHeight ? limits.heightM : limits.planeM;
+    problem.value = isMostlyHeight(shift) ? shift.heightM : shift.planeM();
+    return problem;
+}
+
+std::vector<statistics::MeasuredPair> pairsOf(const FinderInput& input)
+{
+    auto pairs =
+        statistics::resurveyPairs(input.survey(), input.resurveyCode(), input.planeUnitM()).pairs;
+    const auto repeats = statistics::repeatPairs(input.survey(), input.planeUnitM()).pairs;
+    pairs.insert(pairs.end(), repeats.begin(), repeats.end());
+    return pairs;
 }
 
 } // namespace
@@ -178,17 +205,25 @@ constexpr ProblemKind kSurveyShift{"survey_shift",
                                    QT_TRANSLATE_NOOP("ProblemKinds", "Survey off the design"),
                                    Severity::Error, shiftWhat};
 
+constexpr ProblemKind kBaseDifference{
+    "base_difference", QT_TRANSLATE_NOOP("ProblemKinds", "Differences of a base and a day"),
+    Severity::Note, differenceWhat};
+
 void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
                ProblemList& problems)
 {
     const ShiftLimits limits{input.limit("shift_plane_max"), input.limit("shift_height_max"),
                              static_cast<std::size_t>(input.limit("shift_results_min"))};
-    if (limits.planeM <= 0 && limits.heightM <= 0)
+    const bool isListed = input.limit("base_differences") != 0;
+    if (limits.planeM <= 0 && limits.heightM <= 0 && !isListed)
         return;
-    auto pairs =
-        statistics::resurveyPairs(input.survey(), input.resurveyCode(), input.planeUnitM()).pairs;
-    const auto repeats = statistics::repeatPairs(input.survey(), input.planeUnitM()).pairs;
-    pairs.insert(pairs.end(), repeats.begin(), repeats.end());
-    for (const GroupShift& shift : findGroupShifts(sample, pairs, limits))
-        add(shift, limits, problems);
+    const std::vector<statistics::MeasuredPair> pairs = pairsOf(input);
+    for (const GroupShift& shift : findGroupShifts(sample, pairs, limits)) {
+        Problem& problem = add(kindOf(shift.cause), shift, problems);
+        problem.limit = isMostlyHeight(shift) ? limits.heightM : limits.planeM;
+    }
+    if (!isListed)
+        return;
+    for (const GroupShift& mean : findGroupDifferences(sample, pairs))
+        add(kBaseDifference, mean, problems);
 }
