@@ -264,6 +264,7 @@ void HeightSearch::keepOutstanding()
         node->isWrong = false;
         largestM = std::max(largestM, lengthM);
         std::vector<Number> touched;
+        touched.reserve(node->group->members.size());
         for (const Number place : node->group->members)
             touched.push_back(otherOf(*node, place));
         std::ranges::sort(touched);
