@@ -116,6 +116,7 @@ ShiftSearch::placesOf(const std::vector<statistics::MeasuredPair>& pairs) const
             found->second = i;
     }
     std::vector<std::pair<std::uint32_t, std::uint32_t>> found;
+    found.reserve(pairs.size());
     for (const statistics::MeasuredPair& pair : pairs)
         found.emplace_back(places.at(pair.again), places.at(pair.first));
     return found;

@@ -147,7 +147,7 @@ bool ShiftDesign::isSkid(const ShiftCandidate& candidate) const
             first = result.point;
         last = result.point;
     }
-    if (first->lineNumber != last->lineNumber)
+    if (first == nullptr || first->lineNumber != last->lineNumber)
         return false;
     const double east = last->designEast - first->designEast;
     const double north = last->designNorth - first->designNorth;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <tuple>
 #include <unordered_map>
 #include <utility>
@@ -263,13 +264,9 @@ void HeightSearch::keepOutstanding()
             return;
         node->isWrong = false;
         largestM = std::max(largestM, lengthM);
-        std::vector<Number> touched;
-        touched.reserve(node->group->members.size());
+        std::set<Number> touched;
         for (const Number place : node->group->members)
-            touched.push_back(otherOf(*node, place));
-        std::ranges::sort(touched);
-        const auto repeated = std::ranges::unique(touched);
-        touched.erase(repeated.begin(), repeated.end());
+            touched.insert(otherOf(*node, place));
         for (const Number other : touched) {
             if (!m_nodes[other].isWrong)
                 largestM = std::max(largestM, ordinaryM(m_nodes[other]));

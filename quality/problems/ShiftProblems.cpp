@@ -81,7 +81,7 @@ QString windOf(double directionDeg)
 /// "1.502 m too high".
 QString offsetText(const GroupShift& shift)
 {
-    const QString height =
+    QString height =
         translated(shift.heightM > 0 ? QT_TRANSLATE_NOOP("ShiftProblems", "%1 m too high")
                                      : QT_TRANSLATE_NOOP("ShiftProblems", "%1 m too low"))
             .arg(metres(shift.heightM));
