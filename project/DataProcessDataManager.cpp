@@ -2,18 +2,9 @@
 
 #include "basalt_utilities/FatalReport.h"
 #include "basalt_utilities/ILogger.h"
-#include "design/DesignGenerator.h"
-#include "exchange/CrewList.h"
-#include "exchange/DesignCsvReader.h"
-#include "exchange/DesignCsvWriter.h"
-#include "exchange/DesignKml.h"
 #include "exchange/ExportColumns.h"
-#include "exchange/ImportSummary.h"
 #include "exchange/SeaHeights.h"
 #include "exchange/ShownTimes.h"
-#include "exchange/SurveyCsvReader.h"
-#include "exchange/SurveyCsvWriter.h"
-#include "exchange/SurveyKml.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
@@ -21,43 +12,31 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/IHost.h"
-#include "lum_sdk/Text.h"
 #include "model/CodeTables.h"
 #include "model/CoordinateRecord.h"
 #include "model/SurveyColumns.h"
-#include "project/DesignDatabase.h"
-#include "project/edits/EditParts.h"
 #include "project/history/HistoryWriter.h"
+#include "project/LoggedOutcome.h"
 #include "project/OverlayList.h"
-#include "project/OwnFile.h"
 #include "project/ParameterFiles.h"
-#include "project/PointCorrection.h"
-#include "project/PointRenaming.h"
 #include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectLoader.h"
 #include "project/ProjectSaver.h"
 #include "protocol/Events.h"
-#include "protocol/StatusKeys.h"
 #include "quality/CheckKinds.h"
-#include "quality/MeasuredPoint.h"
 #include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
 #include "quality/QualityLimits.h"
-#include "quality/RepeatChoice.h"
-#include "quality/ResurveyResult.h"
 #include "quality/Verdicts.h"
-#include "reports/ReportInput.h"
-#include "reports/ReportKinds.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 
 #include <cpl_conv.h>
 #include <gdal.h>
 #include <ogr_api.h>
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -70,41 +49,6 @@ void setUpRasterLibrary()
     OGRRegisterAll();
     GDALAllRegister();
 }
-
-/// What every operation on files ends with: the log gets why it failed, or what the user is told.
-Outcome logged(Outcome outcome)
-{
-    if (!outcome.isDone())
-        basalt::logError(outcome.detail());
-    else if (!outcome.text().isEmpty())
-        basalt::logInfo(outcome.text().toStdString());
-    return outcome;
-}
-
-/// The same for operations that answer by a number.
-int answered(const Outcome& outcome, Outcome* asked)
-{
-    if (asked != nullptr)
-        *asked = outcome;
-    return logged(outcome).toFlag();
-}
-
-/// An import that is done tells what became of the file's lines, in words and in numbers.
-Outcome withSummary(const Outcome& outcome, const ImportSummary& summary, ImportSummary* counts)
-{
-    if (counts != nullptr)
-        *counts = summary;
-    return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
-}
-
-Outcome noSuchPoint(const PointName& name)
-{
-    return Outcome::refused(
-        QCoreApplication::translate("DataProcessDataManager",
-                                    "Line %1 has no point %2 any more: nothing was changed.")
-            .arg(QString::fromStdString(name.line), QString::fromStdString(name.point)));
-}
-
 } // namespace
 
 DataProcessDataManager::DataProcessDataManager(IHost* host)
@@ -199,86 +143,6 @@ void DataProcessDataManager::tellModified(bool wasChanged)
 {
     if (isChanged() != wasChanged)
         m_host.eventManager().publish(events::kProjectModified, nullptr, 0);
-}
-
-// --- edits ---
-
-EditedData DataProcessDataManager::editedData()
-{
-    return {m_design,
-            m_survey,
-            m_qualityParameters,
-            m_designParameters,
-            get_project_coord_transform().parameters(),
-            [this](const IDictionary& parameters) { applyCoordSystem(parameters); },
-            m_acceptances};
-}
-
-void DataProcessDataManager::setEditHandler(EditHandler handler)
-{
-    m_onEdit = std::move(handler);
-}
-
-int DataProcessDataManager::exchange(const std::shared_ptr<Edit>& edit, bool isTakenBack,
-                                     Outcome* outcome)
-{
-    const bool wasChanged = isChanged();
-    try {
-        m_unsaved.makeRoom();
-        edit->exchange(editedData());
-        m_unsaved.add(edit, isTakenBack);
-    } catch (const std::bad_alloc&) {
-        return answered(
-            Outcome::failed(QCoreApplication::translate(
-                "DataProcessDataManager", "There is not enough memory: nothing was changed.")),
-            outcome);
-    }
-    tellModified(wasChanged);
-    return answered(Outcome::done(), outcome);
-}
-
-void DataProcessDataManager::make(const std::shared_ptr<Edit>& edit)
-{
-    m_unsaved.makeRoom();
-    edit->exchange(editedData());
-    keep(edit);
-}
-
-void DataProcessDataManager::keep(const std::shared_ptr<Edit>& edit)
-{
-    const bool wasChanged = isChanged();
-    m_unsaved.add(edit, false);
-    if (m_onEdit)
-        m_onEdit(edit);
-    tellModified(wasChanged);
-}
-
-template <class Points, class Read>
-Outcome DataProcessDataManager::importPoints(const EditKind& kind, const QString& path,
-                                             ImportSummary& summary, Read read)
-{
-    // All that can fail comes before the points.
-    const auto edit = std::make_shared<Edit>(kind, 0, QFileInfo(path).absoluteFilePath());
-    auto part = std::make_unique<ImportedPoints<Points>>();
-    TakenOver<Points>& undo = part->undo();
-    edit->add(std::move(part));
-    m_unsaved.makeRoom();
-    Outcome reading = read(summary, undo);
-    if (!reading.isDone() || !summary.hasPoints())
-        return reading;
-    edit->setPoints(summary.pointsNew + summary.pointsReplaced);
-    keep(edit);
-    return reading;
-}
-
-void DataProcessDataManager::change(const EditKind& kind, EditScope which,
-                                    const IDictionary& present, const IDictionary& wanted)
-{
-    if (dictionary_same(present, wanted))
-        return;
-    const auto edit = std::make_shared<Edit>(kind);
-    edit->add(std::make_unique<Parameters>(which, basalt::Dictionary(wanted)));
-    make(edit);
 }
 
 Outcome DataProcessDataManager::write(const ProjectPlace& place)
@@ -389,378 +253,6 @@ Outcome DataProcessDataManager::writeDatabase(IDBAdapter& database, const QStrin
     return ProjectSaver(database, progress)
         .save(path.toStdString(), m_design, m_survey, get_project_coord_transform().parameters(),
               {&m_acceptances, &history});
-}
-
-template <class Write>
-int DataProcessDataManager::exportTo(const QString& path, Outcome* outcome, Write write)
-{
-    if (const Outcome check = checkNotOwn(m_place, path); !check.isDone())
-        return answered(check, outcome);
-    ProgressReporter progress(&m_host.eventManager());
-    return answered(write(progress), outcome);
-}
-
-int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QString& path,
-                                            bool onlyUnsurveyed, Outcome* outcome)
-{
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return writeDesignCsv(path, m_design, lines, onlyUnsurveyed, progress);
-    });
-}
-
-int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcome,
-                                            ImportSummary* counts)
-{
-    ProgressReporter progress(&m_host.eventManager());
-    ImportSummary summary;
-    const Outcome reading = importPoints<DesignPoints>(
-        EditKinds::kImportDesign, path, summary, [&](ImportSummary& read, auto& undo) {
-            return readDesignCsv(path, m_design, progress, read, &undo);
-        });
-    return answered(withSummary(reading, summary, counts), outcome);
-}
-
-int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QString& path,
-                                            const QStringList& captions, Outcome* outcome)
-{
-    if (m_exportCaptions.isEmpty())
-        m_exportCaptions = m_surveyCaptions;
-    const SurveyCsvChoice choice{captions.isEmpty() ? m_exportCaptions : captions,
-                                 get_system_status_dictionary().integer(status::kDegreeFormat)};
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return writeSurveyCsv(path, m_survey, lines, choice, progress);
-    });
-}
-
-int DataProcessDataManager::exportSurveyPoints(const std::vector<PointName>& points,
-                                               const QString& path, Outcome* outcome)
-{
-    if (m_exportCaptions.isEmpty())
-        m_exportCaptions = m_surveyCaptions;
-    const SurveyCsvChoice choice{m_exportCaptions,
-                                 get_system_status_dictionary().integer(status::kDegreeFormat)};
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return writeSurveyCsv(path, m_survey, points, choice, progress);
-    });
-}
-
-int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome,
-                                            ImportSummary* counts)
-{
-    ProgressReporter progress(&m_host.eventManager());
-    ImportSummary summary;
-    const Outcome reading = importPoints<SurveyPoints>(
-        EditKinds::kImportSurvey, path, summary, [&](ImportSummary& read, auto& undo) {
-            return readSurveyCsv(path, m_survey, progress, read, &undo);
-        });
-    return answered(withSummary(reading, summary, counts), outcome);
-}
-
-int DataProcessDataManager::exportDesignDatabase(const QStringList& lines, const QString& path,
-                                                 bool onlyUnsurveyed, Outcome* outcome)
-{
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return writeDesignDatabase(path, {m_design, lines, onlyUnsurveyed},
-                                   get_project_coord_transform().parameters(), progress);
-    });
-}
-
-int DataProcessDataManager::exportDesignKml(const QStringList& lines, const QString& path,
-                                            bool onlyUnsurveyed, Outcome* outcome)
-{
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return writeDesignKml(path, {m_design, lines, onlyUnsurveyed},
-                              get_project_coord_transform(), progress);
-    });
-}
-
-int DataProcessDataManager::exportSurveyKml(const QStringList& lines, const QString& path,
-                                            Outcome* outcome)
-{
-    const auto words = [limits = qualityLimits()](const SurveyPoint& point) {
-        std::vector<QualityRow> rows;
-        ::describeQuality(point, limits, rows);
-        QStringList texts;
-        for (const QualityRow& row : rows)
-            texts << row.text();
-        if (const QString fault = resurveyFault(point); !fault.isEmpty())
-            texts << fault;
-        return texts.join(QLatin1Char(' '));
-    };
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return writeSurveyKml(path, {m_survey, lines, words}, get_project_coord_transform(),
-                              progress);
-    });
-}
-
-int DataProcessDataManager::exportCrewList(const std::vector<const Problem*>& problems,
-                                           const QString& path, Outcome* outcome)
-{
-    const std::string_view code = qualityParameter(m_qualityParameters, kResurveyCode);
-    CrewList list;
-    for (const Problem* const problem : problems) {
-        const DesignPoint* const point =
-            measuredPoint(m_design, problem->line, problem->point, code);
-        if (problem->point.empty())
-            list.addWithoutPoint();
-        else if (point == nullptr)
-            list.addUnknown(problem->line, problem->point);
-        else
-            list.add(*point, problem->kind->what(*problem).toStdString());
-    }
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return path.endsWith(QLatin1String(".kml"), Qt::CaseInsensitive)
-                   ? writeCrewKml(path, list, get_project_coord_transform(), progress)
-                   : writeCrewCsv(path, list, progress);
-    });
-}
-
-int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* outcome,
-                                                 ImportSummary* counts)
-{
-    if (const Outcome check = checkNotOwn(m_place, path); !check.isDone())
-        return answered(check, outcome);
-    ProgressReporter progress(&m_host.eventManager());
-    ImportSummary summary;
-    const Outcome reading = importPoints<SurveyPoints>(
-        EditKinds::kImportSurvey, path, summary, [&](ImportSummary& read, auto& undo) {
-            return readSurveyDatabase(
-                path,
-                {m_survey, get_project_coord_transform().parameters(), m_onOtherSystem, &undo},
-                progress, read);
-        });
-    if (reading.isDone() && summary.hasPoints())
-        recomputeSeaHeights();
-    return answered(withSummary(reading, summary, counts), outcome);
-}
-
-int DataProcessDataManager::writeReport(const ReportKind& kind, const QString& path,
-                                        const ReportChoice& choice, Outcome* outcome)
-{
-    const IDictionary& program = get_system_config_parameter().dictionary();
-    return exportTo(path, outcome, [&](ProgressReporter& progress) {
-        return kind.write(path,
-                          {m_design, m_survey, m_qualityParameters,
-                           get_project_coord_transform().parameters(), m_place.name, m_place.file,
-                           lum::toQString(program.text("name")) + QLatin1Char(' ') +
-                               lum::toQString(program.text("version")),
-                           choice, progress});
-    });
-}
-
-void DataProcessDataManager::setOtherSystemHandler(OtherSystemHandler handler)
-{
-    m_onOtherSystem = std::move(handler);
-}
-
-std::size_t DataProcessDataManager::deleteSurveyPoints(const std::vector<PointName>& points)
-{
-    return deleteResults(PointNames(points));
-}
-
-std::size_t DataProcessDataManager::deleteResults(PointNames&& names)
-{
-    const std::size_t before = m_survey.pointCount();
-    const auto edit = std::make_shared<Edit>(EditKinds::kDeleteResults);
-    edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(names), SurveyPoints()));
-    m_unsaved.makeRoom();
-    edit->exchange(editedData());
-    const std::size_t count = before - m_survey.pointCount();
-    edit->setPoints(count);
-    if (count != 0)
-        keep(edit);
-    return count;
-}
-
-std::size_t DataProcessDataManager::deleteSurveyLines(const QStringList& lines)
-{
-    PointNames names;
-    for (const QString& number : lines) {
-        const SurveyPoints::Line* const line = m_survey.findLine(number.toStdString());
-        std::vector<std::string>& numbers = names.of(number.toStdString());
-        for (auto point = line == nullptr ? SurveyPoints::Line::const_iterator() : line->begin();
-             line != nullptr && point != line->end(); ++point)
-            numbers.push_back(point->pointNumber);
-    }
-    return deleteResults(std::move(names));
-}
-
-int DataProcessDataManager::correctSurveyPoint(const PointName& name,
-                                               const SurveyCorrection& correction, Outcome* outcome,
-                                               PointName* filedAs)
-{
-    if (m_survey.find(name.line, name.point) == nullptr)
-        return answered(noSuchPoint(name), outcome);
-    if (const auto fault = faultOf(correction))
-        return answered(Outcome::refused(fault->text), outcome);
-    PointName place = name;
-    SurveyPoints other = corrected(m_survey, place, correction);
-    if (!other.empty()) {
-        const auto edit = std::make_shared<Edit>(EditKinds::kCorrectResult, 1);
-        edit->add(std::make_unique<CorrectedPoint<SurveyPoints>>(name, place, std::move(other)));
-        make(edit);
-    }
-    if (filedAs != nullptr)
-        *filedAs = std::move(place);
-    return answered(Outcome::done(), outcome);
-}
-
-int DataProcessDataManager::renameResults(const std::vector<Renaming>& renamings, Outcome* outcome)
-{
-    RenamedPoints renamed;
-    const Outcome renaming =
-        ::renameResults(m_design, m_survey, qualityParameter(m_qualityParameters, kResurveyCode),
-                        renamings, renamed);
-    if (renaming.isDone() && !renamings.empty()) {
-        const auto edit = std::make_shared<Edit>(EditKinds::kRenameResults, renamings.size());
-        edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(renamed.names),
-                                                             std::move(renamed.results)));
-        make(edit);
-    }
-    return answered(renaming, outcome);
-}
-
-int DataProcessDataManager::correctDesignPoint(const PointName& name,
-                                               const DesignCorrection& correction, Outcome* outcome)
-{
-    const DesignPoint* const point = m_design.find(name.line, name.point);
-    if (point == nullptr)
-        return answered(noSuchPoint(name), outcome);
-    if (const auto fault = faultOf(correction))
-        return answered(Outcome::refused(fault->text), outcome);
-    DesignPoints other = corrected(*point, correction);
-    if (!other.empty()) {
-        const auto edit = std::make_shared<Edit>(EditKinds::kCorrectDesign, 1);
-        edit->add(std::make_unique<CorrectedPoint<DesignPoints>>(name, name, std::move(other)));
-        make(edit);
-    }
-    return answered(Outcome::done(), outcome);
-}
-
-std::size_t DataProcessDataManager::restorePoints(HistoryPoints&& points)
-{
-    const std::size_t count = points.design.pointCount() + points.results.pointCount();
-    if (count == 0)
-        return 0;
-    const auto edit = std::make_shared<Edit>(EditKinds::kRestore, count);
-    const auto add = [&]<class Points>(Points part, PointNames names = {}) {
-        names.add(part.names());
-        edit->add(std::make_unique<SomePoints<Points>>(std::move(names), std::move(part)));
-    };
-    if (!points.design.empty())
-        add(std::move(points.design));
-    if (!points.results.empty())
-        add(std::move(points.results), std::move(points.leaving));
-    make(edit);
-    if ((edit->scope() & kSurveyScope) != 0)
-        recomputeSeaHeights();
-    return count;
-}
-
-std::size_t DataProcessDataManager::accept(std::vector<Acceptance> problems)
-{
-    std::erase_if(problems, [this](const Acceptance& problem) {
-        const Acceptance* const present = m_acceptances.find(problem);
-        return present != nullptr && present->reason == problem.reason;
-    });
-    const QString person = HistoryAuthor::current().person;
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    Acceptances accepted;
-    for (const Acceptance& problem : problems) {
-        Acceptance acceptance = problem;
-        acceptance.person = person;
-        acceptance.time = now;
-        accepted.set(std::move(acceptance));
-    }
-    const std::size_t count =
-        changeAcceptances(EditKinds::kAcceptProblems, problems, std::move(accepted));
-    const auto hasFirstReason = [&](const Acceptance& problem) {
-        return problem.reason == problems.front().reason;
-    };
-    if (count != 0 && std::ranges::all_of(problems, hasFirstReason))
-        m_unsaved.setReason(m_unsaved.entries().size() - 1, problems.front().reason);
-    return count;
-}
-
-std::size_t DataProcessDataManager::endAcceptances(std::vector<Acceptance> problems)
-{
-    std::erase_if(problems, [this](const Acceptance& problem) {
-        return m_acceptances.find(problem) == nullptr;
-    });
-    return changeAcceptances(EditKinds::kEndAcceptances, problems, {});
-}
-
-std::size_t DataProcessDataManager::changeAcceptances(const EditKind& kind,
-                                                      const std::vector<Acceptance>& problems,
-                                                      Acceptances&& other)
-{
-    auto part = std::make_unique<AcceptedProblems>(problems, std::move(other));
-    const std::size_t count = part->problems();
-    if (count == 0)
-        return 0;
-    const auto edit = std::make_shared<Edit>(kind, count);
-    edit->add(std::move(part));
-    make(edit);
-    return count;
-}
-
-std::vector<RepeatedPoint> DataProcessDataManager::repeatedPoints() const
-{
-    return ::repeatedPoints(m_design, m_survey,
-                            qualityParameter(m_qualityParameters, kResurveyCode),
-                            lum::lengthUnitOf(get_project_coord_transform().parameters()).metres);
-}
-
-void DataProcessDataManager::resolveRepeats(ResolvedRepeats&& resolved)
-{
-    if (resolved.results.empty())
-        return;
-    const auto edit =
-        std::make_shared<Edit>(EditKinds::kResolveRepeats, resolved.results.pointCount());
-    edit->add(std::make_unique<SomePoints<SurveyPoints>>(std::move(resolved.names),
-                                                         std::move(resolved.results)));
-    make(edit);
-}
-
-int DataProcessDataManager::generateDesign(DesignLines lines, const IDictionary& parameters,
-                                           Outcome* outcome)
-{
-    ProgressReporter progress(&m_host.eventManager());
-    const auto edit = std::make_shared<Edit>(EditKinds::kGenerateDesign);
-    auto replaced = std::make_unique<AllPoints<DesignPoints>>();
-    DesignPoints& before = replaced->other();
-    auto changed =
-        std::make_unique<Parameters>(kDesignParameterScope, basalt::Dictionary(parameters));
-    EditPart& wanted = *changed;
-    edit->add(std::move(replaced));
-    edit->add(std::move(changed));
-    m_unsaved.makeRoom();
-    const Outcome generating = ::generateDesign(parameters, lines, m_design, progress, &before);
-    if (generating.isDone()) {
-        wanted.exchange(editedData());
-        edit->setPoints(m_design.pointCount());
-        keep(edit);
-    }
-    return answered(generating, outcome);
-}
-
-void DataProcessDataManager::setQualityParameters(const IDictionary& parameters)
-{
-    change(EditKinds::kQualityLimits, kQualityScope, m_qualityParameters, parameters);
-}
-
-void DataProcessDataManager::setDesignParameters(const IDictionary& parameters)
-{
-    change(EditKinds::kDesignParameters, kDesignParameterScope, m_designParameters, parameters);
-}
-
-void DataProcessDataManager::setCoordSystem(const IDictionary& parameters)
-{
-    const IDictionary& present = get_project_coord_transform().parameters();
-    if (dictionary_same(present, parameters)) // its geoid may be another one now
-        applyCoordSystem(basalt::Dictionary(parameters));
-    else
-        change(EditKinds::kCoordSystem, kCoordSystemScope, present, parameters);
 }
 
 void DataProcessDataManager::applyCoordSystem(const IDictionary& parameters)

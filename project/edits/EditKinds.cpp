@@ -29,8 +29,8 @@ const EditKind kResolveRepeats{"resolve_repeats", QT_TRANSLATE_NOOP("EditKinds",
 std::span<const EditKind* const> all()
 {
     static constexpr std::array kAll{
-        &kImportDesign,  &kImportSurvey,   &kDeleteResults, &kCorrectResult,    &kCorrectDesign,
-        &kRenameResults, &kGenerateDesign, &kQualityLimits, &kDesignParameters, &kCoordSystem,
+        &kImportDesign,  &kImportSurvey,   &kDeleteResults,  &kCorrectResult,    &kCorrectDesign,
+        &kRenameResults, &kGenerateDesign, &kQualityLimits,  &kDesignParameters, &kCoordSystem,
         &kRestore,       &kResolveRepeats, &kAcceptProblems, &kEndAcceptances};
     return kAll;
 }

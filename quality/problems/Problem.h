@@ -20,11 +20,11 @@ enum class Severity : std::uint8_t
 /// acceptances, which are kept for years: it is never changed.
 struct ProblemKind
 {
-    const char* name;    ///< "too_far"
-    const char* caption; ///< in English, context "ProblemKinds"
-    Severity severity;
+    const char* name = nullptr;    ///< "too_far"
+    const char* caption = nullptr; ///< in English, context "ProblemKinds"
+    Severity severity = Severity::Warning;
     /// What is wrong: a translated sentence, made when it is shown.
-    QString (*what)(const Problem& problem);
+    QString (*what)(const Problem& problem) = nullptr;
     const char* unit = "m"; ///< of value, limit and second
     int decimals = 3;       ///< with which value and limit are shown
     /// The text of a value or limit that is no plain number, such as a solution type; mostly null.
