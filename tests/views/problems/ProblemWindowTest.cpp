@@ -120,7 +120,7 @@ private Q_SLOTS:
         next.resize(1100, 400);
         next.show();
         next.find();
-        QCOMPARE(next.findChild<QSplitter*>()->sizes()[0], 300);
+        QTRY_COMPARE(next.findChild<QSplitter*>()->sizes()[0], 300);
         QCOMPARE(next.findChild<QTableView*>()->horizontalHeader()->sectionSize(kWhat),
                  before + 50);
     }
