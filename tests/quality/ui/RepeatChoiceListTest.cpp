@@ -143,9 +143,13 @@ void RepeatChoiceListTest::showsWhatWouldBecomeOfEachPoint()
     tolerance->selectAll();
     QTest::keyClicks(tolerance, "a"_q);
     QVERIFY(!buttonOf(list, "Resolve &All (0)"_q)->isEnabled());
-    QVERIFY(list.findChild<QLabel*>()->text().contains("number from 0"_q));
+    QVERIFY(list.findChild<QLabel*>()->text().startsWith("The tolerance is a number"_q));
+    QCOMPARE(rowOf(list, 0), "10015001 2 0.020 0.000   "_q); // nobody knows yet
+    QVERIFY(!tableOf(list).model()->index(1, 5).data(Qt::BackgroundRole).isValid());
+    const QColor marked = tolerance->palette().color(QPalette::Base);
     QTest::keyClick(tolerance, Qt::Key_Backspace);
     QTest::keyClicks(tolerance, "1.5"_q);
+    QVERIFY(tolerance->palette().color(QPalette::Base) != marked);
     QVERIFY(buttonOf(list, "Resolve &All (2)"_q)->isEnabled());
     QTest::keyClick(tolerance, Qt::Key_Return); // resolves nothing
     QCOMPARE(numbers(), m_all);
@@ -159,12 +163,17 @@ void RepeatChoiceListTest::resolvesAllInOneStepThatCanBeTakenBack()
     QTest::mouseClick(buttonOf(list, "Resolve &All (2)"_q), Qt::LeftButton);
     QCOMPARE(numbers(), (QStringList{"10015001"_q, "10015002"_q, "10015003"_q}));
     QCOMPARE(m_project->results().find("1001", "10015001")->east, 50.02);
-    QCOMPARE(m_project->host.told,
-             "Points resolved: 2. Results removed: 3. Left as they are: 0."_q);
+    QCOMPARE(
+        m_project->host.told,
+        "Points resolved: 2. Results removed: 3. Left as they are: 0. Ctrl+Z takes it back."_q);
     QVERIFY(!log.events.empty());
     QCOMPARE(tableOf(list).model()->rowCount(), 0);
     QCoreApplication::processEvents(); // the step settles
     QCOMPARE(m_steps->undoTitle(), "Resolve 2 repeated points"_q);
+    list.activateWindow(); // after the choices
+    QVERIFY(QTest::qWaitForWindowActive(&list));
+    QTest::keyClick(&tableOf(list), Qt::Key_Z, Qt::ControlModifier); // the frame's key
+    QCOMPARE(m_project->host.commandList.executed, QStringList{"Undo"_q});
     m_steps->undo();
     QCOMPARE(numbers(), m_all);
     QCOMPARE(m_project->results().find("1001", "10015001")->east, 50.0);
