@@ -60,8 +60,8 @@ struct RepeatChoice
     [[nodiscard]] const SurveyPoint& bestOf(const RepeatedPoint& point) const;
 
     /// The one result of a point, under its own number and without the verdicts of the resurvey
-    /// check. Kind, and where the measurement does not tell them design position, obstacle, remarks
-    /// and photo, are those of the point's own result.
+    /// check. Kind, and where the measurement does not tell them design position with deviations,
+    /// obstacle, remarks and photo, are those of the point's own result.
     ///
     /// Where an accuracy is missing, all weights are equal.
     [[nodiscard]] SurveyPoint resultOf(const RepeatedPoint& point) const;

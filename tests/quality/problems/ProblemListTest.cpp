@@ -136,4 +136,17 @@ TEST_F(Fingerprint, OfADesignPointIsThatOfItsRecord)
     EXPECT_NE(fingerprintOf(missing, design, survey), before);
 }
 
+TEST_F(Fingerprint, OfADesignStaysWhenItIsStaked)
+{
+    design.set(designPoint("10", "1002"));
+    Problem& spacing = m_list.add(kindOf("line_spacing"), *design.find("10", "1001"));
+    spacing.otherLine = spacing.line;
+    spacing.otherPoint = m_list.keep("1002");
+    const std::string before = fingerprintOf(spacing, design, survey);
+    survey.set(goodResult("10", "1002"));
+    EXPECT_EQ(fingerprintOf(spacing, design, survey), before);
+    design.find("10", "1002")->north += 1;
+    EXPECT_NE(fingerprintOf(spacing, design, survey), before);
+}
+
 } // namespace
