@@ -4677,6 +4677,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Repeat out of range</source>
         <translation>重复测量超限</translation>
     </message>
+    <message>
+        <source>Differences of a base and a day</source>
+        <translation>基准站每日的差值</translation>
+    </message>
 </context>
 <context>
     <name>ProblemLimits</name>
@@ -4839,6 +4843,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>At least 1. The shifts themselves are switched off above.</source>
         <translation>至少为 1。要不检查偏移，请把上面的偏移上限设为 0。</translation>
+    </message>
+    <message>
+        <source>List of mean differences</source>
+        <translation>平均差值列表</translation>
+    </message>
+    <message>
+        <source>What the results of a base and a day differ on average from the design, and from the first measurement of their points.</source>
+        <translation>每个基准站每天的成果与设计的平均差值，以及与同一点首次测量的平均差值。</translation>
+    </message>
+    <message>
+        <source>Each base and day</source>
+        <translation>每个基准站每天</translation>
     </message>
 </context>
 <context>
@@ -7108,14 +7124,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>基准站 %1</translation>
     </message>
     <message>
-        <source>rover %1 on %2</source>
-        <translation>流动站 %1 在 %2</translation>
-    </message>
-    <message>
-        <source>base %1 on %2</source>
-        <translation>基准站 %1 在 %2</translation>
-    </message>
-    <message>
         <source>north</source>
         <translation>北</translation>
     </message>
@@ -7194,6 +7202,22 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Problems of single points that follow from it: %1.</source>
         <translation>由此引起的单点问题：%1 个。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 在 %2</translation>
+    </message>
+    <message>
+        <source>%1 from %2 to %3</source>
+        <translation>%1 在 %2 至 %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2 results of %3 are %4 on average.</source>
+        <translation>%3的 %2 个成果中，%1 个平均%4。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 points that were measured again with %3 are %4 on average, as seen from their first measurement.</source>
+        <translation>用%3再次测量的 %2 个点中，%1 个与首次测量相比平均%4。</translation>
     </message>
 </context>
 <context>

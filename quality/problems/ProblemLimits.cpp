@@ -94,6 +94,7 @@ constexpr std::array kLines{
 };
 
 // Of points measured again, see CheckShotProblems.h and ShiftProblems.h.
+constexpr std::array kListChoices{0, 1};
 constexpr std::array kCheckShots{
     ProblemLimit{"check_shots_percent", "3",
                  QT_TRANSLATE_NOOP("ProblemLimits", "Check shots of a crew and day"), "%", 100,
@@ -128,6 +129,15 @@ constexpr std::array kCheckShots{
                  {},
                  nullptr,
                  1},
+    ProblemLimit{"base_differences", "0",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "List of mean differences"), "", 1, true,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "What the results of a base and a day differ on average from "
+                                   "the design, and from the first measurement of their points."),
+                 kListChoices,
+                 [](int /*choice*/) {
+                     return QCoreApplication::translate("ProblemLimits", "Each base and day");
+                 }},
 };
 
 // All groups: a new one is a line here.

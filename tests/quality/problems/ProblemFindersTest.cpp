@@ -117,8 +117,8 @@ TEST_F(ProblemFinders, ARepeatTellsHowFarItLiesFromWhatItRepeats)
     const ProblemList problems = find();
 
     EXPECT_THAT(textsOf(problems),
-                ElementsAre("repeat 10/C10011001_0 0.022", "repeat_off 10/C10011001_1 -0.190 0.030",
-                            "repeat 10/C99999999_0"));
+                ElementsAre("repeat 10/C10011001 0.022", "repeat_off 10/C10011001 -0.190 0.030",
+                            "repeat 10/C99999999"));
     EXPECT_EQ(what(problems[1]), "It repeats 10011001, but lies -0.190 m off in height.");
     EXPECT_EQ(what(problems[0]), "It repeats 10011001, 0.022 m beside it and 0.010 m in height.");
 }

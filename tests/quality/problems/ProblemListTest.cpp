@@ -58,7 +58,7 @@ TEST(ProblemCsv, HasNamesForScriptsAndWordsForPeople)
 
     const std::string captions = "Severity,Kind,Line,Point,What,Value,Limit,Rover,Surveyor,Day\n";
     const std::string what = "The line has no result of the point that this one repeats.";
-    EXPECT_EQ(text, captions + "note,repeat,\"L \"\"1\"\"\",C10011001_3," + what +
+    EXPECT_EQ(text, captions + "note,repeat,\"L \"\"1\"\"\",C10011001," + what +
                         ",0.050,,\"3,5\",Li,2026/05/03\n" + captions +
                         "Note,Measured again,\"L \"\"1\"\"\",C10011001," + what +
                         ",0.050 m,,\"3,5\",Li,2026/05/02\n");
