@@ -301,8 +301,10 @@ TEST_F(ProjectAcceptances, AListForTheCrewHasDesignPoints)
     const QString path = root.path("明天.csv");
     Outcome outcome = Outcome::done();
     ASSERT_EQ(manager.exportCrewList(chosen, path, &outcome), 1);
-    EXPECT_EQ(outcome.text(), "Points to measure again: 3. Names without a design point: 1, first "
-                              "1001/7. Problems of a line or a group, without a point: 1."_q);
+    EXPECT_EQ(
+        outcome.text(),
+        "Points to measure: 3, of them not surveyed yet: 2. Names without a design point: 1, first "
+        "1001/7. Problems of a line or a group, without a point: 1."_q);
     const QByteArray written = TestFolder::read(path);
     EXPECT_EQ(written.mid(written.indexOf('\n') + 1),
               "10012034,1000,12.0000,20.0000,30.0000,10012034,40.000000,1,0\n"

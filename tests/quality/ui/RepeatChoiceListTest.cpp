@@ -143,9 +143,13 @@ void RepeatChoiceListTest::showsWhatWouldBecomeOfEachPoint()
     tolerance->selectAll();
     QTest::keyClicks(tolerance, "a"_q);
     QVERIFY(!buttonOf(list, "Resolve &All (0)"_q)->isEnabled());
-    QVERIFY(list.findChild<QLabel*>()->text().contains("number from 0"_q));
+    QVERIFY(list.findChild<QLabel*>()->text().startsWith("The tolerance is a number"_q));
+    QCOMPARE(rowOf(list, 0), "10015001 2 0.020 0.000   "_q); // nobody knows yet
+    QVERIFY(!tableOf(list).model()->index(1, 5).data(Qt::BackgroundRole).isValid());
+    const QColor marked = tolerance->palette().color(QPalette::Base);
     QTest::keyClick(tolerance, Qt::Key_Backspace);
     QTest::keyClicks(tolerance, "1.5"_q);
+    QVERIFY(tolerance->palette().color(QPalette::Base) != marked);
     QVERIFY(buttonOf(list, "Resolve &All (2)"_q)->isEnabled());
     QTest::keyClick(tolerance, Qt::Key_Return); // resolves nothing
     QCOMPARE(numbers(), m_all);
@@ -159,8 +163,9 @@ void RepeatChoiceListTest::resolvesAllInOneStepThatCanBeTakenBack()
     QTest::mouseClick(buttonOf(list, "Resolve &All (2)"_q), Qt::LeftButton);
     QCOMPARE(numbers(), (QStringList{"10015001"_q, "10015002"_q, "10015003"_q}));
     QCOMPARE(m_project->results().find("1001", "10015001")->east, 50.02);
-    QCOMPARE(m_project->host.told,
-             "Points resolved: 2. Results removed: 3. Left as they are: 0."_q);
+    QCOMPARE(
+        m_project->host.told,
+        "Points resolved: 2. Results removed: 3. Left as they are: 0. Ctrl+Z takes it back."_q);
     QVERIFY(!log.events.empty());
     QCOMPARE(tableOf(list).model()->rowCount(), 0);
     QCoreApplication::processEvents(); // the step settles
@@ -181,6 +186,8 @@ void RepeatChoiceListTest::resolvesWhatIsSelected()
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
                       table.visualRect(table.model()->index(1, 2)).center());
     QCOMPARE(log.payloads(), std::vector<std::string>{"pointName=10015002,lineName=1001"});
+    QTest::keyClick(&table, Qt::Key_Z, Qt::ControlModifier); // the frame's key
+    QCOMPARE(m_project->host.commandList.executed, QStringList{"Undo"_q});
     choose(list, 2); // the row stays selected
     QTest::mouseClick(buttonOf(list, "Resolve &Selected (1)"_q), Qt::LeftButton);
     QCOMPARE(numbers(), (QStringList{"10015001"_q, "10015001F"_q, "10015002"_q, "10015003"_q}));
