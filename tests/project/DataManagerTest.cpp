@@ -1,19 +1,11 @@
 #include "basalt_utilities/IDictionary.h"
 #include "basalt_utilities/KeyList.h"
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "lum_sdk/Host.h"
-#include "project/DataProcessDataManager.h"
-#include "project/ProjectCreator.h"
 #include "protocol/Events.h"
-#include "protocol/StatusKeys.h"
 #include "quality/problems/ProblemFinders.h"
 #include "quality/QualityDescription.h"
-#include "tests/project/ExpectOutcome.h"
-#include "tests/project/TestProject.h"
+#include "tests/project/SavedProject.h"
 #include "tests/support/EventLog.h"
-#include "tests/support/Literals.h"
 #include "tests/support/LogCapture.h"
-#include "tests/support/TestFolder.h"
 
 #include <QFileInfo>
 
@@ -34,25 +26,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(DataManager, FilesGoOutAndComeBack)
-{
-    const QString path = folder.path("s.csv");
-    const QStringList lines{"L"_q};
-    manager.exportCaptions().clear();
-    get_system_status_dictionary().set(status::kDegreeFormat, "1");
-    EXPECT_EQ(manager.exportSurveyCsv(lines, path), 1);
-    get_system_status_dictionary().remove(status::kDegreeFormat);
-    EXPECT_EQ(manager.exportCaptions(), manager.surveyCaptions());
-    EXPECT_TRUE(TestFolder::read(path).contains("L,P,S,30deg30min0.000sec,"));
-    manager.clear();
-    EXPECT_EQ(manager.importSurveyCsv(path, &outcome), 1);
-    expectNotice(outcome, "points added: 1");
-    EXPECT_EQ(manager.surveyPoints().find("L", "P")->latitude, 30.5);
-    EXPECT_EQ(manager.exportSurveyCsv(lines, path, manager.surveyCaptions().mid(0, 2)), 1);
-    EXPECT_EQ(TestFolder::read(path), "line num,point num\nL,P\n");
-    EXPECT_EQ(manager.exportCaptions(), manager.surveyCaptions()) << "the user's choice stays";
-}
 
 TEST_F(DataManager, AMissingGeoidIsLoggedOncePerOperation)
 {
@@ -140,32 +113,10 @@ TEST_F(DataManager, KnowsWhatIsNotSaved)
     EXPECT_EQ(changes.names().size(), 7U) << "told once";
 }
 
-TEST_F(DataManager, ImportedResultsHaveSeaHeightsAndAreNotSaved)
-{
-    SurveyPoint theirs = surveyPoint("L", "theirs");
-    theirs.elevation = 5.5;
-    TestProject project;
-    project.survey.set(theirs);
-    const QString database = folder.path("theirs.db");
-    ASSERT_TRUE(makeDatabase(database.toStdString()));
-    expectDone(project.save(database.toStdString()));
-    basalt::Dictionary none;
-    manager.setCoordSystem(none);
-    const EventLog changes(host.eventManager(), events::kProjectModified);
-    manager.clear();
-    EXPECT_EQ(manager.importSurveyDatabase(database, &outcome), 1);
-    expectNotice(outcome, "points added: 1");
-    EXPECT_EQ(manager.surveyPoints().find("L", "theirs")->seaHeight, 5.5);
-    EXPECT_TRUE(manager.isChanged());
-    EXPECT_EQ(changes.names().size(), 1U);
-}
-
 TEST_F(DataManager, NoExportReplacesAFileOfTheOpenProject)
 {
     const ProjectPlace place = ProjectPlace::in(folder.path(), "测区"_q);
-    basalt::Dictionary project;
-    ProjectCreator::describe(place, project);
-    expectDone(ProjectCreator::create(place, project));
+    makeProject(place);
     expectDone(manager.openProject(place));
     const QByteArray before = TestFolder::read(place.database());
     const QString link = folder.path("link.db");
@@ -184,17 +135,6 @@ TEST_F(DataManager, NoExportReplacesAFileOfTheOpenProject)
     EXPECT_EQ(manager.exportDesignDatabase({}, link, false), 0) << "also where it is missing";
     manager.clear();
     EXPECT_EQ(manager.exportDesignDatabase({}, link, false), 1);
-}
-
-TEST_F(DataManager, DatabaseQueriesBecomeProgress)
-{
-    const EventLog progress(host.eventManager(), events::kProgress);
-    for (const char* payload : {static_cast<const char*>(nullptr), "count=1,total=3", "total=0"})
-        host.eventManager().publish(events::kDbQueryProcess, payload, 0);
-    EXPECT_EQ(progress.payloads(),
-              (std::vector<std::string>{"text=Loading Database,value=100,is_exec=0",
-                                        "text=Loading Database,value=33.3333,is_exec=0",
-                                        "text=Loading Database,value=100,is_exec=0"}));
 }
 
 TEST(DataManagerInstance, IsTheFirstManagerAsLongAsItLives)

@@ -1,16 +1,6 @@
 #include "project/OverlayList.h"
 
-#include "basalt_utilities/Dictionary.h"
-#include "lum_sdk/Host.h"
-#include "project/DataProcessDataManager.h"
-#include "project/ProjectCreator.h"
-#include "tests/project/ExpectOutcome.h"
-#include "tests/support/Literals.h"
-#include "tests/support/TestFolder.h"
-
-#include <QDir>
-
-#include <gtest/gtest.h>
+#include "tests/project/SavedProject.h"
 
 namespace {
 
@@ -48,19 +38,6 @@ INSTANTIATE_TEST_SUITE_P(
         PlaceCase{"OfAProjectInTheRoot", "/maps/a.tif", "/p", "/maps/a.tif"},
         PlaceCase{"NotClean", "/data/p/../p/a.tif", "/data/p/", "a.tif"}),
     [](const auto& test) { return test.param.name; });
-
-TEST(OverlayList, KeepsTheOrderAndLeavesNothingBehind)
-{
-    basalt::Dictionary project;
-    project.set("crew", "测量一队");
-    const std::vector<OverlayImage> images = {{"/a.tif"_q}, {"/b.tif"_q, false}, {"/c.tif"_q}};
-    OverlayList::write(images, "/d/p"_q, project);
-    EXPECT_EQ(OverlayList::read(project, "/d/p"_q), images);
-    OverlayList::write({images[2]}, "/d/p"_q, project);
-    EXPECT_EQ(OverlayList::read(project, "/d/p"_q), std::vector<OverlayImage>{images[2]});
-    OverlayList::write({}, "/d/p"_q, project);
-    EXPECT_EQ(project.size(), 1U) << "what else the project says must stay, alone";
-}
 
 TEST(OverlayList, ReadsOnPastBadValues)
 {

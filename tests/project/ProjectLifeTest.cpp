@@ -1,23 +1,11 @@
 #include "basalt_utilities/Product.h"
-#include "lum_sdk/coords/ICoordTransform.h"
-#include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "lum_sdk/Host.h"
-#include "model/CoordinateRecord.h"
-#include "project/DataProcessDataManager.h"
 #include "project/ParameterFiles.h"
-#include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
-#include "project/ProjectPlace.h"
 #include "project/SafetyCopy.h"
-#include "tests/project/ExpectOutcome.h"
 #include "tests/project/OrdinaryUser.h"
-#include "tests/project/TestProject.h"
-#include "tests/support/Literals.h"
+#include "tests/project/SavedProject.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/SmallFiles.h"
-#include "tests/support/TestFolder.h"
-
-#include <QDir>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -55,13 +43,6 @@ protected:
     [[nodiscard]] QStringList files(const char* pattern) const
     {
         return QDir(place.folder).entryList({QString::fromUtf8(pattern)}, QDir::Files, QDir::Name);
-    }
-    /// Runs SQL on a database that no program has open.
-    void execute(const QString& path, const char* sql) const
-    {
-        DBAdapter adapter;
-        ASSERT_TRUE(adapter.open(lum::databaseConnection(path.toStdString()).c_str()));
-        EXPECT_TRUE(adapter.execute(sql, 0)) << adapter.lastError();
     }
     [[nodiscard]] QByteArray content(const QString& name) const
     {
@@ -198,18 +179,6 @@ TEST_F(ProjectLife, AMissingDatabaseIsMadeBySavingAlone)
     EXPECT_EQ(files("*.lock"), QStringList()) << "a project that is not open has no lock";
 }
 
-TEST_F(ProjectLife, ParametersEndWithTheirProject)
-{
-    createAndOpen();
-    manager.qualityParameters().set("only_here", "1");
-    manager.designParameters().set("only_here", "1");
-    manager.clear();
-    expectDone(manager.openProject(place));
-    EXPECT_FALSE(manager.qualityParameters().contains("only_here"));
-    EXPECT_FALSE(manager.designParameters().contains("only_here"));
-    EXPECT_TRUE(manager.designParameters().contains("r_pt_dist"));
-}
-
 TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
 {
     createAndOpen();
@@ -251,7 +220,7 @@ TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
         manager.clear();
 
         ASSERT_TRUE(QFile::copy(database, copy));
-        execute(database, SafetyCopy::kMark);
+        executeSql(database, SafetyCopy::kMark);
         expectNotice(manager.openProject(place), "as it was last saved");
         manager.clear();
         expectDone(manager.openProject(place));
@@ -281,7 +250,7 @@ TEST_F(ProjectLife, AReadOnlyInstallationIsNotedOnce)
 TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
 {
     create();
-    execute(database, "create table Notes (text TEXT)");
+    executeSql(database, "create table Notes (text TEXT)");
     expectDone(manager.openProject(place));
     const QByteArray before = TestFolder::read(database);
     manager.surveyPoints().set(surveyPoint("L1", "7"));
@@ -299,7 +268,7 @@ TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
         other.clear();
     };
     expectCopy("copy 1");
-    execute(root.path("copy 1/copy 1.db"), "insert into Notes values ('kept')");
+    executeSql(root.path("copy 1/copy 1.db"), "insert into Notes values ('kept')");
     EXPECT_EQ(TestFolder::read(database), before);
     EXPECT_TRUE(QFile::exists(database + ".lock"_q)) << "it is still open";
 

@@ -1,12 +1,9 @@
 #include "lum_sdk/database/RecordSet.h"
 #include "lum_sdk/events/EventManager.h"
 #include "protocol/Events.h"
-#include "tests/project/ExpectOutcome.h"
-#include "tests/project/TestProject.h"
+#include "tests/project/SavedProject.h"
 #include "tests/support/EventLog.h"
-#include "tests/support/Literals.h"
 #include "tests/support/SmallFiles.h"
-#include "tests/support/TestFolder.h"
 
 namespace {
 
@@ -15,12 +12,7 @@ class ProjectStore : public testing::Test
 protected:
     ProjectStore() { EXPECT_TRUE(makeDatabase(path)); }
 
-    void execute(const std::string& sql) const
-    {
-        DBAdapter database;
-        ASSERT_TRUE(database.open(lum::databaseConnection(path).c_str()));
-        ASSERT_TRUE(database.execute(sql.c_str(), 0)) << database.lastError();
-    }
+    void execute(const char* sql) const { executeSql(file, sql); }
     /// Every row of the three tables, and the schema.
     [[nodiscard]] std::string content() const
     {
