@@ -200,22 +200,6 @@ TEST_F(ProjectAcceptances, ATableThatTakesNoneKeepsNobodyFromSaving)
     EXPECT_EQ(manager.surveyPoints().find(kLine, "8")->remarks, "saved");
 }
 
-TEST_F(ProjectAcceptances, AreInACopyAndNotInAnExport)
-{
-    accept("7");
-    save();
-    accept("8");
-    const ProjectPlace copy = ProjectPlace::planned(root.path(), "copy"_q);
-    ASSERT_TRUE(QDir().mkpath(copy.folder));
-    expectDone(manager.saveCopy(copy));
-    ASSERT_EQ(manager.exportDesignDatabase({}, root.path("out.db"), false), 1);
-    EXPECT_EQ(rowsOf(root.path("out.db").toStdString(), "sqlite_master").find("Acceptance"),
-              std::string::npos);
-    manager.clear();
-    expectDone(manager.openProject(copy));
-    EXPECT_EQ(accepted(), (Texts{"7", "8"}));
-}
-
 // The crew measures design points: those of resurveys and check points, each once.
 TEST_F(ProjectAcceptances, AListForTheCrewHasDesignPoints)
 {

@@ -39,15 +39,13 @@ class PointCorrection : public testing::Test
 protected:
     int correct(const PointName& name, const SurveyCorrection& correction)
     {
-        filedAs = {};
-        return manager.correctSurveyPoint(name, correction, &outcome, &filedAs);
+        return manager.correctSurveyPoint(name, correction, &outcome);
     }
 
     Host host;
     DataProcessDataManager manager{&host};
     SurveyPoints& points = manager.surveyPoints();
     Outcome outcome = Outcome::done();
-    PointName filedAs;
 };
 
 } // namespace
@@ -73,25 +71,6 @@ TEST_F(PointCorrection, AHigherAntennaLowersTheHeightsToTheLastDigit)
     EXPECT_EQ(correct({"R1", "10012034"}, correction), 1);
     EXPECT_EQ(point.elevation, 123.4567);
     EXPECT_EQ(point.antennaHeight, 3);
-}
-
-TEST_F(PointCorrection, ANewNameMovesTheResultAndReplacesTheOneThere)
-{
-    manager.surveyPoints().set(surveyPoint("R1", "1", "moved"));
-    manager.surveyPoints().set(surveyPoint("R2", "2", "replaced"));
-    SurveyCorrection correction;
-    correction.lineNumber = "R2";
-    EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), nullptr);
-    correction.pointNumber = " 2 ";
-    EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), points.find("R2", "2"));
-    correction.remarks = "by hand ";
-    EXPECT_EQ(correct({"R1", "1"}, correction), 1);
-    EXPECT_EQ(points.findLine("R1"), nullptr) << "its last point has left";
-    ASSERT_EQ(points.pointCount(), 1U);
-    EXPECT_EQ(points.find("R2", "2")->remarks, "by hand");
-    EXPECT_EQ(points.find("R2", "2")->lineNumber, "R2");
-    EXPECT_EQ(filedAs, (PointName{"R2", "2"}));
-    EXPECT_TRUE(manager.isChanged());
 }
 
 TEST_F(PointCorrection, FaultsAreToldAndChangeNothing)

@@ -1,4 +1,3 @@
-#include "basalt_utilities/Product.h"
 #include "project/ParameterFiles.h"
 #include "project/ProjectFile.h"
 #include "project/SafetyCopy.h"
@@ -235,18 +234,6 @@ TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
     EXPECT_EQ(files("*.db.2*").size(), 1) << "the old database is kept aside";
 }
 
-TEST_F(ProjectLife, AReadOnlyInstallationIsNotedOnce)
-{
-    const basalt::Product usual = basalt::product();
-    basalt::setProduct({"Nobody", "Nowhere", "None"}); // without folders
-    const LogCapture log;
-    for (int i = 0; i < 2; ++i)
-        ParameterFiles::writeTemplate(basalt::Dictionary());
-    basalt::setProduct(usual);
-    EXPECT_EQ(log.lines().size(), 1U);
-    EXPECT_EQ(log.text(ILogger::Level::Warning), "");
-}
-
 TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
 {
     create();
@@ -296,17 +283,6 @@ TEST_F(ProjectLife, ACopyThatFailsLeavesNothing)
     }
     EXPECT_EQ(manager.surveyPoints().pointCount(), 2000U);
     expectDone(manager.saveProject(place));
-}
-
-TEST(ProjectPlace, ProposesANameNearToABadOne)
-{
-    const auto proposal = [](const char* name) {
-        return projectNameProposal(QString::fromUtf8(name)).toStdString();
-    };
-    EXPECT_EQ(proposal("Block 3.2"), "Block 3-2");
-    EXPECT_EQ(proposal("测区/一?"), "测区-一");
-    for (const char* hopeless : {"..", "", "con"})
-        EXPECT_EQ(proposal(hopeless), "") << hopeless;
 }
 
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)

@@ -1,4 +1,3 @@
-#include "lum_sdk/DpiScale.h"
 #include "project/ui/DlgSurveyPoint.h"
 #include "tests/project/OpenProject.h"
 #include "tests/support/Boxes.h"
