@@ -103,27 +103,24 @@ private Q_SLOTS:
         map.addDesign("2", "e", 100, 300, 0);
         map.addDesign("3", "f", 200, 300, 7);
         map.publish(events::kRefreshDesignLayer);
-        const auto tip = [](const char* what, const char* position) {
-            return QString::fromUtf8(what) + QLatin1Char('\n') + QString::fromUtf8(position);
-        };
         QCOMPARE(map.layer().tipAt({101, 101}),
-                 tip("Line 1, point d (receiver)", "N=100.000    E=100.000"));
+                 "Line 1, point d (receiver)\nN=100.000    E=100.000"_q);
         QCOMPARE(map.layer().tipAt({301, 101}),
-                 tip("Line 2, point e (source)", "N=100.000    E=300.000"));
+                 "Line 2, point e (source)\nN=100.000    E=300.000"_q);
         basalt::Dictionary inFeet;
         QCOMPARE(fillFromEpsg("32037", inFeet), std::string());
         get_project_coord_transform().initialise(inFeet, inFeet);
         QCOMPARE(map.layer().tipAt({301, 201}),
-                 tip("Line 3, point f (design)", "N=200.000    E=300.000    ftUS"));
+                 "Line 3, point f (design)\nN=200.000    E=300.000    ftUS"_q);
         get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
         map.setStatus(status::kViewShowWhich, "0");
         map.publish(events::kRefreshSurveyLayer);
         map.showAll();
         QCOMPARE(map.layer().tipAt({101, 101}), QString());
         QCOMPARE(map.layer().tipAt({201, 200}),
-                 tip("Line 1, point s (survey result)", "N=200.000    E=200.000"));
+                 "Line 1, point s (survey result)\nN=200.000    E=200.000"_q);
         QCOMPARE(map.layer().tipAt({209, 200}), // counted as on the map
-                 tip("Base-1 (base station)", "N=200.000    E=210.000"));
+                 "Base-1 (base station)\nN=200.000    E=210.000"_q);
     }
 
     /// A map on a second screen may be larger than the first one, or lie left of it.
