@@ -23,7 +23,8 @@ constexpr double kLeastM = 0.002;
 constexpr double kUnderData = 10;
 constexpr double kOverData = 25;
 constexpr double kBand = 2; // standard deviations
-constexpr int kBandOpacity = 45;
+constexpr int kBandOpacity = 22;
+constexpr int kEdgeOpacity = 130;
 
 struct Component
 {
@@ -162,10 +163,12 @@ void BaseDifferencePlot::addMeans(int number, const std::vector<Shown>& pairs,
             QVector<QPointF>{{time.minValue(), moments.mean()}, {time.maxValue(), moments.mean()}});
         panel(number).addPlain(std::make_unique<PolyLine>(mean, QPen(color, dpi_scaled(2.0))),
                                kOverData);
+        QColor edge = color;
+        edge.setAlpha(kEdgeOpacity);
         color.setAlpha(kBandOpacity);
         auto band = std::make_unique<QwtPlotShapeItem>();
         band->setRect({time.minValue(), moments.mean() - half, time.width(), 2 * half});
-        band->setPen(QPen(Qt::NoPen));
+        band->setPen(QPen(edge, 1));
         band->setBrush(color);
         panel(number).addPlain(std::move(band), kUnderData);
     }

@@ -21,7 +21,7 @@ struct Value
 };
 
 constexpr std::array<Value, 2> kValues{{
-    {QT_TRANSLATE_NOOP("DayQualityPlot", "Horizontal accuracy (m)"), 0.005},
+    {QT_TRANSLATE_NOOP("DayQualityPlot", "Accuracy (m)"), 0.005},
     {QT_TRANSLATE_NOOP("DayQualityPlot", "Satellites"), 5},
 }};
 
@@ -73,8 +73,8 @@ void DayQualityPlot::fill()
         addLegend(PlotLegend::Sign::Disc, rovers.color(rover), rovers.name(rover));
     addLegend(PlotLegend::Sign::DashedLine, look().limit,
               tr("limits: %1 m, %2 satellites")
-                  .arg(numberText(limits.hrmsM, 3), numberText(limits.satellites, 0)));
-    setNote(tr("Results: %1, of all shown days together, without a time: %2.")
+                  .arg(shortText(limits.hrmsM), shortText(limits.satellites)));
+    setNote(tr("Horizontal accuracy. Results: %1, of all shown days together, without a time: %2.")
                 .arg(lum::groupedNumber(first.size() - untimed), lum::groupedNumber(untimed)));
 }
 

@@ -100,7 +100,7 @@ void DistancePlot::fill()
     if (limitM > 0) {
         panel(0).addVertical(limitM, {}, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
         addLegend(PlotLegend::Sign::DashedLine, look().limit,
-                  tr("limit: %1 m").arg(numberText(limitM, 3)));
+                  tr("limit: %1 m").arg(shortText(limitM)));
         addLegend(PlotLegend::Sign::Box, look().good,
                   tr("not farther than the limit: %1").arg(lum::groupedNumber(count - beyond)));
         addLegend(PlotLegend::Sign::Box, look().bad,

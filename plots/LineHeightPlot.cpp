@@ -47,7 +47,7 @@ void LineHeightPlot::fill()
     panel(0).setAxes(new StationEngine(stations), new StationDraw(stations),
                      isOneLine ? tr("Points of line %1").arg(stations->lines.front().name)
                                : tr("Lines, point by point"),
-                     tr("Measured minus design height (m)"));
+                     tr("Height difference (m)"));
     const double limitM = data().sample->limits.designVerticalM;
     const QwtInterval along = widened({-0.5, double(shown.size()) - 0.5}, 0.01);
     panel(0).setRanges({along, along}, rangesOf(std::move(heights), {-limitM, 0, limitM}, kLeastM));
@@ -74,6 +74,5 @@ void LineHeightPlot::addLimits(double limitM)
 {
     for (const double limit : {-limitM, limitM})
         panel(0).addHorizontal(limit, {}, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
-    addLegend(PlotLegend::Sign::DashedLine, look().limit,
-              tr("limit: %1 m").arg(numberText(limitM, 3)));
+    addLegend(PlotLegend::Sign::DashedLine, look().limit, tr("limit: %1 m").arg(shortText(limitM)));
 }

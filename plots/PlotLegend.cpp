@@ -81,7 +81,7 @@ int PlotLegend::rowHeight() const
 std::vector<PlotLegend::Placed> PlotLegend::placed(double width) const
 {
     const QFontMetrics metrics = fontMetrics();
-    const int longest = std::min(dpi_scaled(280), std::max(1, int(width) - signWidth()));
+    const int longest = std::max(1, int(width) - signWidth() - 1);
     const QString more = tr("and %1 more");
     const int moreWidth = metrics.horizontalAdvance(more.arg(m_entries.size()));
     std::vector<Placed> all;

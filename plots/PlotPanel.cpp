@@ -72,7 +72,7 @@ void PlotPanel::setLook(const PlotLook& look)
         axisWidget(axis)->setPalette(colors);
     setCanvasBackground(look.paper);
     QColor grid = look.faint;
-    grid.setAlpha(110);
+    grid.setAlpha(170);
     m_grid->setPen(grid, 0, Qt::DotLine);
 }
 
@@ -121,7 +121,8 @@ void PlotPanel::setRanges(const PlotRanges& x, const PlotRanges& y)
 void PlotPanel::add(std::unique_ptr<PlotItem> item)
 {
     m_items.push_back(item.get());
-    addPlain(std::move(item), kDataZ);
+    item->setZ(kDataZ); // without the hint: discs are smooth by themselves, bars shall be sharp
+    item.release()->attach(this);
 }
 
 void PlotPanel::addPlain(std::unique_ptr<QwtPlotItem> item, double z)
@@ -255,8 +256,8 @@ void PlotPanel::setTickCounts(const QSizeF& size)
     const bool hasDates = m_xScale == PlotScale::Moment || m_xScale == PlotScale::Day;
     const int widest =
         metrics.horizontalAdvance(hasDates ? kLongestDate : QStringLiteral("-00000.0"));
-    setAxisMaxMajor(xBottom, std::clamp(int(size.width() / (1.6 * widest)), 1, 12));
-    setAxisMaxMajor(yLeft, std::clamp(int(size.height() / (2.5 * metrics.height())), 1, 10));
+    setAxisMaxMajor(xBottom, std::clamp(int(size.width() / (1.6 * widest)), 2, 12));
+    setAxisMaxMajor(yLeft, std::clamp(int(size.height() / (2.2 * metrics.height())), 4, 10));
 }
 
 void PlotPanel::fitToPaper(const QSizeF& size)

@@ -5,9 +5,10 @@
 
 namespace {
 
-constexpr double kOutside = 0.02;  // the share of values at each end that may lie far away
-constexpr double kFar = 3;         // times the width of the others
-constexpr double kMarkIsNear = 10; // likewise, for limits
+constexpr double kOutside = 0.02;      // the share of values at each end that may lie far away
+constexpr double kOutsideAbove = 0.05; // of those from 0 upward
+constexpr double kFar = 3;             // times the width of the others
+constexpr double kMarkIsNear = 10;     // likewise, for limits
 constexpr double kRoom = 0.06;
 
 QwtInterval atLeast(const QwtInterval& range, double least)
@@ -18,12 +19,11 @@ QwtInterval atLeast(const QwtInterval& range, double least)
     return {middle - least / 2, middle + least / 2};
 }
 
-/// The values between those that `kOutside` of all are below and above.
-QwtInterval core(std::vector<double>& values)
+/// The values between those that a share of all is below, and one is above.
+QwtInterval core(std::vector<double>& values, double below, double above)
 {
-    const auto outside = std::ptrdiff_t(kOutside * double(values.size()));
-    const auto lower = values.begin() + outside;
-    const auto upper = values.end() - 1 - outside;
+    const auto lower = values.begin() + std::ptrdiff_t(below * double(values.size()));
+    const auto upper = values.end() - 1 - std::ptrdiff_t(above * double(values.size()));
     std::nth_element(values.begin(), lower, values.end());
     std::nth_element(lower, upper, values.end());
     return {*lower, *upper};
@@ -37,6 +37,24 @@ QwtInterval withMarks(QwtInterval range, std::initializer_list<double> marks)
             range = range.extend(mark);
     }
     return range;
+}
+
+PlotRanges rangesWith(std::vector<double> values, std::initializer_list<double> marks, double least,
+                      double below, double above)
+{
+    std::erase_if(values, [](double value) { return !isShown(value); });
+    if (values.empty()) {
+        const QwtInterval none = widened(withMarks({-least, least}, marks), kRoom);
+        return {none, none};
+    }
+    const auto [lowest, highest] = std::minmax_element(values.begin(), values.end());
+    QwtInterval all = atLeast({*lowest, *highest}, least);
+    QwtInterval usual = atLeast(core(values, below, above), least);
+    if (all.width() <= kFar * usual.width())
+        usual = all;
+    usual = withMarks(usual, marks);
+    all = withMarks(all | usual, marks);
+    return {widened(usual, kRoom), widened(all, kRoom)};
 }
 
 } // namespace
@@ -54,26 +72,14 @@ QwtInterval widened(const QwtInterval& range, double share)
 
 PlotRanges rangesOf(std::vector<double> values, std::initializer_list<double> marks, double least)
 {
-    std::erase_if(values, [](double value) { return !isShown(value); });
-    if (values.empty()) {
-        const QwtInterval none = widened(withMarks({-least, least}, marks), kRoom);
-        return {none, none};
-    }
-    const auto [lowest, highest] = std::minmax_element(values.begin(), values.end());
-    QwtInterval all = atLeast({*lowest, *highest}, least);
-    QwtInterval usual = atLeast(core(values), least);
-    if (all.width() <= kFar * usual.width())
-        usual = all;
-    usual = withMarks(usual, marks);
-    all = withMarks(all | usual, marks);
-    return {widened(usual, kRoom), widened(all, kRoom)};
+    return rangesWith(std::move(values), marks, least, kOutside, kOutside);
 }
 
 PlotRanges rangesFromZero(std::vector<double> values, std::initializer_list<double> marks,
                           double least)
 {
     values.push_back(0);
-    PlotRanges ranges = rangesOf(std::move(values), marks, least);
+    PlotRanges ranges = rangesWith(std::move(values), marks, least, 0, kOutsideAbove);
     ranges.usual.setMinValue(0);
     ranges.all.setMinValue(0);
     return ranges;

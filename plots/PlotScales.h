@@ -43,6 +43,8 @@ inline constexpr double kDayMs = 24 * kHourMs;
 [[nodiscard]] int decimalsFor(double tickStep);
 /// "1,234.50", alike on every desktop.
 [[nodiscard]] QString numberText(double value, int decimals);
+/// With no more digits than it has: "0.5", "1,000".
+[[nodiscard]] QString shortText(double value);
 
 /// The distance of an axis' ticks; 0 when it has less than two.
 [[nodiscard]] double tickStepOf(const QwtScaleDiv& division);

@@ -108,7 +108,7 @@ void ProgressPlot::fillDays(const PlotRanges& time)
         bar.to = (double(number) + kBarHalf) * kDayMs;
         bar.color = surveyors.color(surveyor);
         bar.text = tr("%1, %2: %3")
-                       .arg(dayText(number), surveyors.name(surveyor).left(40),
+                       .arg(dayText(number), surveyors.name(surveyor),
                             lum::groupedNumber(bar.places.size()));
         tops.push_back(bar.top());
         all.push_back(std::move(bar));

@@ -215,7 +215,7 @@ TEST(Pace, IsThatOfTheLastWorkingDays)
     const Pace pace = paceOf(progress, 34);
     EXPECT_EQ(pace.workingDays, 7U);
     EXPECT_DOUBLE_EQ(pace.pointsADay, 33);
-    EXPECT_EQ(pace.daysNeeded, 2U); // a point more than one day's
+    EXPECT_EQ(pace.daysNeeded, 2U);  // a point more than one day's
     EXPECT_EQ(pace.endDay, 212 + 4); // 2 days at 13 / 7 days each
     EXPECT_EQ(paceOf(progress, 33).daysNeeded, 1U);
     EXPECT_EQ(paceOf(progress, 0).endDay, 212);
