@@ -34,9 +34,9 @@ struct Component
 };
 
 constexpr std::array<Component, 3> kComponents{{
-    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "East (m)"), &MeasuredPair::eastM, 1},
-    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "North (m)"), &MeasuredPair::northM, 0},
-    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "Height (m)"), &MeasuredPair::heightM, 2},
+    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "dE (m)"), &MeasuredPair::eastM, 1},
+    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "dN (m)"), &MeasuredPair::northM, 0},
+    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "dH (m)"), &MeasuredPair::heightM, 2},
 }};
 
 /// The differences of a base, and when they were measured.
@@ -103,7 +103,8 @@ void BaseDifferencePlot::fill()
     for (std::size_t base = 0; base < bases.classCount(); ++base)
         addLegend(PlotLegend::Sign::Disc, bases.color(base), bases.name(base));
     addLegend(PlotLegend::Sign::DashedLine, look().limit, tr("tolerance of resurveys"));
-    setNote(tr("Pairs: %1, without a time: %2. Later minus first measurement; line: mean of a "
+    setNote(tr("Pairs: %1, without a time: %2. East, north and height: later minus first "
+               "measurement; line: mean of a "
                "base, band: two standard deviations about it.")
                 .arg(lum::groupedNumber(pairs.size()), lum::groupedNumber(untimed)));
 }

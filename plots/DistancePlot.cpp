@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double kLeastM = 0.001;
+constexpr double kLeastM = 0.04;
 constexpr double kClasses = 50; // in what is usually seen
 constexpr double kLeastPoints = 5;
 

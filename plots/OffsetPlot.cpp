@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr double kLeastM = 0.002;
+constexpr double kLeastM = 0.04;
 constexpr int kSteps = 180; // of an ellipse
 constexpr double kOverData = 25;
 constexpr double kEllipseIsNear = 15; // times what is seen without it

@@ -21,6 +21,7 @@
 #include <QVBoxLayout>
 #include <qwt_plot_renderer.h>
 #include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
 
 #include <algorithm>
 
@@ -28,9 +29,8 @@ namespace {
 
 constexpr double kReach = 6; // pixels, from the mouse to what it picks
 constexpr double kKeyZoom = 1.5;
-constexpr double kKeyMove = 0.1;  // of what is shown
-constexpr int kLastPanelMore = 4; // a quarter, for the texts of the x axis
-constexpr int kPictureScale = 2;  // device pixels to a pixel of a saved picture
+constexpr double kKeyMove = 0.1; // of what is shown
+constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
 constexpr int kHeightForNote = 240;
 constexpr int kMostTipName = 40;
 
@@ -64,7 +64,7 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
     for (int i = 0; i < panels; ++i) {
         m_panels.push_back(new PlotPanel(this));
         m_mice.push_back(new PlotMouse(*this, *m_panels.back()));
-        layout->addWidget(m_panels.back(), kLastPanelMore + (i + 1 == panels && i > 0 ? 1 : 0));
+        layout->addWidget(m_panels.back(), 1);
     }
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setTextFormat(Qt::PlainText);
@@ -133,6 +133,7 @@ void StatisticsPlot::updateParts()
     m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() &&
                             height() >= dpi_scaled(kHeightForNote));
     updateNote();
+    shareHeight();
 }
 
 QString StatisticsPlot::note() const
@@ -175,6 +176,23 @@ void StatisticsPlot::replotAll()
     for (PlotPanel* const panel : m_panels)
         panel->replot();
     updateNote();
+}
+
+double StatisticsPlot::heightOf(const PlotPanel& panel, double all) const
+{
+    const PlotPanel& last = *m_panels.back();
+    const double axis = last.axisWidget(QwtPlot::xBottom)->sizeHint().height();
+    const double canvas = std::max(1.0, (all - axis) / double(m_panels.size()));
+    return canvas + (&panel == &last ? axis : 0);
+}
+
+void StatisticsPlot::shareHeight()
+{
+    const int note = m_noteLabel->isHidden() ? 0 : m_noteLabel->heightForWidth(width());
+    const double all = height() - m_legend->heightFor(width()) - note;
+    auto* const boxes = qobject_cast<QBoxLayout*>(layout());
+    for (PlotPanel* const panel : m_panels)
+        boxes->setStretchFactor(panel, int(heightOf(*panel, all)));
 }
 
 void StatisticsPlot::alignPanels()
@@ -403,21 +421,13 @@ void StatisticsPlot::paintLight(QPainter& painter, const QRectF& rectangle)
     painter.restore();
     if (isEmpty())
         return;
-    const int count = int(m_panels.size());
-    const double unit = rest / (kLastPanelMore * count + (count > 1 ? 1 : 0));
+    for (PlotPanel* const panel : m_panels)
+        panel->fitToPaper({size.width(), heightOf(*panel, rest)});
+    alignPanels();
+    const QwtPlotRenderer renderer;
     double top = head;
     for (PlotPanel* const panel : m_panels) {
-        const bool isLast = count > 1 && panel == m_panels.back();
-        const double height = unit * (kLastPanelMore + (isLast ? 1 : 0));
-        panel->fitToPaper({size.width(), height});
-        alignPanels();
-        top += height;
-    }
-    top = head;
-    const QwtPlotRenderer renderer;
-    for (PlotPanel* const panel : m_panels) {
-        const bool isLast = count > 1 && panel == m_panels.back();
-        const double height = unit * (kLastPanelMore + (isLast ? 1 : 0));
+        const double height = heightOf(*panel, rest);
         renderer.render(
             panel, &painter,
             {rectangle.left(), rectangle.top() + top * scale, rectangle.width(), height * scale});

@@ -115,6 +115,9 @@ private:
     void updateParts();
     void updateNote();
     void alignPanels();
+    void shareHeight();
+    /// Of a panel, when all have so much together: the same for each canvas.
+    [[nodiscard]] double heightOf(const PlotPanel& panel, double all) const;
     void replotAll();
     void setViews(bool isUsual);
     void zoomAll(double factor);
