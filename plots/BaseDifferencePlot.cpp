@@ -129,11 +129,10 @@ void BaseDifferencePlot::fillPanel(int number, const std::vector<Shown>& pairs,
     panel(number).setAxes(PlotScale::Moment, tr("Time"), tr(component.axis));
     panel(number).setXAxisShown(number + 1 == int(kComponents.size()));
     panel(number).setRanges(time, rangesOf(std::move(values), {-tolerance, 0, tolerance}, kLeastM));
-    panel(number).addHorizontal(0, {}, QPen(look().faint, 0));
+    panel(number).addHorizontal(0, QPen(look().faint, 0));
     for (const double limit : {-tolerance, tolerance}) {
         if (tolerance > 0)
-            panel(number).addHorizontal(limit, {},
-                                        QPen(look().limit, dpi_scaled(1.0), Qt::DashLine));
+            panel(number).addHorizontal(limit, QPen(look().limit, dpi_scaled(1.0), Qt::DashLine));
     }
     addMeans(number, pairs, bases);
     panel(number).add(std::make_unique<MarkSeries>(std::move(marks), bases.markColors(),

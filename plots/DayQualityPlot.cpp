@@ -91,7 +91,7 @@ void DayQualityPlot::fillPanel(int number, std::vector<PlotMark> marks,
     panel(number).setXAxisShown(number + 1 == int(kValues.size()));
     panel(number).setRanges(time, rangesOf(std::move(values), {0, limit}, value.least));
     if (limit > 0)
-        panel(number).addHorizontal(limit, {}, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
+        panel(number).addHorizontal(limit, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
     panel(number).add(std::make_unique<MarkSeries>(std::move(marks), colors, selection(),
                                                    look().selected, look().text));
 }

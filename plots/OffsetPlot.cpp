@@ -109,8 +109,8 @@ void OffsetPlot::fill()
         statistics::errorEllipseOf(*data().sample, data().places);
     const PlotRanges ranges = square(east, north, limitM, ellipse);
     panel(0).setRanges(ranges, ranges);
-    panel(0).addHorizontal(0, {}, QPen(look().faint, 0));
-    panel(0).addVertical(0, {}, QPen(look().faint, 0));
+    panel(0).addHorizontal(0, QPen(look().faint, 0));
+    panel(0).addVertical(0, QPen(look().faint, 0));
     panel(0).add(std::make_unique<MarkSeries>(std::move(marks), verdicts.colors(), selection(),
                                               look().selected, look().text));
     for (const auto& [color, text] : verdicts.legend())

@@ -132,31 +132,20 @@ void PlotPanel::addPlain(std::unique_ptr<QwtPlotItem> item, double z)
     item.release()->attach(this); // the base class deletes what is attached
 }
 
-void PlotPanel::addHorizontal(double y, const QString& text, const QPen& pen)
+void PlotPanel::addHorizontal(double y, const QPen& pen)
 {
     auto marker = std::make_unique<QwtPlotMarker>();
     marker->setLineStyle(QwtPlotMarker::HLine);
     marker->setYValue(y);
-    marker->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
-    QwtText label(text, QwtText::PlainText);
-    label.setColor(pen.color());
-    label.setFont(smaller(font()));
-    marker->setLabel(label);
     marker->setLinePen(pen);
     addPlain(std::move(marker), kDataZ + 1);
 }
 
-void PlotPanel::addVertical(double x, const QString& text, const QPen& pen)
+void PlotPanel::addVertical(double x, const QPen& pen)
 {
     auto marker = std::make_unique<QwtPlotMarker>();
     marker->setLineStyle(QwtPlotMarker::VLine);
     marker->setXValue(x);
-    marker->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
-    marker->setLabelOrientation(Qt::Vertical);
-    QwtText label(text, QwtText::PlainText);
-    label.setColor(pen.color());
-    label.setFont(smaller(font()));
-    marker->setLabel(label);
     marker->setLinePen(pen);
     addPlain(std::move(marker), kDataZ + 1);
 }
@@ -229,8 +218,9 @@ PlotPanel::View PlotPanel::moved(const View& from, const QPointF& byPixels) cons
 PlotPanel::View PlotPanel::inside(const QRectF& rectangle) const
 {
     const PlotMaps now = maps();
+    const double bottom = m_isFromZero ? 0 : now.y.invTransform(rectangle.bottom());
     return {{now.x.invTransform(rectangle.left()), now.x.invTransform(rectangle.right())},
-            {now.y.invTransform(rectangle.bottom()), now.y.invTransform(rectangle.top())}};
+            {bottom, now.y.invTransform(rectangle.top())}};
 }
 
 PlotMaps PlotPanel::maps() const

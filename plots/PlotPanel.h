@@ -47,9 +47,9 @@ public:
     /// Adds anything else.
     /// \param z above 20 it lies over the data
     void addPlain(std::unique_ptr<QwtPlotItem> item, double z);
-    /// A line across the canvas, with a short text at its end.
-    void addHorizontal(double y, const QString& text, const QPen& pen);
-    void addVertical(double x, const QString& text, const QPen& pen);
+    /// A line across the canvas.
+    void addHorizontal(double y, const QPen& pen);
+    void addVertical(double x, const QPen& pen);
 
     [[nodiscard]] View view() const;
     /// Keeps within what can be shown and in front of 0, where that is asked for, and shows it.

@@ -31,6 +31,7 @@ constexpr double kReach = 6; // pixels, from the mouse to what it picks
 constexpr double kKeyZoom = 1.5;
 constexpr double kKeyMove = 0.1; // of what is shown
 constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
+constexpr double kMargin = 10;   // pixels around a saved picture
 constexpr int kHeightForNote = 240;
 constexpr int kMostTipName = 40;
 
@@ -40,6 +41,13 @@ QFont unscaled(QFont font)
 {
     font.setPixelSize(QFontInfo(font).pixelSize());
     return font;
+}
+
+/// A page without its margin.
+QRectF inside(const QRectF& page, double scale)
+{
+    const double margin = kMargin * scale;
+    return page.adjusted(margin, margin, -margin, -margin);
 }
 
 QString shortened(const QString& name)
@@ -452,8 +460,10 @@ QImage StatisticsPlot::toImage()
     QImage image(size * kPictureScale, QImage::Format_RGB32);
     image.setDotsPerMeterX(int(logicalDpiX() * kPictureScale / 0.0254));
     image.setDotsPerMeterY(int(logicalDpiY() * kPictureScale / 0.0254));
+    image.fill(Qt::white);
     QPainter painter(&image);
-    paint(painter, image.rect());
+    paint(painter, inside(image.rect(), kPictureScale));
+    painter.end();
     return image;
 }
 
@@ -488,14 +498,15 @@ Outcome StatisticsPlot::save(const QString& path)
         svg.setViewBox(QRect({0, 0}, size));
         svg.setTitle(title());
         QPainter painter(&svg);
-        paint(painter, {{0, 0}, size});
+        paint(painter, inside(QRect({0, 0}, size), 1));
     } else {
         QPdfWriter pdf(&buffer);
         pdf.setPageSize(QPageSize(QSizeF(size) * 25.4 / logicalDpiX(), QPageSize::Millimeter));
         pdf.setPageMargins({0, 0, 0, 0});
         pdf.setTitle(title());
         QPainter painter(&pdf);
-        paint(painter, {0, 0, double(pdf.width()), double(pdf.height())});
+        paint(painter, inside(QRectF(0, 0, pdf.width(), pdf.height()),
+                              pdf.logicalDpiX() / double(logicalDpiX())));
     }
     const QString fault = lum::writeWholeFile(path, content);
     if (!fault.isEmpty())
