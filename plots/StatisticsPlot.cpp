@@ -18,6 +18,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <qwt_plot_renderer.h>
 #include <qwt_scale_draw.h>
@@ -32,6 +33,7 @@ constexpr double kKeyZoom = 1.5;
 constexpr double kKeyMove = 0.1; // of what is shown
 constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
 constexpr double kMargin = 10;   // pixels around a saved picture
+constexpr int kNoteMs = 100;
 constexpr int kHeightForNote = 240;
 constexpr int kMostTipName = 40;
 
@@ -59,7 +61,7 @@ QString shortened(const QString& name)
 
 StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
     : QWidget(parent), m_legend(new PlotLegend(this)), m_noteLabel(new QLabel(this)),
-      m_emptyLabel(new QLabel(this))
+      m_emptyLabel(new QLabel(this)), m_noteTimer(new QTimer(this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
@@ -83,6 +85,9 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
         label->setWordWrap(true);
         label->setMinimumWidth(1);
     }
+    m_noteTimer->setSingleShot(true);
+    m_noteTimer->setInterval(kNoteMs);
+    connect(m_noteTimer, &QTimer::timeout, this, &StatisticsPlot::updateNote);
     m_look = PlotLook::onScreen(palette());
     m_empty = tr("There is nothing to show.");
     updateParts();
@@ -183,7 +188,7 @@ void StatisticsPlot::replotAll()
 {
     for (PlotPanel* const panel : m_panels)
         panel->replot();
-    updateNote();
+    m_noteTimer->start();
 }
 
 double StatisticsPlot::heightOf(const PlotPanel& panel, double all) const
@@ -237,6 +242,7 @@ void StatisticsPlot::setViews(bool isUsual)
     m_isUsual = isUsual;
     alignPanels();
     replotAll();
+    updateNote();
 }
 
 void StatisticsPlot::showUsual()

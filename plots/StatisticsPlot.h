@@ -10,6 +10,7 @@
 
 class PlotMouse;
 class QLabel;
+class QTimer;
 
 /// A plot of survey results with legend, data and a note.
 ///
@@ -138,6 +139,7 @@ private:
     std::vector<PlotMouse*> m_mice;
     QLabel* m_noteLabel;
     QLabel* m_emptyLabel;
+    QTimer* m_noteTimer; ///< what lies outside is counted when the picture rests
     QString m_note;
     QString m_method;
     QString m_empty;
