@@ -49,7 +49,7 @@ PlotPanel::PlotPanel(QWidget* parent) : QwtPlot(parent), m_grid(new QwtPlotGrid)
         setAxisFont(axis, smaller(font()));
         setAxisMaxMinor(axis, 0);
     }
-    setMinimumSize(dpi_scaled(160), dpi_scaled(80));
+    setMinimumSize(dpi_scaled(120), dpi_scaled(50));
     setScale(*this, yLeft, PlotScale::Number);
 }
 
@@ -86,7 +86,7 @@ void PlotPanel::setAxes(PlotScale x, const QString& xTitle, const QString& yTitl
 void PlotPanel::setAxes(QwtScaleEngine* xEngine, QwtScaleDraw* xDraw, const QString& xTitle,
                         const QString& yTitle)
 {
-    m_xScale = PlotScale::Number;
+    m_xScale = PlotScale::Station;
     setAxisScaleEngine(xBottom, xEngine);
     setAxisScaleDraw(xBottom, xDraw);
     setTexts(xTitle, yTitle);
@@ -94,12 +94,17 @@ void PlotPanel::setAxes(QwtScaleEngine* xEngine, QwtScaleDraw* xDraw, const QStr
 
 void PlotPanel::setTexts(const QString& xTitle, const QString& yTitle)
 {
-    const std::pair<int, QString> titles[] = {{xBottom, xTitle}, {yLeft, yTitle}};
-    for (const auto& [axis, title] : titles) {
-        QwtText text(title, QwtText::PlainText);
-        text.setFont(smaller(font()));
-        setAxisTitle(axis, text);
-    }
+    m_xTitle = xTitle;
+    m_yTitle = yTitle;
+    showTitle(xBottom, xTitle);
+    showTitle(yLeft, yTitle);
+}
+
+void PlotPanel::showTitle(int axis, const QString& title)
+{
+    QwtText text(title, QwtText::PlainText);
+    text.setFont(smaller(font()));
+    setAxisTitle(axis, text);
 }
 
 void PlotPanel::setXAxisShown(bool isShown)
@@ -108,8 +113,7 @@ void PlotPanel::setXAxisShown(bool isShown)
     draw->enableComponent(QwtAbstractScaleDraw::Labels, isShown);
     draw->enableComponent(QwtAbstractScaleDraw::Ticks, isShown);
     draw->enableComponent(QwtAbstractScaleDraw::Backbone, isShown);
-    if (!isShown)
-        setAxisTitle(xBottom, QString());
+    showTitle(xBottom, isShown ? m_xTitle : QString());
 }
 
 void PlotPanel::setRanges(const PlotRanges& x, const PlotRanges& y)
@@ -230,14 +234,13 @@ PlotMaps PlotPanel::maps() const
 
 QString PlotPanel::valueText(const QPointF& value) const
 {
-    const auto line = [this](int axis, PlotScale scale, double at) {
-        return axisTitle(axis).text() + QLatin1String(": ") +
-               scaleText(scale, at, tickStepOf(axisScaleDiv(axis)));
+    const auto line = [this](int axis, const QString& title, PlotScale scale, double at) {
+        return title + QLatin1String(": ") + scaleText(scale, at, tickStepOf(axisScaleDiv(axis)));
     };
-    const QString y = line(yLeft, PlotScale::Number, value.y());
-    if (axisTitle(xBottom).isEmpty())
+    const QString y = line(yLeft, m_yTitle, PlotScale::Number, value.y());
+    if (m_xScale == PlotScale::Station)
         return y;
-    return line(xBottom, m_xScale, value.x()) + QLatin1Char('\n') + y;
+    return line(xBottom, m_xTitle, m_xScale, value.x()) + QLatin1Char('\n') + y;
 }
 
 void PlotPanel::setTickCounts(const QSizeF& size)
@@ -247,7 +250,14 @@ void PlotPanel::setTickCounts(const QSizeF& size)
     const int widest =
         metrics.horizontalAdvance(hasDates ? kLongestDate : QStringLiteral("-00000.0"));
     setAxisMaxMajor(xBottom, std::clamp(int(size.width() / (1.6 * widest)), 2, 12));
-    setAxisMaxMajor(yLeft, std::clamp(int(size.height() / (2.2 * metrics.height())), 4, 10));
+    const bool hasXTexts = axisScaleDraw(xBottom)->hasComponent(QwtAbstractScaleDraw::Labels);
+    const double height =
+        size.height() - (hasXTexts ? axisWidget(xBottom)->sizeHint().height() : 0);
+    const bool hasTitle = metrics.horizontalAdvance(m_yTitle) <= height;
+    showTitle(yLeft, hasTitle ? m_yTitle : QString());
+    const double texts = height / metrics.height(); // that would stand below each other
+    setAxisMaxMajor(yLeft,
+                    std::clamp(int(std::max(std::min(4.0, texts / 1.1), texts / 2.2)), 2, 10));
 }
 
 void PlotPanel::fitToPaper(const QSizeF& size)

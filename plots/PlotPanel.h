@@ -77,7 +77,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// As many ticks as have room for their texts; a title that has room.
     void setTickCounts(const QSizeF& size);
+    void showTitle(int axis, const QString& title);
     void setTexts(const QString& xTitle, const QString& yTitle);
     [[nodiscard]] View fitted(const View& view) const;
     [[nodiscard]] QwtInterval allowed(const QwtInterval& wanted, const PlotRanges& ranges) const;
@@ -85,6 +87,8 @@ private:
     QwtPlotGrid* m_grid;
     PlotLook m_look;
     PlotScale m_xScale = PlotScale::Number;
+    QString m_xTitle;
+    QString m_yTitle;
     PlotRanges m_x;
     PlotRanges m_y;
     View m_asked;                   ///< before it was fitted to the canvas

@@ -11,9 +11,10 @@ class QwtPlot;
 enum class PlotScale
 {
     Number,
-    Moment,   ///< `toClockMs`, as date and time
-    Day,      ///< likewise, as a date; no ticks but those of days
-    TimeOfDay ///< likewise, as a time
+    Moment,    ///< `toClockMs`, as date and time
+    Day,       ///< likewise, as a date; no ticks but those of days
+    TimeOfDay, ///< likewise, as a time
+    Station    ///< with ticks of its own
 };
 
 /// Sets up an axis of a plot.

@@ -177,15 +177,13 @@ QString ProgressPlot::noteOf(const StakingProgress& progress, const Pace& pace) 
                        .arg(lum::groupedNumber(doneOf(progress)),
                             lum::groupedNumber(data().design.designed), lum::groupedNumber(left));
     if (progress.undated > 0)
-        note +=
-            QLatin1Char(' ') + tr("Without a time: %1.").arg(lum::groupedNumber(progress.undated));
+        note = joined(note, tr("Without a time: %1.").arg(lum::groupedNumber(progress.undated)));
     if (left == 0 || !pace.daysNeeded)
         return note;
-    note += QLatin1Char(' ') +
-            tr("At the present pace of %1 points a day, days of work still "
-               "needed: %2.")
-                .arg(numberText(pace.pointsADay, 0), lum::groupedNumber(*pace.daysNeeded));
+    note = joined(note,
+                  tr("At the present pace of %1 points a day, days of work still needed: %2.")
+                      .arg(numberText(pace.pointsADay, 0), lum::groupedNumber(*pace.daysNeeded)));
     if (pace.endDay)
-        note += QLatin1Char(' ') + tr("Last day expected: %1.").arg(dayText(*pace.endDay));
+        note = joined(note, tr("Last day expected: %1.").arg(dayText(*pace.endDay)));
     return note;
 }

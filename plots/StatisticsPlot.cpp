@@ -34,7 +34,7 @@ constexpr double kKeyMove = 0.1; // of what is shown
 constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
 constexpr double kMargin = 10;   // pixels around a saved picture
 constexpr int kNoteMs = 100;
-constexpr int kHeightForNote = 240;
+constexpr int kLeastPanel = 90; // pixels of height; where there are less, the note is left out
 constexpr int kMostTipName = 40;
 
 /// A font whose letters have the size of the screen's, also with a painter that is scaled for
@@ -99,6 +99,13 @@ QString StatisticsPlot::title() const
                                     : tr("%1: %2").arg(caption(), shortened(m_data.subject));
 }
 
+QString StatisticsPlot::joined(const QString& first, const QString& second)
+{
+    if (first.isEmpty() || second.isEmpty())
+        return first + second;
+    return tr("%1 %2", "two sentences").arg(first, second);
+}
+
 void StatisticsPlot::setData(PlotData data)
 {
     const bool isSame = !m_isUsual && !isEmpty() && data.subject == m_data.subject;
@@ -143,8 +150,6 @@ void StatisticsPlot::updateParts()
     m_legend->setVisible(!m_legend->entries().empty());
     m_emptyLabel->setVisible(isEmpty());
     m_emptyLabel->setText(m_empty);
-    m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() &&
-                            height() >= dpi_scaled(kHeightForNote));
     updateNote();
     shareHeight();
 }
@@ -161,8 +166,7 @@ QString StatisticsPlot::note() const
     }
     if (outside == 0)
         return m_note;
-    return m_note + QLatin1Char(' ') +
-           tr("Outside of the picture: %1.").arg(lum::groupedNumber(outside));
+    return joined(m_note, tr("Outside of the picture: %1.").arg(lum::groupedNumber(outside)));
 }
 
 void StatisticsPlot::updateNote()
@@ -201,11 +205,13 @@ double StatisticsPlot::heightOf(const PlotPanel& panel, double all) const
 
 void StatisticsPlot::shareHeight()
 {
-    const int note = m_noteLabel->isHidden() ? 0 : m_noteLabel->heightForWidth(width());
-    const double all = height() - m_legend->heightFor(width()) - note;
+    const double all = height() - m_legend->heightFor(width());
+    const double rest = all - m_noteLabel->heightForWidth(width());
+    const bool hasRoom = rest >= dpi_scaled(kLeastPanel) * double(m_panels.size());
+    m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() && hasRoom);
     auto* const boxes = qobject_cast<QBoxLayout*>(layout());
     for (PlotPanel* const panel : m_panels)
-        boxes->setStretchFactor(panel, int(heightOf(*panel, all)));
+        boxes->setStretchFactor(panel, int(heightOf(*panel, hasRoom ? rest : all)));
 }
 
 void StatisticsPlot::alignPanels()
@@ -412,7 +418,7 @@ double StatisticsPlot::paintNote(QPainter& painter, const QSizeF& size) const
     const QRectF all(0, 0, size.width(), size.height());
     const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
     painter.setFont(unscaled(font()));
-    const QString text = m_method.isEmpty() ? note() : note() + QLatin1Char(' ') + m_method;
+    const QString text = joined(note(), m_method);
     const double height = painter.boundingRect(all, flags, text).height();
     painter.setPen(m_look.text);
     painter.drawText(all.adjusted(0, all.height() - height, 0, 0), flags, text);

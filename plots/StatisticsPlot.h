@@ -103,6 +103,8 @@ protected:
         m_note = note;
         m_method = method;
     }
+    /// Two sentences behind each other, as the language writes them; either may be empty.
+    [[nodiscard]] static QString joined(const QString& first, const QString& second);
     /// Says that there is nothing to show, and why.
     void setEmpty(const QString& reason) { m_empty = reason; }
 
