@@ -33,6 +33,7 @@ constexpr double kKeyMove = 0.1; // of what is shown
 constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
 constexpr double kMargin = 10;   // pixels around a saved picture
 constexpr int kNoteMs = 100;
+constexpr int kNoteFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 constexpr int kLeastPanel = 90; // pixels of height; where there are less, the note is left out
 constexpr int kMostTipName = 40;
 
@@ -66,6 +67,7 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
         m_panels.push_back(new PlotPanel(this));
         m_mice.push_back(new PlotMouse(*this, *m_panels.back()));
         connect(m_panels.back(), &PlotPanel::resized, this, &StatisticsPlot::alignPanels);
+        connect(m_panels.back(), &PlotPanel::resized, m_noteTimer, qOverload<>(&QTimer::start));
         layout->addWidget(m_panels.back(), 1);
     }
     m_emptyLabel->setAlignment(Qt::AlignCenter);
@@ -399,18 +401,21 @@ double StatisticsPlot::paintHead(QPainter& painter, const QSizeF& size) const
     return titleHeight + legendHeight + dpi_scaled(4);
 }
 
-double StatisticsPlot::paintNote(QPainter& painter, const QSizeF& size) const
+double StatisticsPlot::noteHeight(QPainter& painter, const QSizeF& size) const
 {
     if (m_note.isEmpty() || isEmpty())
         return 0;
-    const QRectF all(0, 0, size.width(), size.height());
-    const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
     painter.setFont(unscaledFont(m_noteLabel->font()));
-    const QString text = joined(note(), m_method);
-    const double height = painter.boundingRect(all, flags, text).height();
+    const QRectF all({0, 0}, size);
+    return painter.boundingRect(all, kNoteFlags, joined(note(), m_method)).height() + dpi_scaled(4);
+}
+
+void StatisticsPlot::paintNote(QPainter& painter, const QRectF& rectangle) const
+{
+    painter.setFont(unscaledFont(m_noteLabel->font()));
     painter.setPen(m_look.text);
-    painter.drawText(all.adjusted(0, all.height() - height, 0, 0), flags, text);
-    return height + dpi_scaled(4);
+    painter.drawText(rectangle.adjusted(0, dpi_scaled(4), 0, 0), kNoteFlags,
+                     joined(note(), m_method));
 }
 
 void StatisticsPlot::paintLight(QPainter& painter, const QRectF& rectangle)
@@ -422,16 +427,19 @@ void StatisticsPlot::paintLight(QPainter& painter, const QRectF& rectangle)
     painter.scale(scale, scale);
     painter.fillRect(QRectF({0, 0}, size), m_look.paper);
     const double head = paintHead(painter, size);
-    const double rest = size.height() - head - paintNote(painter, size);
-    if (isEmpty())
+    const double foot = noteHeight(painter, size);
+    const double rest = size.height() - head - foot;
+    if (isEmpty()) {
         painter.drawText(QRectF(0, head, size.width(), rest), Qt::AlignCenter | Qt::TextWordWrap,
                          m_empty);
-    painter.restore();
-    if (isEmpty())
+        painter.restore();
         return;
+    }
     for (PlotPanel* const panel : m_panels)
         panel->fitToPaper({size.width(), heightOf(*panel, rest)});
     alignPanels();
+    paintNote(painter, {0, size.height() - foot, size.width(), foot}); // of what is seen now
+    painter.restore();
     const QwtPlotRenderer renderer;
     double top = head;
     for (PlotPanel* const panel : m_panels) {
