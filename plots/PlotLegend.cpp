@@ -1,19 +1,13 @@
 #include "plots/PlotLegend.h"
 
 #include "lum_sdk/DpiScale.h"
+#include "plots/PlotLook.h"
 
 #include <QPainter>
 
 #include <algorithm>
 
 namespace {
-
-/// Letters of the screen's size, also with a painter that is scaled for paper.
-QFont unscaled(QFont font)
-{
-    font.setPixelSize(QFontInfo(font).pixelSize());
-    return font;
-}
 
 int signWidth()
 {
@@ -132,7 +126,7 @@ int PlotLegend::heightFor(int width) const
 void PlotLegend::paint(QPainter& painter, const QRectF& rectangle, const QColor& text) const
 {
     painter.save();
-    painter.setFont(unscaled(font()));
+    painter.setFont(unscaledFont(font()));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(rectangle.topLeft());
     for (const Placed& each : placed(rectangle.width())) {

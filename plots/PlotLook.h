@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPalette>
 
 #include <cstddef>
@@ -32,3 +33,9 @@ struct PlotLook
     /// The colour of a class; `others` from `kClasses` on.
     [[nodiscard]] QColor ofClass(std::size_t place) const;
 };
+
+/// For what stands beside the data: a little smaller.
+[[nodiscard]] QFont smallerFont(QFont font);
+/// A font whose letters have the size of the screen's, also with a painter that is scaled for
+/// paper.
+[[nodiscard]] QFont unscaledFont(QFont font);

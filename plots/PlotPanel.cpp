@@ -20,15 +20,6 @@ constexpr double kLargestZoom = 1e-6; // of all, seen at once
 constexpr double kSmallestZoom = 20;
 const QString kLongestDate = QStringLiteral("0000-00-00");
 
-QFont smaller(QFont font)
-{
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * 0.9);
-    else
-        font.setPixelSize(std::max(8, font.pixelSize() * 9 / 10));
-    return font;
-}
-
 } // namespace
 
 PlotPanel::PlotPanel(QWidget* parent) : QwtPlot(parent), m_grid(new QwtPlotGrid)
@@ -40,13 +31,13 @@ PlotPanel::PlotPanel(QWidget* parent) : QwtPlot(parent), m_grid(new QwtPlotGrid)
     plotLayout()->setAlignCanvasToScales(true);
     plotLayout()->setSpacing(dpi_scaled(2));
     m_grid->attach(this);
-    const QFontMetrics metrics(smaller(font()));
+    const QFontMetrics metrics(smallerFont(font()));
     // The same beside every x axis, so that the canvases of several panels end at the same place.
     const int room = metrics.horizontalAdvance(kLongestDate) / 2 + dpi_scaled(4);
     axisWidget(xBottom)->setMinBorderDist(room, room);
     for (const int axis : {xBottom, yLeft}) {
         axisWidget(axis)->setMargin(0);
-        setAxisFont(axis, smaller(font()));
+        setAxisFont(axis, smallerFont(font()));
         setAxisMaxMinor(axis, 0);
     }
     setMinimumSize(dpi_scaled(120), dpi_scaled(50));
@@ -103,7 +94,7 @@ void PlotPanel::setTexts(const QString& xTitle, const QString& yTitle)
 void PlotPanel::showTitle(int axis, const QString& title)
 {
     QwtText text(title, QwtText::PlainText);
-    text.setFont(smaller(font()));
+    text.setFont(smallerFont(font()));
     setAxisTitle(axis, text);
 }
 
@@ -282,9 +273,25 @@ void PlotPanel::fitToScreen()
         setView(m_asked);
 }
 
+double PlotPanel::yTextWidth() const
+{
+    const QwtScaleDraw* const draw = axisScaleDraw(yLeft);
+    const QFont texts = axisFont(yLeft);
+    return draw->spacing() + draw->maxTickLength() + draw->maxLabelWidth(texts);
+}
+
+void PlotPanel::setYTextWidth(double width)
+{
+    QwtScaleDraw* const draw = axisScaleDraw(yLeft);
+    draw->setMinimumExtent(std::ceil(width) + 1);
+    axisWidget(yLeft)->setLabelRotation(draw->labelRotation()); // finds the place of the title
+    updateLayout();
+}
+
 void PlotPanel::resizeEvent(QResizeEvent* event)
 {
     QwtPlot::resizeEvent(event);
     fitToScreen();
+    Q_EMIT resized();
     replot();
 }

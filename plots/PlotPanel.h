@@ -72,6 +72,13 @@ public:
     /// Fits ticks and ranges to a picture of this size, logical pixels, until `fitToScreen`.
     void fitToPaper(const QSizeF& size);
     void fitToScreen();
+    /// What ticks and texts of the y axis take.
+    [[nodiscard]] double yTextWidth() const;
+    /// At least what they shall take, so that several canvases begin at the same place.
+    void setYTextWidth(double width);
+
+Q_SIGNALS:
+    void resized();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

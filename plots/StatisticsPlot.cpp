@@ -21,7 +21,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <qwt_plot_renderer.h>
-#include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 
 #include <algorithm>
@@ -34,16 +33,9 @@ constexpr double kKeyMove = 0.1; // of what is shown
 constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
 constexpr double kMargin = 10;   // pixels around a saved picture
 constexpr int kNoteMs = 100;
+constexpr int kNoteFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 constexpr int kLeastPanel = 90; // pixels of height; where there are less, the note is left out
 constexpr int kMostTipName = 40;
-
-/// A font whose letters have the size of the screen's, also with a painter that is scaled for
-/// paper.
-QFont unscaled(QFont font)
-{
-    font.setPixelSize(QFontInfo(font).pixelSize());
-    return font;
-}
 
 /// A page without its margin.
 QRectF inside(const QRectF& page, double scale)
@@ -74,12 +66,15 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
     for (int i = 0; i < panels; ++i) {
         m_panels.push_back(new PlotPanel(this));
         m_mice.push_back(new PlotMouse(*this, *m_panels.back()));
+        connect(m_panels.back(), &PlotPanel::resized, this, &StatisticsPlot::alignPanels);
+        connect(m_panels.back(), &PlotPanel::resized, m_noteTimer, qOverload<>(&QTimer::start));
         layout->addWidget(m_panels.back(), 1);
     }
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setTextFormat(Qt::PlainText);
     layout->addWidget(m_emptyLabel, 1);
     m_noteLabel->setTextFormat(Qt::PlainText);
+    m_noteLabel->setFont(smallerFont(font()));
     layout->addWidget(m_noteLabel);
     for (QLabel* const label : {m_emptyLabel, m_noteLabel}) {
         label->setWordWrap(true);
@@ -219,15 +214,10 @@ void StatisticsPlot::alignPanels()
     if (m_panels.size() < 2)
         return;
     double widest = 0;
-    for (PlotPanel* const panel : m_panels) {
-        QwtScaleDraw* const draw = panel->axisScaleDraw(QwtPlot::yLeft);
-        draw->setMinimumExtent(0);
-        widest = std::max(widest, draw->extent(panel->axisFont(QwtPlot::yLeft)));
-    }
-    for (PlotPanel* const panel : m_panels) {
-        panel->axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(widest);
-        panel->updateLayout();
-    }
+    for (const PlotPanel* const panel : m_panels)
+        widest = std::max(widest, panel->yTextWidth());
+    for (PlotPanel* const panel : m_panels)
+        panel->setYTextWidth(widest);
 }
 
 void StatisticsPlot::setView(PlotPanel& panel, const PlotPanel::View& view)
@@ -401,7 +391,7 @@ double StatisticsPlot::paintHead(QPainter& painter, const QSizeF& size) const
 {
     QFont bold = font();
     bold.setBold(true);
-    painter.setFont(unscaled(bold));
+    painter.setFont(unscaledFont(bold));
     painter.setPen(m_look.text);
     const double titleHeight = QFontMetricsF(bold).height() + dpi_scaled(4);
     painter.drawText(QRectF(0, 0, size.width(), titleHeight), Qt::AlignLeft | Qt::AlignTop,
@@ -411,18 +401,21 @@ double StatisticsPlot::paintHead(QPainter& painter, const QSizeF& size) const
     return titleHeight + legendHeight + dpi_scaled(4);
 }
 
-double StatisticsPlot::paintNote(QPainter& painter, const QSizeF& size) const
+double StatisticsPlot::noteHeight(QPainter& painter, const QSizeF& size) const
 {
     if (m_note.isEmpty() || isEmpty())
         return 0;
-    const QRectF all(0, 0, size.width(), size.height());
-    const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
-    painter.setFont(unscaled(font()));
-    const QString text = joined(note(), m_method);
-    const double height = painter.boundingRect(all, flags, text).height();
+    painter.setFont(unscaledFont(m_noteLabel->font()));
+    const QRectF all({0, 0}, size);
+    return painter.boundingRect(all, kNoteFlags, joined(note(), m_method)).height() + dpi_scaled(4);
+}
+
+void StatisticsPlot::paintNote(QPainter& painter, const QRectF& rectangle) const
+{
+    painter.setFont(unscaledFont(m_noteLabel->font()));
     painter.setPen(m_look.text);
-    painter.drawText(all.adjusted(0, all.height() - height, 0, 0), flags, text);
-    return height + dpi_scaled(4);
+    painter.drawText(rectangle.adjusted(0, dpi_scaled(4), 0, 0), kNoteFlags,
+                     joined(note(), m_method));
 }
 
 void StatisticsPlot::paintLight(QPainter& painter, const QRectF& rectangle)
@@ -434,16 +427,19 @@ void StatisticsPlot::paintLight(QPainter& painter, const QRectF& rectangle)
     painter.scale(scale, scale);
     painter.fillRect(QRectF({0, 0}, size), m_look.paper);
     const double head = paintHead(painter, size);
-    const double rest = size.height() - head - paintNote(painter, size);
-    if (isEmpty())
+    const double foot = noteHeight(painter, size);
+    const double rest = size.height() - head - foot;
+    if (isEmpty()) {
         painter.drawText(QRectF(0, head, size.width(), rest), Qt::AlignCenter | Qt::TextWordWrap,
                          m_empty);
-    painter.restore();
-    if (isEmpty())
+        painter.restore();
         return;
+    }
     for (PlotPanel* const panel : m_panels)
         panel->fitToPaper({size.width(), heightOf(*panel, rest)});
     alignPanels();
+    paintNote(painter, {0, size.height() - foot, size.width(), foot}); // of what is seen now
+    painter.restore();
     const QwtPlotRenderer renderer;
     double top = head;
     for (PlotPanel* const panel : m_panels) {

@@ -130,7 +130,8 @@ private:
                                                      const QPointF& at) const;
     void paintLight(QPainter& painter, const QRectF& rectangle);
     double paintHead(QPainter& painter, const QSizeF& size) const;
-    double paintNote(QPainter& painter, const QSizeF& size) const;
+    [[nodiscard]] double noteHeight(QPainter& painter, const QSizeF& size) const;
+    void paintNote(QPainter& painter, const QRectF& rectangle) const;
     [[nodiscard]] QImage toImage();
 
     PlotData m_data;
