@@ -1,23 +1,18 @@
 #include "plots/StatisticsPlot.h"
 
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/files/WholeFile.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
+#include "plots/PlotFiles.h"
 #include "plots/PlotMouse.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QClipboard>
-#include <QDir>
-#include <QFileInfo>
+#include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPageSize>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <qwt_plot_renderer.h>
@@ -30,19 +25,10 @@ namespace {
 constexpr double kReach = 6; // pixels, from the mouse to what it picks
 constexpr double kKeyZoom = 1.5;
 constexpr double kKeyMove = 0.1; // of what is shown
-constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
-constexpr double kMargin = 10;   // pixels around a saved picture
 constexpr int kNoteMs = 100;
 constexpr int kNoteFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 constexpr int kLeastPanel = 90; // pixels of height; where there are less, the note is left out
 constexpr int kMostTipName = 40;
-
-/// A page without its margin.
-QRectF inside(const QRectF& page, double scale)
-{
-    const double margin = kMargin * scale;
-    return page.adjusted(margin, margin, -margin, -margin);
-}
 
 QString shortened(const QString& name)
 {
@@ -462,22 +448,9 @@ void StatisticsPlot::paint(QPainter& painter, const QRectF& rectangle)
     replotAll();
 }
 
-QImage StatisticsPlot::toImage()
-{
-    const QSize size = this->size().expandedTo({640, 480});
-    QImage image(size * kPictureScale, QImage::Format_RGB32);
-    image.setDotsPerMeterX(int(logicalDpiX() * kPictureScale / 0.0254));
-    image.setDotsPerMeterY(int(logicalDpiY() * kPictureScale / 0.0254));
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    paint(painter, inside(image.rect(), kPictureScale));
-    painter.end();
-    return image;
-}
-
 void StatisticsPlot::copy()
 {
-    QApplication::clipboard()->setImage(toImage());
+    QApplication::clipboard()->setImage(pictureOf(*this));
 }
 
 QStringList StatisticsPlot::fileEndings()
@@ -487,37 +460,5 @@ QStringList StatisticsPlot::fileEndings()
 
 Outcome StatisticsPlot::save(const QString& path)
 {
-    const QString ending = QFileInfo(path).suffix().toLower();
-    const QString shown = QDir::toNativeSeparators(path);
-    if (!fileEndings().contains(ending))
-        return Outcome::refused(
-            tr("\"%1\" was not written: a plot is saved as PNG, SVG or PDF.").arg(shown));
-    const QSize size = this->size().expandedTo({640, 480});
-    QByteArray content;
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::WriteOnly);
-    if (ending == QLatin1String("png")) {
-        toImage().save(&buffer, "PNG");
-    } else if (ending == QLatin1String("svg")) {
-        QSvgGenerator svg;
-        svg.setOutputDevice(&buffer);
-        svg.setResolution(logicalDpiX());
-        svg.setSize(size);
-        svg.setViewBox(QRect({0, 0}, size));
-        svg.setTitle(title());
-        QPainter painter(&svg);
-        paint(painter, inside(QRect({0, 0}, size), 1));
-    } else {
-        QPdfWriter pdf(&buffer);
-        pdf.setPageSize(QPageSize(QSizeF(size) * 25.4 / logicalDpiX(), QPageSize::Millimeter));
-        pdf.setPageMargins({0, 0, 0, 0});
-        pdf.setTitle(title());
-        QPainter painter(&pdf);
-        paint(painter, inside(QRectF(0, 0, pdf.width(), pdf.height()),
-                              pdf.logicalDpiX() / double(logicalDpiX())));
-    }
-    const QString fault = lum::writeWholeFile(path, content);
-    if (!fault.isEmpty())
-        return Outcome::failed(tr("\"%1\" could not be written: %2.").arg(shown, fault));
-    return Outcome::done();
+    return savePlot(*this, path);
 }

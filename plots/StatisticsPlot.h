@@ -5,7 +5,6 @@
 #include "plots/PlotPanel.h"
 #include "protocol/Outcome.h"
 
-#include <QImage>
 #include <QWidget>
 
 class PlotMouse;
@@ -132,7 +131,6 @@ private:
     double paintHead(QPainter& painter, const QSizeF& size) const;
     [[nodiscard]] double noteHeight(QPainter& painter, const QSizeF& size) const;
     void paintNote(QPainter& painter, const QRectF& rectangle) const;
-    [[nodiscard]] QImage toImage();
 
     PlotData m_data;
     PlotLook m_look;
