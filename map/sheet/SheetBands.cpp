@@ -15,8 +15,7 @@
 
 namespace {
 
-constexpr double kNameFont = 10; // pixels
-constexpr double kHalo = 4;      // pixels that a halo reaches from one band into the next
+constexpr double kHalo = 4; // pixels that a halo reaches from one band into the next
 
 class BandPainter
 {
@@ -79,7 +78,7 @@ private:
             m_watch.report((row * 100.0 + rows * percent) / m_height);
         };
         QPainter painter(&band);
-        painter.setFont(sheetFont(kNameFont));
+        painter.setFont(sheetFont(sheettext::kName));
         painter.translate(0, -row / m_layout.ratio);
         m_sheet.drawing.paint(frame, painter);
     }

@@ -28,11 +28,6 @@ constexpr double kGap = 2;
 constexpr double kLabelBand = 6; // for ticks and coordinates around the map
 constexpr double kFieldPadding = 1.5;
 
-// pixels on A4
-constexpr double kTitleFont = 18;
-constexpr double kFieldFont = 11;
-constexpr double kCaptionFont = 9;
-
 constexpr int kTitleLines = 2;
 constexpr int kFieldLines = 2;
 constexpr double kUsualPaperMm = 210; // the shorter side of A4
@@ -74,12 +69,13 @@ SheetLayout::Field field(const QString& caption, const QString& text)
 }
 
 /// Places fields side by side at the bottom of an area, each in its share of the width.
+/// \param padding pixels from the edge of a field to its texts
 /// \returns their height
-double placeFields(std::vector<SheetLayout::Field>& fields, const QRectF& area, double typeScale)
+double placeFields(std::vector<SheetLayout::Field>& fields, const QRectF& area, double typeScale,
+                   double padding)
 {
     constexpr std::array kShares = {0.28, 0.42, 0.15, 0.15};
-    const QFont font = sheetFont(kFieldFont * typeScale);
-    const double padding = kFieldPadding * kMm * typeScale;
+    const QFont font = sheetFont(sheettext::kField * typeScale);
     int lines = 1;
     double left = area.left();
     for (std::size_t i = 0; i < fields.size(); ++i) {
@@ -90,7 +86,7 @@ double placeFields(std::vector<SheetLayout::Field>& fields, const QRectF& area, 
         lines = std::max(lines, static_cast<int>(each.lines.size()));
         left += width;
     }
-    const double height = QFontMetricsF(sheetFont(kCaptionFont * typeScale)).lineSpacing() +
+    const double height = QFontMetricsF(sheetFont(sheettext::kCaption * typeScale)).lineSpacing() +
                           lines * QFontMetricsF(font).lineSpacing() + 2 * padding;
     for (SheetLayout::Field& each : fields) {
         each.place.setTop(area.bottom() - height);
@@ -117,20 +113,22 @@ SheetLayout::SheetLayout(const SheetSetup& setup) : ratio(setup.dpi / kInchPixel
     QRectF rest(QPointF(0, 0), paper * kMm);
     rest.adjust(kMargin * mm, kMargin * mm, -kMargin * mm, -kMargin * mm);
 
-    const QFont font = sheetFont(kTitleFont * typeScale, true);
+    const QFont font = sheetFont(sheettext::kTitle * typeScale, true);
     title = wrapped(setup.title, font, rest.width(), kTitleLines);
     if (!title.isEmpty()) {
         const double height = title.size() * QFontMetricsF(font).lineSpacing();
         titlePlace = QRectF(rest.topLeft(), QSizeF(rest.width(), height));
         rest.setTop(titlePlace.bottom() + kGap * mm);
     }
+    padding = kFieldPadding * mm;
     fields = {field(Texts::tr("Project"), setup.project),
               field(Texts::tr("Coordinate system"), setup.systemName),
               field(Texts::tr("Scale"), QString()),
               field(Texts::tr("Date"), setup.date.toString(Qt::ISODate))};
     // The scale follows from the room above, and its own field needs one line at most.
     rest.adjust(kLabelBand * mm, kLabelBand * mm, -kLabelBand * mm, 0);
-    rest.setBottom(rest.bottom() - placeFields(fields, rest, typeScale) - (kLabelBand + kGap) * mm);
+    rest.setBottom(rest.bottom() - placeFields(fields, rest, typeScale, padding) -
+                   (kLabelBand + kGap) * mm);
 
     const double unitM = setup.unit.grid.metres;
     scale = setup.scale.value_or(fittingScale(setup.area, unitM, rest.size()));

@@ -35,6 +35,7 @@ struct SheetLayout
     QRectF titlePlace;    ///< pixels; empty without a title
     QStringList title;    ///< its lines
     std::vector<Field> fields;
+    double padding = 0; ///< from the edge of a field to its texts, pixels
 
     double scale = 1;    ///< 1:scale
     bool isWhole = true; ///< the whole area is seen

@@ -16,16 +16,10 @@
 namespace {
 
 // pixels on A4
-constexpr double kLabelFont = 9.5;
-constexpr double kCornerFont = 11;
-constexpr double kTitleFont = 18;
-constexpr double kFieldFont = 11;
-constexpr double kCaptionFont = 9;
 constexpr double kFrameLine = 1.3;
 constexpr double kThinLine = 0.7;
 constexpr double kTick = 5;
 constexpr double kCross = 5; // half of it
-constexpr double kFieldPadding = 5.5;
 
 class FramePainter
 {
@@ -83,7 +77,7 @@ private:
         m_painter.save();
         m_painter.translate(m_layout.frame.topLeft());
         m_painter.scale(m_type, m_type);
-        m_painter.setFont(sheetFont(kCornerFont));
+        m_painter.setFont(sheetFont(sheettext::kCorner));
         const QRect bar = lum::drawScaleBar(m_painter, corners, m_sheet.setup.unit);
         lum::drawNorthArrow(m_painter, corners);
         lum::drawLegend(m_painter, corners.size(), m_sheet.drawing.legend);
@@ -100,7 +94,7 @@ private:
 
     void drawEastings()
     {
-        const QFont font = sheetFont(kLabelFont * m_type);
+        const QFont font = sheetFont(sheettext::kLabel * m_type);
         const QFontMetricsF metrics(font);
         const double tick = kTick * m_type;
         m_painter.setFont(font);
@@ -122,7 +116,7 @@ private:
 
     void drawNorthings()
     {
-        const QFont font = sheetFont(kLabelFont * m_type);
+        const QFont font = sheetFont(sheettext::kLabel * m_type);
         const QFontMetricsF metrics(font);
         const double tick = kTick * m_type;
         for (const SheetGrid::Line& line : m_grid.northings) {
@@ -150,7 +144,7 @@ private:
 
     void drawTitle()
     {
-        m_painter.setFont(sheetFont(kTitleFont * m_type, true));
+        m_painter.setFont(sheetFont(sheettext::kTitle * m_type, true));
         setPen(kThinLine);
         const double height = QFontMetricsF(m_painter.font()).lineSpacing();
         QRectF place = m_layout.titlePlace;
@@ -166,18 +160,17 @@ private:
     {
         setPen(kThinLine);
         m_painter.drawRect(field.place);
-        const double padding = kFieldPadding * m_type;
-        QPointF baseline = field.place.topLeft() + QPointF(padding, padding);
+        QPointF corner = field.place.topLeft() + QPointF(m_layout.padding, m_layout.padding);
         const auto write = [&](const QFont& font, const QColor& color, const QString& text) {
             const QFontMetricsF metrics(font);
             m_painter.setFont(font);
             m_painter.setPen(color);
-            m_painter.drawText(baseline + QPointF(0, metrics.ascent()), text);
-            baseline += QPointF(0, metrics.lineSpacing());
+            m_painter.drawText(corner + QPointF(0, metrics.ascent()), text);
+            corner += QPointF(0, metrics.lineSpacing());
         };
-        write(sheetFont(kCaptionFont * m_type), QColor(0x60, 0x60, 0x60), field.caption);
+        write(sheetFont(sheettext::kCaption * m_type), QColor(0x60, 0x60, 0x60), field.caption);
         for (const QString& line : field.lines)
-            write(sheetFont(kFieldFont * m_type), Qt::black, line);
+            write(sheetFont(sheettext::kField * m_type), Qt::black, line);
     }
 
     QPainter& m_painter;

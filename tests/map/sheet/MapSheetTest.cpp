@@ -232,7 +232,7 @@ private Q_SLOTS:
                 QVERIFY(title.isEmpty() || layout.titlePlace.bottom() < layout.frame.top() - label);
                 QVERIFY(page.contains(layout.titlePlace) || title.isEmpty());
                 for (const QString& line : layout.title)
-                    QVERIFY(QFontMetricsF(sheetFont(18 * layout.typeScale, true))
+                    QVERIFY(QFontMetricsF(sheetFont(sheettext::kTitle * layout.typeScale, true))
                                 .horizontalAdvance(line) <= page.width());
                 double left = 0;
                 for (const SheetLayout::Field& field : layout.fields) {
@@ -241,7 +241,7 @@ private Q_SLOTS:
                     QVERIFY(field.place.left() >= left - 1e-6);
                     left = field.place.right();
                     for (const QString& line : field.lines)
-                        QVERIFY(QFontMetricsF(sheetFont(11 * layout.typeScale))
+                        QVERIFY(QFontMetricsF(sheetFont(sheettext::kField * layout.typeScale))
                                     .horizontalAdvance(line) <= field.place.width());
                 }
                 QVERIFY(layout.isWhole);
