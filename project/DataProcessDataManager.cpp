@@ -31,6 +31,7 @@
 #include "quality/Verdicts.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <cpl_conv.h>
 #include <gdal.h>

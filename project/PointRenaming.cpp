@@ -4,13 +4,20 @@
 #include "model/PointNumber.h"
 #include "project/PointCorrection.h"
 #include "quality/MeasuredPoint.h"
+#include "quality/problems/LineOrder.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <map>
+#include <optional>
 #include <set>
+#include <string>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -34,53 +41,84 @@ QString shown(const PointName& name)
            lum::toQString(writtenPointNumber(name.point));
 }
 
-/// The direction of a design line at a point, from the one before it to the one behind: a unit
-/// vector to the east and north; nothing when the line has no other point.
-std::optional<std::pair<double, double>> directionAt(const DesignPoints::Line& line,
-                                                     const DesignPoint& point)
+/// A direction on the plane: a unit vector.
+struct Direction
 {
-    const DesignPoint* before = nullptr;
-    const DesignPoint* behind = nullptr;
-    for (const DesignPoint& other : line) {
-        if (other.type != point.type || &other == &point)
-            continue;
-        if (other.pointNumber < point.pointNumber) {
-            before = &other;
-        } else {
-            behind = &other;
-            break;
-        }
+    double east;
+    double north;
+};
+
+/// The directions of design lines, whose points it puts in order once.
+class LineDirections
+{
+public:
+    explicit LineDirections(const DesignPoints& design) : m_design(design) {}
+
+    /// From the point before it by number, of the same type, to the one behind; nothing when the
+    /// line has no other one.
+    [[nodiscard]] std::optional<Direction> at(const DesignPoint& point)
+    {
+        const std::vector<Entry>& order = orderOf(point);
+        const auto found = std::ranges::find(order, &point, &Entry::point);
+        if (found == order.end())
+            return std::nullopt; // its number has no digits
+        const auto before = found == order.begin() ? found : std::prev(found);
+        const auto behind = std::next(found) == order.end() ? found : std::next(found);
+        const double east = behind->point->east - before->point->east;
+        const double north = behind->point->north - before->point->north;
+        const double length = std::hypot(east, north);
+        if (!(length > 0))
+            return std::nullopt;
+        return Direction{east / length, north / length};
     }
-    const DesignPoint& from = before != nullptr ? *before : point;
-    const DesignPoint& to = behind != nullptr ? *behind : point;
-    const double length = std::hypot(to.east - from.east, to.north - from.north);
-    if (!(length > 0))
-        return std::nullopt;
-    return std::pair((to.east - from.east) / length, (to.north - from.north) / length);
-}
+
+private:
+    struct Entry
+    {
+        NumberParts number;
+        const DesignPoint* point;
+    };
+
+    const std::vector<Entry>& orderOf(const DesignPoint& point)
+    {
+        const auto [found, isNew] = m_orders.try_emplace({point.lineNumber, point.type});
+        std::vector<Entry>& order = found->second;
+        if (!isNew)
+            return order;
+        for (const DesignPoint& other : *m_design.findLine(point.lineNumber)) {
+            const NumberParts number = numberParts(other.pointNumber);
+            if (other.type == point.type && !std::isnan(number.number))
+                order.push_back({number, &other});
+        }
+        std::ranges::stable_sort(order, {}, &Entry::number);
+        return order;
+    }
+
+    const DesignPoints& m_design;
+    std::map<std::pair<std::string, int>, std::vector<Entry>> m_orders; ///< by line and type
+};
 
 /// Deviations to the right of the line and forward along it. A result without any keeps none.
-void setDeviations(SurveyPoint& result, const DesignPoints::Line& line, const DesignPoint& point)
+void setDeviations(SurveyPoint& result, const DesignPoint& point, LineDirections& directions)
 {
     if (result.transversalDeviation == 0 && result.longitudinalDeviation == 0)
         return;
-    const auto direction = directionAt(line, point);
-    if (!direction)
+    const auto along = directions.at(point);
+    if (!along)
         return;
-    const auto [alongEast, alongNorth] = *direction;
     const double east = result.east - point.east;
     const double north = result.north - point.north;
-    result.transversalDeviation = east * alongNorth - north * alongEast;
-    result.longitudinalDeviation = east * alongEast + north * alongNorth;
+    result.transversalDeviation = east * along->north - north * along->east;
+    result.longitudinalDeviation = east * along->east + north * along->north;
 }
 
-void followDesign(SurveyPoint& result, const DesignPoints& design, const DesignPoint& point)
+void followDesign(SurveyPoint& result, const DesignPoint& point, LineDirections& directions)
 {
     result.designNorth = point.north;
     result.designEast = point.east;
     result.designElevation = point.elevation;
     result.pointMark = point.type;
-    setDeviations(result, *design.findLine(point.lineNumber), point);
+    setDeviations(result, point, directions);
 }
 
 Outcome missing(const PointName& name)
@@ -131,12 +169,13 @@ Outcome renameResults(const DesignPoints& design, const SurveyPoints& survey,
         return examination;
     std::vector<PointName> allNames;
     SurveyPointFiler filer(renamed.results, &survey);
+    LineDirections directions(design);
     for (const auto& [from, to] : renamings) {
         SurveyPoint result = *survey.find(from.line, from.point);
         result.lineNumber = to.line;
         result.pointNumber = to.point;
         if (const DesignPoint* const point = measuredPoint(design, to.line, to.point, resurveyCode))
-            followDesign(result, design, *point);
+            followDesign(result, *point, directions);
         const SurveyPoint& filed = filer.file(std::move(result));
         allNames.push_back(from);
         allNames.push_back({filed.lineNumber, filed.pointNumber});

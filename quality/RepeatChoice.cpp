@@ -1,6 +1,7 @@
 #include "quality/RepeatChoice.h"
 
 #include "model/PointNumber.h"
+#include "quality/QualityLimits.h"
 #include "quality/ResurveyCheck.h"
 #include "quality/ResurveyCode.h"
 
@@ -176,6 +177,17 @@ void setMeanPlaceOnGlobe(const Measured& measured, const Weights& weights, Surve
     to.longitude = std::remainder(first + east, kTurn);
 }
 
+/// Of the measurements that tell how far they are from the design; the others hold 0.
+void setMeanDeviations(Measured measured, SurveyPoint& to)
+{
+    std::erase_if(measured, [](const SurveyPoint* point) { return !hasDesignPosition(*point); });
+    if (measured.empty())
+        return;
+    const Weights plane(measured, &SurveyPoint::horizontalAccuracy);
+    plane.setMean(measured, &SurveyPoint::transversalDeviation, to);
+    plane.setMean(measured, &SurveyPoint::longitudinalDeviation, to);
+}
+
 void setMean(Measured measured, SurveyPoint& to)
 {
     std::erase_if(measured, [](const SurveyPoint* point) { return !isPlaced(*point); });
@@ -183,10 +195,9 @@ void setMean(Measured measured, SurveyPoint& to)
         return;
     const Weights plane(measured, &SurveyPoint::horizontalAccuracy);
     const Weights height(measured, &SurveyPoint::verticalAccuracy);
-    for (double SurveyPoint::*member :
-         {&SurveyPoint::north, &SurveyPoint::east, &SurveyPoint::transversalDeviation,
-          &SurveyPoint::longitudinalDeviation})
-        plane.setMean(measured, member, to);
+    plane.setMean(measured, &SurveyPoint::north, to);
+    plane.setMean(measured, &SurveyPoint::east, to);
+    setMeanDeviations(measured, to);
     for (double SurveyPoint::*member :
          {&SurveyPoint::elevation, &SurveyPoint::altitude, &SurveyPoint::seaHeight})
         height.setMean(measured, member, to);
@@ -203,6 +214,8 @@ void complete(SurveyPoint& result, const SurveyPoint& own)
         result.designNorth = own.designNorth;
         result.designEast = own.designEast;
         result.designElevation = own.designElevation;
+        result.transversalDeviation = own.transversalDeviation;
+        result.longitudinalDeviation = own.longitudinalDeviation;
     }
     for (std::string SurveyPoint::*text :
          {&SurveyPoint::obstacle, &SurveyPoint::remarks, &SurveyPoint::photoPath}) {
@@ -234,8 +247,8 @@ std::vector<RepeatedPoint> repeatedPoints(const DesignPoints& design, const Surv
 
 bool RepeatChoice::leaves(const RepeatedPoint& point) const
 {
-    return rule == Rule::WeightedMean &&
-           !(point.spreadM <= toleranceM && point.heightSpreadM <= toleranceM);
+    return rule == Rule::WeightedMean && !(point.spreadM <= toleranceM + kRoundingM &&
+                                           point.heightSpreadM <= toleranceM + kRoundingM);
 }
 
 const SurveyPoint& RepeatChoice::bestOf(const RepeatedPoint& point) const
@@ -256,10 +269,10 @@ const SurveyPoint& RepeatChoice::bestOf(const RepeatedPoint& point) const
 SurveyPoint RepeatChoice::resultOf(const RepeatedPoint& point) const
 {
     SurveyPoint result = bestOf(point);
-    if (rule == Rule::WeightedMean)
-        setMean(point.measured, result);
     if (point.own != nullptr)
         complete(result, *point.own);
+    if (rule == Rule::WeightedMean)
+        setMean(point.measured, result);
     result.lineNumber = point.name.line;
     result.pointNumber = point.name.point;
     forgetResurvey(result);

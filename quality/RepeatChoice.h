@@ -45,7 +45,12 @@ struct RepeatChoice
     };
 
     Rule rule = Rule::First;
-    double toleranceM = 0; ///< of a mean: how far the measurements may differ, also in height
+    /// Of a mean: how far the measurements may differ, also in height. Negative while it is
+    /// unknown.
+    double toleranceM = 0;
+
+    /// Whether it says what becomes of every point: a mean needs a tolerance.
+    [[nodiscard]] bool isWhole() const { return rule != Rule::WeightedMean || toleranceM >= 0; }
 
     /// Whether the point stays as it is, since its measurements are too far apart for a mean.
     [[nodiscard]] bool leaves(const RepeatedPoint& point) const;
@@ -55,8 +60,8 @@ struct RepeatChoice
     [[nodiscard]] const SurveyPoint& bestOf(const RepeatedPoint& point) const;
 
     /// The one result of a point, under its own number and without the verdicts of the resurvey
-    /// check. Kind, and where the measurement does not tell them design position, obstacle, remarks
-    /// and photo, are those of the point's own result.
+    /// check. Kind, and where the measurement does not tell them design position with deviations,
+    /// obstacle, remarks and photo, are those of the point's own result.
     ///
     /// Where an accuracy is missing, all weights are equal.
     [[nodiscard]] SurveyPoint resultOf(const RepeatedPoint& point) const;

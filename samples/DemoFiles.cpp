@@ -102,7 +102,8 @@ QString writeSurvey(const QString& path, const SurveyPoints& survey)
 
 } // namespace
 
-QString writeDemoFiles(const QString& folder, const DemoSurvey& demo, basalt::LocalTimes zone)
+QString writeDemoFiles(const QString& folder, const DemoSurvey& demo,
+                       const basalt::LocalTimes& zone)
 {
     const QDir place(folder);
     if (!place.mkpath(QStringLiteral(".")))

@@ -15,6 +15,6 @@ struct DemoSurvey;
 ///              one, as by default, they are the same everywhere.
 /// \returns an empty text, or why a file could not be written
 [[nodiscard]] QString writeDemoFiles(const QString& folder, const DemoSurvey& demo,
-                                     basalt::LocalTimes zone = {});
+                                     const basalt::LocalTimes& zone = {});
 
 } // namespace demo

@@ -101,9 +101,10 @@ std::string spoilNumbers(Stretch points)
 
 struct Planting
 {
-    const char* kind;
-    std::string (*spoil)(Stretch points); ///< \returns what "faults.csv" says about the middle one
-    bool isAtEnd = false;                 ///< of the line
+    const char* kind = nullptr;
+    std::string (*spoil)(Stretch points) =
+        nullptr;          ///< \returns what "faults.csv" says about the middle one
+    bool isAtEnd = false; ///< of the line
 };
 
 constexpr std::array kPlantings{

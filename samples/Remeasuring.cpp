@@ -20,9 +20,9 @@ std::string asResurvey(SurveyPoint& again, const SurveyPoint& first, Random& /*r
     return "of " + first.pointNumber;
 }
 
-std::string asBadResurvey(SurveyPoint& again, const SurveyPoint& first, Random& random)
+/// Moves the new result beyond the tolerances.
+std::string moveOff(SurveyPoint& again, const SurveyPoint& first, Random& random)
 {
-    again.pointNumber = first.pointNumber + kResurveyLetter;
     const double length = random.uniform(0.06, 0.12);
     // Towards the design position: the other way it would be too far from the design as well.
     again.north -= std::copysign(length, first.north - first.designNorth);
@@ -30,6 +30,12 @@ std::string asBadResurvey(SurveyPoint& again, const SurveyPoint& first, Random& 
     return basalt::formatFixed(again.north - first.north, 3) + " m north " +
            basalt::formatFixed(again.east - first.east, 3) + " m east " +
            basalt::formatFixed(again.elevation - first.elevation, 3) + " m up";
+}
+
+std::string asBadResurvey(SurveyPoint& again, const SurveyPoint& first, Random& random)
+{
+    again.pointNumber = first.pointNumber + kResurveyLetter;
+    return moveOff(again, first, random);
 }
 
 std::string asOrphan(SurveyPoint& again, const SurveyPoint& first, Random& /*random*/)
@@ -45,10 +51,17 @@ std::string asRepeat(SurveyPoint& again, const SurveyPoint& first, Random& /*ran
     return "of " + first.pointNumber;
 }
 
+std::string asBadRepeat(SurveyPoint& again, const SurveyPoint& first, Random& random)
+{
+    const std::string detail = asRepeat(again, first, random);
+    return detail + ": " + moveOff(again, first, random);
+}
+
 constexpr std::array kRemeasurings{
     Remeasuring{"resurvey bad", 6, 1, asBadResurvey},
     Remeasuring{"resurvey orphan", 4, 1, asOrphan},
-    Remeasuring{"repeat", 16, 1, asRepeat},
+    Remeasuring{"repeat", 14, 1, asRepeat},
+    Remeasuring{"repeat bad", 2, 1, asBadRepeat},
     Remeasuring{"repeat", 4, 2, asRepeat},
 };
 

@@ -7,6 +7,7 @@ build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt-advanced-docking-system-dev
     libspdlog-dev libsqlite3-dev libproj-dev proj-data libgdal-dev libxlsxwriter-dev
+    libqwt-qt5-dev libqt5svg5-dev
     libnanoflann-dev
     libgtest-dev libbenchmark-dev
 )

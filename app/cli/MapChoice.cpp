@@ -94,7 +94,8 @@ MapDrawing MapChoice::drawing(DataProcessDataManager& manager,
         return drawingOf(manager.designPoints(), manager.designParameters(), toMap);
     const ResultColors colors =
         colorsOf(m_coloring, manager.surveyPoints(), manager.qualityLimits());
-    SurveyPictureOptions options;
-    options.names = colors.isNone() ? plainNames : SurveyPictureOptions::Names::WithRoom;
+    SurveyPictureOptions options = usualSurveyOptions(!colors.isNone());
+    if (colors.isNone())
+        options.names = plainNames;
     return drawingOf(manager.surveyPoints(), colors, toMap, options);
 }

@@ -63,11 +63,20 @@ int report(const Outcome& outcome)
     return outcome.kind() == Outcome::Kind::Refused ? 2 : 1;
 }
 
+/// A full disk or a closed pipe loses what was printed.
+bool isPrinted()
+{
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
 /// \returns the exit status
 int run(const QStringList& arguments)
 {
     try {
-        return report(runCli(arguments));
+        const int status = report(runCli(arguments));
+        return isPrinted()
+                   ? status
+                   : report(Outcome::failed(QStringLiteral("the output cannot be written")));
     } catch (const std::exception& fault) {
         return report(Outcome::failed(QString::fromUtf8(fault.what())));
     }

@@ -46,7 +46,9 @@ MapDrawing shownSurvey(DataProcessDataManager& manager, const ToMap& toMap)
         colorsOf(chosenColoring(), manager.surveyPoints(), manager.qualityLimits());
     // Names that cover each other cannot be zoomed apart on paper: without a choice of the user's,
     // they stand where there is room, as those of coloured results.
-    return drawingOf(manager.surveyPoints(), colors, toMap, chosenSurveyOptions(true));
+    SurveyPictureOptions options = chosenSurveyOptions(!colors.isNone());
+    options.names = chosenSurveyOptions(true).names;
+    return drawingOf(manager.surveyPoints(), colors, toMap, options);
 }
 
 std::shared_ptr<MapGround> shownGround(IDesktopHost& host, const IDictionary& system)

@@ -56,8 +56,8 @@ AcceptedProblems::AcceptedProblems(const std::vector<Acceptance>& problems, Acce
             {problem.kind, problem.isDesign, problem.name, problem.fingerprint, {}, {}, {}});
     constexpr Acceptance::Order kOrder;
     std::ranges::sort(m_problems, kOrder);
-    const auto same = std::ranges::unique(m_problems, [&](const auto& first, const auto& second) {
+    const auto areSame = [&](const auto& first, const auto& second) {
         return !kOrder(first, second); // since they are sorted
-    });
-    m_problems.erase(same.begin(), same.end());
+    };
+    m_problems.erase(std::unique(m_problems.begin(), m_problems.end(), areSame), m_problems.end());
 }

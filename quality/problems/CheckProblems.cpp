@@ -34,7 +34,9 @@ void forEachResult(const SurveyPoints& survey, Judge judge)
 
 constexpr ProblemKind kMissing{
     "missing", QT_TRANSLATE_NOOP("ProblemKinds", "Not surveyed"), Severity::Warning,
-    [](const Problem& /*problem*/) { return translated("The design point has no result."); }};
+    [](const Problem& /*problem*/) {
+        return translated(QT_TRANSLATE_NOOP("CheckProblems", "The design point has no result."));
+    }};
 constexpr std::array kEmptyPointKinds{&kMissing};
 
 template <class Use>
@@ -74,15 +76,20 @@ constexpr ProblemKind kResurveyOff{
 constexpr ProblemKind kResurveyAlone{
     "resurvey_alone", QT_TRANSLATE_NOOP("ProblemKinds", "Resurvey without its point"),
     Severity::Warning, [](const Problem& /*problem*/) {
-        return translated("The line has no result of the point that this one surveys again.");
+        return translated(QT_TRANSLATE_NOOP(
+            "CheckProblems", "The line has no result of the point that this one surveys again."));
     }};
 constexpr std::array kResurveyKinds{&kResurveyOff, &kResurveyAlone};
 
+using Differences = std::array<double, 3>; // north, east, height
+
 /// The difference that exceeds its tolerance most.
-void describe(Problem& problem, const SurveyPoint& first, const ResurveyTolerances& tolerances)
+/// \param differences  on the plane in the project's unit
+void describe(Problem& problem, const Differences& differences,
+              const ResurveyTolerances& tolerances)
 {
-    const std::array metres{first.resurveyXDiff * tolerances.planeUnitM,
-                            first.resurveyYDiff * tolerances.planeUnitM, first.resurveyHDiff};
+    const Differences metres{differences[0] * tolerances.planeUnitM,
+                             differences[1] * tolerances.planeUnitM, differences[2]};
     std::size_t worst = 0;
     const auto excess = [&](std::size_t place) {
         return std::fabs(metres[place]) - tolerances.metres[place];
@@ -108,7 +115,8 @@ void findResurveys(const FinderInput& input, ProblemList& problems)
             problems.add(digit == kOutOfRange ? kResurveyOff : kResurveyAlone, point);
         if (digit != kOutOfRange)
             return;
-        describe(problem, point, tolerances);
+        describe(problem, {point.resurveyXDiff, point.resurveyYDiff, point.resurveyHDiff},
+                 tolerances);
         problem.otherLine = problem.line;
         problem.otherPoint = problems.keep(point.pairedNumber);
     });
@@ -120,30 +128,54 @@ constexpr ProblemKind kRepeat{
     "repeat", QT_TRANSLATE_NOOP("ProblemKinds", "Measured again"), Severity::Note,
     [](const Problem& problem) {
         if (problem.otherPoint.empty())
-            return translated("The line has no result of the point that this one repeats.");
-        return translated("It repeats %1, %2 beside it and %3 in height.")
+            return translated(QT_TRANSLATE_NOOP(
+                "CheckProblems", "The line has no result of the point that this one repeats."));
+        return translated(QT_TRANSLATE_NOOP("CheckProblems",
+                                            "It repeats %1, %2 beside it and %3 in height."))
             .arg(lum::toQString(problem.otherPoint), problemValueText(*problem.kind, problem.value),
                  problemValueText(*problem.kind, problem.second));
     }};
-constexpr std::array kRepeatKinds{&kRepeat};
+constexpr std::array kRepeatDifferences{
+    QT_TRANSLATE_NOOP("CheckProblems", "It repeats %1, but lies %2 off in north."),
+    QT_TRANSLATE_NOOP("CheckProblems", "It repeats %1, but lies %2 off in east."),
+    QT_TRANSLATE_NOOP("CheckProblems", "It repeats %1, but lies %2 off in height.")};
+
+constexpr ProblemKind kRepeatOff{
+    "repeat_off", QT_TRANSLATE_NOOP("ProblemKinds", "Repeat out of range"), Severity::Error,
+    [](const Problem& problem) {
+        return translated(kRepeatDifferences[static_cast<std::size_t>(problem.second)])
+            .arg(lum::toQString(problem.otherPoint),
+                 problemValueText(*problem.kind, problem.value));
+    }};
+constexpr std::array kRepeatKinds{&kRepeat, &kRepeatOff};
 
 constexpr std::string_view kRepeatMark = "C";
 
+/// By the tolerances of resurveys.
 void findRepeats(const FinderInput& input, ProblemList& problems)
 {
+    const auto tolerances = ResurveyTolerances::from(input.parameters(), input.planeUnitM());
     forEachResult(input.survey(), [&](const auto& line, const SurveyPoint& point) {
         const std::string_view number = writtenPointNumber(point.pointNumber);
-        if (number.substr(0, 1) != kRepeatMark)
+        if (number.substr(0, 1) != kRepeatMark ||
+            input.design().find(point.lineNumber, point.pointNumber) != nullptr)
             return;
         const SurveyPoint* const first = line.find(number.substr(1));
-        Problem& problem = problems.add(kRepeat, point);
-        if (first == nullptr)
+        if (first == nullptr) {
+            problems.add(kRepeat, point);
             return;
+        }
+        const Differences differences{point.north - first->north, point.east - first->east,
+                                      point.elevation - first->elevation};
+        const auto exceeded = tolerances.exceededBy(differences);
+        const bool isOff = std::ranges::find(exceeded, true) != exceeded.end();
+        Problem& problem = problems.add(isOff ? kRepeatOff : kRepeat, point);
         problem.otherLine = problem.line;
         problem.otherPoint = problems.keep(first->pointNumber);
-        problem.value =
-            input.planeUnitM() * std::hypot(point.north - first->north, point.east - first->east);
-        problem.second = point.elevation - first->elevation;
+        if (isOff)
+            return describe(problem, differences, tolerances);
+        problem.value = input.planeUnitM() * std::hypot(differences[0], differences[1]);
+        problem.second = differences[2];
     });
 }
 

@@ -30,7 +30,8 @@ constexpr ProblemKind kFewCheckShots{
     "",
     0};
 
-constexpr std::array kKinds{&kBaseShift, &kPoleShift, &kSurveyShift, &kFewCheckShots};
+constexpr std::array kKinds{&kBaseShift, &kPoleShift, &kSurveyShift, &kFewCheckShots,
+                            &kBaseDifference};
 
 /// What a crew did on a day.
 struct CrewDay

@@ -102,7 +102,8 @@ private:
             return finding.kind == LineFinding::Kind::Gap ||
                    finding.kind == LineFinding::Kind::Hole;
         };
-        if (LineTelling::isMany(static_cast<std::size_t>(std::ranges::count_if(m_findings, isGap))))
+        const auto gaps = std::ranges::count_if(m_findings, isGap);
+        if (LineTelling::isMany(static_cast<std::size_t>(gaps), points.size()))
             return;
         for (const LineFinding& finding : m_findings) {
             if (!isGap(finding))
@@ -185,20 +186,27 @@ private:
             m_parameters.meetings);
         std::vector<Pair> ofLine;
         for (const CoincidentPoints& coincident : meetings.coincident) {
-            if (!hasPosition(*m_points[coincident.point]))
-                continue;
             const Pair pair{m_points[coincident.point], m_points[coincident.other],
                             coincident.distanceM};
-            if (!ofLine.empty() && ofLine.back().point->lineNumber != pair.point->lineNumber) {
-                m_telling.tellCoincident<DesignPoint>(ofLine);
-                ofLine.clear();
-            }
+            if (!ofLine.empty() && ofLine.back().point->lineNumber != pair.point->lineNumber)
+                tellCoincident(ofLine);
             ofLine.push_back(pair);
         }
-        m_telling.tellCoincident<DesignPoint>(ofLine);
+        tellCoincident(ofLine);
         for (const InterleavedLines& lines : meetings.interleaved)
             m_telling.tellInterleaved(*m_points[lines.point], *m_points[lines.otherPoint],
                                       lines.points);
+    }
+
+    /// \param ofLine  emptied
+    void tellCoincident(std::vector<Pair>& ofLine)
+    {
+        if (ofLine.empty())
+            return;
+        const DesignPoints::Line* const line =
+            m_input.design().findLine(ofLine.front().point->lineNumber);
+        m_telling.tellCoincident<DesignPoint>(ofLine, line->size());
+        ofLine.clear();
     }
 
     /// Its points are numbered as in `m_points`.

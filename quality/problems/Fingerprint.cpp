@@ -111,8 +111,11 @@ std::string fingerprintOf(const Problem& problem, const DesignPoints& design,
     else
         add(hash, survey.find(problem.line, problem.point));
     if (!problem.otherPoint.empty()) {
-        add(hash, design.find(problem.otherLine, problem.otherPoint));
-        add(hash, survey.find(problem.otherLine, problem.otherPoint));
+        const DesignPoint* const other = design.find(problem.otherLine, problem.otherPoint);
+        add(hash, other);
+        // What is wrong between design points stays so when the other one is staked.
+        if (!problem.isDesign || other == nullptr)
+            add(hash, survey.find(problem.otherLine, problem.otherPoint));
     }
     return hash.result();
 }

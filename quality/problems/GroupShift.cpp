@@ -39,15 +39,18 @@ double GroupShift::directionDeg() const
 bool GroupShift::contains(std::int64_t ofDay, std::string_view ofBase,
                           std::string_view ofRover) const
 {
-    return cause == Cause::Survey || (day == ofDay && (cause == Cause::Pole || base == ofBase) &&
-                                      (cause == Cause::Base || rover == ofRover));
+    const bool isOfDay = day <= ofDay && ofDay <= lastDay;
+    if (cause == Cause::Survey)
+        return isOfDay || day == statistics::KeyValue::kNoNumber;
+    return isOfDay && (cause == Cause::Pole || base == ofBase) &&
+           (cause == Cause::Base || rover == ofRover);
 }
 
 std::string GroupShift::toText() const
 {
     constexpr int kDecimals = 3;
     std::string text;
-    for (const std::int64_t number : {std::int64_t(cause), std::int64_t(evidence), day,
+    for (const std::int64_t number : {std::int64_t(cause), std::int64_t(evidence), day, lastDay,
                                       std::int64_t(results), std::int64_t(shared)})
         text += std::to_string(number) + kSeparator;
     for (const double length : {eastM, northM, heightM, planeBandM, heightBandM})
@@ -57,7 +60,7 @@ std::string GroupShift::toText() const
 
 GroupShift GroupShift::fromText(std::string_view text)
 {
-    constexpr std::size_t kParts = 12;
+    constexpr std::size_t kParts = 13;
     const std::vector<std::string_view> parts = split(text);
     GroupShift shift;
     if (parts.size() != kParts)
@@ -65,9 +68,10 @@ GroupShift GroupShift::fromText(std::string_view text)
     shift.cause = static_cast<Cause>(readInteger64(parts[0]));
     shift.evidence = static_cast<Evidence>(readInteger64(parts[1]));
     shift.day = readInteger64(parts[2]);
-    shift.results = static_cast<std::size_t>(readInteger64(parts[3]));
-    shift.shared = static_cast<std::size_t>(readInteger64(parts[4]));
-    std::size_t part = 5;
+    shift.lastDay = readInteger64(parts[3]);
+    shift.results = static_cast<std::size_t>(readInteger64(parts[4]));
+    shift.shared = static_cast<std::size_t>(readInteger64(parts[5]));
+    std::size_t part = 6;
     for (double GroupShift::*length :
          {&GroupShift::eastM, &GroupShift::northM, &GroupShift::heightM, &GroupShift::planeBandM,
           &GroupShift::heightBandM})

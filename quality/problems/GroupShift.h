@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-/// Results of one day that are all wrong by the same: those of a base whose coordinates are wrong,
-/// or of a rover whose pole height is.
+/// Results of a day or more that are all wrong by the same: those of a base whose coordinates are
+/// wrong, or of a rover whose pole height is.
 struct GroupShift
 {
     enum class Cause : std::uint8_t
@@ -15,7 +15,7 @@ struct GroupShift
         Base,       ///< all rovers that used the base
         Pole,       ///< the rover alone, in height
         BaseOrPole, ///< one rover used the base, and that one alone
-        Survey      ///< all results of the survey
+        Survey      ///< all results of the survey, or of the day
     };
     enum class Evidence : std::uint8_t
     {
@@ -25,9 +25,12 @@ struct GroupShift
 
     Cause cause = Cause::Base;
     Evidence evidence = Evidence::Design;
-    std::int64_t day = statistics::KeyValue::kNoNumber; ///< since 1970/01/01; without times no day
-    std::string base;                                   ///< empty for a pole
-    std::string rover;                                  ///< empty for a base
+    /// The first and the last, since 1970/01/01; `kNoNumber` of results without times, and for all
+    /// results of the survey.
+    std::int64_t day = statistics::KeyValue::kNoNumber;
+    std::int64_t lastDay = statistics::KeyValue::kNoNumber;
+    std::string base;  ///< empty for a pole
+    std::string rover; ///< empty for a base
     // How far the results are off, metres; 0 where they are not.
     double eastM = 0;
     double northM = 0;

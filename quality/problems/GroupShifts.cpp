@@ -1,11 +1,11 @@
 #include "quality/problems/GroupShifts.h"
 
 #include "quality/problems/ShiftCause.h"
+#include "quality/problems/ShiftUnion.h"
 
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <numbers>
 #include <string>
 #include <tuple>
 #include <unordered_map>
@@ -13,13 +13,9 @@
 namespace {
 
 using statistics::GroupKey;
-using statistics::Observation;
+using Evidence = GroupShift::Evidence;
 
 constexpr std::size_t kLeastPairs = 3;
-constexpr double kPreciseDesignM = 0.1; // design heights that scatter less were measured
-constexpr double kSameShiftM = 0.1;     // of groups that are all shifted
-constexpr double kSkidAngleDeg = 5;     // how straight beside its line a skid lies
-constexpr double kSigmaOfMedians = 1.4826;
 
 /// A point measured twice, seen from one of its results.
 struct Difference
@@ -30,56 +26,26 @@ struct Difference
     double heightM;
 };
 
-/// Withdraws offsets that do not stand out: where differences grow slowly from group to group, as
-/// those of a geoid or an elevation model do, none is a fault of its own.
-void keepOutstanding(std::vector<ShiftCandidate>& candidates, SteadyOffset ShiftCandidate::*kind,
-                     double limitM)
-{
-    constexpr double kFactor = 2;
-    constexpr double kSigmas = 2; // what lies within is no offset but scatter
-    std::vector<std::pair<double, SteadyOffset*>> offsets; // by their lengths
-    for (ShiftCandidate& candidate : candidates) {
-        SteadyOffset& offset = candidate.*kind;
-        const double lengthM = std::hypot(offset.eastM, offset.northM, offset.heightM);
-        if (offset.isSteady() && (lengthM <= limitM || lengthM > kSigmas * offset.sigmaM))
-            offsets.emplace_back(lengthM, &offset);
-    }
-    std::ranges::sort(offsets);
-    double largestM = 0;
-    for (const auto& [lengthM, offset] : offsets) {
-        if (offset->isFound && lengthM > kFactor * largestM)
-            return;
-        offset->isFound = false;
-        largestM = lengthM;
-    }
-}
-
 class ShiftSearch
 {
 public:
     ShiftSearch(const statistics::SurveySample& sample, const ShiftLimits& limits)
         : m_sample(sample), m_limits(limits), m_bases(sample, GroupKey::Base),
-          m_rovers(sample, GroupKey::Rover), m_isShifted(sample.results.size())
+          m_rovers(sample, GroupKey::Rover), m_design(sample, m_bases, m_rovers, limits),
+          m_isShifted(sample.results.size())
     {
     }
 
     [[nodiscard]] std::vector<GroupShift> run(const std::vector<statistics::MeasuredPair>& pairs)
     {
-        setLevel();
         searchDesign();
         searchPairs(pairs);
         return std::move(m_found);
     }
 
 private:
-    void setLevel();
     void searchDesign();
-    [[nodiscard]] std::vector<ShiftCandidate> designCandidates(const ShiftGroups& groups) const;
-    [[nodiscard]] ShiftCandidate judgeByDesign(const ShiftGroup& group) const;
-    void findShared(ShiftCandidate& candidate) const;
-    [[nodiscard]] std::vector<double> heightsOf(const ResultPlaces& places) const;
-    [[nodiscard]] static bool isStake(const Observation& result);
-    [[nodiscard]] bool isSkid(const ShiftCandidate& candidate) const;
+    [[nodiscard]] std::vector<ComparedGroup> comparedGroups() const;
 
     void searchPairs(const std::vector<statistics::MeasuredPair>& pairs);
     [[nodiscard]] std::vector<std::pair<std::uint32_t, std::uint32_t>>
@@ -90,17 +56,18 @@ private:
     [[nodiscard]] ShiftCandidate judgeByPairs(const ShiftGroup& group,
                                               const std::vector<Difference>& differences) const;
 
-    void accept(const ShiftCandidate& candidate, GroupShift::Evidence evidence);
-    [[nodiscard]] bool areAll(const std::vector<ShiftCandidate>& bases) const;
-    void unite();
+    void accept(const ShiftCandidate& candidate, Evidence evidence);
+    [[nodiscard]] const std::string& nameOf(const ShiftGroup& group) const
+    {
+        const std::uint32_t value = m_sample.results[group.members.front()].key(group.key);
+        return m_sample.valuesOf(group.key)[value].text;
+    }
 
     const statistics::SurveySample& m_sample;
     const ShiftLimits m_limits;
     const ShiftGroups m_bases;
     const ShiftGroups m_rovers;
-    double m_levelM = 0;   ///< of measured heights over those of the design
-    double m_betweenM = 0; ///< how far groups lie from that
-    bool m_isPrecise = true;
+    const ShiftDesign m_design;
     std::vector<bool> m_isShifted; ///< for each result, whether one of its groups is
     std::vector<std::pair<std::uint32_t, std::uint32_t>> m_pairPlaces; ///< again, first
     std::vector<GroupShift> m_found;
@@ -108,133 +75,32 @@ private:
 
 // --- against the design ---
 
-std::vector<double> ShiftSearch::heightsOf(const ResultPlaces& places) const
+std::vector<ComparedGroup> ShiftSearch::comparedGroups() const
 {
-    std::vector<double> heights;
-    for (const std::uint32_t place : places) {
-        if (const double height = m_sample.results[place].heightM; std::isfinite(height))
-            heights.push_back(height - m_levelM);
-    }
-    return heights;
-}
-
-void ShiftSearch::setLevel()
-{
-    std::vector<double> sigmas;
-    std::vector<double> medians; // a value for each result, so that large groups count for more
-    for (const ShiftGroup& group : m_bases.groups) {
-        const std::vector<double> heights = heightsOf(group.members);
-        if (heights.size() < m_limits.least)
-            continue;
-        const SteadyOffset offset = SteadyOffset::ofHeights(heights, {m_limits.least});
-        sigmas.insert(sigmas.end(), heights.size(), offset.sigmaM);
-        medians.insert(medians.end(), heights.size(), offset.heightM);
-    }
-    m_isPrecise = sigmas.empty() || medianOf(sigmas) <= kPreciseDesignM;
-    if (m_isPrecise)
-        return;
-    m_levelM = medianOf(medians);
-    for (double& median : medians)
-        median = std::fabs(median - m_levelM);
-    m_betweenM = kSigmaOfMedians * medianOf(medians);
-}
-
-bool ShiftSearch::isStake(const Observation& result)
-{
-    return std::isfinite(result.distanceM) && result.point->obstacle.empty();
-}
-
-ShiftCandidate ShiftSearch::judgeByDesign(const ShiftGroup& group) const
-{
-    ShiftCandidate candidate{.group = &group};
-    candidate.height = SteadyOffset::ofHeights(heightsOf(group.members),
-                                               {m_limits.least, m_limits.heightM, m_betweenM});
-    std::vector<double> east;
-    std::vector<double> north;
-    for (const std::uint32_t place : group.members) {
-        const Observation& result = m_sample.results[place];
-        if (group.key != GroupKey::Base || !isStake(result))
-            continue;
-        east.push_back(result.eastM);
-        north.push_back(result.northM);
-    }
-    candidate.plane = SteadyOffset::ofPlane(east, north, {m_limits.least, m_limits.planeM});
-    if (candidate.plane.isFound && isSkid(candidate))
-        candidate.plane.isFound = false;
-    return candidate;
-}
-
-bool ShiftSearch::isSkid(const ShiftCandidate& candidate) const
-{
-    const SurveyPoint* first = nullptr;
-    const SurveyPoint* last = nullptr;
-    for (const std::uint32_t place : candidate.group->members) {
-        const Observation& result = m_sample.results[place];
-        if (!isStake(result) || !candidate.plane.sharesPlane(result.eastM, result.northM))
-            continue;
-        if (first == nullptr)
-            first = result.point;
-        last = result.point;
-    }
-    if (first->lineNumber != last->lineNumber)
-        return false;
-    const double east = last->designEast - first->designEast;
-    const double north = last->designNorth - first->designNorth;
-    const double along = east * candidate.plane.eastM + north * candidate.plane.northM;
-    const double across = east * candidate.plane.northM - north * candidate.plane.eastM;
-    const double degrees = std::atan2(std::fabs(across), std::fabs(along)) * 180 /
-                           std::numbers::pi; // from 0, along the line, to 90
-    return degrees < kSkidAngleDeg || degrees > 90 - kSkidAngleDeg;
-}
-
-std::vector<ShiftCandidate> ShiftSearch::designCandidates(const ShiftGroups& groups) const
-{
-    std::vector<ShiftCandidate> candidates;
-    for (const ShiftGroup& group : groups.groups)
-        candidates.push_back(judgeByDesign(group));
-    keepOutstanding(candidates, &ShiftCandidate::plane, m_limits.planeM);
-    keepOutstanding(candidates, &ShiftCandidate::height, m_limits.heightM);
-    std::erase_if(candidates, [](const ShiftCandidate& each) { return !each.isShifted(); });
-    for (ShiftCandidate& candidate : candidates)
-        findShared(candidate);
-    std::erase_if(candidates, [](const ShiftCandidate& each) { return each.shared.empty(); });
-    return candidates;
-}
-
-void ShiftSearch::findShared(ShiftCandidate& candidate) const
-{
-    for (const std::uint32_t place : candidate.group->members) {
-        const Observation& result = m_sample.results[place];
-        const bool isCompared = (!candidate.height.isFound || std::isfinite(result.heightM)) &&
-                                (!candidate.plane.isFound || isStake(result));
-        if (!isCompared)
-            continue;
-        ++candidate.results;
-        if (candidate.isSharedBy(result.eastM, result.northM, result.heightM - m_levelM))
-            candidate.shared.push_back(place);
-    }
-}
-
-void ShiftSearch::searchDesign()
-{
-    std::vector<ShiftCandidate> bases = designCandidates(m_bases);
-    std::vector<ShiftCandidate> rovers;
-    const bool hasOnePole = m_sample.valuesOf(GroupKey::Rover).size() == 1;
-    if (!areAll(bases) || hasOnePole) {
-        rovers = designCandidates(m_rovers);
-        settleCauses(m_sample, m_bases, m_rovers, bases, rovers);
-    }
-    for (const auto* const candidates : {&bases, &rovers}) {
-        for (const ShiftCandidate& candidate : *candidates) {
-            if (!candidate.isDropped)
-                accept(candidate, GroupShift::Evidence::Design);
+    std::vector<ComparedGroup> compared;
+    for (const ShiftGroups* const groups : {&m_bases, &m_rovers}) {
+        for (const ShiftGroup& group : groups->groups) {
+            if (m_design.isComparable(group))
+                compared.push_back({group.key == GroupKey::Rover, group.day, nameOf(group)});
         }
     }
-    const auto isPole = [](const GroupShift& shift) {
-        return shift.cause == GroupShift::Cause::Pole;
-    };
-    if (areAll(bases) && std::ranges::none_of(m_found, isPole))
-        unite();
+    return compared;
+}
+
+/// When all bases are off alike, no pole is to be blamed for it, unless there is one alone.
+void ShiftSearch::searchDesign()
+{
+    for (const ShiftCandidate& candidate : m_design.basesAlone())
+        accept(candidate, Evidence::Design);
+    if (m_sample.valuesOf(GroupKey::Rover).size() == 1 || m_found.empty() ||
+        !areAllAlike(m_found, comparedGroups())) {
+        m_found.clear();
+        m_isShifted.assign(m_isShifted.size(), false);
+        for (const ShiftCandidate& candidate : m_design.basesAndPoles())
+            accept(candidate, Evidence::Design);
+    }
+    if (!m_found.empty())
+        uniteShifts(m_found, comparedGroups());
 }
 
 // --- points measured twice ---
@@ -250,6 +116,7 @@ ShiftSearch::placesOf(const std::vector<statistics::MeasuredPair>& pairs) const
             found->second = i;
     }
     std::vector<std::pair<std::uint32_t, std::uint32_t>> found;
+    found.reserve(pairs.size());
     for (const statistics::MeasuredPair& pair : pairs)
         found.emplace_back(places.at(pair.again), places.at(pair.first));
     return found;
@@ -270,12 +137,8 @@ ShiftCandidate ShiftSearch::judgeByPairs(const ShiftGroup& group,
     candidate.height = SteadyOffset::ofHeights(heights, {kLeastPairs, m_limits.heightM});
     if (group.key == GroupKey::Base)
         candidate.plane = SteadyOffset::ofPlane(east, north, {kLeastPairs, m_limits.planeM});
-    if (candidate.height.isFound && m_isPrecise) {
-        const SteadyOffset design =
-            SteadyOffset::ofHeights(heightsOf(group.members), {m_limits.least});
-        if (design.count != 0 && std::fabs(design.heightM) <= m_limits.heightM)
-            candidate.height.isFound = false;
-    }
+    if (candidate.height.isFound && m_design.agreesInHeight(group))
+        candidate.height.isFound = false;
     for (const Difference& each : differences) {
         if (candidate.isSharedBy(each.eastM, each.northM, each.heightM))
             candidate.shared.push_back(each.place);
@@ -330,29 +193,26 @@ void ShiftSearch::searchPairs(const std::vector<statistics::MeasuredPair>& pairs
         }
         if (left.empty())
             return;
-        accept(**std::ranges::min_element(left, isWorse), GroupShift::Evidence::Pairs);
+        accept(**std::ranges::min_element(left, isWorse), Evidence::Pairs);
     }
 }
 
 // --- what is found ---
 
-void ShiftSearch::accept(const ShiftCandidate& candidate, GroupShift::Evidence evidence)
+void ShiftSearch::accept(const ShiftCandidate& candidate, Evidence evidence)
 {
     using Cause = GroupShift::Cause;
     const ShiftGroup& group = *candidate.group;
     GroupShift shift;
     shift.evidence = evidence;
-    shift.day = group.day;
-    const std::string& name =
-        m_sample.valuesOf(group.key)[m_sample.results[candidate.shared.front()].key(group.key)]
-            .text;
+    shift.day = shift.lastDay = group.day;
     if (group.key == GroupKey::Base) {
         shift.cause = candidate.isUnclear ? Cause::BaseOrPole : Cause::Base;
-        shift.base = name;
+        shift.base = nameOf(group);
         shift.rover = candidate.rover;
     } else {
         shift.cause = Cause::Pole;
-        shift.rover = name;
+        shift.rover = nameOf(group);
     }
     if (candidate.plane.isFound) {
         shift.eastM = candidate.plane.eastM;
@@ -373,46 +233,6 @@ void ShiftSearch::accept(const ShiftCandidate& candidate, GroupShift::Evidence e
     for (const std::uint32_t place : group.members)
         m_isShifted[place] = true;
     m_found.push_back(std::move(shift));
-}
-
-/// Whether all bases that can be compared with the design are shifted alike.
-bool ShiftSearch::areAll(const std::vector<ShiftCandidate>& bases) const
-{
-    const auto isComparable = [this](const ShiftGroup& group) {
-        const auto isOne = [this](std::uint32_t place) { return isStake(m_sample.results[place]); };
-        return static_cast<std::size_t>(std::ranges::count_if(group.members, isOne)) >=
-                   m_limits.least ||
-               heightsOf(group.members).size() >= m_limits.least;
-    };
-    const auto comparable = std::ranges::count_if(m_bases.groups, isComparable);
-    if (bases.size() < 2 || static_cast<std::size_t>(comparable) != bases.size())
-        return false;
-    const auto offsetOf = [](const SteadyOffset& offset) {
-        return offset.isFound ? offset : SteadyOffset();
-    };
-    const SteadyOffset plane = offsetOf(bases.front().plane);
-    const SteadyOffset height = offsetOf(bases.front().height);
-    return std::ranges::all_of(bases, [&](const ShiftCandidate& each) {
-        const SteadyOffset ownPlane = offsetOf(each.plane);
-        return std::hypot(ownPlane.eastM - plane.eastM, ownPlane.northM - plane.northM,
-                          offsetOf(each.height).heightM - height.heightM) <= kSameShiftM;
-    });
-}
-
-/// Bases that are all shifted alike tell nothing of a base: one shift of the survey stands for all.
-void ShiftSearch::unite()
-{
-    GroupShift all = m_found.front();
-    all.results = all.shared = 0;
-    for (const GroupShift& each : m_found) {
-        all.results += each.results;
-        all.shared += each.shared;
-        all.firstMs = std::min(all.firstMs, each.firstMs);
-    }
-    all.cause = GroupShift::Cause::Survey;
-    all.day = statistics::KeyValue::kNoNumber;
-    all.base = all.rover = std::string();
-    m_found.assign(1, all);
 }
 
 } // namespace

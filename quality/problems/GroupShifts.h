@@ -1,23 +1,17 @@
 #pragma once
 
 #include "quality/problems/GroupShift.h"
+#include "quality/problems/ShiftDesign.h"
 #include "quality/statistics/MeasuredPairs.h"
 
 #include <vector>
-
-/// From where on results count as shifted.
-struct ShiftLimits
-{
-    double planeM = 0;     ///< 0 finds none on the plane
-    double heightM = 0;    ///< 0 finds none in height
-    std::size_t least = 0; ///< results that are compared with the design
-};
 
 /// Finds the results of a base or of a rover that are wrong by the same on a day.
 ///
 /// Four fifths of the results of the group must be off by the same, by more than the limit and by
 /// more than five times what they scatter, which is metres at most. What they are off is seen
-/// - against the design. A group must stand out: twice as far off as any that is not shifted.
+/// - against the design. A group must stand out: twice as far off as any that is not shifted, and
+///   that no shifted one explains.
 ///   Heights of the design that are no better than those of an elevation model may be off as a
 ///   whole, then the groups are compared with each other. On the plane, stakes that were moved
 ///   aside do not count: those with an obstacle, and those of a single line that all lie straight
@@ -26,11 +20,11 @@ struct ShiftLimits
 ///   groups that disagree the one is wrong that disagrees more often, or has fewer results; never
 ///   in height the one whose heights agree with the design.
 ///
-/// A pole shifts heights alone. A shift belongs to the base when several rovers share it, and to
-/// the pole when the other rovers of the base, or other bases of the rover, tell so. When one rover
-/// used the base, and that one alone, the antenna height and the height of the base that they had
-/// on other days may tell; else it stays open. When all groups share a shift, it is one of the
-/// survey.
+/// A pole shifts heights alone. A result may be of a wrong base and of a wrong pole: how the two
+/// are told apart is said in ShiftHeights.h, and for points measured twice in ShiftCause.h. When
+/// one rover used the base, and that one alone, the antenna height and the height of the base that
+/// they had on other days may tell; else it stays open, and one shift says both. Shifts of several
+/// groups that are alike are one, see ShiftUnion.h.
 ///
 /// \param pairs  of the results of the sample
 [[nodiscard]] std::vector<GroupShift>

@@ -3,21 +3,25 @@
 #include "model/PointLines.h"
 #include "quality/problems/PointIndex.h"
 
+#include <limits>
 #include <utility>
 #include <vector>
-
-/// \param planeUnitM  metres a unit of the plane coordinates
-template <class Point>
-[[nodiscard]] PointPlace placeOf(const Point& point, double planeUnitM)
-{
-    return {point.east * planeUnitM, point.north * planeUnitM};
-}
 
 /// Points without a position are at the origin, all of them.
 template <class Point>
 [[nodiscard]] bool hasPosition(const Point& point)
 {
     return point.north != 0 || point.east != 0;
+}
+
+/// A place that is no number when the point has no position: it is near nothing.
+/// \param planeUnitM  metres a unit of the plane coordinates
+template <class Point>
+[[nodiscard]] PointPlace placeOf(const Point& point, double planeUnitM)
+{
+    if (!hasPosition(point))
+        return {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::quiet_NaN()};
+    return {point.east * planeUnitM, point.north * planeUnitM};
 }
 
 /// Points of a container that can be found by their places. Valid as long as pointers to them.

@@ -95,7 +95,8 @@ QString interleaved(const Problem& problem)
 {
     return LineKinds::tr("Points of line %1 lie between points of this line, the first is %2; "
                          "points: %3.")
-        .arg(lum::toQString(problem.otherLine), lum::toQString(problem.otherPoint))
+        .arg(lum::toQString(problem.otherLine),
+             lum::toQString(writtenPointNumber(problem.otherPoint)))
         .arg(problem.count);
 }
 

@@ -41,7 +41,7 @@ private:
     {
         NumberParts parts;
         LinePoint shape;
-        std::size_t listed;
+        std::size_t listed = 0;
     };
 
     std::vector<Entry> m_entries;

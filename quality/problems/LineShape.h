@@ -41,11 +41,11 @@ struct LineFinding
     };
     static constexpr std::size_t kKinds = 7;
 
-    Kind kind;
-    std::size_t at;
-    std::size_t other; ///< a neighbour; with `Reversed` the last point
-    double value;
-    double second;
+    Kind kind{};
+    std::size_t at = 0;
+    std::size_t other = 0; ///< a neighbour; with `Reversed` the last point
+    double value = 0;
+    double second = 0;
     std::uint32_t count = 0;
 };
 

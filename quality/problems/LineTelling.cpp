@@ -29,7 +29,7 @@ void LineTelling::tell(std::span<const LineFinding> findings, const LineMeasures
         if (kind == nullptr || count == 0)
             continue;
         Problem& problem = add(*kind, *points[finding.at], *points[finding.other]);
-        if (isMany(count)) {
+        if (isMany(count, points.size())) {
             problem.count = count - 1;
             count = 0; // the others are told with this one
         }
@@ -92,9 +92,9 @@ void LineTelling::setValues(Problem& problem, const LineFinding& finding,
 }
 
 template <class Point>
-void LineTelling::tellCoincident(std::span<const Pair<Point>> ofLine)
+void LineTelling::tellCoincident(std::span<const Pair<Point>> ofLine, std::size_t points)
 {
-    const std::size_t told = isMany(ofLine.size()) ? 1 : ofLine.size();
+    const std::size_t told = isMany(ofLine.size(), points) ? 1 : ofLine.size();
     for (const Pair<Point>& pair : ofLine.first(told)) {
         Problem& problem = add(line_kinds::kCoincident, *pair.point, *pair.other);
         problem.value = pair.distanceM;
@@ -103,8 +103,8 @@ void LineTelling::tellCoincident(std::span<const Pair<Point>> ofLine)
     }
 }
 
-template void LineTelling::tellCoincident(std::span<const Pair<DesignPoint>>);
-template void LineTelling::tellCoincident(std::span<const Pair<SurveyPoint>>);
+template void LineTelling::tellCoincident(std::span<const Pair<DesignPoint>>, std::size_t);
+template void LineTelling::tellCoincident(std::span<const Pair<SurveyPoint>>, std::size_t);
 
 void LineTelling::tellInterleaved(const DesignPoint& point, const DesignPoint& other,
                                   std::uint32_t points)

@@ -4,6 +4,7 @@
 #include "quality/problems/LineShape.h"
 #include "quality/problems/ProblemList.h"
 
+#include <algorithm>
 #include <span>
 
 class FinderInput;
@@ -32,10 +33,13 @@ public:
     template <class Point>
     void tell(std::span<const LineFinding> findings, const LineMeasures& measures,
               std::span<const Point* const> points);
-    /// Many findings of a kind in one line.
-    [[nodiscard]] static bool isMany(std::size_t findings) { return findings > kMost; }
+    /// Whether a line has so many findings of a kind that they have one cause.
+    [[nodiscard]] static bool isMany(std::size_t findings, std::size_t points)
+    {
+        return findings > std::max(kMost, points / kMostShare);
+    }
 
-    /// Points in one place: `points` of a line, each with another point and their distance.
+    /// Points in one place: a point of a line with another point and their distance.
     template <class Point>
     struct Pair
     {
@@ -44,7 +48,7 @@ public:
         double distanceM;
     };
     template <class Point>
-    void tellCoincident(std::span<const Pair<Point>> ofLine);
+    void tellCoincident(std::span<const Pair<Point>> ofLine, std::size_t points);
     void tellInterleaved(const DesignPoint& point, const DesignPoint& other, std::uint32_t points);
     /// The numbers of a whole line run against the others.
     void tellReversed(std::string_view line, std::uint32_t points);
@@ -55,6 +59,7 @@ private:
     void setValues(Problem& problem, const LineFinding& finding, const LineMeasures& measures);
 
     static constexpr std::size_t kMost = 20;
+    static constexpr std::size_t kMostShare = 10; ///< a tenth of the line
 
     ProblemList& m_problems;
     const LineParameters& m_parameters;

@@ -8,7 +8,7 @@
 /// Numbers that a line lacks between two of its points.
 struct NumberGap
 {
-    std::size_t line; ///< in the list of lines
+    std::size_t line = 0; ///< in the list of lines
     PointPlace from;
     PointPlace to;
 };

@@ -34,7 +34,8 @@ public:
         return m_isWhole ? place : m_numbers[place];
     }
 
-    // Called by the tree.
+    // Called by the tree, which names them.
+    // NOLINTBEGIN(readability-identifier-naming)
     [[nodiscard]] std::size_t kdtree_get_point_count() const { return indexed().size(); }
     [[nodiscard]] double kdtree_get_pt(std::size_t place, std::size_t axis) const
     {
@@ -45,6 +46,7 @@ public:
     {
         return false; // the tree computes it
     }
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     [[nodiscard]] const std::vector<PointPlace>& indexed() const

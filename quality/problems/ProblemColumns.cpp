@@ -35,6 +35,11 @@ QString storedText(const Problem& problem, Zone& /*zone*/)
     return lum::toQString(problem.*kMember);
 }
 
+QString point(const Problem& problem, Zone& /*zone*/)
+{
+    return lum::toQString(shownPointNumber(problem));
+}
+
 template <double Problem::*kMember>
 QString shownValue(const Problem& problem, Zone& /*zone*/)
 {
@@ -79,11 +84,7 @@ constexpr std::array kColumns{
         }},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Line"), storedText<&Problem::line>,
                   storedText<&Problem::line>},
-    ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Point"),
-                  [](const Problem& problem, Zone& /*zone*/) {
-                      return lum::toQString(writtenPointNumber(problem.point));
-                  },
-                  storedText<&Problem::point>},
+    ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Point"), point, point},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "What"), what, what},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Value"), shownValue<&Problem::value>,
                   plainValue<&Problem::value>},
@@ -101,6 +102,11 @@ constexpr std::array kColumns{
 QString ProblemColumn::captionText() const
 {
     return translated(caption);
+}
+
+std::string_view shownPointNumber(const Problem& problem)
+{
+    return problem.isDesign ? problem.point.view() : writtenPointNumber(problem.point);
 }
 
 std::span<const ProblemColumn> problemColumns()

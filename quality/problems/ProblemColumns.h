@@ -4,6 +4,7 @@
 #include "quality/problems/Problem.h"
 
 #include <span>
+#include <string_view>
 
 /// A column of the list of problems, in the window and in files.
 struct ProblemColumn
@@ -32,6 +33,9 @@ enum class ProblemField : std::uint8_t
 };
 
 [[nodiscard]] std::span<const ProblemColumn> problemColumns();
+
+/// The number as tables and files have it: of a check point without its counter.
+[[nodiscard]] std::string_view shownPointNumber(const Problem& problem);
 
 /// A value or a limit with its unit; empty for one that is no number.
 [[nodiscard]] QString problemValueText(const ProblemKind& kind, double value);

@@ -35,22 +35,38 @@ constexpr std::array kFinders{
 };
 // clang-format on
 
-bool isWanted(const ProblemFinder& finder, std::span<const ProblemKind* const> kinds)
+using Kinds = std::span<const ProblemKind* const>;
+
+bool hasOneOf(const ProblemFinder& finder, Kinds kinds)
 {
-    return kinds.empty() || finder.explain != nullptr ||
-           std::ranges::find_first_of(finder.kinds, kinds) != finder.kinds.end();
+    return std::ranges::find_first_of(finder.kinds, kinds) != finder.kinds.end();
+}
+
+/// What explains others must run for them, and they for it, since it tells how many it explains.
+std::vector<const ProblemFinder*> wantedFinders(Kinds kinds)
+{
+    const bool isAll =
+        kinds.empty() || std::ranges::any_of(kFinders, [&](const ProblemFinder* finder) {
+            return finder->explain != nullptr && hasOneOf(*finder, kinds);
+        });
+    std::vector<const ProblemFinder*> finders(kFinders.begin(), kFinders.end());
+    if (!isAll)
+        std::erase_if(finders, [&](const ProblemFinder* finder) {
+            return finder->explain == nullptr && !hasOneOf(*finder, kinds);
+        });
+    return finders;
 }
 
 /// Runs finders on the threads that call `work`, each finder once.
 class Search
 {
 public:
-    Search(const FinderInput& input, std::span<const ProblemKind* const> kinds) : m_input(input)
+    Search(const FinderInput& input, const std::vector<const ProblemFinder*>& finders)
+        : m_input(input)
     {
-        for (const ProblemFinder* const finder : kFinders) {
-            if (isWanted(*finder, kinds))
-                m_parts.push_back({finder, {}});
-        }
+        m_parts.reserve(finders.size());
+        for (const ProblemFinder* const finder : finders)
+            m_parts.push_back({finder, {}});
     }
 
     /// Ends when no finder is left; the last of the table take longest, and begin. \param report is
@@ -95,15 +111,14 @@ private:
 
 } // namespace
 
-ProblemList findProblems(const ProblemInput& data, ProgressReporter& progress,
-                         std::span<const ProblemKind* const> kinds)
+ProblemList findProblems(const ProblemInput& data, ProgressReporter& progress, Kinds kinds)
 {
     const QString caption = QCoreApplication::translate("ProblemFinders", "Find Problems");
     progress.start(caption);
     const std::uint64_t designRevision = data.design.revision(); // not for several threads
     const std::uint64_t surveyRevision = data.survey.revision();
     const FinderInput input(data);
-    Search search(input, kinds);
+    Search search(input, wantedFinders(kinds));
     auto helper =
         std::async(std::launch::async, [&] { search.work([](std::size_t, std::size_t) {}); });
     search.work(

@@ -113,7 +113,7 @@ private:
             if (const auto pair = partnerOf(*result))
                 pairs.push_back(*pair);
         }
-        m_telling.tellCoincident<SurveyPoint>(pairs);
+        m_telling.tellCoincident<SurveyPoint>(pairs, m_undesigned.size());
     }
     [[nodiscard]] std::optional<Pair> partnerOf(const SurveyPoint& result)
     {
@@ -126,21 +126,36 @@ private:
             if (isPartner(result, other))
                 return Pair{&result, &other, distance};
         }
+        if (m_near.size() < kLookedAt)
+            return std::nullopt;
+        // So many are here that the partner may be behind them.
+        for (const auto& [number, distance] : m_near) {
+            if (mayBePartner(result, all[number]))
+                return Pair{&result, &all[number], distance};
+        }
         return std::nullopt;
     }
     /// Whether `other` should be elsewhere, and is not told to be in the place of `result` itself.
     [[nodiscard]] bool isPartner(const SurveyPoint& result, const SurveyPoint& other) const
     {
+        if (!mayBePartner(result, other))
+            return false;
         const auto nameOf = [](const SurveyPoint& point) {
             return std::tie(point.lineNumber, point.pointNumber);
         };
-        if ((result.pointMark != 0) != (other.pointMark != 0) ||
-            contains(result.pointNumber, other.pointNumber) ||
-            contains(other.pointNumber, result.pointNumber))
-            return false;
-        if (m_input.design().find(other.lineNumber, other.pointNumber) != nullptr)
-            return true;
-        return nameOf(other) < nameOf(result) && isFirst(other);
+        return isDesigned(other) || nameOf(other) < nameOf(result);
+    }
+    /// The same, whichever of the two is told.
+    [[nodiscard]] bool mayBePartner(const SurveyPoint& result, const SurveyPoint& other) const
+    {
+        return (result.pointMark != 0) == (other.pointMark != 0) &&
+               !contains(result.pointNumber, other.pointNumber) &&
+               !contains(other.pointNumber, result.pointNumber) &&
+               (isDesigned(other) || isFirst(other));
+    }
+    [[nodiscard]] bool isDesigned(const SurveyPoint& result) const
+    {
+        return m_input.design().find(result.lineNumber, result.pointNumber) != nullptr;
     }
 
     const FinderInput& m_input;

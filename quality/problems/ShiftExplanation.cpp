@@ -91,7 +91,7 @@ private:
     [[nodiscard]] Explanation* ofStep(const SurveyPoint& point, const Problem& problem);
     [[nodiscard]] Explanation* ofBorder(const SurveyPoint& point, const Problem& problem);
 
-    static const std::array<Judge, 10> kJudges; // by the names of kinds
+    static const std::array<Judge, 11> kJudges; // by the names of kinds
 
     const FinderInput& m_input;
     Explanations& m_shifts;
@@ -100,7 +100,7 @@ private:
     std::vector<const ProblemKind*> m_kinds; ///< in the order of `kJudges`
 };
 
-constexpr std::array<Explainer::Judge, 10> Explainer::kJudges{{
+constexpr std::array<Explainer::Judge, 11> Explainer::kJudges{{
     {"too_far", &Explainer::ofDistance},
     {"wrong_name", &Explainer::ofDistance},
     {"swapped_names", &Explainer::ofDistance},
@@ -108,6 +108,7 @@ constexpr std::array<Explainer::Judge, 10> Explainer::kJudges{{
     {"across", &Explainer::ofDeviation},
     {"along", &Explainer::ofDeviation},
     {"resurvey_off", &Explainer::ofPair},
+    {"repeat_off", &Explainer::ofPair},
     {"neighbour_height", &Explainer::ofStep},
     {"height_jump", &Explainer::ofStep},
     {"line_spacing", &Explainer::ofBorder},

@@ -2,6 +2,7 @@
 
 #include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
+#include "quality/problems/GroupDifferences.h"
 #include "quality/problems/GroupShifts.h"
 
 #include <QCoreApplication>
@@ -28,23 +29,32 @@ QString dayText(std::int64_t day)
     return QDate::fromJulianDay(kFirstDay + day).toString(QStringLiteral("yyyy/MM/dd"));
 }
 
+/// " on 2026/05/03" behind what is shifted.
+QString onDays(const QString& what, const GroupShift& shift)
+{
+    if (shift.day == statistics::KeyValue::kNoNumber)
+        return what;
+    if (shift.day == shift.lastDay)
+        return translated(QT_TRANSLATE_NOOP("ShiftProblems", "%1 on %2"))
+            .arg(what, dayText(shift.day));
+    return translated(QT_TRANSLATE_NOOP("ShiftProblems", "%1 from %2 to %3"))
+        .arg(what, dayText(shift.day), dayText(shift.lastDay));
+}
+
 /// "base B3 on 2026/05/03".
 QString groupText(const GroupShift& shift)
 {
     if (shift.cause == Cause::Survey)
-        return translated(QT_TRANSLATE_NOOP("ShiftProblems", "the survey"));
+        return onDays(translated(QT_TRANSLATE_NOOP("ShiftProblems", "the survey")), shift);
     const bool isPole = shift.cause == Cause::Pole;
     const std::string& named = isPole ? shift.rover : shift.base;
     const QString name = named.empty()
                              ? translated(QT_TRANSLATE_NOOP("ShiftProblems", "without a name"))
                              : lum::toQString(named);
-    if (shift.day == statistics::KeyValue::kNoNumber)
-        return translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1")
-                                 : QT_TRANSLATE_NOOP("ShiftProblems", "base %1"))
-            .arg(name);
-    return translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1 on %2")
-                             : QT_TRANSLATE_NOOP("ShiftProblems", "base %1 on %2"))
-        .arg(name, dayText(shift.day));
+    return onDays(translated(isPole ? QT_TRANSLATE_NOOP("ShiftProblems", "rover %1")
+                                    : QT_TRANSLATE_NOOP("ShiftProblems", "base %1"))
+                      .arg(name),
+                  shift);
 }
 
 QString metres(double length)
@@ -71,7 +81,7 @@ QString windOf(double directionDeg)
 /// "1.502 m too high".
 QString offsetText(const GroupShift& shift)
 {
-    const QString height =
+    QString height =
         translated(shift.heightM > 0 ? QT_TRANSLATE_NOOP("ShiftProblems", "%1 m too high")
                                      : QT_TRANSLATE_NOOP("ShiftProblems", "%1 m too low"))
             .arg(metres(shift.heightM));
@@ -135,6 +145,19 @@ QString shiftWhat(const Problem& problem)
     return text;
 }
 
+QString differenceWhat(const Problem& problem)
+{
+    const GroupShift mean = GroupShift::fromText(problem.detail);
+    return translated(
+               mean.evidence == Evidence::Design
+                   ? QT_TRANSLATE_NOOP("ShiftProblems", "%1 of %2 results of %3 are %4 on average.")
+                   : QT_TRANSLATE_NOOP("ShiftProblems",
+                                       "%1 of %2 points that were measured again with %3 are %4 on "
+                                       "average, as seen from their first measurement."))
+        .arg(lum::groupedNumber(mean.shared), lum::groupedNumber(mean.results), groupText(mean),
+             offsetText(mean));
+}
+
 // --- finding ---
 
 const ProblemKind& kindOf(Cause cause)
@@ -144,17 +167,30 @@ const ProblemKind& kindOf(Cause cause)
     return cause == Cause::Pole ? kPoleShift : kBaseShift;
 }
 
-void add(const GroupShift& shift, const ShiftLimits& limits, ProblemList& problems)
+bool isMostlyHeight(const GroupShift& shift)
 {
-    Problem& problem = problems.add(kindOf(shift.cause));
+    return std::fabs(shift.heightM) > shift.planeM();
+}
+
+Problem& add(const ProblemKind& kind, const GroupShift& shift, ProblemList& problems)
+{
+    Problem& problem = problems.add(kind);
     problem.detail = problems.keep(shift.toText());
     problem.rover = problems.keepOnce(shift.rover);
     problem.timeMs = shift.firstMs;
     problem.count = static_cast<std::uint32_t>(shift.shared);
     problem.second = 0;
-    const bool isHeight = std::fabs(shift.heightM) > shift.planeM();
-    problem.value = isHeight ? shift.heightM : shift.planeM();
-    problem.limit = isHeight ? limits.heightM : limits.planeM;
+    problem.value = isMostlyHeight(shift) ? shift.heightM : shift.planeM();
+    return problem;
+}
+
+std::vector<statistics::MeasuredPair> pairsOf(const FinderInput& input)
+{
+    auto pairs =
+        statistics::resurveyPairs(input.survey(), input.resurveyCode(), input.planeUnitM()).pairs;
+    const auto repeats = statistics::repeatPairs(input.survey(), input.planeUnitM()).pairs;
+    pairs.insert(pairs.end(), repeats.begin(), repeats.end());
+    return pairs;
 }
 
 } // namespace
@@ -169,17 +205,25 @@ constexpr ProblemKind kSurveyShift{"survey_shift",
                                    QT_TRANSLATE_NOOP("ProblemKinds", "Survey off the design"),
                                    Severity::Error, shiftWhat};
 
+constexpr ProblemKind kBaseDifference{
+    "base_difference", QT_TRANSLATE_NOOP("ProblemKinds", "Differences of a base and a day"),
+    Severity::Note, differenceWhat};
+
 void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
                ProblemList& problems)
 {
     const ShiftLimits limits{input.limit("shift_plane_max"), input.limit("shift_height_max"),
                              static_cast<std::size_t>(input.limit("shift_results_min"))};
-    if (limits.planeM <= 0 && limits.heightM <= 0)
+    const bool isListed = input.limit("base_differences") != 0;
+    if (limits.planeM <= 0 && limits.heightM <= 0 && !isListed)
         return;
-    auto pairs =
-        statistics::resurveyPairs(input.survey(), input.resurveyCode(), input.planeUnitM()).pairs;
-    const auto repeats = statistics::repeatPairs(input.survey(), input.planeUnitM()).pairs;
-    pairs.insert(pairs.end(), repeats.begin(), repeats.end());
-    for (const GroupShift& shift : findGroupShifts(sample, pairs, limits))
-        add(shift, limits, problems);
+    const std::vector<statistics::MeasuredPair> pairs = pairsOf(input);
+    for (const GroupShift& shift : findGroupShifts(sample, pairs, limits)) {
+        Problem& problem = add(kindOf(shift.cause), shift, problems);
+        problem.limit = isMostlyHeight(shift) ? limits.heightM : limits.planeM;
+    }
+    if (!isListed)
+        return;
+    for (const GroupShift& mean : findGroupDifferences(sample, pairs))
+        add(kBaseDifference, mean, problems);
 }

@@ -8,7 +8,9 @@
 extern const ProblemKind kBaseShift;
 extern const ProblemKind kPoleShift;
 extern const ProblemKind kSurveyShift;
+/// What each base and day differs, in order or not: a list that is off until it is wanted.
+extern const ProblemKind kBaseDifference;
 
-/// A problem for each shift of the results, which are those of the sample.
+/// A problem for each shift of the results, which are those of the sample, and the list.
 void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
                ProblemList& problems);

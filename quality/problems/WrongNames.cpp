@@ -107,11 +107,17 @@ private:
         wrong.isTaken = true;
         const auto other = m_places.find(standing);
         if (other == m_places.end()) {
-            wrong.isAnother = true;
+            wrong.isAnother = isNear(*standing, likely);
             wrong.proposed.point = m_names.numberOfAnother(likely, form, m_input.survey());
         } else if (namesAs(m_found[other->second], *wrong.result)) {
             wrong.exchangedWith = other->second;
         }
+    }
+
+    [[nodiscard]] bool isNear(const SurveyPoint& result, const DesignPoint& point) const
+    {
+        const double unit = m_input.planeUnitM();
+        return distanceM(placeOf(result, unit), placeOf(point, unit)) <= m_limits.nearerM;
     }
 
     /// Whether `wrong` would rightly have the name of `result`.

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "quality/statistics/Moments.h"
 #include "quality/statistics/SurveySample.h"
 
+#include <cstdint>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace statistics {
@@ -25,5 +29,24 @@ struct StakingProgress
 };
 
 [[nodiscard]] StakingProgress progressOf(const SurveySample& sample);
+/// Of some results. \param places in `SurveySample::results`
+[[nodiscard]] StakingProgress progressOf(const SurveySample& sample,
+                                         std::span<const std::uint32_t> places);
+
+/// How fast the design is staked now.
+struct Pace
+{
+    static constexpr std::size_t kDays = 7;
+
+    std::size_t workingDays = 0;  ///< the last `kDays` on which a point was staked, or fewer
+    double pointsADay = kUnknown; ///< the mean of these days
+    std::optional<std::size_t> daysNeeded; ///< of work, for what is left; none without a pace
+    /// The day on which nothing is left any more, since 1970/01/01, with as many days off as these
+    /// had. None when it is more than some hundred years away.
+    std::optional<std::int64_t> endDay;
+};
+
+/// \param left design points that are not staked yet
+[[nodiscard]] Pace paceOf(const StakingProgress& progress, std::size_t left);
 
 } // namespace statistics

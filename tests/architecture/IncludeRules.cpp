@@ -45,7 +45,7 @@ const Floors& floors()
         {Room::WithWidgets, {"platform/lum_desktop_sdkx/frame"}},
         {Room::WithWidgets, {"project/ui"}},  // what all user interface shares: the open project,
         {Room::WithWidgets, {"map/ui"}},      // a point shown on the map, and files
-        {Room::WithWidgets, {"exchange/ui"}}, // that are read and written
+        {Room::WithWidgets, {"exchange/ui", "plots"}}, // that are read and written
         {Room::WithWidgets,
          {"quality/ui", "design/ui", "reports/ui", "views", "views/find", "views/history",
           "views/tables", "views/trees"}},
@@ -102,7 +102,8 @@ bool isWidget(std::string header)
     const std::string module = "QtWidgets/";
     if (header.rfind(module, 0) == 0)
         header.erase(0, module.size());
-    return kHeaders.count(header) > 0 || header.rfind("qtadvanceddocking/", 0) == 0;
+    return kHeaders.count(header) > 0 || header.rfind("qtadvanceddocking/", 0) == 0 ||
+           header.rfind("qwt_", 0) == 0;
 }
 
 std::string foreignFault(const Place& from, const std::string& header)

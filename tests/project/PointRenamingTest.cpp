@@ -81,6 +81,19 @@ TEST_F(PointRenaming, TheDesignPositionAndTheDeviationsFollowTheName)
     EXPECT_EQ(manager.surveyPoints().find("1001", number(1))->transversalDeviation, 99);
 }
 
+TEST_F(PointRenaming, TheDirectionOfALineIsThatOfItsNumbers)
+{
+    for (int i = 0; i < 4; ++i) { // "998" to "1001", which a text has in another order
+        DesignPoint point = *manager.designPoints().find("1001", number(i));
+        point.pointNumber = std::to_string(998 + i);
+        manager.designPoints().set(point);
+    }
+    stake("7", 2);
+    ASSERT_EQ(rename({renaming("7", "1000")}), 1);
+    EXPECT_NEAR(manager.surveyPoints().find("1001", "1000")->longitudinalDeviation,
+                3 / std::sqrt(2), 1e-9);
+}
+
 TEST_F(PointRenaming, NamesAreExchangedAndShiftedAtOnce)
 {
     stake(number(0), 1);

@@ -1,5 +1,7 @@
 #include "quality/RepeatChoice.h"
 
+#include "tests/support/Points.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -13,9 +15,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 SurveyPoint measured(const char* number, std::int64_t time, double north = 100)
 {
-    SurveyPoint point;
-    point.lineNumber = "1001";
-    point.pointNumber = number;
+    SurveyPoint point = surveyPoint("1001", number);
     point.dateTime = time;
     point.north = north;
     point.solutionType = 4;
@@ -103,13 +103,16 @@ TEST(RepeatChoice, TheMeanIsWeightedByTheAccuracies)
     SurveyPoint& own = points.set(measured("1", 1, 4560000));
     own.horizontalAccuracy = 0.01; // weighs four times as much
     own.longitude = 179.9999;
+    own.latitude = 40;
+    own.designNorth = own.designEast = 4560000;
     own.elevation = 30;
     SurveyPoint& again = points.set(measured("1F", 2, 4560000.05));
     again.horizontalAccuracy = -0.02; // some controllers give a minus
     again.longitude = -179.9999;
-    again.latitude = own.latitude = 40;
+    again.latitude = 40;
     again.elevation = 30.04;
     again.verticalAccuracy = 0; // not known: both weigh the same
+    again.designNorth = again.designEast = 4560000;
     again.transversalDeviation = 0.1;
     again.epochNumber = 7;
     const RepeatChoice mean{Rule::WeightedMean, 0.05};
@@ -121,6 +124,11 @@ TEST(RepeatChoice, TheMeanIsWeightedByTheAccuracies)
     EXPECT_NEAR(result.horizontalAccuracy, 1 / std::sqrt(10000 + 2500), 1e-9);
     EXPECT_EQ(result.verticalAccuracy, 0.01); // that of the most accurate one
     EXPECT_EQ(result.epochNumber, 0);
+
+    again.designNorth = 0; // one that does not know its design has no deviations
+    points.find("1001", "1")->transversalDeviation = 0.3;
+    EXPECT_NEAR(mean.resultOf(found(points)[0]).transversalDeviation, 0.3, 1e-9);
+    EXPECT_EQ((RepeatChoice{Rule::Last}).resultOf(found(points)[0]).transversalDeviation, 0.3);
 
     points.set(measured("1FF", 3, kNaN));
     EXPECT_NEAR(mean.resultOf(found(points)[0]).north, 4560000.01, 1e-8);
@@ -137,6 +145,11 @@ TEST(RepeatChoice, WhatIsTooFarApartForAMeanStaysAsItIs)
         return RepeatChoice{Rule::WeightedMean, toleranceM}.leaves(found(points, planeUnitM)[0]);
     };
     EXPECT_FALSE(leaves(0.5)); // on it passes
+    points.find("1001", "1")->north = 4000000.05;
+    points.find("1001", "1F")->north = 4000000.1;
+    EXPECT_FALSE(leaves(0.05)); // also when the difference of two doubles is a little more
+    points.find("1001", "1")->north = 4000000.5;
+    points.find("1001", "1F")->north = 4000001;
     EXPECT_TRUE(leaves(0.49));
     EXPECT_FALSE(leaves(0.49, 0.3048)); // of a project in feet
     points.find("1001", "1F")->elevation = -0.6;

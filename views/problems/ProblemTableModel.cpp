@@ -32,7 +32,7 @@ std::optional<std::string_view> storedText(const Problem& problem, ProblemField 
     case ProblemField::Line:
         return problem.line.view();
     case ProblemField::Point:
-        return writtenPointNumber(problem.point.view());
+        return shownPointNumber(problem);
     case ProblemField::Rover:
         return problem.rover.view();
     case ProblemField::Surveyor:
@@ -275,7 +275,7 @@ bool ProblemTableModel::isFound(const Problem& problem) const
         addSmall(m_text, text);
     };
     add('\n', problem.line);
-    add('/', writtenPointNumber(problem.point.view()));
+    add('/', shownPointNumber(problem));
     add('\n', problem.otherLine);
     add('/', writtenPointNumber(problem.otherPoint.view()));
     add('\n', problem.rover);

@@ -12,10 +12,10 @@
 #include "model/CoordinateRecord.h"
 #include "quality/colors/ResultColors.h"
 #include "tests/map/TestSurvey.h"
-#include "tests/support/GeoTiff.h"
 #include "tests/support/HttpTestServer.h"
 #include "tests/support/Literals.h"
 #include "tests/support/MadeRaster.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
@@ -88,24 +88,21 @@ QImage redOf(const QString& path)
 QRect blackPart(const QImage& image)
 {
     QRect part;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (qGray(image.pixel(x, y)) < 128)
-                part |= QRect(x, y, 1, 1);
-        }
-    }
+    countPixels(image, image.rect(), [&](const QPoint& at) {
+        const bool isBlack = qGray(image.pixel(at)) < 128;
+        if (isBlack)
+            part |= QRect(at, QSize(1, 1));
+        return isBlack;
+    });
     return part;
 }
 
 int differingPixels(const QImage& a, const QImage& b)
 {
     constexpr int kRounding = 16; // of 255
-    int count = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x)
-            count += qAbs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) > kRounding ? 1 : 0;
-    }
-    return count;
+    return countPixels(a, a.rect(), [&](const QPoint& at) {
+        return qAbs(qGray(a.pixel(at)) - qGray(b.pixel(at))) > kRounding;
+    });
 }
 
 /// What the pages of a PDF file draw, as PDF operators.
@@ -296,8 +293,11 @@ private Q_SLOTS:
     void bandsFitTogetherOverAGround()
     {
         const TestFolder folder;
-        const GeoTiff tiff{{1200, 3400}, Qt::darkGreen, {499900, 4403100}};
-        QVERIFY(tiff.write(folder.path("ground.tif")));
+        MadeRaster made;
+        made.size = {1200, 3400};
+        made.place = {499900, 1, 0, 4403100, 0, -1};
+        made.value = [](int, int, int band) { return band == 1 ? 128 : 0; };
+        QVERIFY(made.write(folder.path("ground.tif")));
         const MapSheet sheet = surveySheet();
         QCOMPARE(sheet.ground->addOverlay(folder.path("ground.tif")), QString());
         const QImage whole = mapOf(sheet);

@@ -13,9 +13,10 @@
 #include "tests/map/TestSurvey.h"
 #include "tests/project/OpenProject.h"
 #include "tests/support/Boxes.h"
-#include "tests/support/GeoTiff.h"
 #include "tests/support/Literals.h"
+#include "tests/support/MadeRaster.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Widgets.h"
 
 #include <QPrinter>
 #include <QtTest>
@@ -65,9 +66,9 @@ private Q_SLOTS:
             scale->setFocus();
             scale->selectAll();
             QTest::keyClicks(scale, "2500"_q);
-            QVERIFY(tells(dialog, "a part of the area only"));
+            QVERIFY(says(dialog, "a part of the area only"_q));
             takeFrom(dialog, "&Area:", "What");
-            QVERIFY(!tells(dialog, "a part of the area only"));
+            QVERIFY(!says(dialog, "a part of the area only"_q));
             press(dialog, "Save As...");
             QVERIFY(!dialog.isVisible());
             QVERIFY(m_project->host.told.contains("1:2,500 on A3"_q));
@@ -114,9 +115,14 @@ private Q_SLOTS:
     {
         const TestFolder folder;
         for (const char* const name : {"top.tif", "hidden.tif", "low.tif"}) {
-            const GeoTiff tiff{
-                {40, 40}, *name == 't' ? Qt::red : Qt::blue, {500000, 4400040}, 1, 0};
-            QVERIFY(tiff.write(folder.path(name)));
+            MadeRaster made;
+            made.size = {40, 40};
+            made.epsg = 0;
+            made.place = {500000, 1, 0, 4400040, 0, -1};
+            made.value = [&](int, int, int band) {
+                return band == (*name == 't' ? 0 : 2) ? 255 : 0;
+            };
+            QVERIFY(made.write(folder.path(name)));
         }
         OverlayList::write({{folder.path("top.tif"), true, 1},
                             {folder.path("hidden.tif"), false, 1},
@@ -196,24 +202,6 @@ private:
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(box->currentIndex(), row);
     }
-    static void press(QDialog& dialog, const char* button)
-    {
-        for (QPushButton* const each : dialog.findChildren<QPushButton*>()) {
-            if (each->text().remove(QLatin1Char('&')) == QString::fromUtf8(button)) {
-                QTest::mouseClick(each, Qt::LeftButton);
-                return;
-            }
-        }
-        qFatal("no button %s", button);
-    }
-    static bool tells(QDialog& dialog, const char* part)
-    {
-        const auto labels = dialog.findChildren<QLabel*>();
-        return std::any_of(labels.begin(), labels.end(), [&](const QLabel* each) {
-            return each->text().contains(QString::fromUtf8(part));
-        });
-    }
-
     std::unique_ptr<OpenProject> m_project;
     std::unique_ptr<MapWindow> m_map;
 };

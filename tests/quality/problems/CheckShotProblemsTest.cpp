@@ -4,33 +4,6 @@
 
 #include <cmath>
 
-namespace {
-
-using Texts = std::vector<std::string>;
-
-/// Two bases with a rover each, on three days.
-FieldDays goodDays(unsigned seed = 1)
-{
-    FieldDays field(seed);
-    for (int day = 1; day <= 3; ++day) {
-        field.work({.day = day, .base = "B1", .rover = "R1"});
-        field.work({.day = day, .base = "B2", .rover = "R2"});
-    }
-    return field;
-}
-
-std::string firstOf(const Texts& texts)
-{
-    return texts.empty() ? std::string() : texts.front();
-}
-
-bool contains(const std::string& text, const char* part)
-{
-    return text.find(part) != std::string::npos;
-}
-
-} // namespace
-
 TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
 {
     FieldDays field = goodDays();
@@ -57,6 +30,7 @@ TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
     EXPECT_EQ(shift->limit, 0.1);
     EXPECT_EQ(shift->count, 210U);
     EXPECT_EQ(shift->second, 214); // 210 heights and 4 resurveys
+    EXPECT_EQ(field.find({"base_shift"})[0].second, 214);
     EXPECT_EQ(shift->timeMs / 86400000, FieldDays::timeOf(4) / 86400000);
     const std::string text = shift->kind->what(*shift).toStdString();
     EXPECT_TRUE(contains(text, "210 of 212 results of base B3 on 2026/05/04 are 1.5")) << text;
@@ -74,51 +48,6 @@ TEST(Shifts, ExplainsStepsBetweenNeighbours)
     EXPECT_EQ(field.told(kinds).size(), 1U);
     field.at("1130", "1200").elevation -= 6;
     EXPECT_EQ(field.told(kinds).size(), 2U);
-}
-
-TEST(Shifts, ThePoleIsToldFromTheBase)
-{
-    FieldDays oneOfTwo = goodDays();
-    oneOfTwo.work({.day = 4, .base = "B1", .rover = "R1"});
-    oneOfTwo.work({.day = 4, .base = "B1", .rover = "R2", .heightM = -0.2});
-    std::string text = firstOf(oneOfTwo.told());
-    EXPECT_TRUE(contains(text, "pole_shift: All 30 results of rover R2 on 2026/05/04 are 0."))
-        << text;
-    EXPECT_TRUE(contains(text, "m too low. The antenna height of the pole is wrong.")) << text;
-
-    FieldDays manyToOne = goodDays(); // most of the base's results are of the wrong rover
-    manyToOne.work({.day = 4, .base = "B1", .rover = "R1", .points = 5});
-    manyToOne.work({.day = 4, .base = "B1", .rover = "R2", .points = 60, .heightM = 0.5});
-    EXPECT_TRUE(contains(firstOf(manyToOne.told()), "pole_shift"));
-
-    FieldDays twoBases = goodDays();
-    for (const char* base : {"B1", "B2"})
-        twoBases.work({.day = 4, .base = base, .rover = "R2", .heightM = 0.2});
-    EXPECT_TRUE(contains(firstOf(twoBases.told()), "All 60 results of rover R2"));
-
-    FieldDays goodElsewhere = goodDays();
-    goodElsewhere.work({.day = 4, .base = "B1", .rover = "R1"});
-    goodElsewhere.work({.day = 4, .base = "B2", .rover = "R1", .heightM = 0.2});
-    EXPECT_TRUE(contains(firstOf(goodElsewhere.told()), "All 30 results of base B2"));
-    for (FieldDays* const field : {&oneOfTwo, &manyToOne, &twoBases, &goodElsewhere})
-        EXPECT_EQ(field->told().size(), 1U);
-}
-
-TEST(Shifts, WhatOneRoverAndOneBaseHadOnOtherDaysMayTellThemApart)
-{
-    FieldDay wrong{.day = 4, .base = "B2", .rover = "R2", .heightM = 0.2};
-    const auto told = [&] {
-        FieldDays field = goodDays();
-        field.work(wrong);
-        return field.told();
-    };
-    EXPECT_TRUE(contains(firstOf(told()), "The height of the base is wrong, or that of the pole "
-                                          "of rover R2, which alone has used it."));
-    wrong.antennaM = 1.8; // typed too small, so that the ground seems higher
-    EXPECT_TRUE(contains(firstOf(told()), "pole_shift"));
-    wrong.antennaM = 2.2; // another pole
-    wrong.baseAltitudeM = 50.2;
-    EXPECT_TRUE(contains(firstOf(told()), "The coordinates of the base are wrong."));
 }
 
 TEST(Shifts, OnThePlaneADirectionIsTold)
@@ -283,6 +212,25 @@ TEST(Shifts, EveryPlantedOneIsFoundAndNoOther)
               << ", rows besides: " << unexplained << '\n';
     EXPECT_EQ(found, planted);
     EXPECT_EQ(unexplained, 0U);
+}
+
+TEST(Shifts, EachBaseAndDayIsListedWhenWanted)
+{
+    FieldDays field;
+    field.stakingM = field.measuringM = field.designHeightM = 0.001;
+    field.work({.day = 1, .base = "B1", .eastM = 0.03, .northM = -0.04, .heightM = -0.02});
+    field.at("1000", "1005").east += 50; // no part of the mean
+    field.workAgain({.day = 2, .base = "B2", .rover = "R2"}, 1, 1);
+    EXPECT_EQ(field.told({"base_difference"}), Texts());
+    field.parameters.set("base_differences", "1");
+    const Texts texts = field.told({"base_difference"});
+    ASSERT_EQ(texts.size(), 3U);
+    EXPECT_TRUE(contains(texts[0], "29 of 30 results of base B1 on 2026/05/01 are 0.05"))
+        << texts[0];
+    EXPECT_TRUE(contains(texts[0], " m too far to the southeast (14")) << texts[0];
+    EXPECT_TRUE(contains(texts[1], "1 of 1 results of base B2 on ")) << texts[1];
+    EXPECT_TRUE(contains(texts[2], "1 of 1 points that were measured again")) << texts[2];
+    EXPECT_TRUE(contains(texts[2], "northwest (32")) << texts[2];
 }
 
 TEST(Shifts, BadInputIsNone)

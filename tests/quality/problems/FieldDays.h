@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+using Texts = std::vector<std::string>;
+
 /// What a crew does on a day of May 2026, and what is wrong by the same with all of it.
 struct FieldDay
 {
@@ -158,3 +160,24 @@ private:
     int m_line = 0;
     std::map<std::string, std::array<double, 3>> m_truth;
 };
+
+/// Two bases with a rover each, on three days.
+inline FieldDays goodDays(unsigned seed = 1)
+{
+    FieldDays field(seed);
+    for (int day = 1; day <= 3; ++day) {
+        field.work({.day = day, .base = "B1", .rover = "R1"});
+        field.work({.day = day, .base = "B2", .rover = "R2"});
+    }
+    return field;
+}
+
+inline std::string firstOf(const Texts& texts)
+{
+    return texts.empty() ? std::string() : texts.front();
+}
+
+inline bool contains(const std::string& text, const char* part)
+{
+    return text.find(part) != std::string::npos;
+}

@@ -100,6 +100,16 @@ TEST_F(NameProblems, ASecondResultOfAPointBecomesACheckPointAndReplacesNothing)
     EXPECT_EQ(proposals(), Rows{"1002/10021021 > 1002/C10021020"});
 }
 
+TEST_F(NameProblems, OneMoreResultStandsWhereTheFirstOneDoes)
+{
+    SurveyPoint& result = survey.result(1002, 1021);
+    result.east = survey.designed(1002, 1020).east;
+    result.north = survey.designed(1002, 1020).north;
+    EXPECT_EQ(rows(), Rows{"wrong_name 10021021 10021020 1"});
+    survey.result(1002, 1020).east += 12; // moved aside, or the other one is it
+    EXPECT_EQ(rows(), Rows{"wrong_name 10021021 10021020"});
+}
+
 TEST_F(NameProblems, ResurveysAndCheckPointsKeepTheirMark)
 {
     survey.stake(survey.designed(1000, 1003), 0, 0, "10001004F"); // of 1003, named after 1004

@@ -100,19 +100,27 @@ TEST_F(ProblemFinders, ARepeatTellsHowFarItLiesFromWhatItRepeats)
 {
     add("10011001");
     SurveyPoint again = *survey.find("10", "10011001");
+    again.pointNumber = "C10011001_0";
+    again.north += 0.01;
+    again.east += 0.02;
+    again.elevation += 0.01;
+    survey.set(again);
     again.pointNumber = "C10011001_1";
-    again.north += 0.03;
-    again.east += 0.04;
-    again.elevation += 0.2;
+    again.elevation -= 0.2;
     survey.set(again);
     again.pointNumber = "C99999999_0";
     survey.set(again);
+    again.pointNumber = "C20";
+    survey.set(again);
+    design.set(designPoint("10", "C20")); // it measures that one
 
     const ProblemList problems = find();
 
     EXPECT_THAT(textsOf(problems),
-                ElementsAre("repeat 10/C10011001_1 0.050", "repeat 10/C99999999_0"));
-    EXPECT_EQ(what(problems[0]), "It repeats 10011001, 0.050 m beside it and 0.200 m in height.");
+                ElementsAre("repeat 10/C10011001 0.022", "repeat_off 10/C10011001 -0.190 0.030",
+                            "repeat 10/C99999999"));
+    EXPECT_EQ(what(problems[1]), "It repeats 10011001, but lies -0.190 m off in height.");
+    EXPECT_EQ(what(problems[0]), "It repeats 10011001, 0.022 m beside it and 0.010 m in height.");
 }
 
 TEST_F(ProblemFinders, ADesignPointWithoutItsOwnResultIsMissing)

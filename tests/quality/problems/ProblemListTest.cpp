@@ -58,7 +58,7 @@ TEST(ProblemCsv, HasNamesForScriptsAndWordsForPeople)
 
     const std::string captions = "Severity,Kind,Line,Point,What,Value,Limit,Rover,Surveyor,Day\n";
     const std::string what = "The line has no result of the point that this one repeats.";
-    EXPECT_EQ(text, captions + "note,repeat,\"L \"\"1\"\"\",C10011001_3," + what +
+    EXPECT_EQ(text, captions + "note,repeat,\"L \"\"1\"\"\",C10011001," + what +
                         ",0.050,,\"3,5\",Li,2026/05/03\n" + captions +
                         "Note,Measured again,\"L \"\"1\"\"\",C10011001," + what +
                         ",0.050 m,,\"3,5\",Li,2026/05/02\n");
@@ -134,6 +134,19 @@ TEST_F(Fingerprint, OfADesignPointIsThatOfItsRecord)
     EXPECT_EQ(fingerprintOf(missing, design, survey), before);
     design.find("10", "1001")->azimuth = 0.1;
     EXPECT_NE(fingerprintOf(missing, design, survey), before);
+}
+
+TEST_F(Fingerprint, OfADesignStaysWhenItIsStaked)
+{
+    design.set(designPoint("10", "1002"));
+    Problem& spacing = m_list.add(kindOf("line_spacing"), *design.find("10", "1001"));
+    spacing.otherLine = spacing.line;
+    spacing.otherPoint = m_list.keep("1002");
+    const std::string before = fingerprintOf(spacing, design, survey);
+    survey.set(goodResult("10", "1002"));
+    EXPECT_EQ(fingerprintOf(spacing, design, survey), before);
+    design.find("10", "1002")->north += 1;
+    EXPECT_NE(fingerprintOf(spacing, design, survey), before);
 }
 
 } // namespace

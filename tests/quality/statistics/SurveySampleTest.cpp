@@ -163,44 +163,19 @@ TEST(TestFigures, CountEachTestByKindOfPoint)
     EXPECT_EQ(tests.at(&quality_test::kAntennaLow).all().failed, 3U);
 }
 
-TEST(WorstFault, IsTheOneFarthestBeyondItsLimit)
+TEST(Pace, IsThatOfTheLastWorkingDays)
 {
-    MadeSurvey survey;
-    SurveyPoint& point = survey.measure("1", "1");
-    EXPECT_FALSE(worstFaultOf(survey.sample().results[0], survey.limits));
-    const auto worst = [&] { return *worstFaultOf(survey.sample().results[0], survey.limits); };
-    point.east -= 1; // twice its limit
-    point.longitudinalDeviation = -1.25;
-    EXPECT_EQ(worst().test, &quality_test::kAlong);
-    EXPECT_EQ(worst().ratio(), -2.5);
-    point.satelliteNumber = 2; // a third of its limit
-    EXPECT_EQ(worst().test, &quality_test::kSatellites);
-    EXPECT_EQ(worst().ratio(), 2.0 / 6);
-    survey.limits.vrmsM = 0;
-    point.verticalAccuracy = 0.001;
-    EXPECT_EQ(worst().test, &quality_test::kVrms);
-    EXPECT_TRUE(std::isnan(worst().ratio()));
-}
-
-TEST(StakingProgress, CumulatesTheDaysInTheirOrder)
-{
-    constexpr std::int64_t kDayMs = 86400000;
-    MadeSurvey survey;
-    for (const char* number : {"1", "2", "3", "4", "5"})
-        survey.plan("1", number);
-    survey.measure("1", "1").dateTime += 2 * kDayMs;
-    survey.measure("1", "1F"); // another day, but no staked point
-    survey.measure("1", "6");  // nor this
-    survey.measure("1", "2").pointMark = 0;
-    survey.results.find("1", "2")->dateTime += 2 * kDayMs;
-    survey.measure("1", "3").dateTime += kDayMs;
-    survey.measure("1", "4").dateTime = 0;
-    const StakingProgress progress = progressOf(survey.sample());
-    EXPECT_EQ(progress.designed, 5U);
-    EXPECT_EQ(progress.undated, 1U);
-    std::vector<std::vector<std::int64_t>> days;
-    for (const DayProgress& day : progress.days)
-        days.push_back({day.day, std::int64_t(day.sources), std::int64_t(day.receivers),
-                        std::int64_t(day.cumulated)});
-    EXPECT_EQ(days, (std::vector<std::vector<std::int64_t>>{{19931, 0, 1, 2}, {19932, 1, 1, 4}}));
+    StakingProgress progress;
+    EXPECT_FALSE(paceOf(progress, 10).daysNeeded.has_value());
+    progress.days = {{100, 900, 0, 900}}; // long ago, too good to count
+    for (std::int64_t i = 0; i < 7; ++i)
+        progress.days.push_back({200 + 2 * i, 10, 20 + std::size_t(i), 0}); // every second day
+    const Pace pace = paceOf(progress, 34);
+    EXPECT_EQ(pace.workingDays, 7U);
+    EXPECT_DOUBLE_EQ(pace.pointsADay, 33);
+    EXPECT_EQ(pace.daysNeeded, 2U);  // a point more than one day's
+    EXPECT_EQ(pace.endDay, 212 + 4); // 2 days at 13 / 7 days each
+    EXPECT_EQ(paceOf(progress, 33).daysNeeded, 1U);
+    EXPECT_EQ(paceOf(progress, 0).endDay, 212);
+    EXPECT_FALSE(paceOf(progress, 1'000'000'000).endDay.has_value());
 }

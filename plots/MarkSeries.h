@@ -1,0 +1,52 @@
+#pragma once
+
+#include "plots/PlotItem.h"
+
+#include <QColor>
+
+/// A result in a plot.
+struct PlotMark
+{
+    double x = 0;
+    double y = 0;
+    std::uint32_t place = 0; ///< in the sample
+    std::uint8_t color = 0;  ///< which of the colours
+};
+
+/// Many results as small discs. Those of later colours lie above those of earlier ones, the
+/// selected above all.
+///
+/// They are stamped into an image, each place of it once a colour: a picture of 200,000 takes some
+/// milliseconds. Where few are drawn on paper they stay single discs.
+class MarkSeries : public PlotItem
+{
+public:
+    /// \param marks     with values that are shown (`isShown`)
+    /// \param selection outlives the series
+    MarkSeries(std::vector<PlotMark> marks, std::vector<QColor> colors,
+               const PlotSelection& selection, const QColor& selected, const QColor& ring);
+
+    void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+              const QRectF& canvas) const override;
+    [[nodiscard]] std::optional<Hit> hit(const QPointF& at, const PlotMaps& maps,
+                                         double reach) const override;
+    void collect(const QRectF& rectangle, const PlotMaps& maps,
+                 std::vector<std::uint32_t>& places) const override;
+    [[nodiscard]] std::size_t countOutside(const QwtInterval& x,
+                                           const QwtInterval& y) const override;
+
+private:
+    void stamp(QPainter& painter, const PlotMaps& maps, const QRectF& canvas, double ratio) const;
+    void drawSingly(QPainter& painter, const PlotMaps& maps, const QRectF& canvas) const;
+    [[nodiscard]] bool isSelected(const PlotMark& mark) const
+    {
+        return mark.place < m_selection.size() && m_selection[mark.place];
+    }
+
+    std::vector<PlotMark> m_marks;
+    std::vector<QColor> m_colors;
+    const PlotSelection& m_selection;
+    QColor m_selected;
+    QColor m_ring;
+    double m_radius; ///< logical pixels
+};

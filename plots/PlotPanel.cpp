@@ -1,0 +1,289 @@
+#include "plots/PlotPanel.h"
+
+#include "lum_sdk/DpiScale.h"
+
+#include <QPen>
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_grid.h>
+#include <qwt_plot_layout.h>
+#include <qwt_plot_marker.h>
+#include <qwt_scale_engine.h>
+#include <qwt_scale_widget.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kDataZ = 20;
+constexpr double kLargestZoom = 1e-6; // of all, seen at once
+constexpr double kSmallestZoom = 20;
+const QString kLongestDate = QStringLiteral("0000-00-00");
+
+QFont smaller(QFont font)
+{
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * 0.9);
+    else
+        font.setPixelSize(std::max(8, font.pixelSize() * 9 / 10));
+    return font;
+}
+
+} // namespace
+
+PlotPanel::PlotPanel(QWidget* parent) : QwtPlot(parent), m_grid(new QwtPlotGrid)
+{
+    auto* const canvas = qobject_cast<QwtPlotCanvas*>(this->canvas());
+    canvas->setFrameShape(QFrame::NoFrame);
+    canvas->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
+    canvas->setCursor(Qt::ArrowCursor);
+    plotLayout()->setAlignCanvasToScales(true);
+    plotLayout()->setSpacing(dpi_scaled(2));
+    m_grid->attach(this);
+    const QFontMetrics metrics(smaller(font()));
+    // The same beside every x axis, so that the canvases of several panels end at the same place.
+    const int room = metrics.horizontalAdvance(kLongestDate) / 2 + dpi_scaled(4);
+    axisWidget(xBottom)->setMinBorderDist(room, room);
+    for (const int axis : {xBottom, yLeft}) {
+        axisWidget(axis)->setMargin(0);
+        setAxisFont(axis, smaller(font()));
+        setAxisMaxMinor(axis, 0);
+    }
+    setMinimumSize(dpi_scaled(160), dpi_scaled(80));
+    setScale(*this, yLeft, PlotScale::Number);
+}
+
+void PlotPanel::clear()
+{
+    m_items.clear();
+    m_grid->detach();
+    detachItems();
+    m_grid->attach(this);
+}
+
+void PlotPanel::setLook(const PlotLook& look)
+{
+    m_look = look;
+    QPalette colors = look.palette;
+    colors.setColor(QPalette::WindowText, look.text);
+    colors.setColor(QPalette::Text, look.text);
+    setPalette(colors);
+    for (const int axis : {xBottom, yLeft})
+        axisWidget(axis)->setPalette(colors);
+    setCanvasBackground(look.paper);
+    QColor grid = look.faint;
+    grid.setAlpha(110);
+    m_grid->setPen(grid, 0, Qt::DotLine);
+}
+
+void PlotPanel::setAxes(PlotScale x, const QString& xTitle, const QString& yTitle)
+{
+    m_xScale = x;
+    setScale(*this, xBottom, x);
+    setTexts(xTitle, yTitle);
+}
+
+void PlotPanel::setAxes(QwtScaleEngine* xEngine, QwtScaleDraw* xDraw, const QString& xTitle,
+                        const QString& yTitle)
+{
+    m_xScale = PlotScale::Number;
+    setAxisScaleEngine(xBottom, xEngine);
+    setAxisScaleDraw(xBottom, xDraw);
+    setTexts(xTitle, yTitle);
+}
+
+void PlotPanel::setTexts(const QString& xTitle, const QString& yTitle)
+{
+    const std::pair<int, QString> titles[] = {{xBottom, xTitle}, {yLeft, yTitle}};
+    for (const auto& [axis, title] : titles) {
+        QwtText text(title, QwtText::PlainText);
+        text.setFont(smaller(font()));
+        setAxisTitle(axis, text);
+    }
+}
+
+void PlotPanel::setXAxisShown(bool isShown)
+{
+    QwtScaleDraw* const draw = axisScaleDraw(xBottom);
+    draw->enableComponent(QwtAbstractScaleDraw::Labels, isShown);
+    draw->enableComponent(QwtAbstractScaleDraw::Ticks, isShown);
+    draw->enableComponent(QwtAbstractScaleDraw::Backbone, isShown);
+    if (!isShown)
+        setAxisTitle(xBottom, QString());
+}
+
+void PlotPanel::setRanges(const PlotRanges& x, const PlotRanges& y)
+{
+    m_x = x;
+    m_y = y;
+}
+
+void PlotPanel::add(std::unique_ptr<PlotItem> item)
+{
+    m_items.push_back(item.get());
+    addPlain(std::move(item), kDataZ);
+}
+
+void PlotPanel::addPlain(std::unique_ptr<QwtPlotItem> item, double z)
+{
+    item->setZ(z);
+    item->setRenderHint(QwtPlotItem::RenderAntialiased);
+    item.release()->attach(this); // the base class deletes what is attached
+}
+
+void PlotPanel::addHorizontal(double y, const QString& text, const QPen& pen)
+{
+    auto marker = std::make_unique<QwtPlotMarker>();
+    marker->setLineStyle(QwtPlotMarker::HLine);
+    marker->setYValue(y);
+    marker->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
+    QwtText label(text, QwtText::PlainText);
+    label.setColor(pen.color());
+    label.setFont(smaller(font()));
+    marker->setLabel(label);
+    marker->setLinePen(pen);
+    addPlain(std::move(marker), kDataZ + 1);
+}
+
+void PlotPanel::addVertical(double x, const QString& text, const QPen& pen)
+{
+    auto marker = std::make_unique<QwtPlotMarker>();
+    marker->setLineStyle(QwtPlotMarker::VLine);
+    marker->setXValue(x);
+    marker->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
+    marker->setLabelOrientation(Qt::Vertical);
+    QwtText label(text, QwtText::PlainText);
+    label.setColor(pen.color());
+    label.setFont(smaller(font()));
+    marker->setLabel(label);
+    marker->setLinePen(pen);
+    addPlain(std::move(marker), kDataZ + 1);
+}
+
+PlotPanel::View PlotPanel::view() const
+{
+    return {axisInterval(xBottom), axisInterval(yLeft)};
+}
+
+QwtInterval PlotPanel::allowed(const QwtInterval& wanted, const PlotRanges& ranges) const
+{
+    const double whole = std::max(ranges.all.width(), ranges.usual.width());
+    const double width = std::clamp(wanted.width(), whole * kLargestZoom, whole * kSmallestZoom);
+    const double farthest = whole * kSmallestZoom;
+    const double middle =
+        std::clamp((wanted.minValue() + wanted.maxValue()) / 2, ranges.all.minValue() - farthest,
+                   ranges.all.maxValue() + farthest);
+    return {middle - width / 2, middle + width / 2};
+}
+
+void PlotPanel::setView(View view)
+{
+    view = {allowed(view.x, m_x), allowed(view.y, m_y)};
+    if (m_isFromZero)
+        view.y = {0, view.y.width()};
+    m_asked = view;
+    const View shown = fitted(view);
+    setAxisScale(xBottom, shown.x.minValue(), shown.x.maxValue());
+    setAxisScale(yLeft, shown.y.minValue(), shown.y.maxValue());
+    updateAxes();
+}
+
+PlotPanel::View PlotPanel::fitted(const View& view) const
+{
+    if (!m_hasEqualAxes || m_canvas.width() < 1 || m_canvas.height() < 1)
+        return view;
+    const double perPixel =
+        std::max(view.x.width() / m_canvas.width(), view.y.width() / m_canvas.height());
+    const auto around = [perPixel](const QwtInterval& range, double pixels) {
+        const double middle = (range.minValue() + range.maxValue()) / 2;
+        const double half = perPixel * pixels / 2;
+        return QwtInterval(middle - half, middle + half);
+    };
+    return {around(view.x, m_canvas.width()), around(view.y, m_canvas.height())};
+}
+
+PlotPanel::View PlotPanel::zoomed(const QPointF& about, double factor) const
+{
+    const PlotMaps now = maps();
+    const auto around = [factor](const QwtInterval& range, double fixed) {
+        return QwtInterval(fixed + (range.minValue() - fixed) * factor,
+                           fixed + (range.maxValue() - fixed) * factor);
+    };
+    View wanted = view();
+    wanted.x = around(wanted.x, now.x.invTransform(about.x()));
+    if (!m_isFromZero)
+        wanted.y = around(wanted.y, now.y.invTransform(about.y()));
+    return wanted;
+}
+
+PlotPanel::View PlotPanel::moved(const View& from, const QPointF& byPixels) const
+{
+    const QSizeF size = canvas()->contentsRect().size();
+    const double x = from.x.width() * byPixels.x() / std::max(1.0, size.width());
+    const double y = from.y.width() * byPixels.y() / std::max(1.0, size.height());
+    return {{from.x.minValue() - x, from.x.maxValue() - x},
+            {from.y.minValue() + y, from.y.maxValue() + y}};
+}
+
+PlotPanel::View PlotPanel::inside(const QRectF& rectangle) const
+{
+    const PlotMaps now = maps();
+    return {{now.x.invTransform(rectangle.left()), now.x.invTransform(rectangle.right())},
+            {now.y.invTransform(rectangle.bottom()), now.y.invTransform(rectangle.top())}};
+}
+
+PlotMaps PlotPanel::maps() const
+{
+    return {canvasMap(xBottom), canvasMap(yLeft)};
+}
+
+QString PlotPanel::valueText(const QPointF& value) const
+{
+    const auto line = [this](int axis, PlotScale scale, double at) {
+        return axisTitle(axis).text() + QLatin1String(": ") +
+               scaleText(scale, at, tickStepOf(axisScaleDiv(axis)));
+    };
+    const QString y = line(yLeft, PlotScale::Number, value.y());
+    if (axisTitle(xBottom).isEmpty())
+        return y;
+    return line(xBottom, m_xScale, value.x()) + QLatin1Char('\n') + y;
+}
+
+void PlotPanel::setTickCounts(const QSizeF& size)
+{
+    const QFontMetrics metrics(axisFont(xBottom));
+    const bool hasDates = m_xScale == PlotScale::Moment || m_xScale == PlotScale::Day;
+    const int widest =
+        metrics.horizontalAdvance(hasDates ? kLongestDate : QStringLiteral("-00000.0"));
+    setAxisMaxMajor(xBottom, std::clamp(int(size.width() / (1.6 * widest)), 1, 12));
+    setAxisMaxMajor(yLeft, std::clamp(int(size.height() / (2.5 * metrics.height())), 1, 10));
+}
+
+void PlotPanel::fitToPaper(const QSizeF& size)
+{
+    setTickCounts(size);
+    // The room for the axes depends on their texts, which depend on the ranges.
+    for (int i = 0; i < 2; ++i) {
+        plotLayout()->activate(this, {{0, 0}, size}, QwtPlotLayout::IgnoreScrollbars);
+        m_canvas = plotLayout()->canvasRect().size();
+        if (m_asked.x.width() > 0)
+            setView(m_asked);
+    }
+}
+
+void PlotPanel::fitToScreen()
+{
+    plotLayout()->invalidate();
+    setTickCounts(size());
+    updateLayout();
+    m_canvas = canvas()->contentsRect().size();
+    if (m_asked.x.width() > 0)
+        setView(m_asked);
+}
+
+void PlotPanel::resizeEvent(QResizeEvent* event)
+{
+    QwtPlot::resizeEvent(event);
+    fitToScreen();
+    replot();
+}

@@ -1,0 +1,99 @@
+#include "plots/PlotScales.h"
+
+#include <QDateTime>
+#include <QLocale>
+#include <qwt_date_scale_draw.h>
+#include <qwt_date_scale_engine.h>
+#include <qwt_plot.h>
+#include <qwt_scale_engine.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+class NumberDraw : public QwtScaleDraw
+{
+public:
+    [[nodiscard]] QwtText label(double value) const override
+    {
+        return {numberText(value, decimalsFor(tickStepOf(scaleDiv()))), QwtText::PlainText};
+    }
+};
+
+/// Has no ticks between days.
+class DayEngine : public QwtDateScaleEngine
+{
+public:
+    DayEngine() : QwtDateScaleEngine(Qt::UTC) {}
+
+    [[nodiscard]] QwtDate::IntervalType intervalType(const QDateTime& from, const QDateTime& to,
+                                                     int maxSteps) const override
+    {
+        return std::max(QwtDate::Day, QwtDateScaleEngine::intervalType(from, to, maxSteps));
+    }
+};
+
+const QString kTime = QStringLiteral("hh:mm");
+const QString kSeconds = QStringLiteral("hh:mm:ss");
+const QString kDay = QStringLiteral("yyyy-MM-dd");
+
+QwtDateScaleDraw* makeDraw(PlotScale scale)
+{
+    auto* const draw = new QwtDateScaleDraw(Qt::UTC); // the axis owns it
+    const QString below = scale == PlotScale::TimeOfDay ? QString() : QLatin1Char('\n') + kDay;
+    draw->setDateFormat(QwtDate::Millisecond, QStringLiteral("hh:mm:ss.zzz") + below);
+    draw->setDateFormat(QwtDate::Second, kSeconds + below);
+    draw->setDateFormat(QwtDate::Minute, kTime + below);
+    draw->setDateFormat(QwtDate::Hour, kTime + below);
+    draw->setDateFormat(QwtDate::Day, scale == PlotScale::TimeOfDay ? kTime : kDay);
+    draw->setDateFormat(QwtDate::Week, kDay);
+    draw->setDateFormat(QwtDate::Month, QStringLiteral("yyyy-MM"));
+    draw->setDateFormat(QwtDate::Year, QStringLiteral("yyyy"));
+    return draw;
+}
+
+} // namespace
+
+int decimalsFor(double tickStep)
+{
+    if (!(tickStep > 0) || !std::isfinite(tickStep))
+        return 0;
+    return std::clamp(int(-std::floor(std::log10(tickStep) + 1e-6)), 0, 9);
+}
+
+QString numberText(double value, int decimals)
+{
+    const double smallest = 0.5 * std::pow(10, -decimals);
+    return QLocale(QLocale::English)
+        .toString(std::fabs(value) < smallest ? 0.0 : value, 'f', decimals); // no "-0"
+}
+
+double tickStepOf(const QwtScaleDiv& division)
+{
+    const QList<double> ticks = division.ticks(QwtScaleDiv::MajorTick);
+    return ticks.size() < 2 ? 0 : std::fabs(ticks[1] - ticks[0]);
+}
+
+void setScale(QwtPlot& plot, int axis, PlotScale scale)
+{
+    if (scale == PlotScale::Number) {
+        plot.setAxisScaleEngine(axis, new QwtLinearScaleEngine);
+        plot.setAxisScaleDraw(axis, new NumberDraw);
+        return;
+    }
+    plot.setAxisScaleEngine(axis, scale == PlotScale::Day ? new DayEngine
+                                                          : new QwtDateScaleEngine(Qt::UTC));
+    plot.setAxisScaleDraw(axis, makeDraw(scale));
+}
+
+QString scaleText(PlotScale scale, double value, double tickStep)
+{
+    if (scale == PlotScale::Number)
+        return numberText(value, std::min(decimalsFor(tickStep) + 3, 4));
+    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(std::int64_t(value), Qt::UTC);
+    if (scale == PlotScale::Day)
+        return moment.toString(kDay);
+    return moment.toString(scale == PlotScale::TimeOfDay ? kSeconds
+                                                         : kDay + QLatin1Char(' ') + kSeconds);
+}

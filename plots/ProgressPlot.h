@@ -1,0 +1,27 @@
+#pragma once
+
+#include "plots/StatisticsPlot.h"
+#include "quality/statistics/StakingProgress.h"
+
+#include <QCoreApplication>
+
+/// The design points staked on each day, by surveyor, and below that all until then beside the
+/// design, with the days that are still needed at the present pace.
+class ProgressPlot : public StatisticsPlot
+{
+    Q_DECLARE_TR_FUNCTIONS(ProgressPlot)
+
+public:
+    explicit ProgressPlot(QWidget* parent = nullptr);
+
+protected:
+    [[nodiscard]] QString caption() const override;
+    void fill() override;
+
+private:
+    void fillDays(const PlotRanges& time);
+    void fillCurve(const statistics::StakingProgress& progress, const statistics::Pace& pace,
+                   const PlotRanges& time);
+    [[nodiscard]] QString noteOf(const statistics::StakingProgress& progress,
+                                 const statistics::Pace& pace) const;
+};
