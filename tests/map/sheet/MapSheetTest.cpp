@@ -293,10 +293,7 @@ private Q_SLOTS:
     void bandsFitTogetherOverAGround()
     {
         const TestFolder folder;
-        MadeRaster made;
-        made.size = {1200, 3400};
-        made.place = {499900, 1, 0, 4403100, 0, -1};
-        made.value = [](int, int, int band) { return band == 1 ? 128 : 0; };
+        const MadeRaster made = plainRaster({1200, 3400}, Qt::darkGreen, {499900, 4403100});
         QVERIFY(made.write(folder.path("ground.tif")));
         const MapSheet sheet = surveySheet();
         QCOMPARE(sheet.ground->addOverlay(folder.path("ground.tif")), QString());

@@ -115,14 +115,8 @@ private Q_SLOTS:
     {
         const TestFolder folder;
         for (const char* const name : {"top.tif", "hidden.tif", "low.tif"}) {
-            MadeRaster made;
-            made.size = {40, 40};
-            made.epsg = 0;
-            made.place = {500000, 1, 0, 4400040, 0, -1};
-            made.value = [&](int, int, int band) {
-                return band == (*name == 't' ? 0 : 2) ? 255 : 0;
-            };
-            QVERIFY(made.write(folder.path(name)));
+            const QColor color = *name == 't' ? Qt::red : Qt::blue;
+            QVERIFY(plainRaster({40, 40}, color, {500000, 4400040}).write(folder.path(name)));
         }
         OverlayList::write({{folder.path("top.tif"), true, 1},
                             {folder.path("hidden.tif"), false, 1},
