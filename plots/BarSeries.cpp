@@ -15,9 +15,9 @@ QRectF rectOf(const PlotBar& bar, double below, double top, const PlotMaps& maps
     const double left = std::round(maps.x.transform(bar.from));
     const double right = std::round(maps.x.transform(bar.to));
     const double gap = right - left >= kWideEnough ? 1 : 0;
-    const double bottom = maps.y.transform(below);
-    return {left, maps.y.transform(top), std::max(1.0, right - left - gap),
-            bottom - maps.y.transform(top)};
+    const double bottom = std::round(maps.y.transform(below));
+    const double upper = std::min(std::round(maps.y.transform(top)), bottom - 1);
+    return {left, upper, std::max(1.0, right - left - gap), bottom - upper};
 }
 
 QRectF rectOf(const PlotBar& bar, const PlotMaps& maps)

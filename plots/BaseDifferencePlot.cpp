@@ -23,7 +23,8 @@ constexpr double kLeastM = 0.002;
 constexpr double kUnderData = 10;
 constexpr double kOverData = 25;
 constexpr double kBand = 2; // standard deviations
-constexpr int kBandOpacity = 45;
+constexpr int kBandOpacity = 22;
+constexpr int kEdgeOpacity = 130;
 
 struct Component
 {
@@ -33,9 +34,9 @@ struct Component
 };
 
 constexpr std::array<Component, 3> kComponents{{
-    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "East (m)"), &MeasuredPair::eastM, 1},
-    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "North (m)"), &MeasuredPair::northM, 0},
-    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "Height (m)"), &MeasuredPair::heightM, 2},
+    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "dE (m)"), &MeasuredPair::eastM, 1},
+    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "dN (m)"), &MeasuredPair::northM, 0},
+    {QT_TRANSLATE_NOOP("BaseDifferencePlot", "dH (m)"), &MeasuredPair::heightM, 2},
 }};
 
 /// The differences of a base, and when they were measured.
@@ -102,7 +103,8 @@ void BaseDifferencePlot::fill()
     for (std::size_t base = 0; base < bases.classCount(); ++base)
         addLegend(PlotLegend::Sign::Disc, bases.color(base), bases.name(base));
     addLegend(PlotLegend::Sign::DashedLine, look().limit, tr("tolerance of resurveys"));
-    setNote(tr("Pairs: %1, without a time: %2. Later minus first measurement; line: mean of a "
+    setNote(tr("Pairs: %1, without a time: %2. East, north and height: later minus first "
+               "measurement; line: mean of a "
                "base, band: two standard deviations about it.")
                 .arg(lum::groupedNumber(pairs.size()), lum::groupedNumber(untimed)));
 }
@@ -127,11 +129,10 @@ void BaseDifferencePlot::fillPanel(int number, const std::vector<Shown>& pairs,
     panel(number).setAxes(PlotScale::Moment, tr("Time"), tr(component.axis));
     panel(number).setXAxisShown(number + 1 == int(kComponents.size()));
     panel(number).setRanges(time, rangesOf(std::move(values), {-tolerance, 0, tolerance}, kLeastM));
-    panel(number).addHorizontal(0, {}, QPen(look().faint, 0));
+    panel(number).addHorizontal(0, QPen(look().faint, 0));
     for (const double limit : {-tolerance, tolerance}) {
         if (tolerance > 0)
-            panel(number).addHorizontal(limit, {},
-                                        QPen(look().limit, dpi_scaled(1.0), Qt::DashLine));
+            panel(number).addHorizontal(limit, QPen(look().limit, dpi_scaled(1.0), Qt::DashLine));
     }
     addMeans(number, pairs, bases);
     panel(number).add(std::make_unique<MarkSeries>(std::move(marks), bases.markColors(),
@@ -162,10 +163,12 @@ void BaseDifferencePlot::addMeans(int number, const std::vector<Shown>& pairs,
             QVector<QPointF>{{time.minValue(), moments.mean()}, {time.maxValue(), moments.mean()}});
         panel(number).addPlain(std::make_unique<PolyLine>(mean, QPen(color, dpi_scaled(2.0))),
                                kOverData);
+        QColor edge = color;
+        edge.setAlpha(kEdgeOpacity);
         color.setAlpha(kBandOpacity);
         auto band = std::make_unique<QwtPlotShapeItem>();
         band->setRect({time.minValue(), moments.mean() - half, time.width(), 2 * half});
-        band->setPen(QPen(Qt::NoPen));
+        band->setPen(QPen(edge, 1));
         band->setBrush(color);
         panel(number).addPlain(std::move(band), kUnderData);
     }

@@ -21,7 +21,7 @@ struct Value
 };
 
 constexpr std::array<Value, 2> kValues{{
-    {QT_TRANSLATE_NOOP("DayQualityPlot", "Horizontal accuracy (m)"), 0.005},
+    {QT_TRANSLATE_NOOP("DayQualityPlot", "Accuracy (m)"), 0.005},
     {QT_TRANSLATE_NOOP("DayQualityPlot", "Satellites"), 5},
 }};
 
@@ -73,8 +73,8 @@ void DayQualityPlot::fill()
         addLegend(PlotLegend::Sign::Disc, rovers.color(rover), rovers.name(rover));
     addLegend(PlotLegend::Sign::DashedLine, look().limit,
               tr("limits: %1 m, %2 satellites")
-                  .arg(numberText(limits.hrmsM, 3), numberText(limits.satellites, 0)));
-    setNote(tr("Results: %1, of all shown days together, without a time: %2.")
+                  .arg(shortText(limits.hrmsM), shortText(limits.satellites)));
+    setNote(tr("Horizontal accuracy. Results: %1, of all shown days together, without a time: %2.")
                 .arg(lum::groupedNumber(first.size() - untimed), lum::groupedNumber(untimed)));
 }
 
@@ -91,7 +91,7 @@ void DayQualityPlot::fillPanel(int number, std::vector<PlotMark> marks,
     panel(number).setXAxisShown(number + 1 == int(kValues.size()));
     panel(number).setRanges(time, rangesOf(std::move(values), {0, limit}, value.least));
     if (limit > 0)
-        panel(number).addHorizontal(limit, {}, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
+        panel(number).addHorizontal(limit, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
     panel(number).add(std::make_unique<MarkSeries>(std::move(marks), colors, selection(),
                                                    look().selected, look().text));
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double kLeastM = 0.001;
+constexpr double kLeastM = 0.04;
 constexpr double kClasses = 50; // in what is usually seen
 constexpr double kLeastPoints = 5;
 
@@ -36,6 +36,32 @@ double classWidth(const QwtInterval& range, double limitM)
     return limitM / std::ceil(limitM / width - 1e-9);
 }
 
+std::vector<double> shownDistances(const PlotData& data, const std::vector<std::uint32_t>& places)
+{
+    std::vector<double> distances;
+    distances.reserve(places.size());
+    for (const std::uint32_t place : places) {
+        if (const double distance = data.result(place).distanceM; isShown(distance))
+            distances.push_back(distance);
+    }
+    return distances;
+}
+
+/// The results by class, few where the farthest is very far.
+std::map<std::int64_t, PlotBar> classesOf(const PlotData& data,
+                                          const std::vector<std::uint32_t>& places, double width)
+{
+    std::map<std::int64_t, PlotBar> bars;
+    for (const std::uint32_t place : places) {
+        const double distance = data.result(place).distanceM;
+        if (!isShown(distance))
+            continue;
+        const auto number = static_cast<std::int64_t>(std::ceil((distance - kRoundingM) / width));
+        bars[std::max(std::int64_t(0), number - 1)].places.push_back(place);
+    }
+    return bars;
+}
+
 } // namespace
 
 DistancePlot::DistancePlot(QWidget* parent) : StatisticsPlot(1, parent)
@@ -51,32 +77,36 @@ QString DistancePlot::caption() const
 void DistancePlot::fill()
 {
     const std::vector<std::uint32_t> first = data().firstPlaces();
-    std::vector<double> distances;
-    distances.reserve(first.size());
-    for (const std::uint32_t place : first) {
-        if (const double distance = data().result(place).distanceM; isShown(distance))
-            distances.push_back(distance);
-    }
+    std::vector<double> distances = shownDistances(data(), first);
     if (distances.empty())
         return setEmpty(tr("None of the results has a design position."));
     const double limitM = data().sample->limits.designHorizontalM;
     const PlotRanges ranges = rangesFromZero(distances, {limitM}, kLeastM);
-    const double width = classWidth(ranges.usual, limitM);
-    std::map<std::int64_t, PlotBar> bars; // few where the farthest is very far
-    std::size_t beyond = 0;
-    for (const std::uint32_t place : first) {
-        const double distance = data().result(place).distanceM;
-        if (!isShown(distance))
-            continue;
-        const auto number =
-            std::max(std::int64_t(0), std::int64_t(std::ceil((distance - kRoundingM) / width)) - 1);
-        bars[number].places.push_back(place);
-        beyond += distance > limitM + kRoundingM ? 1U : 0U;
-    }
-    std::vector<PlotBar> all;
+    panel(0).setAxes(PlotScale::Number, tr("Horizontal distance (m)"), tr("Points"));
+    const double most = addBars(first, classWidth(ranges.usual, limitM));
+    const QwtInterval counts(0, std::max(most * 1.08, kLeastPoints));
+    panel(0).setRanges(ranges, {counts, counts});
+    const std::size_t count = distances.size();
+    if (limitM > 0)
+        addLimit(limitM, distances);
+    const double p95 = statistics::percentile95(distances);
+    panel(0).addVertical(p95, QPen(look().figure, dpi_scaled(2.0)));
+    addLegend(PlotLegend::Sign::Line, look().figure,
+              tr("95 % are not farther than %1 m").arg(numberText(p95, 3)));
+    setNote(tr("Results: %1, without a design position: %2.")
+                .arg(lum::groupedNumber(count), lum::groupedNumber(first.size() - count)),
+            tr("95 %: by nearest rank, of n distances in ascending order number 0.95 n, "
+               "rounded up."));
+}
+
+double DistancePlot::addBars(const std::vector<std::uint32_t>& places, double width)
+{
+    const double limitM = data().sample->limits.designHorizontalM;
+    std::vector<PlotBar> bars;
     std::size_t most = 0;
-    all.reserve(bars.size());
-    for (auto& [number, bar] : bars) {
+    auto classes = classesOf(data(), places, width);
+    bars.reserve(classes.size());
+    for (auto& [number, bar] : classes) {
         bar.from = double(number) * width;
         bar.to = bar.from + width;
         bar.color = limitM > 0 && bar.from >= limitM - width / 2 ? look().bad : look().good;
@@ -84,28 +114,21 @@ void DistancePlot::fill()
                        .arg(numberText(bar.from, 3), numberText(bar.to, 3),
                             lum::groupedNumber(bar.places.size()));
         most = std::max(most, bar.places.size());
-        all.push_back(std::move(bar));
+        bars.push_back(std::move(bar));
     }
-    panel(0).setAxes(PlotScale::Number, tr("Horizontal distance (m)"), tr("Points"));
-    const QwtInterval counts(0, std::max(double(most) * 1.08, kLeastPoints));
-    panel(0).setRanges(ranges, {counts, counts});
-    panel(0).add(std::make_unique<BarSeries>(std::move(all), selection(), look().selected));
-    const std::size_t count = distances.size();
-    const double p95 = statistics::percentile95(distances);
-    panel(0).addVertical(p95, {}, QPen(look().figure, dpi_scaled(2.0)));
-    addLegend(PlotLegend::Sign::Line, look().figure,
-              tr("95 % are not farther than %1 m").arg(numberText(p95, 3)));
-    QString note = tr("Results: %1, without a design position: %2.")
-                       .arg(lum::groupedNumber(count), lum::groupedNumber(first.size() - count));
-    if (limitM > 0) {
-        panel(0).addVertical(limitM, {}, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
-        addLegend(PlotLegend::Sign::DashedLine, look().limit,
-                  tr("limit: %1 m").arg(numberText(limitM, 3)));
-        addLegend(PlotLegend::Sign::Box, look().good,
-                  tr("not farther than the limit: %1").arg(lum::groupedNumber(count - beyond)));
-        addLegend(PlotLegend::Sign::Box, look().bad,
-                  tr("farther: %1").arg(lum::groupedNumber(beyond)));
-    }
-    setNote(note, tr("95 %: by nearest rank, of n distances in ascending order number 0.95 n, "
-                     "rounded up."));
+    panel(0).add(std::make_unique<BarSeries>(std::move(bars), selection(), look().selected));
+    return double(most);
+}
+
+void DistancePlot::addLimit(double limitM, const std::vector<double>& distances)
+{
+    const auto beyond =
+        std::count_if(distances.begin(), distances.end(),
+                      [limitM](double distance) { return distance > limitM + kRoundingM; });
+    const auto within = std::ptrdiff_t(distances.size()) - beyond;
+    panel(0).addVertical(limitM, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
+    addLegend(PlotLegend::Sign::DashedLine, look().limit, tr("limit: %1 m").arg(shortText(limitM)));
+    addLegend(PlotLegend::Sign::Box, look().good,
+              tr("not farther than the limit: %1").arg(lum::groupedNumber(within)));
+    addLegend(PlotLegend::Sign::Box, look().bad, tr("farther: %1").arg(lum::groupedNumber(beyond)));
 }

@@ -17,4 +17,9 @@ public:
 protected:
     [[nodiscard]] QString caption() const override;
     void fill() override;
+
+private:
+    /// \param width of a class, metres \returns the most results in a class
+    double addBars(const std::vector<std::uint32_t>& places, double width);
+    void addLimit(double limitM, const std::vector<double>& distances);
 };

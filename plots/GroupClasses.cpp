@@ -14,6 +14,16 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(GroupClasses)
 };
 
+constexpr int kMostLetters = 32;
+
+/// Its beginning and its end, since either may tell it from others.
+QString shortened(const QString& name)
+{
+    constexpr int kHalf = kMostLetters / 2;
+    return name.size() <= kMostLetters ? name
+                                       : name.left(kHalf) + QChar(0x2026) + name.right(kHalf - 1);
+}
+
 } // namespace
 
 GroupClasses::GroupClasses(const PlotData& data, const std::vector<std::uint32_t>& places,
@@ -42,7 +52,7 @@ GroupClasses::GroupClasses(const PlotData& data, const std::vector<std::uint32_t
     for (const std::size_t value : order) {
         m_classes[value] = m_own.size();
         const std::string& text = values[value].text;
-        m_own.push_back(text.empty() ? Texts::tr("none given") : lum::toQString(text));
+        m_own.push_back(text.empty() ? Texts::tr("none given") : shortened(lum::toQString(text)));
     }
 }
 

@@ -18,5 +18,7 @@ protected:
     void fill() override;
 
 private:
+    void setStations(const std::vector<std::uint32_t>& places);
+    void addMean(const statistics::Moments& moments);
     void addLimits(double limitM);
 };

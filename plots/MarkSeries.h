@@ -36,7 +36,10 @@ public:
                                            const QwtInterval& y) const override;
 
 private:
-    void stamp(QPainter& painter, const PlotMaps& maps, const QRectF& canvas, double ratio) const;
+    /// \param origin  the place of the image's corner, logical pixels
+    /// \param room    around the discs, device pixels
+    void drawInto(QImage& image, const PlotMaps& maps, const QPointF& origin, double ratio,
+                  int room) const;
     void drawSingly(QPainter& painter, const PlotMaps& maps, const QRectF& canvas) const;
     [[nodiscard]] bool isSelected(const PlotMark& mark) const
     {

@@ -4,7 +4,6 @@
 #include "lum_sdk/GroupedNumber.h"
 #include "plots/MarkSeries.h"
 #include "plots/VerdictClasses.h"
-#include "quality/statistics/ErrorEllipse.h"
 
 #include <QPainterPath>
 #include <QPen>
@@ -17,9 +16,10 @@
 
 namespace {
 
-constexpr double kLeastM = 0.002;
+constexpr double kLeastM = 0.04;
 constexpr int kSteps = 180; // of an ellipse
 constexpr double kOverData = 25;
+constexpr double kEllipseIsNear = 15; // times what is seen without it
 
 QPainterPath ellipsePath(const statistics::ErrorEllipse& ellipse)
 {
@@ -45,14 +45,27 @@ std::unique_ptr<QwtPlotShapeItem> outline(const QPainterPath& path, const QPen& 
     return shape;
 }
 
+/// How far from the design point the ellipse is seen; 0 when there is none.
+double extentOf(const statistics::ErrorEllipse& ellipse)
+{
+    const QRectF box =
+        std::isfinite(ellipse.semiMajorM) ? ellipsePath(ellipse).boundingRect() : QRectF();
+    return std::max({-box.left(), box.right(), -box.top(), box.bottom(), 0.0});
+}
+
 /// The same to all sides of the design point.
-PlotRanges square(const std::vector<double>& east, const std::vector<double>& north, double limitM)
+PlotRanges square(const std::vector<double>& east, const std::vector<double>& north, double limitM,
+                  const statistics::ErrorEllipse& ellipse)
 {
     std::vector<double> farthest;
     farthest.reserve(east.size());
     for (std::size_t i = 0; i < east.size(); ++i)
         farthest.push_back(std::max(std::fabs(east[i]), std::fabs(north[i])));
-    const PlotRanges ranges = rangesFromZero(std::move(farthest), {limitM}, kLeastM);
+    PlotRanges ranges = rangesFromZero(std::move(farthest), {limitM}, kLeastM);
+    const double withEllipse = 1.05 * extentOf(ellipse);
+    if (withEllipse < kEllipseIsNear * ranges.usual.maxValue())
+        ranges.usual = ranges.usual.extend(withEllipse);
+    ranges.all = ranges.all.extend(withEllipse);
     const auto both = [](const QwtInterval& range) {
         return QwtInterval(-range.maxValue(), range.maxValue());
     };
@@ -92,10 +105,12 @@ void OffsetPlot::fill()
     const std::size_t shown = marks.size();
     const double limitM = data().sample->limits.designHorizontalM;
     panel(0).setAxes(PlotScale::Number, tr("East (m)"), tr("North (m)"));
-    const PlotRanges ranges = square(east, north, limitM);
+    const statistics::ErrorEllipse ellipse =
+        statistics::errorEllipseOf(*data().sample, data().places);
+    const PlotRanges ranges = square(east, north, limitM, ellipse);
     panel(0).setRanges(ranges, ranges);
-    panel(0).addHorizontal(0, {}, QPen(look().faint, 0));
-    panel(0).addVertical(0, {}, QPen(look().faint, 0));
+    panel(0).addHorizontal(0, QPen(look().faint, 0));
+    panel(0).addVertical(0, QPen(look().faint, 0));
     panel(0).add(std::make_unique<MarkSeries>(std::move(marks), verdicts.colors(), selection(),
                                               look().selected, look().text));
     for (const auto& [color, text] : verdicts.legend())
@@ -104,7 +119,7 @@ void OffsetPlot::fill()
         addCircle(limitM);
     setNote(tr("Results: %1, without a design position: %2.")
                 .arg(lum::groupedNumber(shown), lum::groupedNumber(first.size() - shown)),
-            addEllipse());
+            addEllipse(ellipse));
 }
 
 void OffsetPlot::addCircle(double radiusM)
@@ -114,13 +129,11 @@ void OffsetPlot::addCircle(double radiusM)
     panel(0).addPlain(outline(circle, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine)),
                       kOverData);
     addLegend(PlotLegend::Sign::DashedLine, look().limit,
-              tr("limit: %1 m").arg(numberText(radiusM, 3)));
+              tr("limit: %1 m").arg(shortText(radiusM)));
 }
 
-QString OffsetPlot::addEllipse()
+QString OffsetPlot::addEllipse(const statistics::ErrorEllipse& ellipse)
 {
-    const statistics::ErrorEllipse ellipse =
-        statistics::errorEllipseOf(*data().sample, data().places);
     if (!std::isfinite(ellipse.semiMajorM))
         return {};
     panel(0).addPlain(outline(ellipsePath(ellipse), QPen(look().figure, dpi_scaled(2.0))),

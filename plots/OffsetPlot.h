@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plots/StatisticsPlot.h"
+#include "quality/statistics/ErrorEllipse.h"
 
 #include <QCoreApplication>
 
@@ -20,5 +21,5 @@ protected:
 private:
     void addCircle(double radiusM);
     /// \returns how it is computed
-    QString addEllipse();
+    QString addEllipse(const statistics::ErrorEllipse& ellipse);
 };

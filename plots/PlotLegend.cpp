@@ -80,8 +80,19 @@ int PlotLegend::rowHeight() const
 
 std::vector<PlotLegend::Placed> PlotLegend::placed(double width) const
 {
+    std::vector<Placed> all;
+    for (const int entriesARow : {1, 2, 3, 4}) {
+        const int column = int(width) / entriesARow - (entriesARow > 1 ? gap() : 0);
+        all = placed(width, std::max(1, column - signWidth() - 1));
+        if (all.empty() || all.back().entry != nullptr)
+            break;
+    }
+    return all;
+}
+
+std::vector<PlotLegend::Placed> PlotLegend::placed(double width, int longest) const
+{
     const QFontMetrics metrics = fontMetrics();
-    const int longest = std::min(dpi_scaled(280), std::max(1, int(width) - signWidth()));
     const QString more = tr("and %1 more");
     const int moreWidth = metrics.horizontalAdvance(more.arg(m_entries.size()));
     std::vector<Placed> all;
@@ -89,7 +100,9 @@ std::vector<PlotLegend::Placed> PlotLegend::placed(double width) const
     double x = 0;
     int row = 0;
     for (const Entry& entry : m_entries) {
-        const QString text = metrics.elidedText(entry.text, Qt::ElideMiddle, longest);
+        const bool isName = entry.sign == Sign::Disc || entry.sign == Sign::Box;
+        const QString text = metrics.elidedText(entry.text, Qt::ElideMiddle,
+                                                isName ? longest : int(width) - signWidth() - 1);
         const double needed = signWidth() + metrics.horizontalAdvance(text) + 1;
         const std::size_t left = m_entries.size() - all.size();
         // The last row keeps room for the number of those that have none.

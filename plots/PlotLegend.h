@@ -7,7 +7,8 @@
 #include <vector>
 
 /// What colours and lines of a plot mean: entries one behind the other, in as many rows as they
-/// need. Long names are shortened in their middle; what has no room in `kMostRows` is counted.
+/// need. Long names are shortened in their middle; what has no room in `kMostRows` even then is
+/// counted.
 class PlotLegend : public QWidget
 {
     Q_OBJECT
@@ -53,7 +54,10 @@ private:
         QString text;
         const Entry* entry; ///< null for how many more there are
     };
+    /// As long names as have room.
     [[nodiscard]] std::vector<Placed> placed(double width) const;
+    /// \param longest  where the texts of discs and boxes, which may be names, are cut, pixels
+    [[nodiscard]] std::vector<Placed> placed(double width, int longest) const;
     [[nodiscard]] int rowHeight() const;
 
     std::vector<Entry> m_entries;

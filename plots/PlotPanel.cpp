@@ -49,7 +49,7 @@ PlotPanel::PlotPanel(QWidget* parent) : QwtPlot(parent), m_grid(new QwtPlotGrid)
         setAxisFont(axis, smaller(font()));
         setAxisMaxMinor(axis, 0);
     }
-    setMinimumSize(dpi_scaled(160), dpi_scaled(80));
+    setMinimumSize(dpi_scaled(120), dpi_scaled(50));
     setScale(*this, yLeft, PlotScale::Number);
 }
 
@@ -72,7 +72,7 @@ void PlotPanel::setLook(const PlotLook& look)
         axisWidget(axis)->setPalette(colors);
     setCanvasBackground(look.paper);
     QColor grid = look.faint;
-    grid.setAlpha(110);
+    grid.setAlpha(170);
     m_grid->setPen(grid, 0, Qt::DotLine);
 }
 
@@ -86,7 +86,7 @@ void PlotPanel::setAxes(PlotScale x, const QString& xTitle, const QString& yTitl
 void PlotPanel::setAxes(QwtScaleEngine* xEngine, QwtScaleDraw* xDraw, const QString& xTitle,
                         const QString& yTitle)
 {
-    m_xScale = PlotScale::Number;
+    m_xScale = PlotScale::Station;
     setAxisScaleEngine(xBottom, xEngine);
     setAxisScaleDraw(xBottom, xDraw);
     setTexts(xTitle, yTitle);
@@ -94,12 +94,17 @@ void PlotPanel::setAxes(QwtScaleEngine* xEngine, QwtScaleDraw* xDraw, const QStr
 
 void PlotPanel::setTexts(const QString& xTitle, const QString& yTitle)
 {
-    const std::pair<int, QString> titles[] = {{xBottom, xTitle}, {yLeft, yTitle}};
-    for (const auto& [axis, title] : titles) {
-        QwtText text(title, QwtText::PlainText);
-        text.setFont(smaller(font()));
-        setAxisTitle(axis, text);
-    }
+    m_xTitle = xTitle;
+    m_yTitle = yTitle;
+    showTitle(xBottom, xTitle);
+    showTitle(yLeft, yTitle);
+}
+
+void PlotPanel::showTitle(int axis, const QString& title)
+{
+    QwtText text(title, QwtText::PlainText);
+    text.setFont(smaller(font()));
+    setAxisTitle(axis, text);
 }
 
 void PlotPanel::setXAxisShown(bool isShown)
@@ -108,8 +113,7 @@ void PlotPanel::setXAxisShown(bool isShown)
     draw->enableComponent(QwtAbstractScaleDraw::Labels, isShown);
     draw->enableComponent(QwtAbstractScaleDraw::Ticks, isShown);
     draw->enableComponent(QwtAbstractScaleDraw::Backbone, isShown);
-    if (!isShown)
-        setAxisTitle(xBottom, QString());
+    showTitle(xBottom, isShown ? m_xTitle : QString());
 }
 
 void PlotPanel::setRanges(const PlotRanges& x, const PlotRanges& y)
@@ -121,7 +125,8 @@ void PlotPanel::setRanges(const PlotRanges& x, const PlotRanges& y)
 void PlotPanel::add(std::unique_ptr<PlotItem> item)
 {
     m_items.push_back(item.get());
-    addPlain(std::move(item), kDataZ);
+    item->setZ(kDataZ); // without the hint: discs are smooth by themselves, bars shall be sharp
+    item.release()->attach(this);
 }
 
 void PlotPanel::addPlain(std::unique_ptr<QwtPlotItem> item, double z)
@@ -131,31 +136,20 @@ void PlotPanel::addPlain(std::unique_ptr<QwtPlotItem> item, double z)
     item.release()->attach(this); // the base class deletes what is attached
 }
 
-void PlotPanel::addHorizontal(double y, const QString& text, const QPen& pen)
+void PlotPanel::addHorizontal(double y, const QPen& pen)
 {
     auto marker = std::make_unique<QwtPlotMarker>();
     marker->setLineStyle(QwtPlotMarker::HLine);
     marker->setYValue(y);
-    marker->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
-    QwtText label(text, QwtText::PlainText);
-    label.setColor(pen.color());
-    label.setFont(smaller(font()));
-    marker->setLabel(label);
     marker->setLinePen(pen);
     addPlain(std::move(marker), kDataZ + 1);
 }
 
-void PlotPanel::addVertical(double x, const QString& text, const QPen& pen)
+void PlotPanel::addVertical(double x, const QPen& pen)
 {
     auto marker = std::make_unique<QwtPlotMarker>();
     marker->setLineStyle(QwtPlotMarker::VLine);
     marker->setXValue(x);
-    marker->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
-    marker->setLabelOrientation(Qt::Vertical);
-    QwtText label(text, QwtText::PlainText);
-    label.setColor(pen.color());
-    label.setFont(smaller(font()));
-    marker->setLabel(label);
     marker->setLinePen(pen);
     addPlain(std::move(marker), kDataZ + 1);
 }
@@ -228,8 +222,9 @@ PlotPanel::View PlotPanel::moved(const View& from, const QPointF& byPixels) cons
 PlotPanel::View PlotPanel::inside(const QRectF& rectangle) const
 {
     const PlotMaps now = maps();
+    const double bottom = m_isFromZero ? 0 : now.y.invTransform(rectangle.bottom());
     return {{now.x.invTransform(rectangle.left()), now.x.invTransform(rectangle.right())},
-            {now.y.invTransform(rectangle.bottom()), now.y.invTransform(rectangle.top())}};
+            {bottom, now.y.invTransform(rectangle.top())}};
 }
 
 PlotMaps PlotPanel::maps() const
@@ -239,14 +234,13 @@ PlotMaps PlotPanel::maps() const
 
 QString PlotPanel::valueText(const QPointF& value) const
 {
-    const auto line = [this](int axis, PlotScale scale, double at) {
-        return axisTitle(axis).text() + QLatin1String(": ") +
-               scaleText(scale, at, tickStepOf(axisScaleDiv(axis)));
+    const auto line = [this](int axis, const QString& title, PlotScale scale, double at) {
+        return title + QLatin1String(": ") + scaleText(scale, at, tickStepOf(axisScaleDiv(axis)));
     };
-    const QString y = line(yLeft, PlotScale::Number, value.y());
-    if (axisTitle(xBottom).isEmpty())
+    const QString y = line(yLeft, m_yTitle, PlotScale::Number, value.y());
+    if (m_xScale == PlotScale::Station)
         return y;
-    return line(xBottom, m_xScale, value.x()) + QLatin1Char('\n') + y;
+    return line(xBottom, m_xTitle, m_xScale, value.x()) + QLatin1Char('\n') + y;
 }
 
 void PlotPanel::setTickCounts(const QSizeF& size)
@@ -255,8 +249,15 @@ void PlotPanel::setTickCounts(const QSizeF& size)
     const bool hasDates = m_xScale == PlotScale::Moment || m_xScale == PlotScale::Day;
     const int widest =
         metrics.horizontalAdvance(hasDates ? kLongestDate : QStringLiteral("-00000.0"));
-    setAxisMaxMajor(xBottom, std::clamp(int(size.width() / (1.6 * widest)), 1, 12));
-    setAxisMaxMajor(yLeft, std::clamp(int(size.height() / (2.5 * metrics.height())), 1, 10));
+    setAxisMaxMajor(xBottom, std::clamp(int(size.width() / (1.6 * widest)), 2, 12));
+    const bool hasXTexts = axisScaleDraw(xBottom)->hasComponent(QwtAbstractScaleDraw::Labels);
+    const double height =
+        size.height() - (hasXTexts ? axisWidget(xBottom)->sizeHint().height() : 0);
+    const bool hasTitle = metrics.horizontalAdvance(m_yTitle) <= height;
+    showTitle(yLeft, hasTitle ? m_yTitle : QString());
+    const double texts = height / metrics.height(); // that would stand below each other
+    setAxisMaxMajor(yLeft,
+                    std::clamp(int(std::max(std::min(4.0, texts / 1.1), texts / 2.2)), 2, 10));
 }
 
 void PlotPanel::fitToPaper(const QSizeF& size)

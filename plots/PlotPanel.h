@@ -47,9 +47,9 @@ public:
     /// Adds anything else.
     /// \param z above 20 it lies over the data
     void addPlain(std::unique_ptr<QwtPlotItem> item, double z);
-    /// A line across the canvas, with a short text at its end.
-    void addHorizontal(double y, const QString& text, const QPen& pen);
-    void addVertical(double x, const QString& text, const QPen& pen);
+    /// A line across the canvas.
+    void addHorizontal(double y, const QPen& pen);
+    void addVertical(double x, const QPen& pen);
 
     [[nodiscard]] View view() const;
     /// Keeps within what can be shown and in front of 0, where that is asked for, and shows it.
@@ -77,7 +77,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// As many ticks as have room for their texts; a title that has room.
     void setTickCounts(const QSizeF& size);
+    void showTitle(int axis, const QString& title);
     void setTexts(const QString& xTitle, const QString& yTitle);
     [[nodiscard]] View fitted(const View& view) const;
     [[nodiscard]] QwtInterval allowed(const QwtInterval& wanted, const PlotRanges& ranges) const;
@@ -85,6 +87,8 @@ private:
     QwtPlotGrid* m_grid;
     PlotLook m_look;
     PlotScale m_xScale = PlotScale::Number;
+    QString m_xTitle;
+    QString m_yTitle;
     PlotRanges m_x;
     PlotRanges m_y;
     View m_asked;                   ///< before it was fitted to the canvas

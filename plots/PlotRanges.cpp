@@ -5,9 +5,11 @@
 
 namespace {
 
-constexpr double kOutside = 0.02;  // the share of values at each end that may lie far away
-constexpr double kFar = 3;         // times the width of the others
-constexpr double kMarkIsNear = 10; // likewise, for limits
+constexpr double kOutside = 0.02;      // the share of values at each end that may lie far away
+constexpr double kOutsideAbove = 0.05; // of those from 0 upward
+constexpr double kFar = 3;             // times the width of the others
+constexpr double kMarkIsNear = 10;     // likewise, for limits
+constexpr double kMarkAboveIsNear = 25;
 constexpr double kRoom = 0.06;
 
 QwtInterval atLeast(const QwtInterval& range, double least)
@@ -18,25 +20,50 @@ QwtInterval atLeast(const QwtInterval& range, double least)
     return {middle - least / 2, middle + least / 2};
 }
 
-/// The values between those that `kOutside` of all are below and above.
-QwtInterval core(std::vector<double>& values)
+/// The values between those that a share of all is below, and one is above.
+QwtInterval core(std::vector<double>& values, double below, double above)
 {
-    const auto outside = std::ptrdiff_t(kOutside * double(values.size()));
-    const auto lower = values.begin() + outside;
-    const auto upper = values.end() - 1 - outside;
+    const auto lower = values.begin() + std::ptrdiff_t(below * double(values.size()));
+    const auto upper = values.end() - 1 - std::ptrdiff_t(above * double(values.size()));
     std::nth_element(values.begin(), lower, values.end());
     std::nth_element(lower, upper, values.end());
     return {*lower, *upper};
 }
 
-QwtInterval withMarks(QwtInterval range, std::initializer_list<double> marks)
+QwtInterval withMarks(QwtInterval range, std::initializer_list<double> marks, double nearness)
 {
-    const double near = kMarkIsNear * range.width();
+    const double near = nearness * range.width();
     for (const double mark : marks) {
         if (std::isfinite(mark) && mark > range.minValue() - near && mark < range.maxValue() + near)
             range = range.extend(mark);
     }
     return range;
+}
+
+/// What is to be seen of values.
+struct Wish
+{
+    double below;    ///< the share that may lie far below the others
+    double above;    ///< likewise above
+    double nearness; ///< of limits that are seen as well, times the width of the values
+};
+
+PlotRanges rangesWith(std::vector<double> values, std::initializer_list<double> marks, double least,
+                      const Wish& wish)
+{
+    std::erase_if(values, [](double value) { return !isShown(value); });
+    if (values.empty()) {
+        const QwtInterval none = widened(withMarks({-least, least}, marks, wish.nearness), kRoom);
+        return {none, none};
+    }
+    const auto [lowest, highest] = std::minmax_element(values.begin(), values.end());
+    QwtInterval all = atLeast({*lowest, *highest}, least);
+    QwtInterval usual = atLeast(core(values, wish.below, wish.above), least);
+    if (all.width() <= kFar * usual.width())
+        usual = all;
+    usual = withMarks(usual, marks, wish.nearness);
+    all = withMarks(all | usual, marks, wish.nearness);
+    return {widened(usual, kRoom), widened(all, kRoom)};
 }
 
 } // namespace
@@ -54,26 +81,15 @@ QwtInterval widened(const QwtInterval& range, double share)
 
 PlotRanges rangesOf(std::vector<double> values, std::initializer_list<double> marks, double least)
 {
-    std::erase_if(values, [](double value) { return !isShown(value); });
-    if (values.empty()) {
-        const QwtInterval none = widened(withMarks({-least, least}, marks), kRoom);
-        return {none, none};
-    }
-    const auto [lowest, highest] = std::minmax_element(values.begin(), values.end());
-    QwtInterval all = atLeast({*lowest, *highest}, least);
-    QwtInterval usual = atLeast(core(values), least);
-    if (all.width() <= kFar * usual.width())
-        usual = all;
-    usual = withMarks(usual, marks);
-    all = withMarks(all | usual, marks);
-    return {widened(usual, kRoom), widened(all, kRoom)};
+    return rangesWith(std::move(values), marks, least, {kOutside, kOutside, kMarkIsNear});
 }
 
 PlotRanges rangesFromZero(std::vector<double> values, std::initializer_list<double> marks,
                           double least)
 {
     values.push_back(0);
-    PlotRanges ranges = rangesOf(std::move(values), marks, least);
+    PlotRanges ranges =
+        rangesWith(std::move(values), marks, least, {0, kOutsideAbove, kMarkAboveIsNear});
     ranges.usual.setMinValue(0);
     ranges.all.setMinValue(0);
     return ranges;

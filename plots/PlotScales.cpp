@@ -69,6 +69,17 @@ QString numberText(double value, int decimals)
         .toString(std::fabs(value) < smallest ? 0.0 : value, 'f', decimals); // no "-0"
 }
 
+QString shortText(double value)
+{
+    int decimals = 0;
+    double power = 1;
+    while (decimals < 4 && std::fabs(value - std::round(value * power) / power) > 1e-9) {
+        ++decimals;
+        power *= 10;
+    }
+    return numberText(value, decimals);
+}
+
 double tickStepOf(const QwtScaleDiv& division)
 {
     const QList<double> ticks = division.ticks(QwtScaleDiv::MajorTick);

@@ -11,9 +11,10 @@ class QwtPlot;
 enum class PlotScale
 {
     Number,
-    Moment,   ///< `toClockMs`, as date and time
-    Day,      ///< likewise, as a date; no ticks but those of days
-    TimeOfDay ///< likewise, as a time
+    Moment,    ///< `toClockMs`, as date and time
+    Day,       ///< likewise, as a date; no ticks but those of days
+    TimeOfDay, ///< likewise, as a time
+    Station    ///< with ticks of its own
 };
 
 /// Sets up an axis of a plot.
@@ -43,6 +44,8 @@ inline constexpr double kDayMs = 24 * kHourMs;
 [[nodiscard]] int decimalsFor(double tickStep);
 /// "1,234.50", alike on every desktop.
 [[nodiscard]] QString numberText(double value, int decimals);
+/// With no more digits than it has: "0.5", "1,000".
+[[nodiscard]] QString shortText(double value);
 
 /// The distance of an axis' ticks; 0 when it has less than two.
 [[nodiscard]] double tickStepOf(const QwtScaleDiv& division);

@@ -47,6 +47,21 @@ PlotRanges timeOf(const StakingProgress& progress, const Pace& pace)
     return {range(usual), range(end)};
 }
 
+/// The staked points with a day.
+std::vector<std::uint32_t> datedPlaces(const PlotData& data)
+{
+    const auto& days = data.sample->valuesOf(GroupKey::Day);
+    std::vector<std::uint32_t> dated;
+    dated.reserve(data.places.size());
+    for (const std::uint32_t place : data.places) {
+        const statistics::Observation& result = data.result(place);
+        if (result.kind == statistics::ResultKind::Staked &&
+            days[result.key(GroupKey::Day)].number != statistics::KeyValue::kNoNumber)
+            dated.push_back(place);
+    }
+    return dated;
+}
+
 } // namespace
 
 ProgressPlot::ProgressPlot(QWidget* parent) : StatisticsPlot(2, parent)
@@ -78,48 +93,46 @@ void ProgressPlot::fill()
 
 void ProgressPlot::fillDays(const PlotRanges& time)
 {
-    std::vector<std::uint32_t> staked;
-    staked.reserve(data().places.size());
-    const auto& days = data().sample->valuesOf(GroupKey::Day);
-    for (const std::uint32_t place : data().places) {
-        const statistics::Observation& result = data().result(place);
-        if (result.kind == statistics::ResultKind::Staked &&
-            days[result.key(GroupKey::Day)].number != statistics::KeyValue::kNoNumber)
-            staked.push_back(place);
-    }
+    const std::vector<std::uint32_t> staked = datedPlaces(data());
     const GroupClasses surveyors(data(), staked, GroupKey::Surveyor, look());
+    std::vector<PlotBar> bars = dayBars(staked, surveyors);
+    double most = kLeastPoints;
+    for (const PlotBar& bar : bars)
+        most = std::max(most, bar.top());
+    panel(0).setAxes(PlotScale::Day, tr("Day"), tr("Points a day"));
+    panel(0).setXAxisShown(false);
+    panel(0).setRanges(time, {{0, most * 1.08}, {0, most * 1.08}});
+    panel(0).add(std::make_unique<BarSeries>(std::move(bars), selection(), look().selected));
+    for (std::size_t place = 0; place < surveyors.classCount(); ++place)
+        addLegend(PlotLegend::Sign::Box, surveyors.color(place), surveyors.name(place));
+}
+
+std::vector<PlotBar> ProgressPlot::dayBars(const std::vector<std::uint32_t>& places,
+                                           const GroupClasses& surveyors) const
+{
     std::map<std::pair<std::uint32_t, std::size_t>, PlotBar> bars; // by day, then by surveyor
-    for (const std::uint32_t place : staked) {
+    for (const std::uint32_t place : places) {
         const statistics::Observation& result = data().result(place);
         bars[{result.key(GroupKey::Day), surveyors.classOf(result)}].places.push_back(place);
     }
     std::vector<PlotBar> all;
-    std::vector<double> tops;
     all.reserve(bars.size());
-    tops.reserve(bars.size());
     std::uint32_t lastDay = 0;
     for (auto& [key, bar] : bars) {
         const auto& [day, surveyor] = key;
         if (!all.empty() && day == lastDay)
             bar.below = all.back().top();
         lastDay = day;
-        const std::int64_t number = days[day].number;
+        const std::int64_t number = data().sample->valuesOf(GroupKey::Day)[day].number;
         bar.from = (double(number) - kBarHalf) * kDayMs;
         bar.to = (double(number) + kBarHalf) * kDayMs;
         bar.color = surveyors.color(surveyor);
         bar.text = tr("%1, %2: %3")
-                       .arg(dayText(number), surveyors.name(surveyor).left(40),
+                       .arg(dayText(number), surveyors.name(surveyor),
                             lum::groupedNumber(bar.places.size()));
-        tops.push_back(bar.top());
         all.push_back(std::move(bar));
     }
-    const double most = std::max(*std::max_element(tops.begin(), tops.end()), kLeastPoints);
-    panel(0).setAxes(PlotScale::Day, tr("Day"), tr("Points a day"));
-    panel(0).setXAxisShown(false);
-    panel(0).setRanges(time, {{0, most * 1.08}, {0, most * 1.08}});
-    panel(0).add(std::make_unique<BarSeries>(std::move(all), selection(), look().selected));
-    for (std::size_t place = 0; place < surveyors.classCount(); ++place)
-        addLegend(PlotLegend::Sign::Box, surveyors.color(place), surveyors.name(place));
+    return all;
 }
 
 void ProgressPlot::fillCurve(const StakingProgress& progress, const Pace& pace,
@@ -140,7 +153,7 @@ void ProgressPlot::fillCurve(const StakingProgress& progress, const Pace& pace,
     panel(1).setXAxisShown(true);
     panel(1).setRanges(time, {{0, most}, {0, most}});
     if (designed > 0) {
-        panel(1).addHorizontal(designed, {}, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
+        panel(1).addHorizontal(designed, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
         addLegend(PlotLegend::Sign::DashedLine, look().limit,
                   tr("design: %1").arg(lum::groupedNumber(data().design.designed)));
     }
@@ -164,15 +177,13 @@ QString ProgressPlot::noteOf(const StakingProgress& progress, const Pace& pace) 
                        .arg(lum::groupedNumber(doneOf(progress)),
                             lum::groupedNumber(data().design.designed), lum::groupedNumber(left));
     if (progress.undated > 0)
-        note +=
-            QLatin1Char(' ') + tr("Without a time: %1.").arg(lum::groupedNumber(progress.undated));
+        note = joined(note, tr("Without a time: %1.").arg(lum::groupedNumber(progress.undated)));
     if (left == 0 || !pace.daysNeeded)
         return note;
-    note += QLatin1Char(' ') +
-            tr("At the present pace of %1 points a day, days of work still "
-               "needed: %2.")
-                .arg(numberText(pace.pointsADay, 0), lum::groupedNumber(*pace.daysNeeded));
+    note = joined(note,
+                  tr("At the present pace of %1 points a day, days of work still needed: %2.")
+                      .arg(numberText(pace.pointsADay, 0), lum::groupedNumber(*pace.daysNeeded)));
     if (pace.endDay)
-        note += QLatin1Char(' ') + tr("Last day expected: %1.").arg(dayText(*pace.endDay));
+        note = joined(note, tr("Last day expected: %1.").arg(dayText(*pace.endDay)));
     return note;
 }

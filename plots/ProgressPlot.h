@@ -1,9 +1,12 @@
 #pragma once
 
+#include "plots/BarSeries.h"
 #include "plots/StatisticsPlot.h"
 #include "quality/statistics/StakingProgress.h"
 
 #include <QCoreApplication>
+
+class GroupClasses;
 
 /// The design points staked on each day, by surveyor, and below that all until then beside the
 /// design, with the days that are still needed at the present pace.
@@ -20,6 +23,9 @@ protected:
 
 private:
     void fillDays(const PlotRanges& time);
+    /// The bars of each day, one on the other.
+    [[nodiscard]] std::vector<PlotBar> dayBars(const std::vector<std::uint32_t>& places,
+                                               const GroupClasses& surveyors) const;
     void fillCurve(const statistics::StakingProgress& progress, const statistics::Pace& pace,
                    const PlotRanges& time);
     [[nodiscard]] QString noteOf(const statistics::StakingProgress& progress,

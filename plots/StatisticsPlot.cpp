@@ -18,9 +18,11 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <qwt_plot_renderer.h>
 #include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
 
 #include <algorithm>
 
@@ -28,10 +30,11 @@ namespace {
 
 constexpr double kReach = 6; // pixels, from the mouse to what it picks
 constexpr double kKeyZoom = 1.5;
-constexpr double kKeyMove = 0.1;  // of what is shown
-constexpr int kLastPanelMore = 4; // a quarter, for the texts of the x axis
-constexpr int kPictureScale = 2;  // device pixels to a pixel of a saved picture
-constexpr int kHeightForNote = 240;
+constexpr double kKeyMove = 0.1; // of what is shown
+constexpr int kPictureScale = 2; // device pixels to a pixel of a saved picture
+constexpr double kMargin = 10;   // pixels around a saved picture
+constexpr int kNoteMs = 100;
+constexpr int kLeastPanel = 90; // pixels of height; where there are less, the note is left out
 constexpr int kMostTipName = 40;
 
 /// A font whose letters have the size of the screen's, also with a painter that is scaled for
@@ -40,6 +43,13 @@ QFont unscaled(QFont font)
 {
     font.setPixelSize(QFontInfo(font).pixelSize());
     return font;
+}
+
+/// A page without its margin.
+QRectF inside(const QRectF& page, double scale)
+{
+    const double margin = kMargin * scale;
+    return page.adjusted(margin, margin, -margin, -margin);
 }
 
 QString shortened(const QString& name)
@@ -51,7 +61,7 @@ QString shortened(const QString& name)
 
 StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
     : QWidget(parent), m_legend(new PlotLegend(this)), m_noteLabel(new QLabel(this)),
-      m_emptyLabel(new QLabel(this))
+      m_emptyLabel(new QLabel(this)), m_noteTimer(new QTimer(this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
@@ -64,7 +74,7 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
     for (int i = 0; i < panels; ++i) {
         m_panels.push_back(new PlotPanel(this));
         m_mice.push_back(new PlotMouse(*this, *m_panels.back()));
-        layout->addWidget(m_panels.back(), kLastPanelMore + (i + 1 == panels && i > 0 ? 1 : 0));
+        layout->addWidget(m_panels.back(), 1);
     }
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setTextFormat(Qt::PlainText);
@@ -75,6 +85,9 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
         label->setWordWrap(true);
         label->setMinimumWidth(1);
     }
+    m_noteTimer->setSingleShot(true);
+    m_noteTimer->setInterval(kNoteMs);
+    connect(m_noteTimer, &QTimer::timeout, this, &StatisticsPlot::updateNote);
     m_look = PlotLook::onScreen(palette());
     m_empty = tr("There is nothing to show.");
     updateParts();
@@ -84,6 +97,13 @@ QString StatisticsPlot::title() const
 {
     return m_data.subject.isEmpty() ? caption()
                                     : tr("%1: %2").arg(caption(), shortened(m_data.subject));
+}
+
+QString StatisticsPlot::joined(const QString& first, const QString& second)
+{
+    if (first.isEmpty() || second.isEmpty())
+        return first + second;
+    return tr("%1 %2", "two sentences").arg(first, second);
 }
 
 void StatisticsPlot::setData(PlotData data)
@@ -130,9 +150,8 @@ void StatisticsPlot::updateParts()
     m_legend->setVisible(!m_legend->entries().empty());
     m_emptyLabel->setVisible(isEmpty());
     m_emptyLabel->setText(m_empty);
-    m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() &&
-                            height() >= dpi_scaled(kHeightForNote));
     updateNote();
+    shareHeight();
 }
 
 QString StatisticsPlot::note() const
@@ -147,8 +166,7 @@ QString StatisticsPlot::note() const
     }
     if (outside == 0)
         return m_note;
-    return m_note + QLatin1Char(' ') +
-           tr("Outside of the picture: %1.").arg(lum::groupedNumber(outside));
+    return joined(m_note, tr("Outside of the picture: %1.").arg(lum::groupedNumber(outside)));
 }
 
 void StatisticsPlot::updateNote()
@@ -174,7 +192,26 @@ void StatisticsPlot::replotAll()
 {
     for (PlotPanel* const panel : m_panels)
         panel->replot();
-    updateNote();
+    m_noteTimer->start();
+}
+
+double StatisticsPlot::heightOf(const PlotPanel& panel, double all) const
+{
+    const PlotPanel& last = *m_panels.back();
+    const double axis = last.axisWidget(QwtPlot::xBottom)->sizeHint().height();
+    const double canvas = std::max(1.0, (all - axis) / double(m_panels.size()));
+    return canvas + (&panel == &last ? axis : 0);
+}
+
+void StatisticsPlot::shareHeight()
+{
+    const double all = height() - m_legend->heightFor(width());
+    const double rest = all - m_noteLabel->heightForWidth(width());
+    const bool hasRoom = rest >= dpi_scaled(kLeastPanel) * double(m_panels.size());
+    m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() && hasRoom);
+    auto* const boxes = qobject_cast<QBoxLayout*>(layout());
+    for (PlotPanel* const panel : m_panels)
+        boxes->setStretchFactor(panel, int(heightOf(*panel, hasRoom ? rest : all)));
 }
 
 void StatisticsPlot::alignPanels()
@@ -211,6 +248,7 @@ void StatisticsPlot::setViews(bool isUsual)
     m_isUsual = isUsual;
     alignPanels();
     replotAll();
+    updateNote();
 }
 
 void StatisticsPlot::showUsual()
@@ -380,7 +418,7 @@ double StatisticsPlot::paintNote(QPainter& painter, const QSizeF& size) const
     const QRectF all(0, 0, size.width(), size.height());
     const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
     painter.setFont(unscaled(font()));
-    const QString text = m_method.isEmpty() ? note() : note() + QLatin1Char(' ') + m_method;
+    const QString text = joined(note(), m_method);
     const double height = painter.boundingRect(all, flags, text).height();
     painter.setPen(m_look.text);
     painter.drawText(all.adjusted(0, all.height() - height, 0, 0), flags, text);
@@ -403,21 +441,13 @@ void StatisticsPlot::paintLight(QPainter& painter, const QRectF& rectangle)
     painter.restore();
     if (isEmpty())
         return;
-    const int count = int(m_panels.size());
-    const double unit = rest / (kLastPanelMore * count + (count > 1 ? 1 : 0));
+    for (PlotPanel* const panel : m_panels)
+        panel->fitToPaper({size.width(), heightOf(*panel, rest)});
+    alignPanels();
+    const QwtPlotRenderer renderer;
     double top = head;
     for (PlotPanel* const panel : m_panels) {
-        const bool isLast = count > 1 && panel == m_panels.back();
-        const double height = unit * (kLastPanelMore + (isLast ? 1 : 0));
-        panel->fitToPaper({size.width(), height});
-        alignPanels();
-        top += height;
-    }
-    top = head;
-    const QwtPlotRenderer renderer;
-    for (PlotPanel* const panel : m_panels) {
-        const bool isLast = count > 1 && panel == m_panels.back();
-        const double height = unit * (kLastPanelMore + (isLast ? 1 : 0));
+        const double height = heightOf(*panel, rest);
         renderer.render(
             panel, &painter,
             {rectangle.left(), rectangle.top() + top * scale, rectangle.width(), height * scale});
@@ -442,8 +472,10 @@ QImage StatisticsPlot::toImage()
     QImage image(size * kPictureScale, QImage::Format_RGB32);
     image.setDotsPerMeterX(int(logicalDpiX() * kPictureScale / 0.0254));
     image.setDotsPerMeterY(int(logicalDpiY() * kPictureScale / 0.0254));
+    image.fill(Qt::white);
     QPainter painter(&image);
-    paint(painter, image.rect());
+    paint(painter, inside(image.rect(), kPictureScale));
+    painter.end();
     return image;
 }
 
@@ -478,14 +510,15 @@ Outcome StatisticsPlot::save(const QString& path)
         svg.setViewBox(QRect({0, 0}, size));
         svg.setTitle(title());
         QPainter painter(&svg);
-        paint(painter, {{0, 0}, size});
+        paint(painter, inside(QRect({0, 0}, size), 1));
     } else {
         QPdfWriter pdf(&buffer);
         pdf.setPageSize(QPageSize(QSizeF(size) * 25.4 / logicalDpiX(), QPageSize::Millimeter));
         pdf.setPageMargins({0, 0, 0, 0});
         pdf.setTitle(title());
         QPainter painter(&pdf);
-        paint(painter, {0, 0, double(pdf.width()), double(pdf.height())});
+        paint(painter, inside(QRectF(0, 0, pdf.width(), pdf.height()),
+                              pdf.logicalDpiX() / double(logicalDpiX())));
     }
     const QString fault = lum::writeWholeFile(path, content);
     if (!fault.isEmpty())

@@ -10,6 +10,7 @@
 
 class PlotMouse;
 class QLabel;
+class QTimer;
 
 /// A plot of survey results with legend, data and a note.
 ///
@@ -102,6 +103,8 @@ protected:
         m_note = note;
         m_method = method;
     }
+    /// Two sentences behind each other, as the language writes them; either may be empty.
+    [[nodiscard]] static QString joined(const QString& first, const QString& second);
     /// Says that there is nothing to show, and why.
     void setEmpty(const QString& reason) { m_empty = reason; }
 
@@ -115,6 +118,9 @@ private:
     void updateParts();
     void updateNote();
     void alignPanels();
+    void shareHeight();
+    /// Of a panel, when all have so much together: the same for each canvas.
+    [[nodiscard]] double heightOf(const PlotPanel& panel, double all) const;
     void replotAll();
     void setViews(bool isUsual);
     void zoomAll(double factor);
@@ -135,6 +141,7 @@ private:
     std::vector<PlotMouse*> m_mice;
     QLabel* m_noteLabel;
     QLabel* m_emptyLabel;
+    QTimer* m_noteTimer; ///< what lies outside is counted when the picture rests
     QString m_note;
     QString m_method;
     QString m_empty;

@@ -81,6 +81,45 @@
     </message>
 </context>
 <context>
+    <name>BaseDifferencePlot</name>
+    <message>
+        <source>dE (m)</source>
+        <translation>dE (m)</translation>
+    </message>
+    <message>
+        <source>dN (m)</source>
+        <translation>dN (m)</translation>
+    </message>
+    <message>
+        <source>dH (m)</source>
+        <translation>dH (m)</translation>
+    </message>
+    <message>
+        <source>Points measured twice, by base</source>
+        <translation>按基准站的重复测量点</translation>
+    </message>
+    <message>
+        <source>There are no points measured twice.</source>
+        <translation>没有重复测量的点。</translation>
+    </message>
+    <message>
+        <source>None of these results measures a point again.</source>
+        <translation>这些成果中没有重复测量的点。</translation>
+    </message>
+    <message>
+        <source>tolerance of resurveys</source>
+        <translation>复测限差</translation>
+    </message>
+    <message>
+        <source>Pairs: %1, without a time: %2. East, north and height: later minus first measurement; line: mean of a base, band: two standard deviations about it.</source>
+        <translation>点对：%1，无时间：%2。东、北、高：后一次减第一次测量；线：各基准站的平均值，带：其上下两倍标准差。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+</context>
+<context>
     <name>BaseMap</name>
     <message>
         <source>A base map needs a name.</source>
@@ -1454,6 +1493,37 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DayQualityPlot</name>
+    <message>
+        <source>Accuracy (m)</source>
+        <translation>精度 (m)</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>卫星数</translation>
+    </message>
+    <message>
+        <source>Accuracy and satellites over the day</source>
+        <translation>一天内的精度与卫星数</translation>
+    </message>
+    <message>
+        <source>None of the results has a time.</source>
+        <translation>所有成果都没有时间。</translation>
+    </message>
+    <message>
+        <source>limits: %1 m, %2 satellites</source>
+        <translation>限差：%1 m，%2 颗卫星</translation>
+    </message>
+    <message>
+        <source>Horizontal accuracy. Results: %1, of all shown days together, without a time: %2.</source>
+        <translation>水平精度。成果：%1，所示各天合并，无时间：%2。</translation>
+    </message>
+    <message>
+        <source>Time of the day</source>
+        <translation>一天中的时间</translation>
+    </message>
+</context>
+<context>
     <name>DemoProject</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1870,6 +1940,53 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Points with the same number in both grids: %1. Of these, OK generates the source points alone.</source>
         <translation>两个网格中同号的点：%1。对于这些点，“确定”只生成激发点。</translation>
+    </message>
+</context>
+<context>
+    <name>DistancePlot</name>
+    <message>
+        <source>Horizontal distances from the design</source>
+        <translation>与设计点的水平距离</translation>
+    </message>
+    <message>
+        <source>None of the results has a design position.</source>
+        <translation>所有成果都没有设计位置。</translation>
+    </message>
+    <message>
+        <source>Horizontal distance (m)</source>
+        <translation>水平距离 (m)</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>95 % are not farther than %1 m</source>
+        <translation>95 % 不超过 %1 m</translation>
+    </message>
+    <message>
+        <source>Results: %1, without a design position: %2.</source>
+        <translation>成果：%1，无设计位置：%2。</translation>
+    </message>
+    <message>
+        <source>95 %: by nearest rank, of n distances in ascending order number 0.95 n, rounded up.</source>
+        <translation>95 %：最近秩法，n 个距离按升序排列，取第 0.95 n 个（向上取整）。</translation>
+    </message>
+    <message>
+        <source>from %1 to %2 m: %3</source>
+        <translation>%1 至 %2 m：%3</translation>
+    </message>
+    <message>
+        <source>limit: %1 m</source>
+        <translation>限差：%1 m</translation>
+    </message>
+    <message>
+        <source>not farther than the limit: %1</source>
+        <translation>不超过限差：%1</translation>
+    </message>
+    <message>
+        <source>farther: %1</source>
+        <translation>超过限差：%1</translation>
     </message>
 </context>
 <context>
@@ -3472,6 +3589,17 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>GroupClasses</name>
+    <message>
+        <source>none given</source>
+        <translation>未注明</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及其他 %1 个</translation>
+    </message>
+</context>
+<context>
     <name>GuideCommand</name>
     <message>
         <source>User Guide</source>
@@ -3962,6 +4090,45 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>LineHeightPlot</name>
+    <message>
+        <source>Height differences along the lines</source>
+        <translation>沿测线的高差</translation>
+    </message>
+    <message>
+        <source>None of the results has a design elevation.</source>
+        <translation>所有成果都没有设计高程。</translation>
+    </message>
+    <message>
+        <source>Results: %1, without a design elevation: %2.</source>
+        <translation>成果：%1，无设计高程：%2。</translation>
+    </message>
+    <message>
+        <source>Points of line %1</source>
+        <translation>测线 %1 的点</translation>
+    </message>
+    <message>
+        <source>Lines, point by point</source>
+        <translation>测线，逐点</translation>
+    </message>
+    <message>
+        <source>Height difference (m)</source>
+        <translation>高差 (m)</translation>
+    </message>
+    <message>
+        <source>mean: %1 m</source>
+        <translation>平均值：%1 m</translation>
+    </message>
+    <message>
+        <source>mean: %1 m, standard deviation: %2 m</source>
+        <translation>平均值：%1 m，标准差：%2 m</translation>
+    </message>
+    <message>
+        <source>limit: %1 m</source>
+        <translation>限差：%1 m</translation>
+    </message>
+</context>
+<context>
     <name>LineKinds</name>
     <message>
         <source>The same at more points of the line: %1.</source>
@@ -4242,6 +4409,41 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>OffsetPlot</name>
+    <message>
+        <source>Offsets from the design</source>
+        <translation>与设计点的偏差</translation>
+    </message>
+    <message>
+        <source>None of the results has a design position.</source>
+        <translation>所有成果都没有设计位置。</translation>
+    </message>
+    <message>
+        <source>East (m)</source>
+        <translation>东 (m)</translation>
+    </message>
+    <message>
+        <source>North (m)</source>
+        <translation>北 (m)</translation>
+    </message>
+    <message>
+        <source>Results: %1, without a design position: %2.</source>
+        <translation>成果：%1，无设计位置：%2。</translation>
+    </message>
+    <message>
+        <source>limit: %1 m</source>
+        <translation>限差：%1 m</translation>
+    </message>
+    <message>
+        <source>95 % ellipse: %1 m by %2 m</source>
+        <translation>95 % 椭圆：%1 m × %2 m</translation>
+    </message>
+    <message>
+        <source>The ellipse holds 95 % of normally spread offsets: its middle is their mean, its half axes are the roots of 5.991 times the eigenvalues of their covariance matrix (with n - 1); 5.991 is the 95 % value of chi-square with two degrees of freedom. The longer axis points to %1%2.</source>
+        <translation>正态分布的偏差有 95 % 落在椭圆内：其中心为平均值，半轴为协方差矩阵（除以 n - 1）特征值乘以 5.991 的平方根；5.991 是自由度为 2 的卡方分布的 95 % 分位数。长轴方向为 %1%2。</translation>
+    </message>
+</context>
+<context>
     <name>OpenProjectCommand</name>
     <message>
         <source>Open Project</source>
@@ -4431,6 +4633,40 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Click place %1 of %2 on the map, free or on a point. Esc or a right click cancels.</source>
         <translation>请在地图上单击第 %1 处（共 %2 处）；单击点则取该点。按 Esc 或单击右键取消。</translation>
+    </message>
+</context>
+<context>
+    <name>PlotKinds</name>
+    <message>
+        <source>Offsets from the design</source>
+        <translation>与设计点的偏差</translation>
+    </message>
+    <message>
+        <source>Horizontal distances</source>
+        <translation>水平距离</translation>
+    </message>
+    <message>
+        <source>Height differences along the lines</source>
+        <translation>沿测线的高差</translation>
+    </message>
+    <message>
+        <source>Points measured twice, by base</source>
+        <translation>按基准站的重复测量点</translation>
+    </message>
+    <message>
+        <source>Accuracy and satellites over the day</source>
+        <translation>一天内的精度与卫星数</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+</context>
+<context>
+    <name>PlotLegend</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及其他 %1 个</translation>
     </message>
 </context>
 <context>
@@ -5162,6 +5398,61 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>No open problem was found. Results: %1, design points: %2</source>
         <translation>没有未处理的问题。成果：%1，设计点：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPlot</name>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>No design point was staked at a known time.</source>
+        <translation>没有在已知时间放样的设计点。</translation>
+    </message>
+    <message>
+        <source>The pace is the mean of the points staked on each of the last %1 days on which any were. The last day expected is counted with as many days off between them as these had.</source>
+        <translation>进度速率是最近 %1 个有放样的日子每天放样点数的平均值。预计完成日按这些日子之间同样比例的休息日推算。</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Points a day</source>
+        <translation>每天点数</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation>%1，%2：%3</translation>
+    </message>
+    <message>
+        <source>Points done</source>
+        <translation>完成点数</translation>
+    </message>
+    <message>
+        <source>design: %1</source>
+        <translation>设计：%1</translation>
+    </message>
+    <message>
+        <source>done: %1</source>
+        <translation>已完成：%1</translation>
+    </message>
+    <message>
+        <source>Done: %1 of %2, left: %3.</source>
+        <translation>已完成：%1 / %2，剩余：%3。</translation>
+    </message>
+    <message>
+        <source>Without a time: %1.</source>
+        <translation>无时间：%1。</translation>
+    </message>
+    <message>
+        <source>At the present pace of %1 points a day, days of work still needed: %2.</source>
+        <translation>按目前每天 %1 点的速率，还需工作天数：%2。</translation>
+    </message>
+    <message>
+        <source>Last day expected: %1.</source>
+        <translation>预计完成日：%1。</translation>
     </message>
 </context>
 <context>
@@ -7542,6 +7833,42 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>StatisticsPlot</name>
+    <message>
+        <source>There is nothing to show.</source>
+        <translation>没有可显示的内容。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>There are no results to show.</source>
+        <translation>没有可显示的成果。</translation>
+    </message>
+    <message>
+        <source>Outside of the picture: %1.</source>
+        <translation>在图外：%1。</translation>
+    </message>
+    <message>
+        <source>Line %1, point %2</source>
+        <translation>测线 %1，点 %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not written: a plot is saved as PNG, SVG or PDF.</source>
+        <translation>未写入“%1”：图只能保存为 PNG、SVG 或 PDF。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2.</source>
+        <translation>无法写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+</context>
+<context>
     <name>StatisticsReport</name>
     <message>
         <source>up to %1</source>
@@ -8799,6 +9126,21 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Undo %1</source>
         <translation>撤销 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VerdictClasses</name>
+    <message>
+        <source>within all limits: %1</source>
+        <translation>全部合格：%1</translation>
+    </message>
+    <message>
+        <source>over a limit: %1</source>
+        <translation>超限：%1</translation>
+    </message>
+    <message>
+        <source>not judged: %1</source>
+        <translation>未判定：%1</translation>
     </message>
 </context>
 </TS>

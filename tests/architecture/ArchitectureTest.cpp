@@ -108,6 +108,7 @@ TEST(IncludeFault, JudgesOneLine)
         {"platform/lum_sdk/A.cpp", "#include <QtWidgets>", "widgets"},
         {"design/A.h", "#include <QtWidgets/QMenu>", "widgets"},
         {"map/A.h", "#include <qtadvanceddocking/DockWidget.h>", "widgets"},
+        {"quality/statistics/A.h", "#include <qwt_plot.h>", "widgets"},
     };
     for (const auto& [file, line, fault] : kLines) {
         const std::string found = includeFault(file, line);

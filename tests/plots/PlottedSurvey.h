@@ -12,8 +12,8 @@ struct PlottedSurvey : MadeSurvey
 {
     [[nodiscard]] PlotData data() const
     {
-        auto pairs = std::make_shared<statistics::MeasuredPairs>(
-            statistics::resurveyPairs(results, "F", 1));
+        auto pairs =
+            std::make_shared<statistics::MeasuredPairs>(statistics::resurveyPairs(results, "F", 1));
         PlotData all = PlotData::ofAll(std::make_shared<statistics::SurveySample>(sample(0)),
                                        std::move(pairs), basalt::LocalTimes(0));
         all.tolerances.metres = {0.03, 0.03, 0.03};

@@ -62,7 +62,8 @@ TEST(ErrorEllipse, IsOfFirstMeasurementsWithADesignAlone)
 {
     MadeSurvey survey = cross(30, 2, 0.5);
     survey.measure("1", "1F").east += 100;
-    survey.measure("1", "5").designNorth = survey.results.find("1", "5")->designEast = 0;
+    SurveyPoint& undesigned = survey.measure("1", "5");
+    undesigned.designNorth = undesigned.designEast = 0;
     survey.measure("1", "6").east = NAN;
     EXPECT_EQ(ellipseOf(survey).count, 4U);
     EXPECT_NEAR(ellipseOf(survey).azimuthDeg, 30, 1e-4);
