@@ -15,6 +15,7 @@
 #include "map/ui/DataProcessLayerImp.h"
 #include "map/ui/DrawCommands.h"
 #include "map/ui/MouseModeCommands.h"
+#include "map/ui/PrintMapCommand.h"
 #include "map/ui/ReactorMoveTrans.h"
 #include "map/ui/ReactorZoomRectTrans.h"
 #include "map/ui/SeletePointReactor.h"
@@ -74,6 +75,7 @@ using namespace desktop::registration;
     command<SaveProjectCommand>         ("SaveProjectCommand",           "保存工程"),
     command<SaveCopyCommand>            ("SaveCopyCommand",              "工程另存副本"),
     command<CloseProjectCommand>        ("CloseProjectCommand",          "关闭工程"),
+    command<PrintMapCommand>            ("PrintMapCommand",              "打印/导出地图"),
     command<SysSettingCommand>          ("SysSettingCommand",            "设置"),
     command<TimeZomeDlgCommand>         ("TimeZomeDlgCommand",           "时区修改"),
     command<QualitySpecificateCommand>  ("QualitySpecificateCommand",    "质量规范"),

@@ -281,7 +281,9 @@ private:
 
     const Look& m_look;
     const QPen m_toBase{m_look.toBase, 1};
-    ThinLine m_thinToBase{m_painter, m_look.toBase.rgb()};
+    ThinLine m_thinToBase{m_painter, m_look.toBase.rgb(),
+                          m_options.hasFineBaseTies ? ThinLine::Width::DevicePixel
+                                                    : ThinLine::Width::ScreenPixel};
     const QPen m_toDesign{m_look.toDesign, 1, Qt::DashLine};
     const QPen m_nameText{m_look.name};
     const QPen m_lineText{m_look.lineName};

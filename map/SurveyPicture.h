@@ -18,6 +18,8 @@ struct SurveyPictureOptions
     bool showsBaseTies = true; ///< the lines from results to their base stations
     bool showsOffsets = true;  ///< the design positions, and the dashed lines to them
     Names names = Names::All;
+    /// Base ties are a device pixel wide, for a picture that is printed: thousands of them meet.
+    bool hasFineBaseTies = false;
 };
 
 /// What the picture has without a choice. Coloured results have names where there is room and no

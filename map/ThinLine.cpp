@@ -38,10 +38,12 @@ double engineShift(double start)
 
 } // namespace
 
-ThinLine::ThinLine(const QPainter& painter, QRgb color) : m_color(color)
+ThinLine::ThinLine(const QPainter& painter, QRgb color, Width width)
+    : m_toPixels(painter.deviceTransform()), m_color(color)
 {
+    const auto most = width == Width::DevicePixel ? QTransform::TxScale : QTransform::TxTranslate;
     if (painter.device()->devType() != QInternal::Image || painter.hasClipping() ||
-        !painter.deviceTransform().isIdentity())
+        m_toPixels.type() > most)
         return;
     auto* const image = static_cast<QImage*>(painter.device());
     if (image->format() != QImage::Format_RGB32 &&
@@ -56,11 +58,12 @@ bool ThinLine::draw(const QLineF& line)
 {
     if (m_pixels == nullptr)
         return false;
-    if (std::abs(line.dx()) >= std::abs(line.dy()))
-        drawAlong({m_size.width(), m_size.height(), 1, m_lineStep}, line.p1(), line.p2());
+    const QLineF own = m_toPixels.map(line);
+    if (std::abs(own.dx()) >= std::abs(own.dy()))
+        drawAlong({m_size.width(), m_size.height(), 1, m_lineStep}, own.p1(), own.p2());
     else
-        drawAlong({m_size.height(), m_size.width(), m_lineStep, 1}, line.p1().transposed(),
-                  line.p2().transposed());
+        drawAlong({m_size.height(), m_size.width(), m_lineStep, 1}, own.p1().transposed(),
+                  own.p2().transposed());
     return true;
 }
 
@@ -68,6 +71,8 @@ bool ThinLine::draw(const QLineF& line)
 /// axis next to the middle of the line.
 void ThinLine::drawAlong(const Axes& axes, QPointF from, QPointF to)
 {
+    if (std::max(from.y(), to.y()) < -1 || std::min(from.y(), to.y()) > axes.minorSize + 1)
+        return; // beside the image, which may be a part of the picture
     if (from.x() > to.x())
         std::swap(from, to);
     const double length = to.x() - from.x();

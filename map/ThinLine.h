@@ -3,6 +3,7 @@
 #include <QLineF>
 #include <QRgb>
 #include <QSize>
+#include <QTransform>
 
 #include <cstddef>
 
@@ -16,12 +17,20 @@ class QPainter;
 class ThinLine
 {
 public:
+    /// The width of a line where a screen pixel has several device pixels.
+    enum class Width
+    {
+        ScreenPixel, ///< the painter itself must draw there
+        DevicePixel
+    };
+
+    /// \param painter moved as it will be when lines are drawn
     /// \param color opaque
-    ThinLine(const QPainter& painter, QRgb color);
+    ThinLine(const QPainter& painter, QRgb color, Width width = Width::ScreenPixel);
 
     /// \param line finite, and clipped to the picture or its surroundings
     /// \returns false, and draws nothing, when the painter itself must draw: its device is no image
-    ///          of 32 bits, or it clips, rotates or scales
+    ///          of 32 bits, or it clips, rotates or scales otherwise than `Width` allows
     [[nodiscard]] bool draw(const QLineF& line);
 
 private:
@@ -38,6 +47,7 @@ private:
     void blend(const Axes& axes, int major, double minor, double cover);
 
     QRgb* m_pixels = nullptr; ///< of the image; null when only the painter can draw
+    QTransform m_toPixels;
     QSize m_size;
     std::ptrdiff_t m_lineStep = 0; ///< to the next row of pixels, in pixels of memory
     QRgb m_color;

@@ -44,6 +44,14 @@
         <translation>把整个工程按当前内容另存到其他文件夹</translation>
     </message>
     <message>
+        <source>Print / Export &amp;Map...</source>
+        <translation>打印/导出地图(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Put what the map shows on paper, at a scale: PDF, picture, GeoTIFF or printer</source>
+        <translation>把地图上显示的内容按比例尺输出到图纸：PDF、图片、GeoTIFF 或打印机</translation>
+    </message>
+    <message>
         <source>&amp;Close Project</source>
         <translation>关闭工程(&amp;C)</translation>
     </message>

@@ -2651,6 +2651,109 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DlgPrintMap</name>
+    <message>
+        <source>&amp;Fit the area</source>
+        <translation>适合范围(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Print / Export Map</source>
+        <translation>打印/导出地图</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>All points</source>
+        <translation>全部点</translation>
+    </message>
+    <message>
+        <source>What the map shows</source>
+        <translation>地图显示的范围</translation>
+    </message>
+    <message>
+        <source>How sharp the map is: dots to an inch</source>
+        <translation>地图的清晰程度：每英寸点数</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>The largest round scale at which the whole area is seen</source>
+        <translation>能看到整个范围的最大的整比例尺</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>标题(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>纸张(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>方向(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>&amp;Area:</source>
+        <translation>范围(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>比例尺(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>分辨率(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve As...</source>
+        <translation>另存为(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Write a PDF file, a picture (PNG), or a GeoTIFF of the map alone</source>
+        <translation>写出 PDF 文件、图片（PNG），或只有地图本身的 GeoTIFF</translation>
+    </message>
+    <message>
+        <source>Pri&amp;nt...</source>
+        <translation>打印(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>This computer has no printer</source>
+        <translation>此计算机没有打印机</translation>
+    </message>
+    <message>
+        <source>PDF file(*.pdf);;Picture(*.png);;GeoTIFF of the map alone(*.tif *.tiff)</source>
+        <translation>PDF 文件(*.pdf);;图片(*.png);;只有地图的 GeoTIFF(*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Writing the map...</source>
+        <translation>正在写出地图...</translation>
+    </message>
+    <message>
+        <source>Printing the map...</source>
+        <translation>正在打印地图...</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>正在取消...</translation>
+    </message>
+</context>
+<context>
     <name>DlgProjectPlace</name>
     <message>
         <source>Project Name:</source>
@@ -4129,6 +4232,116 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>&quot;%1&quot; is not a file that can be opened here.</source>
         <translation>“%1”不是可以在此打开的文件。</translation>
+    </message>
+</context>
+<context>
+    <name>MapGround</name>
+    <message>
+        <source>Parts of the base map &quot;%1&quot; did not come in time.</source>
+        <translation>底图“%1”的一部分没有及时到达。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies outside of the picture.</source>
+        <translation>“%1”在图片范围之外。</translation>
+    </message>
+</context>
+<context>
+    <name>MapSheet</name>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1: survey results</source>
+        <translation>%1：测量成果</translation>
+    </message>
+    <message>
+        <source>%1: design</source>
+        <translation>%1：设计测线</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>There is nothing to print: the project has no survey results.</source>
+        <translation>没有可打印的内容：工程中没有测量成果。</translation>
+    </message>
+    <message>
+        <source>There is nothing to print: the project has no design points.</source>
+        <translation>没有可打印的内容：工程中没有设计点。</translation>
+    </message>
+    <message>
+        <source>A picture of %1 can have up to %2 dots to an inch.</source>
+        <translation>%1 的图片每英寸最多 %2 点。</translation>
+    </message>
+    <message>
+        <source>At this scale the paper shows a part of the area only.</source>
+        <translation>在此比例尺下，图纸只能显示范围的一部分。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends neither with .pdf nor with .png or .tif.</source>
+        <translation>“%1”的扩展名不是 .pdf、.png 或 .tif。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 on %3.</source>
+        <translation>“%1”：比例尺 %2，纸张 %3。</translation>
+    </message>
+    <message>
+        <source>Cancelled; no file was written.</source>
+        <translation>已取消，没有写出文件。</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The project has no coordinate system; the file has coordinates alone.</source>
+        <translation>工程没有坐标系统，文件中只有坐标。</translation>
+    </message>
+    <message>
+        <source>The file has the map&apos;s place in its coordinates, but not the coordinate system itself.</source>
+        <translation>文件中有地图的坐标位置，但没有坐标系统本身。</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print.</source>
+        <translation>打印机“%1”无法打印。</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was printed.</source>
+        <translation>已取消，没有打印。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to print the map.</source>
+        <translation>内存不足，无法打印地图。</translation>
+    </message>
+    <message>
+        <source>The map was printed, %1 on %2.</source>
+        <translation>地图已打印，比例尺 %1，纸张 %2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is written, but not complete: %2</source>
+        <translation>“%1”已写出，但不完整：%2</translation>
+    </message>
+    <message>
+        <source>The map was printed, but is not complete: %1</source>
+        <translation>地图已打印，但不完整：%1</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@
 #include "app/cli/ImportFiles.h"
 #include "app/cli/ListProblems.h"
 #include "app/cli/PrintHistory.h"
+#include "app/cli/PrintMap.h"
 #include "app/cli/ProjectInfo.h"
 #include "app/cli/QualitySettings.h"
 #include "app/cli/RenderProject.h"
@@ -62,6 +63,9 @@ constexpr std::array kCommands{
     CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH] [--overlay FILE] [--base-map NAME] [--color-by verdict|solution|accuracy|surveyor|rover|day]",
                "paint the whole map into a picture, over images and a base map (each image with its own --overlay, the last on top; --color-by: the results in colours, with their legend)",
                3, 3, "--size,--overlay,--base-map,--color-by", "", renderProject, true},
+    CliCommand{"print", "PROJECT design|survey FILE.pdf|FILE.png|FILE.tif [--scale N] [--paper A4|A3|A2|A1|A0|...] [--landscape] [--title TEXT] [--dpi N] [--overlay FILE] [--base-map NAME] [--color-by verdict|solution|accuracy|surveyor|rover|day]",
+               "put the map on paper, at 1:N or the round scale that shows all, with frame, coordinates and legend (.tif: a GeoTIFF of the map alone)",
+               3, 3, "--scale,--paper,--title,--dpi,--overlay,--base-map,--color-by", "--landscape", printMap, true},
     CliCommand{"add-overlay", "PROJECT FILE ...",
                "lay images under the map of a project, over those that are there, the last on top",
                2, kAny, "", "", addOverlay},

@@ -34,7 +34,7 @@ const Floors& floors()
         {Room::WithoutWidgets, {"protocol", "model"}},
         {Room::WithoutWidgets, {"exchange", "quality", "design", "map"}},
         {Room::WithoutWidgets, {"quality/statistics", "quality/colors"}},
-        {Room::WithoutWidgets, {"quality/problems"}},
+        {Room::WithoutWidgets, {"quality/problems", "map/sheet"}},
         {Room::WithoutWidgets, {"reports"}},
         {Room::WithoutWidgets, {"project", "samples"}},
         {Room::WithWidgets, {"platform/lum_desktop_sdkx"}}, // the interfaces at its top

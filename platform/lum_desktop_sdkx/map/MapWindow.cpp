@@ -4,9 +4,7 @@
 #include "basalt_utilities/KeyList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/LayerPicture.h"
-#include "lum_desktop_sdkx/map/NorthArrow.h"
 #include "lum_desktop_sdkx/map/ReactorEvents.h"
-#include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/coords/ShownUnit.h"
@@ -17,6 +15,8 @@
 #include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/raster/Attribution.h"
 #include "lum_sdk/raster/Legend.h"
+#include "lum_sdk/raster/NorthArrow.h"
+#include "lum_sdk/raster/ScaleBar.h"
 #include "lum_sdk/Text.h"
 
 #include <QApplication>
@@ -287,8 +287,8 @@ void MapWindow::paintEvent(QPaintEvent* /*event*/)
         m_overlays[number].draw(painter, m_transform);
     if (!m_host.hasDocument())
         return; // nothing here has a scale
-    const QRect bar = drawScaleBar(painter, m_transform, lum::shownUnit());
-    drawNorthArrow(painter, m_transform);
+    const QRect bar = lum::drawScaleBar(painter, m_transform, lum::shownUnit());
+    lum::drawNorthArrow(painter, m_transform);
     lum::drawLegend(painter, size(), m_layers.legend());
     lum::drawAttribution(painter, size(), m_layers.attributions(), bar);
 }

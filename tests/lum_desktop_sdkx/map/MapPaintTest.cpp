@@ -4,13 +4,13 @@
 #include "lum_desktop_sdkx/map/MapComponents.h"
 #include "lum_desktop_sdkx/map/MapPicture.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
-#include "lum_desktop_sdkx/map/ScaleBar.h"
 #include "lum_desktop_sdkx/Registration.h"
 #include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/LengthUnit.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/raster/ScaleBar.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/lum_desktop_sdkx/MapMouse.h"
@@ -426,12 +426,12 @@ private Q_SLOTS:
     {
         for (const auto& [limit, length] :
              {std::pair(1.99, 1.), {4.9, 2.}, {5., 5.}, {0.02, 0.02}, {0.0199, 0.01}})
-            QCOMPARE(roundLength(limit), length);
-        QCOMPARE(lengthText(500, lum::kMetre), "500 m"_q);
-        QCOMPARE(lengthText(2e7, lum::kMetre), "20000 km"_q);
-        QCOMPARE(lengthText(1e8, lum::kFoot), "100000000 ft"_q);
-        QCOMPARE(lengthText(5e-5, lum::kMetre), "0.00005 m"_q);
-        QCOMPARE(lengthText(2000, lum::kUsSurveyFoot), "2000 ftUS"_q);
+            QCOMPARE(lum::roundLength(limit), length);
+        QCOMPARE(lum::lengthText(500, lum::kMetre), "500 m"_q);
+        QCOMPARE(lum::lengthText(2e7, lum::kMetre), "20000 km"_q);
+        QCOMPARE(lum::lengthText(1e8, lum::kFoot), "100000000 ft"_q);
+        QCOMPARE(lum::lengthText(5e-5, lum::kMetre), "0.00005 m"_q);
+        QCOMPARE(lum::lengthText(2000, lum::kUsSurveyFoot), "2000 ftUS"_q);
 
         const auto blackPixels = [this] { // in a row through the bar, left of its text
             return countPixels(shown(), {0, 276, 70, 1}, Qt::black);

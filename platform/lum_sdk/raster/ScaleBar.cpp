@@ -1,4 +1,4 @@
-#include "lum_desktop_sdkx/map/ScaleBar.h"
+#include "lum_sdk/raster/ScaleBar.h"
 
 #include "basalt_utilities/Numbers.h"
 #include "lum_sdk/coords/ShownUnit.h"
@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+
+namespace lum {
 
 namespace {
 
@@ -26,13 +28,16 @@ constexpr int kPaperAlpha = 210; // lets a little of the map show through
 /// Draws the bar at the left of `paper`: its left half black, its right half white.
 void drawBar(QPainter& painter, const QRect& paper, double length)
 {
+    // Sharp ends on a screen, the true length on paper.
+    const bool isScreen = !painter.worldTransform().isScaling();
+    const auto drawn = [&](double pixels) { return isScreen ? std::round(pixels) : pixels; };
     const double top = paper.center().y() - kThickness / 2.0 + 0.5;
-    const QRectF bar(paper.left() + kPadding + 0.5, top, std::round(length), kThickness);
+    const QRectF bar(paper.left() + kPadding + 0.5, top, drawn(length), kThickness);
     painter.setPen(Qt::black);
     painter.setBrush(Qt::white);
     painter.drawRect(bar);
     painter.setBrush(Qt::black);
-    painter.drawRect(QRectF(bar.topLeft(), QSizeF(std::round(length / 2), kThickness)));
+    painter.drawRect(QRectF(bar.topLeft(), QSizeF(drawn(length / 2), kThickness)));
 }
 
 } // namespace
@@ -47,15 +52,15 @@ double roundLength(double limit)
     return power;
 }
 
-QString lengthText(double length, const lum::LengthUnit& unit)
+QString lengthText(double length, const LengthUnit& unit)
 {
-    const bool isKilometres = lum::isMetre(unit) && length >= 1000;
+    const bool isKilometres = isMetre(unit) && length >= 1000;
     const std::string number = basalt::formatShortest(isKilometres ? length / 1000 : length);
-    const std::string symbol = isKilometres ? "km" : lum::symbolOf(unit);
+    const std::string symbol = isKilometres ? "km" : symbolOf(unit);
     return QString::fromStdString(number + ' ' + symbol);
 }
 
-QRect drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUnit& unit)
+QRect drawScaleBar(QPainter& painter, const Transform& view, const ShownUnit& unit)
 {
     const QSize screen = view.size();
     if (screen.width() < kSmallestScreen || screen.height() < kSmallestScreen / 2)
@@ -79,3 +84,5 @@ QRect drawScaleBar(QPainter& painter, const Transform& view, const lum::ShownUni
     painter.restore();
     return paper;
 }
+
+} // namespace lum

@@ -1,9 +1,11 @@
-#include "lum_desktop_sdkx/map/NorthArrow.h"
+#include "lum_sdk/raster/NorthArrow.h"
 
 #include "lum_sdk/Transform.h"
 
 #include <QCoreApplication>
 #include <QPainter>
+
+namespace lum {
 
 namespace {
 
@@ -45,3 +47,5 @@ void drawNorthArrow(QPainter& painter, const Transform& view)
     drawNeedle(painter, QRectF(paper).adjusted(5, textHeight, -5, -5));
     painter.restore();
 }
+
+} // namespace lum
