@@ -87,6 +87,8 @@ QString statisticsKeyName(GroupKey key)
         return Texts::tr("Surveyor");
     case GroupKey::Base:
         return Texts::tr("Base");
+    case GroupKey::PointKind:
+        return Texts::tr("Kind");
     default:
         return {};
     }
@@ -96,5 +98,7 @@ QString statisticsKeyText(GroupKey key, const statistics::KeyValue& value)
 {
     if (key == GroupKey::Day && value.number != statistics::KeyValue::kNoNumber)
         return QDate(1970, 1, 1).addDays(value.number).toString(QStringLiteral("yyyy-MM-dd"));
+    if (key == GroupKey::PointKind)
+        return value.number == 0 ? Texts::tr("Sources") : Texts::tr("Receivers");
     return value.text.empty() ? Texts::tr("none given") : lum::toQString(value.text);
 }
