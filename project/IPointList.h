@@ -1,5 +1,9 @@
 #pragma once
 
+#include "model/PointName.h"
+
+#include <vector>
+
 class QString;
 
 /// A window that lists points: "Survey Data List" the results, "Design Data List" the design.
@@ -18,4 +22,12 @@ public:
 
     /// Selects no row: what was selected elsewhere is no point of this list.
     virtual void deselect() = 0;
+
+    /// Shows these points alone, of all lines, besides the filters that there are; the user can
+    /// take that back there. \param what   they are: "Rover 5432" \param points ascending by line
+    /// and number
+    virtual void showOnly(const QString& what, std::vector<PointName> points) = 0;
+
+    /// Takes `showOnly` back.
+    virtual void showOthersAgain() = 0;
 };

@@ -28,10 +28,16 @@ public:
         return true;
     }
     void deselect() override { followed << QStringLiteral("nothing"); }
+    void showOnly(const QString& what, std::vector<PointName> points) override
+    {
+        only = what + QLatin1String(": ") + QString::number(points.size());
+    }
+    void showOthersAgain() override { only.clear(); }
     void followLine(const QString& line) override { followed << line; }
 
     QStringList selected; ///< LINE/POINT
     QStringList followed; ///< LINE/POINT, LINE or "nothing"
+    QString only;         ///< what is shown alone, and of how many points
     QString lineThatIsMissing;
     std::function<void(const QString& line, const QString& point)> onFollow;
 

@@ -15,6 +15,7 @@
 #include <limits>
 #include <numeric>
 #include <optional>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -113,11 +114,17 @@ public:
     }
     [[nodiscard]] bool isFiltered() const override
     {
-        return std::any_of(m_filters.begin(), m_filters.end(),
-                           [](const Filter& filter) { return !filter.filter.isEmpty(); });
+        return m_only || std::any_of(m_filters.begin(), m_filters.end(),
+                                     [](const Filter& filter) { return !filter.filter.isEmpty(); });
+    }
+    void setOnly(std::optional<std::vector<PointName>> points) override
+    {
+        m_only = std::move(points);
+        relayout();
     }
     void clearFilters() override
     {
+        m_only.reset();
         m_filters.assign(m_columns.size(), {});
         relayout();
     }
@@ -185,11 +192,13 @@ private:
     void relayout(Renewal renewal = Renewal::Points);
     void readPoints();
     void arrange(Renewal renewal = Renewal::Points);
+    void narrowToOnly(std::vector<std::uint32_t>& places) const;
     void narrow(std::vector<std::uint32_t>& places, int column) const;
     void sort(std::vector<std::uint32_t>& places) const;
 
     const std::vector<Column> m_columns;
     std::vector<Filter> m_filters; ///< of each column
+    std::optional<std::vector<PointName>> m_only;
     Choice m_choice = Choice::Nothing;
     QString m_line;
     int m_sortColumn = -1;
@@ -327,6 +336,8 @@ void PointTable<Point>::arrange(Renewal renewal)
     renewTexts(renewal);
     std::vector<std::uint32_t> places(m_rows.size());
     std::iota(places.begin(), places.end(), 0U);
+    if (m_only)
+        narrowToOnly(places);
     for (int column = 0; column < columnCount(); ++column) {
         if (!filterAt(column).filter.isEmpty())
             narrow(places, column);
@@ -334,6 +345,20 @@ void PointTable<Point>::arrange(Renewal renewal)
     if (m_sortColumn >= 0)
         sort(places);
     m_shown.set(std::move(places), m_sortColumn < 0, m_rows.size());
+}
+
+/// Keeps the points of `m_only`. Both are in the order of their names.
+template <class Point>
+void PointTable<Point>::narrowToOnly(std::vector<std::uint32_t>& places) const
+{
+    auto next = m_only->begin();
+    std::erase_if(places, [&](std::uint32_t place) {
+        const Point& point = m_rows[place];
+        const auto name = std::tie(point.lineNumber, point.pointNumber);
+        while (next != m_only->end() && std::tie(next->line, next->point) < name)
+            ++next;
+        return next == m_only->end() || std::tie(next->line, next->point) != name;
+    });
 }
 
 /// Keeps the rows that pass the filter of a column.

@@ -5,6 +5,9 @@
 #include <QAbstractTableModel>
 #include <QStringList>
 
+#include <optional>
+#include <vector>
+
 /// The points of one line, or of all lines, as a table over the project's records.
 ///
 /// A row is a reference to a record, never a copy, and a cell is formatted when it is asked for.
@@ -61,6 +64,10 @@ public:
     /// Why the expression of a column cannot be read, translated; empty when it can.
     [[nodiscard]] virtual QString filterFault(int column) const = 0;
     [[nodiscard]] virtual bool isFiltered() const = 0;
+    /// Shows only these points, those of them that there are now and later.
+    /// \param points ascending by line and number; nothing for all points
+    virtual void setOnly(std::optional<std::vector<PointName>> points) = 0;
+    /// `setOnly` with them.
     virtual void clearFilters() = 0;
 
     /// The key of a column, for settings: the same in every language.

@@ -25,6 +25,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int kLongestName = 40; // of a point, in a sentence
@@ -116,6 +118,32 @@ void PointTableWindow::deselect()
 {
     m_selected = {};
     m_table->clearSelection(); // the keys go on from its row
+    showState();
+}
+
+void PointTableWindow::showOnly(const QString& what, std::vector<PointName> points)
+{
+    const QString line = m_model->line();
+    showAllLines();
+    if (!line.isEmpty())
+        m_lineBefore = line;
+    m_only = what;
+    m_model->setOnly(std::move(points));
+    m_table->scrollToTop();
+    reselect();
+    showState();
+}
+
+void PointTableWindow::showOthersAgain()
+{
+    if (m_only.isEmpty())
+        return;
+    m_only.clear();
+    m_model->setOnly({});
+    const QString line = std::exchange(m_lineBefore, {});
+    if (!line.isEmpty() && m_model->showsAllLines())
+        showLine(line);
+    reselect();
     showState();
 }
 
@@ -275,6 +303,7 @@ void PointTableWindow::clearFilters()
         m_header->setFault(column, {});
     }
     m_model->clearFilters();
+    showOthersAgain();
     reselect();
     showState();
 }
@@ -410,8 +439,11 @@ QString PointTableWindow::noteText() const
     }
     const bool isHidden = !m_selected.point.empty() && m_model->isFiltered() &&
                           m_model->rowOf(m_selected) < 0 && m_model->holds(m_selected);
-    if (!isHidden)
+    if (!isHidden && m_only.isEmpty())
         return {};
+    if (!isHidden)
+        return tr("Only %1. <a href=\"#\">Clear all filters</a>")
+            .arg(shortName(m_only.toStdString()));
     return tr("The filters hide the selected point %1. <a href=\"#\">Clear all filters</a>")
         .arg(shortName(m_selected.point));
 }

@@ -39,6 +39,8 @@ public:
     bool selectPoint(const QString& lineNumber, const QString& pointNumber) override;
     bool followPoint(const QString& lineNumber, const QString& pointNumber) override;
     void deselect() override;
+    void showOnly(const QString& what, std::vector<PointName> points) override;
+    void showOthersAgain() override;
 
 protected:
     /// \param selectedEvent announces a selected point
@@ -114,6 +116,8 @@ private:
     TableCountLine* m_counts;
     QLabel* m_empty; ///< over the rows that are not there
     PointName m_selected;
+    QString m_only;       ///< what is shown alone; empty for nothing
+    QString m_lineBefore; ///< the one that was shown before that
     std::string m_colors; ///< see `resultMarksState`, when the rows were last read
     bool m_isAnnouncing = false;
 };
