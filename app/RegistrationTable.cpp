@@ -44,6 +44,7 @@
 #include "views/history/HistoryCommand.h"
 #include "views/problems/ProblemCommands.h"
 #include "views/problems/ProblemWindow.h"
+#include "views/statistics/StatisticsWindow.h"
 #include "views/tables/DesignLineTable.h"
 #include "views/tables/SurveyDataTable.h"
 #include "views/tables/SurveyTableHideCommand.h"
@@ -61,6 +62,7 @@ using namespace desktop::registration;
     window<DesignLineTable>             ("DesignLineTable",              "设计测线列表"),
     window<SurveyDataTable>             ("SurveyDataTable",              "勘察数据列表"),
     window<ProblemWindow>               ("ProblemWindow",                "问题列表"),
+    window<StatisticsWindow>            ("StatisticsWindow",             "统计"),
     window<DesignLineControl>           ("DesignLineControl",            "设计测线控制窗口"),
     window<SurveyDataControl>           ("SurveyDataControl",            "勘察数据控制窗口"),
     window<AttributeControl>            ("AttributeControl",             "属性编辑窗口"),

@@ -34,5 +34,10 @@ inline constexpr const char* kShowOffsets = "show_offsets"; ///< "1"
 inline constexpr const char* kResultNames = "result_names";
 /// Of the kinds and of each column, pixels at 100 %; 0 for those that the user has not chosen; ""
 inline constexpr const char* kProblemWidths = "problem_widths";
+/// "line", "day", "rover", "surveyor", "base", "kind" or "all"; "" is "line"
+inline constexpr const char* kStatisticsGroups = "statistics_groups";
+inline constexpr const char* kStatisticsPlot = "statistics_plot"; ///< see PlotKinds.h; "" the first
+/// Of table and plot, then of each column, as those of the problems.
+inline constexpr const char* kStatisticsWidths = "statistics_widths";
 
 } // namespace settings

@@ -348,6 +348,10 @@
         <translation>转到问题列表(&amp;P)</translation>
     </message>
     <message>
+        <source>Go to S&amp;tatistics</source>
+        <translation>转到统计(&amp;T)</translation>
+    </message>
+    <message>
         <source>Reset &amp;Layout</source>
         <translation>恢复默认布局(&amp;L)</translation>
     </message>
@@ -806,6 +810,10 @@
     <message>
         <source>Problems List</source>
         <translation>问题列表</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
     </message>
     <message>
         <source>Design Lines</source>

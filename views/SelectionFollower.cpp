@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_desktop_sdkx/IWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/events/EventNames.h"
 #include "lum_sdk/events/Payload.h"
@@ -15,6 +16,7 @@
 #include "views/SelectedPoint.h"
 
 #include <QScopedValueRollback>
+#include <QWidget>
 
 #include <cstring>
 #include <type_traits>
@@ -23,6 +25,12 @@ namespace {
 
 constexpr const char* kResults = "Survey Data List";
 constexpr const char* kDesign = "Design Data List";
+
+bool isInFront(const IWindowRegistry& windows, const QString& name)
+{
+    IWindow* const window = windows.find(name);
+    return window != nullptr && window->widget() != nullptr && window->widget()->isVisible();
+}
 
 /// Shows a point in the windows of these names.
 /// \returns false, and changes nothing, when there is no such point
@@ -39,6 +47,9 @@ bool show(IDesktopHost& host, const Points& points, const PointName& name, const
     auto* const problems = windows.findAs<IProblemList>(problemList);
     if (problems != nullptr && problems->followPoint(std::is_same_v<Points, DesignPoints>, name))
         uncovered << problemList;
+    const QString statistics = QStringLiteral("Statistics");
+    if (isInFront(windows, statistics))
+        uncovered << statistics;
     if (auto* const list = windows.findAs<IPointList>(QLatin1String(pointList))) {
         windows.reveal(QLatin1String(pointList), uncovered);
         list->followPoint(lum::toQString(name.line), lum::toQString(name.point));

@@ -10,8 +10,8 @@ class IDictionary;
 /// Shows what was selected in one window in all the others: the row of the table, the line of the
 /// tree and the mark on the map. There is one selection: a table in which it is not has no selected
 /// row. A table comes to the front of its tabs unless it would cover the map, or the list of
-/// problems while that is in front: so one goes from problem to problem. Nothing is opened, and the
-/// focus stays where it is.
+/// problems or the statistics while these are in front: so one goes from problem to problem.
+/// Nothing is opened, and the focus stays where it is.
 ///
 /// A selection of a point that the project does not have is passed over. The mark of a point that
 /// was deleted goes with the next refresh of the layers.

@@ -49,7 +49,7 @@ const Floors& floors()
         {Room::WithWidgets,
          {"quality/ui", "design/ui", "reports/ui", "views", "views/find", "views/history",
           "views/tables", "views/trees"}},
-        {Room::WithWidgets, {"views/problems"}}, // filters and orders as the tables
+        {Room::WithWidgets, {"views/problems", "views/statistics"}}, // beside the tables
         {Room::WithWidgets, {"app"}},
     };
     return kFloors;

@@ -1,0 +1,327 @@
+#include "views/statistics/StatisticsWindow.h"
+
+#include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_sdk/events/ProgressReporter.h"
+#include "lum_sdk/Transform.h"
+#include "plots/StatisticsPlot.h"
+#include "protocol/Events.h"
+#include "reports/ReportInput.h"
+#include "reports/StatisticsReport.h"
+#include "tests/lum_desktop_sdkx/MapMouse.h"
+#include "tests/project/OpenProject.h"
+#include "tests/quality/statistics/MadeSurvey.h"
+#include "tests/support/Boxes.h"
+#include "tests/support/Literals.h"
+#include "tests/support/TestFolder.h"
+#include "tests/support/WorkbookReader.h"
+#include "views/SelectionFollower.h"
+#include "views/statistics/StatisticsTableModel.h"
+#include "views/tables/DesignLineTable.h"
+#include "views/tables/PointTableModel.h"
+#include "views/tables/SurveyDataTable.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <cmath>
+#include <random>
+
+namespace {
+
+/// A survey of three lines, days and crews, with the window, both tables and the map.
+struct StatisticsPlace : OpenProject
+{
+    StatisticsPlace()
+    {
+        host.windowRegistry.windows = {{"Statistics"_q, &window},
+                                       {"Survey Data List"_q, &resultTable},
+                                       {"Design Data List"_q, &designTable},
+                                       {"DataMap"_q, &map}};
+        std::mt19937 random(7);
+        std::normal_distribution<double> spread(0.05, 0.3);
+        MadeSurvey made;
+        for (int i = 0; i < 90; ++i) {
+            const std::string line = std::to_string(1 + i / 30);
+            const std::string number = std::to_string(100 + i);
+            design().set({line, number, 100.0 * i, 0, 50, 0, i % 2, 0});
+            if (i % 10 == 9)
+                continue;
+            SurveyPoint result = made.measure(line, i % 10 == 8 ? number + "F" : number);
+            result.designNorth = 100.0 * i;
+            result.designEast = 0;
+            result.north = 100.0 * i + spread(random);
+            result.east = spread(random);
+            result.elevation += spread(random);
+            result.pointMark = i % 2;
+            result.pdop = 1 + i % 7 * 0.3;
+            result.satelliteNumber = 12 + i % 5;
+            result.horizontalAccuracy = result.verticalAccuracy = 0.01 * (i % 4);
+            result.dateTime = i == 5 ? 0 : MadeSurvey::kNoonMs + i % 3 * 86400000LL;
+            result.instrumentSerialNumber = i % 4 == 0 ? "" : "R" + std::to_string(i % 4);
+            result.surveyor = i < 40 ? "Li" : "Wang";
+            result.baseStationId = i < 70 ? "B1" : "B2";
+            results().set(result);
+        }
+        map.resize(400, 300);
+        window.resize(1300, 500);
+        for (QWidget* const shown : {static_cast<QWidget*>(&map), static_cast<QWidget*>(&window)})
+            shown->show();
+        publish("UPDATE_SYSTEM_STATUS_EVENT");
+        QTest::qWait(1);
+    }
+
+    void groupBy(int key) const { window.findChild<QComboBox*>("keys"_q)->setCurrentIndex(key); }
+    [[nodiscard]] int column(const char* caption) const
+    {
+        int at = 0;
+        while (model.headerData(at, Qt::Horizontal, Qt::DisplayRole) != QString::fromUtf8(caption))
+            ++at;
+        return at;
+    }
+    [[nodiscard]] QString text(int row, int at) const
+    {
+        return model.index(row, at).data().toString();
+    }
+    void click(int row, int at = 0, Qt::KeyboardModifiers keys = {}) const
+    {
+        table.scrollTo(model.index(row, at));
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, keys,
+                          table.visualRect(model.index(row, at)).center());
+    }
+    void press(const char* button) const
+    {
+        QTest::mouseClick(window.findChild<QToolButton*>(QLatin1String(button)), Qt::LeftButton);
+    }
+    [[nodiscard]] static int rows(const QWidget& pointTable)
+    {
+        return pointTable.findChild<QTableView*>()->model()->rowCount();
+    }
+    [[nodiscard]] QString selectedResult() const
+    {
+        const auto& view = *resultTable.findChild<CustomTableWidget*>();
+        const std::vector<int> selected = view.selectedRows();
+        return selected.size() != 1 ? QString()
+                                    : view.model()
+                                          ->index(selected[0], 0)
+                                          .data(PointTableModel::kPointNumberRole)
+                                          .toString();
+    }
+    [[nodiscard]] PlotPanel& panel() const
+    {
+        return *window.findChild<StatisticsPlot*>()->panels().front();
+    }
+
+    MapWindow map{"name=DataMap", &host};
+    SurveyDataTable resultTable{"", &host};
+    DesignLineTable designTable{"", &host};
+    StatisticsWindow window{"", &host};
+    CustomTableWidget& table{*window.findChild<CustomTableWidget*>()};
+    StatisticsTableModel& model{*window.findChild<StatisticsTableModel*>()};
+    SelectionFollower follower{host};
+};
+
+/// Whether a cell of the window shows what stands in a cell of the workbook.
+bool isShown(const QString& shown, const QString& inBook)
+{
+    bool isNumber = false;
+    const double value = inBook.toDouble(&isNumber);
+    if (!isNumber || shown == inBook)
+        return shown == inBook;
+    if (shown.count(QLatin1Char('-')) == 2)
+        return QDate(1899, 12, 30).addDays(qint64(value)).toString(Qt::ISODate) == shown;
+    const bool isPercent = shown.endsWith(QLatin1Char('%'));
+    const QString digits = isPercent ? shown.chopped(1) : shown;
+    const int decimals = digits.contains(QLatin1Char('.'))
+                             ? digits.size() - digits.indexOf(QLatin1Char('.')) - 1
+                             : 0;
+    return std::fabs(digits.toDouble() - value * (isPercent ? 100 : 1)) <=
+           0.5 * std::pow(10, -decimals) + 1e-9;
+}
+
+} // namespace
+
+class StatisticsWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsTheFiguresOfTheWorkbook()
+    {
+        StatisticsPlace place;
+        const TestFolder folder;
+        const QString path = folder.path("figures.xlsx");
+        const ReportChoice choice;
+        ProgressReporter progress(nullptr);
+        const basalt::Dictionary coords;
+        QVERIFY(writeQualityStatistics(path, {place.design(),
+                                              place.results(),
+                                              place.manager->qualityParameters(),
+                                              coords,
+                                              {},
+                                              {},
+                                              {},
+                                              choice,
+                                              progress})
+                    .isDone());
+        const WorkbookReader book(path);
+        int sheet = 0;
+        for (const char* const name : {"Lines", "Days", "Rovers", "Surveyors", "Bases"}) {
+            place.groupBy(sheet++);
+            const auto rows = book.rows(QLatin1String(name));
+            QCOMPARE(place.model.rowCount(), int(rows.size())); // the totals, or the captions
+            QCOMPARE(place.model.columnCount(), rows[0].size());
+            for (int column = 0; column < rows[0].size(); ++column) {
+                QCOMPARE(place.model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+                         rows[0][column]);
+                for (int row = 1; row < int(rows.size()); ++row)
+                    QVERIFY2(isShown(place.text(row, column), rows[std::size_t(row)].value(column)),
+                             qPrintable(QLatin1String(name) + place.text(row, column) + " is "_q +
+                                        rows[std::size_t(row)].value(column)));
+            }
+        }
+        place.groupBy(5);
+        QCOMPARE(place.text(1, 0) + place.text(2, 0), "SourcesReceivers"_q);
+        QCOMPARE(place.text(0, 1), "90"_q);
+        place.groupBy(6);
+        QCOMPARE(place.model.rowCount(), 1);
+        const QString figure = place.model.index(0, place.column("RMS 2D (m)")).data().toString();
+        const auto summary = book.rows("Summary"_q);
+        const auto found = std::ranges::find_if(
+            summary, [](const QStringList& row) { return row.value(0) == "Distance 2D"_q; });
+        QVERIFY(isShown(figure, found->value(3)));
+    }
+
+    void showsAClickedGroupInTablesAndMap()
+    {
+        StatisticsPlace place;
+        const int all = int(place.results().pointCount());
+        place.publish(events::kSurveyLineSwitched, "line_num=1");
+        QCOMPARE(place.rows(place.resultTable), 27);
+        place.map.zoomRect(90000, 90000, 90040, 90030); // elsewhere
+        place.groupBy(2);
+        QCOMPARE(place.text(2, 0), "R1"_q);
+        place.click(2);
+        QCOMPARE(place.rows(place.resultTable), 18);
+        QVERIFY(place.map.transform().center().y() < 10000 ||
+                place.map.transform().center().x() < 10000);
+        const auto labels = place.resultTable.findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(
+            labels, [](const QLabel* label) { return label->text().contains("Only Rover R1"_q); }));
+        place.click(3, 0, Qt::ControlModifier);
+        QCOMPARE(place.rows(place.resultTable), 45);
+
+        // A change of the results is followed, and so is one behind other windows.
+        place.window.hide();
+        SurveyPoint another = *place.results().find("1", "101");
+        another.pointNumber = "999";
+        place.results().set(another);
+        place.publish(events::kRefreshSurveyLayer);
+        QTRY_COMPARE(place.rows(place.resultTable), 46);
+        place.window.show();
+
+        place.press("showAll");
+        QCOMPARE(place.rows(place.resultTable), 28); // the line of before
+        QVERIFY(!place.window.findChild<QToolButton*>("showAll"_q)->isEnabled());
+        place.groupBy(0);
+        place.click(2);
+        QCOMPARE(place.rows(place.resultTable), 27);
+        QCOMPARE(place.rows(place.designTable), 30); // with what is left
+        place.groupBy(1);
+        QVERIFY(place.rows(place.resultTable) < all);
+        place.click(0, 0); // all of them
+        QVERIFY(place.table.selectedRowCount() <= 1);
+    }
+
+    void goesToTheWorstResult()
+    {
+        StatisticsPlace place;
+        place.click(2, place.column("Maximum at"));
+        QCOMPARE("2 / "_q + place.selectedResult(), place.text(2, place.column("Maximum at")));
+        place.click(0, place.column("Fewest satellites"));
+        QCOMPARE(place.results().find("1", place.selectedResult().toStdString())->satelliteNumber,
+                 12);
+        place.click(3, place.column("Worst PDOP"));
+        QCOMPARE(place.results().find("3", place.selectedResult().toStdString())->pdop, 2.8);
+        QVERIFY(place.host.windowRegistry.revealed.last().contains("Statistics"_q)); // stays there
+        QCOMPARE(place.rows(place.resultTable), 27);
+    }
+
+    void linksThePlotWithTheTables()
+    {
+        StatisticsPlace place;
+        QWidget& canvas = *place.panel().canvas();
+        dragMouse(canvas, Qt::LeftButton, {2, 2}, QPoint(canvas.width() - 3, canvas.height() - 3));
+        const int selected = place.rows(place.resultTable);
+        QVERIFY(selected > 60 && selected <= 72);
+        QTest::mouseClick(&canvas, Qt::LeftButton, {}, {2, 2}); // on nothing
+        place.press("showAll");
+        QTRY_VERIFY(!place.window.findChild<QToolButton*>("showAll"_q)->isEnabled());
+
+        const SurveyPoint& result = *place.results().find("1", "103");
+        place.panel().maps();
+        const QPoint at =
+            place.panel()
+                .maps()
+                .toScreen(result.east - result.designEast, result.north - result.designNorth)
+                .toPoint();
+        QTest::mouseClick(&canvas, Qt::LeftButton, {}, at);
+        QCOMPARE(place.selectedResult(), "103"_q);
+    }
+
+    void sortsCopiesAndSaves()
+    {
+        StatisticsPlace place;
+        place.groupBy(2);
+        const int mean = place.column("Mean dE (m)");
+        place.model.sortBy(mean, Qt::DescendingOrder);
+        QCOMPARE(place.text(0, 0), "All"_q);
+        for (int row = 2; row < place.model.rowCount(); ++row)
+            QVERIFY(place.text(row - 1, mean).toDouble() >= place.text(row, mean).toDouble());
+        place.click(1);
+        QTest::keyClick(&place.table, Qt::Key_C, Qt::ControlModifier);
+        const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
+        QVERIFY(lines[0].startsWith("Rover\tDesigned\tStaked"_q));
+        QVERIFY(lines[1].startsWith(place.text(1, 0) + QLatin1Char('\t')));
+
+        const TestFolder folder;
+        const FileDialog::Responder answer(
+            [&](const FileDialog::Request&) { return folder.path("统计 1.csv"); });
+        Boxes boxes;
+        place.press("save");
+        QCOMPARE(boxes.told().size(), 1);
+        QFile file(folder.path("统计 1.csv"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().contains(place.text(0, mean).toUtf8()));
+    }
+
+    void staysCalmWithoutResults()
+    {
+        StatisticsPlace place;
+        place.click(2);
+        place.results().clear();
+        place.publish(events::kRefreshSurveyLayer);
+        QTRY_COMPARE(place.text(0, 2), "0"_q); // the design is still there
+        place.design().clear();
+        place.publish(events::kRefreshDesignLayer);
+        QVERIFY(!place.table.isVisible());
+        place.tellProject("");
+        QCOMPARE(place.model.rowCount(), 0);
+    }
+
+    void remembersGroupsAndPlot()
+    {
+        {
+            StatisticsPlace place;
+            place.groupBy(4);
+            place.window.findChild<QComboBox*>("plotKinds"_q)->setCurrentIndex(2);
+            StatisticsWindow next("", &place.host);
+            QCOMPARE(next.findChild<QComboBox*>("keys"_q)->currentIndex(), 4);
+            QCOMPARE(next.findChild<QComboBox*>("plotKinds"_q)->currentIndex(), 2);
+        }
+    }
+};
+
+QTEST_MAIN(StatisticsWindowTest)
+#include "StatisticsWindowTest.moc"
