@@ -4,7 +4,11 @@
 #include "quality/statistics/MeasuredPairs.h"
 #include "quality/statistics/RoverLog.h"
 #include "quality/statistics/TestFigures.h"
+#include "views/statistics/StatisticsTableModel.h"
 
+#include <QApplication>
+
+#include <memory>
 #include <random>
 
 // Statistics of 200,000 results, beside the time in which a user does not notice that figures are
@@ -116,6 +120,23 @@ void BM_GroupingAnew(benchmark::State& state)
     });
 }
 
+void BM_GroupsShown(benchmark::State& state)
+{
+    using statistics::GroupKey;
+    const Survey survey = makeSurvey();
+    const auto sample = std::make_shared<const statistics::SurveySample>(read(survey));
+    StatisticsTableModel model;
+    GroupKey key = GroupKey::Line;
+    measure(state, "200,000 results: rows of the window, grouped anew", kSeconds, [&] {
+        key = key == GroupKey::Line ? GroupKey::Rover : GroupKey::Line;
+        model.setGroups(sample, key);
+        for (int row = 0; row < model.rowCount(); ++row) {
+            for (int column = 0; column < model.columnCount(); ++column)
+                benchmark::DoNotOptimize(model.data(model.index(row, column), Qt::DisplayRole));
+        }
+    });
+}
+
 void BM_RoverLog(benchmark::State& state)
 {
     const Survey survey = makeSurvey();
@@ -132,11 +153,14 @@ void BM_RoverLog(benchmark::State& state)
 
 BENCHMARK(BM_SixGroupings)->Iterations(1);
 BENCHMARK(BM_GroupingAnew)->Iterations(1);
+BENCHMARK(BM_GroupsShown)->Iterations(1);
 BENCHMARK(BM_RoverLog)->Iterations(1);
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     return bench::run(argc, argv);
 }

@@ -192,6 +192,18 @@ QString StatisticsTableModel::text(const Group& group, int column) const
                                   : figure.shown(number(group, column));
 }
 
+/// The name of the group may be scrolled away.
+QString StatisticsTableModel::toolTip(const QModelIndex& index) const
+{
+    const Group& group = at(index.row());
+    if (index.column() == 0 || text(group, index.column()).isEmpty())
+        return group.name;
+    const QString figure =
+        tr("%1: %2 = %3")
+            .arg(group.name, columnAt(index.column()).captionText(), text(group, index.column()));
+    return hasWorst(index) ? figure + QLatin1Char('\n') + tr("Click to go to this result") : figure;
+}
+
 QVariant StatisticsTableModel::background(const Group& group, int column) const
 {
     if (column == 0)
@@ -239,7 +251,7 @@ QVariant StatisticsTableModel::data(const QModelIndex& index, int role) const
     case Qt::ForegroundRole:
         return hasWorst(index) ? QGuiApplication::palette().color(QPalette::Link) : QVariant();
     case Qt::ToolTipRole:
-        return hasWorst(index) ? tr("Click to go to this result") : text(group, column);
+        return toolTip(index);
     case Qt::FontRole: {
         QFont font = QGuiApplication::font();
         font.setBold(index.row() == 0);

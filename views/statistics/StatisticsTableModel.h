@@ -68,6 +68,7 @@ private:
     [[nodiscard]] StatisticsRow rowOf(const Group& group) const;
     [[nodiscard]] double number(const Group& group, int column) const;
     [[nodiscard]] QString text(const Group& group, int column) const;
+    [[nodiscard]] QString toolTip(const QModelIndex& index) const;
     [[nodiscard]] QVariant background(const Group& group, int column) const;
     [[nodiscard]] bool hasWorst(const QModelIndex& index) const;
     [[nodiscard]] const StatisticsColumn& columnAt(int column) const;
