@@ -4812,6 +4812,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Points: %1 of %2</source>
         <translation>点数：%1 / %2</translation>
     </message>
+    <message>
+        <source>Only %1. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
+        <translation>只显示%1。&lt;a href=&quot;#&quot;&gt;清除全部过滤&lt;/a&gt;</translation>
+    </message>
 </context>
 <context>
     <name>PointVisit</name>
@@ -7869,6 +7873,45 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>StatisticsPlots</name>
+    <message>
+        <source>Kind of plot</source>
+        <translation>图的种类</translation>
+    </message>
+    <message>
+        <source>Select: a click or a drag shows these results in the tables and on the map</source>
+        <translation>选择：单击或拖动，在列表和地图上显示这些成果</translation>
+    </message>
+    <message>
+        <source>Zoom: a drag shows this part. The wheel zooms, the middle button moves</source>
+        <translation>缩放：拖动放大这一部分。滚轮缩放，中键移动</translation>
+    </message>
+    <message>
+        <source>Show everything in the plot</source>
+        <translation>显示图的全部内容</translation>
+    </message>
+    <message>
+        <source>Save the plot as a picture (PNG, SVG) or PDF</source>
+        <translation>把图保存为图片（PNG、SVG）或 PDF</translation>
+    </message>
+    <message>
+        <source>Copy the plot as a picture</source>
+        <translation>把图复制为图片</translation>
+    </message>
+    <message>
+        <source>Save Plot</source>
+        <translation>保存图</translation>
+    </message>
+    <message>
+        <source>Picture(*.png);;Drawing(*.svg);;PDF file(*.pdf)</source>
+        <translation>图片(*.png);;矢量图(*.svg);;PDF 文件(*.pdf)</translation>
+    </message>
+    <message>
+        <source>The plot is on the clipboard.</source>
+        <translation>图已复制到剪贴板。</translation>
+    </message>
+</context>
+<context>
     <name>StatisticsReport</name>
     <message>
         <source>up to %1</source>
@@ -8433,6 +8476,84 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>2D distances of first measurements; one on the end of a class belongs to it.</source>
         <translation>首次测量的平面距离；等于分级上限的计入该级。</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsTableModel</name>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>%1: %2 = %3</source>
+        <translation>%1：%2 = %3</translation>
+    </message>
+    <message>
+        <source>Click to go to this result</source>
+        <translation>单击转到该成果</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>成果</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsWindow</name>
+    <message>
+        <source>Groups</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>&amp;Group by</source>
+        <translation>分组依据(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Show &amp;All</source>
+        <translation>全部显示(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Show all points again in the tables and in the plot</source>
+        <translation>在列表和图中重新显示全部点</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation>另存为 CSV(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Write the rows as they are shown</source>
+        <translation>按显示的样子写出各行</translation>
+    </message>
+    <message>
+        <source>All Together</source>
+        <translation>全部合计</translation>
+    </message>
+    <message>
+        <source>There is nothing to count yet. Import a design and survey results: drop their files here, or use the menu Exchange.</source>
+        <translation>还没有可统计的数据。请导入设计和测量成果：把文件拖到这里，或使用“数据交换”菜单。</translation>
+    </message>
+    <message>
+        <source>No project is open. Open one to see how good its results are.</source>
+        <translation>没有打开的工程。打开一个工程，查看其成果的质量。</translation>
+    </message>
+    <message>
+        <source>%1 groups</source>
+        <translation>%1 个分组</translation>
+    </message>
+    <message>
+        <source>%1 results of the plot</source>
+        <translation>图中的 %1 个成果</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Save Statistics</source>
+        <translation>保存统计</translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>行数：%1</translation>
     </message>
 </context>
 <context>
