@@ -4814,7 +4814,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Only %1. &lt;a href=&quot;#&quot;&gt;Clear all filters&lt;/a&gt;</source>
-        <translation>只显示%1。&lt;a href=&quot;#&quot;&gt;清除全部过滤&lt;/a&gt;</translation>
+        <translation>只显示%1。&lt;a href=&quot;#&quot;&gt;清除所有筛选&lt;/a&gt;</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,7 @@
 #include "protocol/StatusKeys.h"
 #include "quality/ResultCsv.h"
 #include "reports/StatisticsFigures.h"
+#include "views/statistics/GroupNames.h"
 #include "views/statistics/StatisticsPlots.h"
 #include "views/statistics/StatisticsTableModel.h"
 #include "views/statistics/StatisticsWidths.h"
@@ -111,6 +112,7 @@ StatisticsWindow::StatisticsWindow(const char* config, IDesktopHost* host)
     m_table->setFrameStyle(QFrame::NoFrame);
     m_table->setModel(m_model);
     m_table->setAccessibleName(tr("Groups"));
+    m_names = new GroupNames(*m_table);
     m_renewal.setSingleShot(true);
     m_renewal.setInterval(0);
     makeLayout();
@@ -122,6 +124,7 @@ StatisticsWindow::StatisticsWindow(const char* config, IDesktopHost* host)
 
 StatisticsWindow::~StatisticsWindow()
 {
+    delete m_names;
     m_table->setModel(nullptr); // which ends before it
 }
 
@@ -197,6 +200,7 @@ void StatisticsWindow::connectParts()
     connect(m_keys, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &StatisticsWindow::setKey);
     connect(m_table, &QAbstractItemView::clicked, this, &StatisticsWindow::goFrom);
+    connect(m_names, &GroupNames::chosen, this, &StatisticsWindow::chooseRows);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &StatisticsWindow::chooseRows);
     connect(m_table, &CustomTableWidget::selectedByDrag, this, &StatisticsWindow::chooseRows);
     connect(m_table, &CustomTableWidget::orderRequested, m_model, &StatisticsTableModel::sortBy);
@@ -280,6 +284,7 @@ void StatisticsWindow::showGroups()
     m_model->setGroups(m_data.sample(),
                        kKeys[static_cast<std::size_t>(m_keys->currentIndex())].key);
     m_widths->fit();
+    m_names->follow();
     std::erase_if(m_chosen, [this](const auto& value) { return m_model->rowOf(value) < 0; });
     for (const statistics::KeyValue& value : m_chosen)
         m_table->selectionModel()->select(m_model->index(m_model->rowOf(value), 0),

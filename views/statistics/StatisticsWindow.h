@@ -15,6 +15,7 @@
 #include <vector>
 
 class CustomTableWidget;
+class GroupNames;
 class IDesktopHost;
 class QBoxLayout;
 class QComboBox;
@@ -92,6 +93,7 @@ private:
     StatisticsData m_data;
     StatisticsTableModel* m_model;
     CustomTableWidget* m_table;
+    GroupNames* m_names = nullptr; ///< over its first column
     StatisticsPlots* m_plots;
     StatisticsWidths* m_widths = nullptr;
     QComboBox* m_keys;

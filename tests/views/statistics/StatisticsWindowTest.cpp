@@ -87,8 +87,9 @@ struct StatisticsPlace : OpenProject
     void click(int row, int at = 0, Qt::KeyboardModifiers keys = {}) const
     {
         table.scrollTo(model.index(row, at));
-        QTest::mouseClick(table.viewport(), Qt::LeftButton, keys,
-                          table.visualRect(model.index(row, at)).center());
+        QTableView& clicked = at == 0 ? *table.findChild<QTableView*>("groupNames"_q) : table;
+        QTest::mouseClick(clicked.viewport(), Qt::LeftButton, keys,
+                          clicked.visualRect(model.index(row, at)).center());
     }
     void press(const char* button) const
     {
