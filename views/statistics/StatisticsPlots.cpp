@@ -81,7 +81,7 @@ void StatisticsPlots::addTools(QHBoxLayout& bar)
     QToolButton* const select =
         addTool(bar, "plotSelect", "select-rectangular",
                 tr("Select: a click or a drag shows these results in the tables and on the map"));
-    m_zoom = addTool(bar, "plotZoom", "zoom-select",
+    m_zoom = addTool(bar, "plotZoom", "zoom-in",
                      tr("Zoom: a drag shows this part. The wheel zooms, the middle button moves"));
     auto* const modes = new QButtonGroup(this);
     for (QToolButton* const mode : {select, m_zoom}) {

@@ -349,8 +349,11 @@ void StatisticsWindow::chooseRows()
         else
             isAll = true;
     }
-    if (isAll || chosen.empty())
-        return showAll();
+    if (isAll || chosen.empty()) { // the row stays selected, to be copied
+        takeChoiceBack();
+        showPlot();
+        return showState();
+    }
     if (chosen == m_chosen && !m_isSelection)
         return;
     m_chosen = std::move(chosen);
