@@ -81,7 +81,7 @@ void StatisticsPlots::addTools(QHBoxLayout& bar)
     QToolButton* const select =
         addTool(bar, "plotSelect", "select-rectangular",
                 tr("Select: a click or a drag shows these results in the tables and on the map"));
-    m_zoom = addTool(bar, "plotZoom", "zoom-in",
+    m_zoom = addTool(bar, "plotZoom", "map_zoom_rectangle",
                      tr("Zoom: a drag shows this part. The wheel zooms, the middle button moves"));
     auto* const modes = new QButtonGroup(this);
     for (QToolButton* const mode : {select, m_zoom}) {
@@ -92,7 +92,7 @@ void StatisticsPlots::addTools(QHBoxLayout& bar)
     connect(m_zoom, &QToolButton::toggled, this, [this](bool isZoom) {
         m_plot->setMouse(isZoom ? StatisticsPlot::Mouse::Zoom : StatisticsPlot::Mouse::Select);
     });
-    connect(addTool(bar, "plotAll", "zoom-fit-best", tr("Show everything in the plot")),
+    connect(addTool(bar, "plotAll", "map_zoom_all", tr("Show everything in the plot")),
             &QToolButton::clicked, this, [this] { m_plot->showAll(); });
     connect(addTool(bar, "plotSave", "document-save",
                     tr("Save the plot as a picture (PNG, SVG) or PDF")),
