@@ -1,3 +1,4 @@
+#include "basalt_utilities/Dictionary.h"
 #include "bench/Limits.h"
 #include "exchange/ShownTimes.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"

@@ -24,22 +24,25 @@ struct Texts
 
 constexpr double kInchMm = 25.4;
 constexpr double kSheetMarginMm = 10; // that a sheet leaves free around itself
-constexpr QRgb kMissing = 0xffd09030;
-constexpr double kMissingSize = 1.6; // pixels
+constexpr QRgb kMissing = 0xffe08000;
+constexpr double kMissingSize = 2.5; // pixels
 
 enum ResultClass : std::uint8_t
 {
     Failed,
     NotJudged,
     WithinLimits,
+    Again, ///< a resurvey or a repeat, whatever its verdict
     Other
 };
 
-ResultClass classOf(statistics::Verdict verdict)
+ResultClass classOf(const statistics::Observation& result)
 {
-    if (verdict == statistics::Verdict::Failed)
+    if (!result.isFirst())
+        return Again;
+    if (result.verdict == statistics::Verdict::Failed)
         return Failed;
-    return verdict == statistics::Verdict::NotJudged ? NotJudged : WithinLimits;
+    return result.verdict == statistics::Verdict::NotJudged ? NotJudged : WithinLimits;
 }
 
 /// In the order of `ResultClass`.
@@ -48,11 +51,12 @@ ResultColors colorsOf(const DailyFigures& figures)
     const QString day = figures.dayText();
     std::unordered_map<const SurveyPoint*, ResultClass> ofDay;
     for (const statistics::Observation& result : figures.ofDay().sample.results)
-        ofDay.emplace(result.point, classOf(result.verdict));
+        ofDay.emplace(result.point, classOf(result));
     return {Texts::tr("Results"),
             {{Texts::tr("%1: over limit").arg(day), palette::kRed},
              {Texts::tr("%1: not judged").arg(day), palette::kMauve},
              {Texts::tr("%1: within limits").arg(day), palette::kNavy},
+             {Texts::tr("%1: measured again").arg(day), palette::kSky},
              {Texts::tr("other results"), palette::kOthers}},
             [ofDay = std::move(ofDay)](const SurveyPoint& point) {
                 const auto found = ofDay.find(&point);

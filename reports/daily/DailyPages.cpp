@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 
 namespace {
 
@@ -30,7 +29,9 @@ constexpr double kPadding = 3;
 constexpr double kBeside = 6; // a chapter is followed by so many lines on its page
 constexpr int kHeadingLines = 3;
 constexpr int kNoteLines = 4;
-constexpr double kCaptionShare = 0.42; // of a value's width
+constexpr double kMostCaption = 0.6; // of a value's width
+constexpr double kMostName = 150;
+constexpr int kMostMeasured = 100; // letters of a cell
 
 const QColor kLine(0xb0, 0xb0, 0xb0);
 const QColor kGround(0xea, 0xee, 0xf2);
@@ -68,20 +69,62 @@ struct Cell
     bool isNumber = false;
 };
 
+/// The width of the longest word.
+double longestWord(const QString& text, const QFontMetricsF& metrics)
+{
+    double longest = 0;
+    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts))
+        longest = std::max(longest, metrics.horizontalAdvance(word));
+    return longest;
+}
+
+/// The widths of columns, as wide as their cells where there is room. What is left goes to the
+/// columns whose cells may have several lines, or to all; what is missing is taken from the widest.
+std::vector<double> widthsOf(const DailyTable& table)
+{
+    const QFontMetricsF metrics(sheetFont(kCell, true));
+    std::vector<double> widths;
+    widths.reserve(table.columns.size());
+    double sum = 0;
+    double flexible = 0;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        const DailyTable::Column& column = table.columns[i];
+        double widest = std::min(longestWord(column.caption, metrics), kMostName);
+        for (const QStringList& row : table.rows) {
+            const QString text = row.value(static_cast<int>(i)).left(kMostMeasured);
+            widest = std::max(widest, std::min(metrics.horizontalAdvance(text), kMostName));
+        }
+        widths.push_back(widest + 2 * kPadding + 1);
+        sum += widths.back();
+        flexible += column.lines > 1 ? 1 : 0;
+    }
+    for (std::size_t i = 0; i < widths.size() && sum < kPage.width(); ++i) {
+        const double share = flexible == 0                ? widths[i] / sum
+                             : table.columns[i].lines > 1 ? 1 / flexible
+                                                          : 0;
+        widths[i] += (kPage.width() - sum) * share;
+    }
+    for (double over = sum - kPage.width(); over > 0.1;) {
+        double& widest = *std::max_element(widths.begin(), widths.end());
+        const double part = std::min(over, 1.0);
+        widest -= part;
+        over -= part;
+    }
+    return widths;
+}
+
 /// Places cells beside each other; those of a heading may have more lines.
 /// \param[out] height of the row
-std::vector<Cell> placeCells(const DailyTable& table, const QStringList& texts, const QFont& font,
-                             double top, bool isHeading, double& height)
+std::vector<Cell> placeCells(const DailyTable& table, const std::vector<double>& widths,
+                             const QStringList& texts, const QFont& font, double top,
+                             bool isHeading, double& height)
 {
-    const double all = std::accumulate(
-        table.columns.begin(), table.columns.end(), 0.0,
-        [](double sum, const DailyTable::Column& column) { return sum + column.width; });
     std::vector<Cell> cells;
     double left = kPage.left();
     int lines = 1;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const DailyTable::Column& column = table.columns[i];
-        const double width = kPage.width() * column.width / all;
+        const double width = widths[i];
         const double room = width - 2 * kPadding;
         const QString text = texts.value(static_cast<int>(i));
         const int most = isHeading ? kHeadingLines : column.lines;
@@ -167,6 +210,7 @@ void DailyPages::addChapter(const QString& text)
 
 void DailyPages::addNote(const QString& text)
 {
+    m_top += kPadding;
     addText(text, kText, false, kNoteLines);
 }
 
@@ -174,7 +218,10 @@ void DailyPages::addValues(const DailyValues& values)
 {
     const QFont font = sheetFont(kText);
     const double width = kPage.width() / 2;
-    const double caption = width * kCaptionShare;
+    double caption = 0;
+    for (const auto& [name, value] : values)
+        caption = std::max(caption, QFontMetricsF(font).horizontalAdvance(name));
+    caption = std::min(caption + 3 * kPadding, width * kMostCaption);
     const double room = width - caption - kPadding;
     for (std::size_t i = 0; i < values.size(); i += 2) {
         std::array<QStringList, 2> lines;
@@ -199,12 +246,12 @@ void DailyPages::addValues(const DailyValues& values)
     }
 }
 
-void DailyPages::addRow(const DailyTable& table, const QStringList& cells, bool isHeading,
-                        bool isSum)
+void DailyPages::addRow(const DailyTable& table, const std::vector<double>& widths,
+                        const QStringList& cells, bool isHeading, bool isSum)
 {
     const QFont font = sheetFont(kCell, isHeading || isSum);
     double height = 0;
-    std::vector<Cell> placed = placeCells(table, cells, font, m_top, isHeading, height);
+    std::vector<Cell> placed = placeCells(table, widths, cells, font, m_top, isHeading, height);
     add([=, placed = std::move(placed)](QPainter& painter) {
         for (const Cell& cell : placed)
             paintCell(painter, cell, font, isHeading || isSum);
@@ -218,17 +265,18 @@ void DailyPages::addTable(const DailyTable& table)
     captions.reserve(static_cast<int>(table.columns.size()));
     for (const DailyTable::Column& column : table.columns)
         captions << column.caption;
+    const std::vector<double> widths = widthsOf(table);
     addChapter(table.title);
-    addRow(table, captions, true, false);
+    addRow(table, widths, captions, true, false);
     for (std::size_t row = 0; row < table.rows.size(); ++row) {
         const bool isSum = table.hasSum && row + 1 == table.rows.size();
         double height = 0;
-        placeCells(table, table.rows[row], sheetFont(kCell, isSum), 0, false, height);
+        placeCells(table, widths, table.rows[row], sheetFont(kCell, isSum), 0, false, height);
         if (height > rest()) {
             beginPage();
-            addRow(table, captions, true, false);
+            addRow(table, widths, captions, true, false);
         }
-        addRow(table, table.rows[row], false, isSum);
+        addRow(table, widths, table.rows[row], false, isSum);
     }
     if (!table.note.isEmpty())
         addNote(table.note);

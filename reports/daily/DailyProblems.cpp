@@ -21,17 +21,11 @@ struct Texts
 
 constexpr std::size_t kMostRows = 100;
 
-struct Field
-{
-    ProblemField field;
-    double width;
-    int lines = 1;
-};
-
-constexpr Field kFields[] = {
-    {ProblemField::Severity, 1},  {ProblemField::Line, 1},       {ProblemField::Point, 1.2},
-    {ProblemField::What, 5.4, 3}, {ProblemField::Value, 1.2},    {ProblemField::Limit, 1.1},
-    {ProblemField::Rover, 1.1},   {ProblemField::Surveyor, 1.2}, {ProblemField::Day, 1.2}};
+// What is wrong is told with value and limit.
+constexpr ProblemField kFields[] = {
+    ProblemField::Severity, ProblemField::Line,  ProblemField::Point, ProblemField::What,
+    ProblemField::Surveyor, ProblemField::Rover, ProblemField::Day};
+constexpr int kWhatLines = 3;
 
 const ProblemColumn& columnOf(ProblemField field)
 {
@@ -41,11 +35,6 @@ const ProblemColumn& columnOf(ProblemField field)
 QString captionOf(ProblemField field)
 {
     return columnOf(field).captionText();
-}
-
-bool isNumber(ProblemField field)
-{
-    return field == ProblemField::Value || field == ProblemField::Limit;
 }
 
 DailyTable kindsOf(const std::vector<const Problem*>& problems, const DailyFigures& figures)
@@ -62,8 +51,8 @@ DailyTable kindsOf(const std::vector<const Problem*>& problems, const DailyFigur
         of.ofDay += figures.isOfDay(problem->timeMs) ? 1U : 0U;
     }
     DailyTable table{Texts::tr("Open problems by kind"),
-                     {{captionOf(ProblemField::Severity), 1, false},
-                      {captionOf(ProblemField::Kind), 4, false},
+                     {{captionOf(ProblemField::Severity), false},
+                      {captionOf(ProblemField::Kind), false},
                       {Texts::tr("Of the day")},
                       {Texts::tr("In the project")}},
                      {},
@@ -97,14 +86,14 @@ DailyTable rowsOf(std::vector<const Problem*> problems, const DailyFigures& figu
     });
     DailyTable table;
     table.title = Texts::tr("Open problems, those of the day first");
-    for (const Field& field : kFields)
+    for (const ProblemField field : kFields)
         table.columns.push_back(
-            {captionOf(field.field), field.width, isNumber(field.field), field.lines});
+            {captionOf(field), false, field == ProblemField::What ? kWhatLines : 1});
     basalt::LocalTimes zone = shownTimes();
     for (std::size_t i = 0; i < std::min(problems.size(), kMostRows); ++i) {
         QStringList& cells = table.rows.emplace_back();
-        for (const Field& field : kFields)
-            cells << columnOf(field.field).text(*problems[i], zone);
+        for (const ProblemField field : kFields)
+            cells << columnOf(field).text(*problems[i], zone);
     }
     if (problems.size() > kMostRows)
         table.note = Texts::tr("and %1 more; the window \"Problems\" has them all")

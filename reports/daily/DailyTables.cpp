@@ -25,7 +25,6 @@ struct Texts
 };
 
 constexpr std::size_t kMostRows = 60; // of a table by surveyor or rover
-constexpr double kNameWidth = 2.4;
 
 // Of the columns of the workbook "Quality statistics", those that have room on a page.
 constexpr const char* kStatistics[] = {"Staked",      "Not planned",       "Within limits",
@@ -129,10 +128,10 @@ DailyValues dailyProgress(const DailyFigures& figures)
     const QString share =
         shownFigure(statistics::shareOf(done, design.designed), SheetColumn::Form::Percent, 1);
     return {{Texts::tr("Design points"), count(design.designed)},
-            {Texts::tr("Staked until the end of the day"),
+            {Texts::tr("Staked until then"),
              share.isEmpty() ? count(done) : Texts::tr("%1 (%2 %)").arg(count(done), share)},
             {Texts::tr("Still missing"), count(design.left)},
-            {Texts::tr("Points a day at the present pace"),
+            {Texts::tr("Points a day at this pace"),
              pace.workingDays == 0
                  ? unknown
                  : Texts::tr("%1 (mean of %2 days)")
@@ -148,7 +147,7 @@ DailyTable dailyWork(const DailyFigures& figures)
 {
     const StatisticsFigures& ofDay = figures.ofDay();
     DailyTable table{Texts::tr("The day in numbers"),
-                     {{statisticsKeyName(GroupKey::Surveyor), kNameWidth, false},
+                     {{statisticsKeyName(GroupKey::Surveyor), false},
                       {Texts::tr("Sources staked")},
                       {Texts::tr("Receivers staked")},
                       {Texts::tr("Not planned")},
@@ -189,11 +188,8 @@ DailyTable dailyStatistics(const DailyFigures& figures, DailySpan span, DailyKey
     const StatisticsFigures& of = span == DailySpan::OfDay ? figures.ofDay() : figures.total();
     const GroupKey groupKey = key == DailyKey::Surveyor ? GroupKey::Surveyor : GroupKey::Rover;
     const StatisticsGroups& groups = groupsOf(of, groupKey);
-    DailyTable table{titleOf(figures, span, key),
-                     {{statisticsKeyName(groupKey), kNameWidth, false}},
-                     {},
-                     true,
-                     {}};
+    DailyTable table{
+        titleOf(figures, span, key), {{statisticsKeyName(groupKey), false}}, {}, true, {}};
     for (const char* const caption : kStatistics)
         table.columns.push_back({statisticsColumn(caption).captionText()});
     for (std::size_t group = 0; group < groups.figures.size(); ++group)

@@ -15,9 +15,8 @@ struct DailyTable
     struct Column
     {
         QString caption;
-        double width = 1; ///< its share of the page's width, beside those of the others
         bool isNumber = true;
-        int lines = 1; ///< in which a text may stand; what has no room is shortened
+        int lines = 1; ///< that a cell may have; what has no room is shortened
     };
 
     QString title;
