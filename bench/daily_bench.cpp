@@ -1,6 +1,7 @@
 #include "basalt_utilities/Dictionary.h"
 #include "bench/Limits.h"
 #include "exchange/ShownTimes.h"
+#include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "lum_sdk/files/DictionaryXml.h"

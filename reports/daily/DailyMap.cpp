@@ -31,8 +31,8 @@ enum ResultClass : std::uint8_t
 {
     Failed,
     NotJudged,
-    WithinLimits,
     Again, ///< a resurvey or a repeat, whatever its verdict
+    WithinLimits,
     Other
 };
 
@@ -55,8 +55,8 @@ ResultColors colorsOf(const DailyFigures& figures)
     return {Texts::tr("Results"),
             {{Texts::tr("%1: over limit").arg(day), palette::kRed},
              {Texts::tr("%1: not judged").arg(day), palette::kMauve},
-             {Texts::tr("%1: within limits").arg(day), palette::kNavy},
              {Texts::tr("%1: measured again").arg(day), palette::kSky},
+             {Texts::tr("%1: within limits").arg(day), palette::kNavy},
              {Texts::tr("other results"), palette::kOthers}},
             [ofDay = std::move(ofDay)](const SurveyPoint& point) {
                 const auto found = ofDay.find(&point);
