@@ -1413,7 +1413,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>%1, %2</source>
-        <translation>%1，%2</translation>
+        <translation>%2 %1</translation>
     </message>
     <message>
         <source>Progress</source>
