@@ -18,6 +18,7 @@ struct ReportKind
     const char* caption;  ///< in English, context "ReportKinds"
     /// Replaces the file at `path`, or leaves it as it was. A notice tells what was found.
     Outcome (*write)(const QString& path, const ReportInput& input);
+    bool runsChecks = false; ///< which write their verdicts on the points
 
     [[nodiscard]] QString captionText() const; ///< translated
 };

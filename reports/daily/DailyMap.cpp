@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <unordered_map>
 
@@ -26,6 +27,7 @@ constexpr double kInchMm = 25.4;
 constexpr double kSheetMarginMm = 10; // that a sheet leaves free around itself
 constexpr QRgb kMissing = 0xffe08000;
 constexpr double kMissingSize = 2.5; // pixels
+constexpr double kLeastReach = 500;  // from the design, in the unit of the grid
 
 enum ResultClass : std::uint8_t
 {
@@ -64,24 +66,48 @@ ResultColors colorsOf(const DailyFigures& figures)
             }};
 }
 
-/// The design points that nobody has staked.
-struct Missing
+template <class Point>
+bool hasPlace(const Point& point)
 {
-    std::vector<QPointF> places; ///< map coordinates
-    Bounds grid;
-};
+    return std::isfinite(point.north) && std::isfinite(point.east);
+}
 
-Missing missingOf(const ReportInput& input, const SurveyPoints& survey, const ToMap& toMap)
+/// Around the design and the results near it, on the grid: a result in a wrong place, or a base
+/// station, would make the map small. Around all results when there is no design.
+Bounds gridAreaOf(const DesignPoints& design, const SurveyPoints& survey)
 {
-    Missing missing;
+    Bounds area;
+    for (const auto& [number, line] : design) {
+        for (const DesignPoint& point : line) {
+            if (hasPlace(point))
+                area.add(point.north, point.east);
+        }
+    }
+    const bool isAll = area.isEmpty();
+    const double reach =
+        std::max({(area.maxX - area.minX) / 4, (area.maxY - area.minY) / 4, kLeastReach});
+    const QRectF near = QRectF(QPointF(area.minX, area.minY), QPointF(area.maxX, area.maxY))
+                            .adjusted(-reach, -reach, reach, reach);
+    for (const auto& [number, line] : survey) {
+        for (const SurveyPoint& point : line) {
+            if (hasPlace(point) && (isAll || near.contains(point.north, point.east)))
+                area.add(point.north, point.east);
+        }
+    }
+    return area;
+}
+
+/// The places of the design points that nobody has staked, map coordinates.
+std::vector<QPointF> missingOf(const ReportInput& input, const SurveyPoints& survey,
+                               const ToMap& toMap)
+{
+    std::vector<QPointF> missing;
     for (const auto& [number, line] : input.design) {
         const auto* const staked = survey.findLine(number);
         for (const DesignPoint& point : line) {
             const bool isStaked = staked != nullptr && staked->find(point.pointNumber) != nullptr;
-            if (isStaked || !std::isfinite(point.north) || !std::isfinite(point.east))
-                continue;
-            missing.places.push_back(toMap(point.north, point.east));
-            missing.grid.add(point.north, point.east);
+            if (!isStaked && hasPlace(point))
+                missing.push_back(toMap(point.north, point.east));
         }
     }
     return missing;
@@ -100,15 +126,13 @@ void paintMissing(const std::vector<QPointF>& places, const PictureFrame& frame,
 }
 
 /// Puts the missing points under the results.
-void add(Missing missing, const ToMap& toMap, MapDrawing& drawing)
+void add(std::vector<QPointF> missing, MapDrawing& drawing)
 {
-    if (missing.places.empty())
+    if (missing.empty())
         return;
-    const QRectF extent = markExtent(missing.grid, toMap);
-    drawing.extent = drawing.extent.isNull() ? extent : drawing.extent.united(extent);
     drawing.legend.entries.push_back(
-        {QColor::fromRgb(kMissing), Texts::tr("not staked yet"), missing.places.size()});
-    drawing.paint = [places = std::move(missing.places),
+        {QColor::fromRgb(kMissing), Texts::tr("not staked yet"), missing.size()});
+    drawing.paint = [places = std::move(missing),
                      paintResults = drawing.paint](const PictureFrame& frame, QPainter& painter) {
         paintMissing(places, frame, painter);
         paintResults(frame, painter);
@@ -127,7 +151,9 @@ MapSheet dailyMap(const ReportInput& input, const DailyFigures& figures)
     MapSheet sheet;
     sheet.ground = std::make_shared<MapGround>(input.coordParameters);
     sheet.drawing = drawingOf(figures.survey(), colorsOf(figures), toMap, options);
-    add(missingOf(input, figures.survey(), toMap), toMap, sheet.drawing);
+    add(missingOf(input, figures.survey(), toMap), sheet.drawing);
+    const Bounds area = gridAreaOf(input.design, figures.survey());
+    sheet.drawing.extent = area.isEmpty() ? QRectF() : markExtent(area, toMap);
     nameSheet(sheet, input.projectName, input.coordParameters);
     sheet.setup.title.clear(); // the page has one
     if (figures.day().isValid())

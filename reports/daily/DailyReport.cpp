@@ -227,8 +227,9 @@ private:
 
 ReportKind dailyReportKind()
 {
-    return {"daily", "daily-report", ".pdf", QT_TRANSLATE_NOOP("ReportKinds", "Daily report"),
-            writeDailyReport};
+    return {"daily",          "daily-report",
+            ".pdf",           QT_TRANSLATE_NOOP("ReportKinds", "Daily report"),
+            writeDailyReport, true};
 }
 
 Outcome writeDailyReport(const QString& path, const ReportInput& input)
