@@ -3,6 +3,7 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "quality/problems/ProblemFinders.h"
 #include "reports/daily/DailyFigures.h"
+#include "reports/daily/DailyMap.h"
 #include "reports/daily/DailyProblems.h"
 #include "reports/ReportInput.h"
 #include "reports/StatisticsReport.h"
@@ -228,6 +229,31 @@ private Q_SLOTS:
         QCOMPARE(told.count, std::size_t(2));
         QCOMPARE(told.rows.rows[0][2], "1041"_q);
         QCOMPARE(told.kinds.rows[0].mid(2), (QStringList{"1"_q, "2"_q}));
+    }
+
+    void theMapIsThatOfTheDesignAndOfThisDay()
+    {
+        Reported reported;
+        reported.fill();
+        reported.plan("2", "13");
+        for (const char* const number : {"11", "12", "13"}) {
+            DesignPoint& point = *reported.design.find("2", number);
+            point.north = 4000000;
+            point.east = 501000;
+        }
+        for (auto& point : *reported.design.findLine("1")) {
+            point.north = 4000000;
+            point.east = 500000;
+        }
+        reported.results.find("1", "1001")->north = 0; // as its base station is
+        const MapSheet sheet = dailyMap(reported.input(), DailyFigures(reported.input()));
+        QCOMPARE(sheet.setup.area.width(), 1000.0);
+        QVERIFY(sheet.setup.area.height() < 20);
+        QStringList legend;
+        for (const lum::Legend::Entry& entry : sheet.drawing.legend.entries)
+            legend << entry.text + u' ' + QString::number(entry.count);
+        QVERIFY2(legend.join(u',').endsWith("other results 41,not staked yet 3"_q),
+                 qPrintable(legend.join(u',')));
     }
 
     void whatFailsLeavesTheOldFile()
