@@ -46,7 +46,7 @@ constexpr std::array kCommands{
                "print how far the coordinate system of another project's results is from the project's",
                2, 2, "--csv,--xlsx", "", compareProject},
     CliCommand{"report", "PROJECT REPORT FILE [--day DAY]",
-               "write an Excel workbook about the project, or the PDF of a day (DAY: 2025-05-17, with results of that day; without it a workbook has all, and daily is about the last day with results)",
+               "write an Excel workbook about the project; daily: the PDF of its last day with results (--day: of the results of that day, such as 2025-05-17)",
                3, 3, "--day", "", writeReport, CliApplication::Widgets},
     CliCommand{"set-quality", "PROJECT key=value ...",
                "set limits of the quality check or of problems",
