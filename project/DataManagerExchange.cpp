@@ -212,7 +212,7 @@ int DataProcessDataManager::writeReport(const ReportKind& kind, const QString& p
                            get_project_coord_transform().parameters(), m_place.name, m_place.file,
                            lum::toQString(program.text("name")) + QLatin1Char(' ') +
                                lum::toQString(program.text("version")),
-                           choice, progress});
+                           choice, progress, [this] { return findProblems(); }});
     });
 }
 

@@ -1,6 +1,18 @@
 #include "reports/ReportInput.h"
 
+#include "exchange/ShownTimes.h"
 #include "lum_sdk/Text.h"
+
+std::optional<std::int64_t> beginOfDay(const QDate& day)
+{
+    return shownTimes().read(day.toString(QStringLiteral("yyyy/MM/dd 00:00:00")).toStdString());
+}
+
+void ReportChoice::setDays(const QDate& first, const QDate& last)
+{
+    fromMs = beginOfDay(first);
+    untilMs = beginOfDay(last.addDays(1));
+}
 
 bool ReportInput::includes(const SurveyPoint& point) const
 {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "model/PointLines.h"
+#include "quality/problems/ProblemList.h"
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 
@@ -19,7 +21,14 @@ struct ReportChoice
     std::optional<std::int64_t> untilMs; ///< the first moment behind the period
     QStringList surveyors;               ///< those whose results count; all when it is empty
     std::function<bool()> isCancelled;   ///< asked now and then; may be empty
+
+    /// Chooses the days from one to another, both of them included, in the shown time zone.
+    void setDays(const QDate& first, const QDate& last);
 };
+
+/// The first moment of a day in the shown time zone, milliseconds since 1970 UTC; none for a day
+/// that is none, or one of a year without four digits.
+[[nodiscard]] std::optional<std::int64_t> beginOfDay(const QDate& day);
 
 /// What a report is made of.
 struct ReportInput
@@ -33,6 +42,7 @@ struct ReportInput
     QString program;     ///< name and version
     const ReportChoice& choice;
     ProgressReporter& progress;
+    std::function<ProblemList()> findProblems = {}; ///< of the project as it is; may be empty
 
     /// Whether the result is of the chosen period and surveyors. A result without a time is of no
     /// period.

@@ -12,15 +12,16 @@
 
 namespace {
 
-// All reports: a new one is a line here.
+// All workbooks: a new one is a line here.
 constexpr std::array kKinds{
-    ReportKind{"quality", "quality-check", QT_TRANSLATE_NOOP("ReportKinds", "Quality check"),
-               writeQualityReport},
-    ReportKind{"statistics", "quality-statistics",
+    ReportKind{"quality", "quality-check", ".xlsx",
+               QT_TRANSLATE_NOOP("ReportKinds", "Quality check"), writeQualityReport},
+    ReportKind{"statistics", "quality-statistics", ".xlsx",
                QT_TRANSLATE_NOOP("ReportKinds", "Quality statistics"), writeQualityStatistics},
-    ReportKind{"rover", "rover-log", QT_TRANSLATE_NOOP("ReportKinds", "Rover log"), writeRoverLog},
-    ReportKind{"results", "survey-results", QT_TRANSLATE_NOOP("ReportKinds", "Survey results"),
-               writeSurveyResults},
+    ReportKind{"rover", "rover-log", ".xlsx", QT_TRANSLATE_NOOP("ReportKinds", "Rover log"),
+               writeRoverLog},
+    ReportKind{"results", "survey-results", ".xlsx",
+               QT_TRANSLATE_NOOP("ReportKinds", "Survey results"), writeSurveyResults},
 };
 
 } // namespace
@@ -40,12 +41,4 @@ const ReportKind* findReportKind(std::string_view name)
     const auto* const found = std::find_if(
         kKinds.begin(), kKinds.end(), [&](const ReportKind& kind) { return name == kind.name; });
     return found == kKinds.end() ? nullptr : found;
-}
-
-std::string reportNames(std::string_view separator)
-{
-    std::string names;
-    for (const ReportKind& kind : kKinds)
-        names.append(names.empty() ? "" : separator).append(kind.name);
-    return names;
 }

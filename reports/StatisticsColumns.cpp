@@ -168,6 +168,16 @@ QString StatisticsColumn::shown(double value) const
     return isPercent ? digits + QLatin1Char('%') : digits;
 }
 
+QString StatisticsColumn::shownText(const StatisticsRow& row) const
+{
+    return text != nullptr ? text(row) : shown(number(row));
+}
+
+const StatisticsColumn& statisticsColumn(std::string_view caption)
+{
+    return *std::ranges::find(kColumns, caption, &StatisticsColumn::caption);
+}
+
 std::span<const StatisticsColumn> statisticsColumns(bool isOfDays)
 {
     const std::span<const StatisticsColumn> all(kColumns);

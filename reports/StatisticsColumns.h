@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string_view>
 
 /// A group of results in a table of groups.
 struct StatisticsRow
@@ -40,7 +41,11 @@ struct StatisticsColumn
     [[nodiscard]] QString captionText() const; ///< translated
     /// A number as the workbook shows it, with a decimal point; empty for an unknown one.
     [[nodiscard]] QString shown(double value) const;
+    /// The cell of a group in the same way.
+    [[nodiscard]] QString shownText(const StatisticsRow& row) const;
 };
 
 /// The columns behind the key. Those of days have two more.
 [[nodiscard]] std::span<const StatisticsColumn> statisticsColumns(bool isOfDays);
+/// \param caption of one of them
+[[nodiscard]] const StatisticsColumn& statisticsColumn(std::string_view caption);

@@ -14,7 +14,7 @@ build_packages=(
 run_packages=(
     libqt5svg5 qttranslations5-l10n breeze-icon-theme fonts-dejavu-core fonts-noto-cjk
 )
-test_packages=(locales)
+test_packages=(locales poppler-utils)
 lint_packages=(clang-format clang-tidy)
 
 # install_packages NAME...: installs those that are missing.

@@ -1354,6 +1354,229 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>DailyReport</name>
+    <message>
+        <source>Results</source>
+        <translation>成果</translation>
+    </message>
+    <message>
+        <source>%1: over limit</source>
+        <translation>%1：超限</translation>
+    </message>
+    <message>
+        <source>%1: not judged</source>
+        <translation>%1：未评定</translation>
+    </message>
+    <message>
+        <source>%1: within limits</source>
+        <translation>%1：合格</translation>
+    </message>
+    <message>
+        <source>%1: measured again</source>
+        <translation>%1：复测和重复测量</translation>
+    </message>
+    <message>
+        <source>other results</source>
+        <translation>其他成果</translation>
+    </message>
+    <message>
+        <source>not staked yet</source>
+        <translation>尚未放样</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>Open problems by kind</source>
+        <translation>未处理的问题（按类型）</translation>
+    </message>
+    <message>
+        <source>Of the day</source>
+        <translation>当天</translation>
+    </message>
+    <message>
+        <source>In the project</source>
+        <translation>整个工程</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Open problems, those of the day first</source>
+        <translation>未处理的问题（当天的在前）</translation>
+    </message>
+    <message>
+        <source>and %1 more; the window &quot;Problems&quot; has them all</source>
+        <translation>另有 %1 个，“问题”窗口中列有全部问题</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>The project has no results.</source>
+        <translation>工程中没有成果。</translation>
+    </message>
+    <message>
+        <source>There is no result of this day.</source>
+        <translation>这一天没有成果。</translation>
+    </message>
+    <message>
+        <source>No result has a time, so that there is no day to report.</source>
+        <translation>没有带时间的成果，无法确定日报的日期。</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Figures are those of the workbook &quot;Quality statistics&quot;: of first measurements, differences measured minus design.</source>
+        <translation>数值与工作簿“质量统计”相同：只统计首次测量，差值为实测减设计。</translation>
+    </message>
+    <message>
+        <source>There is none.</source>
+        <translation>没有。</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
+    <message>
+        <source>%1: points staked: %2, over limit: %3, still missing: %4, open problems: %5.</source>
+        <translation>%1：放样 %2 点，超限 %3，尚缺 %4，未处理的问题 %5。</translation>
+    </message>
+    <message>
+        <source>and %1 more; the workbook &quot;Quality statistics&quot; has them all</source>
+        <translation>另有 %1 行，工作簿“质量统计”中列有全部</translation>
+    </message>
+    <message>
+        <source>Statistics by surveyor, until the end of the day</source>
+        <translation>截至当天结束的统计（按测量员）</translation>
+    </message>
+    <message>
+        <source>Statistics by rover, until the end of the day</source>
+        <translation>截至当天结束的统计（按流动站）</translation>
+    </message>
+    <message>
+        <source>Statistics by surveyor on %1</source>
+        <translation>%1 的统计（按测量员）</translation>
+    </message>
+    <message>
+        <source>Statistics by rover on %1</source>
+        <translation>%1 的统计（按流动站）</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>工程</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>%1, in the zone %2</source>
+        <translation>%1，时区 %2</translation>
+    </message>
+    <message>
+        <source>none: no result has a time</source>
+        <translation>无：没有带时间的成果</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系统</translation>
+    </message>
+    <message>
+        <source>Surveyors</source>
+        <translation>测量员</translation>
+    </message>
+    <message>
+        <source>Made by</source>
+        <translation>制作人</translation>
+    </message>
+    <message>
+        <source>Made on</source>
+        <translation>制作日期</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Design points</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>Staked until then</source>
+        <translation>累计放样</translation>
+    </message>
+    <message>
+        <source>%1 (%2 %)</source>
+        <translation>%1（%2 %）</translation>
+    </message>
+    <message>
+        <source>Still missing</source>
+        <translation>尚缺</translation>
+    </message>
+    <message>
+        <source>Points a day at this pace</source>
+        <translation>目前每天点数</translation>
+    </message>
+    <message>
+        <source>%1 (mean of %2 days)</source>
+        <translation>%1（%2 天平均）</translation>
+    </message>
+    <message>
+        <source>Days of work still needed</source>
+        <translation>还需工作天数</translation>
+    </message>
+    <message>
+        <source>Last day expected</source>
+        <translation>预计最后一天</translation>
+    </message>
+    <message>
+        <source>The day in numbers</source>
+        <translation>当天的数字</translation>
+    </message>
+    <message>
+        <source>Sources staked</source>
+        <translation>放样激发点</translation>
+    </message>
+    <message>
+        <source>Receivers staked</source>
+        <translation>放样接收点</translation>
+    </message>
+    <message>
+        <source>Not planned</source>
+        <translation>设计外</translation>
+    </message>
+    <message>
+        <source>Resurveys</source>
+        <translation>复测</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <translation>重复测量</translation>
+    </message>
+    <message>
+        <source>Within limits</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Over limit</source>
+        <translation>超限</translation>
+    </message>
+    <message>
+        <source>Not judged</source>
+        <translation>未评定</translation>
+    </message>
+</context>
+<context>
     <name>DataInspectionCommand</name>
     <message>
         <source>Quality Check Complete!</source>
@@ -6657,6 +6880,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Rover log</source>
         <translation>流动站日志</translation>
+    </message>
+    <message>
+        <source>Daily report</source>
+        <translation>日报</translation>
     </message>
 </context>
 <context>

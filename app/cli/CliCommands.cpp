@@ -16,7 +16,7 @@
 #include "app/cli/RenderProject.h"
 #include "app/cli/WriteReport.h"
 #include "quality/CheckKinds.h"
-#include "reports/ReportKinds.h"
+#include "reports/daily/AllReports.h"
 
 #include <algorithm>
 #include <array>
@@ -45,9 +45,9 @@ constexpr std::array kCommands{
     CliCommand{"compare", "PROJECT OTHER.db [--csv FILE] [--xlsx FILE]",
                "print how far the coordinate system of another project's results is from the project's",
                2, 2, "--csv,--xlsx", "", compareProject},
-    CliCommand{"report", "PROJECT REPORT FILE.xlsx",
-               "write an Excel workbook about the project",
-               3, 3, "", "", writeReport},
+    CliCommand{"report", "PROJECT REPORT FILE [--day DAY]",
+               "write an Excel workbook about the project; daily: the PDF of its last day with results (--day: of the results of that day, such as 2025-05-17)",
+               3, 3, "--day", "", writeReport, CliApplication::Widgets},
     CliCommand{"set-quality", "PROJECT key=value ...",
                "set limits of the quality check or of problems",
                2, kAny, "", "", setQuality},
@@ -62,10 +62,10 @@ constexpr std::array kCommands{
                4, 4, "", "--dms", calculateAzimuth},
     CliCommand{"render", "PROJECT design|survey FILE.png [--size WxH] [--overlay FILE] [--base-map NAME] [--color-by verdict|solution|accuracy|surveyor|rover|day]",
                "paint the whole map into a picture, over images and a base map (each image with its own --overlay, the last on top; --color-by: the results in colours, with their legend)",
-               3, 3, "--size,--overlay,--base-map,--color-by", "", renderProject, true},
+               3, 3, "--size,--overlay,--base-map,--color-by", "", renderProject, CliApplication::Painting},
     CliCommand{"print", "PROJECT design|survey FILE.pdf|FILE.png|FILE.tif [--scale N] [--paper A4|A3|A2|A1|A0|...] [--landscape] [--title TEXT] [--dpi N] [--overlay FILE] [--base-map NAME] [--color-by verdict|solution|accuracy|surveyor|rover|day]",
                "put the map on paper, at 1:N or the round scale that shows all, with frame, coordinates and legend (.tif: a GeoTIFF of the map alone)",
-               3, 3, "--scale,--paper,--title,--dpi,--overlay,--base-map,--color-by", "--landscape", printMap, true},
+               3, 3, "--scale,--paper,--title,--dpi,--overlay,--base-map,--color-by", "--landscape", printMap, CliApplication::Painting},
     CliCommand{"add-overlay", "PROJECT FILE ...",
                "lay images under the map of a project, over those that are there, the last on top",
                2, kAny, "", "", addOverlay},
@@ -122,10 +122,10 @@ Outcome run(const CliCommand& command, const QStringList& texts)
 
 } // namespace
 
-bool cliPaints(const QStringList& arguments)
+CliApplication cliApplication(const QStringList& arguments)
 {
     const CliCommand* const command = find(arguments.value(0));
-    return command != nullptr && command->paints;
+    return command == nullptr ? CliApplication::Plain : command->application;
 }
 
 Outcome runCli(const QStringList& arguments)

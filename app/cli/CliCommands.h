@@ -3,6 +3,14 @@
 #include "app/cli/CliArguments.h"
 #include "protocol/Outcome.h"
 
+/// The application object that a command needs.
+enum class CliApplication
+{
+    Plain,
+    Painting, ///< with fonts
+    Widgets
+};
+
 /// One command of the tool.
 struct CliCommand
 {
@@ -14,11 +22,11 @@ struct CliCommand
     const char* options = nullptr; ///< with a value, comma-separated
     const char* flags = nullptr;   ///< without one
     Outcome (*run)(const CliArguments& arguments) = nullptr;
-    bool paints = false; ///< needs fonts, and these need a graphical application
+    CliApplication application = CliApplication::Plain;
 };
 
-/// Whether this command line needs a graphical application.
-[[nodiscard]] bool cliPaints(const QStringList& arguments);
+/// What this command line needs.
+[[nodiscard]] CliApplication cliApplication(const QStringList& arguments);
 
 /// Runs the command that the arguments name; refuses wrong usage.
 [[nodiscard]] Outcome runCli(const QStringList& arguments);

@@ -3,5 +3,5 @@
 class Outcome;
 struct CliArguments;
 
-/// "report PROJECT REPORT FILE.xlsx": writes a workbook. The project stays as it is.
+/// "report PROJECT REPORT FILE [--day DAY]": writes a report. The project stays as it is.
 Outcome writeReport(const CliArguments& arguments);

@@ -10,7 +10,7 @@
 #include "protocol/ProductName.h"
 #include "protocol/StatusKeys.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTextCodec>
 
 #include <cstdio>
@@ -47,9 +47,12 @@ bool answer(const QStringList& arguments)
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv,
                                                   const QStringList& arguments)
 {
-    if (!cliPaints(arguments))
+    const CliApplication wanted = cliApplication(arguments);
+    if (wanted == CliApplication::Plain)
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (wanted == CliApplication::Widgets)
+        return std::make_unique<QApplication>(argc, argv);
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

@@ -3,12 +3,15 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "project/DataProcessDataManager.h"
 #include "project/ui/ProjectState.h"
+#include "protocol/Events.h"
 #include "reports/ui/DlgExportReport.h"
 #include "reports/ui/DlgReportResults.h"
 #include "reports/ui/ReportProgress.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -33,6 +36,17 @@ std::vector<ReportResult> writeReports(IDesktopHost& host, const std::vector<Rep
     return results;
 }
 
+/// Lets the windows show the verdicts of checks that a report has run.
+void refreshVerdicts(IDesktopHost& host, const std::vector<ReportFile>& files)
+{
+    if (std::none_of(files.begin(), files.end(),
+                     [](const ReportFile& file) { return file.kind->runsChecks; }))
+        return;
+    for (const char* const event :
+         {events::kRefreshDesignTable, events::kRefreshSurveyTable, events::kResurveysChecked})
+        host.eventManager().publish(event, nullptr, 0);
+}
+
 } // namespace
 
 void ExportReportCommand::execute()
@@ -42,6 +56,7 @@ void ExportReportCommand::execute()
     if (dialog.exec() != QDialog::Accepted)
         return;
     const std::vector<ReportResult> results = writeReports(host(), dialog.files(), dialog.choice());
+    refreshVerdicts(host(), dialog.files());
     host().tell(reportSentence(results));
     DlgReportResults(host().dialogParent(), results).exec();
 }

@@ -13,12 +13,6 @@
 
 namespace {
 
-/// The first moment of a day in the zone in which the program shows times.
-std::optional<std::int64_t> beginOf(const QDate& day)
-{
-    return shownTimes().read(day.toString(QStringLiteral("yyyy/MM/dd 00:00:00")).toStdString());
-}
-
 /// The names of the calendar are those of the program's language.
 QLocale shownLocale()
 {
@@ -100,10 +94,8 @@ DaySpan PeriodPanel::days() const
 void PeriodPanel::apply(ReportChoice& report) const
 {
     const DaySpan span = days();
-    if (span.isAll())
-        return;
-    report.fromMs = beginOf(span.first);
-    report.untilMs = beginOf(span.last.addDays(1));
+    if (!span.isAll())
+        report.setDays(span.first, span.last);
 }
 
 QString PeriodPanel::fault() const

@@ -2,6 +2,7 @@
 
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "project/OwnFile.h"
+#include "reports/daily/AllReports.h"
 #include "reports/ui/ReportMemory.h"
 
 #include <QCheckBox>
@@ -15,12 +16,11 @@
 
 namespace {
 
-const QString kEnding = QStringLiteral(".xlsx");
-
-/// The name as it is typed, with the ending of workbooks.
-QString withEnding(const QString& name)
+/// The name as it is typed, with the ending of the report's files.
+QString withEnding(const QString& name, const ReportKind& kind)
 {
-    return name.endsWith(kEnding, Qt::CaseInsensitive) ? name : name + kEnding;
+    const QLatin1String ending(kind.ending);
+    return name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
 }
 
 } // namespace
@@ -34,7 +34,7 @@ ReportFilesPanel::ReportFilesPanel(const ProjectPlace& project, QWidget* parent)
     auto* const names = new QLabel(tr("File &names:"), this);
     grid->addWidget(new QLabel(tr("Reports:"), this), 0, 0);
     grid->addWidget(names, 0, 1);
-    for (const ReportKind& kind : reportKinds())
+    for (const ReportKind& kind : allReports())
         addRow(*grid, kind);
     names->setBuddy(m_rows.front().name);
     addFolder(*grid);
@@ -93,7 +93,8 @@ std::vector<ReportFile> ReportFilesPanel::files() const
     std::vector<ReportFile> files;
     for (const Row& row : m_rows) {
         if (row.isWanted->isChecked())
-            files.push_back({row.kind, QDir(folder()).filePath(withEnding(row.name->text()))});
+            files.push_back(
+                {row.kind, QDir(folder()).filePath(withEnding(row.name->text(), *row.kind))});
     }
     return files;
 }

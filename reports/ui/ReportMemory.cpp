@@ -46,7 +46,7 @@ bool ReportFiles::isWanted(const ReportKind& kind)
 QString ReportFiles::fileName(const ReportKind& kind, const ProjectPlace& project)
 {
     const QString usual =
-        kProject + QLatin1Char(' ') + QLatin1String(kind.fileName) + QLatin1String(".xlsx");
+        kProject + QLatin1Char(' ') + QLatin1String(kind.fileName) + QLatin1String(kind.ending);
     const QString kept = lum::toQString(settingsNow().text(fileKey(kind)));
     return replacedStart(kept.isEmpty() ? usual : kept, kProject, project.name);
 }

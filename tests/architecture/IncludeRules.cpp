@@ -43,9 +43,10 @@ const Floors& floors()
         {Room::WithWidgets, {"platform/lum_desktop_sdkx/coords"}},
         {Room::WithWidgets, {"platform/lum_desktop_sdkx/map"}},
         {Room::WithWidgets, {"platform/lum_desktop_sdkx/frame"}},
-        {Room::WithWidgets, {"project/ui"}},  // what all user interface shares: the open project,
-        {Room::WithWidgets, {"map/ui"}},      // a point shown on the map, and files
+        {Room::WithWidgets, {"project/ui"}}, // what all user interface shares: the open project,
+        {Room::WithWidgets, {"map/ui"}},     // a point shown on the map, and files
         {Room::WithWidgets, {"exchange/ui", "plots"}}, // that are read and written
+        {Room::WithWidgets, {"reports/daily"}},
         {Room::WithWidgets,
          {"quality/ui", "design/ui", "reports/ui", "views", "views/find", "views/history",
           "views/tables", "views/trees"}},

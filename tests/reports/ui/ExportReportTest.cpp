@@ -1,5 +1,5 @@
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "reports/ReportKinds.h"
+#include "reports/daily/AllReports.h"
 #include "reports/ui/ExportReportCommand.h"
 #include "tests/project/OpenProject.h"
 #include "tests/support/Literals.h"
@@ -71,7 +71,7 @@ private Q_SLOTS:
             QCOMPARE(child<QLineEdit>(dialog, "survey-results").text(),
                      "block 7 survey-results.xlsx"_q);
             typeOver(child<QLineEdit>(dialog, "survey-results"), "block 7 final"_q);
-            for (const ReportKind& kind : reportKinds()) {
+            for (const ReportKind& kind : allReports()) {
                 auto& isWanted = child<QCheckBox>(dialog, kind.name);
                 if (kind.name != std::string("results"))
                     QTest::mouseClick(&isWanted, Qt::LeftButton, {}, {5, isWanted.height() / 2});
@@ -152,7 +152,7 @@ private Q_SLOTS:
 
     void existingFilesAreAskedAboutOnce()
     {
-        const int count = static_cast<int>(reportKinds().size());
+        const int count = static_cast<int>(allReports().size());
         const QString kept = m_folder->write("block 7/block 7 survey-results.xlsx", "kept");
         QStringList asked;
         Button answer = Button::No;
@@ -199,7 +199,7 @@ private Q_SLOTS:
 
     void aFailureIsNamedAndStopsNoOther()
     {
-        const ReportKind& first = reportKinds().front();
+        const ReportKind& first = allReports().front();
         const QString path =
             m_folder->write("block 7/block 7 %1.xlsx"_q.arg(QLatin1String(first.fileName)), "");
         const LumMessageBox::Responder responder([&](const auto& /*message*/) {
@@ -209,7 +209,7 @@ private Q_SLOTS:
         });
         const QStringList texts =
             run([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        const auto count = static_cast<int>(reportKinds().size());
+        const auto count = static_cast<int>(allReports().size());
         QCOMPARE(m_project->host.told, "Reports written: %1 of %2."_q.arg(count - 1).arg(count));
         QVERIFY2(texts.first().section(QLatin1Char('\n'), 1).contains(QFileInfo(path).fileName()),
                  qPrintable(texts.first()));
@@ -242,7 +242,7 @@ QStringList ExportReportTest::run(std::function<void(QDialog&)> choose)
     QObject context;
     whenDialog(context, "DlgExportReport", std::move(choose));
     whenDialog(context, "DlgReportResults", [&](QDialog& dialog) {
-        for (const ReportKind& kind : reportKinds()) {
+        for (const ReportKind& kind : allReports()) {
             if (const auto* const label = dialog.findChild<QLabel*>(QLatin1String(kind.name)))
                 texts << label->text();
         }
