@@ -31,5 +31,7 @@ inline constexpr const char* kShowBaseTies = "show_base_ties"; ///< "1"
 inline constexpr const char* kShowOffsets = "show_offsets";    ///< "1"
 /// "all", "room" (none covers another) or "none"; "" is "all" without colours, otherwise "room"
 inline constexpr const char* kResultNames = "result_names";
+/// Of the kinds and of each column, pixels at 100 %; 0 for those that the user has not chosen; ""
+inline constexpr const char* kProblemWidths = "problem_widths";
 
 } // namespace settings

@@ -4260,6 +4260,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Accepted problems cannot be restored here: %1.</source>
         <translation>已接受的问题不能在此恢复：%1。</translation>
     </message>
+    <message>
+        <source>Taken away, since their measurements are back: %1.</source>
+        <translation>因其各次测量已恢复而移除：%1。</translation>
+    </message>
 </context>
 <context>
     <name>PointTableWindow</name>
@@ -4893,34 +4897,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Filter of &quot;%1&quot;: %2</source>
         <translation>“%1”的筛选条件：%2</translation>
-    </message>
-    <message>
-        <source>No problem passes the filters.</source>
-        <translation>没有问题符合筛选条件。</translation>
-    </message>
-    <message>
-        <source>There is no problem in the list.</source>
-        <translation>列表中没有问题。</translation>
-    </message>
-    <message>
-        <source>This is the first of %1 problems.</source>
-        <translation>这是 %1 个问题中的第一个。</translation>
-    </message>
-    <message>
-        <source>This was the last of %1 problems.</source>
-        <translation>这已是 %1 个问题中的最后一个。</translation>
-    </message>
-    <message>
-        <source>Point %1 is not in the project any more.</source>
-        <translation>工程中已没有点 %1。</translation>
-    </message>
-    <message>
-        <source>Problem %1 of %2: %3</source>
-        <translation>问题 %1 / %2：%3</translation>
-    </message>
-    <message>
-        <source>Problem %1 of %2, %3: %4</source>
-        <translation>问题 %1 / %2，%3：%4</translation>
     </message>
     <message>
         <source>&amp;Filter by This Value</source>
@@ -7068,6 +7044,41 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Results whose sea height is their elevation: %1 of %2. %3</source>
         <translation>海拔高取自高程的成果：%1 个，共 %2 个。%3</translation>
+    </message>
+</context>
+<context>
+    <name>SelectedProblem</name>
+    <message>
+        <source>No problem passes the filters.</source>
+        <translation>没有问题符合筛选条件。</translation>
+    </message>
+    <message>
+        <source>There is no problem in the list.</source>
+        <translation>列表中没有问题。</translation>
+    </message>
+    <message>
+        <source>This is the first of %1 problems.</source>
+        <translation>这是 %1 个问题中的第一个。</translation>
+    </message>
+    <message>
+        <source>This was the last of %1 problems.</source>
+        <translation>这已是 %1 个问题中的最后一个。</translation>
+    </message>
+    <message>
+        <source>No point that this problem is about is in the project any more.</source>
+        <translation>工程中已没有该问题涉及的点。</translation>
+    </message>
+    <message>
+        <source>Point %1 is not in the project any more.</source>
+        <translation>工程中已没有点 %1。</translation>
+    </message>
+    <message>
+        <source>Problem %1 of %2: %3</source>
+        <translation>问题 %1 / %2：%3</translation>
+    </message>
+    <message>
+        <source>Problem %1 of %2, %3: %4</source>
+        <translation>问题 %1 / %2，%3：%4</translation>
     </message>
 </context>
 <context>

@@ -133,6 +133,43 @@ void showInView(IMapWindow& map, const Mark& mark)
         bringIntoView(map, mark.positions.first());
 }
 
+/// The places that are numbers; of thousands, one in so many.
+QPolygonF placesToMark(const QPolygonF& places)
+{
+    constexpr int kMost = 3000;
+    const int step = 1 + places.size() / kMost;
+    QPolygonF marked;
+    for (int i = 0; i < places.size(); i += step) {
+        if (isFinite(places[i]))
+            marked << places[i];
+    }
+    return marked;
+}
+
+/// The place nearest to the middle of all.
+QPointF middleOf(const QPolygonF& places)
+{
+    QPointF sum;
+    for (const QPointF& place : places)
+        sum += place;
+    const QPointF middle = sum / places.size();
+    return *std::ranges::min_element(places, {}, [&](const QPointF& place) {
+        return std::hypot(place.x() - middle.x(), place.y() - middle.y());
+    });
+}
+
+void drawGroup(IMapWindow& map, const QPolygonF& places)
+{
+    basalt::Dictionary properties;
+    properties.set("point_radius", "3");
+    IOverlay& overlay = map.overlay(0);
+    overlay.clear();
+    overlay.setProperties(properties);
+    overlay.setColor(Qt::blue);
+    overlay.setVertices(places);
+    map.refreshOverlay();
+}
+
 /// \param list the window that the map must not cover
 void showNear(IDesktopHost& host, const Mark& mark, const char* list)
 {
@@ -196,6 +233,34 @@ void markStation(IDesktopHost& host, int index)
     QPointF place;
     if (layer != nullptr && layer->GetBasePosition(index, place))
         showInView(*mapOf(host), {Kind::Station, QPolygonF(QVector<QPointF>{place})});
+}
+
+bool markGroup(IDesktopHost& host, const QPolygonF& places)
+{
+    IMapWindow* const map = mapOf(host);
+    if (map == nullptr)
+        return !places.isEmpty();
+    const QPolygonF marked = placesToMark(places);
+    drawGroup(*map, marked);
+    if (!marked.isEmpty())
+        ::bringIntoView(*map, middleOf(marked));
+    return !marked.isEmpty();
+}
+
+void zoomToGroup(IDesktopHost& host, const QPolygonF& places)
+{
+    constexpr double kMargin = 0.1; // of the width and height
+    if (!markGroup(host, places))
+        return;
+    IMapWindow* const map = mapOf(host);
+    if (map == nullptr)
+        return;
+    host.windows().reveal(QStringLiteral("DataMap"), {});
+    const QRectF all = placesToMark(places).boundingRect();
+    if (all.width() <= 0 && all.height() <= 0)
+        return; // at one place, which is in view
+    const double aside = std::max(all.width(), all.height()) * kMargin;
+    map->zoomRect(all.left() - aside, all.top() - aside, all.right() + aside, all.bottom() + aside);
 }
 
 void bringIntoView(IDesktopHost& host, const SurveyPoint& point)

@@ -33,6 +33,14 @@ void mark(IDesktopHost& host, const DesignPoint& point);
 /// The same for a base station, counted from 0.
 void markStation(IDesktopHost& host, int index);
 
+/// Marks many points, thinned where they are thousands. The one nearest to their middle comes into
+/// view, at the same scale. Positions that are no numbers are left out.
+/// \param places map coordinates
+/// \returns false, and leaves the map without a mark, when no position is left
+bool markGroup(IDesktopHost& host, const QPolygonF& places);
+/// The same; the map comes to the front and shows all of them.
+void zoomToGroup(IDesktopHost& host, const QPolygonF& places);
+
 /// Moves the map alone, and only when the point is outside its view.
 void bringIntoView(IDesktopHost& host, const SurveyPoint& point);
 void bringIntoView(IDesktopHost& host, const DesignPoint& point);

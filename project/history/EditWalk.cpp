@@ -27,8 +27,10 @@ class PointWriter
     using Changes = typename ChangedPoints<Points>::Changes;
 
 public:
-    /// \param rows  gets the points of a large edit; or null
-    PointWriter(std::vector<HistoryItem>& items, HistoryRows* rows) : m_items(items), m_rows(rows)
+    /// \param rows     gets the points of a large edit; or null
+    /// \param isWhole  points that have changed are written whole
+    PointWriter(std::vector<HistoryItem>& items, HistoryRows* rows, bool isWhole)
+        : m_items(items), m_rows(rows), m_isWhole(isWhole || rows != nullptr)
     {
     }
 
@@ -39,14 +41,25 @@ public:
                 add(Record::nameOf(*after), HistoryChange::Came, {});
             else if (after == nullptr)
                 addWhole(*before, HistoryChange::Gone);
-            else if (differs(*before, *after) && m_rows != nullptr)
-                addWhole(*before, HistoryChange::Changed);
-            else
+            else if (!m_isWhole)
                 addFields(*before, *after);
+            else if (differs(*before, *after))
+                addWhole(*before, HistoryChange::Changed, after);
         }
     }
+    /// Points under other names: those that are under none of the old ones, and each as it was,
+    /// under its new one.
+    void writeRenamed(const Changes& changes, const Changes& renamed)
+    {
+        for (const auto& [before, after] : changes) {
+            if (after == nullptr)
+                addWhole(*before, HistoryChange::Gone);
+        }
+        for (const auto& [before, after] : renamed)
+            addWhole(*before, HistoryChange::Changed, after);
+    }
     /// A point that came under another name: the fields that a correction has changed.
-    void writeRenamed(const Changes& changes)
+    void writeCorrected(const Changes& changes)
     {
         const auto gone =
             std::ranges::find(changes, nullptr, [](const auto& c) { return c.after; });
@@ -85,19 +98,27 @@ private:
         }
     }
 
-    void addWhole(const Point& point, HistoryChange change)
+    /// \param after  what it has become; or null
+    void addWhole(const Point& before, HistoryChange change, const Point* after = nullptr)
     {
-        Record::write(point, *m_before);
-        add(Record::nameOf(point), change, packedRow({m_before->values(), m_before->size()}));
+        add(Record::nameOf(after == nullptr ? before : *after), change, rowOf(before),
+            after == nullptr || m_rows != nullptr ? std::string() : rowOf(*after));
         m_holdsWhole = true;
     }
 
-    void add(PointName&& name, HistoryChange change, std::string&& row)
+    [[nodiscard]] std::string rowOf(const Point& point)
+    {
+        Record::write(point, *m_before);
+        return packedRow({m_before->values(), m_before->size()});
+    }
+
+    void add(PointName&& name, HistoryChange change, std::string&& row, std::string&& newRow = {})
     {
         if (m_rows != nullptr)
             m_rows->add(name, change, row);
         else
-            m_items.push_back({Record::kData, change, std::move(name), {}, std::move(row), {}});
+            m_items.push_back(
+                {Record::kData, change, std::move(name), {}, std::move(row), std::move(newRow)});
     }
 
     [[nodiscard]] static std::vector<bool> verdicts(const std::vector<std::string>& columns)
@@ -111,6 +132,7 @@ private:
 
     std::vector<HistoryItem>& m_items;
     HistoryRows* m_rows;
+    bool m_isWhole;
     std::vector<std::string> m_columns = listedColumns(Record::columns());
     std::vector<bool> m_isVerdict = verdicts(m_columns);
     std::unique_ptr<RecordTexts> m_before = std::make_unique<RecordTexts>();
@@ -118,18 +140,27 @@ private:
     bool m_holdsWhole = false;
 };
 
-/// \returns whether whole points were written
-template <class Points>
-bool writePoints(const typename ChangedPoints<Points>::Changes& changes, bool isCorrection,
-                 std::vector<HistoryItem>& items, HistoryRows* rows)
+using ResultChanges = ChangedPoints<SurveyPoints>::Changes;
+
+/// The results of a renaming as they were under the old name and are under the new one.
+ResultChanges renamedOf(const ResultChanges& changes)
 {
-    if (changes.empty())
-        return false;
-    PointWriter<Points> writer(items, rows);
-    writer.write(changes);
-    if (isCorrection)
-        writer.writeRenamed(changes);
-    return writer.holdsWhole();
+    MeasurementText measurementOf;
+    std::multimap<std::string, const SurveyPoint*> before;
+    for (const auto& change : changes) {
+        if (change.before != nullptr)
+            before.emplace(measurementOf(*change.before), change.before);
+    }
+    ResultChanges renamed;
+    for (const auto& change : changes) {
+        const auto same =
+            change.after == nullptr ? before.end() : before.find(measurementOf(*change.after));
+        if (same == before.end())
+            continue;
+        renamed.push_back({same->second, change.after});
+        before.erase(same);
+    }
+    return renamed;
 }
 
 template <class Points>
@@ -137,7 +168,7 @@ void keepOnly(const PointName& name, typename ChangedPoints<Points>::Changes& ch
 {
     std::erase_if(changes, [&](const auto& change) {
         return PointRecord<Points>::nameOf(
-                   *(change.before != nullptr ? change.before : change.after)) != name;
+                   *(change.after != nullptr ? change.after : change.before)) != name;
     });
 }
 
@@ -167,21 +198,30 @@ void EditWalk::hear(const Edit& edit)
 EditContent EditWalk::contentOf(const Edit& edit, const PointName* only)
 {
     hear(edit);
+    const bool isRenaming = &edit.kind() == &EditKinds::kRenameResults;
+    ResultChanges renamed = isRenaming ? renamedOf(m_resultChanges) : ResultChanges();
     const auto hasManyPoints = [this] {
         return m_designChanges.size() + m_resultChanges.size() > HistoryTables::kMostItems;
     };
     if (only != nullptr && hasManyPoints()) {
         keepOnly<DesignPoints>(*only, m_designChanges);
         keepOnly<SurveyPoints>(*only, m_resultChanges);
+        keepOnly<SurveyPoints>(*only, renamed);
     }
     EditContent content;
     const bool isLarge = hasManyPoints();
-    const bool isCorrection = &edit.kind() == &EditKinds::kCorrectResult ||
-                              (&edit.kind() == &EditKinds::kRenameResults && edit.points() == 1);
-    content.holdsResults = writePoints<SurveyPoints>(m_resultChanges, isCorrection, content.items,
-                                                     isLarge ? &content.resultRows : nullptr);
-    content.holdsDesign = writePoints<DesignPoints>(m_designChanges, false, content.items,
-                                                    isLarge ? &content.designRows : nullptr);
+    PointWriter<SurveyPoints> results(content.items, isLarge ? &content.resultRows : nullptr,
+                                      &edit.kind() == &EditKinds::kResolveRepeats);
+    if (isRenaming)
+        results.writeRenamed(m_resultChanges, renamed);
+    else
+        results.write(m_resultChanges);
+    if (&edit.kind() == &EditKinds::kCorrectResult)
+        results.writeCorrected(m_resultChanges);
+    content.holdsResults = results.holdsWhole();
+    PointWriter<DesignPoints> design(content.items, isLarge ? &content.designRows : nullptr, false);
+    design.write(m_designChanges);
+    content.holdsDesign = design.holdsWhole();
     std::ranges::move(m_parameterItems, std::back_inserter(content.items));
     return content;
 }

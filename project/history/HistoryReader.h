@@ -60,20 +60,18 @@ struct HistoryPoints
 {
     DesignPoints design;
     SurveyPoints results; ///< without sea heights
-    PointNames leaving;   ///< of results that get the names back that they had
+    PointNames leaving;   ///< of results that get the names back that they had, or were not there
 };
 
 /// The points of these items of an action as they were before it. Of a point that changed in single
 /// fields, these fields are as they were and the rest is as in `present`; one that is not there any
-/// more gives nothing, and a point that had come neither. A check point that is not there as it was
-/// gets a counter that is free in `present`.
+/// more gives nothing, and a point that had come neither. A result that was renamed, and is there
+/// under any name, leaves that name, and so does one that was made of several. A check point that
+/// is not there as it was gets a counter that is free in `present`.
 [[nodiscard]] HistoryPoints pointsBefore(const HistoryAction& action,
                                          const std::vector<HistoryItem>& items,
                                          const DesignPoints& presentDesign,
                                          const SurveyPoints& presentResults);
-
-/// Whether the item tells of another line or number of a point.
-[[nodiscard]] bool isRename(const HistoryItem& item);
 
 /// A value that an item has changed.
 struct HistoryField

@@ -40,7 +40,9 @@ void PointLife::tellNewTexts(const HistoryAction& action, std::vector<HistoryIte
             present.push_back(row[column]);
         if (item.change == HistoryChange::Changed && isKnown)
             item.newText = packedRow(present);
-        row = std::move(before);
+        const bool isRenamed = before["line_num"] != item.name.line || // nothing is known of what
+                               before["point_num"] != item.name.point; // had the name before it
+        row = isRenamed ? Row() : std::move(before);
     }
 }
 

@@ -90,3 +90,15 @@ private:
     std::unique_ptr<RecordTexts> m_first = std::make_unique<RecordTexts>();
     std::unique_ptr<RecordTexts> m_second = std::make_unique<RecordTexts>();
 };
+
+/// What tells a result from others whatever it is called: when, where and with what it was
+/// measured, as it is stored.
+class MeasurementText
+{
+public:
+    [[nodiscard]] std::string operator()(const SurveyPoint& point);
+
+private:
+    std::vector<std::string> m_columns = listedColumns(SurveyRecord::columns());
+    std::unique_ptr<RecordTexts> m_texts = std::make_unique<RecordTexts>();
+};

@@ -1,7 +1,9 @@
 #include "lum_sdk/database/RecordSet.h"
+#include "project/edits/EditKinds.h"
 #include "project/history/HistoryReader.h"
 #include "project/history/HistoryRows.h"
 #include "project/history/PointRecord.h"
+#include "project/history/RenamedResults.h"
 
 #include <algorithm>
 #include <map>
@@ -36,6 +38,25 @@ typename Points::Point withFields(const typename Points::Point& point,
     }
     addRow(records, texts);
     return typename PointRecord<Points>::Reader().read(records[0]);
+}
+
+/// The result as it is with these fields as they were.
+SurveyPoint withOldFields(const SurveyPoint& result, const std::vector<HistoryField>& fields)
+{
+    std::vector<HistoryItem> items;
+    items.reserve(fields.size());
+    for (const HistoryField& field : fields)
+        items.push_back({HistoryData::Results,
+                         HistoryChange::Changed,
+                         {},
+                         field.key,
+                         field.oldText,
+                         field.newText});
+    std::vector<const HistoryItem*> pointers;
+    pointers.reserve(items.size());
+    for (const HistoryItem& item : items)
+        pointers.push_back(&item);
+    return withFields<SurveyPoints>(result, pointers);
 }
 
 /// Of the measurements of a check point, the one that the items have changed.
@@ -100,7 +121,9 @@ public:
             if (point == nullptr)
                 continue;
             auto was = withFields<Points>(*point, items);
-            if (std::ranges::any_of(items, [](const auto* item) { return isRename(*item); })) {
+            if (std::ranges::any_of(items, [](const auto* item) {
+                    return item->field == "line_num" || item->field == "point_num";
+                })) {
                 rename(std::move(was), PointName{point->lineNumber, point->pointNumber});
                 continue;
             }
@@ -125,6 +148,12 @@ public:
 
     void addRenamed(SurveyPoint&& point, PointName&& present)
     {
+        if (point.lineNumber == present.line &&
+            point.pointNumber == writtenPointNumber(present.point)) { // it has its name back
+            point.pointNumber = present.point;
+            m_before.results.set(std::move(point));
+            return;
+        }
         const SurveyPoint& filed = m_filer.file(std::move(point));
         m_renamed.insert({filed.lineNumber, std::string(writtenPointNumber(filed.pointNumber))});
         m_leaving.push_back(std::move(present));
@@ -139,6 +168,11 @@ public:
         } else {
             m_filer.file(std::move(point));
         }
+    }
+    void addLeaving(const PointName& name)
+    {
+        if (m_present.find(name.line, name.point) != nullptr)
+            m_leaving.push_back(name);
     }
     void finish() { m_before.leaving = PointNames(m_leaving); }
 
@@ -167,31 +201,35 @@ private:
 
 } // namespace
 
-bool isRename(const HistoryItem& item)
-{
-    return item.data == HistoryData::Results &&
-           (item.field == "line_num" || item.field == "point_num");
-}
-
 HistoryPoints pointsBefore(const HistoryAction& action, const std::vector<HistoryItem>& items,
-                           const DesignPoints& presentDesign, const SurveyPoints& presentResults)
+                           const DesignPoints& presentDesign, const SurveyPoints& presentSurvey)
 {
+    const bool isRenamed = action.kind == EditKinds::kRenameResults.name;
+    const bool isResolved = action.kind == EditKinds::kResolveRepeats.name;
+    HistoryPoints before;
+    ResultsBefore filer(presentSurvey, before);
     Before<DesignPoints> design(action.designColumns);
     Before<SurveyPoints> results(action.resultColumns);
     for (const HistoryItem& item : items) {
         if (item.data == HistoryData::Design)
             design.add(item);
-        else if (item.data == HistoryData::Results)
+        else if (item.data == HistoryData::Results && !isRenamed)
             results.add(item);
+        if (item.data == HistoryData::Results && isResolved && item.change == HistoryChange::Came)
+            filer.addLeaving(item.name);
     }
-    HistoryPoints before;
+    const auto rename = [&](SurveyPoint&& was, PointName&& name) {
+        filer.addRenamed(std::move(was), std::move(name));
+    };
     design.takeChanged(presentDesign, before.design, [](auto&&...) {}); // they keep their names
     design.takeWhole([&](DesignPoint&& point) { before.design.set(std::move(point)); });
-    ResultsBefore filer(presentResults, before);
-    results.takeChanged(presentResults, before.results, [&](SurveyPoint&& was, PointName&& name) {
-        filer.addRenamed(std::move(was), std::move(name));
-    });
+    results.takeChanged(presentSurvey, before.results, rename);
     results.takeWhole([&](SurveyPoint&& point) { filer.addWhole(std::move(point)); });
+    if (isRenamed) {
+        for (const auto& [item, result] : presentResults(action, items, presentSurvey))
+            rename(withOldFields(*result, fieldsOf(action, *item)),
+                   {result->lineNumber, result->pointNumber});
+    }
     filer.finish();
     return before;
 }

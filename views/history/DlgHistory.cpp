@@ -6,6 +6,7 @@
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "project/DataProcessDataManager.h"
+#include "project/history/RenamedResults.h"
 #include "project/ui/EditSteps.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
@@ -378,6 +379,14 @@ void DlgHistory::showState()
 
 // --- what is done ---
 
+/// Of the action that a change belongs to.
+std::vector<HistoryItem> DlgHistory::allItems(int change, QString& fault) const
+{
+    const std::size_t event = m_items->eventAt(change);
+    return m_isLife ? ShownHistory::eventOf(m_actions->row(static_cast<int>(event)), fault).items
+                    : m_items->items(event);
+}
+
 void DlgHistory::restore()
 {
     const std::vector<int> chosen = m_itemTable->selectedRows();
@@ -394,7 +403,13 @@ void DlgHistory::restore()
     PointRestore result;
     {
         const WaitCursor waiting;
-        result = restorePoints(m_items->action(chosen.front()), items);
+        const HistoryAction& action = m_items->action(chosen.front());
+        QString fault;
+        if (isRenaming(action))
+            items = withRenamed(action, allItems(chosen.front(), fault), items);
+        if (!fault.isEmpty())
+            return tellNote(fault);
+        result = restorePoints(action, items);
     }
     const auto publish = [&](HistoryData kind, std::initializer_list<const char*> names) {
         for (const char* name : names) {

@@ -59,6 +59,7 @@ private:
     void hideColumns();
     void showState();
 
+    [[nodiscard]] std::vector<HistoryItem> allItems(int change, QString& fault) const;
     void restore();
 
     IDesktopHost& m_host; // outlives the window

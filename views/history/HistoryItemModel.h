@@ -32,6 +32,11 @@ public:
 
     [[nodiscard]] const HistoryItem& item(int row) const;
     [[nodiscard]] const HistoryAction& action(int row) const;
+    [[nodiscard]] std::size_t eventAt(int row) const { return place(row).first; }
+    [[nodiscard]] const std::vector<HistoryItem>& items(std::size_t event) const
+    {
+        return m_events[event].items;
+    }
     [[nodiscard]] int firstRowOf(std::size_t event) const
     {
         return event == 0 ? 0 : static_cast<int>(m_ends[event - 1]);
@@ -39,7 +44,7 @@ public:
     /// Whether two rows are about the same action.
     [[nodiscard]] bool areTogether(int first, int second) const
     {
-        return place(first).first == place(second).first;
+        return eventAt(first) == eventAt(second);
     }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -190,8 +190,9 @@ HistoryTexts::WholePoint HistoryTexts::wholePoint(const HistoryAction& action,
         values << caption(item.data, key) + QLatin1Char(' ') + value(item.data, key, text);
     };
     for (const auto& [key, before, after] : fieldsOf(action, item)) {
-        if (key == "line_num" || key == "point_num")
-            continue;
+        if ((key == "line_num" && before == item.name.line) ||
+            (key == "point_num" && before == item.name.point))
+            continue; // the row has it in columns of its own
         if (saysSomething(before) || saysSomething(after))
             add(point.before, key, before);
         if (!item.newText.empty())

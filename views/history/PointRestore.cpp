@@ -2,7 +2,9 @@
 
 #include "lum_sdk/GroupedNumber.h"
 #include "project/DataProcessDataManager.h"
+#include "project/edits/EditKinds.h"
 #include "project/history/PointRecord.h"
+#include "project/history/RenamedResults.h"
 
 #include <QCoreApplication>
 
@@ -17,9 +19,16 @@ QString translated(const char* text)
     return QCoreApplication::translate("PointRestore", text);
 }
 
+bool contains(const PointNames& names, const std::string& line, const std::string& number)
+{
+    const auto numbers = names.lines().find(line);
+    return numbers != names.lines().end() && std::ranges::binary_search(numbers->second, number);
+}
+
 /// Removes the points that are in the project as they are here.
 template <class Points>
-void removeUnchanged(const Points& present, Points& points, PointRestore& result)
+void removeUnchanged(const Points& present, const PointNames& leaving, Points& points,
+                     PointRestore& result)
 {
     SameRecord<Points> isSame;
     std::vector<PointName> same;
@@ -28,7 +37,7 @@ void removeUnchanged(const Points& present, Points& points, PointRestore& result
             const auto* const standing = present.find(number, point.pointNumber);
             if (standing != nullptr && isSame(point, *standing))
                 same.push_back({number, point.pointNumber});
-            else if (standing != nullptr)
+            else if (standing != nullptr && !contains(leaving, number, point.pointNumber))
                 ++result.replacing;
         }
     }
@@ -37,10 +46,14 @@ void removeUnchanged(const Points& present, Points& points, PointRestore& result
 }
 
 /// How many points the items are about. Measurements of one check point have one name.
-std::size_t pointsOf(const std::vector<HistoryItem>& items, PointRestore& result)
+std::size_t pointsOf(const HistoryAction& action, const std::vector<HistoryItem>& items,
+                     PointRestore& result)
 {
-    if (std::ranges::any_of(items, isRename)) // of one result, by both its names
-        return 1;
+    const auto renamed =
+        std::ranges::count_if(items, [&](const auto& item) { return isRename(action, item); });
+    if (renamed > 0) // a correction renames one, in several items
+        return action.kind == EditKinds::kCorrectResult.name ? 1
+                                                             : static_cast<std::size_t>(renamed);
     std::size_t points = 0;
     std::set<std::tuple<HistoryData, std::string, std::string>> named;
     for (const HistoryItem& item : items) {
@@ -68,6 +81,8 @@ QString PointRestore::told() const
     sentences << translated(QT_TRANSLATE_NOOP("PointRestore", "Points restored: %1."))
                      .arg(lum::groupedNumber(restored));
     add(replacing, QT_TRANSLATE_NOOP("PointRestore", "In place of another state: %1."));
+    add(withdrawn, QT_TRANSLATE_NOOP("PointRestore", "Taken away, since their measurements are "
+                                                     "back: %1."));
     add(unchanged, QT_TRANSLATE_NOOP("PointRestore", "Already so: %1."));
     add(impossible,
         QT_TRANSLATE_NOOP("PointRestore",
@@ -85,10 +100,16 @@ PointRestore restorePoints(const HistoryAction& action, const std::vector<Histor
         pointsBefore(action, items, manager.designPoints(), manager.surveyPoints());
     const std::size_t found = points.design.pointCount() + points.results.pointCount();
     PointRestore result;
-    const std::size_t asked = pointsOf(items, result);
+    const std::size_t asked = pointsOf(action, items, result);
     result.impossible = asked - std::min(asked, found);
-    removeUnchanged(manager.designPoints(), points.design, result);
-    removeUnchanged(manager.surveyPoints(), points.results, result);
+    removeUnchanged(manager.designPoints(), {}, points.design, result);
+    removeUnchanged(manager.surveyPoints(), points.leaving, points.results, result);
+    const bool isResolved = action.kind == EditKinds::kResolveRepeats.name;
+    const std::size_t leaving = isResolved ? points.leaving.count() : 0;
     result.restored = manager.restorePoints(std::move(points));
+    if (result.restored > 0) {
+        result.withdrawn = leaving;
+        result.impossible -= std::min(result.impossible, leaving);
+    }
     return result;
 }

@@ -17,18 +17,16 @@
 #include "views/problems/ProblemActions.h"
 #include "views/problems/ProblemKindBar.h"
 #include "views/problems/ProblemTableModel.h"
+#include "views/problems/ProblemWidths.h"
 #include "views/problems/ShowProblem.h"
 #include "views/tables/RowFilter.h"
 #include "views/tables/TableCountLine.h"
 
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPersistentModelIndex>
-#include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QSplitter>
 #include <QTimer>
 #include <QToolButton>
@@ -40,11 +38,8 @@
 
 namespace {
 
-constexpr int kWhat = static_cast<int>(ProblemField::What);
 constexpr int kTypingMs = 200;
-constexpr int kKindsWidth = 210;
 constexpr int kSearchWidth = 180;
-constexpr int kLeastSentence = 400; // pixels of the column of sentences
 constexpr int kMargin = 4;
 const QLatin1String kFindLink("find");
 const QLatin1String kFindCommand("Find Problems");
@@ -73,8 +68,9 @@ ProblemWindow::ProblemWindow(const char* config, IDesktopHost* host)
     : m_host(*host), m_parameters(desktop::componentParameters(config)),
       m_model(new ProblemTableModel(this)), m_table(new CustomTableWidget(this)),
       m_header(&m_table->addFilterRow()), m_kinds(new ProblemKindBar(this)),
-      m_actions(new ProblemActions(*host, *m_model, *m_table)), m_search(new QLineEdit(this)),
-      m_old(new QLabel(this)), m_empty(new QLabel(m_table->viewport())),
+      m_actions(new ProblemActions(*host, *m_model, *m_table)),
+      m_selected(*host, *m_model, *m_table), m_search(new QLineEdit(this)), m_old(new QLabel(this)),
+      m_empty(new QLabel(m_table->viewport())),
       m_counts(new TableCountLine(this, {tr("Problems: %1"), tr("Problems: %1 of %2")})),
       m_subscription(*this,
                      lum::eventNames({events::kUpdateSystemStatus, events::kProjectModified,
@@ -121,8 +117,8 @@ void ProblemWindow::makeLayout()
     areas->addWidget(m_kinds);
     areas->addWidget(m_table);
     areas->setStretchFactor(1, 1);
-    areas->setSizes({dpi_scaled(kKindsWidth), 4 * dpi_scaled(kKindsWidth)});
     areas->setChildrenCollapsible(false);
+    m_widths = new ProblemWidths(*areas, *m_table);
     rows->addWidget(areas, 1);
     rows->addWidget(m_counts);
 
@@ -164,7 +160,7 @@ void ProblemWindow::addBar(QBoxLayout& rows)
 
 void ProblemWindow::connectParts()
 {
-    const auto go = [this](const QModelIndex& cell) { announce(cell.row()); };
+    const auto go = [this](const QModelIndex& cell) { m_selected.announce(cell.row()); };
     connect(m_table, &QAbstractItemView::clicked, this, go);
     connect(m_table, &CustomTableWidget::reachedByKey, this, go);
     connect(m_table, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& cell) {
@@ -179,9 +175,6 @@ void ProblemWindow::connectParts()
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ProblemWindow::showSelected);
     connect(m_header, &FilterHeader::filterEdited, this, &ProblemWindow::setFilter);
-    connect(m_header, &QHeaderView::sectionResized, this, [this](int column) {
-        m_hasOwnWidth |= column == kWhat && QGuiApplication::mouseButtons() != Qt::NoButton;
-    });
     connect(m_kinds, &ProblemKindBar::chosen, this, &ProblemWindow::showChoice);
     connect(m_counts, &TableCountLine::clearFiltersRequested, this, &ProblemWindow::clearFilters);
     connect(m_empty, &QLabel::linkActivated, this, &ProblemWindow::followLink);
@@ -219,7 +212,7 @@ void ProblemWindow::find()
     if (wasSelected && same >= 0)
         m_table->showRow(same);
     else
-        goOnAt(same >= 0 ? same : before);
+        m_selected.goOnAt(same >= 0 ? same : before);
     tellFound();
 }
 
@@ -281,15 +274,7 @@ void ProblemWindow::followAccepted()
     m_model->changeAccepted([](ProblemList& problems) { manager().markAccepted(problems); });
     showKinds();
     if (!m_table->currentIndex().isValid())
-        goOnAt(row);
-}
-
-/// Without selecting anything.
-void ProblemWindow::goOnAt(int row)
-{
-    const int last = std::max(m_model->rowCount() - 1, 0);
-    m_table->selectionModel()->setCurrentIndex(m_model->index(std::clamp(row, 0, last), kWhat),
-                                               QItemSelectionModel::NoUpdate);
+        m_selected.goOnAt(row);
 }
 
 void ProblemWindow::showKinds()
@@ -302,17 +287,7 @@ void ProblemWindow::showChoice()
 {
     m_model->setChoice(m_kinds->choice());
     showState();
-    keepInView();
-}
-
-/// The selected problem, where other rows are shown around it.
-void ProblemWindow::keepInView()
-{
-    if (m_table->selectedRowCount() != 1)
-        return;
-    const QModelIndex row = m_table->currentIndex();
-    static_cast<void>(m_table->visualRect(row)); // lays the rows out, else it cannot scroll there
-    m_table->showRow(row.row());
+    m_selected.keepInView();
 }
 
 void ProblemWindow::setFilter(int column, const QString& text)
@@ -321,7 +296,7 @@ void ProblemWindow::setFilter(int column, const QString& text)
     m_model->setFilter(column, text);
     m_header->setFault(column, m_model->filterFault(column));
     showState();
-    keepInView();
+    m_selected.keepInView();
 }
 
 void ProblemWindow::clearFilters()
@@ -336,7 +311,7 @@ void ProblemWindow::clearFilters()
     }
     m_model->clearFilters();
     showState();
-    keepInView();
+    m_selected.keepInView();
 }
 
 // --- what is said ---
@@ -349,7 +324,7 @@ void ProblemWindow::showState()
     if (m_model->rowCount() == 0)
         m_empty->setText(emptyText());
     showSelected();
-    fitSentences();
+    m_widths->fit();
 }
 
 void ProblemWindow::showSelected()
@@ -409,20 +384,10 @@ void ProblemWindow::followLink(const QString& link)
         clearFilters();
 }
 
-/// Gives the sentences the width that the other columns leave, until the user has given them one.
-void ProblemWindow::fitSentences()
-{
-    if (m_hasOwnWidth || m_model->rowCount() == 0)
-        return;
-    const int others = m_header->length() - m_header->sectionSize(kWhat);
-    m_header->resizeSection(
-        kWhat, std::max(dpi_scaled(kLeastSentence), m_table->viewport()->width() - others));
-}
-
 void ProblemWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    fitSentences();
+    m_widths->fit();
 }
 
 // --- from problem to problem ---
@@ -433,66 +398,20 @@ void ProblemWindow::step(bool isForward)
         return;
     if (!m_hasFound)
         find();
-    const int rows = m_model->rowCount();
-    const int present = m_table->currentIndex().row();
-    const bool isThere = m_table->selectedRowCount() > 0;
-    const int row = !isThere ? std::max(present, 0) : present + (isForward ? 1 : -1);
-    if (rows == 0)
-        m_host.tell(m_model->unfilteredCount() > 0 ? tr("No problem passes the filters.")
-                                                   : tr("There is no problem in the list."));
-    else if (row < 0)
-        m_host.tell(tr("This is the first of %1 problems.").arg(lum::groupedNumber(rows)));
-    else if (row >= rows)
-        m_host.tell(tr("This was the last of %1 problems.").arg(lum::groupedNumber(rows)));
-    else
-        goTo(row);
-}
-
-void ProblemWindow::goTo(int row)
-{
-    m_table->showRow(row);
-    announce(row);
-}
-
-/// Selects the point of a row in the other windows, and says what is wrong with it.
-void ProblemWindow::announce(int row)
-{
-    const Problem& problem = m_model->problem(row);
-    const QString name = problemName(problem);
-    const QScopedValueRollback<bool> guard(m_isAnnouncing, true);
-    if (!selectProblem(m_host, problem))
-        return m_host.tell(tr("Point %1 is not in the project any more.").arg(name));
-    const QString number = lum::groupedNumber(row + 1);
-    const QString rows = lum::groupedNumber(m_model->rowCount());
-    const QString what = problem.kind->what(problem);
-    m_host.tell(name.isEmpty() ? tr("Problem %1 of %2: %3").arg(number, rows, what)
-                               : tr("Problem %1 of %2, %3: %4").arg(number, rows, name, what));
+    m_selected.step(isForward);
 }
 
 bool ProblemWindow::followPoint(bool isDesign, const PointName& point)
 {
     const bool isInFront = isVisible();
-    if (m_isAnnouncing || !m_hasFound)
-        return isInFront;
-    const std::vector<int> selected = m_table->selectedRows();
-    const auto isAbout = [&](const Problem& problem) {
-        return problem.isDesign == isDesign && problem.point == point.point &&
-               problem.line == point.line;
-    };
-    if (!selected.empty() && isAbout(m_model->problem(selected.front())))
-        return isInFront; // another fault of the same point stays
-    const int row = m_model->rowOf(isDesign, point.line, point.point);
-    if (row >= 0)
-        m_table->showRow(row);
-    else
-        m_table->clearSelection();
-    return isInFront && row >= 0;
+    const bool hasFound = !m_hasFound || m_selected.follow(isDesign, point);
+    return isInFront && hasFound;
 }
 
 void ProblemWindow::showMenu(const QModelIndex& cell, const QPoint& place)
 {
     if (m_table->selectedRowCount() == 1)
-        announce(cell.row()); // the right click has selected it
+        m_selected.announce(cell.row()); // the right click has selected it
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     m_actions->addEntries(*menu);
@@ -510,7 +429,7 @@ void ProblemWindow::showMenu(const QModelIndex& cell, const QPoint& place)
             setFilter(clicked.column(), m_model->filterFor(clicked));
         });
     const bool isPoint = !m_model->problem(cell.row()).point.empty();
-    add(tr("Show on the &Map"), isPoint, [this](const QModelIndex& clicked) {
+    add(tr("Show on the &Map"), true, [this](const QModelIndex& clicked) {
         zoomToProblem(m_host, m_model->problem(clicked.row()));
     });
     add(tr("&History of This Point"), isPoint, [this](const QModelIndex& clicked) {

@@ -5,6 +5,7 @@
 #include "lum_sdk/events/EventSubscription.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "project/IProblemList.h"
+#include "views/problems/SelectedProblem.h"
 
 #include <QWidget>
 
@@ -14,6 +15,7 @@ class IDesktopHost;
 class ProblemActions;
 class ProblemKindBar;
 class ProblemTableModel;
+class ProblemWidths;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -62,10 +64,8 @@ private:
     void followProject();
     [[nodiscard]] bool isOld() const;
     void followAccepted();
-    void goOnAt(int row);
     void showKinds();
     void showChoice();
-    void keepInView();
     void setFilter(int column, const QString& text);
     void clearFilters();
     void showState();
@@ -75,10 +75,6 @@ private:
     [[nodiscard]] QString acceptanceText() const;
     void tellFound() const;
     void followLink(const QString& link);
-    void fitSentences();
-
-    void goTo(int row);
-    void announce(int row);
     void showMenu(const QModelIndex& cell, const QPoint& place);
 
     IDesktopHost& m_host; // outlives the window
@@ -88,6 +84,8 @@ private:
     FilterHeader* m_header;
     ProblemKindBar* m_kinds;
     ProblemActions* m_actions;
+    SelectedProblem m_selected;
+    ProblemWidths* m_widths = nullptr;
     QLineEdit* m_search;
     QLabel* m_old;   ///< says that the list is old
     QLabel* m_empty; ///< over the rows that are not there
@@ -95,7 +93,5 @@ private:
     QString m_project;           ///< the folder of the one that the list is of
     bool m_hasFound = false;     ///< there is a list
     basalt::Dictionary m_limits; ///< with which it was found
-    bool m_isAnnouncing = false;
-    bool m_hasOwnWidth = false; ///< the user has chosen the width of the sentences
     EventSubscription m_subscription;
 };

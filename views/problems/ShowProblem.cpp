@@ -1,5 +1,7 @@
 #include "views/problems/ShowProblem.h"
 
+#include "exchange/ShownTimes.h"
+#include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/events/IEventManager.h"
@@ -11,18 +13,47 @@
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
+#include "quality/problems/GroupResults.h"
 #include "quality/problems/Problem.h"
+
+#include <QPolygonF>
 
 namespace {
 
 /// No window shows the point of another problem beside this one.
 void selectNothing(IDesktopHost& host)
 {
-    PointHighlight::clear(host);
+    host.eventManager().publish(events::kSurveyPointSelected,
+                                payload::selectedPoint({}, {}).constData(), 0);
     for (const char* const name : {"Design Data List", "Survey Data List"}) {
         if (auto* const list = host.windows().findAs<IPointList>(QLatin1String(name)))
             list->deselect();
     }
+}
+
+/// The map coordinates of what a problem without a point is about: results, or the points of a
+/// line.
+QPolygonF placesOf(IDesktopHost& host, const Problem& problem)
+{
+    const ICoordTransformHelper& helper = host.coordTransformHelper();
+    DataProcessDataManager& manager = DataProcessDataManager::instance();
+    QPolygonF places;
+    const auto addLine = [&](const auto* line) {
+        if (line == nullptr)
+            return;
+        for (const auto& point : *line)
+            places << helper.projectToMap(point.north, point.east);
+    };
+    if (problem.line.empty()) {
+        for (const SurveyPoint* const point :
+             groupResults(problem, manager.surveyPoints(), shownTimes()))
+            places << helper.projectToMap(point->north, point->east);
+    } else if (problem.isDesign) {
+        addLine(manager.designPoints().findLine(problem.line));
+    } else {
+        addLine(manager.surveyPoints().findLine(problem.line));
+    }
+    return places;
 }
 
 } // namespace
@@ -39,7 +70,7 @@ bool selectProblem(IDesktopHost& host, const Problem& problem)
 {
     if (problem.point.empty()) {
         selectNothing(host);
-        return true;
+        return PointHighlight::markGroup(host, placesOf(host, problem));
     }
     const QString line = lum::toQString(problem.line);
     const QString point = lum::toQString(problem.point);
@@ -55,8 +86,10 @@ bool selectProblem(IDesktopHost& host, const Problem& problem)
 
 void zoomToProblem(IDesktopHost& host, const Problem& problem)
 {
-    if (!ProjectState::hasData() || problem.point.empty())
+    if (!ProjectState::hasData())
         return;
+    if (problem.point.empty())
+        return PointHighlight::zoomToGroup(host, placesOf(host, problem));
     DataProcessDataManager& manager = DataProcessDataManager::instance();
     if (problem.isDesign) {
         if (const DesignPoint* const point =

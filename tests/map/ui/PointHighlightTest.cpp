@@ -94,6 +94,27 @@ private Q_SLOTS:
         QCOMPARE(map.window.transform().center(), QPointF(7000, 5000));
     }
 
+    void manyPointsAreMarkedAroundTheirMiddle()
+    {
+        TestMap map; // 400 x 300 metres
+        QPolygonF places;
+        for (int i = 0; i < 20000; ++i)
+            places << QPointF(1000 + i % 200, 1000 + i / 200);
+        places << QPointF(std::nan(""), 0);
+        QVERIFY(PointHighlight::markGroup(map.host, places));
+        QCOMPARE(map.window.transform().GetScale(), 1.0);
+        const QPointF off = map.window.transform().center() - QPointF(1099.5, 1049.5);
+        QVERIFY2(off.manhattanLength() < 5, "not at their middle");
+        QCOMPARE(map.picture().pixelColor(200, 150), QColor(Qt::blue));
+        const QPointF before = map.window.transform().center();
+        QVERIFY(PointHighlight::markGroup(map.host, QPolygonF(places.mid(0, 1000)))); // in view
+        QCOMPARE(map.window.transform().center(), before);
+        PointHighlight::zoomToGroup(map.host, QVector<QPointF>{{0, 0}, {4000, 3000}});
+        QCOMPARE(map.window.transform().center(), QPointF(2000, 1500));
+        QVERIFY(map.window.transform().GetScale() > 10);
+        QVERIFY(!PointHighlight::markGroup(map.host, QVector<QPointF>{{std::nan(""), 0}}));
+    }
+
     void aResultHasARingOnlyWhereItWasDesigned()
     {
         TestMap map;

@@ -1,7 +1,11 @@
 #include "lum_desktop_sdkx/controls/FilterHeader.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
+#include "lum_desktop_sdkx/map/MapWindow.h"
+#include "lum_sdk/Transform.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
+#include "protocol/StatusKeys.h"
+#include "tests/lum_desktop_sdkx/MapMouse.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/PopupMenu.h"
 #include "tests/support/TestFolder.h"
@@ -60,6 +64,65 @@ private Q_SLOTS:
         place.designed.lineThatIsMissing = "1002"_q;
         place.step("previous");
         QVERIFY(place.host.told.contains("not in the project any more"_q));
+    }
+
+    void showsTheResultsOfACrewOnTheMapAtItsScale()
+    {
+        ProblemPlace place;
+        MapWindow map("name=DataMap", &place.host);
+        map.resize(400, 300);
+        map.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&map));
+        place.host.windowRegistry.windows.insert("DataMap"_q, &map);
+        for (const char* const point : {"5001", "5002", "5003", "5004", "5005", "5006"}) {
+            SurveyPoint& result = place.survey("1001", point);
+            result.surveyor = "Li";
+            result.dateTime = 1'700'000'000'000;
+        }
+        place.survey("1001", "5006").surveyor = "Wang";
+        place.find();
+        place.chooseKind("Too few check shots");
+        QCOMPARE(place.model.rowCount(), 1);
+        map.zoomRect(900, 900, 940, 930); // elsewhere
+        place.click(0);
+        QVERIFY(place.host.told.contains("Points measured that day: 5"_q));
+        QCOMPARE(map.transform().center(), QPointF(50, 0)); // the third of five
+        QCOMPARE(map.transform().GetScale(), 0.1);
+        QVERIFY(place.designed.followed.contains("nothing"_q));
+        place.step("next"); // the last one: the map stays
+        map.zoomRect(900, 900, 940, 930);
+        QTest::mouseDClick(place.table.viewport(), Qt::LeftButton, {},
+                           place.table.visualRect(place.model.index(0, 3)).center());
+        QVERIFY(map.transform().GetScale() > 0.25); // all 100 m of them
+        place.results().clear();
+        place.click(0);
+        QCOMPARE(place.host.told,
+                 "No point that this problem is about is in the project any more."_q);
+    }
+
+    void keepsTheWidthsThatTheUserGives()
+    {
+        ProblemPlace place;
+        place.find();
+        QHeaderView& header = *place.table.horizontalHeader();
+        constexpr int kWhat = int(ProblemField::What);
+        place.window.resize(2000, 400);
+        const int before = header.sectionSize(kWhat);
+        place.window.resize(2200, 400);
+        QCOMPARE(header.sectionSize(kWhat), before + 200); // the sentences get the rest
+        const QPoint edge(header.sectionViewportPosition(kWhat) + before + 199, 5);
+        dragMouse(*header.viewport(), Qt::LeftButton, edge, edge - QPoint(150, 0));
+        QCOMPARE(header.sectionSize(kWhat), before + 50);
+        const std::string kept(OpenProject::settings().text(settings::kProblemWidths));
+        OpenProject::settings().set(settings::kProblemWidths, "300" + kept.substr(kept.find(',')));
+
+        ProblemWindow next("", &place.host);
+        next.resize(1100, 400);
+        next.show();
+        next.find();
+        QTRY_COMPARE(next.findChild<QSplitter*>()->sizes()[0], 300);
+        QCOMPARE(next.findChild<QTableView*>()->horizontalHeader()->sectionSize(kWhat),
+                 before + 50);
     }
 
     void staysInFrontAndFollowsOtherWindows()
