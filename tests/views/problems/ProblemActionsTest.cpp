@@ -67,7 +67,8 @@ private Q_SLOTS:
 
         place.chooseKind("Accepted");
         QCOMPARE(place.model.rowCount(), 2);
-        QVERIFY(!button(place.window, "&Accept...")->isVisible());
+        for (const char* const action : {"&Accept...", "&List for the Crew..."})
+            QVERIFY(!button(place.window, action)->isVisible());
         place.click(0);
         QVERIFY(place.says("河岸 &lt;bank&gt;"));
         QTest::mouseClick(button(place.window, "Open A&gain"), Qt::LeftButton);
@@ -118,6 +119,7 @@ private Q_SLOTS:
         place.publish(events::kRefreshSurveyTable);
         for (const char* const action : {"&Accept...", "&List for the Crew..."})
             QVERIFY(!button(place.window, action)->isEnabled());
+        QVERIFY(!place.window.findChild<QAction*>("measureAgain"_q)->isEnabled());
     }
 
     void aProposalIsCarriedOut()
