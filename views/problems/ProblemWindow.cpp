@@ -69,8 +69,8 @@ ProblemWindow::ProblemWindow(const char* config, IDesktopHost* host)
       m_model(new ProblemTableModel(this)), m_table(new CustomTableWidget(this)),
       m_header(&m_table->addFilterRow()), m_kinds(new ProblemKindBar(this)),
       m_actions(new ProblemActions(*host, *m_model, *m_table)),
-      m_selected(*host, *m_model, *m_table), m_search(new QLineEdit(this)), m_old(new QLabel(this)),
-      m_empty(new QLabel(m_table->viewport())),
+      m_selected(*host, *m_model, *m_table), m_search(new QLineEdit(this)),
+      m_typing(new QTimer(this)), m_old(new QLabel(this)), m_empty(new QLabel(m_table->viewport())),
       m_counts(new TableCountLine(this, {tr("Problems: %1"), tr("Problems: %1 of %2")})),
       m_subscription(*this,
                      lum::eventNames({events::kUpdateSystemStatus, events::kProjectModified,
@@ -181,11 +181,10 @@ void ProblemWindow::connectParts()
     connect(m_old, &QLabel::linkActivated, this, &ProblemWindow::followLink);
     connect(m_actions, &ProblemActions::pointsChanged, this, &ProblemWindow::find);
     connect(m_actions, &ProblemActions::acceptedChanged, this, &ProblemWindow::followAccepted);
-    auto* const typing = new QTimer(this);
-    typing->setSingleShot(true);
-    typing->setInterval(kTypingMs);
-    connect(m_search, &QLineEdit::textChanged, typing, qOverload<>(&QTimer::start));
-    connect(typing, &QTimer::timeout, this, [this] {
+    m_typing->setSingleShot(true);
+    m_typing->setInterval(kTypingMs);
+    connect(m_search, &QLineEdit::textChanged, m_typing, qOverload<>(&QTimer::start));
+    connect(m_typing, &QTimer::timeout, this, [this] {
         m_model->setSearch(m_search->text());
         showState();
     });
@@ -305,10 +304,8 @@ void ProblemWindow::clearFilters()
         m_header->setFilter(column, {});
         m_header->setFault(column, {});
     }
-    {
-        const QSignalBlocker quiet(m_search);
-        m_search->clear();
-    }
+    m_search->clear();
+    m_typing->stop();
     m_model->clearFilters();
     showState();
     m_selected.keepInView();

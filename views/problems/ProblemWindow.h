@@ -20,6 +20,7 @@ class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QModelIndex;
+class QTimer;
 class TableCountLine;
 
 /// The window "Problems List": everything that is wrong with design and results, a row each, and
@@ -87,8 +88,9 @@ private:
     SelectedProblem m_selected;
     ProblemWidths* m_widths = nullptr;
     QLineEdit* m_search;
-    QLabel* m_old;   ///< says that the list is old
-    QLabel* m_empty; ///< over the rows that are not there
+    QTimer* m_typing; ///< runs while the user types what he searches
+    QLabel* m_old;    ///< says that the list is old
+    QLabel* m_empty;  ///< over the rows that are not there
     TableCountLine* m_counts;
     QString m_project;           ///< the folder of the one that the list is of
     bool m_hasFound = false;     ///< there is a list

@@ -200,6 +200,10 @@ private Q_SLOTS:
                 QTest::mouseClick(button, Qt::LeftButton);
         }
         QVERIFY(search->text().isEmpty() && place.model.rowCount() == 12);
+        for (QToolButton* const button : search->findChildren<QToolButton*>()) {
+            if (button->defaultAction()->objectName() == "_q_qlineeditclearaction"_q)
+                QTRY_COMPARE(button->property("opacity").toReal(), 0.0); // has nothing to clear
+        }
 
         const QPoint cell = place.table.visualRect(place.model.index(7, 2)).center();
         QTest::mousePress(place.table.viewport(), Qt::RightButton, {}, cell);
