@@ -69,8 +69,9 @@ ProblemWindow::ProblemWindow(const char* config, IDesktopHost* host)
       m_model(new ProblemTableModel(this)), m_table(new CustomTableWidget(this)),
       m_header(&m_table->addFilterRow()), m_kinds(new ProblemKindBar(this)),
       m_actions(new ProblemActions(*host, *m_model, *m_table)),
-      m_selected(*host, *m_model, *m_table), m_search(new QLineEdit(this)),
-      m_typing(new QTimer(this)), m_old(new QLabel(this)), m_empty(new QLabel(m_table->viewport())),
+      m_selected(*host, *m_model, *m_table), m_find(new QToolButton(this)),
+      m_search(new QLineEdit(this)), m_typing(new QTimer(this)), m_old(new QLabel(this)),
+      m_empty(new QLabel(m_table->viewport())),
       m_counts(new TableCountLine(this, {tr("Problems: %1"), tr("Problems: %1 of %2")})),
       m_subscription(*this,
                      lum::eventNames({events::kUpdateSystemStatus, events::kProjectModified,
@@ -135,15 +136,15 @@ void ProblemWindow::addBar(QBoxLayout& rows)
     bar->setContentsMargins(dpi_scaled(kMargin), dpi_scaled(kMargin), dpi_scaled(kMargin),
                             dpi_scaled(kMargin));
     bar->setSpacing(dpi_scaled(kMargin));
-    auto* const find = new QToolButton(this);
-    find->setObjectName(QStringLiteral("find"));
-    find->setText(tr("&Find Problems"));
-    find->setToolTip(tr("Run everything that is on and list what is wrong (Ctrl+F9)"));
-    find->setIcon(QIcon::fromTheme(QStringLiteral("view-refresh")));
-    find->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    find->setAutoRaise(true);
-    connect(find, &QToolButton::clicked, this, [this] { m_host.commands().execute(kFindCommand); });
-    bar->addWidget(find);
+    m_find->setObjectName(QStringLiteral("find"));
+    m_find->setText(tr("&Find Problems"));
+    m_find->setToolTip(tr("Run everything that is on and list what is wrong (Ctrl+F9)"));
+    m_find->setIcon(QIcon::fromTheme(QStringLiteral("view-refresh")));
+    m_find->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_find->setAutoRaise(true);
+    connect(m_find, &QToolButton::clicked, this,
+            [this] { m_host.commands().execute(kFindCommand); });
+    bar->addWidget(m_find);
     m_actions->addButtons(*bar, this);
     bar->addStretch(1);
     m_search->setObjectName(QStringLiteral("search"));
@@ -219,16 +220,13 @@ void ProblemWindow::find()
 void ProblemWindow::tellFound() const
 {
     std::array<int, 3> open{};
-    int accepted = 0;
-    for (const ProblemKindCount& kind : m_model->kinds()) {
+    for (const ProblemKindCount& kind : m_model->kinds())
         open[static_cast<std::size_t>(kind.kind->severity)] += kind.open;
-        accepted += kind.accepted;
-    }
     const auto [notes, warnings, errors] = open;
     const QString text = tr("Problems: %1 (errors: %2, warnings: %3, notes: %4). Accepted: %5")
                              .arg(lum::groupedNumber(errors + warnings + notes),
                                   lum::groupedNumber(errors), lum::groupedNumber(warnings),
-                                  lum::groupedNumber(notes), lum::groupedNumber(accepted));
+                                  lum::groupedNumber(notes), lum::groupedNumber(acceptedCount()));
     basalt::logInfo(text.toStdString());
     m_host.tell(text);
 }
@@ -315,7 +313,9 @@ void ProblemWindow::clearFilters()
 
 void ProblemWindow::showState()
 {
+    m_find->setEnabled(ProjectState::hasData());
     m_kinds->setVisible(m_hasFound);
+    m_counts->setVisible(m_hasFound);
     m_old->setVisible(isOld());
     m_empty->setVisible(m_model->rowCount() == 0);
     if (m_model->rowCount() == 0)
@@ -339,14 +339,26 @@ QString ProblemWindow::emptyText() const
 {
     if (!ProjectState::hasData())
         return tr("No project is open.");
+    const std::size_t results = manager().surveyPoints().pointCount();
+    const std::size_t designed = manager().designPoints().pointCount();
+    if (results + designed == 0)
+        return tr("There is nothing to look at yet: import a design or results.");
     if (!m_hasFound)
         return tr("What must the crew do tomorrow? <a href=\"find\">Find the problems</a> of the "
                   "design and of all results (Ctrl+F9).");
     if (m_model->unfilteredCount() > 0)
         return tr("No problem passes the filters. <a href=\"#\">Clear all filters</a>");
-    return tr("No open problem was found. Results: %1, design points: %2")
-        .arg(lum::groupedNumber(manager().surveyPoints().pointCount()),
-             lum::groupedNumber(manager().designPoints().pointCount()));
+    return tr("No open problem was found. Accepted: %1. Results: %2, design points: %3")
+        .arg(lum::groupedNumber(acceptedCount()), lum::groupedNumber(results),
+             lum::groupedNumber(designed));
+}
+
+int ProblemWindow::acceptedCount() const
+{
+    int count = 0;
+    for (const ProblemKindCount& kind : m_model->kinds())
+        count += kind.accepted;
+    return count;
 }
 
 /// Why a filter does not count.

@@ -21,6 +21,7 @@ class QLabel;
 class QLineEdit;
 class QModelIndex;
 class QTimer;
+class QToolButton;
 class TableCountLine;
 
 /// The window "Problems List": everything that is wrong with design and results, a row each, and
@@ -62,7 +63,6 @@ private:
     void connectParts();
 
     void forget();
-    void followProject();
     [[nodiscard]] bool isOld() const;
     void followAccepted();
     void showKinds();
@@ -72,6 +72,7 @@ private:
     void showState();
     void showSelected();
     [[nodiscard]] QString emptyText() const;
+    [[nodiscard]] int acceptedCount() const;
     [[nodiscard]] QString faultText() const;
     [[nodiscard]] QString acceptanceText() const;
     void tellFound() const;
@@ -87,6 +88,7 @@ private:
     ProblemActions* m_actions;
     SelectedProblem m_selected;
     ProblemWidths* m_widths = nullptr;
+    QToolButton* m_find;
     QLineEdit* m_search;
     QTimer* m_typing; ///< runs while the user types what he searches
     QLabel* m_old;    ///< says that the list is old

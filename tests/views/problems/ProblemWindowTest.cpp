@@ -19,12 +19,14 @@ private Q_SLOTS:
     void saysWhatToPressAndWhatWasFound()
     {
         ProblemPlace place;
+        auto* const find = place.window.findChild<QToolButton*>("find"_q);
         place.tellProject("");
-        QVERIFY(place.says("No project is open."));
+        QVERIFY(place.says("No project is open.") && !place.says("Problems: 0"));
+        QVERIFY(!find->isEnabled());
         place.step("next");
         QVERIFY(place.host.told.isEmpty());
         place.tellProject("/b");
-        QVERIFY(place.says("Ctrl+F9"));
+        QVERIFY(place.says("Ctrl+F9") && !place.says("Problems: 0") && find->isEnabled());
         const auto labels = place.window.findChildren<QLabel*>();
         Q_EMIT(*std::ranges::find_if(labels, [](const QLabel* label) {
             return label->text().contains("href=\"find\""_q);
@@ -38,11 +40,18 @@ private Q_SLOTS:
         QVERIFY(place.selected().isEmpty()); // the map stays
         QCOMPARE(place.window.focusWidget(), &place.table);
 
-        place.design().clear();
+        for (const auto& [number, line] : place.design()) {
+            for (const DesignPoint& point : line)
+                place.survey(number.c_str(), point.pointNumber.c_str());
+        }
         place.find();
-        QVERIFY(place.says("No open problem was found."));
+        QVERIFY(place.says("No open problem was found. Accepted: 0. Results: 12, design"));
         place.tellProject("/c");
         QVERIFY(place.says("Ctrl+F9")); // the list was another project's
+        place.design().clear();
+        place.results().clear();
+        place.find();
+        QVERIFY(place.says("nothing to look at yet")); // which is not well
     }
 
     void goesFromProblemToProblem()
