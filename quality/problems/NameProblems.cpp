@@ -66,14 +66,22 @@ QString foreignResult(const Problem& problem)
         .arg(nameOf(problem, problem.otherLine, problem.otherPoint), metres(problem.second));
 }
 
-constexpr ProblemKind kWrongName{"wrong_name", QT_TRANSLATE_NOOP("ProblemKinds", "Wrong name"),
-                                 Severity::Error, wrongName};
-constexpr ProblemKind kSwappedNames{"swapped_names",
-                                    QT_TRANSLATE_NOOP("ProblemKinds", "Exchanged names"),
-                                    Severity::Error, swappedNames};
+constexpr ProblemKind kWrongName{.name = "wrong_name",
+                                 .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Wrong name"),
+                                 .severity = Severity::Error,
+                                 .what = wrongName,
+                                 .rank = 1};
+constexpr ProblemKind kSwappedNames{.name = "swapped_names",
+                                    .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Exchanged names"),
+                                    .severity = Severity::Error,
+                                    .what = swappedNames,
+                                    .rank = 1};
 constexpr ProblemKind kForeignResult{
-    "foreign_result", QT_TRANSLATE_NOOP("ProblemKinds", "Foreign result on an empty point"),
-    Severity::Error, foreignResult};
+    .name = "foreign_result",
+    .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Foreign result on an empty point"),
+    .severity = Severity::Error,
+    .what = foreignResult,
+    .rank = 1};
 constexpr std::array kNameKinds{&kWrongName, &kSwappedNames, &kForeignResult};
 
 template <class Point>

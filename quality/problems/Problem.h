@@ -29,6 +29,8 @@ struct ProblemKind
     int decimals = 3;       ///< with which value and limit are shown
     /// The text of a value or limit that is no plain number, such as a solution type; mostly null.
     QString (*valueText)(double value) = nullptr;
+    /// Its place among the kinds of its severity in a list: what others follow from comes first.
+    int rank = 2;
 
     [[nodiscard]] QString captionText() const; ///< translated
 };

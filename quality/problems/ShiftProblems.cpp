@@ -195,15 +195,23 @@ std::vector<statistics::MeasuredPair> pairsOf(const FinderInput& input)
 
 } // namespace
 
-constexpr ProblemKind kBaseShift{"base_shift",
-                                 QT_TRANSLATE_NOOP("ProblemKinds", "Base coordinates wrong"),
-                                 Severity::Error, shiftWhat};
-constexpr ProblemKind kPoleShift{"pole_shift",
-                                 QT_TRANSLATE_NOOP("ProblemKinds", "Pole height wrong"),
-                                 Severity::Error, shiftWhat};
-constexpr ProblemKind kSurveyShift{"survey_shift",
-                                   QT_TRANSLATE_NOOP("ProblemKinds", "Survey off the design"),
-                                   Severity::Error, shiftWhat};
+constexpr ProblemKind kBaseShift{.name = "base_shift",
+                                 .caption =
+                                     QT_TRANSLATE_NOOP("ProblemKinds", "Base coordinates wrong"),
+                                 .severity = Severity::Error,
+                                 .what = shiftWhat,
+                                 .rank = 0};
+constexpr ProblemKind kPoleShift{.name = "pole_shift",
+                                 .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Pole height wrong"),
+                                 .severity = Severity::Error,
+                                 .what = shiftWhat,
+                                 .rank = 0};
+constexpr ProblemKind kSurveyShift{.name = "survey_shift",
+                                   .caption =
+                                       QT_TRANSLATE_NOOP("ProblemKinds", "Survey off the design"),
+                                   .severity = Severity::Error,
+                                   .what = shiftWhat,
+                                   .rank = 0};
 
 constexpr ProblemKind kBaseDifference{
     "base_difference", QT_TRANSLATE_NOOP("ProblemKinds", "Differences of a base and a day"),

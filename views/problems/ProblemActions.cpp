@@ -152,8 +152,8 @@ void ProblemActions::follow(bool isOld)
     m_openAgain->setEnabled(hasChosen && !isOld);
     m_carryOut->setEnabled(
         !isOld && has([](const Problem& problem) { return !proposalOf(problem).empty(); }));
-    m_measureAgain->setEnabled(
-        !isOld && has([](const Problem& problem) { return !problem.point.empty(); }));
+    m_measureAgain->setEnabled(!isOld &&
+                               has([](const Problem& problem) { return !problem.point.empty(); }));
     m_listForCrew->setVisible(!isAccepted); // what may be so sends nobody out
     m_listForCrew->setEnabled(m_model.rowCount() > 0 && !isOld);
     m_save->setEnabled(m_model.rowCount() > 0);

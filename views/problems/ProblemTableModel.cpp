@@ -120,8 +120,9 @@ void ProblemTableModel::count()
             m_kinds.push_back({problem.kind});
         ++(problem.isAccepted ? m_kinds[last].accepted : m_kinds[last].open);
     }
-    std::ranges::stable_sort(m_kinds, std::ranges::greater(),
-                             [](const ProblemKindCount& kind) { return kind.kind->severity; });
+    std::ranges::stable_sort(m_kinds, {}, [](const ProblemKindCount& kind) {
+        return std::pair(-static_cast<int>(kind.kind->severity), kind.kind->rank);
+    });
 }
 
 void ProblemTableModel::putInOrder()

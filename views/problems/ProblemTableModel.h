@@ -26,9 +26,9 @@ struct ProblemKindCount
 /// The problems of a project as a table: the open or the accepted ones of some kinds, which pass a
 /// search and the filters of the columns (`ProblemField`).
 ///
-/// Their own order is that of their severity, the worst first, then of their kinds, then that in
-/// which they were found. A row is a reference to its problem; a cell is formatted when it is asked
-/// for.
+/// Their own order is that of their severity, the worst first, then of their kinds by rank, then
+/// that in which they were found. A row is a reference to its problem; a cell is formatted when it
+/// is asked for.
 class ProblemTableModel final : public QAbstractTableModel
 {
     Q_OBJECT
