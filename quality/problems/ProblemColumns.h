@@ -13,6 +13,8 @@ struct ProblemColumn
     QString (*text)(const Problem& problem, basalt::LocalTimes& zone); ///< as it is shown
     /// The same for scripts: names in place of translations, numbers without units.
     QString (*forScripts)(const Problem& problem, basalt::LocalTimes& zone);
+    /// As it is shown, in a form that a spreadsheet reckons with; null where that is `text`.
+    QString (*forSpreadsheets)(const Problem& problem, basalt::LocalTimes& zone) = nullptr;
 
     [[nodiscard]] QString captionText() const; ///< translated
 };

@@ -1,6 +1,7 @@
 #include "views/problems/ProblemActions.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "exchange/ShownTimes.h"
 #include "exchange/ui/FileExports.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
@@ -16,7 +17,7 @@
 #include "protocol/Events.h"
 #include "quality/problems/ForCrew.h"
 #include "quality/problems/NameProblems.h"
-#include "quality/ResultCsv.h"
+#include "quality/problems/ProblemCsv.h"
 #include "views/problems/DlgAcceptProblems.h"
 #include "views/problems/ProblemTableModel.h"
 
@@ -88,7 +89,8 @@ ProblemActions::ProblemActions(IDesktopHost& host, ProblemTableModel& model,
                            "KML: what is not surveyed, and what must be measured again"),
                         &ProblemActions::listForCrew)),
       m_save(add("save", tr("&Save as CSV..."), "document-export",
-                 tr("Write the rows that are shown, as they are shown"), &ProblemActions::save))
+                 tr("Write the rows that are shown; numbers stand without their units"),
+                 &ProblemActions::save))
 {
 }
 
@@ -299,7 +301,11 @@ void ProblemActions::save()
     Outcome outcome = checkNotOwn(ProjectState::place(), file);
     if (outcome.isDone()) {
         const Waiting waiting;
-        outcome = writeResultCsv(file, m_model, ResultCsv::AsShown);
+        Problems shown;
+        shown.reserve(static_cast<std::size_t>(m_model.rowCount()));
+        for (int row = 0; row < m_model.rowCount(); ++row)
+            shown.push_back(&m_model.problem(row));
+        outcome = writeProblemCsv(file, shown, ResultCsv::AsShown, shownTimes());
     }
     if (outcome.isDone())
         return FileExports::offerToOpen(m_host, file,
