@@ -28,6 +28,9 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <set>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -215,7 +218,11 @@ void ProblemActions::accept()
 
 void ProblemActions::openAgain()
 {
-    const std::size_t count = manager().endAcceptances(acceptancesOf(selected()));
+    std::size_t count = 0;
+    {
+        const Waiting waiting;
+        count = manager().endAcceptances(acceptancesOf(selected()));
+    }
     Q_EMIT acceptedChanged();
     m_host.tell(tr("Problems open again: %1").arg(lum::groupedNumber(count)));
 }
@@ -225,9 +232,10 @@ void ProblemActions::openAgain()
 void ProblemActions::carryOut()
 {
     std::vector<Renaming> renamings;
+    std::set<std::pair<std::string, std::string>> renamed; // two rows may propose the same
     for (const Problem* const problem : selected()) {
         for (Renaming& renaming : proposalOf(*problem)) {
-            if (std::ranges::find(renamings, renaming.from, &Renaming::from) == renamings.end())
+            if (renamed.emplace(renaming.from.line, renaming.from.point).second)
                 renamings.push_back(std::move(renaming));
         }
     }
@@ -240,7 +248,10 @@ void ProblemActions::carryOut()
             : tr("Results with new names: %1. Ctrl+Z takes it back.")
                   .arg(lum::groupedNumber(renamings.size()));
     Outcome outcome = Outcome::done();
-    manager().renameResults(renamings, &outcome);
+    {
+        const Waiting waiting;
+        manager().renameResults(renamings, &outcome);
+    }
     if (!outcome.isDone())
         return LumMessageBox::error(m_host.dialogParent(), tr("Carry Out Proposal"),
                                     outcome.text());
