@@ -9,6 +9,7 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
+#include "model/PointNames.h"
 #include "model/PointNumber.h"
 #include "project/DataProcessDataManager.h"
 #include "project/OwnFile.h"
@@ -18,6 +19,8 @@
 #include "quality/problems/ForCrew.h"
 #include "quality/problems/NameProblems.h"
 #include "quality/problems/ProblemCsv.h"
+#include "quality/problems/ProblemFinders.h"
+#include "quality/ui/DlgRepeatChoice.h"
 #include "views/problems/DlgAcceptProblems.h"
 #include "views/problems/ProblemTableModel.h"
 
@@ -28,6 +31,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <array>
 #include <set>
 #include <string>
 #include <utility>
@@ -60,6 +64,14 @@ QString shownName(const PointName& name)
            lum::toQString(writtenPointNumber(name.point));
 }
 
+/// Whether two measurements of one point differ, or there are simply two.
+bool isOfRepeats(const Problem& problem)
+{
+    static const std::array kKinds{findProblemKind("repeat"), findProblemKind("repeat_off"),
+                                   findProblemKind("resurvey_off")};
+    return std::ranges::find(kKinds, problem.kind) != kKinds.end();
+}
+
 /// The user waits while it lives.
 class Waiting
 {
@@ -84,6 +96,9 @@ ProblemActions::ProblemActions(IDesktopHost& host, ProblemTableModel& model,
       m_carryOut(add("carryOut", tr("Ca&rry Out Proposal"), "edit-rename",
                      tr("Give the selected results the names that are proposed; it can be undone"),
                      &ProblemActions::carryOut)),
+      m_resolveRepeats(add("resolveRepeats", tr("Resol&ve Repeats..."), nullptr,
+                           tr("Choose which measurement of the selected points stays"),
+                           &ProblemActions::resolveRepeats)),
       m_measureAgain(add("measureAgain", tr("Measure Agai&n..."), "flag",
                          tr("Write the design points of the selected problems for the crew"),
                          &ProblemActions::measureAgain)),
@@ -130,7 +145,7 @@ void ProblemActions::addButtons(QBoxLayout& bar, QWidget* parent) const
 
 void ProblemActions::addEntries(QMenu& menu) const
 {
-    menu.addActions({m_accept, m_openAgain, m_carryOut, m_measureAgain});
+    menu.addActions({m_accept, m_openAgain, m_carryOut, m_resolveRepeats, m_measureAgain});
     menu.addSeparator();
     QAction* const copy =
         menu.addAction(tr("&Copy"), &m_table, [table = &m_table] { table->copySelection(); });
@@ -157,6 +172,7 @@ void ProblemActions::follow(bool isOld)
     m_openAgain->setEnabled(hasChosen && !isOld);
     m_carryOut->setEnabled(
         !isOld && has([](const Problem& problem) { return !proposalOf(problem).empty(); }));
+    m_resolveRepeats->setEnabled(has(isOfRepeats));
     m_measureAgain->setEnabled(!isOld &&
                                has([](const Problem& problem) { return !problem.point.empty(); }));
     m_listForCrew->setVisible(!isAccepted); // what may be so sends nobody out
@@ -258,6 +274,17 @@ void ProblemActions::carryOut()
     m_host.eventManager().publish(events::kRefreshSurveyLayer, nullptr, 0);
     Q_EMIT pointsChanged();
     m_host.tell(text);
+}
+
+void ProblemActions::resolveRepeats()
+{
+    std::vector<PointName> names;
+    for (const Problem* const problem : selected()) {
+        if (isOfRepeats(*problem))
+            names.push_back(
+                {std::string(problem->line.view()), std::string(problem->point.view())});
+    }
+    DlgRepeatChoice::open(m_host).selectPointsOf(PointNames(names));
 }
 
 void ProblemActions::measureAgain()
