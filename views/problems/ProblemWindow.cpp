@@ -128,6 +128,19 @@ void ProblemWindow::makeLayout()
     m_empty->setAlignment(Qt::AlignCenter);
     auto* const over = new QVBoxLayout(m_table->viewport());
     over->addWidget(m_empty);
+    setKeyOrder();
+}
+
+/// The tab key goes as one reads.
+void ProblemWindow::setKeyOrder()
+{
+    std::vector<QWidget*> order;
+    for (QToolButton* const button :
+         findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly))
+        order.push_back(button);
+    order.insert(order.end(), {m_search, m_kinds, m_table});
+    for (std::size_t i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 void ProblemWindow::addBar(QBoxLayout& rows)

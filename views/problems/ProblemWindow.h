@@ -60,6 +60,7 @@ protected:
 private:
     void makeLayout();
     void addBar(QBoxLayout& rows);
+    void setKeyOrder();
     void connectParts();
 
     void forget();

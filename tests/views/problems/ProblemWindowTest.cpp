@@ -39,6 +39,16 @@ private Q_SLOTS:
         QVERIFY(place.says("Problems: 12") && !place.says("Ctrl+F9"));
         QVERIFY(place.selected().isEmpty()); // the map stays
         QCOMPARE(place.window.focusWidget(), &place.table);
+        place.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&place.window));
+        find->setFocus();
+        QStringList reached;
+        while (reached.size() < 4 && place.window.focusWidget() != &place.table) {
+            QTest::keyClick(place.window.focusWidget(), Qt::Key_Tab);
+            reached << place.window.focusWidget()->objectName();
+        }
+        QCOMPARE(place.window.focusWidget(), &place.table); // past what is disabled
+        QCOMPARE(reached[1], "search"_q);
 
         for (const auto& [number, line] : place.design()) {
             for (const DesignPoint& point : line)
