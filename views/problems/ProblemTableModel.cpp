@@ -158,6 +158,8 @@ int ProblemTableModel::rowOf(bool isDesign, std::string_view line, std::string_v
 
 void ProblemTableModel::setChoice(Choice choice)
 {
+    if (choice == m_choice)
+        return;
     m_choice = std::move(choice);
     relayout();
 }
@@ -217,6 +219,12 @@ void ProblemTableModel::sortBy(int column, Qt::SortOrder order)
     relayout();
 }
 
+void ProblemTableModel::refresh()
+{
+    if (m_zoneName != shownZone())
+        relayout();
+}
+
 void ProblemTableModel::relayout()
 {
     using Hint = QAbstractItemModel::LayoutChangeHint;
@@ -246,6 +254,7 @@ void ProblemTableModel::keep(Places& places, Judge judge) const
 void ProblemTableModel::arrange()
 {
     m_zone = shownTimes();
+    m_zoneName = shownZone();
     Places places(m_rows.size());
     std::iota(places.begin(), places.end(), 0U);
     keep(places, [this](const Problem& problem) { return isChosen(problem); });

@@ -39,6 +39,8 @@ public:
     {
         bool isAccepted = false;               ///< the accepted ones, else the open ones
         std::vector<const ProblemKind*> kinds; ///< empty for all
+
+        friend bool operator==(const Choice&, const Choice&) = default;
     };
 
     explicit ProblemTableModel(QObject* parent = nullptr);
@@ -84,7 +86,7 @@ public:
     /// \param column -1 for the own order
     void sortBy(int column, Qt::SortOrder order);
     /// Shows moments in the time zone of the settings, which may be another now.
-    void refresh() { relayout(); }
+    void refresh();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
     {
@@ -129,5 +131,6 @@ private:
     ShownRows m_shown;
     std::array<QIcon, 3> m_icons; ///< of each severity
     mutable basalt::LocalTimes m_zone;
+    QString m_zoneName;
     mutable std::string m_text;
 };

@@ -156,6 +156,14 @@ private Q_SLOTS:
         const QModelIndex far = table.model.index(1, kValue);
         QCOMPARE(far.data().toString(), "0.300 m"_q);
         QCOMPARE(table.filtered(kValue, table.model.filterFor(far).toUtf8()), "10015002"_q);
+
+        const QSignalSpy arranged(&table.model, &QAbstractItemModel::layoutChanged);
+        table.model.setChoice({});
+        table.model.refresh();
+        QCOMPARE(arranged.size(), 0); // as before: a million rows stay as they are
+        get_system_ini_parameter().dictionary().set(settings::kTimeZone, "0");
+        table.model.refresh();
+        QCOMPARE(table.model.index(0, kDay).data().toString(), "2023/11/14"_q);
     }
 
     void aSelectedRowFollowsItsProblem()
