@@ -103,6 +103,7 @@ using namespace desktop::registration;
     command<DrawBoundaryCommand>        ("DrawBoundaryCommand",          "绘制边界"),
     command<DrawReceiverCommand>        ("DrawReceiverCommand",          "绘制接收线"),
     command<DrawExcitationCommand>      ("DrawExcitationCommand",        "绘制激发线"),
+    command<BaseTiesCommand>            ("BaseTiesCommand",              "基准站连线"),
     command<ResultNamesCommand>         ("ResultNamesCommand",           "测点名称"),
     command<SetTifPathCommand>          ("SetTifPathCommand",            "TIF图叠加"),
     command<PPKMoveCommand>             ("PPKMoveCommand",               "地图移动"),

@@ -1,5 +1,6 @@
 #include "bench/Limits.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "project/DataProcessDataManager.h"
 #include "protocol/StatusKeys.h"
@@ -64,6 +65,15 @@ void BM_SurveyTable(benchmark::State& state)
                 [&] { window.selectPoint(line, line + QStringLiteral("5100")); });
         });
         bench::report(state, "a result selected by name in its window", select * 1000, 1, "ms");
+        const auto arrange = [&] {
+            return bench::medianOf(
+                [&] { return bench::secondsOf([&] { table.model()->sort(-1); }); });
+        };
+        const double plain = arrange();
+        get_system_ini_parameter().dictionary().set(settings::kResultColors, "surveyor");
+        host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
+        bench::report(state, "200,000 coloured rows arranged, of plain ones", arrange() / plain,
+                      1.5, "");
         table.selectAll();
         const double copy =
             bench::medianOf([&] { return bench::secondsOf([&] { table.copySelection(); }); }, 3);

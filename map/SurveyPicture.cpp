@@ -304,6 +304,14 @@ private:
 
 } // namespace
 
+SurveyPictureOptions usualSurveyOptions(bool hasColors)
+{
+    SurveyPictureOptions options;
+    options.showsBaseTies = !hasColors;
+    options.names = hasColors ? Names::WithRoom : Names::All;
+    return options;
+}
+
 void paintSurvey(const SurveyMarks& marks, const PictureFrame& frame, const QString& baseWord,
                  QPainter& painter, const SurveyPictureOptions& options)
 {

@@ -20,6 +20,10 @@ struct SurveyPictureOptions
     Names names = Names::All;
 };
 
+/// What the picture has without a choice. Coloured results have names where there is room and no
+/// lines to their base stations: thousands of grey ones would cover the ground.
+[[nodiscard]] SurveyPictureOptions usualSurveyOptions(bool hasColors);
+
 /// Paints the survey: each result with a line to its base station and a dashed line to its design
 /// position.
 ///

@@ -10,8 +10,20 @@
 #include <utility>
 
 namespace {
+
 constexpr std::size_t kNamesAtOnce = 1024;
+
+/// Writes a white edge around a name.
+void writeEdge(QPainter& painter, NameWriter& writer, const WaitingNames::Name& name)
+{
+    painter.setPen(Qt::white);
+    for (const double x : {-1.0, 0.0, 1.0}) {
+        for (const double y : {-1.0, 0.0, 1.0})
+            writer.write(painter, name.baseline + QPointF(x, y), name.text);
+    }
 }
+
+} // namespace
 
 void WaitingNames::write(QPainter& painter, NameWriter& writer, const QRectF& screen,
                          const QRectF& around, const std::function<bool()>& isStopped)
@@ -32,6 +44,10 @@ void WaitingNames::write(QPainter& painter, NameWriter& writer, const QRectF& sc
         const QRectF area = writer.area(name.baseline, name.text);
         if ((name.rank != 0 && !screen.contains(area)) || !room.take(area))
             continue;
+        if (name.rank == 0) {
+            writeEdge(painter, writer, name);
+            pen = nullptr;
+        }
         if (name.pen != pen)
             painter.setPen(*(pen = name.pen));
         writer.write(painter, name.baseline, name.text);

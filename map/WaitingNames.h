@@ -22,7 +22,8 @@ public:
         QPointF baseline; ///< where it begins, screen pixels
         std::string_view text;
         const QPen* pen = nullptr;
-        std::uint32_t rank = 0; ///< 0 is the most important, may cover marks and be cut
+        std::uint32_t rank = 0; ///< 0 is the most important, may cover marks and be cut;
+                                ///< it has a white edge, to be readable on them
     };
 
     /// Text and pen must stay until `write`.

@@ -26,9 +26,10 @@ inline constexpr const char* kExportColumns = "survey_export_columns"; ///< keys
 inline constexpr const char* kTableColumns =
     "survey_table_columns"; ///< keys in order; "" is theirs
 inline constexpr const char* kHiddenColumns = "survey_table_hidden"; ///< keys; ""
-inline constexpr const char* kResultColors = "result_colors";  ///< see Colorings.h; "" is none
-inline constexpr const char* kShowBaseTies = "show_base_ties"; ///< "1"
-inline constexpr const char* kShowOffsets = "show_offsets";    ///< "1"
+inline constexpr const char* kResultColors = "result_colors"; ///< see Colorings.h; "" is none
+/// "1" or "0"; "" is "1" without colours, otherwise "0"
+inline constexpr const char* kShowBaseTies = "show_base_ties";
+inline constexpr const char* kShowOffsets = "show_offsets"; ///< "1"
 /// "all", "room" (none covers another) or "none"; "" is "all" without colours, otherwise "room"
 inline constexpr const char* kResultNames = "result_names";
 /// Of the kinds and of each column, pixels at 100 %; 0 for those that the user has not chosen; ""

@@ -1354,6 +1354,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>基站</translation>
     </message>
     <message>
+        <source>The map shows results in the survey view (F7).</source>
+        <translation>成果显示在测量视图（F7）的地图上。</translation>
+    </message>
+    <message>
         <source>Draw Design Data</source>
         <translation>正在绘制设计数据</translation>
     </message>

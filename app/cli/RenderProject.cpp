@@ -107,9 +107,7 @@ void paintSurveyOf(DataProcessDataManager& manager, RenderGround& ground, const 
     const ResultColors colors = colorsOf(coloring, manager.surveyPoints(), manager.qualityLimits());
     const SurveyMarks marks(manager.surveyPoints(), toMap, {colors.colors(), colors.classOf()});
     const QString base = QCoreApplication::translate("DataProcessLayerImp", "Base");
-    SurveyPictureOptions options;
-    if (!colors.isNone())
-        options.names = SurveyPictureOptions::Names::WithRoom;
+    const SurveyPictureOptions options = usualSurveyOptions(!colors.isNone());
     paintMap(ground, image, extentOf(marks, marks.gridBounds(), ground),
              [&](const PictureFrame& frame, QPainter& painter) {
                  paintSurvey(marks, frame, base, painter, options);

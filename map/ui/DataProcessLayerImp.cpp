@@ -25,6 +25,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -78,10 +79,15 @@ const SurveyPoints& surveyPoints()
 DataProcessLayerImp::DataProcessLayerImp(const char* config, IDesktopHost* host)
     : m_properties(desktop::componentParameters(config)), m_host(*host),
       m_helper(*get_instance_ICoordTransformHelper(host)), m_look(surveyLook()),
-      m_subscription(*this, subscribedEvents(), host->eventManager()),
+      m_choice(surveyChoice()), m_subscription(*this, subscribedEvents(), host->eventManager()),
       m_verdicts(*this, lum::eventNames({events::kRefreshSurveyTable, events::kResurveysChecked}),
                  host->eventManager())
 {
+    m_verdictsTimer.setSingleShot(true);
+    QObject::connect(&m_verdictsTimer, &QTimer::timeout, &m_verdictsTimer, [this] {
+        m_look.clear();
+        followLook();
+    });
 }
 
 DataProcessLayerImp::~DataProcessLayerImp() = default;
@@ -108,7 +114,8 @@ void DataProcessLayerImp::handleEvent(const char* eventName, const char* /*paylo
         return;
     }
     if (is(events::kRefreshSurveyTable) || is(events::kResurveysChecked)) {
-        followVerdicts();
+        if (!m_colors.isNone())
+            m_verdictsTimer.start(0); // one run of the checks tells of several at once
         return;
     }
     if (std::any_of(std::begin(kRebuildEvents), std::end(kRebuildEvents), is))
@@ -136,6 +143,7 @@ void DataProcessLayerImp::rebuildDesign()
 
 void DataProcessLayerImp::rebuildSurvey()
 {
+    m_verdictsTimer.stop();
     const auto place = [this](double north, double east) { return toMap(north, east); };
     m_colors = DataProcessDataManager::hasInstance()
                    ? colorsOf(chosenColoring(), surveyPoints(),
@@ -150,23 +158,21 @@ void DataProcessLayerImp::rebuildSurvey()
     m_survey = std::move(marks);
 }
 
-/// Draws the survey anew when the user wants another look of it, or other limits judge it.
+/// Draws the survey anew when the user wants another look of it, or other limits judge it. Says
+/// where to see it when another view is on the map.
 void DataProcessLayerImp::followLook()
 {
-    if (viewOf(get_system_status_dictionary()) != kSurveyView || surveyLook() == m_look)
+    std::string choice = surveyChoice();
+    const bool isChosen = choice != m_choice;
+    m_choice = std::move(choice);
+    const bool isInView = viewOf(get_system_status_dictionary()) == kSurveyView;
+    if (isChosen && !isInView && m_host.hasDocument())
+        m_host.tell(LayerTexts::seenInSurveyView());
+    if (!isInView || surveyLook() == m_look)
         return;
     rebuildSurvey();
     if (auto* const map = m_host.windows().findAs<IMapWindow>(QStringLiteral("DataMap")))
         map->redraw();
-}
-
-/// Draws the survey anew when its colours may have changed.
-void DataProcessLayerImp::followVerdicts()
-{
-    if (m_colors.isNone())
-        return;
-    m_look.clear();
-    followLook();
 }
 
 void DataProcessLayerImp::handOverExtent()

@@ -10,6 +10,8 @@
 #include "map/ui/IDataLayer.h"
 #include "quality/colors/ResultColors.h"
 
+#include <QTimer>
+
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -73,7 +75,6 @@ private:
     void rebuildDesign();
     void rebuildSurvey();
     void followLook();
-    void followVerdicts();
     void handOverExtent();
     void clearOldHighlights();
 
@@ -96,10 +97,12 @@ private:
     QRectF m_extent;
     std::string m_project; ///< the folder of the project whose points the overlays highlight
     std::string m_look;    ///< of the cached survey, see `surveyLook`
+    std::string m_choice;  ///< the last one, see `surveyChoice`
     ResultColors m_colors; ///< of the cached survey
     lum::Legend m_legend;
     EventSubscription m_subscription;
     EventSubscription m_verdicts;
+    QTimer m_verdictsTimer; ///< runs while the colours are older than the verdicts
 
     // A mutex guards the pointer behind it, for as long as it takes to copy or replace it. Nobody
     // changes a cache once it is here. Only the GUI thread replaces it, and reads it without a

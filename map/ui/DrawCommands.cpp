@@ -11,6 +11,23 @@
 
 #include <QCoreApplication>
 
+namespace {
+
+/// Changes a setting for this session and the next ones.
+void keepSetting(const char* key, std::string_view value)
+{
+    SystemParameter& settings = get_system_ini_parameter();
+    settings.dictionary().set(key, value);
+    settings.save(); // logs a failure; the choice is then kept for this session only
+}
+
+SurveyPictureOptions chosenOptions()
+{
+    return chosenSurveyOptions(chosenColoring() != nullptr);
+}
+
+} // namespace
+
 LineToggleCommand::LineToggleCommand(const char* config, IDesktopHost* host, const char* statusKey)
     : MapCommandBase(config, host), m_statusKey(statusKey)
 {
@@ -72,11 +89,20 @@ bool DrawBoundaryCommand::isChecked() const
     return get_system_status_dictionary().integer(status::kDrawBoundaryRect) == 1;
 }
 
+void BaseTiesCommand::execute()
+{
+    keepSetting(settings::kShowBaseTies, isChecked() ? "0" : "1");
+    announceStatus();
+}
+
+bool BaseTiesCommand::isChecked() const
+{
+    return chosenOptions().showsBaseTies;
+}
+
 void ResultNamesCommand::execute()
 {
-    SystemParameter& chosen = get_system_ini_parameter();
-    chosen.dictionary().set(settings::kResultNames, parameters().text("names"));
-    chosen.save(); // logs a failure; the choice is then kept for this session only
+    keepSetting(settings::kResultNames, parameters().text("names"));
     announceStatus();
 }
 
@@ -87,5 +113,5 @@ bool ResultNamesCommand::isChecked() const
     const Names own = names == "none"   ? Names::None
                       : names == "room" ? Names::WithRoom
                                         : Names::All;
-    return chosenSurveyOptions(chosenColoring() != nullptr).names == own;
+    return chosenOptions().names == own;
 }

@@ -44,6 +44,17 @@ public:
     [[nodiscard]] bool isChecked() const override;
 };
 
+/// Shows or hides the lines from results to their base stations. The choice is kept among the
+/// settings.
+class BaseTiesCommand final : public MapCommandBase
+{
+public:
+    using MapCommandBase::MapCommandBase;
+    void execute() override;
+    [[nodiscard]] bool isCheckable() const override { return true; }
+    [[nodiscard]] bool isChecked() const override;
+};
+
 /// Chooses which names the survey picture has: the entry's attribute "names" is "all", "room" or
 /// "none". The choice is kept among the settings.
 class ResultNamesCommand final : public MapCommandBase

@@ -36,6 +36,12 @@ QString basePick()
     return QCoreApplication::translate("DataProcessLayerImp", "base");
 }
 
+QString seenInSurveyView()
+{
+    return QCoreApplication::translate("DataProcessLayerImp",
+                                       "The map shows results in the survey view (F7).");
+}
+
 QString drawDesign()
 {
     return QCoreApplication::translate("DataProcessLayerImp", "Draw Design Data");

@@ -18,6 +18,8 @@ namespace LayerTexts {
 /// The captions of the progress bar while a picture is drawn.
 [[nodiscard]] QString drawDesign();
 [[nodiscard]] QString drawSurvey();
+/// What is said to a choice that another view shows.
+[[nodiscard]] QString seenInSurveyView();
 
 // What the resting cursor tells: what lies there, and below it the position on the grid, with the
 // numbers that lists and files have, and their unit when it is not the metre.

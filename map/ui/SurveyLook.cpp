@@ -9,24 +9,34 @@ SurveyPictureOptions chosenSurveyOptions(bool hasColors)
 {
     using Names = SurveyPictureOptions::Names;
     const IDictionary& chosen = get_system_ini_parameter().dictionary();
+    const std::string_view ties = chosen.text(settings::kShowBaseTies);
     const std::string_view names = chosen.text(settings::kResultNames);
-    SurveyPictureOptions options;
-    options.showsBaseTies = chosen.integer(settings::kShowBaseTies, 1) != 0;
+    SurveyPictureOptions options = usualSurveyOptions(hasColors);
+    if (!ties.empty())
+        options.showsBaseTies = ties != "0";
     options.showsOffsets = chosen.integer(settings::kShowOffsets, 1) != 0;
     if (names == "none")
         options.names = Names::None;
-    else if (names == "room" || (names.empty() && hasColors))
+    else if (names == "room")
         options.names = Names::WithRoom;
+    else if (names == "all")
+        options.names = Names::All;
     return options;
+}
+
+std::string surveyChoice()
+{
+    const IDictionary& chosen = get_system_ini_parameter().dictionary();
+    std::string choice;
+    for (const char* key : {settings::kResultColors, settings::kShowBaseTies,
+                            settings::kShowOffsets, settings::kResultNames})
+        choice.append(chosen.text(key)).append(";");
+    return choice;
 }
 
 std::string surveyLook()
 {
-    const IDictionary& chosen = get_system_ini_parameter().dictionary();
-    std::string look;
-    for (const char* key :
-         {settings::kShowBaseTies, settings::kShowOffsets, settings::kResultNames})
-        look.append(chosen.text(key)).append(";");
+    std::string look = surveyChoice();
     if (DataProcessDataManager::hasInstance())
         look += coloringState(DataProcessDataManager::instance().qualityParameters());
     return look;

@@ -14,8 +14,10 @@ const Coloring* chosenColoring()
 std::string coloringState(const IDictionary& qualityParameters)
 {
     const Coloring* const coloring = chosenColoring();
-    return coloring == nullptr ? std::string()
-                               : coloring->name + (' ' + dictionary_to_csa(qualityParameters));
+    if (coloring == nullptr)
+        return {};
+    return coloring->name + (' ' + shownZone().toStdString() + ' ') +
+           dictionary_to_csa(qualityParameters);
 }
 
 ResultColors colorsOf(const Coloring* coloring, const SurveyPoints& survey,

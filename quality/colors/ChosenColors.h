@@ -12,8 +12,8 @@ struct QualityLimits;
 /// The way to colour results that the user has chosen; null for none.
 [[nodiscard]] const Coloring* chosenColoring();
 
-/// All that the colours depend on besides the points, as a text: the user's choice, and the limits
-/// ("qc_param.ini") when there is one.
+/// All that the colours depend on besides the points, as a text: the user's choice, and when there
+/// is one, the shown time zone and the limits ("qc_param.ini").
 [[nodiscard]] std::string coloringState(const IDictionary& qualityParameters);
 
 /// The colours of a survey's results, in days of the shown time zone.

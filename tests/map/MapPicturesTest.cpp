@@ -300,6 +300,12 @@ private Q_SLOTS:
             for (int x = mark.left(); x <= mark.right(); ++x)
                 QCOMPARE(crowded.pixelColor(x, y), QColor(Qt::white));
         }
+        picture.fill(Qt::black);
+        WaitingNames onDark;
+        onDark.add({{100, 100}, "808", &black, 0});
+        onDark.write(painter, writer, QRectF(0, 0, kSide, kSide), QRectF(0, 0, kSide, kSide),
+                     [] { return false; });
+        QVERIFY(pixelsOf(picture, Qt::white) > one);
         for (const double x : {-15.0, 251.0}) { // names that are cut
             QCOMPARE(paintedPixels(write({{{x, 50}, "808", &black, 1}}, {})), 0);
             QVERIFY(paintedPixels(write({{{x, 50}, "808", &black, 0}}, {})) > 0);

@@ -22,7 +22,8 @@
 namespace {
 
 constexpr const char* kEvents = "ON_DESIGN_LINE_SWITCHED,REFRESH_DESIGN_TABLE,"
-                                "ON_CLEAR_DESIGN_TABLE,ON_DESIGN_TABLE_SELECT_POINT";
+                                "ON_CLEAR_DESIGN_TABLE,ON_DESIGN_TABLE_SELECT_POINT,"
+                                "REFRESH_SURVEY_TABLE,ON_RESURVEYS_CHECKED";
 
 DesignPoints& designPoints()
 {
@@ -62,6 +63,8 @@ void DesignLineTable::handleEvent(const char* eventName, const char* payload, in
         showLine(line);
     else if (is(events::kRefreshDesignTable))
         refresh();
+    else if (is(events::kRefreshSurveyTable) || is(events::kResurveysChecked))
+        followResults();
     else if (is(events::kClearDesignTable))
         showNothing();
     else if (is(events::kDesignTableSelectPoint) && line == model().line())

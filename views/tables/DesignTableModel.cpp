@@ -80,12 +80,12 @@ protected:
                    ? &DataProcessDataManager::instance().designPoints()
                    : nullptr;
     }
-    void renewTexts() override
+    void renewTexts(Renewal renewal) override
     {
         m_surveyed = translated(kSurveyedText).toStdString();
         m_notSurveyed = translated(kNotSurveyedText).toStdString();
         m_lineStart = nullptr;
-        m_marks.renew();
+        m_marks.renew(renewal == Renewal::Values);
     }
     [[nodiscard]] std::string_view text(const DesignPoint& point, int column) const override
     {

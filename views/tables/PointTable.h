@@ -73,7 +73,7 @@ public:
     void showLine(const QString& lineNumber) override { show(Choice::Line, lineNumber); }
     void showAllLines() override { show(Choice::AllLines, {}); }
     void showNothing() override { show(Choice::Nothing, {}); }
-    void refresh() override { relayout(); }
+    void refresh() override { relayout(Renewal::Values); }
     [[nodiscard]] bool showsAllLines() const override { return m_choice == Choice::AllLines; }
     [[nodiscard]] QString line() const override { return m_line; }
 
@@ -130,8 +130,13 @@ public:
 protected:
     /// Null while there is no manager.
     [[nodiscard]] virtual const Points* points() const = 0;
-    /// The points or the settings that texts depend on may be others now.
-    virtual void renewTexts() = 0;
+    /// What may be others now.
+    enum class Renewal
+    {
+        Points, ///< which points there are, and the settings that texts depend on
+        Values  ///< and values of points
+    };
+    virtual void renewTexts(Renewal renewal) = 0;
     /// The text of a cell, valid until the next call.
     [[nodiscard]] virtual std::string_view text(const Point& point, int column) const = 0;
     /// Colours, mark and tool tip of a cell.
@@ -177,9 +182,9 @@ private:
     }
 
     void show(Choice choice, const QString& lineNumber);
-    void relayout();
+    void relayout(Renewal renewal = Renewal::Points);
     void readPoints();
-    void arrange();
+    void arrange(Renewal renewal = Renewal::Points);
     void narrow(std::vector<std::uint32_t>& places, int column) const;
     void sort(std::vector<std::uint32_t>& places) const;
 
@@ -268,7 +273,7 @@ void PointTable<Point>::show(Choice choice, const QString& lineNumber)
 
 /// Reads the points when they have changed, and gives filter and order their due.
 template <class Point>
-void PointTable<Point>::relayout()
+void PointTable<Point>::relayout(Renewal renewal)
 {
     using Hint = QAbstractItemModel::LayoutChangeHint;
     Q_EMIT layoutAboutToBeChanged({}, Hint::VerticalSortHint);
@@ -291,7 +296,7 @@ void PointTable<Point>::relayout()
             return at == found.end() ? kGone : at->second;
         });
     }
-    arrange();
+    arrange(renewal);
 
     QModelIndexList after;
     after.reserve(before.size());
@@ -317,9 +322,9 @@ void PointTable<Point>::readPoints()
 }
 
 template <class Point>
-void PointTable<Point>::arrange()
+void PointTable<Point>::arrange(Renewal renewal)
 {
-    renewTexts();
+    renewTexts(renewal);
     std::vector<std::uint32_t> places(m_rows.size());
     std::iota(places.begin(), places.end(), 0U);
     for (int column = 0; column < columnCount(); ++column) {

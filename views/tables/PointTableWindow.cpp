@@ -220,6 +220,12 @@ void PointTableWindow::followProject()
     showState();
 }
 
+void PointTableWindow::followResults()
+{
+    if (!m_colors.empty())
+        refresh();
+}
+
 /// Shows the marks of the results in the colours that the user has chosen now.
 void PointTableWindow::followColors()
 {

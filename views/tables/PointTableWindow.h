@@ -52,6 +52,8 @@ protected:
     void showAllLines();
     void showNothing();
     void refresh();
+    /// To be called when values of results have changed.
+    void followResults();
     /// To be called when a project may have been opened or closed.
     void followProject();
 

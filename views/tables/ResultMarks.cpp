@@ -9,7 +9,11 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include <utility>
+
 namespace {
+
+constexpr int kEdgeWidth = 4; // of an icon's 64 pixels: one where a cell shows 16
 
 QIcon iconOf(const QPen& pen, const QBrush& brush)
 {
@@ -26,16 +30,24 @@ QIcon iconOf(const QPen& pen, const QBrush& brush)
 
 } // namespace
 
-void ResultMarks::renew()
+void ResultMarks::renew(bool areValuesOld)
 {
+    std::string state = resultMarksState();
+    const std::uint64_t revision =
+        state.empty() ? 0 : DataProcessDataManager::instance().surveyPoints().revision();
+    if (!areValuesOld && state == m_state && revision == m_revision)
+        return;
+    m_state = std::move(state);
+    m_revision = revision;
     m_colors = {};
     m_circles.clear();
-    if (!DataProcessDataManager::hasInstance())
+    if (m_state.empty())
         return;
     DataProcessDataManager& manager = DataProcessDataManager::instance();
     m_colors = colorsOf(chosenColoring(), manager.surveyPoints(), manager.qualityLimits());
     for (const QRgb color : m_colors.colors())
-        m_circles.push_back(iconOf(Qt::NoPen, QColor::fromRgb(color)));
+        m_circles.push_back(
+            iconOf(QPen(QColor::fromRgb(palette::kEdge), kEdgeWidth), QColor::fromRgb(color)));
     m_ring = iconOf(QPen(QColor::fromRgb(palette::kOthers), 6), Qt::NoBrush);
 }
 

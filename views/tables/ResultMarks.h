@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QVariant>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -12,8 +13,9 @@
 class ResultMarks
 {
 public:
-    /// Reads what the user has chosen, and the open project's results.
-    void renew();
+    /// Reads what the user has chosen, and the open project's results, when they are others.
+    /// \param areValuesOld values of results may have changed, too
+    void renew(bool areValuesOld);
     [[nodiscard]] bool areShown() const { return !m_colors.isNone(); }
 
     /// The circle (decoration), or what its colour means (tool tip). Only while they are shown.
@@ -21,6 +23,8 @@ public:
     [[nodiscard]] QVariant look(const SurveyPoint* result, int role) const;
 
 private:
+    std::string m_state;          ///< see `resultMarksState`, at the last reading
+    std::uint64_t m_revision = 0; ///< of the results, at the last reading; 0 for none
     ResultColors m_colors;
     std::vector<QIcon> m_circles; ///< of the classes
     QIcon m_ring;

@@ -29,7 +29,7 @@ namespace {
 
 constexpr const char* kEvents =
     "ON_SURVEY_LINE_SWITCHED,REFRESH_SURVEY_TABLE,ON_CLEAR_SURVEY_TABLE,"
-    "ON_SURVEY_TABLE_SELECT_POINT,ON_SHOW_ALL_SURVEY_TABLE";
+    "ON_SURVEY_TABLE_SELECT_POINT,ON_SHOW_ALL_SURVEY_TABLE,ON_RESURVEYS_CHECKED";
 
 SurveyPoints& surveyPoints()
 {
@@ -64,6 +64,8 @@ void SurveyDataTable::handleEvent(const char* eventName, const char* payload, in
         showLine(line);
     else if (is(events::kRefreshSurveyTable))
         refreshTexts();
+    else if (is(events::kResurveysChecked))
+        followResults();
     else if (is(events::kClearSurveyTable))
         showNothing();
     else if (is(events::kSurveyTableSelectPoint))

@@ -91,10 +91,10 @@ protected:
                    ? &DataProcessDataManager::instance().surveyPoints()
                    : nullptr;
     }
-    void renewTexts() override
+    void renewTexts(Renewal renewal) override
     {
         m_texts = makeTexts();
-        m_marks.renew();
+        m_marks.renew(renewal == Renewal::Values);
     }
     [[nodiscard]] std::string_view text(const SurveyPoint& point, int column) const override
     {

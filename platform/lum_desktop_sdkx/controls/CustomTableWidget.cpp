@@ -19,6 +19,7 @@ namespace {
 constexpr int kSampleRows = 50;
 constexpr int kRowPadding = 6;   ///< above and below the text, together
 constexpr int kCellPadding = 18; ///< left and right of the text, together
+constexpr int kMarkGap = 14;     ///< between a mark and its text
 constexpr int kArrowRoom = 14;   ///< of the sign for the order, beside a caption
 constexpr int kMaxInitialWidth = 320;
 constexpr int kMinColumnWidth = 36;
@@ -381,7 +382,8 @@ int CustomTableWidget::wantedWidth(int column) const
         widen(cellText(cells.index(row, column, rootIndex())) + more);
     }
     if (hasMark)
-        width += style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+        width +=
+            style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) + dpi_scaled(kMarkGap);
     return std::min(width, dpi_scaled(kMaxInitialWidth));
 }
 

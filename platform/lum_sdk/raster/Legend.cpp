@@ -15,8 +15,8 @@ namespace {
 constexpr QSize kSmallestScreen(200, 120);
 constexpr int kMargin = 12;
 constexpr int kPadding = 6;
-constexpr int kGap = 12;  // before a number
-constexpr int kLeft = 60; // below the legend, for what stands in the lower left corner
+constexpr int kGap = 12;        // before a number
+constexpr int kCornerRoom = 60; // kept free below, for what stands in the lower left corner
 constexpr double kRadius = 4;
 
 constexpr double kWidest = 0.4;  // of the screen
@@ -72,7 +72,7 @@ private:
     /// How many rows may stand below the title.
     [[nodiscard]] std::size_t roomOn(const QSize& screen) const
     {
-        const int room = screen.height() - 2 * kMargin - 2 * kPadding - kLeft;
+        const int room = screen.height() - 2 * kMargin - 2 * kPadding - kCornerRoom;
         return static_cast<std::size_t>(std::max(1, room / m_height - 1));
     }
     void draw(QPainter& painter, const QRect& row, const Legend::Entry& entry) const

@@ -267,13 +267,19 @@ private Q_SLOTS:
         QVERIFY(colorAt(200) != within);
         map.manager.qualityParameters().set("design_hor_diff", "0.5");
         map.manager.surveyPoints().find("1", "2")->qualityStandard = 10;
+        map.publish(events::kRefreshSurveyTable);
         map.publish(events::kResurveysChecked);
-        QCOMPARE(legend(), (QStringList{"resurvey at fault 1"_q, "within limits 2"_q}));
+        QTRY_COMPARE(legend(), (QStringList{"resurvey at fault 1"_q, "within limits 2"_q}));
         QVERIFY(colorAt(200) != within && colorAt(100) == within);
 
         map.setStatus(status::kViewShowWhich, "1");
         QCOMPARE(legend(), QStringList()); // the design has other colours
+        map.host.document.name = "survey"_q;
+        map.publish(events::kUpdateSystemStatus);
+        QCOMPARE(map.host.told, QString());
         settings.clear();
+        map.publish(events::kUpdateSystemStatus);
+        QCOMPARE(map.host.told, "The map shows results in the survey view (F7)."_q);
         map.setStatus(status::kViewShowWhich, "0");
         map.publish(events::kPaintingLayerUpdate);
         QCOMPARE(legend(), QStringList());
@@ -311,7 +317,14 @@ private Q_SLOTS:
             map.publish(events::kUpdateSystemStatus);
         };
         QVERIFY(isPainted(tie) && isPainted(offset));
-        choose(settings::kShowBaseTies, "0");
+        BaseTiesCommand ties("", &map.host);
+        QVERIFY(ties.isChecked());
+        choose(settings::kResultColors, "day"); // without a choice, colours have no ties
+        QVERIFY(!ties.isChecked() && !isPainted(tie) && isPainted(offset));
+        ties.execute();
+        QVERIFY(ties.isChecked() && isPainted(tie));
+        choose(settings::kResultColors, "");
+        ties.execute();
         QVERIFY(!isPainted(tie) && isPainted(offset) && isPainted(name));
         choose(settings::kShowOffsets, "0");
         QVERIFY(!isPainted(offset));

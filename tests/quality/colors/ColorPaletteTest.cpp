@@ -121,8 +121,11 @@ TEST(ColorPalette, AllEyesTellTheColorsApart)
 TEST(ColorPalette, ColorsAreSeenOnPaperAndInDarkTables)
 {
     constexpr QRgb kDarkBase = 0xff232629;
-    for (const QRgb color : palette::kDistinct) {
+    EXPECT_GT(contrast(palette::kEdge, kDarkBase), 7);
+    std::vector<QRgb> colors(palette::kDistinct.begin(), palette::kDistinct.end());
+    colors.insert(colors.end(), palette::kRising.begin(), palette::kRising.end());
+    for (const QRgb color : colors) {
         EXPECT_GT(contrast(color, 0xffffffff), 2.1) << std::hex << color;
-        EXPECT_GT(contrast(color, kDarkBase), 1.5) << std::hex << color;
+        EXPECT_GT(contrast(color, palette::kEdge), 1.5) << std::hex << color;
     }
 }

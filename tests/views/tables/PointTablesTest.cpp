@@ -149,6 +149,26 @@ private Q_SLOTS:
             project.manager->qualityParameters().set(key, "0");
         project.publish(events::kUpdateSystemStatus); // as after each change of the limits
         QCOMPARE(tip(results, 6).toString(), "Verdict: wrong antenna height"_q);
+
+        const auto dayTip = [&] {
+            return tip(results, results.model.rowOf({"1001", "1"})).toString();
+        };
+        project.results().find("1001", "1")->dateTime = 1904066400000; // 2030-05-03 19:20 UTC
+        OpenProject::settings().set(settings::kResultColors, "day");
+        project.publish(events::kUpdateSystemStatus);
+        QCOMPARE(dayTip(), "Day: 2030/05/04"_q);
+        OpenProject::settings().set(settings::kTimeZone, "0");
+        project.publish(events::kRefreshSurveyTable); // as after each change of the zone
+        QCOMPARE(dayTip(), "Day: 2030/05/03"_q);
+        project.results().find("1001", "1")->dateTime += 86400000;
+        project.publish(events::kRefreshSurveyTable);
+        QCOMPARE(dayTip(), "Day: 2030/05/04"_q);
+        QCOMPARE(tip(design, 0).toString(), dayTip());
+        SurveyPoint later = *project.results().find("1001", "1");
+        later.dateTime += 86400000;
+        project.results().set(later);
+        results.model.sortBy(1, Qt::AscendingOrder); // nobody has told of the change
+        QCOMPARE(dayTip(), "Day: 2030/05/05"_q);
         OpenProject::settings().clear();
         project.publish(events::kUpdateSystemStatus);
         QVERIFY(!centre(results, 0).isValid() && !centre(design, 0).isValid());
