@@ -393,8 +393,9 @@ QVariant ProblemTableModel::data(const QModelIndex& index, int role) const
         return name == ProblemField::Severity
                    ? QVariant(m_icons[static_cast<std::size_t>(shown.kind->severity)])
                    : QVariant();
-    case Qt::ToolTipRole: // the sentence may be cut off
-        return shown.kind->what(shown);
+    case Qt::ToolTipRole: // the sentence may be cut off, and the severity be an icon
+        return name == ProblemField::Severity ? severityText(shown.kind->severity)
+                                              : shown.kind->what(shown);
     case Qt::TextAlignmentRole:
         return int((isNumber(name) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     default:

@@ -27,6 +27,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPersistentModelIndex>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTimer>
 #include <QToolButton>
@@ -41,6 +42,7 @@ namespace {
 constexpr int kTypingMs = 200;
 constexpr int kSearchWidth = 180;
 constexpr int kMargin = 4;
+constexpr int kKind = static_cast<int>(ProblemField::Kind);
 const QLatin1String kFindLink("find");
 const QLatin1String kFindCommand("Find Problems");
 
@@ -189,7 +191,7 @@ void ProblemWindow::connectParts()
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ProblemWindow::showSelected);
     connect(m_header, &FilterHeader::filterEdited, this, &ProblemWindow::setFilter);
-    connect(m_kinds, &ProblemKindBar::chosen, this, &ProblemWindow::showChoice);
+    connect(m_kinds, &ProblemKindBar::chosen, this, &ProblemWindow::choose);
     connect(m_counts, &TableCountLine::clearFiltersRequested, this, &ProblemWindow::clearFilters);
     connect(m_empty, &QLabel::linkActivated, this, &ProblemWindow::followLink);
     connect(m_old, &QLabel::linkActivated, this, &ProblemWindow::followLink);
@@ -300,6 +302,28 @@ void ProblemWindow::showChoice()
     m_selected.keepInView();
 }
 
+/// Where the columns become others, the sentences are brought into view.
+void ProblemWindow::choose()
+{
+    const bool wasHidden = m_table->isColumnHidden(kKind);
+    showChoice();
+    if (m_table->isColumnHidden(kKind) == wasHidden)
+        return;
+    const int row = std::max(m_table->currentIndex().row(), 0);
+    m_table->horizontalScrollBar()->setValue(0);
+    m_table->scrollTo(m_model->index(row, static_cast<int>(ProblemField::What)));
+}
+
+/// A single chosen kind stands in the bar; the sentences get the room of its column.
+void ProblemWindow::hideChosenKind()
+{
+    const bool isPlain = m_model->choice().kinds.size() == 1 && m_header->filter(kKind).isEmpty();
+    m_table->setHiddenColumns(
+        isPlain
+            ? QStringList(m_model->headerData(kKind, Qt::Horizontal, Qt::DisplayRole).toString())
+            : QStringList());
+}
+
 void ProblemWindow::setFilter(int column, const QString& text)
 {
     m_header->setFilter(column, text);
@@ -334,6 +358,7 @@ void ProblemWindow::showState()
     if (m_model->rowCount() == 0)
         m_empty->setText(emptyText());
     showSelected();
+    hideChosenKind();
     m_widths->fit();
 }
 

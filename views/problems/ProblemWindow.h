@@ -68,6 +68,8 @@ private:
     void followAccepted();
     void showKinds();
     void showChoice();
+    void choose();
+    void hideChosenKind();
     void setFilter(int column, const QString& text);
     void clearFilters();
     void showState();

@@ -193,7 +193,16 @@ private Q_SLOTS:
         place.find();
         place.chooseKind("Not surveyed");
         QCOMPARE(place.model.rowCount(), 12);
-        place.window.resize(1100, 250); // the last row is out of view
+        constexpr int kKind = int(ProblemField::Kind);
+        QVERIFY(place.table.isColumnHidden(kKind)); // the bar says it
+        place.chooseKind("All open problems");
+        QVERIFY(place.table.columnWidth(kKind) > 100);
+        place.window.resize(810, 250); // the last row is out of view, as are some columns
+        place.chooseKind("Not surveyed");
+        const QRect sentence =
+            place.table.visualRect(place.model.index(0, int(ProblemField::What)));
+        QVERIFY(place.table.viewport()->rect().contains(sentence));
+        place.window.resize(1100, 250);
         place.model.setFilter(int(ProblemField::Line), "1002"_q);
         place.click(3);
         for (QToolButton* const button : place.window.findChildren<QToolButton*>()) {
