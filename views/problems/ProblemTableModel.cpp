@@ -83,7 +83,7 @@ bool isSame(const Problem& a, const Problem& b)
 } // namespace
 
 ProblemTableModel::ProblemTableModel(QObject* parent)
-    : QAbstractTableModel(parent), m_expressions(problemColumns().size()),
+    : ShownRowsModel(parent), m_expressions(problemColumns().size()),
       m_filters(problemColumns().size()), m_icons{severityIcon(Severity::Note),
                                                   severityIcon(Severity::Warning),
                                                   severityIcon(Severity::Error)}
@@ -227,22 +227,7 @@ void ProblemTableModel::refresh()
 
 void ProblemTableModel::relayout()
 {
-    using Hint = QAbstractItemModel::LayoutChangeHint;
-    Q_EMIT layoutAboutToBeChanged({}, Hint::VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    Places places;
-    places.reserve(static_cast<std::size_t>(before.size()));
-    for (const QModelIndex& index : before)
-        places.push_back(m_shown.pointAt(index.row()));
-    arrange();
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (int i = 0; i < before.size(); ++i) {
-        const int row = m_shown.rowOf(places[static_cast<std::size_t>(i)]);
-        after.append(row < 0 ? QModelIndex() : createIndex(row, before[i].column()));
-    }
-    changePersistentIndexList(before, after);
-    Q_EMIT layoutChanged({}, Hint::VerticalSortHint);
+    changeLayout([this](const Places& /*places*/) { arrange(); });
 }
 
 template <class Judge>
@@ -406,7 +391,7 @@ QVariant ProblemTableModel::data(const QModelIndex& index, int role) const
 QVariant ProblemTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
-        return QAbstractTableModel::headerData(section, orientation, role);
+        return ShownRowsModel::headerData(section, orientation, role);
     const ProblemField name = field(section);
     switch (role) {
     case Qt::DisplayRole:
@@ -419,6 +404,6 @@ QVariant ProblemTableModel::headerData(int section, Qt::Orientation orientation,
                                QStringLiteral("___") + severityText(Severity::Error)};
         return {};
     default:
-        return QAbstractTableModel::headerData(section, orientation, role);
+        return ShownRowsModel::headerData(section, orientation, role);
     }
 }

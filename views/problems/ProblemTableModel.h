@@ -4,9 +4,8 @@
 #include "quality/problems/ProblemColumns.h"
 #include "quality/problems/ProblemList.h"
 #include "views/tables/RowFilter.h"
-#include "views/tables/ShownRows.h"
+#include "views/tables/ShownRowsModel.h"
 
-#include <QAbstractTableModel>
 #include <QIcon>
 
 #include <array>
@@ -29,7 +28,7 @@ struct ProblemKindCount
 /// Their own order is that of their severity, the worst first, then of their kinds by rank, then
 /// that in which they were found. A row is a reference to its problem; a cell is formatted when it
 /// is asked for.
-class ProblemTableModel final : public QAbstractTableModel
+class ProblemTableModel final : public ShownRowsModel
 {
     Q_OBJECT
 
@@ -101,8 +100,6 @@ public:
                                       int role) const override;
 
 private:
-    using Places = std::vector<std::uint32_t>;
-
     void count();
     void putInOrder();
     [[nodiscard]] std::size_t rankOf(const ProblemKind* kind) const;
@@ -128,7 +125,6 @@ private:
     std::vector<RowFilter> m_filters;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
-    ShownRows m_shown;
     std::array<QIcon, 3> m_icons; ///< of each severity
     mutable basalt::LocalTimes m_zone;
     QString m_zoneName;

@@ -335,10 +335,7 @@ void ProblemWindow::setFilter(int column, const QString& text)
 
 void ProblemWindow::clearFilters()
 {
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        m_header->setFilter(column, {});
-        m_header->setFault(column, {});
-    }
+    m_header->clear();
     m_search->clear();
     m_typing->stop();
     m_model->clearFilters();
