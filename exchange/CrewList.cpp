@@ -27,8 +27,10 @@ Outcome withNotice(Outcome writing, const CrewList& list)
 void CrewList::add(const DesignPoint& point, const std::string& why)
 {
     const auto [place, isNew] = m_whys.try_emplace(nameOf(point));
-    if (isNew)
+    if (isNew) {
         m_points.set(point);
+        m_notSurveyed += point.status == 0 ? 1 : 0;
+    }
     if (!why.empty())
         place->second.push_back(why);
 }
@@ -53,8 +55,10 @@ const std::vector<std::string>& CrewList::whysOf(const DesignPoint& point) const
 
 QString CrewList::notice() const
 {
-    QStringList sentences{translated(QT_TRANSLATE_NOOP("CrewList", "Points to measure again: %1."))
-                              .arg(lum::groupedNumber(m_points.pointCount()))};
+    QStringList sentences{
+        translated(
+            QT_TRANSLATE_NOOP("CrewList", "Points to measure: %1, of them not surveyed yet: %2."))
+            .arg(lum::groupedNumber(m_points.pointCount()), lum::groupedNumber(m_notSurveyed))};
     if (!m_unknown.empty())
         sentences << translated(QT_TRANSLATE_NOOP("CrewList",
                                                   "Names without a design point: %1, first %2/%3."))

@@ -14,14 +14,14 @@
 class ICoordTransform;
 class ProgressReporter;
 
-/// Design points that a crew is to measure again, each once and with what is wrong there.
+/// Design points that a crew is to measure, each once and with what is wrong there.
 class CrewList
 {
 public:
     /// \param why  in one line; may be empty
     void add(const DesignPoint& point, const std::string& why);
 
-    // What cannot be measured again: it is not written, and the notice tells.
+    // What cannot be measured: it is not written, and the notice tells.
 
     /// A name to which no design point belongs.
     void addUnknown(std::string_view line, std::string_view number);
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] QStringList lines() const;
     /// What is wrong at a point of the list, as it was added.
     [[nodiscard]] const std::vector<std::string>& whysOf(const DesignPoint& point) const;
-    /// How many points there are, and what cannot be measured.
+    /// How many points there are, how many have no result, and what cannot be measured.
     [[nodiscard]] QString notice() const;
 
 private:
@@ -46,6 +46,7 @@ private:
     DesignPoints m_points;
     std::map<Name, std::vector<std::string>> m_whys;
     std::set<Name> m_unknown;
+    std::size_t m_notSurveyed = 0; ///< points
     std::size_t m_withoutPoint = 0;
 };
 

@@ -87,7 +87,7 @@ constexpr QualityTest kHrms{3,
                                 return atMostEitherWay(point.horizontalAccuracy, limits.hrmsM);
                             },
                             {&Point::horizontalAccuracy, &Point::horizontalAccuracy},
-                            QT_TRANSLATE_NOOP("QualityTests", "Horizontal accuracy"),
+                            "HRMS",
                             kMetre};
 
 constexpr QualityTest kVrms{3,
@@ -96,7 +96,7 @@ constexpr QualityTest kVrms{3,
                                 return atMostEitherWay(point.verticalAccuracy, limits.vrmsM);
                             },
                             {&Point::verticalAccuracy, &Point::verticalAccuracy},
-                            QT_TRANSLATE_NOOP("QualityTests", "Vertical accuracy"),
+                            "VRMS",
                             kMetre};
 
 constexpr QualityTest kAntennaHigh{4,

@@ -45,7 +45,12 @@ struct RepeatChoice
     };
 
     Rule rule = Rule::First;
-    double toleranceM = 0; ///< of a mean: how far the measurements may differ, also in height
+    /// Of a mean: how far the measurements may differ, also in height. Negative while it is
+    /// unknown.
+    double toleranceM = 0;
+
+    /// Whether it says what becomes of every point: a mean needs a tolerance.
+    [[nodiscard]] bool isWhole() const { return rule != Rule::WeightedMean || toleranceM >= 0; }
 
     /// Whether the point stays as it is, since its measurements are too far apart for a mean.
     [[nodiscard]] bool leaves(const RepeatedPoint& point) const;

@@ -8,6 +8,12 @@
 namespace {
 
 using Column = ResultColumn<RepeatChoiceRow>;
+using Fate = RepeatChoiceRow::Fate;
+
+bool isLeft(const RepeatChoiceRow& row)
+{
+    return row.fate == Fate::Left;
+}
 
 std::string timeText(basalt::LocalTimes& zone, std::int64_t milliseconds)
 {
@@ -18,7 +24,9 @@ std::string timeText(basalt::LocalTimes& zone, std::int64_t milliseconds)
 
 QString keptText(const RepeatChoiceRow& row)
 {
-    if (row.isLeft)
+    if (row.fate == Fate::Unknown)
+        return {};
+    if (isLeft(row))
         return QCoreApplication::translate("ResultModel", "all: too far apart");
     if (row.kept.empty())
         return QCoreApplication::translate("ResultModel", "mean of %1").arg(row.measured);
@@ -27,7 +35,7 @@ QString keptText(const RepeatChoiceRow& row)
 
 QString leftToolTip(const RepeatChoiceRow& row)
 {
-    return row.isLeft
+    return isLeft(row)
                ? QCoreApplication::translate("ResultModel",
                                              "The measurements differ by more than the tolerance: "
                                              "the point stays as it is.")
@@ -38,7 +46,7 @@ QString leftToolTip(const RepeatChoiceRow& row)
 template <class Text>
 QString unlessLeft(const RepeatChoiceRow& row, Text text)
 {
-    return row.isLeft ? QString() : text();
+    return row.fate == Fate::Resolved ? text() : QString();
 }
 
 template <double RepeatChoiceRow::*member>
@@ -68,14 +76,20 @@ constexpr std::array kColumns{
            [](const RepeatChoiceRow& row) { return QString::number(row.measured); }},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Differ"), length<&RepeatChoiceRow::spreadM>},
     Column{QT_TRANSLATE_NOOP("ResultModel", "In height"), length<&RepeatChoiceRow::heightSpreadM>},
-    Column{QT_TRANSLATE_NOOP("ResultModel", "Stays"), keptText, leftToolTip,
-           [](const RepeatChoiceRow& row) { return row.isLeft; }},
+    Column{QT_TRANSLATE_NOOP("ResultModel", "Stays"), keptText, leftToolTip, isLeft},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Time"), newText<&RepeatChoiceRow::time>},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Surveyor"), newText<&RepeatChoiceRow::surveyor>},
     Column{QT_TRANSLATE_NOOP("ResultModel", "HRMS"), newLength<&RepeatChoiceRow::hrmsM>},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Point moves"), newLength<&RepeatChoiceRow::movedM>},
     Column{QT_TRANSLATE_NOOP("ResultModel", "Up by"), newLength<&RepeatChoiceRow::heightM>},
 };
+
+Fate fateOf(const RepeatedPoint& point, const RepeatChoice& choice)
+{
+    if (!choice.isWhole())
+        return Fate::Unknown;
+    return choice.leaves(point) ? Fate::Left : Fate::Resolved;
+}
 
 } // namespace
 
@@ -91,7 +105,7 @@ std::vector<RepeatChoiceRow> repeatChoiceRows(const std::vector<RepeatedPoint>& 
         const SurveyPoint result = choice.resultOf(point);
         rows.push_back(
             {present.pointNumber, point.name.line, point.name.point, point.measured.size(),
-             point.spreadM, point.heightSpreadM, choice.leaves(point),
+             point.spreadM, point.heightSpreadM, fateOf(point, choice),
              isMean ? std::string() : choice.bestOf(point).pointNumber,
              isMean ? std::string() : timeText(zone, result.dateTime),
              isMean ? std::string() : result.surveyor, result.horizontalAccuracy,

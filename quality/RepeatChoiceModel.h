@@ -15,15 +15,22 @@ inline constexpr int kRepeatStaysColumn = 5;
 /// A row of the list in which repeats are resolved; lengths are metres.
 struct RepeatChoiceRow
 {
+    enum class Fate
+    {
+        Resolved,
+        Left,    ///< the point stays as it is
+        Unknown, ///< the choice is not whole
+    };
+
     std::string pointNumber; ///< of a result that is there: the point's own, or its first one
     std::string lineNumber;
     std::string point; ///< the number of the point
     std::size_t measured = 0;
     double spreadM = 0;
     double heightSpreadM = 0;
-    bool isLeft = false; ///< the point stays as it is
-    std::string kept;    ///< the number of the measurement; empty for a mean
-    std::string time;    ///< "yyyy/MM/dd hh:mm:ss"; empty when it is not known
+    Fate fate = Fate::Resolved;
+    std::string kept; ///< the number of the measurement; empty for a mean
+    std::string time; ///< "yyyy/MM/dd hh:mm:ss"; empty when it is not known
     std::string surveyor;
     double hrmsM = 0;
     /// From the point's present result to the one that it gets.

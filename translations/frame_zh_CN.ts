@@ -196,12 +196,12 @@
         <translation>在测量视图和列表中，按解类型着色</translation>
     </message>
     <message>
-        <source>&amp;Horizontal Accuracy</source>
-        <translation>水平精度(&amp;H)</translation>
+        <source>&amp;Horizontal Accuracy (HRMS)</source>
+        <translation>水平精度 (HRMS)(&amp;H)</translation>
     </message>
     <message>
-        <source>Colour the results by their horizontal accuracy, on the survey map and in the table</source>
-        <translation>在测量视图和列表中，按水平精度着色</translation>
+        <source>Colour the results by their HRMS, on the survey map and in the table</source>
+        <translation>在测量视图和列表中，按 HRMS 着色</translation>
     </message>
     <message>
         <source>S&amp;urveyor</source>
@@ -233,11 +233,11 @@
     </message>
     <message>
         <source>&amp;Lines to the Base Stations</source>
-        <translation>到基站的连线(&amp;L)</translation>
+        <translation>到基准站的连线(&amp;L)</translation>
     </message>
     <message>
         <source>Show or hide the line from each result to its base station</source>
-        <translation>显示或隐藏每个成果到其基站的连线</translation>
+        <translation>显示或隐藏每个成果到其基准站的连线</translation>
     </message>
     <message>
         <source>&amp;Offsets from the Design</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>Keep one result of each point that was measured more than once</source>
-        <translation>对多次测量的点只保留一个结果</translation>
+        <translation>对多次测量的点只保留一个成果</translation>
     </message>
     <message>
         <source>&amp;Design</source>

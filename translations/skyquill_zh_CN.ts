@@ -279,6 +279,34 @@
         <source>The resurvey %1 lies %2 off in height.</source>
         <translation>复测点 %1 的高程相差 %2。</translation>
     </message>
+    <message>
+        <source>The design point has no result.</source>
+        <translation>该设计点没有成果。</translation>
+    </message>
+    <message>
+        <source>The line has no result of the point that this one surveys again.</source>
+        <translation>测线上没有此复测点所对应的点的成果。</translation>
+    </message>
+    <message>
+        <source>The line has no result of the point that this one repeats.</source>
+        <translation>测线上没有此检查点所重复的点的成果。</translation>
+    </message>
+    <message>
+        <source>It repeats %1, %2 beside it and %3 in height.</source>
+        <translation>它重复 %1，平面相差 %2，高程相差 %3。</translation>
+    </message>
+    <message>
+        <source>It repeats %1, but lies %2 off in north.</source>
+        <translation>它重复 %1，但北坐标相差 %2。</translation>
+    </message>
+    <message>
+        <source>It repeats %1, but lies %2 off in east.</source>
+        <translation>它重复 %1，但东坐标相差 %2。</translation>
+    </message>
+    <message>
+        <source>It repeats %1, but lies %2 off in height.</source>
+        <translation>它重复 %1，但高程相差 %2。</translation>
+    </message>
 </context>
 <context>
     <name>CheckRun</name>
@@ -1191,16 +1219,16 @@ The positions stay the numbers that they are: nothing is converted. They then co
 <context>
     <name>CrewList</name>
     <message>
-        <source>Points to measure again: %1.</source>
-        <translation>需重测的点：%1。</translation>
-    </message>
-    <message>
         <source>Names without a design point: %1, first %2/%3.</source>
         <translation>没有设计点的点名：%1，第一个为 %2/%3。</translation>
     </message>
     <message>
         <source>Problems of a line or a group, without a point: %1.</source>
         <translation>属于测线或一组成果、没有点的问题：%1。</translation>
+    </message>
+    <message>
+        <source>Points to measure: %1, of them not surveyed yet: %2.</source>
+        <translation>要测量的点：%1，其中尚未测量的：%2。</translation>
     </message>
 </context>
 <context>
@@ -2609,11 +2637,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Points measured more than once: %1, with %2 results.</source>
-        <translation>多次测量的点：%1 个，共 %2 个结果。</translation>
-    </message>
-    <message>
-        <source>Results to be removed, which stay in the history: %1.</source>
-        <translation>将移除的结果（保留在修改历史中）：%1 个。</translation>
+        <translation>多次测量的点：%1 个，共 %2 个成果。</translation>
     </message>
     <message>
         <source>Points that stay as they are, too far apart for a mean: %1.</source>
@@ -2677,11 +2701,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>The results have changed: nothing was resolved.</source>
-        <translation>测量结果已变化：未作任何处理。</translation>
+        <translation>成果已变化：未作任何处理。</translation>
     </message>
     <message>
-        <source>Points resolved: %1. Results removed: %2. Left as they are: %3.</source>
-        <translation>已处理的点：%1。已移除的结果：%2。保持原样：%3。</translation>
+        <source>Results to be removed, which stay in the history: %1. They no longer count as check shots of their crews and days.</source>
+        <translation>将移除的成果（保留在历史记录中）：%1 个。它们不再算作其测量组当天的检核点。</translation>
+    </message>
+    <message>
+        <source>Points resolved: %1. Results removed: %2. Left as they are: %3. Ctrl+Z takes it back.</source>
+        <translation>已处理的点：%1。已移除的成果：%2。保持原样：%3。按 Ctrl+Z 撤销。</translation>
     </message>
 </context>
 <context>
@@ -4462,7 +4490,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>Kind</source>
-        <translation>种类</translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Line</source>
@@ -4594,14 +4622,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>基准站过远</translation>
     </message>
     <message>
-        <source>Horizontal accuracy</source>
-        <translation>水平精度</translation>
-    </message>
-    <message>
-        <source>Vertical accuracy</source>
-        <translation>垂直精度</translation>
-    </message>
-    <message>
         <source>Antenna too high</source>
         <translation>天线过高</translation>
     </message>
@@ -4660,6 +4680,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Survey off the design</source>
         <translation>测量整体偏离设计</translation>
+    </message>
+    <message>
+        <source>Repeat out of range</source>
+        <translation>重复测量超限</translation>
     </message>
     <message>
         <source>Differences of a base and a day</source>
@@ -4769,10 +4793,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>桩位移动，最大</translation>
     </message>
     <message>
-        <source>For results that have no design points to compare them with.</source>
-        <translation>用于没有设计点可比较的成果。</translation>
-    </message>
-    <message>
         <source>Measurement</source>
         <translation>测量</translation>
     </message>
@@ -4789,10 +4809,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>每组每天的检核点比例</translation>
     </message>
     <message>
-        <source>How many of the points of a day are to be measured again.</source>
-        <translation>当天测量的点中需要复测的比例。</translation>
-    </message>
-    <message>
         <source>Check shots, min.</source>
         <translation>检核点最少个数</translation>
     </message>
@@ -4802,7 +4818,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>What all results of a base and a day are off by the same is a wrong base.</source>
-        <translation>同一基准站同一天的全部结果偏移相同，即基准站有误。</translation>
+        <translation>同一基准站同一天的全部成果偏移相同，即基准站有误。</translation>
     </message>
     <message>
         <source>Shift of a base or a pole in height, max.</source>
@@ -4810,15 +4826,31 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>What all results of a base or a rover and a day are off in height by the same is a wrong base or pole height.</source>
-        <translation>同一基准站或流动站同一天的全部结果高程偏移相同，即基准站或杆高有误。</translation>
+        <translation>同一基准站或流动站同一天的全部成果高程偏移相同，即基准站或杆高有误。</translation>
     </message>
     <message>
         <source>Results that show a shift, min.</source>
-        <translation>判定偏移所需的最少结果数</translation>
+        <translation>判定偏移所需的最少成果数</translation>
     </message>
     <message>
         <source>Check shots</source>
         <translation>检核点</translation>
+    </message>
+    <message>
+        <source>For results that have no design points to compare them with. At 0 none counts as moved.</source>
+        <translation>用于没有设计点可比较的成果。为 0 时不认为有桩位移动过。</translation>
+    </message>
+    <message>
+        <source>How many of the points of a day are to be measured again. Not looked at when the next one is 0 as well.</source>
+        <translation>当天测量的点中需要复测的比例。下一项也为 0 时不检查。</translation>
+    </message>
+    <message>
+        <source>Of a crew and a day, even when the share above is less. Not looked at when both are 0.</source>
+        <translation>每组每天，即使上面的比例算出的更少。两项都为 0 时不检查。</translation>
+    </message>
+    <message>
+        <source>At least 1. The shifts themselves are switched off above.</source>
+        <translation>至少为 1。要不检查偏移，请把上面的偏移上限设为 0。</translation>
     </message>
     <message>
         <source>List of mean differences</source>
@@ -4837,11 +4869,11 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <name>ProblemLimitsPage</name>
     <message>
         <source>Off</source>
-        <translation>不限</translation>
+        <translation>不检查</translation>
     </message>
     <message>
-        <source>Find Problems looks at these limits. 0 switches one off.</source>
-        <translation>“查找问题”使用这些限差。0 表示不限。</translation>
+        <source>Find Problems looks at these limits. 0 switches one off, where its description does not say otherwise.</source>
+        <translation>“查找问题”使用这些限差。0 表示不检查，说明中另有规定的除外。</translation>
     </message>
 </context>
 <context>
@@ -5963,14 +5995,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Distance from the base station</source>
         <translation>与基站的距离</translation>
-    </message>
-    <message>
-        <source>Horizontal accuracy</source>
-        <translation>水平精度</translation>
-    </message>
-    <message>
-        <source>Vertical accuracy</source>
-        <translation>垂直精度</translation>
     </message>
     <message>
         <source>Antenna height</source>
@@ -7164,15 +7188,15 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>All %1 results of %2 are %3.</source>
-        <translation>%2的全部 %1 个结果均%3。</translation>
+        <translation>%2的全部 %1 个成果均%3。</translation>
     </message>
     <message>
         <source>%1 of %2 results of %3 are %4.</source>
-        <translation>%3的 %2 个结果中有 %1 个%4。</translation>
+        <translation>%3的 %2 个成果中有 %1 个%4。</translation>
     </message>
     <message>
         <source>%1 of %2 points that were also measured otherwise are %4 in the results of %3.</source>
-        <translation>另外也测量过的 %2 个点中，有 %1 个在%3的结果中%4。</translation>
+        <translation>另外也测量过的 %2 个点中，有 %1 个在%3的成果中%4。</translation>
     </message>
     <message>
         <source>The coordinates of the base are wrong.</source>
@@ -7204,7 +7228,7 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
     <message>
         <source>%1 of %2 results of %3 are %4 on average.</source>
-        <translation>%3的 %2 个结果中，%1 个平均%4。</translation>
+        <translation>%3的 %2 个成果中，%1 个平均%4。</translation>
     </message>
     <message>
         <source>%1 of %2 points that were measured again with %3 are %4 on average, as seen from their first measurement.</source>

@@ -35,16 +35,6 @@ QString degreesText(double dms)
     return withoutZeros(QString::number(convetFromAngle(dms), 'f', kDegreeDecimals));
 }
 
-/// An opaque colour in place of one that shines through.
-QColor over(const QColor& below, const QColor& above)
-{
-    const auto mixed = [&](int low, int high) {
-        return low + static_cast<int>(std::lround((high - low) * above.alphaF()));
-    };
-    return {mixed(below.red(), above.red()), mixed(below.green(), above.green()),
-            mixed(below.blue(), above.blue())};
-}
-
 } // namespace
 
 DesignEdit::DesignEdit(const DesignParameter& parameter, QWidget* parent)
@@ -92,7 +82,7 @@ void DesignEdit::setFault(const QString& sentence)
 {
     QPalette colours; // that of the desktop
     if (!sentence.isEmpty())
-        colours.setColor(QPalette::Base, over(colours.color(QPalette::Base), faultBackground()));
+        colours.setColor(QPalette::Base, faultBase(colours));
     setPalette(colours);
     setToolTip(sentence.isEmpty() ? m_hint : sentence);
 }

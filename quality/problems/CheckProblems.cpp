@@ -34,7 +34,9 @@ void forEachResult(const SurveyPoints& survey, Judge judge)
 
 constexpr ProblemKind kMissing{
     "missing", QT_TRANSLATE_NOOP("ProblemKinds", "Not surveyed"), Severity::Warning,
-    [](const Problem& /*problem*/) { return translated("The design point has no result."); }};
+    [](const Problem& /*problem*/) {
+        return translated(QT_TRANSLATE_NOOP("CheckProblems", "The design point has no result."));
+    }};
 constexpr std::array kEmptyPointKinds{&kMissing};
 
 template <class Use>
@@ -74,7 +76,8 @@ constexpr ProblemKind kResurveyOff{
 constexpr ProblemKind kResurveyAlone{
     "resurvey_alone", QT_TRANSLATE_NOOP("ProblemKinds", "Resurvey without its point"),
     Severity::Warning, [](const Problem& /*problem*/) {
-        return translated("The line has no result of the point that this one surveys again.");
+        return translated(QT_TRANSLATE_NOOP(
+            "CheckProblems", "The line has no result of the point that this one surveys again."));
     }};
 constexpr std::array kResurveyKinds{&kResurveyOff, &kResurveyAlone};
 
@@ -125,8 +128,10 @@ constexpr ProblemKind kRepeat{
     "repeat", QT_TRANSLATE_NOOP("ProblemKinds", "Measured again"), Severity::Note,
     [](const Problem& problem) {
         if (problem.otherPoint.empty())
-            return translated("The line has no result of the point that this one repeats.");
-        return translated("It repeats %1, %2 beside it and %3 in height.")
+            return translated(QT_TRANSLATE_NOOP(
+                "CheckProblems", "The line has no result of the point that this one repeats."));
+        return translated(QT_TRANSLATE_NOOP("CheckProblems",
+                                            "It repeats %1, %2 beside it and %3 in height."))
             .arg(lum::toQString(problem.otherPoint), problemValueText(*problem.kind, problem.value),
                  problemValueText(*problem.kind, problem.second));
     }};

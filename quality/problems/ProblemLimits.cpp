@@ -90,7 +90,7 @@ constexpr std::array kLines{
                  QT_TRANSLATE_NOOP("ProblemLimits", "Stakes moved aside, max."), "m", 1e6, false,
                  QT_TRANSLATE_NOOP("ProblemLimits",
                                    "For results that have no design points to compare them "
-                                   "with.")},
+                                   "with. At 0 none counts as moved.")},
 };
 
 // Of points measured again, see CheckShotProblems.h and ShiftProblems.h.
@@ -100,9 +100,13 @@ constexpr std::array kCheckShots{
                  QT_TRANSLATE_NOOP("ProblemLimits", "Check shots of a crew and day"), "%", 100,
                  false,
                  QT_TRANSLATE_NOOP("ProblemLimits",
-                                   "How many of the points of a day are to be measured again.")},
+                                   "How many of the points of a day are to be measured again. "
+                                   "Not looked at when the next one is 0 as well.")},
     ProblemLimit{"check_shots_min", "2", QT_TRANSLATE_NOOP("ProblemLimits", "Check shots, min."),
-                 "", 1000, true},
+                 "", 1000, true,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "Of a crew and a day, even when the share above is less. Not "
+                                   "looked at when both are 0.")},
     ProblemLimit{"shift_plane_max", "0.1",
                  QT_TRANSLATE_NOOP("ProblemLimits", "Shift of a base on the plane, max."), "m",
                  1000, false,
@@ -114,9 +118,17 @@ constexpr std::array kCheckShots{
                  QT_TRANSLATE_NOOP("ProblemLimits",
                                    "What all results of a base or a rover and a day are off in "
                                    "height by the same is a wrong base or pole height.")},
-    ProblemLimit{"shift_results_min", "10",
-                 QT_TRANSLATE_NOOP("ProblemLimits", "Results that show a shift, min."), "", 1e5,
-                 true},
+    ProblemLimit{"shift_results_min",
+                 "10",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Results that show a shift, min."),
+                 "",
+                 1e5,
+                 true,
+                 QT_TRANSLATE_NOOP("ProblemLimits",
+                                   "At least 1. The shifts themselves are switched off above."),
+                 {},
+                 nullptr,
+                 1},
     ProblemLimit{"base_differences", "0",
                  QT_TRANSLATE_NOOP("ProblemLimits", "List of mean differences"), "", 1, true,
                  QT_TRANSLATE_NOOP("ProblemLimits",
@@ -158,5 +170,6 @@ double problemLimit(const IDictionary& parameters, std::string_view key)
 {
     const ProblemLimit* const limit = findProblemLimit(key);
     Q_ASSERT(limit != nullptr);
-    return std::fabs(basalt::parseNumber(parameters.text(key, limit->fallback)));
+    const double value = std::fabs(basalt::parseNumber(parameters.text(key, limit->fallback)));
+    return std::max(value, limit->smallest);
 }

@@ -8,7 +8,7 @@
 class IDictionary;
 
 /// A limit of the problems: a key of "qc_param.ini" that the checks do not read. Lengths are
-/// metres, times seconds. 0 switches off what it limits.
+/// metres, times seconds. 0 switches off what it limits, unless its description says otherwise.
 struct ProblemLimit
 {
     const char* key;
@@ -21,6 +21,7 @@ struct ProblemLimit
     std::span<const int> choices{}; ///< when only these values may be entered, 0 for off
     /// The text of a choice but 0.
     QString (*choiceText)(int choice) = nullptr;
+    double smallest = 0; ///< that may be entered
 };
 
 /// Limits that stand together in the dialog of the limits.
@@ -37,5 +38,5 @@ struct ProblemLimitGroup
 [[nodiscard]] const ProblemLimit* findProblemLimit(std::string_view key);
 
 /// The value of a key of the tables, or its fallback. The minus of a negative one is ignored; what
-/// is no number is 0.
+/// is no number is 0, and what is too small the smallest.
 [[nodiscard]] double problemLimit(const IDictionary& parameters, std::string_view key);

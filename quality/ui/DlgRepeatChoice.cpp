@@ -4,6 +4,7 @@
 #include "exchange/ShownTimes.h"
 #include "lum_desktop_sdkx/controls/ChoiceBox.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
+#include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_desktop_sdkx/controls/PropertyGridInput.h"
 #include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
@@ -18,6 +19,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -54,6 +56,9 @@ QString finding(const std::vector<RepeatedPoint>& points, const RepeatChoice& ch
 {
     if (points.empty())
         return DlgRepeatChoice::tr("No point was measured more than once.");
+    if (!choice.isWhole())
+        return DlgRepeatChoice::tr("The tolerance is a number from 0 to %1 metres.")
+            .arg(kMostToleranceM);
     std::size_t results = 0;
     std::size_t left = 0;
     std::size_t removed = 0;
@@ -72,17 +77,14 @@ QString finding(const std::vector<RepeatedPoint>& points, const RepeatChoice& ch
                                   points.size(), results)};
     if (removed != 0)
         sentences << counted(
-            DlgRepeatChoice::tr("Results to be removed, which stay in the history: %1."), removed);
+            DlgRepeatChoice::tr("Results to be removed, which stay in the history: %1. They no "
+                                "longer count as check shots of their crews and days."),
+            removed);
     if (left != 0)
         sentences << counted(
             DlgRepeatChoice::tr("Points that stay as they are, too far apart for a mean: %1."),
             left);
-    QString text = sentences.join(QLatin1Char(' '));
-    if (choice.toleranceM < 0)
-        text += QLatin1Char('\n') +
-                DlgRepeatChoice::tr("The tolerance is a number from 0 to %1 metres.")
-                    .arg(kMostToleranceM);
-    return text;
+    return sentences.join(QLatin1Char(' '));
 }
 
 CheckResult resultOf(const std::vector<RepeatedPoint>& points, const RepeatChoice& choice)
@@ -203,6 +205,10 @@ void DlgRepeatChoice::showState()
     const RepeatChoice chosen = choice();
     const bool isMean = chosen.rule == Rule::WeightedMean;
     m_tolerance->setEnabled(isMean);
+    QPalette colours; // that of the desktop
+    if (!chosen.isWhole())
+        colours.setColor(QPalette::Base, faultBase(colours));
+    m_tolerance->setPalette(colours);
     m_toleranceLabel->setEnabled(isMean);
     const auto isOpen = [&](const RepeatedPoint& point) { return !chosen.leaves(point); };
     const auto all = std::ranges::count_if(m_points, isOpen);
@@ -262,7 +268,7 @@ void DlgRepeatChoice::resolve(const std::vector<const RepeatedPoint*>& points)
     }
     ResolvedRepeats resolved = resolveRepeats(points, choice());
     const QString told =
-        tr("Points resolved: %1. Results removed: %2. Left as they are: %3.")
+        tr("Points resolved: %1. Results removed: %2. Left as they are: %3. Ctrl+Z takes it back.")
             .arg(lum::groupedNumber(resolved.results.pointCount()),
                  lum::groupedNumber(resolved.removed), lum::groupedNumber(resolved.left));
     manager().resolveRepeats(std::move(resolved));

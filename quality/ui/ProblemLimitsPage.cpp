@@ -24,7 +24,7 @@ PropertyGridRow rowOf(const ProblemLimit& limit)
     row.description = translated(limit.description);
     row.editor = limit.isWhole ? Editor::Integer : Editor::Number;
     row.unit = translated(limit.unit);
-    row.minimum = 0;
+    row.minimum = limit.smallest;
     row.maximum = limit.largest;
     row.fallback = QString::fromLatin1(limit.fallback);
     if (limit.choices.empty())
@@ -53,7 +53,9 @@ ProblemLimitsPage::ProblemLimitsPage(const IDictionary& parameters, QWidget* par
     : QWidget(parent), m_grid(new PropertyGridCtrl(this))
 {
     auto* const hint =
-        new QLabel(tr("Find Problems looks at these limits. 0 switches one off."), this);
+        new QLabel(tr("Find Problems looks at these limits. 0 switches one off, where its "
+                      "description does not say otherwise."),
+                   this);
     hint->setWordWrap(true);
     m_grid->init(makeLayout(), parameters);
     m_grid->setResizeMode(PropertyGridCtrl::ResizeMode::ResizeToContents);

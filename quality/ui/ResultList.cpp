@@ -5,6 +5,7 @@
 #include "lum_desktop_sdkx/controls/FaultColors.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
+#include "lum_desktop_sdkx/ICommandList.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/Text.h"
@@ -28,6 +29,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -80,6 +82,7 @@ ResultList::ResultList(IDesktopHost& host, const CheckKind& kind, CheckResult re
     m_layout->addWidget(m_table);
     m_layout->addWidget(m_finding);
     fitWidth();
+    addUndoKeys();
     moveIntoCorner(); // a clicked point appears in the middle of the map
 }
 
@@ -102,6 +105,16 @@ void ResultList::addMenu()
     m_menu->addAction(tr("&Save as CSV..."), this, &ResultList::saveRows);
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, m_menu,
             [this](const QModelIndex& /*index*/, const QPoint& place) { m_menu->popup(place); });
+}
+
+void ResultList::addUndoKeys()
+{
+    const auto add = [this](QKeySequence::StandardKey key, const QString& command) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [this, command] { m_host.commands().execute(command); });
+    };
+    add(QKeySequence::Undo, QStringLiteral("Undo"));
+    add(QKeySequence::Redo, QStringLiteral("Redo"));
 }
 
 void ResultList::showRows(CheckResult result)

@@ -55,6 +55,8 @@ protected:
 
 private:
     void addMenu();
+    /// Those of the frame, which do not reach a window of its own.
+    void addUndoKeys();
     /// Makes the list as wide as its columns, and these as wide as a list of the smallest size.
     void fitWidth();
     void showRows(CheckResult result);

@@ -5,15 +5,16 @@
 #include "lum_desktop_sdkx/frame/FrameComponents.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
 #include "lum_desktop_sdkx/map/MapComponents.h"
+#include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "project/ProjectCreator.h"
+#include "project/ProjectPlace.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Widgets.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
-#include <functional>
+#include <memory>
 
 inline FrameLayout layoutOf(const QByteArray& xml)
 {
@@ -23,30 +24,10 @@ inline FrameLayout layoutOf(const QByteArray& xml)
     return layout;
 }
 
-/// The dialog that stands in front, once there is one; then `act` is called with it.
+/// Calls `act` with the next modal dialog of this class.
 inline void whenDialog(const char* className, std::function<void(QDialog&)> act)
 {
-    auto* const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [=] {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || qstrcmp(dialog->metaObject()->className(), className) != 0)
-            return;
-        timer->deleteLater();
-        timer->stop();
-        act(*dialog);
-    });
-    timer->start(5);
-}
-
-inline void press(QDialog& dialog, const char* text)
-{
-    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
-        if (button->text() == QString::fromUtf8(text)) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            return;
-        }
-    }
-    QFAIL(text);
+    whenDialog(*qApp, className, std::move(act));
 }
 
 /// A test of a whole frame in a home of its own. Boxes and file dialogs are answered.
@@ -79,6 +60,25 @@ protected:
     {
         m_host = std::make_unique<DesktopHost>();
         m_frame = std::make_unique<MainFrame>(*m_host, layout);
+    }
+    /// The same, shown and active.
+    void showProgram(const FrameLayout& layout)
+    {
+        startProgram(layout);
+        m_frame->resize(900, 600);
+        m_frame->show();
+        m_frame->activateWindow();
+        QCoreApplication::processEvents(); // the first paint
+        QTRY_VERIFY(m_frame->isActiveWindow());
+    }
+    /// A new project. \param system  its EPSG code; none when it is empty
+    static void makeProject(const ProjectPlace& place, const char* system = "")
+    {
+        QVERIFY(QDir().mkpath(place.folder));
+        basalt::Dictionary project;
+        ProjectCreator::describe(place, project);
+        QVERIFY(*system == '\0' || fillFromEpsg(system, project).empty());
+        QVERIFY(ProjectCreator::create(place, project).isDone());
     }
     void endProgram()
     {

@@ -1,11 +1,8 @@
 #include "lum_desktop_sdkx/frame/LayerWindow.h"
-#include "lum_sdk/coords/EpsgSystem.h"
 #include "project/DataProcessDataManager.h"
-#include "project/ProjectCreator.h"
-#include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
 #include "tests/app/FrameTest.h"
-#include "tests/support/GeoTiff.h"
+#include "tests/support/MadeRaster.h"
 
 namespace {
 
@@ -35,8 +32,8 @@ class OverlayWalkTest : public FrameTest
     [[nodiscard]] QByteArray projectFile() const { return TestFolder::read(place().file); }
     QString makeTiff(const char* name)
     {
-        const GeoTiff tiff{{100, 100}, Qt::red, {500000, 4400100}};
-        return tiff.write(m_folder->path(name)) ? m_folder->path(name) : QString();
+        const QString path = m_folder->path(name);
+        return plainRaster({100, 100}, Qt::red, {500000, 4400100}).write(path) ? path : QString();
     }
     /// The rows below the overlay layer in the list of layers, which is their order on the map.
     [[nodiscard]] QStringList listed() const
@@ -64,16 +61,9 @@ private Q_SLOTS:
     void init()
     {
         prepare();
-        startProgram(layoutOf(kLayout));
+        makeProject(place(), "32650");
+        showProgram(layoutOf(kLayout));
         m_boxes->answer = Button::Yes;
-        QVERIFY(QDir().mkpath(place().folder));
-        basalt::Dictionary project;
-        ProjectCreator::describe(place(), project);
-        QCOMPARE(fillFromEpsg("32650", project), std::string());
-        QVERIFY(ProjectCreator::create(place(), project).isDone());
-        m_frame->resize(900, 600);
-        m_frame->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_frame.get()));
         QVERIFY(m_frame->openFile(place().file));
     }
     void cleanup() { endProgram(); }
@@ -105,18 +95,6 @@ private Q_SLOTS:
         QCOMPARE(listed(), QStringList());
         run("Save Project");
         QCOMPARE(projectFile(), without);
-    }
-
-    void aDroppedImageIsAdded()
-    {
-        QMimeData files;
-        files.setUrls({QUrl::fromLocalFile(makeTiff("a.TIF"))});
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
-        QApplication::sendEvent(m_frame.get(), &enter);
-        QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
-        QApplication::sendEvent(m_frame.get(), &drop);
-        QTRY_COMPARE(listed(), QStringList{"a.TIF"_q});
-        QVERIFY(!m_frame->openFile(m_folder->path("a.doc")));
     }
 };
 

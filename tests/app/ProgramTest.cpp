@@ -16,48 +16,6 @@ constexpr int kStartMs =
     30000; // the sanitizers' program takes its time, on a busy machine above all
 constexpr const char* kToolFolder = "程序 dir/etc/Tarvona/config/Skyquill/Tool/DataProcess5/";
 
-/// Every component that is registered, as "--components" prints them: kind, name, caption.
-constexpr const char* kComponents =
-    "IWindow: AttributeControl 属性编辑窗口, CoordinateReadout 坐标显示,"
-    " DesignLineControl 设计测线控制窗口, DesignLineTable 设计测线列表, LayerWindow 图层窗口,"
-    " MapWindow 地图, MessageWindow 消息窗口, ProblemWindow 问题列表,"
-    " ProgressStatusBarForSkyquill Progress,"
-    " SurveyDataControl 勘察数据控制窗口, SurveyDataTable 勘察数据列表\n"
-    "ILayerViewer: BoundaryLayer 边界图层, DataProcessLayer 矢量图层,"
-    " RasterLayerImp 在线地图图层, TifLayer TIF图层\n"
-    "IReactor: ReactorDefault 默认, ReactorMoveTrans 平移, ReactorZoomRectTrans 局部矩形放大,"
-    " SeletePointReactor 属性查看\n"
-    "ICommandExecuterx: AboutCommand 关于, BaseTiesCommand 基准站连线,"
-    " CloseProjectCommand 关闭工程,"
-    " CoordFormatCommand 坐标格式, CountAzimuthCommand 方位角计算, DataInspectionCommand 数据检查, "
-    "DemoSurveyCommand 示例工程, DesignSurveyLineCommand 设计测线,"
-    " DrawBoundaryCommand 绘制边界, DrawExcitationCommand 绘制激发线,"
-    " DrawReceiverCommand 绘制接收线, EditStepsCommand 操作步骤, EmptyPointCheckCommand 空点检查,"
-    " ExitCommand 退出,"
-    " ExportDesignCommand 导出设计数据, ExportReportCommand 导出报告,"
-    " ExportSurveyCommand 导出测量数据, FindCommand 查找, FindProblemsCommand 查找问题,"
-    " FullScreenCommand 全屏,"
-    " GoToWindowCommand 转到窗口, GuideCommand 用户指南, HistoryCommand 修改历史,"
-    " ImportCommand 导入数据,"
-    " LoadOnlineMapCommand 在线地图, LoadRoadMapCommand 平面地图, LoadSatMapCommand 卫星地图,"
-    " LoadTerrainMapCommand 山地地图, ManageBaseMapsCommand 管理底图,"
-    " NewProjectCommand 新建工程, OpenProjectCommand 打开工程, "
-    "PPKMoveCommand 地图移动,"
-    " PPKZoomAllCommand 全图, PPKZoomInCommand 地图放大, PPKZoomOutCommand 地图缩小,"
-    " PPKZoomRectCommand 局部矩形放大, ProblemStepCommand 转到问题, QualitySpecificateCommand "
-    "质量规范,"
-    " ReSurveyPointCheckCommand 复测点检查, RecentProjectCommand 最近工程, RedoCommand 重做,"
-    " RepeatPointCheckCommand 重复点检查, ResetLayoutCommand 恢复布局,"
-    " ResolveRepeatsCommand 重复测量取舍,"
-    " ResultNamesCommand 测点名称,"
-    " SaveCopyCommand 工程另存副本,"
-    " SaveProjectCommand 保存工程, SetTifPathCommand TIF图叠加, SettingChoiceCommand 系统设置选项, "
-    "ShortcutsCommand 快捷键,"
-    " ShowQuestionsCommand 重新显示提示, SurveyTableHideCommand 勘察列表隐藏, SysSettingCommand "
-    "设置, TimeZomeDlgCommand 时区修改, UndoCommand 撤销,"
-    " ViewChangeCommand 更改视图\n"
-    "IGuiAssistant: DataProcess5 助手\n";
-
 } // namespace
 
 /// The program itself, started from an installation of its own: a copy of executable and
@@ -67,16 +25,167 @@ class ProgramTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        m_folder = std::make_unique<TestFolder>();
+        QVERIFY(QDir().mkpath(path("程序 dir/bin")));
+        QVERIFY(QDir().mkpath(path("run")));
+        QVERIFY(QFile::setPermissions(path("run"),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FILE), path("程序 dir/bin/skyquill")));
+        const QStringList configuration{"-r"_q, QStringLiteral(CONFIGURATION_FOLDER),
+                                        path("程序 dir/etc")};
+        QCOMPARE(QProcess::execute("cp"_q, configuration), 0);
+    }
+
     void cleanup() { m_folder.reset(); }
-    void answersOnTheCommandLine();
-    void writesAPictureOfTheWindow();
-    void bothProgramsAnswerWithoutADisplay();
-    void aSecondStartLeavesAtOnceAndHandsItsFileOver();
-    void lightChineseTextIsNotBold();
-    void aMissingSystemFileIsFatalAndReported();
-    void aBrokenLayoutLeavesTheMap();
-    void beginsASessionWhereAServerIsConfigured();
+
+    void answersOnTheCommandLine()
+    {
+        QProcess process;
+        QCOMPARE(run(process, {"--startup-time"_q}), 0);
+        static const QRegularExpression report("^\\d+ ms of CPU time to the shown window\n$"_q);
+        QVERIFY(report.match(QString::fromUtf8(process.readAllStandardOutput())).hasMatch());
+
+        QVERIFY(run(process, {"--no-such-option"_q}) > 0);
+        QVERIFY(process.readAllStandardError().contains("no-such-option"));
+
+        QCOMPARE(run(process, {"--components"_q}), 0);
+        QStringList registered;
+        while (process.canReadLine())
+            registered << QString::fromUtf8(process.readLine())
+                              .simplified()
+                              .section(QLatin1Char(' '), 1, 1);
+        QVERIFY(registered.size() > 60);
+        const QString architecture = QString::fromUtf8(
+            TestFolder::read(QStringLiteral(SOURCE_FOLDER "/docs/architecture.md")));
+        const QString documented =
+            architecture.section("\nRegistered: "_q, 1).section("\n\n"_q, 0, 0);
+        static const QRegularExpression name("`(\\w+)`"_q);
+        QStringList names;
+        for (auto match = name.globalMatch(documented); match.hasNext();)
+            names << match.next().captured(1);
+        names.removeOne("SystemSettings"_q); // of none of these kinds
+        names.sort();
+        registered.sort();
+        QCOMPARE(registered.join(QLatin1Char(' ')), names.join(QLatin1Char(' ')));
+    }
+
+    void writesAPictureOfTheWindow()
+    {
+        QProcess process;
+        for (const Variables& variables : {Variables{}, Variables{{"LC_ALL", "C"}}}) {
+            QFile::remove(path("图 picture.png"));
+            const QStringList arguments{"--screenshot"_q, path("图 picture.png")};
+            QCOMPARE(run(process, arguments, variables), 0);
+            const QImage picture(path("图 picture.png"));
+            QVERIFY(picture.width() >= 640 && picture.height() >= 400);
+            // Nothing of it needs an action.
+            for (const char* line : {" info No texts", " warning ", " error "})
+                QVERIFY2(!log().contains(line), log().constData());
+        }
+    }
+
+    void bothProgramsAnswerWithoutADisplay()
+    {
+        QProcessEnvironment values = environment();
+        values.remove("DISPLAY"_q);
+        values.remove("WAYLAND_DISPLAY"_q);
+        values.remove("QT_QPA_PLATFORM"_q);
+        QProcessEnvironment broken = values;
+        broken.insert("DISPLAY"_q, ":no"_q);
+        broken.insert("QT_QPA_PLATFORM"_q, "no such"_q);
+        static const QRegularExpression version("^\\S+ \\d+\\.\\d+\\.\\d+\n$"_q);
+        for (const QProcessEnvironment& used : {values, broken}) {
+            for (const QString& program :
+                 {path("程序 dir/bin/skyquill"), QStringLiteral(CLI_FILE)}) {
+                QProcess process;
+                process.setProcessEnvironment(used);
+                process.start(program, {"--help"_q});
+                QVERIFY(process.waitForFinished());
+                QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+                QCOMPARE(process.exitCode(), 0);
+                QCOMPARE(process.readAllStandardError(), QByteArray());
+                QVERIFY(process.readAllStandardOutput().contains("--version"));
+                process.start(program, {"--version"_q});
+                QVERIFY(process.waitForFinished());
+                QCOMPARE(process.exitCode(), 0);
+                const QString answer = QString::fromUtf8(process.readAll());
+                QVERIFY2(version.match(answer).hasMatch(), qUtf8Printable(answer));
+            }
+        }
+    }
+
+    void aSecondStartLeavesAtOnceAndHandsItsFileOver()
+    {
+        QCOMPARE(runCli({"new"_q, path("测区 a"), "one"_q}), 0);
+        const QByteArray project = path("测区 a/one/one.kelx").toUtf8();
+        QProcess first;
+        start(first);
+        QTRY_VERIFY_WITH_TIMEOUT(log().contains("Window shown"), kStartMs);
+        QProcess second;
+        QCOMPARE(run(second, {}), 0);
+        second.setWorkingDirectory(path("测区 a")); // not that of the first
+        second.start(path("程序 dir/bin/skyquill"), {"./one/../one/one.kelx"_q});
+        QVERIFY(second.waitForFinished());
+        QCOMPARE(second.exitCode(), 0);
+        QCOMPARE(second.readAllStandardOutput() + second.readAllStandardError(), QByteArray());
+        // The first has it open: in the list of recent projects, and locked.
+        QTRY_VERIFY_WITH_TIMEOUT(
+            TestFolder::read(path("config/Tarvona/Skyquill/settings.xml")).contains(project),
+            kStartMs);
+        QCOMPARE(runCli({"set-quality"_q, QString::fromUtf8(project), "pdop_max=3"_q}), 1);
+        QCOMPARE(log().count("Window shown"), 1);
+
+        first.kill(); // a crash leaves no lock behind
+        QVERIFY(first.waitForFinished());
+        QProcess third;
+        QCOMPARE(run(third, {"--startup-time"_q}), 0);
+        QVERIFY(third.readAllStandardOutput().contains("shown window"));
+    }
+
+    void aMissingSystemFileIsFatalAndReported()
+    {
+        QVERIFY(QFile::remove(toolFile("data_process_5.sys")));
+        QProcess process;
+        QCOMPARE(run(process, {}), -1); // the exception is caught by nobody
+        const QByteArray report = "sys->getSystemParameter()->load(" +
+                                  QFile::encodeName(toolFile("data_process_5.sys")) + ") fail!";
+        QVERIFY2(log().contains(report), log().constData());
+        QVERIFY(process.readAllStandardError().contains(report));
+    }
+
+    void aBrokenLayoutLeavesTheMap()
+    {
+        writeToolFile("main_frame.xml", "<main_frame>\n<menu caption=\"x\">\n<oops/>");
+        QProcess process; // no message box: nobody could answer it
+        QCOMPARE(run(process, {"--screenshot"_q, path("broken.png")}), 0);
+        QVERIFY(QFileInfo::exists(path("broken.png")));
+        QVERIFY2(log().contains("line 3: unknown element <oops>"), log().constData());
+        QVERIFY(log().contains("main_frame.xml"));
+    }
+
+    void beginsASessionWhereAServerIsConfigured()
+    {
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        writeToolFile(
+            "data_process_5.xml",
+            "<dictionary><entry key=\"countlyIP\" value=\"127.0.0.1\"/><entry key=\"countlyPort\""
+            " value=\"" +
+                QByteArray::number(server.serverPort()) +
+                "\"/><entry key=\"countlyAppKey\" value=\"k1\"/></dictionary>");
+        QProcess process;
+        start(process);
+        QTRY_VERIFY_WITH_TIMEOUT(server.hasPendingConnections(), kStartMs);
+        QTcpSocket* const socket = server.nextPendingConnection();
+        QTRY_VERIFY(socket->peek(5000).contains("\r\n\r\n"));
+        const QByteArray request = socket->readAll();
+        QVERIFY2(request.startsWith("GET /i?app_key=k1&device_id="), request.constData());
+        QVERIFY(request.contains("2.10.190508.MARLOKTE")); // the version's default
+        process.kill();
+        QVERIFY(process.waitForFinished());
+    }
 
 private:
     [[nodiscard]] QString path(const char* relative) const { return m_folder->path(relative); }
@@ -111,19 +220,6 @@ private:
     std::unique_ptr<TestFolder> m_folder;
 };
 
-void ProgramTest::init()
-{
-    m_folder = std::make_unique<TestFolder>();
-    QVERIFY(QDir().mkpath(path("程序 dir/bin")));
-    QVERIFY(QDir().mkpath(path("run")));
-    QVERIFY(
-        QFile::setPermissions(path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FILE), path("程序 dir/bin/skyquill")));
-    const QStringList configuration{"-r"_q, QStringLiteral(CONFIGURATION_FOLDER),
-                                    path("程序 dir/etc")};
-    QCOMPARE(QProcess::execute("cp"_q, configuration), 0);
-}
-
 QProcessEnvironment ProgramTest::environment() const
 {
     QProcessEnvironment values = QProcessEnvironment::systemEnvironment();
@@ -151,177 +247,6 @@ int ProgramTest::run(QProcess& process, const QStringList& arguments,
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
         return -1;
     return process.exitCode();
-}
-
-void ProgramTest::answersOnTheCommandLine()
-{
-    QProcess process;
-    QCOMPARE(run(process, {"--startup-time"_q}), 0);
-    static const QRegularExpression report("^\\d+ ms of CPU time to the shown window\n$"_q);
-    QVERIFY(report.match(QString::fromUtf8(process.readAllStandardOutput())).hasMatch());
-
-    QVERIFY(run(process, {"--no-such-option"_q}) > 0);
-    QVERIFY(process.readAllStandardError().contains("no-such-option"));
-
-    QCOMPARE(run(process, {"--components"_q}), 0);
-    QMap<QString, QStringList> found;
-    while (process.canReadLine()) {
-        const QString line = QString::fromUtf8(process.readLine()).simplified();
-        found[line.section(QLatin1Char(' '), 0, 0)] << line.section(QLatin1Char(' '), 1);
-    }
-    QString components;
-    for (const char* kind :
-         {"IWindow", "ILayerViewer", "IReactor", "ICommandExecuterx", "IGuiAssistant"})
-        components += QLatin1String(kind) + ": "_q + found.take(QLatin1String(kind)).join(", "_q) +
-                      QLatin1Char('\n');
-    QCOMPARE(components, QString::fromUtf8(kComponents));
-    QVERIFY(found.isEmpty());
-}
-
-void ProgramTest::writesAPictureOfTheWindow()
-{
-    QProcess process;
-    for (const Variables& variables : {Variables{}, Variables{{"LC_ALL", "C"}}}) {
-        QFile::remove(path("图 picture.png"));
-        const QStringList arguments{"--screenshot"_q, path("图 picture.png")};
-        QCOMPARE(run(process, arguments, variables), 0);
-        const QImage picture(path("图 picture.png"));
-        QVERIFY(picture.width() >= 640 && picture.height() >= 400);
-        // Nothing of it needs an action.
-        for (const char* line : {" info No texts", " warning ", " error "})
-            QVERIFY2(!log().contains(line), log().constData());
-    }
-}
-
-void ProgramTest::bothProgramsAnswerWithoutADisplay()
-{
-    QProcessEnvironment values = environment();
-    values.remove("DISPLAY"_q);
-    values.remove("WAYLAND_DISPLAY"_q);
-    values.remove("QT_QPA_PLATFORM"_q);
-    QProcessEnvironment broken = values;
-    broken.insert("DISPLAY"_q, ":no"_q);
-    broken.insert("QT_QPA_PLATFORM"_q, "no such"_q);
-    static const QRegularExpression version("^\\S+ \\d+\\.\\d+\\.\\d+\n$"_q);
-    for (const QProcessEnvironment& used : {values, broken}) {
-        for (const QString& program : {path("程序 dir/bin/skyquill"), QStringLiteral(CLI_FILE)}) {
-            QProcess process;
-            process.setProcessEnvironment(used);
-            process.start(program, {"--help"_q});
-            QVERIFY(process.waitForFinished());
-            QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-            QCOMPARE(process.exitCode(), 0);
-            QCOMPARE(process.readAllStandardError(), QByteArray());
-            QVERIFY(process.readAllStandardOutput().contains("--version"));
-            process.start(program, {"--version"_q});
-            QVERIFY(process.waitForFinished());
-            QCOMPARE(process.exitCode(), 0);
-            const QString answer = QString::fromUtf8(process.readAll());
-            QVERIFY2(version.match(answer).hasMatch(), qUtf8Printable(answer));
-        }
-    }
-}
-
-void ProgramTest::aSecondStartLeavesAtOnceAndHandsItsFileOver()
-{
-    QCOMPARE(runCli({"new"_q, path("测区 a"), "one"_q}), 0);
-    const QByteArray project = path("测区 a/one/one.kelx").toUtf8();
-    QProcess first;
-    start(first);
-    QTRY_VERIFY_WITH_TIMEOUT(log().contains("Window shown"), kStartMs);
-    QProcess second;
-    QCOMPARE(run(second, {}), 0);
-    second.setWorkingDirectory(path("测区 a")); // not that of the first
-    second.start(path("程序 dir/bin/skyquill"), {"./one/../one/one.kelx"_q});
-    QVERIFY(second.waitForFinished());
-    QCOMPARE(second.exitCode(), 0);
-    QCOMPARE(second.readAllStandardOutput() + second.readAllStandardError(), QByteArray());
-    // The first has it open: in the list of recent projects, and locked.
-    QTRY_VERIFY_WITH_TIMEOUT(
-        TestFolder::read(path("config/Tarvona/Skyquill/settings.xml")).contains(project), kStartMs);
-    QCOMPARE(runCli({"set-quality"_q, QString::fromUtf8(project), "pdop_max=3"_q}), 1);
-    QCOMPARE(log().count("Window shown"), 1);
-
-    first.kill(); // a crash leaves no lock behind
-    QVERIFY(first.waitForFinished());
-    QProcess third;
-    QCOMPARE(run(third, {"--startup-time"_q}), 0);
-    QVERIFY(third.readAllStandardOutput().contains("shown window"));
-}
-
-/// The menus and tool bars of the Chinese dark window, as the font engine paints them when it is
-/// told nothing by us, and when it does not thicken strokes at all.
-void ProgramTest::lightChineseTextIsNotBold()
-{
-    writeSettings("<entry key=\"language\" value=\"zh_CN\"/><entry key=\"theme\" value=\"dark\"/>");
-    constexpr const char* kStrokes = "FREETYPE_PROPERTIES";
-    const auto ink = [&](const Variables& strokes) {
-        QProcess process;
-        if (run(process, {"--screenshot"_q, path("menu.png")}, strokes) != 0)
-            qFatal("no picture");
-        const QImage picture(path("menu.png"));
-        double sum = 0;
-        for (int y = 0; y < 25; ++y) {
-            for (int x = 0; x < 500; ++x)
-                sum += qGray(picture.pixel(x, y));
-        }
-        return sum;
-    };
-    const double plain = ink({{kStrokes, "cff:darkening-parameters=500,0,1000,0,2500,0,4000,0"}});
-    const double heavy = ink({{kStrokes, ""}});
-    if (heavy < plain * 1.001)
-        QSKIP("no Chinese font here has strokes that are thickened");
-    QVERIFY(ink({}) < (plain + heavy) / 2);
-}
-
-void ProgramTest::aMissingSystemFileIsFatalAndReported()
-{
-    QVERIFY(QFile::remove(toolFile("data_process_5.sys")));
-    QProcess process;
-    QCOMPARE(run(process, {}), -1); // the exception is caught by nobody
-    const QByteArray report = "sys->getSystemParameter()->load(" +
-                              QFile::encodeName(toolFile("data_process_5.sys")) + ") fail!";
-    QVERIFY2(log().contains(report), log().constData());
-    QVERIFY(process.readAllStandardError().contains(report));
-}
-
-void ProgramTest::aBrokenLayoutLeavesTheMap()
-{
-    writeToolFile("main_frame.xml", "<main_frame>\n<menu caption=\"x\">\n<oops/>");
-    QProcess process; // no message box: nobody could answer it
-    QCOMPARE(run(process, {"--screenshot"_q, path("broken.png")}), 0);
-    QVERIFY(QFileInfo::exists(path("broken.png")));
-    QVERIFY2(log().contains("line 3: unknown element <oops>"), log().constData());
-    QVERIFY(log().contains("main_frame.xml"));
-}
-
-void ProgramTest::beginsASessionWhereAServerIsConfigured()
-{
-    QTcpServer server;
-    QVERIFY(server.listen(QHostAddress::LocalHost));
-    writeToolFile(
-        "data_process_5.xml",
-        "<dictionary><entry key=\"countlyIP\" value=\"127.0.0.1\"/><entry key=\"countlyPort\""
-        " value=\"" +
-            QByteArray::number(server.serverPort()) +
-            "\"/><entry key=\"countlyAppKey\" value=\"k1\"/></dictionary>");
-    QProcess process;
-    start(process);
-    QTRY_VERIFY_WITH_TIMEOUT(server.hasPendingConnections(), kStartMs);
-    QTcpSocket* const socket = server.nextPendingConnection();
-    QTRY_VERIFY(socket->peek(5000).contains("\r\n\r\n"));
-    const QByteArray request = socket->readAll();
-    QVERIFY2(request.startsWith("GET /i?app_key=k1&device_id="), request.constData());
-    QVERIFY(request.contains("2.10.190508.MARLOKTE")); // the version's default
-    process.kill();
-    QVERIFY(process.waitForFinished());
-
-    QProcess orderly; // leaves with the request under way
-    start(orderly, {"--startup-time"_q});
-    QTRY_COMPARE_WITH_TIMEOUT(orderly.state(), QProcess::NotRunning, kStartMs);
-    QCOMPARE(orderly.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(orderly.exitCode(), 0);
-    QVERIFY(server.hasPendingConnections());
 }
 
 QTEST_GUILESS_MAIN(ProgramTest)

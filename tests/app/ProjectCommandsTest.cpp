@@ -2,12 +2,9 @@
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "project/DataProcessDataManager.h"
-#include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
-#include "project/ProjectPlace.h"
 #include "project/RecentProjects.h"
 #include "project/ui/ProjectState.h"
-#include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/app/FrameTest.h"
 #include "tests/support/OnEvent.h"
@@ -103,13 +100,7 @@ class ProjectCommandsTest : public FrameTest
     {
         return ProjectPlace::planned(m_folder->path(), QString::fromUtf8(name));
     }
-    void makeProject(const char* name) const
-    {
-        QVERIFY(QDir().mkpath(place(name).folder));
-        basalt::Dictionary project;
-        ProjectCreator::describe(place(name), project);
-        QVERIFY(ProjectCreator::create(place(name), project).isDone());
-    }
+    void makeProject(const char* name) const { FrameTest::makeProject(place(name)); }
     void open(const char* name)
     {
         QVERIFY(m_frame->openFile(place(name).file));
@@ -203,18 +194,6 @@ private Q_SLOTS:
             QVERIFY2(classes.contains(QString::fromStdString(name)), name.c_str());
     }
 
-    void makesAProject()
-    {
-        newProject("测区 7", [](QDialog& settings) {
-            QCOMPARE(settings.windowTitle(), "Project Settings"_q);
-            applySystem(settings, "32650");
-        });
-        QVERIFY(coordParameter("coord_param_id") == "EPSG:32650");
-        expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "") +
-                    changeTo("测区 7"));
-        expectAsked("");
-    }
-
     void takesChangesBackByKeysButNotWhileTextIsTyped()
     {
         openNew("steps");
@@ -297,20 +276,7 @@ private Q_SLOTS:
         });
         QVERIFY(isOpen("a"));
         QVERIFY(coordParameter("coord_param_id") == "EPSG:32650");
-    }
-
-    void opensProjectFilesAlone()
-    {
-        makeProject("a");
-        m_chosenFile = place("a").database();
-        run("Open Project");
-        QVERIFY(!isOpen());
-        expectAsked("failed|failed to open project!");
-        QVERIFY(m_boxes->last.details.contains("is no project file"_q));
-        QVERIFY(m_boxes->last.details.contains(place("a").file));
-        QVERIFY(RecentProjects::list().isEmpty());
-        get_system_ini_parameter().dictionary().set("recent_project_1", m_chosenFile.toStdString());
-        QVERIFY(RecentProjects::list().isEmpty());
+        expectHeard(heard({"ON_PROJECT_CHANGED", "ON_SETTING_VIEW_FINISHED"}, "") + changeTo("a"));
     }
 
     void whatWouldBeStoredNowhereCannotBeChanged()
@@ -570,24 +536,6 @@ private Q_SLOTS:
         run("Close Project"); // saves
         open("a");
         QVERIFY(coordParameter("org_lon") == chosen);
-    }
-
-    void listsRecentProjects()
-    {
-        const QAction* const first = action("Recent Project 1");
-        const QAction* const second = action("Recent Project 2");
-        m_host->commands().refresh();
-        QVERIFY(first->isVisible() && !first->isEnabled() && !second->isVisible());
-        makeProject("a");
-        makeProject("b&c");
-        open("a");
-        open("b&c");
-        QCOMPARE(first->text(), "&1  "_q + place("b&c").file.replace(QLatin1Char('&'), "&&"_q));
-        QVERIFY(second->isVisible());
-        run("Close Project");
-        run("Recent Project 2");
-        QVERIFY(isOpen("a"));
-        QVERIFY(first->text().contains(place("a").file));
     }
 
     void opensADroppedFile()

@@ -39,30 +39,6 @@ TEST(Dictionary, ReadsLeadingNumbersAndFallsBackOnlyForMissingKeys)
     EXPECT_EQ(keysOf(*dictionary), "factor zone percent word empty ");
 }
 
-TEST(Dictionary, CopiesAllOrNamedEntriesOverWhatStandsThere)
-{
-    basalt::Dictionary from;
-    for (const auto& [key, value] : {std::pair("a", "1"), std::pair("b", "2"), std::pair("c", "3")})
-        from.set(key, value);
-    basalt::Dictionary to;
-    to.set("b", "old");
-    to.set("x", "kept");
-
-    dictionary_copy(from, to, "c,b,missing");
-    EXPECT_EQ(keysOf(to), "b x c ");
-    EXPECT_EQ(to.text("b"), "2");
-    EXPECT_FALSE(dictionary_same(from, to));
-
-    dictionary_copy(from, to);
-    EXPECT_EQ(keysOf(to), "b x c a ");
-    dictionary_copy(to, to);
-    EXPECT_EQ(to.size(), 4U);
-    to.remove("x");
-    EXPECT_TRUE(dictionary_same(from, to)) << "in another order";
-    to.set("c", "other");
-    EXPECT_FALSE(dictionary_same(from, to));
-}
-
 // Small and large dictionaries find their keys in different ways: both against std::map.
 TEST(Dictionary, AgreesWithAMapThroughGrowthRemovalAndClearing)
 {

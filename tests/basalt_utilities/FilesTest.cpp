@@ -50,18 +50,6 @@ TEST_F(Files, AFailedCopyIsLoggedAndLeavesTheTargetAsItWas)
     EXPECT_TRUE(log.holds("missing.db") && log.holds("no/such/folder/x.db"));
 }
 
-TEST_F(Files, FoldersAreMadeWithThoseAboveAndDeletingTwiceIsFine)
-{
-    EXPECT_TRUE(file_system_create_dir(path("项目/one two/三")));
-    EXPECT_TRUE(file_system_create_dir(path("项目/one two/三")));
-    EXPECT_TRUE(file_system_check_file(path("项目/one two/三")));
-    m_folder.write("file", "");
-    EXPECT_FALSE(file_system_create_dir(path("file/below")));
-    EXPECT_TRUE(file_system_delete_file(path("file")));
-    EXPECT_TRUE(file_system_delete_file(path("file")));
-    EXPECT_FALSE(file_system_check_file(path("file")));
-}
-
 TEST(Paths, AppDirIsTheFolderOfTheExecutable)
 {
     const fs::path executable = fs::read_symlink("/proc/self/exe");

@@ -89,12 +89,3 @@ TEST(KeyListWriting, WhatIsWrittenReadsBack)
     EXPECT_TRUE(csa_to_dictionary(read, dictionary_to_csa(written)));
     EXPECT_EQ(entriesOf(read), entriesOf(written));
 }
-
-TEST(NextWord, WalksAListWithEmptyWords)
-{
-    std::string_view rest = "ON_A,,ON_B";
-    std::vector<std::string_view> words;
-    while (!rest.empty())
-        words.push_back(next_word3(rest, ','));
-    EXPECT_EQ(words, (std::vector<std::string_view>{"ON_A", "", "ON_B"}));
-}

@@ -1,6 +1,7 @@
 #include "design/Azimuth.h"
 
 #include "lum_sdk/coords/Angles.h"
+#include "tests/support/Literals.h"
 
 #include <gtest/gtest.h>
 
@@ -58,11 +59,11 @@ TEST(Azimuth, SinglePrecisionLosesNothingOfLargeCoordinates)
 
 TEST(Azimuth, SecondsNeverReadSixtyAndZeroHasNoSign)
 {
-    EXPECT_EQ(azimuthText(10.99999999, kDms), QStringLiteral("11.000000")); // 59' 59.99996"
-    EXPECT_EQ(azimuthText(-12.999999, kDms), QStringLiteral("-13.000000")); // 59' 59.9964"
-    EXPECT_EQ(azimuthText(-45.5, kDms), QStringLiteral("-45.300000"));
+    EXPECT_EQ(azimuthText(10.99999999, kDms), "11.000000"_q); // 59' 59.99996"
+    EXPECT_EQ(azimuthText(-12.999999, kDms), "-13.000000"_q); // 59' 59.9964"
+    EXPECT_EQ(azimuthText(-45.5, kDms), "-45.300000"_q);
     for (const auto format : {kDms, kDegrees})
-        EXPECT_EQ(azimuthText(-1e-9, format), QStringLiteral("0.000000"));
+        EXPECT_EQ(azimuthText(-1e-9, format), "0.000000"_q);
 }
 
 TEST(Azimuth, TextGoesThereAndBack)
@@ -73,7 +74,7 @@ TEST(Azimuth, TextGoesThereAndBack)
         EXPECT_NEAR(*read, degrees, 1.5e-6);
     }
     EXPECT_FALSE(azimuthOf(QString(), kDms));
-    EXPECT_FALSE(azimuthOf(QStringLiteral("nan"), kDegrees));
+    EXPECT_FALSE(azimuthOf("nan"_q, kDegrees));
 }
 
 TEST(Azimuth, FoldedIsBelow360)
@@ -88,7 +89,7 @@ TEST(Azimuth, FoldedIsBelow360)
 
 TEST(Azimuth, OnlyNumbersWithAPointAreCoordinates)
 {
-    EXPECT_EQ(readCoordinate(QStringLiteral(" -4123456.789 ")), -4123456.789);
+    EXPECT_EQ(readCoordinate(" -4123456.789 "_q), -4123456.789);
     for (const char* text :
          {"", " ", "x", "12,5", "1e308", "1e999", "nan", "inf", "1 2", "0x10", "1000000001"})
         EXPECT_FALSE(readCoordinate(QString::fromLatin1(text))) << text;

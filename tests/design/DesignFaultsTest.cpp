@@ -86,22 +86,6 @@ TEST(DesignFaults, GridsThatNeverEndOrAreTooLargeChangeNothing)
     }
 }
 
-TEST(DesignFaults, ANegativeStepBelowTheStartAndAnEndBelowItMakeNothing)
-{
-    basalt::Dictionary parameters;
-    parameters.set("r_line_end_num", "-5");
-    for (const char* step : {"10", "-10"}) {
-        parameters.set("r_line_step", step);
-        const DesignGrid grid = DesignGrid::from(parameters, GridKind::Receiver);
-        EXPECT_FALSE(faultOf(grid));
-        EXPECT_EQ(grid.pointCount(), 0);
-        EXPECT_FALSE(GridOutline::of(grid));
-        ASSERT_TRUE(emptinessOf(grid));
-        EXPECT_EQ(emptinessOf(grid)->text.toStdString(),
-                  "R-Line End No.: -5 is below the first number, 0. No points.");
-    }
-}
-
 TEST(DesignFaults, StoredTextsKeepAllDigits)
 {
     const auto stored = [](const char* key, const char* text) {

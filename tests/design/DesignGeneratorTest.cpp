@@ -2,8 +2,6 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "design/DesignFaults.h"
-#include "lum_sdk/events/EventManager.h"
-#include "lum_sdk/events/PlatformEvents.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "tests/support/EventLog.h"
 
@@ -52,19 +50,6 @@ std::vector<std::string> numbersOf(const DesignPoints& points)
 using Numbers = std::vector<std::string>;
 
 } // namespace
-
-TEST(DesignGenerator, DefaultsMakeTheReceiversOfAWholeSurvey)
-{
-    const auto [outcome, points] = generated({});
-    EXPECT_EQ(outcome.text().toStdString(), "10,201 design points generated");
-    EXPECT_EQ(points.lineCount(), 101U);
-    const DesignPoint* const point = points.find("0020", "00200030");
-    ASSERT_NE(point, nullptr);
-    EXPECT_NEAR(point->north, 45, 1e-9); // points run north, lines step east
-    EXPECT_NEAR(point->east, 30, 1e-9);
-    EXPECT_EQ(point->type, 1);
-    EXPECT_EQ(point->status, 0);
-}
 
 TEST(DesignGenerator, NumbersArePaddedAndNeverCut)
 {
@@ -139,45 +124,15 @@ TEST(DesignGenerator, PositionsHoldFarFromTheStart)
     }
 }
 
-TEST(DesignGenerator, ReplacesAllPointsOfBothKinds)
+TEST(DesignGenerator, SourcesLieOverReceiversOfTheSameNumbers)
 {
-    ProgressReporter nobody(nullptr);
-    DesignPoints points;
-    const Values small = {{"r_line_end_num", "10"},     {"r_pt_end_num", "10"},
-                          {"s_line_start_num", "1000"}, {"s_pt_end_num", "20"},
-                          {"s_recvrse_recvline", "1"},  {"calc_s_start_azi", "90"}};
-    const auto texts = [&](DesignLines lines) {
-        return generateDesign(parameters(small), lines, points, nobody).text().toStdString();
-    };
-    EXPECT_EQ(texts(DesignLines::Both), "7 design points generated");
-    EXPECT_EQ(points.find("1000", "10000020")->type, 0);
-    EXPECT_DOUBLE_EQ(points.find("1000", "10000020")->azimuth, 90);
-    EXPECT_EQ(texts(DesignLines::Source), "7 design points replaced by 3");
-    EXPECT_EQ(points.find("0000", "00000000"), nullptr);
-    EXPECT_EQ(texts(DesignLines::Receiver), "3 design points replaced by 4");
-    // Sources over receivers of the same numbers.
-    const auto both = generated({{"s_line_end_num", "10"}, {"s_pt_base", "3"}}, DesignLines::Both);
+    const Values values = {{"s_line_end_num", "10"}, {"s_pt_base", "3"}};
+    const auto both = generated(values, DesignLines::Both);
     EXPECT_EQ(both.outcome.text().toStdString(),
               "10,401 design points generated; 2 receiver points had the "
               "numbers of source points and were left out");
-    const DesignGrid receivers = DesignGrid::from(parameters({}), GridKind::Receiver);
-    const DesignGrid sources = DesignGrid::from(
-        parameters({{"s_line_end_num", "10"}, {"s_pt_base", "3"}}), GridKind::Source);
-    EXPECT_EQ(sharedPoints(receivers, sources), 2);
+    EXPECT_EQ(sharedPoints(DesignGrid::from(parameters(values), GridKind::Receiver),
+                           DesignGrid::from(parameters(values), GridKind::Source)),
+              2);
     EXPECT_EQ(both.points.begin()->second.begin()->type, 0);
-}
-
-TEST(DesignGenerator, ReportsEachLineOfTheWholeSurvey)
-{
-    EventManager manager;
-    const EventLog log(manager, events::kProgress);
-    ProgressReporter progress(&manager);
-    DesignPoints points;
-    const basalt::Dictionary half = parameters(
-        {{"r_line_end_num", "35"}, {"calc_r_line_start_num", "20"}, {"s_line_start_num", "2000"}});
-    ASSERT_TRUE(generateDesign(half, DesignLines::Both, points, progress).isDone());
-    EXPECT_EQ(log.payloads(),
-              (std::vector<std::string>{"text=Design R-Design Data,value=25,is_exec=0",
-                                        "text=Design R-Design Data,value=50,is_exec=0", "show=0",
-                                        "show=0"}));
 }

@@ -46,9 +46,6 @@ TEST_F(DesignCsv, ProgressFollowsTheAcceptedLines)
               (std::vector<std::string>{"text=Import Design Data,value=33.3333,is_exec=0",
                                         "text=Import Design Data,value=100,is_exec=0", "show=0"}));
     heard.events.clear();
-    ASSERT_TRUE(read(""));
-    EXPECT_EQ(heard.payloads(), std::vector<std::string>{"show=0"});
-    heard.events.clear();
     QByteArray many;
     for (int i = 0; i < 1000; ++i)
         many += i % 25 == 0 ? "skipped\n" : "A,L,1,2,3,4,5,6\n";
@@ -56,21 +53,6 @@ TEST_F(DesignCsv, ProgressFollowsTheAcceptedLines)
     // One report for each hundredth of the lines, and the end.
     EXPECT_EQ(heard.events.front().payload, "text=Import Design Data,value=1,is_exec=0");
     EXPECT_EQ(heard.events.size(), 101U);
-}
-
-TEST_F(DesignCsv, LinesAreWrittenAsTheyAreNamedWithProgress)
-{
-    points.set({"L1", "9", 1, 2, 3, 4, 0, 0});
-    points.set({"L1", "10", 1, 2, 3, 4, 0, 2});
-    points.set({"L2", "7", 1, 2, 3, 4, 0, 0});
-    EXPECT_TRUE(write({"L2"_q, "none"_q, "L1"_q}).isDone());
-    EXPECT_TRUE(TestFolder::read(path()).endsWith("status\n"
-                                                  "7,L2,1.0000,2.0000,3.0000,7,4.000000,0,0\n"
-                                                  "10,L1,1.0000,2.0000,3.0000,10,4.000000,0,2\n"
-                                                  "9,L1,1.0000,2.0000,3.0000,9,4.000000,0,0\n"));
-    EXPECT_EQ(heard.payloads(),
-              (std::vector<std::string>{"text=Export Design Data,value=33.3333,is_exec=0",
-                                        "text=Export Design Data,value=100,is_exec=0", "show=0"}));
 }
 
 TEST_F(DesignCsv, AFileThatCannotBeWrittenStaysAsItWas)

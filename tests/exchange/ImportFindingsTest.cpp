@@ -98,22 +98,6 @@ TEST_F(ImportFindings, APlaceHasTheNameThatItsPointHasGot)
     EXPECT_EQ(second.siblingAtColumn(3).data().toString(), "C10012034"_q);
 }
 
-TEST_F(ImportFindings, ADatabaseHasNoLines)
-{
-    design.set({"L", "2", 1, 1, 1, 1, 1, 1});
-    DesignPoints staged;
-    for (const char* number : {"1", "2"})
-        staged.set({"L", number, 1, 1, 1, 1, 1, 1});
-    staged.set({"A", "2", 1, 1, 1, 1, 1, 1});
-    summary.isDatabase = true;
-    tellReplaced(design, staged, summary);
-    EXPECT_EQ(placesOf(summary.replaced), "0 L/2; ");
-    EXPECT_EQ(summary.firstLine, "A");
-    const ImportFindingsModel model(summary);
-    EXPECT_EQ(model.index(0, 1).data().toString(), QString());
-    EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), "Result"_q);
-}
-
 TEST_F(ImportFindings, TheBeginningOfAFileTellsWhatItHolds)
 {
     using Kind = CsvHead::Kind;

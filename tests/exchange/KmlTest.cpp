@@ -109,19 +109,6 @@ TEST_F(Kml, HoldsEveryPointWhereTheCoordinateServicePutsIt)
     }
 }
 
-TEST_F(Kml, ProgressFollowsTheLinesThatThereAre)
-{
-    design.set({"1", "1", 4400000, 500000, 1, 0, 0, 1});
-    design.set({"2", "1", 4400000, 500000, 1, 0, 0, 0});
-    const QStringList lines{"2"_q, "none"_q, "1"_q, "none"_q};
-    ASSERT_TRUE(writeDesign(lines, true).isDone());
-    EXPECT_EQ(heard.payloads(),
-              (std::vector<std::string>{"text=Export Design Data,value=25,is_exec=0",
-                                        "text=Export Design Data,value=75,is_exec=0", "show=0"}));
-    EXPECT_EQ(read(0).size(), 1U);
-    EXPECT_EQ(read(1).size(), 1U) << "no line without a point";
-}
-
 // GDAL tells of a full disk late or never; it is full at one place after the other.
 TEST_F(Kml, AFullDiskLeavesTheFileAsItWas)
 {

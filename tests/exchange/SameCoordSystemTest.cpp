@@ -87,19 +87,3 @@ TEST(SameCoordSystem, NotWithDifferencesThatShow)
     expectCounts("fit_valid",
                  {"fit_a0", "fit_a1", "fit_a2", "fit_a3", "fit_a4", "fit_a5", "fit_x0", "fit_y0"});
 }
-
-TEST(SameCoordSystem, NamesWhatDiffers)
-{
-    const auto keys = [](const Values& first, const Values& second) {
-        return differingParameters(dictionaryOf(first), dictionaryOf(second));
-    };
-    using Keys = std::vector<std::string>;
-    EXPECT_EQ(keys({{"org_lon", 117}, {"_7type", 1}, {"_7dx", 5}, {"_7dy", 1}},
-                   {{"project_type", 2}, {"_7type", 2}, {"_7dx", 6}, {"_7dy", 1}}),
-              (Keys{"project_type", "org_lon", "_7type", "_7dx"}));
-    EXPECT_EQ(keys({{"_4valid", 1}, {"_4dx", 1}, {"_4dy", 2}}, {{"_4dx", 8}, {"fit_valid", 1}}),
-              Keys{"_4valid"})
-        << "the switch stands for its parameters";
-    EXPECT_EQ(keys({{"correct_valid", 1}, {"correct_dh", 1}}, {{"correct_valid", 2}}),
-              Keys{"correct_dh"});
-}

@@ -2,7 +2,6 @@
 #include "exchange/SurveyCsvReader.h"
 #include "exchange/SurveyCsvWriter.h"
 #include "model/SurveyColumns.h"
-#include "tests/support/Literals.h"
 #include "tests/support/Points.h"
 
 #include <QCoreApplication>
@@ -98,13 +97,4 @@ TEST_F(SurveyCsv, AnExportInDegreesComesBackAsTheSameFileInEachLanguage)
     points.clear();
     EXPECT_TRUE(read(inChinese)) << "in the English program";
     EXPECT_EQ(written(surveyCaptions(), 1), english);
-}
-
-TEST_F(SurveyCsv, ALineOfTheFileFollowsTheCaptionsThatAreKnown)
-{
-    points.set(surveyPoint("7", "8"));
-    EXPECT_EQ(written({"point num"_q, "unknown"_q, "line num"_q, "age of diff"_q}, 0),
-              "point num,unknown,line num,age of diff\n8,,7,0\n");
-    EXPECT_EQ(heard.payloads(),
-              (std::vector<std::string>{"text=Export Survey Data,value=100,is_exec=0", "show=0"}));
 }

@@ -1,13 +1,13 @@
 #include "lum_sdk/Countly.h"
 #include "lum_sdk/InstanceReceiver.h"
 #include "lum_sdk/SingleInstance.h"
+#include "tests/support/Literals.h"
 #include "tests/support/LogCapture.h"
 
 #include <QLocalSocket>
 #include <QNetworkProxy>
 #include <QProcess>
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QtTest>
 
 #include <csignal>
@@ -15,25 +15,12 @@
 
 namespace {
 
-/// The first line of the next request, which is answered; nothing when none comes.
-QString nextRequest(QTcpServer& server)
-{
-    if (!QTest::qWaitFor([&] { return server.hasPendingConnections(); }))
-        return {};
-    QTcpSocket* const socket = server.nextPendingConnection();
-    if (!QTest::qWaitFor([&] { return socket->peek(10000).contains("\r\n\r\n"); }))
-        return {};
-    const QByteArray line = socket->readLine().trimmed();
-    socket->write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\nConnection: close\r\n\r\n{}");
-    return QString::fromLatin1(line);
-}
-
 /// The other process; it is killed with the object.
 struct Holder : QProcess
 {
     Holder()
     {
-        start(QCoreApplication::applicationFilePath(), {QStringLiteral("hold")});
+        start(QCoreApplication::applicationFilePath(), {"hold"_q});
         isReady = waitForReadyRead() && readLine() == "free\n";
     }
     ~Holder() override
@@ -60,27 +47,12 @@ class SessionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void beginsWithOneRequest()
-    {
-        QTcpServer server;
-        QVERIFY(server.listen(QHostAddress::LocalHost));
-        Countly session;
-        session.begin("key & co", "1.0", "127.0.0.1", server.serverPort());
-
-        const QString line = nextRequest(server);
-        for (const char* part :
-             {"GET /i?app_key=key%20%26%20co&", "&begin_session=1", "_app_version"})
-            QVERIFY2(line.contains(QLatin1String(part)), qPrintable(line));
-        QTest::qWait(50);
-        QVERIFY(!server.hasPendingConnections());
-    }
-
     void sendsNothingWithoutAServer()
     {
         QTcpServer server; // as the proxy of this process, it would see a request to anywhere
         QVERIFY(server.listen(QHostAddress::LocalHost));
         QNetworkProxy::setApplicationProxy(
-            {QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), server.serverPort()});
+            {QNetworkProxy::HttpProxy, "127.0.0.1"_q, server.serverPort()});
         Countly session;
         session.begin("key", "1.0", "", server.serverPort());
         session.begin("key", "1.0", nullptr, server.serverPort());
@@ -117,13 +89,13 @@ private Q_SLOTS:
         }
         // What is no message, or half of one, is passed over.
         QLocalSocket stranger;
-        QString path = lum::instanceFile(holder.program(), QStringLiteral(".socket"));
+        QString path = lum::instanceFile(holder.program(), ".socket"_q);
         stranger.connectToServer(path);
         if (stranger.waitForConnected()) {
             stranger.write("GET / HTTP/1.1\r\n");
             QVERIFY(stranger.waitForBytesWritten());
         }
-        QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/after")));
+        QVERIFY(lum::handToInstance(holder.program(), "/after"_q));
         QCOMPARE(holder.nextLine(), QByteArray("got /after\n"));
     }
 
@@ -132,7 +104,7 @@ private Q_SLOTS:
         Holder holder;
         QVERIFY(holder.isReady);
         holder.send(SIGSTOP);
-        QVERIFY(lum::handToInstance(holder.program(), QStringLiteral("/later"), 200));
+        QVERIFY(lum::handToInstance(holder.program(), "/later"_q, 200));
         holder.send(SIGCONT);
         QCOMPARE(holder.nextLine(), QByteArray("got /later\n"));
     }
@@ -142,8 +114,8 @@ private Q_SLOTS:
         Holder holder;
         QVERIFY(holder.isReady);
         // By another path to the same program, only looking.
-        QVERIFY(instance_is_run(QStringLiteral("./") + QFileInfo(holder.program()).fileName(), 0));
-        QVERIFY(!instance_is_run(QStringLiteral("/another/program"), 0));
+        QVERIFY(instance_is_run("./"_q + QFileInfo(holder.program()).fileName(), 0));
+        QVERIFY(!instance_is_run("/another/program"_q, 0));
         holder.send(SIGKILL);
         QVERIFY(holder.waitForFinished());
         QVERIFY(!instance_is_run(holder.program(), 0));
@@ -159,7 +131,7 @@ private Q_SLOTS:
             QThread::msleep(200);
             holder.send(SIGKILL);
         });
-        QVERIFY(!lum::handToInstance(holder.program(), QStringLiteral("/a")));
+        QVERIFY(!lum::handToInstance(holder.program(), "/a"_q));
         killer.join();
         QVERIFY(!instance_is_run(holder.program(), 1)); // its own lock is no other instance
         QVERIFY(!Holder().isReady);

@@ -8,6 +8,8 @@
 #include "tests/map/PlainPictures.h"
 #include "tests/map/TestSurvey.h"
 #include "tests/support/Literals.h"
+#include "tests/support/Pixels.h"
+#include "tests/support/Points.h"
 
 #include <QDir>
 #include <QPainter>
@@ -71,22 +73,16 @@ int farthestChannel(QRgb a, QRgb b)
 /// The pixels of about this colour.
 int pixelsOf(const QImage& picture, const QColor& color)
 {
-    int count = 0;
-    for (int y = 0; y < kSide; ++y) {
-        for (int x = 0; x < kSide; ++x)
-            count += farthestChannel(picture.pixel(x, y), color.rgb()) < kChannelTolerance ? 1 : 0;
-    }
-    return count;
+    return countPixels(picture, picture.rect(), [&](const QPoint& at) {
+        return farthestChannel(picture.pixel(at), color.rgb()) < kChannelTolerance;
+    });
 }
 
 int differingPixels(const QImage& a, const QImage& b)
 {
-    int count = 0;
-    for (int y = 0; y < kSide; ++y) {
-        for (int x = 0; x < kSide; ++x)
-            count += farthestChannel(a.pixel(x, y), b.pixel(x, y)) > kChannelTolerance ? 1 : 0;
-    }
-    return count;
+    return countPixels(a, a.rect(), [&](const QPoint& at) {
+        return farthestChannel(a.pixel(at), b.pixel(at)) > kChannelTolerance;
+    });
 }
 
 int paintedPixels(const QImage& picture)
@@ -176,28 +172,14 @@ private Q_SLOTS:
         check("the drawing area's edge", cut);
     }
 
-    void pointsAndLabelsNeedRoom()
-    {
-        const DesignPoints points = TestSurvey().design(1, 1, 1);
-        const auto painted = [&](double spacing) {
-            return paintedPixels(designPicture(points, frameAt(4400000, 500000, 1), {spacing}));
-        };
-        QVERIFY(painted(9.99) < painted(10)); // the circle is drawn
-        QCOMPARE(painted(10), painted(79.99));
-        QVERIFY(painted(79.99) < painted(80)); // the labels are drawn
-    }
-
     void aDesignPlaceTakesTheBrushInUse()
     {
         SurveyPoints points;
         for (const int place : {1, 2, 3}) {
-            SurveyPoint point;
-            point.lineNumber = "1";
-            point.pointNumber = std::to_string(place);
+            SurveyPoint point = surveyPoint("1", std::to_string(place));
             point.north = 100;
-            point.east = 100 + 40 * place;
+            point.east = point.designEast = 100 + 40 * place;
             point.designNorth = 60;
-            point.designEast = point.east;
             point.referenceNorth = place == 1 ? 1e6 : 180; // the first base is not on the screen
             point.referenceEast = 200;
             points.set(point);
@@ -207,8 +189,7 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(108, 168), QColor(Qt::red));  // of the first line's label
         QCOMPARE(picture.pixelColor(148, 168), QColor(Qt::blue)); // of the second point's base
 
-        SurveyPoint far; // beside the picture, but on the screen, with its base
-        far.lineNumber = "0";
+        SurveyPoint far = surveyPoint("0", "1"); // beside the picture, on the screen, with its base
         far.north = far.referenceNorth = 100;
         far.east = 1600;
         far.referenceEast = 1572;
@@ -218,24 +199,6 @@ private Q_SLOTS:
         }
         QCOMPARE(surveyPicture(points, frameAt(100, 200, 1)).pixelColor(68, 168),
                  QColor(Qt::blue)); // of that base
-    }
-
-    void partsOfTheSurveyAreLeftOut()
-    {
-        const SurveyPoints points = TestSurvey().results(2, 3, 1, 12);
-        const PictureFrame frame = frameAt(4400050, 500050, 1);
-        const auto pixels = [&](const SurveyPictureOptions& options, Qt::GlobalColor color) {
-            return pixelsOf(surveyPicture(points, frame, options), color);
-        };
-        using Names = SurveyPictureOptions::Names;
-        QVERIFY(pixels({}, Qt::green) > 0 && pixels({}, Qt::cyan) > 0);
-        QCOMPARE(pixels({false, true}, Qt::green), 0);
-        QVERIFY(pixels({false, true}, Qt::cyan) > 0);
-        QCOMPARE(pixels({true, false}, Qt::cyan), 0);
-        QVERIFY(pixels({true, false}, Qt::green) > 0);
-        const int circles = pixels({false, false, Names::None}, Qt::red);
-        QVERIFY(circles >= 6 * 12 && circles <= 6 * 32); // six circles of radius 2, and no text
-        QVERIFY(pixels({false, false, Names::WithRoom}, Qt::red) > circles);
     }
 
     void theFirstClassLiesOnTopAndAllElseIsGrey()
@@ -296,10 +259,7 @@ private Q_SLOTS:
         QCOMPARE(all % one, 0); // the pixels of whole names
         QVERIFY(all / one > 20);
         QVERIFY(pixelsOf(crowded, Qt::red) > 0 && pixelsOf(crowded, Qt::blue) == 0);
-        for (int y = mark.top(); y <= mark.bottom(); ++y) {
-            for (int x = mark.left(); x <= mark.right(); ++x)
-                QCOMPARE(crowded.pixelColor(x, y), QColor(Qt::white));
-        }
+        QCOMPARE(countPixels(crowded, mark, Qt::white), mark.width() * mark.height());
         picture.fill(Qt::black);
         WaitingNames onDark;
         onDark.add({{100, 100}, "808", &black, 0});

@@ -2,6 +2,7 @@
 #include "map/MarkExtent.h"
 #include "map/SurveyMarks.h"
 #include "tests/map/TestSurvey.h"
+#include "tests/support/Points.h"
 
 #include <gtest/gtest.h>
 
@@ -131,9 +132,7 @@ TEST(SurveyMarks, ShareABaseStationWithinATenthOfAMillimetre)
     SurveyPoints points;
     int number = 100;
     for (const double offset : {0.0, 0.000001, -0.0000099, 0.0000101, 0.00001005, 300.0, 0.0}) {
-        SurveyPoint point;
-        point.lineNumber = "1";
-        point.pointNumber = std::to_string(++number);
+        SurveyPoint point = surveyPoint("1", std::to_string(++number));
         point.referenceNorth = 4400000 + offset;
         point.referenceEast = 500000;
         point.referenceAltitude = number;
@@ -147,26 +146,4 @@ TEST(SurveyMarks, ShareABaseStationWithinATenthOfAMillimetre)
     EXPECT_EQ(marks.bases()[1].altitudeM, 104) << "the first result tells of the station";
     EXPECT_EQ(marks.basePlaces()[2], QPointF(500000, 4400300));
     EXPECT_TRUE(SurveyMarks({}, kTurned).gridBounds().isEmpty());
-}
-
-TEST(SurveyMarks, ExtentHoldsResultsAndBasesButNotTheDesign)
-{
-    SurveyPoint point;
-    point.lineNumber = "1";
-    point.pointNumber = "1";
-    point.north = 100;
-    point.east = 200;
-    point.designNorth = 9999;
-    point.designEast = -9999;
-    point.referenceNorth = 50;
-    point.referenceEast = 700;
-    SurveyPoints points;
-    points.set(point);
-    point.pointNumber = "2";
-    point.referenceNorth = kNaN;
-    points.set(point);
-    const SurveyMarks marks(points, kTurned);
-    EXPECT_EQ(markExtent(marks.gridBounds(), kTurned), QRectF(200, 50, 500, 50));
-    EXPECT_EQ(marks.nearestBase({50, 700}, 1), 0U);
-    EXPECT_FALSE(marks.nearestBase({50, 701}, 1));
 }

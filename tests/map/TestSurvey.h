@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/PointLines.h"
+#include "tests/support/Points.h"
 
 #include <string>
 
@@ -20,9 +21,7 @@ struct TestSurvey
         for (int line = 0; line < lines; ++line) {
             const std::string number = std::to_string(1001 + line);
             for (int place = 0; place < pointsPerLine; ++place) {
-                DesignPoint point;
-                point.lineNumber = number;
-                point.pointNumber = number + std::to_string(1001 + place);
+                DesignPoint point = designPoint(number, number + std::to_string(1001 + place));
                 point.north = north + line * lineStepM;
                 point.east = east + place * pointStepM;
                 point.type = line < receiverLines ? 1 : 0;
@@ -43,9 +42,7 @@ struct TestSurvey
         for (const auto& [number, line] : grid) {
             const double share = ((count / pointsPerLine) % bases + 0.5) / bases;
             for (const DesignPoint& designed : line) {
-                SurveyPoint point;
-                point.lineNumber = number;
-                point.pointNumber = designed.pointNumber;
+                SurveyPoint point = surveyPoint(number, designed.pointNumber);
                 point.north = designed.north + offsetM;
                 point.east = designed.east + offsetM / 2;
                 if (count++ % 7 != 0) {

@@ -1,9 +1,7 @@
 #include "basalt_utilities/Dictionary.h"
-#include "model/CodeTables.h"
-#include "model/CoordinateRecord.h"
 #include "model/DesignRecord.h"
-#include "model/PointNumber.h"
 #include "model/SurveyRecord.h"
+#include "tests/support/Points.h"
 
 #include <gtest/gtest.h>
 
@@ -20,14 +18,6 @@ std::string joined(const RecordTexts& texts)
     return all;
 }
 
-SurveyPoint pointOf(const char* line, const char* number)
-{
-    SurveyPoint point;
-    point.lineNumber = line;
-    point.pointNumber = number;
-    return point;
-}
-
 } // namespace
 
 TEST(DesignRecord, WritesEachValueInItsForm)
@@ -40,7 +30,7 @@ TEST(DesignRecord, WritesEachValueInItsForm)
 
 TEST(SurveyRecord, WritesEachValueInItsForm)
 {
-    SurveyPoint point = pointOf("1001", "C12345678_3");
+    SurveyPoint point = surveyPoint("1001", "C12345678_3");
     point.latitude = 39.123456786;
     point.altitude = 12.00006;
     point.dateTime = 1700000000123;
@@ -73,48 +63,4 @@ TEST(SurveyRecord, ReadsTimesThatCameThroughARealColumn)
     EXPECT_EQ(point.rawOffset, 9007199254740993);
     EXPECT_EQ(point.dateTime, 0);
     EXPECT_EQ(point.ageOfDiff, 2);
-}
-
-TEST(PointNumber, CheckPointsAreCountedWithinTheirLine)
-{
-    SurveyPoints standing;
-    SurveyPointFiler(standing).file(pointOf("1", "C12345678"));
-    SurveyPoints points;
-    SurveyPointFiler filer(points, &standing);
-    for (const char* line : {"1", "1", ""})
-        filer.file(pointOf(line, "C12345678"));
-    filer.file(pointOf("", "C1234567"));
-    filer.file(pointOf("", "C1234567"));
-    filer.file(pointOf("2", "C测线三四五六七八"));
-    std::string filed;
-    for (const auto& [number, line] : points) {
-        for (const SurveyPoint& point : line)
-            filed += number + '/' + point.pointNumber + ' ';
-    }
-    EXPECT_EQ(filed, "1/C12345678_1 1/C12345678_2 1234/C12345678_0 2/C测线三四五六七八_0 "
-                     "EmptyLine/C1234567 ");
-    EXPECT_NE(standing.find("1", "C12345678_0"), nullptr);
-}
-
-TEST(PointNumber, CheckPointsAreWrittenWithNineCharacters)
-{
-    for (const auto& [number, written] :
-         {std::pair("C12345678_12", "C12345678"),
-          std::pair("C测线三四五六七八_0", "C测线三四五六七八"), std::pair("C1234567", "C1234567"),
-          std::pair("123456789_0", "123456789_0")})
-        EXPECT_EQ(writtenPointNumber(number), written);
-}
-
-TEST(CodeTables, NameSolutionsAndObstacles)
-{
-    for (const int code : {0, 1, 2, 4, 5, 7})
-        EXPECT_EQ(solutionTypeCode(solutionTypeText(code)), code);
-    EXPECT_EQ(solutionTypeCode(solutionTypeText(3)), 2);
-    EXPECT_EQ(solutionTypeText(6), QStringLiteral("unknow"));
-    EXPECT_EQ(solutionTypeCode(QStringLiteral("unknow")), -1);
-    EXPECT_EQ(obstacleText(1), QStringLiteral("houses"));
-    EXPECT_EQ(obstacleText(32), QStringLiteral("building"));
-    EXPECT_EQ(obstacleText(33), QStringLiteral("pipeline"));
-    for (const int code : {0, -1, 34})
-        EXPECT_EQ(obstacleText(code), QStringLiteral("undefined"));
 }

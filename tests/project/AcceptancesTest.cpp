@@ -1,16 +1,5 @@
-#include "lum_sdk/coords/ICoordTransform.h"
-#include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "lum_sdk/Host.h"
-#include "project/DataProcessDataManager.h"
-#include "project/PointCorrection.h"
-#include "project/ProjectCreator.h"
 #include "quality/problems/ProblemList.h"
-#include "tests/project/ExpectOutcome.h"
-#include "tests/project/TestProject.h"
-#include "tests/support/Literals.h"
-#include "tests/support/TestFolder.h"
-
-#include <QDir>
+#include "tests/project/SavedProject.h"
 
 namespace {
 
@@ -22,27 +11,16 @@ QString nothing(const Problem& /*problem*/)
 constexpr ProblemKind kFar{"too_far", "Too far", Severity::Error, nothing};
 constexpr ProblemKind kGroup{"base_off", "Base off", Severity::Error, nothing};
 
-class ProjectAcceptances : public testing::Test
+constexpr const char* kLine = "测 '1'";
+
+class ProjectAcceptances : public SavedProject
 {
 protected:
     ProjectAcceptances()
     {
-        QDir().mkpath(place.folder);
-        const basalt::Dictionary none;
-        get_project_coord_transform().initialise(none, none);
-        basalt::Dictionary project;
-        ProjectCreator::describe(place, project);
-        expectDone(ProjectCreator::create(place, project));
-        expectDone(manager.openProject(place));
-        manager.setEditHandler([this](const auto& edit) { edits.push_back(edit); });
         import("测 '1',7,a\n测 '1',8,b\n测 '1',C10012034,one\n测 '1',C10012034,two\n");
     }
 
-    void import(const QByteArray& rows)
-    {
-        ASSERT_EQ(
-            manager.importSurveyCsv(root.write("s.csv", "line num,point num,remarks\n" + rows)), 1);
-    }
     /// A problem of each result, and one of a group of so many.
     [[nodiscard]] ProblemList problems(std::uint32_t grouped = 212)
     {
@@ -58,16 +36,16 @@ protected:
         return list;
     }
     /// The points of the accepted problems.
-    [[nodiscard]] std::vector<std::string> accepted(const ProblemList& list)
+    [[nodiscard]] Texts accepted(const ProblemList& list)
     {
-        std::vector<std::string> points;
+        Texts points;
         for (const Problem& problem : list) {
             if (problem.isAccepted)
                 points.push_back(problem.point.empty() ? "group" : std::string(problem.point));
         }
         return points;
     }
-    [[nodiscard]] std::vector<std::string> accepted() { return accepted(problems()); }
+    [[nodiscard]] Texts accepted() { return accepted(problems()); }
 
     [[nodiscard]] Acceptance acceptance(const std::string& point, const QString& reason = {})
     {
@@ -86,46 +64,17 @@ protected:
     {
         return manager.accept({acceptance(point, reason)});
     }
-    void remark(const std::string& point, const char* text)
-    {
-        SurveyCorrection correction;
-        correction.remarks = text;
-        ASSERT_EQ(manager.correctSurveyPoint({"测 '1'", point}, correction), 1);
-    }
-    void takeBack()
-    {
-        ASSERT_EQ(manager.exchange(edits.back(), true), 1);
-        edits.pop_back();
-    }
-    void save() { expectDone(manager.saveProject(place)); }
-    void reopen()
-    {
-        manager.clear();
-        edits.clear();
-        EXPECT_TRUE(manager.acceptances().empty());
-        expectDone(manager.openProject(place));
-    }
     /// Also where they stand in the file.
     [[nodiscard]] std::string rows() const
     {
         return rowsOf(database, "(select rowid, * from ProblemAcceptance)") +
                rowsOf(database, "sqlite_master");
     }
-    void execute(const char* sql) const
-    {
-        DBAdapter adapter;
-        ASSERT_TRUE(adapter.open(lum::databaseConnection(database).c_str()));
-        ASSERT_TRUE(adapter.execute(sql, 0)) << adapter.lastError();
-    }
     /// "came too_far >reason" of each change of the saved history, the newest first.
-    [[nodiscard]] std::vector<std::string> history(const std::string& point)
+    [[nodiscard]] Texts history(const std::string& point)
     {
-        HistoryFilter filter;
-        filter.point = {"测 '1'", point};
-        std::vector<HistoryReader::Event> events;
-        expectDone(manager.history().life(filter, events));
-        std::vector<std::string> told;
-        for (const auto& [action, items] : events) {
+        Texts told;
+        for (const auto& [action, items] : eventsOf({kLine, point})) {
             for (const HistoryItem& item : items) {
                 if (item.data == HistoryData::AcceptedProblems)
                     told.push_back(std::string(nameOf(item.change)) + ' ' + item.field + ' ' +
@@ -134,15 +83,6 @@ protected:
         }
         return told;
     }
-
-    using Texts = std::vector<std::string>;
-
-    TestFolder root;
-    ProjectPlace place = ProjectPlace::planned(root.path(), "测区 1"_q);
-    std::string database = place.database().toStdString();
-    Host host;
-    DataProcessDataManager manager{&host};
-    std::vector<std::shared_ptr<Edit>> edits;
 };
 
 } // namespace
@@ -154,15 +94,14 @@ TEST_F(ProjectAcceptances, LastUntilTheirRecordChanges)
     const Texts both{"7", "group"};
     EXPECT_EQ(accepted(), both);
     EXPECT_EQ(accepted(problems(213)), Texts{"7"}) << "one more result is concerned";
-    remark("8", "another");
+    remark({kLine, "8"}, "another");
     manager.checkQuality();
     save();
     EXPECT_EQ(accepted(), both);
     reopen();
     EXPECT_EQ(accepted(), both);
-    remark("7", "moved");
+    remark({kLine, "7"}, "moved");
     EXPECT_EQ(accepted(), Texts{"group"});
-    manager.setEditHandler([this](const auto& edit) { edits.push_back(edit); });
     EXPECT_EQ(accept("7"), 1U) << "as it is now";
     EXPECT_EQ(accepted(), both);
     takeBack();
@@ -175,8 +114,7 @@ TEST_F(ProjectAcceptances, TellMeasurementsOfOneCheckPointApart)
     reopen();
     EXPECT_EQ(accept("C10012034_1"), 1U);
     EXPECT_EQ(accepted(), Texts{"C10012034_1"});
-    const std::vector<PointName> first{{"测 '1'", "C10012034_0"}};
-    EXPECT_EQ(manager.deleteSurveyPoints(first), 1U);
+    EXPECT_EQ(remove({{kLine, "C10012034_0"}}), 1U);
     save();
     reopen();
     EXPECT_EQ(accepted(), Texts{"C10012034_0"}) << "it is counted anew";
@@ -218,7 +156,7 @@ TEST_F(ProjectAcceptances, StayAsTheyWereInASaveWithoutAChange)
     EXPECT_NE(before.find("|too_far|0|测 '1'|7|"), std::string::npos) << before;
     for (int i = 0; i < 2; ++i) {
         reopen();
-        remark("8", i == 0 ? "x" : "y");
+        remark({kLine, "8"}, i == 0 ? "x" : "y");
         save();
     }
     EXPECT_EQ(rows(), before);
@@ -254,28 +192,12 @@ TEST_F(ProjectAcceptances, ATableThatTakesNoneKeepsNobodyFromSaving)
             "select raise(abort, 'no more of them'); end");
     const std::string before = rows();
     accept("8");
-    remark("8", "saved");
+    remark({kLine, "8"}, "saved");
     expectNotice(manager.saveProject(place), "no more of them");
     EXPECT_EQ(rows(), before);
     reopen();
     EXPECT_EQ(accepted(), Texts{"7"});
-    EXPECT_EQ(manager.surveyPoints().find("测 '1'", "8")->remarks, "saved");
-}
-
-TEST_F(ProjectAcceptances, AreInACopyAndNotInAnExport)
-{
-    accept("7");
-    save();
-    accept("8");
-    const ProjectPlace copy = ProjectPlace::planned(root.path(), "copy"_q);
-    ASSERT_TRUE(QDir().mkpath(copy.folder));
-    expectDone(manager.saveCopy(copy));
-    ASSERT_EQ(manager.exportDesignDatabase({}, root.path("out.db"), false), 1);
-    EXPECT_EQ(rowsOf(root.path("out.db").toStdString(), "sqlite_master").find("Acceptance"),
-              std::string::npos);
-    manager.clear();
-    expectDone(manager.openProject(copy));
-    EXPECT_EQ(accepted(), (Texts{"7", "8"}));
+    EXPECT_EQ(manager.surveyPoints().find(kLine, "8")->remarks, "saved");
 }
 
 // The crew measures design points: those of resurveys and check points, each once.
@@ -301,8 +223,10 @@ TEST_F(ProjectAcceptances, AListForTheCrewHasDesignPoints)
     const QString path = root.path("明天.csv");
     Outcome outcome = Outcome::done();
     ASSERT_EQ(manager.exportCrewList(chosen, path, &outcome), 1);
-    EXPECT_EQ(outcome.text(), "Points to measure again: 3. Names without a design point: 1, first "
-                              "1001/7. Problems of a line or a group, without a point: 1."_q);
+    EXPECT_EQ(
+        outcome.text(),
+        "Points to measure: 3, of them not surveyed yet: 2. Names without a design point: 1, first "
+        "1001/7. Problems of a line or a group, without a point: 1."_q);
     const QByteArray written = TestFolder::read(path);
     EXPECT_EQ(written.mid(written.indexOf('\n') + 1),
               "10012034,1000,12.0000,20.0000,30.0000,10012034,40.000000,1,0\n"

@@ -1,19 +1,10 @@
 #include "basalt_utilities/IDictionary.h"
 #include "basalt_utilities/KeyList.h"
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "lum_sdk/Host.h"
-#include "project/DataProcessDataManager.h"
-#include "project/ProjectCreator.h"
 #include "protocol/Events.h"
-#include "protocol/StatusKeys.h"
 #include "quality/problems/ProblemFinders.h"
-#include "quality/QualityDescription.h"
-#include "tests/project/ExpectOutcome.h"
-#include "tests/project/TestProject.h"
+#include "tests/project/SavedProject.h"
 #include "tests/support/EventLog.h"
-#include "tests/support/Literals.h"
 #include "tests/support/LogCapture.h"
-#include "tests/support/TestFolder.h"
 
 #include <QFileInfo>
 
@@ -35,25 +26,6 @@ protected:
 
 } // namespace
 
-TEST_F(DataManager, FilesGoOutAndComeBack)
-{
-    const QString path = folder.path("s.csv");
-    const QStringList lines{"L"_q};
-    manager.exportCaptions().clear();
-    get_system_status_dictionary().set(status::kDegreeFormat, "1");
-    EXPECT_EQ(manager.exportSurveyCsv(lines, path), 1);
-    get_system_status_dictionary().remove(status::kDegreeFormat);
-    EXPECT_EQ(manager.exportCaptions(), manager.surveyCaptions());
-    EXPECT_TRUE(TestFolder::read(path).contains("L,P,S,30deg30min0.000sec,"));
-    manager.clear();
-    EXPECT_EQ(manager.importSurveyCsv(path, &outcome), 1);
-    expectNotice(outcome, "points added: 1");
-    EXPECT_EQ(manager.surveyPoints().find("L", "P")->latitude, 30.5);
-    EXPECT_EQ(manager.exportSurveyCsv(lines, path, manager.surveyCaptions().mid(0, 2)), 1);
-    EXPECT_EQ(TestFolder::read(path), "line num,point num\nL,P\n");
-    EXPECT_EQ(manager.exportCaptions(), manager.surveyCaptions()) << "the user's choice stays";
-}
-
 TEST_F(DataManager, AMissingGeoidIsLoggedOncePerOperation)
 {
     for (int i = 0; i < 3000; ++i)
@@ -72,100 +44,28 @@ TEST_F(DataManager, AMissingGeoidIsLoggedOncePerOperation)
     EXPECT_TRUE(manager.seaHeightNotice().isEmpty());
 }
 
-TEST_F(DataManager, FaultsAreToldInMetres)
-{
-    basalt::Dictionary feet;
-    feet.set("unit_m", "0.3048");
-    feet.set("factor", "3.280839895");
-    manager.setCoordSystem(feet);
-    SurveyPoint& point = *manager.surveyPoints().find("L", "P");
-    point.qualityStandard = 1;
-    point.north = 100;
-    const auto rows = manager.describeQuality(point);
-    manager.setCoordSystem(basalt::Dictionary());
-    ASSERT_EQ(rows.size(), 1U);
-    EXPECT_DOUBLE_EQ(rows[0].value, 30.48);
-}
-
-TEST_F(DataManager, WhatCannotBeDoneIsToldAndLogged)
-{
-    const QString path = folder.path();
-    const auto expectToldOf = [&](auto operation) {
-        const LogCapture log;
-        EXPECT_EQ(operation(), 0);
-        expectFailure(outcome, path.toUtf8());
-        EXPECT_EQ(log.lines(ILogger::Level::Error), std::vector<std::string>{outcome.detail()});
-    };
-    expectToldOf([&] { return manager.load(path, &outcome); });
-    expectToldOf([&] { return manager.save(path, &outcome); });
-    expectToldOf([&] { return manager.importSurveyCsv(path, &outcome); });
-    expectToldOf([&] { return manager.importDesignCsv(path, &outcome); });
-    expectToldOf([&] { return manager.exportSurveyCsv({}, path, {}, &outcome); });
-    expectToldOf([&] { return manager.exportDesignCsv({}, path, false, &outcome); });
-    expectToldOf([&] { return manager.exportDesignDatabase({}, path, false, &outcome); });
-    expectToldOf([&] { return manager.importSurveyDatabase(path, &outcome); });
-}
-
-TEST_F(DataManager, KnowsWhatIsNotSaved)
+TEST_F(DataManager, AVerdictIsNotSavedEither)
 {
     const EventLog changes(host.eventManager(), events::kProjectModified);
-    EXPECT_EQ(manager.importSurveyCsv(folder.path("missing.csv")), 0);
-    EXPECT_FALSE(manager.isChanged());
-    const QString design = folder.write(
-        "d.csv",
-        "point_num,line_num,north,east,elevation,azimuth,type,status\n1001,L10,1,2,3,4,1,0\n");
-    const QString survey = folder.write("s.csv", "line num,point num\nL,P\n");
-    using Operation = std::function<void()>;
-    for (const Operation& change : {Operation([&] { manager.importDesignCsv(design); }),
-                                    Operation([&] { manager.importSurveyCsv(survey); }),
-                                    Operation([&] { manager.checkQuality(); }),
-                                    Operation([&] { manager.checkEmptyPoints(); }),
-                                    Operation([&] { manager.checkResurveys(); }), Operation([&] {
-                                        basalt::Dictionary system;
-                                        system.set("org_lon", "117");
-                                        manager.setCoordSystem(system);
-                                    })}) {
-        change();
-        EXPECT_TRUE(manager.isChanged());
+    for (const auto& check : {std::function<void()>([&] { manager.checkQuality(); }),
+                              {[&] { manager.checkEmptyPoints(); }},
+                              {[&] { manager.checkResurveys(); }}}) {
         manager.clear();
         manager.surveyPoints().set(surveyPoint("L", "PF"));
-        DesignPoint surveyed;
-        surveyed.lineNumber = "L";
-        surveyed.pointNumber = "PF";
-        manager.designPoints().set(surveyed);
+        manager.designPoints().set(designPoint("L", "PF"));
+        check();
+        EXPECT_TRUE(manager.isChanged());
     }
-    EXPECT_EQ(changes.names().size(), 6U);
-    manager.checkQuality();
+    EXPECT_EQ(changes.names().size(), 3U);
+    manager.checkResurveys();
     manager.markChanged();
-    EXPECT_EQ(changes.names().size(), 7U) << "told once";
-}
-
-TEST_F(DataManager, ImportedResultsHaveSeaHeightsAndAreNotSaved)
-{
-    SurveyPoint theirs = surveyPoint("L", "theirs");
-    theirs.elevation = 5.5;
-    TestProject project;
-    project.survey.set(theirs);
-    const QString database = folder.path("theirs.db");
-    ASSERT_TRUE(makeDatabase(database.toStdString()));
-    expectDone(project.save(database.toStdString()));
-    basalt::Dictionary none;
-    manager.setCoordSystem(none);
-    const EventLog changes(host.eventManager(), events::kProjectModified);
-    manager.clear();
-    EXPECT_EQ(manager.importSurveyDatabase(database, &outcome), 1);
-    expectNotice(outcome, "points added: 1");
-    EXPECT_EQ(manager.surveyPoints().find("L", "theirs")->seaHeight, 5.5);
-    EXPECT_TRUE(manager.isChanged());
-    EXPECT_EQ(changes.names().size(), 1U);
+    EXPECT_EQ(changes.names().size(), 3U) << "told once";
 }
 
 TEST_F(DataManager, NoExportReplacesAFileOfTheOpenProject)
 {
     const ProjectPlace place = ProjectPlace::in(folder.path(), "测区"_q);
-    basalt::Dictionary project;
-    ProjectCreator::describe(place, project);
-    expectDone(ProjectCreator::create(place, project));
+    makeProject(place);
     expectDone(manager.openProject(place));
     const QByteArray before = TestFolder::read(place.database());
     const QString link = folder.path("link.db");
@@ -184,17 +84,6 @@ TEST_F(DataManager, NoExportReplacesAFileOfTheOpenProject)
     EXPECT_EQ(manager.exportDesignDatabase({}, link, false), 0) << "also where it is missing";
     manager.clear();
     EXPECT_EQ(manager.exportDesignDatabase({}, link, false), 1);
-}
-
-TEST_F(DataManager, DatabaseQueriesBecomeProgress)
-{
-    const EventLog progress(host.eventManager(), events::kProgress);
-    for (const char* payload : {static_cast<const char*>(nullptr), "count=1,total=3", "total=0"})
-        host.eventManager().publish(events::kDbQueryProcess, payload, 0);
-    EXPECT_EQ(progress.payloads(),
-              (std::vector<std::string>{"text=Loading Database,value=100,is_exec=0",
-                                        "text=Loading Database,value=33.3333,is_exec=0",
-                                        "text=Loading Database,value=100,is_exec=0"}));
 }
 
 TEST(DataManagerInstance, IsTheFirstManagerAsLongAsItLives)

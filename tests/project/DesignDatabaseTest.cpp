@@ -35,19 +35,6 @@ protected:
 
 } // namespace
 
-TEST_F(DesignDatabase, HoldsTheRowsThatASaveWrites)
-{
-    project.coordParameters.set("unit_m", "0.3048");
-    const QString saved = folder.path("saved.db");
-    ASSERT_TRUE(makeDatabase(saved.toStdString()));
-    project.survey.clear();
-    expectDone(project.save(saved.toStdString()));
-    expectDone(write(path, {"1000"_q, "1001"_q, "1002"_q}));
-    for (const char* table : {"SurveyLineItem", "ExplorationResultItem", "CoordinateSystemItem"})
-        EXPECT_EQ(rowsOf(path.toStdString(), table), rowsOf(saved.toStdString(), table)) << table;
-    EXPECT_EQ(files().size(), 2) << "nothing beside it";
-}
-
 TEST_F(DesignDatabase, LinesComeInTheOrderOfTheListWithProgress)
 {
     const EventLog heard(events, events::kProgress);

@@ -1,65 +1,32 @@
 #include "project/OverlayList.h"
 
-#include "basalt_utilities/Dictionary.h"
-#include "lum_sdk/Host.h"
-#include "project/DataProcessDataManager.h"
-#include "project/ProjectCreator.h"
-#include "tests/project/ExpectOutcome.h"
-#include "tests/support/Literals.h"
-#include "tests/support/TestFolder.h"
-
-#include <QDir>
-
-#include <gtest/gtest.h>
+#include "tests/project/SavedProject.h"
 
 namespace {
 
-struct PlaceCase
+TEST(OverlayList, PlacesAreStoredAndFoundAgain)
 {
-    const char* name;
-    const char* path;   ///< of the picture
-    const char* folder; ///< of the project
-    const char* stored;
-};
-
-class OverlayPlace : public testing::TestWithParam<PlaceCase>
-{
-};
-
-TEST_P(OverlayPlace, IsStoredAndFoundAgain)
-{
-    const QString folder = QString::fromUtf8(GetParam().folder);
-    const QString path = QString::fromUtf8(GetParam().path);
-    basalt::Dictionary project;
-    OverlayList::write({{path, false, 0.35}}, folder, project);
-    EXPECT_EQ(project.text("overlay_1_file"), GetParam().stored);
-    EXPECT_EQ(project.text("overlay_1_opacity"), "0.35");
-    EXPECT_EQ(OverlayList::read(project, folder),
-              (std::vector<OverlayImage>{{QDir::cleanPath(path), false, 0.35}}));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Places, OverlayPlace,
-    testing::Values(
-        PlaceCase{"InTheProject", "/data/测区 1/ground/河.tif", "/data/测区 1", "ground/河.tif"},
-        PlaceCase{"BesideTheProject", "/data/maps/a b.tif", "/data/p", "../maps/a b.tif"},
-        PlaceCase{"InAFolderOfALikeName", "/data/p2/a.tif", "/data/p", "../p2/a.tif"},
-        PlaceCase{"FartherAway", "/database/a.tif", "/data/p", "/database/a.tif"},
-        PlaceCase{"OfAProjectInTheRoot", "/maps/a.tif", "/p", "/maps/a.tif"},
-        PlaceCase{"NotClean", "/data/p/../p/a.tif", "/data/p/", "a.tif"}),
-    [](const auto& test) { return test.param.name; });
-
-TEST(OverlayList, KeepsTheOrderAndLeavesNothingBehind)
-{
-    basalt::Dictionary project;
-    project.set("crew", "测量一队");
-    const std::vector<OverlayImage> images = {{"/a.tif"_q}, {"/b.tif"_q, false}, {"/c.tif"_q}};
-    OverlayList::write(images, "/d/p"_q, project);
-    EXPECT_EQ(OverlayList::read(project, "/d/p"_q), images);
-    OverlayList::write({images[2]}, "/d/p"_q, project);
-    EXPECT_EQ(OverlayList::read(project, "/d/p"_q), std::vector<OverlayImage>{images[2]});
-    OverlayList::write({}, "/d/p"_q, project);
-    EXPECT_EQ(project.size(), 1U) << "what else the project says must stay, alone";
+    const struct
+    {
+        const char* path;   ///< of the picture
+        const char* folder; ///< of the project
+        const char* stored;
+    } cases[] = {{"/data/测区 1/ground/河.tif", "/data/测区 1", "ground/河.tif"},
+                 {"/data/maps/a b.tif", "/data/p", "../maps/a b.tif"},
+                 {"/data/p2/a.tif", "/data/p", "../p2/a.tif"},
+                 {"/database/a.tif", "/data/p", "/database/a.tif"},
+                 {"/maps/a.tif", "/p", "/maps/a.tif"},
+                 {"/data/p/../p/a.tif", "/data/p/", "a.tif"}};
+    for (const auto& [path, folder, stored] : cases) {
+        basalt::Dictionary project;
+        const QString inFolder = QString::fromUtf8(folder);
+        const QString file = QString::fromUtf8(path);
+        OverlayList::write({{file, false, 0.35}}, inFolder, project);
+        EXPECT_EQ(project.text("overlay_1_file"), stored);
+        EXPECT_EQ(project.text("overlay_1_opacity"), "0.35");
+        EXPECT_EQ(OverlayList::read(project, inFolder),
+                  (std::vector<OverlayImage>{{QDir::cleanPath(file), false, 0.35}}));
+    }
 }
 
 TEST(OverlayList, ReadsOnPastBadValues)
@@ -82,15 +49,12 @@ TEST(OverlayList, OfACopyNamesTheSamePictures)
     DataProcessDataManager manager(&host);
     const ProjectPlace place = ProjectPlace::planned(root.path(), "first"_q);
     const ProjectPlace copy = ProjectPlace::planned(root.path("far/away"), "copy"_q);
-    for (const ProjectPlace& each : {place, copy})
-        ASSERT_TRUE(QDir().mkpath(each.folder));
-    basalt::Dictionary project;
-    ProjectCreator::describe(place, project);
+    makeProject(place);
+    ASSERT_TRUE(QDir().mkpath(copy.folder));
+    expectDone(manager.openProject(place));
     const std::vector<OverlayImage> images = {{place.folder + "/in.tif"_q},
                                               {root.path("beside.tif")}};
-    OverlayList::write(images, place.folder, project);
-    expectDone(ProjectCreator::create(place, project));
-    expectDone(manager.openProject(place));
+    OverlayList::write(images, place.folder, manager.project());
     expectDone(manager.saveCopy(copy));
     expectDone(manager.openProject(copy));
     EXPECT_EQ(OverlayList::read(manager.project(), copy.folder), images);

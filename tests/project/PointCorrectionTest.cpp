@@ -39,15 +39,13 @@ class PointCorrection : public testing::Test
 protected:
     int correct(const PointName& name, const SurveyCorrection& correction)
     {
-        filedAs = {};
-        return manager.correctSurveyPoint(name, correction, &outcome, &filedAs);
+        return manager.correctSurveyPoint(name, correction, &outcome);
     }
 
     Host host;
     DataProcessDataManager manager{&host};
     SurveyPoints& points = manager.surveyPoints();
     Outcome outcome = Outcome::done();
-    PointName filedAs;
 };
 
 } // namespace
@@ -73,63 +71,6 @@ TEST_F(PointCorrection, AHigherAntennaLowersTheHeightsToTheLastDigit)
     EXPECT_EQ(correct({"R1", "10012034"}, correction), 1);
     EXPECT_EQ(point.elevation, 123.4567);
     EXPECT_EQ(point.antennaHeight, 3);
-}
-
-TEST_F(PointCorrection, WhatIsAsItWasIsNoChange)
-{
-    SurveyPoint standing = surveyPoint("R1", "C10012034_3", "near the well");
-    standing.remarks = "near, the well"; // of a database: no fault while nobody changes it
-    manager.surveyPoints().set(standing);
-    const auto revision = manager.surveyPoints().revision();
-    SurveyCorrection correction;
-    correction.lineNumber = " R1 ";
-    correction.pointNumber = "C10012034";
-    correction.pointMark = 0;
-    correction.antennaHeightM = 0;
-    correction.surveyor = "";
-    EXPECT_EQ(correct({"R1", "C10012034_3"}, correction), 1);
-    EXPECT_FALSE(manager.isChanged());
-    EXPECT_EQ(manager.surveyPoints().revision(), revision);
-    EXPECT_EQ(filedAs, (PointName{"R1", "C10012034_3"}));
-}
-
-TEST_F(PointCorrection, ANewNameMovesTheResultAndReplacesTheOneThere)
-{
-    manager.surveyPoints().set(surveyPoint("R1", "1", "moved"));
-    manager.surveyPoints().set(surveyPoint("R2", "2", "replaced"));
-    SurveyCorrection correction;
-    correction.lineNumber = "R2";
-    EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), nullptr);
-    correction.pointNumber = " 2 ";
-    EXPECT_EQ(replacedBy(points, {"R1", "1"}, correction), points.find("R2", "2"));
-    correction.remarks = "by hand ";
-    EXPECT_EQ(correct({"R1", "1"}, correction), 1);
-    EXPECT_EQ(points.findLine("R1"), nullptr) << "its last point has left";
-    ASSERT_EQ(points.pointCount(), 1U);
-    EXPECT_EQ(points.find("R2", "2")->remarks, "by hand");
-    EXPECT_EQ(points.find("R2", "2")->lineNumber, "R2");
-    EXPECT_EQ(filedAs, (PointName{"R2", "2"}));
-    EXPECT_TRUE(manager.isChanged());
-}
-
-TEST_F(PointCorrection, ACheckPointGetsAFreeCounterAndReplacesNone)
-{
-    for (const char* number : {"C10012034_0", "C10012034_1", "C10012035_0", "7"})
-        manager.surveyPoints().set(surveyPoint("R1", number, number));
-    SurveyCorrection correction;
-    correction.pointNumber = "C10012034";
-    EXPECT_EQ(replacedBy(points, {"R1", "7"}, correction), nullptr);
-    EXPECT_EQ(correct({"R1", "7"}, correction), 1);
-    EXPECT_EQ(filedAs.point, "C10012034_2");
-    EXPECT_EQ(correct({"R1", "C10012035_0"}, correction), 1);
-    EXPECT_EQ(filedAs.point, "C10012034_3");
-
-    SurveyCorrection toOtherLine;
-    toOtherLine.lineNumber = "R2";
-    EXPECT_EQ(correct({"R1", "C10012034_1"}, toOtherLine), 1);
-    EXPECT_EQ(filedAs, (PointName{"R2", "C10012034_0"}));
-    EXPECT_EQ(points.find("R2", "C10012034_0")->remarks, "C10012034_1");
-    EXPECT_EQ(points.pointCount(), 4U);
 }
 
 TEST_F(PointCorrection, FaultsAreToldAndChangeNothing)
@@ -168,25 +109,6 @@ TEST_F(PointCorrection, FaultsAreToldAndChangeNothing)
     EXPECT_EQ(correct({"R1", "gone"}, {}), 0);
     EXPECT_TRUE(outcome.text().contains("gone"_q));
     EXPECT_FALSE(manager.isChanged());
-}
-
-TEST_F(PointCorrection, ADesignPointGetsHeightAndAzimuth)
-{
-    manager.designPoints().set({"R1", "1", 1, 2, 3, 45, 1, 0});
-    DesignCorrection correction;
-    correction.elevationM = 3;
-    EXPECT_EQ(manager.correctDesignPoint({"R1", "1"}, correction), 1);
-    EXPECT_FALSE(manager.isChanged());
-    correction.elevationM = 3.5;
-    correction.azimuthDeg = 90;
-    EXPECT_EQ(manager.correctDesignPoint({"R1", "1"}, correction), 1);
-    EXPECT_TRUE(manager.isChanged());
-    const DesignPoint& point = *manager.designPoints().find("R1", "1");
-    EXPECT_EQ(point.elevation, 3.5);
-    EXPECT_EQ(point.azimuth, 90);
-    correction.azimuthDeg = HUGE_VAL;
-    EXPECT_EQ(manager.correctDesignPoint({"R1", "1"}, correction), 0);
-    EXPECT_EQ(manager.correctDesignPoint({"R1", "2"}, {}), 0);
 }
 
 // A check that runs between a correction and its undoing judges what was measured.

@@ -1,23 +1,10 @@
-#include "basalt_utilities/Product.h"
-#include "lum_sdk/coords/ICoordTransform.h"
-#include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "lum_sdk/Host.h"
-#include "model/CoordinateRecord.h"
-#include "project/DataProcessDataManager.h"
 #include "project/ParameterFiles.h"
-#include "project/ProjectCreator.h"
 #include "project/ProjectFile.h"
-#include "project/ProjectPlace.h"
 #include "project/SafetyCopy.h"
-#include "tests/project/ExpectOutcome.h"
 #include "tests/project/OrdinaryUser.h"
-#include "tests/project/TestProject.h"
-#include "tests/support/Literals.h"
+#include "tests/project/SavedProject.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/SmallFiles.h"
-#include "tests/support/TestFolder.h"
-
-#include <QDir>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -55,13 +42,6 @@ protected:
     [[nodiscard]] QStringList files(const char* pattern) const
     {
         return QDir(place.folder).entryList({QString::fromUtf8(pattern)}, QDir::Files, QDir::Name);
-    }
-    /// Runs SQL on a database that no program has open.
-    void execute(const QString& path, const char* sql) const
-    {
-        DBAdapter adapter;
-        ASSERT_TRUE(adapter.open(lum::databaseConnection(path.toStdString()).c_str()));
-        EXPECT_TRUE(adapter.execute(sql, 0)) << adapter.lastError();
     }
     [[nodiscard]] QByteArray content(const QString& name) const
     {
@@ -198,18 +178,6 @@ TEST_F(ProjectLife, AMissingDatabaseIsMadeBySavingAlone)
     EXPECT_EQ(files("*.lock"), QStringList()) << "a project that is not open has no lock";
 }
 
-TEST_F(ProjectLife, ParametersEndWithTheirProject)
-{
-    createAndOpen();
-    manager.qualityParameters().set("only_here", "1");
-    manager.designParameters().set("only_here", "1");
-    manager.clear();
-    expectDone(manager.openProject(place));
-    EXPECT_FALSE(manager.qualityParameters().contains("only_here"));
-    EXPECT_FALSE(manager.designParameters().contains("only_here"));
-    EXPECT_TRUE(manager.designParameters().contains("r_pt_dist"));
-}
-
 TEST_F(ProjectLife, AFolderThatCannotBeWrittenCanBeReadAndIsNotChanged)
 {
     createAndOpen();
@@ -251,7 +219,7 @@ TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
         manager.clear();
 
         ASSERT_TRUE(QFile::copy(database, copy));
-        execute(database, SafetyCopy::kMark);
+        executeSql(database, SafetyCopy::kMark);
         expectNotice(manager.openProject(place), "as it was last saved");
         manager.clear();
         expectDone(manager.openProject(place));
@@ -266,22 +234,10 @@ TEST_F(ProjectLife, WhereAFolderCannotBeSyncedEverythingIsDoneAllTheSame)
     EXPECT_EQ(files("*.db.2*").size(), 1) << "the old database is kept aside";
 }
 
-TEST_F(ProjectLife, AReadOnlyInstallationIsNotedOnce)
-{
-    const basalt::Product usual = basalt::product();
-    basalt::setProduct({"Nobody", "Nowhere", "None"}); // without folders
-    const LogCapture log;
-    for (int i = 0; i < 2; ++i)
-        ParameterFiles::writeTemplate(basalt::Dictionary());
-    basalt::setProduct(usual);
-    EXPECT_EQ(log.lines().size(), 1U);
-    EXPECT_EQ(log.text(ILogger::Level::Warning), "");
-}
-
 TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
 {
     create();
-    execute(database, "create table Notes (text TEXT)");
+    executeSql(database, "create table Notes (text TEXT)");
     expectDone(manager.openProject(place));
     const QByteArray before = TestFolder::read(database);
     manager.surveyPoints().set(surveyPoint("L1", "7"));
@@ -299,7 +255,7 @@ TEST_F(ProjectLife, ACopyHoldsAllThatIsOpen)
         other.clear();
     };
     expectCopy("copy 1");
-    execute(root.path("copy 1/copy 1.db"), "insert into Notes values ('kept')");
+    executeSql(root.path("copy 1/copy 1.db"), "insert into Notes values ('kept')");
     EXPECT_EQ(TestFolder::read(database), before);
     EXPECT_TRUE(QFile::exists(database + ".lock"_q)) << "it is still open";
 
@@ -327,17 +283,6 @@ TEST_F(ProjectLife, ACopyThatFailsLeavesNothing)
     }
     EXPECT_EQ(manager.surveyPoints().pointCount(), 2000U);
     expectDone(manager.saveProject(place));
-}
-
-TEST(ProjectPlace, ProposesANameNearToABadOne)
-{
-    const auto proposal = [](const char* name) {
-        return projectNameProposal(QString::fromUtf8(name)).toStdString();
-    };
-    EXPECT_EQ(proposal("Block 3.2"), "Block 3-2");
-    EXPECT_EQ(proposal("测区/一?"), "测区-一");
-    for (const char* hopeless : {"..", "", "con"})
-        EXPECT_EQ(proposal(hopeless), "") << hopeless;
 }
 
 TEST(ProjectPlace, RefusesNamesThatSomeSystemCannotHold)

@@ -1,21 +1,10 @@
 #include "basalt_utilities/KeyList.h"
 #include "design/DesignFields.h"
 #include "design/DesignGenerator.h"
-#include "lum_sdk/coords/ICoordTransform.h"
-#include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "lum_sdk/Host.h"
 #include "model/PointNumber.h"
-#include "project/DataProcessDataManager.h"
 #include "project/ParameterFiles.h"
-#include "project/PointCorrection.h"
-#include "project/ProjectCreator.h"
-#include "tests/project/ExpectOutcome.h"
 #include "tests/project/PlainProject.h"
-#include "tests/project/TestProject.h"
-#include "tests/support/Literals.h"
-#include "tests/support/TestFolder.h"
-
-#include <QDir>
+#include "tests/project/SavedProject.h"
 
 #include <random>
 
@@ -123,10 +112,7 @@ protected:
 
     void create(const ProjectPlace& place)
     {
-        QDir().mkpath(place.folder);
-        basalt::Dictionary project;
-        ProjectCreator::describe(place, project);
-        expectDone(ProjectCreator::create(place, project));
+        makeProject(place);
         expectDone(m_manager.openProject(place));
     }
 

@@ -6,7 +6,6 @@
 #include "tests/project/ExpectOutcome.h"
 #include "tests/project/OrdinaryUser.h"
 #include "tests/project/TestProject.h"
-#include "tests/support/EventLog.h"
 #include "tests/support/TestFolder.h"
 
 #include <QDir>
@@ -54,28 +53,10 @@ protected:
 
 } // namespace
 
-TEST_F(SurveyDatabase, GivesItsResultsWithProgressByFiftieths)
-{
-    const EventLog heard(events, events::kProgress);
-    points.set(surveyPoint("1000", "10005000", "own"));
-    points.set(surveyPoint("1000", "x", "own"));
-    expectDone(read());
-    EXPECT_EQ(points.pointCount(), 81U);
-    EXPECT_EQ(points.find("1000", "10005000")->remarks, "theirs");
-    EXPECT_EQ(summary.linesRead, 80U);
-    EXPECT_EQ(summary.pointsNew, 79U);
-    EXPECT_EQ(summary.pointsReplaced, 1U);
-    const std::vector<std::string> payloads = heard.payloads();
-    EXPECT_EQ(payloads.size(), 81U);
-    EXPECT_EQ(payloads.front(), "text=Import Survey Data,value=1.25,is_exec=0");
-    EXPECT_EQ(payloads.back(), "show=0");
-}
-
 TEST_F(SurveyDatabase, OfAnotherSystemGoesToTheHandlerAlone)
 {
     own.set("false_east", "500000");
     std::size_t seen = 0;
-    expectFailure(read(), "false_east (500000, there 0)");
     DBAdapter database;
     ASSERT_TRUE(open(database) &&
                 database.execute("insert into ExplorationResultItem (line_num, point_num) values "

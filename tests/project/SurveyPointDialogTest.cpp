@@ -1,11 +1,9 @@
-#include "lum_sdk/DpiScale.h"
 #include "project/ui/DlgSurveyPoint.h"
 #include "tests/project/OpenProject.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Points.h"
-
-#include <QtTest>
+#include "tests/support/Widgets.h"
 
 #include <memory>
 
@@ -149,22 +147,9 @@ private:
     {
         return m_dialog->findChildren<QLineEdit*>().at(index);
     }
-    void type(int index, const QString& text)
-    {
-        field(index)->setFocus();
-        QTest::keyClick(field(index), Qt::Key_A, Qt::ControlModifier);
-        if (text.isEmpty())
-            QTest::keyClick(field(index), Qt::Key_Delete);
-        else
-            QTest::keyClicks(field(index), text);
-    }
+    void type(int index, const QString& text) { typeOver(*field(index), text); }
     void pressEnter() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
-    [[nodiscard]] bool says(const QString& part) const
-    {
-        const auto labels = m_dialog->findChildren<QLabel*>();
-        return std::any_of(labels.begin(), labels.end(),
-                           [&](const QLabel* label) { return label->text().contains(part); });
-    }
+    [[nodiscard]] bool says(const QString& part) const { return ::says(*m_dialog, part); }
     const SurveyPoint* find(const char* line, const char* number)
     {
         return m_project->results().find(line, number);

@@ -3,12 +3,11 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "protocol/Events.h"
 #include "quality/EmptyPointCheck.h"
-#include "quality/RepeatPoints.h"
 #include "quality/ResurveyCheck.h"
-#include "quality/ResurveyResult.h"
 #include "quality/Verdicts.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/Points.h"
 
 #include <gtest/gtest.h>
 
@@ -23,18 +22,8 @@ using Payloads = std::vector<std::string>;
 
 SurveyPoint result(const char* line, const char* number, double north = 100)
 {
-    SurveyPoint point;
-    point.lineNumber = line;
-    point.pointNumber = number;
+    SurveyPoint point = surveyPoint(line, number);
     point.north = north;
-    return point;
-}
-
-DesignPoint designed(const char* line, const char* number)
-{
-    DesignPoint point;
-    point.lineNumber = line;
-    point.pointNumber = number;
     return point;
 }
 
@@ -50,27 +39,11 @@ TEST(EmptyPointCheck, ReportsEachLineAndOnlyTheEndWithoutOne)
     checkEmptyPoints(design, survey, progress);
     EXPECT_EQ(log.payloads(), Payloads{"show=0"});
     for (const char* line : {"1", "2", "3"})
-        design.set(designed(line, "P"));
+        design.set(designPoint(line, "P"));
     checkEmptyPoints(design, survey, progress);
     EXPECT_EQ(log.payloads(), (Payloads{"show=0", "text=Empty Check,value=33.3333,is_exec=0",
                                         "text=Empty Check,value=66.6667,is_exec=0",
                                         "text=Empty Check,value=100,is_exec=0", "show=0"}));
-}
-
-TEST(EmptyPointCheck, NumbersAreMatchedByTheirBytes)
-{
-    DesignPoints design;
-    SurveyPoints survey;
-    for (const char* number : {"10", "100", "9", "é", "点1"})
-        design.set(designed("L", number));
-    for (const char* number : {"1", "10", "1000", "9 ", "é", "点", "点1", "点10"})
-        survey.set(result("L", number));
-    ProgressReporter nobody(nullptr);
-    checkEmptyPoints(design, survey, nobody);
-    const std::vector<DesignPoint> empty = emptyPoints(design);
-    ASSERT_EQ(empty.size(), 2U);
-    EXPECT_EQ(empty[0].pointNumber, "100");
-    EXPECT_EQ(empty[1].pointNumber, "9");
 }
 
 TEST(ResurveyCheck, WipesEarlierVerdictsAndReportsEveryResult)
@@ -121,23 +94,4 @@ TEST(ResurveyCheck, APositionThatIsNoNumberPassesAndIsNamed)
     const Verdicts first = verdictsOf({}, points);
     checkResurveys(points, basalt::Dictionary(), nobody);
     EXPECT_EQ(verdictsOf({}, points), first) << "a second run changes nothing";
-}
-
-TEST(RepeatPoints, ARepeatMayBeRepeatedItself)
-{
-    SurveyPoints points;
-    for (const char* number : {"C", "C1234567", "CC1234567_0", "CC1234567_1"})
-        points.set(result("L", number));
-    points.set(result("L", "1234567", 99));
-    points.set(result("L", ""));
-    const RepeatPoints found = findRepeatPoints(points);
-    std::vector<std::string> numbers;
-    for (const RepeatRow& row : found.rows)
-        numbers.push_back(row.pointNumber);
-    EXPECT_EQ(numbers,
-              (std::vector<std::string>{"C", "1234567", "C1234567", "CC1234567_0", "CC1234567_1"}));
-    EXPECT_EQ(found.alone, 1U);
-    EXPECT_EQ(found.rows[0].difference, std::nullopt);
-    ASSERT_TRUE(found.rows[2].difference);
-    EXPECT_EQ((*found.rows[2].difference)[0], 1.0);
 }

@@ -1,9 +1,7 @@
 #include "quality/QualityCheck.h"
 
 #include "basalt_utilities/Dictionary.h"
-#include "basalt_utilities/Numbers.h"
 #include "lum_sdk/events/EventManager.h"
-#include "lum_sdk/events/Payload.h"
 #include "lum_sdk/events/ProgressReporter.h"
 #include "protocol/Events.h"
 #include "quality/QualityDescription.h"
@@ -11,6 +9,8 @@
 #include "quality/QualityTests.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/OnEvent.h"
+#include "tests/support/Points.h"
 
 #include <gtest/gtest.h>
 
@@ -21,9 +21,7 @@ namespace {
 /// A result without a fault.
 SurveyPoint soundPoint(const char* line = "1001", const char* number = "10015001")
 {
-    SurveyPoint point;
-    point.lineNumber = line;
-    point.pointNumber = number;
+    SurveyPoint point = surveyPoint(line, number);
     point.antennaHeight = 2;
     point.pdop = point.hdop = point.vdop = 1;
     point.satelliteNumber = 6;
@@ -83,8 +81,7 @@ TEST(QualityCheck, EachFieldOfACommonFaultHasItsOwnSentence)
          "Transversal deviation 0.61 m is over its limit 0.50 m."},
         {&SurveyPoint::longitudinalDeviation,
          "Longitudinal deviation 0.50000002 m is over its limit 0.50000000 m."},
-        {&SurveyPoint::horizontalAccuracy,
-         "Horizontal accuracy 0.50004 m is over its limit 0.50000 m."},
+        {&SurveyPoint::horizontalAccuracy, "HRMS 0.50004 m is over its limit 0.50000 m."},
         {&SurveyPoint::antennaHeight, "Antenna height 3.00 m is over its limit 2.50 m."},
         {&SurveyPoint::hdop, "HDOP 0.40 is under its limit 0.50."},
         {&SurveyPoint::vdop, "VDOP 4 is over its limit 3."},
@@ -121,17 +118,6 @@ TEST(QualityCheck, TheLogNamesResultsWhosePositionIsNoNumber)
 
 TEST(QualityCheck, WritesCodesAndReportsLineByLine)
 {
-    /// Reads a result while it is told of progress.
-    struct Reader final : IEventHandler
-    {
-        explicit Reader(const SurveyPoints& checked) : points(checked) {}
-        void handleEvent(const char* /*name*/, const char* /*payload*/, int /*reserved*/) override
-        {
-            codes.push_back(points.find("10", "2")->qualityStandard);
-        }
-        const SurveyPoints& points;
-        std::vector<int> codes;
-    };
     SurveyPoints points;
     for (const char* line : {"2", "10"}) {
         for (const char* number : {"1", "2", "3"}) {
@@ -142,34 +128,17 @@ TEST(QualityCheck, WritesCodesAndReportsLineByLine)
         }
     }
     EventManager manager;
+    std::vector<int> codes;
+    const OnEvent reader(manager, events::kProgress, [&](auto*) { // while it is told of progress
+        codes.push_back(points.find("10", "2")->qualityStandard);
+    });
     const EventLog log(manager, events::kProgress);
-    Reader reader(points);
-    const EventSubscription subscription(reader, events::kProgress, manager);
     ProgressReporter progress(&manager);
     checkQuality(points, basalt::Dictionary(), progress);
     EXPECT_EQ(points.find("10", "1")->qualityStandard, 0);
     EXPECT_EQ(points.find("2", "2")->qualityStandard, 1000000);
-    const std::vector<std::string> expected{"text=Check Survey Line:10,value=33.3333,is_exec=0",
-                                            "text=Check Survey Line:10,value=66.6667,is_exec=0",
-                                            "text=Check Survey Line:10,value=100,is_exec=0",
-                                            "text=Check Survey Line:2,value=33.3333,is_exec=0",
-                                            "text=Check Survey Line:2,value=66.6667,is_exec=0",
-                                            "text=Check Survey Line:2,value=100,is_exec=0",
-                                            "show=0"};
-    EXPECT_EQ(log.payloads(), expected);
-    EXPECT_EQ(reader.codes.at(1), 1000000) << "reported before it was judged";
-}
-
-TEST(ProgressOfALine, ShowsEveryPercentInGeneralNotation)
-{
-    payload::ProgressText text("L,1");
-    for (const int total : {1, 3, 128, 997, 30001}) {
-        for (int done = 0; done <= total; ++done) {
-            const double percent = 100.0 * done / total;
-            ASSERT_EQ(text.at(percent),
-                      "text=\"L,1\",value=" + basalt::formatGeneral(percent) + ",is_exec=0");
-        }
-    }
-    EXPECT_STREQ(text.at(9.9999999), "text=\"L,1\",value=10,is_exec=0");
-    EXPECT_STREQ(text.at(99.99996), "text=\"L,1\",value=100,is_exec=0");
+    ASSERT_EQ(log.payloads().size(), 7U);
+    EXPECT_EQ(log.payloads()[1], "text=Check Survey Line:10,value=66.6667,is_exec=0");
+    EXPECT_EQ(log.payloads()[6], "show=0");
+    EXPECT_EQ(codes.at(1), 1000000) << "reported before it was judged";
 }

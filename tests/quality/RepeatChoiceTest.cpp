@@ -1,5 +1,7 @@
 #include "quality/RepeatChoice.h"
 
+#include "tests/support/Points.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -13,9 +15,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 SurveyPoint measured(const char* number, std::int64_t time, double north = 100)
 {
-    SurveyPoint point;
-    point.lineNumber = "1001";
-    point.pointNumber = number;
+    SurveyPoint point = surveyPoint("1001", number);
     point.dateTime = time;
     point.north = north;
     point.solutionType = 4;

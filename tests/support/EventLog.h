@@ -4,6 +4,7 @@
 #include "lum_sdk/events/IEventManager.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 /// Keeps the events of some names while it lives, in the order in which they were published.
@@ -38,6 +39,15 @@ public:
         std::vector<std::string> all;
         for (const Event& event : events)
             all.push_back(event.payload);
+        return all;
+    }
+
+    /// "NAME payload" of all events since the last call; the name alone of one without a payload.
+    std::vector<std::string> told()
+    {
+        std::vector<std::string> all;
+        for (const auto& [name, payload] : std::exchange(events, {}))
+            all.push_back(payload == "(null)" ? name : name + ' ' + payload);
         return all;
     }
 

@@ -3,9 +3,11 @@
 #include <QColor>
 #include <QFile>
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
+#include <cpl_conv.h>
 #include <cpl_string.h>
 #include <gdal.h>
 #include <ogr_srs_api.h>
@@ -30,7 +32,8 @@ struct MadeRaster
     /// The value of a pixel: column, row, band from 0.
     std::function<double(int, int, int)> value = [](int, int, int) { return 0.0; };
     std::function<void(GDALDatasetH)>
-        finish; ///< sets no data, palettes and so on, before the values
+        finish;   ///< sets no data, palettes and so on, before the values
+    QRect masked; ///< these pixels hold no data, by a mask inside the file
 
     /// \returns whether all went well
     [[nodiscard]] bool write(const QString& path, const char* driver = "GTiff") const
@@ -50,7 +53,7 @@ struct MadeRaster
         setSystem(dataset);
         if (finish)
             finish(dataset);
-        bool isGood = writeValues(dataset);
+        bool isGood = writeValues(dataset) && (masked.isEmpty() || writeMask(dataset));
         if (!overviews.empty())
             isGood =
                 GDALBuildOverviews(dataset, resampling, static_cast<int>(overviews.size()),
@@ -86,6 +89,18 @@ private:
         }
         return true;
     }
+    [[nodiscard]] bool writeMask(GDALDatasetH dataset) const
+    {
+        CPLSetThreadLocalConfigOption("GDAL_TIFF_INTERNAL_MASK", "YES");
+        const bool isMade = GDALCreateDatasetMaskBand(dataset, GMF_PER_DATASET) == CE_None;
+        CPLSetThreadLocalConfigOption("GDAL_TIFF_INTERNAL_MASK", nullptr);
+        const GDALRasterBandH mask = GDALGetMaskBand(GDALGetRasterBand(dataset, 1));
+        std::vector<unsigned char> holes(std::size_t(masked.width() * masked.height()), 0);
+        return isMade && GDALFillRaster(mask, 255, 0) == CE_None &&
+               GDALRasterIO(mask, GF_Write, masked.x(), masked.y(), masked.width(), masked.height(),
+                            holes.data(), masked.width(), masked.height(), GDT_Byte, 0,
+                            0) == CE_None;
+    }
 };
 
 /// A value that tells where a pixel lies, up to 4096 pixels across and down; see `placeOf`.
@@ -100,4 +115,24 @@ inline double placeValue(int column, int row, int band)
 inline QPoint placeOf(QRgb color)
 {
     return {qRed(color) | (qBlue(color) >> 4) << 8, qGreen(color) | (qBlue(color) & 15) << 8};
+}
+
+/// A raster of one colour with its upper left corner at (easting, northing). A black one has no
+/// content and may be very large.
+inline MadeRaster plainRaster(const QSize& size, const QColor& color = Qt::red,
+                              const QPointF& corner = {})
+{
+    MadeRaster made;
+    made.size = size;
+    made.place = {corner.x(), 1, 0, corner.y(), 0, -1};
+    made.options = {"TILED=YES", "SPARSE_OK=TRUE", "INTERLEAVE=PIXEL"};
+    made.value = nullptr;
+    if (color == Qt::black)
+        return made;
+    made.finish = [color](GDALDatasetH file) {
+        for (const auto& [band, value] :
+             {std::pair(1, color.red()), {2, color.green()}, {3, color.blue()}})
+            GDALFillRaster(GDALGetRasterBand(file, band), value, 0);
+    };
+    return made;
 }

@@ -1,5 +1,6 @@
 #include "lum_sdk/files/Translations.h"
 
+#include "tests/support/Literals.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/TestFolder.h"
 
@@ -32,12 +33,11 @@ struct Text
 };
 
 /// The choice of the language names it in its own words.
-const QString kOwnName = QStringLiteral("简体中文");
+const QString kOwnName = "简体中文"_q;
 
 bool isChinese(const QString& text)
 {
-    static const QRegularExpression pattern(
-        QStringLiteral("[\\x{2e80}-\\x{9fff}\\x{ff00}-\\x{ffef}]"));
+    static const QRegularExpression pattern("[\\x{2e80}-\\x{9fff}\\x{ff00}-\\x{ffef}]"_q);
     return text.contains(pattern);
 }
 
@@ -111,25 +111,19 @@ private Q_SLOTS:
         const TestFolder folder;
         QProcess lupdate;
         lupdate.setWorkingDirectory(QStringLiteral(SOURCE_FOLDER));
-        lupdate.start(QStringLiteral(LUPDATE),
-                      QStringList{QStringLiteral("-silent"), QStringLiteral("-locations"),
-                                  QStringLiteral("none")} +
-                          codeFolders() +
-                          QStringList{QStringLiteral("-ts"), folder.path("all.ts")});
+        lupdate.start(QStringLiteral(LUPDATE), QStringList{"-silent"_q, "-locations"_q, "none"_q} +
+                                                   codeFolders() +
+                                                   QStringList{"-ts"_q, folder.path("all.ts")});
         QVERIFY(lupdate.waitForFinished(60000));
         m_texts = textsOf(folder.path("all.ts"));
         QVERIFY(m_texts.size() > 300);
-        collect(kConfiguration + QStringLiteral("Tool/DataProcess5/main_frame.xml"), "FrameLayout",
-                {QStringLiteral("caption"), QStringLiteral("tip")}, m_texts);
-        QDirIterator grids(kConfiguration + QStringLiteral("ControlXml/DataProcess5"),
-                           {QStringLiteral("*.xml")});
+        collect(kConfiguration + "Tool/DataProcess5/main_frame.xml"_q, "FrameLayout",
+                {"caption"_q, "tip"_q}, m_texts);
+        QDirIterator grids(kConfiguration + "ControlXml/DataProcess5"_q, {"*.xml"_q});
         while (grids.hasNext())
-            collect(
-                grids.next(), "ControlXml",
-                {QStringLiteral("caption"), QStringLiteral("description"), QStringLiteral("unit")},
-                m_texts);
-        QVERIFY(m_chinese.load(QStringLiteral("skyquill_zh_CN"), kFolder));
-        QVERIFY(m_english.load(QStringLiteral("skyquill_en"), kFolder));
+            collect(grids.next(), "ControlXml", {"caption"_q, "description"_q, "unit"_q}, m_texts);
+        QVERIFY(m_chinese.load("skyquill_zh_CN"_q, kFolder));
+        QVERIFY(m_english.load("skyquill_en"_q, kFolder));
     }
 
     void nothingUntranslatedReachesAChineseSession()
@@ -167,11 +161,10 @@ private Q_SLOTS:
         QSet<QString> known;
         for (const Text& text : m_texts)
             known << QString::fromUtf8(text.source);
-        static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
+        static const QRegularExpression literal("\"((?:[^\"\\\\]|\\\\.)*)\""_q);
         for (const QString& folder : codeFolders()) {
-            QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + folder,
-                               {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
-                               QDirIterator::Subdirectories);
+            QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + folder, {"*.cpp"_q, "*.h"_q},
+                               QDir::Files, QDirIterator::Subdirectories);
             while (files.hasNext()) {
                 const QString path = files.next();
                 if (path.endsWith(QLatin1String("Components.cpp")) ||
@@ -186,7 +179,7 @@ private Q_SLOTS:
                     for (auto match = literal.globalMatch(code); match.hasNext();) {
                         const QString text = match.next().captured(1);
                         QVERIFY2(!isChinese(text) || known.contains(text),
-                                 qUtf8Printable(path + QStringLiteral(": ") + text));
+                                 qUtf8Printable(path + ": "_q + text));
                     }
                 }
             }
@@ -197,7 +190,7 @@ private Q_SLOTS:
     {
         for (const Text& text : m_texts) {
             const QString chinese = text.by(m_chinese);
-            QVERIFY2(!chinese.contains(QStringLiteral("勘察")), qUtf8Printable(text.name()));
+            QVERIFY2(!chinese.contains("勘察"_q), qUtf8Printable(text.name()));
             const QByteArray button = QString(chinese).remove(QLatin1Char('&')).toUtf8();
             if (text.source == "OK")
                 QCOMPARE(button, QByteArray("确定"));
@@ -211,19 +204,16 @@ private Q_SLOTS:
     {
         const LogCapture log;
         for (const char* language : {"de", "C", "en", ""}) { // the test's own language is German
-            lum::loadTranslations(QString::fromLatin1(language), kFolder,
-                                  QStringLiteral("skyquill"));
-            QCOMPARE(QCoreApplication::translate("TimeZomeDlg", "确认"), QStringLiteral("OK"));
-            QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"),
-                     QStringLiteral("Cancel"));
+            lum::loadTranslations(QString::fromLatin1(language), kFolder, "skyquill"_q);
+            QCOMPARE(QCoreApplication::translate("TimeZomeDlg", "确认"), "OK"_q);
+            QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancel"_q);
             QVERIFY2(log.lines(ILogger::Level::Info).empty(), log.text().c_str());
             qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
         }
-        lum::loadTranslations(QStringLiteral("zh_CN"), kFolder, QStringLiteral("skyquill"));
-        QCOMPARE(QCoreApplication::translate("TimeZomeDlg", "确认"), QStringLiteral("确认"));
-        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "OK"), QStringLiteral("确定"));
-        lum::loadTranslations(QStringLiteral("en"), kFolder + QStringLiteral("/none"),
-                              QStringLiteral("skyquill"));
+        lum::loadTranslations("zh_CN"_q, kFolder, "skyquill"_q);
+        QCOMPARE(QCoreApplication::translate("TimeZomeDlg", "确认"), "确认"_q);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "OK"), "确定"_q);
+        lum::loadTranslations("en"_q, kFolder + "/none"_q, "skyquill"_q);
         QVERIFY(log.holds("no catalogue"));
     }
 };

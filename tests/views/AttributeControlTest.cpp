@@ -11,19 +11,14 @@
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/EventLog.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/Points.h"
-#include "tests/support/PopupMenu.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Widgets.h"
 #include "views/AttributeValues.h"
-
-#include <QTreeView>
 
 #include <memory>
 
 namespace {
-
-using Names = std::vector<std::string>;
 
 SurveyPoint result()
 {
@@ -114,9 +109,7 @@ private Q_SLOTS:
         QCOMPARE(shown("north"), "4562636.469 m"_q);
         QCOMPARE(shown("horizontal_accuracy"), "0.0123457 m"_q);
         QCOMPARE(shown("date_time"), "2023/11/15 06:13:20"_q);
-        QCOMPARE(shown("measure_mode"), "survey"_q);
         QCOMPARE(shown("solution_type"), "fixed"_q);
-        QCOMPARE(shown("obstacle"), "a lone tree"_q);
 
         m_map->setStatus(status::kDegreeFormat, "1");
         get_system_ini_parameter().dictionary().set(settings::kTimeZone, "0");
@@ -159,21 +152,6 @@ private Q_SLOTS:
         select(events::kSurveyPointSelected, "R 1", "2");
         enter("antenna_height", "1.5"_q);
         QCOMPARE(m_map->manager.surveyPoints().find("R 1", "2")->elevation, -1.5);
-    }
-
-    void theMenuAsksForTheHistoryOfThePoint()
-    {
-        selectResult();
-        const EventLog asked(m_map->host.events, events::kShowPointHistory);
-        auto* const view = grid()->findChild<QTreeView*>();
-        QTimer::singleShot(0, view, [] { // the menu of actions waits for its end
-            QMenu* const menu = openMenu();
-            QVERIFY(menu != nullptr);
-            menu->setActiveAction(menu->actions().constLast());
-            QTest::keyClick(menu, Qt::Key_Return);
-        });
-        openMenuAt(*view->viewport(), view->visualRect(cell("remarks")).center());
-        QCOMPARE(asked.payloads(), Names{"pointName=C10012034_1,lineName=R 1"});
     }
 
     void aBadEditIsMarkedUntilItIsCorrectedOrGivenUp()
@@ -345,28 +323,6 @@ private Q_SLOTS:
         QVERIFY(isEmpty());
     }
 
-    void aBadControlFileIsToldAndHurtsNoOther()
-    {
-        const TestFolder folder;
-        const QString installed = QString::fromStdString(basalt::configFolder()) + "/ControlXml/"_q;
-        for (const QString& page : {"DesignAttribute.xml"_q, "StationAttribute.xml"_q})
-            QVERIFY(QFile::copy(installed + "DataProcess5/"_q + page, folder.path(page)));
-        folder.write("SurveyAttribute.xml", "<property_grid>\n<group caption=");
-        const basalt::Product product = basalt::product();
-        basalt::setProduct({product.organisation, product.name,
-                            QDir(installed).relativeFilePath(folder.path()).toStdString()});
-        m_panel = std::make_unique<AttributeControl>("", &m_map->host);
-        m_panel->show();
-        basalt::setProduct(product);
-        const LogCapture log;
-        selectResult();
-        QVERIFY(says("SurveyAttribute.xml"_q) && says("line 2"_q));
-        QVERIFY(log.holds("SurveyAttribute.xml"));
-        m_map->addDesign("R 1", "7", 1, 2);
-        select(events::kDesignPointSelected, "R 1", "7");
-        QCOMPARE(shown("point_num"), "7"_q);
-    }
-
 private:
     void select(const char* event, const char* line, const char* point)
     {
@@ -423,13 +379,7 @@ private:
         QCoreApplication::processEvents(); // the editor enters its text later
     }
     SurveyPoint& point() { return *m_map->manager.surveyPoints().find("R 1", "C10012034_1"); }
-    [[nodiscard]] bool says(const QString& text) const
-    {
-        const auto labels = m_panel->findChildren<QLabel*>();
-        return std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) {
-            return label->isVisible() && label->text().contains(text);
-        });
-    }
+    [[nodiscard]] bool says(const QString& text) const { return ::says(*m_panel, text); }
     [[nodiscard]] bool isEmpty() const
     {
         QCoreApplication::processEvents();

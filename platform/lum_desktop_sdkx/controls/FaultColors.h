@@ -9,6 +9,9 @@ class QPalette;
 /// Behind a value: shines through, so that it suits the colour below and the text above it.
 [[nodiscard]] QColor faultBackground();
 
+/// The base of a field whose text is wrong: opaque, as the base is.
+[[nodiscard]] QColor faultBase(const QPalette& palette);
+
 /// Behind a sentence that warns; shines through as well.
 [[nodiscard]] QColor warningBackground();
 

@@ -1,17 +1,10 @@
-#include "basalt_utilities/KeyList.h"
 #include "design/ui/CountAzimuthCommand.h"
 #include "design/ui/CountAzimuthDlg.h"
-#include "lum_sdk/coords/ICoordTransform.h"
-#include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "protocol/Events.h"
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/EventLog.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
+#include "tests/support/Widgets.h"
 
 #include <memory>
 
@@ -68,29 +61,14 @@ public:
             all << edit->text();
         return all;
     }
-    [[nodiscard]] QPushButton& button(const char* text)
-    {
-        for (QPushButton* const each : dialog().findChildren<QPushButton*>()) {
-            if (each->text().remove(QLatin1Char('&')) == QLatin1String(text))
-                return *each;
-        }
-        qFatal("no button %s", text);
-    }
-    void press(const char* text) { QTest::mouseClick(&button(text), Qt::LeftButton); }
+    [[nodiscard]] QAbstractButton& button(const char* text) { return buttonOf(dialog(), text); }
+    void press(const char* text) { ::press(dialog(), text); }
     void choose(const QString& format)
     {
         for (QRadioButton* const each : dialog().findChildren<QRadioButton*>()) {
             if (each->text().contains(format))
                 each->click();
         }
-    }
-    void clickMap(int x, int y) { QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint(x, y)); }
-    [[nodiscard]] QStringList labels()
-    {
-        QStringList all;
-        for (const QLabel* const label : dialog().findChildren<QLabel*>())
-            all << label->text();
-        return all;
     }
     [[nodiscard]] QString note()
     {
@@ -183,14 +161,14 @@ private Q_SLOTS:
         Calculator project;
         project.press("Pick on the Map"); // the first is that of the start
         QVERIFY(project.button("Pick on the Map").isChecked());
-        project.clickMap(100, 100);
+        project.click(100, 100);
         QVERIFY(!project.button("Pick on the Map").isChecked());
         QCOMPARE(project.texts().mid(0, 3), (QStringList{"200.5"_q, "100.25"_q, QString()}));
         QVERIFY(project.note().contains("10015001"_q));
         QVERIFY(project.boxes.told().isEmpty()); // that more is missing
         project.press("Pick Both on the Map");
-        project.clickMap(300, 200);
-        project.clickMap(200, 200);
+        project.click(300, 200);
+        project.click(200, 200);
         QCOMPARE(project.texts(),
                  (QStringList{"100"_q, "300"_q, "100"_q, "200"_q, "-90.000000"_q, "100.000000"_q}));
 
@@ -198,12 +176,6 @@ private Q_SLOTS:
         QTest::keyClick(&project.dialog(), Qt::Key_Escape); // ends the pick alone
         QVERIFY(project.dialog().isVisible());
         QCOMPARE(project.texts()[4], "-90.000000"_q);
-        project.press("Pick on the Map");
-        project.press("Pick Both on the Map"); // in its place
-        QVERIFY(project.button("Pick Both on the Map").isChecked());
-        QVERIFY(!project.button("Pick on the Map").isChecked());
-        project.press("Pick Both on the Map");
-        QVERIFY(!project.button("Pick Both on the Map").isChecked());
         project.host.document = {};
         project.publish(events::kUpdateSystemStatus);
         QVERIFY(!project.button("Pick on the Map").isEnabled());
@@ -224,31 +196,6 @@ private Q_SLOTS:
         project.design.isPossible = false; // the project was closed
         project.publish(events::kUpdateSystemStatus);
         QVERIFY(!project.button("Design Lines with It").isEnabled());
-    }
-
-    void namesTheUnitOfTheProject()
-    {
-        Calculator project;
-        QVERIFY(project.labels().contains("米"_q));
-        basalt::Dictionary feet;
-        csa_to_dictionary(feet, "unit_m=0.3048,factor=3.280839895");
-        (void)get_project_coord_transform().initialise(feet, feet);
-        project.publish(events::kProjectChanged);
-        const QStringList labels = project.labels();
-        (void)get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
-        QVERIFY(labels.contains("ft"_q));
-        QVERIFY(!labels.contains("米"_q));
-    }
-
-    void keepsItsCoordinatesWhenItIsClosed()
-    {
-        Calculator project;
-        project.type({"1.5"_q});
-        QTest::keyClick(&project.dialog(), Qt::Key_Escape);
-        QVERIFY(!project.dialog().isVisible());
-        CountAzimuthCommand("", &project.host).execute();
-        QVERIFY(project.dialog().isVisible());
-        QCOMPARE(project.texts()[0], "1.5"_q);
     }
 };
 

@@ -4,24 +4,17 @@
 #include "exchange/ui/FileImports.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "project/DataProcessDataManager.h"
-#include "protocol/StatusKeys.h"
-#include "tests/lum_desktop_sdkx/TestHost.h"
+#include "tests/project/OpenProject.h"
 #include "tests/project/TestProject.h"
+#include "tests/support/Boxes.h"
 #include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Widgets.h"
 
 #include <QAbstractItemModelTester>
-#include <QApplication>
-#include <QLabel>
-#include <QPushButton>
-#include <QtTest>
 
-#include <functional>
 #include <memory>
 
 namespace {
@@ -64,19 +57,143 @@ class CoordCompareDialogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void showsBothSystemsRowsAndFigures();
-    void exportsWithTheTextsOfBothForms();
-    void filesThatAreInUseAreNotReplaced();
-    void anImportOfAnotherSystemIsToldOnce();
+    void init()
+    {
+        m_folder = std::make_unique<TestFolder>();
+        m_project = std::make_unique<OpenProject>();
+        m_project->manager->setCoordSystem(systemOf(kOwn));
+        OpenProject::status().set(status::kProjectPath, m_folder->path().toStdString());
+        OpenProject::status().set(status::kProjectName, "own");
+        m_asked.clear();
+        m_boxes = std::make_unique<Boxes>();
+        m_files = std::make_unique<FileDialog::Responder>([this](const auto& request) {
+            m_asked << request.title << request.filter;
+            return m_path;
+        });
+    }
+
+    void cleanup()
+    {
+        m_files.reset();
+        m_boxes.reset();
+        m_project.reset();
+    }
+
+    void showsBothSystemsRowsAndFigures()
+    {
+        OpenProject::status().set(status::kDegreeFormat, "1");
+        const auto shown = dialog();
+        QVERIFY(shown->findChild<QLabel*>("head"_q)->text().contains(
+            "\"theirs.db\": its coordinate system is not the project's. Parameters that differ: 2."_q));
+        const auto* const parameters =
+            shown->findChild<CustomTableWidget*>("parameters"_q)->model();
+        const auto cell = [&](int row, int column) {
+            return parameters->index(row, column).data().toString();
+        };
+        QCOMPARE(cell(0, 0) + cell(0, 1), "≠Projection: False easting"_q);
+        QCOMPARE(cell(0, 2) + " / "_q + cell(0, 3), "500100 m / 500000 m"_q);
+        QCOMPARE(cell(1, 0) + cell(1, 1), "≠Geoid: Use geoid"_q);
+        QCOMPARE(cell(2, 0), QString());
+        QVERIFY(parameters->index(0, 2).data(Qt::BackgroundRole).isValid() &&
+                !parameters->index(2, 2).data(Qt::BackgroundRole).isValid());
+        QStringList names;
+        for (int row = 0; row < parameters->rowCount(); ++row)
+            names << cell(row, 1);
+        QVERIFY(names.contains("Ellipsoid: Semi-major axis a"_q));
+        QVERIFY(!names.contains("Plane shift (four parameters): Shift north"_q)); // of neither
+
+        auto* const table = shown->findChild<CustomTableWidget*>("rows"_q);
+        QCOMPARE(table->model()->rowCount(), 200);
+        QCOMPARE(table->model()->index(1, 2).data().toString(), "0deg0min3.600sec"_q);
+        QCOMPARE(table->model()->index(1, 12).data().toString(), "-100.000"_q);
+        QCOMPARE(
+            shown->findChild<QLabel*>("sentence"_q)->text(),
+            "A constant shift on the plane: north 0.000 m, east -100.000 m; the heights are the "
+            "same."_q);
+        QVERIFY(shown->findChild<QLabel*>("exceptions"_q)
+                    ->text()
+                    .startsWith("Results that could not be compared: 1."_q));
+        bool hasLink = false;
+        for (auto* const label : shown->findChildren<QLabel*>()) {
+            if (!label->text().startsWith("<a href=\"0\">L&lt;1&gt; / 0"_q))
+                continue;
+            hasLink = true;
+            table->scrollToBottom();
+            Q_EMIT label->linkActivated("0"_q);
+            QCOMPARE(table->selectedRows(), std::vector<int>{0});
+        }
+        QVERIFY(hasLink);
+        QTest::keyClick(shown.get(), Qt::Key_Escape);
+        QVERIFY(!shown->isVisible());
+    }
+
+    void exportsWithTheTextsOfBothForms()
+    {
+        const auto shown = dialog();
+        for (const auto& [button, suffix] :
+             {std::pair("Export To Excel", ".xlsx"_q), {"Export To Csv", ".csv"_q}}) {
+            const QString name = QString::fromUtf8(button);
+            m_asked.clear();
+            m_path = m_folder->path("对比 1"); // gets the suffix
+            press(*shown, button);
+            QCOMPARE(m_asked, QStringList({"Get Save File Name"_q, "*"_q + suffix}));
+            QCOMPARE(m_boxes->told(), QStringList("Success|%1 Success!"_q.arg(name)));
+            QVERIFY(TestFolder::read(m_path + suffix).size() > 5000);
+            m_path = m_folder->path("none/x"_q + suffix);
+            press(*shown, button);
+            QCOMPARE(m_boxes->told(), QStringList("Fail|%1 Failed!"_q.arg(name)));
+            QVERIFY(m_boxes->last.details.contains(m_path));
+            m_path.clear();
+            press(*shown, button);
+            QVERIFY(m_boxes->told().isEmpty() && shown->isVisible());
+        }
+    }
+
+    void filesThatAreInUseAreNotReplaced()
+    {
+        const auto shown = dialog();
+        m_boxes->answer = Boxes::Button::Yes;
+        for (const char* name : {"own.db", "theirs.db"}) {
+            m_path = m_folder->write(name, "before");
+            press(*shown, "Export To Csv");
+            QCOMPARE(m_boxes->told().last(), "Fail|Export To Csv Failed!"_q);
+            QCOMPARE(TestFolder::read(m_path), QByteArray("before"));
+        }
+    }
+
+    /// From the menu to Escape: one dialog, no further box, nothing imported.
+    void anImportOfAnotherSystemIsToldOnce()
+    {
+        const QString path = m_folder->path("theirs.db");
+        QVERIFY(makeDatabase(path.toStdString()));
+        TestProject theirs;
+        theirs.coordParameters = systemOf(kTheirs);
+        for (const SurveyPoint& record : records())
+            theirs.survey.set(record);
+        QVERIFY(theirs.save(path.toStdString()).isDone());
+        m_project->manager->setOtherSystemHandler([this](const QString& file, SurveyRecords other) {
+            DlgCoordCompare::tell(m_project->host, file, std::move(other));
+        });
+        int shown = 0;
+        whenDialog(*this, "DlgCoordCompare", [&](QDialog& dialog) {
+            ++shown;
+            QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        });
+        QVERIFY(!FileImports::importSurveyDatabase(m_project->host, path));
+        QCOMPARE(shown, 1);
+        QVERIFY(m_boxes->told().isEmpty() && m_project->results().empty() &&
+                !m_project->manager->isChanged());
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    }
 
 private:
     std::unique_ptr<DlgCoordCompare> dialog()
     {
-        auto made =
-            std::make_unique<DlgCoordCompare>(*m_host, m_folder->path("theirs.db"), systemOf(kOwn),
-                                              SurveyRecords{systemOf(kTheirs), records()});
+        auto made = std::make_unique<DlgCoordCompare>(m_project->host, m_folder->path("theirs.db"),
+                                                      systemOf(kOwn),
+                                                      SurveyRecords{systemOf(kTheirs), records()});
         QAbstractItemModelTester::FailureReportingMode mode =
             QAbstractItemModelTester::FailureReportingMode::QtTest;
         for (auto* const table : made->findChildren<CustomTableWidget*>())
@@ -84,176 +201,14 @@ private:
         made->show();
         return made;
     }
-    static void press(const QWidget& dialog, const QString& text)
-    {
-        for (auto* const button : dialog.findChildren<QPushButton*>()) {
-            if (QString(button->text()).remove(QLatin1Char('&')) == text)
-                QTest::mouseClick(button, Qt::LeftButton);
-        }
-    }
 
     std::unique_ptr<TestFolder> m_folder;
-    std::unique_ptr<TestHost> m_host;
-    std::unique_ptr<DataProcessDataManager> m_manager;
-    std::unique_ptr<LumMessageBox::Responder> m_boxes;
+    std::unique_ptr<OpenProject> m_project;
+    std::unique_ptr<Boxes> m_boxes;
     std::unique_ptr<FileDialog::Responder> m_files;
-    QStringList m_told; ///< titles and texts of boxes
-    QString m_details;  ///< of the last
     QStringList m_asked;
     QString m_path; ///< what the user chooses
 };
-
-void CoordCompareDialogTest::init()
-{
-    m_folder = std::make_unique<TestFolder>();
-    m_host = std::make_unique<TestHost>();
-    m_manager = std::make_unique<DataProcessDataManager>(m_host.get());
-    m_manager->setCoordSystem(systemOf(kOwn));
-    IDictionary& values = get_system_status_dictionary();
-    values.clear();
-    values.set(status::kProjectOpen, "1");
-    values.set(status::kProjectPath, m_folder->path().toStdString());
-    values.set(status::kProjectName, "own");
-    m_told.clear();
-    m_asked.clear();
-    m_boxes = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
-        m_told << message.title << message.text;
-        m_details = message.details;
-        return message.buttons.testFlag(LumMessageBox::Button::No) ? LumMessageBox::Button::No
-                                                                   : LumMessageBox::Button::Ok;
-    });
-    m_files = std::make_unique<FileDialog::Responder>([this](const auto& request) {
-        m_asked << request.title << request.filter;
-        return m_path;
-    });
-}
-
-void CoordCompareDialogTest::cleanup()
-{
-    m_files.reset();
-    m_boxes.reset();
-    m_manager.reset();
-    m_host.reset();
-}
-
-void CoordCompareDialogTest::showsBothSystemsRowsAndFigures()
-{
-    get_system_status_dictionary().set(status::kDegreeFormat, "1");
-    const auto shown = dialog();
-    QVERIFY(shown->findChild<QLabel*>("head"_q)->text().contains(
-        "\"theirs.db\": its coordinate system is not the project's. Parameters that differ: 2."_q));
-    const auto* const parameters = shown->findChild<CustomTableWidget*>("parameters"_q)->model();
-    const auto cell = [&](int row, int column) {
-        return parameters->index(row, column).data().toString();
-    };
-    QCOMPARE(cell(0, 0) + cell(0, 1), "≠Projection: False easting"_q);
-    QCOMPARE(cell(0, 2) + " / "_q + cell(0, 3), "500100 m / 500000 m"_q);
-    QCOMPARE(cell(1, 0) + cell(1, 1), "≠Geoid: Use geoid"_q);
-    QCOMPARE(cell(2, 0), QString());
-    QVERIFY(parameters->index(0, 2).data(Qt::BackgroundRole).isValid() &&
-            !parameters->index(2, 2).data(Qt::BackgroundRole).isValid());
-    QStringList names;
-    for (int row = 0; row < parameters->rowCount(); ++row)
-        names << cell(row, 1);
-    QVERIFY(names.contains("Ellipsoid: Semi-major axis a"_q));
-    QVERIFY(!names.contains("Plane shift (four parameters): Shift north"_q)); // of neither
-
-    auto* const table = shown->findChild<CustomTableWidget*>("rows"_q);
-    QCOMPARE(table->model()->rowCount(), 200);
-    QCOMPARE(table->model()->index(1, 2).data().toString(), "0deg0min3.600sec"_q);
-    QCOMPARE(table->model()->index(1, 12).data().toString(), "-100.000"_q);
-    QCOMPARE(shown->findChild<QLabel*>("sentence"_q)->text(),
-             "A constant shift on the plane: north 0.000 m, east -100.000 m; the heights are the "
-             "same."_q);
-    QVERIFY(shown->findChild<QLabel*>("exceptions"_q)
-                ->text()
-                .startsWith("Results that could not be compared: 1."_q));
-    bool hasLink = false;
-    for (auto* const label : shown->findChildren<QLabel*>()) {
-        if (!label->text().startsWith("<a href=\"0\">L&lt;1&gt; / 0"_q))
-            continue;
-        hasLink = true;
-        table->scrollToBottom();
-        Q_EMIT label->linkActivated("0"_q);
-        QCOMPARE(table->selectedRows(), std::vector<int>{0});
-    }
-    QVERIFY(hasLink);
-    QTest::keyClick(shown.get(), Qt::Key_Escape);
-    QVERIFY(!shown->isVisible());
-}
-
-void CoordCompareDialogTest::exportsWithTheTextsOfBothForms()
-{
-    const auto shown = dialog();
-    for (const char* form : {"Excel", "Csv"}) {
-        const QString name = QLatin1String(form);
-        const QString suffix = name == "Csv"_q ? ".csv"_q : ".xlsx"_q;
-        m_told.clear();
-        m_asked.clear();
-        m_path = m_folder->path("对比 1"); // gets the suffix
-        press(*shown, "Export To "_q + name);
-        QCOMPARE(m_asked, QStringList({"Get Save File Name"_q, "*"_q + suffix}));
-        QCOMPARE(m_told, QStringList({"Success"_q, "Export To %1 Success!"_q.arg(name)}));
-        QVERIFY(TestFolder::read(m_path + suffix).size() > 5000);
-        m_told.clear();
-        m_path = m_folder->path("none/x"_q + suffix);
-        press(*shown, "Export To "_q + name);
-        QCOMPARE(m_told, QStringList({"Fail"_q, "Export To %1 Failed!"_q.arg(name)}));
-        QVERIFY2(m_details.contains(m_path), qPrintable(m_details));
-        m_path.clear();
-        m_told.clear();
-        press(*shown, "Export To "_q + name);
-        QVERIFY(m_told.isEmpty() && shown->isVisible());
-    }
-}
-
-void CoordCompareDialogTest::filesThatAreInUseAreNotReplaced()
-{
-    const auto shown = dialog();
-    m_boxes.reset();
-    m_boxes = std::make_unique<LumMessageBox::Responder>([this](const auto& message) {
-        m_told << message.text;
-        return message.kind == LumMessageBox::Kind::Question ? LumMessageBox::Button::Yes
-                                                             : LumMessageBox::Button::Ok;
-    });
-    for (const char* name : {"own.db", "theirs.db"}) {
-        m_path = m_folder->write(name, "before");
-        press(*shown, "Export To Csv"_q);
-        QCOMPARE(m_told.last(), "Export To Csv Failed!"_q);
-        QCOMPARE(TestFolder::read(m_path), QByteArray("before"));
-    }
-}
-
-/// From the menu to Escape: one dialog, no further box, nothing imported.
-void CoordCompareDialogTest::anImportOfAnotherSystemIsToldOnce()
-{
-    const QString path = m_folder->path("theirs.db");
-    QVERIFY(makeDatabase(path.toStdString()));
-    TestProject theirs;
-    theirs.coordParameters = systemOf(kTheirs);
-    for (const SurveyPoint& record : records())
-        theirs.survey.set(record);
-    QVERIFY(theirs.save(path.toStdString()).isDone());
-    m_manager->setOtherSystemHandler([this](const QString& file, SurveyRecords other) {
-        DlgCoordCompare::tell(*m_host, file, std::move(other));
-    });
-    int shown = 0;
-    const std::function<void()> close = [&] {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr)
-            return QTimer::singleShot(5, this, close);
-        ++shown;
-        QCOMPARE(dialog->objectName(), "DlgCoordCompare"_q);
-        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
-        QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
-    };
-    QTimer::singleShot(0, this, close);
-    QVERIFY(!FileImports::importSurveyDatabase(*m_host, path));
-    QCOMPARE(shown, 1);
-    QVERIFY(m_told.isEmpty() && m_manager->surveyPoints().empty() && !m_manager->isChanged());
-    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
-}
 
 QTEST_MAIN(CoordCompareDialogTest)
 #include "CoordCompareDialogTest.moc"

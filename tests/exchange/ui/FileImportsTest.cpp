@@ -13,13 +13,7 @@
 #include "tests/support/Literals.h"
 #include "tests/support/Points.h"
 #include "tests/support/TestFolder.h"
-
-#include <QClipboard>
-#include <QDesktopServices>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QtTest>
+#include "tests/support/Widgets.h"
 
 #include <memory>
 
@@ -170,21 +164,14 @@ private Q_SLOTS:
     {
         const QString path = file("1,L,1,2,3,4,x,0\n");
         FileImports::importDesignCsv(m_project->host, path);
-        const auto button = [&](const QString& text) {
-            for (auto* const each : list()->findChildren<QPushButton*>()) {
-                if (each->text() == text)
-                    return each;
-            }
-            return static_cast<QPushButton*>(nullptr);
-        };
-        QTest::mouseClick(button("Copy &All"_q), Qt::LeftButton);
+        press(*list(), "Copy All");
         const QString copied = QGuiApplication::clipboard()->text();
         QVERIFY2(copied.startsWith("Import Success!\n\"%1\": lines read: 1"_q.arg(path)) &&
                      copied.contains("\nSkipped line\t1\tL\t1\tField 7"_q),
                  qPrintable(copied));
         FileOpener opener;
         QDesktopServices::setUrlHandler("file"_q, &opener, "open");
-        QTest::mouseClick(button("&Open the File"_q), Qt::LeftButton);
+        press(*list(), "Open the File");
         QDesktopServices::unsetUrlHandler("file"_q);
         QCOMPARE(opener.opened, QList<QUrl>({QUrl::fromLocalFile(path)}));
     }
@@ -215,60 +202,41 @@ private Q_SLOTS:
         QVERIFY(list()->findChild<QLabel*>("place"_q)->text().contains("1,000"_q));
     }
 
-    void aFileThatTellsIsNotAskedAbout()
-    {
-        QVERIFY(FileImports::canImport("/a b/X.CSV"_q) && FileImports::canImport("x.db"_q));
-        QVERIFY(!FileImports::canImport("/csv"_q) && !FileImports::canImport("/a.csv/x.txt"_q));
-        FileImports::importFile(m_project->host, file(kGoodDesign));
-        QCOMPARE(m_project->design().pointCount(), std::size_t(2));
-        FileImports::importFile(m_project->host, file("point num,line num\n1,L\n"));
-        QCOMPARE(m_project->results().pointCount(), std::size_t(1));
-        FileImports::importFile(m_project->host, m_folder->path());
-        QCOMPARE(m_boxes->told().last(), "Error|Import Failed!"_q);
-    }
-
-    void anUnknownFileIsAskedAbout_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<QString>("told");
-        QTest::newRow("design") << "&Design Points" << 0 << "There are fewer than";
-        QTest::newRow("survey") << "&Survey Results" << 0 << "No line holds";
-        QTest::newRow("cancel") << "Cancel" << 0 << "";
-        QTest::newRow("escape") << "" << int(Qt::Key_Escape) << "";
-        QTest::newRow("enter") << "" << int(Qt::Key_Return) << "";
-    }
-
     void anUnknownFileIsAskedAbout()
     {
-        QFETCH(const QString, button);
-        QFETCH(const int, key);
-        QFETCH(const QString, told);
-        int questions = 0;
-        QTimer::singleShot(0, this, [&] {
-            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            QVERIFY(dialog != nullptr && dialog->objectName() == "DlgCsvKind"_q);
-            ++questions;
-            QVERIFY(QTest::qWaitForWindowActive(dialog));
-            QVERIFY(dialog->findChild<QLabel*>()->text().contains("测试 %1.csv"_q));
-            if (key != 0)
-                QTest::keyClick(dialog->focusWidget(), Qt::Key(key));
-            for (auto* const each : dialog->findChildren<QPushButton*>()) {
-                if (key == 0 &&
-                    each->text().remove(QLatin1Char('&')) == QString(button).remove("&"_q))
-                    QTest::mouseClick(each, Qt::LeftButton);
-            }
-        });
-        FileImports::importFile(m_project->host, file("1;L;1;2\n"));
-        QCOMPARE(questions, 1);
-        QCOMPARE(list() != nullptr, !told.isEmpty());
-        if (list() == nullptr)
-            return;
-        QTest::mouseClick(list()->findChildren<QPushButton*>().constFirst(), Qt::LeftButton);
-        QString all = list()->findChild<QPlainTextEdit*>()->toPlainText();
-        if (auto* const table = list()->findChild<CustomTableWidget*>())
-            all += table->model()->index(0, 4).data().toString();
-        QVERIFY2(all.contains(told), qPrintable(all));
+        const struct
+        {
+            const char* button; ///< that is pressed; else a key
+            Qt::Key key;
+            const char* told; ///< by the list; none comes when it is empty
+        } cases[] = {{"Design Points", {}, "There are fewer than"},
+                     {"Survey Results", {}, "No line holds"},
+                     {"Cancel", {}, ""},
+                     {"", Qt::Key_Escape, ""},
+                     {"", Qt::Key_Return, ""}};
+        for (const auto& [button, key, told] : cases) {
+            int questions = 0;
+            whenDialog(*this, "DlgCsvKind", [&, button = button, key = key](QDialog& dialog) {
+                ++questions;
+                QVERIFY(QTest::qWaitForWindowActive(&dialog));
+                QVERIFY(says(dialog, "测试 %1.csv"_q));
+                if (*button == '\0')
+                    QTest::keyClick(dialog.focusWidget(), key);
+                else
+                    press(dialog, button);
+            });
+            FileImports::importFile(m_project->host, file("1;L;1;2\n"));
+            QCOMPARE(questions, 1);
+            QCOMPARE(list() != nullptr, *told != '\0');
+            if (list() == nullptr)
+                continue;
+            QTest::mouseClick(list()->findChildren<QPushButton*>().constFirst(), Qt::LeftButton);
+            QString all = list()->findChild<QPlainTextEdit*>()->toPlainText();
+            if (auto* const table = list()->findChild<CustomTableWidget*>())
+                all += table->model()->index(0, 4).data().toString();
+            QVERIFY2(all.contains(QLatin1String(told)), qPrintable(all));
+            delete list();
+        }
     }
 
 private:

@@ -30,13 +30,6 @@ public:
         ++reads;
         return QString::number(index.row()) + QLatin1Char('/') + QString::number(index.column());
     }
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                      int role) const override
-    {
-        return role == CustomTableWidget::kLongestTextsRole
-                   ? QVariant(section == 1 ? QStringList(longest) : QStringList())
-                   : QAbstractTableModel::headerData(section, orientation, role);
-    }
     void reset(int rows)
     {
         beginResetModel();
@@ -46,7 +39,6 @@ public:
 
     mutable int deepestRow = -1;
     mutable int reads = 0;
-    QString longest; ///< text of column 1
 
 private:
     int m_rows;
@@ -169,71 +161,6 @@ private Q_SLOTS:
         table.setColumnWidth(1, 333);
         model.reset(1000);
         QCOMPARE(table.columnWidth(1), 333);
-    }
-
-    void columnsHaveRoomForTheLongestTextAndTheSignOfTheOrder()
-    {
-        WideModel model(3, 2);
-        model.longest = "not surveyed"_q;
-        CustomTableWidget plain;
-        plain.setModel(&model);
-        QVERIFY(plain.columnWidth(1) >= plain.fontMetrics().horizontalAdvance(model.longest) + 6);
-        CustomTableWidget sorted;
-        sorted.enableSorting();
-        sorted.setFont(QFont(sorted.font().family(), 5)); // the caption is wider than the cells
-        plain.setFont(sorted.font());
-        plain.setModel(&model);
-        sorted.setModel(&model);
-        QVERIFY(sorted.columnWidth(0) >= plain.columnWidth(0) + 10);
-    }
-
-    void hidesColumnsByCaptionAlsoAfterAReset()
-    {
-        QStandardItemModel model;
-        fill(model);
-        CustomTableWidget table;
-        table.setHiddenColumns({"height"_q, "no such"_q});
-        table.setModel(&model);
-        QVERIFY(table.isColumnHidden(2) && !table.isColumnHidden(1));
-        model.clear();
-        fill(model);
-        QVERIFY(table.isColumnHidden(2) && !table.isColumnHidden(1));
-        table.setHiddenColumns({"secret"_q});
-        QVERIFY(!table.isColumnHidden(2) && table.isColumnHidden(1));
-    }
-
-    void bringsARowIntoViewWithoutMovingSideways()
-    {
-        WideModel model(500'000, 43);
-        CustomTableWidget table;
-        table.resize(300, 200);
-        table.setModel(&model);
-        table.show();
-        table.horizontalScrollBar()->setValue(700);
-
-        for (const int row : {499'999, 250'000}) {
-            table.showRow(row);
-            const QRect place = table.visualRect(model.index(row, 0));
-            QVERIFY(place.top() >= 0 && place.bottom() < table.viewport()->height());
-            QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
-            QCOMPARE(table.currentIndex().row(), row);
-            QCOMPARE(table.horizontalScrollBar()->value(), 700);
-        }
-        table.showRow(500'000);
-        table.showRow(-1);
-        QCOMPARE(table.currentIndex().row(), 250'000);
-    }
-
-    void asksForAMenuOnACellOnly()
-    {
-        WideTable wide;
-        const QSignalSpy asked(&wide.table, &CustomTableWidget::contextMenuRequestedAt);
-        for (const QPoint& place : {wide.at(1, 1), QPoint(5, 590)}) {
-            QContextMenuEvent event(QContextMenuEvent::Mouse, place, {});
-            QApplication::sendEvent(wide.table.viewport(), &event);
-        }
-        QCOMPARE(asked.count(), 1);
-        QCOMPARE(asked.at(0).at(0).toModelIndex(), wide.model.index(1, 1));
     }
 
     void aDragSelectsRowsInItsColumnAndElseARectangle()

@@ -170,17 +170,6 @@ private Q_SLOTS:
         QCOMPARE(m_grid->getData().size(), std::size_t(1));
     }
 
-    void addsChoicesThatTheFileCannotKnow()
-    {
-        for (int round = 0; round < 2; ++round)
-            m_grid->addRowChoices("type"_q, {{"1"_q, "Other"_q}, {"Well 7"_q, "Well 7"_q}});
-        click(cell(1, 0));
-        auto* const combo = qobject_cast<QComboBox*>(editor(cell(1, 0)));
-        QCOMPARE(combo->count(), 3);
-        QCOMPARE(combo->itemText(1), "Receiver"_q);
-        QCOMPARE(combo->itemData(2).toString(), "Well 7"_q);
-    }
-
     void copiesAllRowsAndFindsNoFaultInHiddenOnes()
     {
         m_grid->setValue("note"_q, "two\nlines"_q);

@@ -39,7 +39,7 @@ PropertyGridRow rowOf(const QByteArray& xml)
     return layout(inGrid(xml)).groups.front().rows.front();
 }
 
-/// A model of a grid with the values of a key list.
+/// A model of a grid with the values of a key list, whose rules are watched.
 struct Model : PropertyGridModel
 {
     explicit Model(const char* list = "", const QByteArray& xml = kGrid)
@@ -57,6 +57,8 @@ struct Model : PropertyGridModel
     {
         return setData(cell(key), QString::fromUtf8(text), Qt::EditRole);
     }
+
+    QAbstractItemModelTester tester{this, QAbstractItemModelTester::FailureReportingMode::QtTest};
 };
 
 } // namespace
@@ -144,35 +146,6 @@ private Q_SLOTS:
         check("editor='integer'", "6.0");
         check("editor='integer'", "99999999999999999999");
         check("editor='text'", " a, b ", " a, b ", " a, b ");
-    }
-
-    void showsValuesWithTheirDigitsAndUnit()
-    {
-        const auto shown = [](const QByteArray& attributes, const char* value) {
-            return shownPropertyGridValue(rowOf("<row key='k' caption='K' " + attributes),
-                                          QString::fromUtf8(value));
-        };
-        QCOMPARE(shown("editor='number' decimals='1' unit='m'/>", "0.5000"), "0.5000 m"_q);
-        QCOMPARE(shown("editor='angle'/>", "-12.5"), "-12.5°"_q);
-        QCOMPARE(shown("editor='number' unit='m'/>", ""), QString());
-        const QByteArray choice = "editor='choice'><choice value='1' caption='Receiver'/></row>";
-        QCOMPARE(shown(choice, "1"), "Receiver"_q);
-        QCOMPARE(shown(choice, "9"), "9"_q);
-    }
-
-    void keepsTheRulesOfAModel()
-    {
-        PropertyGridModel model;
-        const QAbstractItemModelTester tester(
-            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.setLayout(layout());
-        basalt::Dictionary values;
-        values.set("dist", "5");
-        model.setValues(values);
-        QVERIFY(model.setData(model.indexOfKey("dist"_q), "bad"_q, Qt::EditRole));
-        model.setLayout(layout("<property_grid><group caption='G'/></property_grid>"));
-        QCOMPARE(model.rowCount(), 1);
-        QVERIFY(!model.indexOfKey("dist"_q).isValid());
     }
 
     void keepsEveryByteThatCameIn()

@@ -261,22 +261,6 @@ private Q_SLOTS:
         QVERIFY(!m_panel->hasFaults());
     }
 
-    void aGroupThatIsOffShowsNoRows()
-    {
-        open(ownSystem());
-        const std::pair<const char*, const char*> groups[] = {
-            {"Use plane shift", "Shift north"},
-            {"Use correction", "Correction north"},
-            {"Use height fitting", "Coefficient a0"},
-            {"Use vertical slope", "Height at origin"},
-            {"Use geoid", "Geoid file"}};
-        for (const auto& [group, row] : groups) {
-            QVERIFY2(!isShown(row), row);
-            check(group);
-            QVERIFY2(isShown(row), row);
-        }
-    }
-
     void storesAShiftAboutAPivotWithoutIt()
     {
         open(ownSystem());
@@ -326,21 +310,6 @@ private Q_SLOTS:
         QCOMPARE(offered.value("_7type"_q),
                  QStringList({"0 None"_q, "1 Position vector (Bursa-Wolf)"_q,
                               "2 Coordinate frame rotation"_q, "3 Molodensky-Badekas"_q}));
-    }
-
-    void speaksChinese()
-    {
-        QTranslator chinese;
-        QVERIFY(chinese.load("skyquill_zh_CN"_q, QCoreApplication::applicationDirPath() +
-                                                     "/../etc/Tarvona/config/Skyquill/Language"_q));
-        QCoreApplication::installTranslator(&chinese);
-        basalt::Dictionary system = ownSystem();
-        system.set("project_type", "7");
-        open(system);
-        QCoreApplication::removeTranslator(&chinese);
-        QCOMPARE(shown("投影"), "极球面投影"_q);
-        QVERIFY(isMarked("原点纬度"));
-        QVERIFY(isShown("真实比例纬线")); // a caption that depends on the projection
     }
 
 private:

@@ -1,6 +1,5 @@
 #include "lum_desktop_sdkx/dialogs/DlgAbout.h"
 #include "lum_sdk/DpiScale.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "tests/support/Literals.h"
 
 #include <QtTest>
@@ -102,27 +101,6 @@ private Q_SLOTS:
         QTRY_VERIFY(screen.contains(dialog.geometry()));
         QVERIFY(field->hasFocus()); // the user types on
         QVERIFY(dialog.rect().contains(dialog.findChild<QPushButton*>()->geometry()));
-    }
-
-    void aboutBoxShowsAllOfItsText()
-    {
-        get_system_config_parameter().dictionary().set("name", "Skyquill");
-        get_system_config_parameter().dictionary().set("version", "12.34.5678");
-        DlgAbout dialog(nullptr, "what it is for"_q,
-                        {"SQLite 3.40.1"_q, "PROJ 9.1.1"_q, "GDAL 3.6.2"_q, "spdlog 1.10.0"_q});
-        dialog.show();
-        QString text;
-        for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
-            text += label->text() + QLatin1Char('\n');
-            QVERIFY(label->height() >= label->heightForWidth(label->width()));
-            QVERIFY(dialog.rect().contains(label->geometry()));
-        }
-        for (const char* const part :
-             {"Skyquill", "12.34.5678", "what it is for", qVersion(), "spdlog"})
-            QVERIFY2(text.contains(QLatin1String(part)), part);
-
-        QTest::keyClick(&dialog, Qt::Key_Return);
-        QVERIFY(!dialog.isVisible());
     }
 };
 

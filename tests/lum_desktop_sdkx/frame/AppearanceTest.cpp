@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/frame/Appearance.h"
 
 #include "tests/support/Literals.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/TestFolder.h"
 
 #include <QtTest>
@@ -26,33 +27,16 @@ double contrast(const QColor& a, const QColor& b)
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// Pixels of a kind.
-template <class IsOfKind>
-int count(const QImage& picture, IsOfKind isOfKind)
-{
-    int found = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            found += isOfKind(picture.pixelColor(x, y)) ? 1 : 0;
-    }
-    return found;
-}
-
 /// How many pixels are near a colour.
-int countOf(const QPixmap& picture, const QColor& color)
+int countOf(const QPixmap& pixmap, const QColor& color)
 {
-    return count(picture.toImage(), [&](const QColor& pixel) {
+    const QImage picture = pixmap.toImage();
+    return countPixels(picture, picture.rect(), [&](const QPoint& at) {
+        const QColor pixel = picture.pixelColor(at);
         return std::abs(pixel.red() - color.red()) < 12 &&
                std::abs(pixel.green() - color.green()) < 12 &&
                std::abs(pixel.blue() - color.blue()) < 12;
     });
-}
-
-/// How many dark pixels a picture has.
-int inkOf(const QPixmap& picture)
-{
-    return count(picture.toImage(),
-                 [](const QColor& pixel) { return pixel.alpha() > 128 && pixel.value() < 100; });
 }
 
 /// The best contrast to the ground of the first pixels from the left, in the middle row: where the
@@ -116,23 +100,6 @@ private Q_SLOTS:
         }
     }
 
-    void iconsTurnLightOnASelection()
-    {
-        desktop::applyAppearance("light"_q);
-        const QIcon icon = QIcon::fromTheme("document-new"_q);
-        QVERIFY(inkOf(icon.pixmap(22, 22)) > 20);
-        QCOMPARE(inkOf(icon.pixmap(QSize(22, 22), QIcon::Selected)), 0);
-
-        QMenu menu;
-        QAction* const entry = menu.addAction(icon, QString());
-        menu.popup(QPoint(0, 0));
-        const QRect row = menu.actionGeometry(entry);
-        const auto inkOfRow = [&] { return inkOf(menu.grab(row.adjusted(2, 2, -2, -2))); };
-        QVERIFY(inkOfRow() > 20);
-        menu.setActiveAction(entry);
-        QCOMPARE(inkOfRow(), 0);
-    }
-
     void everyIconOfTheInstalledLayoutIsThere()
     {
         const QString xml = QString::fromUtf8(TestFolder::read(QStringLiteral(
@@ -149,75 +116,6 @@ private Q_SLOTS:
                 QVERIFY2(shown.name() == name || shown.name().isEmpty(), qPrintable(theme + name));
             }
         }
-    }
-
-    void exclusiveEntriesHaveTheMarkInPlaceOfAnIcon()
-    {
-        desktop::applyAppearance("light"_q);
-        QMenu menu;
-        QActionGroup group(&menu);
-        QAction* entries[] = {menu.addAction("a"_q), menu.addAction("a"_q)};
-        for (QAction* entry : entries) {
-            entry->setCheckable(true);
-            group.addAction(entry);
-        }
-        entries[0]->setIcon(QIcon::fromTheme("document-new"_q));
-        menu.popup(QPoint(0, 0));
-        const auto ink = [&](int i) { return inkOf(menu.grab(menu.actionGeometry(entries[i]))); };
-        QCOMPARE(ink(0), ink(1));
-    }
-
-    void menusAndHiddenButtonsAreSeenInTheDark()
-    {
-        desktop::applyAppearance("dark"_q);
-        QMenu menu;
-        menu.addAction("a"_q);
-        menu.popup(QPoint(0, 0));
-        const QImage picture = menu.grab().toImage();
-        QVERIFY(contrast(picture.pixelColor(0, picture.height() / 2),
-                         menu.palette().color(QPalette::Window)) > 1.5);
-
-        const QColor ground = QApplication::palette().color(QPalette::Window);
-        const QImage more = QApplication::style()
-                                ->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton)
-                                .pixmap(16, 16)
-                                .toImage();
-        double best = 1;
-        for (int x = 0; x < more.width(); ++x) {
-            const QColor pixel = more.pixelColor(x, more.height() / 2);
-            if (pixel.alpha() > 200)
-                best = std::max(best, contrast(pixel, ground));
-        }
-        QVERIFY(best > 4.5);
-    }
-
-    void aViewHasAFrameOfFourSides()
-    {
-        for (const char* theme : {"light", "dark"}) {
-            desktop::applyAppearance(QString::fromUtf8(theme));
-            QListWidget list;
-            const QImage picture = list.grab().toImage();
-            const QColor edge = list.palette().color(QPalette::Mid);
-            const int right = picture.width() - 1;
-            const int bottom = picture.height() - 1;
-            for (const QPoint place : {QPoint(0, bottom / 2), QPoint(right, bottom / 2),
-                                       QPoint(right / 2, 0), QPoint(right / 2, bottom)})
-                QCOMPARE(picture.pixelColor(place), edge);
-        }
-    }
-
-    void theRingGoesAroundTheWholeEntryOfAList()
-    {
-        desktop::applyAppearance("light"_q);
-        QListWidget list;
-        list.addItem(new QListWidgetItem(QIcon::fromTheme("document-new"_q), "a"_q));
-        list.setCurrentRow(0);
-        list.show();
-        list.activateWindow();
-        QTRY_VERIFY(list.hasFocus());
-        const QRect row = list.visualItemRect(list.item(0));
-        const QPoint left = list.viewport()->mapTo(&list, QPoint(row.left() + 1, row.center().y()));
-        QCOMPARE(list.grab().toImage().pixelColor(left), QColor(Qt::white));
     }
 };
 

@@ -2,12 +2,7 @@
 #include "tests/lum_desktop_sdkx/frame/ShownFrame.h"
 #include "tests/support/TestFolder.h"
 
-#include <QDir>
-#include <QMenu>
-#include <QMenuBar>
-#include <QScreen>
-#include <QSplitter>
-#include <QToolBar>
+#include <QtWidgets>
 
 namespace {
 
@@ -62,11 +57,7 @@ class DocksTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        registerTestWindows();
-        desktop::registration::window<OtherWindow>("ThirdWindow", "");
-    }
+    void initTestCase() { registerTestWindows(); }
 
     void init()
     {
@@ -90,39 +81,6 @@ private Q_SLOTS:
         QVERIFY(!shown.dock("Survey Data List")->toggleViewAction()->isChecked());
         QVERIFY(windows.activate("Survey"_q));
         QVERIFY(window->widget()->isVisible());
-    }
-
-    void opensAWindowOnceAndPassesItsParametersOn()
-    {
-        ShownFrame shown(kLayout);
-        basalt::Dictionary parameters;
-        parameters.set("caption", "OtherName");
-        parameters.set("title", "Other, Title");
-        parameters.set("isSetActive", "1");
-        WindowRegistry& windows = shown.host.windows();
-        IWindow* const other = windows.open("OtherWindow"_q, parameters);
-        QVERIFY(other != nullptr);
-        QCOMPARE(windows.find("OtherName"_q), other);
-        QCOMPARE(shown.dock("OtherName")->windowTitle(), "Other, Title"_q);
-        QVERIFY(shown.dock("OtherName")->isCurrentTab());
-        QCOMPARE(shown.dock("OtherName")->dockAreaWidget(),
-                 shown.dock("DataMap")->dockAreaWidget());
-        QCOMPARE(windows.open("OtherWindow"_q, parameters), other);
-
-        IWindow* const survey = windows.open("TestWindow"_q, parameters);
-        QCOMPARE(survey, windows.find("Survey Data List"_q));
-        QCOMPARE(shown.dock("Survey Data List")->windowTitle(), "Other, Title"_q);
-        QCOMPARE(survey->parameters().text("name"), std::string_view("Survey Data List"));
-
-        // A third tab that is not set active stays behind the one in front.
-        parameters.set("isSetActive", "0");
-        parameters.set("caption", "Third");
-        QVERIFY(windows.open("ThirdWindow"_q, parameters) != nullptr);
-        QVERIFY(shown.dock("OtherName")->isCurrentTab());
-        QMenu* const menu = shown.frame.menuBar()->actions().last()->menu();
-        Q_EMIT menu->aboutToShow();
-        QVERIFY(menu->actions().contains(shown.dock("Third")->toggleViewAction()));
-        QCOMPARE(windows.open("UnknownWindow"_q, parameters), nullptr);
     }
 
     void restoresTheDocksOfTheLastSession()
@@ -184,6 +142,7 @@ private Q_SLOTS:
         for (QSplitter* splitter : shown.frame.findChildren<QSplitter*>())
             splitter->setSizes({50, 500});
         shown.dock("Layers")->setFloating();
+        shown.dock("Messages")->toggleView(false);
         shown.frame.resize(500, 400);
         for (const auto state : {Qt::WindowNoState, Qt::WindowMaximized, Qt::WindowFullScreen}) {
             shown.frame.setWindowState(state);
@@ -198,21 +157,6 @@ private Q_SLOTS:
                              "%1: %2 x %3 more"_q.arg(i).arg(change.width()).arg(change.height())));
             }
         }
-    }
-
-    void resetShowsEveryWindow()
-    {
-        ShownFrame shown(kLayout);
-        for (const char* name : {"Messages", "Layers", "Survey Data List"})
-            shown.dock(name)->toggleView(false);
-        auto* const bar = shown.frame.findChild<QToolBar*>("bar"_q);
-        bar->hide();
-        basalt::Dictionary parameters; // a window that was opened later must not matter
-        QVERIFY(shown.host.windows().open("OtherWindow"_q, parameters) != nullptr);
-        shown.frame.resetArrangement();
-        QVERIFY(bar->isVisible());
-        for (const char* name : {"Messages", "Layers", "Survey Data List"})
-            QVERIFY2(!shown.dock(name)->isClosed(), name);
     }
 
     void theMapTakesWhatTheFrameGains()

@@ -58,9 +58,9 @@ private Q_SLOTS:
         }
         QVERIFY(pictures >= 5);
 
-        const Told told;
+        Boxes boxes;
         QVERIFY(host.commands().execute("Lost Guide"_q));
-        QVERIFY2(told.texts.value(0).contains("none.md"_q), qPrintable(told.texts.value(0)));
+        QVERIFY2(boxes.last.text.contains("none.md"_q), qPrintable(boxes.last.text));
     }
 
     void findsWordsAndGoesRound()

@@ -98,20 +98,198 @@ private Q_SLOTS:
         registerMapComponents();
         desktop::registration::layer<Pictures>("Pictures", "");
     }
-    void init();
-    void cleanup();
 
-    void listsWhatIsOnTopFirst();
-    void aCheckMarkShowsAndHides();
-    void keysOrderAndRemoveAnItem();
-    void dragging_data();
-    void dragging();
-    void theSliderFollowsTheItem();
-    void aDoubleClickZoomsToTheItem();
-    void theMenuIsThatOfTheItem();
-    void aFaultIsMarked();
-    void whatTheLayerHasChangedIsLeftAlone();
-    void whatIsNewIsSelected();
+    void init()
+    {
+        get_system_status_dictionary().clear();
+        m_host = std::make_unique<TestHost>();
+        m_map = std::make_unique<MapWindow>(nullptr, m_host.get());
+        m_map->resize(400, 300);
+        m_host->windowRegistry.windows.insert("DataMap"_q, m_map.get());
+        for (const char* name : {"Pictures", "BoundaryLayer"})
+            m_map->addLayer(QString::fromLatin1(name), basalt::Dictionary());
+        m_map->layers().find("BoundaryLayer"_q)->GetProperties().set("listed", "1");
+        m_window = std::make_unique<LayerWindow>(nullptr, m_host.get());
+        new QAbstractItemModelTester(&model(), m_window.get());
+        m_window->resize(290, 220);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_map.reset();
+        m_host.reset();
+    }
+
+    void aCheckMarkShowsAndHides()
+    {
+        choose("village");
+        press(Qt::Key_Space);
+        QCOMPARE(pictures().order(), "river (village) scan"_q);
+        press(Qt::Key_Up);
+        press(Qt::Key_Up);
+        press(Qt::Key_Space);
+        QVERIFY(!pictures().IsVisible());
+        QCOMPARE(pictures().order(), "river (village) scan"_q);
+
+        QStyleOptionViewItem option;
+        option.initFrom(&view());
+        option.rect = view().visualRect(item("village"));
+        option.features = QStyleOptionViewItem::HasCheckIndicator;
+        const QPoint mark =
+            view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option).center();
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, mark);
+        QCOMPARE(pictures().order(), "river village scan"_q);
+    }
+
+    void keysOrderAndRemoveAnItem()
+    {
+        choose("river");
+        press(Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(pictures().order(), "river village scan"_q);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(pictures().order(), "village scan river"_q);
+        press(Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(pictures().order(), "village river scan"_q);
+        QCOMPARE(view().currentIndex(), item("river"));
+
+        press(Qt::Key_Delete);
+        QCOMPARE(pictures().order(), "village scan"_q);
+        QCOMPARE(m_host->told, "\"river\" was removed from the map. Its file stays as it is."_q);
+    }
+
+    void dragging()
+    {
+        const struct
+        {
+            const char* dragged;
+            const char* onto; ///< the parent; empty for the list itself
+            int row;
+            const char* order; ///< empty when it cannot be dropped there
+        } cases[] = {{"river", "Pictures", 2, "village river scan"},
+                     {"river", "Pictures", 3, "village scan river"},
+                     {"scan", "Pictures", 0, "scan river village"},
+                     {"scan", "Pictures", -1, "scan river village"}, // onto the layer
+                     {"river", "", 2, "village scan river"},         // below the layer
+                     {"village", "Pictures", 2, "river village scan"},
+                     {"river", "BoundaryLayer", 0, ""},
+                     {"scan", "", 0, ""}}; // above all layers
+        const std::vector<LayerItem> before = pictures().items;
+        for (const auto& [dragged, onto, row, order] : cases) {
+            pictures().items = before;
+            announceItems();
+            const std::unique_ptr<QMimeData> data(model().mimeData({item(dragged)}));
+            QModelIndex parent;
+            for (int layer = 0; layer < model().rowCount({}); ++layer) {
+                if (model().index(layer, 0, {}).data().toString() == QLatin1String(onto))
+                    parent = model().index(layer, 0, {});
+            }
+            const bool isTaken = *order != '\0';
+            QCOMPARE(model().canDropMimeData(data.get(), Qt::MoveAction, row, 0, parent), isTaken);
+            QCOMPARE(model().dropMimeData(data.get(), Qt::MoveAction, row, 0, parent), isTaken);
+            QCOMPARE(pictures().order(), QLatin1String(isTaken ? order : "river village scan"));
+        }
+    }
+
+    void theSliderFollowsTheItem()
+    {
+        QVERIFY(slider().isVisible() && slider().isEnabled()); // of the first one
+        press(Qt::Key_Up);
+        QVERIFY(!slider().isEnabled()); // a layer has none
+        choose("scan");
+        QTest::keyClick(&slider(), Qt::Key_Left);
+        QCOMPARE(pictures().items[2].opacity, 0.95);
+        choose("river");
+        QCOMPARE(slider().value(), 100);
+        QCOMPARE(pictures().items[0].opacity, 1.0);
+        choose("scan");
+        QCOMPARE(slider().value(), 95);
+
+        for (int i = 0; i < 3; ++i) {
+            choose(pictures().items[0].id.toLatin1());
+            press(Qt::Key_Delete);
+        }
+        QVERIFY(!slider().isVisible());
+    }
+
+    void aDoubleClickZoomsToTheItem()
+    {
+        const QRect row = view().visualRect(item("village"));
+        QCursor::setPos(view().viewport()->mapToGlobal(row.center()));
+        choose("village");
+        QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, row.center());
+        QCOMPARE(m_map->transform().center(), QPointF(1200, 2150));
+        m_map->centerOn(0, 0);
+        press(Qt::Key_Return);
+        QCOMPARE(m_map->transform().center(), QPointF(1200, 2150));
+    }
+
+    void theMenuIsThatOfTheItem()
+    {
+        choose("scan");
+        QStringList texts;
+        QTimer::singleShot(0, qApp, [&] {
+            const auto* const dialog = QApplication::activeModalWidget();
+            if (dialog == nullptr)
+                return;
+            for (const QLabel* label : dialog->findChildren<QLabel*>())
+                texts << label->text();
+            QApplication::activeModalWidget()->close();
+        });
+        press(Qt::Key_Return, Qt::AltModifier);
+        QCOMPARE(texts, QStringList({"/ground/scan"_q, "File:"_q}));
+
+        const QPoint place = view().visualRect(item("scan")).center();
+        chooseFrom(openMenuAt(*view().viewport(), place), "Blur"_q);
+        QCOMPARE(pictures().done, QStringList{"scan1"_q});
+        chooseFrom(openMenuAt(*view().viewport(), place)->findChild<QMenu*>(), "25 %"_q);
+        QCOMPARE(pictures().items[2].opacity, 0.25);
+        while (QMenu* const menu = openMenu())
+            menu->close();
+    }
+
+    void aFaultIsMarked()
+    {
+        pictures().items[1].fault = "The file is gone."_q;
+        announceItems();
+        QCOMPARE(item("village").data(Qt::ToolTipRole).toString(), "The file is gone."_q);
+        QVERIFY(item("village").data(Qt::DecorationRole).isValid());
+        QVERIFY(!item("river").data(Qt::DecorationRole).isValid());
+        const QPointF before = m_map->transform().center();
+        choose("village");
+        press(Qt::Key_Return);
+        QCOMPARE(m_map->transform().center(), before);
+    }
+
+    void whatTheLayerHasChangedIsLeftAlone()
+    {
+        choose("scan");
+        pictures().items.pop_back();
+        for (const auto& [key, modifiers] :
+             {std::pair(Qt::Key_Space, Qt::NoModifier), std::pair(Qt::Key_Up, Qt::ControlModifier),
+              std::pair(Qt::Key_Delete, Qt::NoModifier), std::pair(Qt::Key_Return, Qt::NoModifier)})
+            press(key, modifiers);
+        slider().setValue(10);
+        QCOMPARE(pictures().order(), "river village"_q);
+        announceItems();
+        QCOMPARE(model().rowCount(item("river").parent()), 2);
+    }
+
+    void whatIsNewIsSelected()
+    {
+        choose("village");
+        pictures().items.insert(pictures().items.begin(), {"new"_q, "new"_q});
+        announceItems();
+        QCOMPARE(view().currentIndex(), item("new"));
+        choose("village");
+        pictures().items.erase(pictures().items.begin());
+        announceItems();
+        QCOMPARE(view().currentIndex(), item("village"));
+    }
 
 private:
     [[nodiscard]] Pictures& pictures()
@@ -145,214 +323,6 @@ private:
     std::unique_ptr<MapWindow> m_map;
     std::unique_ptr<LayerWindow> m_window;
 };
-
-void LayerWindowTest::init()
-{
-    get_system_status_dictionary().clear();
-    m_host = std::make_unique<TestHost>();
-    m_map = std::make_unique<MapWindow>(nullptr, m_host.get());
-    m_map->resize(400, 300);
-    m_host->windowRegistry.windows.insert("DataMap"_q, m_map.get());
-    for (const char* name : {"Pictures", "BoundaryLayer"})
-        m_map->addLayer(QString::fromLatin1(name), basalt::Dictionary());
-    m_map->layers().find("BoundaryLayer"_q)->GetProperties().set("listed", "1");
-    m_window = std::make_unique<LayerWindow>(nullptr, m_host.get());
-    new QAbstractItemModelTester(&model(), m_window.get());
-    m_window->resize(290, 220);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void LayerWindowTest::cleanup()
-{
-    m_window.reset();
-    m_map.reset();
-    m_host.reset();
-}
-
-void LayerWindowTest::listsWhatIsOnTopFirst()
-{
-    QStringList rows;
-    for (QModelIndex row = model().index(0, 0, {}); row.isValid(); row = view().indexBelow(row))
-        rows << row.data().toString();
-    QCOMPARE(rows,
-             QStringList({"BoundaryLayer"_q, "Pictures"_q, "river"_q, "village"_q, "scan"_q}));
-}
-
-void LayerWindowTest::aCheckMarkShowsAndHides()
-{
-    choose("village");
-    press(Qt::Key_Space);
-    QCOMPARE(pictures().order(), "river (village) scan"_q);
-    press(Qt::Key_Up);
-    press(Qt::Key_Up);
-    press(Qt::Key_Space);
-    QVERIFY(!pictures().IsVisible());
-    QCOMPARE(pictures().order(), "river (village) scan"_q);
-
-    QStyleOptionViewItem option;
-    option.initFrom(&view());
-    option.rect = view().visualRect(item("village"));
-    option.features = QStyleOptionViewItem::HasCheckIndicator;
-    const QPoint mark =
-        view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option).center();
-    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, mark);
-    QCOMPARE(pictures().order(), "river village scan"_q);
-}
-
-void LayerWindowTest::keysOrderAndRemoveAnItem()
-{
-    choose("river");
-    press(Qt::Key_Up, Qt::ControlModifier);
-    QCOMPARE(pictures().order(), "river village scan"_q);
-    press(Qt::Key_Down, Qt::ControlModifier);
-    press(Qt::Key_Down, Qt::ControlModifier);
-    press(Qt::Key_Down, Qt::ControlModifier);
-    QCOMPARE(pictures().order(), "village scan river"_q);
-    press(Qt::Key_Up, Qt::ControlModifier);
-    QCOMPARE(pictures().order(), "village river scan"_q);
-    QCOMPARE(view().currentIndex(), item("river"));
-
-    press(Qt::Key_Delete);
-    QCOMPARE(pictures().order(), "village scan"_q);
-    QCOMPARE(m_host->told, "\"river\" was removed from the map. Its file stays as it is."_q);
-}
-
-void LayerWindowTest::dragging_data()
-{
-    QTest::addColumn<QString>("dragged");
-    QTest::addColumn<QString>("onto"); ///< the parent; empty for the list itself
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("order");
-
-    QTest::newRow("down") << "river"_q
-                          << "Pictures"_q << 2 << "village river scan"_q;
-    QTest::newRow("to the end") << "river"_q
-                                << "Pictures"_q << 3 << "village scan river"_q;
-    QTest::newRow("up") << "scan"_q
-                        << "Pictures"_q << 0 << "scan river village"_q;
-    QTest::newRow("onto the layer") << "scan"_q
-                                    << "Pictures"_q << -1 << "scan river village"_q;
-    QTest::newRow("below the layer") << "river"_q
-                                     << ""_q << 2 << "village scan river"_q;
-    QTest::newRow("where it is") << "village"_q
-                                 << "Pictures"_q << 2 << "river village scan"_q;
-    QTest::newRow("onto another layer") << "river"_q
-                                        << "BoundaryLayer"_q << 0 << ""_q;
-    QTest::newRow("above all layers") << "scan"_q
-                                      << ""_q << 0 << ""_q;
-}
-
-void LayerWindowTest::dragging()
-{
-    QFETCH(QString, dragged);
-    QFETCH(QString, onto);
-    QFETCH(int, row);
-    QFETCH(QString, order);
-
-    const std::unique_ptr<QMimeData> data(model().mimeData({item(dragged.toLatin1())}));
-    const QModelIndexList layers = model().match(model().index(0, 0, {}), Qt::DisplayRole, onto);
-    const QModelIndex parent = onto.isEmpty() ? QModelIndex() : layers.front();
-    QCOMPARE(model().canDropMimeData(data.get(), Qt::MoveAction, row, 0, parent), !order.isEmpty());
-    QCOMPARE(model().dropMimeData(data.get(), Qt::MoveAction, row, 0, parent), !order.isEmpty());
-    QCOMPARE(pictures().order(), order.isEmpty() ? "river village scan"_q : order);
-}
-
-void LayerWindowTest::theSliderFollowsTheItem()
-{
-    QVERIFY(slider().isVisible() && slider().isEnabled()); // of the first one
-    press(Qt::Key_Up);
-    QVERIFY(!slider().isEnabled()); // a layer has none
-    choose("scan");
-    QTest::keyClick(&slider(), Qt::Key_Left);
-    QCOMPARE(pictures().items[2].opacity, 0.95);
-    choose("river");
-    QCOMPARE(slider().value(), 100);
-    QCOMPARE(pictures().items[0].opacity, 1.0);
-    choose("scan");
-    QCOMPARE(slider().value(), 95);
-
-    for (int i = 0; i < 3; ++i) {
-        choose(pictures().items[0].id.toLatin1());
-        press(Qt::Key_Delete);
-    }
-    QVERIFY(!slider().isVisible());
-}
-
-void LayerWindowTest::aDoubleClickZoomsToTheItem()
-{
-    const QRect row = view().visualRect(item("village"));
-    QCursor::setPos(view().viewport()->mapToGlobal(row.center()));
-    choose("village");
-    QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, row.center());
-    QCOMPARE(m_map->transform().center(), QPointF(1200, 2150));
-    m_map->centerOn(0, 0);
-    press(Qt::Key_Return);
-    QCOMPARE(m_map->transform().center(), QPointF(1200, 2150));
-}
-
-void LayerWindowTest::theMenuIsThatOfTheItem()
-{
-    choose("scan");
-    QStringList texts;
-    QTimer::singleShot(0, qApp, [&] {
-        const auto* const dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr)
-            return;
-        for (const QLabel* label : dialog->findChildren<QLabel*>())
-            texts << label->text();
-        QApplication::activeModalWidget()->close();
-    });
-    press(Qt::Key_Return, Qt::AltModifier);
-    QCOMPARE(texts, QStringList({"/ground/scan"_q, "File:"_q}));
-
-    const QPoint place = view().visualRect(item("scan")).center();
-    chooseFrom(openMenuAt(*view().viewport(), place), "Blur"_q);
-    QCOMPARE(pictures().done, QStringList{"scan1"_q});
-    chooseFrom(openMenuAt(*view().viewport(), place)->findChild<QMenu*>(), "25 %"_q);
-    QCOMPARE(pictures().items[2].opacity, 0.25);
-    while (QMenu* const menu = openMenu())
-        menu->close();
-}
-
-void LayerWindowTest::aFaultIsMarked()
-{
-    pictures().items[1].fault = "The file is gone."_q;
-    announceItems();
-    QCOMPARE(item("village").data(Qt::ToolTipRole).toString(), "The file is gone."_q);
-    QVERIFY(item("village").data(Qt::DecorationRole).isValid());
-    QVERIFY(!item("river").data(Qt::DecorationRole).isValid());
-    const QPointF before = m_map->transform().center();
-    choose("village");
-    press(Qt::Key_Return);
-    QCOMPARE(m_map->transform().center(), before);
-}
-
-void LayerWindowTest::whatTheLayerHasChangedIsLeftAlone()
-{
-    choose("scan");
-    pictures().items.pop_back();
-    for (const auto& [key, modifiers] :
-         {std::pair(Qt::Key_Space, Qt::NoModifier), std::pair(Qt::Key_Up, Qt::ControlModifier),
-          std::pair(Qt::Key_Delete, Qt::NoModifier), std::pair(Qt::Key_Return, Qt::NoModifier)})
-        press(key, modifiers);
-    slider().setValue(10);
-    QCOMPARE(pictures().order(), "river village"_q);
-    announceItems();
-    QCOMPARE(model().rowCount(item("river").parent()), 2);
-}
-
-void LayerWindowTest::whatIsNewIsSelected()
-{
-    choose("village");
-    pictures().items.insert(pictures().items.begin(), {"new"_q, "new"_q});
-    announceItems();
-    QCOMPARE(view().currentIndex(), item("new"));
-    choose("village");
-    pictures().items.erase(pictures().items.begin());
-    announceItems();
-    QCOMPARE(view().currentIndex(), item("village"));
-}
 
 QTEST_MAIN(LayerWindowTest)
 #include "LayerWindowTest.moc"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "lum_desktop_sdkx/ComponentParameters.h"
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/frame/DesktopHost.h"
 #include "lum_desktop_sdkx/frame/FrameComponents.h"
 #include "lum_desktop_sdkx/frame/MainFrame.h"
@@ -10,6 +9,7 @@
 #include "lum_desktop_sdkx/Registration.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "protocol/Events.h"
+#include "tests/support/Boxes.h"
 #include "tests/support/Literals.h"
 
 #include <QLabel>
@@ -47,16 +47,6 @@ inline void registerTestWindows()
     desktop::registration::window<TestWindow>("TestWindow", "");
     desktop::registration::window<OtherWindow>("OtherWindow", "");
 }
-
-/// Answers message boxes, and keeps their texts.
-struct Told
-{
-    QStringList texts;
-    const LumMessageBox::Responder responder{[this](const LumMessageBox::Message& message) {
-        texts << message.text;
-        return LumMessageBox::Button::Ok;
-    }};
-};
 
 inline FrameLayout layoutOf(const QByteArray& xml)
 {

@@ -17,6 +17,7 @@
 #include "tests/lum_desktop_sdkx/TestHost.h"
 #include "tests/support/Literals.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/Pixels.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -286,34 +287,6 @@ private Q_SLOTS:
         QCOMPARE(viewOf(m_map->transform()), "2000.5, 2250.5 at 5.55833"_q);
     }
 
-    void fineScreensGetFinePictures()
-    {
-        ProbeLayer layer("x=10,y=20", &m_host);
-        MapPaintJob job;
-        job.layers = {&layer};
-        job.target.transform.setSize({100, 80});
-        job.target.transform.fit({0, 0, 100, 80}, 0);
-        job.target.pixelRatio = 2;
-        const QImage picture = paintPicture(job);
-        QCOMPARE(picture.size(), QSize(200, 160));
-        QCOMPARE(picture.pixelColor(29, 120), QColor(Qt::blue));
-        QCOMPARE(picture.pixelColor(30, 120), QColor(Qt::white));
-    }
-
-    void overlayShowsAfterRefreshOnlyAndMovesWithTheMap()
-    {
-        IOverlay& overlay = m_map->overlay(0);
-        overlay.setColor(Qt::green);
-        overlay.setPoint({100, 50});
-        QCOMPARE(shown().pixelColor(100, 250), kPaper);
-        m_map->refreshOverlay();
-        m_map->pan(0, 0, 50, 0);
-        overlay.clear();
-        QCOMPARE(shown().pixelColor(150, 250), QColor(Qt::green));
-        m_map->refreshOverlay();
-        QCOMPARE(shown().pixelColor(150, 250), kPaper);
-    }
-
     void overlayTakesAnyShape()
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -369,24 +342,6 @@ private Q_SLOTS:
         QCOMPARE(shown().pixelColor(70, 100), kPaper);
     }
 
-    void boundaryFollowsItsStatus()
-    {
-        addLayer("layer_name=frame", "BoundaryLayer");
-        m_map->setExtent(50, 100, 150, 200);
-        m_map->zoomRect(0, 0, 400, 300);
-        const auto hasFrame = [this] { // at its lower left corner
-            return settledPicture().pixelColor(51, 200) == QColor(213, 94, 0);
-        };
-        QVERIFY(!hasFrame());
-
-        get_system_status_dictionary().set(status::kDrawBoundaryRect, "1");
-        m_host.events.publish(events::kInitBoundaryRect, nullptr, 0);
-        QVERIFY(hasFrame());
-        get_system_status_dictionary().set(status::kDrawBoundaryRect, "0");
-        m_host.events.publish(events::kUpdateSystemStatus, nullptr, 0);
-        QVERIFY(!hasFrame());
-    }
-
     void boundaryIsDrawnAtItsPlaceAtAnyZoom()
     {
         BoundaryLayer layer("", &m_host);
@@ -438,12 +393,8 @@ private Q_SLOTS:
     void sourcesAreNamedBesideTheScaleBarOrAboveIt()
     {
         const auto darkIn = [](const QImage& picture, const QRect& area) {
-            int count = 0;
-            for (int y = area.top(); y <= area.bottom(); ++y) {
-                for (int x = area.left(); x <= area.right(); ++x)
-                    count += qGray(picture.pixel(x, y)) < 100 ? 1 : 0;
-            }
-            return count;
+            return countPixels(picture, area,
+                               [&](const QPoint& at) { return qGray(picture.pixel(at)) < 100; });
         };
         QPalette white;
         white.setColor(QPalette::Base, Qt::white);
@@ -483,11 +434,7 @@ private Q_SLOTS:
         QCOMPARE(lengthText(2000, lum::kUsSurveyFoot), "2000 ftUS"_q);
 
         const auto blackPixels = [this] { // in a row through the bar, left of its text
-            const QImage picture = shown();
-            int count = 0;
-            for (int x = 0; x < 70; ++x)
-                count += picture.pixelColor(x, 276) == QColor(Qt::black) ? 1 : 0;
-            return count;
+            return countPixels(shown(), {0, 276, 70, 1}, Qt::black);
         };
         m_host.document.name.clear();
         QCOMPARE(blackPixels(), 0);

@@ -14,12 +14,8 @@
 
 #include <cmath>
 #include <functional>
-#include <limits>
 
 namespace {
-
-constexpr double kInf = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// A tool that notes the presses, handles every move, and runs the test's function on a press.
 class ProbeTool final : public ReactorBase
@@ -184,19 +180,6 @@ private Q_SLOTS:
         QCOMPARE(ProbeTool::alive, 0);
     }
 
-    void unknownReactorLeavesTheOldOne()
-    {
-        install("ProbeTool");
-        m_map->setMapCursor(Qt::CrossCursor);
-        QVERIFY(!m_map->installReactor("NoSuchReactor"_q));
-        QCOMPARE(ProbeTool::alive, 1);
-        QCOMPARE(m_map->cursor().shape(), Qt::CrossCursor);
-
-        const MapWindow other("caption=Map,reactors=ReactorDefault; ProbeTool NoSuchReactor",
-                              &m_host);
-        QCOMPARE(ProbeTool::alive, 2);
-    }
-
     void doubleClickThatNobodyWantsIsAPress()
     {
         install("ProbeTool");
@@ -233,21 +216,6 @@ private Q_SLOTS:
         map.resize(600, 400);
         QCOMPARE(viewOf(map.transform()), "550, 225 at 1"_q);
         QCOMPARE(map.transform().size(), QSize(600, 400));
-    }
-
-    void refusesExtentsThatAreNotFinite()
-    {
-        m_map->setExtent(1, 2, 3, 4);
-        const Transform before = m_map->transform();
-        for (const double bad : {kNaN, kInf, -kInf}) {
-            m_map->setExtent(0, 0, 10, bad);
-            m_map->zoomRect(0, bad, 10, 10);
-        }
-        QTRY_VERIFY(m_map->isUpToDate());
-        m_map->setExtent(-1.7e308, 0, 1.7e308, 10); // its width is not finite
-        QVERIFY2(!m_map->isUpToDate(), "the picture of the old data stays");
-        QCOMPARE(m_map->extent(), QRectF(1, 2, 2, 2));
-        QVERIFY(m_map->transform() == before);
     }
 
     void degenerateExtentsAndSizesDoNoHarm()

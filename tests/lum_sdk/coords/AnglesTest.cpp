@@ -42,16 +42,3 @@ TEST(Angles, NeverShowSixtySeconds)
     EXPECT_EQ(lum::angleText(-(10 + 29 / 60.0 + 59.6 / 3600), 4), "-10.3000");
     EXPECT_EQ(lum::angleText(-1e-9, 6), "0.000000");
 }
-
-TEST(Angles, FormatsOfTheUser)
-{
-    using lum::AngleFormat;
-    const double radians = -12.5 * kDegree;
-    for (const auto& [format, value] : {std::pair(AngleFormat::Degrees, -12.5),
-                                        std::pair(AngleFormat::DegreesMinutesSeconds, -12.3),
-                                        std::pair(AngleFormat::Radians, radians),
-                                        std::pair(AngleFormat::DecimalDegrees, -12.5)}) {
-        EXPECT_DOUBLE_EQ(lum::fromRadians(radians, format), value);
-        EXPECT_NEAR(lum::toRadians(value, format), radians, 1e-15);
-    }
-}

@@ -172,19 +172,3 @@ TEST_F(EventManagerTest, ASubscriptionTakesProperNamesUntilItEnds)
         publish(name);
     EXPECT_EQ(listener.heard, 3);
 }
-
-TEST_F(EventManagerTest, AReporterHidesTheBarOnce)
-{
-    const EventLog bar(manager, events::kProgress);
-    ProgressReporter(&manager).finish();
-    EXPECT_TRUE(bar.events.empty());
-    {
-        ProgressReporter reporter(&manager);
-        reporter.report(QStringLiteral("导入, 设计"), 1, 3);
-        reporter.report(QStringLiteral("Empty"), 0, 0);
-        reporter.busy(QStringLiteral("Waiting"));
-    }
-    EXPECT_EQ(bar.payloads(),
-              Texts({"text=\"导入, 设计\",value=33.3333,is_exec=0",
-                     "text=Empty,value=100,is_exec=0", "text=Waiting,scroll=1", "show=0"}));
-}

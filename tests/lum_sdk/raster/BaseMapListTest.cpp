@@ -67,17 +67,6 @@ protected:
 
 } // namespace
 
-TEST(BaseMapLists, HoldEveryValueOfAnEntry)
-{
-    const BaseMapList list = installedList();
-    const BaseMap* const relief = list.find("relief"_q);
-    ASSERT_NE(relief, nullptr);
-    EXPECT_EQ(*relief, (BaseMap{"Relief"_q, BaseMapKind::Terrain, "https://b.example/{z}/{x}/{y}"_q,
-                                3, 14, 512, "B"_q, false}));
-    EXPECT_EQ(list.first(BaseMapKind::Terrain), relief);
-    EXPECT_EQ(list.first(BaseMapKind::Satellite), nullptr);
-}
-
 TEST(BaseMapLists, TheUsersChangesComeBackAsTheyWere)
 {
     const BaseMapList changed = changedList();
@@ -162,30 +151,4 @@ TEST_F(UserList, AnUnreadableFileIsToldAndKept)
     EXPECT_EQ(lum::userBaseMapsFault(), QString());
     EXPECT_EQ(lum::userBaseMaps().entries().size(), installed);
     EXPECT_TRUE(lum::userBaseMaps().entries()[0].isHidden);
-}
-
-TEST_F(UserList, TheChoiceOfEachKindIsRemembered)
-{
-    lum::setUserBaseMaps(changedList().entries());
-    EXPECT_EQ(lum::lastBaseMap(), nullptr);
-    EXPECT_EQ(lum::chosenBaseMap()->kind, BaseMapKind::Road); // the first
-    lum::chooseBaseMap(*lum::userBaseMaps().find("Site photo"_q));
-    EXPECT_EQ(lum::lastBaseMap()->name, "Site photo"_q);
-    EXPECT_EQ(lum::chosenBaseMap(BaseMapKind::Satellite)->name, "Site photo"_q);
-    EXPECT_EQ(lum::chosenBaseMap(BaseMapKind::Road)->address.left(14), "https://other."_q);
-    EXPECT_EQ(lum::chosenBaseMap(BaseMapKind::Terrain), nullptr); // hidden
-
-    lum::setUserBaseMaps({});
-    EXPECT_EQ(lum::chosenBaseMap(), nullptr);
-}
-
-TEST_F(UserList, AServiceReadsWhoAsks)
-{
-    IDictionary& config = get_system_config_parameter().dictionary();
-    config.set("version", "4.5.6");
-    EXPECT_EQ(lum::userTileFetching().agent, "Skyquill/4.5.6 (Tarvona)"_q);
-    config.set("homepage", "https://skyquill.example");
-    EXPECT_EQ(lum::userTileFetching().agent, "Skyquill/4.5.6 (https://skyquill.example)"_q);
-    get_system_ini_parameter().dictionary().set("base_map_cache_mb", "-3");
-    EXPECT_EQ(lum::userTileFetching().cacheLimitBytes, 0);
 }

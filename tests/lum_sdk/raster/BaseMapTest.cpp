@@ -29,39 +29,26 @@ std::string faultAt(const char* address)
 
 } // namespace
 
-struct BadAddress
+TEST(BaseMap, TellsWhatIsWrongWithAnAddress)
 {
-    const char* name;
-    const char* address;
-    const char* says; ///< a part of the sentence
-};
-
-class BaseMapAddressFault : public testing::TestWithParam<BadAddress>
-{
-};
-
-TEST_P(BaseMapAddressFault, IsTold)
-{
-    const std::string fault = faultAt(GetParam().address);
-    EXPECT_NE(fault.find(GetParam().says), std::string::npos) << fault;
+    const std::pair<const char*, const char*> cases[] = {
+        // address, a part of the sentence
+        {"  ", "no address"},
+        {"https://tiles.org/map.png", "has no \"{"},
+        {"https://tiles.org/{z}/{x}.png", "no \"{y}\""},
+        {"https://tiles.org/{z}/{x}/{y}.png?k={apikey}", "{apikey}"},
+        {"ftp://tiles.org/{z}/{x}/{y}.png", "neither a web address"},
+        {"https:///{z}/{x}/{y}.png", "neither a web address"},
+        {"/no such/底图.mbtiles", "/no such/底图.mbtiles"},
+        {"https://a.org/wms?service=WMS", "LAYERS="},
+        {"https://a.org/wms?layers=a&srs=EPSG:32650", "EPSG:32650"},
+        {"https://a.org/wms?layers=a&srs=EPSG:1", "EPSG:1"},
+        {"WMTS:capabilities.xml,layer=a", "neither a web address"}};
+    for (const auto& [address, part] : cases) {
+        const std::string fault = faultAt(address);
+        EXPECT_NE(fault.find(part), std::string::npos) << fault;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, BaseMapAddressFault,
-    testing::Values(
-        BadAddress{"Empty", "  ", "no address"},
-        BadAddress{"NoPlaceholders", "https://tiles.org/map.png", "has no \"{"},
-        BadAddress{"NoRow", "https://tiles.org/{z}/{x}.png", "no \"{y}\""},
-        BadAddress{"OtherPlaceholder", "https://tiles.org/{z}/{x}/{y}.png?k={apikey}", "{apikey}"},
-        BadAddress{"OtherProtocol", "ftp://tiles.org/{z}/{x}/{y}.png", "neither a web address"},
-        BadAddress{"NoMachine", "https:///{z}/{x}/{y}.png", "neither a web address"},
-        BadAddress{"NoFile", "/no such/底图.mbtiles", "/no such/底图.mbtiles"},
-        BadAddress{"WmsWithoutLayer", "https://a.org/wms?service=WMS", "LAYERS="},
-        BadAddress{"WmsInAProjectedSystem", "https://a.org/wms?layers=a&srs=EPSG:32650",
-                   "EPSG:32650"},
-        BadAddress{"WmsInNoSystem", "https://a.org/wms?layers=a&srs=EPSG:1", "EPSG:1"},
-        BadAddress{"WmtsNoWebAddress", "WMTS:capabilities.xml,layer=a", "neither a web address"}),
-    [](const auto& test) { return test.param.name; });
 
 TEST(BaseMap, TellsWhatElseIsWrong)
 {
@@ -97,17 +84,4 @@ TEST(BaseMap, TakesTheFormsOfAddressesThatServicesPublish)
                        "{width}&height={height}&srs={proj}"),
               "http://a.org/w?map=x");
     EXPECT_EQ(lum::hostOf(mapAt("https://{s}.tiles.org/{z}/{x}/{y}.png"_q)), "a.tiles.org"_q);
-}
-
-TEST(BaseMap, AFileIsOpenedByItsPath)
-{
-    const TestFolder folder;
-    const QString path = folder.write("底图 1.mbtiles", "x");
-    const QString asUrl = "file://"_q + path;
-    for (const QString& address : {path, asUrl}) {
-        EXPECT_EQ(lum::faultOf(mapAt(address)), QString());
-        EXPECT_TRUE(lum::isFile(mapAt(address)));
-        EXPECT_EQ(lum::rasterNameOf(mapAt(address), {}), path);
-        EXPECT_EQ(lum::hostOf(mapAt(address)), QString());
-    }
 }

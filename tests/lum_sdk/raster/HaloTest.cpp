@@ -78,13 +78,3 @@ TEST(Halo, IsAsWideOnAFineScreen)
     EXPECT_EQ(picture.pixelColor(26, 20), QColor(Qt::black));
     columnAt(0, 1, 1, 1, 40); // a ratio that no screen has
 }
-
-TEST(Halo, LeavesTheRestOfThePicture)
-{
-    QImage picture = image(100, 100, Qt::darkGreen);
-    const QImage before = picture.copy();
-    lum::drawWithHalo(picture, image(100, 100, Qt::transparent), kPaper);
-    EXPECT_EQ(picture, before);
-    lum::drawWithHalo(picture, image(100, 100, Qt::blue), kPaper);
-    EXPECT_EQ(picture, image(100, 100, Qt::blue));
-}

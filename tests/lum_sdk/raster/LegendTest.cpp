@@ -1,6 +1,7 @@
 #include "lum_sdk/raster/Legend.h"
 
 #include "tests/support/Literals.h"
+#include "tests/support/Pixels.h"
 
 #include <QImage>
 #include <QPainter>
@@ -29,12 +30,7 @@ struct Drawn
     }
     [[nodiscard]] int pixelsOf(const QColor& color) const
     {
-        int count = 0;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x)
-                count += picture.pixelColor(x, y) == color ? 1 : 0;
-        }
-        return count;
+        return countPixels(picture, picture.rect(), color);
     }
 
     QImage picture;
@@ -73,15 +69,6 @@ private Q_SLOTS:
         QVERIFY(some.place.height() < many.place.height());
         QCOMPARE(some.pixelsOf(Qt::blue), 4 * some.pixelsOf(Qt::red));
         QVERIFY(many.pixelsOf(Qt::blue) < 30 * many.pixelsOf(Qt::red));
-    }
-
-    void nothingIsDrawnWithoutColorsOrRoom()
-    {
-        for (const Drawn& drawn : {Drawn({"Title"_q, {}}), Drawn(legendOf(2), {199, 400}),
-                                   Drawn(legendOf(2), {400, 119})}) {
-            QVERIFY(drawn.place.isEmpty());
-            QCOMPARE(drawn.pixelsOf(Qt::black), drawn.picture.width() * drawn.picture.height());
-        }
     }
 };
 

@@ -159,15 +159,7 @@ TEST(RasterColors, MasksHideAlsoInOverviewsBuiltWithoutThem)
     made.place[5] = -0.125;
     made.overviews = {2, 4, 8};
     made.value = [](int, int, int) { return 50; };
-    made.finish = [](GDALDatasetH file) {
-        CPLSetThreadLocalConfigOption("GDAL_TIFF_INTERNAL_MASK", "YES");
-        EXPECT_EQ(GDALCreateDatasetMaskBand(file, GMF_PER_DATASET), CE_None);
-        const std::vector<uchar> left(256 * 512, 255);
-        EXPECT_EQ(GDALRasterIO(GDALGetMaskBand(GDALGetRasterBand(file, 1)), GF_Write, 0, 0, 256,
-                               512, const_cast<uchar*>(left.data()), 256, 512, GDT_Byte, 0, 0),
-                  CE_None);
-        CPLSetThreadLocalConfigOption("GDAL_TIFF_INTERNAL_MASK", nullptr);
-    };
+    made.masked = QRect(256, 0, 256, 512);
     const TestFolder folder;
     ASSERT_TRUE(made.write(folder.path("mask.tif")));
     lum::RasterImage image(folder.path("mask.tif"));
@@ -177,17 +169,4 @@ TEST(RasterColors, MasksHideAlsoInOverviewsBuiltWithoutThem)
         EXPECT_EQ(picture.pixel(side / 4, 5), qRgb(50, 50, 50)) << side;
         EXPECT_EQ(picture.pixel(3 * side / 4, 5), kPaper) << side;
     }
-}
-
-TEST(RasterColors, OpacityMixesWithTheGround)
-{
-    const TestFolder folder;
-    MadeRaster made = smallRaster(3, GDT_Byte);
-    made.value = [](int, int, int) { return 200; };
-    ASSERT_TRUE(made.write(folder.path("made.tif")));
-    lum::RasterImage image(folder.path("made.tif"));
-    const basalt::Dictionary system = systemOf("32650");
-    const lum::RasterView view = viewOf({64, 64}, image.extent(system), system);
-    EXPECT_NEAR(qGreen(pictureOf(image, view, 0.25).pixel(5, 5)), 50, 2);
-    EXPECT_EQ(pictureOf(image, view, 0).pixel(5, 5), kPaper);
 }

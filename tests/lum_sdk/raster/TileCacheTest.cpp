@@ -1,6 +1,5 @@
 #include "lum_sdk/raster/TileCache.h"
 
-#include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
 
 #include <QDateTime>

@@ -284,25 +284,6 @@ TEST_F(TileImageTest, NoServiceAtAllIsUnreachable)
     }
 }
 
-TEST_F(TileImageTest, ABadTileLeavesOneHoleAndComesLater)
-{
-    const QPoint center = tileAt(117, 40, 14);
-    const std::string bad =
-        QStringLiteral("/14/%1/%2.").arg(center.x()).arg(center.y()).toStdString();
-    server.behave(bad, Behaviour::Garbage);
-    lum::TileImage image(map, fetching);
-    EXPECT_FALSE(image.fetchAll(viewOf(), seconds(20)));
-    QImage picture = paint(image, viewOf());
-    EXPECT_EQ(picture.pixelColor(305, 200).alpha(), 0);
-    EXPECT_EQ(picture.pixelColor(5, 5).alpha(), 255);
-    EXPECT_TRUE(image.trouble().contains("errors"_q));
-
-    server.behave(Behaviour::Fine);
-    EXPECT_TRUE(
-        comesTrue([&] { return paint(image, viewOf()).pixelColor(305, 200).alpha() == 255; }));
-    EXPECT_EQ(image.trouble(), QString());
-}
-
 TEST_F(TileImageTest, ShowsCoarserTilesWhereTheServiceHasNoFineOnes)
 {
     server.behave("/14/", Behaviour::NotFound);

@@ -6,9 +6,7 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
-
-#include <QtTest>
-#include <QtWidgets>
+#include "tests/support/Widgets.h"
 
 namespace {
 
@@ -34,15 +32,7 @@ public:
             all << list().topLevelItem(i)->text(0);
         return all;
     }
-    QPushButton* button(const char* text)
-    {
-        for (QPushButton* const each : dialog.findChildren<QPushButton*>()) {
-            if (each->text().remove(QLatin1Char('&')) == QString::fromUtf8(text))
-                return each;
-        }
-        qFatal("no button %s", text);
-    }
-    void press(const char* text) { QTest::mouseClick(button(text), Qt::LeftButton); }
+    void press(const char* text) { ::press(dialog, text); }
     void select(int row)
     {
         const QRect place = list().visualItemRect(list().topLevelItem(row));
@@ -69,15 +59,6 @@ public:
         QGuiApplication::clipboard()->setText(text);
         QTest::keySequence(dialog.focusWidget(), QKeySequence::Paste);
     }
-    /// Whether a label shows a text with this part.
-    [[nodiscard]] bool tells(const QString& part)
-    {
-        const auto labels = dialog.findChildren<QLabel*>();
-        return std::any_of(labels.begin(), labels.end(), [&](const QLabel* each) {
-            return each->isVisible() && each->text().contains(part);
-        });
-    }
-
     DlgBaseMaps dialog;
 };
 
@@ -116,12 +97,12 @@ private Q_SLOTS:
         QCOMPARE(open.dialog.focusWidget()->toolTip(),
                  "The service learns which part of the world is looked at"_q); // the address
         open.type("A&ddress or file:", "https://tiles.example.org/{z}/{x}/{y}.png"_q);
-        QVERIFY(open.tells("whose map"_q));
+        QVERIFY(says(open.dialog, "whose map"_q));
         open.press("OK");
         QVERIFY(open.dialog.isVisible());
         open.paste("© Example"_q);
         open.type("&Name:", "openstreetmap"_q);
-        QVERIFY(open.tells("Another base map has this name."_q));
+        QVERIFY(says(open.dialog, "Another base map has this name."_q));
         open.press("OK");
         QVERIFY(open.dialog.isVisible());
         open.paste("站点 Site"_q);
@@ -143,8 +124,8 @@ private Q_SLOTS:
         {
             OpenDialog open(m_project->host);
             open.select(0);
-            QVERIFY(!open.button("Remove")->isEnabled());
-            QVERIFY(!open.button("Put Back")->isEnabled());
+            QVERIFY(!buttonOf(open.dialog, "Remove").isEnabled());
+            QVERIFY(!buttonOf(open.dialog, "Put Back").isEnabled());
             open.type("A&ddress or file:", "https://other.example/{z}/{x}/{y}"_q);
             QTest::keyClick(&open.list(), Qt::Key_Down);
             open.list().setFocus();
@@ -159,7 +140,7 @@ private Q_SLOTS:
         for (const int row : {0, 1}) {
             open.select(row);
             open.press("Put Back");
-            QVERIFY(!open.button("Put Back")->isEnabled());
+            QVERIFY(!buttonOf(open.dialog, "Put Back").isEnabled());
         }
         open.press("OK");
         lum::rereadUserBaseMaps();
@@ -187,7 +168,7 @@ private Q_SLOTS:
         open.press("Add");
         open.type("A&ddress or file:", m_folder->path("外接 disk/a.mbtiles"));
         open.type("A&ttribution:", "a"_q);
-        QVERIFY(open.tells("a.mbtiles"_q)); // that it is not there
+        QVERIFY(says(open.dialog, "a.mbtiles"_q)); // that it is not there
         const auto zooms = open.dialog.findChildren<QSpinBox*>();
         QVERIFY(!zooms.front()->isEnabled()); // a file has its own levels
         open.press("OK");
@@ -203,9 +184,9 @@ private Q_SLOTS:
                                              QByteArray(3 << 20, 'x'));
         QVERIFY(!tile.isEmpty());
         OpenDialog open(m_project->host);
-        QVERIFY(open.tells("3.0 MB"_q));
+        QVERIFY(says(open.dialog, "3.0 MB"_q));
         open.press("Clear");
-        QVERIFY(open.tells("0.0 MB"_q));
+        QVERIFY(says(open.dialog, "0.0 MB"_q));
         QVERIFY(!QFile::exists(tile));
     }
 

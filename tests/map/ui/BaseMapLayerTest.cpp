@@ -1,19 +1,16 @@
-#include "lum_desktop_sdkx/LayerPicture.h"
 #include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/raster/UserBaseMaps.h"
 #include "map/ui/BaseMapCommands.h"
 #include "map/ui/DlgBaseMaps.h"
-#include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/HttpTestServer.h"
 #include "tests/support/TestFolder.h"
-
-#include <QtWidgets>
+#include "tests/support/Widgets.h"
 
 #include <set>
 
@@ -237,19 +234,6 @@ private Q_SLOTS:
         QVERIFY(!map.online.isChecked());
     }
 
-    void aFileThatIsNoImageIsTold()
-    {
-        const QString path = m_folder->write("底图.tif", "no image");
-        lum::setUserBaseMaps({entryOf("File"_q, lum::BaseMapKind::Road, path)});
-        Ground map;
-        map.takeSystem();
-        map.online.execute();
-        QVERIFY2(map.host.told.contains("底图.tif"_q), qPrintable(map.host.told));
-        const IDictionary& shown = map.window.layers().find("OnlineMap"_q)->GetProperties();
-        QVERIFY(shown.text("attribution").empty()); // of nothing
-        QVERIFY(!layerpicture::isShown(shown));
-    }
-
     void theDialogShowsOneAndClosesWhatIsGone()
     {
         Ground map;
@@ -259,14 +243,14 @@ private Q_SLOTS:
         dialog.show();
         auto& list = *dialog.findChild<QTreeWidget*>();
         QTest::keyClick(&list, Qt::Key_Down);
-        pressIn(dialog, "Show on Map");
+        press(dialog, "Show on Map");
         QVERIFY(!dialog.isVisible());
         QVERIFY(map.satellite.isChecked());
 
         DlgBaseMaps again(map.host);
         again.show();
         QTest::keyClick(again.findChild<QTreeWidget*>(), Qt::Key_Space); // hides what is shown
-        pressIn(again, "OK");
+        press(again, "OK");
         QVERIFY(!again.isVisible());
         QVERIFY(!map.online.isChecked());
         QCOMPARE(map.center(), QColor(Qt::white));
@@ -289,16 +273,6 @@ private Q_SLOTS:
     }
 
 private:
-    static void pressIn(QDialog& dialog, const char* text)
-    {
-        for (QPushButton* const button : dialog.findChildren<QPushButton*>()) {
-            if (button->text().remove(QLatin1Char('&')) == QString::fromUtf8(text)) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                return;
-            }
-        }
-        QFAIL(text);
-    }
     /// An image that is blue all over, 1000 m around the place of the map, with a world file.
     bool writeBlueRaster(const QString& path) const
     {

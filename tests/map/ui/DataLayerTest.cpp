@@ -8,6 +8,7 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 #include "tests/support/OnEvent.h"
+#include "tests/support/Pixels.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -45,37 +46,6 @@ private Q_SLOTS:
             QCOMPARE(map.layer().PickDesignPoint(100, 100), "d"_q); // not in view
             QCOMPARE(map.window.extent(), QRectF(200, 200, 10, 10));
         }
-    }
-
-    void otherViewsKeepTheCacheAndHandTheExtentOver()
-    {
-        TestMap map;
-        map.addDesign("1", "d", 100, 100);
-        map.publish(events::kRefreshDesignLayer);
-        map.window.setExtent(0, 0, 1, 1);
-        map.manager.designPoints().clear();
-        map.setStatus(status::kViewShowWhich, "2");
-        map.publish(events::kRefreshDesignLayer);
-        QCOMPARE(map.window.extent(), QRectF(100, 100, 10, 10));
-        QCOMPARE(map.layer().PickDesignPoint(100, 100), "d"_q);
-        map.host.windowRegistry.windows.clear();
-        map.publish(events::kRefreshDesignLayer); // without a map
-    }
-
-    void onlyTheTopOfTheExtentIsAWholeNumber()
-    {
-        TestMap map;
-        map.addDesign("1", "1", -100.3, 20.7);
-        map.addDesign("1", "2", 150.7, 90.2);
-        map.publish(events::kRefreshDesignLayer);
-        QCOMPARE(map.layer().GetExtent(), QRectF(QPointF(20.7, -100.3), QPointF(90.2, 150.7)));
-        QCOMPARE(map.window.extent(), QRectF(QPointF(20.7, -101), QPointF(90.2, 150.7)));
-        map.addDesign("1", "3", -3e9, 0); // beyond what an int holds
-        map.publish(events::kRefreshDesignLayer);
-        QCOMPARE(map.window.extent().top(), -3e9);
-        map.manager.designPoints().clear();
-        map.publish(events::kRefreshDesignLayer);
-        QCOMPARE(map.window.extent(), QRectF(0, 0, 10, 10));
     }
 
     void aResultFarAwayAndTheSurveyAreInThePicture()
@@ -133,27 +103,24 @@ private Q_SLOTS:
         map.addDesign("2", "e", 100, 300, 0);
         map.addDesign("3", "f", 200, 300, 7);
         map.publish(events::kRefreshDesignLayer);
-        const auto tip = [](const char* what, const char* position) {
-            return QString::fromUtf8(what) + QLatin1Char('\n') + QString::fromUtf8(position);
-        };
         QCOMPARE(map.layer().tipAt({101, 101}),
-                 tip("Line 1, point d (receiver)", "N=100.000    E=100.000"));
+                 "Line 1, point d (receiver)\nN=100.000    E=100.000"_q);
         QCOMPARE(map.layer().tipAt({301, 101}),
-                 tip("Line 2, point e (source)", "N=100.000    E=300.000"));
+                 "Line 2, point e (source)\nN=100.000    E=300.000"_q);
         basalt::Dictionary inFeet;
         QCOMPARE(fillFromEpsg("32037", inFeet), std::string());
         get_project_coord_transform().initialise(inFeet, inFeet);
         QCOMPARE(map.layer().tipAt({301, 201}),
-                 tip("Line 3, point f (design)", "N=200.000    E=300.000    ftUS"));
+                 "Line 3, point f (design)\nN=200.000    E=300.000    ftUS"_q);
         get_project_coord_transform().initialise(basalt::Dictionary(), basalt::Dictionary());
         map.setStatus(status::kViewShowWhich, "0");
         map.publish(events::kRefreshSurveyLayer);
         map.showAll();
         QCOMPARE(map.layer().tipAt({101, 101}), QString());
         QCOMPARE(map.layer().tipAt({201, 200}),
-                 tip("Line 1, point s (survey result)", "N=200.000    E=200.000"));
+                 "Line 1, point s (survey result)\nN=200.000    E=200.000"_q);
         QCOMPARE(map.layer().tipAt({209, 200}), // counted as on the map
-                 tip("Base-1 (base station)", "N=200.000    E=210.000"));
+                 "Base-1 (base station)\nN=200.000    E=210.000"_q);
     }
 
     /// A map on a second screen may be larger than the first one, or lie left of it.
@@ -188,41 +155,24 @@ private Q_SLOTS:
             map.addDesign(line, "1", 100, 100, line[0] == '2' ? 0 : 1);
         map.publish(events::kRefreshDesignLayer);
         map.picture();
-        EventLog progress(map.host.events, events::kProgress);
-        map.setStatus(status::kShowSourceLines, "0");
-        paint(map);
-        QCOMPARE(progress.payloads(),
-                 (Payloads{"text=Draw Design Data,value=25,is_exec=0",
-                           "text=Draw Design Data,value=75,is_exec=0",
-                           "text=Draw Design Data,value=100,is_exec=0", "show=0"}));
-        progress.events.clear();
+        EventLog log(map.host.events, events::kProgress);
         const std::atomic<bool> cancelled = true;
-        paint(map, &cancelled);
-        QCOMPARE(progress.payloads(), Payloads{"show=0"});
-        progress.events.clear();
-        map.setStatus(status::kShowSourceLines, "1");
-        map.setStatus(status::kShowReceiverLines, "0");
-        paint(map);
-        QCOMPARE(progress.payloads(),
-                 (Payloads{"text=Draw Design Data,value=50,is_exec=0", "show=0"}));
-        progress.events.clear();
+        const auto progress = [&](bool isCancelled = false) {
+            log.events.clear();
+            paint(map, isCancelled ? &cancelled : nullptr);
+            return log.payloads();
+        };
+        map.setStatus(status::kShowSourceLines, "0");
+        QCOMPARE(progress(), (Payloads{"text=Draw Design Data,value=25,is_exec=0",
+                                       "text=Draw Design Data,value=75,is_exec=0",
+                                       "text=Draw Design Data,value=100,is_exec=0", "show=0"}));
+        QCOMPARE(progress(true), Payloads{"show=0"});
         map.setStatus(status::kViewShowWhich, "0");
         map.addResult("1", "s", 1e6, 1e6, {9e5, 9e5}); // out of sight
         map.publish(events::kRefreshSurveyLayer);
-        paint(map);
-        QCOMPARE(progress.payloads(),
-                 (Payloads{"text=Draw Survey Data,value=100,is_exec=0", "show=0"}));
-        progress.events.clear();
-        paint(map, &cancelled);
-        QCOMPARE(progress.payloads(), Payloads{"show=0"});
-
-        progress.events.clear(); // nothing is said without a design or a view
-        map.setStatus(status::kViewShowWhich, "2");
-        paint(map);
-        map.setStatus(status::kViewShowWhich, "1");
-        map.manager.designParameters().clear();
-        paint(map);
-        QCOMPARE(progress.payloads(), Payloads{});
+        QCOMPARE(progress(), (Payloads{"text=Draw Survey Data,value=100,is_exec=0", "show=0"}));
+        map.setStatus(status::kViewShowWhich, "2"); // nothing is said without a view
+        QCOMPARE(progress(), Payloads{});
     }
 
     void colorsFollowTheChoiceTheLimitsAndTheChecks()
@@ -300,14 +250,9 @@ private Q_SLOTS:
             const Transform& view = map.window.transform();
             const QRectF screen(view.SurveyToScreen(part.topLeft()),
                                 view.SurveyToScreen(part.bottomRight()));
-            const QRect pixels = screen.normalized().toRect();
-            for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-                for (int x = pixels.left(); x <= pixels.right(); ++x) {
-                    if (picture.pixelColor(x, y) != QColor(Qt::white))
-                        return true;
-                }
-            }
-            return false;
+            return countPixels(picture, screen.normalized().toRect(), [&](const QPoint& at) {
+                       return picture.pixelColor(at) != QColor(Qt::white);
+                   }) > 0;
         };
         const QRectF tie(200, 145, 50, 10);
         const QRectF offset(95, 115, 10, 20);
@@ -329,22 +274,13 @@ private Q_SLOTS:
         choose(settings::kShowOffsets, "0");
         QVERIFY(!isPainted(offset));
 
-        ResultNamesCommand all("names=all", &map.host);
         ResultNamesCommand room("names=room", &map.host);
         ResultNamesCommand none("names=none", &map.host);
-        const auto checked = [&] {
-            return std::vector<bool>{all.isChecked(), room.isChecked(), none.isChecked()};
-        };
-        QCOMPARE(checked(), (std::vector<bool>{true, false, false}));
         none.execute();
-        QCOMPARE(checked(), (std::vector<bool>{false, false, true}));
-        QVERIFY(!isPainted(name));
+        QVERIFY(none.isChecked() && !isPainted(name));
         choose(settings::kResultNames, ""); // without a choice, colours leave room
         choose(settings::kResultColors, "day");
-        QCOMPARE(checked(), (std::vector<bool>{false, true, false}));
-        QVERIFY(isPainted(name));
-        all.execute();
-        QCOMPARE(checked(), (std::vector<bool>{true, false, false}));
+        QVERIFY(room.isChecked() && !none.isChecked() && isPainted(name));
         settings.clear();
     }
 

@@ -43,13 +43,7 @@ public:
 
     [[nodiscard]] PlacePick* pick() { return m_pick.get(); }
     void end() { m_pick.reset(); }
-    void click(int x, int y, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QTest::mouseClick(&window, button, {}, QPoint(x, y));
-    }
     void press(QWidget& focus, int key = Qt::Key_Escape) { QTest::keyClick(&focus, Qt::Key(key)); }
-    [[nodiscard]] Qt::CursorShape cursor() const { return window.cursor().shape(); }
-    [[nodiscard]] QColor shown(int x, int y) { return window.grab().toImage().pixelColor(x, y); }
     QStringList heard() { return std::exchange(m_heard, {}); }
     /// The selections that the map has published since the last call.
     std::size_t selections() { return std::exchange(m_log.events, {}).size(); }

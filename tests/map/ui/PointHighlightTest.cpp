@@ -1,9 +1,6 @@
 #include "map/ui/PointHighlight.h"
 
 #include "lum_sdk/Transform.h"
-#include "map/ui/IDataLayer.h"
-#include "protocol/Events.h"
-#include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 
 #include <QDialog>
@@ -113,36 +110,6 @@ private Q_SLOTS:
         QCOMPARE(map.window.transform().center(), QPointF(2000, 1500));
         QVERIFY(map.window.transform().GetScale() > 10);
         QVERIFY(!PointHighlight::markGroup(map.host, QVector<QPointF>{{std::nan(""), 0}}));
-    }
-
-    void aResultHasARingOnlyWhereItWasDesigned()
-    {
-        TestMap map;
-        const QPoint besideTheCross(208, 150); // on a ring around the measured position
-        PointHighlight::mark(map.host, result(150, 200));
-        QCOMPARE(map.picture().pixelColor(200, 150), QColor(Qt::blue));
-        QCOMPARE(map.picture().pixelColor(besideTheCross), QColor(Qt::white));
-        PointHighlight::mark(map.host, result(150, 200, 150, 300));
-        QVERIFY(map.picture().pixelColor(308, 150).red() < 64); // the ring
-        PointHighlight::mark(map.host, result(std::nan(""), 200, 150, 300));
-        QCOMPARE(map.picture().pixelColor(200, 150), QColor(Qt::white)); // not the one before
-        QCOMPARE(map.window.transform().center(), QPointF(200, 150));
-    }
-
-    void aBaseStationIsMarkedByItsNumber()
-    {
-        TestMap map;
-        map.setStatus(status::kViewShowWhich, "0");
-        map.addResult("1", "1", 150, 200, {300, 150});
-        map.addResult("1", "2", 150, 250, {900, 150});
-        map.publish(events::kRefreshSurveyLayer);
-        map.window.zoomRect(0, 0, 400, 300);
-        map.picture();
-        PointHighlight::markStation(map.host, 7);
-        QCOMPARE(map.window.transform().center(), QPointF(200, 150));
-        PointHighlight::markStation(map.host, 1);
-        QCOMPARE(map.window.transform().center(), QPointF(900, 150));
-        QCOMPARE(map.picture().pixelColor(203, 150), QColor(Qt::blue)); // a disc
     }
 
     void zoomComesNearEnough()

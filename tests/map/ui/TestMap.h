@@ -12,6 +12,7 @@
 #include "project/DataProcessDataManager.h"
 #include "tests/lum_desktop_sdkx/TestHost.h"
 #include "tests/support/Literals.h"
+#include "tests/support/Points.h"
 
 #include <QtTest>
 
@@ -44,6 +45,13 @@ public:
         showAll();
     }
 
+    void click(int x, int y, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(&window, button, {}, QPoint(x, y));
+    }
+    [[nodiscard]] Qt::CursorShape cursor() const { return window.cursor().shape(); }
+    /// What shows now, painted or not.
+    [[nodiscard]] QColor shown(int x, int y) { return window.grab().toImage().pixelColor(x, y); }
     void publish(const char* name) { host.events.publish(name, nullptr, 0); }
     void showAll() { window.zoomRect(0, 0, 400, 300); }
     void setStatus(const char* key, const char* value)
@@ -64,9 +72,7 @@ public:
 
     void addDesign(const char* line, const char* number, double north, double east, int type = 1)
     {
-        DesignPoint point;
-        point.lineNumber = line;
-        point.pointNumber = number;
+        DesignPoint point = designPoint(line, number);
         point.north = north;
         point.east = east;
         point.type = type;
@@ -75,9 +81,7 @@ public:
     void addResult(const char* line, const char* number, double north, double east,
                    const QPointF& base, const QPointF& design = {})
     {
-        SurveyPoint point;
-        point.lineNumber = line;
-        point.pointNumber = number;
+        SurveyPoint point = surveyPoint(line, number);
         point.north = north;
         point.east = east;
         point.referenceNorth = base.y();

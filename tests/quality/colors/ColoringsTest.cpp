@@ -190,15 +190,3 @@ TEST(Colorings, TheLastSevenDaysHaveColorsInTheShownZone)
     const ResultColors inBeijing = colorsBy("day", survey, defaultLimits(), 8);
     EXPECT_EQ(legendOf(inBeijing, survey).substr(0, 14), "2024/10/13 1; ");
 }
-
-TEST(Colorings, EachIsFoundByItsNameAndTakesAnEmptySurvey)
-{
-    for (const Coloring& coloring : colorings()) {
-        EXPECT_EQ(findColoring(coloring.name), &coloring);
-        const ResultColors colors = colorsBy(coloring.name, {});
-        EXPECT_FALSE(captionOf(colors, goodPoint()).isEmpty());
-        EXPECT_EQ(legendOf(colors, {}), "");
-    }
-    EXPECT_EQ(findColoring("Verdict"), nullptr);
-    EXPECT_EQ(findColoring(""), nullptr);
-}

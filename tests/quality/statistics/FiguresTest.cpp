@@ -164,43 +164,6 @@ TEST(Figures, TellThePointOfTheMaximumAndTheValuesOfAGroup)
     EXPECT_TRUE(figuresOf(empty, groupBy(empty, {GroupKey::Day, GroupKey::Base})).empty());
 }
 
-TEST(Figures, ALineIsDoneWhenAllIsStakedAndWithinLimits)
-{
-    MadeSurvey survey;
-    for (const char* line : {"1 done", "2 unfinished", "3 failed", "4 empty"})
-        survey.plan(line, "1");
-    survey.plan("2 unfinished", "2");
-    for (const char* line : {"1 done", "2 unfinished", "3 failed", "5 unplanned"})
-        survey.measure(line, "1");
-    survey.measure("1 done", "1F").east += 9; // a failed resurvey does not undo the first one
-    survey.results.find("3 failed", "1")->east += 9;
-    const SurveySample sample = survey.sample();
-    const std::vector<Figures> lines = figuresOf(sample, groupBy(sample, {GroupKey::Line}));
-    std::string staked;
-    std::string withinLimits;
-    for (const Figures& line : lines) {
-        staked += line.isAllStaked() ? '+' : '-';
-        withinLimits += line.isAllWithinLimits() ? '+' : '-';
-    }
-    EXPECT_EQ(staked, "+-+--");
-    EXPECT_EQ(withinLimits, "++--+");
-    EXPECT_EQ(lines[0].shareWithinLimits(), 1);
-    EXPECT_EQ(lines[2].shareFailed(), 1);
-    EXPECT_TRUE(std::isnan(lines[3].shareWithinLimits()));
-    EXPECT_FALSE(figuresOf(sample, groupBy(sample, {GroupKey::Day}))[0].hasDesign);
-}
-
-TEST(Figures, TheWorstGroupsHaveTheLargestShareThenTheMostFailed)
-{
-    std::vector<Figures> groups(4);
-    groups[0].counts[0] = {2, 1, 100}; // within limits, failed, not judged
-    groups[1].counts[0] = {4, 2, 0};
-    groups[2].counts[0] = {1, 1, 0};
-    groups[3].counts[0] = {5, 0, 0};
-    EXPECT_EQ(worstGroups(groups), (std::vector<std::size_t>{2, 1, 0}));
-    EXPECT_EQ(worstGroups(groups, 1), (std::vector<std::size_t>{2}));
-}
-
 TEST(Distribution, AnEndBelongsToTheClassBelowIt)
 {
     MadeSurvey survey;

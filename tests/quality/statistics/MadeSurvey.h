@@ -2,6 +2,7 @@
 
 #include "basalt_utilities/Dictionary.h"
 #include "quality/statistics/SurveySample.h"
+#include "tests/support/Points.h"
 
 #include <cstdint>
 #include <string>
@@ -17,17 +18,11 @@ struct MadeSurvey
 
     void plan(const std::string& line, const std::string& number, int type = 1)
     {
-        DesignPoint point;
-        point.lineNumber = line;
-        point.pointNumber = number;
-        point.type = type;
-        design.set(point);
+        design.set(designPoint(line, number, type));
     }
     SurveyPoint& measure(const std::string& line, const std::string& number)
     {
-        SurveyPoint point;
-        point.lineNumber = line;
-        point.pointNumber = number;
+        SurveyPoint point = surveyPoint(line, number);
         point.pointMark = 1;
         point.north = point.designNorth = 4000000;
         point.east = point.designEast = 500000;

@@ -79,23 +79,6 @@ TEST(RoverSessions, OfEqualAndOfMissingTimesHaveNoPace)
     EXPECT_TRUE(std::isnan(sessions[1].pointsAnHour()));
 }
 
-TEST(RoverGaps, AreLongerThanTheLimitWhateverTheBase)
-{
-    MadeSurvey survey;
-    measure(survey, "5", 0);
-    measure(survey, "4", 30);
-    measure(survey, "3", 45, "B2");
-    measure(survey, "2", 75.5);
-    measure(survey, "1", 110, "B2").surveyor = "Wang"; // another crew: no gap of the first
-    measure(survey, "0", 0).dateTime = 0;
-    measure(survey, "9", 24 * 60.0); // the next day
-    const std::vector<RoverGap> gaps = roverGapsOf(survey.sample());
-    ASSERT_EQ(gaps.size(), 1U);
-    EXPECT_EQ(gaps[0].before->pointNumber, "3");
-    EXPECT_EQ(gaps[0].after->pointNumber, "2");
-    EXPECT_EQ(gaps[0].minutes(), 30.5);
-}
-
 TEST(Bases, TellThatABaseWasMoved)
 {
     MadeSurvey survey;

@@ -1,22 +1,13 @@
 #include "basalt_utilities/Dictionary.h"
 #include "basalt_utilities/Paths.h"
-#include "basalt_utilities/Product.h"
 #include "lum_desktop_sdkx/controls/PropertyGridCtrl.h"
 #include "lum_desktop_sdkx/controls/PropertyGridLayout.h"
-#include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "quality/QualityLimits.h"
 #include "quality/ui/DlgQCParamSet.h"
+#include "tests/support/Boxes.h"
+#include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
-
-#include <QApplication>
-#include <QLabel>
-#include <QPushButton>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTreeView>
-#include <QtTest>
-
-#include <algorithm>
+#include "tests/support/Widgets.h"
 
 /// The dialog of the limits.
 class QualityDialogsTest : public QObject
@@ -24,189 +15,159 @@ class QualityDialogsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void takesAGoodCodeAndRefusesABadOne();
-    void asksToMendAFileEditedByHand();
-    void asksForWhatTheToolAccepts();
-    void tellsOfLimitsThatAreHardlyMeant();
-    void keepsTheLimitsOfBothPages();
-    void storesNothingThatItCannotShow();
+    void takesAGoodCodeAndRefusesABadOne()
+    {
+        Boxes boxes;
+        basalt::Dictionary parameters;
+        parameters.set("kept", "x");
+        DlgQCParamSet dialog(nullptr, parameters);
+        QCOMPARE(dialog.windowTitle(), "Quality Specification"_q);
+        dialog.show();
+        enter(dialog, "pdop_max", "4");
+        enter(dialog, "re_code", "c");
+        pressOk(dialog);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(boxes.told(), QStringList("提示|请确认输入的复测代码是不为' C '的单个字母"_q));
+        QCOMPARE(parameters.size(), std::size_t(1));
+        enter(dialog, "re_code", "g");
+        pressOk(dialog);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(parameters.text("re_code") == "G");
+        QVERIFY(parameters.text("pdop_max") == "4");
+        QVERIFY(parameters.text("kept") == "x");
+    }
+
+    void asksToMendAFileEditedByHand()
+    {
+        basalt::Dictionary parameters; // without a resurvey code: the dialog shows its default
+        for (const QualityParameter& parameter : kQualityParameters) {
+            if (parameter.largest > 0)
+                parameters.set(parameter.key, "-2"); // a minus is allowed
+        }
+        parameters.set("pdop_max", "many");
+        DlgQCParamSet dialog(nullptr, parameters);
+        dialog.show();
+        pressOk(dialog);
+        QVERIFY(dialog.isVisible());
+        QVERIFY(parameters.text("pdop_max") == "many");
+        enter(dialog, "pdop_max", "3");
+        pressOk(dialog);
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(parameters.text("re_code") == "F");
+        QVERIFY(parameters.text("pdop_max") == "3");
+        QVERIFY(parameters.text("ant_height_max") == "-2");
+    }
+
+    /// The control file of the dialog allows the same values as the table that the command line
+    /// uses.
+    void asksForWhatTheToolAccepts()
+    {
+        const QByteArray file = TestFolder::read(QString::fromStdString(basalt::resolvedPath(
+            "$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/"
+            "QCParam.xml")));
+        PropertyGridLayout layout;
+        QCOMPARE(readPropertyGridLayout(file, layout), QString());
+        std::size_t rows = 0;
+        for (const PropertyGridGroup& group : layout.groups) {
+            for (const PropertyGridRow& row : group.rows) {
+                const auto* const parameter = findQualityParameter(row.key.toStdString());
+                QVERIFY2(parameter != nullptr, qPrintable(row.key));
+                QCOMPARE(row.maximum.value_or(0), parameter->largest);
+                QVERIFY(!row.minimum);
+                QCOMPARE(row.editor == PropertyGridRow::Editor::Integer, parameter->isWhole);
+                QCOMPARE(row.fallback, QString::fromLatin1(parameter->fallback));
+                ++rows;
+            }
+        }
+        QCOMPARE(rows, kQualityParameters.size());
+    }
+
+    void tellsOfLimitsThatAreHardlyMeant()
+    {
+        basalt::Dictionary parameters;
+        parameters.set("pdop_max", "-2.5");
+        parameters.set("re_east_diff", "-1");
+        DlgQCParamSet dialog(nullptr, parameters);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto* const view = dialog.findChild<PropertyGridCtrl*>()->findChild<QTreeView*>();
+        const auto cell = [&](const char* caption) { return cellOf(*view, caption); };
+        const auto height = [&](const char* caption) {
+            return view->visualRect(cell(caption)).height();
+        };
+        const int plain = height("HDOP, max.");
+        QVERIFY2(height("PDOP, max.") > plain * 3 / 2, "has a sentence: the minus does not count");
+        QVERIFY(height("East difference, max.") > plain * 3 / 2);
+
+        view->scrollTo(cell("HDOP, min."));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                          view->visualRect(cell("HDOP, min.")).center());
+        QWidget* const editor = QApplication::focusWidget();
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(editor, "7"_q);
+        QVERIFY2(height("HDOP, max.") > plain * 3 / 2, "as soon as it is typed");
+        QTest::keyClick(editor, Qt::Key_Escape);
+        QCOMPARE(height("HDOP, max."), plain);
+        QCOMPARE(qualityParameterNote(parameters, "hdop_max"), QString());
+        parameters.set("hdop_min", "7");
+        QVERIFY(!qualityParameterNote(parameters, "hdop_max").isEmpty());
+        pressOk(dialog);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(parameters.text("pdop_max") == "-2.5");
+    }
+
+    void keepsTheLimitsOfBothPages()
+    {
+        basalt::Dictionary parameters;
+        parameters.set("rms_max", "-1"); // only a file edited by hand has it
+        DlgQCParamSet dialog(nullptr, parameters);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        enter(dialog, "pdop_max", "4");
+        pressOk(dialog);
+        QVERIFY(dialog.isVisible());
+        auto* const pages = dialog.findChild<QTabWidget*>();
+        QCOMPARE(pages->currentIndex(), 1); // where the bad value is
+
+        const auto* const view = pages->currentWidget()->findChild<QTreeView*>();
+        const auto type = [&](const char* caption, const char* value) {
+            const QModelIndex cell = cellOf(*view, caption);
+            QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                              view->visualRect(cell).center());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(QApplication::focusWidget(), QLatin1String(value));
+        };
+        type("RMS, max.", "0.05");
+        type("Epochs, min.", "7"); // its editor stays open
+        QTest::mouseClick(pages->tabBar(), Qt::LeftButton, {},
+                          pages->tabBar()->tabRect(0).center());
+        pressOk(dialog);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(parameters.text("pdop_max") == "4");
+        QVERIFY(parameters.text("rms_max") == "0.05");
+        QVERIFY(parameters.text("epoch_num_min") == "7");
+        QVERIFY2(!parameters.contains("occupation_min"),
+                 "a limit that nobody has set is not stored");
+    }
 
 private:
     static void enter(DlgQCParamSet& dialog, const char* key, const char* value)
     {
         dialog.findChild<PropertyGridCtrl*>()->setValue(QLatin1String(key), QLatin1String(value));
     }
+    /// The value of the row with this caption.
+    static QModelIndex cellOf(const QTreeView& view, const char* caption)
+    {
+        const QAbstractItemModel& model = *view.model();
+        const auto found = model.match(model.index(0, 0), Qt::DisplayRole, QLatin1String(caption),
+                                       1, Qt::MatchExactly | Qt::MatchRecursive);
+        return found.value(0).siblingAtColumn(1);
+    }
     static void pressOk(DlgQCParamSet& dialog)
     {
         QTest::mouseClick(dialog.findChild<QPushButton*>(), Qt::LeftButton);
     }
 };
-
-void QualityDialogsTest::takesAGoodCodeAndRefusesABadOne()
-{
-    QStringList told;
-    const LumMessageBox::Responder responder([&](const auto& message) {
-        told << message.title << message.text;
-        return LumMessageBox::Button::Ok;
-    });
-    basalt::Dictionary parameters;
-    parameters.set("kept", "x");
-    DlgQCParamSet dialog(nullptr, parameters);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Quality Specification"));
-    dialog.show();
-    enter(dialog, "pdop_max", "4");
-    enter(dialog, "re_code", "c");
-    pressOk(dialog);
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(told, (QStringList{QStringLiteral("提示"),
-                                QStringLiteral("请确认输入的复测代码是不为' C '的单个字母")}));
-    QCOMPARE(parameters.size(), std::size_t(1));
-    enter(dialog, "re_code", "g");
-    pressOk(dialog);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QVERIFY(parameters.text("re_code") == "G");
-    QVERIFY(parameters.text("pdop_max") == "4");
-    QVERIFY(parameters.text("kept") == "x");
-}
-
-void QualityDialogsTest::asksToMendAFileEditedByHand()
-{
-    basalt::Dictionary parameters; // without a resurvey code: the dialog shows its default
-    for (const QualityParameter& parameter : kQualityParameters) {
-        if (parameter.largest > 0)
-            parameters.set(parameter.key, "-2"); // a minus is allowed
-    }
-    parameters.set("pdop_max", "many");
-    DlgQCParamSet dialog(nullptr, parameters);
-    dialog.show();
-    pressOk(dialog);
-    QVERIFY(dialog.isVisible());
-    QVERIFY(parameters.text("pdop_max") == "many");
-    enter(dialog, "pdop_max", "3");
-    pressOk(dialog);
-    QVERIFY(!dialog.isVisible());
-    QVERIFY(parameters.text("re_code") == "F");
-    QVERIFY(parameters.text("pdop_max") == "3");
-    QVERIFY(parameters.text("ant_height_max") == "-2");
-}
-
-/// The control file of the dialog allows the same values as the table that the command line uses.
-void QualityDialogsTest::asksForWhatTheToolAccepts()
-{
-    const QByteArray file = TestFolder::read(QString::fromStdString(
-        basalt::resolvedPath("$(APP_DIR)/../etc/Tarvona/config/Skyquill/ControlXml/DataProcess5/"
-                             "QCParam.xml")));
-    PropertyGridLayout layout;
-    QCOMPARE(readPropertyGridLayout(file, layout), QString());
-    std::size_t rows = 0;
-    for (const PropertyGridGroup& group : layout.groups) {
-        for (const PropertyGridRow& row : group.rows) {
-            const auto* const parameter = findQualityParameter(row.key.toStdString());
-            QVERIFY2(parameter != nullptr, qPrintable(row.key));
-            QCOMPARE(row.maximum.value_or(0), parameter->largest);
-            QVERIFY(!row.minimum);
-            QCOMPARE(row.editor == PropertyGridRow::Editor::Integer, parameter->isWhole);
-            QCOMPARE(row.fallback, QString::fromLatin1(parameter->fallback));
-            ++rows;
-        }
-    }
-    QCOMPARE(rows, kQualityParameters.size());
-}
-
-void QualityDialogsTest::tellsOfLimitsThatAreHardlyMeant()
-{
-    basalt::Dictionary parameters;
-    parameters.set("pdop_max", "-2.5");
-    parameters.set("re_east_diff", "-1");
-    DlgQCParamSet dialog(nullptr, parameters);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    auto* const view = dialog.findChild<PropertyGridCtrl*>()->findChild<QTreeView*>();
-    const auto cell = [&](const char* caption) {
-        const QModelIndex group =
-            view->model()
-                ->match(view->model()->index(0, 0), Qt::DisplayRole, QLatin1String(caption), 1,
-                        Qt::MatchExactly | Qt::MatchRecursive)
-                .value(0);
-        return group.siblingAtColumn(1);
-    };
-    const auto height = [&](const char* caption) {
-        return view->visualRect(cell(caption)).height();
-    };
-    const int plain = height("HDOP, max.");
-    QVERIFY2(height("PDOP, max.") > plain * 3 / 2, "has a sentence: the minus does not count");
-    QVERIFY(height("East difference, max.") > plain * 3 / 2);
-
-    view->scrollTo(cell("HDOP, min."));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
-                      view->visualRect(cell("HDOP, min.")).center());
-    QWidget* const editor = QApplication::focusWidget();
-    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(editor, QStringLiteral("7"));
-    QVERIFY2(height("HDOP, max.") > plain * 3 / 2, "as soon as it is typed");
-    QTest::keyClick(editor, Qt::Key_Escape);
-    QCOMPARE(height("HDOP, max."), plain);
-    QCOMPARE(qualityParameterNote(parameters, "hdop_max"), QString());
-    parameters.set("hdop_min", "7");
-    QVERIFY(!qualityParameterNote(parameters, "hdop_max").isEmpty());
-    pressOk(dialog);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QVERIFY(parameters.text("pdop_max") == "-2.5");
-}
-
-void QualityDialogsTest::keepsTheLimitsOfBothPages()
-{
-    basalt::Dictionary parameters;
-    parameters.set("rms_max", "-1"); // only a file edited by hand has it
-    DlgQCParamSet dialog(nullptr, parameters);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    enter(dialog, "pdop_max", "4");
-    pressOk(dialog);
-    QVERIFY(dialog.isVisible());
-    auto* const pages = dialog.findChild<QTabWidget*>();
-    QCOMPARE(pages->currentIndex(), 1); // where the bad value is
-
-    const auto* const view = pages->currentWidget()->findChild<QTreeView*>();
-    const auto type = [&](const char* caption, const char* value) {
-        const QModelIndex cell =
-            view->model()
-                ->match(view->model()->index(0, 0), Qt::DisplayRole, QLatin1String(caption), 1,
-                        Qt::MatchExactly | Qt::MatchRecursive)
-                .value(0)
-                .siblingAtColumn(1);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(QApplication::focusWidget(), QLatin1String(value));
-    };
-    type("RMS, max.", "0.05");
-    type("Epochs, min.", "7"); // its editor stays open
-    QTest::mouseClick(pages->tabBar(), Qt::LeftButton, {}, pages->tabBar()->tabRect(0).center());
-    pressOk(dialog);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QVERIFY(parameters.text("pdop_max") == "4");
-    QVERIFY(parameters.text("rms_max") == "0.05");
-    QVERIFY(parameters.text("epoch_num_min") == "7");
-    QVERIFY2(!parameters.contains("occupation_min"), "a limit that nobody has set is not stored");
-}
-
-void QualityDialogsTest::storesNothingThatItCannotShow()
-{
-    const basalt::Product installed = basalt::product();
-    basalt::setProduct({installed.organisation, installed.name, "missing"});
-    basalt::Dictionary parameters;
-    DlgQCParamSet dialog(nullptr, parameters);
-    basalt::setProduct(installed);
-    dialog.show();
-    const auto labels = dialog.findChildren<QLabel*>();
-    QVERIFY(std::ranges::any_of(labels, [](const QLabel* label) {
-        return label->isVisible() && label->text().contains(QStringLiteral("QCParam.xml"));
-    }));
-    pressOk(dialog);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Rejected));
-    QCOMPARE(parameters.size(), std::size_t(0));
-}
 
 QTEST_MAIN(QualityDialogsTest)
 #include "QualityDialogsTest.moc"

@@ -8,12 +8,8 @@
 #include "tests/support/Points.h"
 #include "views/find/FindCommand.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QStatusBar>
-#include <QTreeWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -186,21 +182,6 @@ private Q_SLOTS:
         find.key(Qt::Key_Return);
         QCOMPARE(find.surveyList.selected.size(), 1);
         QVERIFY(!FindCommand("what=open", &find.host).isEnabled());
-    }
-
-    void moreThanFiftyAreCounted()
-    {
-        Frame find;
-        for (int point = 0; point < 1200; ++point)
-            find.add("7", "9" + std::to_string(point), false);
-        find.run("what=open");
-        find.frame.resize(300, 200); // and the bar stays inside
-        find.type("9");
-        QCOMPARE(find.told(), "1 of 50 (1,200 found)"_q);
-        QVERIFY(find.frame.rect().contains(find.bar().geometry()));
-        find.key(Qt::Key_PageDown);
-        find.key(Qt::Key_PageDown);
-        QCOMPARE(find.told(), "23 of 50 (1,200 found)"_q);
     }
 };
 

