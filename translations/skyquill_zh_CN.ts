@@ -4418,10 +4418,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>另存为 CSV(&amp;S)...</translation>
     </message>
     <message>
-        <source>Write the rows that are shown, as they are shown</source>
-        <translation>按显示的样子写出所显示的行</translation>
-    </message>
-    <message>
         <source>&amp;Copy</source>
         <translation>复制(&amp;C)</translation>
     </message>
@@ -4468,6 +4464,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Rows: %1</source>
         <translation>行：%1</translation>
+    </message>
+    <message>
+        <source>Resol&amp;ve Repeats...</source>
+        <translation>重复测量取舍(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Choose which measurement of the selected points stays</source>
+        <translation>选择所选各点保留哪一次测量</translation>
+    </message>
+    <message>
+        <source>Write the rows that are shown; numbers stand without their units</source>
+        <translation>写出所显示的行；数值不带单位</translation>
     </message>
 </context>
 <context>
@@ -4947,8 +4955,12 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>此点的历史(&amp;H)</translation>
     </message>
     <message>
-        <source>No open problem was found. Results: %1, design points: %2</source>
-        <translation>没有未处理的问题。成果：%1，设计点：%2</translation>
+        <source>There is nothing to look at yet: import a design or results.</source>
+        <translation>还没有可检查的内容：请导入设计或成果。</translation>
+    </message>
+    <message>
+        <source>No open problem was found. Accepted: %1. Results: %2, design points: %3</source>
+        <translation>没有未处理的问题。已接受：%1。成果：%2，设计点：%3</translation>
     </message>
 </context>
 <context>
