@@ -36,6 +36,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <vector>
 
 namespace {
 
@@ -136,10 +137,8 @@ void ProblemWindow::makeLayout()
 /// The tab key goes as one reads.
 void ProblemWindow::setKeyOrder()
 {
-    std::vector<QWidget*> order;
-    for (QToolButton* const button :
-         findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly))
-        order.push_back(button);
+    const auto buttons = findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+    std::vector<QWidget*> order(buttons.begin(), buttons.end());
     order.insert(order.end(), {m_search, m_kinds, m_table});
     for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
