@@ -84,6 +84,7 @@ DlgAcceptProblems::DlgAcceptProblems(QWidget* parent, const std::vector<const Pr
     rows->addStretch(1);
     rows->addWidget(buttons);
     setMinimumSizeScaled(kWidth, kHeight);
+    setMinimumHeight(std::max(minimumHeight(), rows->heightForWidth(minimumWidth())));
     m_reason->setFocus();
 }
 
