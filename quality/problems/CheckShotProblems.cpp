@@ -3,6 +3,7 @@
 #include "lum_sdk/GroupedNumber.h"
 #include "quality/problems/ShiftExplanation.h"
 #include "quality/problems/ShiftProblems.h"
+#include "quality/problems/WrongNames.h"
 #include "quality/statistics/Grouping.h"
 
 #include <QCoreApplication>
@@ -102,12 +103,29 @@ void addFewCheckShots(const FinderInput& input, const statistics::SurveySample& 
     }
 }
 
+/// A result under a wrong name is compared with the wrong point, and tells nothing about its base
+/// and its pole. \return these results
+ResultSet forgetWrongNames(const FinderInput& input, statistics::SurveySample& sample)
+{
+    ResultSet misnamed;
+    for (const WrongName& wrong : findWrongNames(input, NameLimits::from(input)))
+        misnamed.insert(wrong.result);
+    if (misnamed.empty())
+        return misnamed;
+    for (statistics::Observation& result : sample.results) {
+        if (misnamed.contains(result.point))
+            result.eastM = result.northM = result.distanceM = result.heightM = kNoValue;
+    }
+    return misnamed;
+}
+
 void findAll(const FinderInput& input, ProblemList& problems)
 {
     const DesignPoints none; // what is staked of a large design is counted for long
-    const statistics::SurveySample sample = statistics::sampleOf(
+    statistics::SurveySample sample = statistics::sampleOf(
         {none, input.survey(), input.quality(), input.resurveyCode(), input.zone(), {}});
-    addShifts(input, sample, problems);
+    const ResultSet misnamed = forgetWrongNames(input, sample);
+    addShifts(input, sample, misnamed, problems);
     addFewCheckShots(input, sample, problems);
 }
 

@@ -111,9 +111,7 @@ void addExchanged(ProblemList& problems, const WrongName& first, const WrongName
 
 void findNames(const FinderInput& input, ProblemList& problems)
 {
-    const NameLimits limits{input.limit("name_nearer_min"), input.limit("name_near_max")};
-    if (limits.nearerM == 0)
-        return;
+    const auto limits = NameLimits::from(input);
     const std::vector<WrongName> wrongNames = findWrongNames(input, limits);
     for (std::size_t i = 0; i < wrongNames.size(); ++i) {
         const std::optional<std::size_t> other = wrongNames[i].exchangedWith;

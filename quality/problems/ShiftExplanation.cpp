@@ -91,7 +91,7 @@ private:
     [[nodiscard]] Explanation* ofStep(const SurveyPoint& point, const Problem& problem);
     [[nodiscard]] Explanation* ofBorder(const SurveyPoint& point, const Problem& problem);
 
-    static const std::array<Judge, 11> kJudges; // by the names of kinds
+    static const std::array<Judge, 9> kJudges; // by the names of kinds
 
     const FinderInput& m_input;
     Explanations& m_shifts;
@@ -100,10 +100,8 @@ private:
     std::vector<const ProblemKind*> m_kinds; ///< in the order of `kJudges`
 };
 
-constexpr std::array<Explainer::Judge, 11> Explainer::kJudges{{
+constexpr std::array<Explainer::Judge, 9> Explainer::kJudges{{
     {"too_far", &Explainer::ofDistance},
-    {"wrong_name", &Explainer::ofDistance},
-    {"swapped_names", &Explainer::ofDistance},
     {"height_off", &Explainer::ofHeight},
     {"across", &Explainer::ofDeviation},
     {"along", &Explainer::ofDeviation},

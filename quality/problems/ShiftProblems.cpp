@@ -184,12 +184,15 @@ Problem& add(const ProblemKind& kind, const GroupShift& shift, ProblemList& prob
     return problem;
 }
 
-std::vector<statistics::MeasuredPair> pairsOf(const FinderInput& input)
+std::vector<statistics::MeasuredPair> pairsOf(const FinderInput& input, const ResultSet& misnamed)
 {
     auto pairs =
         statistics::resurveyPairs(input.survey(), input.resurveyCode(), input.planeUnitM()).pairs;
     const auto repeats = statistics::repeatPairs(input.survey(), input.planeUnitM()).pairs;
     pairs.insert(pairs.end(), repeats.begin(), repeats.end());
+    std::erase_if(pairs, [&](const statistics::MeasuredPair& pair) {
+        return misnamed.contains(pair.first) || misnamed.contains(pair.again);
+    });
     return pairs;
 }
 
@@ -210,14 +213,14 @@ constexpr ProblemKind kBaseDifference{
     Severity::Note, differenceWhat};
 
 void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
-               ProblemList& problems)
+               const ResultSet& misnamed, ProblemList& problems)
 {
     const ShiftLimits limits{input.limit("shift_plane_max"), input.limit("shift_height_max"),
                              static_cast<std::size_t>(input.limit("shift_results_min"))};
     const bool isListed = input.limit("base_differences") != 0;
     if (limits.planeM <= 0 && limits.heightM <= 0 && !isListed)
         return;
-    const std::vector<statistics::MeasuredPair> pairs = pairsOf(input);
+    const std::vector<statistics::MeasuredPair> pairs = pairsOf(input, misnamed);
     for (const GroupShift& shift : findGroupShifts(sample, pairs, limits)) {
         Problem& problem = add(kindOf(shift.cause), shift, problems);
         problem.limit = isMostlyHeight(shift) ? limits.heightM : limits.planeM;

@@ -104,6 +104,17 @@ TEST(Shifts, ASkidOrACrewWithFewPointsIsNone)
     EXPECT_EQ(off.told(), Texts());
 }
 
+TEST(Shifts, NamesThatAreOneOffAreNoWrongBase)
+{
+    FieldDays field = goodDays();
+    field.work({.day = 4, .points = 60, .eastM = 40, .heightM = 1});
+    field.plan();
+    const Texts texts = field.told({"base_shift", "pole_shift", "survey_shift", "wrong_name"});
+    EXPECT_EQ(texts.size(), 58U); // the last of either line stand where nothing is designed
+    for (const std::string& text : texts)
+        EXPECT_TRUE(contains(text, "wrong_name: Is probably ")) << text;
+}
+
 TEST(Shifts, HeightsOfAnElevationModelAreComparedAmongEachOther)
 {
     FieldDays rough;
