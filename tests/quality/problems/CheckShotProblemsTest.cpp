@@ -31,6 +31,8 @@ TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
     EXPECT_EQ(shift->count, 210U);
     EXPECT_EQ(shift->second, 214); // 210 heights and 4 resurveys
     EXPECT_EQ(field.find({"base_shift"})[0].second, 214);
+    EXPECT_EQ(field.find({"height_off"}).size(), 212U) << "nothing tells what they follow from";
+    EXPECT_EQ(field.find({"height_off", "few_check_shots"}).size(), 212U);
     EXPECT_EQ(shift->timeMs / 86400000, FieldDays::timeOf(4) / 86400000);
     const std::string text = shift->kind->what(*shift).toStdString();
     EXPECT_TRUE(contains(text, "210 of 212 results of base B3 on 2026/05/04 are 1.5")) << text;
