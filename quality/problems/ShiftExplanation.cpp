@@ -13,12 +13,11 @@
 
 namespace {
 
-/// A shift of the list of problems, and how many of the others it explains.
+/// A shift of the list of problems.
 struct Explanation
 {
     GroupShift shift;
     std::size_t place; ///< of its problem
-    std::size_t count = 0;
 };
 
 using Explanations = std::vector<Explanation>;
@@ -240,10 +239,8 @@ void explainByShifts(const FinderInput& input, ProblemList& all)
         Explanation* const cause = explainer.causeOf(all[i]);
         isExplained[i] = cause != nullptr;
         if (cause != nullptr)
-            ++cause->count;
+            ++all[cause->place].follows;
     }
-    for (const Explanation& each : shifts)
-        all[each.place].second = static_cast<double>(each.count);
     std::size_t next = 0;
     all.removeIf([&](const Problem& /*problem*/) { return isExplained[next++]; });
 }

@@ -136,13 +136,7 @@ QString causeText(const GroupShift& shift)
 QString shiftWhat(const Problem& problem)
 {
     const GroupShift shift = GroupShift::fromText(problem.detail);
-    QString text = factText(shift) + QLatin1Char(' ') + causeText(shift);
-    if (problem.second > 0)
-        text += QLatin1Char(' ') +
-                translated(QT_TRANSLATE_NOOP("ShiftProblems", "Problems of single points that "
-                                                              "follow from it: %1."))
-                    .arg(lum::groupedNumber(std::llround(problem.second)));
-    return text;
+    return withFollowing(factText(shift) + QLatin1Char(' ') + causeText(shift), problem);
 }
 
 QString differenceWhat(const Problem& problem)
@@ -179,7 +173,6 @@ Problem& add(const ProblemKind& kind, const GroupShift& shift, ProblemList& prob
     problem.rover = problems.keepOnce(shift.rover);
     problem.timeMs = shift.firstMs;
     problem.count = static_cast<std::uint32_t>(shift.shared);
-    problem.second = 0;
     problem.value = isMostlyHeight(shift) ? shift.heightM : shift.planeM();
     return problem;
 }

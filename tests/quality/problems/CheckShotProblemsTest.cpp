@@ -29,8 +29,8 @@ TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
     EXPECT_NEAR(shift->value, 1.502, 0.01);
     EXPECT_EQ(shift->limit, 0.1);
     EXPECT_EQ(shift->count, 210U);
-    EXPECT_EQ(shift->second, 214); // 210 heights and 4 resurveys
-    EXPECT_EQ(field.find({"base_shift"})[0].second, 214);
+    EXPECT_EQ(shift->follows, 214U); // 210 heights and 4 resurveys
+    EXPECT_EQ(field.find({"base_shift"})[0].follows, 214U);
     EXPECT_EQ(field.find({"height_off"}).size(), 212U) << "nothing tells what they follow from";
     EXPECT_EQ(field.find({"height_off", "few_check_shots"}).size(), 212U);
     EXPECT_EQ(shift->timeMs / 86400000, FieldDays::timeOf(4) / 86400000);
@@ -157,7 +157,7 @@ TEST(Shifts, PointsMeasuredTwiceTellWhatTheDesignCannot)
     const std::string text = found[0].kind->what(found[0]).toStdString();
     EXPECT_TRUE(contains(text, "7 of 7 points that were also measured otherwise are 0.")) << text;
     EXPECT_TRUE(contains(text, " m too high in the results of base B3 on 2026/05/05.")) << text;
-    EXPECT_EQ(found[0].second, 7);
+    EXPECT_EQ(found[0].follows, 7U);
 
     FieldDays heights = goodDays(); // of the two days, the one that fits the design is right
     heights.workAgain({.day = 5, .base = "B1", .rover = "R1"}, 1, 20);
