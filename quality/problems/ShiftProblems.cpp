@@ -209,7 +209,8 @@ void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
                const ResultSet& misnamed, ProblemList& problems)
 {
     const ShiftLimits limits{input.limit("shift_plane_max"), input.limit("shift_height_max"),
-                             static_cast<std::size_t>(input.limit("shift_results_min"))};
+                             static_cast<std::size_t>(input.limit("shift_results_min")),
+                             input.limit("line_skid_max")};
     const bool isListed = input.limit("base_differences") != 0;
     if (limits.planeM <= 0 && limits.heightM <= 0 && !isListed)
         return;

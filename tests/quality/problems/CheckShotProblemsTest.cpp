@@ -79,6 +79,12 @@ TEST(Shifts, ASkidOrACrewWithFewPointsIsNone)
     FieldDays beside = goodDays(); // a day beside a road: 5 m to the north of a line to the east
     beside.work({.day = 4, .points = 40, .northM = 5, .lines = 1});
     EXPECT_EQ(beside.told(), Texts());
+    for (const FieldDay& wrong : {FieldDay{.day = 4, .points = 40, .northM = 51, .lines = 1},
+                                  FieldDay{.day = 4, .points = 40, .eastM = 5, .lines = 1}}) {
+        FieldDays base = goodDays(); // too far beside the line, or along it
+        base.work(wrong);
+        EXPECT_EQ(base.told().size(), 1U);
+    }
     FieldDays oblique = goodDays(); // no crew moves its stakes so
     oblique.work({.day = 4, .points = 40, .eastM = 3, .northM = 4, .lines = 1});
     EXPECT_EQ(oblique.told().size(), 1U);
