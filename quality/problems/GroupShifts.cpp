@@ -217,11 +217,11 @@ void ShiftSearch::accept(const ShiftCandidate& candidate, Evidence evidence)
     if (candidate.plane.isFound) {
         shift.eastM = candidate.plane.eastM;
         shift.northM = candidate.plane.northM;
-        shift.planeBandM = candidate.plane.bandM;
+        shift.planeKnownM = candidate.plane.knownM();
     }
     if (candidate.height.isFound) {
         shift.heightM = candidate.height.heightM;
-        shift.heightBandM = candidate.height.bandM;
+        shift.heightKnownM = candidate.height.knownM();
     }
     shift.results = candidate.results;
     shift.shared = candidate.shared.size();

@@ -43,8 +43,8 @@ struct Offset
     double eastM = 0;
     double northM = 0;
     double heightM = 0;
-    double planeBandM = 0;
-    double heightBandM = 0;
+    double planeKnownM = 0;
+    double heightKnownM = 0;
     Explanation* plane = nullptr; ///< the last of them
     Explanation* height = nullptr;
 };
@@ -128,12 +128,12 @@ Offset Explainer::offsetOf(const SurveyPoint& point, bool ofPair)
         if (shift.hasPlane()) {
             offset.eastM += shift.eastM;
             offset.northM += shift.northM;
-            offset.planeBandM = std::max(offset.planeBandM, shift.planeBandM);
+            offset.planeKnownM = std::max(offset.planeKnownM, shift.planeKnownM);
             offset.plane = &each;
         }
         if (shift.hasHeight()) {
             offset.heightM += shift.heightM;
-            offset.heightBandM = std::max(offset.heightBandM, shift.heightBandM);
+            offset.heightKnownM = std::max(offset.heightKnownM, shift.heightKnownM);
             offset.height = &each;
         }
     }
@@ -146,16 +146,16 @@ Explanation* Explainer::ofDistance(const SurveyPoint& point, const Problem& /*pr
     const double unitM = m_input.planeUnitM();
     const double left = std::hypot((point.east - point.designEast) * unitM - offset.eastM,
                                    (point.north - point.designNorth) * unitM - offset.northM);
-    return left <= std::max(m_input.quality().designHorizontalM, offset.planeBandM) ? offset.plane
-                                                                                    : nullptr;
+    return left <= m_input.quality().designHorizontalM + offset.planeKnownM ? offset.plane
+                                                                            : nullptr;
 }
 
 Explanation* Explainer::ofHeight(const SurveyPoint& point, const Problem& /*problem*/)
 {
     const Offset offset = offsetOf(point);
     const double left = std::fabs(point.elevation - point.designElevation - offset.heightM);
-    return left <= std::max(m_input.quality().designVerticalM, offset.heightBandM) ? offset.height
-                                                                                   : nullptr;
+    return left <= m_input.quality().designVerticalM + offset.heightKnownM ? offset.height
+                                                                           : nullptr;
 }
 
 /// The direction of the line is not known here, so the whole shift may lie in the deviation.
@@ -163,7 +163,7 @@ Explanation* Explainer::ofDeviation(const SurveyPoint& point, const Problem& pro
 {
     const Offset offset = offsetOf(point);
     const double left = std::fabs(problem.value) - std::hypot(offset.eastM, offset.northM);
-    return left <= std::max(problem.limit, offset.planeBandM) ? offset.plane : nullptr;
+    return left <= problem.limit + offset.planeKnownM ? offset.plane : nullptr;
 }
 
 Explanation* Explainer::ofPair(const SurveyPoint& first, const Problem& problem)
@@ -177,10 +177,10 @@ Explanation* Explainer::ofPair(const SurveyPoint& first, const Problem& problem)
     const std::array left{(again->north - first.north) * unitM - now.northM + before.northM,
                           (again->east - first.east) * unitM - now.eastM + before.eastM,
                           again->elevation - first.elevation - now.heightM + before.heightM};
-    const double planeM = std::max(now.planeBandM, before.planeBandM);
-    const std::array bands{planeM, planeM, std::max(now.heightBandM, before.heightBandM)};
+    const double planeM = std::max(now.planeKnownM, before.planeKnownM);
+    const std::array knownM{planeM, planeM, std::max(now.heightKnownM, before.heightKnownM)};
     for (std::size_t i = 0; i < left.size(); ++i) {
-        if (!(std::fabs(left[i]) <= std::max(m_tolerances.metres[i], bands[i])))
+        if (!(std::fabs(left[i]) <= m_tolerances.metres[i] + knownM[i]))
             return nullptr;
     }
     for (Explanation* const each : {now.height, now.plane, before.height, before.plane}) {

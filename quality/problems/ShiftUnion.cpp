@@ -27,11 +27,15 @@ void add(GroupShift& shift, const GroupShift& other)
 {
     const double share =
         static_cast<double>(other.shared) / static_cast<double>(shift.shared + other.shared);
+    const auto widen = [share](double& knownM, double otherM, double apartM) {
+        knownM = std::max(knownM + apartM * share, otherM + apartM * (1 - share));
+    };
+    widen(shift.planeKnownM, other.planeKnownM,
+          std::hypot(shift.eastM - other.eastM, shift.northM - other.northM));
+    widen(shift.heightKnownM, other.heightKnownM, std::fabs(shift.heightM - other.heightM));
     for (double GroupShift::*length :
          {&GroupShift::eastM, &GroupShift::northM, &GroupShift::heightM})
         shift.*length += (other.*length - shift.*length) * share;
-    shift.planeBandM = std::max(shift.planeBandM, other.planeBandM);
-    shift.heightBandM = std::max(shift.heightBandM, other.heightBandM);
     shift.results += other.results;
     shift.shared += other.shared;
     shift.firstMs = std::min(shift.firstMs, other.firstMs);

@@ -89,6 +89,12 @@ bool SteadyOffset::isSteady() const
     return count != 0 && static_cast<double>(shared) >= kSmallestShare * static_cast<double>(count);
 }
 
+double SteadyOffset::knownM() const
+{
+    return std::max(kSmallestBandM,
+                    bandM / std::sqrt(static_cast<double>(std::max<std::size_t>(1, shared))));
+}
+
 bool SteadyOffset::sharesHeight(double differenceM) const
 {
     return std::fabs(differenceM - heightM) <= bandM;

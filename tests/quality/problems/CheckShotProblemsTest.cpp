@@ -41,6 +41,20 @@ TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
         << text;
 }
 
+TEST(Shifts, WhatIsOffByMoreIsToldAsWell)
+{
+    FieldDays field;
+    field.stakingM = 0.4; // the shift itself is known better than the stakes are set
+    for (int day = 1; day <= 3; ++day)
+        field.work({.day = day, .points = 60});
+    field.work({.day = 4, .base = "B3", .points = 60, .eastM = 30, .northM = 30});
+    field.parameters.set("design_hor_diff", "1.6");
+    const std::vector<const char*> kinds{"base_shift", "too_far"};
+    const std::size_t before = field.told(kinds).size();
+    field.at("1060", "1190").east = field.at("1060", "1190").designEast + 32.2;
+    EXPECT_EQ(field.told(kinds).size(), before + 1);
+}
+
 TEST(Shifts, ExplainsStepsBetweenNeighbours)
 {
     FieldDays field = goodDays(); // a step at the border of two days is no row of its own
