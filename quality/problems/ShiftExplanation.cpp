@@ -47,6 +47,11 @@ struct Offset
     double heightKnownM = 0;
     Explanation* plane = nullptr; ///< the last of them
     Explanation* height = nullptr;
+
+    [[nodiscard]] bool isAs(const Offset& other) const
+    {
+        return eastM == other.eastM && northM == other.northM && heightM == other.heightM;
+    }
 };
 
 /// Says which shift a problem follows from, if it does.
@@ -173,6 +178,8 @@ Explanation* Explainer::ofPair(const SurveyPoint& first, const Problem& problem)
         return nullptr;
     const Offset before = offsetOf(first, true);
     const Offset now = offsetOf(*again, true);
+    if (now.isAs(before))
+        return nullptr;
     const double unitM = m_input.planeUnitM();
     const std::array left{(again->north - first.north) * unitM - now.northM + before.northM,
                           (again->east - first.east) * unitM - now.eastM + before.eastM,

@@ -53,6 +53,13 @@ TEST(Shifts, WhatIsOffByMoreIsToldAsWell)
     const std::size_t before = field.told(kinds).size();
     field.at("1060", "1190").east = field.at("1060", "1190").designEast + 32.2;
     EXPECT_EQ(field.told(kinds).size(), before + 1);
+
+    field.workAgain({.day = 4, .base = "B3", .eastM = 30, .northM = 30}, 4, 1); // shifted alike
+    SurveyPoint* const again = field.survey.find("1060", "1181F");
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(field.told({"base_shift", "resurvey_off"}).size(), 1U);
+    again->north += 1.2;
+    EXPECT_EQ(field.told({"base_shift", "resurvey_off"}).size(), 2U);
 }
 
 TEST(Shifts, ExplainsStepsBetweenNeighbours)
