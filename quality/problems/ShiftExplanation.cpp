@@ -197,7 +197,7 @@ Explanation* Explainer::ofPair(const SurveyPoint& first, const Problem& problem)
     return nullptr;
 }
 
-/// A step in height between a shifted result and its neighbours, or the other way round.
+/// A step in height between results that are shifted differently.
 Explanation* Explainer::ofStep(const SurveyPoint& point, const Problem& problem)
 {
     constexpr std::size_t kNeighbours = 6;
@@ -207,15 +207,13 @@ Explanation* Explainer::ofStep(const SurveyPoint& point, const Problem& problem)
                std::fabs(problem.value) <= std::fabs(stepM) + problem.limit;
     };
     const Offset own = offsetOf(point);
-    if (explains(own.heightM))
-        return own.height;
     const IndexedPoints<SurveyPoint>& results = m_input.indexedResults();
     std::vector<PointIndex::Found> near;
     results.index().nearest(placeOf(point, m_input.planeUnitM()), kNeighbours, kWithinM, near);
     for (const PointIndex::Found& found : near) {
         const Offset other = offsetOf(results[found.number]);
-        if (explains(-other.heightM))
-            return other.height;
+        if (explains(own.heightM - other.heightM))
+            return own.height != nullptr ? own.height : other.height;
     }
     return nullptr;
 }

@@ -71,6 +71,8 @@ TEST(Shifts, ExplainsStepsBetweenNeighbours)
     EXPECT_EQ(field.told(kinds).size(), 1U);
     field.at("1130", "1200").elevation -= 6;
     EXPECT_EQ(field.told(kinds).size(), 2U);
+    field.at("1130", "1200").elevation += 4; // less than the shift, among neighbours that share it
+    EXPECT_EQ(field.told(kinds).size(), 2U);
 }
 
 TEST(Shifts, OnThePlaneADirectionIsTold)
