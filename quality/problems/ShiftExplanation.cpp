@@ -218,7 +218,7 @@ Explanation* Explainer::ofStep(const SurveyPoint& point, const Problem& problem)
     return nullptr;
 }
 
-/// The distance of two results of which one is shifted.
+/// The distance of two results that are shifted differently.
 Explanation* Explainer::ofBorder(const SurveyPoint& point, const Problem& problem)
 {
     const SurveyPoint* const other = m_input.survey().find(problem.otherLine, problem.otherPoint);
@@ -227,6 +227,12 @@ Explanation* Explainer::ofBorder(const SurveyPoint& point, const Problem& proble
     const Offset own = offsetOf(point);
     const Offset others = offsetOf(*other);
     if (own.eastM == others.eastM && own.northM == others.northM)
+        return nullptr;
+    const double unitM = m_input.planeUnitM();
+    const double spacingM =
+        std::hypot((point.east - other->east) * unitM - own.eastM + others.eastM,
+                   (point.north - other->north) * unitM - own.northM + others.northM);
+    if (!(std::fabs(spacingM - problem.second) <= std::fabs(problem.limit - problem.second)))
         return nullptr;
     return own.plane != nullptr ? own.plane : others.plane;
 }
