@@ -212,10 +212,12 @@ void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
                              static_cast<std::size_t>(input.limit("shift_results_min")),
                              input.limit("line_skid_max")};
     const bool isListed = input.limit("base_differences") != 0;
-    if (limits.planeM <= 0 && limits.heightM <= 0 && !isListed)
+    const bool isOff = limits.least == 0 || (limits.planeM <= 0 && limits.heightM <= 0);
+    if (isOff && !isListed)
         return;
     const std::vector<statistics::MeasuredPair> pairs = pairsOf(input, misnamed);
-    for (const GroupShift& shift : findGroupShifts(sample, pairs, limits)) {
+    for (const GroupShift& shift :
+         isOff ? std::vector<GroupShift>() : findGroupShifts(sample, pairs, limits)) {
         Problem& problem = add(kindOf(shift.cause), shift, problems);
         problem.limit = isMostlyHeight(shift) ? limits.heightM : limits.planeM;
     }

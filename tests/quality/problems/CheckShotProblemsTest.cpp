@@ -133,6 +133,8 @@ TEST(Shifts, ASkidOrACrewWithFewPointsIsNone)
     EXPECT_FALSE(contains(firstOf(off.told()), "too far"));
     off.parameters.set("shift_height_max", "0");
     EXPECT_EQ(off.told(), Texts());
+    few.parameters.set("shift_results_min", "0"); // any single result would be a shift
+    EXPECT_EQ(few.told(), Texts());
 }
 
 TEST(Shifts, NamesThatAreOneOffAreNoWrongBase)
