@@ -162,6 +162,14 @@ TEST(Shifts, HeightsOfAnElevationModelAreComparedAmongEachOther)
     for (int day = 1; day <= 12; ++day)
         tilted.work({.day = day, .points = 40});
     EXPECT_EQ(tilted.told(), Texts());
+    FieldDays leaning = tilted; // of another height system as well
+    for (auto& [number, line] : leaning.survey) {
+        for (SurveyPoint& point : line)
+            point.elevation += 2;
+    }
+    texts = leaning.told();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(contains(texts[0], "survey_shift: All 480 results of the survey are ")) << texts[0];
     FieldDays all;
     for (int day = 1; day <= 4; ++day)
         all.work({.day = day, .heightM = 30});
