@@ -1,6 +1,7 @@
 #include "quality/problems/CheckShotProblems.h"
 
 #include "lum_sdk/GroupedNumber.h"
+#include "lum_sdk/Text.h"
 #include "quality/problems/ShiftExplanation.h"
 #include "quality/problems/ShiftProblems.h"
 #include "quality/problems/WrongNames.h"
@@ -17,15 +18,35 @@ namespace {
 
 using statistics::GroupKey;
 
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("CheckShotProblems", text);
+}
+
+/// The surveyor, or the rover of one who is not known.
+QString crewText(const Problem& problem)
+{
+    if (!problem.surveyor.empty())
+        return translated(QT_TRANSLATE_NOOP("CheckShotProblems", "Surveyor %1"))
+            .arg(lum::toQString(problem.surveyor));
+    if (!problem.rover.empty())
+        return translated(QT_TRANSLATE_NOOP("CheckShotProblems", "Rover %1"))
+            .arg(lum::toQString(problem.rover));
+    return translated(QT_TRANSLATE_NOOP("CheckShotProblems", "A crew without a name"));
+}
+
+/// `detail` is the day.
 constexpr ProblemKind kFewCheckShots{
     "few_check_shots",
     QT_TRANSLATE_NOOP("ProblemKinds", "Too few check shots"),
     Severity::Warning,
     [](const Problem& problem) {
-        return QCoreApplication::translate("CheckShotProblems",
-                                           "Points measured that day: %1. Measured again: %2, at "
-                                           "least %3 are wanted.")
-            .arg(lum::groupedNumber(problem.count), lum::groupedNumber(std::llround(problem.value)),
+        return translated(
+                   QT_TRANSLATE_NOOP("CheckShotProblems",
+                                     "%1 on %2: points measured %3, measured again %4, at least "
+                                     "%5 are wanted."))
+            .arg(crewText(problem), lum::toQString(problem.detail),
+                 lum::groupedNumber(problem.count), lum::groupedNumber(std::llround(problem.value)),
                  lum::groupedNumber(std::llround(problem.limit)));
     },
     "",
@@ -97,6 +118,7 @@ void addFewCheckShots(const FinderInput& input, const statistics::SurveySample& 
         problem.surveyor = problems.keepOnce(day.surveyor);
         problem.rover = problems.keepOnce(day.rover);
         problem.timeMs = day.firstMs;
+        problem.detail = problems.keepOnce(dayText(day.day).toStdString());
         problem.count = static_cast<std::uint32_t>(day.points);
         problem.value = static_cast<double>(day.checks);
         problem.limit = wanted;

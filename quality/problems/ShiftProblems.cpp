@@ -23,12 +23,6 @@ QString translated(const char* text)
     return QCoreApplication::translate("ShiftProblems", text);
 }
 
-QString dayText(std::int64_t day)
-{
-    constexpr qint64 kFirstDay = 2440588; // 1970/01/01 as a Julian day
-    return QDate::fromJulianDay(kFirstDay + day).toString(QStringLiteral("yyyy/MM/dd"));
-}
-
 /// " on 2026/05/03" behind what is shifted.
 QString onDays(const QString& what, const GroupShift& shift)
 {
@@ -204,6 +198,12 @@ constexpr ProblemKind kSurveyShift{"survey_shift",
 constexpr ProblemKind kBaseDifference{
     "base_difference", QT_TRANSLATE_NOOP("ProblemKinds", "Differences of a base and a day"),
     Severity::Note, differenceWhat};
+
+QString dayText(std::int64_t day)
+{
+    constexpr qint64 kFirstDay = 2440588; // 1970/01/01 as a Julian day
+    return QDate::fromJulianDay(kFirstDay + day).toString(QStringLiteral("yyyy/MM/dd"));
+}
 
 void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
                const ResultSet& misnamed, ProblemList& problems)

@@ -13,6 +13,9 @@ extern const ProblemKind kSurveyShift;
 /// What each base and day differs, in order or not: a list that is off until it is wanted.
 extern const ProblemKind kBaseDifference;
 
+/// "2026/05/03". \param day  since 1970/01/01
+[[nodiscard]] QString dayText(std::int64_t day);
+
 using ResultSet = std::unordered_set<const SurveyPoint*>;
 
 /// A problem for each shift of the results, which are those of the sample, and the list.
