@@ -115,6 +115,9 @@ QString causeText(const GroupShift& shift)
         return translated(
             QT_TRANSLATE_NOOP("ShiftProblems", "The antenna height of the pole is wrong."));
     case Cause::BaseOrPole:
+        if (shift.rover.empty())
+            return translated(QT_TRANSLATE_NOOP("ShiftProblems", "The height of the base is wrong, "
+                                                                 "or that of the pole."));
         return translated(QT_TRANSLATE_NOOP("ShiftProblems", "The height of the base is wrong, or "
                                                              "that of the pole of rover %1, which "
                                                              "alone has used it."))
