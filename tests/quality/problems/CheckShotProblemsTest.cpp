@@ -75,6 +75,29 @@ TEST(Shifts, ExplainsStepsBetweenNeighbours)
     EXPECT_EQ(field.told(kinds).size(), 2U);
 }
 
+TEST(Shifts, ExplainsASpacingBetweenTwoDaysButNoGap)
+{
+    FieldDays field = goodDays();
+    field.parameters.set("line_skid_max", "0");
+    field.parameters.set("line_spacing_max", "1"); // 0.4 m
+    field.work({.day = 4, .lines = 1});
+    for (int i = 1196; i <= 1210; ++i) {
+        SurveyPoint& point = field.at("1120", std::to_string(i));
+        point.dateTime = FieldDays::timeOf(5);
+        point.baseStationId = "B3";
+        point.east += 1;
+    }
+    const std::vector<const char*> kinds{"line_spacing", "base_shift"};
+    EXPECT_EQ(field.told(kinds).size(), 1U);
+    for (int i = 1196; i <= 1210; ++i) {
+        field.at("1120", std::to_string(i)).designEast += 150;
+        field.at("1120", std::to_string(i)).east += 150;
+    }
+    EXPECT_EQ(field.told(kinds).size(), 2U);
+    field.parameters.set("line_skid_max", "50"); // either stake may be moved towards the other
+    EXPECT_NEAR(field.find(kinds)[0].limit, 140, 0.1);
+}
+
 TEST(Shifts, OnThePlaneADirectionIsTold)
 {
     FieldDays field = goodDays();
