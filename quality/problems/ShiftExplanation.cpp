@@ -118,12 +118,9 @@ constexpr std::array<Explainer::Judge, 9> Explainer::kJudges{{
 
 Offset Explainer::offsetOf(const SurveyPoint& point, bool ofPair)
 {
-    constexpr std::int64_t kDaySeconds = 86400;
-    std::int64_t day = statistics::KeyValue::kNoNumber;
-    if (point.dateTime != 0) {
-        const std::int64_t clock = m_zone.clockSeconds(point.dateTime);
-        day = clock / kDaySeconds - (clock % kDaySeconds < 0 ? 1 : 0);
-    }
+    const std::int64_t day = point.dateTime == 0
+                                 ? statistics::KeyValue::kNoNumber
+                                 : statistics::dayOf(m_zone.clockSeconds(point.dateTime));
     Offset offset;
     for (Explanation& each : m_shifts) {
         const GroupShift& shift = each.shift;
