@@ -1,5 +1,6 @@
 #include "quality/problems/ShiftDesign.h"
 
+#include "quality/problems/Median.h"
 #include "quality/problems/ShiftCause.h"
 #include "quality/problems/ShiftHeights.h"
 

@@ -1,6 +1,6 @@
 #include "quality/problems/ShiftUnion.h"
 
-#include "quality/problems/SteadyOffset.h"
+#include "quality/problems/Median.h"
 
 #include <algorithm>
 #include <cmath>

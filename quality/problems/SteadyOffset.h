@@ -36,6 +36,3 @@ struct SteadyOffset
     [[nodiscard]] bool sharesHeight(double differenceM) const;
     [[nodiscard]] bool sharesPlane(double differenceEastM, double differenceNorthM) const;
 };
-
-/// Of no values NaN, of an even number the mean of the middle two.
-[[nodiscard]] double medianOf(std::span<const double> values);
