@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -58,6 +59,7 @@ private:
 
     void addRenaming(Problem& problem, const Renaming& renaming);
     [[nodiscard]] const Renamed* renamed(std::string_view line, std::string_view point) const;
+    [[nodiscard]] const Renamed* takerOf(std::string_view line, std::string_view point) const;
     [[nodiscard]] const SurveyPoint* holderOf(const DesignPoint& point) const;
     [[nodiscard]] bool areAlike(const SurveyPoint& first, const SurveyPoint& again) const;
 
@@ -73,8 +75,8 @@ private:
     ResurveyTolerances m_tolerances;
     std::vector<const ProblemKind*> m_kinds; ///< in the order of `kJudges`
     std::unordered_map<const SurveyPoint*, Renamed> m_renamed;
-    /// Results that get the name of a design point.
-    std::unordered_map<const DesignPoint*, Renamed> m_taken;
+    /// Results that get the name of a design point, by its number: many points may be missing.
+    std::unordered_multimap<std::string_view, Renamed> m_taken;
 };
 
 constexpr std::array<NameExplainer::Judge, 9> NameExplainer::kJudges{{
@@ -101,7 +103,7 @@ void NameExplainer::addRenaming(Problem& problem, const Renaming& renaming)
     const Renamed renamed{&problem, result, point};
     m_renamed.emplace(result, renamed);
     if (point->pointNumber == number)
-        m_taken.emplace(point, renamed);
+        m_taken.emplace(point->pointNumber, renamed);
 }
 
 const Renamed* NameExplainer::renamed(std::string_view line, std::string_view point) const
@@ -111,11 +113,19 @@ const Renamed* NameExplainer::renamed(std::string_view line, std::string_view po
     return found == m_renamed.end() ? nullptr : &found->second;
 }
 
+const Renamed* NameExplainer::takerOf(std::string_view line, std::string_view point) const
+{
+    const auto [first, end] = m_taken.equal_range(point);
+    const auto found = std::find_if(
+        first, end, [&](const auto& each) { return each.second.point->lineNumber == line; });
+    return found == end ? nullptr : &found->second;
+}
+
 /// The result that then has the name of a design point.
 const SurveyPoint* NameExplainer::holderOf(const DesignPoint& point) const
 {
-    if (const auto taken = m_taken.find(&point); taken != m_taken.end())
-        return taken->second.result;
+    if (const Renamed* const taker = takerOf(point.lineNumber, point.pointNumber))
+        return taker->result;
     const SurveyPoint* const result = m_input.survey().find(point.lineNumber, point.pointNumber);
     return m_renamed.contains(result) ? nullptr : result;
 }
@@ -152,8 +162,8 @@ Problem* NameExplainer::ofHeight(const Problem& problem) const
 
 Problem* NameExplainer::ofMissing(const Problem& problem) const
 {
-    const auto taken = m_taken.find(m_input.design().find(problem.line, problem.point));
-    return taken == m_taken.end() ? nullptr : taken->second.problem;
+    const Renamed* const taker = takerOf(problem.line, problem.point);
+    return taker == nullptr ? nullptr : taker->problem;
 }
 
 /// A resurvey or check point under a wrong name.
