@@ -35,6 +35,9 @@ struct ProblemKind
     [[nodiscard]] QString captionText() const; ///< translated
 };
 
+/// A sentence, and how many problems follow from this one.
+[[nodiscard]] QString withFollowing(const QString& sentence, const Problem& problem);
+
 /// Of a value that a problem has not.
 inline constexpr double kNoValue = std::numeric_limits<double>::quiet_NaN();
 
@@ -51,11 +54,12 @@ struct Problem
     StoredText surveyor;
     StoredText detail; ///< what else `what` needs, such as a base station
     double value = kNoValue;
-    double limit = kNoValue;  ///< that the value is over or under
-    double second = kNoValue; ///< another value that `what` needs
-    std::int64_t timeMs = 0;  ///< since 1970 UTC; 0 without one
-    std::uint32_t count = 0;  ///< of what it is about, for a group
-    bool isDesign = false;    ///< the point is one of the design, otherwise a result
-    bool isAccepted = false;  ///< somebody has said that it may be so
+    double limit = kNoValue;   ///< that the value is over or under
+    double second = kNoValue;  ///< another value that `what` needs
+    std::int64_t timeMs = 0;   ///< since 1970 UTC; 0 without one
+    std::uint32_t count = 0;   ///< of what it is about, for a group
+    std::uint32_t follows = 0; ///< problems of single points that it explains and replaces
+    bool isDesign = false;     ///< the point is one of the design, otherwise a result
+    bool isAccepted = false;   ///< somebody has said that it may be so
 };
 static_assert(sizeof(Problem) <= 112); // an office may have a million of them
