@@ -318,8 +318,20 @@
 <context>
     <name>CheckShotProblems</name>
     <message>
-        <source>Points measured that day: %1. Measured again: %2, at least %3 are wanted.</source>
-        <translation>当天测量点数：%1。复测点数：%2，至少需要 %3 个。</translation>
+        <source>Surveyor %1</source>
+        <translation>测量员 %1</translation>
+    </message>
+    <message>
+        <source>Rover %1</source>
+        <translation>流动站 %1</translation>
+    </message>
+    <message>
+        <source>A crew without a name</source>
+        <translation>未注明的小组</translation>
+    </message>
+    <message>
+        <source>%1 on %2: points measured %3, measured again %4, at least %5 are wanted.</source>
+        <translation>%1，%2：测量 %3 个点，重复测量 %4 个，至少应为 %5 个。</translation>
     </message>
 </context>
 <context>
@@ -3986,6 +3998,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Has no result, but the result %1 stands %2 m from it, and no point has that name.</source>
         <translation>没有成果，但成果 %1 距它 %2 m，而没有点叫这个点名。</translation>
     </message>
+    <message>
+        <source>Then %1 is not surveyed.</source>
+        <translation>改正后 %1 未测量。</translation>
+    </message>
 </context>
 <context>
     <name>NeighbourProblems</name>
@@ -4696,6 +4712,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Differences of a base and a day</source>
         <translation>基准站每日的差值</translation>
+    </message>
+    <message>
+        <source>Problems of single points that follow from it: %1.</source>
+        <translation>由此引起的单点问题：%1 个。</translation>
     </message>
 </context>
 <context>
@@ -7227,10 +7247,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>设计与测量的坐标系不同，或者所有基准站都有误。</translation>
     </message>
     <message>
-        <source>Problems of single points that follow from it: %1.</source>
-        <translation>由此引起的单点问题：%1 个。</translation>
-    </message>
-    <message>
         <source>%1 on %2</source>
         <translation>%1 在 %2</translation>
     </message>
@@ -7245,6 +7261,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 of %2 points that were measured again with %3 are %4 on average, as seen from their first measurement.</source>
         <translation>用%3再次测量的 %2 个点中，%1 个与首次测量相比平均%4。</translation>
+    </message>
+    <message>
+        <source>The height of the base is wrong, or that of the pole.</source>
+        <translation>基准站高程有误，或杆高有误。</translation>
     </message>
 </context>
 <context>
