@@ -4877,10 +4877,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>每组每天，即使上面的比例算出的更少。两项都为 0 时不检查。</translation>
     </message>
     <message>
-        <source>At least 1. The shifts themselves are switched off above.</source>
-        <translation>至少为 1。要不检查偏移，请把上面的偏移上限设为 0。</translation>
-    </message>
-    <message>
         <source>List of mean differences</source>
         <translation>平均差值列表</translation>
     </message>
@@ -4891,6 +4887,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Each base and day</source>
         <translation>每个基准站每天</translation>
+    </message>
+    <message>
+        <source>What fewer results of a base or a rover and a day show is no shift.</source>
+        <translation>某天一个基准站或流动站的成果少于此数时，不判定为偏移。</translation>
     </message>
 </context>
 <context>

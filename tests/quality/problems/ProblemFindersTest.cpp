@@ -244,13 +244,13 @@ TEST_F(ProblemFinders, ARightNameMendsWhatFollowsFromTheWrongOne)
     const ProblemList problems = FoundProblems::find();
 
     const std::string right10 = "10/" + nameOf(10);
-    EXPECT_THAT(textsOf(problems),
-                ElementsAre("too_far " + right10 + " 50.008 0.500",
-                            "height_off " + right10 + " 7.000 1.000",
-                            "resurvey_off 10/10011015 0.200 0.030",
-                            "wrong_name 10/10011005 50.001 2.000",
-                            "wrong_name " + right10 + " 50.008 2.000",
-                            "wrong_name 10/10011017F 50.000 2.000", "wrong_name 10/10011999F 2.000"));
+    EXPECT_THAT(textsOf(problems), ElementsAre("too_far " + right10 + " 50.008 0.500",
+                                               "height_off " + right10 + " 7.000 1.000",
+                                               "resurvey_off 10/10011015 0.200 0.030",
+                                               "wrong_name 10/10011005 50.001 2.000",
+                                               "wrong_name " + right10 + " 50.008 2.000",
+                                               "wrong_name 10/10011017F 50.000 2.000",
+                                               "wrong_name 10/10011999F 2.000"));
     EXPECT_EQ(what(problems[3]),
               "Is probably 10011004, 0.30 m away; its own is 50.00 m away. Then 10011005 is not "
               "surveyed. Problems of single points that follow from it: 3.");

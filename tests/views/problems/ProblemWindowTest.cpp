@@ -104,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(place.model.rowCount(), 1);
         map.zoomRect(900, 900, 940, 930); // elsewhere
         place.click(0);
-        QVERIFY(place.host.told.contains("Points measured that day: 5"_q));
+        QVERIFY(place.host.told.contains("points measured 5,"_q));
         QCOMPARE(map.transform().center(), QPointF(50, 0)); // the third of five
         QCOMPARE(map.transform().GetScale(), 0.1);
         QVERIFY(place.designed.followed.contains("nothing"_q));
