@@ -84,7 +84,7 @@ bool areAllAlike(const std::vector<GroupShift>& shifts, const std::vector<Compar
     if (found.size() < 2 || std::ssize(found) != bases)
         return false;
     const auto [middle, withinM] = middleOf(found, isOfDay);
-    return std::ranges::all_of(found, [&](const GroupShift* shift) {
+    return std::ranges::all_of(found, [&middle = middle, withinM = withinM](const auto* shift) {
         return !isPole(*shift) && apartM(middle, *shift) <= withinM;
     });
 }
