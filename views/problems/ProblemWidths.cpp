@@ -61,7 +61,7 @@ protected:
 } // namespace
 
 ProblemWidths::ProblemWidths(QSplitter& areas, CustomTableWidget& table)
-    : QObject(&areas), m_areas(areas), m_table(table),
+    : QObject(&areas), m_areas(areas), m_table(table), m_handle(areas.handle(1)),
       m_widths(1 + static_cast<std::size_t>(table.model()->columnCount()))
 {
     read();
@@ -70,7 +70,7 @@ ProblemWidths::ProblemWidths(QSplitter& areas, CustomTableWidget& table)
     m_table.setItemDelegateForColumn(static_cast<int>(ProblemField::Severity),
                                      new SeverityDelegate(&m_table));
     m_table.horizontalHeader()->viewport()->installEventFilter(this);
-    m_areas.handle(1)->installEventFilter(this);
+    m_handle->installEventFilter(this);
     connect(&m_areas, &QSplitter::splitterMoved, this, [this](int width) {
         m_widths[0] = unscaled(width);
         fit();
@@ -106,8 +106,7 @@ void ProblemWidths::store()
 
 bool ProblemWidths::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isOnHandle = watched == m_areas.handle(1);
-    if (!isOnHandle &&
+    if (watched != m_handle &&
         (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick))
         m_isDragging = true;
     if (event->type() == QEvent::MouseButtonRelease) {
