@@ -38,10 +38,13 @@ std::string asBadResurvey(SurveyPoint& again, const SurveyPoint& first, Random& 
     return moveOff(again, first, random);
 }
 
+/// Its height is out of range under the right number, too.
 std::string asOrphan(SurveyPoint& again, const SurveyPoint& first, Random& /*random*/)
 {
+    constexpr double kHigherM = 0.06;
+    again.elevation += kHigherM;
     again.pointNumber = std::to_string(std::stoi(first.pointNumber) + kMistyped) + kResurveyLetter;
-    return "of " + first.pointNumber + " with a mistyped number";
+    return "of " + first.pointNumber + " with a mistyped number and too high";
 }
 
 std::string asRepeat(SurveyPoint& again, const SurveyPoint& first, Random& /*random*/)

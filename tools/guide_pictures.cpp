@@ -110,10 +110,12 @@ public:
         paintLimits();
         DataProcessDataManager::instance().run(kQualityCheck);
         paintFaults();
+        m_host.commands().execute(QStringLiteral("Survey View"));
+        paintMap("guide-survey"); // near the fault; from afar it is a maze
+        m_host.commands().execute(QStringLiteral("Design View"));
         paintProblems();
         m_host.windows().activate(QStringLiteral("Survey Data List"));
         m_host.commands().execute(QStringLiteral("Survey View"));
-        paintMap("guide-survey"); // near the fault; from afar it is a maze
         paintColors();
         m_host.commands().execute(QStringLiteral("Design View"));
         paintWorkingPlace();
@@ -160,14 +162,13 @@ private:
         m_host.commands().execute(QStringLiteral("Design View"));
     }
 
-    /// The whole survey by verdict, without the lines to the bases.
+    /// The whole survey by verdict.
     void paintColors()
     {
-        for (const char* command : {"Colors Verdict", "Base Ties", "Zoom to All"})
+        for (const char* command : {"Colors Verdict", "Zoom to All"})
             m_host.commands().execute(QLatin1String(command));
         paintMap("guide-colors");
-        for (const char* command : {"Colors None", "Base Ties"})
-            m_host.commands().execute(QLatin1String(command));
+        m_host.commands().execute(QStringLiteral("Colors None"));
     }
 
     void paintSystem()
@@ -217,6 +218,7 @@ private:
     /// All problems, at a result with a wrong name.
     void paintProblems()
     {
+        m_host.commands().execute(QStringLiteral("Zoom to All"));
         m_host.commands().execute(QStringLiteral("Find Problems"));
         const QWidget& window = *m_host.windows().findAs<QWidget>(QStringLiteral("Problems List"));
         auto* const kinds = window.findChild<QTreeWidget*>();
@@ -225,7 +227,6 @@ private:
         for (QTreeWidgetItem* const kind : kinds->findItems(wrongName, Qt::MatchExactly))
             kinds->setCurrentItem(kind);
         m_host.commands().execute(QStringLiteral("Next Problem"));
-        Q_EMIT table->doubleClicked(table->currentIndex());
         kinds->setCurrentItem(kinds->topLevelItem(0));
         table->scrollTo(table->currentIndex(), QAbstractItemView::PositionAtCenter);
         letItPaint();

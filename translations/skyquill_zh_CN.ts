@@ -357,8 +357,20 @@
 <context>
     <name>CheckShotProblems</name>
     <message>
-        <source>Points measured that day: %1. Measured again: %2, at least %3 are wanted.</source>
-        <translation>当天测量点数：%1。复测点数：%2，至少需要 %3 个。</translation>
+        <source>Surveyor %1</source>
+        <translation>测量员 %1</translation>
+    </message>
+    <message>
+        <source>Rover %1</source>
+        <translation>流动站 %1</translation>
+    </message>
+    <message>
+        <source>A crew without a name</source>
+        <translation>未注明的小组</translation>
+    </message>
+    <message>
+        <source>%1 on %2: points measured %3, measured again %4, at least %5 are wanted.</source>
+        <translation>%1，%2：测量 %3 个点，重复测量 %4 个，至少应为 %5 个。</translation>
     </message>
 </context>
 <context>
@@ -4589,6 +4601,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Has no result, but the result %1 stands %2 m from it, and no point has that name.</source>
         <translation>没有成果，但成果 %1 距它 %2 m，而没有点叫这个点名。</translation>
     </message>
+    <message>
+        <source>Then %1 is not surveyed.</source>
+        <translation>改正后 %1 未测量。</translation>
+    </message>
 </context>
 <context>
     <name>NeighbourProblems</name>
@@ -5094,10 +5110,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>另存为 CSV(&amp;S)...</translation>
     </message>
     <message>
-        <source>Write the rows that are shown, as they are shown</source>
-        <translation>按显示的样子写出所显示的行</translation>
-    </message>
-    <message>
         <source>&amp;Copy</source>
         <translation>复制(&amp;C)</translation>
     </message>
@@ -5144,6 +5156,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Rows: %1</source>
         <translation>行：%1</translation>
+    </message>
+    <message>
+        <source>Resol&amp;ve Repeats...</source>
+        <translation>重复测量取舍(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Choose which measurement of the selected points stays</source>
+        <translation>选择所选各点保留哪一次测量</translation>
+    </message>
+    <message>
+        <source>Write the rows that are shown; numbers stand without their units</source>
+        <translation>写出所显示的行；数值不带单位</translation>
     </message>
 </context>
 <context>
@@ -5365,6 +5389,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Differences of a base and a day</source>
         <translation>基准站每日的差值</translation>
     </message>
+    <message>
+        <source>Problems of single points that follow from it: %1.</source>
+        <translation>由此引起的单点问题：%1 个。</translation>
+    </message>
 </context>
 <context>
     <name>ProblemLimits</name>
@@ -5525,10 +5553,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>每组每天，即使上面的比例算出的更少。两项都为 0 时不检查。</translation>
     </message>
     <message>
-        <source>At least 1. The shifts themselves are switched off above.</source>
-        <translation>至少为 1。要不检查偏移，请把上面的偏移上限设为 0。</translation>
-    </message>
-    <message>
         <source>List of mean differences</source>
         <translation>平均差值列表</translation>
     </message>
@@ -5539,6 +5563,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Each base and day</source>
         <translation>每个基准站每天</translation>
+    </message>
+    <message>
+        <source>What fewer results of a base or a rover and a day show is no shift.</source>
+        <translation>某天一个基准站或流动站的成果少于此数时，不判定为偏移。</translation>
     </message>
 </context>
 <context>
@@ -5623,8 +5651,12 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>此点的历史(&amp;H)</translation>
     </message>
     <message>
-        <source>No open problem was found. Results: %1, design points: %2</source>
-        <translation>没有未处理的问题。成果：%1，设计点：%2</translation>
+        <source>There is nothing to look at yet: import a design or results.</source>
+        <translation>还没有可检查的内容：请导入设计或成果。</translation>
+    </message>
+    <message>
+        <source>No open problem was found. Accepted: %1. Results: %2, design points: %3</source>
+        <translation>没有未处理的问题。已接受：%1。成果：%2，设计点：%3</translation>
     </message>
 </context>
 <context>
@@ -7950,10 +7982,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>设计与测量的坐标系不同，或者所有基准站都有误。</translation>
     </message>
     <message>
-        <source>Problems of single points that follow from it: %1.</source>
-        <translation>由此引起的单点问题：%1 个。</translation>
-    </message>
-    <message>
         <source>%1 on %2</source>
         <translation>%1 在 %2</translation>
     </message>
@@ -7968,6 +7996,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>%1 of %2 points that were measured again with %3 are %4 on average, as seen from their first measurement.</source>
         <translation>用%3再次测量的 %2 个点中，%1 个与首次测量相比平均%4。</translation>
+    </message>
+    <message>
+        <source>The height of the base is wrong, or that of the pole.</source>
+        <translation>基准站高程有误，或杆高有误。</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@
 #include "quality/problems/ProblemFinders.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cstdio>
@@ -104,6 +105,8 @@ Outcome listProblems(const CliArguments& arguments)
     if (Outcome ownFile = checkNotOwn(project.place(), file); !ownFile.isDone())
         return ownFile;
     const QString crewFile = arguments.option(QStringLiteral("--measure-again"));
+    if (!file.isEmpty() && QFileInfo(crewFile) == QFileInfo(file))
+        return Outcome::refused(QStringLiteral("--out and --measure-again name the same file"));
     const ProblemList problems = project.manager().findProblems(kinds);
     const std::vector<const Problem*> found = openOnes(problems);
     Outcome writing = print(found, file);

@@ -19,7 +19,6 @@ struct Allowed
     double largest = 0;
     bool isWhole = false;
     std::span<const int> choices{}; ///< the only ones, when there are any
-    double smallest = 0;            ///< without its sign
 };
 
 Outcome checkNumber(const Allowed& allowed, const QString& key, const QString& value)
@@ -37,10 +36,6 @@ Outcome checkNumber(const Allowed& allowed, const QString& key, const QString& v
         return Outcome::failed(QStringLiteral("%1 is too large for %2, which is at most %3.")
                                    .arg(value, key)
                                    .arg(allowed.largest, 0, 'f', 0));
-    if (std::fabs(number) < allowed.smallest)
-        return Outcome::failed(QStringLiteral("%1 is too small for %2, which is at least %3.")
-                                   .arg(value, key)
-                                   .arg(allowed.smallest, 0, 'f', 0));
     if (allowed.choices.empty() ||
         std::ranges::find(allowed.choices, number) != allowed.choices.end())
         return Outcome::done();
@@ -57,7 +52,7 @@ std::optional<Allowed> allowedOf(const std::string& key)
     if (const QualityParameter* const parameter = findQualityParameter(key))
         return Allowed{parameter->largest, parameter->isWhole};
     if (const ProblemLimit* const limit = findProblemLimit(key))
-        return Allowed{limit->largest, limit->isWhole, limit->choices, limit->smallest};
+        return Allowed{limit->largest, limit->isWhole, limit->choices};
     return {};
 }
 

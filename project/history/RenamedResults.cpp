@@ -50,6 +50,7 @@ std::vector<HistoryItem> together(const HistoryAction& action, const std::vector
     }
     std::set<std::size_t> chosen;
     std::vector<Name> reached;
+    reached.reserve(some.size());
     for (const HistoryItem& item : some)
         reached.emplace_back(item.name.line, item.name.point);
     while (!reached.empty()) {

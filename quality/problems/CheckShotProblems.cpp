@@ -1,8 +1,10 @@
 #include "quality/problems/CheckShotProblems.h"
 
 #include "lum_sdk/GroupedNumber.h"
+#include "lum_sdk/Text.h"
 #include "quality/problems/ShiftExplanation.h"
 #include "quality/problems/ShiftProblems.h"
+#include "quality/problems/WrongNames.h"
 #include "quality/statistics/Grouping.h"
 
 #include <QCoreApplication>
@@ -16,15 +18,35 @@ namespace {
 
 using statistics::GroupKey;
 
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("CheckShotProblems", text);
+}
+
+/// The surveyor, or the rover of one who is not known.
+QString crewText(const Problem& problem)
+{
+    if (!problem.surveyor.empty())
+        return translated(QT_TRANSLATE_NOOP("CheckShotProblems", "Surveyor %1"))
+            .arg(lum::toQString(problem.surveyor));
+    if (!problem.rover.empty())
+        return translated(QT_TRANSLATE_NOOP("CheckShotProblems", "Rover %1"))
+            .arg(lum::toQString(problem.rover));
+    return translated(QT_TRANSLATE_NOOP("CheckShotProblems", "A crew without a name"));
+}
+
+/// `detail` is the day.
 constexpr ProblemKind kFewCheckShots{
     "few_check_shots",
     QT_TRANSLATE_NOOP("ProblemKinds", "Too few check shots"),
     Severity::Warning,
     [](const Problem& problem) {
-        return QCoreApplication::translate("CheckShotProblems",
-                                           "Points measured that day: %1. Measured again: %2, at "
-                                           "least %3 are wanted.")
-            .arg(lum::groupedNumber(problem.count), lum::groupedNumber(std::llround(problem.value)),
+        return translated(
+                   QT_TRANSLATE_NOOP("CheckShotProblems",
+                                     "%1 on %2: points measured %3, measured again %4, at least "
+                                     "%5 are wanted."))
+            .arg(crewText(problem), lum::toQString(problem.detail),
+                 lum::groupedNumber(problem.count), lum::groupedNumber(std::llround(problem.value)),
                  lum::groupedNumber(std::llround(problem.limit)));
     },
     "",
@@ -96,18 +118,36 @@ void addFewCheckShots(const FinderInput& input, const statistics::SurveySample& 
         problem.surveyor = problems.keepOnce(day.surveyor);
         problem.rover = problems.keepOnce(day.rover);
         problem.timeMs = day.firstMs;
+        problem.detail = problems.keepOnce(dayText(day.day).toStdString());
         problem.count = static_cast<std::uint32_t>(day.points);
         problem.value = static_cast<double>(day.checks);
         problem.limit = wanted;
     }
 }
 
+/// A result under a wrong name is compared with the wrong point, and tells nothing about its base
+/// and its pole. \return these results
+ResultSet forgetWrongNames(const FinderInput& input, statistics::SurveySample& sample)
+{
+    ResultSet misnamed;
+    for (const WrongName& wrong : findWrongNames(input, NameLimits::from(input)))
+        misnamed.insert(wrong.result);
+    if (misnamed.empty())
+        return misnamed;
+    for (statistics::Observation& result : sample.results) {
+        if (misnamed.contains(result.point))
+            result.eastM = result.northM = result.distanceM = result.heightM = kNoValue;
+    }
+    return misnamed;
+}
+
 void findAll(const FinderInput& input, ProblemList& problems)
 {
     const DesignPoints none; // what is staked of a large design is counted for long
-    const statistics::SurveySample sample = statistics::sampleOf(
+    statistics::SurveySample sample = statistics::sampleOf(
         {none, input.survey(), input.quality(), input.resurveyCode(), input.zone(), {}});
-    addShifts(input, sample, problems);
+    const ResultSet misnamed = forgetWrongNames(input, sample);
+    addShifts(input, sample, misnamed, problems);
     addFewCheckShots(input, sample, problems);
 }
 

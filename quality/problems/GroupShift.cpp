@@ -53,7 +53,7 @@ std::string GroupShift::toText() const
     for (const std::int64_t number : {std::int64_t(cause), std::int64_t(evidence), day, lastDay,
                                       std::int64_t(results), std::int64_t(shared)})
         text += std::to_string(number) + kSeparator;
-    for (const double length : {eastM, northM, heightM, planeBandM, heightBandM})
+    for (const double length : {eastM, northM, heightM, planeKnownM, heightKnownM})
         text += basalt::formatFixed(length, kDecimals) + kSeparator;
     return text + base + kSeparator + rover;
 }
@@ -73,8 +73,8 @@ GroupShift GroupShift::fromText(std::string_view text)
     shift.shared = static_cast<std::size_t>(readInteger64(parts[5]));
     std::size_t part = 6;
     for (double GroupShift::*length :
-         {&GroupShift::eastM, &GroupShift::northM, &GroupShift::heightM, &GroupShift::planeBandM,
-          &GroupShift::heightBandM})
+         {&GroupShift::eastM, &GroupShift::northM, &GroupShift::heightM, &GroupShift::planeKnownM,
+          &GroupShift::heightKnownM})
         shift.*length = basalt::parseNumber(parts[part++]);
     shift.base = parts[part++];
     shift.rover = parts[part];

@@ -35,9 +35,9 @@ struct GroupShift
     double eastM = 0;
     double northM = 0;
     double heightM = 0;
-    /// How far a result may be from that and still be one of them.
-    double planeBandM = 0;
-    double heightBandM = 0;
+    /// How well that is known.
+    double planeKnownM = 0;
+    double heightKnownM = 0;
     std::size_t results = 0;  ///< of the group, or its pairs, that can be compared
     std::size_t shared = 0;   ///< those of them that are off by this
     std::int64_t firstMs = 0; ///< the earliest of them; 0 without times

@@ -53,6 +53,8 @@ private:
     [[nodiscard]] std::vector<ShiftCandidate>
     pairCandidates(const ShiftGroups& groups,
                    const std::vector<statistics::MeasuredPair>& pairs) const;
+    [[nodiscard]] std::vector<const ShiftCandidate*>
+    surelyWrong(const std::vector<const ShiftCandidate*>& worstFirst) const;
     [[nodiscard]] ShiftCandidate judgeByPairs(const ShiftGroup& group,
                                               const std::vector<Difference>& differences) const;
 
@@ -172,10 +174,41 @@ ShiftSearch::pairCandidates(const ShiftGroups& groups,
     return candidates;
 }
 
+/// What disagrees with a worse one may be right when that one is left out: only those that have no
+/// pair with a worse one are wrong for sure.
+std::vector<const ShiftCandidate*>
+ShiftSearch::surelyWrong(const std::vector<const ShiftCandidate*>& worstFirst) const
+{
+    std::unordered_map<const ShiftGroup*, std::size_t> ranks;
+    for (std::size_t rank = 0; rank < worstFirst.size(); ++rank)
+        ranks.emplace(worstFirst[rank]->group, rank);
+    std::vector<bool> isSure(worstFirst.size(), true);
+    for (const auto& [again, first] : m_pairPlaces) {
+        if (m_isShifted[again] || m_isShifted[first])
+            continue;
+        std::vector<std::size_t> found; // of the groups of the pair
+        for (const ShiftGroups* const groups : {&m_bases, &m_rovers}) {
+            for (const std::uint32_t place : {again, first}) {
+                const auto rank = ranks.find(&groups->groups[groups->groupOf[place]]);
+                if (rank != ranks.end())
+                    found.push_back(rank->second);
+            }
+        }
+        for (const std::size_t rank : found)
+            isSure[rank] = isSure[rank] && rank == std::ranges::min(found);
+    }
+    std::vector<const ShiftCandidate*> sure;
+    for (std::size_t rank = 0; rank < worstFirst.size(); ++rank) {
+        if (isSure[rank])
+            sure.push_back(worstFirst[rank]);
+    }
+    return sure;
+}
+
 void ShiftSearch::searchPairs(const std::vector<statistics::MeasuredPair>& pairs)
 {
     m_pairPlaces = placesOf(pairs);
-    // The one that disagrees most often is wrong. What it was compared with may be right, then.
+    // The one that disagrees most often is wrong.
     const auto isWorse = [](const ShiftCandidate* a, const ShiftCandidate* b) {
         return std::tuple(b->shared.size(), a->group->members.size()) <
                std::tuple(a->shared.size(), b->group->members.size());
@@ -193,7 +226,9 @@ void ShiftSearch::searchPairs(const std::vector<statistics::MeasuredPair>& pairs
         }
         if (left.empty())
             return;
-        accept(**std::ranges::min_element(left, isWorse), Evidence::Pairs);
+        std::ranges::stable_sort(left, isWorse);
+        for (const ShiftCandidate* const candidate : surelyWrong(left))
+            accept(*candidate, Evidence::Pairs);
     }
 }
 
@@ -217,11 +252,11 @@ void ShiftSearch::accept(const ShiftCandidate& candidate, Evidence evidence)
     if (candidate.plane.isFound) {
         shift.eastM = candidate.plane.eastM;
         shift.northM = candidate.plane.northM;
-        shift.planeBandM = candidate.plane.bandM;
+        shift.planeKnownM = candidate.plane.knownM();
     }
     if (candidate.height.isFound) {
         shift.heightM = candidate.height.heightM;
-        shift.heightBandM = candidate.height.bandM;
+        shift.heightKnownM = candidate.height.knownM();
     }
     shift.results = candidate.results;
     shift.shared = candidate.shared.size();

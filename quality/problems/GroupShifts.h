@@ -15,7 +15,8 @@
 ///   Heights of the design that are no better than those of an elevation model may be off as a
 ///   whole, then the groups are compared with each other. On the plane, stakes that were moved
 ///   aside do not count: those with an obstacle, and those of a single line that all lie straight
-///   beside it or along it;
+///   beside it, not too far. A result that stands at another design point has a wrong name, and
+///   does not count at all;
 /// - at points that were measured twice, once within the group. Three of them are enough. Of two
 ///   groups that disagree the one is wrong that disagrees more often, or has fewer results; never
 ///   in height the one whose heights agree with the design.

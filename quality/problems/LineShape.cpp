@@ -74,7 +74,7 @@ LineMeasures measuresOf(const std::vector<Step>& steps)
     std::ranges::transform(steps, values.begin(), [&](const Step& step) {
         return step.lengthM / std::max(step.numbers, numbers / 2);
     });
-    return {median(values) * numbers, numbers};
+    return {median(values) * numbers, numbers, 0};
 }
 
 std::vector<Step> stepsOf(Line line)
@@ -93,6 +93,8 @@ public:
         : m_line(line), m_limits(limits), m_findings(findings), m_steps(stepsOf(line)),
           m_measures(measuresOf(m_steps)), m_isTold(line.size())
     {
+        m_measures.spacingOffM =
+            std::max(limits.spacingShare * m_measures.spacingM, 2 * limits.skidM);
     }
 
     void run()
@@ -323,7 +325,7 @@ private:
             return false;
         const double offM = offBy(step);
         const double limitM = m_limits.spacingShare * m_measures.spacingM;
-        if (std::fabs(offM) <= std::max(limitM, 2 * m_limits.skidM))
+        if (std::fabs(offM) <= m_measures.spacingOffM)
             return false;
         const auto isLikewise = [&](std::size_t other) {
             return !isLong(other) && std::fabs(offBy(other) - offM) <= limitM / 2;

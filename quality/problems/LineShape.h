@@ -54,6 +54,7 @@ struct LineMeasures
 {
     double spacingM = 0; ///< median; 0 when the line is too short or all in one place
     double numberStep = 0;
+    double spacingOffM = 0; ///< that a spacing may be off
 };
 
 /// Lines with fewer points have no spacing of their own.

@@ -4,6 +4,7 @@
 #include "quality/problems/LineKinds.h"
 
 #include <array>
+#include <cmath>
 
 using Kind = LineFinding::Kind;
 
@@ -61,12 +62,10 @@ void LineTelling::setValues(Problem& problem, const LineFinding& finding,
     problem.value = finding.value;
     problem.second = finding.second;
     switch (finding.kind) {
-    case Kind::Spacing: {
-        const double share = limits.spacingShare;
+    case Kind::Spacing:
         problem.limit =
-            measures.spacingM * (finding.value > finding.second ? 1 + share : 1 - share);
+            measures.spacingM + std::copysign(measures.spacingOffM, finding.value - finding.second);
         return;
-    }
     case Kind::Gap:
         problem.limit = limits.gapNumbers;
         if (finding.second < kAdjacent * measures.spacingM)

@@ -3,19 +3,23 @@
 #include "basalt_utilities/Numbers.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
+#include "quality/problems/NameExplanation.h"
 #include "quality/problems/WrongNames.h"
 
 #include <QCoreApplication>
 
 #include <array>
 #include <cmath>
+#include <set>
+#include <utility>
 
 namespace {
 
 // In a problem of a name, the other point is the likely one (or the other result), `value` the
 // distance to the own design point, `second` that to the likely one, and `detail` the number that
-// is proposed. `count` is 1 for one more result of a point.
-constexpr std::uint32_t kAnother = 1;
+// is proposed. `count` has these bits.
+constexpr std::uint32_t kAnother = 1;     // it is one more result of a point
+constexpr std::uint32_t kLeavesPoint = 2; // no result has its name then
 
 struct NameProblems
 {
@@ -35,7 +39,7 @@ QString nameOf(const Problem& problem, std::string_view line, std::string_view p
     return line == problem.line ? number : lum::toQString(line) + QStringLiteral(" / ") + number;
 }
 
-QString wrongName(const Problem& problem)
+QString wrongNameAlone(const Problem& problem)
 {
     const QString likely = nameOf(problem, problem.otherLine, problem.otherPoint);
     const QString proposed =
@@ -43,7 +47,7 @@ QString wrongName(const Problem& problem)
     if (std::isnan(problem.value))
         return NameProblems::tr("Is probably %1: it is %2 m from %3, and no point has its name.")
             .arg(proposed, metres(problem.second), likely);
-    if (problem.count != kAnother)
+    if ((problem.count & kAnother) == 0)
         return NameProblems::tr("Is probably %1, %2 m away; its own is %3 m away.")
             .arg(proposed, metres(problem.second), metres(problem.value));
     return NameProblems::tr("Stands where %1 does, %2 m from its design point; its own is %3 m "
@@ -51,29 +55,50 @@ QString wrongName(const Problem& problem)
         .arg(likely, metres(problem.second), metres(problem.value));
 }
 
+QString wrongName(const Problem& problem)
+{
+    QString text = wrongNameAlone(problem);
+    if (leavesPoint(problem))
+        text += QLatin1Char(' ') + NameProblems::tr("Then %1 is not surveyed.")
+                                       .arg(nameOf(problem, problem.line, problem.point));
+    return withFollowing(text, problem);
+}
+
 QString swappedNames(const Problem& problem)
 {
-    return NameProblems::tr("Its name and that of %1 are probably exchanged: it is %2 m from the "
-                            "design point of %1; its own is %3 m away.")
-        .arg(nameOf(problem, problem.otherLine, problem.otherPoint), metres(problem.second),
-             metres(problem.value));
+    return withFollowing(
+        NameProblems::tr("Its name and that of %1 are probably exchanged: it is %2 m from the "
+                         "design point of %1; its own is %3 m away.")
+            .arg(nameOf(problem, problem.otherLine, problem.otherPoint), metres(problem.second),
+                 metres(problem.value)),
+        problem);
 }
 
 QString foreignResult(const Problem& problem)
 {
-    return NameProblems::tr("Has no result, but the result %1 stands %2 m from it, and no point "
-                            "has that name.")
-        .arg(nameOf(problem, problem.otherLine, problem.otherPoint), metres(problem.second));
+    return withFollowing(
+        NameProblems::tr("Has no result, but the result %1 stands %2 m from it, and no point "
+                         "has that name.")
+            .arg(nameOf(problem, problem.otherLine, problem.otherPoint), metres(problem.second)),
+        problem);
 }
 
-constexpr ProblemKind kWrongName{"wrong_name", QT_TRANSLATE_NOOP("ProblemKinds", "Wrong name"),
-                                 Severity::Error, wrongName};
-constexpr ProblemKind kSwappedNames{"swapped_names",
-                                    QT_TRANSLATE_NOOP("ProblemKinds", "Exchanged names"),
-                                    Severity::Error, swappedNames};
+constexpr ProblemKind kWrongName{.name = "wrong_name",
+                                 .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Wrong name"),
+                                 .severity = Severity::Error,
+                                 .what = wrongName,
+                                 .rank = 1};
+constexpr ProblemKind kSwappedNames{.name = "swapped_names",
+                                    .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Exchanged names"),
+                                    .severity = Severity::Error,
+                                    .what = swappedNames,
+                                    .rank = 1};
 constexpr ProblemKind kForeignResult{
-    "foreign_result", QT_TRANSLATE_NOOP("ProblemKinds", "Foreign result on an empty point"),
-    Severity::Error, foreignResult};
+    .name = "foreign_result",
+    .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Foreign result on an empty point"),
+    .severity = Severity::Error,
+    .what = foreignResult,
+    .rank = 1};
 constexpr std::array kNameKinds{&kWrongName, &kSwappedNames, &kForeignResult};
 
 template <class Point>
@@ -83,7 +108,25 @@ void setOther(ProblemList& problems, Problem& problem, const Point& point)
     problem.otherPoint = problems.keep(point.pointNumber);
 }
 
-void add(ProblemList& problems, const WrongName& wrong, const NameLimits& limits)
+using Names = std::set<std::pair<std::string_view, std::string_view>>; // line, point
+
+Names proposedNames(const std::vector<WrongName>& wrongNames)
+{
+    Names names;
+    for (const WrongName& wrong : wrongNames)
+        names.emplace(wrong.proposed.line, wrong.proposed.point);
+    return names;
+}
+
+/// Whether no result has the name of a design point any more when the right names are given.
+bool leavesPoint(const WrongName& wrong, const Names& proposed)
+{
+    return wrong.named.form == NameForm::First && wrong.named.design != nullptr &&
+           !wrong.proposed.point.empty() &&
+           !proposed.contains({wrong.result->lineNumber, wrong.result->pointNumber});
+}
+
+void add(ProblemList& problems, const WrongName& wrong, const NameLimits& limits, bool leavesPoint)
 {
     const bool isForeign = wrong.isForeign();
     Problem& problem = isForeign ? problems.add(kForeignResult, *wrong.likely)
@@ -96,7 +139,7 @@ void add(ProblemList& problems, const WrongName& wrong, const NameLimits& limits
     problem.limit = isForeign ? limits.nearM : limits.nearerM;
     problem.second = wrong.likelyM;
     problem.detail = problems.keep(wrong.proposed.point);
-    problem.count = wrong.isAnother ? kAnother : 0;
+    problem.count = (wrong.isAnother ? kAnother : 0) | (leavesPoint ? kLeavesPoint : 0);
 }
 
 void addExchanged(ProblemList& problems, const WrongName& first, const WrongName& second,
@@ -111,14 +154,13 @@ void addExchanged(ProblemList& problems, const WrongName& first, const WrongName
 
 void findNames(const FinderInput& input, ProblemList& problems)
 {
-    const NameLimits limits{input.limit("name_nearer_min"), input.limit("name_near_max")};
-    if (limits.nearerM == 0)
-        return;
+    const auto limits = NameLimits::from(input);
     const std::vector<WrongName> wrongNames = findWrongNames(input, limits);
+    const Names proposed = proposedNames(wrongNames);
     for (std::size_t i = 0; i < wrongNames.size(); ++i) {
         const std::optional<std::size_t> other = wrongNames[i].exchangedWith;
         if (!other)
-            add(problems, wrongNames[i], limits);
+            add(problems, wrongNames[i], limits, leavesPoint(wrongNames[i], proposed));
         else if (*other > i)
             addExchanged(problems, wrongNames[i], wrongNames[*other], limits);
     }
@@ -131,7 +173,12 @@ PointName named(std::string_view line, std::string_view point)
 
 } // namespace
 
-constexpr ProblemFinder kNameFinder{findNames, kNameKinds};
+constexpr ProblemFinder kNameFinder{findNames, kNameKinds, explainByNames};
+
+bool leavesPoint(const Problem& problem)
+{
+    return problem.kind == &kWrongName && (problem.count & kLeavesPoint) != 0;
+}
 
 std::vector<Renaming> proposalOf(const Problem& problem)
 {

@@ -20,3 +20,6 @@ struct Renaming
 /// The right names that a problem of this finder proposes; none when it has no proposal, or is of
 /// another finder.
 [[nodiscard]] std::vector<Renaming> proposalOf(const Problem& problem);
+
+/// Whether the point that the wrong name says has no result when the proposal is carried out.
+[[nodiscard]] bool leavesPoint(const Problem& problem);

@@ -1,5 +1,6 @@
 #include "quality/problems/NeighbourProblems.h"
 
+#include "quality/problems/Median.h"
 #include "quality/problems/ProblemColumns.h"
 
 #include <QCoreApplication>
@@ -27,16 +28,6 @@ constexpr ProblemKind kOffNeighbours{
     }};
 constexpr std::array kKinds{&kOffNeighbours};
 
-/// \param values  at least one; their order changes
-double medianOf(std::vector<double>& values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    if (values.size() % 2 == 1)
-        return *middle;
-    return (*middle + *std::max_element(values.begin(), middle)) / 2;
-}
-
 void findOffNeighbours(const FinderInput& input, ProblemList& problems)
 {
     const double limitM = input.limit("neighbour_height_max");
@@ -54,7 +45,7 @@ void findOffNeighbours(const FinderInput& input, ProblemList& problems)
         }
         if (heights.size() < kFewest)
             continue;
-        const double off = results[number].elevation - medianOf(heights);
+        const double off = results[number].elevation - medianInPlace(heights);
         if (!(std::fabs(off) > limitM + kRoundingM))
             continue;
         Problem& problem = problems.add(kOffNeighbours, results[number]);

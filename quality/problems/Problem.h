@@ -29,9 +29,14 @@ struct ProblemKind
     int decimals = 3;       ///< with which value and limit are shown
     /// The text of a value or limit that is no plain number, such as a solution type; mostly null.
     QString (*valueText)(double value) = nullptr;
+    /// Its place among the kinds of its severity in a list: what others follow from comes first.
+    int rank = 2;
 
     [[nodiscard]] QString captionText() const; ///< translated
 };
+
+/// A sentence, and how many problems follow from this one.
+[[nodiscard]] QString withFollowing(const QString& sentence, const Problem& problem);
 
 /// Of a value that a problem has not.
 inline constexpr double kNoValue = std::numeric_limits<double>::quiet_NaN();
@@ -49,11 +54,12 @@ struct Problem
     StoredText surveyor;
     StoredText detail; ///< what else `what` needs, such as a base station
     double value = kNoValue;
-    double limit = kNoValue;  ///< that the value is over or under
-    double second = kNoValue; ///< another value that `what` needs
-    std::int64_t timeMs = 0;  ///< since 1970 UTC; 0 without one
-    std::uint32_t count = 0;  ///< of what it is about, for a group
-    bool isDesign = false;    ///< the point is one of the design, otherwise a result
-    bool isAccepted = false;  ///< somebody has said that it may be so
+    double limit = kNoValue;   ///< that the value is over or under
+    double second = kNoValue;  ///< another value that `what` needs
+    std::int64_t timeMs = 0;   ///< since 1970 UTC; 0 without one
+    std::uint32_t count = 0;   ///< of what it is about, for a group
+    std::uint32_t follows = 0; ///< problems of single points that it explains and replaces
+    bool isDesign = false;     ///< the point is one of the design, otherwise a result
+    bool isAccepted = false;   ///< somebody has said that it may be so
 };
 static_assert(sizeof(Problem) <= 112); // an office may have a million of them

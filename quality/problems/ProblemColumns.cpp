@@ -52,6 +52,14 @@ QString plainValue(const Problem& problem, Zone& /*zone*/)
     return number(*problem.kind, problem.*kMember);
 }
 
+/// A number without its unit, or the text that stands for it.
+template <double Problem::*kMember>
+QString spreadsheetValue(const Problem& problem, Zone& zone)
+{
+    return (problem.kind->valueText == nullptr ? plainValue<kMember> : shownValue<kMember>)(problem,
+                                                                                            zone);
+}
+
 QString what(const Problem& problem, Zone& /*zone*/)
 {
     return problem.kind->what(problem);
@@ -87,9 +95,9 @@ constexpr std::array kColumns{
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Point"), point, point},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "What"), what, what},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Value"), shownValue<&Problem::value>,
-                  plainValue<&Problem::value>},
+                  plainValue<&Problem::value>, spreadsheetValue<&Problem::value>},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Limit"), shownValue<&Problem::limit>,
-                  plainValue<&Problem::limit>},
+                  plainValue<&Problem::limit>, spreadsheetValue<&Problem::limit>},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Rover"), storedText<&Problem::rover>,
                   storedText<&Problem::rover>},
     ProblemColumn{QT_TRANSLATE_NOOP("ProblemColumns", "Surveyor"), storedText<&Problem::surveyor>,

@@ -9,10 +9,13 @@
 /// A column of the list of problems, in the window and in files.
 struct ProblemColumn
 {
-    const char* caption; ///< in English, context "ProblemColumns"
-    QString (*text)(const Problem& problem, basalt::LocalTimes& zone); ///< as it is shown
+    const char* caption = nullptr; ///< in English, context "ProblemColumns"
+    /// As it is shown.
+    QString (*text)(const Problem& problem, basalt::LocalTimes& zone) = nullptr;
     /// The same for scripts: names in place of translations, numbers without units.
-    QString (*forScripts)(const Problem& problem, basalt::LocalTimes& zone);
+    QString (*forScripts)(const Problem& problem, basalt::LocalTimes& zone) = nullptr;
+    /// As it is shown, in a form that a spreadsheet reckons with; null where that is `text`.
+    QString (*forSpreadsheets)(const Problem& problem, basalt::LocalTimes& zone) = nullptr;
 
     [[nodiscard]] QString captionText() const; ///< translated
 };

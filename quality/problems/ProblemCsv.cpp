@@ -17,10 +17,13 @@ void formatProblemCsv(std::span<const Problem* const> problems, ResultCsv kind,
     writeLine([&](const ProblemColumn& column) {
         return isForScripts ? QString::fromLatin1(column.caption) : column.captionText();
     });
+    const auto textOf = [&](const ProblemColumn& column) {
+        if (isForScripts)
+            return column.forScripts;
+        return column.forSpreadsheets == nullptr ? column.text : column.forSpreadsheets;
+    };
     for (const Problem* const problem : problems)
-        writeLine([&](const ProblemColumn& column) {
-            return isForScripts ? column.forScripts(*problem, zone) : column.text(*problem, zone);
-        });
+        writeLine([&](const ProblemColumn& column) { return textOf(column)(*problem, zone); });
 }
 
 Outcome writeProblemCsv(const QString& file, std::span<const Problem* const> problems,

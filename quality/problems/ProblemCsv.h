@@ -8,7 +8,8 @@
 
 struct Problem;
 
-/// Problems as CSV in the columns of ProblemColumns.h; see ResultCsv.h for the form.
+/// Problems as CSV in the columns of ProblemColumns.h; see ResultCsv.h for the form. As shown, but
+/// numbers stand without their units, which a spreadsheet would take for text.
 void formatProblemCsv(std::span<const Problem* const> problems, ResultCsv kind,
                       basalt::LocalTimes zone, const CsvLineWriter& write);
 

@@ -42,7 +42,15 @@ bool hasOneOf(const ProblemFinder& finder, Kinds kinds)
     return std::ranges::find_first_of(finder.kinds, kinds) != finder.kinds.end();
 }
 
-/// What explains others must run for them, and they for it, since it tells how many it explains.
+void keepWanted(ProblemList& problems, Kinds kinds)
+{
+    if (!kinds.empty())
+        problems.removeIf([&](const Problem& problem) {
+            return std::ranges::find(kinds, problem.kind) == kinds.end();
+        });
+}
+
+/// For what explains others all of them run, since it tells how many it explains.
 std::vector<const ProblemFinder*> wantedFinders(Kinds kinds)
 {
     const bool isAll =
@@ -51,9 +59,8 @@ std::vector<const ProblemFinder*> wantedFinders(Kinds kinds)
         });
     std::vector<const ProblemFinder*> finders(kFinders.begin(), kFinders.end());
     if (!isAll)
-        std::erase_if(finders, [&](const ProblemFinder* finder) {
-            return finder->explain == nullptr && !hasOneOf(*finder, kinds);
-        });
+        std::erase_if(finders,
+                      [&](const ProblemFinder* finder) { return !hasOneOf(*finder, kinds); });
     return finders;
 }
 
@@ -81,8 +88,13 @@ public:
         }
     }
 
-    ProblemList take()
+    /// What is not wanted explains nothing: nobody would see it.
+    ProblemList take(Kinds kinds)
     {
+        for (Part& part : m_parts) {
+            if (part.finder->explain != nullptr)
+                keepWanted(part.problems, kinds);
+        }
         std::size_t total = 0;
         for (const Part& part : m_parts)
             total += part.problems.size();
@@ -94,6 +106,7 @@ public:
             if (part.finder->explain != nullptr)
                 part.finder->explain(m_input, all);
         }
+        keepWanted(all, kinds);
         return all;
     }
 
@@ -124,11 +137,7 @@ ProblemList findProblems(const ProblemInput& data, ProgressReporter& progress, K
     search.work(
         [&](std::size_t done, std::size_t total) { progress.report(caption, done, total); });
     helper.get();
-    ProblemList all = search.take();
-    if (!kinds.empty())
-        all.removeIf([&](const Problem& problem) {
-            return std::ranges::find(kinds, problem.kind) == kinds.end();
-        });
+    ProblemList all = search.take(kinds);
     all.designRevision = designRevision;
     all.surveyRevision = surveyRevision;
     progress.hide();

@@ -118,17 +118,12 @@ constexpr std::array kCheckShots{
                  QT_TRANSLATE_NOOP("ProblemLimits",
                                    "What all results of a base or a rover and a day are off in "
                                    "height by the same is a wrong base or pole height.")},
-    ProblemLimit{"shift_results_min",
-                 "10",
-                 QT_TRANSLATE_NOOP("ProblemLimits", "Results that show a shift, min."),
-                 "",
-                 1e5,
+    ProblemLimit{"shift_results_min", "10",
+                 QT_TRANSLATE_NOOP("ProblemLimits", "Results that show a shift, min."), "", 1e5,
                  true,
                  QT_TRANSLATE_NOOP("ProblemLimits",
-                                   "At least 1. The shifts themselves are switched off above."),
-                 {},
-                 nullptr,
-                 1},
+                                   "What fewer results of a base or a rover and a day show is no "
+                                   "shift.")},
     ProblemLimit{"base_differences", "0",
                  QT_TRANSLATE_NOOP("ProblemLimits", "List of mean differences"), "", 1, true,
                  QT_TRANSLATE_NOOP("ProblemLimits",
@@ -170,6 +165,5 @@ double problemLimit(const IDictionary& parameters, std::string_view key)
 {
     const ProblemLimit* const limit = findProblemLimit(key);
     Q_ASSERT(limit != nullptr);
-    const double value = std::fabs(basalt::parseNumber(parameters.text(key, limit->fallback)));
-    return std::max(value, limit->smallest);
+    return std::fabs(basalt::parseNumber(parameters.text(key, limit->fallback)));
 }

@@ -21,7 +21,6 @@ struct ProblemLimit
     std::span<const int> choices{}; ///< when only these values may be entered, 0 for off
     /// The text of a choice but 0.
     QString (*choiceText)(int choice) = nullptr;
-    double smallest = 0; ///< that may be entered
 };
 
 /// Limits that stand together in the dialog of the limits.
@@ -37,6 +36,6 @@ struct ProblemLimitGroup
 /// Null when there is no such key.
 [[nodiscard]] const ProblemLimit* findProblemLimit(std::string_view key);
 
-/// The value of a key of the tables, or its fallback. The minus of a negative one is ignored; what
-/// is no number is 0, and what is too small the smallest.
+/// The value of a key of the tables, or its fallback. The minus of a negative one is ignored, and
+/// what is no number is 0.
 [[nodiscard]] double problemLimit(const IDictionary& parameters, std::string_view key);

@@ -1,5 +1,7 @@
 #include "quality/problems/ShiftCause.h"
 
+#include "quality/problems/Median.h"
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>

@@ -1,5 +1,6 @@
 #include "quality/problems/ShiftDesign.h"
 
+#include "quality/problems/Median.h"
 #include "quality/problems/ShiftCause.h"
 #include "quality/problems/ShiftHeights.h"
 
@@ -147,7 +148,8 @@ bool ShiftDesign::isSkid(const ShiftCandidate& candidate) const
             first = result.point;
         last = result.point;
     }
-    if (first == nullptr || first->lineNumber != last->lineNumber)
+    const double lengthM = std::hypot(candidate.plane.eastM, candidate.plane.northM);
+    if (first == nullptr || first->lineNumber != last->lineNumber || lengthM > m_limits.skidM)
         return false;
     const double east = last->designEast - first->designEast;
     const double north = last->designNorth - first->designNorth;
@@ -155,7 +157,7 @@ bool ShiftDesign::isSkid(const ShiftCandidate& candidate) const
     const double across = east * candidate.plane.northM - north * candidate.plane.eastM;
     const double degrees = std::atan2(std::fabs(across), std::fabs(along)) * 180 /
                            std::numbers::pi; // from 0, along the line, to 90
-    return degrees < kSkidAngleDeg || degrees > 90 - kSkidAngleDeg;
+    return degrees > 90 - kSkidAngleDeg;
 }
 
 /// Bases alone, since a pole shifts heights.

@@ -8,6 +8,7 @@ struct ShiftLimits
     double planeM = 0;     ///< 0 finds none on the plane
     double heightM = 0;    ///< 0 finds none in height
     std::size_t least = 0; ///< results that are compared with the design
+    double skidM = 0;      ///< how far stakes may be moved aside from their line
 };
 
 /// Compares the results of bases and rovers with the design, see GroupShifts.h.

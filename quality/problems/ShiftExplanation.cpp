@@ -13,12 +13,11 @@
 
 namespace {
 
-/// A shift of the list of problems, and how many of the others it explains.
+/// A shift of the list of problems.
 struct Explanation
 {
     GroupShift shift;
     std::size_t place; ///< of its problem
-    std::size_t count = 0;
 };
 
 using Explanations = std::vector<Explanation>;
@@ -44,10 +43,15 @@ struct Offset
     double eastM = 0;
     double northM = 0;
     double heightM = 0;
-    double planeBandM = 0;
-    double heightBandM = 0;
+    double planeKnownM = 0;
+    double heightKnownM = 0;
     Explanation* plane = nullptr; ///< the last of them
     Explanation* height = nullptr;
+
+    [[nodiscard]] bool isAs(const Offset& other) const
+    {
+        return eastM == other.eastM && northM == other.northM && heightM == other.heightM;
+    }
 };
 
 /// Says which shift a problem follows from, if it does.
@@ -91,7 +95,7 @@ private:
     [[nodiscard]] Explanation* ofStep(const SurveyPoint& point, const Problem& problem);
     [[nodiscard]] Explanation* ofBorder(const SurveyPoint& point, const Problem& problem);
 
-    static const std::array<Judge, 11> kJudges; // by the names of kinds
+    static const std::array<Judge, 9> kJudges; // by the names of kinds
 
     const FinderInput& m_input;
     Explanations& m_shifts;
@@ -100,10 +104,8 @@ private:
     std::vector<const ProblemKind*> m_kinds; ///< in the order of `kJudges`
 };
 
-constexpr std::array<Explainer::Judge, 11> Explainer::kJudges{{
+constexpr std::array<Explainer::Judge, 9> Explainer::kJudges{{
     {"too_far", &Explainer::ofDistance},
-    {"wrong_name", &Explainer::ofDistance},
-    {"swapped_names", &Explainer::ofDistance},
     {"height_off", &Explainer::ofHeight},
     {"across", &Explainer::ofDeviation},
     {"along", &Explainer::ofDeviation},
@@ -116,12 +118,9 @@ constexpr std::array<Explainer::Judge, 11> Explainer::kJudges{{
 
 Offset Explainer::offsetOf(const SurveyPoint& point, bool ofPair)
 {
-    constexpr std::int64_t kDaySeconds = 86400;
-    std::int64_t day = statistics::KeyValue::kNoNumber;
-    if (point.dateTime != 0) {
-        const std::int64_t clock = m_zone.clockSeconds(point.dateTime);
-        day = clock / kDaySeconds - (clock % kDaySeconds < 0 ? 1 : 0);
-    }
+    const std::int64_t day = point.dateTime == 0
+                                 ? statistics::KeyValue::kNoNumber
+                                 : statistics::dayOf(m_zone.clockSeconds(point.dateTime));
     Offset offset;
     for (Explanation& each : m_shifts) {
         const GroupShift& shift = each.shift;
@@ -131,12 +130,12 @@ Offset Explainer::offsetOf(const SurveyPoint& point, bool ofPair)
         if (shift.hasPlane()) {
             offset.eastM += shift.eastM;
             offset.northM += shift.northM;
-            offset.planeBandM = std::max(offset.planeBandM, shift.planeBandM);
+            offset.planeKnownM = std::max(offset.planeKnownM, shift.planeKnownM);
             offset.plane = &each;
         }
         if (shift.hasHeight()) {
             offset.heightM += shift.heightM;
-            offset.heightBandM = std::max(offset.heightBandM, shift.heightBandM);
+            offset.heightKnownM = std::max(offset.heightKnownM, shift.heightKnownM);
             offset.height = &each;
         }
     }
@@ -149,16 +148,16 @@ Explanation* Explainer::ofDistance(const SurveyPoint& point, const Problem& /*pr
     const double unitM = m_input.planeUnitM();
     const double left = std::hypot((point.east - point.designEast) * unitM - offset.eastM,
                                    (point.north - point.designNorth) * unitM - offset.northM);
-    return left <= std::max(m_input.quality().designHorizontalM, offset.planeBandM) ? offset.plane
-                                                                                    : nullptr;
+    return left <= m_input.quality().designHorizontalM + offset.planeKnownM ? offset.plane
+                                                                            : nullptr;
 }
 
 Explanation* Explainer::ofHeight(const SurveyPoint& point, const Problem& /*problem*/)
 {
     const Offset offset = offsetOf(point);
     const double left = std::fabs(point.elevation - point.designElevation - offset.heightM);
-    return left <= std::max(m_input.quality().designVerticalM, offset.heightBandM) ? offset.height
-                                                                                   : nullptr;
+    return left <= m_input.quality().designVerticalM + offset.heightKnownM ? offset.height
+                                                                           : nullptr;
 }
 
 /// The direction of the line is not known here, so the whole shift may lie in the deviation.
@@ -166,7 +165,7 @@ Explanation* Explainer::ofDeviation(const SurveyPoint& point, const Problem& pro
 {
     const Offset offset = offsetOf(point);
     const double left = std::fabs(problem.value) - std::hypot(offset.eastM, offset.northM);
-    return left <= std::max(problem.limit, offset.planeBandM) ? offset.plane : nullptr;
+    return left <= problem.limit + offset.planeKnownM ? offset.plane : nullptr;
 }
 
 Explanation* Explainer::ofPair(const SurveyPoint& first, const Problem& problem)
@@ -176,14 +175,16 @@ Explanation* Explainer::ofPair(const SurveyPoint& first, const Problem& problem)
         return nullptr;
     const Offset before = offsetOf(first, true);
     const Offset now = offsetOf(*again, true);
+    if (now.isAs(before))
+        return nullptr;
     const double unitM = m_input.planeUnitM();
     const std::array left{(again->north - first.north) * unitM - now.northM + before.northM,
                           (again->east - first.east) * unitM - now.eastM + before.eastM,
                           again->elevation - first.elevation - now.heightM + before.heightM};
-    const double planeM = std::max(now.planeBandM, before.planeBandM);
-    const std::array bands{planeM, planeM, std::max(now.heightBandM, before.heightBandM)};
+    const double planeM = std::max(now.planeKnownM, before.planeKnownM);
+    const std::array knownM{planeM, planeM, std::max(now.heightKnownM, before.heightKnownM)};
     for (std::size_t i = 0; i < left.size(); ++i) {
-        if (!(std::fabs(left[i]) <= std::max(m_tolerances.metres[i], bands[i])))
+        if (!(std::fabs(left[i]) <= m_tolerances.metres[i] + knownM[i]))
             return nullptr;
     }
     for (Explanation* const each : {now.height, now.plane, before.height, before.plane}) {
@@ -193,7 +194,7 @@ Explanation* Explainer::ofPair(const SurveyPoint& first, const Problem& problem)
     return nullptr;
 }
 
-/// A step in height between a shifted result and its neighbours, or the other way round.
+/// A step in height between results that are shifted differently.
 Explanation* Explainer::ofStep(const SurveyPoint& point, const Problem& problem)
 {
     constexpr std::size_t kNeighbours = 6;
@@ -203,20 +204,18 @@ Explanation* Explainer::ofStep(const SurveyPoint& point, const Problem& problem)
                std::fabs(problem.value) <= std::fabs(stepM) + problem.limit;
     };
     const Offset own = offsetOf(point);
-    if (explains(own.heightM))
-        return own.height;
     const IndexedPoints<SurveyPoint>& results = m_input.indexedResults();
     std::vector<PointIndex::Found> near;
     results.index().nearest(placeOf(point, m_input.planeUnitM()), kNeighbours, kWithinM, near);
     for (const PointIndex::Found& found : near) {
         const Offset other = offsetOf(results[found.number]);
-        if (explains(-other.heightM))
-            return other.height;
+        if (explains(own.heightM - other.heightM))
+            return own.height != nullptr ? own.height : other.height;
     }
     return nullptr;
 }
 
-/// The distance of two results of which one is shifted.
+/// The distance of two results that are shifted differently.
 Explanation* Explainer::ofBorder(const SurveyPoint& point, const Problem& problem)
 {
     const SurveyPoint* const other = m_input.survey().find(problem.otherLine, problem.otherPoint);
@@ -225,6 +224,12 @@ Explanation* Explainer::ofBorder(const SurveyPoint& point, const Problem& proble
     const Offset own = offsetOf(point);
     const Offset others = offsetOf(*other);
     if (own.eastM == others.eastM && own.northM == others.northM)
+        return nullptr;
+    const double unitM = m_input.planeUnitM();
+    const double spacingM =
+        std::hypot((point.east - other->east) * unitM - own.eastM + others.eastM,
+                   (point.north - other->north) * unitM - own.northM + others.northM);
+    if (!(std::fabs(spacingM - problem.second) <= std::fabs(problem.limit - problem.second)))
         return nullptr;
     return own.plane != nullptr ? own.plane : others.plane;
 }
@@ -242,10 +247,8 @@ void explainByShifts(const FinderInput& input, ProblemList& all)
         Explanation* const cause = explainer.causeOf(all[i]);
         isExplained[i] = cause != nullptr;
         if (cause != nullptr)
-            ++cause->count;
+            ++all[cause->place].follows;
     }
-    for (const Explanation& each : shifts)
-        all[each.place].second = static_cast<double>(each.count);
     std::size_t next = 0;
     all.removeIf([&](const Problem& /*problem*/) { return isExplained[next++]; });
 }

@@ -23,12 +23,6 @@ QString translated(const char* text)
     return QCoreApplication::translate("ShiftProblems", text);
 }
 
-QString dayText(std::int64_t day)
-{
-    constexpr qint64 kFirstDay = 2440588; // 1970/01/01 as a Julian day
-    return QDate::fromJulianDay(kFirstDay + day).toString(QStringLiteral("yyyy/MM/dd"));
-}
-
 /// " on 2026/05/03" behind what is shifted.
 QString onDays(const QString& what, const GroupShift& shift)
 {
@@ -121,6 +115,9 @@ QString causeText(const GroupShift& shift)
         return translated(
             QT_TRANSLATE_NOOP("ShiftProblems", "The antenna height of the pole is wrong."));
     case Cause::BaseOrPole:
+        if (shift.rover.empty())
+            return translated(QT_TRANSLATE_NOOP("ShiftProblems", "The height of the base is wrong, "
+                                                                 "or that of the pole."));
         return translated(QT_TRANSLATE_NOOP("ShiftProblems", "The height of the base is wrong, or "
                                                              "that of the pole of rover %1, which "
                                                              "alone has used it."))
@@ -136,13 +133,7 @@ QString causeText(const GroupShift& shift)
 QString shiftWhat(const Problem& problem)
 {
     const GroupShift shift = GroupShift::fromText(problem.detail);
-    QString text = factText(shift) + QLatin1Char(' ') + causeText(shift);
-    if (problem.second > 0)
-        text += QLatin1Char(' ') +
-                translated(QT_TRANSLATE_NOOP("ShiftProblems", "Problems of single points that "
-                                                              "follow from it: %1."))
-                    .arg(lum::groupedNumber(std::llround(problem.second)));
-    return text;
+    return withFollowing(factText(shift) + QLatin1Char(' ') + causeText(shift), problem);
 }
 
 QString differenceWhat(const Problem& problem)
@@ -179,46 +170,65 @@ Problem& add(const ProblemKind& kind, const GroupShift& shift, ProblemList& prob
     problem.rover = problems.keepOnce(shift.rover);
     problem.timeMs = shift.firstMs;
     problem.count = static_cast<std::uint32_t>(shift.shared);
-    problem.second = 0;
     problem.value = isMostlyHeight(shift) ? shift.heightM : shift.planeM();
     return problem;
 }
 
-std::vector<statistics::MeasuredPair> pairsOf(const FinderInput& input)
+std::vector<statistics::MeasuredPair> pairsOf(const FinderInput& input, const ResultSet& misnamed)
 {
     auto pairs =
         statistics::resurveyPairs(input.survey(), input.resurveyCode(), input.planeUnitM()).pairs;
     const auto repeats = statistics::repeatPairs(input.survey(), input.planeUnitM()).pairs;
     pairs.insert(pairs.end(), repeats.begin(), repeats.end());
+    std::erase_if(pairs, [&](const statistics::MeasuredPair& pair) {
+        return misnamed.contains(pair.first) || misnamed.contains(pair.again);
+    });
     return pairs;
 }
 
 } // namespace
 
-constexpr ProblemKind kBaseShift{"base_shift",
-                                 QT_TRANSLATE_NOOP("ProblemKinds", "Base coordinates wrong"),
-                                 Severity::Error, shiftWhat};
-constexpr ProblemKind kPoleShift{"pole_shift",
-                                 QT_TRANSLATE_NOOP("ProblemKinds", "Pole height wrong"),
-                                 Severity::Error, shiftWhat};
-constexpr ProblemKind kSurveyShift{"survey_shift",
-                                   QT_TRANSLATE_NOOP("ProblemKinds", "Survey off the design"),
-                                   Severity::Error, shiftWhat};
+constexpr ProblemKind kBaseShift{.name = "base_shift",
+                                 .caption =
+                                     QT_TRANSLATE_NOOP("ProblemKinds", "Base coordinates wrong"),
+                                 .severity = Severity::Error,
+                                 .what = shiftWhat,
+                                 .rank = 0};
+constexpr ProblemKind kPoleShift{.name = "pole_shift",
+                                 .caption = QT_TRANSLATE_NOOP("ProblemKinds", "Pole height wrong"),
+                                 .severity = Severity::Error,
+                                 .what = shiftWhat,
+                                 .rank = 0};
+constexpr ProblemKind kSurveyShift{.name = "survey_shift",
+                                   .caption =
+                                       QT_TRANSLATE_NOOP("ProblemKinds", "Survey off the design"),
+                                   .severity = Severity::Error,
+                                   .what = shiftWhat,
+                                   .rank = 0};
 
 constexpr ProblemKind kBaseDifference{
     "base_difference", QT_TRANSLATE_NOOP("ProblemKinds", "Differences of a base and a day"),
     Severity::Note, differenceWhat};
 
+QString dayText(std::int64_t day)
+{
+    constexpr qint64 kFirstDay = 2440588; // 1970/01/01 as a Julian day
+    return QDate::fromJulianDay(kFirstDay + day).toString(QStringLiteral("yyyy/MM/dd"));
+}
+
 void addShifts(const FinderInput& input, const statistics::SurveySample& sample,
-               ProblemList& problems)
+               const ResultSet& misnamed, ProblemList& problems)
 {
     const ShiftLimits limits{input.limit("shift_plane_max"), input.limit("shift_height_max"),
-                             static_cast<std::size_t>(input.limit("shift_results_min"))};
+                             static_cast<std::size_t>(input.limit("shift_results_min")),
+                             input.limit("line_skid_max")};
     const bool isListed = input.limit("base_differences") != 0;
-    if (limits.planeM <= 0 && limits.heightM <= 0 && !isListed)
+    const bool isOff = limits.least == 0 || (limits.planeM <= 0 && limits.heightM <= 0);
+    if (isOff && !isListed)
         return;
-    const std::vector<statistics::MeasuredPair> pairs = pairsOf(input);
-    for (const GroupShift& shift : findGroupShifts(sample, pairs, limits)) {
+    const std::vector<statistics::MeasuredPair> pairs = pairsOf(input, misnamed);
+    for (const GroupShift& shift :
+         isOff ? std::vector<GroupShift>() : findGroupShifts(sample, pairs, limits)) {
         Problem& problem = add(kindOf(shift.cause), shift, problems);
         problem.limit = isMostlyHeight(shift) ? limits.heightM : limits.planeM;
     }

@@ -1,7 +1,10 @@
 #include "quality/problems/ShiftUnion.h"
 
+#include "quality/problems/Median.h"
+
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -16,10 +19,16 @@ bool isPole(const GroupShift& shift)
     return shift.cause == Cause::Pole;
 }
 
+constexpr double kSameShiftM = 0.1;
+
+double apartM(const GroupShift& a, const GroupShift& b)
+{
+    return std::hypot(a.eastM - b.eastM, a.northM - b.northM, a.heightM - b.heightM);
+}
+
 bool areAlike(const GroupShift& a, const GroupShift& b)
 {
-    constexpr double kSameShiftM = 0.1;
-    return std::hypot(a.eastM - b.eastM, a.northM - b.northM, a.heightM - b.heightM) <= kSameShiftM;
+    return apartM(a, b) <= kSameShiftM;
 }
 
 /// Adds what is shifted by another one to a shift, which is then off by the mean.
@@ -27,37 +36,57 @@ void add(GroupShift& shift, const GroupShift& other)
 {
     const double share =
         static_cast<double>(other.shared) / static_cast<double>(shift.shared + other.shared);
+    const auto widen = [share](double& knownM, double otherM, double apartM) {
+        knownM = std::max(knownM + apartM * share, otherM + apartM * (1 - share));
+    };
+    widen(shift.planeKnownM, other.planeKnownM,
+          std::hypot(shift.eastM - other.eastM, shift.northM - other.northM));
+    widen(shift.heightKnownM, other.heightKnownM, std::fabs(shift.heightM - other.heightM));
     for (double GroupShift::*length :
          {&GroupShift::eastM, &GroupShift::northM, &GroupShift::heightM})
         shift.*length += (other.*length - shift.*length) * share;
-    shift.planeBandM = std::max(shift.planeBandM, other.planeBandM);
-    shift.heightBandM = std::max(shift.heightBandM, other.heightBandM);
     shift.results += other.results;
     shift.shared += other.shared;
     shift.firstMs = std::min(shift.firstMs, other.firstMs);
     shift.lastDay = std::max(shift.lastDay, other.lastDay);
 }
 
+/// Their median, and how far the shifts of all bases may be from it. Those of a survey differ where
+/// one of two coordinate systems is tilted; on a day, two errors that differ are two.
+std::pair<GroupShift, double> middleOf(const std::vector<const GroupShift*>& shifts, bool isOfDay)
+{
+    GroupShift middle;
+    for (double GroupShift::*length :
+         {&GroupShift::eastM, &GroupShift::northM, &GroupShift::heightM}) {
+        std::vector<double> lengths;
+        lengths.reserve(shifts.size());
+        for (const GroupShift* const shift : shifts)
+            lengths.push_back(shift->*length);
+        middle.*length = medianOf(lengths);
+    }
+    const double halfM = apartM(middle, {}) / 2;
+    return {middle, isOfDay ? kSameShiftM : std::max(kSameShiftM, halfM)};
+}
+
 /// The bases of the survey or of a day.
 bool areAllAlike(const std::vector<GroupShift>& shifts, const std::vector<ComparedGroup>& compared,
                  std::int64_t day)
 {
-    const auto isBase = [&](const ComparedGroup& group) {
-        return !group.isRover && (day == kNoDay || group.day == day);
-    };
-    const auto bases = std::ranges::count_if(compared, isBase);
-    const GroupShift* first = nullptr;
-    std::ptrdiff_t found = 0;
+    const bool isOfDay = day != kNoDay;
+    const auto bases = std::ranges::count_if(compared, [&](const ComparedGroup& group) {
+        return !group.isRover && (!isOfDay || group.day == day);
+    });
+    std::vector<const GroupShift*> found;
     for (const GroupShift& shift : shifts) {
-        if (day != kNoDay && shift.day != day)
-            continue;
-        if (first == nullptr)
-            first = &shift;
-        if (isPole(shift) || !areAlike(*first, shift))
-            return false;
-        ++found;
+        if (!isOfDay || shift.day == day)
+            found.push_back(&shift);
     }
-    return found > 1 && found == bases;
+    if (found.size() < 2 || std::ssize(found) != bases)
+        return false;
+    const auto [middle, withinM] = middleOf(found, isOfDay);
+    return std::ranges::all_of(found, [&middle = middle, withinM = withinM](const auto* shift) {
+        return !isPole(*shift) && apartM(middle, *shift) <= withinM;
+    });
 }
 
 /// Puts one shift of the survey in place of those of a day, or of all.

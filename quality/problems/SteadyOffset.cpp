@@ -1,8 +1,9 @@
 #include "quality/problems/SteadyOffset.h"
 
+#include "quality/problems/Median.h"
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <vector>
 
 namespace {
@@ -36,18 +37,6 @@ void setCounts(SteadyOffset& offset, std::size_t count, std::size_t shared)
 }
 
 } // namespace
-
-double medianOf(std::span<const double> values)
-{
-    if (values.empty())
-        return std::numeric_limits<double>::quiet_NaN();
-    std::vector<double> sorted(values.begin(), values.end());
-    const auto middle = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
-    std::nth_element(sorted.begin(), middle, sorted.end());
-    if (sorted.size() % 2 != 0)
-        return *middle;
-    return (*middle + *std::max_element(sorted.begin(), middle)) / 2;
-}
 
 SteadyOffset SteadyOffset::ofHeights(std::span<const double> heightsM, const Rule& rule)
 {
@@ -87,6 +76,12 @@ SteadyOffset SteadyOffset::ofPlane(std::span<const double> eastM, std::span<cons
 bool SteadyOffset::isSteady() const
 {
     return count != 0 && static_cast<double>(shared) >= kSmallestShare * static_cast<double>(count);
+}
+
+double SteadyOffset::knownM() const
+{
+    return std::max(kSmallestBandM,
+                    bandM / std::sqrt(static_cast<double>(std::max<std::size_t>(1, shared))));
 }
 
 bool SteadyOffset::sharesHeight(double differenceM) const

@@ -31,9 +31,8 @@ struct SteadyOffset
 
     /// Whether nearly all share it, be it large or small.
     [[nodiscard]] bool isSteady() const;
+    /// How far the offset may be from the true one.
+    [[nodiscard]] double knownM() const;
     [[nodiscard]] bool sharesHeight(double differenceM) const;
     [[nodiscard]] bool sharesPlane(double differenceEastM, double differenceNorthM) const;
 };
-
-/// Of no values NaN, of an even number the mean of the middle two.
-[[nodiscard]] double medianOf(std::span<const double> values);

@@ -150,8 +150,15 @@ private:
 
 } // namespace
 
+NameLimits NameLimits::from(const FinderInput& input)
+{
+    return {input.limit("name_nearer_min"), input.limit("name_near_max")};
+}
+
 std::vector<WrongName> findWrongNames(const FinderInput& input, const NameLimits& limits)
 {
+    if (limits.nearerM == 0)
+        return {};
     NameCheck check(input, limits);
     check.examineAll();
     return check.resolved();

@@ -33,11 +33,14 @@ struct NameLimits
     double nearerM = 0; ///< its own design point is farther away than the other by more than this
     double nearM = 0;   ///< it is at most so far from the other one: a stake that was moved aside
                         ///< from an obstacle is near none
+
+    [[nodiscard]] static NameLimits from(const FinderInput& input);
 };
 
 /// The results with wrong names, in their order. Only design points of the same type are looked at,
 /// unless the result's mark disagrees with its design point, since receivers and sources may be in
 /// the same place. A result whose own design point is missing has a wrong name when no result has
 /// the right one, or when it claims to be a resurvey or check point of a result that is not there.
+/// None when `nearerM` is 0.
 [[nodiscard]] std::vector<WrongName> findWrongNames(const FinderInput& input,
                                                     const NameLimits& limits);

@@ -172,9 +172,8 @@ void SampleReader::setKeys(Observation& result)
     std::int64_t hour = KeyValue::kNoNumber;
     if (result.timeMs != 0) {
         const std::int64_t clock = m_input.zone.clockSeconds(result.timeMs);
-        const std::int64_t second = (clock % kDaySeconds + kDaySeconds) % kDaySeconds;
-        day = (clock - second) / kDaySeconds;
-        hour = second / kHourSeconds;
+        day = dayOf(clock);
+        hour = (clock - day * kDaySeconds) / kHourSeconds;
     }
     const auto set = [&](GroupKey key, std::size_t place) {
         result.keys[static_cast<std::size_t>(key)] = static_cast<std::uint32_t>(place);
@@ -219,6 +218,11 @@ SurveySample SampleReader::finish()
 }
 
 } // namespace
+
+std::int64_t dayOf(std::int64_t clockSeconds)
+{
+    return clockSeconds / kDaySeconds - (clockSeconds % kDaySeconds < 0 ? 1 : 0);
+}
 
 SurveySample sampleOf(SampleInput input)
 {

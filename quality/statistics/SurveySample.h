@@ -129,6 +129,9 @@ struct SurveySample
     }
 };
 
+/// The day of a clock, since 1970/01/01. \param clockSeconds  since then, in a time zone
+[[nodiscard]] std::int64_t dayOf(std::int64_t clockSeconds);
+
 /// Reads and judges the results.
 ///
 /// A design point is staked when a result has exactly its line and point number, as in the empty

@@ -24,7 +24,7 @@ PropertyGridRow rowOf(const ProblemLimit& limit)
     row.description = translated(limit.description);
     row.editor = limit.isWhole ? Editor::Integer : Editor::Number;
     row.unit = translated(limit.unit);
-    row.minimum = limit.smallest;
+    row.minimum = 0;
     row.maximum = limit.largest;
     row.fallback = QString::fromLatin1(limit.fallback);
     if (limit.choices.empty())

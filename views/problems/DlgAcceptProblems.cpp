@@ -2,6 +2,7 @@
 
 #include "lum_sdk/GroupedNumber.h"
 #include "quality/problems/Problem.h"
+#include "views/problems/ShowProblem.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -18,9 +19,15 @@ constexpr int kWidth = 460;
 constexpr int kHeight = 170;
 constexpr int kLongestReason = 500;
 
-/// "Too far from design: 3, Not surveyed: 1"
-QString kindsOf(const std::vector<const Problem*>& problems)
+/// "1001/10015001: The design point has no result.", or "Too far from design: 3, Not surveyed: 1"
+QString shown(const std::vector<const Problem*>& problems)
 {
+    if (problems.size() == 1) {
+        const Problem& problem = *problems.front();
+        const QString name = problemName(problem);
+        const QString what = problem.kind->what(problem);
+        return name.isEmpty() ? what : DlgAcceptProblems::tr("%1: %2").arg(name, what);
+    }
     std::vector<std::pair<const ProblemKind*, int>> counts;
     for (const Problem* const problem : problems) {
         const auto found =
@@ -44,7 +51,7 @@ DlgAcceptProblems::DlgAcceptProblems(QWidget* parent, const std::vector<const Pr
     : Dialog(parent), m_reason(new QComboBox(this))
 {
     setWindowTitle(tr("Accept Problems"));
-    auto* const what = new QLabel(kindsOf(problems), this);
+    auto* const what = new QLabel(shown(problems), this);
     auto* const hint =
         new QLabel(tr("They leave the list of the open problems. One comes back when "
                       "a record that it is about changes."),
@@ -77,6 +84,7 @@ DlgAcceptProblems::DlgAcceptProblems(QWidget* parent, const std::vector<const Pr
     rows->addStretch(1);
     rows->addWidget(buttons);
     setMinimumSizeScaled(kWidth, kHeight);
+    setMinimumHeight(std::max(minimumHeight(), rows->heightForWidth(minimumWidth())));
     m_reason->setFocus();
 }
 

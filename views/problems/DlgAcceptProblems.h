@@ -13,7 +13,7 @@ class DlgAcceptProblems final : public Dialog
     Q_OBJECT
 
 public:
-    /// \param problems  what is accepted, told by kind
+    /// \param problems  what is accepted: a single one is told, several are counted
     /// \param reasons   earlier ones, to choose from
     DlgAcceptProblems(QWidget* parent, const std::vector<const Problem*>& problems,
                       const QStringList& reasons);

@@ -1,6 +1,7 @@
 #include "views/problems/ProblemActions.h"
 
 #include "basalt_utilities/ILogger.h"
+#include "exchange/ShownTimes.h"
 #include "exchange/ui/FileExports.h"
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
@@ -8,6 +9,7 @@
 #include "lum_desktop_sdkx/IDesktopHost.h"
 #include "lum_sdk/GroupedNumber.h"
 #include "lum_sdk/Text.h"
+#include "model/PointNames.h"
 #include "model/PointNumber.h"
 #include "project/DataProcessDataManager.h"
 #include "project/OwnFile.h"
@@ -16,7 +18,9 @@
 #include "protocol/Events.h"
 #include "quality/problems/ForCrew.h"
 #include "quality/problems/NameProblems.h"
-#include "quality/ResultCsv.h"
+#include "quality/problems/ProblemCsv.h"
+#include "quality/problems/ProblemFinders.h"
+#include "quality/ui/DlgRepeatChoice.h"
 #include "views/problems/DlgAcceptProblems.h"
 #include "views/problems/ProblemTableModel.h"
 
@@ -27,6 +31,10 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <array>
+#include <set>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -56,6 +64,14 @@ QString shownName(const PointName& name)
            lum::toQString(writtenPointNumber(name.point));
 }
 
+/// Whether two measurements of one point differ, or there are simply two.
+bool isOfRepeats(const Problem& problem)
+{
+    static const std::array kKinds{findProblemKind("repeat"), findProblemKind("repeat_off"),
+                                   findProblemKind("resurvey_off")};
+    return std::ranges::find(kKinds, problem.kind) != kKinds.end();
+}
+
 /// The user waits while it lives.
 class Waiting
 {
@@ -80,6 +96,9 @@ ProblemActions::ProblemActions(IDesktopHost& host, ProblemTableModel& model,
       m_carryOut(add("carryOut", tr("Ca&rry Out Proposal"), "edit-rename",
                      tr("Give the selected results the names that are proposed; it can be undone"),
                      &ProblemActions::carryOut)),
+      m_resolveRepeats(add("resolveRepeats", tr("Resol&ve Repeats..."), nullptr,
+                           tr("Choose which measurement of the selected points stays"),
+                           &ProblemActions::resolveRepeats)),
       m_measureAgain(add("measureAgain", tr("Measure Agai&n..."), "flag",
                          tr("Write the design points of the selected problems for the crew"),
                          &ProblemActions::measureAgain)),
@@ -88,7 +107,8 @@ ProblemActions::ProblemActions(IDesktopHost& host, ProblemTableModel& model,
                            "KML: what is not surveyed, and what must be measured again"),
                         &ProblemActions::listForCrew)),
       m_save(add("save", tr("&Save as CSV..."), "document-export",
-                 tr("Write the rows that are shown, as they are shown"), &ProblemActions::save))
+                 tr("Write the rows that are shown; numbers stand without their units"),
+                 &ProblemActions::save))
 {
 }
 
@@ -125,7 +145,7 @@ void ProblemActions::addButtons(QBoxLayout& bar, QWidget* parent) const
 
 void ProblemActions::addEntries(QMenu& menu) const
 {
-    menu.addActions({m_accept, m_openAgain, m_carryOut, m_measureAgain});
+    menu.addActions({m_accept, m_openAgain, m_carryOut, m_resolveRepeats, m_measureAgain});
     menu.addSeparator();
     QAction* const copy =
         menu.addAction(tr("&Copy"), &m_table, [table = &m_table] { table->copySelection(); });
@@ -152,7 +172,10 @@ void ProblemActions::follow(bool isOld)
     m_openAgain->setEnabled(hasChosen && !isOld);
     m_carryOut->setEnabled(
         !isOld && has([](const Problem& problem) { return !proposalOf(problem).empty(); }));
-    m_measureAgain->setEnabled(has([](const Problem& problem) { return !problem.point.empty(); }));
+    m_resolveRepeats->setEnabled(has(isOfRepeats));
+    m_measureAgain->setEnabled(!isOld &&
+                               has([](const Problem& problem) { return !problem.point.empty(); }));
+    m_listForCrew->setVisible(!isAccepted); // what may be so sends nobody out
     m_listForCrew->setEnabled(m_model.rowCount() > 0 && !isOld);
     m_save->setEnabled(m_model.rowCount() > 0);
 }
@@ -211,7 +234,11 @@ void ProblemActions::accept()
 
 void ProblemActions::openAgain()
 {
-    const std::size_t count = manager().endAcceptances(acceptancesOf(selected()));
+    std::size_t count = 0;
+    {
+        const Waiting waiting;
+        count = manager().endAcceptances(acceptancesOf(selected()));
+    }
     Q_EMIT acceptedChanged();
     m_host.tell(tr("Problems open again: %1").arg(lum::groupedNumber(count)));
 }
@@ -221,9 +248,10 @@ void ProblemActions::openAgain()
 void ProblemActions::carryOut()
 {
     std::vector<Renaming> renamings;
+    std::set<std::pair<std::string, std::string>> renamed; // two rows may propose the same
     for (const Problem* const problem : selected()) {
         for (Renaming& renaming : proposalOf(*problem)) {
-            if (std::ranges::find(renamings, renaming.from, &Renaming::from) == renamings.end())
+            if (renamed.emplace(renaming.from.line, renaming.from.point).second)
                 renamings.push_back(std::move(renaming));
         }
     }
@@ -236,13 +264,27 @@ void ProblemActions::carryOut()
             : tr("Results with new names: %1. Ctrl+Z takes it back.")
                   .arg(lum::groupedNumber(renamings.size()));
     Outcome outcome = Outcome::done();
-    manager().renameResults(renamings, &outcome);
+    {
+        const Waiting waiting;
+        manager().renameResults(renamings, &outcome);
+    }
     if (!outcome.isDone())
         return LumMessageBox::error(m_host.dialogParent(), tr("Carry Out Proposal"),
                                     outcome.text());
     m_host.eventManager().publish(events::kRefreshSurveyLayer, nullptr, 0);
     Q_EMIT pointsChanged();
     m_host.tell(text);
+}
+
+void ProblemActions::resolveRepeats()
+{
+    std::vector<PointName> names;
+    for (const Problem* const problem : selected()) {
+        if (isOfRepeats(*problem))
+            names.push_back(
+                {std::string(problem->line.view()), std::string(problem->point.view())});
+    }
+    DlgRepeatChoice::open(m_host).selectPointsOf(PointNames(names));
 }
 
 void ProblemActions::measureAgain()
@@ -297,7 +339,11 @@ void ProblemActions::save()
     Outcome outcome = checkNotOwn(ProjectState::place(), file);
     if (outcome.isDone()) {
         const Waiting waiting;
-        outcome = writeResultCsv(file, m_model, ResultCsv::AsShown);
+        Problems shown;
+        shown.reserve(static_cast<std::size_t>(m_model.rowCount()));
+        for (int row = 0; row < m_model.rowCount(); ++row)
+            shown.push_back(&m_model.problem(row));
+        outcome = writeProblemCsv(file, shown, ResultCsv::AsShown, shownTimes());
     }
     if (outcome.isDone())
         return FileExports::offerToOpen(m_host, file,

@@ -50,6 +50,7 @@ private:
     void accept();
     void openAgain();
     void carryOut();
+    void resolveRepeats();
     void measureAgain();
     void listForCrew();
     void writeCrewList(Problems (ProblemActions::*which)() const);
@@ -61,6 +62,7 @@ private:
     QAction* m_accept;
     QAction* m_openAgain;
     QAction* m_carryOut;
+    QAction* m_resolveRepeats;
     QAction* m_measureAgain;
     QAction* m_listForCrew;
     QAction* m_save;

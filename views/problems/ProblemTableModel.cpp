@@ -83,7 +83,7 @@ bool isSame(const Problem& a, const Problem& b)
 } // namespace
 
 ProblemTableModel::ProblemTableModel(QObject* parent)
-    : QAbstractTableModel(parent), m_expressions(problemColumns().size()),
+    : ShownRowsModel(parent), m_expressions(problemColumns().size()),
       m_filters(problemColumns().size()), m_icons{severityIcon(Severity::Note),
                                                   severityIcon(Severity::Warning),
                                                   severityIcon(Severity::Error)}
@@ -120,8 +120,9 @@ void ProblemTableModel::count()
             m_kinds.push_back({problem.kind});
         ++(problem.isAccepted ? m_kinds[last].accepted : m_kinds[last].open);
     }
-    std::ranges::stable_sort(m_kinds, std::ranges::greater(),
-                             [](const ProblemKindCount& kind) { return kind.kind->severity; });
+    std::ranges::stable_sort(m_kinds, {}, [](const ProblemKindCount& kind) {
+        return std::pair(-static_cast<int>(kind.kind->severity), kind.kind->rank);
+    });
 }
 
 void ProblemTableModel::putInOrder()
@@ -157,6 +158,8 @@ int ProblemTableModel::rowOf(bool isDesign, std::string_view line, std::string_v
 
 void ProblemTableModel::setChoice(Choice choice)
 {
+    if (choice == m_choice)
+        return;
     m_choice = std::move(choice);
     relayout();
 }
@@ -216,24 +219,15 @@ void ProblemTableModel::sortBy(int column, Qt::SortOrder order)
     relayout();
 }
 
+void ProblemTableModel::refresh()
+{
+    if (m_zoneName != shownZone())
+        relayout();
+}
+
 void ProblemTableModel::relayout()
 {
-    using Hint = QAbstractItemModel::LayoutChangeHint;
-    Q_EMIT layoutAboutToBeChanged({}, Hint::VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    Places places;
-    places.reserve(static_cast<std::size_t>(before.size()));
-    for (const QModelIndex& index : before)
-        places.push_back(m_shown.pointAt(index.row()));
-    arrange();
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (int i = 0; i < before.size(); ++i) {
-        const int row = m_shown.rowOf(places[static_cast<std::size_t>(i)]);
-        after.append(row < 0 ? QModelIndex() : createIndex(row, before[i].column()));
-    }
-    changePersistentIndexList(before, after);
-    Q_EMIT layoutChanged({}, Hint::VerticalSortHint);
+    changeLayout([this](const Places& /*places*/) { arrange(); });
 }
 
 template <class Judge>
@@ -245,6 +239,7 @@ void ProblemTableModel::keep(Places& places, Judge judge) const
 void ProblemTableModel::arrange()
 {
     m_zone = shownTimes();
+    m_zoneName = shownZone();
     Places places(m_rows.size());
     std::iota(places.begin(), places.end(), 0U);
     keep(places, [this](const Problem& problem) { return isChosen(problem); });
@@ -383,8 +378,9 @@ QVariant ProblemTableModel::data(const QModelIndex& index, int role) const
         return name == ProblemField::Severity
                    ? QVariant(m_icons[static_cast<std::size_t>(shown.kind->severity)])
                    : QVariant();
-    case Qt::ToolTipRole: // the sentence may be cut off
-        return shown.kind->what(shown);
+    case Qt::ToolTipRole: // the sentence may be cut off, and the severity be an icon
+        return name == ProblemField::Severity ? severityText(shown.kind->severity)
+                                              : shown.kind->what(shown);
     case Qt::TextAlignmentRole:
         return int((isNumber(name) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     default:
@@ -395,7 +391,7 @@ QVariant ProblemTableModel::data(const QModelIndex& index, int role) const
 QVariant ProblemTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
-        return QAbstractTableModel::headerData(section, orientation, role);
+        return ShownRowsModel::headerData(section, orientation, role);
     const ProblemField name = field(section);
     switch (role) {
     case Qt::DisplayRole:
@@ -408,6 +404,6 @@ QVariant ProblemTableModel::headerData(int section, Qt::Orientation orientation,
                                QStringLiteral("___") + severityText(Severity::Error)};
         return {};
     default:
-        return QAbstractTableModel::headerData(section, orientation, role);
+        return ShownRowsModel::headerData(section, orientation, role);
     }
 }

@@ -4,9 +4,8 @@
 #include "quality/problems/ProblemColumns.h"
 #include "quality/problems/ProblemList.h"
 #include "views/tables/RowFilter.h"
-#include "views/tables/ShownRows.h"
+#include "views/tables/ShownRowsModel.h"
 
-#include <QAbstractTableModel>
 #include <QIcon>
 
 #include <array>
@@ -26,10 +25,10 @@ struct ProblemKindCount
 /// The problems of a project as a table: the open or the accepted ones of some kinds, which pass a
 /// search and the filters of the columns (`ProblemField`).
 ///
-/// Their own order is that of their severity, the worst first, then of their kinds, then that in
-/// which they were found. A row is a reference to its problem; a cell is formatted when it is asked
-/// for.
-class ProblemTableModel final : public QAbstractTableModel
+/// Their own order is that of their severity, the worst first, then of their kinds by rank, then
+/// that in which they were found. A row is a reference to its problem; a cell is formatted when it
+/// is asked for.
+class ProblemTableModel final : public ShownRowsModel
 {
     Q_OBJECT
 
@@ -39,6 +38,8 @@ public:
     {
         bool isAccepted = false;               ///< the accepted ones, else the open ones
         std::vector<const ProblemKind*> kinds; ///< empty for all
+
+        friend bool operator==(const Choice&, const Choice&) = default;
     };
 
     explicit ProblemTableModel(QObject* parent = nullptr);
@@ -84,7 +85,7 @@ public:
     /// \param column -1 for the own order
     void sortBy(int column, Qt::SortOrder order);
     /// Shows moments in the time zone of the settings, which may be another now.
-    void refresh() { relayout(); }
+    void refresh();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
     {
@@ -99,8 +100,6 @@ public:
                                       int role) const override;
 
 private:
-    using Places = std::vector<std::uint32_t>;
-
     void count();
     void putInOrder();
     [[nodiscard]] std::size_t rankOf(const ProblemKind* kind) const;
@@ -126,8 +125,8 @@ private:
     std::vector<RowFilter> m_filters;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
-    ShownRows m_shown;
     std::array<QIcon, 3> m_icons; ///< of each severity
     mutable basalt::LocalTimes m_zone;
+    QString m_zoneName;
     mutable std::string m_text;
 };

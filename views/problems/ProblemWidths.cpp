@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -25,8 +26,8 @@ constexpr int kWhat = static_cast<int>(ProblemField::What);
 int largestAtFirst(int column)
 {
     switch (static_cast<ProblemField>(column)) {
-    case ProblemField::Severity:
-        return 84;
+    case ProblemField::Severity: // an icon
+        return 36;
     case ProblemField::Kind: // the bar beside the table names the kinds, too
         return 165;
     default:
@@ -41,17 +42,35 @@ int unscaled(int pixels)
     return pixels * kMany / dpi_scaled(kMany);
 }
 
+/// Paints a severity as its icon alone where the column has no room for the word.
+class SeverityDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int text = option->fontMetrics.horizontalAdvance(option->text);
+        if (option->decorationSize.width() + text > option->rect.width())
+            option->text.clear();
+    }
+};
+
 } // namespace
 
 ProblemWidths::ProblemWidths(QSplitter& areas, CustomTableWidget& table)
-    : QObject(&areas), m_areas(areas), m_table(table),
+    : QObject(&areas), m_areas(areas), m_table(table), m_handle(areas.handle(1)),
       m_widths(1 + static_cast<std::size_t>(table.model()->columnCount()))
 {
     read();
     const int kinds = dpi_scaled(m_widths[0] > 0 ? m_widths[0] : kKinds);
     m_areas.setSizes({kinds, 4 * kinds});
+    m_table.setItemDelegateForColumn(static_cast<int>(ProblemField::Severity),
+                                     new SeverityDelegate(&m_table));
     m_table.horizontalHeader()->viewport()->installEventFilter(this);
-    m_areas.handle(1)->installEventFilter(this);
+    m_handle->installEventFilter(this);
     connect(&m_areas, &QSplitter::splitterMoved, this, [this](int width) {
         m_widths[0] = unscaled(width);
         fit();
@@ -87,8 +106,7 @@ void ProblemWidths::store()
 
 bool ProblemWidths::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isOnHandle = watched == m_areas.handle(1);
-    if (!isOnHandle &&
+    if (watched != m_handle &&
         (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick))
         m_isDragging = true;
     if (event->type() == QEvent::MouseButtonRelease) {
@@ -106,6 +124,8 @@ void ProblemWidths::fit()
     for (int column = 0; column < header.count(); ++column) {
         const int own = m_widths[1 + static_cast<std::size_t>(column)];
         const int largest = largestAtFirst(column);
+        if (header.isSectionHidden(column))
+            continue; // would have no width when it is shown again
         if (own > 0)
             header.resizeSection(column, dpi_scaled(own));
         else if (largest > 0)

@@ -30,6 +30,7 @@ private:
 
     QSplitter& m_areas;
     CustomTableWidget& m_table;
+    QObject* m_handle; ///< between the areas; also compared while these are destroyed
     /// At 100 %, pixels: of the kinds, then of each column; 0 where the user has given none.
     std::vector<int> m_widths;
     bool m_isDragging = false; ///< the mouse is down on the captions

@@ -27,6 +27,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPersistentModelIndex>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTimer>
 #include <QToolButton>
@@ -35,12 +36,14 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <vector>
 
 namespace {
 
 constexpr int kTypingMs = 200;
 constexpr int kSearchWidth = 180;
 constexpr int kMargin = 4;
+constexpr int kKind = static_cast<int>(ProblemField::Kind);
 const QLatin1String kFindLink("find");
 const QLatin1String kFindCommand("Find Problems");
 
@@ -69,7 +72,8 @@ ProblemWindow::ProblemWindow(const char* config, IDesktopHost* host)
       m_model(new ProblemTableModel(this)), m_table(new CustomTableWidget(this)),
       m_header(&m_table->addFilterRow()), m_kinds(new ProblemKindBar(this)),
       m_actions(new ProblemActions(*host, *m_model, *m_table)),
-      m_selected(*host, *m_model, *m_table), m_search(new QLineEdit(this)), m_old(new QLabel(this)),
+      m_selected(*host, *m_model, *m_table), m_find(new QToolButton(this)),
+      m_search(new QLineEdit(this)), m_typing(new QTimer(this)), m_old(new QLabel(this)),
       m_empty(new QLabel(m_table->viewport())),
       m_counts(new TableCountLine(this, {tr("Problems: %1"), tr("Problems: %1 of %2")})),
       m_subscription(*this,
@@ -127,6 +131,17 @@ void ProblemWindow::makeLayout()
     m_empty->setAlignment(Qt::AlignCenter);
     auto* const over = new QVBoxLayout(m_table->viewport());
     over->addWidget(m_empty);
+    setKeyOrder();
+}
+
+/// The tab key goes as one reads.
+void ProblemWindow::setKeyOrder()
+{
+    const auto buttons = findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+    std::vector<QWidget*> order(buttons.begin(), buttons.end());
+    order.insert(order.end(), {m_search, m_kinds, m_table});
+    for (std::size_t i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 void ProblemWindow::addBar(QBoxLayout& rows)
@@ -135,15 +150,15 @@ void ProblemWindow::addBar(QBoxLayout& rows)
     bar->setContentsMargins(dpi_scaled(kMargin), dpi_scaled(kMargin), dpi_scaled(kMargin),
                             dpi_scaled(kMargin));
     bar->setSpacing(dpi_scaled(kMargin));
-    auto* const find = new QToolButton(this);
-    find->setObjectName(QStringLiteral("find"));
-    find->setText(tr("&Find Problems"));
-    find->setToolTip(tr("Run everything that is on and list what is wrong (Ctrl+F9)"));
-    find->setIcon(QIcon::fromTheme(QStringLiteral("view-refresh")));
-    find->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    find->setAutoRaise(true);
-    connect(find, &QToolButton::clicked, this, [this] { m_host.commands().execute(kFindCommand); });
-    bar->addWidget(find);
+    m_find->setObjectName(QStringLiteral("find"));
+    m_find->setText(tr("&Find Problems"));
+    m_find->setToolTip(tr("Run everything that is on and list what is wrong (Ctrl+F9)"));
+    m_find->setIcon(QIcon::fromTheme(QStringLiteral("view-refresh")));
+    m_find->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_find->setAutoRaise(true);
+    connect(m_find, &QToolButton::clicked, this,
+            [this] { m_host.commands().execute(kFindCommand); });
+    bar->addWidget(m_find);
     m_actions->addButtons(*bar, this);
     bar->addStretch(1);
     m_search->setObjectName(QStringLiteral("search"));
@@ -175,17 +190,16 @@ void ProblemWindow::connectParts()
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ProblemWindow::showSelected);
     connect(m_header, &FilterHeader::filterEdited, this, &ProblemWindow::setFilter);
-    connect(m_kinds, &ProblemKindBar::chosen, this, &ProblemWindow::showChoice);
+    connect(m_kinds, &ProblemKindBar::chosen, this, &ProblemWindow::choose);
     connect(m_counts, &TableCountLine::clearFiltersRequested, this, &ProblemWindow::clearFilters);
     connect(m_empty, &QLabel::linkActivated, this, &ProblemWindow::followLink);
     connect(m_old, &QLabel::linkActivated, this, &ProblemWindow::followLink);
     connect(m_actions, &ProblemActions::pointsChanged, this, &ProblemWindow::find);
     connect(m_actions, &ProblemActions::acceptedChanged, this, &ProblemWindow::followAccepted);
-    auto* const typing = new QTimer(this);
-    typing->setSingleShot(true);
-    typing->setInterval(kTypingMs);
-    connect(m_search, &QLineEdit::textChanged, typing, qOverload<>(&QTimer::start));
-    connect(typing, &QTimer::timeout, this, [this] {
+    m_typing->setSingleShot(true);
+    m_typing->setInterval(kTypingMs);
+    connect(m_search, &QLineEdit::textChanged, m_typing, qOverload<>(&QTimer::start));
+    connect(m_typing, &QTimer::timeout, this, [this] {
         m_model->setSearch(m_search->text());
         showState();
     });
@@ -220,16 +234,13 @@ void ProblemWindow::find()
 void ProblemWindow::tellFound() const
 {
     std::array<int, 3> open{};
-    int accepted = 0;
-    for (const ProblemKindCount& kind : m_model->kinds()) {
+    for (const ProblemKindCount& kind : m_model->kinds())
         open[static_cast<std::size_t>(kind.kind->severity)] += kind.open;
-        accepted += kind.accepted;
-    }
     const auto [notes, warnings, errors] = open;
     const QString text = tr("Problems: %1 (errors: %2, warnings: %3, notes: %4). Accepted: %5")
                              .arg(lum::groupedNumber(errors + warnings + notes),
                                   lum::groupedNumber(errors), lum::groupedNumber(warnings),
-                                  lum::groupedNumber(notes), lum::groupedNumber(accepted));
+                                  lum::groupedNumber(notes), lum::groupedNumber(acceptedCount()));
     basalt::logInfo(text.toStdString());
     m_host.tell(text);
 }
@@ -290,6 +301,28 @@ void ProblemWindow::showChoice()
     m_selected.keepInView();
 }
 
+/// Where the columns become others, the sentences are brought into view.
+void ProblemWindow::choose()
+{
+    const bool wasHidden = m_table->isColumnHidden(kKind);
+    showChoice();
+    if (m_table->isColumnHidden(kKind) == wasHidden)
+        return;
+    const int row = std::max(m_table->currentIndex().row(), 0);
+    m_table->horizontalScrollBar()->setValue(0);
+    m_table->scrollTo(m_model->index(row, static_cast<int>(ProblemField::What)));
+}
+
+/// A single chosen kind stands in the bar; the sentences get the room of its column.
+void ProblemWindow::hideChosenKind()
+{
+    const bool isPlain = m_model->choice().kinds.size() == 1 && m_header->filter(kKind).isEmpty();
+    m_table->setHiddenColumns(
+        isPlain
+            ? QStringList(m_model->headerData(kKind, Qt::Horizontal, Qt::DisplayRole).toString())
+            : QStringList());
+}
+
 void ProblemWindow::setFilter(int column, const QString& text)
 {
     m_header->setFilter(column, text);
@@ -301,14 +334,9 @@ void ProblemWindow::setFilter(int column, const QString& text)
 
 void ProblemWindow::clearFilters()
 {
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        m_header->setFilter(column, {});
-        m_header->setFault(column, {});
-    }
-    {
-        const QSignalBlocker quiet(m_search);
-        m_search->clear();
-    }
+    m_header->clear();
+    m_search->clear();
+    m_typing->stop();
     m_model->clearFilters();
     showState();
     m_selected.keepInView();
@@ -318,12 +346,15 @@ void ProblemWindow::clearFilters()
 
 void ProblemWindow::showState()
 {
+    m_find->setEnabled(ProjectState::hasData());
     m_kinds->setVisible(m_hasFound);
+    m_counts->setVisible(m_hasFound);
     m_old->setVisible(isOld());
     m_empty->setVisible(m_model->rowCount() == 0);
     if (m_model->rowCount() == 0)
         m_empty->setText(emptyText());
     showSelected();
+    hideChosenKind();
     m_widths->fit();
 }
 
@@ -342,14 +373,26 @@ QString ProblemWindow::emptyText() const
 {
     if (!ProjectState::hasData())
         return tr("No project is open.");
+    const std::size_t results = manager().surveyPoints().pointCount();
+    const std::size_t designed = manager().designPoints().pointCount();
+    if (results + designed == 0)
+        return tr("There is nothing to look at yet: import a design or results.");
     if (!m_hasFound)
         return tr("What must the crew do tomorrow? <a href=\"find\">Find the problems</a> of the "
                   "design and of all results (Ctrl+F9).");
     if (m_model->unfilteredCount() > 0)
         return tr("No problem passes the filters. <a href=\"#\">Clear all filters</a>");
-    return tr("No open problem was found. Results: %1, design points: %2")
-        .arg(lum::groupedNumber(manager().surveyPoints().pointCount()),
-             lum::groupedNumber(manager().designPoints().pointCount()));
+    return tr("No open problem was found. Accepted: %1. Results: %2, design points: %3")
+        .arg(lum::groupedNumber(acceptedCount()), lum::groupedNumber(results),
+             lum::groupedNumber(designed));
+}
+
+int ProblemWindow::acceptedCount() const
+{
+    int count = 0;
+    for (const ProblemKindCount& kind : m_model->kinds())
+        count += kind.accepted;
+    return count;
 }
 
 /// Why a filter does not count.

@@ -20,6 +20,8 @@ class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QModelIndex;
+class QTimer;
+class QToolButton;
 class TableCountLine;
 
 /// The window "Problems List": everything that is wrong with design and results, a row each, and
@@ -58,19 +60,22 @@ protected:
 private:
     void makeLayout();
     void addBar(QBoxLayout& rows);
+    void setKeyOrder();
     void connectParts();
 
     void forget();
-    void followProject();
     [[nodiscard]] bool isOld() const;
     void followAccepted();
     void showKinds();
     void showChoice();
+    void choose();
+    void hideChosenKind();
     void setFilter(int column, const QString& text);
     void clearFilters();
     void showState();
     void showSelected();
     [[nodiscard]] QString emptyText() const;
+    [[nodiscard]] int acceptedCount() const;
     [[nodiscard]] QString faultText() const;
     [[nodiscard]] QString acceptanceText() const;
     void tellFound() const;
@@ -86,9 +91,11 @@ private:
     ProblemActions* m_actions;
     SelectedProblem m_selected;
     ProblemWidths* m_widths = nullptr;
+    QToolButton* m_find;
     QLineEdit* m_search;
-    QLabel* m_old;   ///< says that the list is old
-    QLabel* m_empty; ///< over the rows that are not there
+    QTimer* m_typing; ///< runs while the user types what he searches
+    QLabel* m_old;    ///< says that the list is old
+    QLabel* m_empty;  ///< over the rows that are not there
     TableCountLine* m_counts;
     QString m_project;           ///< the folder of the one that the list is of
     bool m_hasFound = false;     ///< there is a list

@@ -7,7 +7,6 @@
 #include "views/tables/PointRows.h"
 #include "views/tables/PointTableModel.h"
 #include "views/tables/RowFilter.h"
-#include "views/tables/ShownRows.h"
 #include "views/tables/SortKeys.h"
 
 #include <algorithm>
@@ -204,7 +203,6 @@ private:
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     PointRows<Point> m_rows; ///< before the filter
-    ShownRows m_shown;
 };
 
 template <class Point>
@@ -284,38 +282,21 @@ void PointTable<Point>::show(Choice choice, const QString& lineNumber)
 template <class Point>
 void PointTable<Point>::relayout(Renewal renewal)
 {
-    using Hint = QAbstractItemModel::LayoutChangeHint;
-    Q_EMIT layoutAboutToBeChanged({}, Hint::VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    std::vector<std::uint32_t> places; // of the points of the indexes
-    places.reserve(static_cast<std::size_t>(before.size()));
-    for (const QModelIndex& index : before)
-        places.push_back(m_shown.pointAt(index.row()));
-
-    constexpr auto kGone = std::numeric_limits<std::uint32_t>::max();
-    if (!isFresh()) {
-        std::vector<typename PointRows<Point>::Key> keys;
-        keys.reserve(places.size());
-        for (const std::uint32_t place : places)
-            keys.push_back(m_rows.keyAt(place));
-        readPoints();
-        const auto found = m_rows.placesOf(keys);
-        std::transform(keys.begin(), keys.end(), places.begin(), [&](const auto key) {
-            const auto at = found.find(key);
-            return at == found.end() ? kGone : at->second;
-        });
-    }
-    arrange(renewal);
-
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (int i = 0; i < before.size(); ++i) {
-        const std::uint32_t place = places[static_cast<std::size_t>(i)];
-        const int row = place == kGone ? -1 : m_shown.rowOf(place);
-        after.append(row < 0 ? QModelIndex() : createIndex(row, before[i].column()));
-    }
-    changePersistentIndexList(before, after);
-    Q_EMIT layoutChanged({}, Hint::VerticalSortHint);
+    changeLayout([&](Places& places) {
+        if (!isFresh()) {
+            std::vector<typename PointRows<Point>::Key> keys;
+            keys.reserve(places.size());
+            for (const std::uint32_t place : places)
+                keys.push_back(m_rows.keyAt(place));
+            readPoints();
+            const auto found = m_rows.placesOf(keys);
+            std::transform(keys.begin(), keys.end(), places.begin(), [&](const auto key) {
+                const auto at = found.find(key);
+                return at == found.end() ? kGone : at->second;
+            });
+        }
+        arrange(renewal);
+    });
 }
 
 template <class Point>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/PointName.h"
+#include "views/tables/ShownRowsModel.h"
 
-#include <QAbstractTableModel>
 #include <QStringList>
 
 #include <optional>
@@ -13,7 +13,7 @@
 /// A row is a reference to a record, never a copy, and a cell is formatted when it is asked for.
 /// When the project's points have changed and nobody has called `refresh` yet, the rows are there,
 /// and empty. Numbers are formatted without the locale.
-class PointTableModel : public QAbstractTableModel
+class PointTableModel : public ShownRowsModel
 {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     static constexpr int kPointNumberRole = Qt::UserRole + 5;
     static constexpr int kLineNumberRole = Qt::UserRole + 6;
 
-    using QAbstractTableModel::QAbstractTableModel;
+    using ShownRowsModel::ShownRowsModel;
 
     // What is shown. Each keeps filter and order.
 

@@ -298,10 +298,7 @@ void PointTableWindow::setFilter(int column, const QString& text)
 
 void PointTableWindow::clearFilters()
 {
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        m_header->setFilter(column, {});
-        m_header->setFault(column, {});
-    }
+    m_header->clear();
     m_model->clearFilters();
     showOthersAgain();
     reselect();

@@ -51,6 +51,14 @@ QString FilterHeader::filter(int column) const
     return m_fields.at(static_cast<std::size_t>(column))->text();
 }
 
+void FilterHeader::clear()
+{
+    for (int column = 0; column < count(); ++column) {
+        setFilter(column, {});
+        setFault(column, {});
+    }
+}
+
 void FilterHeader::setFault(int column, const QString& reason)
 {
     QLineEdit& field = *m_fields.at(static_cast<std::size_t>(column));

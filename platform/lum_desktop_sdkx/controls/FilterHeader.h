@@ -26,6 +26,8 @@ public:
     /// Sets what a field holds, without announcing it.
     void setFilter(int column, const QString& text);
     [[nodiscard]] QString filter(int column) const;
+    /// Empties all fields, without announcing it, and takes their faults back.
+    void clear();
     /// Shows a field in red, with the reason as its tool tip; an empty reason takes both back.
     void setFault(int column, const QString& reason);
     /// The tool tip of all fields without a fault.

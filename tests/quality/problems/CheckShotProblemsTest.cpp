@@ -29,14 +29,37 @@ TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
     EXPECT_NEAR(shift->value, 1.502, 0.01);
     EXPECT_EQ(shift->limit, 0.1);
     EXPECT_EQ(shift->count, 210U);
-    EXPECT_EQ(shift->second, 214); // 210 heights and 4 resurveys
-    EXPECT_EQ(field.find({"base_shift"})[0].second, 214);
+    EXPECT_EQ(shift->follows, 214U); // 210 heights and 4 resurveys
+    EXPECT_EQ(field.find({"base_shift"})[0].follows, 214U);
+    EXPECT_EQ(field.find({"height_off"}).size(), 212U) << "nothing tells what they follow from";
+    EXPECT_EQ(field.find({"height_off", "few_check_shots"}).size(), 212U);
     EXPECT_EQ(shift->timeMs / 86400000, FieldDays::timeOf(4) / 86400000);
     const std::string text = shift->kind->what(*shift).toStdString();
     EXPECT_TRUE(contains(text, "210 of 212 results of base B3 on 2026/05/04 are 1.5")) << text;
     EXPECT_TRUE(contains(text, " m too high. The coordinates of the base are wrong. Problems of "
                                "single points that follow from it: 214."))
         << text;
+}
+
+TEST(Shifts, WhatIsOffByMoreIsToldAsWell)
+{
+    FieldDays field;
+    field.stakingM = 0.4; // the shift itself is known better than the stakes are set
+    for (int day = 1; day <= 3; ++day)
+        field.work({.day = day, .points = 60});
+    field.work({.day = 4, .base = "B3", .points = 60, .eastM = 30, .northM = 30});
+    field.parameters.set("design_hor_diff", "1.6");
+    const std::vector<const char*> kinds{"base_shift", "too_far"};
+    const std::size_t before = field.told(kinds).size();
+    field.at("1060", "1190").east = field.at("1060", "1190").designEast + 32.2;
+    EXPECT_EQ(field.told(kinds).size(), before + 1);
+
+    field.workAgain({.day = 4, .base = "B3", .eastM = 30, .northM = 30}, 4, 1); // shifted alike
+    SurveyPoint* const again = field.survey.find("1060", "1181F");
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(field.told({"base_shift", "resurvey_off"}).size(), 1U);
+    again->north += 1.2;
+    EXPECT_EQ(field.told({"base_shift", "resurvey_off"}).size(), 2U);
 }
 
 TEST(Shifts, ExplainsStepsBetweenNeighbours)
@@ -48,6 +71,31 @@ TEST(Shifts, ExplainsStepsBetweenNeighbours)
     EXPECT_EQ(field.told(kinds).size(), 1U);
     field.at("1130", "1200").elevation -= 6;
     EXPECT_EQ(field.told(kinds).size(), 2U);
+    field.at("1130", "1200").elevation += 4; // less than the shift, among neighbours that share it
+    EXPECT_EQ(field.told(kinds).size(), 2U);
+}
+
+TEST(Shifts, ExplainsASpacingBetweenTwoDaysButNoGap)
+{
+    FieldDays field = goodDays();
+    field.parameters.set("line_skid_max", "0");
+    field.parameters.set("line_spacing_max", "1"); // 0.4 m
+    field.work({.day = 4, .lines = 1});
+    for (int i = 1196; i <= 1210; ++i) {
+        SurveyPoint& point = field.at("1120", std::to_string(i));
+        point.dateTime = FieldDays::timeOf(5);
+        point.baseStationId = "B3";
+        point.east += 1;
+    }
+    const std::vector<const char*> kinds{"line_spacing", "base_shift"};
+    EXPECT_EQ(field.told(kinds).size(), 1U);
+    for (int i = 1196; i <= 1210; ++i) {
+        field.at("1120", std::to_string(i)).designEast += 150;
+        field.at("1120", std::to_string(i)).east += 150;
+    }
+    EXPECT_EQ(field.told(kinds).size(), 2U);
+    field.parameters.set("line_skid_max", "50"); // either stake may be moved towards the other
+    EXPECT_NEAR(field.find(kinds)[0].limit, 140, 0.1);
 }
 
 TEST(Shifts, OnThePlaneADirectionIsTold)
@@ -77,6 +125,12 @@ TEST(Shifts, ASkidOrACrewWithFewPointsIsNone)
     FieldDays beside = goodDays(); // a day beside a road: 5 m to the north of a line to the east
     beside.work({.day = 4, .points = 40, .northM = 5, .lines = 1});
     EXPECT_EQ(beside.told(), Texts());
+    for (const FieldDay& wrong : {FieldDay{.day = 4, .points = 40, .northM = 51, .lines = 1},
+                                  FieldDay{.day = 4, .points = 40, .eastM = 5, .lines = 1}}) {
+        FieldDays base = goodDays(); // too far beside the line, or along it
+        base.work(wrong);
+        EXPECT_EQ(base.told().size(), 1U);
+    }
     FieldDays oblique = goodDays(); // no crew moves its stakes so
     oblique.work({.day = 4, .points = 40, .eastM = 3, .northM = 4, .lines = 1});
     EXPECT_EQ(oblique.told().size(), 1U);
@@ -102,6 +156,19 @@ TEST(Shifts, ASkidOrACrewWithFewPointsIsNone)
     EXPECT_FALSE(contains(firstOf(off.told()), "too far"));
     off.parameters.set("shift_height_max", "0");
     EXPECT_EQ(off.told(), Texts());
+    few.parameters.set("shift_results_min", "0"); // any single result would be a shift
+    EXPECT_EQ(few.told(), Texts());
+}
+
+TEST(Shifts, NamesThatAreOneOffAreNoWrongBase)
+{
+    FieldDays field = goodDays();
+    field.work({.day = 4, .points = 60, .eastM = 40, .heightM = 1});
+    field.plan();
+    const Texts texts = field.told({"base_shift", "pole_shift", "survey_shift", "wrong_name"});
+    EXPECT_EQ(texts.size(), 58U); // the last of either line stand where nothing is designed
+    for (const std::string& text : texts)
+        EXPECT_TRUE(contains(text, "wrong_name: Is probably ")) << text;
 }
 
 TEST(Shifts, HeightsOfAnElevationModelAreComparedAmongEachOther)
@@ -118,6 +185,14 @@ TEST(Shifts, HeightsOfAnElevationModelAreComparedAmongEachOther)
     for (int day = 1; day <= 12; ++day)
         tilted.work({.day = day, .points = 40});
     EXPECT_EQ(tilted.told(), Texts());
+    FieldDays leaning = tilted; // of another height system as well
+    for (auto& [number, line] : leaning.survey) {
+        for (SurveyPoint& point : line)
+            point.elevation += 2;
+    }
+    texts = leaning.told();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(contains(texts[0], "survey_shift: All 480 results of the survey are ")) << texts[0];
     FieldDays all;
     for (int day = 1; day <= 4; ++day)
         all.work({.day = day, .heightM = 30});
@@ -144,7 +219,7 @@ TEST(Shifts, PointsMeasuredTwiceTellWhatTheDesignCannot)
     const std::string text = found[0].kind->what(found[0]).toStdString();
     EXPECT_TRUE(contains(text, "7 of 7 points that were also measured otherwise are 0.")) << text;
     EXPECT_TRUE(contains(text, " m too high in the results of base B3 on 2026/05/05.")) << text;
-    EXPECT_EQ(found[0].second, 7);
+    EXPECT_EQ(found[0].follows, 7U);
 
     FieldDays heights = goodDays(); // of the two days, the one that fits the design is right
     heights.workAgain({.day = 5, .base = "B1", .rover = "R1"}, 1, 20);
@@ -280,10 +355,10 @@ TEST(CheckShots, EachCrewAndDayWantsAShareAndAtLeastSome)
     field.workAgain({.day = 2, .rover = "R1"}, 1, 1);
     field.at("1000", "1020").dateTime = 0; // of no day
     EXPECT_EQ(field.told({"few_check_shots"}),
-              (Texts{"few_check_shots: Points measured that day: 101. Measured again: 3, at least "
-                     "4 are wanted.",
-                     "few_check_shots: Points measured that day: 20. Measured again: 1, at least "
-                     "2 are wanted."}));
+              (Texts{"few_check_shots: Surveyor Crew of R2 on 2026/05/01: points measured 101, "
+                     "measured again 3, at least 4 are wanted.",
+                     "few_check_shots: Surveyor Crew of R1 on 2026/05/02: points measured 20, "
+                     "measured again 1, at least 2 are wanted."}));
     field.parameters.set("check_shots_min", "1");
     EXPECT_EQ(field.told({"few_check_shots"}).size(), 1U);
     const ProblemList found = field.find({"few_check_shots"});
@@ -296,5 +371,5 @@ TEST(CheckShots, EachCrewAndDayWantsAShareAndAtLeastSome)
             point.surveyor.clear(); // then crews are rovers
     }
     field.parameters.set("check_shots_percent", "3");
-    EXPECT_EQ(field.told({"few_check_shots"}).size(), 1U);
+    EXPECT_TRUE(contains(firstOf(field.told({"few_check_shots"})), ": Rover R2 on 2026/05/01: "));
 }

@@ -95,6 +95,16 @@ public:
         return texts;
     }
 
+    /// Puts the points of all results into the design.
+    void plan()
+    {
+        for (const auto& [number, line] : survey) {
+            for (const SurveyPoint& point : line)
+                design.set({number, point.pointNumber, point.designNorth, point.designEast,
+                            point.designElevation, 0, point.pointMark, 1});
+        }
+    }
+
     SurveyPoint& at(const std::string& line, const std::string& point)
     {
         return *survey.find(line, point);

@@ -1,4 +1,5 @@
 #include "quality/problems/CheckProblems.h"
+#include "quality/problems/ForCrew.h"
 #include "quality/problems/NeighbourProblems.h"
 #include "quality/problems/QualityProblems.h"
 #include "quality/problems/StoredValueProblems.h"
@@ -210,6 +211,51 @@ TEST_F(ProblemFinders, AHeightIsComparedWithTheMedianOfItsNeighbours)
 
     EXPECT_THAT(textsOf(problems), ElementsAre("neighbour_height 10/1009 -6.500 3.000"));
     EXPECT_EQ(what(problems[0]), "It is 6.500 m lower than its neighbours.");
+}
+
+TEST_F(ProblemFinders, ARightNameMendsWhatFollowsFromTheWrongOne)
+{
+    constexpr double kSpacingM = 50;
+    const auto northOf = [&](int i) { return 4000000 + kSpacingM * i; };
+    const auto nameOf = [](int i) { return std::to_string(10011000 + i); };
+    const auto stake = [&](int name, int at, double asideM = 0, const char* code = "") {
+        SurveyPoint point = goodResult("10", nameOf(name) + code, northOf(name));
+        point.north = northOf(at);
+        point.east += asideM;
+        point.elevation = 100 + 10 * at;
+        point.designElevation = 100 + 10 * name;
+        survey.set(std::move(point));
+    };
+    for (int i = 1; i <= 20; ++i) {
+        design.set({"10", nameOf(i), northOf(i), 500000, 100.0 + 10 * i, 0, 0, 0});
+        stake(i, i);
+    }
+    parameters.set("design_ver_diff", "1");
+    survey.erase("10", nameOf(4));
+    stake(5, 4, 0.3);
+    survey.erase("10", nameOf(9));
+    stake(10, 9, 0.9);                             // too far from the right point as well,
+    survey.find("10", nameOf(10))->elevation += 3; // and too high
+    stake(15, 15, 0, "F");
+    survey.find("10", nameOf(15) + "F")->elevation += 0.2; // out of range
+    stake(17, 16, 0, "F");                                 // a resurvey of 16
+    stake(999, 19, 0, "F");                                // of 19
+
+    const ProblemList problems = FoundProblems::find();
+
+    const std::string right10 = "10/" + nameOf(10);
+    EXPECT_THAT(textsOf(problems), ElementsAre("too_far " + right10 + " 50.008 0.500",
+                                               "height_off " + right10 + " 7.000 1.000",
+                                               "resurvey_off 10/10011015 0.200 0.030",
+                                               "wrong_name 10/10011005 50.001 2.000",
+                                               "wrong_name " + right10 + " 50.008 2.000",
+                                               "wrong_name 10/10011017F 50.000 2.000",
+                                               "wrong_name 10/10011999F 2.000"));
+    EXPECT_EQ(what(problems[3]),
+              "Is probably 10011004, 0.30 m away; its own is 50.00 m away. Then 10011005 is not "
+              "surveyed. Problems of single points that follow from it: 3.");
+    EXPECT_TRUE(isForCrew(problems[3], design)); // at 10011005
+    EXPECT_FALSE(isForCrew(problems[5], design));
 }
 
 TEST_F(ProblemFinders, OddSurveysStopNoFinder)

@@ -42,14 +42,17 @@ TEST(ProblemList, StaysReadableWhenListsAreJoinedAndThePointsAreGone)
 
 TEST(ProblemCsv, HasNamesForScriptsAndWordsForPeople)
 {
-    SurveyPoint point = surveyPoint("L \"1\"", "C10011001_3");
-    point.instrumentSerialNumber = "3,5";
-    point.surveyor = "Li";
-    point.dateTime = 1777737600000; // 2026-05-03 00:00 in China, the day before in London
+    SurveyPoint result = surveyPoint("L \"1\"", "C10011001_3");
+    result.instrumentSerialNumber = "3,5";
+    result.surveyor = "Li";
+    result.dateTime = 1777737600000; // 2026-05-03 00:00 in China, the day before in London
     ProblemList problems;
-    Problem& problem = problems.add(kindOf("repeat"), point);
+    Problem& problem = problems.add(kindOf("repeat"), result);
     problem.value = 0.0504;
-    const std::array rows{&std::as_const(problems)[0]};
+    Problem& worse = problems.add(kindOf("solution_type"), result);
+    worse.value = 5;
+    worse.limit = 4;
+    const std::array rows{&std::as_const(problems)[0], &std::as_const(problems)[1]};
     std::string text;
     const auto read = [&](std::string_view line) { text += line; };
 
@@ -58,10 +61,13 @@ TEST(ProblemCsv, HasNamesForScriptsAndWordsForPeople)
 
     const std::string captions = "Severity,Kind,Line,Point,What,Value,Limit,Rover,Surveyor,Day\n";
     const std::string what = "The line has no result of the point that this one repeats.";
-    EXPECT_EQ(text, captions + "note,repeat,\"L \"\"1\"\"\",C10011001," + what +
-                        ",0.050,,\"3,5\",Li,2026/05/03\n" + captions +
-                        "Note,Measured again,\"L \"\"1\"\"\",C10011001," + what +
-                        ",0.050 m,,\"3,5\",Li,2026/05/02\n");
+    const std::string solution = "The solution is float; it should be fixed or better.";
+    const std::string point = ",\"L \"\"1\"\"\",C10011001,";
+    const std::string day = ",\"3,5\",Li,2026/05/0";
+    EXPECT_EQ(text, captions + "note,repeat" + point + what + ",0.050," + day + "3\n" +
+                        "error,solution_type" + point + solution + ",5,4" + day + "3\n" + captions +
+                        "Note,Measured again" + point + what + ",0.050," + day + "2\n" +
+                        "Error,Solution type" + point + solution + ",float,fixed" + day + "2\n");
 }
 
 class Fingerprint : public testing::Test, protected FoundProblems

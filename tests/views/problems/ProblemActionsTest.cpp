@@ -1,6 +1,7 @@
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "project/ui/EditSteps.h"
 #include "protocol/Events.h"
+#include "quality/ui/DlgRepeatChoice.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/PopupMenu.h"
 #include "tests/support/TestFolder.h"
@@ -67,7 +68,8 @@ private Q_SLOTS:
 
         place.chooseKind("Accepted");
         QCOMPARE(place.model.rowCount(), 2);
-        QVERIFY(!button(place.window, "&Accept...")->isVisible());
+        for (const char* const action : {"&Accept...", "&List for the Crew..."})
+            QVERIFY(!button(place.window, action)->isVisible());
         place.click(0);
         QVERIFY(place.says("河岸 &lt;bank&gt;"));
         QTest::mouseClick(button(place.window, "Open A&gain"), Qt::LeftButton);
@@ -84,7 +86,13 @@ private Q_SLOTS:
         ProblemPlace place;
         place.find();
         place.click(0);
-        whenAsked([](DlgAcceptProblems& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        whenAsked([](DlgAcceptProblems& dialog) {
+            const auto said = dialog.findChildren<QLabel*>();
+            QVERIFY(std::ranges::any_of(said, [](const QLabel* label) {
+                return label->text() == "1001/5001: The design point has no result."_q;
+            }));
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
         QTest::mouseClick(button(place.window, "&Accept..."), Qt::LeftButton);
         QCOMPARE(place.model.rowCount(), 12);
         for (const char* const reason : {"flooded", ""}) {
@@ -118,6 +126,7 @@ private Q_SLOTS:
         place.publish(events::kRefreshSurveyTable);
         for (const char* const action : {"&Accept...", "&List for the Crew..."})
             QVERIFY(!button(place.window, action)->isEnabled());
+        QVERIFY(!place.window.findChild<QAction*>("measureAgain"_q)->isEnabled());
     }
 
     void aProposalIsCarriedOut()
@@ -140,6 +149,34 @@ private Q_SLOTS:
         QVERIFY(!place.model.choice().isAccepted && place.model.choice().kinds.empty());
         steps.undo();
         QVERIFY(place.results().find("1001", "5002") != nullptr && place.says("have changed"));
+    }
+
+    void repeatsAreResolvedInTheirOwnList()
+    {
+        ProblemPlace place;
+        EditSteps steps(place.host);
+        place.survey("1001", "5001");
+        place.survey("1001", "5003");
+        for (const char* const point : {"5001", "5003"}) {
+            SurveyPoint again = *place.results().find("1001", point);
+            again.pointNumber += 'F';
+            again.elevation += 5;
+            place.results().set(std::move(again));
+        }
+        place.find();
+        const auto entry = [&](const char* kind, int row) {
+            place.chooseKind(kind);
+            place.click(row);
+            return place.window.findChild<QAction*>("resolveRepeats"_q);
+        };
+        QVERIFY(!entry("Not surveyed", 0)->isEnabled());
+        QVERIFY(entry("Resurvey out of range", 1)->isEnabled());
+        const QPoint cell = place.table.visualRect(place.model.index(1, 2)).center();
+        chooseFrom(openMenuAt(*place.table.viewport(), cell), "Resol&ve Repeats..."_q);
+        const QPointer<DlgRepeatChoice> list = &DlgRepeatChoice::open(place.host);
+        QCOMPARE(list->findChild<CustomTableWidget*>()->selectedRows(), std::vector<int>{1});
+        list->close();
+        QTRY_VERIFY(list == nullptr);
     }
 
     void writesWhatTheCrewHasToMeasure()

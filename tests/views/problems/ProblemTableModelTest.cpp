@@ -21,6 +21,8 @@ constexpr ProblemKind kNote{"note", "Once more", Severity::Note, said};
 constexpr ProblemKind kFar{"far", "Too far", Severity::Error, said};
 constexpr ProblemKind kWarm{"warm", "Too warm", Severity::Warning, said};
 constexpr ProblemKind kHigh{"high", "Too high", Severity::Error, said};
+constexpr ProblemKind kCause{
+    .name = "cause", .caption = "Pole", .severity = Severity::Error, .what = said, .rank = 0};
 
 constexpr auto kValue = int(ProblemField::Value);
 constexpr auto kDay = int(ProblemField::Day);
@@ -87,11 +89,12 @@ private Q_SLOTS:
         table.add(kFar, "d");
         table.add(kHigh, "e").isAccepted = true;
         table.add(kHigh, "f");
+        table.add(kCause, "g");
         table.show();
-        QCOMPARE(table.order(), "b f d c a"_q);
-        QVERIFY(table.model.kinds().front().kind == &kHigh);
-        QCOMPARE(table.model.kinds().front().open, 2);
-        QCOMPARE(table.model.kinds().front().accepted, 1);
+        QCOMPARE(table.order(), "g b f d c a"_q); // the cause before what follows from it
+        QVERIFY(table.model.kinds()[1].kind == &kHigh);
+        QCOMPARE(table.model.kinds()[1].open, 2);
+        QCOMPARE(table.model.kinds()[1].accepted, 1);
 
         table.model.setChoice({.isAccepted = false, .kinds = {&kWarm, &kFar}});
         QCOMPARE(table.order(), "d c"_q);
@@ -153,6 +156,14 @@ private Q_SLOTS:
         const QModelIndex far = table.model.index(1, kValue);
         QCOMPARE(far.data().toString(), "0.300 m"_q);
         QCOMPARE(table.filtered(kValue, table.model.filterFor(far).toUtf8()), "10015002"_q);
+
+        const QSignalSpy arranged(&table.model, &QAbstractItemModel::layoutChanged);
+        table.model.setChoice({});
+        table.model.refresh();
+        QCOMPARE(arranged.size(), 0); // as before: a million rows stay as they are
+        get_system_ini_parameter().dictionary().set(settings::kTimeZone, "0");
+        table.model.refresh();
+        QCOMPARE(table.model.index(0, kDay).data().toString(), "2023/11/14"_q);
     }
 
     void aSelectedRowFollowsItsProblem()

@@ -19,12 +19,14 @@ private Q_SLOTS:
     void saysWhatToPressAndWhatWasFound()
     {
         ProblemPlace place;
+        auto* const find = place.window.findChild<QToolButton*>("find"_q);
         place.tellProject("");
-        QVERIFY(place.says("No project is open."));
+        QVERIFY(place.says("No project is open.") && !place.says("Problems: 0"));
+        QVERIFY(!find->isEnabled());
         place.step("next");
         QVERIFY(place.host.told.isEmpty());
         place.tellProject("/b");
-        QVERIFY(place.says("Ctrl+F9"));
+        QVERIFY(place.says("Ctrl+F9") && !place.says("Problems: 0") && find->isEnabled());
         const auto labels = place.window.findChildren<QLabel*>();
         Q_EMIT(*std::ranges::find_if(labels, [](const QLabel* label) {
             return label->text().contains("href=\"find\""_q);
@@ -37,12 +39,29 @@ private Q_SLOTS:
         QVERIFY(place.says("Problems: 12") && !place.says("Ctrl+F9"));
         QVERIFY(place.selected().isEmpty()); // the map stays
         QCOMPARE(place.window.focusWidget(), &place.table);
+        place.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&place.window));
+        find->setFocus();
+        QStringList reached;
+        while (reached.size() < 4 && place.window.focusWidget() != &place.table) {
+            QTest::keyClick(place.window.focusWidget(), Qt::Key_Tab);
+            reached << place.window.focusWidget()->objectName();
+        }
+        QCOMPARE(place.window.focusWidget(), &place.table); // past what is disabled
+        QCOMPARE(reached[1], "search"_q);
 
-        place.design().clear();
+        for (const auto& [number, line] : place.design()) {
+            for (const DesignPoint& point : line)
+                place.survey(number.c_str(), point.pointNumber.c_str());
+        }
         place.find();
-        QVERIFY(place.says("No open problem was found."));
+        QVERIFY(place.says("No open problem was found. Accepted: 0. Results: 12, design"));
         place.tellProject("/c");
         QVERIFY(place.says("Ctrl+F9")); // the list was another project's
+        place.design().clear();
+        place.results().clear();
+        place.find();
+        QVERIFY(place.says("nothing to look at yet")); // which is not well
     }
 
     void goesFromProblemToProblem()
@@ -85,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(place.model.rowCount(), 1);
         map.zoomRect(900, 900, 940, 930); // elsewhere
         place.click(0);
-        QVERIFY(place.host.told.contains("Points measured that day: 5"_q));
+        QVERIFY(place.host.told.contains("points measured 5,"_q));
         QCOMPARE(map.transform().center(), QPointF(50, 0)); // the third of five
         QCOMPARE(map.transform().GetScale(), 0.1);
         QVERIFY(place.designed.followed.contains("nothing"_q));
@@ -174,7 +193,16 @@ private Q_SLOTS:
         place.find();
         place.chooseKind("Not surveyed");
         QCOMPARE(place.model.rowCount(), 12);
-        place.window.resize(1100, 250); // the last row is out of view
+        constexpr int kKind = int(ProblemField::Kind);
+        QVERIFY(place.table.isColumnHidden(kKind)); // the bar says it
+        place.chooseKind("All open problems");
+        QVERIFY(place.table.columnWidth(kKind) > 100);
+        place.window.resize(810, 250); // the last row is out of view, as are some columns
+        place.chooseKind("Not surveyed");
+        const QRect sentence =
+            place.table.visualRect(place.model.index(0, int(ProblemField::What)));
+        QVERIFY(place.table.viewport()->rect().contains(sentence));
+        place.window.resize(1100, 250);
         place.model.setFilter(int(ProblemField::Line), "1002"_q);
         place.click(3);
         for (QToolButton* const button : place.window.findChildren<QToolButton*>()) {
@@ -200,6 +228,10 @@ private Q_SLOTS:
                 QTest::mouseClick(button, Qt::LeftButton);
         }
         QVERIFY(search->text().isEmpty() && place.model.rowCount() == 12);
+        for (QToolButton* const button : search->findChildren<QToolButton*>()) {
+            if (button->defaultAction()->objectName() == "_q_qlineeditclearaction"_q)
+                QTRY_COMPARE(button->property("opacity").toReal(), 0.0); // has nothing to clear
+        }
 
         const QPoint cell = place.table.visualRect(place.model.index(7, 2)).center();
         QTest::mousePress(place.table.viewport(), Qt::RightButton, {}, cell);
