@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
 {
     FieldDays field = goodDays();
@@ -233,62 +231,6 @@ TEST(Shifts, PointsMeasuredTwiceTellWhatTheDesignCannot)
     EXPECT_EQ(two.told(), Texts());
 }
 
-TEST(Shifts, EveryPlantedOneIsFoundAndNoOther)
-{
-    std::size_t planted = 0;
-    std::size_t found = 0;
-    std::size_t unexplained = 0;
-    for (unsigned seed = 1; seed <= 60; ++seed) {
-        FieldDays field(seed);
-        std::mt19937 random(seed);
-        const bool isWrong = seed % 3 != 0;
-        const auto chance = [&](int count) { return static_cast<int>(random() % unsigned(count)); };
-        const int wrongDay = 1 + chance(8);
-        field.designHeightM = seed % 2 == 0 ? 0.02 : 0.25;
-        for (int day = 1; day <= 8; ++day) {
-            for (const int crew : {1, 2, 3}) {
-                FieldDay work{.day = day,
-                              .base = "B" + std::to_string(1 + (day + crew) % 2),
-                              .rover = "R" + std::to_string(crew),
-                              .points = 20 + chance(60)};
-                if (isWrong && day == wrongDay && (day + crew) % 2 == 0)
-                    work.heightM = 1.6 + chance(10);
-                field.work(work);
-                if (isWrong && day == wrongDay && (day + crew) % 2 == 0)
-                    break; // one crew alone: each error is one
-            }
-            if (day > 1)
-                field.workAgain({.day = day, .base = "B9", .rover = "R1"}, day - 1, 3);
-        }
-        int skid = 0;
-        for (auto& [number, line] : field.survey) {
-            for (SurveyPoint& point : line) {
-                if (skid++ % 7 == 0) {
-                    point.north += chance(30);
-                    point.remarks = "aside";
-                }
-            }
-        }
-        const ProblemList problems = field.find();
-        planted += isWrong ? 1U : 0U;
-        const std::string day = "2026/05/0" + std::to_string(wrongDay);
-        bool isFound = false;
-        for (const Problem& problem : problems) {
-            const std::string text = problem.kind->what(problem).toStdString();
-            const bool isIt = isWrong && !isFound && contains(text, day.c_str());
-            isFound = isFound || isIt;
-            unexplained += isIt ? 0U : 1U;
-            if (!isIt)
-                ADD_FAILURE() << "seed " << seed << ": " << text;
-        }
-        found += isFound ? 1U : 0U;
-    }
-    std::cout << "planted shifts found: " << found << " of " << planted
-              << ", rows besides: " << unexplained << '\n';
-    EXPECT_EQ(found, planted);
-    EXPECT_EQ(unexplained, 0U);
-}
-
 TEST(Shifts, EachBaseAndDayIsListedWhenWanted)
 {
     FieldDays field;
@@ -308,27 +250,8 @@ TEST(Shifts, EachBaseAndDayIsListedWhenWanted)
     EXPECT_TRUE(contains(texts[2], "northwest (32")) << texts[2];
 }
 
-TEST(Shifts, BadInputIsNone)
+TEST(Shifts, WithoutTimesTheBaseAloneIsTold)
 {
-    FieldDays field = goodDays();
-    const double nan = std::nan("");
-    for (auto& [number, line] : field.survey) {
-        for (SurveyPoint& point : line)
-            point.north = point.elevation = nan;
-    }
-    EXPECT_EQ(field.told(), Texts());
-    for (auto& [number, line] : field.survey) {
-        for (SurveyPoint& point : line) {
-            point.north = point.east = point.elevation = 7; // all in one place
-            point.dateTime = 0;
-        }
-    }
-    EXPECT_EQ(field.told(), Texts());
-    for (auto& [number, line] : field.survey) {
-        for (SurveyPoint& point : line)
-            point.designNorth = point.designEast = 0;
-    }
-    EXPECT_EQ(field.told(), Texts());
     FieldDays noTimes;
     noTimes.work({.base = "B1"});
     noTimes.work({.base = "B2", .heightM = 2});
@@ -339,7 +262,6 @@ TEST(Shifts, BadInputIsNone)
     const Texts texts = noTimes.told();
     ASSERT_EQ(texts.size(), 1U);
     EXPECT_TRUE(contains(texts[0], "All 30 results of base B2 are ")) << texts[0];
-    EXPECT_EQ(FieldDays().told(), Texts());
 }
 
 TEST(CheckShots, EachCrewAndDayWantsAShareAndAtLeastSome)
