@@ -16,8 +16,6 @@
 
 #include <QtTest>
 
-#include <memory>
-
 namespace {
 
 std::vector<QualityRow> someRows()
