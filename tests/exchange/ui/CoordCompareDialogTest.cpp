@@ -15,8 +15,6 @@
 
 #include <QAbstractItemModelTester>
 
-#include <memory>
-
 namespace {
 
 constexpr const char* kOwn = "ellipsoid_a=6378137,ellipsoid_f=298.257223563,project_type=1,"

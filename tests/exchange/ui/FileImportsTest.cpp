@@ -15,8 +15,6 @@
 #include "tests/support/TestFolder.h"
 #include "tests/support/Widgets.h"
 
-#include <memory>
-
 namespace {
 
 constexpr const char* kEvents = "REFRESH_DESIGN_LAYER,REFRESH_SURVEY_LAYER,ON_SURVEY_LINE_SWITCHED";
@@ -184,22 +182,6 @@ private Q_SLOTS:
         QVERIFY(dialog->isVisible());
         m_project->tellProject("/b");
         QTRY_VERIFY(dialog == nullptr);
-    }
-
-    void aLongSummaryFitsOnTheScreen()
-    {
-        QByteArray text = "line num,point num,";
-        for (int i = 0; i < 300; ++i)
-            text += "a very long caption that no column has " + QByteArray::number(i) + ',';
-        FileImports::importSurveyCsv(m_project->host,
-                                     file(text + "\n" + QByteArray("L,,\n").repeated(50000)));
-        QVERIFY(QTest::qWaitForWindowExposed(list()));
-        const QRect screen = list()->screen()->availableGeometry();
-        QVERIFY(screen.contains(list()->frameGeometry()));
-        const auto* const numbers = list()->findChild<QPlainTextEdit*>();
-        QVERIFY(numbers->height() < screen.height() / 3);
-        QCOMPARE(list()->findChild<CustomTableWidget*>()->model()->rowCount(), 1000);
-        QVERIFY(list()->findChild<QLabel*>("place"_q)->text().contains("1,000"_q));
     }
 
     void anUnknownFileIsAskedAbout()
