@@ -1,7 +1,6 @@
 #include "lum_desktop_sdkx/frame/Appearance.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
-#include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/Translations.h"
