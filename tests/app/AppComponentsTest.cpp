@@ -224,18 +224,6 @@ private Q_SLOTS:
         }
     }
 
-    void aProgressTextLeavesANarrowWindowAsItIs()
-    {
-        start();
-        m_frame->resize(600, 400);
-        QCoreApplication::processEvents();
-        const QSize before = m_frame->size();
-        progress(payload::progress(std::string(300, 'W'), 1).c_str());
-        QCoreApplication::processEvents();
-        QCOMPARE(m_frame->size(), before);
-        QVERIFY(bar()->isVisible());
-    }
-
     void choosesATimeZone()
     {
         start();

@@ -1,5 +1,3 @@
-#include "lum_sdk/files/SystemDictionaries.h"
-#include "project/history/HistoryAuthor.h"
 #include "tests/project/SavedProject.h"
 #include "tests/support/SmallFiles.h"
 
@@ -164,36 +162,6 @@ TEST_F(History, ThousandsOfDeletedResultsComeBackAsTheyWere)
     EXPECT_EQ(life({"11", "1001"})[0], "restore came");
     takeBack();
     EXPECT_TRUE(manager.surveyPoints().empty());
-}
-
-TEST_F(History, FiltersTakeWhatTheyName)
-{
-    IDictionary& settings = get_system_ini_parameter().dictionary();
-    settings.set(HistoryAuthor::kPersonSetting, "O'Neil 测");
-    import("1,7,a\n1,8,b\n");
-    save();
-    settings.remove(HistoryAuthor::kPersonSetting);
-    remark({"1", "8"}, "c");
-    save();
-    execute("update ProjectHistory set time = '2026-03-01T23:59:59.999Z' where id = 1");
-    const auto ids = [this](const HistoryFilter& filter) {
-        std::vector<std::int64_t> found;
-        for (const HistoryAction& action : actions(filter))
-            found.push_back(action.id);
-        return found;
-    };
-    using Ids = std::vector<std::int64_t>;
-    const QDate day = QDateTime({2026, 3, 1}, {23, 59, 59, 999}, Qt::UTC).toLocalTime().date();
-    const QString self = actions()[0].person;
-    EXPECT_FALSE(self.isEmpty());
-    EXPECT_EQ(ids({}), (Ids{2, 1}));
-    EXPECT_EQ(ids({"O'Neil 测"_q, {}, {}, {}, {}}), Ids{1});
-    EXPECT_EQ(ids({self, {}, {}, {}, {}}), Ids{2});
-    EXPECT_EQ(ids({{}, day, day, {}, {}}), Ids{1});
-    EXPECT_EQ(ids({{}, {}, day.addDays(-1), {}, {}}), Ids{});
-    EXPECT_EQ(ids({{}, {}, {}, "correct_result", {}}), Ids{2});
-    EXPECT_EQ(ids({{}, {}, {}, {}, PointName{"1", "7"}}), Ids{1});
-    EXPECT_EQ(ids({{}, {}, {}, "import_survey", PointName{"1", "8"}}), Ids{1});
 }
 
 // Other programs may have been at the database: the points are saved whatever became of the

@@ -2,43 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(Shifts, OneWrongBaseIsOneProblemThatExplainsTheOthers)
-{
-    FieldDays field = goodDays();
-    field.parameters.set("design_ver_diff", "1");
-    for (const char* rover : {"R1", "R2"})
-        field.work({.day = 4, .base = "B3", .rover = rover, .points = 106, .heightM = 1.502});
-    field.workAgain({.day = 5, .base = "B1", .rover = "R1"}, 4, 4);
-    field.at("1120", "1190").elevation += 4; // wrong for another reason as well
-    field.at("1130", "1240").elevation += 4;
-    const ProblemList found =
-        field.find({"base_shift", "pole_shift", "survey_shift", "height_off", "resurvey_off"});
-    ASSERT_EQ(found.size(), 3U) << field.told().size();
-    const Problem* shift = nullptr;
-    std::size_t high = 0;
-    for (const Problem& problem : found) {
-        if (std::string(problem.kind->name) == "base_shift")
-            shift = &problem;
-        else
-            high += std::string(problem.kind->name) == "height_off" ? 1U : 0U;
-    }
-    EXPECT_EQ(high, 2U);
-    ASSERT_NE(shift, nullptr);
-    EXPECT_NEAR(shift->value, 1.502, 0.01);
-    EXPECT_EQ(shift->limit, 0.1);
-    EXPECT_EQ(shift->count, 210U);
-    EXPECT_EQ(shift->follows, 214U); // 210 heights and 4 resurveys
-    EXPECT_EQ(field.find({"base_shift"})[0].follows, 214U);
-    EXPECT_EQ(field.find({"height_off"}).size(), 212U) << "nothing tells what they follow from";
-    EXPECT_EQ(field.find({"height_off", "few_check_shots"}).size(), 212U);
-    EXPECT_EQ(shift->timeMs / 86400000, FieldDays::timeOf(4) / 86400000);
-    const std::string text = shift->kind->what(*shift).toStdString();
-    EXPECT_TRUE(contains(text, "210 of 212 results of base B3 on 2026/05/04 are 1.5")) << text;
-    EXPECT_TRUE(contains(text, " m too high. The coordinates of the base are wrong. Problems of "
-                               "single points that follow from it: 214."))
-        << text;
-}
-
 TEST(Shifts, WhatIsOffByMoreIsToldAsWell)
 {
     FieldDays field;

@@ -262,18 +262,6 @@ void makeSamePlaces(MadeSurvey& survey)
     survey.design.merge(std::move(sources));
 }
 
-/// A road with bends and a hairpin, and a second line across it.
-void makeCrooked(MadeSurvey& survey)
-{
-    survey.addWay(101, 400, [](int point) {
-        if (point == 200 || point == 201)
-            return 90.0; // back along the road
-        return point % 17 == 0 ? 70.0 : point % 23 == 0 ? -80.0 : 8 * std::sin(point / 5.0);
-    });
-    survey.addWay(
-        102, 300, [](int point) { return point % 40 == 0 ? -50.0 : 0.0; }, 500700, 3999000);
-}
-
 void makeZigzag(MadeSurvey& survey)
 {
     survey.addWay(101, 200, [](int point) { return point % 2 == 0 ? 100.0 : -100.0; });
@@ -332,7 +320,6 @@ void makeLake(MadeSurvey& survey)
 
 INSTANTIATE_TEST_SUITE_P(Lines, CleanSurvey,
                          testing::Values(CleanCase{"SamePlaces", makeSamePlaces},
-                                         CleanCase{"Crooked", makeCrooked},
                                          CleanCase{"Zigzag", makeZigzag},
                                          CleanCase{"OtherNumbers", makeOtherNumbers},
                                          CleanCase{"LakeInFeet", makeLake}),

@@ -118,21 +118,4 @@ TEST_F(NameProblems, ResurveysAndCheckPointsKeepTheirMark)
                     "1000/C10001005_0 > 1000/C10001007"}));
 }
 
-TEST_F(NameProblems, LimitsAreCountedInMetresAndMayBeSwitchedOff)
-{
-    const DesignPoint& other = survey.designed(1002, 1020);
-    SurveyPoint& result = survey.result(1002, 1021);
-    result.east = other.east + 0.999;
-    result.north = other.north;
-    EXPECT_EQ(rows().size(), 1U);
-    result.east = other.east + 1.001;
-    EXPECT_EQ(rows(), Rows{}) << "may be a stake that was moved aside";
-    survey.parameters.set("name_near_max", "1.01");
-    EXPECT_EQ(rows().size(), 1U);
-    survey.parameters.set("name_nearer_min", "39.5");
-    EXPECT_EQ(rows(), Rows{}) << "nearer by less than that";
-    survey.parameters.set("name_nearer_min", "0");
-    EXPECT_EQ(rows(), Rows{});
-}
-
 } // namespace

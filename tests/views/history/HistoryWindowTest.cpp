@@ -214,7 +214,7 @@ private Q_SLOTS:
         const Shown seen(project);
         QVERIFY(
             database.execute("update ProjectHistory set person = 'Li', kind = 'drawn_by_hand'", 0));
-        OpenProject::settings().set(HistoryAuthor::kPersonSetting, "Wang");
+        OpenProject::settings().set(HistoryAuthor::kPersonSetting, "O'Neil 测");
         project.remark("2", "wet");
         QCOMPARE(seen.actions().back(), "Import 9 results|done"_q); // is not read again
         project.save();
@@ -222,7 +222,7 @@ private Q_SLOTS:
 
         const QList<ChoiceBox*> boxes =
             seen.window->findChild<HistoryFilterBar*>()->findChildren<ChoiceBox*>();
-        boxes[0]->setCurrentIndex(boxes[0]->findText("Wang"_q));
+        boxes[0]->setCurrentIndex(boxes[0]->findText("O'Neil 测"_q));
         QCOMPARE(seen.actions(), QStringList("Correct a result|done"_q));
         boxes[0]->setCurrentIndex(boxes[0]->findText("Li"_q));
         QCOMPARE(seen.actions(), QStringList("drawn_by_hand|done"_q));

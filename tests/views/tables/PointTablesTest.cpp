@@ -364,14 +364,6 @@ private Q_SLOTS:
             QByteArray("point_num,line_num,north,east,elevation,design code,azimuth,type,status\n"
                        "2,1001,0.000,0.000,0.000,2,0,0,0\n"
                        "a, b,1001,1234567.892,0.000,0.000,a, b,12.5,1,1\n"));
-
-        path = folder.write("project.db", "of the open project");
-        OpenProject::status().set(status::kProjectPath, folder.path().toStdString());
-        OpenProject::status().set(status::kProjectName, "project");
-        project.boxes.answer = Button::Yes; // files may be replaced
-        seen.choose("export", 3);
-        QCOMPARE(project.boxes.told().last(), "Error|Export Failed!"_q);
-        QCOMPARE(TestFolder::read(path), QByteArray("of the open project"));
     }
 
     void exportsSurveyRowsOrTellsWhyNot()
