@@ -68,6 +68,19 @@ TEST(ResurveyCheck, WipesEarlierVerdictsAndReportsEveryResult)
                         "text=Resurvey Check Survey Line:L,value=100,is_exec=0", "show=0"}));
 }
 
+TEST(ResurveyCheck, AFootOfDifferenceIsJudgedInMetres)
+{
+    ProgressReporter nobody(nullptr);
+    for (const auto& [feet, digit] : {std::pair(0.098, 0), {0.099, 1}}) { // 0.0299 m, 0.0302 m
+        SurveyPoints points;
+        points.set(result("L", "1", 0));
+        points.set(result("L", "1F", feet));
+        checkResurveys(points, basalt::Dictionary(), nobody, 0.3048);
+        EXPECT_EQ(resurveyDigit(*points.find("L", "1")), digit) << feet;
+        EXPECT_DOUBLE_EQ(points.find("L", "1")->resurveyXDiff, feet);
+    }
+}
+
 TEST(ResurveyCheck, APositionThatIsNoNumberPassesAndIsNamed)
 {
     const LogCapture log;
