@@ -65,13 +65,13 @@ private Q_SLOTS:
             QVERIFY(scale->isEnabled());
             scale->setFocus();
             scale->selectAll();
-            QTest::keyClicks(scale, "2500"_q);
+            QTest::keyClicks(scale, "2345"_q);
             QVERIFY(says(dialog, "a part of the area only"_q));
             takeFrom(dialog, "&Area:", "What");
             QVERIFY(!says(dialog, "a part of the area only"_q));
             press(dialog, "Save As...");
             QVERIFY(!dialog.isVisible());
-            QVERIFY(m_project->host.told.contains("1:2,500 on A3"_q));
+            QVERIFY(m_project->host.told.contains("1:2,345 on A3"_q));
         }
         const QByteArray pdf = TestFolder::read(folder.path("测线 map.pdf"));
         QVERIFY(pdf.startsWith("%PDF") && pdf.contains("/MediaBox [0 0 842"));
@@ -136,6 +136,27 @@ private Q_SLOTS:
         view.setView({500020, 4400020}, 1);
         sheet.ground->paint(view, picture);
         QCOMPARE(picture.pixelColor(20, 20), QColor(Qt::red));
+    }
+
+    /// Its corner lies where the map has it, under the data.
+    void printsTheBoundaryWhileItIsShown()
+    {
+        m_map->setExtent(500000, 4400000, 500100, 4400100);
+        PictureFrame frame;
+        frame.transform.setSize({100, 100});
+        frame.transform.setView({500020, 4400020}, 1); // the corner is at (30, 70)
+        const auto corner = [&] {
+            QImage picture(100, 100, QImage::Format_RGB32);
+            picture.fill(Qt::white);
+            QPainter painter(&picture);
+            MapDrawing drawing = shownMap(m_project->host).drawing;
+            drawing.paint(frame, painter);
+            return picture.pixelColor(31, 70);
+        };
+        m_project->design() = {};
+        QCOMPARE(corner(), QColor(Qt::white));
+        m_project->status().set(status::kDrawBoundaryRect, "1");
+        QCOMPARE(corner(), QColor(0xd5, 0x5e, 0x00));
     }
 
     /// A printer of another resolution gets the same sheet, one page.
