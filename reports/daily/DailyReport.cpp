@@ -26,7 +26,7 @@ struct Texts
 };
 
 constexpr int kDpi = 300;
-constexpr double kLeastMap = 400; // pixels of 1/96 inch
+constexpr double kLeastMap = 440; // pixels of 1/96 inch, with its heading
 constexpr double kProgressHeight = 460;
 constexpr double kOffsetsHeight = 470;
 
@@ -105,9 +105,9 @@ private:
         MapSheet sheet = dailyMap(m_input, m_figures);
         if (sheet.setup.area.isNull())
             return;
-        m_pages.addChapter(Texts::tr("Map"));
         if (m_pages.rest() < kLeastMap)
             m_pages.beginPage();
+        m_pages.addChapter(Texts::tr("Map"));
         m_pages.addPicture(m_pages.rest(), [this, sheet = std::move(sheet)](QPainter& painter,
                                                                             const QRectF& place) {
             m_hasMap = paintDailyMap(painter, place, sheet, kDpi);
