@@ -213,7 +213,7 @@ void DlgPrintMap::run(const QString& caption, const std::function<Outcome(SheetW
 {
     m_preview->stop();
     setEnabled(false); // also while a cancelled job comes to its end
-    Outcome outcome = Outcome::failed(tr("The map has failed; the log tells why."));
+    Outcome outcome = Outcome::failed(tr("The map could not be made; the log tells why."));
     QProgressDialog progress(caption, tr("&Cancel"), 0, 100, this);
     progress.setWindowTitle(windowTitle());
     progress.setWindowFlag(Qt::WindowContextHelpButtonHint, false);

@@ -8,6 +8,7 @@
 #include "map/ui/PrintMapCommand.h"
 #include "map/ui/SheetPreview.h"
 #include "map/ui/SheetPrinter.h"
+#include "map/ui/SheetWork.h"
 #include "map/ui/ShownMap.h"
 #include "project/OverlayList.h"
 #include "tests/map/TestSurvey.h"
@@ -157,6 +158,23 @@ private Q_SLOTS:
         QCOMPARE(corner(), QColor(Qt::white));
         m_project->status().set(status::kDrawBoundaryRect, "1");
         QCOMPARE(corner(), QColor(0xd5, 0x5e, 0x00));
+    }
+
+    /// Without memory, say; and a window that changes its size while a file is written paints
+    /// nothing, since both would use the same ground.
+    void workEndsWhateverHappens()
+    {
+        SheetWork work;
+        QSignalSpy finished(&work, &SheetWork::finished);
+        work.start([](SheetWatch&) { throw std::bad_alloc(); });
+        QVERIFY(finished.wait());
+        QVERIFY(!work.isBusy());
+        SheetPreview preview;
+        preview.setSheet(shownMap(m_project->host));
+        preview.stop();
+        preview.resize(300, 500);
+        preview.show();
+        QVERIFY(preview.isUpToDate());
     }
 
     /// A printer of another resolution gets the same sheet, one page.
