@@ -126,16 +126,18 @@ private:
 
     void addPlots()
     {
-        if (m_input.survey.empty())
+        if (m_figures.total().sample.results.empty())
             return;
         m_pages.beginPage();
         addPlot("progress", kProgressHeight, plotData(m_figures.total().sample, QString()));
-        addPlot("offsets", kOffsetsHeight, plotData(m_figures.ofDay().sample, m_figures.dayText()));
+        if (!m_figures.ofDay().sample.results.empty())
+            addPlot("offsets", kOffsetsHeight,
+                    plotData(m_figures.ofDay().sample, m_figures.dayText()));
     }
 
     void addStatistics()
     {
-        if (m_input.survey.empty())
+        if (m_figures.total().sample.results.empty())
             return;
         m_pages.beginPage();
         for (const DailySpan span : {DailySpan::OfDay, DailySpan::Total}) {

@@ -35,19 +35,24 @@ double sumOf(const std::vector<double>& widths)
     return std::accumulate(widths.begin(), widths.end(), 0.0);
 }
 
-/// The width of the longest word.
-double longestWord(const QString& text, const QFontMetricsF& metrics)
+/// The width at which no word of a heading is cut, and all of them have room.
+double headingWidth(const QString& text, const QFont& font)
 {
-    double longest = 0;
+    const QFontMetricsF metrics(font);
+    double width = 0;
     for (const QString& word : text.split(u' ', Qt::SkipEmptyParts))
-        longest = std::max(longest, metrics.horizontalAdvance(word));
-    return longest;
+        width = std::max(width, metrics.horizontalAdvance(word));
+    while (width < kMostName &&
+           wrapped(text, font, width, kHeadingLines + 1).size() > kHeadingLines)
+        ++width;
+    return std::min(width, kMostName);
 }
 
 /// As wide as the cells are in one line; names and sentences up to a limit.
 std::vector<double> wantedWidths(const DailyTable& table, double size)
 {
-    const QFontMetricsF metrics(sheetFont(size, true));
+    const QFont font = sheetFont(size, true);
+    const QFontMetricsF metrics(font);
     std::vector<double> widths;
     widths.reserve(table.columns.size());
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
@@ -58,8 +63,7 @@ std::vector<double> wantedWidths(const DailyTable& table, double size)
                                           row.value(static_cast<int>(i)).left(kMostMeasured)));
         if (!column.isNumber)
             widest = std::min(widest, isSentence(column) ? kMostSentence : kMostName);
-        const double caption = std::min(longestWord(column.caption, metrics), kMostName);
-        widths.push_back(std::max(widest, caption) + 2 * kPadding + 1);
+        widths.push_back(std::max(widest, headingWidth(column.caption, font)) + 2 * kPadding + 1);
     }
     return widths;
 }

@@ -131,6 +131,7 @@ private Q_SLOTS:
         reported.choice.setDays({2030, 1, 1}, {2030, 1, 1});
         const Outcome outcome = reported.write();
         QCOMPARE(outcome.text(), "There is no result of this day."_q);
+        QVERIFY(!reported.text().contains("no results to show"_q)); // an empty plot
         QVERIFY(reported.text().contains("Daily report, 2030-01-01"_q));
         reported.choice.setDays({2030, 1, 1}, {2030, 1, 9});
         QCOMPARE(reported.write().text(),
