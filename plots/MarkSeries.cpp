@@ -55,13 +55,17 @@ private:
     double m_perUnit = 0;
 };
 
-/// Colour by colour, and in each band by band: what lies beside each other on the image is then
+/// Level by level, and in each band by band: what lies beside each other on the image is then
 /// drawn one after the other, while it is in the processor's cache.
-std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::size_t colors)
+std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::size_t colors,
+                                     MarkSeries::Order order)
 {
     const Bands bands(marks);
     const auto groupOf = [&](const PlotMark& mark) {
-        return mark.color * Bands::kCount + bands.of(mark);
+        const std::size_t level = order == MarkSeries::Order::ByColor ? mark.color
+                                  : mark.color > 0                    ? 1
+                                                                      : 0;
+        return level * Bands::kCount + bands.of(mark);
     };
     std::vector<std::size_t> next(colors * Bands::kCount + 1, 0);
     for (const PlotMark& mark : marks)
@@ -77,11 +81,12 @@ std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::si
 } // namespace
 
 MarkSeries::MarkSeries(std::vector<PlotMark> marks, std::vector<QColor> colors,
-                       const PlotSelection& selection, const QColor& selected, const QColor& ring)
+                       const PlotSelection& selection, const QColor& selected, const QColor& ring,
+                       Order order)
     : m_marks(std::move(marks)), m_colors(std::move(colors)), m_selection(selection),
       m_selected(selected), m_ring(ring), m_radius(radiusFor(m_marks.size()))
 {
-    m_marks = inDrawingOrder(m_marks, m_colors.size());
+    m_marks = inDrawingOrder(m_marks, m_colors.size(), order);
 }
 
 void MarkSeries::draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,

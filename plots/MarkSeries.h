@@ -16,18 +16,24 @@ struct PlotMark
     std::uint8_t color = 0;  ///< which of the colours
 };
 
-/// Many results as small discs. Those of later colours lie above those of earlier ones, the
-/// selected above all.
+/// Many results as small discs, the selected ones above all.
 ///
 /// They are stamped into a picture, each place of it once a colour, which follows the mouse without
 /// being drawn anew. Where few are drawn on paper they stay single discs.
 class MarkSeries : public PlotItem
 {
 public:
+    enum class Order
+    {
+        ByColor, ///< those of later colours lie above those of earlier ones
+        Mixed    ///< only the first colour lies below the others, of which none hides another
+    };
+
     /// \param marks     with values that are shown (`isShown`)
     /// \param selection outlives the series
     MarkSeries(std::vector<PlotMark> marks, std::vector<QColor> colors,
-               const PlotSelection& selection, const QColor& selected, const QColor& ring);
+               const PlotSelection& selection, const QColor& selected, const QColor& ring,
+               Order order = Order::ByColor);
 
     void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
               const QRectF& canvas) const override;

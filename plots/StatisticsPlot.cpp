@@ -2,6 +2,7 @@
 
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/GroupedNumber.h"
+#include "lum_sdk/ShortenedText.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
 #include "plots/PlotFiles.h"
@@ -32,7 +33,7 @@ constexpr int kMostTipName = 40;
 
 QString shortened(const QString& name)
 {
-    return name.size() <= kMostTipName ? name : name.left(kMostTipName) + QChar(0x2026);
+    return lum::shortened(name, kMostTipName);
 }
 
 } // namespace

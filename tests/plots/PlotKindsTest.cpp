@@ -139,6 +139,25 @@ private Q_SLOTS:
                  qPrintable(legend));
     }
 
+    void aWideClassTellsWhatIsBeyondTheLimit()
+    {
+        PlottedSurvey survey;
+        survey.stake("1", 0.3, 0);
+        survey.stake("2", 0.6, 0);
+        survey.stake("3", 0.2, 0);
+        for (int i = 4; i < 7; ++i)
+            survey.stake(std::to_string(i), 5000, 0);
+        const auto plot = shownPlot("distances", survey.data());
+        const PlotPanel& panel = *plot->panels().front();
+        const auto placesAt = [&](double count) {
+            return itemOf(*plot).hit(placeOf(panel, 50, count), panel.maps(), 2)->places;
+        };
+        QCOMPARE(placesAt(1.5), (Places{0, 2}));
+        QCOMPARE(placesAt(2.5), Places{1});
+        for (const double tick : panel.axisScaleDiv(QwtPlot::yLeft).ticks(QwtScaleDiv::MajorTick))
+            QCOMPARE(tick, std::round(tick)); // results are counted
+    }
+
     void heightsStandInTheOrderOfTheStations()
     {
         PlottedSurvey survey;
