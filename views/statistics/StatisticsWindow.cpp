@@ -271,6 +271,7 @@ void StatisticsWindow::showState()
     const QString only = m_links.shown();
     m_only->setText(only.isEmpty() ? QString()
                                    : tr("Only %1").arg(lum::shortened(only, kLongestName)));
+    m_only->setToolTip(Qt::convertFromPlainText(only, Qt::WhiteSpaceNormal));
     m_save->setEnabled(m_model->rowCount() > 0);
 }
 
