@@ -1528,10 +1528,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>累计放样</translation>
     </message>
     <message>
-        <source>%1 (%2 %)</source>
-        <translation>%1（%2 %）</translation>
-    </message>
-    <message>
         <source>Still missing</source>
         <translation>尚缺</translation>
     </message>

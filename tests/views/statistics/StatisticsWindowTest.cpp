@@ -7,6 +7,7 @@
 #include "lum_sdk/Transform.h"
 #include "plots/StatisticsPlot.h"
 #include "protocol/Events.h"
+#include "reports/daily/DailyReport.h"
 #include "reports/ReportInput.h"
 #include "reports/StatisticsReport.h"
 #include "tests/lum_desktop_sdkx/MapMouse.h"
@@ -14,6 +15,7 @@
 #include "tests/quality/statistics/MadeSurvey.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/Literals.h"
+#include "tests/support/PdfText.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/WorkbookReader.h"
 #include "views/SelectionFollower.h"
@@ -78,13 +80,28 @@ struct StatisticsPlace : OpenProject
     [[nodiscard]] int column(const char* caption) const
     {
         int at = 0;
-        while (model.headerData(at, Qt::Horizontal, Qt::DisplayRole) != QString::fromUtf8(caption))
+        while (this->caption(at) != QString::fromUtf8(caption))
             ++at;
         return at;
+    }
+    [[nodiscard]] QString caption(int at) const
+    {
+        return model.headerData(at, Qt::Horizontal, Qt::DisplayRole).toString();
     }
     [[nodiscard]] QString text(int row, int at) const
     {
         return model.index(row, at).data().toString();
+    }
+    /// A row in the columns that the report of a day has room for; what is blank is left out.
+    [[nodiscard]] QString reportRow(int row) const
+    {
+        QStringList cells{text(row, 0)};
+        for (const char* const caption :
+             {"Staked", "Not planned", "Within limits", "Over limit", "Within limits (%)",
+              "Mean dE (m)", "Mean dN (m)", "Mean dH (m)", "RMS 2D (m)", "95 % 2D (m)",
+              "Maximum 2D (m)", "Fixed (%)"})
+            cells << text(row, column(caption));
+        return cells.join(QLatin1Char(' ')).simplified();
     }
     void click(int row, int at = 0, Qt::KeyboardModifiers keys = {}) const
     {
@@ -151,46 +168,44 @@ class StatisticsWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheFiguresOfTheWorkbook()
+    void showsTheFiguresOfTheWorkbookAndOfTheDailyReport()
     {
         StatisticsPlace place;
         const TestFolder folder;
-        const QString path = folder.path("figures.xlsx");
         const ReportChoice choice;
         ProgressReporter progress(nullptr);
         const basalt::Dictionary coords;
-        QVERIFY(writeQualityStatistics(path, {place.design(),
-                                              place.results(),
-                                              place.manager->qualityParameters(),
-                                              coords,
-                                              {},
-                                              {},
-                                              {},
-                                              choice,
-                                              progress})
-                    .isDone());
-        const WorkbookReader book(path);
-        int sheet = 0;
-        for (const char* const name : {"Lines", "Days", "Rovers", "Surveyors", "Bases"}) {
-            place.groupBy(sheet++);
-            const auto rows = book.rows(QLatin1String(name));
+        const ReportInput input{
+            place.design(), place.results(), place.manager->qualityParameters(), coords, {}, {}, {},
+            choice,         progress};
+        QVERIFY(writeQualityStatistics(folder.path("figures.xlsx"), input).isDone());
+        QVERIFY(writeDailyReport(folder.path("日报.pdf"), input).isDone());
+        const WorkbookReader book(folder.path("figures.xlsx"));
+        const QString pages = textOfPdf(folder.path("日报.pdf"));
+        int key = 0;
+        for (const char* const sheet : {"Lines", "Days", "Rovers", "Surveyors", "Bases"}) {
+            place.groupBy(key++);
+            const auto rows = book.rows(QLatin1String(sheet));
             QCOMPARE(place.model.rowCount(), int(rows.size())); // the totals, or the captions
             QCOMPARE(place.model.columnCount(), rows[0].size());
             for (int column = 0; column < rows[0].size(); ++column) {
-                QCOMPARE(place.model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
-                         rows[0][column]);
+                QCOMPARE(place.caption(column), rows[0][column]);
                 for (int row = 1; row < int(rows.size()); ++row)
                     QVERIFY2(isShown(place.text(row, column), rows[std::size_t(row)].value(column)),
-                             qPrintable(QLatin1String(name) + place.text(row, column) + " is "_q +
+                             qPrintable(QLatin1String(sheet) + place.text(row, column) + " is "_q +
                                         rows[std::size_t(row)].value(column)));
             }
+            if (key == 3 || key == 4)
+                for (int row = 0; row < place.model.rowCount(); ++row)
+                    QVERIFY2(pages.contains(place.reportRow(row)),
+                             qPrintable(place.reportRow(row)));
         }
         place.groupBy(5);
         QCOMPARE(place.text(1, 0) + place.text(2, 0), "SourcesReceivers"_q);
         QCOMPARE(place.text(0, 1), "90"_q);
         place.groupBy(6);
         QCOMPARE(place.model.rowCount(), 1);
-        const QString figure = place.model.index(0, place.column("RMS 2D (m)")).data().toString();
+        const QString figure = place.text(0, place.column("RMS 2D (m)"));
         const auto summary = book.rows("Summary"_q);
         const auto found = std::ranges::find_if(
             summary, [](const QStringList& row) { return row.value(0) == "Distance 2D"_q; });
