@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -55,6 +56,16 @@ private:
     double m_perUnit = 0;
 };
 
+/// A step that visits all of `count` places, with those beside each other far apart.
+std::size_t mixingStep(std::size_t count)
+{
+    constexpr double kGoldenRatio = 0.618034;
+    std::size_t step = 1 + std::size_t(double(count) * kGoldenRatio);
+    while (std::gcd(step, count) > 1)
+        ++step;
+    return step;
+}
+
 /// Level by level, and in each band by band: what lies beside each other on the image is then
 /// drawn one after the other, while it is in the processor's cache.
 std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::size_t colors,
@@ -73,8 +84,9 @@ std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::si
     for (std::size_t group = 1; group < next.size(); ++group)
         next[group] += next[group - 1];
     std::vector<PlotMark> ordered(marks.size());
-    for (const PlotMark& mark : marks)
-        ordered[next[groupOf(mark)]++] = mark;
+    const std::size_t step = order == MarkSeries::Order::Mixed ? mixingStep(marks.size()) : 1;
+    for (std::size_t i = 0, at = 0; i < marks.size(); ++i, at = (at + step) % marks.size())
+        ordered[next[groupOf(marks[at])]++] = marks[at];
     return ordered;
 }
 
