@@ -27,7 +27,9 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <array>
 #include <cmath>
+#include <functional>
 #include <random>
 
 namespace {
@@ -112,6 +114,7 @@ struct StatisticsPlace : OpenProject
     {
         QTest::mouseClick(window.findChild<QToolButton*>(QLatin1String(button)), Qt::LeftButton);
     }
+    [[nodiscard]] QString only() const { return window.findChild<QLabel*>("only"_q)->text(); }
     [[nodiscard]] static int rows(const QWidget& pointTable)
     {
         return pointTable.findChild<QTableView*>()->model()->rowCount();
@@ -285,6 +288,118 @@ private Q_SLOTS:
                 .toPoint();
         QTest::mouseClick(&canvas, Qt::LeftButton, {}, at);
         QCOMPARE(place.selectedResult(), "103"_q);
+    }
+
+    void escapeAndClosingShowAllAgain()
+    {
+        StatisticsPlace place;
+        place.groupBy(2);
+        QWidget& canvas = *place.panel().canvas();
+        const std::array<std::function<void()>, 4> ends{
+            [&] { QTest::keyClick(&place.table, Qt::Key_Escape); },
+            [&] { QTest::keyClick(place.window.findChild<StatisticsPlot*>(), Qt::Key_Escape); },
+            [&] { place.window.onClosed(); }, // as its dock does
+            [&] { place.press("showAll"); }};
+        for (const auto& end : ends) {
+            place.click(2);
+            QCOMPARE(place.only(), "Only Rover R1"_q);
+            dragMouse(canvas, Qt::LeftButton, {2, 2}, {canvas.width() - 3, canvas.height() - 3});
+            QVERIFY(place.only().endsWith(" results of the plot"_q));
+            end();
+            QCOMPARE(place.only(), QString());
+            QCOMPARE(place.table.selectedRowCount(), 0);
+            QCOMPARE(place.rows(place.resultTable), 81);
+            QCOMPARE(place.rows(place.designTable), 90);
+        }
+    }
+
+    void aTableThatShowsAllAgainStaysSo()
+    {
+        StatisticsPlace place;
+        place.groupBy(2);
+        place.click(2);
+        for (QToolButton* const button : place.resultTable.findChildren<QToolButton*>()) {
+            if (button->text() == "Clear All Filters"_q)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+        QCOMPARE(place.rows(place.resultTable), 81);
+        const int design = place.rows(place.designTable);
+        place.results().set(*place.results().find("1", "101"));
+        place.publish(events::kRefreshSurveyLayer);
+        QTest::qWait(20);
+        QCOMPARE(place.rows(place.resultTable), 81);
+        QCOMPARE(place.rows(place.designTable), design);
+        place.click(2); // asks for it again
+        QCOMPARE(place.rows(place.resultTable), 18);
+
+        // A group that is gone hides nothing.
+        std::vector<PointName> gone;
+        for (const auto& [number, line] : place.results()) {
+            for (const SurveyPoint& point : line) {
+                if (point.instrumentSerialNumber == "R1")
+                    gone.push_back({point.lineNumber, point.pointNumber});
+            }
+        }
+        for (const PointName& point : gone)
+            place.results().erase(point.line, point.point);
+        place.publish(events::kRefreshSurveyLayer);
+        QTRY_COMPARE(place.rows(place.resultTable), 63);
+        QCOMPARE(place.only(), QString());
+    }
+
+    void ticksWhatIsInOrder()
+    {
+        StatisticsPlace place;
+        const auto isTicked = [&](int row) {
+            return place.model.index(row, 0)
+                .data(Qt::ToolTipRole)
+                .toString()
+                .contains("within the limits"_q);
+        };
+        place.groupBy(2);
+        QVERIFY(!isTicked(0) && !isTicked(2)); // offsets over the limit of 0.5
+        place.manager->qualityParameters().set("design_hor_diff", "9");
+        place.manager->qualityParameters().set("design_ver_diff", "9");
+        place.publish(events::kProjectModified);
+        QTRY_VERIFY(isTicked(2));
+        place.groupBy(5);
+        QVERIFY(!isTicked(2)); // some receivers are left
+        for (int i = 9; i < 90; i += 10)
+            place.design().erase(std::to_string(1 + i / 30), std::to_string(100 + i));
+        place.publish(events::kRefreshDesignLayer);
+        QTRY_VERIFY(isTicked(2));
+        QVERIFY(!isTicked(1));
+    }
+
+    void savesAndCopiesThePlot()
+    {
+        StatisticsPlace place;
+        const TestFolder folder;
+        QDir().mkpath(folder.path("统计 图"));
+        for (const auto& [ending, begin] :
+             {std::pair("png", "\x89PNG"), {"svg", "<?xml"}, {"pdf", "%PDF"}}) {
+            const QString path = folder.path("统计 图/偏差 1."_q + QLatin1String(ending));
+            const FileDialog::Responder answer([&](const FileDialog::Request&) { return path; });
+            Boxes boxes;
+            place.press("plotSave");
+            QCOMPARE(boxes.told().size(), 1);
+            QVERIFY(TestFolder::read(path).startsWith(begin));
+        }
+        {
+            const FileDialog::Responder answer(
+                [&](const FileDialog::Request&) { return folder.path("none/1.png"); });
+            Boxes boxes;
+            place.press("plotSave");
+            QVERIFY(boxes.told().join(QString()).contains("none"_q));
+        }
+        QApplication::clipboard()->clear();
+        place.press("plotCopy");
+        QVERIFY(QApplication::clipboard()->image().width() >= 640);
+
+        place.results().clear();
+        place.publish(events::kRefreshSurveyLayer);
+        QTRY_VERIFY(!place.window.findChild<QToolButton*>("plotSave"_q)->isEnabled());
+        QVERIFY(!place.window.findChild<QToolButton*>("plotCopy"_q)->isEnabled());
     }
 
     void sortsCopiesAndSaves()
