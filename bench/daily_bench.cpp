@@ -56,7 +56,7 @@ void BM_DailyReport(benchmark::State& state)
                             choice,
                             progress,
                             problems};
-    for (auto _ : state) {
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         bench::report(state, "daily report of the demo survey", bench::medianOf([&] {
                           return bench::secondsOf([&] {
                               if (!writeDailyReport(path, input).isDone())

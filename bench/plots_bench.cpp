@@ -58,15 +58,12 @@ Survey makeSurvey()
                            50, 0, point.pointMark, 1});
         survey.results.set(point);
     }
-    // Their three differences are as many points together.
-    std::size_t place = 0;
+    // Each has three differences.
     for (const auto& [number, line] : survey.results) {
-        for (const SurveyPoint& point : line) {
-            if (place++ % 3 == 0)
-                survey.pairs.pairs.push_back({&point, &point, point.east - point.designEast,
-                                              point.north - point.designNorth,
-                                              point.elevation - point.designElevation, 0});
-        }
+        for (const SurveyPoint& point : line)
+            survey.pairs.pairs.push_back({&point, &point, point.east - point.designEast,
+                                          point.north - point.designNorth,
+                                          point.elevation - point.designElevation, 0});
     }
     return survey;
 }

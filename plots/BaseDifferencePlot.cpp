@@ -20,6 +20,7 @@ using statistics::GroupKey;
 using statistics::MeasuredPair;
 
 constexpr double kLeastM = 0.002;
+constexpr double kLeastShare = 0.2; // of a tolerance, which is then near enough to be seen
 constexpr double kUnderData = 10;
 constexpr double kOverData = 25;
 constexpr double kBand = 2; // standard deviations
@@ -102,7 +103,7 @@ void BaseDifferencePlot::fill()
         fillPanel(i, pairs, bases, {time, time});
     for (std::size_t base = 0; base < bases.classCount(); ++base)
         addLegend(PlotLegend::Sign::Disc, bases.color(base), bases.name(base));
-    addLegend(PlotLegend::Sign::DashedLine, look().limit, tr("tolerance of resurveys"));
+    addToleranceLegend();
     setNote(tr("Pairs: %1, without a time: %2. East, north and height: later minus first "
                "measurement; line: mean of a "
                "base, band: two standard deviations about it.")
@@ -128,7 +129,8 @@ void BaseDifferencePlot::fillPanel(int number, const std::vector<Shown>& pairs,
     const double tolerance = data().tolerances.metres[component.tolerance];
     panel(number).setAxes(PlotScale::Moment, tr("Time"), tr(component.axis));
     panel(number).setXAxisShown(number + 1 == int(kComponents.size()));
-    panel(number).setRanges(time, rangesOf(std::move(values), {-tolerance, 0, tolerance}, kLeastM));
+    panel(number).setRanges(time, rangesOf(std::move(values), {-tolerance, 0, tolerance},
+                                           std::max(kLeastM, kLeastShare * tolerance)));
     panel(number).addHorizontal(0, QPen(look().faint, 0));
     for (const double limit : {-tolerance, tolerance}) {
         if (tolerance > 0)
@@ -136,7 +138,19 @@ void BaseDifferencePlot::fillPanel(int number, const std::vector<Shown>& pairs,
     }
     addMeans(number, pairs, bases);
     panel(number).add(std::make_unique<MarkSeries>(std::move(marks), bases.markColors(),
-                                                   selection(), look().selected, look().text));
+                                                   selection(), look().selected, look().text,
+                                                   MarkSeries::Order::Mixed));
+}
+
+void BaseDifferencePlot::addToleranceLegend()
+{
+    QStringList metres; // east, north, height
+    for (const Component& component : kComponents)
+        metres << shortText(data().tolerances.metres[component.tolerance]);
+    if (metres.count(metres.front()) == metres.size())
+        metres = metres.mid(0, 1);
+    addLegend(PlotLegend::Sign::DashedLine, look().limit,
+              tr("tolerance of resurveys: %1 m").arg(metres.join(QLatin1String(" / "))));
 }
 
 void BaseDifferencePlot::addMeans(int number, const std::vector<Shown>& pairs,

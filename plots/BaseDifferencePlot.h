@@ -32,5 +32,6 @@ private:
     [[nodiscard]] std::vector<Shown> shownPairs(std::size_t& untimed) const;
     void fillPanel(int number, const std::vector<Shown>& pairs, const GroupClasses& bases,
                    const PlotRanges& time);
+    void addToleranceLegend();
     void addMeans(int number, const std::vector<Shown>& pairs, const GroupClasses& bases);
 };

@@ -93,5 +93,6 @@ void DayQualityPlot::fillPanel(int number, std::vector<PlotMark> marks,
     if (limit > 0)
         panel(number).addHorizontal(limit, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
     panel(number).add(std::make_unique<MarkSeries>(std::move(marks), colors, selection(),
-                                                   look().selected, look().text));
+                                                   look().selected, look().text,
+                                                   MarkSeries::Order::Mixed));
 }

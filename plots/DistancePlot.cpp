@@ -47,17 +47,25 @@ std::vector<double> shownDistances(const PlotData& data, const std::vector<std::
     return distances;
 }
 
-/// The results by class, few where the farthest is very far.
-std::map<std::int64_t, PlotBar> classesOf(const PlotData& data,
-                                          const std::vector<std::uint32_t>& places, double width)
+bool isBeyond(double distance, double limitM)
 {
-    std::map<std::int64_t, PlotBar> bars;
+    return limitM > 0 && distance > limitM + kRoundingM;
+}
+
+/// The results by class, few where the farthest is very far. In the class of the limit those beyond
+/// it come after the others.
+std::map<std::pair<std::int64_t, bool>, PlotBar>
+classesOf(const PlotData& data, const std::vector<std::uint32_t>& places, double width)
+{
+    const double limitM = data.sample->limits.designHorizontalM;
+    std::map<std::pair<std::int64_t, bool>, PlotBar> bars;
     for (const std::uint32_t place : places) {
         const double distance = data.result(place).distanceM;
         if (!isShown(distance))
             continue;
         const auto number = static_cast<std::int64_t>(std::ceil((distance - kRoundingM) / width));
-        bars[std::max(std::int64_t(0), number - 1)].places.push_back(place);
+        bars[{std::max(std::int64_t(0), number - 1), isBeyond(distance, limitM)}].places.push_back(
+            place);
     }
     return bars;
 }
@@ -66,7 +74,7 @@ std::map<std::int64_t, PlotBar> classesOf(const PlotData& data,
 
 DistancePlot::DistancePlot(QWidget* parent) : StatisticsPlot(1, parent)
 {
-    panel(0).setFromZero();
+    panel(0).setCounting();
 }
 
 QString DistancePlot::caption() const
@@ -101,30 +109,32 @@ void DistancePlot::fill()
 
 double DistancePlot::addBars(const std::vector<std::uint32_t>& places, double width)
 {
-    const double limitM = data().sample->limits.designHorizontalM;
     std::vector<PlotBar> bars;
-    std::size_t most = 0;
+    double most = 0;
     auto classes = classesOf(data(), places, width);
     bars.reserve(classes.size());
-    for (auto& [number, bar] : classes) {
+    for (auto& [key, bar] : classes) {
+        const auto& [number, isFar] = key;
         bar.from = double(number) * width;
         bar.to = bar.from + width;
-        bar.color = limitM > 0 && bar.from >= limitM - width / 2 ? look().bad : look().good;
+        bar.color = isFar ? look().bad : look().good;
+        if (!bars.empty() && bars.back().from == bar.from)
+            bar.below = bars.back().top();
         bar.text = tr("from %1 to %2 m: %3")
                        .arg(numberText(bar.from, 3), numberText(bar.to, 3),
                             lum::groupedNumber(bar.places.size()));
-        most = std::max(most, bar.places.size());
+        most = std::max(most, bar.top());
         bars.push_back(std::move(bar));
     }
     panel(0).add(std::make_unique<BarSeries>(std::move(bars), selection(), look().selected));
-    return double(most);
+    return most;
 }
 
 void DistancePlot::addLimit(double limitM, const std::vector<double>& distances)
 {
     const auto beyond =
         std::count_if(distances.begin(), distances.end(),
-                      [limitM](double distance) { return distance > limitM + kRoundingM; });
+                      [limitM](double distance) { return isBeyond(distance, limitM); });
     const auto within = std::ptrdiff_t(distances.size()) - beyond;
     panel(0).addVertical(limitM, QPen(look().limit, dpi_scaled(1.5), Qt::DashLine));
     addLegend(PlotLegend::Sign::DashedLine, look().limit, tr("limit: %1 m").arg(shortText(limitM)));

@@ -1,12 +1,13 @@
 #include "plots/MarkSeries.h"
 
 #include "lum_sdk/DpiScale.h"
+#include "plots/DiscStamps.h"
 
-#include <QImage>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -19,103 +20,11 @@ double radiusFor(std::size_t marks)
     return dpi_scaled(marks < 500 ? 3.5 : marks < 5000 ? 2.75 : marks < 50'000 ? 2.0 : 1.5);
 }
 
-/// A disc in the middle of a small image, to be copied to whole pixels: several times quicker than
-/// `QPainter::drawImage`, which a picture that follows the mouse would feel.
-class Disc
+PixelScale pixelsOf(const QwtScaleMap& map, double origin, double ratio)
 {
-public:
-    /// \param radius device pixels
-    Disc(double radius, const QPen& pen, const QColor& color)
-        : m_half(int(std::ceil(radius + pen.widthF() / 2 - 0.5))),
-          m_image(2 * m_half + 1, 2 * m_half + 1, QImage::Format_ARGB32_Premultiplied)
-    {
-        m_image.fill(Qt::transparent);
-        QPainter painter(&m_image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(pen);
-        painter.setBrush(color);
-        painter.drawEllipse(QPointF(m_half + 0.5, m_half + 0.5), radius, radius);
-    }
-
-    [[nodiscard]] int half() const { return m_half; }
-    /// \param middle of the place to copy it to, at least `half` pixels away from the edges
-    /// \param stride pixels of a line there
-    void copyTo(QRgb* middle, std::ptrdiff_t stride) const
-    {
-        switch (m_half) {
-        case 1:
-            return copy<1>(middle, stride);
-        case 2:
-            return copy<2>(middle, stride);
-        case 3:
-            return copy<3>(middle, stride);
-        default:
-            return copy<0>(middle, stride);
-        }
-    }
-
-private:
-    /// With a `Half` that the compiler knows the loops are unrolled; 0 stands for any.
-    template <int Half>
-    void copy(QRgb* middle, std::ptrdiff_t stride) const
-    {
-        const int half = Half > 0 ? Half : m_half;
-        const int side = 2 * half + 1;
-        const auto* from = reinterpret_cast<const QRgb*>(m_image.constBits());
-        QRgb* to = middle - half * stride - half;
-        for (int row = 0; row < side; ++row, to += stride, from += side) {
-            for (int column = 0; column < side; ++column)
-                to[column] = over(from[column], to[column]);
-        }
-    }
-
-    static QRgb over(QRgb above, QRgb below)
-    {
-        const unsigned rest = 255 - (above >> 24);
-        if (rest == 0)
-            return above;
-        const unsigned even = ((below & 0xff00ff) * rest + 0x800080) >> 8 & 0xff00ff;
-        const unsigned odd = ((below >> 8 & 0xff00ff) * rest + 0x800080) & 0xff00ff00;
-        return above + even + odd;
-    }
-
-    int m_half;
-    QImage m_image;
-};
-
-/// An image on which each pixel is the middle of at most one disc of a colour.
-class DiscPainter
-{
-public:
-    /// \param room device pixels that are free around the discs
-    DiscPainter(QImage& image, int room)
-        : m_pixels(reinterpret_cast<QRgb*>(image.bits())), m_width(image.width()), m_room(room),
-          m_right(image.width() - room), m_bottom(image.height() - room),
-          m_last(std::size_t(image.width()) * std::size_t(image.height()), 0)
-    {
-    }
-
-    /// \param at device pixels of the image
-    void add(double atX, double atY, const Disc& disc, std::uint8_t color)
-    {
-        if (!(atX >= m_room && atX < m_right && atY >= m_room && atY < m_bottom))
-            return;
-        const std::ptrdiff_t pixel = std::ptrdiff_t(atY) * m_width + std::ptrdiff_t(atX);
-        std::uint8_t& last = m_last[std::size_t(pixel)];
-        if (last == color)
-            return;
-        last = color;
-        disc.copyTo(m_pixels + pixel, m_width);
-    }
-
-private:
-    QRgb* m_pixels; ///< lines of 32-bit pixels follow each other without a gap
-    std::ptrdiff_t m_width;
-    double m_room;
-    double m_right;
-    double m_bottom;
-    std::vector<std::uint8_t> m_last; ///< by pixel; 0 for none
-};
+    return {map.s1(), (map.p1() - origin) * ratio,
+            (map.p2() - map.p1()) / (map.s2() - map.s1()) * ratio};
+}
 
 /// Cuts the y axis into bands, most of which have as many marks as others.
 class Bands
@@ -147,13 +56,27 @@ private:
     double m_perUnit = 0;
 };
 
-/// Colour by colour, and in each band by band: what lies beside each other on the image is then
+/// A step that visits all of `count` places, with those beside each other far apart.
+std::size_t mixingStep(std::size_t count)
+{
+    constexpr double kGoldenRatio = 0.618034;
+    std::size_t step = 1 + std::size_t(double(count) * kGoldenRatio);
+    while (std::gcd(step, count) > 1)
+        ++step;
+    return step;
+}
+
+/// Level by level, and in each band by band: what lies beside each other on the image is then
 /// drawn one after the other, while it is in the processor's cache.
-std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::size_t colors)
+std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::size_t colors,
+                                     MarkSeries::Order order)
 {
     const Bands bands(marks);
     const auto groupOf = [&](const PlotMark& mark) {
-        return mark.color * Bands::kCount + bands.of(mark);
+        const std::size_t level = order == MarkSeries::Order::ByColor ? mark.color
+                                  : mark.color > 0                    ? 1
+                                                                      : 0;
+        return level * Bands::kCount + bands.of(mark);
     };
     std::vector<std::size_t> next(colors * Bands::kCount + 1, 0);
     for (const PlotMark& mark : marks)
@@ -161,19 +84,21 @@ std::vector<PlotMark> inDrawingOrder(const std::vector<PlotMark>& marks, std::si
     for (std::size_t group = 1; group < next.size(); ++group)
         next[group] += next[group - 1];
     std::vector<PlotMark> ordered(marks.size());
-    for (const PlotMark& mark : marks)
-        ordered[next[groupOf(mark)]++] = mark;
+    const std::size_t step = order == MarkSeries::Order::Mixed ? mixingStep(marks.size()) : 1;
+    for (std::size_t i = 0, at = 0; i < marks.size(); ++i, at = (at + step) % marks.size())
+        ordered[next[groupOf(marks[at])]++] = marks[at];
     return ordered;
 }
 
 } // namespace
 
 MarkSeries::MarkSeries(std::vector<PlotMark> marks, std::vector<QColor> colors,
-                       const PlotSelection& selection, const QColor& selected, const QColor& ring)
+                       const PlotSelection& selection, const QColor& selected, const QColor& ring,
+                       Order order)
     : m_marks(std::move(marks)), m_colors(std::move(colors)), m_selection(selection),
       m_selected(selected), m_ring(ring), m_radius(radiusFor(m_marks.size()))
 {
-    m_marks = inDrawingOrder(m_marks, m_colors.size());
+    m_marks = inDrawingOrder(m_marks, m_colors.size(), order);
 }
 
 void MarkSeries::draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
@@ -187,39 +112,50 @@ void MarkSeries::draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScale
         drawSingly(*painter, maps, canvas);
         return;
     }
-    const double ratio = std::max(1.0, isScreen ? scale : std::min(scale, kFinest));
-    const double room = 2 * m_radius + 4; // for discs that reach into the canvas
-    const QRectF area = canvas.adjusted(-2 * room, -2 * room, 2 * room, 2 * room);
-    QImage image((area.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull())
-        return;
-    image.fill(Qt::transparent);
-    drawInto(image, maps, area.topLeft(), ratio, int(room * ratio));
-    painter->drawImage(QRectF(area.topLeft(), QSizeF(image.size()) / ratio), image);
+    drawPicture(*painter, maps, canvas, std::max(1.0, isScreen ? scale : std::min(scale, kFinest)));
 }
 
-void MarkSeries::drawInto(QImage& image, const PlotMaps& maps, const QPointF& origin, double ratio,
-                          int room) const
+void MarkSeries::drawPicture(QPainter& painter, const PlotMaps& maps, const QRectF& canvas,
+                             double ratio) const
 {
     std::vector<Disc> discs;
-    discs.reserve(m_colors.size());
+    discs.reserve(m_colors.size() + 1);
     for (const QColor& color : m_colors)
         discs.emplace_back(m_radius * ratio, Qt::NoPen, color);
-    const Disc selected((m_radius + dpi_scaled(1.5)) * ratio, QPen(m_ring, dpi_scaled(1.0) * ratio),
-                        m_selected);
-    DiscPainter painter(image, std::max(room, selected.half()));
-    const auto add = [&](const PlotMark& mark, const Disc& disc, std::size_t color) {
-        painter.add((maps.x.transform(mark.x) - origin.x()) * ratio,
-                    (maps.y.transform(mark.y) - origin.y()) * ratio, disc,
-                    static_cast<std::uint8_t>(color + 1));
+    discs.emplace_back((m_radius + dpi_scaled(1.5)) * ratio, QPen(m_ring, dpi_scaled(1.0) * ratio),
+                       m_selected);
+    const int room = discs.back().half();
+    const int margin = 2 * room; // a disc in it reaches into the canvas, and is whole
+    const QSize size = (canvas.size() * ratio).toSize();
+    const MarkPicture::Place place{size + QSize(2 * margin, 2 * margin),
+                                   pixelsOf(maps.x, canvas.left(), ratio).moved(margin),
+                                   pixelsOf(maps.y, canvas.top(), ratio).moved(margin)};
+    if (m_selection != m_drawnSelection) {
+        m_picture.forget();
+        m_drawnSelection = m_selection;
+    }
+    const QImage& picture =
+        m_picture.at(place, margin, [&](QImage& part, const PixelScale& x, const PixelScale& y) {
+            drawInto(part, x, y, discs);
+        });
+    painter.drawImage(QRectF(canvas.topLeft(), QSizeF(size) / ratio), picture,
+                      QRectF(QPointF(margin, margin), size));
+}
+
+void MarkSeries::drawInto(QImage& image, const PixelScale& x, const PixelScale& y,
+                          const std::vector<Disc>& discs) const
+{
+    DiscPainter painter(image, discs.back().half());
+    const auto add = [&](const PlotMark& mark, std::size_t disc) {
+        painter.add(x(mark.x), y(mark.y), discs[disc], static_cast<std::uint8_t>(disc + 1));
     };
     for (const PlotMark& mark : m_marks)
-        add(mark, discs[mark.color], mark.color);
+        add(mark, mark.color);
     if (std::find(m_selection.begin(), m_selection.end(), true) == m_selection.end())
         return;
     for (const PlotMark& mark : m_marks) {
         if (isSelected(mark))
-            add(mark, selected, m_colors.size());
+            add(mark, m_colors.size());
     }
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "plots/MarkPicture.h"
 #include "plots/PlotItem.h"
 
 #include <QColor>
+
+class Disc;
 
 /// A result in a plot.
 struct PlotMark
@@ -13,18 +16,24 @@ struct PlotMark
     std::uint8_t color = 0;  ///< which of the colours
 };
 
-/// Many results as small discs. Those of later colours lie above those of earlier ones, the
-/// selected above all.
+/// Many results as small discs, the selected ones above all.
 ///
-/// They are stamped into an image, each place of it once a colour: a picture of 200,000 takes some
-/// milliseconds. Where few are drawn on paper they stay single discs.
+/// They are stamped into a picture, each place of it once a colour, which follows the mouse without
+/// being drawn anew. Where few are drawn on paper they stay single discs.
 class MarkSeries : public PlotItem
 {
 public:
+    enum class Order
+    {
+        ByColor, ///< those of later colours lie above those of earlier ones
+        Mixed    ///< only the first colour lies below the others, of which none hides another
+    };
+
     /// \param marks     with values that are shown (`isShown`)
     /// \param selection outlives the series
     MarkSeries(std::vector<PlotMark> marks, std::vector<QColor> colors,
-               const PlotSelection& selection, const QColor& selected, const QColor& ring);
+               const PlotSelection& selection, const QColor& selected, const QColor& ring,
+               Order order = Order::ByColor);
 
     void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
               const QRectF& canvas) const override;
@@ -36,10 +45,12 @@ public:
                                            const QwtInterval& y) const override;
 
 private:
-    /// \param origin  the place of the image's corner, logical pixels
-    /// \param room    around the discs, device pixels
-    void drawInto(QImage& image, const PlotMaps& maps, const QPointF& origin, double ratio,
-                  int room) const;
+    /// \param ratio device pixels to a logical one
+    void drawPicture(QPainter& painter, const PlotMaps& maps, const QRectF& canvas,
+                     double ratio) const;
+    /// \param discs of the colours, then of what is selected
+    void drawInto(QImage& image, const PixelScale& x, const PixelScale& y,
+                  const std::vector<Disc>& discs) const;
     void drawSingly(QPainter& painter, const PlotMaps& maps, const QRectF& canvas) const;
     [[nodiscard]] bool isSelected(const PlotMark& mark) const
     {
@@ -52,4 +63,6 @@ private:
     QColor m_selected;
     QColor m_ring;
     double m_radius; ///< logical pixels
+    mutable MarkPicture m_picture;
+    mutable PlotSelection m_drawnSelection; ///< that of the picture
 };

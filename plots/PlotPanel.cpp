@@ -83,6 +83,12 @@ void PlotPanel::setAxes(QwtScaleEngine* xEngine, QwtScaleDraw* xDraw, const QStr
     setTexts(xTitle, yTitle);
 }
 
+void PlotPanel::setCounting()
+{
+    m_isCounting = true;
+    setScale(*this, yLeft, PlotScale::Count);
+}
+
 void PlotPanel::setTexts(const QString& xTitle, const QString& yTitle)
 {
     m_xTitle = xTitle;
@@ -164,7 +170,7 @@ QwtInterval PlotPanel::allowed(const QwtInterval& wanted, const PlotRanges& rang
 void PlotPanel::setView(View view)
 {
     view = {allowed(view.x, m_x), allowed(view.y, m_y)};
-    if (m_isFromZero)
+    if (m_isCounting)
         view.y = {0, view.y.width()};
     m_asked = view;
     const View shown = fitted(view);
@@ -196,7 +202,7 @@ PlotPanel::View PlotPanel::zoomed(const QPointF& about, double factor) const
     };
     View wanted = view();
     wanted.x = around(wanted.x, now.x.invTransform(about.x()));
-    if (!m_isFromZero)
+    if (!m_isCounting)
         wanted.y = around(wanted.y, now.y.invTransform(about.y()));
     return wanted;
 }
@@ -213,7 +219,7 @@ PlotPanel::View PlotPanel::moved(const View& from, const QPointF& byPixels) cons
 PlotPanel::View PlotPanel::inside(const QRectF& rectangle) const
 {
     const PlotMaps now = maps();
-    const double bottom = m_isFromZero ? 0 : now.y.invTransform(rectangle.bottom());
+    const double bottom = m_isCounting ? 0 : now.y.invTransform(rectangle.bottom());
     return {{now.x.invTransform(rectangle.left()), now.x.invTransform(rectangle.right())},
             {bottom, now.y.invTransform(rectangle.top())}};
 }

@@ -38,8 +38,8 @@ public:
     void setXAxisShown(bool isShown);
     /// A metre is equally long on both axes.
     void setEqualAxes() { m_hasEqualAxes = true; }
-    /// The y axis always begins at 0: bars.
-    void setFromZero() { m_isFromZero = true; }
+    /// The y axis counts, and always begins at 0: bars.
+    void setCounting();
     void setRanges(const PlotRanges& x, const PlotRanges& y);
 
     /// Adds data that can be picked.
@@ -102,5 +102,5 @@ private:
     QSizeF m_canvas;                ///< the size of what is between the axes
     std::vector<PlotItem*> m_items; ///< the base class owns them
     bool m_hasEqualAxes = false;
-    bool m_isFromZero = false;
+    bool m_isCounting = false;
 };

@@ -26,8 +26,9 @@ QwtInterval core(std::vector<double>& values, double below, double above)
     const auto lower = values.begin() + std::ptrdiff_t(below * double(values.size()));
     const auto upper = values.end() - 1 - std::ptrdiff_t(above * double(values.size()));
     std::nth_element(values.begin(), lower, values.end());
+    const double least = *lower; // the next line moves it
     std::nth_element(lower, upper, values.end());
-    return {*lower, *upper};
+    return {least, *upper};
 }
 
 QwtInterval withMarks(QwtInterval range, std::initializer_list<double> marks, double nearness)

@@ -21,6 +21,20 @@ public:
     }
 };
 
+class CountEngine : public QwtLinearScaleEngine
+{
+public:
+    [[nodiscard]] QwtScaleDiv divideScale(double from, double to, int mostTicks, int mostMinor,
+                                          double step) const override
+    {
+        QwtScaleDiv division =
+            QwtLinearScaleEngine::divideScale(from, to, mostTicks, mostMinor, step);
+        return tickStepOf(division) >= 1
+                   ? division
+                   : QwtLinearScaleEngine::divideScale(from, to, mostTicks, mostMinor, 1);
+    }
+};
+
 /// Has no ticks between days.
 class DayEngine : public QwtDateScaleEngine
 {
@@ -88,8 +102,9 @@ double tickStepOf(const QwtScaleDiv& division)
 
 void setScale(QwtPlot& plot, int axis, PlotScale scale)
 {
-    if (scale == PlotScale::Number) {
-        plot.setAxisScaleEngine(axis, new QwtLinearScaleEngine);
+    if (scale == PlotScale::Number || scale == PlotScale::Count) {
+        plot.setAxisScaleEngine(axis, scale == PlotScale::Count ? new CountEngine
+                                                                : new QwtLinearScaleEngine);
         plot.setAxisScaleDraw(axis, new NumberDraw);
         return;
     }

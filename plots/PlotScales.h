@@ -11,6 +11,7 @@ class QwtPlot;
 enum class PlotScale
 {
     Number,
+    Count,     ///< no ticks but of whole numbers
     Moment,    ///< `toClockMs`, as date and time
     Day,       ///< likewise, as a date; no ticks but those of days
     TimeOfDay, ///< likewise, as a time

@@ -66,8 +66,8 @@ std::vector<std::uint32_t> datedPlaces(const PlotData& data)
 
 ProgressPlot::ProgressPlot(QWidget* parent) : StatisticsPlot(2, parent)
 {
-    panel(0).setFromZero();
-    panel(1).setFromZero();
+    panel(0).setCounting();
+    panel(1).setCounting();
 }
 
 QString ProgressPlot::caption() const

@@ -1,5 +1,6 @@
 #include "plots/Stations.h"
 
+#include "lum_sdk/ShortenedText.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
 
@@ -10,11 +11,6 @@ namespace {
 
 constexpr int kFewLines = 2;
 constexpr int kMostLetters = 10;
-
-QString shortened(const QString& name)
-{
-    return name.size() <= kMostLetters ? name : name.left(kMostLetters - 1) + QChar(0x2026);
-}
 
 bool isBefore(const Stations::Line& line, double value)
 {
@@ -33,11 +29,12 @@ std::shared_ptr<const Stations> Stations::of(const PlotData& data,
         const statistics::Observation& result = data.result(place);
         const std::uint32_t own = result.key(statistics::GroupKey::Line);
         if (stations->lines.empty() || own != line)
-            stations->lines.push_back({double(stations->points.size()) - 0.5,
-                                       shortened(lum::toQString(result.point->lineNumber))});
+            stations->lines.push_back(
+                {double(stations->points.size()) - 0.5,
+                 lum::shortened(lum::toQString(result.point->lineNumber), kMostLetters)});
         line = own;
-        stations->points.push_back(
-            shortened(lum::toQString(writtenPointNumber(result.point->pointNumber))));
+        stations->points.push_back(lum::shortened(
+            lum::toQString(writtenPointNumber(result.point->pointNumber)), kMostLetters));
     }
     return stations;
 }

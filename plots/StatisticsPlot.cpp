@@ -2,21 +2,21 @@
 
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/GroupedNumber.h"
+#include "lum_sdk/ShortenedText.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
+#include "plots/PanelColumn.h"
 #include "plots/PlotFiles.h"
 #include "plots/PlotMouse.h"
+#include "plots/PlotPaper.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <qwt_plot_renderer.h>
-#include <qwt_scale_widget.h>
 
 #include <algorithm>
 
@@ -26,13 +26,12 @@ constexpr double kReach = 6; // pixels, from the mouse to what it picks
 constexpr double kKeyZoom = 1.5;
 constexpr double kKeyMove = 0.1; // of what is shown
 constexpr int kNoteMs = 100;
-constexpr int kNoteFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 constexpr int kLeastPanel = 90; // pixels of height; where there are less, the note is left out
 constexpr int kMostTipName = 40;
 
 QString shortened(const QString& name)
 {
-    return name.size() <= kMostTipName ? name : name.left(kMostTipName) + QChar(0x2026);
+    return lum::shortened(name, kMostTipName);
 }
 
 } // namespace
@@ -52,7 +51,7 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
     for (int i = 0; i < panels; ++i) {
         m_panels.push_back(new PlotPanel(this));
         m_mice.push_back(new PlotMouse(*this, *m_panels.back()));
-        connect(m_panels.back(), &PlotPanel::resized, this, &StatisticsPlot::alignPanels);
+        connect(m_panels.back(), &PlotPanel::resized, this, [this] { panels::align(m_panels); });
         connect(m_panels.back(), &PlotPanel::resized, m_noteTimer, qOverload<>(&QTimer::start));
         layout->addWidget(m_panels.back(), 1);
     }
@@ -97,7 +96,7 @@ void StatisticsPlot::setData(PlotData data)
     if (isSame && !isEmpty()) {
         for (PlotPanel* const panel : m_panels)
             panel->fitToScreen();
-        alignPanels();
+        panels::align(m_panels);
         replotAll();
     } else {
         showUsual();
@@ -150,6 +149,11 @@ QString StatisticsPlot::note() const
     return joined(m_note, tr("Outside of the picture: %1.").arg(lum::groupedNumber(outside)));
 }
 
+QString StatisticsPlot::noteOnPaper() const
+{
+    return m_note.isEmpty() ? QString() : joined(note(), m_method);
+}
+
 void StatisticsPlot::updateNote()
 {
     m_noteLabel->setText(note());
@@ -176,14 +180,6 @@ void StatisticsPlot::replotAll()
     m_noteTimer->start();
 }
 
-double StatisticsPlot::heightOf(const PlotPanel& panel, double all) const
-{
-    const PlotPanel& last = *m_panels.back();
-    const double axis = last.axisWidget(QwtPlot::xBottom)->sizeHint().height();
-    const double canvas = std::max(1.0, (all - axis) / double(m_panels.size()));
-    return canvas + (&panel == &last ? axis : 0);
-}
-
 void StatisticsPlot::shareHeight()
 {
     const double all = height() - m_legend->heightFor(width());
@@ -192,18 +188,8 @@ void StatisticsPlot::shareHeight()
     m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() && hasRoom);
     auto* const boxes = qobject_cast<QBoxLayout*>(layout());
     for (PlotPanel* const panel : m_panels)
-        boxes->setStretchFactor(panel, int(heightOf(*panel, hasRoom ? rest : all)));
-}
-
-void StatisticsPlot::alignPanels()
-{
-    if (m_panels.size() < 2)
-        return;
-    double widest = 0;
-    for (const PlotPanel* const panel : m_panels)
-        widest = std::max(widest, panel->yTextWidth());
-    for (PlotPanel* const panel : m_panels)
-        panel->setYTextWidth(widest);
+        boxes->setStretchFactor(panel,
+                                int(panels::heightOf(*panel, m_panels, hasRoom ? rest : all)));
 }
 
 void StatisticsPlot::setView(PlotPanel& panel, const PlotPanel::View& view)
@@ -211,7 +197,7 @@ void StatisticsPlot::setView(PlotPanel& panel, const PlotPanel::View& view)
     m_isUsual = false;
     for (PlotPanel* const each : m_panels)
         each->setView(each == &panel ? view : PlotPanel::View{view.x, each->view().y});
-    alignPanels();
+    panels::align(m_panels);
     replotAll();
 }
 
@@ -222,7 +208,7 @@ void StatisticsPlot::setViews(bool isUsual)
     for (PlotPanel* const panel : m_panels)
         panel->setView(isUsual ? panel->usualView() : panel->wholeView());
     m_isUsual = isUsual;
-    alignPanels();
+    panels::align(m_panels);
     replotAll();
     updateNote();
 }
@@ -355,7 +341,7 @@ void StatisticsPlot::changeEvent(QEvent* event)
     updateParts();
     for (PlotPanel* const panel : m_panels)
         panel->fitToScreen();
-    alignPanels();
+    panels::align(m_panels);
     replotAll();
 }
 
@@ -368,83 +354,19 @@ void StatisticsPlot::resizeEvent(QResizeEvent* event)
 void StatisticsPlot::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    alignPanels();
+    panels::align(m_panels);
 }
 
 // --- on paper and in files ---
 
-double StatisticsPlot::paintHead(QPainter& painter, const QSizeF& size) const
-{
-    QFont bold = font();
-    bold.setBold(true);
-    painter.setFont(unscaledFont(bold));
-    painter.setPen(m_look.text);
-    const double titleHeight = QFontMetricsF(bold).height() + dpi_scaled(4);
-    painter.drawText(QRectF(0, 0, size.width(), titleHeight), Qt::AlignLeft | Qt::AlignTop,
-                     painter.fontMetrics().elidedText(title(), Qt::ElideMiddle, int(size.width())));
-    const double legendHeight = m_legend->heightFor(int(size.width()));
-    m_legend->paint(painter, {0, titleHeight, size.width(), legendHeight}, m_look.text);
-    return titleHeight + legendHeight + dpi_scaled(4);
-}
-
-double StatisticsPlot::noteHeight(QPainter& painter, const QSizeF& size) const
-{
-    if (m_note.isEmpty() || isEmpty())
-        return 0;
-    painter.setFont(unscaledFont(m_noteLabel->font()));
-    const QRectF all({0, 0}, size);
-    return painter.boundingRect(all, kNoteFlags, joined(note(), m_method)).height() + dpi_scaled(4);
-}
-
-void StatisticsPlot::paintNote(QPainter& painter, const QRectF& rectangle) const
-{
-    painter.setFont(unscaledFont(m_noteLabel->font()));
-    painter.setPen(m_look.text);
-    painter.drawText(rectangle.adjusted(0, dpi_scaled(4), 0, 0), kNoteFlags,
-                     joined(note(), m_method));
-}
-
-void StatisticsPlot::paintLight(QPainter& painter, const QRectF& rectangle)
-{
-    const double scale = painter.device()->logicalDpiX() / double(logicalDpiX());
-    const QSizeF size = rectangle.size() / scale;
-    painter.save();
-    painter.translate(rectangle.topLeft());
-    painter.scale(scale, scale);
-    painter.fillRect(QRectF({0, 0}, size), m_look.paper);
-    const double head = paintHead(painter, size);
-    const double foot = noteHeight(painter, size);
-    const double rest = size.height() - head - foot;
-    if (isEmpty()) {
-        painter.drawText(QRectF(0, head, size.width(), rest), Qt::AlignCenter | Qt::TextWordWrap,
-                         m_empty);
-        painter.restore();
-        return;
-    }
-    for (PlotPanel* const panel : m_panels)
-        panel->fitToPaper({size.width(), heightOf(*panel, rest)});
-    alignPanels();
-    paintNote(painter, {0, size.height() - foot, size.width(), foot}); // of what is seen now
-    painter.restore();
-    const QwtPlotRenderer renderer;
-    double top = head;
-    for (PlotPanel* const panel : m_panels) {
-        const double height = heightOf(*panel, rest);
-        renderer.render(
-            panel, &painter,
-            {rectangle.left(), rectangle.top() + top * scale, rectangle.width(), height * scale});
-        top += height;
-    }
-}
-
 void StatisticsPlot::paint(QPainter& painter, const QRectF& rectangle)
 {
     refill(PlotLook::onPaper());
-    paintLight(painter, rectangle);
+    paintOnPaper(*this, painter, rectangle);
     refill(PlotLook::onScreen(palette()));
     for (PlotPanel* const panel : m_panels)
         panel->fitToScreen();
-    alignPanels();
+    panels::align(m_panels);
     replotAll();
 }
 

@@ -63,10 +63,16 @@ public:
     [[nodiscard]] QString title() const;
     /// The sentences below the data; with them, how many results lie outside of the picture.
     [[nodiscard]] QString note() const;
+    /// With how figures are computed, which is a tool tip on the screen.
+    [[nodiscard]] QString noteOnPaper() const;
     [[nodiscard]] const PlotLegend& legend() const { return *m_legend; }
     [[nodiscard]] const std::vector<PlotPanel*>& panels() const { return m_panels; }
     /// Whether there is nothing to show.
     [[nodiscard]] bool isEmpty() const { return !m_empty.isEmpty(); }
+    /// Why.
+    [[nodiscard]] const QString& emptyText() const { return m_empty; }
+    /// Its present colours.
+    [[nodiscard]] const PlotLook& look() const { return m_look; }
 
     // What its mouse asks for.
     void setView(PlotPanel& panel, const PlotPanel::View& view);
@@ -90,7 +96,6 @@ protected:
     virtual void fill() = 0;
 
     [[nodiscard]] PlotPanel& panel(int place) const { return *m_panels[std::size_t(place)]; }
-    [[nodiscard]] const PlotLook& look() const { return m_look; }
     [[nodiscard]] const PlotSelection& selection() const { return m_selection; }
     void addLegend(PlotLegend::Sign sign, const QColor& color, const QString& text)
     {
@@ -116,21 +121,13 @@ private:
     void refill(const PlotLook& look);
     void updateParts();
     void updateNote();
-    void alignPanels();
     void shareHeight();
-    /// Of a panel, when all have so much together: the same for each canvas.
-    [[nodiscard]] double heightOf(const PlotPanel& panel, double all) const;
     void replotAll();
     void setViews(bool isUsual);
     void zoomAll(double factor);
     void pan(double right, double down);
-    [[nodiscard]] bool isWholeShown() const;
     [[nodiscard]] std::optional<PlotItem::Hit> hitAt(const PlotPanel& panel,
                                                      const QPointF& at) const;
-    void paintLight(QPainter& painter, const QRectF& rectangle);
-    double paintHead(QPainter& painter, const QSizeF& size) const;
-    [[nodiscard]] double noteHeight(QPainter& painter, const QSizeF& size) const;
-    void paintNote(QPainter& painter, const QRectF& rectangle) const;
 
     PlotData m_data;
     PlotLook m_look;

@@ -28,6 +28,8 @@ public:
     /// and number
     virtual void showOnly(const QString& what, std::vector<PointName> points) = 0;
 
+    /// Whether it does; the user may have taken it back.
+    [[nodiscard]] virtual bool isShowingOnly() const = 0;
     /// Takes `showOnly` back.
     virtual void showOthersAgain() = 0;
 };

@@ -27,6 +27,7 @@
 #include "views/tables/SurveyTableColumns.h"
 
 #include <QAbstractTableModel>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
@@ -118,6 +119,7 @@ public:
         m_host.commands().execute(QStringLiteral("Survey View"));
         paintColors();
         m_host.commands().execute(QStringLiteral("Design View"));
+        paintStatistics();
         paintWorkingPlace();
         paintColumns();
         paintPoint();
@@ -231,6 +233,22 @@ private:
         table->scrollTo(table->currentIndex(), QAbstractItemView::PositionAtCenter);
         letItPaint();
         save(m_frame.grab(), "guide-problems");
+    }
+
+    /// The days, and what is still left.
+    void paintStatistics()
+    {
+        const QString name = QStringLiteral("Statistics");
+        m_host.commands().execute(QStringLiteral("Zoom to All"));
+        m_host.windows().activate(name);
+        const QWidget& window = *m_host.windows().findAs<QWidget>(name);
+        window.findChild<QComboBox*>(QStringLiteral("keys"))->setCurrentIndex(1);      // days
+        window.findChild<QComboBox*>(QStringLiteral("plotKinds"))->setCurrentIndex(5); // progress
+        letItPaint();
+        save(m_frame.grab(), "guide-statistics");
+        window.findChild<QComboBox*>(QStringLiteral("keys"))->setCurrentIndex(0);
+        window.findChild<QComboBox*>(QStringLiteral("plotKinds"))->setCurrentIndex(0);
+        m_host.windows().activate(QStringLiteral("Survey Data List"));
     }
 
     /// The float solutions of all lines, the least accurate first and selected.

@@ -20,6 +20,9 @@ public:
 
     /// Called after the window was brought to the front.
     virtual void onActivated() {}
+
+    /// Called after the user has closed the window. It stays there, and may be shown again.
+    virtual void onClosed() {}
 };
 
 /// The interface that the window components of this program implement.

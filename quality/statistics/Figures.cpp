@@ -113,11 +113,6 @@ double Figures::shareWithinLimits() const
                    first(Verdict::WithinLimits) + first(Verdict::Failed));
 }
 
-double Figures::shareFailed() const
-{
-    return shareOf(first(Verdict::Failed), first(Verdict::WithinLimits) + first(Verdict::Failed));
-}
-
 double Figures::shareFixed() const
 {
     return shareOf(fixed, first());

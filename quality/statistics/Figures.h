@@ -41,16 +41,16 @@ struct Figures
     [[nodiscard]] std::size_t all() const;
     [[nodiscard]] std::size_t all(Verdict verdict) const;
 
-    /// Of the first measurements that are judged, and of all first measurements.
+    /// Of the first measurements that are judged.
     [[nodiscard]] double shareWithinLimits() const;
-    [[nodiscard]] double shareFailed() const;
+    /// Of all first measurements.
     [[nodiscard]] double shareFixed() const;
     /// In one of the three differences; see `statistics::hasShift`.
     [[nodiscard]] bool hasShift() const;
 
-    /// A line's verdict: it has a design and a result for each point of it; it has first
-    /// measurements, and all are within limits.
+    /// It has a design, and a result for each point of it.
     [[nodiscard]] bool isAllStaked() const;
+    /// It has first measurements, and all are within limits.
     [[nodiscard]] bool isAllWithinLimits() const;
 };
 

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 namespace {
 
@@ -130,13 +131,45 @@ private Q_SLOTS:
             const auto hit = itemOf(*plot).hit(placeOf(panel, distance, 0.5), panel.maps(), 2);
             return hit ? hit->places : Places();
         };
-        QCOMPARE(hitAt(0.4995), Places{0});
-        QCOMPARE(hitAt(0.509), Places{1});
+        QCOMPARE(hitAt(0.495), Places{0});
+        QCOMPARE(hitAt(0.507), Places{1});
         QString legend;
         for (const PlotLegend::Entry& entry : plot->legend().entries())
             legend += entry.text + QLatin1Char('\n');
         QVERIFY2(legend.contains("not farther than the limit: 2\nfarther: 1"_q),
                  qPrintable(legend));
+    }
+
+    void aWideClassTellsWhatIsBeyondTheLimit()
+    {
+        PlottedSurvey survey;
+        survey.stake("1", 0.3, 0);
+        survey.stake("2", 0.6, 0);
+        survey.stake("3", 0.2, 0);
+        for (int i = 4; i < 7; ++i)
+            survey.stake(std::to_string(i), 5000, 0);
+        const auto plot = shownPlot("distances", survey.data());
+        const PlotPanel& panel = *plot->panels().front();
+        const auto placesAt = [&](double count) {
+            return itemOf(*plot).hit(placeOf(panel, 50, count), panel.maps(), 2)->places;
+        };
+        QCOMPARE(placesAt(1.5), (Places{0, 2}));
+        QCOMPARE(placesAt(2.5), Places{1});
+        for (const double tick : panel.axisScaleDiv(QwtPlot::yLeft).ticks(QwtScaleDiv::MajorTick))
+            QCOMPARE(tick, std::round(tick)); // results are counted
+    }
+
+    void atFirstAlmostAllIsSeen()
+    {
+        PlottedSurvey survey;
+        std::mt19937 random(5);
+        std::normal_distribution<double> spread(0, 0.1);
+        for (int i = 0; i < 3000; ++i)
+            survey.stake(std::to_string(10000 + i), 0, 0).elevation += i < 30 ? 50 : spread(random);
+        const auto plot = shownPlot("heights", survey.data());
+        const auto view = plot->panels().front()->view();
+        QVERIFY(view.y.maxValue() < 1);
+        QVERIFY(itemOf(*plot).countOutside(view.x, view.y) < 150);
     }
 
     void heightsStandInTheOrderOfTheStations()

@@ -32,6 +32,7 @@ public:
     {
         only = what + QLatin1String(": ") + QString::number(points.size());
     }
+    [[nodiscard]] bool isShowingOnly() const override { return !only.isEmpty(); }
     void showOthersAgain() override { only.clear(); }
     void followLine(const QString& line) override { followed << line; }
 

@@ -20,6 +20,7 @@ GroupNames::GroupNames(CustomTableWidget& table) : QTableView(&table), m_table(t
     setAlternatingRowColors(table.alternatingRowColors());
     setShowGrid(table.showGrid());
     setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle); // the beginning or the end tells a name from others
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(table.verticalScrollMode());

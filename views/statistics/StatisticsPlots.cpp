@@ -94,11 +94,11 @@ void StatisticsPlots::addTools(QHBoxLayout& bar)
     });
     connect(addTool(bar, "plotAll", "map_zoom_all", tr("Show everything in the plot")),
             &QToolButton::clicked, this, [this] { m_plot->showAll(); });
-    connect(addTool(bar, "plotSave", "document-save",
-                    tr("Save the plot as a picture (PNG, SVG) or PDF")),
-            &QToolButton::clicked, this, &StatisticsPlots::save);
-    connect(addTool(bar, "plotCopy", "edit-copy", tr("Copy the plot as a picture")),
-            &QToolButton::clicked, this, &StatisticsPlots::copy);
+    m_save = addTool(bar, "plotSave", "document-save",
+                     tr("Save the plot as a picture (PNG, SVG) or PDF"));
+    connect(m_save, &QToolButton::clicked, this, &StatisticsPlots::save);
+    m_copy = addTool(bar, "plotCopy", "edit-copy", tr("Copy the plot as a picture"));
+    connect(m_copy, &QToolButton::clicked, this, &StatisticsPlots::copy);
 }
 
 void StatisticsPlots::choose(int kind)
@@ -121,6 +121,7 @@ void StatisticsPlots::makePlot()
                                          : StatisticsPlot::Mouse::Select);
     m_plot->setData(m_data);
     m_plot->setSelected(m_selected);
+    showState();
     connect(m_plot, &StatisticsPlot::selected, this,
             [this](const std::vector<std::uint32_t>& places) {
                 m_selected = places;
@@ -134,6 +135,13 @@ void StatisticsPlots::setData(PlotData shown)
     m_data = std::move(shown);
     m_selected.clear();
     m_plot->setData(m_data);
+    showState();
+}
+
+void StatisticsPlots::showState()
+{
+    for (QToolButton* const button : {m_save, m_copy})
+        button->setEnabled(!m_plot->isEmpty());
 }
 
 void StatisticsPlots::setSelected(std::vector<std::uint32_t> places)

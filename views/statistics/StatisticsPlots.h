@@ -35,6 +35,7 @@ Q_SIGNALS:
 
 private:
     void addTools(QHBoxLayout& bar);
+    void showState();
     QToolButton* addTool(QHBoxLayout& bar, const char* name, const char* icon, const QString& tip);
     void choose(int kind);
     void makePlot();
@@ -43,6 +44,8 @@ private:
 
     IDesktopHost& m_host; // outlives this
     QComboBox* m_kinds;
+    QToolButton* m_save = nullptr;
+    QToolButton* m_copy = nullptr;
     QToolButton* m_zoom = nullptr; ///< down: a drag zooms, else it selects
     QVBoxLayout* m_rows;
     StatisticsPlot* m_plot = nullptr;

@@ -1,11 +1,14 @@
 #include "views/statistics/StatisticsTableModel.h"
 
 #include "lum_desktop_sdkx/controls/FaultColors.h"
+#include "lum_sdk/DpiScale.h"
 #include "reports/StatisticsFigures.h"
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QPalette>
+#include <QPixmap>
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +17,12 @@
 
 using statistics::GroupKey;
 using statistics::KeyValue;
+
+namespace {
+
+constexpr int kTickSize = 16;
+
+} // namespace
 
 void StatisticsTableModel::setGroups(std::shared_ptr<const statistics::SurveySample> sample,
                                      Key key)
@@ -45,6 +54,7 @@ void StatisticsTableModel::setGroups(std::shared_ptr<const statistics::SurveySam
             m_groups.push_back(groupOf(std::move(figures), stakedUntilThen, std::move(name)));
         }
     }
+    m_hasTicks = std::ranges::any_of(m_groups, &Group::isInOrder);
     sort();
     endResetModel();
 }
@@ -53,7 +63,9 @@ StatisticsTableModel::Group StatisticsTableModel::groupOf(statistics::Figures fi
                                                           std::size_t stakedUntilThen,
                                                           QString name) const
 {
-    Group group{std::move(figures), stakedUntilThen, std::move(name), {}};
+    const bool isInOrder =
+        figures.isAllWithinLimits() && (!figures.hasDesign || figures.isAllStaked());
+    Group group{std::move(figures), stakedUntilThen, std::move(name), isInOrder, {}};
     group.texts.resize(m_columns.size());
     for (std::size_t i = 0; i < m_columns.size(); ++i) {
         if (m_columns[i].text != nullptr)
@@ -196,12 +208,28 @@ QString StatisticsTableModel::text(const Group& group, int column) const
 QString StatisticsTableModel::toolTip(const QModelIndex& index) const
 {
     const Group& group = at(index.row());
+    if (index.column() == 0 && group.isInOrder)
+        return group.name + QLatin1Char('\n') +
+               (group.figures.hasDesign ? tr("All points are staked and within the limits")
+                                        : tr("All results are within the limits"));
     if (index.column() == 0 || text(group, index.column()).isEmpty())
         return group.name;
     const QString figure =
         tr("%1: %2 = %3")
             .arg(group.name, columnAt(index.column()).captionText(), text(group, index.column()));
     return hasWorst(index) ? figure + QLatin1Char('\n') + tr("Click to go to this result") : figure;
+}
+
+/// The names of groups without one begin at the same place.
+QVariant StatisticsTableModel::tick(const Group& group) const
+{
+    if (group.isInOrder)
+        return QIcon::fromTheme(QStringLiteral("dialog-ok-apply"));
+    if (!m_hasTicks)
+        return {};
+    QPixmap blank(dpi_scaled(kTickSize), dpi_scaled(kTickSize));
+    blank.fill(Qt::transparent);
+    return QIcon(blank);
 }
 
 QVariant StatisticsTableModel::background(const Group& group, int column) const
@@ -246,6 +274,8 @@ QVariant StatisticsTableModel::data(const QModelIndex& index, int role) const
         return text(group, column);
     case Qt::TextAlignmentRole:
         return headerData(column, Qt::Horizontal, role);
+    case Qt::DecorationRole:
+        return column == 0 ? tick(group) : QVariant();
     case Qt::BackgroundRole:
         return background(group, column);
     case Qt::ForegroundRole:

@@ -13,7 +13,8 @@
 #include <vector>
 
 /// The groups of a survey's results with their figures, a row each; above them, in any order, the
-/// figures of all results. Numbers look as in the workbook of the statistics.
+/// figures of all results. Numbers look as in the workbook of the statistics. Groups that are in
+/// order have a tick.
 ///
 /// Rows may be looked at when the results have changed; members and worst results may not.
 class StatisticsTableModel final : public QAbstractTableModel
@@ -58,6 +59,7 @@ private:
         statistics::Figures figures;
         std::size_t stakedUntilThen = 0;
         QString name;
+        bool isInOrder = false; ///< nothing of its design is left, all results are within limits
         std::vector<QString> texts; ///< of the columns that are no numbers, which name results
     };
 
@@ -69,6 +71,7 @@ private:
     [[nodiscard]] double number(const Group& group, int column) const;
     [[nodiscard]] QString text(const Group& group, int column) const;
     [[nodiscard]] QString toolTip(const QModelIndex& index) const;
+    [[nodiscard]] QVariant tick(const Group& group) const;
     [[nodiscard]] QVariant background(const Group& group, int column) const;
     [[nodiscard]] bool hasWorst(const QModelIndex& index) const;
     [[nodiscard]] const StatisticsColumn& columnAt(int column) const;
@@ -80,6 +83,7 @@ private:
     std::vector<std::uint32_t> m_all; ///< the places of all results
     std::vector<Group> m_groups;
     Group m_totals;
+    bool m_hasTicks = false;         ///< a group is in order
     std::vector<std::size_t> m_rows; ///< the group of each row below the totals
     std::span<const StatisticsColumn> m_columns = statisticsColumns(false);
     int m_sortColumn = -1;

@@ -6,64 +6,42 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
-#include "lum_desktop_sdkx/ICoordTransformHelper.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
-#include "lum_desktop_sdkx/IWindowRegistry.h"
 #include "lum_sdk/DpiScale.h"
 #include "lum_sdk/events/EventNames.h"
-#include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/GroupedNumber.h"
+#include "lum_sdk/ShortenedText.h"
 #include "lum_sdk/Text.h"
-#include "map/ui/PointHighlight.h"
 #include "project/DataProcessDataManager.h"
-#include "project/IPointList.h"
 #include "project/OwnFile.h"
 #include "project/ProjectPlace.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
-#include "protocol/StatusKeys.h"
 #include "quality/ResultCsv.h"
-#include "reports/StatisticsFigures.h"
+#include "views/statistics/GroupKeyBox.h"
 #include "views/statistics/GroupNames.h"
 #include "views/statistics/StatisticsPlots.h"
 #include "views/statistics/StatisticsTableModel.h"
 #include "views/statistics/StatisticsWidths.h"
 
 #include <QAction>
-#include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QPolygonF>
 #include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <tuple>
+#include <utility>
 
 namespace {
 
-using statistics::GroupKey;
-using statistics::ResultKind;
-
 constexpr int kMargin = 4;
-constexpr std::size_t kNamed = 3; // groups that are named, not counted
-
-struct ChoiceOfKey
-{
-    const char* name; ///< in settings
-    StatisticsTableModel::Key key;
-};
-
-constexpr std::array kKeys{
-    ChoiceOfKey{"line", GroupKey::Line},   ChoiceOfKey{"day", GroupKey::Day},
-    ChoiceOfKey{"rover", GroupKey::Rover}, ChoiceOfKey{"surveyor", GroupKey::Surveyor},
-    ChoiceOfKey{"base", GroupKey::Base},   ChoiceOfKey{"kind", GroupKey::PointKind},
-    ChoiceOfKey{"all", std::nullopt},
-};
+constexpr int kLongestName = 40; // of what is shown alone
 
 DataProcessDataManager& manager()
 {
@@ -75,32 +53,14 @@ QString openProject()
     return ProjectState::hasData() ? ProjectState::place().folder : QString();
 }
 
-int chosenKey()
-{
-    const auto name = get_system_ini_parameter().dictionary().text(settings::kStatisticsGroups);
-    const auto found =
-        std::ranges::find_if(kKeys, [&](const ChoiceOfKey& key) { return name == key.name; });
-    return found == kKeys.end() ? 0 : static_cast<int>(found - kKeys.begin());
-}
-
-/// Calls `run` with each table of points that there is.
-template <class Run>
-void withList(IDesktopHost& host, const char* name, Run run)
-{
-    if (auto* const list = host.windows().findAs<IPointList>(QLatin1String(name)))
-        run(*list);
-}
-
-constexpr const char* kResults = "Survey Data List";
-constexpr const char* kDesign = "Design Data List";
-
 } // namespace
 
 StatisticsWindow::StatisticsWindow(const char* config, IDesktopHost* host)
     : m_host(*host), m_parameters(desktop::componentParameters(config)),
       m_model(new StatisticsTableModel(this)), m_table(new CustomTableWidget(this)),
-      m_plots(new StatisticsPlots(*host, this)), m_keys(new QComboBox(this)),
-      m_empty(new QLabel(this)),
+      m_plots(new StatisticsPlots(*host, this)), m_keys(new GroupKeyBox(this)),
+      m_only(new QLabel(this)), m_empty(new QLabel(this)), m_chosen(*m_model),
+      m_links(*host, m_data),
       m_subscription(*this,
                      lum::eventNames({events::kUpdateSystemStatus, events::kProjectModified,
                                       events::kRefreshDesignLayer, events::kRefreshSurveyLayer,
@@ -160,12 +120,14 @@ void StatisticsWindow::addBar(QBoxLayout& rows)
     auto* const caption = new QLabel(tr("&Group by"), this);
     caption->setBuddy(m_keys);
     bar->addWidget(caption);
-    addKeys();
     bar->addWidget(m_keys);
     m_showAll = addButton(*bar, "showAll", "edit-clear-all", tr("Show &All"),
-                          tr("Show all points again in the tables and in the plot"));
+                          tr("Show all points again in the tables and in the plot (Esc)"));
     connect(m_showAll, &QToolButton::clicked, this, &StatisticsWindow::showAll);
-    bar->addStretch(1);
+    m_only->setObjectName(QStringLiteral("only"));
+    m_only->setTextFormat(Qt::PlainText);
+    m_only->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a narrow window cuts it
+    bar->addWidget(m_only, 1);
     m_save = addButton(*bar, "save", "document-export", tr("&Save as CSV..."),
                        tr("Write the rows as they are shown"));
     connect(m_save, &QToolButton::clicked, this, &StatisticsWindow::save);
@@ -186,19 +148,10 @@ QToolButton* StatisticsWindow::addButton(QBoxLayout& bar, const char* name, cons
     return button;
 }
 
-void StatisticsWindow::addKeys()
-{
-    m_keys->setObjectName(QStringLiteral("keys"));
-    for (const ChoiceOfKey& choice : kKeys)
-        m_keys->addItem(choice.key ? statisticsKeyName(*choice.key) : tr("All Together"));
-    m_keys->setCurrentIndex(chosenKey());
-}
-
 void StatisticsWindow::connectParts()
 {
     connect(&m_renewal, &QTimer::timeout, this, &StatisticsWindow::renew);
-    connect(m_keys, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            &StatisticsWindow::setKey);
+    connect(m_keys, &GroupKeyBox::keyChanged, this, &StatisticsWindow::followKey);
     connect(m_table, &QAbstractItemView::clicked, this, &StatisticsWindow::goFrom);
     connect(m_names, &GroupNames::chosen, this, &StatisticsWindow::chooseRows);
     connect(m_table, &CustomTableWidget::reachedByKey, this, &StatisticsWindow::chooseRows);
@@ -207,7 +160,10 @@ void StatisticsWindow::connectParts()
     connect(m_table, &CustomTableWidget::contextMenuRequestedAt, this,
             [this](const QModelIndex& /*cell*/, const QPoint& at) { showMenu(at); });
     connect(m_plots, &StatisticsPlots::selected, this, &StatisticsWindow::selectInPlot);
-    connect(m_plots, &StatisticsPlots::activated, this, &StatisticsWindow::zoomTo);
+    connect(m_plots, &StatisticsPlots::activated, this, [this](std::uint32_t place) {
+        if (m_data.isCurrent())
+            m_links.zoomTo(place);
+    });
     auto* const copies = new QAction(this);
     copies->setShortcut(QKeySequence::Copy);
     copies->setShortcutContext(Qt::WidgetShortcut);
@@ -220,7 +176,15 @@ void StatisticsWindow::connectParts()
 void StatisticsWindow::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    showState(); // a table may show all points again
     renewSoon();
+}
+
+void StatisticsWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && m_showAll->isEnabled())
+        return showAll();
+    QWidget::keyPressEvent(event);
 }
 
 void StatisticsWindow::handleEvent(const char* eventName, const char* payload, int /*reserved*/)
@@ -254,7 +218,7 @@ void StatisticsWindow::followProject()
 /// A choice is followed up behind other windows, too: the tables show it.
 void StatisticsWindow::renewSoon()
 {
-    const bool isWanted = isVisible() || !m_chosen.empty();
+    const bool isWanted = isVisible() || !m_chosen.isEmpty();
     if (isWanted && ProjectState::hasData() && !m_data.isCurrent())
         m_renewal.start();
 }
@@ -267,12 +231,8 @@ void StatisticsWindow::renew()
     showGroups();
 }
 
-void StatisticsWindow::setKey(int place)
+void StatisticsWindow::followKey()
 {
-    SystemParameter& settings = get_system_ini_parameter();
-    settings.dictionary().set(settings::kStatisticsGroups,
-                              kKeys[static_cast<std::size_t>(place)].name);
-    settings.save(); // logs a failure; the choice is then kept for this session only
     takeChoiceBack();
     if (m_data.isCurrent())
         showGroups();
@@ -281,16 +241,18 @@ void StatisticsWindow::setKey(int place)
 /// Groups anew. What was chosen stays.
 void StatisticsWindow::showGroups()
 {
-    m_model->setGroups(m_data.sample(),
-                       kKeys[static_cast<std::size_t>(m_keys->currentIndex())].key);
+    m_model->setGroups(m_data.sample(), m_keys->key());
     m_widths->fit();
     m_names->follow();
-    std::erase_if(m_chosen, [this](const auto& value) { return m_model->rowOf(value) < 0; });
-    for (const statistics::KeyValue& value : m_chosen)
-        m_table->selectionModel()->select(m_model->index(m_model->rowOf(value), 0),
+    const bool wasChosen = !m_chosen.isEmpty();
+    m_chosen.follow();
+    for (const int row : m_chosen.rows())
+        m_table->selectionModel()->select(m_model->index(row, 0),
                                           QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    if (!m_chosen.empty() && !m_isSelection)
-        applyChoice();
+    if (!m_chosen.isEmpty() && !m_isSelection)
+        m_links.renew(choice());
+    else if (wasChosen && !m_isSelection)
+        takeChoiceBack();
     showPlot();
     showState();
 }
@@ -305,7 +267,11 @@ void StatisticsWindow::showState()
                          ? tr("There is nothing to count yet. Import a design and survey results: "
                               "drop their files here, or use the menu Exchange.")
                          : tr("No project is open. Open one to see how good its results are."));
-    m_showAll->setEnabled(!m_chosen.empty() || m_isSelection);
+    m_showAll->setEnabled(!m_chosen.isEmpty() || m_isSelection);
+    const QString only = m_links.shown();
+    m_only->setText(only.isEmpty() ? QString()
+                                   : tr("Only %1").arg(lum::shortened(only, kLongestName)));
+    m_only->setToolTip(Qt::convertFromPlainText(only, Qt::WhiteSpaceNormal));
     m_save->setEnabled(m_model->rowCount() > 0);
 }
 
@@ -318,7 +284,7 @@ void StatisticsWindow::followPoint(const PointName& point)
         return std::tie(result.point->lineNumber, result.point->pointNumber) <
                std::tie(point.line, point.point);
     });
-    Places places;
+    std::vector<std::uint32_t> places;
     if (found != results.end() && found->point->lineNumber == point.line &&
         found->point->pointNumber == point.point)
         places.push_back(static_cast<std::uint32_t>(found - results.begin()));
@@ -334,32 +300,20 @@ void StatisticsWindow::goFrom(const QModelIndex& cell)
     const auto worst = m_model->worstAt(cell);
     chooseRows();
     if (worst)
-        goTo(*worst);
+        m_links.goTo(*worst);
 }
 
+/// Where all results are chosen, their row stays selected, to be copied.
 void StatisticsWindow::chooseRows()
 {
     if (!m_data.isCurrent())
         return;
-    std::vector<statistics::KeyValue> chosen;
-    bool isAll = false;
-    for (const int row : m_table->selectedRows()) {
-        if (const auto group = m_model->groupAt(row))
-            chosen.push_back(m_model->value(*group));
-        else
-            isAll = true;
-    }
-    if (isAll || chosen.empty()) { // the row stays selected, to be copied
-        takeChoiceBack();
-        showPlot();
-        return showState();
-    }
-    if (chosen == m_chosen && !m_isSelection)
-        return;
-    m_chosen = std::move(chosen);
+    m_chosen.choose(m_table->selectedRows());
     m_isSelection = false;
-    applyChoice();
-    mark(placesOf(chosenGroups()));
+    if (m_chosen.isEmpty())
+        m_links.showAllAgain();
+    else
+        m_links.showOnly(choice());
     showPlot();
     showState();
 }
@@ -373,176 +327,44 @@ void StatisticsWindow::showAll()
     showState();
 }
 
-/// The tables show all points again, and the map marks none.
 void StatisticsWindow::takeChoiceBack()
 {
-    if (m_chosen.empty() && !m_isSelection)
-        return;
     m_chosen.clear();
     m_isSelection = false;
-    withList(m_host, kResults, [](IPointList& list) { list.showOthersAgain(); });
-    withList(m_host, kDesign, [](IPointList& list) { list.showOthersAgain(); });
-    PointHighlight::clear(m_host);
+    m_links.showAllAgain();
 }
 
-void StatisticsWindow::applyChoice()
+StatisticsLinks::Shown StatisticsWindow::choice() const
 {
-    const std::vector<std::size_t> groups = chosenGroups();
-    const Places places = placesOf(groups);
-    showOnly(nameOf(groups), places, designOf(groups, places));
+    return {m_chosen.name(), m_chosen.places(), m_chosen.designNames(manager().designPoints())};
 }
 
 void StatisticsWindow::showPlot()
 {
     PlotData shown = m_data.all();
-    const std::vector<std::size_t> groups = chosenGroups();
-    if (!groups.empty()) {
-        shown.places = placesOf(groups);
-        shown.subject = nameOf(groups);
-    }
-    const GroupKey key = m_model->key().value_or(GroupKey::Rover);
-    if (!groups.empty() && (key == GroupKey::Line || key == GroupKey::PointKind)) {
-        shown.design = {};
-        for (const std::size_t group : groups) {
-            shown.design.designed += m_model->design(group).designed;
-            shown.design.left += m_model->design(group).left;
-        }
+    if (!m_chosen.isEmpty()) {
+        shown.places = m_chosen.places();
+        shown.subject = m_chosen.name();
+        shown.design = m_chosen.designCount().value_or(shown.design);
     }
     m_plots->setData(std::move(shown));
 }
 
-std::vector<std::size_t> StatisticsWindow::chosenGroups() const
-{
-    std::vector<std::size_t> groups;
-    groups.reserve(m_chosen.size());
-    for (const statistics::KeyValue& value : m_chosen) {
-        if (const auto group = m_model->groupAt(m_model->rowOf(value)))
-            groups.push_back(*group);
-    }
-    return groups;
-}
-
-StatisticsWindow::Places StatisticsWindow::placesOf(std::span<const std::size_t> groups) const
-{
-    Places places;
-    for (const std::size_t group : groups) {
-        const auto members = m_model->members(group);
-        places.insert(places.end(), members.begin(), members.end());
-    }
-    std::ranges::sort(places);
-    return places;
-}
-
-QString StatisticsWindow::nameOf(std::span<const std::size_t> groups) const
-{
-    if (groups.size() > kNamed)
-        return tr("%1 groups").arg(lum::groupedNumber(groups.size()));
-    QStringList names;
-    for (const std::size_t group : groups)
-        names << m_model->name(group);
-    return names.join(QLatin1String(", "));
-}
-
-/// The design of lines and kinds, with what is left of it; of other groups what they have staked.
-std::vector<PointName> StatisticsWindow::designOf(std::span<const std::size_t> groups,
-                                                  const Places& places) const
-{
-    const GroupKey key = m_model->key().value_or(GroupKey::Rover);
-    if (key != GroupKey::Line && key != GroupKey::PointKind)
-        return namesOf(places, true);
-    const auto isChosen = [&](const auto& judge) {
-        return std::ranges::any_of(groups,
-                                   [&](std::size_t group) { return judge(m_model->value(group)); });
-    };
-    std::vector<PointName> names;
-    for (const auto& [number, line] : manager().designPoints()) {
-        if (key == GroupKey::Line &&
-            !isChosen([&](const statistics::KeyValue& value) { return value.text == number; }))
-            continue;
-        for (const DesignPoint& point : line) {
-            const std::int64_t kind = point.type == 0 ? 0 : 1;
-            if (key == GroupKey::Line ||
-                isChosen([&](const statistics::KeyValue& value) { return value.number == kind; }))
-                names.push_back({point.lineNumber, point.pointNumber});
-        }
-    }
-    return names;
-}
-
-// --- the other windows ---
-
-void StatisticsWindow::selectInPlot(const Places& places)
+void StatisticsWindow::selectInPlot(const std::vector<std::uint32_t>& places)
 {
     if (!m_data.isCurrent())
         return;
     if (places.size() == 1)
-        return goTo(places.front());
-    if (!places.empty()) {
-        m_isSelection = true;
-        showOnly(tr("%1 results of the plot").arg(lum::groupedNumber(places.size())), places,
-                 namesOf(places, true));
-        mark(places);
-    } else if (m_isSelection && !m_chosen.empty()) {
-        m_isSelection = false;
-        applyChoice();
-        mark(placesOf(chosenGroups()));
-    } else if (m_isSelection) {
-        takeChoiceBack();
-    }
+        return m_links.goTo(places.front());
+    const bool wasSelection = std::exchange(m_isSelection, !places.empty());
+    if (m_isSelection)
+        m_links.showOnly(
+            {tr("%1 results of the plot").arg(lum::groupedNumber(places.size())), places, {}});
+    else if (wasSelection && !m_chosen.isEmpty())
+        m_links.showOnly(choice());
+    else if (wasSelection)
+        m_links.showAllAgain();
     showState();
-}
-
-void StatisticsWindow::showOnly(const QString& what, const Places& places,
-                                std::vector<PointName> design)
-{
-    withList(m_host, kResults,
-             [&](IPointList& list) { list.showOnly(what, namesOf(places, false)); });
-    withList(m_host, kDesign, [&](IPointList& list) { list.showOnly(what, std::move(design)); });
-}
-
-std::vector<PointName> StatisticsWindow::namesOf(const Places& places, bool isOfStaked) const
-{
-    std::vector<PointName> names;
-    names.reserve(places.size());
-    for (const std::uint32_t place : places) {
-        const statistics::Observation& result = m_data.all().result(place);
-        if (!isOfStaked || result.kind == ResultKind::Staked)
-            names.push_back({result.point->lineNumber, result.point->pointNumber});
-    }
-    return names;
-}
-
-void StatisticsWindow::mark(const Places& places)
-{
-    const ICoordTransformHelper& helper = m_host.coordTransformHelper();
-    QPolygonF positions;
-    positions.reserve(static_cast<int>(places.size()));
-    for (const std::uint32_t place : places) {
-        const SurveyPoint& point = *m_data.all().result(place).point;
-        positions << helper.projectToMap(point.north, point.east);
-    }
-    PointHighlight::markGroup(m_host, positions);
-}
-
-void StatisticsWindow::goTo(std::uint32_t place)
-{
-    const SurveyPoint& result = *m_data.all().result(place).point;
-    const QString line = lum::toQString(result.lineNumber);
-    const QString point = lum::toQString(result.pointNumber);
-    auto* const list = m_host.windows().findAs<IPointList>(QLatin1String(kResults));
-    if (list != nullptr)
-        list->selectPoint(line, point);
-    else
-        m_host.eventManager().publish(events::kSurveyPointSelected,
-                                      payload::selectedPoint(point, line).constData(), 0);
-}
-
-void StatisticsWindow::zoomTo(std::uint32_t place)
-{
-    if (!m_data.isCurrent())
-        return;
-    goTo(place);
-    PointHighlight::zoomTo(m_host, *m_data.all().result(place).point);
 }
 
 // --- handing over ---

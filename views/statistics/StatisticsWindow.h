@@ -5,20 +5,21 @@
 #include "lum_sdk/events/EventSubscription.h"
 #include "lum_sdk/events/IEventManager.h"
 #include "model/PointName.h"
+#include "views/statistics/ChosenGroups.h"
 #include "views/statistics/StatisticsData.h"
+#include "views/statistics/StatisticsLinks.h"
 
 #include <QTimer>
 #include <QWidget>
 
 #include <cstdint>
-#include <span>
 #include <vector>
 
 class CustomTableWidget;
+class GroupKeyBox;
 class GroupNames;
 class IDesktopHost;
 class QBoxLayout;
-class QComboBox;
 class QLabel;
 class QModelIndex;
 class QToolButton;
@@ -41,48 +42,37 @@ public:
 
     [[nodiscard]] QWidget* widget() override { return this; }
     [[nodiscard]] IDictionary& parameters() override { return m_parameters; }
+    /// The tables show all points again.
+    void onClosed() override { showAll(); }
 
     void handleEvent(const char* eventName, const char* payload, int reserved) override;
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    using Places = std::vector<std::uint32_t>;
-
     void makeLayout();
     void addBar(QBoxLayout& rows);
     QToolButton* addButton(QBoxLayout& bar, const char* name, const char* icon, const QString& text,
                            const QString& tip);
-    void addKeys();
     void connectParts();
 
     void followProject();
     void renewSoon();
     void renew();
-    void setKey(int place);
+    void followKey();
     void showGroups();
     void showState();
     void followPoint(const PointName& point);
 
     void chooseRows();
     void goFrom(const QModelIndex& cell);
+    void selectInPlot(const std::vector<std::uint32_t>& places);
     void showAll();
     void takeChoiceBack();
-    void applyChoice();
+    [[nodiscard]] StatisticsLinks::Shown choice() const;
     void showPlot();
-    [[nodiscard]] std::vector<std::size_t> chosenGroups() const;
-    [[nodiscard]] Places placesOf(std::span<const std::size_t> groups) const;
-    [[nodiscard]] QString nameOf(std::span<const std::size_t> groups) const;
-    [[nodiscard]] std::vector<PointName> designOf(std::span<const std::size_t> groups,
-                                                  const Places& places) const;
-
-    void selectInPlot(const Places& places);
-    void showOnly(const QString& what, const Places& places, std::vector<PointName> design);
-    [[nodiscard]] std::vector<PointName> namesOf(const Places& places, bool isOfStaked) const;
-    void mark(const Places& places);
-    void goTo(std::uint32_t place);
-    void zoomTo(std::uint32_t place);
 
     void showMenu(const QPoint& at);
     void copy();
@@ -96,12 +86,14 @@ private:
     GroupNames* m_names = nullptr; ///< over its first column
     StatisticsPlots* m_plots;
     StatisticsWidths* m_widths = nullptr;
-    QComboBox* m_keys;
+    GroupKeyBox* m_keys;
+    QLabel* m_only; ///< what the tables show alone
     QToolButton* m_showAll = nullptr;
     QToolButton* m_save = nullptr;
     QWidget* m_areas = nullptr;
     QLabel* m_empty; ///< in place of table and plot
-    std::vector<statistics::KeyValue> m_chosen;
+    ChosenGroups m_chosen;
+    StatisticsLinks m_links;
     bool m_isSelection = false; ///< the tables show what was selected in the plot
     QString m_project;          ///< the folder of the one that is shown
     QTimer m_renewal;

@@ -7,6 +7,7 @@
 #include "lum_desktop_sdkx/dialogs/FileDialog.h"
 #include "lum_desktop_sdkx/dialogs/LumMessageBox.h"
 #include "lum_desktop_sdkx/IDesktopHost.h"
+#include "lum_sdk/ShortenedText.h"
 #include "lum_sdk/Text.h"
 #include "project/ui/ProjectState.h"
 #include "protocol/Events.h"
@@ -31,12 +32,9 @@ namespace {
 
 constexpr int kLongestName = 40; // of a point, in a sentence
 
-QString shortName(const std::string& number)
+QString shortName(const QString& name)
 {
-    QString text = lum::toQString(number);
-    if (text.size() > kLongestName)
-        text = text.left(kLongestName) + QStringLiteral("…");
-    return text.toHtmlEscaped();
+    return lum::shortened(name, kLongestName).toHtmlEscaped();
 }
 
 } // namespace
@@ -439,8 +437,7 @@ QString PointTableWindow::noteText() const
     if (!isHidden && m_only.isEmpty())
         return {};
     if (!isHidden)
-        return tr("Only %1. <a href=\"#\">Clear all filters</a>")
-            .arg(shortName(m_only.toStdString()));
+        return tr("Only %1. <a href=\"#\">Clear all filters</a>").arg(shortName(m_only));
     return tr("The filters hide the selected point %1. <a href=\"#\">Clear all filters</a>")
-        .arg(shortName(m_selected.point));
+        .arg(shortName(lum::toQString(m_selected.point)));
 }

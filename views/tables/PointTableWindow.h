@@ -40,6 +40,7 @@ public:
     bool followPoint(const QString& lineNumber, const QString& pointNumber) override;
     void deselect() override;
     void showOnly(const QString& what, std::vector<PointName> points) override;
+    [[nodiscard]] bool isShowingOnly() const override { return !m_only.isEmpty(); }
     void showOthersAgain() override;
 
 protected:

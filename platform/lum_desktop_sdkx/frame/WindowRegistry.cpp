@@ -155,6 +155,8 @@ ads::CDockWidget* WindowRegistry::makeDock(const FrameLayout::Window& layout, IW
     dock->setFeature(ads::CDockWidget::DockWidgetClosable, layout.isClosable);
     if (!layout.icon.isEmpty())
         dock->setIcon(QIcon::fromTheme(layout.icon));
+    QObject::connect(dock, &ads::CDockWidget::closed, window.widget(),
+                     [&window] { window.onClosed(); });
     placeDock(dock, layout);
     return dock;
 }

@@ -7,6 +7,7 @@
 #include "lum_sdk/Transform.h"
 #include "plots/StatisticsPlot.h"
 #include "protocol/Events.h"
+#include "reports/daily/DailyReport.h"
 #include "reports/ReportInput.h"
 #include "reports/StatisticsReport.h"
 #include "tests/lum_desktop_sdkx/MapMouse.h"
@@ -14,6 +15,7 @@
 #include "tests/quality/statistics/MadeSurvey.h"
 #include "tests/support/Boxes.h"
 #include "tests/support/Literals.h"
+#include "tests/support/PdfText.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/WorkbookReader.h"
 #include "views/SelectionFollower.h"
@@ -25,7 +27,9 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <array>
 #include <cmath>
+#include <functional>
 #include <random>
 
 namespace {
@@ -76,13 +80,28 @@ struct StatisticsPlace : OpenProject
     [[nodiscard]] int column(const char* caption) const
     {
         int at = 0;
-        while (model.headerData(at, Qt::Horizontal, Qt::DisplayRole) != QString::fromUtf8(caption))
+        while (this->caption(at) != QString::fromUtf8(caption))
             ++at;
         return at;
+    }
+    [[nodiscard]] QString caption(int at) const
+    {
+        return model.headerData(at, Qt::Horizontal, Qt::DisplayRole).toString();
     }
     [[nodiscard]] QString text(int row, int at) const
     {
         return model.index(row, at).data().toString();
+    }
+    /// A row in the columns that the report of a day has room for; what is blank is left out.
+    [[nodiscard]] QString reportRow(int row) const
+    {
+        QStringList cells{text(row, 0)};
+        for (const char* const caption :
+             {"Staked", "Not planned", "Within limits", "Over limit", "Within limits (%)",
+              "Mean dE (m)", "Mean dN (m)", "Mean dH (m)", "RMS 2D (m)", "95 % 2D (m)",
+              "Maximum 2D (m)", "Fixed (%)"})
+            cells << text(row, column(caption));
+        return cells.join(QLatin1Char(' ')).simplified();
     }
     void click(int row, int at = 0, Qt::KeyboardModifiers keys = {}) const
     {
@@ -95,6 +114,7 @@ struct StatisticsPlace : OpenProject
     {
         QTest::mouseClick(window.findChild<QToolButton*>(QLatin1String(button)), Qt::LeftButton);
     }
+    [[nodiscard]] QString only() const { return window.findChild<QLabel*>("only"_q)->text(); }
     [[nodiscard]] static int rows(const QWidget& pointTable)
     {
         return pointTable.findChild<QTableView*>()->model()->rowCount();
@@ -148,46 +168,44 @@ class StatisticsWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheFiguresOfTheWorkbook()
+    void showsTheFiguresOfTheWorkbookAndOfTheDailyReport()
     {
         StatisticsPlace place;
         const TestFolder folder;
-        const QString path = folder.path("figures.xlsx");
         const ReportChoice choice;
         ProgressReporter progress(nullptr);
         const basalt::Dictionary coords;
-        QVERIFY(writeQualityStatistics(path, {place.design(),
-                                              place.results(),
-                                              place.manager->qualityParameters(),
-                                              coords,
-                                              {},
-                                              {},
-                                              {},
-                                              choice,
-                                              progress})
-                    .isDone());
-        const WorkbookReader book(path);
-        int sheet = 0;
-        for (const char* const name : {"Lines", "Days", "Rovers", "Surveyors", "Bases"}) {
-            place.groupBy(sheet++);
-            const auto rows = book.rows(QLatin1String(name));
+        const ReportInput input{
+            place.design(), place.results(), place.manager->qualityParameters(), coords, {}, {}, {},
+            choice,         progress};
+        QVERIFY(writeQualityStatistics(folder.path("figures.xlsx"), input).isDone());
+        QVERIFY(writeDailyReport(folder.path("日报.pdf"), input).isDone());
+        const WorkbookReader book(folder.path("figures.xlsx"));
+        const QString pages = textOfPdf(folder.path("日报.pdf"));
+        int key = 0;
+        for (const char* const sheet : {"Lines", "Days", "Rovers", "Surveyors", "Bases"}) {
+            place.groupBy(key++);
+            const auto rows = book.rows(QLatin1String(sheet));
             QCOMPARE(place.model.rowCount(), int(rows.size())); // the totals, or the captions
             QCOMPARE(place.model.columnCount(), rows[0].size());
             for (int column = 0; column < rows[0].size(); ++column) {
-                QCOMPARE(place.model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
-                         rows[0][column]);
+                QCOMPARE(place.caption(column), rows[0][column]);
                 for (int row = 1; row < int(rows.size()); ++row)
                     QVERIFY2(isShown(place.text(row, column), rows[std::size_t(row)].value(column)),
-                             qPrintable(QLatin1String(name) + place.text(row, column) + " is "_q +
+                             qPrintable(QLatin1String(sheet) + place.text(row, column) + " is "_q +
                                         rows[std::size_t(row)].value(column)));
             }
+            if (key == 3 || key == 4)
+                for (int row = 0; row < place.model.rowCount(); ++row)
+                    QVERIFY2(pages.contains(place.reportRow(row)),
+                             qPrintable(place.reportRow(row)));
         }
         place.groupBy(5);
         QCOMPARE(place.text(1, 0) + place.text(2, 0), "SourcesReceivers"_q);
         QCOMPARE(place.text(0, 1), "90"_q);
         place.groupBy(6);
         QCOMPARE(place.model.rowCount(), 1);
-        const QString figure = place.model.index(0, place.column("RMS 2D (m)")).data().toString();
+        const QString figure = place.text(0, place.column("RMS 2D (m)"));
         const auto summary = book.rows("Summary"_q);
         const auto found = std::ranges::find_if(
             summary, [](const QStringList& row) { return row.value(0) == "Distance 2D"_q; });
@@ -270,6 +288,118 @@ private Q_SLOTS:
                 .toPoint();
         QTest::mouseClick(&canvas, Qt::LeftButton, {}, at);
         QCOMPARE(place.selectedResult(), "103"_q);
+    }
+
+    void escapeAndClosingShowAllAgain()
+    {
+        StatisticsPlace place;
+        place.groupBy(2);
+        QWidget& canvas = *place.panel().canvas();
+        const std::array<std::function<void()>, 4> ends{
+            [&] { QTest::keyClick(&place.table, Qt::Key_Escape); },
+            [&] { QTest::keyClick(place.window.findChild<StatisticsPlot*>(), Qt::Key_Escape); },
+            [&] { place.window.onClosed(); }, // as its dock does
+            [&] { place.press("showAll"); }};
+        for (const auto& end : ends) {
+            place.click(2);
+            QCOMPARE(place.only(), "Only Rover R1"_q);
+            dragMouse(canvas, Qt::LeftButton, {2, 2}, {canvas.width() - 3, canvas.height() - 3});
+            QVERIFY(place.only().endsWith(" results of the plot"_q));
+            end();
+            QCOMPARE(place.only(), QString());
+            QCOMPARE(place.table.selectedRowCount(), 0);
+            QCOMPARE(place.rows(place.resultTable), 81);
+            QCOMPARE(place.rows(place.designTable), 90);
+        }
+    }
+
+    void aTableThatShowsAllAgainStaysSo()
+    {
+        StatisticsPlace place;
+        place.groupBy(2);
+        place.click(2);
+        for (QToolButton* const button : place.resultTable.findChildren<QToolButton*>()) {
+            if (button->text() == "Clear All Filters"_q)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+        QCOMPARE(place.rows(place.resultTable), 81);
+        const int design = place.rows(place.designTable);
+        place.results().set(*place.results().find("1", "101"));
+        place.publish(events::kRefreshSurveyLayer);
+        QTest::qWait(20);
+        QCOMPARE(place.rows(place.resultTable), 81);
+        QCOMPARE(place.rows(place.designTable), design);
+        place.click(2); // asks for it again
+        QCOMPARE(place.rows(place.resultTable), 18);
+
+        // A group that is gone hides nothing.
+        std::vector<PointName> gone;
+        for (const auto& [number, line] : place.results()) {
+            for (const SurveyPoint& point : line) {
+                if (point.instrumentSerialNumber == "R1")
+                    gone.push_back({point.lineNumber, point.pointNumber});
+            }
+        }
+        for (const PointName& point : gone)
+            place.results().erase(point.line, point.point);
+        place.publish(events::kRefreshSurveyLayer);
+        QTRY_COMPARE(place.rows(place.resultTable), 63);
+        QCOMPARE(place.only(), QString());
+    }
+
+    void ticksWhatIsInOrder()
+    {
+        StatisticsPlace place;
+        const auto isTicked = [&](int row) {
+            return place.model.index(row, 0)
+                .data(Qt::ToolTipRole)
+                .toString()
+                .contains("within the limits"_q);
+        };
+        place.groupBy(2);
+        QVERIFY(!isTicked(0) && !isTicked(2)); // offsets over the limit of 0.5
+        place.manager->qualityParameters().set("design_hor_diff", "9");
+        place.manager->qualityParameters().set("design_ver_diff", "9");
+        place.publish(events::kProjectModified);
+        QTRY_VERIFY(isTicked(2));
+        place.groupBy(5);
+        QVERIFY(!isTicked(2)); // some receivers are left
+        for (int i = 9; i < 90; i += 10)
+            place.design().erase(std::to_string(1 + i / 30), std::to_string(100 + i));
+        place.publish(events::kRefreshDesignLayer);
+        QTRY_VERIFY(isTicked(2));
+        QVERIFY(!isTicked(1));
+    }
+
+    void savesAndCopiesThePlot()
+    {
+        StatisticsPlace place;
+        const TestFolder folder;
+        QDir().mkpath(folder.path("统计 图"));
+        for (const auto& [ending, begin] :
+             {std::pair("png", "\x89PNG"), {"svg", "<?xml"}, {"pdf", "%PDF"}}) {
+            const QString path = folder.path("统计 图/偏差 1."_q + QLatin1String(ending));
+            const FileDialog::Responder answer([&](const FileDialog::Request&) { return path; });
+            Boxes boxes;
+            place.press("plotSave");
+            QCOMPARE(boxes.told().size(), 1);
+            QVERIFY(TestFolder::read(path).startsWith(begin));
+        }
+        {
+            const FileDialog::Responder answer(
+                [&](const FileDialog::Request&) { return folder.path("none/1.png"); });
+            Boxes boxes;
+            place.press("plotSave");
+            QVERIFY(boxes.told().join(QString()).contains("none"_q));
+        }
+        QApplication::clipboard()->clear();
+        place.press("plotCopy");
+        QVERIFY(QApplication::clipboard()->image().width() >= 640);
+
+        place.results().clear();
+        place.publish(events::kRefreshSurveyLayer);
+        QTRY_VERIFY(!place.window.findChild<QToolButton*>("plotSave"_q)->isEnabled());
+        QVERIFY(!place.window.findChild<QToolButton*>("plotCopy"_q)->isEnabled());
     }
 
     void sortsCopiesAndSaves()
