@@ -245,6 +245,22 @@ private Q_SLOTS:
         QVERIFY(!m_panel->hasFaults());
     }
 
+    void storesAShiftAboutAPivotWithoutIt()
+    {
+        open(ownSystem());
+        QVERIFY(!isShown("Rotation rZ"));
+        pick("Model", "Coordinate frame rotation");
+        QVERIFY(isShown("Rotation rZ") && !isShown("Rotation centre X"));
+        pick("Model", "Molodensky-Badekas");
+        enter("Rotation rZ", "1");
+        QVERIFY(isMarked("Rotation centre X") && m_panel->hasFaults());
+        enter("Rotation centre Y", "5000000");
+        QVERIFY(!m_panel->hasFaults());
+        QCOMPARE(value("_7type"), "2"_q);
+        QVERIFY(!m_dialog->parameters().contains("_7py"));
+        QCOMPARE(shown("Model"), "Molodensky-Badekas"_q); // while the dialog is open
+    }
+
     void opensWithoutASystem()
     {
         open(desktop::componentParameters("ellipsoid_a=0,project_type=0"));
