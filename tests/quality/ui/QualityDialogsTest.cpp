@@ -90,6 +90,13 @@ private Q_SLOTS:
             parameters.set(key, value);
         QVERIFY(!qualityParameterNote(parameters, "hdop_max").isEmpty());
         QVERIFY(!qualityParameterNote(parameters, "pdop_max").isEmpty()); // the minus is nothing
+        DlgQCParamSet dialog(nullptr, parameters);
+        dialog.show();
+        const auto& view = *dialog.findChild<PropertyGridCtrl*>()->findChild<QTreeView*>();
+        const auto height = [&](const char* caption) {
+            return view.visualRect(cellOf(view, caption)).height();
+        };
+        QVERIFY(height("PDOP, max.") > height("VDOP, max.") * 3 / 2); // has a sentence below it
     }
 
     void keepsTheLimitsOfBothPages()
