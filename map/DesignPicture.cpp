@@ -9,6 +9,7 @@
 #include "map/NameWriter.h"
 #include "map/PictureFrame.h"
 #include "map/PolylineParts.h"
+#include "map/WaitingNames.h"
 
 #include <QLineF>
 #include <QPainter>
@@ -68,6 +69,7 @@ public:
                              static_cast<double>(lines.size()));
         }
         flushSpans();
+        m_waiting.write(m_painter, m_names, m_frame.screenArea(0), m_screen, m_frame.isStopped);
     }
 
 private:
@@ -94,8 +96,7 @@ private:
 
     void paintLine(const MarkTable::Line& line)
     {
-        write(screenOf(m_marks.firstOf(line)) + QPointF(dpi_scaled(-32), dpi_scaled(5)),
-              line.number);
+        writeNumber(line);
         if (!m_showsPoints) {
             const QLineF span = lineSpan(m_marks, line, m_frame.transform, m_frame.drawingArea);
             if (const auto seen = clippedLine(span, m_frame.screenArea(kLineMargin)))
@@ -107,6 +108,17 @@ private:
             paintBlock(line, m_marks.block(i));
         for (const QPolygonF& part : m_parts.parts())
             m_painter.drawPolyline(part);
+    }
+
+    void writeNumber(const MarkTable::Line& line)
+    {
+        const QPointF place =
+            screenOf(m_marks.firstOf(line)) + QPointF(dpi_scaled(-32), dpi_scaled(5));
+        if (!m_options.numbersNeedRoom)
+            write(place, line.number);
+        else if (m_screen.contains(place))
+            m_waiting.add(
+                {place, line.number, m_color == colorOf(kReceiver) ? &m_receiver : &m_source});
     }
 
     /// The block's marks, and the line from each of them to the next.
@@ -165,6 +177,9 @@ private:
     const DesignPictureOptions& m_options;
     QPainter& m_painter;
     NameWriter m_names;
+    WaitingNames m_waiting;
+    const QPen m_receiver{QColor(colorOf(kReceiver))};
+    const QPen m_source{QColor(colorOf(kSource))};
     PolylineParts m_parts;
     QVector<QLineF> m_spans; ///< of the current colour, not drawn yet
     std::optional<CircleStamp> m_stamp;

@@ -10,6 +10,8 @@ struct DesignPictureOptions
     double spacing = 10; ///< the smallest of the design, in the unit of the grid
     bool showsReceiverLines = true;
     bool showsSourceLines = true;
+    /// A line's number is left out where it would cover another one: nobody zooms into paper.
+    bool numbersNeedRoom = false;
 };
 
 /// Paints the design: its lines, and their points and labels where there is room for them.

@@ -31,19 +31,9 @@
 
 // Imports, exports and reports.
 
-namespace {
-/// An import that is done tells what became of the file's lines, in words and in numbers.
-Outcome withSummary(const Outcome& outcome, const ImportSummary& summary, ImportSummary* counts)
-{
-    if (counts != nullptr)
-        *counts = summary;
-    return outcome.isDone() ? Outcome::done(summary.toText()) : outcome;
-}
-} // namespace
-
 template <class Points, class Read>
-Outcome DataProcessDataManager::importPoints(const EditKind& kind, const QString& path,
-                                             ImportSummary& summary, Read read)
+int DataProcessDataManager::importPoints(const EditKind& kind, const QString& path,
+                                         Outcome* outcome, ImportSummary* counts, Read read)
 {
     // All that can fail comes before the points.
     const auto edit = std::make_shared<Edit>(kind, 0, QFileInfo(path).absoluteFilePath());
@@ -51,12 +41,18 @@ Outcome DataProcessDataManager::importPoints(const EditKind& kind, const QString
     TakenOver<Points>& undo = part->undo();
     edit->add(std::move(part));
     m_unsaved.makeRoom();
-    Outcome reading = read(summary, undo);
-    if (!reading.isDone() || !summary.hasPoints())
-        return reading;
-    edit->setPoints(summary.pointsNew + summary.pointsReplaced);
-    keep(edit);
-    return reading;
+    ProgressReporter progress(&m_host.eventManager());
+    ImportSummary summary;
+    const Outcome reading = read(progress, summary, undo);
+    if (counts != nullptr)
+        *counts = summary;
+    if (!reading.isDone())
+        return answered(reading, outcome);
+    if (summary.hasPoints()) {
+        edit->setPoints(summary.pointsNew + summary.pointsReplaced);
+        keep(edit);
+    }
+    return answered(Outcome::done(summary.toText()), outcome);
 }
 
 template <class Write>
@@ -79,13 +75,10 @@ int DataProcessDataManager::exportDesignCsv(const QStringList& lines, const QStr
 int DataProcessDataManager::importDesignCsv(const QString& path, Outcome* outcome,
                                             ImportSummary* counts)
 {
-    ProgressReporter progress(&m_host.eventManager());
-    ImportSummary summary;
-    const Outcome reading = importPoints<DesignPoints>(
-        EditKinds::kImportDesign, path, summary, [&](ImportSummary& read, auto& undo) {
-            return readDesignCsv(path, m_design, progress, read, &undo);
-        });
-    return answered(withSummary(reading, summary, counts), outcome);
+    const auto read = [&](ProgressReporter& progress, ImportSummary& summary, auto& undo) {
+        return readDesignCsv(path, m_design, progress, summary, &undo);
+    };
+    return importPoints<DesignPoints>(EditKinds::kImportDesign, path, outcome, counts, read);
 }
 
 int DataProcessDataManager::exportSurveyCsv(const QStringList& lines, const QString& path,
@@ -115,13 +108,10 @@ int DataProcessDataManager::exportSurveyPoints(const std::vector<PointName>& poi
 int DataProcessDataManager::importSurveyCsv(const QString& path, Outcome* outcome,
                                             ImportSummary* counts)
 {
-    ProgressReporter progress(&m_host.eventManager());
-    ImportSummary summary;
-    const Outcome reading = importPoints<SurveyPoints>(
-        EditKinds::kImportSurvey, path, summary, [&](ImportSummary& read, auto& undo) {
-            return readSurveyCsv(path, m_survey, progress, read, &undo);
-        });
-    return answered(withSummary(reading, summary, counts), outcome);
+    const auto read = [&](ProgressReporter& progress, ImportSummary& summary, auto& undo) {
+        return readSurveyCsv(path, m_survey, progress, summary, &undo);
+    };
+    return importPoints<SurveyPoints>(EditKinds::kImportSurvey, path, outcome, counts, read);
 }
 
 int DataProcessDataManager::exportDesignDatabase(const QStringList& lines, const QString& path,
@@ -188,18 +178,19 @@ int DataProcessDataManager::importSurveyDatabase(const QString& path, Outcome* o
 {
     if (const Outcome check = checkNotOwn(m_place, path); !check.isDone())
         return answered(check, outcome);
-    ProgressReporter progress(&m_host.eventManager());
+    const auto read = [&](ProgressReporter& progress, ImportSummary& summary, auto& undo) {
+        const IDictionary& system = get_project_coord_transform().parameters();
+        return readSurveyDatabase(path, {m_survey, system, m_onOtherSystem, &undo}, progress,
+                                  summary);
+    };
     ImportSummary summary;
-    const Outcome reading = importPoints<SurveyPoints>(
-        EditKinds::kImportSurvey, path, summary, [&](ImportSummary& read, auto& undo) {
-            return readSurveyDatabase(
-                path,
-                {m_survey, get_project_coord_transform().parameters(), m_onOtherSystem, &undo},
-                progress, read);
-        });
-    if (reading.isDone() && summary.hasPoints())
+    const int isRead =
+        importPoints<SurveyPoints>(EditKinds::kImportSurvey, path, outcome, &summary, read);
+    if (isRead == 1 && summary.hasPoints())
         recomputeSeaHeights();
-    return answered(withSummary(reading, summary, counts), outcome);
+    if (counts != nullptr)
+        *counts = summary;
+    return isRead;
 }
 
 int DataProcessDataManager::writeReport(const ReportKind& kind, const QString& path,

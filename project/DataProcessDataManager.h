@@ -276,10 +276,10 @@ private:
     void make(const std::shared_ptr<Edit>& edit);
     /// Keeps an edit that is made, with room for it in `m_unsaved`.
     void keep(const std::shared_ptr<Edit>& edit);
-    /// \param read  `Outcome(ImportSummary&, TakenOver<Points>&)`
+    /// \param read  `Outcome(ProgressReporter&, ImportSummary&, TakenOver<Points>&)`
     template <class Points, class Read>
-    Outcome importPoints(const EditKind& kind, const QString& path, ImportSummary& summary,
-                         Read read);
+    int importPoints(const EditKind& kind, const QString& path, Outcome* outcome,
+                     ImportSummary* counts, Read read);
     void change(const EditKind& kind, EditScope which, const IDictionary& present,
                 const IDictionary& wanted);
     /// \param other  those of these problems that are accepted afterwards

@@ -488,8 +488,8 @@
         <translation>导出报告(&amp;E)...</translation>
     </message>
     <message>
-        <source>Write the quality, statistics, rover and result reports as workbooks</source>
-        <translation>把质量、统计、流动站和成果报告写成工作簿</translation>
+        <source>Write the quality, statistics, rover and result reports as workbooks, and the daily report as PDF</source>
+        <translation>把质量、统计、流动站和成果报告写成工作簿，把日报写成 PDF</translation>
     </message>
     <message>
         <source>Export Desi&amp;gn</source>

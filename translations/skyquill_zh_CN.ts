@@ -1496,10 +1496,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>%1，时区 %2</translation>
     </message>
     <message>
-        <source>none: no result has a time</source>
-        <translation>无：没有带时间的成果</translation>
-    </message>
-    <message>
         <source>Coordinate system</source>
         <translation>坐标系统</translation>
     </message>
@@ -1582,6 +1578,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Not judged</source>
         <translation>未评定</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>No result of the chosen period and surveyors has a time.</source>
+        <translation>所选时段和测量员的成果都没有时间。</translation>
     </message>
 </context>
 <context>
@@ -2982,6 +2986,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Cancelling...</source>
         <translation>正在取消...</translation>
+    </message>
+    <message>
+        <source>The map could not be made; the log tells why.</source>
+        <translation>未能生成地图；原因见日志。</translation>
     </message>
 </context>
 <context>
@@ -4573,6 +4581,18 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>The map was printed, but is not complete: %1</source>
         <translation>地图已打印，但不完整：%1</translation>
+    </message>
+    <message>
+        <source>Design points</source>
+        <translation>设计点</translation>
+    </message>
+    <message>
+        <source>receivers</source>
+        <translation>接收点</translation>
+    </message>
+    <message>
+        <source>sources</source>
+        <translation>激发点</translation>
     </message>
 </context>
 <context>

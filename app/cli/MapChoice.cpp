@@ -90,8 +90,11 @@ MapDrawing MapChoice::drawing(DataProcessDataManager& manager,
                               SurveyPictureOptions::Names plainNames) const
 {
     const ToMap toMap = toMapOf(get_project_coord_transform().parameters());
-    if (!m_isSurvey)
-        return drawingOf(manager.designPoints(), manager.designParameters(), toMap);
+    if (!m_isSurvey) {
+        DesignPictureOptions options;
+        options.numbersNeedRoom = plainNames == SurveyPictureOptions::Names::WithRoom;
+        return drawingOf(manager.designPoints(), manager.designParameters(), toMap, options);
+    }
     const ResultColors colors =
         colorsOf(m_coloring, manager.surveyPoints(), manager.qualityLimits());
     SurveyPictureOptions options = usualSurveyOptions(!colors.isNone());

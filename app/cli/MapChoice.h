@@ -19,7 +19,8 @@ public:
     [[nodiscard]] Outcome read(const CliArguments& arguments);
     /// Opens what lies under the data of the open project.
     [[nodiscard]] Outcome open(MapGround& ground) const;
-    /// \param plainNames which names results without colours have; others have those with room
+    /// \param plainNames which names a design and results without colours have; coloured results
+    ///        have those with room
     [[nodiscard]] MapDrawing drawing(DataProcessDataManager& manager,
                                      SurveyPictureOptions::Names plainNames) const;
 

@@ -5,9 +5,12 @@
 #include "app/cli/MapChoice.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
+#include "lum_sdk/events/ProgressReporter.h"
 #include "map/sheet/MapGround.h"
 #include "map/sheet/MapSheet.h"
 #include "map/sheet/SheetFile.h"
+
+#include <QCoreApplication>
 
 #include <cmath>
 #include <cstdio>
@@ -69,7 +72,11 @@ Outcome printMap(const CliArguments& arguments)
     sheet.drawing = choice.drawing(project.manager(), SurveyPictureOptions::Names::WithRoom);
     nameSheet(sheet, project.place().name, system);
     SheetWatch watch;
+    ProgressReporter progress(&project.events());
+    const QString caption = QCoreApplication::translate("DlgPrintMap", "Writing the map...");
+    watch.report = [&](double percent) { progress.report(caption, percent); };
     Outcome outcome = writeSheet(sheet, arguments.places[2], watch);
+    progress.finish();
     if (outcome.isDone())
         std::printf("%s\n", qUtf8Printable(outcome.text()));
     return outcome;

@@ -6,6 +6,7 @@
 #include "reports/ReportInput.h"
 #include "reports/ReportKinds.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -25,6 +26,16 @@ Outcome readDay(const CliArguments& arguments, ReportChoice& choice)
     return Outcome::done();
 }
 
+/// Whether a file is named as another kind of report is: no program would open it.
+bool isOfAnother(const ReportKind& kind, const QString& file)
+{
+    const auto reports = allReports();
+    return !file.endsWith(QLatin1String(kind.ending), Qt::CaseInsensitive) &&
+           std::any_of(reports.begin(), reports.end(), [&](const ReportKind& other) {
+               return file.endsWith(QLatin1String(other.ending), Qt::CaseInsensitive);
+           });
+}
+
 } // namespace
 
 Outcome writeReport(const CliArguments& arguments)
@@ -34,6 +45,10 @@ Outcome writeReport(const CliArguments& arguments)
     if (kind == nullptr)
         return Outcome::refused(QStringLiteral("there is no report \"%1\"; there is %2")
                                     .arg(name, QString::fromStdString(reportNames(", "))));
+    const QString& file = arguments.places[2];
+    if (isOfAnother(*kind, file))
+        return Outcome::refused(
+            QStringLiteral("\"%1\" must end with %2").arg(file, QLatin1String(kind->ending)));
     ReportChoice choice;
     if (Outcome reading = readDay(arguments, choice); !reading.isDone())
         return reading;
@@ -41,7 +56,7 @@ Outcome writeReport(const CliArguments& arguments)
     if (Outcome opening = project.open(arguments.places[0], ProjectAccess::Look); !opening.isDone())
         return opening;
     Outcome outcome = Outcome::done();
-    project.manager().writeReport(*kind, arguments.places[2], choice, &outcome);
+    project.manager().writeReport(*kind, file, choice, &outcome);
     if (outcome.isDone())
         std::printf("%s\n", qUtf8Printable(outcome.text()));
     return outcome;

@@ -5,6 +5,7 @@
 #include "lum_sdk/database/SqliteSetUp.h"
 #include "lum_sdk/files/SystemDictionaries.h"
 #include "lum_sdk/files/Translations.h"
+#include "lum_sdk/QtMessages.h"
 #include "lum_sdk/raster/TileThreads.h"
 #include "lum_sdk/Text.h"
 #include "protocol/ProductName.h"
@@ -18,14 +19,11 @@
 
 namespace {
 
-/// The settings that the program with the window has, and their language.
-void readSettings()
+/// Reads the settings that the program with the window has. \returns their language
+QString readSettings()
 {
     get_system_ini_parameter().load(basalt::toolFolder() + "/data_process_5.sys");
-    const auto language = get_system_ini_parameter().dictionary().text(settings::kLanguage);
-    lum::loadTranslations(lum::toQString(language),
-                          QString::fromStdString(basalt::configFolder() + "/Language"),
-                          QCoreApplication::applicationName().toLower());
+    return lum::toQString(get_system_ini_parameter().dictionary().text(settings::kLanguage));
 }
 
 /// Prints what "--help" and "--version" ask for. \returns whether one of them does
@@ -93,16 +91,20 @@ int main(int argc, char* argv[])
     lum::setUpDatabase();
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // also in the locale "C"
     basalt::keepLogOffConsole(); // `report` tells the user in one line
+    qInstallMessageHandler(lum::logQtMessage);
     get_system_config_parameter().load(basalt::toolFolder() + "/data_process_5.xml");
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     if (answer(arguments))
         return 0;
+    const QString language = readSettings();
+    lum::chooseFontsFor(language);
     std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, arguments);
     QCoreApplication::setOrganizationName(QLatin1String(kOrganisation));
     QCoreApplication::setApplicationName(QLatin1String(kProductName));
-    readSettings();
+    lum::loadTranslations(language, QString::fromStdString(basalt::configFolder() + "/Language"),
+                          QCoreApplication::applicationName().toLower());
     const int status = run(arguments);
     application.reset();
     lum::exitProcess(status);

@@ -10,7 +10,31 @@
 
 #include <QCoreApplication>
 
+#include <array>
 #include <memory>
+
+namespace {
+
+/// The colours of the lines that are shown, with their points.
+lum::Legend legendOf(const DesignMarks& marks, const DesignPictureOptions& options)
+{
+    std::array<std::size_t, 2> counts{}; // by type
+    const MarkTable& table = marks.table();
+    for (std::size_t i = 0; i < table.lines().size(); ++i) {
+        const MarkTable::Line& line = table.lines()[i];
+        counts[marks.typeOf(i) == 0 ? 0 : 1] += table.endOf(line) - table.firstOf(line);
+    }
+    lum::Legend legend{QCoreApplication::translate("MapSheet", "Design points"), {}};
+    if (options.showsReceiverLines && counts[1] > 0)
+        legend.entries.push_back(
+            {designColor(1), QCoreApplication::translate("MapSheet", "receivers"), counts[1]});
+    if (options.showsSourceLines && counts[0] > 0)
+        legend.entries.push_back(
+            {designColor(0), QCoreApplication::translate("MapSheet", "sources"), counts[0]});
+    return legend;
+}
+
+} // namespace
 
 ToMap toMapOf(const IDictionary& system)
 {
@@ -31,6 +55,7 @@ MapDrawing drawingOf(const DesignPoints& points, const IDictionary& parameters, 
     };
     if (marks->table().size() > 0)
         drawing.extent = markExtent(marks->table().gridBounds(), toMap);
+    drawing.legend = legendOf(*marks, options);
     return drawing;
 }
 

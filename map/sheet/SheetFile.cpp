@@ -78,6 +78,8 @@ Written writePdf(const MapSheet& sheet, const SheetLayout& layout, const QString
                       QPageSize::FuzzyMatch),
             setup.isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()));
         QPainter painter(&writer);
+        const double dots = writer.resolution() / setup.dpi; // a PDF has whole dots to an inch
+        painter.scale(dots, dots);
         if (!paintSheet(painter, sheet, layout, watch))
             return stopped(watch);
     }

@@ -136,16 +136,19 @@ SheetLayout::SheetLayout(const SheetSetup& setup) : ratio(setup.dpi / kInchPixel
     map = QRect((rest.topLeft() * ratio).toPoint(), (rest.bottomRight() * ratio).toPoint());
     map.setSize(map.size() - QSize(1, 1)); // a rectangle of corners counts both of them
     frame = QRectF(QPointF(map.topLeft()) / ratio, QSizeF(map.size()) / ratio);
-    const double pixel = metresPerPixel(scale) / unitM;
-    const QPointF middle = setup.area.center();
+    lookAt(setup.area, metresPerPixel(scale) / unitM);
+}
+
+void SheetLayout::lookAt(const QRectF& area, double pixel)
+{
+    const QPointF middle = area.center();
     const QPointF corner(middle.x() - frame.width() / 2 * pixel,
                          middle.y() + frame.height() / 2 * pixel);
     const QSize size(static_cast<int>(std::ceil(frame.width())),
                      static_cast<int>(std::ceil(frame.height())));
     view.setSize(size);
     view.setView(corner + QPointF(size.width() / 2.0, -size.height() / 2.0) * pixel, pixel);
-    isWhole = setup.area.width() <= frame.width() * pixel &&
-              setup.area.height() <= frame.height() * pixel;
+    isWhole = area.width() <= frame.width() * pixel && area.height() <= frame.height() * pixel;
 }
 
 Transform SheetLayout::viewFrom(int row, int rows) const

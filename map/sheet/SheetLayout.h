@@ -47,4 +47,9 @@ struct SheetLayout
     [[nodiscard]] Transform viewFrom(int row, int rows) const;
     /// The part of the map that is seen.
     [[nodiscard]] QRectF visibleExtent() const;
+
+private:
+    /// Brings the middle of an area to the middle of the map.
+    /// \param pixel map units to a pixel
+    void lookAt(const QRectF& area, double pixel);
 };

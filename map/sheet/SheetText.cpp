@@ -16,7 +16,8 @@ QFont sheetFont(double pixels, bool isBold)
     return font;
 }
 
-QStringList wrapped(const QString& text, const QFont& font, double width, int lines)
+QStringList wrapped(const QString& text, const QFont& font, double width, int lines,
+                    Qt::TextElideMode elide)
 {
     const QString plain = text.simplified();
     if (plain.isEmpty())
@@ -31,7 +32,7 @@ QStringList wrapped(const QString& text, const QFont& font, double width, int li
         line.setLineWidth(width);
         const int start = line.textStart();
         if (result.size() + 1 == lines) {
-            result << QFontMetricsF(font).elidedText(plain.mid(start), Qt::ElideRight, width);
+            result << QFontMetricsF(font).elidedText(plain.mid(start), elide, width);
             break;
         }
         result << plain.mid(start, line.textLength()).trimmed();

@@ -18,5 +18,6 @@ inline constexpr double kCaption = 9; ///< of fields
 [[nodiscard]] QFont sheetFont(double pixels, bool isBold = false);
 
 /// A text in lines of this width. A word that is longer than a line is cut between two letters, and
-/// what has no room in the last line is replaced by "...".
-[[nodiscard]] QStringList wrapped(const QString& text, const QFont& font, double width, int lines);
+/// what has no room in the last line is replaced by "...", there where `elide` says.
+[[nodiscard]] QStringList wrapped(const QString& text, const QFont& font, double width, int lines,
+                                  Qt::TextElideMode elide = Qt::ElideRight);

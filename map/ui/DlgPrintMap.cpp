@@ -175,8 +175,10 @@ void DlgPrintMap::follow()
     if (!m_fits->isChecked())
         setup.scale = m_scale->value();
     const SheetLayout layout(setup);
-    const QSignalBlocker blocker(m_scale);
-    m_scale->setValue(static_cast<int>(std::lround(layout.scale)));
+    if (m_fits->isChecked()) { // a number that is being typed stays as it is
+        const QSignalBlocker blocker(m_scale);
+        m_scale->setValue(static_cast<int>(std::lround(layout.scale)));
+    }
     m_hint->setText(partNotice(layout));
     m_preview->setSheet(m_sheet);
 }
@@ -211,7 +213,7 @@ void DlgPrintMap::run(const QString& caption, const std::function<Outcome(SheetW
 {
     m_preview->stop();
     setEnabled(false); // also while a cancelled job comes to its end
-    Outcome outcome = Outcome::done();
+    Outcome outcome = Outcome::failed(tr("The map could not be made; the log tells why."));
     QProgressDialog progress(caption, tr("&Cancel"), 0, 100, this);
     progress.setWindowTitle(windowTitle());
     progress.setWindowFlag(Qt::WindowContextHelpButtonHint, false);

@@ -49,6 +49,12 @@ void SheetPreview::setSheet(const MapSheet& sheet)
     update();
 }
 
+void SheetPreview::stop()
+{
+    m_work.stop();
+    m_sheet.ground.reset(); // `request` needs one
+}
+
 QRectF SheetPreview::paperPlace() const
 {
     const double margin = dpi_scaled(kMargin);

@@ -15,8 +15,9 @@ public:
     explicit SheetPreview(QWidget* parent = nullptr);
 
     void setSheet(const MapSheet& sheet);
-    /// Paints nothing until the next `setSheet`; the sheet's ground is free then.
-    void stop() { m_work.stop(); }
+    /// Paints nothing until the next `setSheet`, whatever happens to the window; the sheet's ground
+    /// is free then.
+    void stop();
     [[nodiscard]] bool isUpToDate() const { return !m_work.isBusy(); }
 
     [[nodiscard]] QSize sizeHint() const override;

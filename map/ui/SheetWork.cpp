@@ -1,5 +1,9 @@
 #include "map/ui/SheetWork.h"
 
+#include "basalt_utilities/ILogger.h"
+
+#include <exception>
+#include <string>
 #include <utility>
 
 SheetWork::~SheetWork()
@@ -51,7 +55,11 @@ void SheetWork::run(Job job)
             Qt::QueuedConnection);
     };
     m_thread = std::thread([this, number, watch = m_watch, job = std::move(job)] {
-        job(*watch);
+        try {
+            job(*watch);
+        } catch (const std::exception& fault) { // no memory
+            basalt::logError(std::string("A sheet has failed: ") + fault.what());
+        }
         QMetaObject::invokeMethod(
             this,
             [this, number] {

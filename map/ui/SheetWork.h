@@ -15,6 +15,7 @@ class SheetWork final : public QObject
     Q_OBJECT
 
 public:
+    /// One that throws ends with a line in the log.
     using Job = std::function<void(SheetWatch&)>;
 
     explicit SheetWork(QObject* parent = nullptr) : QObject(parent) {}

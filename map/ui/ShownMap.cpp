@@ -5,10 +5,13 @@
 #include "lum_desktop_sdkx/ILayerViewer.h"
 #include "lum_desktop_sdkx/IMapWindow.h"
 #include "lum_desktop_sdkx/IWindowRegistry.h"
+#include "lum_desktop_sdkx/map/BoundaryLayer.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/SystemDictionaries.h"
+#include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/raster/UserBaseMaps.h"
+#include "map/PictureFrame.h"
 #include "map/sheet/MapGround.h"
 #include "map/ui/BaseMapSwitch.h"
 #include "map/ui/SurveyLook.h"
@@ -19,13 +22,20 @@
 #include "quality/colors/ChosenColors.h"
 #include "quality/QualityLimits.h"
 
+#include <QPainter>
+
 #include <vector>
 
 namespace {
 
+IMapWindow* mapOf(IDesktopHost& host)
+{
+    return host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+}
+
 bool isShown(IDesktopHost& host, const char* layer)
 {
-    auto* const map = host.windows().findAs<IMapWindow>(QStringLiteral("DataMap"));
+    IMapWindow* const map = mapOf(host);
     const ILayerViewer* const found =
         map != nullptr ? map->layers().find(QLatin1String(layer)) : nullptr;
     return found == nullptr || found->IsVisible();
@@ -37,6 +47,7 @@ MapDrawing shownDesign(DataProcessDataManager& manager, const ToMap& toMap)
     DesignPictureOptions options;
     options.showsReceiverLines = shown.integer(status::kShowReceiverLines, 1) != 0;
     options.showsSourceLines = shown.integer(status::kShowSourceLines, 1) != 0;
+    options.numbersNeedRoom = true;
     return drawingOf(manager.designPoints(), manager.designParameters(), toMap, options);
 }
 
@@ -49,6 +60,28 @@ MapDrawing shownSurvey(DataProcessDataManager& manager, const ToMap& toMap)
     SurveyPictureOptions options = chosenSurveyOptions(!colors.isNone());
     options.names = chosenSurveyOptions(true).names;
     return drawingOf(manager.surveyPoints(), colors, toMap, options);
+}
+
+/// Puts the rectangle around all data under them, where the map has it.
+void addBoundary(IDesktopHost& host, MapDrawing& drawing)
+{
+    const IMapWindow* const map = mapOf(host);
+    const IDictionary& shown = get_system_status_dictionary();
+    if (map == nullptr || shown.integer(status::kDrawBoundaryRect) != 1 ||
+        !isShown(host, "BoundaryLayer"))
+        return;
+    PaintTarget target;
+    target.mapExtent = map->extent();
+    target.status.set(status::kDrawBoundaryRect, "1");
+    drawing.paint = [layer = std::make_shared<BoundaryLayer>("", nullptr), target,
+                     paintData = drawing.paint](const PictureFrame& frame, QPainter& painter) {
+        PaintTarget here = target;
+        here.transform = frame.transform;
+        painter.save();
+        layer->Paint(here, frame.transform.visibleExtent(), painter);
+        painter.restore();
+        paintData(frame, painter);
+    };
 }
 
 std::shared_ptr<MapGround> shownGround(IDesktopHost& host, const IDictionary& system)
@@ -84,6 +117,7 @@ MapSheet shownMap(IDesktopHost& host)
         sheet.drawing.paint = [](const PictureFrame&, QPainter&) {};
         sheet.drawing.legend = {};
     }
+    addBoundary(host, sheet.drawing);
     nameSheet(sheet, ProjectState::place().name, system);
     return sheet;
 }

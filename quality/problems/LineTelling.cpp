@@ -29,7 +29,7 @@ void LineTelling::tell(std::span<const LineFinding> findings, const LineMeasures
         const ProblemKind* const kind = line_kinds::kindOf(finding.kind);
         if (kind == nullptr || count == 0)
             continue;
-        Problem& problem = add(*kind, *points[finding.at], *points[finding.other]);
+        Problem& problem = m_problems.add(*kind, *points[finding.at], *points[finding.other]);
         if (isMany(count, points.size())) {
             problem.count = count - 1;
             count = 0; // the others are told with this one
@@ -42,17 +42,6 @@ template void LineTelling::tell(std::span<const LineFinding>, const LineMeasures
                                 std::span<const DesignPoint* const>);
 template void LineTelling::tell(std::span<const LineFinding>, const LineMeasures&,
                                 std::span<const SurveyPoint* const>);
-
-template <class Point>
-Problem& LineTelling::add(const ProblemKind& kind, const Point& point, const Point& other)
-{
-    const StoredText otherLine = m_problems.keepOnce(other.lineNumber);
-    const StoredText otherPoint = m_problems.keep(other.pointNumber);
-    Problem& problem = m_problems.add(kind, point);
-    problem.otherLine = otherLine;
-    problem.otherPoint = otherPoint;
-    return problem;
-}
 
 void LineTelling::setValues(Problem& problem, const LineFinding& finding,
                             const LineMeasures& measures)
@@ -95,7 +84,7 @@ void LineTelling::tellCoincident(std::span<const Pair<Point>> ofLine, std::size_
 {
     const std::size_t told = isMany(ofLine.size(), points) ? 1 : ofLine.size();
     for (const Pair<Point>& pair : ofLine.first(told)) {
-        Problem& problem = add(line_kinds::kCoincident, *pair.point, *pair.other);
+        Problem& problem = m_problems.add(line_kinds::kCoincident, *pair.point, *pair.other);
         problem.value = pair.distanceM;
         problem.limit = m_parameters.meetings.coincidentM;
         problem.count = static_cast<std::uint32_t>(ofLine.size() - told);
@@ -108,7 +97,7 @@ template void LineTelling::tellCoincident(std::span<const Pair<SurveyPoint>>, st
 void LineTelling::tellInterleaved(const DesignPoint& point, const DesignPoint& other,
                                   std::uint32_t points)
 {
-    Problem& problem = add(line_kinds::kInterleaved, point, other);
+    Problem& problem = m_problems.add(line_kinds::kInterleaved, point, other);
     problem.value = points;
     problem.limit = m_parameters.meetings.interleaved;
     problem.count = points;

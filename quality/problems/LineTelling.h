@@ -54,8 +54,6 @@ public:
     void tellReversed(std::string_view line, std::uint32_t points);
 
 private:
-    template <class Point>
-    Problem& add(const ProblemKind& kind, const Point& point, const Point& other);
     void setValues(Problem& problem, const LineFinding& finding, const LineMeasures& measures);
 
     static constexpr std::size_t kMost = 20;

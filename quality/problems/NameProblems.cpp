@@ -101,13 +101,6 @@ constexpr ProblemKind kForeignResult{
     .rank = 1};
 constexpr std::array kNameKinds{&kWrongName, &kSwappedNames, &kForeignResult};
 
-template <class Point>
-void setOther(ProblemList& problems, Problem& problem, const Point& point)
-{
-    problem.otherLine = problems.keepOnce(point.lineNumber);
-    problem.otherPoint = problems.keep(point.pointNumber);
-}
-
 using Names = std::set<std::pair<std::string_view, std::string_view>>; // line, point
 
 Names proposedNames(const std::vector<WrongName>& wrongNames)
@@ -126,30 +119,22 @@ bool leavesPoint(const WrongName& wrong, const Names& proposed)
            !proposed.contains({wrong.result->lineNumber, wrong.result->pointNumber});
 }
 
+void setValues(Problem& problem, double valueM, double limitM, double likelyM)
+{
+    problem.value = valueM;
+    problem.limit = limitM;
+    problem.second = likelyM;
+}
+
 void add(ProblemList& problems, const WrongName& wrong, const NameLimits& limits, bool leavesPoint)
 {
     const bool isForeign = wrong.isForeign();
-    Problem& problem = isForeign ? problems.add(kForeignResult, *wrong.likely)
-                                 : problems.add(kWrongName, *wrong.result);
-    if (isForeign)
-        setOther(problems, problem, *wrong.result);
-    else
-        setOther(problems, problem, *wrong.likely);
-    problem.value = isForeign ? wrong.likelyM : wrong.ownM;
-    problem.limit = isForeign ? limits.nearM : limits.nearerM;
-    problem.second = wrong.likelyM;
+    Problem& problem = isForeign ? problems.add(kForeignResult, *wrong.likely, *wrong.result)
+                                 : problems.add(kWrongName, *wrong.result, *wrong.likely);
+    setValues(problem, isForeign ? wrong.likelyM : wrong.ownM,
+              isForeign ? limits.nearM : limits.nearerM, wrong.likelyM);
     problem.detail = problems.keep(wrong.proposed.point);
     problem.count = (wrong.isAnother ? kAnother : 0) | (leavesPoint ? kLeavesPoint : 0);
-}
-
-void addExchanged(ProblemList& problems, const WrongName& first, const WrongName& second,
-                  const NameLimits& limits)
-{
-    Problem& problem = problems.add(kSwappedNames, *first.result);
-    setOther(problems, problem, *second.result);
-    problem.value = first.ownM;
-    problem.limit = limits.nearerM;
-    problem.second = first.likelyM;
 }
 
 void findNames(const FinderInput& input, ProblemList& problems)
@@ -162,7 +147,9 @@ void findNames(const FinderInput& input, ProblemList& problems)
         if (!other)
             add(problems, wrongNames[i], limits, leavesPoint(wrongNames[i], proposed));
         else if (*other > i)
-            addExchanged(problems, wrongNames[i], wrongNames[*other], limits);
+            setValues(
+                problems.add(kSwappedNames, *wrongNames[i].result, *wrongNames[*other].result),
+                wrongNames[i].ownM, limits.nearerM, wrongNames[i].likelyM);
     }
 }
 

@@ -29,6 +29,15 @@ public:
     Problem& add(const ProblemKind& kind, const DesignPoint& point);
     /// A problem of a line or a group of results.
     Problem& add(const ProblemKind& kind, std::string_view line = {});
+    /// A problem of a point that speaks of another point, too.
+    template <class Point, class Other>
+    Problem& add(const ProblemKind& kind, const Point& point, const Other& other)
+    {
+        Problem& problem = add(kind, point);
+        problem.otherLine = keepOnce(other.lineNumber);
+        problem.otherPoint = keep(other.pointNumber);
+        return problem;
+    }
     /// A text for a problem of this list: of its own, or one that comes again and again.
     [[nodiscard]] StoredText keep(std::string_view text) { return m_texts.add(text); }
     [[nodiscard]] StoredText keepOnce(std::string_view text) { return m_texts.intern(text); }

@@ -44,8 +44,6 @@ private:
     void need(double height);
     void add(Item item) { m_pages.back().push_back(std::move(item)); }
     void addText(const QString& text, double size, bool isBold, int lines);
-    void addRow(const DailyTable& table, const std::vector<double>& widths,
-                const QStringList& cells, bool isHeading, bool isSum);
     void paintEdges(QPainter& painter, std::size_t page) const;
 
     QString m_left;

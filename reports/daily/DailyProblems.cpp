@@ -26,6 +26,7 @@ constexpr ProblemField kFields[] = {
     ProblemField::Severity, ProblemField::Line,  ProblemField::Point, ProblemField::What,
     ProblemField::Surveyor, ProblemField::Rover, ProblemField::Day};
 constexpr int kWhatLines = 3;
+constexpr int kNameLines = 2;
 
 const ProblemColumn& columnOf(ProblemField field)
 {
@@ -88,7 +89,7 @@ DailyTable rowsOf(std::vector<const Problem*> problems, const DailyFigures& figu
     table.title = Texts::tr("Open problems, those of the day first");
     for (const ProblemField field : kFields)
         table.columns.push_back(
-            {captionOf(field), false, field == ProblemField::What ? kWhatLines : 1});
+            {captionOf(field), false, field == ProblemField::What ? kWhatLines : kNameLines});
     basalt::LocalTimes zone = shownTimes();
     for (std::size_t i = 0; i < std::min(problems.size(), kMostRows); ++i) {
         QStringList& cells = table.rows.emplace_back();

@@ -26,14 +26,9 @@ struct Texts
 };
 
 constexpr int kDpi = 300;
-constexpr double kLeastMap = 400; // pixels of 1/96 inch
+constexpr double kLeastMap = 440; // pixels of 1/96 inch, with its heading
 constexpr double kProgressHeight = 460;
 constexpr double kOffsetsHeight = 470;
-
-QString caption()
-{
-    return dailyReportKind().captionText();
-}
 
 PlotData plotData(const statistics::SurveySample& sample, const QString& subject)
 {
@@ -50,10 +45,7 @@ class DailyReport
 {
 public:
     explicit DailyReport(const ReportInput& input)
-        : m_input(input), m_figures(input),
-          m_pages(input.projectName, m_figures.dayText().isEmpty()
-                                         ? caption()
-                                         : Texts::tr("%1, %2").arg(caption(), m_figures.dayText()))
+        : m_input(input), m_figures(input), m_pages(input.projectName, title())
     {
     }
 
@@ -88,14 +80,19 @@ private:
             "Reports", "The report was cancelled; no file was written."));
     }
 
+    [[nodiscard]] QString title() const
+    {
+        const QString caption = dailyReportKind().captionText();
+        return m_figures.day().isValid() ? Texts::tr("%1, %2").arg(caption, m_figures.dayText())
+                                         : caption;
+    }
+
     void addFirstPage()
     {
-        m_pages.addTitle(m_figures.dayText().isEmpty()
-                             ? caption()
-                             : Texts::tr("%1, %2").arg(caption(), m_figures.dayText()));
+        m_pages.addTitle(title());
         m_pages.addValues(dailyHead(m_input, m_figures));
         if (m_figures.ofDay().sample.results.empty())
-            m_pages.addNote(emptyNote());
+            m_pages.addNote(dailyGap(m_input, m_figures));
         else
             m_pages.addTable(dailyWork(m_figures));
         m_pages.addChapter(Texts::tr("Progress"));
@@ -103,27 +100,18 @@ private:
         addMap();
     }
 
-    [[nodiscard]] QString emptyNote() const
-    {
-        if (m_input.survey.empty())
-            return Texts::tr("The project has no results.");
-        return m_figures.day().isValid()
-                   ? Texts::tr("There is no result of this day.")
-                   : Texts::tr("No result has a time, so that there is no day to report.");
-    }
-
     void addMap()
     {
         MapSheet sheet = dailyMap(m_input, m_figures);
         if (sheet.setup.area.isNull())
             return;
-        m_pages.addChapter(Texts::tr("Map"));
         if (m_pages.rest() < kLeastMap)
             m_pages.beginPage();
-        m_pages.addPicture(m_pages.rest(),
-                           [sheet = std::move(sheet)](QPainter& painter, const QRectF& place) {
-                               paintDailyMap(painter, place, sheet, kDpi);
-                           });
+        m_pages.addChapter(Texts::tr("Map"));
+        m_pages.addPicture(m_pages.rest(), [this, sheet = std::move(sheet)](QPainter& painter,
+                                                                            const QRectF& place) {
+            m_hasMap = paintDailyMap(painter, place, sheet, kDpi);
+        });
     }
 
     void addPlot(const char* kind, double height, PlotData data)
@@ -138,16 +126,18 @@ private:
 
     void addPlots()
     {
-        if (m_input.survey.empty())
+        if (m_figures.total().sample.results.empty())
             return;
         m_pages.beginPage();
         addPlot("progress", kProgressHeight, plotData(m_figures.total().sample, QString()));
-        addPlot("offsets", kOffsetsHeight, plotData(m_figures.ofDay().sample, m_figures.dayText()));
+        if (!m_figures.ofDay().sample.results.empty())
+            addPlot("offsets", kOffsetsHeight,
+                    plotData(m_figures.ofDay().sample, m_figures.dayText()));
     }
 
     void addStatistics()
     {
-        if (m_input.survey.empty())
+        if (m_figures.total().sample.results.empty())
             return;
         m_pages.beginPage();
         for (const DailySpan span : {DailySpan::OfDay, DailySpan::Total}) {
@@ -183,7 +173,7 @@ private:
         buffer.open(QIODevice::WriteOnly);
         {
             QPdfWriter writer(&buffer);
-            writer.setTitle(m_input.projectName + QStringLiteral(", ") + m_figures.dayText());
+            writer.setTitle(m_input.projectName + QStringLiteral(", ") + title());
             writer.setCreator(m_input.program);
             writer.setResolution(kDpi);
             writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
@@ -195,7 +185,9 @@ private:
             if (!isPainted)
                 return cancelled();
         }
-        const QString fault = lum::writeWholeFile(path, content);
+        const QString fault =
+            m_hasMap ? lum::writeWholeFile(path, content)
+                     : QCoreApplication::translate("MapSheet", "there is not enough memory");
         if (!fault.isEmpty())
             return Outcome::failed(
                 Texts::tr("Cannot write \"%1\": %2").arg(QDir::toNativeSeparators(path), fault));
@@ -207,7 +199,7 @@ private:
         using statistics::ResultKind;
         using statistics::Verdict;
         if (m_figures.ofDay().sample.results.empty())
-            return emptyNote();
+            return dailyGap(m_input, m_figures);
         const statistics::Figures& ofDay = m_figures.ofDay().all;
         return Texts::tr("%1: points staked: %2, over limit: %3, still missing: %4, open problems: "
                          "%5.")
@@ -221,6 +213,7 @@ private:
     DailyFigures m_figures;
     DailyPages m_pages;
     std::size_t m_problems = 0;
+    bool m_hasMap = true; ///< false when there was not enough memory for it
 };
 
 } // namespace

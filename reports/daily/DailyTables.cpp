@@ -26,6 +26,7 @@ struct Texts
 };
 
 constexpr std::size_t kMostRows = 60; // of a table by surveyor or rover
+constexpr int kNameLines = 2;
 
 // Of the columns of the workbook "Quality statistics", those that have room on a page.
 constexpr const char* kStatistics[] = {"Staked",      "Not planned",       "Within limits",
@@ -53,13 +54,41 @@ void shorten(DailyTable& table)
     table.rows.resize(kMostRows);
 }
 
-/// The results of a kind of points, of a surveyor or of all.
+/// What a surveyor did, or all of them.
 struct Work
 {
     std::size_t sources = 0;
     std::size_t receivers = 0;
     Figures figures;
 };
+
+std::vector<DailyTable::Column> workColumns()
+{
+    return {{statisticsKeyName(GroupKey::Surveyor), false, kNameLines},
+            {Texts::tr("Sources staked")},
+            {Texts::tr("Receivers staked")},
+            {Texts::tr("Not planned")},
+            {Texts::tr("Resurveys")},
+            {Texts::tr("Repeats")},
+            {Texts::tr("Within limits")},
+            {Texts::tr("Over limit")},
+            {Texts::tr("Not judged")}};
+}
+
+/// What each surveyor did, in the order of the groups.
+std::vector<Work> workOf(const statistics::SurveySample& sample, const StatisticsGroups& surveyors)
+{
+    std::vector<Work> work(surveyors.figures.size());
+    for (std::size_t group = 0; group < work.size(); ++group)
+        work[group].figures = surveyors.figures[group];
+    for (const statistics::Observation& result : sample.results) {
+        if (result.kind != ResultKind::Staked)
+            continue;
+        Work& of = work[result.key(GroupKey::Surveyor)];
+        ++(result.key(GroupKey::PointKind) == 0 ? of.sources : of.receivers);
+    }
+    return work;
+}
 
 QStringList workRow(const QString& name, const Work& work)
 {
@@ -108,7 +137,7 @@ DailyValues dailyHead(const ReportInput& input, const DailyFigures& figures)
         {Texts::tr("Project"), input.projectName},
         {Texts::tr("Day"), figures.day().isValid()
                                ? Texts::tr("%1, in the zone %2").arg(figures.dayText(), shownZone())
-                               : Texts::tr("none: no result has a time")},
+                               : Texts::tr("none")},
         {Texts::tr("Coordinate system"), systemNameOf(input.coordParameters)}};
     if (!input.choice.surveyors.isEmpty())
         values.emplace_back(Texts::tr("Surveyors"),
@@ -117,6 +146,18 @@ DailyValues dailyHead(const ReportInput& input, const DailyFigures& figures)
     values.emplace_back(Texts::tr("Made on"), QDate::currentDate().toString(Qt::ISODate));
     values.emplace_back(Texts::tr("Program"), input.program);
     return values;
+}
+
+QString dailyGap(const ReportInput& input, const DailyFigures& figures)
+{
+    if (input.survey.empty())
+        return Texts::tr("The project has no results.");
+    if (figures.day().isValid())
+        return Texts::tr("There is no result of this day.");
+    const ReportChoice& choice = input.choice;
+    return choice.fromMs || choice.untilMs || !choice.surveyors.isEmpty()
+               ? Texts::tr("No result of the chosen period and surveyors has a time.")
+               : Texts::tr("No result has a time, so that there is no day to report.");
 }
 
 DailyValues dailyProgress(const DailyFigures& figures)
@@ -146,39 +187,21 @@ DailyValues dailyProgress(const DailyFigures& figures)
 DailyTable dailyWork(const DailyFigures& figures)
 {
     const StatisticsFigures& ofDay = figures.ofDay();
-    DailyTable table{Texts::tr("The day in numbers"),
-                     {{statisticsKeyName(GroupKey::Surveyor), false},
-                      {Texts::tr("Sources staked")},
-                      {Texts::tr("Receivers staked")},
-                      {Texts::tr("Not planned")},
-                      {Texts::tr("Resurveys")},
-                      {Texts::tr("Repeats")},
-                      {Texts::tr("Within limits")},
-                      {Texts::tr("Over limit")},
-                      {Texts::tr("Not judged")}},
-                     {},
-                     true,
-                     {}};
     const StatisticsGroups& surveyors = groupsOf(ofDay, GroupKey::Surveyor);
-    std::vector<Work> work(surveyors.figures.size());
-    Work sum;
-    for (std::size_t group = 0; group < work.size(); ++group)
-        work[group].figures = surveyors.figures[group];
-    for (const statistics::Observation& result : ofDay.sample.results) {
-        if (result.kind != ResultKind::Staked)
-            continue;
-        const bool isSource = result.key(GroupKey::PointKind) == 0;
-        Work& of = work[result.key(GroupKey::Surveyor)];
-        ++(isSource ? of.sources : of.receivers);
-        ++(isSource ? sum.sources : sum.receivers);
-    }
+    DailyTable table{Texts::tr("The day in numbers"), workColumns(), {}, true, {}};
+    const std::vector<Work> work = workOf(ofDay.sample, surveyors);
     for (std::size_t group = 0; group < work.size(); ++group)
         table.rows.push_back(workRow(
             statisticsKeyText(GroupKey::Surveyor,
                               surveyors.grouping.value(ofDay.sample, group, GroupKey::Surveyor)),
             work[group]));
     shorten(table);
+    Work sum;
     sum.figures = ofDay.all;
+    for (const Work& of : work) {
+        sum.sources += of.sources;
+        sum.receivers += of.receivers;
+    }
     table.rows.push_back(workRow(Texts::tr("All"), sum));
     return table;
 }
@@ -188,8 +211,11 @@ DailyTable dailyStatistics(const DailyFigures& figures, DailySpan span, DailyKey
     const StatisticsFigures& of = span == DailySpan::OfDay ? figures.ofDay() : figures.total();
     const GroupKey groupKey = key == DailyKey::Surveyor ? GroupKey::Surveyor : GroupKey::Rover;
     const StatisticsGroups& groups = groupsOf(of, groupKey);
-    DailyTable table{
-        titleOf(figures, span, key), {{statisticsKeyName(groupKey), false}}, {}, true, {}};
+    DailyTable table{titleOf(figures, span, key),
+                     {{statisticsKeyName(groupKey), false, kNameLines}},
+                     {},
+                     true,
+                     {}};
     for (const char* const caption : kStatistics)
         table.columns.push_back({statisticsColumn(caption).captionText()});
     for (std::size_t group = 0; group < groups.figures.size(); ++group)

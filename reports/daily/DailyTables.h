@@ -16,7 +16,7 @@ struct DailyTable
     {
         QString caption;
         bool isNumber = true;
-        int lines = 1; ///< that a cell may have; what has no room is shortened
+        int lines = 1; ///< that a cell may have; of a number 1, a name 2, a sentence more
     };
 
     QString title;
@@ -31,6 +31,9 @@ using DailyValues = std::vector<std::pair<QString, QString>>;
 
 /// What the report is about: project, day, coordinate system, person, program.
 [[nodiscard]] DailyValues dailyHead(const ReportInput& input, const DailyFigures& figures);
+
+/// Why there is nothing of the day; a sentence.
+[[nodiscard]] QString dailyGap(const ReportInput& input, const DailyFigures& figures);
 
 /// How far the work is at the end of the day, and how long it still takes.
 [[nodiscard]] DailyValues dailyProgress(const DailyFigures& figures);

@@ -1,7 +1,6 @@
 #include "lum_desktop_sdkx/frame/Appearance.h"
 #include "lum_desktop_sdkx/ILayerRegistry.h"
 #include "lum_desktop_sdkx/map/MapWindow.h"
-#include "lum_sdk/coords/EpsgSystem.h"
 #include "lum_sdk/coords/ICoordTransform.h"
 #include "lum_sdk/coords/ProjectCoordTransform.h"
 #include "lum_sdk/files/Translations.h"
@@ -223,18 +222,6 @@ private Q_SLOTS:
                 init();
             }
         }
-    }
-
-    void aProgressTextLeavesANarrowWindowAsItIs()
-    {
-        start();
-        m_frame->resize(600, 400);
-        QCoreApplication::processEvents();
-        const QSize before = m_frame->size();
-        progress(payload::progress(std::string(300, 'W'), 1).c_str());
-        QCoreApplication::processEvents();
-        QCOMPARE(m_frame->size(), before);
-        QVERIFY(bar()->isVisible());
     }
 
     void choosesATimeZone()

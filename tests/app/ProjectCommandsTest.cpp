@@ -475,11 +475,6 @@ private Q_SLOTS:
         QVERIFY(m_boxes->last.details.contains(place("a").folder));
         QVERIFY(isOpen("a"));
         expectHeard("");
-        DataProcessDataManager other(m_host.get());
-        QVERIFY(other.openProject(copy).isDone());
-        QCOMPARE(other.designPoints().pointCount(), 1U);
-        QVERIFY(other.openProject(place("a"), ProjectAccess::Look).isDone());
-        QCOMPARE(other.designPoints().pointCount(), 0U);
     }
 
     void goesOnWithTheCopyOfAProjectWhoseFolderIsGone()

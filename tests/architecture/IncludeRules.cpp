@@ -1,6 +1,5 @@
 #include "IncludeRules.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <istream>
 #include <regex>

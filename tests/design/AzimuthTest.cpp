@@ -12,43 +12,7 @@ namespace {
 constexpr auto kDms = lum::AngleFormat::DegreesMinutesSeconds;
 constexpr auto kDegrees = lum::AngleFormat::Degrees;
 
-struct Direction
-{
-    const char* name;
-    double north, east; ///< destination minus start
-    const char* degrees;
-    const char* dms;
-    const char* length;
-};
-
-class AzimuthDirections : public testing::TestWithParam<Direction>
-{
-};
-
 } // namespace
-
-TEST_P(AzimuthDirections, FromNorthTowardsEast)
-{
-    const auto& [name, north, east, degrees, dms, length] = GetParam();
-    for (const auto& [startNorth, startEast] : {std::pair(0.0, 0.0), {5e6, 4e5}}) {
-        const Azimuth azimuth =
-            azimuthBetween(startNorth, startEast, startNorth + north, startEast + east);
-        EXPECT_EQ(azimuthText(azimuth.degrees, kDegrees).toStdString(), degrees);
-        EXPECT_EQ(azimuthText(azimuth.degrees, kDms).toStdString(), dms);
-        EXPECT_EQ(lengthText(azimuth.length).toStdString(), length);
-    }
-}
-
-// Worked out by hand, the last digits with the rounding of single precision.
-INSTANTIATE_TEST_SUITE_P(
-    All, AzimuthDirections,
-    testing::Values(Direction{"NorthEast", 100, 100, "45.000000", "45.000000", "141.421356"},
-                    Direction{"West", 0, -10, "-90.000000", "-90.000000", "10.000000"},
-                    Direction{"South", -10, 0, "180.000000", "180.000000", "10.000000"},
-                    Direction{"SamePlace", 0, 0, "0.000000", "0.000000", "0.000000"},
-                    Direction{"NegativeZeros", -0.0, -0.0, "0.000000", "0.000000", "0.000000"},
-                    Direction{"Pythagoras", 4, -3, "-36.869897", "-36.521163", "5.000000"}),
-    [](const auto& test) { return test.param.name; });
 
 TEST(Azimuth, SinglePrecisionLosesNothingOfLargeCoordinates)
 {

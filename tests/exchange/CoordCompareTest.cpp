@@ -12,11 +12,8 @@
 #include "lum_sdk/events/ProgressReporter.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Points.h"
-#include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/WorkbookReader.h"
-
-#include <QDir>
 
 #include <gtest/gtest.h>
 
@@ -89,49 +86,6 @@ TEST(CoordCompare, EveryRowGoesThroughTheProjectsSystem)
     EXPECT_EQ(textOf(comparison), "A constant shift on the plane: north -10.000 m, "
                                   "east +20.000 m; the heights differ by a constant "
                                   "-3.000 m."_q);
-}
-
-TEST(CoordCompare, AFailedRowKeepsItsMessageAndLeavesTheOthers)
-{
-    std::vector<SurveyPoint> records = results(kZone50, 4);
-    records[1].latitude = 91;
-    records[2].longitude = kNaN;
-    const CoordCompare comparison(systemOf(kZone50), systemOf(kZone50), records);
-    EXPECT_TRUE(comparison.isFailed(1) && comparison.isFailed(2));
-    EXPECT_FALSE(comparison.message(1).isEmpty());
-    EXPECT_TRUE(std::isnan(comparison.transformed(1).first));
-    EXPECT_TRUE(comparison.message(3).isEmpty());
-    EXPECT_NEAR(comparison.difference(3).first, 0, 1e-9);
-    EXPECT_EQ(differenceFigures(comparison.pairs()).count, 2U);
-    EXPECT_TRUE(
-        textOf(comparison)
-            .startsWith(QStringLiteral(
-                "Both systems give the same positions.\nResults that could not be compared: "
-                "2. The first: ")))
-        << qPrintable(textOf(comparison));
-}
-
-TEST(CoordDifferences, FiguresAreThoseOfTheHand)
-{
-    const std::vector<CoordTriple> stored(4, {5e6, 1, 1});
-    const std::vector<CoordTriple> transformed = {
-        {5e6 + 1, 0, 1}, {5e6 + 2, 1, 1}, {kNaN, 9, 9}, {5e6 - 6, 2, 1}};
-    const DifferenceFigures figures = differenceFigures({stored, transformed});
-    EXPECT_EQ(figures.count, 3U);
-    EXPECT_DOUBLE_EQ(figures.north.mean, -1); // of 1, 2, -6
-    EXPECT_DOUBLE_EQ(figures.north.deviation, std::sqrt((4.0 + 9 + 25) / 2));
-    EXPECT_DOUBLE_EQ(figures.north.rms, std::sqrt((1.0 + 4 + 36) / 3));
-    EXPECT_EQ(figures.north.largest, -6);
-    EXPECT_EQ(figures.north.largestRow, 3U);
-    EXPECT_EQ(figures.east.mean, 0); // of -1, 0, 1
-    EXPECT_EQ(figures.east.deviation, 1);
-    EXPECT_EQ(figures.height.deviation, 0);
-    EXPECT_EQ(figures.height.rms, 0);
-
-    const CoordPairs single{std::span(stored).first(1), std::span(transformed).first(1)};
-    EXPECT_TRUE(std::isnan(differenceFigures(single).north.deviation));
-    EXPECT_EQ(differenceFigures(single).north.rms, 1);
-    EXPECT_EQ(differenceFigures({}).count, 0U);
 }
 
 TEST(CoordDifferences, LargeDifferencesThatAreAlikeKeepTheirDigits)
@@ -351,23 +305,4 @@ TEST_F(CoordCompareFile, TheWorkbookIsTheTableOfTheField)
     EXPECT_TRUE(rows[4].mid(9).join(QString()).isEmpty()) << "the row that failed";
     ASSERT_TRUE(writeCoordCompareWorkbook(path, comparison(), 1, progress).isDone());
     EXPECT_EQ(WorkbookReader(path).rows(sheet)[3][3], "38deg54min0.000sec"_q);
-}
-
-TEST_F(CoordCompareFile, WhatCannotBeWrittenLeavesNothing)
-{
-    const CoordCompare large = comparison(30000);
-    for (const auto write : {&writeCoordCompareCsv, &writeCoordCompareWorkbook}) {
-        folder.write("对比 1.csv", "before");
-        for (const rlim_t kilobytes : {0U, 1U, 300U}) {
-            const SmallFiles limit(kilobytes * 1024);
-            const Outcome writing = write(path, large, 0, progress);
-            EXPECT_FALSE(writing.isDone()) << kilobytes;
-            EXPECT_TRUE(writing.text().contains(path)) << qPrintable(writing.text());
-        }
-        EXPECT_FALSE(write(folder.path("none/x"), large, 0, progress).isDone());
-        EXPECT_EQ(TestFolder::read(path), "before");
-        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
-        EXPECT_TRUE(write(path, large, 0, progress).isDone());
-        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
-    }
 }

@@ -79,36 +79,6 @@ protected:
 
 } // namespace
 
-TEST_F(Kml, HoldsEveryPointWhereTheCoordinateServicePutsIt)
-{
-    const std::string names[] = {"<a href=\"x\">&amp;</a>", "测点 100%", std::string(1000, 'n'),
-                                 "007"};
-    double place = 0;
-    for (const char* line : {"L\"1\"", "测线"}) {
-        for (const std::string& name : names) {
-            place += 1234.5678;
-            design.set({line, name, 4400000 + place, 480000 + 3 * place, place / 7, 1, 1, 0});
-        }
-    }
-    ASSERT_TRUE(writeDesign({"测线"_q, "L\"1\""_q}).isDone());
-    const std::vector<Feature> points = read(0);
-    const std::vector<Feature> lines = read(1);
-    ASSERT_EQ(points.size(), 8U);
-    ASSERT_EQ(lines.size(), 2U);
-    EXPECT_EQ(lines[1].name, "L\"1\"");
-    std::size_t next = 0;
-    for (const Feature& line : lines) {
-        ASSERT_EQ(line.positions.size(), 4U);
-        for (const CoordTriple& position : line.positions) {
-            const Feature& point = points[next++];
-            const DesignPoint* const right = design.find(line.name, point.name);
-            ASSERT_NE(right, nullptr) << point.name;
-            expectAt(*right, position);
-            expectAt(*right, point.positions[0]);
-        }
-    }
-}
-
 // GDAL tells of a full disk late or never; it is full at one place after the other.
 TEST_F(Kml, AFullDiskLeavesTheFileAsItWas)
 {

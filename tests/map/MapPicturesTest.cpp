@@ -1,5 +1,4 @@
 #include "map/DesignMarks.h"
-#include "map/DesignPicture.h"
 #include "map/NameWriter.h"
 #include "map/PictureFrame.h"
 #include "map/SurveyMarks.h"
@@ -9,14 +8,12 @@
 #include "tests/map/TestSurvey.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Pixels.h"
-#include "tests/support/Points.h"
 
 #include <QDir>
 #include <QPainter>
 #include <QtTest>
 
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -170,35 +167,6 @@ private Q_SLOTS:
         PictureFrame cut = frameAt(4400500, 500500, 4);
         cut.drawingArea = QRectF(60, 50, 120, 100);
         check("the drawing area's edge", cut);
-    }
-
-    void aDesignPlaceTakesTheBrushInUse()
-    {
-        SurveyPoints points;
-        for (const int place : {1, 2, 3}) {
-            SurveyPoint point = surveyPoint("1", std::to_string(place));
-            point.north = 100;
-            point.east = point.designEast = 100 + 40 * place;
-            point.designNorth = 60;
-            point.referenceNorth = place == 1 ? 1e6 : 180; // the first base is not on the screen
-            point.referenceEast = 200;
-            points.set(point);
-        }
-        const QImage picture = surveyPicture(points, frameAt(100, 200, 1));
-        QCOMPARE(picture.pixelColor(68, 168), QColor(Qt::white)); // no brush yet
-        QCOMPARE(picture.pixelColor(108, 168), QColor(Qt::red));  // of the first line's label
-        QCOMPARE(picture.pixelColor(148, 168), QColor(Qt::blue)); // of the second point's base
-
-        SurveyPoint far = surveyPoint("0", "1"); // beside the picture, on the screen, with its base
-        far.north = far.referenceNorth = 100;
-        far.east = 1600;
-        far.referenceEast = 1572;
-        for (const char* number : {"1", "2"}) {
-            far.pointNumber = number;
-            points.set(far);
-        }
-        QCOMPARE(surveyPicture(points, frameAt(100, 200, 1)).pixelColor(68, 168),
-                 QColor(Qt::blue)); // of that base
     }
 
     void theFirstClassLiesOnTopAndAllElseIsGrey()

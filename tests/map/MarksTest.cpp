@@ -2,7 +2,6 @@
 #include "map/MarkExtent.h"
 #include "map/SurveyMarks.h"
 #include "tests/map/TestSurvey.h"
-#include "tests/support/Points.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,6 @@
 
 #include <QPainter>
 
-#include <cmath>
 #include <vector>
 
 namespace {

@@ -86,22 +86,6 @@ TEST_F(DataManager, NoExportReplacesAFileOfTheOpenProject)
     EXPECT_EQ(manager.exportDesignDatabase({}, link, false), 1);
 }
 
-TEST(DataManagerInstance, IsTheFirstManagerAsLongAsItLives)
-{
-    EXPECT_FALSE(DataProcessDataManager::hasInstance());
-    EXPECT_THROW((void)DataProcessDataManager::instance(), std::runtime_error);
-    Host host;
-    {
-        const DataProcessDataManager first(&host);
-        {
-            const DataProcessDataManager second(&host);
-            EXPECT_EQ(&DataProcessDataManager::instance(), &first);
-        }
-        EXPECT_EQ(&DataProcessDataManager::instance(), &first);
-    }
-    EXPECT_FALSE(DataProcessDataManager::hasInstance());
-}
-
 /// The quality check clears what the resurvey check writes, so it must come first.
 TEST_F(DataManager, FindsProblemsBehindTheVerdictsOfAllChecks)
 {

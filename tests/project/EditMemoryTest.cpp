@@ -3,29 +3,46 @@
 #include "project/DataProcessDataManager.h"
 #include "project/edits/EditParts.h"
 #include "project/PointCorrection.h"
+#include "tests/project/ExpectOutcome.h"
 #include "tests/project/TestProject.h"
 #include "tests/support/Literals.h"
 #include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
 #include <malloc.h>
+#include <unistd.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <functional>
 #include <limits>
 #include <new>
+#include <thread>
 
 namespace {
 
-thread_local long allowance = std::numeric_limits<long>::max();
+std::atomic<long> allowance{std::numeric_limits<long>::max()};
 std::atomic<long> bytesInUse{0};
+std::thread::id testThread;
+bool isForWorkers = false;
 
-/// While it lives, this thread runs out of memory after so many allocations.
+/// While it lives, this thread, or all the others, run out of memory after so many allocations. A
+/// job that waits for ever for such a thread is ended, and fails the test.
 class ScarceMemory
 {
 public:
-    explicit ScarceMemory(long allocations) { allowance = allocations; }
-    ~ScarceMemory() { allowance = std::numeric_limits<long>::max(); }
+    explicit ScarceMemory(long allocations, bool forWorkers = false)
+    {
+        alarm(60);
+        testThread = std::this_thread::get_id();
+        isForWorkers = forWorkers;
+        allowance = allocations;
+    }
+    ~ScarceMemory()
+    {
+        allowance = std::numeric_limits<long>::max();
+        alarm(0);
+    }
     ScarceMemory(const ScarceMemory&) = delete;
     ScarceMemory& operator=(const ScarceMemory&) = delete;
 };
@@ -34,7 +51,7 @@ public:
 
 void* operator new(std::size_t size)
 {
-    if (allowance-- <= 0)
+    if ((std::this_thread::get_id() == testThread) != isForWorkers && allowance-- <= 0)
         throw std::bad_alloc();
     void* const memory = std::malloc(size);
     if (memory == nullptr)
@@ -251,4 +268,32 @@ TEST_F(EditMemory, IsEstimatedWithinAFactorOfTwo)
         accepted.set(problems.back());
     }
     expectEstimated(std::make_unique<AcceptedProblems>(problems, std::move(accepted)));
+}
+
+// The marks are too long for a string without memory of its own, and the rows are more than a
+// batch.
+TEST(FailingWorker, EndsTheJobAndChangesNothing)
+{
+    const TestFolder folder;
+    const std::string path = folder.path("p.db").toStdString();
+    ASSERT_TRUE(makeDatabase(path));
+    const TestProject kept = TestProject::made(20, 500, "these points are kept");
+    const TestProject other = TestProject::made(20, 500, "these points are not saved");
+    expectDone(kept.save(path));
+    for (const long allocations : {0, 20, 100}) {
+        TestProject loaded;
+        {
+            const ScarceMemory scarce(allocations * 5, true);
+            expectFailure(loaded.load(path), "bad_alloc");
+        }
+        {
+            const ScarceMemory scarce(allocations, true);
+            expectFailure(other.save(path), "bad_alloc");
+        }
+        EXPECT_FALSE(QFile::exists(QString::fromStdString(path + ".saved"))) << allocations;
+        expectDone(loaded.load(path));
+        EXPECT_EQ(loaded.design.pointCount(), 10000U) << allocations;
+        EXPECT_EQ(loaded.survey.pointCount(), 2000U) << allocations;
+        EXPECT_EQ(loaded.survey.find("1019", "10195495")->remarks, "these points are kept");
+    }
 }

@@ -9,11 +9,10 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Points.h"
+#include "tests/support/Widgets.h"
 
 #include <QtTest>
 #include <QtWidgets>
-
-#include <memory>
 
 /// The steps of an open project, as the menu and the list of steps use them.
 class EditStepsTest : public QObject
@@ -156,7 +155,7 @@ private Q_SLOTS:
         for (int i = 0; i < 4; ++i)
             remark(i, "wet");
         DlgEditSteps::open(m_project->host, *m_steps);
-        const QPointer<QWidget> dialog = theDialog();
+        const QPointer<QWidget> dialog = findWindow<DlgEditSteps>();
         QVERIFY(dialog != nullptr);
         auto* const list = dialog->findChild<QListWidget*>();
         QCOMPARE(list->count(), 5);
@@ -201,15 +200,6 @@ private:
             m_project->results().find("R1", std::to_string(100 + place));
         return point == nullptr ? "(none)" : point->remarks;
     }
-    static QWidget* theDialog()
-    {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (qobject_cast<DlgEditSteps*>(widget) != nullptr && widget->isVisible())
-                return widget;
-        }
-        return nullptr;
-    }
-
     std::optional<OpenProject> m_project;
     std::optional<Boxes> m_boxes;
     std::optional<EditSteps> m_steps;

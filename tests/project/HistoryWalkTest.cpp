@@ -80,6 +80,10 @@ protected:
         case 3: {
             basalt::Dictionary limits(manager.qualityParameters());
             limits.set("pdop_max", pick(5));
+            if (random() % 2 == 0)
+                limits.set("only_here", "1");
+            else
+                limits.remove("only_here");
             return manager.setQualityParameters(limits);
         }
         default: {

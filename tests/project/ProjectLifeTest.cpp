@@ -7,7 +7,6 @@
 #include "tests/support/SmallFiles.h"
 
 #include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 

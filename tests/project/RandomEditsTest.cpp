@@ -185,6 +185,10 @@ protected:
         expectDone(theirs.save(path.toStdString()));
         next.import(other.written());
         EXPECT_EQ(m_manager.importSurveyDatabase(path), 1);
+        for (const auto& [number, line] : m_manager.surveyPoints()) {
+            for (const SurveyPoint& point : line)
+                EXPECT_EQ(point.seaHeight, point.elevation); // a database does not hold it
+        }
         return true;
     }
     bool deletePoints(PlainProject& next)

@@ -5,8 +5,6 @@
 #include "tests/support/Points.h"
 #include "tests/support/Widgets.h"
 
-#include <memory>
-
 /// The editor of a survey result, by keys and mouse.
 class SurveyPointDialogTest : public QObject
 {

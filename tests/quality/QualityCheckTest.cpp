@@ -28,33 +28,7 @@ SurveyPoint soundPoint(const char* line = "1001", const char* number = "10015001
     return point;
 }
 
-/// One fault of each family of tests, and its digit.
-constexpr std::pair<void (*)(SurveyPoint& point), int> kFaults[] = {
-    {[](auto& point) { point.elevation = 1001; }, 2},
-    {[](auto& point) { point.referenceDistance = 10001; }, 100},
-    {[](auto& point) { point.verticalAccuracy = -1; }, 2000},
-    {[](auto& point) { point.antennaHeight = 0; }, 20000},
-    {[](auto& point) { point.vdop = 9; }, 400000},
-    {[](auto& point) { point.satelliteNumber = 5; }, 1000000},
-    {[](auto& point) { point.longitudinalDeviation = 1; }, 20000000},
-};
-
 } // namespace
-
-TEST(QualityCheck, EachFamilyOfFaultsHasItsDigitAndARow)
-{
-    const QualityLimits limits = QualityLimits::from(basalt::Dictionary());
-    ASSERT_EQ(qualityCode(soundPoint(), limits), 0);
-    for (const auto& [spoil, code] : kFaults) {
-        SurveyPoint point = soundPoint();
-        spoil(point);
-        EXPECT_EQ(qualityCode(point, limits), code);
-        point.qualityStandard = code + 20; // the digit of the resurvey check has no row
-        std::vector<QualityRow> rows;
-        describeQuality(point, limits, rows);
-        EXPECT_EQ(rows.size(), 1U) << code;
-    }
-}
 
 TEST(QualityCheck, EachFieldOfACommonFaultHasItsOwnSentence)
 {

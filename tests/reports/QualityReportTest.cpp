@@ -1,14 +1,11 @@
 #include "reports/QualityReport.h"
 
-#include "lum_sdk/coords/ProjectCoordTransform.h"
-#include "samples/DemoSurvey.h"
 #include "samples/ResultCompleter.h"
 #include "tests/reports/ReportTest.h"
 
 #include <QDir>
 
 #include <cmath>
-#include <set>
 
 namespace {
 
@@ -162,28 +159,6 @@ TEST_F(QualityReport, SaysThatNothingFailedAndLeavesNothingWhenCancelled)
     EXPECT_EQ(write().kind(), Outcome::Kind::Refused);
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     EXPECT_EQ(TestFolder::read(path()), "old");
-}
-
-TEST_F(QualityReport, FindsThePlantedFaultsOfTheDemoSurveyAndNothingElse)
-{
-    ASSERT_EQ(demo::useSurveySystem(get_project_coord_transform()), QString());
-    demo::DemoSurvey demo = demo::makeDemoSurvey(7, get_project_coord_transform());
-    m_design = std::move(demo.design);
-    m_survey = std::move(demo.survey);
-    Rows planted;
-    const std::set<std::string> judged{
-        "skid",           "too far",           "hrms",       "vrms",           "hrms and vrms",
-        "antenna high",   "antenna low",       "pdop",       "pdop and vdop",  "pdop hdop and vdop",
-        "few satellites", "reference too far", "wrong name", "exchanged names"};
-    for (const demo::PlantedFault& fault : demo.faults) {
-        if (judged.count(fault.kind) != 0)
-            planted.push_back(
-                {QString::fromStdString(fault.line), QString::fromStdString(fault.point)});
-    }
-    std::sort(planted.begin(), planted.end());
-    ASSERT_GT(planted.size(), 50U);
-    ASSERT_TRUE(write().isDone());
-    EXPECT_EQ(rows("Failures", {"Line"_q, "Point"_q}), planted);
 }
 
 } // namespace

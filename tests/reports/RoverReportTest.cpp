@@ -98,8 +98,11 @@ TEST_F(RoverLog, ListsGapsLongerThanHalfAnHour)
 
 TEST_F(RoverLog, TellsWhichBaseWasMovedSinceWhen)
 {
+    for (const auto& [key, value] :
+         {std::pair("unit_m", "0.3048"), {"factor", "3.280839895013123"}, {"project_type", "1"}})
+        m_coords.set(key, value);
     const auto place = [](SurveyPoint& point, double north) -> SurveyPoint& {
-        point.referenceNorth = 4000 + north;
+        point.referenceNorth = 4000 + north; // feet
         point.referenceEast = 500;
         return point;
     };
@@ -114,7 +117,9 @@ TEST_F(RoverLog, TellsWhichBaseWasMovedSinceWhen)
     EXPECT_EQ(bases[0].mid(12, 6).join(QString()), QString());
     EXPECT_EQ(bases[1].mid(0, 4), (QStringList{"B1"_q, "R1; R2"_q, "1"_q, "3"_q}));
     EXPECT_EQ(bases[1].mid(11, 3), (QStringList{"L1 / 5"_q, "yes"_q, "1"_q}));
-    EXPECT_EQ(bases[1].mid(15, 3), (QStringList{"L1 / 2"_q, "1.5"_q, "0"_q}));
+    EXPECT_EQ(bases[1][15], "L1 / 2"_q);
+    EXPECT_NEAR(bases[1][16].toDouble(), 0.4572, 1e-9);
+    EXPECT_EQ(bases[1][17], "0"_q);
 }
 
 TEST_F(RoverLog, OfNoResultsIsAWorkbook)

@@ -1,7 +1,6 @@
 #include "quality/QualityLimits.h"
 #include "reports/SurveyResultsReport.h"
 #include "tests/reports/ReportTest.h"
-#include "tests/support/Points.h"
 
 #include <cmath>
 

@@ -14,7 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <map>
 #include <set>
@@ -356,30 +355,25 @@ struct BadCase
     std::size_t atMost = 0; ///< problems
 };
 
-template <class Change>
-void changeResults(DemoSurvey& demo, Change change)
+template <class Points, class Change>
+void changeAll(Points& points, Change change)
 {
-    SurveyPoints changed;
-    for (const auto& [number, line] : demo.survey) {
-        for (SurveyPoint point : line) {
+    Points changed;
+    for (const auto& [number, line] : points) {
+        for (auto point : line) {
             change(point);
             changed.set(std::move(point));
         }
     }
-    demo.survey = std::move(changed);
+    points = std::move(changed);
 }
 
-template <class Change>
-void changeDesign(DemoSurvey& demo, Change change)
+template <std::int64_t timeMs>
+void setTimes(DemoSurvey& demo)
 {
-    DesignPoints changed;
-    for (const auto& [number, line] : demo.design) {
-        for (DesignPoint point : line) {
-            change(point);
-            changed.set(std::move(point));
-        }
-    }
-    demo.design = std::move(changed);
+    changeAll(demo.survey, [](SurveyPoint& point) {
+        point.dateTime = point.startTime = point.endTime = timeMs;
+    });
 }
 
 template <class Points>
@@ -403,21 +397,11 @@ const BadCase kBadCases[] = {
      }},
     {"NoDesign", [](DemoSurvey& demo) { demo.design.clear(); }},
     {"NoSurvey", [](DemoSurvey& demo) { demo.survey.clear(); }, {"missing"}, 4000},
-    {"NoTimes",
-     [](DemoSurvey& demo) {
-         changeResults(demo, [](SurveyPoint& point) {
-             point.dateTime = point.startTime = point.endTime = 0;
-         });
-     }},
-    {"EqualTimes",
-     [](DemoSurvey& demo) {
-         changeResults(demo, [](SurveyPoint& point) {
-             point.dateTime = point.startTime = point.endTime = 1747000000000;
-         });
-     }},
+    {"NoTimes", setTimes<0>},
+    {"EqualTimes", setTimes<1747000000000>},
     {"NoCrewsAndBases",
      [](DemoSurvey& demo) {
-         changeResults(demo, [](SurveyPoint& point) {
+         changeAll(demo.survey, [](SurveyPoint& point) {
              point.surveyor = point.instrumentSerialNumber = point.baseStationId = std::string();
          });
      }},
@@ -430,11 +414,11 @@ const BadCase kBadCases[] = {
      1},
     {"OnePlace",
      [](DemoSurvey& demo) {
-         changeDesign(demo, [](DesignPoint& point) {
+         changeAll(demo.design, [](DesignPoint& point) {
              point.north = 4560000;
              point.east = 509000;
          });
-         changeResults(demo, [](SurveyPoint& point) {
+         changeAll(demo.survey, [](SurveyPoint& point) {
              point.north = point.designNorth = 4560000;
              point.east = point.designEast = 509000;
          });
@@ -443,13 +427,13 @@ const BadCase kBadCases[] = {
      40},
     {"LinesOfOnePoint",
      [](DemoSurvey& demo) {
-         changeDesign(demo, [](DesignPoint& point) { point.lineNumber = point.pointNumber; });
-         changeResults(
-             demo, [](SurveyPoint& point) { point.lineNumber = withoutLetter(point.pointNumber); });
+         changeAll(demo.design, [](DesignPoint& point) { point.lineNumber = point.pointNumber; });
+         changeAll(demo.survey,
+                   [](SurveyPoint& point) { point.lineNumber = withoutLetter(point.pointNumber); });
      }},
     {"NoPositions",
      [](DemoSurvey& demo) {
-         changeResults(demo, [](SurveyPoint& point) {
+         changeAll(demo.survey, [](SurveyPoint& point) {
              point.north = point.east = point.elevation = point.latitude = kNaN;
              point.transversalDeviation = point.longitudinalDeviation = kNaN;
          });
@@ -458,7 +442,7 @@ const BadCase kBadCases[] = {
      4200},
     {"SomePositions",
      [](DemoSurvey& demo) {
-         changeResults(demo, [](SurveyPoint& point) {
+         changeAll(demo.survey, [](SurveyPoint& point) {
              if (point.pointNumber.back() == '7')
                  point.north = kNaN;
              if (point.pointNumber.back() == '3')
@@ -469,7 +453,7 @@ const BadCase kBadCases[] = {
      1250},
     {"DesignWithoutPositions",
      [](DemoSurvey& demo) {
-         changeDesign(demo, [](DesignPoint& point) {
+         changeAll(demo.design, [](DesignPoint& point) {
              point.north = point.elevation = kNaN;
              point.azimuth = -HUGE_VAL;
          });

@@ -2,7 +2,6 @@
 
 #include <QBuffer>
 #include <QImage>
-#include <QPainter>
 
 #include <arpa/inet.h>
 #include <poll.h>
@@ -10,7 +9,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 
 namespace {

@@ -7,6 +7,17 @@
 
 // What a user sees of a window, and does to it.
 
+/// The visible window of this class; null without one.
+template <class Window>
+Window* findWindow()
+{
+    for (QWidget* const each : QApplication::topLevelWidgets()) {
+        if (auto* const found = qobject_cast<Window*>(each); found != nullptr && found->isVisible())
+            return found;
+    }
+    return nullptr;
+}
+
 /// The visible button with this text, marks of keys left aside; null without one.
 inline QAbstractButton* findButton(const QWidget& window, const QString& text)
 {

@@ -2,7 +2,6 @@
 
 #include <QStringList>
 
-#include <map>
 #include <vector>
 
 /// A workbook, read back from the XML in its package. A cell of text is the text; a number is

@@ -11,7 +11,6 @@
 #include "protocol/StatusKeys.h"
 #include "tests/map/ui/TestMap.h"
 #include "tests/support/EventLog.h"
-#include "tests/support/Points.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/Widgets.h"
 #include "views/AttributeValues.h"

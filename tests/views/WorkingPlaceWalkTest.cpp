@@ -7,7 +7,6 @@
 #include "project/ui/DlgSurveyPoint.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
-#include "protocol/StatusKeys.h"
 #include "quality/ui/DataInspectionCommand.h"
 #include "quality/ui/DlgRepeatPtCheck.h"
 #include "quality/ui/EmptyPointCheckCommand.h"

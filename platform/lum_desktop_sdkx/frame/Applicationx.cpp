@@ -14,6 +14,7 @@
 #include "lum_sdk/files/SystemKeys.h"
 #include "lum_sdk/files/Translations.h"
 #include "lum_sdk/InstanceReceiver.h"
+#include "lum_sdk/QtMessages.h"
 #include "lum_sdk/Text.h"
 
 #include <QFile>
@@ -28,16 +29,6 @@
 
 namespace {
 
-/// Writes Qt's messages into the log.
-void logQtMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
-{
-    const std::string line = "Qt: " + message.toStdString();
-    if (type == QtCriticalMsg || type == QtFatalMsg)
-        basalt::logError(line);
-    else
-        basalt::logDebug(line); // the message window hides debug lines from the user
-}
-
 /// Which application of the product this is.
 struct Identity
 {
@@ -49,6 +40,12 @@ struct Identity
         return QString::fromStdString(basalt::configFolder());
     }
     [[nodiscard]] QString tool() const { return configFolder() + QString::fromUtf8(toolPath); }
+
+    /// Reads the settings, which fonts and texts depend on.
+    void readSettings() const
+    {
+        get_system_ini_parameter().load((tool() + QStringLiteral(".sys")).toStdString());
+    }
 
     /// Names the process so, reads the configuration and registers what the platform has.
     void take() const
@@ -84,7 +81,7 @@ void answer(int argc, char** argv, const Identity& identity)
 {
     const QCoreApplication withoutWindow(argc, argv);
     identity.take();
-    get_system_ini_parameter().load((identity.tool() + QStringLiteral(".sys")).toStdString());
+    identity.readSettings();
     loadTexts();
     static_cast<void>(CommandLine::read(QCoreApplication::arguments()));
 }
@@ -97,13 +94,15 @@ constexpr const char* kStrokes = "cff:darkening-parameters=500,150,1000,100,1667
 /// Sets what must be set before Qt makes the application object.
 int& prepared(int& argc, char** argv, const Identity& identity)
 {
-    qInstallMessageHandler(logQtMessage);
+    qInstallMessageHandler(lum::logQtMessage);
     // All 8-bit text is UTF-8, also file names, and also when the locale is "C".
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     if (CommandLine::asksForText(argc, argv))
         answer(argc, argv, identity);
     if (!qEnvironmentVariableIsSet("FREETYPE_PROPERTIES"))
         qputenv("FREETYPE_PROPERTIES", kStrokes);
+    identity.readSettings();
+    lum::chooseFontsFor(setting(settings::kLanguage));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(

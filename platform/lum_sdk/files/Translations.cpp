@@ -40,4 +40,11 @@ void loadTranslations(const QString& language, const QString& folder, const QStr
                            folder.toStdString());
 }
 
+void chooseFontsFor(const QString& language)
+{
+    constexpr const char* kFontLanguage = "FC_LANG"; // goes before the locale for fontconfig
+    if (language.startsWith(QLatin1String("zh")) && !qEnvironmentVariableIsSet(kFontLanguage))
+        qputenv(kFontLanguage, language.toLatin1());
+}
+
 } // namespace lum

@@ -11,4 +11,10 @@ namespace lum {
 /// \param catalogue what their names begin with, before the language
 void loadTranslations(const QString& language, const QString& folder, const QString& catalogue);
 
+/// Lets fonts without Chinese characters be helped out by Chinese ones when the program speaks
+/// Chinese: by the locale "C" they would be Japanese, of other forms. Works before there is an
+/// application object only.
+/// \param language such as "zh_CN"; empty is the system's, which fonts follow by themselves
+void chooseFontsFor(const QString& language);
+
 } // namespace lum

@@ -6,8 +6,6 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/Widgets.h"
 
-#include <memory>
-
 namespace {
 
 /// Opens the design dialog of a test: nothing.
@@ -139,15 +137,12 @@ private Q_SLOTS:
             QCOMPARE(project.boxes.told(), QStringList{"Error|Calculate Msg Not Enough"_q});
             QCOMPARE(project.dialog().focusWidget(), project.fields()[empty]);
         }
-        for (const QString& text : {"word"_q, "12,5"_q, "1e308"_q, "nan"_q}) {
-            project.type({"1"_q, text, "3"_q, "4"_q});
-            QVERIFY(project.fields()[1]->palette().color(QPalette::Text) != sound);
-            QVERIFY2(project.note().contains(text) && project.note().startsWith("E of Start"_q),
-                     qPrintable(project.note()));
-            project.press("Calculate");
-            QCOMPARE(project.texts().mid(4), (QStringList{QString(), QString()}));
-            QCOMPARE(project.dialog().focusWidget(), project.fields()[1]);
-        }
+        project.type({"1"_q, "12,5"_q, "3"_q, "4"_q});
+        QVERIFY(project.fields()[1]->palette().color(QPalette::Text) != sound);
+        QVERIFY(project.note().startsWith("E of Start"_q) && project.note().contains("12,5"_q));
+        project.press("Calculate");
+        QCOMPARE(project.texts().mid(4), (QStringList{QString(), QString()}));
+        QCOMPARE(project.dialog().focusWidget(), project.fields()[1]);
         project.type({"3"_q, "4"_q, "3"_q, "4"_q});
         QCOMPARE(project.fields()[1]->palette().color(QPalette::Text), sound);
         project.press("Calculate");

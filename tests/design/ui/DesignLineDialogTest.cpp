@@ -3,7 +3,6 @@
 #include "design/ui/DesignSurveyLineCommand.h"
 #include "design/ui/DesignTexts.h"
 #include "design/ui/DlgDesignLine.h"
-#include "lum_sdk/Transform.h"
 #include "map/ui/PointHighlight.h"
 #include "protocol/Events.h"
 #include "protocol/Payloads.h"
@@ -37,15 +36,7 @@ public:
     }
 
     void open() { DesignSurveyLineCommand("", &host).execute(); }
-    [[nodiscard]] static DlgDesignLine* shown()
-    {
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            if (auto* const dialog = qobject_cast<DlgDesignLine*>(window);
-                dialog != nullptr && dialog->isVisible())
-                return dialog;
-        }
-        return nullptr;
-    }
+    [[nodiscard]] static DlgDesignLine* shown() { return findWindow<DlgDesignLine>(); }
     [[nodiscard]] IDictionary& parameters() { return manager.designParameters(); }
     [[nodiscard]] QString stored(const char* key)
     {
@@ -175,9 +166,7 @@ private Q_SLOTS:
         const std::initializer_list<Case> kCases = {
             {"r_line_step", "0", "注意|步长禁止输入0。"},
             {"s_pt_step", "", "注意|步长禁止输入0。"},
-            {"r_pt_step", "-10", "with a step of -10 the numbers from 0 never reach 40."},
             {"r_line_dist", "15,5", "注意|R-Line Dist: \"15,5\" is not a number."},
-            {"calc_s_start_east", "1e308", "1e308"},
             {"r_pt_end_num", "2000000000", "200,000,001"},
         };
         for (const auto& [key, text, part] : kCases) {

@@ -10,7 +10,6 @@
 #include "tests/support/TestFolder.h"
 
 #include <QDesktopServices>
-#include <QDir>
 #include <QtTest>
 
 namespace {

@@ -15,24 +15,12 @@
 #include "tests/support/TestFolder.h"
 #include "tests/support/Widgets.h"
 
-#include <memory>
-
 namespace {
 
 constexpr const char* kEvents = "REFRESH_DESIGN_LAYER,REFRESH_SURVEY_LAYER,ON_SURVEY_LINE_SWITCHED";
 constexpr const char* kGoodDesign = "1,L,1,2,3,4,1,0\n2,L,1,2,3,4,1,0\n";
 
 } // namespace
-
-/// Opens files by the links of the desktop.
-class FileOpener : public QObject
-{
-    Q_OBJECT
-public:
-    QList<QUrl> opened;
-public Q_SLOTS:
-    void open(const QUrl& url) { opened << url; }
-};
 
 class FileImportsTest : public QObject
 {
@@ -160,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(points.selected.size(), 3);
     }
 
-    void theListCopiesAllAndOpensTheFile()
+    void theListCopiesAll()
     {
         const QString path = file("1,L,1,2,3,4,x,0\n");
         FileImports::importDesignCsv(m_project->host, path);
@@ -169,11 +157,6 @@ private Q_SLOTS:
         QVERIFY2(copied.startsWith("Import Success!\n\"%1\": lines read: 1"_q.arg(path)) &&
                      copied.contains("\nSkipped line\t1\tL\t1\tField 7"_q),
                  qPrintable(copied));
-        FileOpener opener;
-        QDesktopServices::setUrlHandler("file"_q, &opener, "open");
-        press(*list(), "Open the File");
-        QDesktopServices::unsetUrlHandler("file"_q);
-        QCOMPARE(opener.opened, QList<QUrl>({QUrl::fromLocalFile(path)}));
     }
 
     void theListGoesWithItsProject()
@@ -184,22 +167,6 @@ private Q_SLOTS:
         QVERIFY(dialog->isVisible());
         m_project->tellProject("/b");
         QTRY_VERIFY(dialog == nullptr);
-    }
-
-    void aLongSummaryFitsOnTheScreen()
-    {
-        QByteArray text = "line num,point num,";
-        for (int i = 0; i < 300; ++i)
-            text += "a very long caption that no column has " + QByteArray::number(i) + ',';
-        FileImports::importSurveyCsv(m_project->host,
-                                     file(text + "\n" + QByteArray("L,,\n").repeated(50000)));
-        QVERIFY(QTest::qWaitForWindowExposed(list()));
-        const QRect screen = list()->screen()->availableGeometry();
-        QVERIFY(screen.contains(list()->frameGeometry()));
-        const auto* const numbers = list()->findChild<QPlainTextEdit*>();
-        QVERIFY(numbers->height() < screen.height() / 3);
-        QCOMPARE(list()->findChild<CustomTableWidget*>()->model()->rowCount(), 1000);
-        QVERIFY(list()->findChild<QLabel*>("place"_q)->text().contains("1,000"_q));
     }
 
     void anUnknownFileIsAskedAbout()

@@ -185,32 +185,6 @@ private Q_SLOTS:
         QVERIFY(!model.hasFaults());
     }
 
-    void aMarkGivesWayToWhatIsTyped()
-    {
-        Model model;
-        const QString reason = "Too far for so few."_q;
-        const QModelIndex dist = model.cell("dist");
-        const QModelIndex count = model.cell("count");
-        QVERIFY(model.type("count", "1"));
-        model.mark("count"_q, reason);
-        QCOMPARE(model.firstFault(), count);
-        QCOMPARE(count.data(Qt::ToolTipRole).toString(), reason);
-        model.mark("dist"_q, reason);
-        QVERIFY(model.fault(count).isEmpty());
-        QCOMPARE(dist.data().toString(), "3 m"_q); // the value stays as it is shown
-
-        QVERIFY(model.type("dist", "11"));
-        model.mark("dist"_q, reason);
-        QCOMPARE(model.fault(dist), "Enter a number from 0 m to 10 m."_q);
-        model.mark({}, {});
-        QVERIFY(model.hasFaults()); // what was typed is still there
-
-        QVERIFY(model.type("dist", "4"));
-        model.mark("dist"_q, reason);
-        QVERIFY(model.type("dist", "5"));
-        QVERIFY(!model.hasFaults() && !model.firstFault().isValid());
-    }
-
     void showsAnExponentAsItIsTyped()
     {
         Model model("east=-2.5e+06,a3=1.5e-09,note=2e6",

@@ -178,22 +178,6 @@ private Q_SLOTS:
         QVERIFY(visibleText().contains("covers 31 % of this system's area"_q)); // by its bounds
     }
 
-    void keepsNoValueOfAnotherProjection()
-    {
-        open(ownSystem());
-        pick("Projection", "Lambert conformal conic");
-        enter("First standard parallel", "30");
-        pick("Projection", "UTM");
-        QVERIFY(!isShown("First standard parallel") && !isShown("False easting"));
-        enter("Central meridian", "115");
-        QCOMPARE(value("parallel_1_lat"), "0"_q);
-        QCOMPARE(value("factor"), "0.9996"_q);
-        QCOMPARE(value("org_lon"), "117"_q);
-        pick("Projection", "Lambert conformal conic"); // the hidden value was kept
-        QVERIFY(isShown("First standard parallel"));
-        QCOMPARE(value("parallel_1_lat"), "30"_q);
-    }
-
     void keepsAxisAndNameOfTheEllipsoidInStep()
     {
         open(ownSystem());
@@ -259,22 +243,6 @@ private Q_SLOTS:
         QCOMPARE(m_grid->currentIndex(), cell("Geoid file"));
         check("Use geoid");
         QVERIFY(!m_panel->hasFaults());
-    }
-
-    void storesAShiftAboutAPivotWithoutIt()
-    {
-        open(ownSystem());
-        QVERIFY(!isShown("Rotation rZ"));
-        pick("Model", "Coordinate frame rotation");
-        QVERIFY(isShown("Rotation rZ") && !isShown("Rotation centre X"));
-        pick("Model", "Molodensky-Badekas");
-        enter("Rotation rZ", "1");
-        QVERIFY(isMarked("Rotation centre X") && m_panel->hasFaults());
-        enter("Rotation centre Y", "5000000");
-        QVERIFY(!m_panel->hasFaults());
-        QCOMPARE(value("_7type"), "2"_q);
-        QVERIFY(!m_dialog->parameters().contains("_7py"));
-        QCOMPARE(shown("Model"), "Molodensky-Badekas"_q); // while the dialog is open
     }
 
     void opensWithoutASystem()

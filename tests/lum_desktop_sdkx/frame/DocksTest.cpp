@@ -65,24 +65,6 @@ private Q_SLOTS:
         get_system_status_dictionary().clear();
     }
 
-    void findsWindowsByClassNameAndCaption()
-    {
-        ShownFrame shown(kLayout);
-        WindowRegistry& windows = shown.host.windows();
-        IWindow* const window = windows.find("TestWindow"_q);
-        QVERIFY(window != nullptr);
-        QCOMPARE(windows.find("Survey Data List"_q), window);
-        QCOMPARE(windows.find("Survey"_q), window);
-        QCOMPARE(windows.find("survey"_q), nullptr);
-        QVERIFY(!windows.activate("Unknown"_q) && !windows.close("Unknown"_q));
-
-        QVERIFY(windows.close("Survey"_q));
-        QVERIFY(!window->widget()->isVisible());
-        QVERIFY(!shown.dock("Survey Data List")->toggleViewAction()->isChecked());
-        QVERIFY(windows.activate("Survey"_q));
-        QVERIFY(window->widget()->isVisible());
-    }
-
     void restoresTheDocksOfTheLastSession()
     {
         {
@@ -157,23 +139,6 @@ private Q_SLOTS:
                              "%1: %2 x %3 more"_q.arg(i).arg(change.width()).arg(change.height())));
             }
         }
-    }
-
-    void theMapTakesWhatTheFrameGains()
-    {
-        ShownFrame shown(kLayout);
-        const auto widths = [&] {
-            QCoreApplication::processEvents();
-            return std::pair(shown.dock("Layers")->width(), shown.dock("DataMap")->width());
-        };
-        const auto [layers, map] = widths();
-        shown.frame.resize(shown.frame.width() + 300, shown.frame.height() + 100);
-        QCOMPARE(widths(), std::pair(layers, map + 300));
-
-        shown.docks().addDockWidget(ads::RightDockWidgetArea, shown.dock("Messages"));
-        const auto [layersThen, mapThen] = widths();
-        shown.frame.resize(shown.frame.width() - 200, shown.frame.height());
-        QCOMPARE(widths(), std::pair(layersThen, mapThen - 200));
     }
 
     // Of the product's windows the platform knows nothing; empty ones stand for them.

@@ -11,8 +11,6 @@
 #include "tests/support/PopupMenu.h"
 
 #include <QAbstractItemModelTester>
-#include <QtTest>
-#include <QtWidgets>
 
 namespace {
 
@@ -142,24 +140,6 @@ private Q_SLOTS:
             view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option).center();
         QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, mark);
         QCOMPARE(pictures().order(), "river village scan"_q);
-    }
-
-    void keysOrderAndRemoveAnItem()
-    {
-        choose("river");
-        press(Qt::Key_Up, Qt::ControlModifier);
-        QCOMPARE(pictures().order(), "river village scan"_q);
-        press(Qt::Key_Down, Qt::ControlModifier);
-        press(Qt::Key_Down, Qt::ControlModifier);
-        press(Qt::Key_Down, Qt::ControlModifier);
-        QCOMPARE(pictures().order(), "village scan river"_q);
-        press(Qt::Key_Up, Qt::ControlModifier);
-        QCOMPARE(pictures().order(), "village river scan"_q);
-        QCOMPARE(view().currentIndex(), item("river"));
-
-        press(Qt::Key_Delete);
-        QCOMPARE(pictures().order(), "village scan"_q);
-        QCOMPARE(m_host->told, "\"river\" was removed from the map. Its file stays as it is."_q);
     }
 
     void dragging()

@@ -20,7 +20,6 @@
 #include "tests/support/Pixels.h"
 
 #include <QPainter>
-#include <QtTest>
 
 #include <functional>
 #include <limits>

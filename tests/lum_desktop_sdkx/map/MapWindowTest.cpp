@@ -10,8 +10,6 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 
-#include <QtTest>
-
 #include <cmath>
 #include <functional>
 

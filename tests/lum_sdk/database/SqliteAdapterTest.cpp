@@ -1,7 +1,6 @@
 #include "basalt_utilities/Dictionary.h"
 #include "lum_sdk/database/IDBAdapter.h"
 #include "lum_sdk/database/RecordSet.h"
-#include "lum_sdk/database/SqliteSetUp.h"
 #include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>

@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 using namespace std::string_literals;
 
 TEST(DictionaryXml, EveryKeyAndValueComesBackByteForByte)

@@ -3,7 +3,6 @@
 #include "tests/support/Literals.h"
 #include "tests/support/Pixels.h"
 
-#include <QImage>
 #include <QPainter>
 #include <QtTest>
 

@@ -2,7 +2,6 @@
 
 #include "lum_sdk/raster/RasterSource.h"
 #include "tests/support/Literals.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/MadeRaster.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"

@@ -7,8 +7,6 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 
-#include <gtest/gtest.h>
-
 #include <future>
 #include <thread>
 

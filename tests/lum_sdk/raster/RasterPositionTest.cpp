@@ -4,8 +4,6 @@
 #include "tests/support/MadeRaster.h"
 #include "tests/support/TestFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 using namespace raster_test;

@@ -17,7 +17,6 @@
 #include <cmath>
 #include <numbers>
 #include <set>
-#include <thread>
 
 using Behaviour = HttpTestServer::Behaviour;
 using std::chrono::milliseconds;
@@ -62,33 +61,6 @@ Zxy tileOf(const std::string& path)
     Zxy tile;
     std::sscanf(path.c_str(), "/%d/%d/%d", &tile.zoom, &tile.x, &tile.y);
     return tile;
-}
-
-/// Of a service of WMTS with the layer "ground", in the tiles of the world in Web Mercator.
-QByteArray capabilities(const QByteArray& address)
-{
-    QByteArray matrices;
-    for (int zoom = 0; zoom <= 18; ++zoom) {
-        const QByteArray tiles = QByteArray::number(1 << zoom);
-        matrices += "<TileMatrix><ows:Identifier>" + QByteArray::number(zoom) +
-                    "</ows:Identifier><ScaleDenominator>" +
-                    QByteArray::number(559082264.0287178 / (1 << zoom), 'f', 9) +
-                    "</ScaleDenominator><TopLeftCorner>-20037508.342789 20037508.342789"
-                    "</TopLeftCorner><TileWidth>256</TileWidth><TileHeight>256</TileHeight>"
-                    "<MatrixWidth>" +
-                    tiles + "</MatrixWidth><MatrixHeight>" + tiles + "</MatrixHeight></TileMatrix>";
-    }
-    return "<?xml version=\"1.0\"?><Capabilities xmlns=\"http://www.opengis.net/wmts/1.0\" "
-           "xmlns:ows=\"http://www.opengis.net/ows/1.1\" version=\"1.0.0\"><Contents><Layer>"
-           "<ows:Identifier>ground</ows:Identifier><Style "
-           "isDefault=\"true\"><ows:Identifier>default"
-           "</ows:Identifier></Style><Format>image/png</Format><TileMatrixSetLink><TileMatrixSet>"
-           "world</TileMatrixSet></TileMatrixSetLink><ResourceURL format=\"image/png\" "
-           "resourceType=\"tile\" template=\"" +
-           address +
-           "/{TileMatrix}/{TileCol}/{TileRow}.png\"/></Layer><TileMatrixSet><ows:Identifier>world"
-           "</ows:Identifier><ows:SupportedCRS>urn:ogc:def:crs:EPSG::3857</ows:SupportedCRS>" +
-           matrices + "</TileMatrixSet></Contents></Capabilities>";
 }
 
 /// A file with the tile at a place, in the colour of (14, 3, 7).
@@ -408,7 +380,9 @@ TEST_F(TileImageTest, AsksAServiceForPartsOfTheWorldInTheOrderOfItsSystem)
 
 TEST_F(TileImageTest, ReadsTheCapabilitiesOfAService)
 {
-    server.serve("capabilities", capabilities(server.address().toUtf8()));
+    const QString xml = QStringLiteral(SOURCE_FOLDER "/tests/lum_sdk/raster/capabilities.xml");
+    server.serve("capabilities",
+                 TestFolder::read(xml).replace("ADDRESS", server.address().toUtf8()));
     map.address = "WMTS:"_q + server.address("/capabilities.xml") + ",layer=ground"_q;
     lum::TileImage image(map, fetching);
     ASSERT_TRUE(image.fetchAll(viewOf(), seconds(20))) << image.trouble().toStdString();

@@ -8,6 +8,7 @@
 #include "map/ui/PrintMapCommand.h"
 #include "map/ui/SheetPreview.h"
 #include "map/ui/SheetPrinter.h"
+#include "map/ui/SheetWork.h"
 #include "map/ui/ShownMap.h"
 #include "project/OverlayList.h"
 #include "tests/map/TestSurvey.h"
@@ -65,13 +66,13 @@ private Q_SLOTS:
             QVERIFY(scale->isEnabled());
             scale->setFocus();
             scale->selectAll();
-            QTest::keyClicks(scale, "2500"_q);
+            QTest::keyClicks(scale, "2345"_q);
             QVERIFY(says(dialog, "a part of the area only"_q));
             takeFrom(dialog, "&Area:", "What");
             QVERIFY(!says(dialog, "a part of the area only"_q));
             press(dialog, "Save As...");
             QVERIFY(!dialog.isVisible());
-            QVERIFY(m_project->host.told.contains("1:2,500 on A3"_q));
+            QVERIFY(m_project->host.told.contains("1:2,345 on A3"_q));
         }
         const QByteArray pdf = TestFolder::read(folder.path("测线 map.pdf"));
         QVERIFY(pdf.startsWith("%PDF") && pdf.contains("/MediaBox [0 0 842"));
@@ -136,6 +137,44 @@ private Q_SLOTS:
         view.setView({500020, 4400020}, 1);
         sheet.ground->paint(view, picture);
         QCOMPARE(picture.pixelColor(20, 20), QColor(Qt::red));
+    }
+
+    /// Its corner lies where the map has it, under the data.
+    void printsTheBoundaryWhileItIsShown()
+    {
+        m_map->setExtent(500000, 4400000, 500100, 4400100);
+        PictureFrame frame;
+        frame.transform.setSize({100, 100});
+        frame.transform.setView({500020, 4400020}, 1); // the corner is at (30, 70)
+        const auto corner = [&] {
+            QImage picture(100, 100, QImage::Format_RGB32);
+            picture.fill(Qt::white);
+            QPainter painter(&picture);
+            MapDrawing drawing = shownMap(m_project->host).drawing;
+            drawing.paint(frame, painter);
+            return picture.pixelColor(31, 70);
+        };
+        m_project->design() = {};
+        QCOMPARE(corner(), QColor(Qt::white));
+        m_project->status().set(status::kDrawBoundaryRect, "1");
+        QCOMPARE(corner(), QColor(0xd5, 0x5e, 0x00));
+    }
+
+    /// Without memory, say; and a window that changes its size while a file is written paints
+    /// nothing, since both would use the same ground.
+    void workEndsWhateverHappens()
+    {
+        SheetWork work;
+        QSignalSpy finished(&work, &SheetWork::finished);
+        work.start([](SheetWatch&) { throw std::bad_alloc(); });
+        QVERIFY(finished.wait());
+        QVERIFY(!work.isBusy());
+        SheetPreview preview;
+        preview.setSheet(shownMap(m_project->host));
+        preview.stop();
+        preview.resize(300, 500);
+        preview.show();
+        QVERIFY(preview.isUpToDate());
     }
 
     /// A printer of another resolution gets the same sheet, one page.

@@ -242,55 +242,6 @@ void makeSpread(MadeSurvey& survey)
     survey.addGrid(0, 5000, 20, 162);
 }
 
-/// Every seventh stake is moved aside or along the line, up to 60 m where points are 40 m apart.
-void makeSkids(MadeSurvey& survey)
-{
-    makeSpread(survey);
-    int count = 0;
-    for (auto& [number, line] : survey.results) {
-        for (SurveyPoint& result : line) {
-            if (++count % 7 != 0)
-                continue;
-            const double lengthM = 5 + count % 12 * 5;
-            if (count % 2 != 0 && lengthM > 25 && lengthM < 55)
-                continue; // such places along a line are other points
-            const double deg = (result.pointMark != 0 ? 72 : 162) + (count % 2 != 0 ? 0 : 90);
-            result.east += lengthM * std::sin(deg / 180 * std::numbers::pi);
-            result.north += lengthM * std::cos(deg / 180 * std::numbers::pi);
-            if (count % 3 == 0) {
-                result.obstacle = "houses";
-                result.remarks = "moved aside";
-            }
-        }
-    }
-}
-
-/// Resurveys, check points, a number of the surveyor's own, and results of no point.
-void makeRepeats(MadeSurvey& survey)
-{
-    makeSkids(survey);
-    for (int point = 1001; point <= 1040; point += 3) {
-        const SurveyPoint first = survey.result(1003, point);
-        for (const char* const number : {"F", "FF", "A"}) {
-            SurveyPoint again = first;
-            again.pointNumber += number;
-            again.east += survey.aside(0.02);
-            survey.results.set(std::move(again));
-        }
-        for (const char* const number : {"_0", "_1"}) {
-            SurveyPoint again = first;
-            again.pointNumber = "C" + first.pointNumber + number;
-            survey.results.set(std::move(again));
-        }
-    }
-    for (const char* const number : {"BM1", "base", "CP"}) {
-        SurveyPoint other = survey.result(1003, 1001);
-        other.pointNumber = number;
-        other.east += 7 + static_cast<double>(other.pointNumber.size());
-        survey.results.set(std::move(other));
-    }
-}
-
 /// Receivers and sources in the same places, in lines of the same names.
 void makeSamePlaces(MadeSurvey& survey)
 {
@@ -309,18 +260,6 @@ void makeSamePlaces(MadeSurvey& survey)
             survey.stake(point, survey.aside(0.3), survey.aside(0.3));
     }
     survey.design.merge(std::move(sources));
-}
-
-/// A road with bends and a hairpin, and a second line across it.
-void makeCrooked(MadeSurvey& survey)
-{
-    survey.addWay(101, 400, [](int point) {
-        if (point == 200 || point == 201)
-            return 90.0; // back along the road
-        return point % 17 == 0 ? 70.0 : point % 23 == 0 ? -80.0 : 8 * std::sin(point / 5.0);
-    });
-    survey.addWay(
-        102, 300, [](int point) { return point % 40 == 0 ? -50.0 : 0.0; }, 500700, 3999000);
 }
 
 void makeZigzag(MadeSurvey& survey)
@@ -379,52 +318,11 @@ void makeLake(MadeSurvey& survey)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lines, CleanSurvey,
-    testing::Values(CleanCase{"Spread", makeSpread}, CleanCase{"Skids", makeSkids},
-                    CleanCase{"Repeats", makeRepeats}, CleanCase{"SamePlaces", makeSamePlaces},
-                    CleanCase{"Crooked", makeCrooked}, CleanCase{"Zigzag", makeZigzag},
-                    CleanCase{"OtherNumbers", makeOtherNumbers}, CleanCase{"LakeInFeet", makeLake}),
-    [](const auto& test) { return test.param.name; });
-
-/// What must only not stop or end the search.
-TEST(BadSurvey, EndsTheSearchAllTheSame)
-{
-    const auto finds = [](const MadeSurvey& survey) {
-        return survey.find(kLineFinder).size() + survey.find(kNameFinder).size();
-    };
-    EXPECT_EQ(finds({}), 0U);
-
-    MadeSurvey one;
-    one.add(1, 1, 5e5, 4e6, 1);
-    EXPECT_EQ(finds(one), 0U);
-    one.add(2, 2, 6e5, 4e6, 1); // lines of one point
-    EXPECT_EQ(finds(one), 0U);
-    one.design.clear();
-    EXPECT_EQ(finds(one), 0U);
-
-    MadeSurvey nowhere;
-    nowhere.addGrid(1, 1000, 3);
-    for (int point = 1001; point <= 1040; ++point) {
-        nowhere.designed(1000, point).north = kNaN;
-        nowhere.result(1001, point).east = HUGE_VAL;
-        nowhere.result(1002, point).elevation = kNaN;
-    }
-    EXPECT_EQ(finds(nowhere), 0U);
-    for (int point = 1001; point <= 1040; ++point) { // without a position, and nobody is near it
-        nowhere.designed(1000, point).east = nowhere.designed(1000, point).north = 0;
-        nowhere.result(1001, point).east = nowhere.result(1001, point).north = 0;
-    }
-    EXPECT_EQ(finds(nowhere), 0U);
-
-    MadeSurvey inOnePlace;
-    for (int line = 1; line <= 50; ++line) {
-        for (int point = 1; point <= 1000; ++point)
-            inOnePlace.add(line, point, 5e5, 4e6, 1);
-    }
-    EXPECT_EQ(finds(inOnePlace), 50U) << "a row for each line";
-    inOnePlace.design.clear();
-    EXPECT_GE(finds(inOnePlace), 50U);
-}
+INSTANTIATE_TEST_SUITE_P(Lines, CleanSurvey,
+                         testing::Values(CleanCase{"SamePlaces", makeSamePlaces},
+                                         CleanCase{"Zigzag", makeZigzag},
+                                         CleanCase{"OtherNumbers", makeOtherNumbers},
+                                         CleanCase{"LakeInFeet", makeLake}),
+                         [](const auto& test) { return test.param.name; });
 
 } // namespace

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 namespace {
 
 using Rows = std::vector<std::string>;
@@ -118,57 +116,6 @@ TEST_F(NameProblems, ResurveysAndCheckPointsKeepTheirMark)
     EXPECT_EQ(proposals(),
               (Rows{"1000/10001004F > 1000/10001003F", "1000/10001909F > 1000/10001009F",
                     "1000/C10001005_0 > 1000/C10001007"}));
-}
-
-TEST_F(NameProblems, LimitsAreCountedInMetresAndMayBeSwitchedOff)
-{
-    const DesignPoint& other = survey.designed(1002, 1020);
-    SurveyPoint& result = survey.result(1002, 1021);
-    result.east = other.east + 0.999;
-    result.north = other.north;
-    EXPECT_EQ(rows().size(), 1U);
-    result.east = other.east + 1.001;
-    EXPECT_EQ(rows(), Rows{}) << "may be a stake that was moved aside";
-    survey.parameters.set("name_near_max", "1.01");
-    EXPECT_EQ(rows().size(), 1U);
-    survey.parameters.set("name_nearer_min", "39.5");
-    EXPECT_EQ(rows(), Rows{}) << "nearer by less than that";
-    survey.parameters.set("name_nearer_min", "0");
-    EXPECT_EQ(rows(), Rows{});
-}
-
-TEST(NameProblemsOfASurvey, EveryPlantedNameIsFoundAndNothingElse)
-{
-    MadeSurvey survey;
-    survey.addGrid(1, 1000, 30);
-    survey.addGrid(0, 5000, 30, 162);
-    for (auto& [number, line] : survey.results) { // a tenth are moved aside, and nobody says why
-        for (SurveyPoint& result : line) {
-            if (survey.random() % 10 == 0) {
-                result.east += survey.aside(15);
-                result.north += survey.aside(15);
-            }
-        }
-    }
-    std::set<std::string> planted;
-    for (int line = 1000; line < 1030; ++line) {
-        const int point = 1001 + static_cast<int>(survey.random() % 39);
-        SurveyPoint a = survey.result(line, point);
-        a.east = survey.designed(line, point + 1).east; // stands at the next one,
-        a.north = survey.designed(line, point + 1).north;
-        if (line % 2 == 0) // which has no result
-            survey.results.erase(a.lineNumber, MadeSurvey::name(line, point + 1));
-        survey.result(line, point) = a;
-        planted.insert(a.pointNumber);
-    }
-    const ProblemList problems = survey.find(kNameFinder);
-    std::size_t unexplained = 0;
-    for (const Problem& problem : problems)
-        unexplained += planted.erase(std::string(problem.point)) == 0 ? 1U : 0U;
-    std::printf("wrong names planted: 30, found: %zu, rows without a fault: %zu\n",
-                30 - planted.size(), unexplained);
-    EXPECT_TRUE(planted.empty());
-    EXPECT_EQ(unexplained, 0U);
 }
 
 } // namespace

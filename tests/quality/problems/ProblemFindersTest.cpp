@@ -41,29 +41,6 @@ protected:
     }
 };
 
-TEST_F(ProblemFinders, EachFailedTestIsOneProblemWithValueAndLimit)
-{
-    add("1000");
-    SurveyPoint& bad = add("1001");
-    bad.north += 0.3;
-    bad.east -= 0.4001; // 0.5001 m away
-    bad.pdop = 0.4;
-    bad.hdop = 3.5;
-    bad.transversalDeviation = -0.7;
-    bad.antennaHeight = 0.4;
-    bad.satelliteNumber = 5;
-
-    const ProblemList problems = find();
-
-    EXPECT_THAT(textsOf(problems),
-                ElementsAre("too_far 10/1001 0.500 0.500", "antenna_low 10/1001 0.400 0.500",
-                            "pdop 10/1001 0.40 0.50", "hdop 10/1001 3.50 3.00",
-                            "satellites 10/1001 5 6", "across 10/1001 -0.700 0.500"));
-    EXPECT_EQ(what(problems[0]),
-              "Horizontal distance from the design 0.5001 m is over its limit 0.5000 m.");
-    EXPECT_EQ(what(problems[2]), "PDOP 0.40 is under its limit 0.50.");
-}
-
 TEST_F(ProblemFinders, AResultThatCannotBeComparedIsNotFarAway)
 {
     SurveyPoint& alone = add("1001");
@@ -122,79 +99,6 @@ TEST_F(ProblemFinders, ARepeatTellsHowFarItLiesFromWhatItRepeats)
                             "repeat 10/C99999999"));
     EXPECT_EQ(what(problems[1]), "It repeats 10011001, but lies -0.190 m off in height.");
     EXPECT_EQ(what(problems[0]), "It repeats 10011001, 0.022 m beside it and 0.010 m in height.");
-}
-
-TEST_F(ProblemFinders, ADesignPointWithoutItsOwnResultIsMissing)
-{
-    for (const char* number : {"1001", "1002", "1003"})
-        design.set(designPoint("10", number));
-    design.set(designPoint("11", "1001"));
-    add("1002");
-    add("1003F");
-
-    const ProblemList problems = find();
-
-    EXPECT_THAT(textsOf(problems), ElementsAre("missing 10/1001", "missing 10/1003",
-                                               "missing 11/1001", "resurvey_alone 10/1003F"));
-    EXPECT_TRUE(problems[0].isDesign);
-}
-
-class StoredValues : public ProblemFinders
-{
-protected:
-    void SetUp() override
-    {
-        SurveyPoint& good = add("1001");
-        good.solutionType = 5;
-        good.ageOfDiff = 10;
-        good.epochNumber = 5;
-        good.startTime = 1700000000000;
-        good.endTime = good.startTime + 30000;
-        good.rms = 0.02;
-    }
-    /// Copies the good result, with one change.
-    template <class Value>
-    void change(const std::string& number, Value SurveyPoint::*member, Value value)
-    {
-        SurveyPoint point = *survey.find("10", "1001");
-        point.pointNumber = number;
-        point.*member = value;
-        survey.set(std::move(point));
-    }
-};
-
-TEST_F(StoredValues, AreNotTestedUntilALimitIsSet)
-{
-    change("1002", &SurveyPoint::solutionType, 0);
-    change("1003", &SurveyPoint::rms, 99.0);
-    EXPECT_THAT(found(), ElementsAre());
-}
-
-TEST_F(StoredValues, OnTheLimitPassAndBeyondAreFound)
-{
-    for (const auto& [key, value] :
-         {std::pair("solution_type_min", "5"), std::pair("age_of_diff_max", "10"),
-          std::pair("epoch_num_min", "5"), std::pair("occupation_min", "30"),
-          std::pair("rms_max", "0.02")})
-        parameters.set(key, value);
-    change("2001", &SurveyPoint::solutionType, 3); // worse than float, although the code is lower
-    change("2002", &SurveyPoint::solutionType, 4); // better
-    change("2003", &SurveyPoint::solutionType, 7);
-    change("2004", &SurveyPoint::ageOfDiff, 11.0);
-    change("2005", &SurveyPoint::epochNumber, 4);
-    change("2006", &SurveyPoint::endTime, std::int64_t(1700000029999));
-    change("2007", &SurveyPoint::startTime, std::int64_t(0)); // nobody knows
-    change("2008", &SurveyPoint::rms, std::numeric_limits<double>::quiet_NaN());
-
-    const ProblemList problems = find();
-
-    EXPECT_THAT(textsOf(problems),
-                ElementsAre("solution_type 10/2001 3 5", "solution_type 10/2003 7 5",
-                            "age_of_diff 10/2004 11.0 10.0", "epoch_num 10/2005 4 5",
-                            "occupation 10/2006 30.0 30.0", "occupation 10/2007 30.0",
-                            "rms 10/2008 0.020"));
-    EXPECT_EQ(what(problems[0]), "The solution is differential; it should be float or better.");
-    EXPECT_THAT(what(problems[5]), HasSubstr("does not say"));
 }
 
 TEST_F(ProblemFinders, AHeightIsComparedWithTheMedianOfItsNeighbours)
@@ -256,42 +160,6 @@ TEST_F(ProblemFinders, ARightNameMendsWhatFollowsFromTheWrongOne)
               "surveyed. Problems of single points that follow from it: 3.");
     EXPECT_TRUE(isForCrew(problems[3], design)); // at 10011005
     EXPECT_FALSE(isForCrew(problems[5], design));
-}
-
-TEST_F(ProblemFinders, OddSurveysStopNoFinder)
-{
-    for (const ProblemLimitGroup& group : problemLimitGroups()) {
-        for (const ProblemLimit& limit : group.limits)
-            parameters.set(limit.key, "1");
-    }
-    const auto count = [&] { return FoundProblems::find().size(); };
-    EXPECT_EQ(count(), 0U) << "nothing at all";
-    design.set(designPoint("", ""));
-    EXPECT_GE(count(), 1U) << "one design point without a name";
-    design.clear();
-    survey.set(surveyPoint("", "")); // nothing is known of it
-    EXPECT_GE(count(), 1U) << "one result, no design";
-
-    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-    for (int i = 0; i < 300; ++i) {
-        const std::string line = i < 200 ? "10" : "L" + std::to_string(i); // lines of one point
-        survey.set(goodResult(line, std::to_string(1000 + i), i % 10 == 0 ? kNan : 4000000));
-        DesignPoint point = designPoint(line, std::to_string(1000 + i));
-        point.north = point.east = i % 10 == 1 ? kNan : 4000000; // all the others in one place
-        design.set(point);
-    }
-    const std::array unplaced{findProblemKind("no_position")};
-    EXPECT_EQ(FoundProblems::find(unplaced).size(), 30U);
-    EXPECT_GE(count(), 30U);
-}
-
-TEST_F(ProblemFinders, OnlyTheWantedKindsAreListed)
-{
-    design.set(designPoint("10", "1009"));
-    add("1001").pdop = 4;
-    const std::array wanted{findProblemKind("pdop"), findProblemKind("repeat")};
-    ASSERT_NE(wanted[0], nullptr);
-    EXPECT_THAT(textsOf(FoundProblems::find(wanted)), ElementsAre("pdop 10/1001 4.00 3.00"));
 }
 
 TEST(ProblemKinds, AreNamedOnce)

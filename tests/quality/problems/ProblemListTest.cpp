@@ -40,36 +40,6 @@ TEST(ProblemList, StaysReadableWhenListsAreJoinedAndThePointsAreGone)
     EXPECT_TRUE(all[kCount].surveyor.empty());
 }
 
-TEST(ProblemCsv, HasNamesForScriptsAndWordsForPeople)
-{
-    SurveyPoint result = surveyPoint("L \"1\"", "C10011001_3");
-    result.instrumentSerialNumber = "3,5";
-    result.surveyor = "Li";
-    result.dateTime = 1777737600000; // 2026-05-03 00:00 in China, the day before in London
-    ProblemList problems;
-    Problem& problem = problems.add(kindOf("repeat"), result);
-    problem.value = 0.0504;
-    Problem& worse = problems.add(kindOf("solution_type"), result);
-    worse.value = 5;
-    worse.limit = 4;
-    const std::array rows{&std::as_const(problems)[0], &std::as_const(problems)[1]};
-    std::string text;
-    const auto read = [&](std::string_view line) { text += line; };
-
-    formatProblemCsv(rows, ResultCsv::ForScripts, basalt::LocalTimes(8), read);
-    formatProblemCsv(rows, ResultCsv::AsShown, basalt::LocalTimes(0), read);
-
-    const std::string captions = "Severity,Kind,Line,Point,What,Value,Limit,Rover,Surveyor,Day\n";
-    const std::string what = "The line has no result of the point that this one repeats.";
-    const std::string solution = "The solution is float; it should be fixed or better.";
-    const std::string point = ",\"L \"\"1\"\"\",C10011001,";
-    const std::string day = ",\"3,5\",Li,2026/05/0";
-    EXPECT_EQ(text, captions + "note,repeat" + point + what + ",0.050," + day + "3\n" +
-                        "error,solution_type" + point + solution + ",5,4" + day + "3\n" + captions +
-                        "Note,Measured again" + point + what + ",0.050," + day + "2\n" +
-                        "Error,Solution type" + point + solution + ",float,fixed" + day + "2\n");
-}
-
 class Fingerprint : public testing::Test, protected FoundProblems
 {
 protected:

@@ -12,9 +12,6 @@
 #include "tests/support/PopupMenu.h"
 
 #include <QLabel>
-#include <QtTest>
-
-#include <memory>
 
 namespace {
 

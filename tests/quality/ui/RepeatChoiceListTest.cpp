@@ -1,7 +1,6 @@
 #include "lum_desktop_sdkx/controls/CustomTableWidget.h"
 #include "project/ui/EditSteps.h"
 #include "quality/ui/DlgRepeatChoice.h"
-#include "quality/ui/DlgRepeatPtCheck.h"
 #include "quality/ui/RepeatPointCheckCommand.h"
 #include "quality/ui/ResolveRepeatsCommand.h"
 #include "tests/project/OpenProject.h"
@@ -125,18 +124,6 @@ private Q_SLOTS:
         choose(list, 2); // the row stays selected
         press(list, "Resolve Selected (1)");
         QCOMPARE(numbers(), (QStringList{"10015001"_q, "10015001F"_q, "10015002"_q, "10015003"_q}));
-    }
-
-    void comesFromTheListOfRepeats()
-    {
-        RepeatPointCheckCommand("", &m_project->host).execute();
-        auto* const repeats = m_frame->findChild<DlgRepeatPtCheck*>();
-        QVERIFY(QTest::qWaitForWindowActive(repeats));
-        auto* const table = repeats->findChild<CustomTableWidget*>();
-        const QPoint place = table->visualRect(table->model()->index(2, 1)).center();
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place);
-        chooseFrom(openMenuAt(*table->viewport(), place), "&Resolve Repeats..."_q);
-        QCOMPARE(tableOf(open()).selectedRows(), std::vector<int>{1});
     }
 
     void followsTheResults()

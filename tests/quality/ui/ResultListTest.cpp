@@ -11,12 +11,9 @@
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Points.h"
-#include "tests/support/SmallFiles.h"
 #include "tests/support/TestFolder.h"
 
 #include <QtTest>
-
-#include <memory>
 
 namespace {
 
@@ -106,12 +103,6 @@ private Q_SLOTS:
                                  "8,1001,Antenna Too Low.,0.500,0.500\n";
         QCOMPARE(TestFolder::read(path), saved);
         QCOMPARE(boxes.told(), QStringList());
-        {
-            const SmallFiles fullDisk(20);
-            saveByTheMenu(*list);
-        }
-        QCOMPARE(TestFolder::read(path), saved);
-        QVERIFY(boxes.last.text.contains("\"%1\" cannot be written: "_q.arg(path)));
         chosen = folder.path("missing/faults.csv");
         saveByTheMenu(*list);
         QVERIFY(boxes.last.text.contains("missing/faults.csv"_q));

@@ -131,7 +131,11 @@ private Q_SLOTS:
         reported.choice.setDays({2030, 1, 1}, {2030, 1, 1});
         const Outcome outcome = reported.write();
         QCOMPARE(outcome.text(), "There is no result of this day."_q);
+        QVERIFY(!reported.text().contains("no results to show"_q)); // an empty plot
         QVERIFY(reported.text().contains("Daily report, 2030-01-01"_q));
+        reported.choice.setDays({2030, 1, 1}, {2030, 1, 9});
+        QCOMPARE(reported.write().text(),
+                 "No result of the chosen period and surveyors has a time."_q);
     }
 
     void longNamesAndManyOfThemStayOnTheirPages()
@@ -155,7 +159,29 @@ private Q_SLOTS:
         QVERIFY(text.contains("and 240 more; the workbook"_q));
         QVERIFY(text.contains("and 200 more; the window"_q));
         QVERIFY(!text.contains(QString(60, u'x')));
-        QVERIFY2(reported.pageCount() < 16, qPrintable(QString::number(reported.pageCount())));
+        QVERIFY2(reported.pageCount() < 18, qPrintable(QString::number(reported.pageCount())));
+    }
+
+    /// Of a point whose coordinates are missing or wrong, with names beside them.
+    void largeNumbersAreNotCut()
+    {
+        Reported reported;
+        reported.fill();
+        for (int i = 0; i < 60; ++i) {
+            SurveyPoint& point = *reported.results.find("1", std::to_string(1000 + i));
+            point.surveyor += " of the crew with the long name " + std::to_string(i % 3);
+            point.north -= 4123456.789;
+            point.east += 87654321.123;
+            point.elevation -= 12345.678;
+        }
+        QVERIFY(reported.write().isDone());
+        const QString text = reported.text();
+        const DailyTable table =
+            dailyStatistics(DailyFigures(reported.input()), DailySpan::Total, DailyKey::Surveyor);
+        for (const QStringList& row : table.rows) {
+            for (int column = 1; column < row.size(); ++column)
+                QVERIFY2(text.contains(row[column]), qPrintable(row[column]));
+        }
     }
 
     void problemsOfTheDayComeFirst()

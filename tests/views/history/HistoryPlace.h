@@ -15,12 +15,12 @@
 #include "tests/support/Points.h"
 #include "tests/support/PopupMenu.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Widgets.h"
 #include "views/history/DlgHistory.h"
 #include "views/history/HistoryCommand.h"
 #include "views/history/HistoryFilterBar.h"
 
 #include <QAbstractItemModelTester>
-#include <QtTest>
 
 /// Goes after the manager, which has a lock in it.
 struct ProjectFolder
@@ -81,17 +81,8 @@ struct Shown
     explicit Shown(HistoryProject& project)
     {
         project.command.execute();
-        window = find();
+        window = findWindow<DlgHistory>();
     }
-    static DlgHistory* find()
-    {
-        for (QWidget* const each : QApplication::topLevelWidgets()) {
-            if (auto* const found = qobject_cast<DlgHistory*>(each))
-                return found;
-        }
-        return nullptr;
-    }
-
     [[nodiscard]] CustomTableWidget& table(const char* name) const
     {
         return *window->findChild<CustomTableWidget*>(QLatin1String(name));
@@ -135,10 +126,7 @@ struct Shown
     }
     void press(const char* button) const
     {
-        for (QPushButton* const each : window->findChildren<QPushButton*>()) {
-            if (each->text().remove(QLatin1Char('&')) == QLatin1String(button))
-                QTest::mouseClick(each, Qt::LeftButton);
-        }
+        ::press(*window, button);
         QCoreApplication::processEvents();
     }
     static constexpr int kTyped = 400; ///< milliseconds until a filter is used

@@ -201,15 +201,10 @@ private Q_SLOTS:
         chooseFrom(openMenuAt(*place.table.viewport(), cell), "Measure Agai&n..."_q);
         text = TestFolder::read(file);
         QVERIFY(text.contains("5003") && !text.contains("5002"));
-        const std::pair<QString, QString> kFaults[] = {
-            {"/nowhere/x.csv"_q, "/nowhere"_q},
-            {folder.path("x.kml"), "coordinate system"_q}}; // there is none
-        for (const auto& [name, part] : kFaults) {
-            file = name;
-            QTest::mouseClick(button(place.window, "&List for the Crew..."), Qt::LeftButton);
-            QVERIFY(boxes.last.kind == LumMessageBox::Kind::Error);
-            QVERIFY2(boxes.last.text.contains(part), qPrintable(boxes.last.text));
-        }
+        file = folder.path("x.kml"); // there is no coordinate system
+        QTest::mouseClick(button(place.window, "&List for the Crew..."), Qt::LeftButton);
+        QVERIFY(boxes.last.kind == LumMessageBox::Kind::Error);
+        QVERIFY2(boxes.last.text.contains("coordinate system"_q), qPrintable(boxes.last.text));
     }
 };
 

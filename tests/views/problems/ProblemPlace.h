@@ -6,14 +6,12 @@
 #include "tests/project/OpenProject.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Points.h"
+#include "tests/support/Widgets.h"
 #include "views/problems/ProblemCommands.h"
 #include "views/problems/ProblemKindBar.h"
 #include "views/problems/ProblemTableModel.h"
 #include "views/problems/ProblemWindow.h"
 #include "views/SelectionFollower.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 #include <algorithm>
 
@@ -63,10 +61,7 @@ struct ProblemPlace : OpenProject
     }
     [[nodiscard]] bool says(const char* part) const
     {
-        const auto labels = window.findChildren<QLabel*>();
-        return std::ranges::any_of(labels, [part](const QLabel* label) {
-            return label->isVisible() && label->text().contains(QString::fromUtf8(part));
-        });
+        return ::says(window, QString::fromUtf8(part));
     }
     void chooseKind(const char* caption)
     {

@@ -8,8 +8,6 @@
 #include <QAbstractItemModelTester>
 #include <QtTest>
 
-#include <array>
-
 namespace {
 
 QString said(const Problem& problem)

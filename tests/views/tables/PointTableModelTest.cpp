@@ -141,28 +141,6 @@ private Q_SLOTS:
         QCOMPARE(table.model->rowCount() + table.model->unfilteredCount(), 0);
     }
 
-    void rowsAreFoundInAnyOrder()
-    {
-        Table table;
-        for (int i = 0; i < 300; ++i)
-            table.add(i % 3 == 0 ? "L 石" : "L", std::to_string(i), i % 7);
-        table.show();
-        for (const int sortColumn : {-1, table.column("pdop")}) {
-            for (const char* const expression : {"", "> 2"}) {
-                table.model->sortBy(sortColumn, kDown);
-                table.filter("pdop", expression);
-                QVERIFY(table.model->rowCount() > 100);
-                for (int row = 0; row < table.model->rowCount(); ++row)
-                    QCOMPARE(table.model->rowOf(table.model->pointAt(row)), row);
-                QCOMPARE(table.model->rowOf({"L 石", "0"}) < 0, *expression != '\0'); // hidden
-            }
-        }
-        QCOMPARE(table.model->unfilteredCount(), 300);
-        QVERIFY(table.model->holds({"L 石", "0"}));
-        QVERIFY(!table.model->holds({"L", "0"}));
-        QVERIFY(!table.model->holds({"Z", "0"}));
-    }
-
     void numbersAreOrderedAndEqualRowsKeepTheLinesOrder()
     {
         const double nan = std::nan("");

@@ -16,8 +16,6 @@
 #include <QAbstractItemModelTester>
 #include <QDir>
 
-#include <memory>
-
 namespace {
 
 /// One of the dialog's two lists, with what stands around it.
