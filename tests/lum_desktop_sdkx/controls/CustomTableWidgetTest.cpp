@@ -128,24 +128,6 @@ private Q_SLOTS:
         QCOMPARE(clipboardText(), "2,5\tB\ttwo cells or lines\n1,5\tA\t树 tree\n"_q);
     }
 
-    void aMarkedCellIsSeenInASelectedRow()
-    {
-        QStandardItemModel model;
-        fill(model);
-        model.item(1, 0)->setBackground(QColor(255, 0, 0, 80));
-        CustomTableWidget table;
-        table.setModel(&model);
-        table.show();
-        table.selectRow(1);
-        const QImage rows = table.viewport()->grab().toImage();
-        const auto hueAt = [&](int column) {
-            const QRect cell = table.visualRect(model.index(1, column));
-            return rows.pixelColor(cell.right() - 3, cell.bottom() - 3).hue();
-        };
-        QCOMPARE(hueAt(0), 0);
-        QCOMPARE(hueAt(1), table.palette().color(QPalette::Highlight).hue());
-    }
-
     void fitsColumnsFromSomeRowsAndOnlyOnce()
     {
         WideModel model(0, 2);

@@ -216,24 +216,6 @@ private Q_SLOTS:
         QCOMPARE(map.transform().size(), QSize(600, 400));
     }
 
-    void degenerateExtentsAndSizesDoNoHarm()
-    {
-        QSignalSpy pictures(m_map.get(), &MapWindow::pictureChanged);
-        for (const double size : {1e12, 1e300, 1e-9}) {
-            m_map->setExtent(-size, size, size, -size);
-            m_map->zoomAll();
-            m_map->repaint();
-            QVERIFY(std::isfinite(scale()) && std::isfinite(center().x()));
-        }
-        m_map->setExtent(5, 5, 5, 5);
-        QVERIFY(m_map->extent().isNull());
-        m_map->resize(0, 0);
-        wheel({0, 0}, 120000);
-        QVERIFY(pictures.wait());
-        m_map->resize(300, 200);
-        QVERIFY(pictures.wait());
-    }
-
 private:
     void install(const char* tool) { QVERIFY(m_map->installReactor(QString::fromUtf8(tool))); }
     void wheel(const QPoint& place, int angle)

@@ -3,7 +3,6 @@
 #include "basalt_utilities/Product.h"
 #include "exchange/ExportColumns.h"
 #include "tests/project/OpenProject.h"
-#include "tests/support/Boxes.h"
 #include "tests/support/EventLog.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Widgets.h"
@@ -14,7 +13,6 @@
 #include "views/tables/SurveyTableHideCommand.h"
 
 #include <QAbstractItemModelTester>
-#include <QDir>
 
 namespace {
 
@@ -150,21 +148,6 @@ private Q_SLOTS:
         model.set({"e"_q, "gone"_q, "c"_q}, {"c"_q, "gone"_q, "d"_q});
         QCOMPARE(order(), "ecabdf"_q);
         QCOMPARE(model.checkedKeys().join(QString()), "cad"_q); // "a" is needed
-    }
-
-    void aLostSettingsFileIsTold()
-    {
-        const QString file = QString::fromStdString(basalt::settingsFolder() + "/settings.xml");
-        QFile::remove(file);
-        QVERIFY(QDir().mkpath(file)); // a folder cannot be written
-        Boxes boxes;
-        const auto dialog = show();
-        press(*dialog, "OK");
-        QVERIFY(QDir().rmdir(file));
-        const QStringList told = boxes.told();
-        QCOMPARE(told.size(), 1);
-        QVERIFY(told.first().contains("cannot be saved"_q));
-        QVERIFY(!dialog->isVisible());
     }
 
 private:
