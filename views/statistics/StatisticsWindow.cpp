@@ -30,6 +30,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QSplitter>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
