@@ -92,7 +92,7 @@ void BM_Plots(benchmark::State& state)
 {
     const Survey survey = makeSurvey();
     const PlotData data = dataOf(survey);
-    for (auto _ : state) {
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         for (const PlotKind& kind : plotKinds()) {
             const auto plot = kind.make(nullptr);
             plot->resize(1000, 700);

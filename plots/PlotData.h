@@ -21,9 +21,11 @@ struct PlotData
     std::vector<std::uint32_t> places;
     std::shared_ptr<const statistics::MeasuredPairs> pairs; ///< resurveys and repeats; may be null
     ResurveyTolerances tolerances;                          ///< of the pairs, metres
-    statistics::DesignCount design; ///< what the shown results are to be held against
-    basalt::LocalTimes zone;        ///< the shown time zone
-    QString subject;                ///< for titles: "Line 1001"; may be empty
+    /// What the shown results are to be held against; nothing designed for what has no design of
+    /// its own, such as those of a rover.
+    statistics::DesignCount design;
+    basalt::LocalTimes zone; ///< the shown time zone
+    QString subject;         ///< for titles: "Line 1001"; may be empty
 
     /// All results of a sample.
     [[nodiscard]] static PlotData

@@ -6,6 +6,7 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QRubberBand>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
 

@@ -234,7 +234,7 @@ QString PlotPanel::valueText(const QPointF& value) const
     const auto line = [this](int axis, const QString& title, PlotScale scale, double at) {
         return title + QLatin1String(": ") + scaleText(scale, at, tickStepOf(axisScaleDiv(axis)));
     };
-    const QString y = line(yLeft, m_yTitle, PlotScale::Number, value.y());
+    QString y = line(yLeft, m_yTitle, PlotScale::Number, value.y());
     if (m_xScale == PlotScale::Station)
         return y;
     return line(xBottom, m_xTitle, m_xScale, value.x()) + QLatin1Char('\n') + y;

@@ -173,11 +173,17 @@ void ProgressPlot::fillCurve(const StakingProgress& progress, const Pace& pace,
 QString ProgressPlot::noteOf(const StakingProgress& progress, const Pace& pace) const
 {
     const std::size_t left = data().design.left;
-    QString note = tr("Done: %1 of %2, left: %3.")
-                       .arg(lum::groupedNumber(doneOf(progress)),
-                            lum::groupedNumber(data().design.designed), lum::groupedNumber(left));
+    const bool hasDesign = data().design.designed > 0;
+    const QString done = lum::groupedNumber(doneOf(progress));
+    QString note = hasDesign ? tr("Done: %1 of %2, left: %3.")
+                                   .arg(done, lum::groupedNumber(data().design.designed),
+                                        lum::groupedNumber(left))
+                             : tr("Done: %1.").arg(done);
     if (progress.undated > 0)
         note = joined(note, tr("Without a time: %1.").arg(lum::groupedNumber(progress.undated)));
+    if (!hasDesign)
+        return joined(note,
+                      tr("Present pace: %1 points a day.").arg(numberText(pace.pointsADay, 0)));
     if (left == 0 || !pace.daysNeeded)
         return note;
     note = joined(note,

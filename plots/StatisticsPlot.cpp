@@ -15,6 +15,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTextDocument>
 #include <QTimer>
 #include <QVBoxLayout>
 

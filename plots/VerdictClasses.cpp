@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 using statistics::Verdict;
@@ -48,11 +50,8 @@ VerdictClasses::VerdictClasses(const PlotLook& look) : m_look(look) {}
 std::uint8_t VerdictClasses::colorOf(const statistics::Observation& result)
 {
     ++m_counts[std::size_t(result.verdict)];
-    for (std::uint8_t place = 0; place < kOrder.size(); ++place) {
-        if (kOrder[place] == result.verdict)
-            return place;
-    }
-    return 0;
+    const auto found = std::ranges::find(kOrder, result.verdict);
+    return found == kOrder.end() ? 0 : static_cast<std::uint8_t>(found - kOrder.begin());
 }
 
 std::vector<QColor> VerdictClasses::colors() const

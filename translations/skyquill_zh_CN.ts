@@ -107,16 +107,16 @@
         <translation>这些成果中没有重复测量的点。</translation>
     </message>
     <message>
-        <source>tolerance of resurveys</source>
-        <translation>复测限差</translation>
-    </message>
-    <message>
         <source>Pairs: %1, without a time: %2. East, north and height: later minus first measurement; line: mean of a base, band: two standard deviations about it.</source>
         <translation>点对：%1，无时间：%2。东、北、高：后一次减第一次测量；线：各基准站的平均值，带：其上下两倍标准差。</translation>
     </message>
     <message>
         <source>Time</source>
         <translation>时间</translation>
+    </message>
+    <message>
+        <source>tolerance of resurveys: %1 m</source>
+        <translation>复测限差：%1 m</translation>
     </message>
 </context>
 <context>
@@ -371,6 +371,13 @@
     <message>
         <source>%1 on %2: points measured %3, measured again %4, at least %5 are wanted.</source>
         <translation>%1，%2：测量 %3 个点，重复测量 %4 个，至少应为 %5 个。</translation>
+    </message>
+</context>
+<context>
+    <name>ChosenGroups</name>
+    <message>
+        <source>%1 groups</source>
+        <translation>%1 个分组</translation>
     </message>
 </context>
 <context>
@@ -3839,6 +3846,13 @@ The positions stay the numbers that they are: nothing is converted. They then co
     </message>
 </context>
 <context>
+    <name>GroupKeyBox</name>
+    <message>
+        <source>All Together</source>
+        <translation>全部合计</translation>
+    </message>
+</context>
+<context>
     <name>GuideCommand</name>
     <message>
         <source>User Guide</source>
@@ -5728,6 +5742,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Last day expected: %1.</source>
         <translation>预计完成日：%1。</translation>
+    </message>
+    <message>
+        <source>Done: %1.</source>
+        <translation>已完成：%1。</translation>
+    </message>
+    <message>
+        <source>Present pace: %1 points a day.</source>
+        <translation>目前每天 %1 点。</translation>
     </message>
 </context>
 <context>
@@ -8771,6 +8793,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Results</source>
         <translation>成果</translation>
     </message>
+    <message>
+        <source>All points are staked and within the limits</source>
+        <translation>全部放样，且均在限差内</translation>
+    </message>
+    <message>
+        <source>All results are within the limits</source>
+        <translation>全部成果均在限差内</translation>
+    </message>
 </context>
 <context>
     <name>StatisticsWindow</name>
@@ -8787,10 +8817,6 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>全部显示(&amp;A)</translation>
     </message>
     <message>
-        <source>Show all points again in the tables and in the plot</source>
-        <translation>在列表和图中重新显示全部点</translation>
-    </message>
-    <message>
         <source>&amp;Save as CSV...</source>
         <translation>另存为 CSV(&amp;S)...</translation>
     </message>
@@ -8799,20 +8825,12 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <translation>按显示的样子写出各行</translation>
     </message>
     <message>
-        <source>All Together</source>
-        <translation>全部合计</translation>
-    </message>
-    <message>
         <source>There is nothing to count yet. Import a design and survey results: drop their files here, or use the menu Exchange.</source>
         <translation>还没有可统计的数据。请导入设计和测量成果：把文件拖到这里，或使用“数据交换”菜单。</translation>
     </message>
     <message>
         <source>No project is open. Open one to see how good its results are.</source>
         <translation>没有打开的工程。打开一个工程，查看其成果的质量。</translation>
-    </message>
-    <message>
-        <source>%1 groups</source>
-        <translation>%1 个分组</translation>
     </message>
     <message>
         <source>%1 results of the plot</source>
@@ -8829,6 +8847,14 @@ The positions stay the numbers that they are: nothing is converted. They then co
     <message>
         <source>Rows: %1</source>
         <translation>行数：%1</translation>
+    </message>
+    <message>
+        <source>Show all points again in the tables and in the plot (Esc)</source>
+        <translation>在列表和图中重新显示全部点（Esc）</translation>
+    </message>
+    <message>
+        <source>Only %1</source>
+        <translation>只显示%1</translation>
     </message>
 </context>
 <context>

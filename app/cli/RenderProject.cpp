@@ -109,7 +109,7 @@ Outcome renderProject(const CliArguments& arguments)
     const MapDrawing drawing = choice.drawing(project.manager(), SurveyPictureOptions::Names::All);
     const PictureFrame frame = frameFor(size, shownExtent(drawing, ground));
     paintMap(ground, drawing, frame, image);
-    {
+    if (drawing.isSurvey) { // as on the screen, where a design has none
         QPainter painter(&image);
         lum::drawLegend(painter, image.size(), drawing.legend);
     }

@@ -18,9 +18,9 @@ template <class Add>
 void forMultiples(double low, double high, double step, const Add& add)
 {
     const double first = std::ceil(low / step);
-    const double last = std::min(std::floor(high / step), first + kMostLines);
-    for (double number = first; number <= last; ++number)
-        add(number * step);
+    const auto count = static_cast<int>(std::min(std::floor(high / step) - first, kMostLines));
+    for (int i = 0; i <= count; ++i)
+        add((first + i) * step);
 }
 
 } // namespace

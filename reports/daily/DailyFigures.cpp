@@ -8,7 +8,7 @@
 namespace {
 
 constexpr std::int64_t kDaySeconds = 86400;
-constexpr std::int64_t kLongestDayMs = 25 * 3600 * 1000LL; // when clocks are set back
+constexpr std::int64_t kLongestDayMs = 25LL * 3600 * 1000; // when clocks are set back
 
 QDate dayOf(std::int64_t timeMs)
 {

@@ -110,7 +110,7 @@ QString ReportFilesPanel::fault() const
     }
     if (!isAnyWanted)
         return tr("Please choose a report.");
-    if (const QString fault = exportFolderFault(folder()); !fault.isEmpty())
+    if (QString fault = exportFolderFault(folder()); !fault.isEmpty())
         return fault;
     QSet<QString> names;
     for (const ReportFile& file : files()) {

@@ -224,6 +224,10 @@ private Q_SLOTS:
         QCOMPARE(plot->note(),
                  "Done: 12 of 25, left: 13. At the present pace of 6 points a day, days of work "
                  "still needed: 3. Last day expected: 2024-07-30."_q);
+        PlotData ofCrew = survey.data();
+        ofCrew.design = {}; // the design does not say who stakes it
+        QCOMPARE(shownPlot("progress", ofCrew)->note(),
+                 "Done: 12. Present pace: 6 points a day."_q);
         PlotPanel& days = *plot->panels().front();
         const double second = std::floor(double(MadeSurvey::kNoonMs) / kDay + 1) * kDay;
         Places picked;

@@ -103,10 +103,10 @@ std::optional<std::vector<PointName>> ChosenGroups::designNames(const DesignPoin
     const bool isOfLines = m_model.key() == GroupKey::Line;
     const auto isChosen = [this](const auto& isIt) { return std::ranges::any_of(m_values, isIt); };
     std::vector<PointName> names;
-    for (const auto& [number, line] : design) {
-        if (isOfLines && !isChosen([&](const KeyValue& value) { return value.text == number; }))
+    for (const auto& line : design) {
+        if (isOfLines && !isChosen([&](const KeyValue& value) { return value.text == line.first; }))
             continue;
-        for (const DesignPoint& point : line) {
+        for (const DesignPoint& point : line.second) {
             const std::int64_t kind = point.type == 0 ? 0 : 1;
             if (isOfLines || isChosen([&](const KeyValue& value) { return value.number == kind; }))
                 names.push_back({point.lineNumber, point.pointNumber});

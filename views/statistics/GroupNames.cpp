@@ -56,6 +56,14 @@ void GroupNames::place()
     verticalScrollBar()->setValue(m_table.verticalScrollBar()->value());
 }
 
+int GroupNames::firstSeenColumn() const
+{
+    int column = 1;
+    while (column + 1 < model()->columnCount() && m_table.columnViewportPosition(column) < width())
+        ++column;
+    return column;
+}
+
 bool GroupNames::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isOther = event->type() == QEvent::Resize || event->type() == QEvent::Move ||
@@ -65,9 +73,20 @@ bool GroupNames::eventFilter(QObject* watched, QEvent* event)
     return QTableView::eventFilter(watched, event);
 }
 
+/// The names are seen wherever the table is scrolled to: it stays there.
+void GroupNames::mousePressEvent(QMouseEvent* event)
+{
+    m_table.setAutoScroll(false);
+    QTableView::mousePressEvent(event);
+}
+
 void GroupNames::mouseReleaseEvent(QMouseEvent* event)
 {
     QTableView::mouseReleaseEvent(event);
+    // The keys go on from a figure that is seen.
+    selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(firstSeenColumn()),
+                                      QItemSelectionModel::NoUpdate);
+    m_table.setAutoScroll(true);
     m_table.setFocus(Qt::MouseFocusReason);
     if (event->button() == Qt::LeftButton)
         Q_EMIT chosen();

@@ -22,6 +22,7 @@ Q_SIGNALS:
     void chosen();
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -29,6 +30,8 @@ protected:
 
 private:
     void place();
+    /// Of the figures, beside the names.
+    [[nodiscard]] int firstSeenColumn() const;
 
     CustomTableWidget& m_table;
 };

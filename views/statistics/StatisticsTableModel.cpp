@@ -39,19 +39,19 @@ void StatisticsTableModel::setGroups(std::shared_ptr<const statistics::SurveySam
     if (m_sample != nullptr) {
         m_all.resize(m_sample->results.size());
         std::iota(m_all.begin(), m_all.end(), 0U);
-        auto all = statistics::figuresOf(*m_sample, statistics::groupBy(*m_sample, {}));
+        const auto all = statistics::figuresOf(*m_sample, statistics::groupBy(*m_sample, {}));
         const std::size_t staked = all[0].of(statistics::ResultKind::Staked);
-        m_totals = groupOf(std::move(all[0]), staked, tr("All"));
+        m_totals = groupOf(all[0], staked, tr("All"));
     }
     if (m_sample != nullptr && m_key) {
         m_grouping = statistics::groupBy(*m_sample, {*m_key});
         m_members = statistics::membersOf(m_grouping);
         std::size_t stakedUntilThen = 0;
         m_groups.reserve(m_grouping.groupCount);
-        for (statistics::Figures& figures : statistics::figuresOf(*m_sample, m_grouping)) {
+        for (const statistics::Figures& figures : statistics::figuresOf(*m_sample, m_grouping)) {
             stakedUntilThen += figures.of(statistics::ResultKind::Staked);
             QString name = statisticsKeyText(*m_key, value(m_groups.size()));
-            m_groups.push_back(groupOf(std::move(figures), stakedUntilThen, std::move(name)));
+            m_groups.push_back(groupOf(figures, stakedUntilThen, std::move(name)));
         }
     }
     m_hasTicks = std::ranges::any_of(m_groups, &Group::isInOrder);
@@ -59,13 +59,13 @@ void StatisticsTableModel::setGroups(std::shared_ptr<const statistics::SurveySam
     endResetModel();
 }
 
-StatisticsTableModel::Group StatisticsTableModel::groupOf(statistics::Figures figures,
+StatisticsTableModel::Group StatisticsTableModel::groupOf(const statistics::Figures& figures,
                                                           std::size_t stakedUntilThen,
                                                           QString name) const
 {
     const bool isInOrder =
         figures.isAllWithinLimits() && (!figures.hasDesign || figures.isAllStaked());
-    Group group{std::move(figures), stakedUntilThen, std::move(name), isInOrder, {}};
+    Group group{figures, stakedUntilThen, std::move(name), isInOrder, {}};
     group.texts.resize(m_columns.size());
     for (std::size_t i = 0; i < m_columns.size(); ++i) {
         if (m_columns[i].text != nullptr)

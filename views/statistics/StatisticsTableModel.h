@@ -63,7 +63,7 @@ private:
         std::vector<QString> texts; ///< of the columns that are no numbers, which name results
     };
 
-    [[nodiscard]] Group groupOf(statistics::Figures figures, std::size_t stakedUntilThen,
+    [[nodiscard]] Group groupOf(const statistics::Figures& figures, std::size_t stakedUntilThen,
                                 QString name) const;
     void sort();
     [[nodiscard]] const Group& at(int row) const;

@@ -30,6 +30,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QSplitter>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -345,7 +346,7 @@ void StatisticsWindow::showPlot()
     if (!m_chosen.isEmpty()) {
         shown.places = m_chosen.places();
         shown.subject = m_chosen.name();
-        shown.design = m_chosen.designCount().value_or(shown.design);
+        shown.design = m_chosen.designCount().value_or(statistics::DesignCount());
     }
     m_plots->setData(std::move(shown));
 }

@@ -347,6 +347,22 @@ private Q_SLOTS:
         QCOMPARE(place.only(), QString());
     }
 
+    void aClickOnANameLeavesTheFiguresWhereTheyAre()
+    {
+        StatisticsPlace place;
+        QScrollBar& bar = *place.table.horizontalScrollBar();
+        bar.setValue(bar.maximum() / 2);
+        const int before = bar.value();
+        QVERIFY(before > 0);
+        auto& names = *place.table.findChild<QTableView*>("groupNames"_q);
+        QTest::mouseClick(names.viewport(), Qt::LeftButton, {},
+                          names.visualRect(place.model.index(2, 0)).center());
+        QCOMPARE(place.only(), "Only Line 2"_q);
+        QTest::keyClick(&place.table, Qt::Key_Down);
+        QCOMPARE(place.only(), "Only Line 3"_q);
+        QCOMPARE(bar.value(), before);
+    }
+
     void ticksWhatIsInOrder()
     {
         StatisticsPlace place;
