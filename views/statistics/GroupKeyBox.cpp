@@ -13,7 +13,7 @@ using statistics::GroupKey;
 
 struct Choice
 {
-    const char* name; ///< in settings
+    const char* name = ""; ///< in settings
     StatisticsTableModel::Key key;
 };
 
