@@ -458,6 +458,30 @@ private Q_SLOTS:
         QCOMPARE(place.model.rowCount(), 0);
     }
 
+    void remembersWidthsGivenByMouse()
+    {
+        StatisticsPlace place;
+        QHeaderView& header = *place.table.horizontalHeader();
+        const int before = header.sectionSize(1);
+        const int usual = header.sectionSize(2);
+        const int edge = header.sectionViewportPosition(2) - 1; // of the column before
+        dragMouse(*header.viewport(), Qt::LeftButton, {edge, 8}, {edge + 60, 8});
+        const int wide = header.sectionSize(1);
+        auto& areas = *place.window.findChild<QSplitter*>();
+        dragMouse(*areas.handle(1), Qt::LeftButton, {2, 100}, {-98, 100});
+        const QList<int> sizes = areas.sizes();
+
+        StatisticsWindow next("", &place.host);
+        next.resize(place.window.size());
+        next.show();
+        QTRY_VERIFY(next.findChild<StatisticsTableModel*>()->rowCount() > 0);
+        const QHeaderView& later = *next.findChild<CustomTableWidget*>()->horizontalHeader();
+        QCOMPARE(later.sectionSize(1), wide);
+        QCOMPARE(later.sectionSize(2), usual);
+        QVERIFY(std::abs(next.findChild<QSplitter*>()->sizes()[0] - sizes[0]) < 5);
+        QVERIFY(wide > before + 40 && sizes[0] < sizes[1]);
+    }
+
     void remembersGroupsAndPlot()
     {
         {
