@@ -157,17 +157,26 @@ void ProgressPlot::fillCurve(const StakingProgress& progress, const Pace& pace,
         addLegend(PlotLegend::Sign::DashedLine, look().limit,
                   tr("design: %1").arg(lum::groupedNumber(data().design.designed)));
     }
-    if (pace.endDay && *pace.daysNeeded > 0) {
-        QPen pen(look().figure, dpi_scaled(1.5));
-        pen.setDashPattern({2, 2});
-        const QPointF end(double(*pace.endDay) * kDayMs, double(done + data().design.left));
-        panel(1).addPlain(
-            std::make_unique<PolyLine>(QPolygonF(QVector<QPointF>{points.back(), end}), pen),
-            kOverData);
-    }
+    const QPointF last = points.back();
     panel(1).addPlain(std::make_unique<PolyLine>(points, QPen(look().figure, dpi_scaled(2.0))),
                       kOverData);
     addLegend(PlotLegend::Sign::Line, look().figure, tr("done: %1").arg(lum::groupedNumber(done)));
+    if (pace.daysNeeded && *pace.daysNeeded > 0)
+        addPace(pace, last);
+}
+
+/// From the last day to the day on which all will be done.
+void ProgressPlot::addPace(const Pace& pace, const QPointF& from)
+{
+    addLegend(PlotLegend::Sign::DashedLine, look().figure,
+              tr("days still needed: %1").arg(lum::groupedNumber(*pace.daysNeeded)));
+    if (!pace.endDay)
+        return;
+    const QPointF end(double(*pace.endDay) * kDayMs, from.y() + double(data().design.left));
+    QPen pen(look().figure, dpi_scaled(1.5));
+    pen.setDashPattern({2, 2});
+    panel(1).addPlain(std::make_unique<PolyLine>(QPolygonF(QVector<QPointF>{from, end}), pen),
+                      kOverData);
 }
 
 QString ProgressPlot::noteOf(const StakingProgress& progress, const Pace& pace) const

@@ -28,6 +28,7 @@ private:
                                                const GroupClasses& surveyors) const;
     void fillCurve(const statistics::StakingProgress& progress, const statistics::Pace& pace,
                    const PlotRanges& time);
+    void addPace(const statistics::Pace& pace, const QPointF& from);
     [[nodiscard]] QString noteOf(const statistics::StakingProgress& progress,
                                  const statistics::Pace& pace) const;
 };

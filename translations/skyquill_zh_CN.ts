@@ -5751,6 +5751,10 @@ The positions stay the numbers that they are: nothing is converted. They then co
         <source>Present pace: %1 points a day.</source>
         <translation>目前每天 %1 点。</translation>
     </message>
+    <message>
+        <source>days still needed: %1</source>
+        <translation>还需天数：%1</translation>
+    </message>
 </context>
 <context>
     <name>ProjectPlace</name>
