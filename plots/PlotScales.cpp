@@ -21,17 +21,34 @@ public:
     }
 };
 
-class CountEngine : public QwtLinearScaleEngine
+/// One tick tells no distance, so there are two in the lowest plot.
+class NumberEngine : public QwtLinearScaleEngine
 {
 public:
     [[nodiscard]] QwtScaleDiv divideScale(double from, double to, int mostTicks, int mostMinor,
                                           double step) const override
     {
-        QwtScaleDiv division =
-            QwtLinearScaleEngine::divideScale(from, to, mostTicks, mostMinor, step);
-        return tickStepOf(division) >= 1
+        constexpr int kTries = 4;
+        QwtScaleDiv division;
+        for (int more = 0; more < kTries && tickStepOf(division) == 0; ++more)
+            division =
+                QwtLinearScaleEngine::divideScale(from, to, mostTicks + more, mostMinor, step);
+        return division;
+    }
+};
+
+/// Has no ticks between whole numbers.
+class CountEngine : public NumberEngine
+{
+public:
+    [[nodiscard]] QwtScaleDiv divideScale(double from, double to, int mostTicks, int mostMinor,
+                                          double step) const override
+    {
+        QwtScaleDiv division = NumberEngine::divideScale(from, to, mostTicks, mostMinor, step);
+        const double distance = tickStepOf(division);
+        return distance == 0 || distance >= 1
                    ? division
-                   : QwtLinearScaleEngine::divideScale(from, to, mostTicks, mostMinor, 1);
+                   : NumberEngine::divideScale(from, to, mostTicks, mostMinor, 1);
     }
 };
 
@@ -103,8 +120,8 @@ double tickStepOf(const QwtScaleDiv& division)
 void setScale(QwtPlot& plot, int axis, PlotScale scale)
 {
     if (scale == PlotScale::Number || scale == PlotScale::Count) {
-        plot.setAxisScaleEngine(axis, scale == PlotScale::Count ? new CountEngine
-                                                                : new QwtLinearScaleEngine);
+        plot.setAxisScaleEngine(axis,
+                                scale == PlotScale::Count ? new CountEngine : new NumberEngine);
         plot.setAxisScaleDraw(axis, new NumberDraw);
         return;
     }

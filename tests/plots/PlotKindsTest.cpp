@@ -103,6 +103,16 @@ private Q_SLOTS:
             QPainter painter(&page);
             plot->paint(painter, page.rect());
             QVERIFY(isDrawn(page));
+            for (const int height : {170, 190, 220, 420}) {
+                plot->resize(500, height);
+                plot->grab(); // lays it out
+                for (const PlotPanel* const panel : plot->panels()) {
+                    const auto ticks =
+                        panel->axisScaleDiv(QwtPlot::yLeft).ticks(QwtScaleDiv::MajorTick).size();
+                    QVERIFY2(plot->isEmpty() || (ticks >= 2 && ticks <= 12),
+                             qPrintable(QString::number(ticks)));
+                }
+            }
         }
     }
 
