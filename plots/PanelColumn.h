@@ -1,18 +1,41 @@
 #pragma once
 
+#include <QWidget>
+
 #include <vector>
 
 class PlotPanel;
 
-/// The panels of a plot, below each other.
-namespace panels {
+/// The panels of a plot, below each other. Their canvases have one height, and begin at one place.
+class PanelColumn final : public QWidget
+{
+    Q_OBJECT
 
-/// The height of a panel when all have so much together: the same for each canvas; the last one
-/// has the x axis as well.
-[[nodiscard]] double heightOf(const PlotPanel& panel, const std::vector<PlotPanel*>& all,
-                              double height);
+public:
+    using QWidget::QWidget;
 
-/// Lets their canvases begin at the same place.
-void align(const std::vector<PlotPanel*>& all);
+    PlotPanel& addPanel();
+    [[nodiscard]] const std::vector<PlotPanel*>& panels() const { return m_panels; }
 
-} // namespace panels
+    /// The height of a panel when all have so much together; the last one has the x axis as well.
+    [[nodiscard]] double heightOf(const PlotPanel& panel, double height) const;
+    /// Lets the canvases begin at the same place.
+    void alignTexts();
+    /// To be called when the texts of axes are others: shares the room anew.
+    void align();
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void resized();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void placePanels();
+    [[nodiscard]] int axisHeight() const;
+
+    std::vector<PlotPanel*> m_panels;
+    bool m_isAligning = false; ///< which resizes panels
+};

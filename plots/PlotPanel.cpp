@@ -40,7 +40,6 @@ PlotPanel::PlotPanel(QWidget* parent) : QwtPlot(parent), m_grid(new QwtPlotGrid)
         setAxisFont(axis, smallerFont(font()));
         setAxisMaxMinor(axis, 0);
     }
-    setMinimumSize(dpi_scaled(120), dpi_scaled(50));
     setScale(*this, yLeft, PlotScale::Number);
 }
 
@@ -298,6 +297,5 @@ void PlotPanel::resizeEvent(QResizeEvent* event)
 {
     QwtPlot::resizeEvent(event);
     fitToScreen();
-    Q_EMIT resized();
     replot();
 }

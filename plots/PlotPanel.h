@@ -77,9 +77,6 @@ public:
     /// At least what they shall take, so that several canvases begin at the same place.
     void setYTextWidth(double width);
 
-Q_SIGNALS:
-    void resized();
-
 protected:
     void resizeEvent(QResizeEvent* event) override;
 

@@ -1,7 +1,6 @@
 #include "plots/PlotPaper.h"
 
 #include "lum_sdk/DpiScale.h"
-#include "plots/PanelColumn.h"
 #include "plots/StatisticsPlot.h"
 
 #include <QPainter>
@@ -69,14 +68,14 @@ void paintOnPaper(const StatisticsPlot& plot, QPainter& painter, const QRectF& r
         return;
     }
     for (PlotPanel* const panel : plot.panels())
-        panel->fitToPaper({size.width(), panels::heightOf(*panel, plot.panels(), rest)});
-    panels::align(plot.panels());
+        panel->fitToPaper({size.width(), plot.column().heightOf(*panel, rest)});
+    plot.column().alignTexts();
     paintNote(plot, painter, {0, size.height() - foot, size.width(), foot}); // of what is seen now
     painter.restore();
     const QwtPlotRenderer renderer;
     double top = head;
     for (PlotPanel* const panel : plot.panels()) {
-        const double height = panels::heightOf(*panel, plot.panels(), rest);
+        const double height = plot.column().heightOf(*panel, rest);
         renderer.render(
             panel, &painter,
             {rectangle.left(), rectangle.top() + top * scale, rectangle.width(), height * scale});

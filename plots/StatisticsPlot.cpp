@@ -5,7 +5,6 @@
 #include "lum_sdk/ShortenedText.h"
 #include "lum_sdk/Text.h"
 #include "model/PointNumber.h"
-#include "plots/PanelColumn.h"
 #include "plots/PlotFiles.h"
 #include "plots/PlotMouse.h"
 #include "plots/PlotPaper.h"
@@ -37,9 +36,9 @@ QString shortened(const QString& name)
 
 } // namespace
 
-StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
-    : QWidget(parent), m_legend(new PlotLegend(this)), m_noteLabel(new QLabel(this)),
-      m_emptyLabel(new QLabel(this)), m_noteTimer(new QTimer(this))
+StatisticsPlot::StatisticsPlot(int panelCount, QWidget* parent)
+    : QWidget(parent), m_legend(new PlotLegend(this)), m_column(new PanelColumn(this)),
+      m_noteLabel(new QLabel(this)), m_emptyLabel(new QLabel(this)), m_noteTimer(new QTimer(this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
@@ -49,13 +48,10 @@ StatisticsPlot::StatisticsPlot(int panels, QWidget* parent)
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(dpi_scaled(2));
     layout->addWidget(m_legend);
-    for (int i = 0; i < panels; ++i) {
-        m_panels.push_back(new PlotPanel(this));
-        m_mice.push_back(new PlotMouse(*this, *m_panels.back()));
-        connect(m_panels.back(), &PlotPanel::resized, this, [this] { panels::align(m_panels); });
-        connect(m_panels.back(), &PlotPanel::resized, m_noteTimer, qOverload<>(&QTimer::start));
-        layout->addWidget(m_panels.back(), 1);
-    }
+    for (int i = 0; i < panelCount; ++i)
+        m_mice.push_back(new PlotMouse(*this, m_column->addPanel()));
+    connect(m_column, &PanelColumn::resized, m_noteTimer, qOverload<>(&QTimer::start));
+    layout->addWidget(m_column, 1);
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setTextFormat(Qt::PlainText);
     layout->addWidget(m_emptyLabel, 1);
@@ -95,9 +91,9 @@ void StatisticsPlot::setData(PlotData data)
     refill(PlotLook::onScreen(palette()));
     updateParts();
     if (isSame && !isEmpty()) {
-        for (PlotPanel* const panel : m_panels)
+        for (PlotPanel* const panel : panels())
             panel->fitToScreen();
-        panels::align(m_panels);
+        m_column->align();
         replotAll();
     } else {
         showUsual();
@@ -111,7 +107,7 @@ void StatisticsPlot::refill(const PlotLook& look)
     m_note.clear();
     m_method.clear();
     m_empty.clear();
-    for (PlotPanel* const panel : m_panels) {
+    for (PlotPanel* const panel : panels()) {
         panel->clear();
         panel->setLook(look);
     }
@@ -126,19 +122,18 @@ void StatisticsPlot::refill(const PlotLook& look)
 
 void StatisticsPlot::updateParts()
 {
-    for (PlotPanel* const panel : m_panels)
-        panel->setVisible(!isEmpty());
+    m_column->setVisible(!isEmpty());
     m_legend->setVisible(!m_legend->entries().empty());
     m_emptyLabel->setVisible(isEmpty());
     m_emptyLabel->setText(m_empty);
     updateNote();
-    shareHeight();
+    showNote();
 }
 
 QString StatisticsPlot::note() const
 {
     std::size_t outside = 0;
-    for (const PlotPanel* const panel : m_panels) {
+    for (const PlotPanel* const panel : panels()) {
         const PlotPanel::View view = panel->view();
         std::size_t ofPanel = 0;
         for (const PlotItem* const item : panel->items())
@@ -176,29 +171,26 @@ void StatisticsPlot::setSelected(const std::vector<std::uint32_t>& places)
 
 void StatisticsPlot::replotAll()
 {
-    for (PlotPanel* const panel : m_panels)
+    for (PlotPanel* const panel : panels())
         panel->replot();
     m_noteTimer->start();
 }
 
-void StatisticsPlot::shareHeight()
+/// The sentences leave room to the data.
+void StatisticsPlot::showNote()
 {
-    const double all = height() - m_legend->heightFor(width());
-    const double rest = all - m_noteLabel->heightForWidth(width());
-    const bool hasRoom = rest >= dpi_scaled(kLeastPanel) * double(m_panels.size());
+    const double rest =
+        height() - m_legend->heightFor(width()) - m_noteLabel->heightForWidth(width());
+    const bool hasRoom = rest >= dpi_scaled(kLeastPanel) * double(panels().size());
     m_noteLabel->setVisible(!m_note.isEmpty() && !isEmpty() && hasRoom);
-    auto* const boxes = qobject_cast<QBoxLayout*>(layout());
-    for (PlotPanel* const panel : m_panels)
-        boxes->setStretchFactor(panel,
-                                int(panels::heightOf(*panel, m_panels, hasRoom ? rest : all)));
 }
 
 void StatisticsPlot::setView(PlotPanel& panel, const PlotPanel::View& view)
 {
     m_isUsual = false;
-    for (PlotPanel* const each : m_panels)
+    for (PlotPanel* const each : panels())
         each->setView(each == &panel ? view : PlotPanel::View{view.x, each->view().y});
-    panels::align(m_panels);
+    m_column->align();
     replotAll();
 }
 
@@ -206,10 +198,10 @@ void StatisticsPlot::setViews(bool isUsual)
 {
     if (isEmpty())
         return;
-    for (PlotPanel* const panel : m_panels)
+    for (PlotPanel* const panel : panels())
         panel->setView(isUsual ? panel->usualView() : panel->wholeView());
     m_isUsual = isUsual;
-    panels::align(m_panels);
+    m_column->align();
     replotAll();
     updateNote();
 }
@@ -226,9 +218,9 @@ void StatisticsPlot::showAll()
 
 void StatisticsPlot::zoomAll(double factor)
 {
-    const QPointF middle = QRectF(m_panels.front()->canvas()->contentsRect()).center();
-    for (PlotPanel* const panel : m_panels)
-        setView(*panel, panel->zoomed(middle, panel == m_panels.front() ? factor : 1));
+    const QPointF middle = QRectF(panels().front()->canvas()->contentsRect()).center();
+    for (PlotPanel* const panel : panels())
+        setView(*panel, panel->zoomed(middle, panel == panels().front() ? factor : 1));
 }
 
 void StatisticsPlot::zoomIn()
@@ -243,7 +235,7 @@ void StatisticsPlot::zoomOut()
 
 void StatisticsPlot::pan(double right, double down)
 {
-    PlotPanel& first = *m_panels.front();
+    PlotPanel& first = *panels().front();
     const QSizeF size = first.canvas()->contentsRect().size();
     setView(first, first.moved(first.view(), {right * size.width(), down * size.height()}));
 }
@@ -340,9 +332,9 @@ void StatisticsPlot::changeEvent(QEvent* event)
         return;
     refill(PlotLook::onScreen(palette()));
     updateParts();
-    for (PlotPanel* const panel : m_panels)
+    for (PlotPanel* const panel : panels())
         panel->fitToScreen();
-    panels::align(m_panels);
+    m_column->align();
     replotAll();
 }
 
@@ -355,7 +347,7 @@ void StatisticsPlot::resizeEvent(QResizeEvent* event)
 void StatisticsPlot::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    panels::align(m_panels);
+    m_column->align();
 }
 
 // --- on paper and in files ---
@@ -365,9 +357,9 @@ void StatisticsPlot::paint(QPainter& painter, const QRectF& rectangle)
     refill(PlotLook::onPaper());
     paintOnPaper(*this, painter, rectangle);
     refill(PlotLook::onScreen(palette()));
-    for (PlotPanel* const panel : m_panels)
+    for (PlotPanel* const panel : panels())
         panel->fitToScreen();
-    panels::align(m_panels);
+    m_column->align();
     replotAll();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plots/PanelColumn.h"
 #include "plots/PlotData.h"
 #include "plots/PlotLegend.h"
 #include "plots/PlotPanel.h"
@@ -66,7 +67,8 @@ public:
     /// With how figures are computed, which is a tool tip on the screen.
     [[nodiscard]] QString noteOnPaper() const;
     [[nodiscard]] const PlotLegend& legend() const { return *m_legend; }
-    [[nodiscard]] const std::vector<PlotPanel*>& panels() const { return m_panels; }
+    [[nodiscard]] PanelColumn& column() const { return *m_column; }
+    [[nodiscard]] const std::vector<PlotPanel*>& panels() const { return m_column->panels(); }
     /// Whether there is nothing to show.
     [[nodiscard]] bool isEmpty() const { return !m_empty.isEmpty(); }
     /// Why.
@@ -87,15 +89,15 @@ Q_SIGNALS:
     void activated(std::uint32_t place);
 
 protected:
-    /// \param panels with one x axis; below each other
-    StatisticsPlot(int panels, QWidget* parent);
+    /// \param panelCount panels with one x axis, below each other
+    StatisticsPlot(int panelCount, QWidget* parent);
 
     /// Its name, translated.
     [[nodiscard]] virtual QString caption() const = 0;
     /// Fills the panels, which are empty, with the data. They have a sample and places.
     virtual void fill() = 0;
 
-    [[nodiscard]] PlotPanel& panel(int place) const { return *m_panels[std::size_t(place)]; }
+    [[nodiscard]] PlotPanel& panel(int place) const { return *panels()[std::size_t(place)]; }
     [[nodiscard]] const PlotSelection& selection() const { return m_selection; }
     void addLegend(PlotLegend::Sign sign, const QColor& color, const QString& text)
     {
@@ -121,7 +123,7 @@ private:
     void refill(const PlotLook& look);
     void updateParts();
     void updateNote();
-    void shareHeight();
+    void showNote();
     void replotAll();
     void setViews(bool isUsual);
     void zoomAll(double factor);
@@ -133,7 +135,7 @@ private:
     PlotLook m_look;
     PlotSelection m_selection;
     PlotLegend* m_legend;
-    std::vector<PlotPanel*> m_panels;
+    PanelColumn* m_column;
     std::vector<PlotMouse*> m_mice;
     QLabel* m_noteLabel;
     QLabel* m_emptyLabel;
