@@ -31,13 +31,14 @@ int unscaled(int pixels)
 } // namespace
 
 StatisticsWidths::StatisticsWidths(QSplitter& areas, CustomTableWidget& table)
-    : QObject(&areas), m_areas(areas), m_table(table), m_widths(2 + statisticsColumns(true).size())
+    : QObject(&areas), m_areas(areas), m_table(table), m_handle(areas.handle(1)),
+      m_widths(2 + statisticsColumns(true).size())
 {
     read();
     const int share = m_widths[0] > 0 ? m_widths[0] : kTableAtFirst;
     m_areas.setSizes({share * kWhole, (kWhole - share) * kWhole});
     m_table.horizontalHeader()->viewport()->installEventFilter(this);
-    m_areas.handle(1)->installEventFilter(this);
+    m_handle->installEventFilter(this);
     connect(&m_areas, &QSplitter::splitterMoved, this, [this](int width) {
         m_widths[0] = std::clamp(width * kWhole / std::max(1, m_areas.width()), 1, kWhole - 1);
     });
@@ -74,8 +75,7 @@ void StatisticsWidths::store()
 
 bool StatisticsWidths::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isOnHandle = watched == m_areas.handle(1);
-    if (!isOnHandle &&
+    if (watched != m_handle &&
         (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick))
         m_isDragging = true;
     if (event->type() == QEvent::MouseButtonRelease) {

@@ -29,6 +29,7 @@ private:
 
     QSplitter& m_areas;
     CustomTableWidget& m_table;
+    QObject* m_handle; ///< between the areas; also compared while these are destroyed
     /// The table's share of the width in thousandths, then of each column the pixels at 100 %; 0
     /// where the user has given none.
     std::vector<int> m_widths;
