@@ -258,21 +258,35 @@ void PlotPanel::setTickCounts(const QSizeF& size)
 
 void PlotPanel::fitToPaper(const QSizeF& size)
 {
+    m_paper = size;
     setTickCounts(size);
     // The room for the axes depends on their texts, which depend on the ranges.
-    for (int i = 0; i < 2; ++i) {
-        plotLayout()->activate(this, {{0, 0}, size}, QwtPlotLayout::IgnoreScrollbars);
-        m_canvas = plotLayout()->canvasRect().size();
+    for (int i = 0; i < 3; ++i) {
+        layOutOnPaper();
         if (m_asked.x.width() > 0)
             setView(m_asked);
     }
+    layOutOnPaper();
+}
+
+/// The axes are as long as on the paper, whatever they are on the screen: what their texts need at
+/// both ends depends on it.
+void PlotPanel::layOutOnPaper()
+{
+    plotLayout()->activate(this, {{0, 0}, m_paper}, QwtPlotLayout::IgnoreScrollbars);
+    m_canvas = plotLayout()->canvasRect().size();
+    axisScaleDraw(xBottom)->setLength(m_canvas.width());
+    axisScaleDraw(yLeft)->setLength(m_canvas.height());
 }
 
 void PlotPanel::fitToScreen()
 {
+    m_paper = {};
     plotLayout()->invalidate();
     setTickCounts(size());
     updateLayout();
+    for (const int axis : {xBottom, yLeft})
+        axisWidget(axis)->setLabelRotation(axisScaleDraw(axis)->labelRotation()); // lays it out
     m_canvas = canvas()->contentsRect().size();
     if (m_asked.x.width() > 0)
         setView(m_asked);
@@ -290,7 +304,7 @@ void PlotPanel::setYTextWidth(double width)
     QwtScaleDraw* const draw = axisScaleDraw(yLeft);
     draw->setMinimumExtent(std::ceil(width) + 1);
     axisWidget(yLeft)->setLabelRotation(draw->labelRotation()); // finds the place of the title
-    updateLayout();
+    m_paper.isEmpty() ? updateLayout() : layOutOnPaper();
 }
 
 void PlotPanel::resizeEvent(QResizeEvent* event)

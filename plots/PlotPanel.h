@@ -85,6 +85,7 @@ private:
     void setTickCounts(const QSizeF& size);
     void showTitle(int axis, const QString& title);
     void setTexts(const QString& xTitle, const QString& yTitle);
+    void layOutOnPaper();
     [[nodiscard]] View fitted(const View& view) const;
     [[nodiscard]] QwtInterval allowed(const QwtInterval& wanted, const PlotRanges& ranges) const;
 
@@ -97,6 +98,7 @@ private:
     PlotRanges m_y;
     View m_asked;                   ///< before it was fitted to the canvas
     QSizeF m_canvas;                ///< the size of what is between the axes
+    QSizeF m_paper;                 ///< empty on the screen
     std::vector<PlotItem*> m_items; ///< the base class owns them
     bool m_hasEqualAxes = false;
     bool m_isCounting = false;
