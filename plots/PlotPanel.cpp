@@ -18,6 +18,7 @@ namespace {
 constexpr double kDataZ = 20;
 constexpr double kLargestZoom = 1e-6; // of all, seen at once
 constexpr double kSmallestZoom = 20;
+constexpr int kOneLine = 10000; // pixels, for a title
 const QString kLongestDate = QStringLiteral("0000-00-00");
 
 } // namespace
@@ -249,7 +250,7 @@ void PlotPanel::setTickCounts(const QSizeF& size)
     const bool hasXTexts = axisScaleDraw(xBottom)->hasComponent(QwtAbstractScaleDraw::Labels);
     const double height =
         size.height() - (hasXTexts ? axisWidget(xBottom)->sizeHint().height() : 0);
-    const bool hasTitle = metrics.horizontalAdvance(m_yTitle) <= height;
+    const bool hasTitle = metrics.horizontalAdvance(m_yTitle) + metrics.height() <= height;
     showTitle(yLeft, hasTitle ? m_yTitle : QString());
     const double texts = height / metrics.height(); // that would stand below each other
     setAxisMaxMajor(yLeft,
@@ -292,17 +293,23 @@ void PlotPanel::fitToScreen()
         setView(m_asked);
 }
 
+double PlotPanel::yTitleWidth() const
+{
+    const QwtScaleWidget& axis = *axisWidget(yLeft);
+    return axis.title().isEmpty() ? 0 : axis.titleHeightForWidth(kOneLine) + axis.spacing();
+}
+
 double PlotPanel::yTextWidth() const
 {
     const QwtScaleDraw* const draw = axisScaleDraw(yLeft);
     const QFont texts = axisFont(yLeft);
-    return draw->spacing() + draw->maxTickLength() + draw->maxLabelWidth(texts);
+    return draw->spacing() + draw->maxTickLength() + draw->maxLabelWidth(texts) + yTitleWidth();
 }
 
 void PlotPanel::setYTextWidth(double width)
 {
     QwtScaleDraw* const draw = axisScaleDraw(yLeft);
-    draw->setMinimumExtent(std::ceil(width) + 1);
+    draw->setMinimumExtent(std::ceil(width - yTitleWidth()) + 1);
     axisWidget(yLeft)->setLabelRotation(draw->labelRotation()); // finds the place of the title
     m_paper.isEmpty() ? updateLayout() : layOutOnPaper();
 }

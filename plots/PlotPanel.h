@@ -72,7 +72,7 @@ public:
     /// Fits ticks and ranges to a picture of this size, logical pixels, until `fitToScreen`.
     void fitToPaper(const QSizeF& size);
     void fitToScreen();
-    /// What ticks and texts of the y axis take.
+    /// What ticks, texts and title of the y axis take.
     [[nodiscard]] double yTextWidth() const;
     /// At least what they shall take, so that several canvases begin at the same place.
     void setYTextWidth(double width);
@@ -86,6 +86,7 @@ private:
     void showTitle(int axis, const QString& title);
     void setTexts(const QString& xTitle, const QString& yTitle);
     void layOutOnPaper();
+    [[nodiscard]] double yTitleWidth() const; ///< 0 without one
     [[nodiscard]] View fitted(const View& view) const;
     [[nodiscard]] QwtInterval allowed(const QwtInterval& wanted, const PlotRanges& ranges) const;
 
