@@ -48,7 +48,7 @@ void drawSign(QPainter& painter, const PlotLegend::Entry& entry, const QRectF& a
 
 PlotLegend::PlotLegend(QWidget* parent) : QWidget(parent)
 {
-    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Minimum); // rows depend on the width
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

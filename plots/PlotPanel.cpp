@@ -250,7 +250,7 @@ void PlotPanel::setTickCounts(const QSizeF& size)
     const bool hasXTexts = axisScaleDraw(xBottom)->hasComponent(QwtAbstractScaleDraw::Labels);
     const double height =
         size.height() - (hasXTexts ? axisWidget(xBottom)->sizeHint().height() : 0);
-    const bool hasTitle = metrics.horizontalAdvance(m_yTitle) + metrics.height() <= height;
+    const bool hasTitle = metrics.horizontalAdvance(m_yTitle) + dpi_scaled(4) <= height;
     showTitle(yLeft, hasTitle ? m_yTitle : QString());
     const double texts = height / metrics.height(); // that would stand below each other
     setAxisMaxMajor(yLeft,
