@@ -250,8 +250,11 @@ void PlotPanel::setTickCounts(const QSizeF& size)
     const bool hasXTexts = axisScaleDraw(xBottom)->hasComponent(QwtAbstractScaleDraw::Labels);
     const double height =
         size.height() - (hasXTexts ? axisWidget(xBottom)->sizeHint().height() : 0);
-    const bool hasTitle = metrics.horizontalAdvance(m_yTitle) + dpi_scaled(4) <= height;
-    showTitle(yLeft, hasTitle ? m_yTitle : QString());
+    const auto hasRoom = [&](const QString& text) {
+        return metrics.horizontalAdvance(text) + dpi_scaled(4) <= height;
+    };
+    const QString withoutUnit = m_yTitle.section(QLatin1String(" ("), 0, 0);
+    showTitle(yLeft, hasRoom(m_yTitle) ? m_yTitle : hasRoom(withoutUnit) ? withoutUnit : QString());
     const double texts = height / metrics.height(); // that would stand below each other
     setAxisMaxMajor(yLeft,
                     std::clamp(int(std::max(std::min(4.0, texts / 1.1), texts / 2.2)), 2, 10));
