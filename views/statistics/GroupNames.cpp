@@ -24,7 +24,9 @@ GroupNames::GroupNames(CustomTableWidget& table) : QTableView(&table), m_table(t
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(table.verticalScrollMode());
-    horizontalHeader()->hide();
+    connect(horizontalHeader(), &QHeaderView::sectionPressed, &table,
+            [this] { m_table.horizontalScrollBar()->setValue(0); }); // to the one that sorts
+    connect(table.horizontalScrollBar(), &QScrollBar::valueChanged, this, &GroupNames::place);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     connect(table.verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
@@ -52,7 +54,13 @@ void GroupNames::place()
     const QRect area = m_table.viewport()->geometry();
     const int width = m_table.columnWidth(0);
     setColumnWidth(0, width);
-    setGeometry(area.x(), area.y(), qMin(width, area.width()), area.height());
+    // While it is not scrolled, the table's own heading is seen, which sorts and is dragged.
+    const bool isScrolled = m_table.horizontalScrollBar()->value() > 0;
+    const int heading = isScrolled ? m_table.horizontalHeader()->height() : 0;
+    horizontalHeader()->setVisible(isScrolled);
+    horizontalHeader()->setFixedHeight(m_table.horizontalHeader()->height());
+    horizontalHeader()->setSectionsClickable(true);
+    setGeometry(area.x(), area.y() - heading, qMin(width, area.width()), area.height() + heading);
     verticalScrollBar()->setValue(m_table.verticalScrollBar()->value());
 }
 

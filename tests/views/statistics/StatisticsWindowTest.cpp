@@ -255,6 +255,21 @@ private Q_SLOTS:
         QCOMPARE(place.table.selectedRowCount(), 1);
     }
 
+    void theHeadingOfNamesStaysAndLeadsBack()
+    {
+        StatisticsPlace place;
+        const QHeaderView& heading =
+            *place.table.findChild<QTableView*>("groupNames"_q)->horizontalHeader();
+        QScrollBar& bar = *place.table.horizontalScrollBar();
+        QVERIFY(!heading.isVisible());
+        bar.setValue(bar.maximum());
+        QVERIFY(heading.isVisible());
+        QCOMPARE(heading.mapToGlobal({0, 0}), place.table.horizontalHeader()->mapToGlobal({0, 0}));
+        QTest::mouseClick(heading.viewport(), Qt::LeftButton);
+        QCOMPARE(bar.value(), 0);
+        QVERIFY(!heading.isVisible());
+    }
+
     void goesToTheWorstResult()
     {
         StatisticsPlace place;
